@@ -1,0 +1,79 @@
+// The seam between the scans and a medium: one 512-byte sector at a time, in stream order.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace vantor {
+
+inline constexpr std::size_t kSectorBytes = 512;
+
+// A stream over a medium's sectors. Not thread-safe; one scan or copy owns it.
+//
+// A read that fails leaves the position and the bytes of current() as they were, exactly as single 512-byte
+// reads would; how many sectors a reader fetches at once shows nowhere but in its speed.
+class SectorReader {
+  public:
+    SectorReader() = default;
+    SectorReader(const SectorReader&) = delete;
+    SectorReader& operator=(const SectorReader&) = delete;
+    virtual ~SectorReader() = default;
+
+    // Reads the sector at position(). True: current() holds it and the position is one further.
+    bool read() {
+        if (m_next != m_windowEnd) {
+            m_current = m_next;
+            m_next += kSectorBytes;
+            ++m_position;
+            return true;
+        }
+        if (!fetch()) {
+            return false;
+        }
+        ++m_position;
+        return true;
+    }
+
+    // Moves to a sector, counted from the beginning of the medium; false when the medium refuses, the
+    // position is then unchanged.
+    bool seek(std::uint64_t sector) {
+        if (!moveTo(sector)) {
+            return false;
+        }
+        m_position = sector;
+        m_next = m_windowEnd = nullptr;
+        return true;
+    }
+
+    // The sector that the next read asks for.
+    std::uint64_t position() const { return m_position; }
+
+    // The 512 bytes of the last sector read; zeros before the first. Valid until the next successful read.
+    const std::uint8_t* current() const { return m_current; }
+
+  protected:
+    // Called when nothing is fetched ahead: makes the sector at position() current(), by handOver() or by
+    // setting current() through handOver() with a longer run.
+    virtual bool fetch() = 0;
+
+    // True when the medium can be positioned at the sector.
+    virtual bool moveTo(std::uint64_t sector) = 0;
+
+    // Gives `sectors` sectors at `bytes` to the reads, the first at once; the bytes stay valid until the next
+    // fetch that succeeds.
+    void handOver(const std::uint8_t* bytes, std::size_t sectors) {
+        m_current = bytes;
+        m_next = bytes + kSectorBytes;
+        m_windowEnd = bytes + sectors * kSectorBytes;
+    }
+
+  private:
+    static constexpr std::uint8_t kZeros[kSectorBytes] = {};
+
+    const std::uint8_t* m_current = kZeros;
+    const std::uint8_t* m_next = nullptr;
+    const std::uint8_t* m_windowEnd = nullptr;
+    std::uint64_t m_position = 0;
+};
+
+}  // namespace vantor

@@ -1,0 +1,38 @@
+// Where on the medium an item's bytes were truly read from.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+namespace vantor {
+
+// Sectors [first, end) of the medium.
+struct SectorRun {
+    std::uint64_t first = 0;
+    std::uint64_t end = 0;
+};
+
+// The item as it lies on the medium. After a failed read the published sector numbers and the places really
+// read drift apart; saving uses these runs.
+struct CarvedRun {
+    std::vector<SectorRun> runs;  // in the order of the item's bytes
+    bool readFailed = false;      // a read failed between the item's first sector and its last
+
+    void add(std::uint64_t sector) {
+        if (!runs.empty() && runs.back().end == sector) {
+            ++runs.back().end;
+        } else {
+            runs.push_back({sector, sector + 1});
+        }
+    }
+
+    std::uint64_t sectors() const {
+        std::uint64_t sum = 0;
+        for (const SectorRun& run : runs) {
+            sum += run.end - run.first;
+        }
+        return sum;
+    }
+};
+
+}  // namespace vantor

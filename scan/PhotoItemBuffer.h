@@ -1,0 +1,51 @@
+// The bytes of the photo under construction, kept in memory up to a bound.
+#pragma once
+
+#include <QByteArray>
+#include <QCryptographicHash>
+#include <cstdint>
+#include <optional>
+
+#include "media/SectorReader.h"
+
+namespace vantor {
+
+// Collects sectors. An item beyond kMaxBytesInMemory keeps its first bytes only, but its length and checksum
+// go on, so that a catalogue with an absurd limit cannot eat the memory.
+class PhotoItemBuffer {
+  public:
+    static constexpr std::uint64_t kMaxBytesInMemory = std::uint64_t{256} * 1024 * 1024;
+
+    void append(const std::uint8_t* sector) {
+        const auto* bytes = reinterpret_cast<const char*>(sector);
+        m_size += kSectorBytes;
+        if (m_size <= kMaxBytesInMemory) {
+            m_bytes.append(bytes, kSectorBytes);
+            return;
+        }
+        if (!m_overflow) {
+            m_overflow.emplace(QCryptographicHash::Sha256);
+            m_overflow->addData(m_bytes);
+        }
+        m_overflow->addData(QByteArrayView(bytes, kSectorBytes));
+    }
+
+    // Keeps the memory for the next item unless somebody still holds these bytes.
+    void clear() {
+        m_bytes.resize(0);
+        m_size = 0;
+        m_overflow.reset();
+    }
+
+    const QByteArray& bytes() const { return m_bytes; }
+    std::uint64_t size() const { return m_size; }
+    // Checksum of an item that outgrew the memory; empty for all others.
+    QByteArray overflowSha256() const { return m_overflow ? m_overflow->result() : QByteArray(); }
+
+  private:
+    QByteArray m_bytes;
+    std::uint64_t m_size = 0;
+    std::optional<QCryptographicHash> m_overflow;
+};
+
+}  // namespace vantor

@@ -1,0 +1,183 @@
+// The photo scan: collects the sectors behind each picture header into one item.
+#include <QStringList>
+#include <vector>
+
+#include "catalogue/NumberText.h"
+#include "catalogue/SignatureRecord.h"
+#include "scan/HeaderMatcher.h"
+#include "scan/PhotoItemBuffer.h"
+#include "scan/ReferenceSector.h"
+#include "scan/ScanSession.h"
+
+namespace vantor {
+
+// The working state of one pass.
+struct ScanSession::PhotoPass {
+    explicit PhotoPass(const QString& passName, const QStringList& records)
+        : name(passName), matcher(records) {
+        for (qsizetype n = 0; n < recordCount(records); ++n) {
+            limits.push_back(static_cast<std::uint64_t>(textToInt64(recordField(records, n, Max_File_Size))));
+        }
+    }
+
+    bool isGeneral() const { return name == u"GEN"; }
+
+    QString name;
+    HeaderMatcher matcher;
+    std::vector<std::uint64_t> limits;  // bytes, a record each
+
+    ReferenceSector reference;
+    PhotoItemBuffer item;
+    CarvedRun carved;
+    QString itemName, itemUid;
+    std::uint64_t itemFirstSector = 0;
+    std::uint64_t itemSize = 0;   // bytes
+    std::uint64_t itemLimit = 0;  // bytes; that of the record examined last, whatever the item's own type
+    std::uint64_t itemsFound = 0;
+    std::uint64_t lastGoodSector = 0;  // where the current bytes were truly read from
+    bool itemOpen = false;
+    bool justPublished = false;
+    bool lastReadSucceeded = false;
+    bool stopped = false;
+};
+
+bool ScanSession::Photo_Recovey_Mode(const QString& passName) {
+    const bool general = passName == u"GEN";
+    if (general) {
+        clearItems();
+        m_view.resetPhotoBrowser();
+        m_view.showModeLabel(
+            QStringLiteral("( Currently performing Search based on: Vantor General Recovery Procedure )"));
+    } else {
+        m_view.showModeLabel(
+            QStringLiteral("( Currently performing Search based on: Vantor Thorough Scanning Alogrithm )"));
+    }
+    pFile_Disk.reset();
+    prepareRange(ControlSet::Photo);
+    openMediumOfPass(ControlSet::Photo);
+    if (!pFile_Disk) {
+        openFailed(ControlSet::Photo);
+        return false;
+    }
+    m_view.setScanOptionsEnabled(false);
+    beginScanScreen();
+
+    if (start_sector != 0) {
+        pFile_Disk->seek(start_sector);
+    }
+    showProgressText();
+    REC_PROC_Array.clear();
+    if (general) {
+        REC_PROC_Array = Ext_Array;
+    } else if (passName == u"THD") {
+        REC_PROC_Array = Adv_Ext_Array;
+    }
+    fillTypeCounters();
+    for_index = start_sector.load();
+
+    PhotoPass pass(passName, REC_PROC_Array);
+    runPhotoLoop(pass);
+    if (pass.stopped) {
+        stop_now = 0;
+        pFile_Disk.reset();
+        m_view.invalidateTimer();
+        handOverPhoto(pass);
+        m_lastOutcome = PassOutcome::Stopped;
+        Final_or_Stop_Screen();
+        return false;
+    }
+    handOverPhoto(pass);
+    return endOfRange(pass.lastReadSucceeded);
+}
+
+void ScanSession::runPhotoLoop(PhotoPass& pass) {
+    SectorReader& medium = *pFile_Disk;
+    const std::uint64_t end = end_sector;
+    const bool haveRecords = !REC_PROC_Array.isEmpty();
+    std::uint64_t index = for_index;
+    while (index < end && haveRecords) {
+        if (stop_now.load(std::memory_order_relaxed) == 1) {
+            pass.stopped = true;
+            return;
+        }
+        pass.lastReadSucceeded = medium.read();
+        if (pass.lastReadSucceeded) {
+            pass.lastGoodSector = medium.position() - 1;
+        } else {
+            pass.carved.readFailed = true;
+            if (!medium.seek(index)) {
+                // Bytes that can be neither renewed nor passed over count as a repeat.
+                pass.reference.become(medium.current());
+            }
+        }
+        for_index.store(++index, std::memory_order_relaxed);
+        if (!pass.reference.equals(medium.current())) {
+            const auto match = pass.matcher.firstMatch(medium.current());
+            if (!pass.limits.empty()) {
+                pass.itemLimit = match ? pass.limits[static_cast<std::size_t>(*match)] : pass.limits.back();
+            }
+            if (match) {
+                startPhotoItem(pass, *match);
+            }
+        }
+        if (pass.itemOpen) {
+            collectPhotoSector(pass);
+        }
+    }
+}
+
+// Takes the current sector into the open item, or closes the item at its limit; that sector then belongs to
+// none.
+void ScanSession::collectPhotoSector(PhotoPass& pass) {
+    pass.itemSize += kSectorBytes;
+    if (pass.itemSize < pass.itemLimit) {
+        pass.item.append(pFile_Disk->current());
+        if (pass.lastReadSucceeded || pass.carved.runs.empty()) {
+            pass.carved.add(pass.lastGoodSector);
+        }
+        return;
+    }
+    pass.itemSize = 0;
+    pass.justPublished = true;
+    handOverPhoto(pass);
+    pass.itemOpen = false;
+}
+
+void ScanSession::startPhotoItem(PhotoPass& pass, int record) {
+    if (pass.itemsFound != 0 && !pass.justPublished) {
+        handOverPhoto(pass);
+    }
+    pass.justPublished = false;
+    pass.itemOpen = true;
+    ++pass.itemsFound;
+    const QString& extension = recordField(REC_PROC_Array, record, Ext_Name);
+    for (qsizetype i = 0; i < Fol_Cnt_Array.size(); i += 3) {
+        if (Fol_Cnt_Array.at(i).toString() == extension) {
+            Fol_Cnt_Array[i + 1] = Fol_Cnt_Array.at(i + 1).toLongLong() + 1;
+            break;
+        }
+    }
+    if (pass.isGeneral()) {
+        ++GND_Image_number;
+        pass.itemName = Generate_File_Name(pass.itemsFound, QStringLiteral("GND"), extension);
+        pass.itemUid = Generate_File_UID_Num(GND_Image_number, false, extension);
+    } else {
+        ++THD_Image_number;
+        pass.itemName = Generate_File_Name(pass.itemsFound, QStringLiteral("THD"), extension);
+        pass.itemUid = Generate_File_UID_Num(THD_Image_number, true, extension);
+    }
+    pass.itemSize = 0;
+    pass.itemFirstSector = for_index - 1;
+    pass.carved = CarvedRun{{}, !pass.lastReadSucceeded};
+}
+
+// Hands the item over as it stands, empty ones included, which the adder drops.
+void ScanSession::handOverPhoto(PhotoPass& pass) {
+    m_handOver = {pass.name, pass.itemFirstSector, pass.item.size(), pass.item.overflowSha256(), pass.carved};
+    addImageWithData(pass.item.bytes(), pass.itemName, pass.itemUid);
+    m_handOver = {};
+    pass.item.clear();
+    pass.carved = {};
+}
+
+}  // namespace vantor

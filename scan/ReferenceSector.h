@@ -1,0 +1,24 @@
+// The sector that others are compared with to tell the ones worth a header search.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <cstring>
+
+#include "media/SectorReader.h"
+
+namespace vantor {
+
+// All zeros, until a sector that could neither be read nor passed over takes its place.
+class ReferenceSector {
+  public:
+    bool equals(const std::uint8_t* sector) const {
+        return std::memcmp(m_bytes.data(), sector, kSectorBytes) == 0;
+    }
+    void become(const std::uint8_t* sector) { std::memcpy(m_bytes.data(), sector, kSectorBytes); }
+
+  private:
+    std::array<std::uint8_t, kSectorBytes> m_bytes{};
+};
+
+}  // namespace vantor

@@ -1,0 +1,85 @@
+// Construction, and the steps that both scans share at the beginning and end of a pass.
+#include "scan/ScanSession.h"
+
+#include <utility>
+
+#include "catalogue/SignatureRecord.h"
+#include "scan/ProgressText.h"
+
+namespace vantor {
+
+ScanSession::ScanSession(ScanView& view) : m_view(view) {}
+
+ScanSession::~ScanSession() = default;
+
+// Range, progress bar, counter and text, as both scans begin.
+void ScanSession::prepareRange(ControlSet set) {
+    start_sector = 0;
+    end_sector = 0;
+    const SectorRange range = rangeFromControls(m_view.rangeControls(set));
+    start_sector = range.start;
+    end_sector = range.end;
+    total_sector = range.end - range.start;
+    m_view.setProgressRange(total_sector);
+    for_index = range.start;
+    showProgressText();
+}
+
+void ScanSession::openMediumOfPass(ControlSet set) {
+    const QString devicePath = QStringLiteral("/dev/r") + m_view.rangeControls(set).diskIdentifier;
+    pFile_Disk = m_openMedium ? m_openMedium(devicePath) : nullptr;
+}
+
+void ScanSession::showProgressText() {
+    m_view.showSectorLabel(progressText(for_index, start_sector, end_sector, total_sector));
+}
+
+// What the scan screen shows once the medium is open.
+void ScanSession::beginScanScreen() {
+    m_view.startProgress();
+    m_view.showHelpInfo(QStringLiteral(
+        "\nTo stop recovery, click on ‘Stop’ Button or please wait for the process to be completed."));
+}
+
+// One triple a distinct type, in the order of first appearance.
+void ScanSession::fillTypeCounters() {
+    Fol_Cnt_Array.clear();
+    for (qsizetype n = 0; n < recordCount(REC_PROC_Array); ++n) {
+        const QString& extension = recordField(REC_PROC_Array, n, Ext_Name);
+        bool counted = false;
+        for (qsizetype i = 0; i < Fol_Cnt_Array.size() && !counted; i += 3) {
+            counted = Fol_Cnt_Array.at(i).toString() == extension;
+        }
+        if (!counted) {
+            Fol_Cnt_Array << extension << qlonglong{-1} << extension;
+        }
+    }
+}
+
+// The medium cannot be opened: back to the screen before the scan, with every control as it was there.
+void ScanSession::openFailed(ControlSet set) {
+    m_lastOutcome = PassOutcome::OpenError;
+    --screen_counter;
+    m_view.invalidateTimer();
+    m_view.returnFromScanScreen(set);
+    m_view.setScanOptionsEnabled(true);
+    stop_now = 0;
+    if (set == ControlSet::Sig) {
+        m_addedItems = 0;
+    }
+    stop_screen_already_show = 1;
+    m_view.showAlert(QStringLiteral("\nError in storage media reading."));
+}
+
+bool ScanSession::endOfRange(bool lastReadSucceeded) {
+    pFile_Disk.reset();
+    if (lastReadSucceeded) {
+        m_lastOutcome = PassOutcome::Completed;
+        return true;
+    }
+    m_lastOutcome = PassOutcome::ReadError;
+    m_view.showAlert(QStringLiteral("\nError in storage media reading."));
+    return false;
+}
+
+}  // namespace vantor

@@ -1,0 +1,215 @@
+// What a run of the program knows and the scans that work on it: the engine behind the window and the command
+// line.
+//
+// Contents, in the order of the declarations below, each under the file that holds the bodies:
+//   Catalogue and file types    scan/SessionCatalogue.cpp
+//   Found items and rows        scan/SessionItems.cpp
+//   Naming                      scan/Naming.cpp
+//   Photo scan                  scan/PhotoScan.cpp
+//   Raw file scan               scan/RawFileScan.cpp
+//   Drivers, progress, end      scan/ScanDrivers.cpp
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QVariantList>
+#include <atomic>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <vector>
+
+#include "catalogue/FileTypeList.h"
+#include "media/SectorReader.h"
+#include "results/MyImageObject.h"
+#include "results/RecoveryMode.h"
+#include "results/ResultRow.h"
+#include "scan/ScanView.h"
+
+namespace vantor {
+
+// How the last pass ended.
+enum class PassOutcome { NotRun, Completed, Stopped, ReadError, OpenError };
+
+// Makes a thumbnail (JPEG, longer side at most 100 pixels, upright) of encoded picture bytes; empty when they
+// cannot be decoded.
+using Thumbnailer = std::function<QByteArray(const QByteArray&)>;
+
+// Opens the medium behind "/dev/r" + identifier at sector 0, read-only; null when it cannot be opened.
+using MediumOpener = std::function<std::unique_ptr<SectorReader>(const QString& devicePath)>;
+
+// Identifiers that begin with an underscore and a capital, or that hold unusual capitals, are the program's
+// own terms and kept as they are.
+//
+// Threads: the members under "Shared words" may be touched by any thread; `images` and the result rows are
+// guarded by listLock(); everything else belongs to whoever runs the scan, or to the main thread while none
+// runs.
+class ScanSession {
+  public:
+    explicit ScanSession(ScanView& view);
+    ScanSession(const ScanSession&) = delete;
+    ScanSession& operator=(const ScanSession&) = delete;
+    virtual ~ScanSession();
+
+    void setMediumOpener(MediumOpener opener) { m_openMedium = std::move(opener); }
+    void setThumbnailer(Thumbnailer thumbnailer) { m_thumbnailer = std::move(thumbnailer); }
+
+    // --- Catalogue and file types (SessionCatalogue.cpp) ---
+
+    // Fills the six catalogue arrays from the files in the folder; an unreadable file leaves its array empty.
+    void loadCatalogues(const QString& folder);
+
+    int hex2int(const QString& string) const;
+    int hex2dec(const QString& string) const;
+
+    // The file-type list of the current mode, all ticked, sorted.
+    void buildFileTypeList();
+    void createExtensionListTableRecord(const QString& extension, bool ExtState, const QString& ExtDescp,
+                                        const QString& Thoro);
+    // Re-creates every row with the state.
+    void setAllFileTypes(bool ticked);
+    bool Check_For_One_Extension_Selection() const;
+    // Cuts both catalogues of the mode down to the ticked types and makes a results row a ticked type.
+    void cutCataloguesToTickedTypes();
+
+    // --- Found items and rows (SessionItems.cpp) ---
+
+    virtual void addImageWithData(const QByteArray& data, const QString& imageName, const QString& image_UID);
+    void addImageWithPath(const QString& path, const QString& imageName, const QString& image_UID);
+    // `data` is not used: a raw item is a run of sectors.
+    virtual void addImageWithData_2(const QByteArray& data, const QString& imageName,
+                                    const QString& image_UID, std::uint64_t File_Start_Sec,
+                                    std::uint64_t File_End_Sec);
+    void addImageWithPath_2(const QString& path, const QString& imageName, const QString& image_UID);
+    void createSignatureListTableRecord(const QString& type, std::uint64_t NoOfFile, const QString& FileName,
+                                        const QString& FilePath, const QString& FileTypes_Hidden);
+    // Reads "NoPreview.png" of the folder; a missing file leaves the placeholder empty.
+    void loadPlaceholder(const QString& resourcesFolder);
+
+    std::size_t itemCount() const;
+    std::shared_ptr<MyImageObject> itemAt(std::size_t index) const;  // null beyond the end
+    void clearItems();
+    QList<ResultRow> resultRows() const;  // a snapshot
+
+    // --- Naming (Naming.cpp) ---
+
+    QString Generate_File_Name(std::uint64_t number, const QString& Prefix, const QString& Extension) const;
+    QString Generate_File_UID_Num(std::uint64_t number, bool Thoro_Hai, const QString& Extension) const;
+
+    // --- Photo scan (PhotoScan.cpp) and raw file scan (RawFileScan.cpp) ---
+
+    // One pass, "GEN" or "THD", over the chosen range; true when it ran to its end and the last read
+    // succeeded. Runs on the scan thread; stop_now is the only request it takes meanwhile.
+    bool Photo_Recovey_Mode(const QString& pass);
+    bool Raw_File_Recovey_Mode(const QString& pass);
+
+    // --- Drivers, progress, end (ScanDrivers.cpp) ---
+
+    void Photo_Rec_Thread();
+    void Raw_File_Rec_Thread();
+    // One refresh of label and bar from the shared words.
+    void timerTickSetLabel();
+    // The end of a scan, its steps on the interface thread.
+    void Final_or_Stop_Screen();
+
+    PassOutcome lastOutcome() const { return m_lastOutcome; }
+
+    // --- Fields ---
+
+    // Shared words.
+    std::atomic<int> stop_now{0};
+    std::atomic<int> stop_screen_already_show{0};
+    std::atomic<std::uint64_t> for_index{0};     // next sector to be read
+    std::atomic<std::uint64_t> start_sector{0};  // first sector of the pass
+    std::atomic<std::uint64_t> end_sector{0};    // one past its last
+    std::atomic<std::uint64_t> total_sector{0};  // end_sector - start_sector
+    std::atomic<int> screen_counter{0};          // wizard screen
+    std::atomic<std::uint32_t> Prev_Index{kNoPreview};
+
+    static constexpr std::uint32_t kNoPreview = 0x7fffffff;
+
+    // Read once at start.
+    QStringList Ext_Array, Adv_Ext_Array;
+    QStringList Video_Array, Adv_Video_Array;
+    QStringList RawFile_Array, Adv_RawFile_Array;
+    QString noprevfile = QStringLiteral("");
+    QByteArray Null_Image_Data;
+
+    // Chosen on the file-type screen.
+    QList<FileTypeRow> nsCheckedListDataObject;
+    QStringList CheckListHeader_Array, CheckListHeader_Adv_Array;
+
+    // Set afresh by every pass.
+    QStringList REC_PROC_Array;
+    QVariantList Fol_Cnt_Array;     // Ext_Name, counter from -1, Ext_Name
+    QStringList MultiHeader_Array;  // seven entries an item under carving
+    std::unique_ptr<SectorReader> pFile_Disk;
+
+    // Run on from scan to scan.
+    std::uint64_t GND_Image_number = 0;
+    std::uint64_t THD_Image_number = 0;
+
+    // Items added since the count was last set to 0; paces the scrolling.
+    std::uint64_t addedItemCount() const { return m_addedItems; }
+    void resetAddedItemCount() { m_addedItems = 0; }
+
+    // What the item handed over at this moment was read from; valid inside the adders.
+    struct HandOver {
+        QString pass;
+        std::uint64_t firstSector = 0;  // as published
+        std::uint64_t bytes = 0;        // photo items: carved bytes, also those beyond what is kept in memory
+        QByteArray sha256;              // of a photo item that outgrew the memory, else empty
+        CarvedRun carved;
+    };
+
+  protected:
+    const HandOver& handOver() const { return m_handOver; }
+    // Guards `images` and nsSIGFileInfoDataObject; held for moments.
+    std::mutex& listLock() const { return m_listLock; }
+
+    std::vector<std::shared_ptr<MyImageObject>> images;
+    QList<ResultRow> nsSIGFileInfoDataObject;
+
+  private:
+    struct PhotoPass;
+    struct RawPass;
+
+    void appendItem(std::shared_ptr<MyImageObject> item);
+    void addRawItem(std::unique_ptr<MyImageObject> item, const QString& name, const QString& path);
+    void pacePhotoBrowser();
+    void paceBrowser(ControlSet set, std::uint64_t step);
+    void prepareRange(ControlSet set);
+    void showProgressText();
+    void fillTypeCounters();
+    void beginScanScreen();
+    void openFailed(ControlSet set);
+    bool endOfRange(bool lastReadSucceeded);
+    void openMediumOfPass(ControlSet set);
+    const QStringList& generalCatalogueOfMode() const;
+    const QStringList& thoroughCatalogueOfMode() const;
+
+    // Bodies beside their scans.
+    void runPhotoLoop(PhotoPass& pass);
+    void collectPhotoSector(PhotoPass& pass);
+    void startPhotoItem(PhotoPass& pass, int record);
+    void handOverPhoto(PhotoPass& pass);
+
+    bool runRawLoop(RawPass& pass);
+    void openRawItems(RawPass& pass, int record);
+    void publishRawItem(const RawPass& pass, qsizetype at);
+    void closeRawItems(RawPass& pass);
+
+    ScanView& m_view;
+    MediumOpener m_openMedium;
+    Thumbnailer m_thumbnailer;
+    HandOver m_handOver;
+    QString m_placeholderPath;
+    PassOutcome m_lastOutcome = PassOutcome::NotRun;
+    std::atomic<std::uint64_t> m_addedItems{0};
+    mutable std::mutex m_listLock;
+};
+
+}  // namespace vantor
