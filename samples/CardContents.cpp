@@ -10,6 +10,7 @@ std::vector<CardFile> cardContents() {
     addMovies(files);
     addSounds(files);
     addDocuments(files);
+    addArchives(files);
     return files;
 }
 

@@ -30,5 +30,6 @@ void addPictures(std::vector<CardFile>& files);
 void addMovies(std::vector<CardFile>& files);
 void addSounds(std::vector<CardFile>& files);
 void addDocuments(std::vector<CardFile>& files);
+void addArchives(std::vector<CardFile>& files);
 
 }  // namespace vantor::samples

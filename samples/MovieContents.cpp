@@ -1,4 +1,4 @@
-// The movies of the card: the sun goes down behind a passing sail.
+// The movies of the card: the sun goes down, and a boat sails by.
 #include "samples/CardContents.h"
 #include "samples/JpegEncoder.h"
 #include "samples/MovieWriters.h"
@@ -8,20 +8,27 @@ namespace vantor::samples {
 
 namespace {
 
-std::vector<Picture> sunset(int width, int height, int frames) {
-    std::vector<Picture> pictures;
-    for (int i = 0; i < frames; ++i)
-        pictures.push_back(sunsetAt(width, height, i * 255 / (frames - 1)));
-    return pictures;
-}
+constexpr int kFramesPerSecond = 10;
 
-JpegMovie jpegMovie(int width, int height, int frames) {
-    JpegMovie movie{width, height, 10, {}};
+JpegMovie sunsetMovie() {
+    constexpr int kFrames = 50;
+    JpegMovie movie{480, 320, kFramesPerSecond, {}};
     JpegOptions options;
     options.quality = 75;
-    for (const Picture& picture : sunset(width, height, frames))
-        movie.frames.push_back(encodeJpeg(picture, options));
+    for (int i = 0; i < kFrames; ++i) {
+        const int share = i * 255 / (kFrames - 1);
+        movie.frames.push_back(encodeJpeg(sunsetAt(movie.width, movie.height, share, share), options));
+    }
     return movie;
+}
+
+// Only the boat moves, so that most of each frame is as in the one before.
+H264Video boatMovie() {
+    constexpr int kFrames = 30;
+    std::vector<Picture> frames;
+    for (int i = 0; i < kFrames; ++i)
+        frames.push_back(sunsetAt(320, 240, 170, i * 255 / (kFrames - 1)));
+    return encodeH264(frames);
 }
 
 }  // namespace
@@ -32,15 +39,18 @@ void addMovies(std::vector<CardFile>& files) {
         files.push_back(
             {QStringLiteral("VIDEO"), QString::fromLatin1(name), bytes, gap, clusters, Pieces::One});
     };
-    constexpr int kFramesPerSecond = 10;
-    const JpegMovie movie = jpegMovie(480, 320, 50);
+    const JpegMovie sunset = sunsetMovie();
     const Sound sound = playTune(22050, 50);
-    add("MOV_0001.MOV", movFile(movie, sound), Gap::Zeros, 6);
-    add("MOV_0002.AVI", aviFile(movie, sound));
-    const H264Video video = encodeH264(sunset(160, 112, 16));
-    add("MOV_0003.MP4", mp4File(video, kFramesPerSecond, Mp4Brand::Mp4), Gap::Noise, 7);
-    add("MOV_0004.3GP", mp4File(video, kFramesPerSecond, Mp4Brand::ThreeGp));
-    add("MOV_0005.M4V", mp4File(video, kFramesPerSecond, Mp4Brand::M4v));
+    add("MOV_0001.MOV", movFile(sunset, sound), Gap::Zeros, 6);
+    add("MOV_0002.AVI", aviFile(sunset, sound));
+    const H264Video boat = boatMovie();
+    add("MOV_0003.MP4", mp4File(boat, kFramesPerSecond, Mp4Brand::Mp4), Gap::Noise, 7);
+    add("MOV_0004.3GP", mp4File(boat, kFramesPerSecond, Mp4Brand::ThreeGp));
+    add("MOV_0005.M4V", mp4File(boat, kFramesPerSecond, Mp4Brand::M4v));
+    add("MOV_0006.MTS", transportStreamFile(boat, kFramesPerSecond, PacketSize::Timed192), Gap::Zeros, 4);
+    add("MOV_0007.TS", transportStreamFile(boat, kFramesPerSecond, PacketSize::Plain188));
+    add("MOV_0008.MKV", mkvFile(boat, kFramesPerSecond));
+    add("MOV_0009.FLV", flvFile(boat, kFramesPerSecond), Gap::Noise, 1);
 }
 
 }  // namespace vantor::samples

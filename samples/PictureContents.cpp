@@ -16,7 +16,7 @@ void addPictures(std::vector<CardFile>& files) {
     };
     std::vector<Picture> sunset;
     for (int i = 0; i < 12; ++i)
-        sunset.push_back(sunsetAt(240, 180, i * 255 / 11));
+        sunset.push_back(sunsetAt(240, 180, i * 255 / 11, i * 255 / 11));
 
     add("TESTCARD.PNG", pngFile(testCard(800, 600)), Gap::Zeros, 4);
     add("BALLOONS.PNG", pngFile(paint("balloons", 640, 480)));
@@ -36,6 +36,9 @@ void addPictures(std::vector<CardFile>& files) {
     add("FLOWER.ICO", icoFile({scaledDown(paint("sunflower", 256, 256), 64, 64),
                                scaledDown(paint("sunflower", 256, 256), 32, 32)}));
     add("CABIN.XPM", xpmFile(paint("winterCabin", 160, 120)));
+    add("SAIL.WEBP", webpFile(sunsetAt(400, 300, 190, 128)));
+    add("RIDGES.QOI", qoiFile(paint("pinkRidges", 400, 300)));
+    add("CITY.MPO", mpoFile(paint("citySkyline", 640, 480), paint("citySkyline", 640, 480)));
     add("MOON.ICNS", icnsFile(paint("moonDesert", 256, 256)));
     add("SUNSET.APNG", animatedPngFile(sunset), Gap::Noise, 2);
 }

@@ -49,20 +49,20 @@ const Scene& sceneNamed(const char* name) {
     return scenes().front();
 }
 
-Picture sunsetAt(int width, int height, int moment) {
+Picture sunsetAt(int width, int height, int evening, int voyage) {
     Canvas canvas(width, height);
     constexpr std::int64_t kHorizon = 6400;
     const std::int64_t wide = canvas.unitsWide();
-    const Colour zenith = mix({70, 130, 200}, {38, 30, 80}, moment);
-    const Colour low = mix({255, 226, 170}, {250, 120, 70}, moment);
+    const Colour zenith = mix({70, 130, 200}, {38, 30, 80}, evening);
+    const Colour low = mix({255, 226, 170}, {250, 120, 70}, evening);
     canvas.gradient({{0, zenith}, {4000, mix(zenith, low, 120)}, {kHorizon, low}}, 0, kHorizon);
-    const Point sun{wide / 3 + wide * moment / 1024, 1800 + 4600 * moment / 255};
+    const Point sun{wide / 3 + wide * evening / 1024, 1800 + 4600 * evening / 255};
     canvas.glow(sun, 4200, {255, 220, 150}, 170);
-    canvas.disc(sun, 620, mix({255, 250, 215}, {255, 150, 80}, moment));
+    canvas.disc(sun, 620, mix({255, 250, 215}, {255, 150, 80}, evening));
     canvas.below(mountainLine(kHorizon, 1300, 4200, 7, 4),
-                 fading(mix({90, 120, 150}, {70, 50, 90}, moment), {60, 60, 90}, 1200), kHorizon);
-    canvas.mirrorBelow(kHorizon, mix({30, 80, 120}, {30, 24, 60}, moment), 60, 300, 5);
-    const Point boat{wide / 5 + wide * moment / 450, 7300};
+                 fading(mix({90, 120, 150}, {70, 50, 90}, evening), {60, 60, 90}, 1200), kHorizon);
+    canvas.mirrorBelow(kHorizon, mix({30, 80, 120}, {30, 24, 60}, evening), 60, 300, 5);
+    const Point boat{wide / 5 + wide * voyage / 450, 7300};
     paintSail(canvas, boat, 1900, {250, 244, 232}, {60, 44, 50});
     return canvas.finish();
 }

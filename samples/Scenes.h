@@ -19,8 +19,9 @@ const std::vector<Scene>& scenes();
 // The motif of the given name; there must be one.
 const Scene& sceneNamed(const char* name);
 
-// The sun going down over the sea, at a moment of [0, 255]: one frame of the card's movies.
-Picture sunsetAt(int width, int height, int moment);
+// One frame of the card's movies: the sun has gone down `evening`/255 of its way over the sea, and a boat has
+// sailed `voyage`/255 of its own.
+Picture sunsetAt(int width, int height, int evening, int voyage);
 
 // Bars and ramps to judge colours by.
 Picture testCard(int width, int height);

@@ -25,7 +25,7 @@ QByteArray flacFile(const Sound& sound);  // second-order prediction, RFC 9639
 QByteArray oggFlacFile(const Sound& sound);
 QByteArray mp3File(int frames);  // an ID3v2.3 tag and frames of silence
 QByteArray aacFile(int frames);  // ADTS frames of silence
-QByteArray amrFile(int frames);  // frames without data
+QByteArray amrFile(int frames);  // frames of zeros at the lowest rate
 QByteArray midiFile();           // the tune as notes
 
 // The notes of the tune: MIDI note numbers, 0 for a rest, each `kTenthsPerNote` long.

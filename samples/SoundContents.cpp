@@ -17,6 +17,12 @@ void addSounds(std::vector<CardFile>& files) {
     add("TUNE.AIFF", aiffFile(small));
     add("TUNE.CAF", cafFile(small), Gap::Noise, 2);
     add("TUNE.VOC", vocFile(small));
+    add("TUNE.FLAC", flacFile(tune));
+    add("TUNE.OGA", oggFlacFile(small));
+    add("SILENCE.MP3", mp3File(200), Gap::Zeros, 1);
+    add("SILENCE.AAC", aacFile(200));
+    add("SILENCE.AMR", amrFile(150));
+    add("TUNE.MID", midiFile());
 }
 
 }  // namespace vantor::samples
