@@ -14,7 +14,7 @@ QByteArray record(const QByteArray& extension, const QByteArray& header, const Q
 
 // The one finding of a text as "line: what", or the number of findings when there is not one.
 std::string only(const QByteArray& text) {
-    const auto findings = lintCatalogue(text);
+    const auto findings = lintCatalogue(text, CatalogueUse::Photo);
     if (findings.size() != 1) {
         return std::to_string(findings.size()) + " findings";
     }
@@ -25,8 +25,9 @@ std::string only(const QByteArray& text) {
 
 TEST(CatalogueLint, SoundCatalogueHasNoFindings) {
     EXPECT_TRUE(lintCatalogue("A comment\n" + record(".jpg", "FFD8FFE0") + "\n" +
-                              record("PNG", "89504E470D0A1A0A") + record("MP4", "66747970", "5") +
-                              record("XYZ", "4142", "nn"))
+                                  record("PNG", "89504E470D0A1A0A") + record("MP4", "66747970", "5") +
+                                  record("XYZ", "4142", "nn"),
+                              CatalogueUse::Photo)
                     .isEmpty());
 }
 
@@ -34,7 +35,8 @@ TEST(CatalogueLint, TellsAMisplacedHeaderLine) {
     QByteArray text = record("JPG", "FFD8FFE0");
     text.replace("Header :", "Header:");
     EXPECT_EQ(only(text), "3: the third value line of a record must be \"Header :\"");
-    const auto findings = lintCatalogue("Header : 41\nSize : 1\nExtension : JPG\nO : 1\nR : 0\nD : x\n");
+    const auto findings =
+        lintCatalogue("Header : 41\nSize : 1\nExtension : JPG\nO : 1\nR : 0\nD : x\n", CatalogueUse::Photo);
     ASSERT_EQ(findings.size(), 2);
     EXPECT_EQ(findings[0].line, 1);
     EXPECT_EQ(findings[1].line, 3);
@@ -67,7 +69,7 @@ TEST(CatalogueLint, TellsAHeaderThatCanNeverMatch) {
               "3: the header can never match: the offset \"0\" is neither a number from 1 on nor \"nn\"");
     EXPECT_EQ(only(record("A", "4142", "NN")),
               "3: the header can never match: the offset \"NN\" is neither a number from 1 on nor \"nn\"");
-    EXPECT_TRUE(lintCatalogue(record("A", "414243444546", "507")).isEmpty());
+    EXPECT_TRUE(lintCatalogue(record("A", "414243444546", "507"), CatalogueUse::Photo).isEmpty());
 }
 
 TEST(CatalogueLint, TellsAShadowedRecord) {
@@ -75,8 +77,18 @@ TEST(CatalogueLint, TellsAShadowedRecord) {
               "9: the record of JP2 is never reached: that of JPG at line 3 matches first");
     EXPECT_EQ(only(record("A", "6D70", "9") + record("B", "667479706D70", "5")),
               "9: the record of B is never reached: that of A at line 3 matches first");
-    EXPECT_TRUE(lintCatalogue(record("JP2", "FFD8FF") + record("JPG", "FFD8")).isEmpty());
-    EXPECT_TRUE(lintCatalogue(record("A", "4142") + record("B", "414243", "nn")).isEmpty());
+    EXPECT_TRUE(
+        lintCatalogue(record("JP2", "FFD8FF") + record("JPG", "FFD8"), CatalogueUse::Photo).isEmpty());
+    EXPECT_TRUE(
+        lintCatalogue(record("A", "4142") + record("B", "414243", "nn"), CatalogueUse::Photo).isEmpty());
+}
+
+TEST(CatalogueLint, RecordsThatOpenTogetherDoNotShadowOneAnother) {
+    const QByteArray office = record("DOC", "D0CF11E0") + record("XLS", "D0CF11E0");
+    EXPECT_TRUE(lintCatalogue(office, CatalogueUse::Selectable).isEmpty());
+    EXPECT_EQ(lintCatalogue(office, CatalogueUse::Photo).size(), 1);
+    const QByteArray elsewhere = record("A", "6D70", "9") + record("B", "667479706D70", "5");
+    EXPECT_EQ(lintCatalogue(elsewhere, CatalogueUse::Selectable).size(), 1);
 }
 
 TEST(CatalogueLint, TellsTextThatIsNoUtf8) {
