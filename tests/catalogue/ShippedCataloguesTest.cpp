@@ -105,8 +105,8 @@ INSTANTIATE_TEST_SUITE_P(Files, ShippedCatalogues,
                                          Shipped{kRawFileCatalogue, CatalogueUse::Selectable, true, 300},
                                          Shipped{kRawFileThoroughCatalogue, CatalogueUse::Selectable, false,
                                                  20}),
-                         [](const auto& info) {
-                             return std::string(info.param.file).substr(1, std::strlen(info.param.file) - 5);
+                         [](const auto& shipped) {
+                             return std::string(shipped.param.file).substr(1, std::strlen(shipped.param.file) - 5);
                          });
 
 }  // namespace vantor
