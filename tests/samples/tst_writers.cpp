@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QImage>
 #include <QtEndian>
+#include <algorithm>
 
 #include "samples/Checksums.h"
 #include "samples/Deflate.h"
