@@ -23,7 +23,8 @@ constexpr std::int64_t kLastNumericStart = 506;
 constexpr std::size_t kMaxKeyBytes = 4;
 // A start byte with at most so many keys is compared rather than looked up.
 constexpr std::size_t kMostRareKeys = 3;
-constexpr std::size_t kBlockBytes = 16;
+constexpr std::size_t kBlockBytes = 32;
+constexpr std::uint32_t kUnusedKey = 0x9D3C51A7;
 // All filters together should stay in the first-level cache.
 constexpr std::size_t kFilterBitsPerKey = 64;
 constexpr std::size_t kLeastFilterBits = 1024;
@@ -116,6 +117,10 @@ std::uint32_t HeaderMatcher::filterBit(std::uint32_t key, const Probe& probe) {
 }
 
 void HeaderMatcher::addToProbe(const Fixed& header) {
+    if (header.start + kMaxKeyBytes > kSectorBytes) {
+        m_atTheEnd.push_back(header);
+        return;
+    }
     const std::uint32_t mask = maskOf(header.entry.headerLength);
     auto probe = std::find_if(m_probes.begin(), m_probes.end(),
                               [&](const Probe& p) { return p.start == header.start && p.keyMask == mask; });
@@ -140,43 +145,46 @@ void HeaderMatcher::buildFilter(Probe& probe) {
 
 // Takes the first block with a free place at the header's start byte, or that wants the same bytes there.
 void HeaderMatcher::addToBlock(const Fixed& header) {
-    const auto laneIn = [&](const Block& block) -> std::optional<std::size_t> {
+    for (Block& block : m_blocks) {
         const std::uint32_t distance = header.start - block.base;
-        if (header.start < block.base || distance % kMaxKeyBytes != 0 || distance >= kBlockBytes) {
-            return std::nullopt;
+        if (distance % kMaxKeyBytes != 0 || distance >= kBlockBytes) {
+            continue;
         }
         const std::size_t lane = distance / kMaxKeyBytes;
-        const bool usable = block.masks[lane] == 0 || block.keys[lane] == header.entry.key;
-        return usable ? std::optional(lane) : std::nullopt;
-    };
-    for (Block& block : m_blocks) {
-        if (const auto lane = laneIn(block)) {
-            block.keys[*lane] = header.entry.key;
-            block.masks[*lane] = ~0U;
+        const std::uint32_t bit = 1U << lane;
+        if ((block.usedLanes & bit) == 0 || block.keys[lane] == header.entry.key) {
+            block.usedLanes |= bit;
+            block.keys[lane] = header.entry.key;
             return;
         }
     }
-    m_blocks.push_back({header.start, {header.entry.key}, {~0U}});
+    Block block{header.start, 1, {}};
+    block.keys.fill(kUnusedKey);
+    block.keys[0] = header.entry.key;
+    m_blocks.push_back(block);
 }
 
 bool HeaderMatcher::anyBlockHits(const std::uint8_t* sector) const {
-    // The compiler's own vectors: one instruction compares the four places of a block.
-    using Lanes = std::uint32_t __attribute__((vector_size(kBlockBytes)));
+    // The compiler's own vectors, as wide as every processor of the family has them.
+    using Lanes = std::uint32_t __attribute__((vector_size(16)));
     const auto load = [](const void* from) {
         Lanes lanes;
         std::memcpy(&lanes, from, sizeof lanes);
         return lanes;
     };
-    Lanes hits{};
+    Lanes low{};
+    Lanes high{};
     for (const Block& block : m_blocks) {
-        const Lanes equal = reinterpret_cast<Lanes>(load(sector + block.base) == load(block.keys.data()));
-        hits |= equal & load(block.masks.data());
+        const std::uint8_t* there = sector + block.base;
+        low |= reinterpret_cast<Lanes>(load(there) == load(block.keys.data()));
+        high |= reinterpret_cast<Lanes>(load(there + sizeof low) == load(block.keys.data() + 4));
     }
-    return (hits[0] | hits[1] | hits[2] | hits[3]) != 0;
+    low |= high;
+    return (low[0] | low[1] | low[2] | low[3]) != 0;
 }
 
-int HeaderMatcher::bestOfRare(const std::uint8_t* sector, int best) const {
-    for (const Fixed& header : m_rare) {
+int HeaderMatcher::bestOfList(const std::vector<Fixed>& headers, const std::uint8_t* sector, int best) const {
+    for (const Fixed& header : headers) {
         if (header.entry.record >= best) {
             break;
         }
@@ -189,12 +197,8 @@ int HeaderMatcher::bestOfRare(const std::uint8_t* sector, int best) const {
 }
 
 std::uint32_t HeaderMatcher::loadKey(const std::uint8_t* sector, const Probe& probe) {
-    std::uint32_t key = 0;
-    if (probe.start + kMaxKeyBytes <= kSectorBytes) {
-        std::memcpy(&key, sector + probe.start, kMaxKeyBytes);
-    } else {
-        std::memcpy(&key, sector + probe.start, kSectorBytes - probe.start);
-    }
+    std::uint32_t key;
+    std::memcpy(&key, sector + probe.start, kMaxKeyBytes);
     return key & probe.keyMask;
 }
 
@@ -208,7 +212,10 @@ std::optional<int> HeaderMatcher::firstMatch(const std::uint8_t* sector) const {
         }
     }
     if (anyBlockHits(sector)) {
-        best = bestOfRare(sector, best);
+        best = bestOfList(m_rare, sector, best);
+    }
+    if (!m_atTheEnd.empty()) {
+        best = bestOfList(m_atTheEnd, sector, best);
     }
     if (m_narrowFirstByte[sector[0]]) {
         for (const NarrowSearch& search : m_narrow) {

@@ -37,12 +37,12 @@ class HeaderMatcher {
         std::vector<Entry> entries;  // by key, then by record
     };
 
-    // Four places, four bytes apart, and the four bytes wanted at each; a place that is not asked for has the
-    // mask 0.
+    // Eight places, four bytes apart, and the four bytes wanted at each. A place that nobody asks for wants
+    // bytes that hardly ever stand there; if they do, the look at the headers finds nothing.
     struct Block {
         std::uint32_t base;
-        std::array<std::uint32_t, 4> keys;
-        std::array<std::uint32_t, 4> masks;
+        std::uint32_t usedLanes;  // a bit each
+        std::array<std::uint32_t, 8> keys;
     };
 
     // One header at its start byte.
@@ -64,14 +64,15 @@ class HeaderMatcher {
     void buildFilter(Probe& probe);
     void addToBlock(const Fixed& header);
     bool anyBlockHits(const std::uint8_t* sector) const;
-    int bestOfRare(const std::uint8_t* sector, int best) const;
+    int bestOfList(const std::vector<Fixed>& headers, const std::uint8_t* sector, int best) const;
     int bestOf(const Probe& probe, std::uint32_t key, const std::uint8_t* sector, int best) const;
     bool narrowSearchMatches(const NarrowSearch& search, const std::uint8_t* sector) const;
 
     std::vector<std::uint8_t> m_headerBytes;
     std::vector<Probe> m_probes;
     std::vector<Block> m_blocks;
-    std::vector<Fixed> m_rare;  // the headers behind the blocks, by record
+    std::vector<Fixed> m_rare;      // the headers behind the blocks, by record
+    std::vector<Fixed> m_atTheEnd;  // headers too near the sector's end to load a key, by record
     std::vector<NarrowSearch> m_narrow;
     std::array<bool, 256> m_narrowFirstByte{};
     // A filter a probe, sized to its keys: most sectors are turned away by a bit each, without a look at any
