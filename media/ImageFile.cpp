@@ -88,12 +88,13 @@ std::int64_t ImageFile::readAt(std::uint64_t sector, std::span<std::uint8_t> int
         const auto length = static_cast<std::size_t>(std::min<std::uint64_t>(wanted - done, part->end - at));
         const std::int64_t got =
             positionedRead(part->descriptor.get(), at - part->first, into.subspan(done, length));
-        if (got <= 0) {
-            m_gone = got == 0 || errno == ENODEV || errno == ENXIO || errno == ESTALE;
+        if (got < 0) {
+            m_gone = errno == ENODEV || errno == ENXIO || errno == ESTALE;
             break;
         }
         done += static_cast<std::size_t>(got);
         if (static_cast<std::size_t>(got) < length) {
+            m_gone = got == 0 || hasShrunk(*part);
             break;
         }
         while (part != m_parts.end() && begin + done >= part->end) {
@@ -101,6 +102,12 @@ std::int64_t ImageFile::readAt(std::uint64_t sector, std::span<std::uint8_t> int
         }
     }
     return done == 0 ? -1 : static_cast<std::int64_t>(done);
+}
+
+bool ImageFile::hasShrunk(const Part& part) {
+    struct stat info {};
+    return ::fstat(part.descriptor.get(), &info) != 0 ||
+           static_cast<std::uint64_t>(info.st_size) < part.end - part.first;
 }
 
 }  // namespace vantor

@@ -42,6 +42,7 @@ class ImageFile : public BlockSource {
     };
 
     ImageFile() = default;
+    static bool hasShrunk(const Part& part);
 
     std::vector<Part> m_parts;
     bool m_gone = false;
