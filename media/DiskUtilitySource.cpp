@@ -55,7 +55,10 @@ QByteArray DiskUtilitySource::outputFor(const QString& path) const {
     QByteArray output;
     const QDeadlineTimer deadline(kPatienceMs);
     while (utility.state() != QProcess::NotRunning && !deadline.hasExpired() && output.size() < kMostOutput) {
-        utility.waitForReadyRead(static_cast<int>(deadline.remainingTime()));
+        const auto rest = static_cast<int>(deadline.remainingTime());
+        if (!utility.waitForReadyRead(rest)) {
+            utility.waitForFinished(rest);
+        }
         output += utility.readAllStandardOutput();
     }
     if (utility.state() != QProcess::NotRunning) {
