@@ -74,11 +74,11 @@ std::uint32_t crcOgg(std::uint32_t crc, std::span<const std::uint8_t> bytes) {
     return crc;
 }
 
-std::uint16_t crc16Flac(std::uint16_t crc, std::uint8_t byte) {
+std::uint16_t crc16(std::uint16_t crc, std::uint8_t byte) {
     return static_cast<std::uint16_t>((crc << 8) ^ kFlac16[(crc >> 8 ^ byte) & 0xFF]);
 }
 
-std::uint8_t crc8Flac(std::uint8_t crc, std::uint8_t byte) {
+std::uint8_t crc8(std::uint8_t crc, std::uint8_t byte) {
     return kFlac8[(crc ^ byte) & 0xFF];
 }
 

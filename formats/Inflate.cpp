@@ -7,66 +7,14 @@
 #include <vector>
 
 #include "formats/Crc.h"
+#include "formats/Huffman.h"
 
 namespace vantor {
 
 namespace {
 
 constexpr std::size_t kHistory = 32 * 1024;
-constexpr unsigned kMostCodeBits = 15;
 constexpr unsigned kEndOfBlock = 256;
-
-// Codes to symbols through one table indexed by the next `bits` bits of input.
-class Huffman {
-  public:
-    // False when the lengths are no prefix code. A single code of one bit is allowed to be incomplete.
-    bool build(std::span<const std::uint8_t> lengths);
-
-    unsigned bits() const { return m_bits; }
-    // Symbol and length of the code that `input` begins with; length 0 = none.
-    unsigned symbol(unsigned input) const { return m_table[input] & 0x1FF; }
-    unsigned length(unsigned input) const { return m_table[input] >> 9; }
-
-  private:
-    unsigned m_bits = 1;
-    std::array<std::uint16_t, 1 << kMostCodeBits> m_table{};
-};
-
-bool Huffman::build(std::span<const std::uint8_t> lengths) {
-    std::array<unsigned, kMostCodeBits + 1> count{};
-    for (const auto length : lengths)
-        ++count[length];
-    count[0] = 0;
-    m_bits = 1;
-    int left = 1;
-    unsigned codes = 0;
-    for (unsigned bits = 1; bits <= kMostCodeBits; ++bits) {
-        left = left * 2 - static_cast<int>(count[bits]);
-        if (left < 0)
-            return false;
-        codes += count[bits];
-        if (count[bits] != 0)
-            m_bits = bits;
-    }
-    if (left > 0 && codes > 1)
-        return false;
-    std::array<unsigned, kMostCodeBits + 2> next{};
-    for (unsigned bits = 1; bits <= kMostCodeBits; ++bits)
-        next[bits + 1] = (next[bits] + count[bits]) << 1;
-    std::fill_n(m_table.begin(), std::size_t{1} << m_bits, std::uint16_t{0});
-    for (std::size_t symbol = 0; symbol < lengths.size(); ++symbol) {
-        const unsigned length = lengths[symbol];
-        if (length == 0)
-            continue;
-        const unsigned code = next[length]++;
-        unsigned reversed = 0;
-        for (unsigned bit = 0; bit < length; ++bit)
-            reversed |= (code >> bit & 1) << (length - 1 - bit);
-        for (unsigned slot = reversed; slot < (1U << m_bits); slot += 1U << length)
-            m_table[slot] = static_cast<std::uint16_t>(length << 9 | symbol);
-    }
-    return true;
-}
 
 class Inflater {
   public:
