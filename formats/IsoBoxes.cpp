@@ -39,8 +39,9 @@ struct Seen {
     bool data = false;
     bool fragment = false;
     bool type = false;
+    std::uint64_t dataEnd = 0;  // how far a picture's items reach
 
-    bool whole() const { return index && (data || !movieIndex); }
+    bool whole(std::uint64_t end) const { return index && (data || !movieIndex) && end >= dataEnd; }
 };
 
 struct IsoWalk {
@@ -61,7 +62,7 @@ IsoWalk walkBoxes(ByteView& view, std::uint64_t start, bool wantFacts) {
         const std::string_view name = box->text();
         const bool known = walk.at == start ? isAmong(kFirstNames, name) : isAmong(kTopLevelNames, name);
         // A box of a maker's own is believed while the file still lacks something, not behind a whole one.
-        if (!known && (walk.at == start || walk.seen.whole() || !isNameLike(name)))
+        if (!known && (walk.at == start || walk.seen.whole(walk.at) || !isNameLike(name)))
             return walk;
         if (name == "ftyp" && walk.at != start)
             return walk;  // the next file
@@ -75,7 +76,7 @@ IsoWalk walkBoxes(ByteView& view, std::uint64_t start, bool wantFacts) {
         walk.seen.data = walk.seen.data || name == "mdat" || name == "imda";
         walk.seen.fragment = walk.seen.fragment || name == "moof";
         if (wantFacts && (name == "moov" || name == "meta"))
-            addIsoFacts(view, *box, walk.facts);
+            walk.seen.dataEnd = std::max(walk.seen.dataEnd, addIsoFacts(view, *box, walk.facts));
         if (box->end > view.size()) {
             walk.cut = true;
             return walk;
@@ -122,7 +123,7 @@ Extent walkIsoMedia(ByteView& view) {
         return walk.seen.type || walk.at != 0 ? cutOffAt(view, view.size(), walk.facts) : unknownExtent();
     if (walk.at == 0 || (!walk.seen.type && !walk.seen.index && !walk.seen.data))
         return unknownExtent();
-    if (!walk.seen.whole())
+    if (!walk.seen.whole(walk.at))
         return walk.at == view.size() ? cutOffAt(view, walk.at, walk.facts)
                                       : damagedAt(view, walk.at, walk.facts);
     return completeAt(view, walk.at, walk.facts);

@@ -81,8 +81,13 @@ std::uint32_t exifItem(ByteView& view, const IsoBox& infoBox) {
     return found;
 }
 
-// Where the first extent of an item lies in the file; 0 = not found.
-std::uint64_t itemPosition(ByteView& view, const IsoBox& locations, std::uint32_t wanted) {
+struct ItemPlace {
+    std::uint64_t wanted = 0;  // where the wanted item's first extent begins; 0 = not found
+    std::uint64_t end = 0;     // behind the last byte of all items
+};
+
+// Where items lie in the file, as the location box tells.
+ItemPlace readLocations(ByteView& view, const IsoBox& locations, std::uint32_t wanted) {
     Cursor in(view, locations.body);
     const auto version = in.u8();
     in.skip(3);
@@ -91,26 +96,30 @@ std::uint64_t itemPosition(ByteView& view, const IsoBox& locations, std::uint32_
         const auto width = widths >> shift & 15;
         return width == 0 ? 0 : width == 4 ? in.u32() : in.u64();
     };
+    ItemPlace place;
     const std::uint32_t items = version < 2 ? in.u16() : in.u32();
     for (std::uint32_t i = 0; i < items && in.ok() && in.at() < locations.end; ++i) {
         const std::uint32_t item = version < 2 ? in.u16() : in.u32();
-        const auto method = version == 0 ? 0 : in.u16() & 15;
-        in.skip(2);
+        const auto method = version == 0 ? 0 : in.u16() & 15;  // 0: in the file, 1: inside the meta box
+        const auto reference = in.u16();                       // 0: this file
         const auto base = sized(4);
         const auto extents = in.u16();
-        for (std::uint16_t extent = 0; extent < extents && in.ok(); ++extent) {
+        for (std::uint16_t extent = 0; extent < extents && in.ok() && in.at() < locations.end; ++extent) {
             if (version != 0)
                 sized(0);
-            const auto offset = sized(12);
-            sized(8);
-            if (item == wanted && method == 0 && in.ok())
-                return addClamped(base, offset);
+            const auto at = addClamped(base, sized(12));
+            const auto bytes = sized(8);
+            if (method != 0 || reference != 0 || !in.ok())
+                continue;
+            place.end = std::max(place.end, addClamped(at, bytes));
+            if (item == wanted && place.wanted == 0)
+                place.wanted = at;
         }
     }
-    return 0;
+    return place;
 }
 
-void heifMeta(ByteView& view, const IsoBox& meta, Facts& facts) {
+std::uint64_t heifMeta(ByteView& view, const IsoBox& meta, Facts& facts) {
     std::uint32_t exif = 0;
     std::optional<IsoBox> locations;
     forChildren(view, meta.body + 4, meta.end, [&](const IsoBox& child) {
@@ -130,19 +139,23 @@ void heifMeta(ByteView& view, const IsoBox& meta, Facts& facts) {
             });
         });
     });
-    const auto at = exif != 0 && locations ? itemPosition(view, *locations, exif) : 0;
-    const auto skip = at != 0 ? view.be32(at) : std::nullopt;  // to the TIFF header behind "Exif\0\0"
-    if (!skip)
-        return;
-    Facts inside;
-    addTiffFacts(view, addClamped(at, std::uint64_t{4} + *skip), inside);
-    if (inside.taken)
-        facts.taken = inside.taken;
+    if (!locations)
+        return 0;
+    const ItemPlace place = readLocations(view, *locations, exif);
+    const bool told = exif != 0 && place.wanted != 0;
+    const auto skip = told ? view.be32(place.wanted) : std::nullopt;  // to the TIFF header behind "Exif\0\0"
+    if (skip) {
+        Facts inside;
+        addTiffFacts(view, addClamped(place.wanted, std::uint64_t{4} + *skip), inside);
+        if (inside.taken)
+            facts.taken = inside.taken;
+    }
+    return place.end;
 }
 
 }  // namespace
 
-void addIsoFacts(ByteView& view, const IsoBox& box, Facts& facts) {
+std::uint64_t addIsoFacts(ByteView& view, const IsoBox& box, Facts& facts) {
     if (box.text() == "meta")
         return heifMeta(view, box, facts);
     forChildren(view, box.body, box.end, [&](const IsoBox& child) {
@@ -157,6 +170,7 @@ void addIsoFacts(ByteView& view, const IsoBox& box, Facts& facts) {
                 trackHeader(view, part, facts);
         });
     });
+    return 0;
 }
 
 }  // namespace vantor

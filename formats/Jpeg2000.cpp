@@ -25,9 +25,20 @@ bool isAmong(const std::array<std::string_view, Count>& names, std::string_view 
     return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-// Behind the end mark of tile data of unknown length. Packed data never holds 0xFF and a byte above 0x8F but
-// in packet marks.
+// Behind the end mark of the last tile-part, whose length is not told; `at` is behind its first segment.
+// Packed data never holds 0xFF and a byte above 0x8F but in packet marks.
 Extent scanToEnd(ByteView& view, std::uint64_t at, const Facts& facts) {
+    constexpr std::uint16_t kStartOfData = 0xFF93;
+    for (std::optional<std::uint16_t> marker = view.be16(at); marker != kStartOfData;
+         marker = view.be16(at)) {
+        const auto bytes = view.be16(at + 2);
+        if (!marker || !bytes)
+            return cutOffAt(view, at, facts);
+        if (*marker < 0xFF50 || *marker > 0xFF8F || *bytes < 2)
+            return damagedAt(view, at, facts);
+        at += std::uint64_t{2} + *bytes;
+    }
+    at += 2;
     for (;;) {
         at = view.find(0xFF, at, view.size());
         const auto next = view.u8(at + 1);

@@ -78,6 +78,7 @@ Extent walkPcx(ByteView& view) {
             if (view.u8(at + gap) == 12)
                 return completeAt(view, at + gap + kPalette, facts);
         }
+        return inexact(completeAt(view, at, facts));  // grey, or its palette is lost
     }
     return completeAt(view, at, facts);
 }

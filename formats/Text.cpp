@@ -77,7 +77,8 @@ Extent walkRtf(ByteView& view) {
 }
 
 Extent walkContacts(ByteView& view) {
-    return walkRecords(view, "begin:vcard", "end:vcard");
+    return inexact(
+        walkRecords(view, "begin:vcard", "end:vcard"));  // how many cards there are is told nowhere
 }
 
 Extent walkCalendar(ByteView& view) {

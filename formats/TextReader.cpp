@@ -27,11 +27,15 @@ bool matchesAnyCase(ByteView& view, std::uint64_t at, std::string_view lower) {
 
 std::uint64_t textEnd(ByteView& view, std::uint64_t from) {
     TextReader in(view, from);
-    for (;;) {
+    constexpr int kErased = 0xFF;  // two of them are an erased sector, not letters
+    for (int last = 0;;) {
         const auto at = in.at();
         const int byte = in.next();
+        if (byte == kErased && last == kErased)
+            return at - 1;
         if (byte < 0 || isControl(byte))
             return at;
+        last = byte;
     }
 }
 
