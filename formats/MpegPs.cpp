@@ -35,6 +35,14 @@ std::uint64_t packHeaderBytes(ByteView& view, std::uint64_t at) {
     return (first & 0xF0) == 0x20 ? 12 : 0;
 }
 
+// The system clock of the pack at `at`, in units of 1/90,000 s.
+std::uint64_t packClock(ByteView& view, std::uint64_t at) {
+    const auto bits = view.number(at + 4, 5, Endian::Big).value_or(0);
+    if ((bits >> 38 & 3) == 1)  // MPEG-2: 2 bits of mark, then 3, 15 and 15 bits with a mark bit behind each
+        return (bits >> 35 & 7) << 30 | (bits >> 19 & 0x7FFF) << 15 | (bits >> 3 & 0x7FFF);
+    return (bits >> 33 & 7) << 30 | (bits >> 17 & 0x7FFF) << 15 | (bits >> 1 & 0x7FFF);
+}
+
 // Behind the zero bytes from `at` on, if a packet follows them; else `at`.
 std::uint64_t skipStuffing(ByteView& view, std::uint64_t at) {
     const auto limit = std::min(view.size(), at + kMostStuffing);
@@ -54,6 +62,8 @@ Extent walkMpegPs(ByteView& view) {
         return unknownExtent();
     std::uint64_t at = 0;
     std::uint64_t packets = 0;
+    std::uint64_t clock = 0;
+    bool navigation = false;
     for (;;) {
         const auto here = skipStuffing(view, at);
         const auto code = startCode(view, here);
@@ -67,8 +77,14 @@ Extent walkMpegPs(ByteView& view) {
                 return completeAt(view, end);
         } else if (*code == 0xBA) {
             const auto bytes = packHeaderBytes(view, here);
-            if (bytes == 0)
+            const auto now = packClock(view, here);
+            // A recording that begins at a sector's start with its clock set back is the next file; on a DVD,
+            // told by its navigation packets, the clock starts anew inside a file.
+            const bool again =
+                now < clock || (now == clock && here != 0 && startCode(view, here + bytes) == 0xBB);
+            if (bytes == 0 || (again && !navigation && here % kSector == 0))
                 break;
+            clock = now;
             end = here + bytes;
         } else {
             const auto bytes = view.be16(here + 4);
@@ -76,6 +92,7 @@ Extent walkMpegPs(ByteView& view) {
                 return cutOffAt(view, view.size());
             end = here + 6 + *bytes;
             ++packets;
+            navigation = navigation || *code == 0xBF;
         }
         if (end > view.size())
             return inexact(cutOffAt(view, view.size()));

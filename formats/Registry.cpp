@@ -28,6 +28,7 @@ constexpr std::array kWalkers = {
     Walker{"PCX", walkPcx, false, " PCX "},
     Walker{"TGA", walkTga, false, " TGA ICB VDA VST "},
     Walker{"DDS", walkDds, true, " DDS "},
+    Walker{"XCF", walkXcf, true, " XCF "},
     Walker{"RAF", walkRaf, true, " RAF "},
     Walker{"MRW", walkMrw, true, " MRW "},
     Walker{"CRW", walkCrw, true, " CRW "},

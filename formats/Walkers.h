@@ -22,6 +22,7 @@ Extent walkIcns(ByteView& view);
 Extent walkPcx(ByteView& view);
 Extent walkTga(ByteView& view);
 Extent walkDds(ByteView& view);
+Extent walkXcf(ByteView& view);
 Extent walkRaf(ByteView& view);
 Extent walkMrw(ByteView& view);
 Extent walkCrw(ByteView& view);

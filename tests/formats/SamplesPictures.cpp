@@ -144,6 +144,16 @@ Bytes dds() {
     return out.to(128).fill(32, 4);
 }
 
+// One layer of 3 x 2 grey pixels in one tile of runs.
+Bytes xcf() {
+    Build out;
+    out.text(std::string_view("gimp xcf v001\0", 14)).be32(3).be32(2).be32(1);
+    out.be32(17).be32(1).u8(1).be32(0).be32(0).be32(55).be32(0).be32(0);  // runs; a layer at 55
+    out.be32(3).be32(2).be32(2).be32(2).text(std::string_view("L\0", 2)).be32(0).be32(0).be32(97).be32(0);
+    out.to(97).be32(3).be32(2).be32(1).be32(117).be32(0);  // levels
+    return out.be32(3).be32(2).be32(133).be32(0).u8(3).u8(9).u8(254).u8(1).u8(2);
+}
+
 Bytes raf() {
     return Build()
         .text("FUJIFILMCCD-RAW ")
@@ -192,9 +202,9 @@ std::vector<Sample> pictureSamples() {
             {"J2K", jp2Stream(0)},  {"JXL", jxl()},
             {"ICO", icon()},        {"ICNS", Build().text("icns").be32(24).text("is32").be32(16).fill(8, 1)},
             {"PCX", pcx()},         {"TGA", tga()},
-            {"DDS", dds(), false},  {"RAF", raf()},
-            {"MRW", mrw()},         {"CRW", crw()},
-            {"X3F", x3f()}};
+            {"DDS", dds(), false},  {"XCF", xcf()},
+            {"RAF", raf()},         {"MRW", mrw()},
+            {"CRW", crw()},         {"X3F", x3f()}};
 }
 
 }  // namespace vantor::test
