@@ -11,6 +11,7 @@ namespace vantor {
 namespace {
 
 constexpr std::uint64_t kStreamInfoAt = 8;
+constexpr std::uint64_t kMostZeros = 1 << 20;  // of one coded sample; more is an empty medium
 
 // Bits from a view, most significant first, with the running checksums over the whole bytes taken so far.
 class BitReader {
@@ -44,7 +45,7 @@ class BitReader {
     std::uint64_t unary() {
         std::uint64_t zeros = 0;
         while (m_ok && take(1) == 0)
-            ++zeros;
+            m_ok = ++zeros < kMostZeros;
         return zeros;
     }
 
@@ -156,7 +157,7 @@ Frame readFrame(ByteView& view, std::uint64_t at, unsigned streamBits) {
     BitReader in(view, at);
     Frame frame;
     const auto bad = [&] {
-        frame.cut = !in.ok();
+        frame.cut = !in.ok() && in.at() >= view.size();
         return frame;
     };
     if (in.take(15) != 0x7FFC)

@@ -1,4 +1,6 @@
 // GIF: blocks and their sub-blocks to the trailer. Source: GIF89a specification.
+#include <algorithm>
+
 #include "formats/Walkers.h"
 
 namespace vantor {
@@ -12,15 +14,29 @@ std::uint64_t colourTableBytes(std::uint8_t flags) {
     return (flags & 0x80) != 0 ? std::uint64_t{3} << ((flags & 7) + 1) : 0;
 }
 
-// Position behind a chain of sub-blocks, or nothing when the view ends inside it.
-std::optional<std::uint64_t> skipSubBlocks(ByteView& view, std::uint64_t at) {
+// An erased sector reads as a full block of ones, which no picture data is.
+bool isErased(ByteView& view, std::uint64_t at) {
+    constexpr std::size_t kBlock = 256;
+    const auto block = view.window(at, kBlock);
+    return block.size() >= kBlock &&
+           std::all_of(block.begin(), block.begin() + kBlock, [](auto byte) { return byte == 0xFF; });
+}
+
+struct Skipped {
+    std::uint64_t at = 0;  // behind the chain, or where it stopped
+    Verdict verdict = Verdict::Complete;
+};
+
+Skipped skipSubBlocks(ByteView& view, std::uint64_t at) {
     for (;;) {
         const auto length = view.u8(at);
         if (!length)
-            return std::nullopt;
+            return {std::min(at, view.size()), Verdict::CutOff};
+        if (*length == 0xFF && isErased(view, at))
+            return {at, Verdict::Damaged};
         at += 1 + *length;
         if (*length == 0)
-            return at;
+            return {at, Verdict::Complete};
     }
 }
 
@@ -39,7 +55,7 @@ Extent walkGif(ByteView& view) {
         const auto kind = view.u8(at);
         if (!kind)
             return cutOffAt(view, at, facts);
-        std::optional<std::uint64_t> next;
+        Skipped next;
         if (*kind == 0x3B)
             return sawPicture ? completeAt(view, at + 1, facts) : damagedAt(view, at + 1, facts);
         if (*kind == 0x21) {
@@ -52,13 +68,15 @@ Extent walkGif(ByteView& view) {
                 return damagedAt(view, at, facts);
             next = skipSubBlocks(view, at + 11 + colourTableBytes(flags.value_or(0)));
         } else if (*kind == 0 && ++padding <= kMostPadding) {
-            next = at + 1;
+            next.at = at + 1;
         } else {
             return damagedAt(view, at, facts);
         }
-        if (!next)
-            return cutOffAt(view, view.size(), facts);
-        at = *next;
+        if (next.verdict == Verdict::CutOff)
+            return cutOffAt(view, next.at, facts);
+        if (next.verdict == Verdict::Damaged)
+            return damagedAt(view, next.at, facts);
+        at = next.at;
     }
 }
 

@@ -41,9 +41,11 @@ Extent walkGzip(ByteView& view) {
         const auto data = members == 1 && at % kSector == 0 ? 0 : memberData(view, at);
         if (data == 0)
             return members != 0 ? completeAt(view, at) : unknownExtent();
-        const auto result = inflate(view, data, fairInflateOutput(view, data));
+        const auto result = inflate(view, data, kAnyOutput);
         if (result.outcome == InflateOutcome::Cut)
             return cutOffAt(view, result.end);
+        if (result.outcome == InflateOutcome::TooMuch)
+            return unknownExtent();
         if (result.outcome != InflateOutcome::Done)
             return damagedAt(view, result.end);
         const auto crc = view.le32(result.end), bytes = view.le32(result.end + 4);

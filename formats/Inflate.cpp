@@ -16,10 +16,15 @@ namespace {
 constexpr std::size_t kHistory = 32 * 1024;
 constexpr unsigned kEndOfBlock = 256;
 
+// Output that any stream may have, and beyond it for each byte of input: real files stay under both,
+// compressed bombs do not burn minutes.
+constexpr std::uint64_t kFreeOutput = 256 * 1024 * 1024;
+constexpr std::uint64_t kFairRatio = 64;
+
 class Inflater {
   public:
     Inflater(ByteView& view, std::uint64_t at, std::uint64_t mostOutput)
-        : m_view(view), m_at(at), m_most(mostOutput), m_history(kHistory) {}
+        : m_view(view), m_first(at), m_at(at), m_most(mostOutput), m_history(kHistory) {}
 
     InflateResult run();
 
@@ -36,6 +41,7 @@ class Inflater {
     bool fail(InflateOutcome outcome);
 
     ByteView& m_view;
+    const std::uint64_t m_first;
     std::uint64_t m_at;  // next byte to load
     const std::uint64_t m_most;
     std::span<const std::uint8_t> m_input;
@@ -111,7 +117,8 @@ bool Inflater::put(std::uint8_t byte) {
     if (m_fill == kHistory) {
         account();
         m_fill = m_accounted = 0;
-        if (m_result.produced > m_most)
+        const auto fair = addClamped(kFreeOutput, mulClamped(kFairRatio, m_at - m_first));
+        if (m_result.produced > m_most || m_result.produced > fair)
             return fail(InflateOutcome::TooMuch);
     }
     return true;
@@ -263,12 +270,6 @@ InflateResult Inflater::run() {
 }
 
 }  // namespace
-
-std::uint64_t fairInflateOutput(const ByteView& view, std::uint64_t from) {
-    constexpr std::uint64_t kAllowance = 256 * 1024 * 1024;
-    constexpr std::uint64_t kRatio = 20;
-    return addClamped(kAllowance, mulClamped(kRatio, view.size() - std::min(from, view.size())));
-}
 
 InflateResult inflate(ByteView& view, std::uint64_t at, std::uint64_t mostOutput) {
     return Inflater(view, at, mostOutput).run();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 
 #include "formats/ByteView.h"
 
@@ -12,7 +13,7 @@ enum class InflateOutcome {
     Done,
     Cut,      // the view ended first
     Broken,   // not a deflate stream from some point on
-    TooMuch,  // more output than `mostOutput`: given up
+    TooMuch,  // given up: more output than `mostOutput`, or than real files of that length unpack to
 };
 
 struct InflateResult {
@@ -23,8 +24,7 @@ struct InflateResult {
     std::uint32_t adler = 1;  // Adler-32 of the output
 };
 
-// A limit on output that real files stay under and that keeps compressed bombs from burning hours.
-std::uint64_t fairInflateOutput(const ByteView& view, std::uint64_t from);
+constexpr std::uint64_t kAnyOutput = std::numeric_limits<std::uint64_t>::max();
 
 // Walks the deflate stream (RFC 1951) that begins at `at`. Memory use is fixed.
 InflateResult inflate(ByteView& view, std::uint64_t at, std::uint64_t mostOutput);

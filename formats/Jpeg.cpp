@@ -18,6 +18,8 @@ constexpr std::uint64_t kSector = 512;
 // Coded pictures hold an 0xFF every 256 bytes on average. A stretch this long without one is foreign (zeros,
 // text) unless the picture goes on properly behind it, as blank areas can.
 constexpr std::uint64_t kSuspiciousRun = 8 * 1024;
+// Beyond this nobody goes on looking.
+constexpr std::uint64_t kHopelessRun = 4 * 1024 * 1024;
 constexpr std::uint64_t kMostFillBytes = 64;       // 0xFF before a marker
 constexpr std::uint64_t kMostSegmentPadding = 64;  // stray bytes some writers leave between segments
 constexpr std::uint64_t kMostPictures = 64;        // of a multi-picture file
@@ -134,9 +136,11 @@ JpegWalk::Step JpegWalk::segment() {
 JpegWalk::Step JpegWalk::scan() {
     int restart = -1;
     for (;;) {
-        const auto hit = m_view.find(0xFF, m_at, m_view.size());
+        const auto hit = m_view.find(0xFF, m_at, std::min(m_view.size(), m_at + kHopelessRun));
         if (hit - m_at >= kSuspiciousRun && m_suspect == 0)
             m_suspect = m_at;
+        if (hit - m_at >= kHopelessRun)
+            return Step::Broken;
         m_at = hit;
         auto next = m_view.u8(hit + 1);
         if (!next)

@@ -40,7 +40,12 @@ Extent scanToEnd(ByteView& view, std::uint64_t at, const Facts& facts) {
     }
     at += 2;
     for (;;) {
-        at = view.find(0xFF, at, view.size());
+        constexpr std::uint64_t kHopelessRun =
+            4 * 1024 * 1024;  // without a byte that packed data often holds
+        const auto hit = view.find(0xFF, at, std::min(view.size(), at + kHopelessRun));
+        if (hit - at >= kHopelessRun)
+            return damagedAt(view, at, facts);
+        at = hit;
         const auto next = view.u8(at + 1);
         if (!next)
             return cutOffAt(view, at, facts);

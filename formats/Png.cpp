@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::uint64_t kSignatureBytes = 8;
 constexpr std::uint64_t kChunkFrame = 12;  // length, type, checksum
-constexpr std::uint32_t kMostChunkBytes = 0x7FFFFFFF;
+constexpr std::uint32_t kMostChunkBytes = 256 * 1024 * 1024;
 
 constexpr std::uint32_t chunkName(const char (&name)[5]) {
     return static_cast<std::uint32_t>(static_cast<std::uint8_t>(name[0])) << 24 |

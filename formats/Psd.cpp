@@ -77,7 +77,7 @@ Extent walkPsd(ByteView& view) {
     }
     if (*compression != kZip && *compression != kZipPredicted)
         return damagedAt(view, at - 2, facts);
-    const auto result = inflateZlib(view, at, fairInflateOutput(view, at));
+    const auto result = inflateZlib(view, at, kAnyOutput);
     if (result.outcome == InflateOutcome::Cut)
         return cutOffAt(view, result.end, facts);
     return result.outcome == InflateOutcome::Done ? completeAt(view, result.end, facts)

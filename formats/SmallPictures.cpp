@@ -7,6 +7,12 @@
 
 namespace vantor {
 
+namespace {
+
+constexpr std::uint64_t kMostPixels = 1 << 28;  // beyond all pictures in these formats
+
+}  // namespace
+
 Extent walkIcon(ByteView& view) {
     constexpr std::uint64_t kEntry = 16;
     const auto kind = view.le16(2).value_or(0), count = view.le16(4).value_or(0);
@@ -63,6 +69,8 @@ Extent walkPcx(ByteView& view) {
     facts.height = bottom - top + 1U;
     // Runs must cover the rows; a run may, against the rules, cross into the next row.
     const std::uint64_t wanted = std::uint64_t{rowBytes} * planes * facts.height;
+    if (wanted > kMostPixels)
+        return unknownExtent();
     std::uint64_t at = kHead;
     for (std::uint64_t done = 0; done < wanted;) {
         const auto byte = view.u8(at);
@@ -98,7 +106,8 @@ Extent walkTga(ByteView& view) {
     const bool depth = bits == 8 || bits == 15 || bits == 16 || bits == 24 || bits == 32;
     const bool map = mapBits == 0 || mapBits == 15 || mapBits == 16 || mapBits == 24 || mapBits == 32;
     if (!in.ok() || mapped > 1 || plain < 1 || plain > 3 || (type & ~11) != 0 || !depth || !map ||
-        facts.width == 0 || facts.height == 0 || (descriptor & 0xC0) != 0 || (plain == 1) != (mapped == 1))
+        facts.width == 0 || facts.height == 0 || std::uint64_t{facts.width} * facts.height > kMostPixels ||
+        (descriptor & 0xC0) != 0 || (plain == 1) != (mapped == 1))
         return unknownExtent();
     const std::uint64_t pixelBytes = (bits + 7U) / 8;
     const std::uint64_t pixels = std::uint64_t{facts.width} * facts.height;

@@ -100,7 +100,10 @@ Extent walkMusepack8(ByteView& view) {
 // are stored low byte first.
 Extent walkMusepack7(ByteView& view) {
     constexpr std::uint64_t kFirstFrameBit = 25 * 8;
+    constexpr std::uint32_t kMostFrames = 1 << 24;  // five days
     const auto frames = view.le32(4).value_or(0);
+    if (frames == 0 || frames > kMostFrames)
+        return unknownExtent();
     std::uint64_t bit = kFirstFrameBit;
     for (std::uint32_t frame = 0; frame < frames; ++frame) {
         const auto word = bit / 32 * 4;

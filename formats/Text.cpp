@@ -28,7 +28,7 @@ Extent walkRecords(ByteView& view, std::string_view begin, std::string_view end)
             last = in.next();
             if (last < 0)
                 return cutOffAt(view, before);
-            if (isControl(last))
+            if (isForeign(last))
                 return damagedAt(view, whole != 0 ? whole : before);
         }
     }
@@ -47,7 +47,7 @@ Extent walkRtf(ByteView& view) {
         int byte = in.next();
         if (byte < 0)
             return cutOffAt(view, at);
-        if (isControl(byte))
+        if (isForeign(byte))
             return damagedAt(view, at);
         if (byte == '{')
             ++depth;

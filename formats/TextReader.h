@@ -35,6 +35,11 @@ inline bool isControl(int unit) {
     return unit < 0x20 && unit != '\t' && unit != '\n' && unit != '\r' && unit != '\f';
 }
 
+// A control character, or the value of an erased sector, which is no letter in any usual encoding of markup.
+inline bool isForeign(int byte) {
+    return isControl(byte) || byte == 0xFF;
+}
+
 inline bool isTextSpace(int byte) {
     return byte == ' ' || byte == '\t' || byte == '\n' || byte == '\r';
 }

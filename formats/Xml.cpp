@@ -35,7 +35,7 @@ XmlWalk::Step XmlWalk::skipTo(std::string_view mark) {
         const int byte = m_in.next();
         if (byte < 0)
             return Step::Cut;
-        if (isControl(byte))
+        if (isForeign(byte))
             return Step::Broken;
         recent.push_back(static_cast<char>(byte));
         if (recent.size() > mark.size())
@@ -53,7 +53,7 @@ XmlWalk::Step XmlWalk::doctype() {
         const int byte = m_in.next();
         if (byte < 0)
             return Step::Cut;
-        if (isControl(byte))
+        if (isForeign(byte))
             return Step::Broken;
         if (quote != 0)
             quote = byte == quote ? 0 : quote;
@@ -83,7 +83,7 @@ XmlWalk::Step XmlWalk::tag() {
         const int byte = m_in.next();
         if (byte < 0)
             return Step::Cut;
-        if (isControl(byte) || (byte == '<' && quote == 0))
+        if (isForeign(byte) || (byte == '<' && quote == 0))
             return Step::Broken;
         if (quote != 0) {
             quote = byte == quote ? 0 : quote;
@@ -109,7 +109,7 @@ Extent XmlWalk::walk() {
         const int byte = m_in.next();
         if (byte < 0)
             return cutOffAt(m_view, at);
-        if (isControl(byte))
+        if (isForeign(byte))
             return damagedAt(m_view, at);
         if (byte != '<')
             continue;

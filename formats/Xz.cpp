@@ -55,6 +55,9 @@ std::optional<std::uint64_t> skipChunks(ByteView& view, std::uint64_t at) {
         if (control < 0x80)
             return std::nullopt;
         const std::uint64_t head = control >= 0xC0 ? 6 : 5;
+        constexpr std::uint8_t kMostProperties = 224;
+        if (head == 6 && view.u8(at + 5).value_or(0) > kMostProperties)
+            return std::nullopt;
         at += head + 1 + view.be16(at + 3).value_or(0);
     }
     return view.size() + 1;

@@ -152,7 +152,7 @@ ZipWalk::Step ZipWalk::searchDescriptor(const LocalEntry& entry) {
 ZipWalk::Step ZipWalk::followData(const LocalEntry& entry) {
     if (entry.method != 8 || entry.encrypted())
         return searchDescriptor(entry);
-    const auto result = inflate(m_view, entry.data, fairInflateOutput(m_view, entry.data));
+    const auto result = inflate(m_view, entry.data, kAnyOutput);
     m_at = result.end;
     if (result.outcome == InflateOutcome::Cut)
         return Step::Cut;
