@@ -27,7 +27,6 @@ class CompoundWalk {
     const unsigned m_shift;
     std::uint64_t m_tables = 0;
     std::uint64_t m_lastUsed = 0;
-    bool m_broken = false;
 };
 
 // Takes one sector of the allocation table; false where it does not lie in the view.

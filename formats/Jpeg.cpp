@@ -10,7 +10,6 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint8_t kSoi = 0xD8;
 constexpr std::uint8_t kEoi = 0xD9;
 constexpr std::uint8_t kSos = 0xDA;
 constexpr std::uint64_t kSector = 512;

@@ -88,8 +88,7 @@ Bytes matroska(bool open) {
 }
 
 Bytes asf() {
-    const Bytes header("\x30\x26\xB2\x75\x8E\x66\xCF\x11\xA6\xD9\x00\xAA\x00\x62\xCE\x6C" + 0,
-                       "\x30\x26\xB2\x75\x8E\x66\xCF\x11\xA6\xD9\x00\xAA\x00\x62\xCE\x6C" + 16);
+    const Bytes header = Build().be64(0x3026B2758E66CF11).be64(0xA6D900AA0062CE6C);
     Bytes data = header;
     data[0] = 0x36;
     return Build().add(header).le64(30).le32(0).le16(0x201).add(data).le64(74).fill(50, 9);
