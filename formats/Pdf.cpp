@@ -179,6 +179,7 @@ Extent PdfWalk::walk() {
             if (judge(at) == Mark::Last)
                 return completeAt(m_view, m_lastMark);
         } else if (isForeignStart(at)) {
+            m_lastSign = std::min(m_lastSign, at);  // signs behind are the other's
             break;
         }
         ++at;
