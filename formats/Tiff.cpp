@@ -24,6 +24,9 @@ enum Tag : std::uint16_t {
     kSubDirectories = 330,
     kJpegOffset = 513,
     kJpegBytes = 514,
+    kPanasonicWidth = 2,
+    kPanasonicHeight = 3,
+    kPanasonicBits = 10,
     kPanasonicRawOffset = 280,
     kExif = 34665,
     kGps = 34853,
@@ -37,6 +40,7 @@ enum Tag : std::uint16_t {
     kXrAlphaBytes = 0xBCC3,
 };
 
+constexpr std::uint16_t kPanasonicMagic = 0x55;
 constexpr std::size_t kMostDirectories = 512;
 constexpr std::uint64_t kMostPieces = 1 << 21;  // strips and tiles of one directory
 constexpr std::uint64_t kMostValueBytes = 1 << 30;
@@ -44,7 +48,7 @@ constexpr std::uint64_t kMostValueBytes = 1 << 30;
 // Values of these magic numbers: TIFF, BigTIFF, and makers' own (Panasonic, Olympus twice and in the other
 // order of bytes, Kodak), and JPEG XR.
 bool isKnownMagic(std::uint16_t magic) {
-    return magic == 42 || magic == 43 || magic == 0x55 || magic == 0x4F52 || magic == 0x5352 ||
+    return magic == 42 || magic == 43 || magic == kPanasonicMagic || magic == 0x4F52 || magic == 0x5352 ||
            magic == 0x01BC;
 }
 
@@ -61,12 +65,15 @@ class TiffWalk {
     };
     struct Found {
         Pieces strips, tiles, jpeg, xr, xrAlpha;
-        std::uint64_t width = 0, height = 0, bits = 1, samples = 1, compression = 1, rawOffset = 0;
+        std::uint64_t width = 0, height = 0, bits = 1, samples = 1, compression = 1, rawOffset = 0,
+                      rawBits = 12;
     };
 
     void enqueue(std::uint64_t relative);
     void directory(std::uint64_t at);
     void entry(const TiffEntry& entry, Found& found);
+    void panasonicEntry(const TiffEntry& entry, Found& found);
+    void panasonicRaw(const Found& found);
     void pieces(const Pieces& pieces, const Found& found);
     void sizes(const Found& found);
     void reach(std::uint64_t end);
@@ -142,10 +149,6 @@ void TiffWalk::entry(const TiffEntry& entry, Found& found) {
         case kXrAlphaBytes:
             found.xrAlpha.bytes = entry;
             break;
-        case kPanasonicRawOffset:
-            if (m_header.magic == 0x55)
-                found.rawOffset = number();
-            break;
         case kExif:
         case kGps:
         case kInterop:
@@ -164,12 +167,37 @@ void TiffWalk::entry(const TiffEntry& entry, Found& found) {
     }
 }
 
+// Panasonic's own tags stand in the place of the usual ones.
+void TiffWalk::panasonicEntry(const TiffEntry& entry, Found& found) {
+    const auto value = readTiffNumber(m_view, m_header, entry, 0).value_or(0);
+    if (entry.tag == kPanasonicWidth)
+        found.width = value;
+    else if (entry.tag == kPanasonicHeight)
+        found.height = value;
+    else if (entry.tag == kPanasonicBits)
+        found.rawBits = value;
+    else if (entry.tag == kPanasonicRawOffset)
+        found.rawOffset = value;
+}
+
+// The length of Panasonic's raw data is told nowhere. Pixels come in packs of 16 bytes: 14 of up to 12 bits,
+// of more bits 11 or, at worst, 9.
+void TiffWalk::panasonicRaw(const Found& found) {
+    constexpr std::uint64_t kMostSide = 1 << 16;
+    if (found.rawOffset == 0 || found.width > kMostSide || found.height > kMostSide)
+        return;
+    const std::uint64_t pixelsPerPack = found.rawBits <= 12 ? 14 : 9;
+    reach(addClamped(addClamped(m_header.base, found.rawOffset),
+                     found.width * found.height / pixelsPerPack * 16));
+}
+
 // Reaches to the end of every strip or tile. Offsets and lengths stand in two tables: read in runs, so that
 // the window does not jump to and fro for each piece.
 void TiffWalk::pieces(const Pieces& pieces, const Found& found) {
     if (!pieces.offsets)
         return;
     constexpr std::uint64_t kRun = 512;
+    constexpr std::uint64_t kNoOffset = 0xFFFFFFFF;  // Panasonic: see its own tag
     std::array<std::uint64_t, kRun> offsets{};
     const auto count = std::min(pieces.offsets->count, kMostPieces);
     const std::uint64_t lengths = pieces.bytes ? pieces.bytes->count : 0;
@@ -190,7 +218,7 @@ void TiffWalk::pieces(const Pieces& pieces, const Found& found) {
                 bytes =
                     mulClamped(mulClamped(found.width, found.height), mulClamped(found.bits, found.samples)) /
                     8;
-            if (bytes != 0)
+            if (bytes != 0 && offsets[i] != kNoOffset)
                 reach(addClamped(addClamped(m_header.base, offsets[i]), bytes));
         }
     }
@@ -224,9 +252,12 @@ void TiffWalk::directory(std::uint64_t at) {
         else if (!one->isInline)
             reach(addClamped(one->valueAt, one->valueBytes));
         entry(*one, found);
+        if (m_header.magic == kPanasonicMagic)
+            panasonicEntry(*one, found);
     }
     for (const Pieces& each : {found.strips, found.tiles, found.jpeg, found.xr, found.xrAlpha})
         pieces(each, found);
+    panasonicRaw(found);
     sizes(found);
     if (const auto next = readTiffNext(m_view, m_header, *directory))
         enqueue(*next);

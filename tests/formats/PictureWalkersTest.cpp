@@ -165,6 +165,18 @@ TEST(Tiff, Facts_AreSizeAndDate) {
     }
 }
 
+TEST(Tiff, PanasonicRaw_ReachesAsFarAsItsPixelsTake) {
+    Build raw;
+    raw.text("II").le16(0x55).le32(8).le16(5);
+    for (const auto& [tag, value] : {std::pair{2, 140}, {3, 100}, {10, 12}, {273, -1}, {280, 512}})
+        raw.le16(static_cast<std::uint64_t>(tag)).le16(4).le32(1).le32(static_cast<std::uint64_t>(value));
+    raw.le32(0).to(20'000);
+    const Extent extent = walkBytes("RW2", raw);
+    EXPECT_EQ(extent.verdict, Verdict::Complete);
+    EXPECT_EQ(extent.end, 512U + 140 * 100 / 14 * 16);
+    EXPECT_FALSE(extent.exactEnd);
+}
+
 TEST(Tiff, StripBeyondTheMedium_IsCutOff) {
     Bytes cut = tiff();
     cut.resize(cut.size() - 1);
