@@ -56,6 +56,28 @@ TEST(Zip, SizesBehindTheData_AreFoundByUnpacking) {
     EXPECT_EQ(walkBytes("DOCX", streamedZip(1)).verdict, Verdict::Damaged);
 }
 
+TEST(Zip, PackedContent_IsProvedByItsChecksum) {
+    const auto make = [](std::uint32_t crc) {
+        Build out;
+        out.text("PK\x03\x04")
+            .le16(20)
+            .le16(0)
+            .le16(8)
+            .le32(0)
+            .le32(crc)
+            .le32(kPacked.size())
+            .le32(kContent.size());
+        out.le16(1).le16(0).text("a").add(kPacked);
+        const auto directory = out.size();
+        out.text("PK\x01\x02").le16(20).le16(20).le16(0).le16(8).le32(0).le32(crc).le32(kPacked.size());
+        out.le32(kContent.size()).le16(1).le16(0).le16(0).le16(0).le16(0).le32(0).le32(0).text("a");
+        const auto bytes = out.size() - directory;
+        return out.text("PK\x05\x06").le32(0).le16(1).le16(1).le32(bytes).le32(directory).le16(0);
+    };
+    EXPECT_EQ(walkBytes("ZIP", make(crc32(0, kContent))).verdict, Verdict::Complete);
+    EXPECT_EQ(walkBytes("ZIP", make(7)).verdict, Verdict::Damaged);
+}
+
 TEST(Zip, SpoiltContent_IsDamageButAllIsKept) {
     Bytes spoilt = zip("a", kContent);
     spoilt[40] ^= 1;
@@ -119,6 +141,14 @@ TEST(Pdf, LinearizedFile_EndsAtItsToldLength) {
     const Extent extent = walkBytes("PDF", Build().text(told).fill(9000, 0xC3));
     EXPECT_EQ(extent.verdict, Verdict::Complete);
     EXPECT_EQ(extent.end, told.size());
+}
+
+TEST(Pdf, LinearizedFileThatIsCut_DoesNotEndAtItsFirstMark) {
+    std::string cut = "%PDF-1.4\n1 0 obj\n<</Linearized 1/L 90000/O 3>>\nendobj\n";
+    const auto section = cut.size();
+    cut += "xref\n0 1\ntrailer\n<<>>\nstartxref\n" + std::to_string(section) + "\n%%EOF\n" +
+           std::string(3000, ' ');
+    EXPECT_EQ(walkBytes("PDF", Build().text(cut)).verdict, Verdict::CutOff);
 }
 
 TEST(Pdf, NextDocumentAtASector_IsNotSwallowedByACutOne) {

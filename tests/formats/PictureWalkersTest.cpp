@@ -148,7 +148,7 @@ TEST(Png, ForeignBytesInAChunk_EndBeforeTheChunk) {
     EXPECT_EQ(walkBytes("PNG", cut).end, head.size());
 }
 
-TEST(Tiff, DirectoriesInACircle_AreVisitedOnce) {
+TEST(Tiff, DirectoriesInACircle_ComeToAnEnd) {
     Bytes circle = tiff();
     circle[8 + 2 + 5 * 12] = 8;  // the link to the next directory names this one
     const Extent extent = walkBytes("TIF", circle);
