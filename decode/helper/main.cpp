@@ -1,0 +1,43 @@
+// vantor-decode: decodes carved pictures in the program's place. Started by the program only, with its
+// process id as the argument and a socket as descriptor 3.
+#include <malloc.h>
+#include <time.h>
+#include <unistd.h>
+
+#include <QCoreApplication>
+#include <QThreadPool>
+#include <cstdio>
+#include <cstdlib>
+
+#include "decode/helper/Cage.h"
+#include "decode/helper/Channel.h"
+#include "decode/helper/PictureDecoder.h"
+
+int main(int argc, char** argv) {
+    using namespace vantor::decode;
+    if (argc != 2) {
+        std::fputs("vantor-decode is started by the program itself.\n", stderr);
+        return EXIT_FAILURE;
+    }
+    silenceErrors();
+    // Large blocks come straight from the system and go back to it, so that one large picture does not stay
+    // with us.
+    mallopt(M_MMAP_THRESHOLD, 256 * 1024);
+    tzset();
+    QCoreApplication application(argc, argv);
+    // Pictures are decoded side by side by processes, not by threads.
+    QThreadPool::globalInstance()->setMaxThreadCount(1);
+    preparePictureDecoders();
+
+    CageOptions options;
+    options.parent = static_cast<pid_t>(std::strtol(argv[1], nullptr, 10));
+    bool parentGone = false;
+    const bool caged = enterCage(options, parentGone);
+    Channel channel(kHelperSocket);
+    if (parentGone || !channel.sayReady(caged)) {
+        _exit(EXIT_SUCCESS);
+    }
+    PictureJobDecoder decoder;
+    // Past every clean-up that a damaged heap could trip over.
+    _exit(channel.serve(decoder) ? EXIT_SUCCESS : EXIT_FAILURE);
+}
