@@ -17,8 +17,8 @@ namespace vantor::decode {
 
 namespace {
 
-// Pixels of one picture, in megabytes: 48 megapixels take 192, the reader's own default is 128.
-constexpr int kAllocationLimitMegabytes = 512;
+// Pixels of one picture, in megabytes: enough for 150 megapixels; the reader's own default is 128.
+constexpr int kAllocationLimitMegabytes = 640;
 
 QSize scaledInto(QSize full, QSize bound) {
     if (full.width() <= bound.width() && full.height() <= bound.height()) {

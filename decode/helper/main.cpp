@@ -1,6 +1,5 @@
 // vantor-decode: decodes carved pictures in the program's place. Started by the program only, with its
 // process id as the argument and a socket as descriptor 3.
-#include <malloc.h>
 #include <time.h>
 #include <unistd.h>
 
@@ -20,9 +19,7 @@ int main(int argc, char** argv) {
         return EXIT_FAILURE;
     }
     silenceErrors();
-    // Large blocks come straight from the system and go back to it, so that one large picture does not stay
     // with us.
-    mallopt(M_MMAP_THRESHOLD, 256 * 1024);
     tzset();
     QCoreApplication application(argc, argv);
     // Pictures are decoded side by side by processes, not by threads.

@@ -16,10 +16,6 @@ using Handle = std::unique_ptr<heif_image_handle, decltype(&heif_image_handle_re
 using Image = std::unique_ptr<heif_image, decltype(&heif_image_release)>;
 using Options = std::unique_ptr<heif_decoding_options, decltype(&heif_decoding_options_free)>;
 
-// Half a gigapixel is no camera's.
-constexpr int kMostSide = 32768;
-constexpr qint64 kMostPixels = qint64{128} * 1024 * 1024;
-
 std::uint64_t bigEndian(const QByteArray& bytes, qsizetype at, int width) {
     std::uint64_t value = 0;
     for (int i = 0; i < width; ++i) {
@@ -77,8 +73,8 @@ QImage decodeHeif(const QByteArray& bytes) {
     const Handle handle(primary, &heif_image_handle_release);
     const int width = heif_image_handle_get_width(primary);
     const int height = heif_image_handle_get_height(primary);
-    if (width <= 0 || height <= 0 || width > kMostSide || height > kMostSide ||
-        qint64{width} * height > kMostPixels) {
+    if (width <= 0 || height <= 0 ||
+        !isReasonableSize(static_cast<std::uint64_t>(width), static_cast<std::uint64_t>(height))) {
         return {};
     }
     const bool alpha = heif_image_handle_has_alpha_channel(primary);
