@@ -1,17 +1,15 @@
 // Lending helpers out, judging how each came back, and keeping their number.
 #include "decode/DecodePool.h"
 
-#include <fcntl.h>
 #include <signal.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
 #include <algorithm>
 #include <cstring>
 
+#include "decode/RegularFile.h"
+#include "decode/SharedPixels.h"
 #include "decode/ThumbnailCodec.h"
 
 namespace vantor {
@@ -111,20 +109,14 @@ DecodedPicture DecodePool::picture(const QByteArray& encoded, QSize bound, const
 }
 
 DecodedPicture DecodePool::picture(const QString& path, QSize bound) {
-    const int file = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (file < 0) {
+    const decode::RegularFile file(path);
+    if (bound.isEmpty() || !file.isOpen()) {
         return {};
     }
-    DecodedPicture decoded;
-    struct stat facts {};
-    if (!bound.isEmpty() && fstat(file, &facts) == 0 && S_ISREG(facts.st_mode) && facts.st_size > 0) {
-        const Request request = pictureRequest(bound, extensionHint(path));
-        decoded = decode([&](HelperProcess& helper, Answer& answer) {
-            return helper.askFile(request, file, m_options.pictureDeadline, answer);
-        });
-    }
-    close(file);
-    return decoded;
+    const Request request = pictureRequest(bound, extensionHint(path));
+    return decode([&](HelperProcess& helper, Answer& answer) {
+        return helper.askFile(request, file.descriptor(), m_options.pictureDeadline, answer);
+    });
 }
 
 DecodePoolCounts DecodePool::counts() const {
@@ -155,14 +147,8 @@ AskOutcome DecodePool::askOnce(const Ask& ask, DecodedPicture& picture, bool& ki
     Answer answer;
     const AskOutcome outcome = ask(*helper, answer);
     if (outcome == AskOutcome::Answered && answer.status == AnswerStatus::Ok) {
-        const bool alpha = (answer.flags & decode::kHasAlpha) != 0;
-        const QImage shared(reinterpret_cast<const uchar*>(helper->pixels()), static_cast<int>(answer.width),
-                            static_cast<int>(answer.height),
-                            static_cast<qsizetype>(answer.width) * decode::kBytesPerPixel,
-                            alpha ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
-        picture.image = shared.copy();
-        picture.fullSize = QSize(static_cast<int>(std::min<std::uint32_t>(answer.fullWidth, INT_MAX)),
-                                 static_cast<int>(std::min<std::uint32_t>(answer.fullHeight, INT_MAX)));
+        picture.image = decode::copyOfPixels(*helper, answer);
+        picture.fullSize = decode::fullSizeOf(answer);
         picture.partial = (answer.flags & decode::kPartial) != 0;
     }
     if (outcome == AskOutcome::Answered || outcome == AskOutcome::NotPossible) {

@@ -59,6 +59,7 @@ enum AnswerFlags : std::uint32_t {
     kPartial = 1,   // the bytes ended or broke before the picture did
     kHasAlpha = 2,  // pixels are premultiplied ARGB, else RGB with an unused byte
     kCaged = 4,     // (Ready only) the system-call filter is in force
+    kHasSound = 8,  // (movies) there is a sound stream as well
 };
 
 // The pixels lie at the start of the output memory, width * kBytesPerPixel bytes a row.

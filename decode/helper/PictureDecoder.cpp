@@ -8,10 +8,10 @@
 #include <QImageReader>
 #include <QTransform>
 #include <algorithm>
-#include <cstring>
 #include <exception>
 
 #include "decode/helper/PictureKind.h"
+#include "decode/helper/PixelCopy.h"
 
 namespace vantor::decode {
 
@@ -128,13 +128,6 @@ std::optional<PictureResult> decodeBy(const QByteArray& handler, QByteArrayView 
     return result.image.isNull() ? std::nullopt : std::optional(result);
 }
 
-void writePixels(const QImage& image, std::span<std::byte> pixels) {
-    const auto rowBytes = static_cast<std::size_t>(image.width()) * kBytesPerPixel;
-    for (int y = 0; y < image.height(); ++y) {
-        std::memcpy(pixels.data() + rowBytes * static_cast<std::size_t>(y), image.constScanLine(y), rowBytes);
-    }
-}
-
 }  // namespace
 
 std::optional<PictureResult> decodePicture(QByteArrayView bytes, QByteArrayView extension, QSize bound) {
@@ -169,16 +162,12 @@ Answer PictureJobDecoder::decode(const Job& job) {
     } catch (const std::exception&) {
         // Out of memory within the limit, mostly: no picture.
     }
-    if (!result) {
+    if (!result || !copyPixels(result->image, bound, job.pixels, answer)) {
         return answer;
     }
-    writePixels(result->image, job.pixels);
-    answer.status = AnswerStatus::Ok;
-    answer.width = static_cast<std::uint32_t>(result->image.width());
-    answer.height = static_cast<std::uint32_t>(result->image.height());
     answer.fullWidth = static_cast<std::uint32_t>(result->fullSize.width());
     answer.fullHeight = static_cast<std::uint32_t>(result->fullSize.height());
-    answer.flags = (result->partial ? kPartial : 0U) | (result->image.hasAlphaChannel() ? kHasAlpha : 0U);
+    answer.flags |= result->partial ? kPartial : 0U;
     return answer;
 }
 
