@@ -1,5 +1,5 @@
-// What decoding in helper processes costs against decoding in this process, and how many photos a second it makes.
-// Usage: decode_bench [JPEG...]; without arguments a 12-megapixel picture is made up.
+// What decoding in helper processes costs against decoding in this process, and how many photos a second it
+// makes. Usage: decode_bench [JPEG...]; without arguments a 12-megapixel picture is made up.
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QFile>
@@ -69,13 +69,15 @@ void compare(DecodePool& pool, const QByteArray& bytes, const char* name) {
         there.push_back(milliseconds(from));
     }
     std::printf("%-40s %6.2f MB  in process %7.2f ms  isolated %7.2f ms  cost %+.2f ms\n", name,
-                static_cast<double>(bytes.size()) / 1e6, median(here), median(there), median(there) - median(here));
+                static_cast<double>(bytes.size()) / 1e6, median(here), median(there),
+                median(there) - median(here));
 }
 
 void measureRate(DecodePool& pool, const QByteArray& bytes) {
     constexpr int kPhotos = 100;
     int shown = 0;
-    ThumbnailQueue queue([&](const QByteArray& one) { return pool.thumbnail(one); }, {.workers = pool.helpers()});
+    ThumbnailQueue queue([&](const QByteArray& one) { return pool.thumbnail(one); },
+                         {.workers = pool.helpers()});
     const auto from = Clock::now();
     for (int i = 0; i < kPhotos; ++i) {
         queue.submit(bytes, [&](const QByteArray& thumbnail) { shown += !thumbnail.isEmpty(); });

@@ -54,7 +54,8 @@ std::optional<MovieFrame> MovieReader::next() {
 
 std::optional<MovieFrame> MovieReader::seek(std::int64_t timeMs) {
     Answer answer;
-    return ask(RequestKind::NextFrame, -1, std::max<std::int64_t>(0, timeMs), m_options.frameDeadline, answer);
+    return ask(RequestKind::NextFrame, -1, std::max<std::int64_t>(0, timeMs), m_options.frameDeadline,
+               answer);
 }
 
 std::optional<MovieFrame> MovieReader::ask(RequestKind kind, int file, std::int64_t timeMs,

@@ -25,13 +25,14 @@ struct MovieFrame {
     std::int64_t timeMs = 0;  // since the movie's beginning
 };
 
-// Made, used and destroyed on one thread, which must outlive it: the system ends the helper with that thread. Every
-// call blocks until its deadline at most; after a crash or a missed deadline the reader is over, isOver() says so,
-// and the program goes on.
+// Made, used and destroyed on one thread, which must outlive it: the system ends the helper with that thread.
+// Every call blocks until its deadline at most; after a crash or a missed deadline the reader is over,
+// isOver() says so, and the program goes on.
 class MovieReader {
   public:
     // Null when the file is no movie that can be shown, or no helper can be started.
-    static std::unique_ptr<MovieReader> open(const QString& path, QSize bound, MovieReaderOptions options = {});
+    static std::unique_ptr<MovieReader> open(const QString& path, QSize bound,
+                                             MovieReaderOptions options = {});
 
     // The displayed size, upright; the length, 0 when not known; whether there is sound.
     QSize fullSize() const { return m_fullSize; }

@@ -11,11 +11,12 @@
 
 namespace vantor::decode {
 
-// Copies an image of four bytes a pixel and fills status, size and alpha of the answer; false when it is null or
-// outside the bound.
+// Copies an image of four bytes a pixel and fills status, size and alpha of the answer; false when it is null
+// or outside the bound.
 inline bool copyPixels(const QImage& image, QSize bound, std::span<std::byte> pixels, Answer& answer) {
     const auto rowBytes = static_cast<std::size_t>(image.width()) * kBytesPerPixel;
-    if (image.isNull() || image.depth() != 32 || image.width() > bound.width() || image.height() > bound.height() ||
+    if (image.isNull() || image.depth() != 32 || image.width() > bound.width() ||
+        image.height() > bound.height() ||
         rowBytes * static_cast<std::size_t>(image.height()) > pixels.size()) {
         return false;
     }

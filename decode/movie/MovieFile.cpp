@@ -34,7 +34,8 @@ constexpr int kDecoderThreads = 2;
 constexpr int kMostFailures = 500;
 constexpr double kUsualFrameRate = 25;
 
-constexpr char kFormats[] = "mov,mp4,m4a,3gp,3g2,mj2,matroska,webm,avi,mpeg,mpegts,asf,flv,dv,mxf,ogg,h264,hevc,rm";
+constexpr char kFormats[] =
+    "mov,mp4,m4a,3gp,3g2,mj2,matroska,webm,avi,mpeg,mpegts,asf,flv,dv,mxf,ogg,h264,hevc,rm";
 
 template <auto release>
 struct Release {
@@ -79,6 +80,8 @@ class LimitedMovie : public MovieFile {
     bool openFormat();
     bool openCodec();
     bool receiveFrame();
+    bool receiveFrameAt(std::int64_t timeMs);
+    bool jumpTo(std::int64_t stamp, int flags);
     std::int64_t frameTimeMs() const;
     std::optional<Frame> display(QSize bound);
     QSize displayedSize(QSize stored) const;
@@ -169,7 +172,9 @@ bool LimitedMovie::openCodec() {
         std::int32_t values[9];
         std::memcpy(values, matrix, sizeof values);
         const double degrees = av_display_rotation_get(values);
-        m_turn = std::isfinite(degrees) ? ((static_cast<int>(std::lround(-degrees / 90)) * 90) % 360 + 360) % 360 : 0;
+        m_turn = std::isfinite(degrees)
+                     ? ((static_cast<int>(std::lround(-degrees / 90)) * 90) % 360 + 360) % 360
+                     : 0;
     }
     m_codec.reset(avcodec_alloc_context3(decoder));
     if (!m_codec || avcodec_parameters_to_context(m_codec.get(), stream->codecpar) < 0) {
@@ -258,19 +263,21 @@ std::optional<Frame> LimitedMovie::display(QSize bound) {
     if (size.width() > room.width() || size.height() > room.height()) {
         size = size.scaled(room, Qt::KeepAspectRatio).expandedTo({1, 1});
     }
-    m_scaler = sws_getCachedContext(m_scaler, frame.width, frame.height, static_cast<AVPixelFormat>(frame.format),
-                                    size.width(), size.height(), AV_PIX_FMT_BGR0, SWS_BILINEAR, nullptr, nullptr,
-                                    nullptr);
+    m_scaler = sws_getCachedContext(m_scaler, frame.width, frame.height,
+                                    static_cast<AVPixelFormat>(frame.format), size.width(), size.height(),
+                                    AV_PIX_FMT_BGR0, SWS_BILINEAR, nullptr, nullptr, nullptr);
     // The scaler may write beyond a row's end, so it gets memory of its own kind.
     const RawFrame scaled(av_frame_alloc());
     scaled->format = AV_PIX_FMT_BGR0;
     scaled->width = size.width();
     scaled->height = size.height();
     if (!m_scaler || av_frame_get_buffer(scaled.get(), 0) < 0 ||
-        sws_scale(m_scaler, frame.data, frame.linesize, 0, frame.height, scaled->data, scaled->linesize) <= 0) {
+        sws_scale(m_scaler, frame.data, frame.linesize, 0, frame.height, scaled->data, scaled->linesize) <=
+            0) {
         return std::nullopt;
     }
-    const QImage image(scaled->data[0], size.width(), size.height(), scaled->linesize[0], QImage::Format_RGB32);
+    const QImage image(scaled->data[0], size.width(), size.height(), scaled->linesize[0],
+                       QImage::Format_RGB32);
     return Frame{m_turn == 0 ? image.copy() : image.transformed(QTransform().rotate(m_turn)), frameTimeMs()};
 }
 
@@ -279,23 +286,37 @@ std::optional<Frame> LimitedMovie::next(QSize bound) {
     return receiveFrame() ? display(bound) : std::nullopt;
 }
 
+bool LimitedMovie::jumpTo(std::int64_t stamp, int flags) {
+    if (av_seek_frame(m_format.get(), m_stream, stamp, flags) < 0) {
+        return false;
+    }
+    avcodec_flush_buffers(m_codec.get());
+    m_draining = false;
+    return true;
+}
+
+bool LimitedMovie::receiveFrameAt(std::int64_t timeMs) {
+    while (receiveFrame()) {
+        if (frameTimeMs() >= timeMs) {
+            return true;
+        }
+    }
+    return false;
+}
+
 std::optional<Frame> LimitedMovie::at(std::int64_t timeMs, QSize bound) {
     startStep();
     const AVStream* stream = m_format->streams[m_stream];
     const std::int64_t first = stream->start_time == AV_NOPTS_VALUE ? 0 : stream->start_time;
     std::int64_t target = av_rescale_q(timeMs, AVRational{1, 1000}, stream->time_base);
-    if (__builtin_add_overflow(target, first, &target) ||
-        av_seek_frame(m_format.get(), m_stream, target, AVSEEK_FLAG_BACKWARD) < 0) {
+    if (__builtin_add_overflow(target, first, &target)) {
         return std::nullopt;
     }
-    avcodec_flush_buffers(m_codec.get());
-    m_draining = false;
-    while (receiveFrame()) {
-        if (frameTimeMs() >= timeMs) {
-            return display(bound);
-        }
+    if (jumpTo(target, AVSEEK_FLAG_BACKWARD) && receiveFrameAt(timeMs)) {
+        return display(bound);
     }
-    return std::nullopt;
+    // Streams without an index may have landed where nothing can be decoded: from the beginning, then.
+    return jumpTo(0, AVSEEK_FLAG_BYTE) && receiveFrameAt(timeMs) ? display(bound) : std::nullopt;
 }
 
 }  // namespace

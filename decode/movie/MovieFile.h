@@ -22,13 +22,14 @@ struct Frame {
 
 class MovieFile {
   public:
-    // Takes the descriptor over. Null when the bytes are no movie with a picture of a kind we know, or when that
-    // cannot be told within kStepLimit.
+    // Takes the descriptor over. Null when the bytes are no movie with a picture of a kind we know, or when
+    // that cannot be told within kStepLimit.
     static std::unique_ptr<MovieFile> open(int descriptor);
     virtual ~MovieFile() = default;
 
     virtual MovieInfo info() const = 0;
-    // The frame after the last; nullopt at the end, at a hopeless break, or when none comes within kStepLimit.
+    // The frame after the last; nullopt at the end, at a hopeless break, or when none comes within
+    // kStepLimit.
     virtual std::optional<Frame> next(QSize bound) = 0;
     // The first frame at or after the time.
     virtual std::optional<Frame> at(std::int64_t timeMs, QSize bound) = 0;

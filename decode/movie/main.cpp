@@ -1,4 +1,5 @@
-// vantor-decode-movie: decodes carved movies in the program's place; started like vantor-decode, one for each movie.
+// vantor-decode-movie: decodes carved movies in the program's place; started like vantor-decode, one for each
+// movie.
 #include <time.h>
 #include <unistd.h>
 
@@ -44,8 +45,8 @@ class MovieJobDecoder : public JobDecoder {
                                : m_movie->next(bound);
         Answer answer;
         if (!frame || !copyPixels(frame->image, bound, job.pixels, answer)) {
-            answer.status =
-                job.request.kind == RequestKind::NextFrame ? AnswerStatus::EndOfMovie : AnswerStatus::NotDecodable;
+            answer.status = job.request.kind == RequestKind::NextFrame ? AnswerStatus::EndOfMovie
+                                                                       : AnswerStatus::NotDecodable;
             return answer;
         }
         const MovieInfo info = m_movie->info();

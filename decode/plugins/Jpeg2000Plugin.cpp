@@ -81,11 +81,13 @@ int sampleAt(const opj_image_comp_t& component, OPJ_UINT32 x, OPJ_UINT32 y) {
 QRgb fromLuma(int luma, int blueDifference, int redDifference) {
     const double cb = blueDifference - 128, cr = redDifference - 128;
     const auto whole = [](double value) { return std::clamp(static_cast<int>(value + 0.5), 0, 255); };
-    return qRgb(whole(luma + 1.402 * cr), whole(luma - 0.344136 * cb - 0.714136 * cr), whole(luma + 1.772 * cb));
+    return qRgb(whole(luma + 1.402 * cr), whole(luma - 0.344136 * cb - 0.714136 * cr),
+                whole(luma + 1.772 * cb));
 }
 
 bool isUsable(const opj_image_comp_t& component) {
-    return component.data && component.w > 0 && component.h > 0 && component.prec >= 1 && component.prec <= 31;
+    return component.data && component.w > 0 && component.h > 0 && component.prec >= 1 &&
+           component.prec <= 31;
 }
 
 QImage pixelsOf(const opj_image_t& picture) {

@@ -16,7 +16,8 @@ constexpr JxlPixelFormat kPixelFormat{4, JXL_TYPE_UINT8, JXL_NATIVE_ENDIAN, 0};
 // An image of the size that the header names; null when that is no size to decode.
 QImage sheetFor(const JxlDecoder* decoder) {
     JxlBasicInfo info{};
-    if (JxlDecoderGetBasicInfo(decoder, &info) != JXL_DEC_SUCCESS || !isReasonableSize(info.xsize, info.ysize)) {
+    if (JxlDecoderGetBasicInfo(decoder, &info) != JXL_DEC_SUCCESS ||
+        !isReasonableSize(info.xsize, info.ysize)) {
         return {};
     }
     QImage sheet(static_cast<int>(info.xsize), static_cast<int>(info.ysize), QImage::Format_RGBA8888);
@@ -27,13 +28,15 @@ QImage sheetFor(const JxlDecoder* decoder) {
 bool giveSheet(JxlDecoder* decoder, QImage& sheet) {
     std::size_t needed = 0;
     const auto size = static_cast<std::size_t>(sheet.sizeInBytes());
-    return JxlDecoderImageOutBufferSize(decoder, &kPixelFormat, &needed) == JXL_DEC_SUCCESS && needed <= size &&
+    return JxlDecoderImageOutBufferSize(decoder, &kPixelFormat, &needed) == JXL_DEC_SUCCESS &&
+           needed <= size &&
            JxlDecoderSetImageOutBuffer(decoder, &kPixelFormat, sheet.bits(), size) == JXL_DEC_SUCCESS;
 }
 
 QImage decodeJpegXl(const QByteArray& bytes) {
     const Decoder decoder(JxlDecoderCreate(nullptr), &JxlDecoderDestroy);
-    if (JxlDecoderSubscribeEvents(decoder.get(), JXL_DEC_BASIC_INFO | JXL_DEC_FULL_IMAGE) != JXL_DEC_SUCCESS) {
+    if (JxlDecoderSubscribeEvents(decoder.get(), JXL_DEC_BASIC_INFO | JXL_DEC_FULL_IMAGE) !=
+        JXL_DEC_SUCCESS) {
         return {};
     }
     JxlDecoderSetInput(decoder.get(), reinterpret_cast<const std::uint8_t*>(bytes.constData()),

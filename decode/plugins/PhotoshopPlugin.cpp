@@ -36,8 +36,9 @@ struct Document {
 };
 
 bool readHeader(Document& document) {
-    const auto version = document.number(4, 2), channels = document.number(12, 2), height = document.number(14, 4),
-               width = document.number(18, 4), depth = document.number(22, 2), mode = document.number(24, 2);
+    const auto version = document.number(4, 2), channels = document.number(12, 2),
+               height = document.number(14, 4), width = document.number(18, 4),
+               depth = document.number(22, 2), mode = document.number(24, 2);
     if (!hasText(document.bytes, 0, "8BPS") || !mode || (version != 1 && version != 2)) {
         return false;
     }
@@ -48,8 +49,8 @@ bool readHeader(Document& document) {
     document.depth = static_cast<std::uint32_t>(*depth);
     document.mode = static_cast<Mode>(*mode);
     const bool knownMode = *mode >= 1 && *mode <= 4;
-    return knownMode && (document.depth == 8 || document.depth == 16) && document.channels >= document.colours() &&
-           isReasonableSize(document.width, document.height);
+    return knownMode && (document.depth == 8 || document.depth == 16) &&
+           document.channels >= document.colours() && isReasonableSize(document.width, document.height);
 }
 
 // Steps over colour data, resources and layers.
@@ -79,8 +80,7 @@ void unpackRow(QByteArrayView packed, QByteArray& row) {
     for (qsizetype from = 0; from < packed.size() && to < row.size();) {
         const auto control = static_cast<std::int8_t>(packed[from++]);
         if (control >= 0) {
-            const qsizetype count =
-                std::min({qsizetype{control} + 1, packed.size() - from, row.size() - to});
+            const qsizetype count = std::min({qsizetype{control} + 1, packed.size() - from, row.size() - to});
             std::copy_n(packed.data() + from, count, row.data() + to);
             from += qsizetype{control} + 1;
             to += count;
@@ -101,7 +101,8 @@ class Rows {
         m_at = document.dataAt + (packed() ? rows * lengthBytes() : 0);
     }
 
-    // The high byte of a sample comes first, so a picture of 16 bits is shown by it. Null at the end of the bytes.
+    // The high byte of a sample comes first, so a picture of 16 bits is shown by it. Null at the end of the
+    // bytes.
     const char* next() {
         const auto size = static_cast<std::uint64_t>(m_document.bytes.size());
         std::uint64_t length = static_cast<std::uint64_t>(m_row.size());
@@ -142,7 +143,8 @@ QRgb fromInks(QRgb inks) {
 
 QRgb fromPalette(const Document& document, int index) {
     const auto part = [&](std::uint64_t plane) {
-        const std::uint64_t at = document.paletteAt + plane * kPaletteEntries + static_cast<std::uint64_t>(index);
+        const std::uint64_t at =
+            document.paletteAt + plane * kPaletteEntries + static_cast<std::uint64_t>(index);
         return static_cast<int>(document.number(at, 1).value_or(0));
     };
     return qRgb(part(0), part(1), part(2));
@@ -183,7 +185,8 @@ QImage decodePhotoshop(const QByteArray& bytes) {
             any = true;
             auto* pixels = reinterpret_cast<QRgb*>(image.scanLine(y));
             for (std::uint32_t x = 0; x < document.width; ++x) {
-                pixels[x] |= static_cast<QRgb>(static_cast<std::uint8_t>(samples[x * step])) << kShifts[channel];
+                pixels[x] |= static_cast<QRgb>(static_cast<std::uint8_t>(samples[x * step]))
+                             << kShifts[channel];
             }
         }
     }

@@ -12,11 +12,13 @@ namespace vantor::decode {
 // Far above any picture file, far below what memory there is.
 constexpr qint64 kMostPluginBytes = qint64{512} * 1024 * 1024;
 
-// Sides of a picture that a handler takes on: no camera's are larger, and the pixels fit the readers' own limit.
+// Sides of a picture that a handler takes on: no camera's are larger, and the pixels fit the readers' own
+// limit.
 inline bool isReasonableSize(std::uint64_t width, std::uint64_t height) {
     constexpr std::uint64_t kMostSide = 65535;
     constexpr std::uint64_t kMostPixels = std::uint64_t{150} * 1000 * 1000;
-    return width > 0 && height > 0 && width <= kMostSide && height <= kMostSide && width * height <= kMostPixels;
+    return width > 0 && height > 0 && width <= kMostSide && height <= kMostSide &&
+           width * height <= kMostPixels;
 }
 
 // The bytes from the device's position on. The helper's devices are buffers already, whose bytes are not

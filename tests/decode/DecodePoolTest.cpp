@@ -156,6 +156,49 @@ TEST(DecodePool, IdleHelpersKilled_AreReplacedAndThePictureIsStillShown) {
     }
 }
 
+TEST(DecodePool, DecoderThatCrashes_CostsItsPictureOnly) {
+    DecodePool pool(poolOptions(1));
+    const QByteArray small = encoded(twoColours({64, 64}), "png");
+    const QByteArray large = encoded(twoColours({9000, 9000}), "png");
+    ASSERT_FALSE(pool.thumbnail(small).isEmpty());
+    const pid_t helper = pool.helperPids().front();
+    QByteArray shown = "not asked";
+    std::thread caller([&] { shown = pool.thumbnail(large); });
+    // The large picture takes many times as long.
+    std::this_thread::sleep_for(milliseconds(40));
+    kill(helper, SIGSEGV);
+    caller.join();
+    EXPECT_TRUE(shown.isEmpty());
+    EXPECT_EQ(pool.counts().crashed, 1U);
+    EXPECT_FALSE(pool.thumbnail(small).isEmpty());
+}
+
+TEST(DecodePool, DecoderThatHangs_IsEndedAtTheDeadline) {
+    DecodePoolOptions options = poolOptions(1);
+    options.thumbnailDeadline = milliseconds(300);
+    DecodePool pool(options);
+    const QByteArray small = encoded(twoColours({64, 64}), "png");
+    ASSERT_FALSE(pool.thumbnail(small).isEmpty());
+    const pid_t helper = pool.helperPids().front();
+    kill(helper, SIGSTOP);
+    EXPECT_TRUE(pool.thumbnail(small).isEmpty());
+    EXPECT_EQ(pool.counts().late, 1U);
+    EXPECT_EQ(kill(helper, 0), -1);
+    EXPECT_FALSE(pool.thumbnail(small).isEmpty());
+}
+
+TEST(DecodePool, Destruction_EndsItsHelpers) {
+    std::vector<pid_t> pids;
+    {
+        DecodePool pool(poolOptions(2));
+        ASSERT_FALSE(pool.thumbnail(encoded(twoColours({64, 64}), "png")).isEmpty());
+        pids = pool.helperPids();
+    }
+    for (const pid_t pid : pids) {
+        EXPECT_EQ(kill(pid, 0), -1);
+    }
+}
+
 TEST(DecodePool, LatePicture_CostsItsHelperOnly) {
     DecodePoolOptions options = poolOptions(1);
     options.thumbnailDeadline = milliseconds(1);

@@ -13,6 +13,7 @@
 #include <QString>
 #include <QStringList>
 #include <algorithm>
+#include <random>
 
 #include "decode/DecodePool.h"
 
@@ -66,6 +67,30 @@ inline QByteArray encoded(
     QImageWriter writer(&buffer, format);
     writer.setTransformation(transformation);
     return writer.write(image) ? bytes : QByteArray();
+}
+
+// A few bytes changed, a stretch zeroed, or the end cut off.
+inline QByteArray mutated(QByteArray bytes, std::mt19937& random) {
+    const auto somewhere = [&] {
+        return static_cast<qsizetype>(random() % static_cast<std::uint32_t>(bytes.size()));
+    };
+    switch (random() % 4) {
+        case 0:
+            return bytes.left(somewhere());
+        case 1: {
+            const qsizetype from = somewhere();
+            bytes.replace(from, std::min<qsizetype>(512, bytes.size() - from), QByteArray(512, '\0'));
+            return bytes;
+        }
+        default:
+            for (std::uint32_t n = 1 + random() % 16; n > 0; --n) {
+                // The first bytes steer a decoder most.
+                const qsizetype at =
+                    random() % 2 ? somewhere() : somewhere() % std::min<qsizetype>(bytes.size(), 1024);
+                bytes[at] = static_cast<char>(random());
+            }
+            return bytes;
+    }
 }
 
 inline bool isNear(QRgb pixel, QColor colour) {
