@@ -15,7 +15,8 @@ namespace vantor::decode {
 namespace {
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-// Their shadow memory alone is terabytes of address space, and their reports go to the standard error.
+// Their shadow memory alone is terabytes of address space, and their reports go to the
+// standard error, which may be a file.
 constexpr bool kSanitized = true;
 #else
 constexpr bool kSanitized = false;
@@ -49,8 +50,8 @@ bool enterCage(const CageOptions& options, bool& parentGone) {
     limit(RLIMIT_CORE, 0);
     limit(RLIMIT_NOFILE, kOpenFiles);
     limit(RLIMIT_CPU, options.processorSeconds);
-    limit(RLIMIT_FSIZE, 0);
     if (!kSanitized) {
+        limit(RLIMIT_FSIZE, 0);
         limit(RLIMIT_AS, options.addressSpaceBytes);
         dropRoot();
         prctl(PR_SET_DUMPABLE, 0);

@@ -67,20 +67,25 @@ struct Attempt {
     QImageReader reader;
 };
 
-// The handlers leave unread parts of a broken picture as the memory happened to be, so it is decoded once
-// more onto a clean sheet.
+// Handlers leave the unread parts of a broken picture as the memory happened to be, some without a word, so
+// they are given a clean sheet of the size and format they are about to ask for. Null where they do not tell.
+QImage cleanSheetFor(const QImageReader& reader) {
+    QImage sheet;
+    const QImage::Format format = reader.imageFormat();
+    if (format != QImage::Format_Invalid && QImageIOHandler::allocateImage(reader.size(), format, &sheet)) {
+        sheet.fill(0);
+    }
+    return sheet;
+}
+
+// What a reader that gives up leaves of a picture, in full size: those that scale while they read leave
+// nothing that could be relied on. Null when it shows nothing.
 QImage remainsOf(QByteArrayView bytes, const QByteArray& handler) {
     Attempt attempt(bytes, handler);
-    const QSize full = attempt.reader.size();
-    const QImage::Format format = attempt.reader.imageFormat();
-    QImage image;
-    if (format == QImage::Format_Invalid || !full.isValid() ||
-        !QImageIOHandler::allocateImage(full, format, &image)) {
-        return {};
-    }
-    image.fill(0);
+    QImage image = cleanSheetFor(attempt.reader);
+    const QSize size = image.size();
     attempt.reader.read(&image);
-    if (image.isNull() || image.size() != full || image.format() != format || isBlank(image)) {
+    if (image.isNull() || image.size() != size || isBlank(image)) {
         return {};
     }
     return turnedUpright(image, attempt.reader.transformation());
@@ -113,7 +118,7 @@ std::optional<PictureResult> decodeBy(const QByteArray& handler, QByteArrayView 
         }
         result.fullSize = turned ? stored.transposed() : stored;
     }
-    QImage image;
+    QImage image = reader.supportsOption(QImageIOHandler::ScaledSize) ? QImage() : cleanSheetFor(reader);
     if (!reader.read(&image)) {
         result.partial = true;
         image = remainsOf(bytes, handler);

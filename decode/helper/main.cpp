@@ -22,8 +22,6 @@ int main(int argc, char** argv) {
     // with us.
     tzset();
     QCoreApplication application(argc, argv);
-    // Pictures are decoded side by side by processes, not by threads.
-    QThreadPool::globalInstance()->setMaxThreadCount(1);
     preparePictureDecoders();
 
     CageOptions options;
@@ -34,7 +32,13 @@ int main(int argc, char** argv) {
     if (parentGone || !channel.sayReady(caged)) {
         _exit(EXIT_SUCCESS);
     }
-    PictureJobDecoder decoder;
-    // Past every clean-up that a damaged heap could trip over.
-    _exit(channel.serve(decoder) ? EXIT_SUCCESS : EXIT_FAILURE);
+    // Pictures are decoded side by side by processes; a thread of the pool itself gets no others to help it.
+    QThreadPool::globalInstance()->setMaxThreadCount(1);
+    QThreadPool::globalInstance()->start([&channel] {
+        PictureJobDecoder decoder;
+        // Past every clean-up that a damaged heap could trip over.
+        _exit(channel.serve(decoder) ? EXIT_SUCCESS : EXIT_FAILURE);
+    });
+    QThreadPool::globalInstance()->waitForDone();
+    return EXIT_SUCCESS;
 }

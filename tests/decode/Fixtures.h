@@ -1,6 +1,8 @@
 // What the decode tests share: the helper, the corpus, and pictures made on the spot.
 #pragma once
 
+#include <signal.h>
+
 #include <QBuffer>
 #include <QByteArray>
 #include <QColor>
@@ -13,7 +15,9 @@
 #include <QString>
 #include <QStringList>
 #include <algorithm>
+#include <chrono>
 #include <random>
+#include <thread>
 
 #include "decode/DecodePool.h"
 
@@ -90,6 +94,14 @@ inline QByteArray mutated(QByteArray bytes, std::mt19937& random) {
                 bytes[at] = static_cast<char>(random());
             }
             return bytes;
+    }
+}
+
+// Stops a process and waits until it truly stands still.
+inline void stopProcess(pid_t pid) {
+    kill(pid, SIGSTOP);
+    while (!bytesOfFile(QStringLiteral("/proc/%1/stat").arg(pid)).contains(") T ")) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
 }
 

@@ -121,8 +121,8 @@ TEST(Formats, RealFilesWithForeignBytesBehind_AreStillShown) {
     }
 }
 
-// The upper part is the picture, the rest is nothing that was in the memory before.
-TEST(Formats, CutShort_ShowTheUpperPartAndAnEmptyRest) {
+// The rest is nothing that was in the memory before.
+TEST(Formats, CutShort_ShowThePartThatIsThereAndAnEmptyRest) {
     QImage image(400, 400, QImage::Format_RGB32);
     for (int y = 0; y < 400; ++y) {
         for (int x = 0; x < 400; ++x) {
@@ -134,14 +134,17 @@ TEST(Formats, CutShort_ShowTheUpperPartAndAnEmptyRest) {
         const QByteArray bytes = encoded(image, format);
         const DecodedPicture cut = pool.picture(bytes.left(bytes.size() / 2), {400, 400});
         ASSERT_EQ(cut.image.size(), QSize(400, 400)) << format;
-        EXPECT_GT(qRed(cut.image.pixel(100, 40)), 150) << format;
-        if (QByteArray(format) == "png") {
-            EXPECT_TRUE(cut.partial);
-            for (int x = 0; x < 400; x += 10) {
-                EXPECT_EQ(cut.image.pixel(x, 395) & RGB_MASK, 0U);
-            }
+        // A BMP is stored from the bottom up.
+        const bool bottomUp = QByteArray(format) == "bmp";
+        EXPECT_GT(qRed(cut.image.pixel(100, bottomUp ? 360 : 40)), 150) << format;
+        if (QByteArray(format) == "jpeg") {
+            continue;  // its reader fills the rest with grey
+        }
+        for (int x = 0; x < 400; x += 10) {
+            EXPECT_EQ(cut.image.pixel(x, bottomUp ? 5 : 395) & RGB_MASK, 0U) << format;
         }
     }
+    EXPECT_TRUE(pool.picture(encoded(image, "png").left(20000), {400, 400}).partial);
     // Nothing decoded at all is no picture.
     EXPECT_TRUE(pool.picture(encoded(image, "png").left(60), {400, 400}).image.isNull());
 }

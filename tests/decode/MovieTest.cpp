@@ -153,7 +153,7 @@ TEST_F(Movie, Seek_GivesTheFrameAtThatTime) {
 TEST_F(Movie, HelperKilledWhilePlaying_EndsTheMovieOnly) {
     const auto reader = MovieReader::open(movie("synth/vp9_opus.webm"), {160, 160}, options());
     ASSERT_TRUE(reader && reader->next());
-    kill(reader->helperPid(), SIGSEGV);
+    kill(reader->helperPid(), SIGABRT);
     EXPECT_FALSE(reader->next());
     EXPECT_TRUE(reader->isOver());
     EXPECT_FALSE(reader->seek(0));
@@ -165,7 +165,7 @@ TEST_F(Movie, HelperThatHangs_IsLeftAtTheDeadline) {
     impatient.frameDeadline = std::chrono::milliseconds(100);
     const auto reader = MovieReader::open(movie("synth/vp9_opus.webm"), {160, 160}, impatient);
     ASSERT_TRUE(reader);
-    kill(reader->helperPid(), SIGSTOP);
+    stopProcess(reader->helperPid());
     EXPECT_FALSE(reader->next());
     EXPECT_TRUE(reader->isOver());
 }
