@@ -56,10 +56,9 @@ void MyTableController::loadInterface() {
 void MyTableController::dressWindow() {
     window->setWindowIcon(ownIcon(QStringLiteral("vantor-recovery")));
     helpIcon->setPixmap(ownIcon(QStringLiteral("info")).pixmap(20, 20));
-    nextButton->setProperty("role", QStringLiteral("primary"));
-    for (QLabel* heading : {typeHeading, photoHeading, rawHeading, rawTypesHeading, mediaHeading}) {
-        heading->setProperty("role", QStringLiteral("heading"));
-    }
+    // The longest help text takes two lines of the smallest window, and begins with an empty one at times.
+    constexpr int kHelpLines = 3;
+    _help_info->setFixedHeight(kHelpLines * _help_info->fontMetrics().lineSpacing());
     rawSplitter->setStretchFactor(0, 0);
     rawSplitter->setStretchFactor(1, 1);
     rawSplitter->setStretchFactor(2, 0);

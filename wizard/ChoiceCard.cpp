@@ -44,11 +44,13 @@ QRect ChoiceCard::wordsRect(int width) const {
     return QRect(left, kMargin, std::max(1, width - left - kMargin), 10000);
 }
 
-int ChoiceCard::heightForWidth(int width) const {
-    const QRect words = wordsRect(width);
+int ChoiceCard::heightOfWords(int width) const {
     const int title = QFontMetrics(titleFont(font())).height();
-    const int explanation = fontMetrics().boundingRect(words, Qt::TextWordWrap, m_explanation).height();
-    return std::max(kPicture, title + 4 + explanation) + 2 * kMargin;
+    return title + 4 + fontMetrics().boundingRect(wordsRect(width), Qt::TextWordWrap, m_explanation).height();
+}
+
+int ChoiceCard::heightForWidth(int width) const {
+    return std::max(kPicture, heightOfWords(width)) + 2 * kMargin;
 }
 
 QSize ChoiceCard::sizeHint() const {
@@ -87,6 +89,8 @@ void ChoiceCard::paintEvent(QPaintEvent*) {
     icon().paint(&painter, picture, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
 
     QRect words = wordsRect(width());
+    const int wordsHeight = heightOfWords(width());
+    words.moveTop((height() - wordsHeight) / 2);
     painter.setFont(titleFont(font()));
     painter.setPen(isEnabled() ? theme::kInk : theme::kDisabledInk);
     painter.drawText(words, Qt::TextShowMnemonic, text());

@@ -29,6 +29,7 @@ class ChoiceCard : public QRadioButton {
 
   private:
     QRect wordsRect(int width) const;
+    int heightOfWords(int width) const;
 
     QString m_explanation;
 };

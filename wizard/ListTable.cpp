@@ -3,7 +3,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QPainter>
+#include <QStyledItemDelegate>
 
 #include "wizard/EmptyState.h"
 #include "wizard/Theme.h"
@@ -14,6 +14,18 @@ namespace {
 
 constexpr int kRowHeight = 4 * theme::kUnit;
 
+// Whole rows are chosen, so no single cell is marked as the current one.
+class RowDelegate : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+  protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->state &= ~QStyle::State_HasFocus;
+    }
+};
+
 }  // namespace
 
 ListTable::ListTable(QWidget* parent) : QTableView(parent) {
@@ -22,6 +34,7 @@ ListTable::ListTable(QWidget* parent) : QTableView(parent) {
     setShowGrid(false);
     setTabKeyNavigation(false);
     setWordWrap(false);
+    setItemDelegate(new RowDelegate(this));
     setAlternatingRowColors(true);
     setIconSize({20, 20});
     verticalHeader()->hide();

@@ -115,6 +115,7 @@ void MyTableController::nextFromRange() {
     resetAddedItemCount();
     if (Recovery_MODE == kPhotoMode) {
         show_hide_3_screen_Photo(false);
+        _stop_scan->setFocus();
         startScan(&ScanSession::Photo_Rec_Thread);
         return;
     }
@@ -136,6 +137,7 @@ void MyTableController::nextFromFileTypes() {
     screen_counter = 3;
     show_hide_3_screen_RawFile(true);
     show_hide_4_screen_RawFile(false);
+    _stop_scan->setFocus();
     startScan(&ScanSession::Raw_File_Rec_Thread);
 }
 

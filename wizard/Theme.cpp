@@ -8,6 +8,11 @@
 #include <QStyleFactory>
 #include <QWidget>
 
+// Named from outside every namespace, as the resource system wants it.
+static void loadResources() {
+    Q_INIT_RESOURCE(window);
+}
+
 namespace vantor {
 
 namespace {
@@ -41,6 +46,7 @@ QColor commonBackground() {
 }
 
 void applyTheme(QApplication& application) {
+    loadResources();
     application.setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     application.setPalette(lightPalette());
     QFile sheet(QStringLiteral(":/style.qss"));
