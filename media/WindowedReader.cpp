@@ -1,6 +1,7 @@
 // The window logic: big reads on good ground, single sectors around a failure.
 #include "media/WindowedReader.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <utility>
 
@@ -31,14 +32,20 @@ bool WindowedReader::fetch() {
     if (position() < m_singleUntil) {
         return fetchSingle();
     }
-    const std::int64_t bytes = m_source->readAt(position(), {m_back, kWindowBytes});
-    const auto sectors = bytes < 0 ? 0 : static_cast<std::size_t>(bytes) / kSectorBytes;
-    if (sectors == 0) {
-        m_singleUntil = position() + kWindowSectors;
-        return fetchSingle();
+    m_windowWasFirstAttempt = false;
+    const auto wanted = static_cast<std::size_t>(
+        std::min<std::uint64_t>(kWindowSectors, m_refused.firstFrom(position()) - position()));
+    if (wanted == 0) {
+        return false;
     }
-    if (sectors < kWindowSectors) {
-        m_singleUntil = position() + kWindowSectors;
+    const std::int64_t bytes = m_source->readAt(position(), {m_back, wanted * kSectorBytes});
+    const auto sectors = bytes < 0 ? 0 : static_cast<std::size_t>(bytes) / kSectorBytes;
+    if (sectors < wanted) {
+        m_windowWasFirstAttempt = true;
+        goSingle(position() + sectors);
+    }
+    if (sectors == 0) {
+        return fetchSingle();
     }
     std::swap(m_front, m_back);
     handOver(m_front, sectors);
@@ -46,13 +53,28 @@ bool WindowedReader::fetch() {
 }
 
 bool WindowedReader::fetchSingle() {
-    const std::int64_t bytes = m_source->readAt(position(), {m_back, kSectorBytes});
-    if (bytes != static_cast<std::int64_t>(kSectorBytes)) {
+    if (m_refused.contains(position()) || !m_source->usable()) {
         return false;
+    }
+    if (!readSingle()) {
+        const bool secondAttempt = std::exchange(m_windowWasFirstAttempt, false);
+        if (secondAttempt || !m_source->usable() || !readSingle()) {
+            m_refused.add(position());
+            goSingle(position());
+            return false;
+        }
     }
     std::swap(m_front, m_back);
     handOver(m_front, 1);
     return true;
+}
+
+bool WindowedReader::readSingle() {
+    return m_source->readAt(position(), {m_back, kSectorBytes}) == static_cast<std::int64_t>(kSectorBytes);
+}
+
+void WindowedReader::goSingle(std::uint64_t from) {
+    m_singleUntil = std::max(m_singleUntil, from + kWindowSectors);
 }
 
 bool WindowedReader::moveTo(std::uint64_t) {

@@ -4,28 +4,19 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <span>
 
+#include "media/BlockSource.h"
 #include "media/SectorReader.h"
+#include "media/SectorSet.h"
 
 namespace vantor {
 
-// Where the bytes come from: a descriptor, or a script in a test.
-class BlockSource {
-  public:
-    virtual ~BlockSource() = default;
-
-    // Reads up to `into.size()` bytes (a multiple of 512) at the sector; the number of bytes read, which is
-    // short at the end of the medium or before an unreadable place, or -1 when not even the first could be
-    // read.
-    virtual std::int64_t readAt(std::uint64_t sector, std::span<std::uint8_t> into) = 0;
-
-    // False when the medium is gone for good: then positioning fails too.
-    virtual bool usable() = 0;
-};
-
-// Fetches windows of kWindowSectors; where one fails it goes on in single sectors for the length of a window,
-// so that one unreadable sector is one failed read.
+// Fetches windows of kWindowSectors. Where one is refused it goes on in single sectors, for the length of a
+// window beyond the last refusal, so that one unreadable sector is one failed read.
+//
+// A refused sector is asked for once more and no further: the refused window and the single read behind it
+// are the two attempts; a sector first met alone is repeated alone. What was refused twice stays refused for
+// this reader, without another word to the medium.
 class WindowedReader : public SectorReader {
   public:
     static constexpr std::size_t kWindowSectors = 512;  // 256 KiB, which stays in the second-level cache
@@ -39,13 +30,17 @@ class WindowedReader : public SectorReader {
 
   private:
     bool fetchSingle();
+    bool readSingle();
+    void goSingle(std::uint64_t from);
 
     std::unique_ptr<BlockSource> m_source;
     // Two windows: a fetch that fails must leave the bytes of the last good sector in place.
     std::unique_ptr<std::uint8_t[]> m_storage;
     std::uint8_t* m_front;
     std::uint8_t* m_back;
-    std::uint64_t m_singleUntil = 0;  // sectors before this one are read one by one
+    std::uint64_t m_singleUntil = 0;       // sectors before this one are read one by one
+    bool m_windowWasFirstAttempt = false;  // the next refusal of a single sector is the second one
+    SectorSet m_refused;
 };
 
 }  // namespace vantor

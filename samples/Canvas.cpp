@@ -129,6 +129,11 @@ void Canvas::fillCorners(const std::vector<Point>& corners, const std::function<
     sub.reserve(corners.size());
     for (const Point& corner : corners)
         sub.push_back({toSub(corner.x), toSub(corner.y)});
+    const auto [leftmost, rightmost] =
+        std::minmax_element(sub.begin(), sub.end(), [](const Point& a, const Point& b) { return a.x < b.x; });
+    const int firstColumn = static_cast<int>(clampTo(floorDivide(leftmost->x, kSub), 0, m_width));
+    const int endColumn =
+        static_cast<int>(clampTo(floorDivide(rightmost->x, kSub) + 1, firstColumn, m_width));
     const auto [low, high] =
         std::minmax_element(sub.begin(), sub.end(), [](const Point& a, const Point& b) { return a.y < b.y; });
     const int firstRow = static_cast<int>(clampTo(floorDivide(low->y, kSub), 0, m_height));
@@ -137,7 +142,7 @@ void Canvas::fillCorners(const std::vector<Point>& corners, const std::function<
     std::vector<int> cover(static_cast<std::size_t>(m_width));
     std::vector<std::int64_t> crossings;
     for (int row = firstRow; row <= lastRow; ++row) {
-        std::fill(cover.begin(), cover.end(), 0);
+        std::fill(cover.begin() + firstColumn, cover.begin() + endColumn, 0);
         for (int line = 0; line < kScanLines; ++line) {
             const std::int64_t y = row * kSub + (2 * line + 1) * kSub / (2 * kScanLines);
             crossings.clear();
@@ -157,7 +162,7 @@ void Canvas::fillCorners(const std::vector<Point>& corners, const std::function<
             }
         }
         const Colour colour = colourOf(row);
-        for (int x = 0; x < m_width; ++x) {
+        for (int x = firstColumn; x < endColumn; ++x) {
             if (cover[static_cast<std::size_t>(x)] > 0)
                 blend(x, row, colour,
                       std::int64_t{cover[static_cast<std::size_t>(x)]} * alpha / (kSub * kScanLines));

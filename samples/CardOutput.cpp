@@ -2,6 +2,7 @@
 #include "samples/CardOutput.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <algorithm>
 
 namespace vantor::samples {
@@ -38,7 +39,8 @@ QString writeWhole(const QString& path, const QByteArray& bytes, Writing writing
         return {};
     const QString why = QStringLiteral("%1: %2").arg(path, file.errorString());
     file.close();
-    file.remove();
+    if (QFileInfo(path).isFile())  // a device stays where it is
+        file.remove();
     return why;
 }
 

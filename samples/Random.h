@@ -5,7 +5,9 @@
 
 namespace vantor::samples {
 
-// splitmix64 (Steele, Lea, Flood 2014; public-domain reference by Vigna): one state word, full period.
+// splitmix64 (Steele, Lea, Flood 2014; public-domain reference by Vigna): one state word, full period. Draw
+// once a statement, or within braces: the order in which a call's arguments are evaluated is the compiler's
+// choice.
 class Random {
   public:
     explicit Random(std::uint64_t seed) : m_state(seed) {}

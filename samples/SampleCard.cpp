@@ -25,7 +25,9 @@ QByteArray noise(std::int64_t bytes, Random& random) {
     return result;
 }
 
-QString placeNote(const CardFile& file) {
+QString placeNote(const CardFile& file, bool isFirst) {
+    if (isFirst)
+        return QStringLiteral("first on the card");
     const std::int64_t sectors = file.gapClusters * FatCard::kSectorsPerCluster;
     switch (file.gap) {
         case Gap::None:
@@ -47,7 +49,7 @@ QString runsNote(const std::vector<SectorRun>& runs) {
     return QStringLiteral("fragmented: sectors ") + parts.join(QStringLiteral(" and "));
 }
 
-CardEntry entryFor(const CardFile& file, const std::vector<SectorRun>& runs) {
+CardEntry entryFor(const CardFile& file, const std::vector<SectorRun>& runs, bool isFirst) {
     CardEntry entry;
     entry.folder = file.folder;
     entry.name = file.name;
@@ -55,7 +57,7 @@ CardEntry entryFor(const CardFile& file, const std::vector<SectorRun>& runs) {
     entry.bytes = file.bytes.size();
     entry.sha256 = QCryptographicHash::hash(file.bytes, QCryptographicHash::Sha256).toHex();
     entry.runs = runs;
-    entry.note = QStringLiteral("%1; %2; %3").arg(runsNote(runs), placeNote(file), file.folder);
+    entry.note = QStringLiteral("%1; %2; %3").arg(runsNote(runs), placeNote(file, isFirst), file.folder);
     return entry;
 }
 
@@ -78,7 +80,7 @@ std::optional<SampleCard> buildSampleCard() {
                               : card.addFile(file.folder, file.name, file.bytes);
         if (!runs)
             return std::nullopt;
-        result.entries.push_back(entryFor(file, *runs));
+        result.entries.push_back(entryFor(file, *runs, result.entries.empty()));
     }
     card.deleteFiles();
     result.image = card.image();

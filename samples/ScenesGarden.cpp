@@ -16,7 +16,8 @@ void paintBlur(Canvas& canvas, const std::vector<Colour>& colours, int count, st
     for (int i = 0; i < count; ++i) {
         const Point at{random.between(-300, wide + 300), random.between(-300, 10300)};
         const Colour colour = colours[static_cast<std::size_t>(i) % colours.size()];
-        canvas.glow(at, random.between(900, 3400), colour, random.between(50, 150));
+        const std::int64_t reach = random.between(900, 3400);
+        canvas.glow(at, reach, colour, random.between(50, 150));
     }
     for (int i = 0; i < count / 3; ++i) {
         const Point at{random.between(0, wide), random.between(0, 6500)};
@@ -79,8 +80,9 @@ void paintRows(Canvas& canvas, std::int64_t horizon, const RowColours& colours, 
         const auto kind = static_cast<std::size_t>(row + 24) % colours.flowers.size();
         const std::size_t kinds = colours.flowers.size();
         const Colour bloom = colours.flowers[(kind + kinds - 24 % kinds) % kinds];
-        canvas.ellipse(at, 10 + depth / 70, 16 + depth / 46, random.between(-5000, 5000),
-                       mix(bloom, {255, 240, 255}, random.between(0, 120)));
+        const int turn = random.between(-5000, 5000);
+        const Colour lit = mix(bloom, {255, 240, 255}, random.between(0, 120));
+        canvas.ellipse(at, 10 + depth / 70, 16 + depth / 46, turn, lit);
     }
 }
 
@@ -284,9 +286,10 @@ Picture cherryBranch(int width, int height) {
                                  210 + random.between(0, 46)});
         }
     }
-    for (int i = 0; i < 40; ++i)
-        canvas.ellipse({random.between(0, static_cast<int>(wide)), random.between(1500, 9900)}, 80, 46,
-                       random.between(0, 65535), {250, 196, 216}, 220);
+    for (int i = 0; i < 40; ++i) {
+        const Point at{random.between(0, static_cast<int>(wide)), random.between(1500, 9900)};
+        canvas.ellipse(at, 80, 46, random.between(0, 65535), {250, 196, 216}, 220);
+    }
     return canvas.finish();
 }
 

@@ -237,16 +237,19 @@ Picture autumnTrees(int width, int height) {
                     {wide * 51 / 100, 6650},
                     {wide * 66 / 100, 10100},
                     {wide * 30 / 100, 10100}},
-                   {{6650}, {240, 214, 170}}, {{10000}, {150, 110, 80}}, 230);
+                   {6650, {240, 214, 170}}, {10000, {150, 110, 80}}, 230);
     for (int i = 0; i < 700; ++i) {
         const std::int64_t y = 7100 + squareRoot(std::int64_t{random.between(0, 10000)} * 840);
         const std::int64_t size = 16 + (y - 7000) / 55;
-        canvas.ellipse({random.between(0, static_cast<int>(wide)), y}, size, size * 3 / 5,
-                       random.between(0, 65535), mix(kCrowns[i % 4], {90, 40, 20}, random.between(0, 130)));
+        const Point at{random.between(0, static_cast<int>(wide)), y};
+        const int turn = random.between(0, 65535);
+        const Colour leaf = mix(kCrowns[i % 4], {90, 40, 20}, random.between(0, 130));
+        canvas.ellipse(at, size, size * 3 / 5, turn, leaf);
     }
-    for (int i = 0; i < 60; ++i)
-        canvas.ellipse({random.between(0, static_cast<int>(wide)), random.between(2500, 8500)}, 46, 28,
-                       random.between(0, 65535), kCrowns[i % 4]);
+    for (int i = 0; i < 60; ++i) {
+        const Point at{random.between(0, static_cast<int>(wide)), random.between(2500, 8500)};
+        canvas.ellipse(at, 46, 28, random.between(0, 65535), kCrowns[i % 4]);
+    }
     return canvas.finish();
 }
 
@@ -258,9 +261,10 @@ Picture winterCabin(int width, int height) {
     paintStars(canvas, 150, 3400, 8);
     canvas.below(mountainLine(7000, 3200, 4200, 19, 6), fading({198, 190, 220}, {130, 124, 176}, 1900));
     Random random(33);
-    for (int i = 0; i < 54; ++i)
-        paintFir(canvas, {wide * i / 52 + random.between(-80, 80), 7200}, 900 + random.between(0, 900),
-                 {30, 44, 76}, {120, 140, 180});
+    for (int i = 0; i < 54; ++i) {
+        const Point foot{wide * i / 52 + random.between(-80, 80), 7200};
+        paintFir(canvas, foot, 900 + random.between(0, 900), {30, 44, 76}, {120, 140, 180});
+    }
     canvas.below(hillLine(7100, 500, 16000, 12000), [](std::int64_t x, std::int64_t y, std::int64_t edge) {
         const int drift = cloudNoise(x * 65536 / 2600, y * 65536 / 700, 5, 4);
         const Colour snow =
@@ -291,9 +295,10 @@ Picture winterCabin(int width, int height) {
     for (const int place : {4, 70, 82, 96})
         paintFir(canvas, {wide * place / 100, 8700 + place % 7 * 120}, 3600 + place % 5 * 300, {22, 40, 66},
                  {196, 208, 236});
-    for (int i = 0; i < 240; ++i)
-        canvas.disc({random.between(0, static_cast<int>(wide)), random.between(0, 10000)},
-                    random.between(10, 34), {255, 255, 255}, 190);
+    for (int i = 0; i < 240; ++i) {
+        const Point at{random.between(0, static_cast<int>(wide)), random.between(0, 10000)};
+        canvas.disc(at, random.between(10, 34), {255, 255, 255}, 190);
+    }
     return canvas.finish();
 }
 

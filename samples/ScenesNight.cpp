@@ -104,8 +104,8 @@ Picture starryNight(int width, int height) {
     // A lit tent.
     const std::int64_t x = wide * 66 / 100;
     canvas.glow({x, 9300}, 1700, {255, 190, 90}, 150);
-    canvas.polygon({{x - 620, 9500}, {x, 8700}, {x + 620, 9500}}, {{8700}, {255, 214, 120}},
-                   {{9500}, {236, 130, 50}});
+    canvas.polygon({{x - 620, 9500}, {x, 8700}, {x + 620, 9500}}, {8700, {255, 214, 120}},
+                   {9500, {236, 130, 50}});
     canvas.polygon({{x - 60, 9500}, {x, 8760}, {x + 150, 9500}}, {140, 70, 40});
     return canvas.finish();
 }
@@ -136,9 +136,10 @@ Picture aurora(int width, int height) {
     canvas.below(mountainLine(kShore + 200, 1700, 4200, 3, 6), fading({24, 44, 66}, {14, 26, 46}, 900),
                  kShore);
     Random random(7);
-    for (int i = 0; i < 80; ++i)
-        paintFir(canvas, {wide * i / 78 + random.between(-80, 80), kShore + 40}, 360 + random.between(0, 560),
-                 {4, 12, 22}, {10, 26, 34});
+    for (int i = 0; i < 80; ++i) {
+        const Point foot{wide * i / 78 + random.between(-80, 80), kShore + 40};
+        paintFir(canvas, foot, 360 + random.between(0, 560), {4, 12, 22}, {10, 26, 34});
+    }
     canvas.mirrorBelow(kShore, {4, 14, 34}, 60, 260, 12);
     return canvas.finish();
 }

@@ -222,7 +222,7 @@ Picture underWater(int width, int height) {
         const std::int64_t x = wide * (6 + ray * 12) / 100;
         canvas.polygon(
             {{x, -100}, {x + 380 + ray % 3 * 180, -100}, {x - 1400 + ray % 4 * 220, 9000}, {x - 2400, 9000}},
-            {{0}, {220, 255, 250}}, {{8000}, {20, 120, 170}}, 34);
+            {0, {220, 255, 250}}, {8000, {20, 120, 170}}, 34);
     }
     canvas.below(mountainLine(9300, 900, 1800, 15, 5), [](std::int64_t x, std::int64_t y, std::int64_t) {
         const int grain = cloudNoise(x * 65536 / 300, y * 65536 / 120, 8, 4);
@@ -307,8 +307,9 @@ Picture autumnLake(int width, int height) {
     canvas.mirrorBelow(kHorizon, {64, 70, 90}, 40, 260, 70);
     for (int i = 0; i < 60; ++i) {
         const std::int64_t y = 7200 + random.between(0, 2700);
-        canvas.ellipse({random.between(0, static_cast<int>(wide)), y}, 40 + (y - 7200) / 40,
-                       20 + (y - 7200) / 110, random.between(-3000, 3000), kCrowns[i % 5]);
+        const Point at{random.between(0, static_cast<int>(wide)), y};
+        canvas.ellipse(at, 40 + (y - 7200) / 40, 20 + (y - 7200) / 110, random.between(-3000, 3000),
+                       kCrowns[i % 5]);
     }
     return canvas.finish();
 }

@@ -121,4 +121,37 @@ TEST(HeaderMatcher, AgreesWithThePlainMatchOnRandomCataloguesAndSectors) {
     EXPECT_LT(matched, 18000);
 }
 
+// Headers of four bytes and more at few places each, as the fields of a directory have them.
+TEST(HeaderMatcher, AgreesWithThePlainMatchOnManyStartBytes) {
+    RandomScans random(11);
+    int matched = 0;
+    for (int round = 0; round < 400; ++round) {
+        QStringList records;
+        for (std::uint64_t n = 5 + random.below(60); n > 0; --n) {
+            QByteArray hex;
+            for (std::uint64_t bytes = 3 + random.below(4); bytes > 0; --bytes) {
+                hex += random.oneIn(2) ? "41" : "42";
+            }
+            const QByteArray offset = QByteArray::number(static_cast<int>(1 + random.below(507)));
+            records += recordsOf({{"A", hex.constData(), offset.constData()}});
+        }
+        const HeaderMatcher matcher(records);
+        for (int i = 0; i < 20; ++i) {
+            ScriptedMedium::Sector sector;
+            for (std::uint8_t& byte : sector) {
+                byte = static_cast<std::uint8_t>(random.oneIn(3) ? 0x43 : 0x41 + random.below(2));
+            }
+            const auto expected = plain::firstMatch(records, sector);
+            const auto got = matcher.firstMatch(sector.data());
+            ASSERT_EQ(got.has_value(), expected.has_value()) << "round " << round;
+            if (expected) {
+                ASSERT_EQ(*got, *expected) << "round " << round;
+                ++matched;
+            }
+        }
+    }
+    EXPECT_GT(matched, 1000);
+    EXPECT_LT(matched, 7000);
+}
+
 }  // namespace vantor
