@@ -71,7 +71,7 @@ bool MyTableController::shutDown(std::chrono::milliseconds patience) {
     m_queue.close();
     m_pump.stop();
     const auto until = std::chrono::steady_clock::now() + patience;
-    while (scanRunning() || m_besideRunning) {
+    while (scanRunning() || m_besideRunning || m_saveRunning) {
         // The scan clears the word when it honours it, so it is said until everyone has heard.
         stop_now = 1;
         if (mSetLabelTimer) {
@@ -82,7 +82,7 @@ bool MyTableController::shutDown(std::chrono::milliseconds patience) {
         }
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
-    for (std::thread* thread : {&m_driver, &m_timerThread, &mPreviewThread}) {
+    for (std::thread* thread : {&m_driver, &m_timerThread, &mPreviewThread, &m_saver}) {
         if (thread->joinable()) {
             thread->join();
         }

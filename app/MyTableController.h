@@ -48,6 +48,9 @@
 
 namespace vantor {
 
+class SaveJob;
+struct SaveReport;
+
 // Members with given names keep them letter for letter; a message `first:second:` is `first(a, second)`.
 // Where an outlet already bears the first word, as `imageBrowser` does, the words of the message are joined
 // instead.
@@ -299,6 +302,7 @@ class MyTableController : public QObject,
     void filterFileTypes(const QString& text);
     void tickGroup(int kind, bool ticked);
     void showTypeCounts();
+    void filterResultRows();
 
     // scan/
     void startScan(void (ScanSession::*driver)());
@@ -318,6 +322,8 @@ class MyTableController : public QObject,
     void runBeside(const std::function<void()>& work);
     void showPicture(const QPixmap& picture, const QString& title);
     void saveItems(const QList<qsizetype>& indexes);
+    bool watchSaving(const std::shared_ptr<SaveJob>& job);
+    void reportSaving(const SaveReport& report, const QString& destination, bool cancelled);
     QString askDestination();
     void openDestination();
 
@@ -348,6 +354,7 @@ class MyTableController : public QObject,
     std::atomic<bool> m_driverRunning{false};
     std::atomic<bool> m_timerRunning{false};
     std::atomic<bool> m_besideRunning{false};
+    std::atomic<bool> m_saveRunning{false};
 
     // Set by every scan.
     ScanInputs m_inputs;
@@ -363,6 +370,7 @@ class MyTableController : public QObject,
     int m_clickedColumn = -1;
 
     // Set as items are saved; emptied with the items.
+    std::thread m_saver;
     std::set<const MyImageObject*> m_saved;
 
     bool m_ending = false;  // the exit was confirmed

@@ -43,6 +43,7 @@ void MyTableController::wire() {
     });
     connect(idTableView, &QTableView::doubleClicked, this, [this] { nextButton->click(); });
     connect(typeSearchField, &QLineEdit::textChanged, this, &MyTableController::filterFileTypes);
+    connect(foundTypesOnly, &QCheckBox::toggled, this, &MyTableController::filterResultRows);
     connect(_zoom_slider, &QSlider::valueChanged, this, [this] { zoomSliderDidChange(_zoom_slider); });
     for (ImageBrowserView* browser : {imageBrowser, imageBrowser_2}) {
         connect(browser, &ImageBrowserView::selectionDidChange, this, [this, browser] {

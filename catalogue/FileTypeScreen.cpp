@@ -33,7 +33,7 @@ QString kindName(FileKind kind) {
 }
 
 FileKind kindOf(const FileTypeRow& row) {
-    return kindOfExtension(row.value(kExtension).toString());
+    return kindOfType(row.value(kExtension).toString(), row.value(kDescription).toString());
 }
 
 }  // namespace

@@ -53,6 +53,14 @@ void MyTableController::imageBrowserSelectionDidChange(ImageBrowserView* view) {
                                item->valueForKey(QStringLiteral("File_End_Sector"))});
 }
 
+// Types without items can be left out of the table.
+void MyTableController::filterResultRows() {
+    const QList<ResultRow> rows = resultRows();
+    for (int row = 0; row < rows.size(); ++row) {
+        idSigTableView->setRowHidden(row, foundTypesOnly->isChecked() && countOf(rows.at(row)) == 0);
+    }
+}
+
 // Counts in words, and the buttons that need something to work on.
 void MyTableController::showItemCounts() {
     const qsizetype found = static_cast<qsizetype>(itemCount());

@@ -14,7 +14,7 @@ namespace vantor {
 namespace {
 
 constexpr int kPadding = theme::kUnit;
-constexpr int kNarrowestCell = 112;
+constexpr int kNarrowestCell = 136;
 constexpr int kDecodedPictures = 600;
 constexpr qreal kRadius = 6;
 

@@ -4,6 +4,7 @@
 #include <QImageReader>
 #include <QMimeDatabase>
 #include <QPainter>
+#include <QRegularExpression>
 
 #include "wizard/Theme.h"
 
@@ -112,6 +113,28 @@ FileKind kindOfExtension(const QString& extension) {
         return FileKind::Archive;
     }
     return isDocument(mime) ? FileKind::Document : FileKind::Other;
+}
+
+FileKind kindOfType(const QString& extension, const QString& description) {
+    const FileKind kind = kindOfExtension(extension);
+    if (kind != FileKind::Other) {
+        return kind;
+    }
+    static const std::pair<QRegularExpression, FileKind> words[] = {
+        {QRegularExpression(QStringLiteral("sound|audio|music|song|voice|midi|instrument|tracker")), FileKind::Sound},
+        {QRegularExpression(QStringLiteral("movie|video|film|animation")), FileKind::Video},
+        {QRegularExpression(QStringLiteral("picture|image|photo|bitmap|icon|drawing")), FileKind::Picture},
+        {QRegularExpression(QStringLiteral("archive|compressed|package|backup")), FileKind::Archive},
+        {QRegularExpression(QStringLiteral("document|text|spreadsheet|presentation|book|mail|note|database")),
+         FileKind::Document},
+    };
+    const QString lower = description.toLower();
+    for (const auto& [pattern, byWords] : words) {
+        if (lower.contains(pattern)) {
+            return byWords;
+        }
+    }
+    return FileKind::Other;
 }
 
 QImage readPicture(const QString& file, QSize largest) {

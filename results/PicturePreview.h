@@ -36,5 +36,7 @@ class FileTypeIcons {
 // What kind of thing a file of the type holds.
 enum class FileKind { Document, Archive, Sound, Picture, Video, Other };
 FileKind kindOfExtension(const QString& extension);
+// As above; where the extension says nothing, the words of the description decide.
+FileKind kindOfType(const QString& extension, const QString& description);
 
 }  // namespace vantor

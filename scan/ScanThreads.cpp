@@ -110,6 +110,7 @@ void MyTableController::flushViews() {
     }
     if (m_resultRowsDirty.exchange(false)) {
         m_resultTable->refreshData();
+        filterResultRows();
     }
 }
 

@@ -5,9 +5,13 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "wizard/Theme.h"
+
 namespace vantor {
 
 namespace {
+
+constexpr int kPictureEdge = 40;
 
 const QString kYes = QStringLiteral("Yes");
 const QString kNo = QStringLiteral("No");
@@ -19,6 +23,8 @@ qsizetype runAlert(const Alert& alert, QWidget* over) {
     box.setWindowModality(Qt::ApplicationModal);
     box.setWindowTitle(QApplication::applicationDisplayName());
     box.setTextFormat(Qt::PlainText);
+    box.setIconPixmap(ownIcon(alert.buttons.size() > 1 ? QStringLiteral("question") : QStringLiteral("info"))
+                          .pixmap(kPictureEdge, kPictureEdge));
     box.setText(alert.message);
     box.setInformativeText(alert.informative);
     box.setAccessibleName(alert.message.trimmed());
