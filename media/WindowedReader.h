@@ -32,6 +32,7 @@ class WindowedReader : public SectorReader {
     bool fetchSingle();
     bool readSingle();
     void goSingle(std::uint64_t from);
+    bool noteWhetherGone();
 
     std::unique_ptr<BlockSource> m_source;
     // Two windows: a fetch that fails must leave the bytes of the last good sector in place.
@@ -41,6 +42,7 @@ class WindowedReader : public SectorReader {
     std::uint64_t m_singleUntil = 0;       // sectors before this one are read one by one
     bool m_windowWasFirstAttempt = false;  // the next refusal of a single sector is the second one
     SectorSet m_refused;
+    bool m_gone = false;
 };
 
 }  // namespace vantor
