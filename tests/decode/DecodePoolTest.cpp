@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 
+#include <QCoreApplication>
 #include <QTemporaryDir>
 #include <atomic>
 #include <thread>
@@ -186,6 +187,33 @@ TEST(DecodePool, DecoderThatHangs_IsEndedAtTheDeadline) {
     EXPECT_EQ(pool.counts().late, 1U);
     EXPECT_EQ(kill(helper, 0), -1);
     EXPECT_FALSE(pool.thumbnail(small).isEmpty());
+}
+
+TEST(DecodePool, Close_FreesACallerAtOnce) {
+    DecodePoolOptions options = poolOptions(1);
+    options.thumbnailDeadline = std::chrono::minutes(10);
+    DecodePool pool(options);
+    const QByteArray small = encoded(twoColours({64, 64}), "png");
+    ASSERT_FALSE(pool.thumbnail(small).isEmpty());
+    stopProcess(pool.helperPids().front());
+    QByteArray shown = "not asked";
+    std::thread caller([&] { shown = pool.thumbnail(small); });
+    std::this_thread::sleep_for(milliseconds(20));
+    pool.close();
+    caller.join();
+    EXPECT_TRUE(shown.isEmpty());
+    EXPECT_TRUE(pool.thumbnail(small).isEmpty());
+}
+
+TEST(DecodePool, DefaultHelper_IsFoundFromTheProgram) {
+    int argc = 1;
+    char name[] = VANTOR_BINARY_DIR "/bin/decode_tests";
+    char* argv[] = {name, nullptr};
+    const QCoreApplication application(argc, argv);
+    DecodePoolOptions options;
+    options.helpers = 1;
+    DecodePool pool(options);
+    EXPECT_FALSE(pool.thumbnail(encoded(twoColours({64, 64}), "png")).isEmpty());
 }
 
 TEST(DecodePool, Destruction_EndsItsHelpers) {
