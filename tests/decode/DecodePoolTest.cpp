@@ -44,14 +44,13 @@ TEST(DecodePool, Thumbnail_IsAJpeg) {
 TEST(DecodePool, Thumbnail_TurnedPictures_AreUpright) {
     DecodePool pool(poolOptions());
     // Stored lying, to be shown turned right by 90 degrees: what is left becomes the top.
-    const QByteArray turned =
-        encoded(twoColours({400, 200}), "jpeg", QImageIOHandler::TransformationRotate90);
+    const QByteArray turned = jpegHeldBy(twoColours({400, 200}), 6);
     const QImage upright = decoded(pool.thumbnail(turned));
     ASSERT_EQ(upright.size(), QSize(50, 100));
     EXPECT_TRUE(isNear(upright.pixel(25, 20), Qt::red));
     EXPECT_TRUE(isNear(upright.pixel(25, 80), Qt::blue));
 
-    const QByteArray half = encoded(twoColours({400, 200}), "jpeg", QImageIOHandler::TransformationRotate180);
+    const QByteArray half = jpegHeldBy(twoColours({400, 200}), 3);
     const QImage standing = decoded(pool.thumbnail(half));
     ASSERT_EQ(standing.size(), QSize(100, 50));
     EXPECT_TRUE(isNear(standing.pixel(20, 25), Qt::blue));
