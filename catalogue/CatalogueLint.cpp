@@ -28,10 +28,13 @@ struct Signature {
     QByteArray header;
     qint64 start = 0;  // byte in the sector
     bool narrowSearch = false;
+    QString offset;
 };
 
 class Linter {
   public:
+    explicit Linter(CatalogueUse use) : m_use(use) {}
+
     QList<LintFinding> run(const QByteArray& utf8) {
         if (!QByteArrayView(utf8).isValidUtf8()) {
             report(firstBrokenLine(utf8), QStringLiteral("the file is not UTF-8 and will load as empty"));
@@ -172,9 +175,12 @@ class Linter {
 
     static Signature signatureOf(const QList<ValueLine>& record) {
         const QString offset = record.at(Header_Offset).text.value;
-        return {record.at(Header_Hex).number, record.at(Ext_Name).text.value,
+        return {record.at(Header_Hex).number,
+                record.at(Ext_Name).text.value,
                 QByteArray::fromHex(record.at(Header_Hex).text.value.toLatin1()),
-                offset == u"nn" ? 0 : textToInt64(offset) - 1, offset == u"nn"};
+                offset == u"nn" ? 0 : textToInt64(offset) - 1,
+                offset == u"nn",
+                offset};
     }
 
     // An earlier record shadows this one when its bytes are part of this one's at the same place in the
@@ -183,7 +189,9 @@ class Linter {
         for (const Signature& earlier : std::as_const(m_signatures)) {
             const qint64 into = earlier.start - signature.start;
             const bool samePlace = !signature.narrowSearch || (earlier.narrowSearch && into == 0);
-            if (samePlace && into >= 0 && signature.header.mid(into).startsWith(earlier.header)) {
+            const bool opensToo = m_use == CatalogueUse::Selectable && earlier.offset == signature.offset;
+            if (samePlace && !opensToo && into >= 0 &&
+                signature.header.mid(into).startsWith(earlier.header)) {
                 report(
                     signature.line,
                     QStringLiteral("the record of %1 is never reached: that of %2 at line %3 matches first")
@@ -195,14 +203,15 @@ class Linter {
         m_signatures.append(signature);
     }
 
+    CatalogueUse m_use;
     QList<LintFinding> m_findings;
     QList<Signature> m_signatures;
 };
 
 }  // namespace
 
-QList<LintFinding> lintCatalogue(const QByteArray& utf8) {
-    return Linter().run(utf8);
+QList<LintFinding> lintCatalogue(const QByteArray& utf8, CatalogueUse use) {
+    return Linter(use).run(utf8);
 }
 
 }  // namespace vantor

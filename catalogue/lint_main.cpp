@@ -3,7 +3,18 @@
 #include <QFile>
 #include <cstdio>
 
+#include "catalogue/CatalogueFile.h"
 #include "catalogue/CatalogueLint.h"
+
+namespace {
+
+vantor::CatalogueUse useOf(const QString& path) {
+    const bool photo = path.endsWith(QLatin1String(vantor::kPhotoCatalogue)) ||
+                       path.endsWith(QLatin1String(vantor::kPhotoThoroughCatalogue));
+    return photo ? vantor::CatalogueUse::Photo : vantor::CatalogueUse::Selectable;
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
     if (argc < 2) {
@@ -17,7 +28,8 @@ int main(int argc, char** argv) {
             std::fprintf(stderr, "%s: %s\n", argv[i], qPrintable(file.errorString()));
             return 2;
         }
-        for (const vantor::LintFinding& finding : vantor::lintCatalogue(file.readAll())) {
+        for (const vantor::LintFinding& finding :
+             vantor::lintCatalogue(file.readAll(), useOf(file.fileName()))) {
             std::printf("%s:%d: %s\n", argv[i], finding.line, qPrintable(finding.what));
             status = 1;
         }

@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 
+#include "media/MediumTargets.h"
 #include "media/SectorReader.h"
 
 namespace vantor {
@@ -15,6 +16,12 @@ namespace vantor {
 // "FilesystemUserVisibleName", "ParentWholeDisk", "IOKitSize" (bytes, quint64), "BusProtocol",
 // "OpticalDeviceType", "MediaName". Absent keys stand for facts that are not known.
 using MediaFacts = QVariantMap;
+
+// What became of an image file that the user wants as a medium.
+struct OpenedImage {
+    QString identifier;  // its "DeviceIdentifier" from now on; empty when refused
+    QString refusal;     // a sentence for the user
+};
 
 // A platform's answers. Main thread only; calls may block for a bounded time.
 class MediaSource {
@@ -32,6 +39,18 @@ class MediaSource {
 
     // The facts of one of these paths or of a device identifier; empty when it cannot be queried.
     virtual MediaFacts diskInfo(const QString& path) = 0;
+
+    // Keeps an image file (or all parts of a split one) as a further medium, across refreshes. The same image
+    // twice is one medium.
+    virtual OpenedImage addImage(const QString& path) {
+        return {{}, QStringLiteral("“%1” cannot be opened.").arg(path)};
+    }
+
+    // Where the media of the last listing are to be opened; lives on with whoever keeps it.
+    virtual std::shared_ptr<const MediumTargets> targets() const { return nullptr; }
+
+    // How to get at a device that the user may not open; empty where there is no way.
+    virtual DescriptorRequest descriptorRequest() const { return {}; }
 
     // Called on the main thread when media were put in, pulled out, mounted or renamed.
     std::function<void()> changed;

@@ -1,127 +1,124 @@
-// The descriptor side of a medium; nothing here can write.
+// From a path to a reader; nothing here can write.
 #include "media/RawDevice.h"
 
 #include <fcntl.h>
-#include <linux/fs.h>
-#include <sys/ioctl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <QFile>
 #include <cerrno>
 #include <cstring>
-#include <limits>
 #include <utility>
 
+#include "media/BlockDevice.h"
+#include "media/ImageFile.h"
 #include "media/WindowedReader.h"
 
 namespace vantor {
 
 namespace {
 
-class Descriptor {
-  public:
-    explicit Descriptor(int fd) : m_fd(fd) {}
-    Descriptor(Descriptor&& other) noexcept : m_fd(std::exchange(other.m_fd, -1)) {}
-    Descriptor& operator=(Descriptor&&) = delete;
-    ~Descriptor() {
-        if (m_fd >= 0) {
-            ::close(m_fd);
-        }
-    }
-    int get() const { return m_fd; }
+enum class Kind { Missing, Image, Device, Other };
 
-  private:
-    int m_fd;
-};
-
-struct OpenedMedium {
-    Descriptor descriptor;
-    MediumFacts facts;
-};
-
-std::optional<MediumFacts> factsOf(int fd) {
+// Without opening it, which may take as long as the device likes.
+Kind kindOf(const QString& path) {
     struct stat info {};
-    if (::fstat(fd, &info) != 0) {
-        return std::nullopt;
+    if (::stat(QFile::encodeName(path).constData(), &info) != 0) {
+        return Kind::Missing;
     }
     if (S_ISREG(info.st_mode)) {
-        return MediumFacts{true, static_cast<std::uint64_t>(info.st_size) / kSectorBytes};
+        return Kind::Image;
     }
-    if (S_ISBLK(info.st_mode)) {
-        std::uint64_t bytes = 0;
-        if (::ioctl(fd, BLKGETSIZE64, &bytes) == 0) {
-            return MediumFacts{false, bytes / kSectorBytes};
-        }
-    }
-    return std::nullopt;
+    return S_ISBLK(info.st_mode) ? Kind::Device : Kind::Other;
 }
 
-std::optional<OpenedMedium> openForReading(const QString& path, QString* why) {
-    // Not blocking: a pipe of that name would otherwise wait for a writer for ever.
-    Descriptor descriptor(
+FileDescriptor openNode(const QString& path) {
+    return FileDescriptor(
         ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
-    if (descriptor.get() < 0) {
-        if (why != nullptr) {
-            *why = QString::fromLocal8Bit(std::strerror(errno));
-        }
-        return std::nullopt;
-    }
-    const auto facts = factsOf(descriptor.get());
-    if (!facts) {
-        if (why != nullptr) {
-            *why = QStringLiteral("Neither a storage medium nor an image file");
-        }
-        return std::nullopt;
-    }
-    return OpenedMedium{std::move(descriptor), *facts};
 }
 
-class DescriptorSource : public BlockSource {
-  public:
-    explicit DescriptorSource(OpenedMedium medium) : m_medium(std::move(medium)) {
-        ::posix_fadvise(m_medium.descriptor.get(), 0, 0, POSIX_FADV_SEQUENTIAL);
+bool isBlockDevice(int fd) {
+    struct stat info {};
+    return ::fstat(fd, &info) == 0 && S_ISBLK(info.st_mode);
+}
+
+bool isMedium(const MediumIdentity& wanted, const BlockDeviceFacts& facts) {
+    const auto same = [](std::uint64_t a, std::uint64_t b) { return a == 0 || b == 0 || a == b; };
+    return facts.sectors != 0 && same(wanted.diskSequence, facts.diskSequence) &&
+           same(wanted.sectors, facts.sectors);
+}
+
+std::unique_ptr<BlockSource> openDevice(const QString& path, const OpenTerms& terms) {
+    FileDescriptor descriptor = openNode(path);
+    if (!descriptor && (errno == EACCES || errno == EPERM) && terms.askForDescriptor) {
+        descriptor = terms.askForDescriptor(path, terms.stop);
     }
-
-    std::int64_t readAt(std::uint64_t sector, std::span<std::uint8_t> into) override {
-        if (sector >= static_cast<std::uint64_t>(std::numeric_limits<off_t>::max()) / kSectorBytes) {
-            return -1;
-        }
-        std::size_t done = 0;
-        while (done < into.size()) {
-            const auto offset = static_cast<off_t>(sector * kSectorBytes + done);
-            const ssize_t n =
-                ::pread(m_medium.descriptor.get(), into.data() + done, into.size() - done, offset);
-            if (n < 0 && errno == EINTR) {
-                continue;
-            }
-            if (n <= 0) {
-                break;
-            }
-            done += static_cast<std::size_t>(n);
-        }
-        return done == 0 ? -1 : static_cast<std::int64_t>(done);
+    if (!descriptor || !isBlockDevice(descriptor.get())) {
+        return nullptr;
     }
+    const auto facts = blockDeviceFacts(descriptor.get());
+    if (!facts || !isMedium(terms.identity, *facts)) {
+        return nullptr;
+    }
+    return std::make_unique<BlockDevice>(std::move(descriptor), *facts);
+}
 
-    bool usable() override { return true; }
+std::unique_ptr<BlockSource> openSource(const QString& path, OpenTerms terms) {
+    switch (kindOf(path)) {
+        case Kind::Image:
+            return ImageFile::open(imageParts(path));
+        case Kind::Device: {
+            StopRequest stop = terms.stop;
+            return AbandonableSource::start(
+                [path, terms = std::move(terms)] { return openDevice(path, terms); }, std::move(stop));
+        }
+        default:
+            return nullptr;
+    }
+}
 
-  private:
-    OpenedMedium m_medium;
-};
+std::optional<MediumFacts> imageFacts(const QString& path) {
+    const auto image = ImageFile::open(imageParts(path));
+    return image ? std::optional(MediumFacts{true, image->sectors()}) : std::nullopt;
+}
+
+std::optional<MediumFacts> deviceFacts(const QString& path) {
+    const FileDescriptor descriptor = openNode(path);
+    if (!descriptor) {
+        return std::nullopt;
+    }
+    const auto facts = blockDeviceFacts(descriptor.get());
+    return facts ? std::optional(MediumFacts{false, facts->sectors}) : std::nullopt;
+}
 
 }  // namespace
 
 std::optional<MediumFacts> probeMedium(const QString& path, QString* why) {
-    const auto medium = openForReading(path, why);
-    return medium ? std::optional(medium->facts) : std::nullopt;
+    const auto refuse = [why](const QString& sentence) {
+        if (why != nullptr) {
+            *why = sentence;
+        }
+        return std::nullopt;
+    };
+    const Kind kind = kindOf(path);
+    if (kind == Kind::Other) {
+        return refuse(QStringLiteral("Neither a storage medium nor an image file"));
+    }
+    errno = 0;
+    std::optional<MediumFacts> facts;
+    if (kind != Kind::Missing) {
+        facts = kind == Kind::Image ? imageFacts(path) : deviceFacts(path);
+    } else {
+        errno = ENOENT;
+    }
+    return facts ? facts : refuse(QString::fromLocal8Bit(std::strerror(errno)));
 }
 
-std::unique_ptr<SectorReader> openMedium(const QString& path) {
-    auto medium = openForReading(path, nullptr);
-    if (!medium) {
-        return nullptr;
-    }
-    return std::make_unique<WindowedReader>(std::make_unique<DescriptorSource>(std::move(*medium)));
+std::unique_ptr<SectorReader> openMedium(const QString& path, OpenTerms terms) {
+    // A device has its reading thread already, and is slower than any search.
+    const auto fetching =
+        kindOf(path) == Kind::Image ? WindowedReader::Fetching::Ahead : WindowedReader::Fetching::WhenAsked;
+    auto source = openSource(path, std::move(terms));
+    return source ? std::make_unique<WindowedReader>(std::move(source), fetching) : nullptr;
 }
 
 }  // namespace vantor

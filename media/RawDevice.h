@@ -3,9 +3,12 @@
 
 #include <QString>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 
+#include "media/AbandonableSource.h"
+#include "media/FileDescriptor.h"
 #include "media/SectorReader.h"
 
 namespace vantor {
@@ -16,11 +19,32 @@ struct MediumFacts {
     std::uint64_t sectors = 0;  // whole 512-byte sectors; a trailing partial one is dropped
 };
 
-// The facts of the device or image at `path`; nothing, and a sentence for the user, when it is neither or
-// cannot be opened for reading.
+// The facts of the device or image at `path`, all parts of a split image together; nothing, and a sentence
+// for the user, when it is neither or cannot be opened for reading.
 std::optional<MediumFacts> probeMedium(const QString& path, QString* why = nullptr);
 
-// A reader at sector 0, or null when the medium cannot be opened. Opens read-only, whatever the permissions.
-std::unique_ptr<SectorReader> openMedium(const QString& path);
+// What was in the slot when the medium was listed; zeros are not compared.
+struct MediumIdentity {
+    std::uint64_t diskSequence = 0;
+    std::uint64_t sectors = 0;
+};
+
+// Gets a read-only descriptor of a device node that the user may not open, by asking the user for consent; an
+// empty one when that is refused. May take minutes and is to return soon after a stop request. Any thread.
+using DescriptorRequest = std::function<FileDescriptor(const QString& node, const StopRequest& stop)>;
+
+struct OpenTerms {
+    StopRequest stop;                    // ends waits for a device that hangs
+    DescriptorRequest askForDescriptor;  // absent: without permission the medium cannot be opened
+    MediumIdentity identity;             // another medium in the slot counts as one that is gone
+};
+
+// A reader at sector 0, or null when the medium cannot be opened. Opens read-only, whatever the permissions,
+// and never hands the descriptor to a child process. Any thread; on a device it may wait for minutes unless
+// the stop request ends that.
+//
+// A device is read by a thread of its own, since a read that hangs cannot be ended; an image file is read
+// ahead of the search, since both together cost no more than the slower of the two.
+std::unique_ptr<SectorReader> openMedium(const QString& path, OpenTerms terms = {});
 
 }  // namespace vantor

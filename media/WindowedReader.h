@@ -4,33 +4,29 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <span>
 
+#include "media/BlockSource.h"
+#include "media/ReadAhead.h"
 #include "media/SectorReader.h"
+#include "media/SectorSet.h"
 
 namespace vantor {
 
-// Where the bytes come from: a descriptor, or a script in a test.
-class BlockSource {
-  public:
-    virtual ~BlockSource() = default;
-
-    // Reads up to `into.size()` bytes (a multiple of 512) at the sector; the number of bytes read, which is
-    // short at the end of the medium or before an unreadable place, or -1 when not even the first could be
-    // read.
-    virtual std::int64_t readAt(std::uint64_t sector, std::span<std::uint8_t> into) = 0;
-
-    // False when the medium is gone for good: then positioning fails too.
-    virtual bool usable() = 0;
-};
-
-// Fetches windows of kWindowSectors; where one fails it goes on in single sectors for the length of a window,
-// so that one unreadable sector is one failed read.
+// Fetches windows of kWindowSectors. Where one is refused it goes on in single sectors, for the length of a
+// window beyond the last refusal, so that one unreadable sector is one failed read.
+//
+// A refused sector is asked for once more and no further: the refused window and the single read behind it
+// are the two attempts; a sector first met alone is repeated alone. What was refused twice stays refused for
+// this reader, without another word to the medium.
 class WindowedReader : public SectorReader {
   public:
+    // Whether the windows of a sequential reading are fetched on the reader's own thread ahead of time. The
+    // source is then asked from that thread too, though never from two at once.
+    enum class Fetching { WhenAsked, Ahead };
+
     static constexpr std::size_t kWindowSectors = 512;  // 256 KiB, which stays in the second-level cache
 
-    explicit WindowedReader(std::unique_ptr<BlockSource> source);
+    explicit WindowedReader(std::unique_ptr<BlockSource> source, Fetching fetching = Fetching::WhenAsked);
     ~WindowedReader() override;
 
   protected:
@@ -38,14 +34,24 @@ class WindowedReader : public SectorReader {
     bool moveTo(std::uint64_t sector) override;
 
   private:
+    bool fetchWindow(std::size_t wanted);
     bool fetchSingle();
+    void stopReadingAhead();
+    bool readSingle();
+    void goSingle(std::uint64_t from);
+    bool noteWhetherGone();
 
     std::unique_ptr<BlockSource> m_source;
+    std::unique_ptr<ReadAhead> m_ahead;  // absent when nothing is fetched ahead
+    std::uint64_t m_windowEnd = 0;       // sector behind the last full window
     // Two windows: a fetch that fails must leave the bytes of the last good sector in place.
     std::unique_ptr<std::uint8_t[]> m_storage;
     std::uint8_t* m_front;
     std::uint8_t* m_back;
-    std::uint64_t m_singleUntil = 0;  // sectors before this one are read one by one
+    std::uint64_t m_singleUntil = 0;       // sectors before this one are read one by one
+    bool m_windowWasFirstAttempt = false;  // the next refusal of a single sector is the second one
+    SectorSet m_refused;
+    bool m_gone = false;
 };
 
 }  // namespace vantor

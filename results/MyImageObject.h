@@ -7,6 +7,7 @@
 #include <QVariant>
 #include <cstdint>
 #include <memory>
+#include <utility>
 
 #include "results/CarvedRun.h"
 
@@ -49,9 +50,13 @@ class MyImageObject {
     std::uint64_t File_Start_Sector() const { return m_File_Start_Sector; }
     std::uint64_t File_End_Sector() const { return m_File_End_Sector; }
 
-    // The sectors really read for the item, for saving; empty for items that are files already.
+    // Type name (`Ext_Name`) and the sectors really read, for saving; empty for items that are files already.
+    const QString& type() const { return m_type; }
     const CarvedRun& carved() const { return m_carved; }
-    void setCarved(CarvedRun carved) { m_carved = std::move(carved); }
+    void setOrigin(const QString& type, CarvedRun carved) {
+        m_type = type;
+        m_carved = std::move(carved);
+    }
 
   private:
     MyImageObject(const QString& image_Name, const QString& image_UID)
@@ -64,6 +69,7 @@ class MyImageObject {
     QString m_image_UID;
     std::uint64_t m_File_Start_Sector = 0;
     std::uint64_t m_File_End_Sector = 0;
+    QString m_type;
     CarvedRun m_carved;
 };
 

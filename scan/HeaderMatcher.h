@@ -9,8 +9,9 @@
 
 namespace vantor {
 
-// The compiled form of a pass's flat record array. Construction may take milliseconds; matching is const and
-// allocates nothing.
+// The compiled form of a pass's flat record array: start bytes with many headers are looked up by key, those
+// with few are compared four at a time. Construction may take milliseconds; matching is const and allocates
+// nothing.
 class HeaderMatcher {
   public:
     explicit HeaderMatcher(const QStringList& records);
@@ -31,8 +32,23 @@ class HeaderMatcher {
     struct Probe {
         std::uint32_t start;
         std::uint32_t keyMask;
-        std::uint32_t salt;
+        std::uint32_t filterShift;   // what is left of the hash of a key is its bit in the filter
+        std::uint32_t filterBegin;   // first word in m_filter
         std::vector<Entry> entries;  // by key, then by record
+    };
+
+    // Eight places, four bytes apart, and the four bytes wanted at each. A place that nobody asks for wants
+    // bytes that hardly ever stand there; if they do, the look at the headers finds nothing.
+    struct Block {
+        std::uint32_t base;
+        std::uint32_t usedLanes;  // a bit each
+        std::array<std::uint32_t, 8> keys;
+    };
+
+    // One header at its start byte.
+    struct Fixed {
+        std::uint32_t start;
+        Entry entry;
     };
 
     struct NarrowSearch {
@@ -41,20 +57,27 @@ class HeaderMatcher {
         std::uint32_t headerLength;
     };
 
-    static constexpr std::uint32_t kFilterBits = 18;
-
-    static std::uint32_t filterSlot(std::uint32_t key, std::uint32_t salt);
+    static std::uint32_t filterBit(std::uint32_t key, const Probe& probe);
     static std::uint32_t loadKey(const std::uint8_t* sector, const Probe& probe);
-    void addFixed(std::uint32_t start, const Entry& entry);
+    void compileFixed(const std::vector<Fixed>& headers);
+    void addToProbe(const Fixed& header);
+    void buildFilter(Probe& probe);
+    void addToBlock(const Fixed& header);
+    bool anyBlockHits(const std::uint8_t* sector) const;
+    int bestOfList(const std::vector<Fixed>& headers, const std::uint8_t* sector, int best) const;
     int bestOf(const Probe& probe, std::uint32_t key, const std::uint8_t* sector, int best) const;
     bool narrowSearchMatches(const NarrowSearch& search, const std::uint8_t* sector) const;
 
     std::vector<std::uint8_t> m_headerBytes;
     std::vector<Probe> m_probes;
+    std::vector<Block> m_blocks;
+    std::vector<Fixed> m_rare;      // the headers behind the blocks, by record
+    std::vector<Fixed> m_atTheEnd;  // headers too near the sector's end to load a key, by record
     std::vector<NarrowSearch> m_narrow;
     std::array<bool, 256> m_narrowFirstByte{};
-    // One filter for all probes: most sectors are turned away by a bit each, without a look at any header.
-    std::array<std::uint64_t, (1U << kFilterBits) / 64> m_filter{};
+    // A filter a probe, sized to its keys: most sectors are turned away by a bit each, without a look at any
+    // header.
+    std::vector<std::uint64_t> m_filter;
 };
 
 }  // namespace vantor

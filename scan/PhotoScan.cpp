@@ -29,7 +29,7 @@ struct ScanSession::PhotoPass {
     ReferenceSector reference;
     PhotoItemBuffer item;
     CarvedRun carved;
-    QString itemName, itemUid;
+    QString itemType, itemName, itemUid;
     std::uint64_t itemFirstSector = 0;
     std::uint64_t itemSize = 0;   // bytes
     std::uint64_t itemLimit = 0;  // bytes; that of the record examined last, whatever the item's own type
@@ -54,7 +54,7 @@ bool ScanSession::Photo_Recovey_Mode(const QString& passName) {
     }
     pFile_Disk.reset();
     prepareRange(ControlSet::Photo);
-    openMediumOfPass(ControlSet::Photo);
+    pFile_Disk = openMedium();
     if (!pFile_Disk) {
         openFailed(ControlSet::Photo);
         return false;
@@ -166,6 +166,7 @@ void ScanSession::startPhotoItem(PhotoPass& pass, int record) {
         pass.itemName = Generate_File_Name(pass.itemsFound, QStringLiteral("THD"), extension);
         pass.itemUid = Generate_File_UID_Num(THD_Image_number, true, extension);
     }
+    pass.itemType = extension;
     pass.itemSize = 0;
     pass.itemFirstSector = for_index - 1;
     pass.carved = CarvedRun{{}, !pass.lastReadSucceeded};
@@ -173,7 +174,9 @@ void ScanSession::startPhotoItem(PhotoPass& pass, int record) {
 
 // Hands the item over as it stands, empty ones included, which the adder drops.
 void ScanSession::handOverPhoto(PhotoPass& pass) {
-    m_handOver = {pass.name, pass.itemFirstSector, pass.item.size(), pass.item.overflowSha256(), pass.carved};
+    m_handOver = {
+        pass.name,  pass.itemType, pass.itemFirstSector, pass.item.size(), pass.item.overflowSha256(),
+        pass.carved};
     addImageWithData(pass.item.bytes(), pass.itemName, pass.itemUid);
     m_handOver = {};
     pass.item.clear();

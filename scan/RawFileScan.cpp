@@ -92,7 +92,7 @@ bool ScanSession::Raw_File_Recovey_Mode(const QString& passName) {
     }
     pFile_Disk.reset();
     prepareRange(ControlSet::Sig);
-    openMediumOfPass(ControlSet::Sig);
+    pFile_Disk = openMedium();
     if (!pFile_Disk) {
         openFailed(ControlSet::Sig);
         return false;
@@ -209,7 +209,7 @@ void ScanSession::openRawItems(RawPass& pass, int record) {
 
 // Publishes the open item at an index of MultiHeader_Array, ending before the sector to be read next.
 void ScanSession::publishRawItem(const RawPass& pass, qsizetype at) {
-    m_handOver = {pass.name, pass.itemStartSector, 0, {}, pass.carved};
+    m_handOver = {pass.name, MultiHeader_Array.at(at), pass.itemStartSector, 0, {}, pass.carved};
     addImageWithData_2({}, MultiHeader_Array.at(at + kOpenItemName), MultiHeader_Array.at(at + kOpenItemUid),
                        pass.itemStartSector, for_index);
     m_handOver = {};

@@ -25,9 +25,10 @@ void ScanSession::prepareRange(ControlSet set) {
     showProgressText();
 }
 
-void ScanSession::openMediumOfPass(ControlSet set) {
+std::unique_ptr<SectorReader> ScanSession::openMedium() const {
+    const ControlSet set = Recovery_MODE == kPhotoMode ? ControlSet::Photo : ControlSet::Sig;
     const QString devicePath = QStringLiteral("/dev/r") + m_view.rangeControls(set).diskIdentifier;
-    pFile_Disk = m_openMedium ? m_openMedium(devicePath) : nullptr;
+    return m_openMedium ? m_openMedium(devicePath) : nullptr;
 }
 
 void ScanSession::showProgressText() {

@@ -159,6 +159,7 @@ class ScanSession {
     // What the item handed over at this moment was read from; valid inside the adders.
     struct HandOver {
         QString pass;
+        QString type;                   // `Ext_Name`
         std::uint64_t firstSector = 0;  // as published
         std::uint64_t bytes = 0;        // photo items: carved bytes, also those beyond what is kept in memory
         QByteArray sha256;              // of a photo item that outgrew the memory, else empty
@@ -167,6 +168,9 @@ class ScanSession {
 
   protected:
     const HandOver& handOver() const { return m_handOver; }
+    // The chosen medium (of the control set of the mode), opened afresh at sector 0; null when it cannot be
+    // opened.
+    std::unique_ptr<SectorReader> openMedium() const;
     // Guards `images` and nsSIGFileInfoDataObject; held for moments.
     std::mutex& listLock() const { return m_listLock; }
 
@@ -187,7 +191,6 @@ class ScanSession {
     void beginScanScreen();
     void openFailed(ControlSet set);
     bool endOfRange(bool lastReadSucceeded);
-    void openMediumOfPass(ControlSet set);
     const QStringList& generalCatalogueOfMode() const;
     const QStringList& thoroughCatalogueOfMode() const;
 

@@ -43,7 +43,7 @@ void ScanSession::addImageWithData(const QByteArray& data, const QString& imageN
         thumbnail = Null_Image_Data;
     }
     auto item = MyImageObject::initWithImage_data(thumbnail, imageName, image_UID);
-    item->setCarved(m_handOver.carved);
+    item->setOrigin(m_handOver.type, m_handOver.carved);
     appendItem(std::move(item));
     pacePhotoBrowser();
 }
@@ -74,7 +74,7 @@ void ScanSession::addImageWithData_2(const QByteArray&, const QString& imageName
     }
     auto item = MyImageObject::initWithImage(m_view.iconForFileType(pathExtension(name)), name, image_UID,
                                              File_Start_Sec, File_End_Sec);
-    item->setCarved(m_handOver.carved);
+    item->setOrigin(m_handOver.type, m_handOver.carved);
     addRawItem(std::move(item), name, name);
 }
 

@@ -1,0 +1,214 @@
+// Publishing, saving and checksumming without a window.
+#include "cli/CliSession.h"
+
+#include <QCryptographicHash>
+#include <QJsonArray>
+
+#include "results/PreviewCopy.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr qsizetype kFailuresTold = 20;
+
+QString outcomeText(PassOutcome outcome) {
+    switch (outcome) {
+        case PassOutcome::Completed:
+            return QStringLiteral("completed");
+        case PassOutcome::Stopped:
+            return QStringLiteral("stopped");
+        case PassOutcome::OpenError:
+            return QStringLiteral("open-error");
+        case PassOutcome::ReadError:
+        case PassOutcome::NotRun:
+            break;
+    }
+    return QStringLiteral("read-error");
+}
+
+RangeControls controlsFor(const CliOptions& options, std::uint64_t mediumSectors) {
+    RangeControls controls;
+    controls.diskIdentifier = options.medium;
+    controls.sectors = QString::number(mediumSectors);
+    if (options.range) {
+        controls.entireDisk = 0;
+        controls.sectorRange = 1;
+        controls.startText = options.range->first;
+        controls.endText = options.range->second;
+    }
+    return controls;
+}
+
+}  // namespace
+
+CliView::CliView(const CliOptions& options, std::uint64_t mediumSectors)
+    : m_range(controlsFor(options, mediumSectors)),
+      m_thorough(options.thorough),
+      m_destination(options.saveFolder) {}
+
+CliSession::CliSession(const CliOptions& options, std::uint64_t mediumSectors)
+    : CliView(options, mediumSectors), ScanSession(static_cast<CliView&>(*this)), m_options(options) {
+    Recovery_MODE = options.mode;
+    if (!options.saveFolder.isEmpty()) {
+        m_saver.emplace(options.saveFolder);
+    }
+}
+
+CliSession::~CliSession() = default;
+
+void CliSession::chooseAllTypes() {
+    buildFileTypeList();
+    cutCataloguesToTickedTypes();
+}
+
+QStringList CliSession::chooseTypes(const QStringList& types) {
+    buildFileTypeList();
+    setAllFileTypes(false);
+    QStringList unknown;
+    for (const QString& type : types) {
+        const auto tick = [&](Qt::CaseSensitivity sensitivity) {
+            bool found = false;
+            for (FileTypeRow& row : nsCheckedListDataObject) {
+                if (row[QStringLiteral("Extension")].toString().compare(type, sensitivity) == 0) {
+                    row[QStringLiteral("State")] = true;
+                    found = true;
+                }
+            }
+            return found;
+        };
+        if (!tick(Qt::CaseSensitive) && !tick(Qt::CaseInsensitive)) {
+            unknown.append(type);
+        }
+    }
+    cutCataloguesToTickedTypes();
+    return unknown;
+}
+
+void CliSession::run() {
+    if (m_options.mode == kPhotoMode) {
+        Photo_Rec_Thread();
+    } else {
+        Raw_File_Rec_Thread();
+    }
+    m_savingMedium.reset();
+}
+
+void CliSession::publish(PublishedItem item) {
+    m_published.push_back(std::move(item));
+    m_publishedCount = m_published.size();
+}
+
+void CliSession::addImageWithData(const QByteArray& data, const QString& imageName,
+                                  const QString& image_UID) {
+    if (!data.isEmpty()) {
+        const HandOver& carve = handOver();
+        PublishedItem item{carve.pass,  carve.type,        imageName,
+                           image_UID,   carve.firstSector, carve.firstSector + carve.bytes / kSectorBytes,
+                           carve.bytes, carve.sha256};
+        if (m_options.listJson && item.sha256.isEmpty()) {
+            item.sha256 = QCryptographicHash::hash(data, QCryptographicHash::Sha256);
+        }
+        if (m_saver) {
+            const bool wholeInMemory = static_cast<std::uint64_t>(data.size()) == carve.bytes;
+            tally(item,
+                  wholeInMemory ? m_saver->saveBytes(item.type, item.name, data) : saveFromMedium(item));
+        }
+        publish(std::move(item));
+    }
+    ScanSession::addImageWithData(data, imageName, image_UID);
+}
+
+void CliSession::addImageWithData_2(const QByteArray& data, const QString& imageName,
+                                    const QString& image_UID, std::uint64_t File_Start_Sec,
+                                    std::uint64_t File_End_Sec) {
+    const std::size_t before = itemCount();
+    ScanSession::addImageWithData_2(data, imageName, image_UID, File_Start_Sec, File_End_Sec);
+    if (itemCount() == before) {
+        return;
+    }
+    PublishedItem item{handOver().pass,
+                       handOver().type,
+                       itemAt(before)->imageTitle(),
+                       image_UID,
+                       File_Start_Sec,
+                       File_End_Sec,
+                       (File_End_Sec - File_Start_Sec) * kSectorBytes,
+                       {}};
+    if (m_saver) {
+        tally(item, saveFromMedium(item));
+    }
+    publish(std::move(item));
+}
+
+SectorReader* CliSession::mediumForSaving() {
+    if (!m_savingMedium) {
+        m_savingMedium = openMedium();
+    }
+    return m_savingMedium.get();
+}
+
+SaveOutcome CliSession::saveFromMedium(const PublishedItem& item) {
+    SectorReader* medium = mediumForSaving();
+    if (medium == nullptr) {
+        SaveOutcome outcome;
+        outcome.error = QStringLiteral("The medium can no longer be opened");
+        return outcome;
+    }
+    return m_saver->saveRuns(item.type, item.name, handOver().carved, *medium);
+}
+
+void CliSession::tally(const PublishedItem& item, const SaveOutcome& outcome) {
+    if (outcome.saved) {
+        ++m_tally.saved;
+        m_tally.withUnreadableSectors +=
+            outcome.sectorsUnreadable != 0 || handOver().carved.readFailed ? 1 : 0;
+        return;
+    }
+    if (m_tally.failed++ < kFailuresTold) {
+        m_tally.failures.append(QStringLiteral("%1: %2").arg(item.name, outcome.error));
+    }
+}
+
+void CliSession::checksumRawItems() {
+    if (m_options.mode == kPhotoMode) {
+        return;
+    }
+    const std::atomic<int> neverStop{0};
+    for (PublishedItem& item : m_published) {
+        QCryptographicHash hash(QCryptographicHash::Sha256);
+        if (const auto medium = openMedium()) {
+            copyPreviewSectors(
+                *medium, item.firstSector, item.endSector, neverStop, [&](const std::uint8_t* sector) {
+                    hash.addData(QByteArrayView(reinterpret_cast<const char*>(sector), kSectorBytes));
+                    return true;
+                });
+        }
+        item.sha256 = hash.result();
+    }
+}
+
+std::vector<QJsonObject> CliSession::jsonLines() const {
+    const auto number = [](std::uint64_t value) { return QJsonValue(static_cast<qint64>(value)); };
+    std::vector<QJsonObject> lines;
+    for (const PublishedItem& item : m_published) {
+        lines.push_back({{QStringLiteral("pass"), item.pass},
+                         {QStringLiteral("name"), item.name},
+                         {QStringLiteral("uid"), item.uid},
+                         {QStringLiteral("first_sector"), number(item.firstSector)},
+                         {QStringLiteral("end_sector"), number(item.endSector)},
+                         {QStringLiteral("bytes"), number(item.bytes)},
+                         {QStringLiteral("sha256"), QString::fromLatin1(item.sha256.toHex())}});
+    }
+    QJsonArray rows;
+    for (const ResultRow& row : resultRows()) {
+        rows.append(QJsonObject{{QStringLiteral("type"), row.value(QStringLiteral("FileTypes"))},
+                                {QStringLiteral("count"), static_cast<qint64>(countOf(row))}});
+    }
+    lines.push_back({{QStringLiteral("end"), outcomeText(lastOutcome())},
+                     {QStringLiteral("alerts"), QJsonArray::fromStringList(alerts())},
+                     {QStringLiteral("rows"), rows}});
+    return lines;
+}
+
+}  // namespace vantor

@@ -1,0 +1,128 @@
+// The command's options and its help text.
+#include "cli/Options.h"
+
+#include <QCommandLineParser>
+
+#include "catalogue/ResourcesFolder.h"
+#include "cli/Version.h"
+
+namespace vantor {
+
+namespace {
+
+const QString kExitCodeHelp = QStringLiteral(
+    "\nExit codes: 0 completed, 2 bad usage, 3 stopped, 4 the medium could not be read to the end, 5 the "
+    "medium cannot\n"
+    "be opened, 6 something found could not be saved.\n"
+    "Ctrl-C ends the search as the Stop button does: all that was found until then is kept and saved.\n"
+    "The medium is only ever read.\n");
+
+ParsedOptions badUsage(const QString& why) {
+    ParsedOptions parsed;
+    parsed.exitCode = kExitBadUsage;
+    parsed.message = why + QStringLiteral("\nTry --help.");
+    return parsed;
+}
+
+std::optional<RecoveryMode> modeOf(const QString& text) {
+    if (text == u"photo") {
+        return kPhotoMode;
+    }
+    if (text == u"video") {
+        return kVideoMode;
+    }
+    if (text == u"rawfile") {
+        return kRawFileMode;
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+ParsedOptions parseOptions(const QStringList& arguments) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "Finds photos, videos and other files on a storage medium by the bytes that begin them."));
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+                                  QStringLiteral("Show this help."));
+    const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
+                                     QStringLiteral("Show the version."));
+    const QCommandLineOption mode(QStringLiteral("mode"),
+                                  QStringLiteral("What to look for: photo (default), video or rawfile."),
+                                  QStringLiteral("MODE"), QStringLiteral("photo"));
+    const QCommandLineOption types(
+        QStringLiteral("types"),
+        QStringLiteral("Only these file types, comma-separated (video and rawfile modes)."),
+        QStringLiteral("EXT,..."));
+    const QCommandLineOption range(QStringLiteral("range"),
+                                   QStringLiteral("Only the sectors from START up to, not including, END."),
+                                   QStringLiteral("START:END"));
+    const QCommandLineOption noThorough(QStringLiteral("no-thorough"),
+                                        QStringLiteral("Leave out the thorough pass of photo mode."));
+    const QCommandLineOption catalogue(QStringLiteral("catalogue"),
+                                       QStringLiteral("Folder of the six signature catalogues."),
+                                       QStringLiteral("DIR"), resourcesFolder());
+    const QCommandLineOption save(
+        QStringLiteral("save"),
+        QStringLiteral("Save what is found as DIR/<type>/<name>; nothing is overwritten."),
+        QStringLiteral("DIR"));
+    const QCommandLineOption listJson(
+        QStringLiteral("list-json"),
+        QStringLiteral("Print one JSON object a found item, and one for the end."));
+    parser.addOptions({help, version, mode, types, range, noThorough, catalogue, save, listJson});
+    parser.addPositionalArgument(
+        QStringLiteral("MEDIUM"),
+        QStringLiteral("An image file, a device's identifier (sdb1) or its path (/dev/sdb1)."));
+
+    if (!parser.parse(QStringList{QStringLiteral("vantor-recovery-cli")} + arguments)) {
+        return badUsage(parser.errorText());
+    }
+    ParsedOptions parsed;
+    if (parser.isSet(help)) {
+        parsed.exitCode = kExitCompleted;
+        parsed.message = parser.helpText() + kExitCodeHelp;
+        return parsed;
+    }
+    if (parser.isSet(version)) {
+        parsed.exitCode = kExitCompleted;
+        parsed.message = QStringLiteral("vantor-recovery-cli " VANTOR_VERSION);
+        return parsed;
+    }
+    const auto chosenMode = modeOf(parser.value(mode));
+    if (!chosenMode) {
+        return badUsage(QStringLiteral("Unknown mode \"%1\".").arg(parser.value(mode)));
+    }
+    CliOptions& options = parsed.options;
+    options.mode = *chosenMode;
+    if (parser.isSet(types)) {
+        if (options.mode == kPhotoMode) {
+            return badUsage(
+                QStringLiteral("Photo mode searches for all its types; --types goes with video or rawfile."));
+        }
+        options.types = parser.value(types).split(u',', Qt::SkipEmptyParts);
+    }
+    if (parser.isSet(range)) {
+        const QString text = parser.value(range);
+        const qsizetype colon = text.indexOf(u':');
+        if (colon < 0) {
+            return badUsage(QStringLiteral("--range takes START:END."));
+        }
+        options.range = {text.left(colon), text.mid(colon + 1)};
+    }
+    options.thorough = !parser.isSet(noThorough);
+    options.catalogueFolder = parser.value(catalogue);
+    options.saveFolder = parser.value(save);
+    if (parser.isSet(save) && options.saveFolder.isEmpty()) {
+        return badUsage(QStringLiteral("--save takes a folder."));
+    }
+    options.listJson = parser.isSet(listJson);
+    const QStringList media = parser.positionalArguments();
+    if (media.size() != 1) {
+        return badUsage(media.isEmpty() ? QStringLiteral("No medium given.")
+                                        : QStringLiteral("More than one medium given."));
+    }
+    options.medium = media.first();
+    return parsed;
+}
+
+}  // namespace vantor

@@ -1,0 +1,17 @@
+// vantor-recovery-cli: recovery for scripts and for machines without a display.
+#include <QCoreApplication>
+#include <cstdio>
+
+#include "cli/Options.h"
+#include "cli/Recovery.h"
+
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    const vantor::ParsedOptions parsed = vantor::parseOptions(QCoreApplication::arguments().mid(1));
+    if (parsed.exitCode) {
+        std::fprintf(*parsed.exitCode == vantor::kExitCompleted ? stdout : stderr, "%s\n",
+                     qPrintable(parsed.message));
+        return *parsed.exitCode;
+    }
+    return vantor::recover(parsed.options);
+}

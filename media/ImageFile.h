@@ -1,0 +1,51 @@
+// An image of a medium kept in one file, or in numbered parts.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "media/BlockSource.h"
+#include "media/FileDescriptor.h"
+
+namespace vantor {
+
+// The files of the image in their order: name.001, name.002 … when `path` is any of such parts and the first
+// is there, else `path` alone. A gap ends the sequence.
+QStringList imageParts(const QString& path);
+
+// A sentence for the user that says what to do, when the file holds a medium packed in a form that cannot be
+// searched as it stands: an archive, a compressed file, a container of a virtual machine or of an evidence
+// tool. Looks at a few bytes only; nothing for a plain image or for a file that cannot be read.
+std::optional<QString> refusePackedImage(const QString& path);
+
+// Reads the parts of an image as one medium of floor(bytes / 512) sectors. A part that ends early or turns
+// into another file makes the medium gone, as does an error that says so.
+class ImageFile : public BlockSource {
+  public:
+    // Null when a part cannot be opened for reading or is no regular file.
+    static std::unique_ptr<ImageFile> open(const QStringList& parts);
+
+    std::uint64_t sectors() const;
+
+    std::int64_t readAt(std::uint64_t sector, std::span<std::uint8_t> into) override;
+    bool usable() override { return !m_gone; }
+
+  private:
+    struct Part {
+        FileDescriptor descriptor;
+        std::uint64_t first = 0;  // bytes
+        std::uint64_t end = 0;
+    };
+
+    ImageFile() = default;
+    static bool hasShrunk(const Part& part);
+
+    std::vector<Part> m_parts;
+    bool m_gone = false;
+};
+
+}  // namespace vantor

@@ -1,0 +1,89 @@
+// Keeping images as media.
+#include "media/ImageShelf.h"
+
+#include <QFileInfo>
+#include <utility>
+
+#include "media/ImageFile.h"
+#include "media/RawDevice.h"
+
+namespace vantor {
+
+ImageShelf::ImageShelf(std::unique_ptr<MediaSource> machine) : m_machine(std::move(machine)) {
+    m_machine->changed = [this] {
+        if (changed) {
+            changed();
+        }
+    };
+}
+
+QStringList ImageShelf::mountedRemovableMedia() {
+    QStringList paths = m_machine->mountedRemovableMedia();
+    for (const Image& image : m_images) {
+        paths << image.path;
+    }
+    updateTargets();
+    return paths;
+}
+
+MediaFacts ImageShelf::diskInfo(const QString& path) {
+    for (const Image& image : m_images) {
+        if (path == image.path || path == image.identifier) {
+            return factsOf(image);
+        }
+    }
+    return m_machine->diskInfo(path);
+}
+
+OpenedImage ImageShelf::addImage(const QString& path) {
+    const QString name = QFileInfo(path).fileName();
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    const QString first = imageParts(canonical).constFirst();
+    for (const Image& image : m_images) {
+        if (image.path == first) {
+            return {image.identifier, {}};
+        }
+    }
+    if (const auto refusal = refusePackedImage(first)) {
+        return {{}, *refusal};
+    }
+    QString why;
+    const auto facts = probeMedium(first, &why);
+    if (!facts || !facts->isImage) {
+        return {{},
+                facts ? QStringLiteral("“%1” is no image file.").arg(name)
+                      : QStringLiteral("“%1” cannot be opened: %2.").arg(name, why)};
+    }
+    if (facts->sectors == 0) {
+        return {{},
+                QStringLiteral("“%1” is empty. Please choose an image file of a storage medium.").arg(name)};
+    }
+    m_images << Image{QStringLiteral("image%1").arg(m_images.size() + 1), first};
+    updateTargets();
+    return {m_images.constLast().identifier, {}};
+}
+
+void ImageShelf::updateTargets() {
+    const auto machine = m_machine->targets();
+    auto targets = machine ? machine->all() : QHash<QString, MediumTarget>();
+    for (const Image& image : m_images) {
+        targets[image.identifier] = {image.path, {}};
+    }
+    m_targets->replace(targets);
+}
+
+MediaFacts ImageShelf::factsOf(const Image& image) {
+    const auto facts = probeMedium(image.path);
+    if (!facts) {
+        return {};
+    }
+    const QString name = QFileInfo(image.path).fileName();
+    return {{QStringLiteral("DeviceIdentifier"), image.identifier},
+            {QStringLiteral("VolumeName"), name},
+            {QStringLiteral("ParentWholeDisk"), image.identifier},
+            {QStringLiteral("IOKitSize"), quint64{facts->sectors * kSectorBytes}},
+            {QStringLiteral("BusProtocol"), QStringLiteral("Image File")},
+            {QStringLiteral("MediaName"), name}};
+}
+
+}  // namespace vantor

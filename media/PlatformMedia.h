@@ -1,0 +1,23 @@
+// The media of this machine, and how the scans open them.
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <memory>
+
+#include "media/MediaSource.h"
+#include "media/RawDevice.h"
+
+namespace vantor {
+
+// The disk service where it answers, else the kernel's own texts (Linux); the disk utility (macOS). With
+// both, a shelf of opened images. Needs an application object; main thread.
+std::unique_ptr<MediaSource> makePlatformMediaSource();
+
+// Opens "/dev/r" + identifier: the node or image that the source listed last under that identifier, and only
+// while the same medium is in the slot. Any thread but the main one, since asking the user for consent may
+// take minutes; `stop` ends that wait as it ends any other. Lives on without the source.
+std::function<std::unique_ptr<SectorReader>(const QString& devicePath)> makeMediumOpener(
+    const MediaSource& source, StopRequest stop = {});
+
+}  // namespace vantor

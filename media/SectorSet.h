@@ -1,0 +1,59 @@
+// A set of sector numbers kept as runs.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
+#include <limits>
+#include <map>
+
+namespace vantor {
+
+// Neighbours share one entry, so that a dead stretch costs one. At most kMaxRuns entries are kept; beyond
+// them the lowest run is forgotten.
+class SectorSet {
+  public:
+    static constexpr std::size_t kMaxRuns = 4096;
+
+    bool contains(std::uint64_t sector) const {
+        const auto after = m_runs.upper_bound(sector);
+        return after != m_runs.begin() && sector < std::prev(after)->second;
+    }
+
+    void add(std::uint64_t sector) {
+        if (contains(sector)) {
+            return;
+        }
+        const auto after = m_runs.upper_bound(sector);
+        std::uint64_t end = sector + 1;
+        if (after != m_runs.end() && after->first == end) {
+            end = after->second;
+            m_runs.erase(after);
+        }
+        const auto next = m_runs.upper_bound(sector);
+        if (next != m_runs.begin() && std::prev(next)->second == sector) {
+            std::prev(next)->second = end;
+        } else {
+            m_runs.emplace(sector, end);
+        }
+        if (m_runs.size() > kMaxRuns) {
+            m_runs.erase(m_runs.begin());
+        }
+    }
+
+    // The first sector of the set at or behind `sector`; the largest number there is when none follows.
+    std::uint64_t firstFrom(std::uint64_t sector) const {
+        if (contains(sector)) {
+            return sector;
+        }
+        const auto after = m_runs.upper_bound(sector);
+        return after == m_runs.end() ? std::numeric_limits<std::uint64_t>::max() : after->first;
+    }
+
+    std::size_t runs() const { return m_runs.size(); }
+
+  private:
+    std::map<std::uint64_t, std::uint64_t> m_runs;  // first sector -> one past the last
+};
+
+}  // namespace vantor

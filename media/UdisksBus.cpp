@@ -1,0 +1,187 @@
+// Talking to the disk service.
+#include "media/UdisksBus.h"
+
+#include <fcntl.h>
+
+#include <QByteArrayList>
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QDBusPendingCall>
+#include <QDBusUnixFileDescriptor>
+#include <atomic>
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+#include <utility>
+
+namespace vantor {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+const QString kService = QStringLiteral("org.freedesktop.UDisks2");
+const QString kManagerPath = QStringLiteral("/org/freedesktop/UDisks2");
+
+constexpr int kObjectsTimeoutMs = 30'000;
+constexpr auto kConsentTime = 10min;  // longer than anybody takes to type a password
+
+QString newConnectionName() {
+    static std::atomic<int> number{0};
+    return QStringLiteral("vantor-udisks-%1").arg(++number);
+}
+
+// Values in a form that knows nothing of a bus.
+QVariant plainValue(const QVariant& value) {
+    if (value.userType() == qMetaTypeId<QDBusObjectPath>()) {
+        return value.value<QDBusObjectPath>().path();
+    }
+    if (value.userType() == qMetaTypeId<QDBusArgument>()) {
+        const auto argument = value.value<QDBusArgument>();
+        if (argument.currentSignature() == u"aay") {
+            return QVariant::fromValue(qdbus_cast<QByteArrayList>(argument));
+        }
+        return {};
+    }
+    return value;
+}
+
+UdisksInterfaces readInterfaces(const QDBusArgument& argument) {
+    UdisksInterfaces interfaces;
+    argument.beginMap();
+    while (!argument.atEnd()) {
+        QString name;
+        QVariantMap properties;
+        argument.beginMapEntry();
+        argument >> name >> properties;
+        argument.endMapEntry();
+        for (QVariant& value : properties) {
+            value = plainValue(value);
+        }
+        interfaces[name] = properties;
+    }
+    argument.endMap();
+    return interfaces;
+}
+
+}  // namespace
+
+struct UdisksBus::Attempt {
+    std::mutex mutex;
+    std::condition_variable done;
+    bool finished = false;
+    QString name;  // of the connection, whether or not it came to be
+
+    ~Attempt() { QDBusConnection::disconnectFromBus(name); }
+};
+
+UdisksBus::UdisksBus(QString address) : m_address(std::move(address)) {}
+
+UdisksBus::~UdisksBus() = default;
+
+bool UdisksBus::ensureConnected(std::chrono::milliseconds wait) {
+    if (const auto last = this->attempt()) {
+        const std::lock_guard lock(last->mutex);
+        if (!last->finished) {
+            return false;  // it has had its time
+        }
+        if (connectionOf(last).isConnected()) {
+            return true;
+        }
+    }
+    auto attempt = std::make_shared<Attempt>();
+    attempt->name = newConnectionName();
+    {
+        const std::lock_guard lock(m_mutex);
+        m_attempt = attempt;
+    }
+    // On a thread of its own: greeting a bus that does not answer takes its own long time.
+    std::thread([attempt, address = m_address] {
+        if (address.isEmpty()) {
+            QDBusConnection::connectToBus(QDBusConnection::SystemBus, attempt->name);
+        } else {
+            QDBusConnection::connectToBus(address, attempt->name);
+        }
+        const std::lock_guard lock(attempt->mutex);
+        attempt->finished = true;
+        attempt->done.notify_all();
+    }).detach();
+    std::unique_lock lock(attempt->mutex);
+    attempt->done.wait_for(lock, wait, [&] { return attempt->finished; });
+    return attempt->finished && QDBusConnection(attempt->name).isConnected();
+}
+
+std::shared_ptr<UdisksBus::Attempt> UdisksBus::attempt() const {
+    const std::lock_guard lock(m_mutex);
+    return m_attempt;
+}
+
+QDBusConnection UdisksBus::connectionOf(const std::shared_ptr<Attempt>& attempt) {
+    return QDBusConnection(attempt ? attempt->name : QString());
+}
+
+QDBusConnection UdisksBus::connection() const {
+    return connectionOf(attempt());
+}
+
+QDBusPendingCall UdisksBus::askForObjects() const {
+    const auto message = QDBusMessage::createMethodCall(kService, kManagerPath,
+                                                        QStringLiteral("org.freedesktop.DBus.ObjectManager"),
+                                                        QStringLiteral("GetManagedObjects"));
+    return connection().asyncCall(message, kObjectsTimeoutMs);
+}
+
+std::optional<UdisksObjects> UdisksBus::objectsIn(const QDBusMessage& answer) {
+    if (answer.type() != QDBusMessage::ReplyMessage || answer.signature() != u"a{oa{sa{sv}}}") {
+        return std::nullopt;
+    }
+    const auto argument = answer.arguments().constFirst().value<QDBusArgument>();
+    UdisksObjects objects;
+    argument.beginMap();
+    while (!argument.atEnd()) {
+        QDBusObjectPath path;
+        argument.beginMapEntry();
+        argument >> path;
+        objects[path.path()] = readInterfaces(argument);
+        argument.endMapEntry();
+    }
+    argument.endMap();
+    return objects;
+}
+
+FileDescriptor UdisksBus::openDevice(const QString& node, const StopRequest& stop) const {
+    QDBusMessage message = QDBusMessage::createMethodCall(kService, udisksObjectPath(node),
+                                                          QStringLiteral("org.freedesktop.UDisks2.Block"),
+                                                          QStringLiteral("OpenDevice"));
+    message.setArguments({QStringLiteral("r"), QVariantMap()});
+    message.setInteractiveAuthorizationAllowed(true);
+    const auto timeout = std::chrono::duration_cast<std::chrono::milliseconds>(kConsentTime);
+    const auto kept = attempt();  // the connection lives as long as the wait
+    const QDBusPendingCall call = connectionOf(kept).asyncCall(message, static_cast<int>(timeout.count()));
+    if (!waitForAnswer(call, timeout, stop) || call.isError()) {
+        return {};
+    }
+    const QVariantList arguments = call.reply().arguments();
+    const auto descriptor =
+        arguments.isEmpty() ? QDBusUnixFileDescriptor() : arguments.first().value<QDBusUnixFileDescriptor>();
+    // The answer's own descriptor closes with the answer.
+    return descriptor.isValid() ? FileDescriptor(::fcntl(descriptor.fileDescriptor(), F_DUPFD_CLOEXEC, 0))
+                                : FileDescriptor();
+}
+
+bool waitForAnswer(const QDBusPendingCall& call, std::chrono::milliseconds wait, const StopRequest& stop) {
+    const auto deadline = std::chrono::steady_clock::now() + wait;
+    auto pause = 1ms;
+    while (!call.isFinished()) {
+        if (std::chrono::steady_clock::now() >= deadline || (stop && stop())) {
+            return false;
+        }
+        std::this_thread::sleep_for(pause);
+        pause = std::min(2 * pause, std::chrono::milliseconds(50ms));
+    }
+    return true;
+}
+
+}  // namespace vantor

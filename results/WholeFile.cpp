@@ -1,0 +1,134 @@
+// Unnamed files where the kernel has them, temporary names elsewhere; both end in a link that refuses to
+// replace.
+#include "results/WholeFile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+namespace vantor {
+
+namespace {
+
+constexpr int kMostNamesTried = 100000;
+
+// "name.ext" with " (n)" before the extension; n = 1 is the name itself.
+QString numberedName(const QString& name, int n) {
+    if (n == 1) {
+        return name;
+    }
+    const qsizetype dot = name.lastIndexOf(u'.');
+    const qsizetype cut = dot > 0 ? dot : name.size();
+    return name.left(cut) + QStringLiteral(" (%1)").arg(n) + name.mid(cut);
+}
+
+}  // namespace
+
+WholeFile::WholeFile(const QString& folder) : m_folder(folder) {
+    const QByteArray path = QFile::encodeName(folder);
+    m_fd = ::open(path.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0644);
+    if (m_fd >= 0) {
+        return;
+    }
+    if (errno == EOPNOTSUPP || errno == EISDIR || errno == EINVAL || errno == ENOENT) {
+        QByteArray pattern = path + "/.vantor-XXXXXX.part";
+        m_fd = ::mkostemps(pattern.data(), 5, O_CLOEXEC);
+        if (m_fd >= 0) {
+            m_temporaryPath = pattern;
+            ::fchmod(m_fd, 0644);
+            return;
+        }
+    }
+    fail();
+}
+
+WholeFile::~WholeFile() {
+    if (m_fd >= 0) {
+        ::close(m_fd);
+    }
+    if (!m_temporaryPath.isEmpty()) {
+        ::unlink(m_temporaryPath.constData());
+    }
+}
+
+bool WholeFile::fail() {
+    m_error = errno != 0 ? errno : EIO;
+    return false;
+}
+
+bool WholeFile::write(QByteArrayView bytes) {
+    while (isGood() && !bytes.isEmpty()) {
+        const ssize_t n = ::write(m_fd, bytes.data(), static_cast<std::size_t>(bytes.size()));
+        if (n > 0) {
+            bytes = bytes.sliced(n);
+        } else if (n == 0 || errno != EINTR) {
+            return fail();
+        }
+    }
+    return isGood();
+}
+
+std::optional<QString> WholeFile::commit(const QString& name) {
+    if (!isGood()) {
+        return std::nullopt;
+    }
+    if (::fsync(m_fd) != 0 && errno != EINVAL) {
+        fail();
+        return std::nullopt;
+    }
+    for (int n = 1; n <= kMostNamesTried; ++n) {
+        const QString path = m_folder + u'/' + numberedName(name, n);
+        if (takeName(QFile::encodeName(path))) {
+            return path;
+        }
+        if (errno != EEXIST) {
+            break;
+        }
+    }
+    fail();
+    return std::nullopt;
+}
+
+// False with errno EEXIST when the name is taken.
+bool WholeFile::takeName(const QByteArray& path) {
+    if (m_temporaryPath.isEmpty()) {
+        char self[64];
+        std::snprintf(self, sizeof self, "/proc/self/fd/%d", m_fd);
+        return ::linkat(AT_FDCWD, self, AT_FDCWD, path.constData(), AT_SYMLINK_FOLLOW) == 0;
+    }
+    if (::renameat2(AT_FDCWD, m_temporaryPath.constData(), AT_FDCWD, path.constData(), RENAME_NOREPLACE) ==
+        0) {
+        m_temporaryPath.clear();
+        return true;
+    }
+    if (errno != EINVAL && errno != ENOSYS) {
+        return false;
+    }
+    // The file system knows no rename that refuses to replace: reserve the name first, then replace our own
+    // file.
+    const int reserved = ::open(path.constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0644);
+    if (reserved < 0) {
+        return false;
+    }
+    ::close(reserved);
+    if (::rename(m_temporaryPath.constData(), path.constData()) != 0) {
+        const int why = errno;
+        ::unlink(path.constData());
+        errno = why;
+        return false;
+    }
+    m_temporaryPath.clear();
+    return true;
+}
+
+QString WholeFile::error() const {
+    return QString::fromLocal8Bit(std::strerror(m_error));
+}
+
+}  // namespace vantor

@@ -1,0 +1,67 @@
+// Writing numbers into a file's bytes in the order its format asks for.
+#pragma once
+
+#include <QByteArray>
+#include <cstdint>
+
+namespace vantor::samples {
+
+// Appends to a byte array; "le" is least significant byte first, "be" most significant first.
+class Bytes {
+  public:
+    Bytes& u8(std::uint64_t value) { return le(value, 1); }
+    Bytes& le16(std::uint64_t value) { return le(value, 2); }
+    Bytes& le32(std::uint64_t value) { return le(value, 4); }
+    Bytes& le64(std::uint64_t value) { return le(value, 8); }
+    Bytes& be16(std::uint64_t value) { return be(value, 2); }
+    Bytes& be24(std::uint64_t value) { return be(value, 3); }
+    Bytes& be32(std::uint64_t value) { return be(value, 4); }
+    Bytes& be64(std::uint64_t value) { return be(value, 8); }
+    Bytes& text(const char* text) {
+        m_bytes.append(text);
+        return *this;
+    }
+    Bytes& raw(const QByteArray& bytes) {
+        m_bytes.append(bytes);
+        return *this;
+    }
+    Bytes& zeros(qsizetype count) {
+        m_bytes.append(count, '\0');
+        return *this;
+    }
+    // Text in a field of fixed width, filled up with `fill`.
+    Bytes& field(const QByteArray& text, qsizetype width, char fill = '\0') {
+        m_bytes.append(text.left(width).leftJustified(width, fill));
+        return *this;
+    }
+    // Zeros up to the next multiple of `unit` bytes.
+    Bytes& alignTo(qsizetype unit) { return zeros((unit - m_bytes.size() % unit) % unit); }
+
+    void setLe32(qsizetype at, std::uint64_t value) {
+        for (int i = 0; i < 4; ++i)
+            m_bytes[at + i] = static_cast<char>(value >> (8 * i));
+    }
+    void setBe32(qsizetype at, std::uint64_t value) {
+        for (int i = 0; i < 4; ++i)
+            m_bytes[at + i] = static_cast<char>(value >> (8 * (3 - i)));
+    }
+
+    qsizetype size() const { return m_bytes.size(); }
+    const QByteArray& bytes() const { return m_bytes; }
+
+  private:
+    Bytes& le(std::uint64_t value, int count) {
+        for (int i = 0; i < count; ++i)
+            m_bytes.append(static_cast<char>(value >> (8 * i)));
+        return *this;
+    }
+    Bytes& be(std::uint64_t value, int count) {
+        for (int i = count - 1; i >= 0; --i)
+            m_bytes.append(static_cast<char>(value >> (8 * i)));
+        return *this;
+    }
+
+    QByteArray m_bytes;
+};
+
+}  // namespace vantor::samples

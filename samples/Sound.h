@@ -1,0 +1,35 @@
+// A short tune and the sound files that hold it.
+#pragma once
+
+#include <QByteArray>
+#include <cstdint>
+#include <vector>
+
+namespace vantor::samples {
+
+// One channel of 16-bit samples.
+struct Sound {
+    int rate = 0;  // samples a second
+    std::vector<std::int16_t> samples;
+};
+
+// A tune of plucked notes, the given number of tenths of a second long.
+Sound playTune(int rate, int tenths);
+
+QByteArray wavFile(const Sound& sound);   // RIFF, PCM
+QByteArray auFile(const Sound& sound);    // 16-bit linear
+QByteArray aiffFile(const Sound& sound);  // AIFF 1.3
+QByteArray cafFile(const Sound& sound);   // Apple Core Audio Format, PCM
+QByteArray vocFile(const Sound& sound);   // 8 bits, version 1.10
+QByteArray flacFile(const Sound& sound);  // second-order prediction, RFC 9639
+QByteArray oggFlacFile(const Sound& sound);
+QByteArray mp3File(int frames);  // an ID3v2.3 tag and frames of silence
+QByteArray aacFile(int frames);  // ADTS frames of silence
+QByteArray amrFile(int frames);  // frames of zeros at the lowest rate
+QByteArray midiFile();           // the tune as notes
+
+// The notes of the tune: MIDI note numbers, 0 for a rest, each `kTenthsPerNote` long.
+const std::vector<int>& tuneNotes();
+constexpr int kTenthsPerNote = 2;
+
+}  // namespace vantor::samples

@@ -1,0 +1,42 @@
+// Runs the built command as a user would.
+#pragma once
+
+#include <QByteArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QList>
+#include <QProcess>
+#include <QStringList>
+
+namespace vantor {
+
+struct CommandRun {
+    int exitCode = -1;
+    QByteArray out;
+    QByteArray err;
+
+    QList<QJsonObject> json() const {
+        QList<QJsonObject> lines;
+        for (const QByteArray& line : out.split('\n')) {
+            if (!line.isEmpty()) {
+                lines.append(QJsonDocument::fromJson(line).object());
+            }
+        }
+        return lines;
+    }
+};
+
+inline CommandRun runCommand(const QStringList& arguments,
+                             const QString& program = QStringLiteral(VANTOR_CLI)) {
+    QProcess process;
+    process.start(program, arguments);
+    CommandRun run;
+    if (process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit) {
+        run.exitCode = process.exitCode();
+    }
+    run.out = process.readAllStandardOutput();
+    run.err = process.readAllStandardError();
+    return run;
+}
+
+}  // namespace vantor

@@ -1,0 +1,294 @@
+// The command from outside: what it prints, saves and exits with.
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QJsonArray>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include "tests/cli/CommandRun.h"
+
+namespace vantor {
+namespace {
+
+// A small image with two photos and a PDF in between, data sectors elsewhere.
+QString writeImage(const QTemporaryDir& folder, const QString& name = QStringLiteral("card.img"),
+                   int sectors = 64) {
+    QByteArray bytes(sectors * 512, 'z');
+    bytes.replace(4 * 512, 11, QByteArray("\xFF\xD8\xFF\xE0\x00\x10JFIF\0", 11));
+    bytes.replace(20 * 512, 8, "%PDF-1.4");
+    bytes.replace(40 * 512, 11, QByteArray("\xFF\xD8\xFF\xE0\x00\x10JFIF\0", 11));
+    QFile file(folder.filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+    return file.fileName();
+}
+
+QString writeCatalogues(const QTemporaryDir& folder, const QByteArray& photo, const QByteArray& raw = {}) {
+    const QDir dir(folder.path());
+    dir.mkpath("catalogue");
+    const auto write = [&](const char* name, const QByteArray& text) {
+        QFile file(dir.filePath("catalogue/") + name);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    };
+    write("ZelExt2.dll", photo);
+    write("ZelExt2Adv.dll", photo);
+    write("ZelRaw.dll", raw);
+    return dir.filePath("catalogue");
+}
+
+QByteArray record(const QByteArray& extension, const QByteArray& header) {
+    return "E: " + extension + "\nS: 1000000\nHeader : " + header + "\nO: 1\nR: 0\nD: x\n";
+}
+
+QByteArray sha256Of(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha256).toHex();
+}
+
+QStringList filesUnder(const QString& folder) {
+    QStringList files;
+    QDirIterator it(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        files.append(QDir(folder).relativeFilePath(it.next()));
+    }
+    files.sort();
+    return files;
+}
+
+}  // namespace
+
+TEST(Command, HelpAndVersion) {
+    const CommandRun help = runCommand({"--help"});
+    EXPECT_EQ(help.exitCode, 0);
+    for (const char* option :
+         {"--mode", "--types", "--range", "--no-thorough", "--catalogue", "--save", "--list-json"}) {
+        EXPECT_TRUE(help.out.contains(option)) << option;
+    }
+    const CommandRun version = runCommand({"--version"});
+    EXPECT_EQ(version.exitCode, 0);
+    EXPECT_TRUE(version.out.startsWith("vantor-recovery-cli "));
+}
+
+TEST(Command, BadUsageIsTold) {
+    for (const QStringList& arguments : {QStringList{},
+                                         {"--mode", "music", "x"},
+                                         {"--range", "5", "x"},
+                                         {"a", "b"},
+                                         {"--nonsense", "x"},
+                                         {"--types", "JPG", "x"}}) {
+        const CommandRun run = runCommand(arguments);
+        EXPECT_EQ(run.exitCode, 2) << arguments.join(' ').toStdString();
+        EXPECT_FALSE(run.err.isEmpty());
+    }
+}
+
+TEST(Command, RangeIsRefusedWithTheWizardsTexts) {
+    const QTemporaryDir folder;
+    const QString image = writeImage(folder);
+    const auto refusal = [&](const char* range) {
+        const CommandRun run = runCommand({"--range", range, image});
+        EXPECT_EQ(run.exitCode, 2);
+        return run.err;
+    };
+    EXPECT_TRUE(refusal("x:5").contains("Please enter valid Start Sector value."));
+    EXPECT_TRUE(refusal("5:").contains("Please enter valid End Sector value."));
+    EXPECT_TRUE(refusal("0:65").contains("Maximum sector range exceeded"));
+    EXPECT_TRUE(refusal("9:9").contains("End Sector should be greater than Start Sector."));
+}
+
+TEST(Command, ListsAndSavesPhotos) {
+    const QTemporaryDir folder;
+    const QString image = writeImage(folder);
+    const CommandRun run =
+        runCommand({"--catalogue", writeCatalogues(folder, record("JPG", "FFD8FFE0")), "--list-json",
+                    "--no-thorough", "--save", folder.filePath("out"), image});
+    EXPECT_EQ(run.exitCode, 0) << run.err.constData();
+    const auto lines = run.json();
+    ASSERT_EQ(lines.size(), 3);
+    EXPECT_EQ(lines[0]["pass"], "GEN");
+    EXPECT_EQ(lines[0]["name"], "GND00001.JPG");
+    EXPECT_EQ(lines[0]["first_sector"], 4);
+    EXPECT_EQ(lines[0]["end_sector"], 40);
+    EXPECT_EQ(lines[0]["bytes"], 36 * 512);
+    EXPECT_EQ(lines[2]["end"], "completed");
+    EXPECT_EQ(lines[2]["alerts"].toArray().size(), 0);
+    EXPECT_EQ(filesUnder(folder.filePath("out")), QStringList({"JPG/GND00001.JPG", "JPG/GND00002.JPG"}));
+    EXPECT_EQ(sha256Of(folder.filePath("out/JPG/GND00001.JPG")), lines[0]["sha256"].toString().toLatin1());
+}
+
+TEST(Command, SavedRawItemsAreTheirSectors) {
+    const QTemporaryDir folder;
+    const QString image = writeImage(folder);
+    const CommandRun run =
+        runCommand({"--mode", "rawfile", "--catalogue",
+                    writeCatalogues(folder, {}, record("PDF", "255044462D") + record("JPG", "FFD8FFE0")),
+                    "--types", "PDF", "--list-json", "--save", folder.filePath("out"), image});
+    EXPECT_EQ(run.exitCode, 0) << run.err.constData();
+    const auto lines = run.json();
+    ASSERT_EQ(lines.size(), 2);
+    EXPECT_EQ(lines[0]["name"], "PDF00001.PDF");
+    EXPECT_EQ(lines[0]["uid"], "PDF00001.PDF");
+    EXPECT_EQ(lines[0]["first_sector"], 20);
+    EXPECT_EQ(lines[0]["end_sector"], 64);
+    EXPECT_EQ(lines[1]["rows"].toArray()[0].toObject()["count"], 1);
+    EXPECT_EQ(sha256Of(folder.filePath("out/PDF/PDF00001.PDF")), lines[0]["sha256"].toString().toLatin1());
+}
+
+TEST(Command, NothingIsEverOverwritten) {
+    const QTemporaryDir folder;
+    const QString image = writeImage(folder);
+    const QStringList arguments{"--catalogue",          writeCatalogues(folder, record("JPG", "FFD8FFE0")),
+                                "--no-thorough",        "--save",
+                                folder.filePath("out"), image};
+    EXPECT_EQ(runCommand(arguments).exitCode, 0);
+    EXPECT_EQ(runCommand(arguments).exitCode, 0);
+    EXPECT_EQ(filesUnder(folder.filePath("out")), QStringList({"JPG/GND00001 (2).JPG", "JPG/GND00001.JPG",
+                                                               "JPG/GND00002 (2).JPG", "JPG/GND00002.JPG"}));
+}
+
+TEST(Command, TypeNamesNeverLeadOutOfTheDestination) {
+    const QTemporaryDir folder;
+    const QString image = writeImage(folder);
+    const CommandRun run =
+        runCommand({"--mode", "rawfile", "--catalogue",
+                    writeCatalogues(
+                        folder, {},
+                        record("x..", "255044462D") + record("A/B", "FFD8FFE0") + record("/etc", "7A7A7A7A")),
+                    "--save", folder.filePath("out/inner"), image});
+    EXPECT_EQ(run.exitCode, 0) << run.err.constData();
+    const QStringList all = filesUnder(folder.path());
+    EXPECT_GE(all.size(), 6);
+    for (const QString& file : all) {
+        EXPECT_TRUE(file.startsWith("out/inner/") || file.startsWith("catalogue/") || file == "card.img")
+            << file.toStdString();
+    }
+}
+
+TEST(Command, UnknownTypeIsTold) {
+    const QTemporaryDir folder;
+    const CommandRun run = runCommand({"--mode", "rawfile", "--types", "NOSUCHTYPE", writeImage(folder)});
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_TRUE(run.err.contains("NOSUCHTYPE"));
+}
+
+TEST(Command, MediumThatCannotBeOpened) {
+    const QTemporaryDir folder;
+    ASSERT_EQ(::mkfifo(folder.filePath("pipe").toLocal8Bit().constData(), 0600), 0);
+    for (const QString& medium : {folder.filePath("absent"), folder.path(), folder.filePath("pipe")}) {
+        const CommandRun run = runCommand({"--list-json", medium});
+        EXPECT_EQ(run.exitCode, 5) << medium.toStdString();
+        ASSERT_EQ(run.json().size(), 1);
+        EXPECT_EQ(run.json()[0]["end"], "open-error");
+        EXPECT_EQ(run.json()[0]["alerts"].toArray()[0], "\nError in storage media reading.");
+    }
+}
+
+TEST(Command, UnreadableMediumIsToldToOrdinaryUsers) {
+    if (::geteuid() == 0) {
+        GTEST_SKIP() << "root may read everything";
+    }
+    const QTemporaryDir folder;
+    const QString image = writeImage(folder);
+    QFile::setPermissions(image, {});
+    EXPECT_EQ(runCommand({image}).exitCode, 5);
+}
+
+TEST(Command, ReadErrorHasItsExitCode) {
+    const QTemporaryDir folder;
+    const CommandRun run = runCommand({"--catalogue", folder.path(), "--list-json", writeImage(folder)});
+    EXPECT_EQ(run.exitCode, 4);
+    EXPECT_EQ(run.json().last()["end"], "read-error");
+}
+
+TEST(Command, EmptyImageIsAReadError) {
+    const QTemporaryDir folder;
+    QFile empty(folder.filePath("empty.img"));
+    ASSERT_TRUE(empty.open(QIODevice::WriteOnly));
+    empty.write("less than a sector");
+    empty.close();
+    EXPECT_EQ(runCommand({empty.fileName()}).exitCode, 4);
+}
+
+TEST(Command, DestinationThatCannotBeMade) {
+    const QTemporaryDir folder;
+    const QString image = writeImage(folder);
+    const CommandRun run = runCommand({"--save", image + "/inside/a/file", image});
+    EXPECT_EQ(run.exitCode, 6);
+    EXPECT_TRUE(run.err.contains("cannot be written to"));
+}
+
+TEST(Command, InterruptPublishesAndSavesWhatWasFound) {
+    const QTemporaryDir folder;
+    // Sparse and large enough that the scan is still running when the signal comes.
+    const QString image = writeImage(folder);
+    ASSERT_EQ(::truncate(image.toLocal8Bit().constData(), off_t{1} << 42), 0);
+    QProcess process;
+    process.start(VANTOR_CLI, {"--catalogue", writeCatalogues(folder, record("JPG", "FFD8FFE0")),
+                               "--list-json", "--save", folder.filePath("out"), image});
+    ASSERT_TRUE(process.waitForStarted());
+    while (!QFile::exists(folder.filePath("out/JPG/GND00001.JPG")) && process.state() == QProcess::Running) {
+        QThread::msleep(5);
+    }
+    ::kill(static_cast<pid_t>(process.processId()), SIGINT);
+    ASSERT_TRUE(process.waitForFinished(30000));
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process.exitCode(), 3);
+    CommandRun run;
+    run.out = process.readAllStandardOutput();
+    const auto lines = run.json();
+    ASSERT_EQ(lines.size(), 3);
+    EXPECT_EQ(lines.last()["end"], "stopped");
+    EXPECT_EQ(filesUnder(folder.filePath("out")), QStringList({"JPG/GND00001.JPG", "JPG/GND00002.JPG"}));
+}
+
+TEST(Command, MediumIsNeverWritten) {
+    const QTemporaryDir folder;
+    const QString image = writeImage(folder);
+    const QByteArray before = sha256Of(image);
+    ASSERT_TRUE(QFile::setPermissions(image, QFile::ReadOwner));
+    EXPECT_EQ(runCommand({"--save", folder.filePath("out"), image}).exitCode, 0);
+    EXPECT_EQ(sha256Of(image), before);
+}
+
+TEST(Command, FullDestinationLosesNothingSilently) {
+    const QTemporaryDir folder;
+    const QString image = writeImage(folder, "card.img", 4000);
+    const QString full = folder.filePath("full");
+    ASSERT_TRUE(QDir().mkpath(full));
+    if (::mount("tmpfs", full.toLocal8Bit().constData(), "tmpfs", 0, "size=64k") != 0) {
+        GTEST_SKIP() << "needs root to mount a small file system";
+    }
+    const CommandRun run = runCommand({"--catalogue", writeCatalogues(folder, record("JPG", "FFD8FFE0")),
+                                       "--no-thorough", "--save", full, image});
+    const QStringList saved = filesUnder(full);
+    ::umount(full.toLocal8Bit().constData());
+    EXPECT_EQ(run.exitCode, 6);
+    EXPECT_TRUE(run.err.contains("1 could not be saved")) << run.err.constData();
+    EXPECT_TRUE(run.err.contains("GND00002.JPG")) << run.err.constData();
+    EXPECT_EQ(saved, QStringList{"JPG/GND00001.JPG"}) << "whole or absent, nothing in between";
+}
+
+TEST(Command, RecoversTheSampleCard) {
+    const CommandRun photos = runCommand({"--list-json", VANTOR_SAMPLE_CARD});
+    EXPECT_EQ(photos.exitCode, 0);
+    EXPECT_GE(photos.json().size(), 40);
+    const CommandRun files = runCommand({"--mode", "rawfile", "--list-json", VANTOR_SAMPLE_CARD});
+    EXPECT_EQ(files.exitCode, 0);
+    EXPECT_GE(files.json().size(), 100);
+    const CommandRun videos = runCommand({"--mode", "video", "--list-json", VANTOR_SAMPLE_CARD});
+    EXPECT_EQ(videos.exitCode, 0);
+    EXPECT_GE(videos.json().size(), 8);
+}
+
+}  // namespace vantor

@@ -1,0 +1,57 @@
+// Reads the card and its list from the build folder.
+#include "tests/samples/CardFixture.h"
+
+#include <QFile>
+
+namespace vantor::samples {
+
+namespace {
+
+QByteArray contentOf(const char* path) {
+    QFile file(QString::fromLocal8Bit(path));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+std::vector<ListedFile> parseList() {
+    std::vector<ListedFile> files;
+    const QList<QByteArray> lines = cardListText().split('\n');
+    for (qsizetype i = 1; i < lines.size(); ++i) {
+        const QList<QByteArray> fields = lines[i].split('\t');
+        if (fields.size() == 6)
+            files.push_back({QString::fromUtf8(fields[0]), QString::fromUtf8(fields[1]),
+                             fields[2].toLongLong(), fields[3].toLongLong(), fields[4],
+                             QString::fromUtf8(fields[5])});
+    }
+    return files;
+}
+
+}  // namespace
+
+const QByteArray& cardImage() {
+    static const QByteArray kImage = contentOf(SAMPLE_CARD_IMAGE);
+    return kImage;
+}
+
+const QByteArray& cardListText() {
+    static const QByteArray kText = contentOf(SAMPLE_CARD_LIST);
+    return kText;
+}
+
+const std::vector<ListedFile>& listedFiles() {
+    static const std::vector<ListedFile> kFiles = parseList();
+    return kFiles;
+}
+
+QByteArray bytesOf(const ListedFile& file) {
+    return cardImage().mid(file.firstSector * 512, file.bytes);
+}
+
+QByteArray bytesOf(const char* name) {
+    for (const ListedFile& file : listedFiles()) {
+        if (file.name == QLatin1String(name))
+            return bytesOf(file);
+    }
+    return {};
+}
+
+}  // namespace vantor::samples

@@ -1,0 +1,32 @@
+// The sample card as the build made it, read once for all tests.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <cstdint>
+#include <vector>
+
+namespace vantor::samples {
+
+struct ListedFile {
+    QString name;
+    QString type;
+    std::int64_t firstSector = 0;
+    std::int64_t bytes = 0;
+    QByteArray sha256;
+    QString note;
+
+    bool inOnePiece() const { return note.startsWith(QLatin1String("in one piece")); }
+    std::int64_t endSector() const { return firstSector + (bytes + 511) / 512; }
+};
+
+const QByteArray& cardImage();
+const QByteArray& cardListText();
+const std::vector<ListedFile>& listedFiles();
+
+// The bytes of a file that lies in one piece.
+QByteArray bytesOf(const ListedFile& file);
+// The bytes of the file of that name; empty when there is none.
+QByteArray bytesOf(const char* name);
+
+}  // namespace vantor::samples

@@ -1,0 +1,351 @@
+// The photo scan over scripted media: items, limits, faults, ends.
+#include <gtest/gtest.h>
+
+#include "scan/PhotoItemBuffer.h"
+#include "tests/support/TestSession.h"
+
+namespace vantor {
+namespace {
+
+const QString kReadError = QStringLiteral("\nError in storage media reading.");
+
+// A medium of sectors that hold data, so that every one is searched.
+ScriptedMedium dataMedium(std::size_t sectors) {
+    ScriptedMedium medium(sectors);
+    for (std::size_t i = 0; i < sectors; ++i) {
+        medium.fill(i, 0x7A);
+    }
+    return medium;
+}
+
+std::vector<HandedOver> nonEmpty(const TestSession& session) {
+    std::vector<HandedOver> items;
+    for (const HandedOver& item : session.handedOver) {
+        if (!item.data.isEmpty()) {
+            items.push_back(item);
+        }
+    }
+    return items;
+}
+
+const QStringList kJpegAndPng = recordsOf({{"JPG", "FFD8"}, {"PNG", "89504E47"}});
+
+}  // namespace
+
+TEST(PhotoScan, NextHeaderEndsAnItem) {
+    ScriptedMedium medium = dataMedium(10);
+    medium.put(2, "\xFF\xD8").put(5, "\x89PNG");
+    TestSession session(medium);
+    session.Ext_Array = kJpegAndPng;
+    EXPECT_TRUE(session.Photo_Recovey_Mode("GEN"));
+    const auto items = nonEmpty(session);
+    ASSERT_EQ(items.size(), 2U);
+    EXPECT_EQ(items[0].name, "GND00001.JPG");
+    EXPECT_EQ(items[0].first, 2U);
+    EXPECT_EQ(items[0].data.size(), 3 * 512);
+    EXPECT_EQ(items[1].name, "GND00002.PNG");
+    EXPECT_EQ(items[1].data.size(), 5 * 512);
+    EXPECT_EQ(session.lastOutcome(), PassOutcome::Completed);
+    EXPECT_EQ(session.openedPaths, QStringList{"/dev/rdisk2"});
+}
+
+TEST(PhotoScan, HeadersInConsecutiveSectorsGiveOneSectorItems) {
+    ScriptedMedium medium = dataMedium(4);
+    medium.put(1, "\xFF\xD8").put(2, "\xFF\xD8");
+    TestSession session(medium);
+    session.Ext_Array = kJpegAndPng;
+    session.Photo_Recovey_Mode("GEN");
+    const auto items = nonEmpty(session);
+    ASSERT_EQ(items.size(), 2U);
+    EXPECT_EQ(items[0].data.size(), 512);
+    EXPECT_EQ(items[1].data.size(), 2 * 512);
+}
+
+TEST(PhotoScan, LimitOfOneMebibyteHolds2047Sectors) {
+    ScriptedMedium medium(2100);
+    medium.put(3, "\xFF\xD8");
+    TestSession session(medium);
+    session.Ext_Array = recordsOf({{"JPG", "FFD8", "1", "1048576"}});
+    session.Photo_Recovey_Mode("GEN");
+    const auto items = nonEmpty(session);
+    ASSERT_EQ(items.size(), 1U);
+    EXPECT_EQ(items[0].data.size(), 2047 * 512);
+}
+
+TEST(PhotoScan, LimitOf512OrLessHandsOverNothing) {
+    ScriptedMedium medium = dataMedium(4);
+    medium.put(1, "\xFF\xD8");
+    TestSession session(medium);
+    session.Ext_Array = recordsOf({{"JPG", "FFD8", "1", "512"}});
+    session.Photo_Recovey_Mode("GEN");
+    EXPECT_TRUE(nonEmpty(session).empty());
+    ASSERT_FALSE(session.handedOver.empty());
+    EXPECT_EQ(session.handedOver[0].name, "GND00001.JPG");
+    EXPECT_EQ(session.itemCount(), 0U);
+    EXPECT_EQ(session.addedItemCount(), 0U);
+}
+
+TEST(PhotoScan, LimitIsThatOfTheRecordExaminedLast) {
+    // The JPEG's own limit is large; data sectors behind it are searched to the end of the list, whose last
+    // record allows two sectors only.
+    ScriptedMedium medium = dataMedium(10);
+    medium.put(1, "\xFF\xD8");
+    TestSession session(medium);
+    session.Ext_Array = recordsOf({{"JPG", "FFD8", "1", "1000000"}, {"PNG", "89504E47", "1", "1536"}});
+    session.Photo_Recovey_Mode("GEN");
+    ASSERT_EQ(nonEmpty(session).size(), 1U);
+    EXPECT_EQ(nonEmpty(session)[0].data.size(), 2 * 512);
+
+    // Zero sectors are not searched and leave the limit of the matched record in force.
+    ScriptedMedium zeros(10);
+    zeros.put(1, "\xFF\xD8");
+    TestSession other(zeros);
+    other.Ext_Array = session.Ext_Array;
+    other.Photo_Recovey_Mode("GEN");
+    EXPECT_EQ(nonEmpty(other)[0].data.size(), 9 * 512);
+}
+
+TEST(PhotoScan, ItemClosedByItsLimitIsNotHandedOverAgain) {
+    ScriptedMedium medium = dataMedium(10);
+    medium.put(1, "\xFF\xD8").put(7, "\xFF\xD8");
+    TestSession session(medium);
+    session.Ext_Array = recordsOf({{"JPG", "FFD8", "1", "1536"}});
+    session.Photo_Recovey_Mode("GEN");
+    const auto items = nonEmpty(session);
+    ASSERT_EQ(items.size(), 2U);
+    EXPECT_EQ(items[0].first, 1U);
+    EXPECT_EQ(items[1].first, 7U);
+}
+
+TEST(PhotoScan, SectorOfZerosIsNeverSearched) {
+    ScriptedMedium medium(4);
+    medium.put(2, "\x01");
+    TestSession session(medium);
+    session.Ext_Array = recordsOf({{"NUL", "0000"}});
+    EXPECT_TRUE(session.Photo_Recovey_Mode("GEN"));
+    EXPECT_TRUE(nonEmpty(session).empty());
+}
+
+TEST(PhotoScan, EmptyCatalogueReadsNothingAndReportsAReadError) {
+    ScriptedMedium medium = dataMedium(4);
+    TestSession session(medium);
+    EXPECT_FALSE(session.Photo_Recovey_Mode("THD"));
+    EXPECT_EQ(medium.reads, 0U);
+    EXPECT_EQ(session.alerts, QStringList{kReadError});
+    EXPECT_EQ(session.lastOutcome(), PassOutcome::ReadError);
+    ASSERT_EQ(session.handedOver.size(), 1U);
+    EXPECT_TRUE(session.handedOver[0].data.isEmpty());
+}
+
+TEST(PhotoScan, OtherPassTextsSearchForNothing) {
+    ScriptedMedium medium = dataMedium(4);
+    TestSession session(medium);
+    session.Ext_Array = session.Adv_Ext_Array = kJpegAndPng;
+    EXPECT_FALSE(session.Photo_Recovey_Mode("gen"));
+    EXPECT_EQ(medium.reads, 0U);
+    EXPECT_TRUE(session.log.contains(
+        "mode: ( Currently performing Search based on: Vantor Thorough Scanning Alogrithm )"));
+}
+
+TEST(PhotoScan, RangeOfNoSectorsShowsZeroPerCentAndReadsNothing) {
+    ScriptedMedium medium(0);
+    TestSession session(medium);
+    session.Ext_Array = kJpegAndPng;
+    EXPECT_FALSE(session.Photo_Recovey_Mode("GEN"));
+    EXPECT_EQ(medium.reads, 0U);
+    EXPECT_EQ(session.sectorLabels,
+              QStringList({"Sectors 0 of 0   ( Completed 0% )", "Sectors 0 of 0   ( Completed 0% )"}));
+    EXPECT_EQ(session.alerts, QStringList{kReadError});
+}
+
+TEST(PhotoScan, RangeBeginsBehindAHeader) {
+    ScriptedMedium medium = dataMedium(20);
+    medium.put(2, "\xFF\xD8").put(6, "\xFF\xD8").put(15, "\xFF\xD8");
+    TestSession session(medium);
+    session.Ext_Array = kJpegAndPng;
+    session.setRange(3, 12);
+    EXPECT_TRUE(session.Photo_Recovey_Mode("GEN"));
+    const auto items = nonEmpty(session);
+    ASSERT_EQ(items.size(), 1U);
+    EXPECT_EQ(items[0].first, 6U);
+    EXPECT_EQ(items[0].end, 12U);
+    EXPECT_EQ(session.sectorLabels.first(), "Sectors 3 of 12   ( Completed 0% )");
+    EXPECT_EQ(session.for_index, 12U);
+    EXPECT_EQ(session.total_sector, 9U);
+}
+
+TEST(PhotoScan, StepsOfAGeneralPassComeInOrder) {
+    ScriptedMedium medium = dataMedium(2);
+    TestSession session(medium);
+    session.Ext_Array = kJpegAndPng;
+    session.Photo_Recovey_Mode("GEN");
+    EXPECT_EQ(session.log,
+              QStringList(
+                  {"photo browser reset",
+                   "mode: ( Currently performing Search based on: Vantor General Recovery Procedure )",
+                   "range: 2", "sectors: Sectors 0 of 2   ( Completed 0% )", "options off", "progress starts",
+                   "help: \nTo stop recovery, click on ‘Stop’ Button or please wait for the process to be "
+                   "completed.",
+                   "sectors: Sectors 0 of 2   ( Completed 0% )"}));
+}
+
+TEST(PhotoScan, ThoroughPassKeepsItemsAndItsOwnNumbers) {
+    ScriptedMedium medium = dataMedium(6);
+    medium.put(1, "\xFF\xD8").put(3, std::string_view("II*\0", 4));
+    TestSession session(medium);
+    session.Ext_Array = kJpegAndPng;
+    session.Adv_Ext_Array = recordsOf({{"TIF", "49492A00"}});
+    session.Photo_Rec_Thread();
+    EXPECT_EQ(session.names(), QStringList({"GND00001.JPG", "THD00001.TIF"}));
+    EXPECT_EQ(session.itemAt(1)->imageUID(), "THD00001.TIF");
+    EXPECT_EQ(session.Fol_Cnt_Array, QVariantList({"TIF", 0LL, "TIF"}));
+}
+
+TEST(PhotoScan, NamesBeginAnewWithEachPassAndUidsRunOn) {
+    ScriptedMedium medium = dataMedium(4);
+    medium.put(1, "\xFF\xD8").put(2, "\xFF\xD8");
+    TestSession session(medium);
+    session.Ext_Array = kJpegAndPng;
+    session.Photo_Recovey_Mode("GEN");
+    session.Photo_Recovey_Mode("GEN");
+    EXPECT_EQ(session.itemCount(), 2U) << "a general pass empties the list first";
+    EXPECT_EQ(session.itemAt(1)->imageTitle(), "GND00002.JPG");
+    EXPECT_EQ(session.itemAt(1)->imageUID(), "GND00004.JPG");
+    EXPECT_EQ(session.GND_Image_number, 4U);
+}
+
+TEST(PhotoScan, TypeCountersCountFromMinusOne) {
+    ScriptedMedium medium = dataMedium(6);
+    medium.put(1, "\xFF\xD8").put(2, "\xFF\xD8").put(3, "\x89PNG");
+    TestSession session(medium);
+    session.Ext_Array = recordsOf({{"JPG", "FFD8"}, {"PNG", "89504E47"}, {"JPG", "4A4A"}});
+    session.Photo_Recovey_Mode("GEN");
+    EXPECT_EQ(session.Fol_Cnt_Array, QVariantList({"JPG", 1LL, "JPG", "PNG", 0LL, "PNG"}));
+}
+
+TEST(PhotoScan, BadSectorBehindAHeaderRepeatsTheHeader) {
+    ScriptedMedium medium = dataMedium(8);
+    medium.put(2, "\xFF\xD8");
+    medium.badForEver = {3};
+    TestSession session(medium);
+    session.Ext_Array = kJpegAndPng;
+    session.Photo_Recovey_Mode("GEN");
+    const auto items = nonEmpty(session);
+    // Sector 3 fails and the header's bytes are searched again; the retry fails and they are searched once
+    // more; then the stream has moved past the bad sector and stays one behind the counter.
+    ASSERT_EQ(items.size(), 3U);
+    EXPECT_EQ(items[0].first, 2U);
+    EXPECT_EQ(items[1].first, 3U);
+    EXPECT_EQ(items[2].first, 4U);
+    EXPECT_TRUE(items[1].carved.readFailed);
+    EXPECT_EQ(items[2].carved.runs.front().first, 2U)
+        << "the repeated bytes were truly read from the header's sector";
+    EXPECT_EQ(session.lastOutcome(), PassOutcome::Completed);
+}
+
+TEST(PhotoScan, ItemKnowsTheSectorsReallyRead) {
+    ScriptedMedium medium = dataMedium(10);
+    medium.put(2, "\xFF\xD8");
+    medium.badTimes[5] = 1;
+    TestSession session(medium);
+    session.Ext_Array = kJpegAndPng;
+    session.Photo_Recovey_Mode("GEN");
+    const auto items = nonEmpty(session);
+    ASSERT_EQ(items.size(), 1U);
+    EXPECT_TRUE(items[0].carved.readFailed);
+    ASSERT_EQ(items[0].carved.runs.size(), 1U);
+    EXPECT_EQ(items[0].carved.runs[0].first, 2U);
+    EXPECT_EQ(items[0].carved.runs[0].end, 9U) << "one sector behind the counter after the failed read";
+    EXPECT_EQ(items[0].end, 10U);
+}
+
+TEST(PhotoScan, RepeatThatCannotBePassedOverIsNotSearched) {
+    ScriptedMedium medium = dataMedium(8);
+    medium.put(2, "\xFF\xD8");
+    medium.badForEver = {3};
+    medium.seekAfterFailureFails = true;
+    TestSession session(medium);
+    session.Ext_Array = kJpegAndPng;
+    EXPECT_FALSE(session.Photo_Recovey_Mode("GEN"));
+    ASSERT_EQ(nonEmpty(session).size(), 1U);
+    EXPECT_EQ(nonEmpty(session)[0].data.size(), 6 * 512) << "the repeats still belong to the open item";
+    EXPECT_EQ(session.alerts, QStringList{kReadError});
+}
+
+TEST(PhotoScan, FailedLastReadIsReported) {
+    ScriptedMedium medium = dataMedium(4);
+    medium.badForEver = {3};
+    TestSession session(medium);
+    session.Ext_Array = kJpegAndPng;
+    EXPECT_FALSE(session.Photo_Recovey_Mode("GEN"));
+    EXPECT_EQ(session.alerts, QStringList{kReadError});
+    EXPECT_EQ(session.lastOutcome(), PassOutcome::ReadError);
+    EXPECT_EQ(session.endPanels, 0) << "the end screen is the driver's to show";
+}
+
+TEST(PhotoScan, MediumThatCannotBeOpened) {
+    ScriptedMedium medium(4);
+    TestSession session(medium);
+    session.openingsThatSucceed = 0;
+    session.screen_counter = 2;
+    session.stop_now = 1;
+    session.Ext_Array = kJpegAndPng;
+    session.Photo_Rec_Thread();
+    EXPECT_EQ(session.screen_counter, 1);
+    EXPECT_EQ(session.stop_now, 0);
+    EXPECT_EQ(session.stop_screen_already_show, 1);
+    EXPECT_EQ(session.alerts, QStringList{kReadError});
+    EXPECT_EQ(session.endPanels, 0);
+    EXPECT_EQ(session.log.mid(4), QStringList({"timer invalidated", "back from scan screen", "options on",
+                                               "alert: " + kReadError}));
+    EXPECT_EQ(session.lastOutcome(), PassOutcome::OpenError);
+}
+
+TEST(PhotoScan, MediumThatCannotBeOpenedForTheThoroughPassLeavesTheControlsUsable) {
+    ScriptedMedium medium = dataMedium(4);
+    TestSession session(medium);
+    session.openingsThatSucceed = 1;
+    session.Ext_Array = session.Adv_Ext_Array = kJpegAndPng;
+    session.Photo_Rec_Thread();
+    EXPECT_EQ(session.log.filter("options").last(), "options on");
+    EXPECT_EQ(session.lastOutcome(), PassOutcome::OpenError);
+    EXPECT_EQ(session.endPanels, 0);
+}
+
+TEST(PhotoScan, StopHandsTheOpenItemOverAndShowsTheEndOnce) {
+    ScriptedMedium medium = dataMedium(20);
+    medium.put(2, "\xFF\xD8");
+    TestSession session(medium);
+    session.Ext_Array = session.Adv_Ext_Array = kJpegAndPng;
+    session.stopBeforeRead(6);
+    session.Photo_Rec_Thread();
+    ASSERT_EQ(nonEmpty(session).size(), 1U);
+    EXPECT_EQ(nonEmpty(session)[0].data.size(), 5 * 512);
+    EXPECT_EQ(session.endPanels, 1);
+    EXPECT_EQ(session.lastOutcome(), PassOutcome::Stopped);
+    EXPECT_EQ(session.openedPaths.size(), 1) << "no thorough pass after a stop";
+    EXPECT_EQ(session.stop_now, 0);
+    EXPECT_EQ(session.for_index, 7U) << "the request is seen at the next sector";
+    EXPECT_TRUE(session.log.contains("timer invalidated"));
+    EXPECT_EQ(session.pFile_Disk, nullptr);
+}
+
+TEST(PhotoScan, ItemBeyondTheMemoryBoundKeepsItsLengthAndChecksum) {
+    PhotoItemBuffer small;
+    std::array<std::uint8_t, kSectorBytes> sector{};
+    QCryptographicHash all(QCryptographicHash::Sha256);
+    const std::uint64_t sectors = PhotoItemBuffer::kMaxBytesInMemory / kSectorBytes + 3;
+    for (std::uint64_t i = 0; i < sectors; ++i) {
+        sector[0] = static_cast<std::uint8_t>(i);
+        small.append(sector.data());
+        all.addData(QByteArrayView(reinterpret_cast<const char*>(sector.data()), kSectorBytes));
+    }
+    EXPECT_EQ(small.size(), sectors * kSectorBytes);
+    EXPECT_EQ(static_cast<std::uint64_t>(small.bytes().size()), PhotoItemBuffer::kMaxBytesInMemory);
+    EXPECT_EQ(small.overflowSha256(), all.result());
+    small.clear();
+    EXPECT_EQ(small.size(), 0U);
+    EXPECT_TRUE(small.overflowSha256().isEmpty());
+}
+
+}  // namespace vantor
