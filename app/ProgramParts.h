@@ -20,8 +20,6 @@ struct ProgramParts {
     MovieLoader movie;  // none: every preview is a picture
     QString resourcesFolder;
 
-    // Adds an image file of a medium to the media; gives its identifier, or "" and the reason why not.
-    std::function<QString(const QString& file, QString& why)> openImage;
     // True when files written into the folder would land on the medium behind "/dev/r" + identifier.
     std::function<bool(const QString& folder, const QString& devicePath)> isOnMedium;
     // Shows a document or a folder in its default application.

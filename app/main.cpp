@@ -1,34 +1,46 @@
 // The program with its window.
 #include <QApplication>
 #include <QDesktopServices>
+#include <QScreen>
 #include <QUrl>
+#include <atomic>
 #include <cstdlib>
 
 #include "app/MyTableController.h"
 #include "catalogue/ResourcesFolder.h"
-#include "media/RawDevice.h"
+#include "media/PlatformMedia.h"
+#include "results/DestinationCheck.h"
 #include "wizard/Theme.h"
 
 namespace {
 
 using namespace vantor;
 
-class NoMedia : public MediaSource {
-  public:
-    QStringList images;
-    QStringList mountedRemovableMedia() override { return images; }
-    MediaFacts diskInfo(const QString& path) override {
-        const auto facts = probeMedium(path);
-        if (!facts) {
-            return {};
-        }
-        return {{QStringLiteral("DeviceIdentifier"),
-                 QStringLiteral("image") + QString::number(images.indexOf(path))},
-                {QStringLiteral("VolumeName"), path.section(u'/', -1)},
-                {QStringLiteral("FilesystemUserVisibleName"), QStringLiteral("Disk image")},
-                {QStringLiteral("IOKitSize"), QVariant::fromValue<quint64>(facts->sectors * 512)}};
-    }
-};
+// How long a device may take to let go when the program ends.
+constexpr std::chrono::milliseconds kLastPatience{500};
+
+ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTableController*>>& controller) {
+    ProgramParts parts;
+    parts.media = makePlatformMediaSource();
+    parts.openMedium = makeMediumOpener(*parts.media, [controller] {
+        const MyTableController* const running = controller->load();
+        return running != nullptr && running->stop_now == 1;
+    });
+    parts.resourcesFolder = resourcesFolder();
+    parts.isOnMedium = [targets = parts.media->targets()](const QString& folder, const QString& devicePath) {
+        const auto target = targets->find(devicePath.mid(QStringLiteral("/dev/r").size()));
+        return target && destinationIsOnMedium(folder, target->path);
+    };
+    parts.openDocument = [](const QString& path) { return QDesktopServices::openUrl(QUrl::fromLocalFile(path)); };
+    parts.terminate = [] { QCoreApplication::exit(0); };
+    return parts;
+}
+
+// Small screens get a window that fits; all others the size it was drawn at.
+void fitToScreen(QWidget* window) {
+    const QRect room = window->screen()->availableGeometry();
+    window->resize(window->size().boundedTo(room.size() * 0.96));
+}
 
 }  // namespace
 
@@ -36,33 +48,22 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("vantor-recovery"));
     QApplication::setApplicationDisplayName(QStringLiteral("Vantor - Memory Card Recovery"));
-    QApplication::setApplicationVersion(QStringLiteral("0.1.0"));
+    QApplication::setApplicationVersion(QStringLiteral(VANTOR_VERSION));
+    // The window is closed by the exit routine alone.
     QApplication::setQuitOnLastWindowClosed(false);
     applyTheme(application);
-    const auto media = std::make_shared<NoMedia>();
-    ProgramParts parts;
-    parts.media = media;
-    parts.resourcesFolder = resourcesFolder();
-    parts.openMedium = [media](const QString& device) {
-        return openMedium(media->images.value(device.mid(QStringLiteral("/dev/rimage").size()).toInt()));
-    };
-    parts.openImage = [media](const QString& file, QString& why) {
-        if (!probeMedium(file, &why)) {
-            return QString();
-        }
-        media->images.append(file);
-        return QStringLiteral("image") + QString::number(media->images.size() - 1);
-    };
-    parts.openDocument = [](const QString& path) {
-        return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
-    };
-    parts.terminate = [] { QCoreApplication::exit(0); };
-    MyTableController controller(std::move(parts));
-    controller.awakeFromNib();
-    controller.openImages(QApplication::arguments().mid(1));
+
+    const auto running = std::make_shared<std::atomic<const MyTableController*>>(nullptr);
+    const auto controller = std::make_unique<MyTableController>(platformParts(running));
+    running->store(controller.get());
+    fitToScreen(controller->window);
+    controller->awakeFromNib();
+    controller->openImages(QApplication::arguments().mid(1));
     const int code = QApplication::exec();
-    if (!controller.shutDown(std::chrono::milliseconds(500))) {
+    if (!controller->shutDown(kLastPatience)) {
+        // A device that does not answer holds a thread; nothing of it is waited for.
         std::_Exit(code);
     }
+    running->store(nullptr);
     return code;
 }

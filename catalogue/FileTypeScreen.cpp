@@ -32,8 +32,15 @@ QString kindName(FileKind kind) {
     return QObject::tr("Other");
 }
 
+// The kinds are asked for at every tick and do not change.
 FileKind kindOf(const FileTypeRow& row) {
-    return kindOfType(row.value(kExtension).toString(), row.value(kDescription).toString());
+    static QHash<QString, FileKind> known;
+    const QString extension = row.value(kExtension).toString();
+    const auto at = known.constFind(extension);
+    if (at != known.constEnd()) {
+        return *at;
+    }
+    return *known.insert(extension, kindOfType(extension, row.value(kDescription).toString()));
 }
 
 }  // namespace

@@ -68,18 +68,17 @@ void MyTableController::selectMedium(const QString& identifier) {
 }
 
 void MyTableController::openImages(const QStringList& files) {
-    if (files.isEmpty() || !m_parts.openImage) {
+    if (files.isEmpty()) {
         return;
     }
     QString lastOpened;
     QStringList refusals;
     for (const QString& file : files) {
-        QString why;
-        const QString identifier = m_parts.openImage(file, why);
-        if (identifier.isEmpty()) {
-            refusals.append(why);
+        const OpenedImage opened = m_parts.media->addImage(file);
+        if (opened.identifier.isEmpty()) {
+            refusals.append(opened.refusal);
         } else {
-            lastOpened = identifier;
+            lastOpened = opened.identifier;
         }
     }
     reloadMediaKeepingSelection();

@@ -149,7 +149,9 @@ void MyTableController::resultRowsChanged() {
 void MyTableController::fileTypeRowsChanged() {
     later([this] {
         m_typeTable->refreshData();
-        filterFileTypes(typeSearchField->text());
+        if (!typeSearchField->text().isEmpty()) {
+            filterFileTypes(typeSearchField->text());
+        }
     });
 }
 

@@ -110,7 +110,9 @@ void MyTableController::flushViews() {
     }
     if (m_resultRowsDirty.exchange(false)) {
         m_resultTable->refreshData();
-        filterResultRows();
+        if (foundTypesOnly->isChecked()) {
+            filterResultRows();
+        }
     }
 }
 
