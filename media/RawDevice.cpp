@@ -114,8 +114,11 @@ std::optional<MediumFacts> probeMedium(const QString& path, QString* why) {
 }
 
 std::unique_ptr<SectorReader> openMedium(const QString& path, OpenTerms terms) {
+    // A device has its reading thread already, and is slower than any search.
+    const auto fetching =
+        kindOf(path) == Kind::Image ? WindowedReader::Fetching::Ahead : WindowedReader::Fetching::WhenAsked;
     auto source = openSource(path, std::move(terms));
-    return source ? std::make_unique<WindowedReader>(std::move(source)) : nullptr;
+    return source ? std::make_unique<WindowedReader>(std::move(source), fetching) : nullptr;
 }
 
 }  // namespace vantor

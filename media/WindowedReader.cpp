@@ -20,11 +20,16 @@ std::uint8_t* alignUp(std::uint8_t* p) {
 
 }  // namespace
 
-WindowedReader::WindowedReader(std::unique_ptr<BlockSource> source)
+WindowedReader::WindowedReader(std::unique_ptr<BlockSource> source, Fetching fetching)
     : m_source(std::move(source)),
       m_storage(new std::uint8_t[2 * kWindowBytes + kAlignment]),
       m_front(alignUp(m_storage.get())),
-      m_back(m_front + kWindowBytes) {}
+      m_back(m_front + kWindowBytes) {
+    // On a single processor two threads would only take turns.
+    if (fetching == Fetching::Ahead && std::thread::hardware_concurrency() > 1) {
+        m_ahead = std::make_unique<ReadAhead>(*m_source, kWindowBytes);
+    }
+}
 
 WindowedReader::~WindowedReader() = default;
 
@@ -38,11 +43,18 @@ bool WindowedReader::fetch() {
     m_windowWasFirstAttempt = false;
     const auto wanted = static_cast<std::size_t>(
         std::min<std::uint64_t>(kWindowSectors, m_refused.firstFrom(position()) - position()));
-    if (wanted == 0) {
-        return false;
+    return wanted != 0 && fetchWindow(wanted);
+}
+
+bool WindowedReader::fetchWindow(std::size_t wanted) {
+    ReadAhead::Window window;
+    if (m_ahead && m_ahead->isAt(position())) {
+        window = m_ahead->take();
+    } else {
+        stopReadingAhead();
+        window = {m_back, m_source->readAt(position(), {m_back, wanted * kSectorBytes})};
     }
-    const std::int64_t bytes = m_source->readAt(position(), {m_back, wanted * kSectorBytes});
-    const auto sectors = bytes < 0 ? 0 : static_cast<std::size_t>(bytes) / kSectorBytes;
+    const auto sectors = window.length < 0 ? 0 : static_cast<std::size_t>(window.length) / kSectorBytes;
     if (sectors < wanted) {
         m_windowWasFirstAttempt = true;
         goSingle(position() + sectors);
@@ -50,12 +62,23 @@ bool WindowedReader::fetch() {
     if (sectors == 0) {
         return fetchSingle();
     }
-    std::swap(m_front, m_back);
-    handOver(m_front, sectors);
+    if (window.bytes == m_back) {
+        std::swap(m_front, m_back);
+    }
+    // One window alone is read by many a copy; the second in a row is the sign of a scan. Refusals end the
+    // reading ahead, which knows nothing of them.
+    const bool sequential = std::exchange(m_windowEnd, position() + sectors) == position();
+    if (m_ahead && sequential && sectors == kWindowSectors && m_refused.runs() == 0 &&
+        !m_ahead->isAt(m_windowEnd)) {
+        stopReadingAhead();
+        m_ahead->start(m_windowEnd);
+    }
+    handOver(window.bytes, sectors);
     return true;
 }
 
 bool WindowedReader::fetchSingle() {
+    stopReadingAhead();
     if (m_refused.contains(position()) || noteWhetherGone()) {
         return false;
     }
@@ -70,6 +93,12 @@ bool WindowedReader::fetchSingle() {
     std::swap(m_front, m_back);
     handOver(m_front, 1);
     return true;
+}
+
+void WindowedReader::stopReadingAhead() {
+    if (m_ahead) {
+        m_ahead->pause();
+    }
 }
 
 bool WindowedReader::readSingle() {
@@ -87,6 +116,7 @@ bool WindowedReader::noteWhetherGone() {
 }
 
 bool WindowedReader::moveTo(std::uint64_t) {
+    stopReadingAhead();
     return !noteWhetherGone();
 }
 

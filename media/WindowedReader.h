@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "media/BlockSource.h"
+#include "media/ReadAhead.h"
 #include "media/SectorReader.h"
 #include "media/SectorSet.h"
 
@@ -19,9 +20,13 @@ namespace vantor {
 // this reader, without another word to the medium.
 class WindowedReader : public SectorReader {
   public:
+    // Whether the windows of a sequential reading are fetched on the reader's own thread ahead of time. The
+    // source is then asked from that thread too, though never from two at once.
+    enum class Fetching { WhenAsked, Ahead };
+
     static constexpr std::size_t kWindowSectors = 512;  // 256 KiB, which stays in the second-level cache
 
-    explicit WindowedReader(std::unique_ptr<BlockSource> source);
+    explicit WindowedReader(std::unique_ptr<BlockSource> source, Fetching fetching = Fetching::WhenAsked);
     ~WindowedReader() override;
 
   protected:
@@ -29,12 +34,16 @@ class WindowedReader : public SectorReader {
     bool moveTo(std::uint64_t sector) override;
 
   private:
+    bool fetchWindow(std::size_t wanted);
     bool fetchSingle();
+    void stopReadingAhead();
     bool readSingle();
     void goSingle(std::uint64_t from);
     bool noteWhetherGone();
 
     std::unique_ptr<BlockSource> m_source;
+    std::unique_ptr<ReadAhead> m_ahead;  // absent when nothing is fetched ahead
+    std::uint64_t m_windowEnd = 0;       // sector behind the last full window
     // Two windows: a fetch that fails must leave the bytes of the last good sector in place.
     std::unique_ptr<std::uint8_t[]> m_storage;
     std::uint8_t* m_front;

@@ -1,6 +1,8 @@
 // A transcription of the scanning rules over strings and single reads; slow and obvious on purpose.
 #include "tests/scan/PlainScan.h"
 
+#include "catalogue/NumberText.h"
+
 namespace vantor::plain {
 
 namespace {
@@ -9,11 +11,6 @@ enum Field { kExtension, kLimit, kHeader, kOffset, kSpare, kDescription, kFirstB
 
 const QString& field(const QStringList& records, qsizetype record, Field which) {
     return records.at(record * 7 + which);
-}
-
-int digitValue(QChar c) {
-    const QString digits = QStringLiteral("0123456789abcdef");
-    return static_cast<int>(std::max<qsizetype>(0, digits.indexOf(c.toLower())));
 }
 
 // A stream as the C library's: one position, reads of one sector, seeks that may fail after a failed read.
@@ -72,19 +69,18 @@ bool headerMatches(const QStringList& records, qsizetype record, const ScriptedM
     if (rule == "nn") {
         limit = 512;
     } else if (numeric) {
-        p = rule.toInt() - 1;  // 0 for what is no number
+        p = static_cast<long>(textToInt32(rule)) - 1;
         limit = n + p;
     }
     while (p < limit) {
-        if (p < 0 || p > 511 || sector[p] != field(records, record, kFirstByte).toInt()) {
+        if (p < 0 || p > 511 || sector[p] != textToInt64(field(records, record, kFirstByte))) {
             return false;
         }
         if (numeric && p > 506) {
             return false;
         }
         int k = 0;
-        while (k < n && p + k < 512 &&
-               digitValue(hex[2 * k]) * 16 + digitValue(hex[2 * k + 1]) == sector[p + k]) {
+        while (k < n && p + k < 512 && hex2int(hex.mid(2 * k, 2)) == sector[p + k]) {
             ++k;
         }
         if (k == n) {
@@ -148,7 +144,7 @@ Result photoPass(ScriptedMedium medium, const Pass& pass, std::uint64_t itemsNum
         if (current != reference) {
             std::optional<qsizetype> match;
             for (qsizetype record = 0; record < pass.records.size() / 7 && !match; ++record) {
-                limit = static_cast<std::uint64_t>(field(pass.records, record, kLimit).toLongLong());
+                limit = static_cast<std::uint64_t>(textToInt64(field(pass.records, record, kLimit)));
                 if (headerMatches(pass.records, record, current)) {
                     match = record;
                 }

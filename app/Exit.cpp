@@ -1,0 +1,93 @@
+// The one way out, its question, and the end of the threads.
+#include <QCoreApplication>
+
+#include "app/MyTableController.h"
+#include "results/PreviewFile.h"
+#include "wizard/Alerts.h"
+
+namespace vantor {
+
+namespace {
+
+const QString kTitle = QStringLiteral("Vantor - Memory Card Recovery");
+// How long a preview copy may take to see that it is to end before its file is deleted.
+constexpr std::chrono::milliseconds kCopyPatience{200};
+
+}  // namespace
+
+void MyTableController::Exit_App() {
+    if (hasUnsavedItems() && !scanRunning() &&
+        !mayLeaveUnsaved(tr("When the program ends, the list of found items is gone."),
+                         tr("Exit Without Saving"))) {
+        return;
+    }
+    const QString question =
+        QStringLiteral("\nDo you really want to exit from '") + kTitle + QStringLiteral("'?");
+    if (!Show_YES_NO_MessageBox(question)) {
+        // After a refused exit no more notifications arrive.
+        for (const QMetaObject::Connection& subscription : std::as_const(m_notifications)) {
+            disconnect(subscription);
+        }
+        m_notifications.clear();
+        return;
+    }
+    m_ending = true;
+    if (m_besideRunning) {
+        stop_now = 1;
+        const auto until = std::chrono::steady_clock::now() + kCopyPatience;
+        while (m_besideRunning && std::chrono::steady_clock::now() < until) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }
+    }
+    deletePreviews();
+    m_parts.terminate();
+}
+
+void MyTableController::Exit_Btn(QObject*) {
+    Exit_App();
+}
+
+bool MyTableController::windowShouldClose(QObject*) {
+    Exit_App();
+    return false;
+}
+
+void MyTableController::deletePreviews() {
+    if (!Preview_Temp_File.isEmpty()) {
+        QFile::remove(Preview_Temp_File);
+    }
+    deletePreviewFiles(m_previewFolder);
+}
+
+bool MyTableController::mayLeaveUnsaved(const QString& consequence, const QString& leave) {
+    return runAlert({QStringLiteral("\n") + tr("Some of the found items have not been saved."),
+                     consequence,
+                     {leave, tr("Stay")},
+                     1}) == 0;
+}
+
+bool MyTableController::shutDown(std::chrono::milliseconds patience) {
+    m_ending = true;
+    m_queue.close();
+    m_pump.stop();
+    const auto until = std::chrono::steady_clock::now() + patience;
+    while (scanRunning() || m_besideRunning || m_saveRunning) {
+        // The scan clears the word when it honours it, so it is said until everyone has heard.
+        stop_now = 1;
+        if (mSetLabelTimer) {
+            mSetLabelTimer->invalidate();
+        }
+        if (std::chrono::steady_clock::now() > until) {
+            return false;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+    for (std::thread* thread : {&m_driver, &m_timerThread, &mPreviewThread, &m_saver}) {
+        if (thread->joinable()) {
+            thread->join();
+        }
+    }
+    return true;
+}
+
+}  // namespace vantor

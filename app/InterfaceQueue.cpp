@@ -1,0 +1,62 @@
+// One mutex held for moments; the steps themselves run outside it.
+#include "app/InterfaceQueue.h"
+
+#include <utility>
+
+namespace vantor {
+
+void InterfaceQueue::post(Step step) {
+    const std::lock_guard lock(m_lock);
+    if (!m_closed) {
+        m_entries.push_back({std::move(step), nullptr});
+    }
+}
+
+bool InterfaceQueue::runAndWait(Step step) {
+    std::unique_lock lock(m_lock);
+    if (m_closed) {
+        return false;
+    }
+    const auto state = std::make_shared<State>(State::Waiting);
+    m_entries.push_back({std::move(step), state});
+    m_settled.wait(lock, [&] { return m_closed || *state != State::Waiting; });
+    return *state == State::Done;
+}
+
+bool InterfaceQueue::runOne() {
+    Entry entry;
+    {
+        const std::lock_guard lock(m_lock);
+        if (m_entries.empty()) {
+            return false;
+        }
+        entry = std::move(m_entries.front());
+        m_entries.pop_front();
+    }
+    entry.step();
+    if (entry.state) {
+        const std::lock_guard lock(m_lock);
+        *entry.state = State::Done;
+        m_settled.notify_all();
+    }
+    return true;
+}
+
+bool InterfaceQueue::isEmpty() const {
+    const std::lock_guard lock(m_lock);
+    return m_entries.empty();
+}
+
+void InterfaceQueue::close() {
+    const std::lock_guard lock(m_lock);
+    m_closed = true;
+    for (const Entry& entry : m_entries) {
+        if (entry.state) {
+            *entry.state = State::Dropped;
+        }
+    }
+    m_entries.clear();
+    m_settled.notify_all();
+}
+
+}  // namespace vantor

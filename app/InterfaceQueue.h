@@ -1,0 +1,46 @@
+// Carries steps from the threads of a scan to the interface thread, in order.
+#pragma once
+
+#include <condition_variable>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <mutex>
+
+namespace vantor {
+
+// The interface thread empties the queue a few times a second; nothing of the toolkit is touched by the other
+// threads.
+class InterfaceQueue {
+  public:
+    using Step = std::function<void()>;
+
+    // Any thread: runs later on the interface thread.
+    void post(Step step);
+
+    // Any thread but the interface thread: waits until the step has run there. False when the queue was
+    // closed first.
+    bool runAndWait(Step step);
+
+    // Interface thread: runs the oldest step. False when there is none.
+    bool runOne();
+
+    bool isEmpty() const;
+
+    // Drops what is queued and releases everyone who waits; later steps are dropped too.
+    void close();
+
+  private:
+    enum class State { Waiting, Done, Dropped };
+    struct Entry {
+        Step step;
+        std::shared_ptr<State> state;  // null when nobody waits
+    };
+
+    mutable std::mutex m_lock;
+    std::condition_variable m_settled;
+    std::deque<Entry> m_entries;
+    bool m_closed = false;
+};
+
+}  // namespace vantor

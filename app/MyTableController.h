@@ -1,0 +1,379 @@
+// The one controller behind the window: it owns the run's state through ScanSession, shows it in the outlets,
+// and turns what the user does into the next step.
+//
+// Contents, in the order of the declarations below, each under the file that holds the bodies:
+//   Creation and set-up         app/Lifecycle.cpp, app/SetUp.cpp, app/Wiring.cpp
+//   Exit                        app/Exit.cpp
+//   Wizard actions              wizard/ScreenFlow.cpp
+//   Screens                     wizard/ScreenGroups.cpp
+//   Table data sources          wizard/TableDataSources.cpp
+//   Panels and help             wizard/PanelActions.cpp
+//   Media list                  media/MediaScreen.cpp
+//   Search range                media/RangeScreen.cpp
+//   File types                  catalogue/FileTypeScreen.cpp
+//   Scan threads                scan/ScanThreads.cpp
+//   What a scan shows           scan/ScanScreen.cpp
+//   Browsers                    results/Browsers.cpp
+//   Preview                     results/Preview.cpp
+//   Movie                       results/MoviePreview.cpp
+//   Saving                      results/Saving.cpp
+#pragma once
+
+#include <QCheckBox>
+#include <QColor>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileDialog>
+#include <QObject>
+#include <QSizeF>
+#include <QTimer>
+#include <array>
+#include <atomic>
+#include <memory>
+#include <set>
+#include <thread>
+
+#include "app/InterfaceQueue.h"
+#include "app/Outlets.h"
+#include "app/ProgramParts.h"
+#include "media/MediaList.h"
+#include "media/RangePanel.h"
+#include "results/ImageBrowserModel.h"
+#include "scan/ScanMeter.h"
+#include "scan/ScanSession.h"
+#include "scan/ScanTimer.h"
+#include "wizard/Help_Support.h"
+#include "wizard/Panels.h"
+#include "wizard/TableAdapter.h"
+
+namespace vantor {
+
+class SaveJob;
+struct SaveReport;
+
+// Members with given names keep them letter for letter; a message `first:second:` is `first(a, second)`.
+// Where an outlet already bears the first word, as `imageBrowser` does, the words of the message are joined
+// instead.
+//
+// Threads: everything runs on the interface thread but what the base classes say otherwise and the ScanView
+// members, which the scan driver calls too.
+class MyTableController : public QObject,
+                          public MediaList,
+                          private ScanView,
+                          public ScanSession,
+                          public Outlets,
+                          public TableDataSource,
+                          public ImageBrowserDataSource {
+    Q_OBJECT
+
+  public:
+    // --- Creation and set-up (app/Lifecycle.cpp, app/SetUp.cpp, app/Wiring.cpp) ---
+
+    explicit MyTableController(ProgramParts parts);
+    ~MyTableController() override;
+
+    // Once the interface is loaded: fills it and shows the window.
+    void awakeFromNib();
+    // Red, blue and green of 255 each, in this order.
+    static QColor getColorFromRGB(int red, int blue, int green);
+
+    // --- Exit (app/Exit.cpp) ---
+
+    // Asks, deletes the preview files and ends the program.
+    void Exit_App();
+    void Exit_Btn(QObject* sender);
+    // Asks as the exit button does; the window itself is never closed by this.
+    bool windowShouldClose(QObject* sender);
+    // Ends the threads; false when one of them does not answer within the time, as with a device that hangs.
+    bool shutDown(std::chrono::milliseconds patience);
+
+    // --- Wizard actions (wizard/ScreenFlow.cpp) ---
+
+    void Next_btn(QObject* sender);
+    void Back_btn(QObject* sender);
+    void Photo_Mode_Radio(QObject* sender);
+    void Video_Mode_Radio(QObject* sender);
+    void RawFile_Mode_Radio(QObject* sender);
+
+    // --- Screens (wizard/ScreenGroups.cpp) ---
+
+    // True hides the group, false shows it.
+    void show_hide_1_screen(bool hide);
+    void show_hide_2_screen(bool hide);
+    void show_hide_3_screen_Photo(bool hide);
+    void show_hide_3_screen_RawFile(bool hide);
+    void show_hide_4_screen_RawFile(bool hide);
+
+    // --- Table data sources (wizard/TableDataSources.cpp) ---
+
+    qsizetype numberOfRowsInTableView(const QTableView* table) override;
+    QVariant tableView(const QTableView* table, const QString& objectValueForTableColumn,
+                       qsizetype row) override;
+    void tableView(const QTableView* table, const QVariant& setObjectValue, const QString& forTableColumn,
+                   qsizetype row) override;
+
+    // --- Panels and help (wizard/PanelActions.cpp) ---
+
+    void Browse_Path(QObject* sender);
+    void Browse_Path_Sig(QObject* sender);
+    // The callback form of the folder chooser's end; 1 is its OK button.
+    void openPanelDidEnd(QFileDialog* panel, int returnCode, void* contextInfo);
+    void Help_btn(QObject* sender);
+
+    // --- Media list (media/MediaScreen.cpp) ---
+
+    void Reload_Drive_list_Function();
+    void rebresh_drives(QObject* sender);
+    void deleteSelectedRow(QObject* sender);
+    void addRow(std::shared_ptr<MyDataObject> record);
+    QString getMPSize(const QString& bytes) const;
+    // Adds image files of media to the list and selects the last of them.
+    void openImages(const QStringList& files);
+
+    // --- Search range (media/RangeScreen.cpp) ---
+
+    void Entire_Disk_Radio(QObject* sender);
+    void Entire_Disk_Radio_Sig(QObject* sender);
+    void Sector_Range_Radio(QObject* sender);
+    void Sector_Range_Radio_Sig(QObject* sender);
+    void DO_Start_slider(QObject* sender);
+    void DO_Start_slider_Sig(QObject* sender);
+    void DO_End_slider(QObject* sender);
+    void DO_End_slider_Sig(QObject* sender);
+    void controlTextDidChange(QLineEdit* field);
+    bool Check_For_Valid_Sec(const QString& text) const;
+
+    // --- File types (catalogue/FileTypeScreen.cpp) ---
+
+    void Select_Unselect_Check_btn(QObject* sender);
+    void clickTable(QObject* sender);
+    void Thro_Mode_Chk_SIG_Btn(QObject* sender);
+
+    // --- Scan threads (scan/ScanThreads.cpp) ---
+
+    void startTimerThread();
+    void stop_usb_disk(QObject* sender);
+    bool scanRunning() const { return m_driverRunning || m_timerRunning; }
+
+    // --- Browsers (results/Browsers.cpp) ---
+
+    qsizetype numberOfItemsInImageBrowser(const ImageBrowserView* view) override;
+    std::shared_ptr<MyImageObject> imageBrowser_itemAtIndex(const ImageBrowserView* view,
+                                                            qsizetype index) override;
+    // Items cannot be dragged out: writes nothing and gives 0.
+    qsizetype imageBrowser_writeItemsAtIndexes(const ImageBrowserView* view, const QList<qsizetype>& indexes,
+                                               QMimeData* toPasteboard);
+    void zoomSliderDidChange(QObject* sender);
+    void imageBrowserSelectionDidChange(ImageBrowserView* view);
+
+    // --- Preview (results/Preview.cpp) ---
+
+    // Path, start and end sector of an item, in this order.
+    void CreateFile_QuickLook_View(const QVariantList& item);
+    void QuickLook_Preview_Thread(const QString& itemPath);
+    void setQuickLook_View_File(const QString& file, const QString& file_Name);
+    void setQuickLook_View(const QString& file);
+    void Image_Preview(const QString& file, const QString& file_Name);
+
+    // --- Movie (results/MoviePreview.cpp) ---
+
+    bool isPlaying(const Movie* movie) const;
+    void stopPlayingMovie(Movie* movie) const;
+    void closemovie_Win();
+    std::unique_ptr<Movie> getAMovieFile();
+
+    // --- Saving (results/Saving.cpp) ---
+
+    void saveSelected();
+    void saveAll();
+    bool hasUnsavedItems() const;
+
+    // --- Fields ---
+
+    // Set when the interface is loaded.
+    QMainWindow* window = nullptr;
+    QDialog* BrowseInfo_Window = nullptr;
+    QDialog* SaveFile_Info_Window = nullptr;
+    QDialog* SaveFile_Info_For_RAW_Window = nullptr;
+    QDialog* ClearPreview_Window = nullptr;
+    QDialog* LoadDisk_Window = nullptr;
+    QDialog* HelpWindow = nullptr;
+    QSizeF zero_thumbnail{0, 0};
+
+    // Set by every scan.
+    std::shared_ptr<ScanTimer> mSetLabelTimer;
+    std::unique_ptr<QFile> pFile_op;
+
+    // Set by every preview.
+    QString Preview_Temp_File = QStringLiteral("");
+    std::thread mPreviewThread;
+    std::atomic<bool> session{false};  // a preview copy or a media query is in its modal session
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    // What a scan asks of the controls, read when it starts; they cannot be changed while it runs.
+    struct ScanInputs {
+        std::array<RangeControls, 2> range;
+        std::array<bool, 2> thorough{};
+        QString destination;
+    };
+    // What waits to be shown of one browser.
+    struct PendingView {
+        std::atomic<bool> reload{false};
+        std::atomic<qint64> scrollTo{-1};
+    };
+
+    // --- What a scan shows (scan/ScanScreen.cpp) ---
+
+    RangeControls rangeControls(ControlSet set) const override;
+    bool thoroughBoxOn(ControlSet set) const override;
+    QString destinationFolder() const override;
+    bool modalSessionRunning() const override { return session; }
+    void showModeLabel(const QString& text) override;
+    void showSectorLabel(const QString& text) override;
+    void showHelpInfo(const QString& text) override;
+    void setProgressRange(std::uint64_t sectors) override;
+    void startProgress() override;
+    void setProgress(double sectors) override;
+    void invalidateTimer() override;
+    void setScanOptionsEnabled(bool enabled) override;
+    void resetPhotoBrowser() override;
+    void reloadBrowser(ControlSet set) override;
+    void scrollBrowserTo(ControlSet set, qsizetype index) override;
+    QIcon iconForFileType(const QString& extension) override;
+    void clearPreviewTitle() override;
+    void resultRowsChanged() override;
+    void fileTypeRowsChanged() override;
+    void showAlert(const QString& message) override;
+    void returnFromScanScreen(ControlSet set) override;
+    void hideScanProgress() override;
+    void runEndPanel(ControlSet set) override;
+    void showResultControls(ControlSet set) override;
+    void enableAfterScan() override;
+    void onInterfaceThread(const std::function<void()>& step) override;
+
+    bool onOwnThread() const;
+    void later(std::function<void()> step);
+    ScanInputs readInputs() const;
+
+    // app/
+    void loadInterface();
+    void dressWindow();
+    void dressRangeSets();
+    void setUpTables();
+    void setUpBrowsers();
+    void setEmptyStates();
+    void wire();
+    void wireButtons();
+    void wireRangeSet(ControlSet set);
+    void wireShortcuts();
+    void deletePreviews();
+    bool mayLeaveUnsaved(const QString& consequence, const QString& leave);
+
+    // wizard/
+    ControlSet activeSet() const;
+    RangePanel& activeRange();
+    RangePanel& rangeOf(ControlSet set);
+    void showEntireDiskHelp();
+    void showSectorRangeHelp();
+    void nextFromMedia();
+    void nextFromRange();
+    void nextFromFileTypes();
+    void backToMedia();
+    void backToRange();
+    void backToFileTypes();
+    void setMode(int mode);
+    void showWhereWeAre();
+    void showPreviewPane(bool hide);
+    void hideOpenFolderButtons();
+    void pressDefault();
+    void browseForDestination();
+    bool acceptDestination(const QString& folder);
+    QString devicePath() const;
+
+    // media/, catalogue/
+    void mediaChanged();
+    void reloadMediaKeepingSelection();
+    void selectMedium(const QString& identifier);
+    QIcon iconOfMedium(qsizetype row) const;
+    void buildGroupBoxes();
+    void filterFileTypes(const QString& text);
+    void tickGroup(int kind, bool ticked);
+    void showTypeCounts();
+    void filterResultRows();
+
+    // scan/
+    void startScan(void (ScanSession::*driver)());
+    void pump();
+    void drainQueue();
+    bool waitForThreads(std::chrono::milliseconds patience);
+    void scanThreadsEnded();
+    void flushViews();
+    void showScanFacts();
+    void prepareIcons();
+
+    // results/
+    ImageBrowserView* browserOf(ControlSet set) const;
+    void emptyBrowsers();
+    void emptyBrowserViews();
+    void showItemCounts();
+    void runBeside(const std::function<void()>& work);
+    void showPicture(const QPixmap& picture, const QString& title);
+    void saveItems(const QList<qsizetype>& indexes);
+    bool watchSaving(const std::shared_ptr<SaveJob>& job);
+    void reportSaving(const SaveReport& report, const QString& destination, bool cancelled);
+    QString askDestination();
+    void openDestination();
+
+    // Set when the controller is made.
+    ProgramParts m_parts;
+    std::unique_ptr<QMainWindow> m_window;
+    std::array<std::unique_ptr<RangePanel>, 2> m_range;
+    std::unique_ptr<Browse_Info> m_browseInfo;
+    std::unique_ptr<SaveFile_Info> m_saveFileInfo;
+    std::unique_ptr<SaveFile_Info_For_RAW> m_saveFileInfoForRaw;
+    std::unique_ptr<ClearPreview_Modeless> m_clearPreview;
+    std::unique_ptr<LoadDrive_Modeless> m_loadDrive;
+    std::unique_ptr<Help_Support> m_help;
+    TableAdapter* m_mediaTable = nullptr;
+    TableAdapter* m_typeTable = nullptr;
+    TableAdapter* m_resultTable = nullptr;
+    QList<QCheckBox*> m_groupBoxes;  // by FileKind
+    QString m_previewFolder;
+    FileTypeIcons m_icons;  // prepared before a scan, read by it
+    FileTypeIcons m_previewIcons;
+    // Subscriptions to notifications; gone after a refused exit.
+    QList<QMetaObject::Connection> m_notifications;
+
+    // Shared between the threads of a scan.
+    InterfaceQueue m_queue;
+    std::array<PendingView, 2> m_pending;
+    std::atomic<bool> m_resultRowsDirty{false};
+    std::atomic<bool> m_driverRunning{false};
+    std::atomic<bool> m_timerRunning{false};
+    std::atomic<bool> m_besideRunning{false};
+    std::atomic<bool> m_saveRunning{false};
+
+    // Set by every scan.
+    ScanInputs m_inputs;
+    std::thread m_driver;
+    std::thread m_timerThread;
+    QTimer m_pump;
+    QElapsedTimer m_clock;
+    ScanMeter m_meter;
+    double m_progressSectors = 0;
+    bool m_draining = false;
+
+    // Set on the file-type screen and by the last click in a table.
+    int m_clickedColumn = -1;
+
+    // Set as items are saved; emptied with the items.
+    std::thread m_saver;
+    std::set<const MyImageObject*> m_saved;
+
+    bool m_ending = false;  // the exit was confirmed
+};
+
+}  // namespace vantor

@@ -1,0 +1,31 @@
+// What the window is given from outside: the real things in the program, scripted ones in the tests.
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <memory>
+
+#include "media/MediaSource.h"
+#include "results/Movie.h"
+#include "results/PicturePreview.h"
+#include "scan/ScanSession.h"
+
+namespace vantor {
+
+struct ProgramParts {
+    std::shared_ptr<MediaSource> media;
+    MediumOpener openMedium;
+    Thumbnailer thumbnailer;
+    PicturePreviewer picture = readPicture;
+    MovieLoader movie;  // none: every preview is a picture
+    QString resourcesFolder;
+
+    // True when files written into the folder would land on the medium behind "/dev/r" + identifier.
+    std::function<bool(const QString& folder, const QString& devicePath)> isOnMedium;
+    // Shows a document or a folder in its default application.
+    std::function<bool(const QString& path)> openDocument;
+    // Ends the program.
+    std::function<void()> terminate;
+};
+
+}  // namespace vantor

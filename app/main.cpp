@@ -1,0 +1,69 @@
+// The program with its window.
+#include <QApplication>
+#include <QDesktopServices>
+#include <QScreen>
+#include <QUrl>
+#include <atomic>
+#include <cstdlib>
+
+#include "app/MyTableController.h"
+#include "catalogue/ResourcesFolder.h"
+#include "media/PlatformMedia.h"
+#include "results/DestinationCheck.h"
+#include "wizard/Theme.h"
+
+namespace {
+
+using namespace vantor;
+
+// How long a device may take to let go when the program ends.
+constexpr std::chrono::milliseconds kLastPatience{500};
+
+ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTableController*>>& controller) {
+    ProgramParts parts;
+    parts.media = makePlatformMediaSource();
+    parts.openMedium = makeMediumOpener(*parts.media, [controller] {
+        const MyTableController* const running = controller->load();
+        return running != nullptr && running->stop_now == 1;
+    });
+    parts.resourcesFolder = resourcesFolder();
+    parts.isOnMedium = [targets = parts.media->targets()](const QString& folder, const QString& devicePath) {
+        const auto target = targets->find(devicePath.mid(QStringLiteral("/dev/r").size()));
+        return target && destinationIsOnMedium(folder, target->path);
+    };
+    parts.openDocument = [](const QString& path) { return QDesktopServices::openUrl(QUrl::fromLocalFile(path)); };
+    parts.terminate = [] { QCoreApplication::exit(0); };
+    return parts;
+}
+
+// Small screens get a window that fits; all others the size it was drawn at.
+void fitToScreen(QWidget* window) {
+    const QRect room = window->screen()->availableGeometry();
+    window->resize(window->size().boundedTo(room.size() * 0.96));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("vantor-recovery"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Vantor - Memory Card Recovery"));
+    QApplication::setApplicationVersion(QStringLiteral(VANTOR_VERSION));
+    // The window is closed by the exit routine alone.
+    QApplication::setQuitOnLastWindowClosed(false);
+    applyTheme(application);
+
+    const auto running = std::make_shared<std::atomic<const MyTableController*>>(nullptr);
+    const auto controller = std::make_unique<MyTableController>(platformParts(running));
+    running->store(controller.get());
+    fitToScreen(controller->window);
+    controller->awakeFromNib();
+    controller->openImages(QApplication::arguments().mid(1));
+    const int code = QApplication::exec();
+    if (!controller->shutDown(kLastPatience)) {
+        // A device that does not answer holds a thread; nothing of it is waited for.
+        std::_Exit(code);
+    }
+    running->store(nullptr);
+    return code;
+}

@@ -1,0 +1,267 @@
+// Lending helpers out, judging how each came back, and keeping their number.
+#include "decode/DecodePool.h"
+
+#include <signal.h>
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <algorithm>
+#include <cstring>
+
+#include "decode/RegularFile.h"
+#include "decode/SharedPixels.h"
+#include "decode/ThumbnailCodec.h"
+
+namespace vantor {
+
+using decode::Answer;
+using decode::AnswerStatus;
+using decode::AskOutcome;
+using decode::HelperProcess;
+using decode::Request;
+using std::chrono::milliseconds;
+
+namespace {
+
+// A helper's own limit on processor time is far above this, so that no picture pays for those before it.
+constexpr milliseconds kProcessorTimeOfAHelper = std::chrono::minutes{10};
+constexpr std::uint64_t kPicturesOfAHelper = 5000;
+
+constexpr milliseconds kFirstRetry{100};
+constexpr milliseconds kLastRetry{30'000};
+
+// Signals that a decoder does not raise on itself.
+bool isFromOutside(int signal) {
+    return signal == SIGKILL || signal == SIGTERM || signal == SIGINT || signal == SIGHUP ||
+           signal == SIGQUIT;
+}
+
+Request pictureRequest(QSize bound, const QString& extension) {
+    Request request;
+    request.maxWidth = static_cast<std::uint32_t>(std::max(bound.width(), 1));
+    request.maxHeight = static_cast<std::uint32_t>(std::max(bound.height(), 1));
+    const QByteArray hint = extension.toLatin1().left(sizeof request.hint - 1);
+    std::memcpy(request.hint, hint.constData(), static_cast<std::size_t>(hint.size()));
+    return request;
+}
+
+int coresOr(int wanted) {
+    return wanted > 0 ? wanted : static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+}
+
+}  // namespace
+
+QString extensionHint(const QString& path) {
+    return QFileInfo(path).suffix().toLower();
+}
+
+QString DecodePool::helperPath(const QString& name) {
+    const QString program = QCoreApplication::applicationDirPath();
+    for (const char* folder : {"/../libexec/vantor-recovery/", "/../libexec/", "/"}) {
+        const QString candidate = program + QLatin1String(folder) + name;
+        if (QFileInfo(candidate).isExecutable()) {
+            return candidate;
+        }
+    }
+    return name;
+}
+
+DecodePool::DecodePool(DecodePoolOptions options)
+    : m_options([&] {
+          if (options.helper.isEmpty()) {
+              options.helper = helperPath(QStringLiteral("vantor-decode"));
+          }
+          return options;
+      }()),
+      m_wanted(coresOr(options.helpers)),
+      m_keeper([this] { keepHelpers(); }) {}
+
+DecodePool::~DecodePool() {
+    close();
+    {
+        std::unique_lock lock(m_mutex);
+        m_helperWanted.wait(lock, [&] { return m_callers == 0; });
+    }
+    m_keeper.join();
+}
+
+void DecodePool::close() {
+    const std::scoped_lock lock(m_mutex);
+    m_closing = true;
+    for (const pid_t pid : m_live) {
+        kill(pid, SIGKILL);
+    }
+    m_helperFree.notify_all();
+    m_helperWanted.notify_all();
+}
+
+QByteArray DecodePool::thumbnail(const QByteArray& encoded) {
+    if (encoded.isEmpty()) {
+        return {};
+    }
+    const Request request = pictureRequest(QSize(kThumbnailSide, kThumbnailSide), {});
+    const DecodedPicture decoded = decode([&](HelperProcess& helper, Answer& answer) {
+        return helper.ask(request, encoded, m_options.thumbnailDeadline, answer);
+    });
+    return encodeThumbnail(decoded.image);
+}
+
+DecodedPicture DecodePool::picture(const QByteArray& encoded, QSize bound, const QString& extension) {
+    if (encoded.isEmpty() || bound.isEmpty()) {
+        return {};
+    }
+    const Request request = pictureRequest(bound, extension);
+    return decode([&](HelperProcess& helper, Answer& answer) {
+        return helper.ask(request, encoded, m_options.pictureDeadline, answer);
+    });
+}
+
+DecodedPicture DecodePool::picture(const QString& path, QSize bound) {
+    const decode::RegularFile file(path);
+    if (bound.isEmpty() || !file.isOpen()) {
+        return {};
+    }
+    const Request request = pictureRequest(bound, extensionHint(path));
+    return decode([&](HelperProcess& helper, Answer& answer) {
+        return helper.askFile(request, file.descriptor(), m_options.pictureDeadline, answer);
+    });
+}
+
+DecodePoolCounts DecodePool::counts() const {
+    const std::scoped_lock lock(m_mutex);
+    return m_counts;
+}
+
+std::vector<pid_t> DecodePool::helperPids() const {
+    const std::scoped_lock lock(m_mutex);
+    return m_live;
+}
+
+// A helper that somebody else ended says nothing against the picture: another one tries, once.
+DecodedPicture DecodePool::decode(const Ask& ask) {
+    DecodedPicture picture;
+    bool killedFromOutside = false;
+    if (askOnce(ask, picture, killedFromOutside) == AskOutcome::Died && killedFromOutside) {
+        askOnce(ask, picture, killedFromOutside);
+    }
+    return picture;
+}
+
+AskOutcome DecodePool::askOnce(const Ask& ask, DecodedPicture& picture, bool& killedFromOutside) {
+    std::unique_ptr<HelperProcess> helper = acquire();
+    if (!helper) {
+        return AskOutcome::NotPossible;
+    }
+    Answer answer;
+    const AskOutcome outcome = ask(*helper, answer);
+    if (outcome == AskOutcome::Answered && answer.status == AnswerStatus::Ok) {
+        picture.image = decode::copyOfPixels(*helper, answer);
+        picture.fullSize = decode::fullSizeOf(answer);
+        picture.partial = (answer.flags & decode::kPartial) != 0;
+    }
+    if (outcome == AskOutcome::Answered || outcome == AskOutcome::NotPossible) {
+        giveBack(std::move(helper));
+    } else {
+        bury(std::move(helper), outcome, killedFromOutside);
+    }
+    const std::scoped_lock lock(m_mutex);
+    if (outcome == AskOutcome::Answered) {
+        ++(picture.image.isNull() ? m_counts.refused : m_counts.pictures);
+    }
+    --m_callers;
+    m_helperWanted.notify_all();
+    return outcome;
+}
+
+// Null when there is no helper to wait for; otherwise the caller counts as one until askOnce() ends.
+std::unique_ptr<HelperProcess> DecodePool::acquire() {
+    std::unique_lock lock(m_mutex);
+    m_helperFree.wait(lock,
+                      [&] { return m_closing || !m_idle.empty() || (m_cannotStart && m_live.empty()); });
+    if (m_closing || m_idle.empty()) {
+        return nullptr;
+    }
+    std::unique_ptr<HelperProcess> helper = std::move(m_idle.back());
+    m_idle.pop_back();
+    ++m_callers;
+    return helper;
+}
+
+void DecodePool::giveBack(std::unique_ptr<HelperProcess> helper) {
+    if (isWornOut(*helper)) {
+        retire(*helper);
+        const std::scoped_lock lock(m_mutex);
+        ++m_counts.recycled;
+        m_helperWanted.notify_all();
+        return;
+    }
+    const std::scoped_lock lock(m_mutex);
+    m_idle.push_back(std::move(helper));
+    m_helperFree.notify_one();
+}
+
+void DecodePool::bury(std::unique_ptr<HelperProcess> helper, AskOutcome outcome, bool& killedFromOutside) {
+    const decode::HelperEnd end = retire(*helper);
+    const std::scoped_lock lock(m_mutex);
+    if (outcome == AskOutcome::Late) {
+        ++m_counts.late;
+    } else if (outcome == AskOutcome::BadAnswer) {
+        ++m_counts.badAnswers;
+    } else {
+        killedFromOutside = end.bySignal && isFromOutside(end.code);
+        ++(killedFromOutside ? m_counts.killed : end.bySignal ? m_counts.crashed : m_counts.exited);
+    }
+    m_helperWanted.notify_all();
+}
+
+// Forgets the process before it is reaped: its number may be another's from then on.
+decode::HelperEnd DecodePool::retire(HelperProcess& helper) {
+    {
+        const std::scoped_lock lock(m_mutex);
+        std::erase(m_live, helper.pid());
+    }
+    return helper.finish();
+}
+
+bool DecodePool::isWornOut(const HelperProcess& helper) const {
+    return helper.answered() >= kPicturesOfAHelper || helper.processorTime() > kProcessorTimeOfAHelper ||
+           helper.residentBytes().value_or(0) > m_options.residentLimitBytes;
+}
+
+// Starts helpers on one thread that lives as long as the pool, because the system ends a helper with the
+// thread that started it.
+void DecodePool::keepHelpers() {
+    milliseconds retry = kFirstRetry;
+    std::unique_lock lock(m_mutex);
+    while (!m_closing) {
+        if (std::cmp_greater_equal(m_live.size(), m_wanted)) {
+            m_helperWanted.wait(lock);
+            continue;
+        }
+        lock.unlock();
+        std::unique_ptr<HelperProcess> helper =
+            HelperProcess::start(m_options.helper, m_options.startDeadline);
+        lock.lock();
+        if (helper) {
+            retry = kFirstRetry;
+            m_cannotStart = false;
+            ++m_counts.started;
+            m_counts.caged = helper->caged();
+            m_live.push_back(helper->pid());
+            m_idle.push_back(std::move(helper));
+            m_helperFree.notify_one();
+            continue;
+        }
+        ++m_counts.failedStarts;
+        m_cannotStart = true;
+        m_helperFree.notify_all();
+        m_helperWanted.wait_for(lock, retry, [&] { return m_closing; });
+        retry = std::min(retry * 2, kLastRetry);
+    }
+    // Callers under way hand their helpers back before this thread may go.
+    m_helperWanted.wait(lock, [&] { return m_callers == 0; });
+    m_idle.clear();
+    m_live.clear();
+}
+
+}  // namespace vantor

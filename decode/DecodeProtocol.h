@@ -1,0 +1,82 @@
+// What the program and a decode helper say to each other: one fixed-size message each way over a
+// sequenced-packet socket; bytes and pixels travel through shared memory whose descriptors ride with the
+// request.
+#pragma once
+
+#include <cstdint>
+#include <type_traits>
+
+namespace vantor::decode {
+
+// Both ends come from one build; the number only guards against a stray program behind the socket.
+constexpr std::uint32_t kMessageMagic = 0x56444331;
+
+// A helper finds its socket here; 0 to 2 are /dev/null.
+constexpr int kHelperSocket = 3;
+
+// Encoded bytes of one picture; what lies behind is not looked at.
+constexpr std::uint64_t kMaxInputBytes = std::uint64_t{512} * 1024 * 1024;
+// Longest side of an answer, so that a bound can neither overflow nor ask for an absurd buffer.
+constexpr std::uint32_t kMaxAnswerSide = 8192;
+constexpr std::uint32_t kBytesPerPixel = 4;
+
+enum class RequestKind : std::uint32_t {
+    Picture = 1,    // decode the input, scaled into the bound, upright
+    OpenMovie = 2,  // open the file, decode its first frame
+    NextFrame = 3,  // the frame after the last, or the first one at or after timeMs when that is not negative
+};
+
+// Which descriptors ride with a request, in this order.
+enum RequestDescriptors : std::uint32_t {
+    kNewInput = 1,   // shared memory of encoded bytes, kept for the requests that follow
+    kNewOutput = 2,  // shared memory for pixels, kept likewise
+    kInputFile = 4,  // a file opened for reading, for this request and the frames of its movie
+};
+constexpr int kMaxDescriptors = 3;
+
+struct Request {
+    std::uint32_t magic = kMessageMagic;
+    RequestKind kind = RequestKind::Picture;
+    std::uint64_t serial = 0;
+    std::uint64_t inputBytes = 0;  // of the shared memory; not used with a file
+    std::uint32_t maxWidth = 0;    // pixels, 1 to kMaxAnswerSide
+    std::uint32_t maxHeight = 0;
+    std::uint32_t descriptors = 0;  // RequestDescriptors
+    std::uint32_t reserved = 0;
+    std::int64_t timeMs = -1;
+    char hint[16] = {};  // the item's extension in lower case, NUL-terminated; may be empty
+};
+
+enum class AnswerStatus : std::uint32_t {
+    Ready = 1,  // the helper's first message, serial 0
+    Ok = 2,
+    NotDecodable = 3,
+    EndOfMovie = 4,
+    BadRequest = 5,
+};
+
+enum AnswerFlags : std::uint32_t {
+    kPartial = 1,   // the bytes ended or broke before the picture did
+    kHasAlpha = 2,  // pixels are premultiplied ARGB, else RGB with an unused byte
+    kCaged = 4,     // (Ready only) the system-call filter is in force
+    kHasSound = 8,  // (movies) there is a sound stream as well
+};
+
+// The pixels lie at the start of the output memory, width * kBytesPerPixel bytes a row.
+struct Answer {
+    std::uint32_t magic = kMessageMagic;
+    AnswerStatus status = AnswerStatus::NotDecodable;
+    std::uint64_t serial = 0;
+    std::uint32_t width = 0;
+    std::uint32_t height = 0;
+    std::uint32_t fullWidth = 0;  // of the whole picture, upright; 0 when not known
+    std::uint32_t fullHeight = 0;
+    std::uint32_t flags = 0;  // AnswerFlags
+    std::uint32_t reserved = 0;
+    std::int64_t timeMs = 0;      // of the frame
+    std::int64_t durationMs = 0;  // of the movie; 0 when not known
+};
+
+static_assert(std::is_trivially_copyable_v<Request> && std::is_trivially_copyable_v<Answer>);
+
+}  // namespace vantor::decode

@@ -1,0 +1,66 @@
+// A carved movie's frames, decoded in a helper process of its own.
+#pragma once
+
+#include <QImage>
+#include <QSize>
+#include <QString>
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+#include "decode/HelperProcess.h"
+
+namespace vantor {
+
+struct MovieReaderOptions {
+    QString helper;  // path of the movie helper; empty = beside the program
+    std::chrono::milliseconds startDeadline{10000};
+    std::chrono::milliseconds openDeadline{5000};
+    std::chrono::milliseconds frameDeadline{3000};
+};
+
+struct MovieFrame {
+    QImage image;             // upright, within the bound
+    std::int64_t timeMs = 0;  // since the movie's beginning
+};
+
+// Made, used and destroyed on one thread, which must outlive it: the system ends the helper with that thread.
+// Every call blocks until its deadline at most; after a crash or a missed deadline the reader is over,
+// isOver() says so, and the program goes on.
+class MovieReader {
+  public:
+    // Null when the file is no movie that can be shown, or no helper can be started.
+    static std::unique_ptr<MovieReader> open(const QString& path, QSize bound,
+                                             MovieReaderOptions options = {});
+
+    // The displayed size, upright; the length, 0 when not known; whether there is sound.
+    QSize fullSize() const { return m_fullSize; }
+    std::int64_t durationMs() const { return m_durationMs; }
+    bool hasSound() const { return m_hasSound; }
+    // The first frame.
+    const MovieFrame& poster() const { return m_poster; }
+
+    // The frame after the last one given out (the poster counts as the first); nullopt at the end.
+    std::optional<MovieFrame> next();
+    // The first frame at or after the time; nullopt when there is none.
+    std::optional<MovieFrame> seek(std::int64_t timeMs);
+
+    bool isOver() const { return !m_helper; }
+    pid_t helperPid() const { return m_helper ? m_helper->pid() : -1; }
+
+  private:
+    MovieReader(std::unique_ptr<decode::HelperProcess> helper, QSize bound, MovieReaderOptions options);
+    std::optional<MovieFrame> ask(decode::RequestKind kind, int file, std::int64_t timeMs,
+                                  std::chrono::milliseconds deadline, decode::Answer& answer);
+
+    std::unique_ptr<decode::HelperProcess> m_helper;
+    const QSize m_bound;
+    const MovieReaderOptions m_options;
+    QSize m_fullSize;
+    std::int64_t m_durationMs = 0;
+    bool m_hasSound = false;
+    MovieFrame m_poster;
+};
+
+}  // namespace vantor

@@ -1,0 +1,145 @@
+// A window of items over the stream: workers fill it anywhere, delivery empties it from the front.
+#include "decode/ThumbnailQueue.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace vantor {
+
+namespace {
+
+// What an item truly keeps: a carving buffer may have room to spare behind its bytes.
+std::uint64_t weightOf(const QByteArray& bytes) {
+    return static_cast<std::uint64_t>(std::max(bytes.capacity(), bytes.size()));
+}
+
+}  // namespace
+
+ThumbnailQueue::ThumbnailQueue(MakeThumbnail makeThumbnail, ThumbnailQueueOptions options)
+    : m_makeThumbnail(std::move(makeThumbnail)), m_options(options) {
+    for (int i = 0; i < std::max(1, options.workers); ++i) {
+        m_threads.emplace_back([this] { work(); });
+    }
+    m_threads.emplace_back([this] { deliverInOrder(); });
+}
+
+ThumbnailQueue::~ThumbnailQueue() {
+    cancel();
+    {
+        const std::scoped_lock lock(m_mutex);
+        m_closing = true;
+        m_work.notify_all();
+        m_done.notify_all();
+    }
+    for (std::thread& thread : m_threads) {
+        thread.join();
+    }
+}
+
+bool ThumbnailQueue::hasRoomFor(std::uint64_t bytes) const {
+    const bool bytesFit = m_bytes == 0 || m_bytes + bytes <= m_options.maxBytes;
+    return bytesFit && m_items.size() < m_options.maxItems;
+}
+
+bool ThumbnailQueue::submit(QByteArray encoded, Deliver deliver) {
+    const std::uint64_t weight = weightOf(encoded);
+    std::unique_lock lock(m_mutex);
+    m_room.wait(lock, [&] { return m_cancelled || hasRoomFor(weight); });
+    if (m_cancelled) {
+        return false;
+    }
+    m_bytes += weight;
+    m_mostBytes = std::max(m_mostBytes, m_bytes);
+    m_items.push_back({m_generation, std::move(encoded), std::move(deliver), {}, false});
+    m_work.notify_one();
+    return true;
+}
+
+void ThumbnailQueue::work() {
+    std::unique_lock lock(m_mutex);
+    for (;;) {
+        m_work.wait(lock, [&] { return m_closing || m_nextToDecode < m_firstPosition + m_items.size(); });
+        if (m_closing) {
+            return;
+        }
+        const std::uint64_t position = m_nextToDecode++;
+        Item& item = m_items[position - m_firstPosition];
+        const std::uint64_t generation = item.generation;
+        QByteArray encoded = std::exchange(item.encoded, {});
+        const std::uint64_t weight = weightOf(encoded);
+        lock.unlock();
+        QByteArray thumbnail = m_makeThumbnail(encoded);
+        encoded = {};
+        lock.lock();
+        m_bytes -= weight;
+        m_room.notify_all();
+        if (generation == m_generation) {
+            Item& done = m_items[position - m_firstPosition];
+            done.thumbnail = std::move(thumbnail);
+            done.ready = true;
+            m_done.notify_all();
+        }
+    }
+}
+
+void ThumbnailQueue::deliverInOrder() {
+    std::unique_lock lock(m_mutex);
+    for (;;) {
+        m_done.wait(lock, [&] { return m_closing || (!m_items.empty() && m_items.front().ready); });
+        if (m_closing) {
+            return;
+        }
+        const Item item = std::move(m_items.front());
+        m_items.pop_front();
+        ++m_firstPosition;
+        m_delivering = true;
+        lock.unlock();
+        item.deliver(item.thumbnail);
+        lock.lock();
+        m_delivering = false;
+        m_room.notify_all();
+        m_idle.notify_all();
+    }
+}
+
+void ThumbnailQueue::flush() {
+    std::unique_lock lock(m_mutex);
+    const std::uint64_t end = m_firstPosition + m_items.size();
+    const std::uint64_t generation = m_generation;
+    m_idle.wait(lock, [&] {
+        return m_generation != generation || m_firstPosition > end ||
+               (m_firstPosition == end && !m_delivering);
+    });
+}
+
+void ThumbnailQueue::cancel() {
+    std::unique_lock lock(m_mutex);
+    m_cancelled = true;
+    ++m_generation;
+    for (const Item& item : m_items) {
+        m_bytes -= weightOf(item.encoded);
+    }
+    m_firstPosition += m_items.size();
+    m_nextToDecode = m_firstPosition;
+    m_items.clear();
+    m_room.notify_all();
+    m_idle.notify_all();
+    m_idle.wait(lock, [&] { return !m_delivering; });
+}
+
+void ThumbnailQueue::resume() {
+    const std::scoped_lock lock(m_mutex);
+    m_cancelled = false;
+}
+
+std::uint64_t ThumbnailQueue::bytesHeld() const {
+    const std::scoped_lock lock(m_mutex);
+    return m_bytes;
+}
+
+std::uint64_t ThumbnailQueue::mostBytesHeld() const {
+    const std::scoped_lock lock(m_mutex);
+    return m_mostBytes;
+}
+
+}  // namespace vantor

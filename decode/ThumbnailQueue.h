@@ -1,0 +1,83 @@
+// Thumbnails of a stream of pictures: decoded side by side, handed over in the order they came.
+#pragma once
+
+#include <QByteArray>
+#include <condition_variable>
+#include <cstddef>
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+namespace vantor {
+
+struct ThumbnailQueueOptions {
+    int workers = 2;  // thumbnails under way at a time; as many as the pool has helpers
+    std::uint64_t maxBytes = std::uint64_t{128} << 20;  // of encoded bytes that wait or are under way
+    std::size_t maxItems = 1024;                        // submitted and not yet delivered
+};
+
+// Thread-safe. A full queue blocks submit(), so a scan is slowed and the memory stays; one item larger than
+// the whole bound passes alone.
+class ThumbnailQueue {
+  public:
+    using MakeThumbnail = std::function<QByteArray(const QByteArray& encoded)>;
+    // Gets the thumbnail, or an empty array where there is none. Called on the queue's own thread, one call
+    // at a time, in the order of submission. May submit nothing to the queue and must not flush or cancel it.
+    using Deliver = std::function<void(const QByteArray& thumbnail)>;
+
+    // `makeThumbnail` is called from several threads at a time.
+    ThumbnailQueue(MakeThumbnail makeThumbnail, ThumbnailQueueOptions options);
+    ThumbnailQueue(const ThumbnailQueue&) = delete;
+    ThumbnailQueue& operator=(const ThumbnailQueue&) = delete;
+    // Cancels.
+    ~ThumbnailQueue();
+
+    // False once the queue is cancelled; the item is then dropped.
+    bool submit(QByteArray encoded, Deliver deliver);
+    // Returns when everything submitted before has been delivered, or the queue was cancelled.
+    void flush();
+    // Drops what was not delivered yet: no delivery begins after the return, and blocked submitters return.
+    // Waits for the delivery under way but not for decoding. The queue takes nothing more until resume().
+    void cancel();
+    void resume();
+
+    // Encoded bytes that wait or are under way, and the most there ever were.
+    std::uint64_t bytesHeld() const;
+    std::uint64_t mostBytesHeld() const;
+
+  private:
+    struct Item {
+        std::uint64_t generation = 0;  // of the cancellation before it
+        QByteArray encoded;
+        Deliver deliver;
+        QByteArray thumbnail;
+        bool ready = false;
+    };
+
+    void work();
+    void deliverInOrder();
+    bool hasRoomFor(std::uint64_t bytes) const;
+
+    const MakeThumbnail m_makeThumbnail;
+    const ThumbnailQueueOptions m_options;
+
+    mutable std::mutex m_mutex;
+    std::condition_variable m_room, m_work, m_done, m_idle;
+    // Positions are counted over the queue's whole life: m_items[0] is item m_firstPosition.
+    std::deque<Item> m_items;
+    std::uint64_t m_firstPosition = 0;
+    std::uint64_t m_nextToDecode = 0;
+    std::uint64_t m_generation = 0;
+    std::uint64_t m_bytes = 0;
+    std::uint64_t m_mostBytes = 0;
+    bool m_delivering = false;
+    bool m_cancelled = false;
+    bool m_closing = false;
+
+    std::vector<std::thread> m_threads;  // last: they use everything above
+};
+
+}  // namespace vantor

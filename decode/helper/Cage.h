@@ -1,0 +1,25 @@
+// Shuts the helper in before it sees the first carved byte.
+#pragma once
+
+#include <sys/types.h>
+
+#include <cstdint>
+
+namespace vantor::decode {
+
+struct CageOptions {
+    std::uint64_t addressSpaceBytes = std::uint64_t{2} << 30;
+    std::uint64_t processorSeconds = 3600;
+    pid_t parent = 0;  // the helper ends with this process
+};
+
+// Nothing of a broken decoder's chatter reaches the user's terminal; builds with a sanitizer keep its
+// reports.
+void silenceErrors();
+
+// To be called by the only thread, after every library is loaded: from here on no file can be opened, no
+// socket made, no program started, and no memory made executable. Returns whether the system-call filter is
+// in force; the limits hold in any case. False and parentGone when the parent has ended meanwhile.
+bool enterCage(const CageOptions& options, bool& parentGone);
+
+}  // namespace vantor::decode

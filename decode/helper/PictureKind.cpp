@@ -1,0 +1,130 @@
+// Marks at the beginning of the bytes, and the look into TIFF structures that tells a camera's raw file from
+// a finished picture.
+#include "decode/helper/PictureKind.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+#include "decode/helper/ByteView.h"
+#include "decode/helper/TiffDirectory.h"
+
+namespace vantor::decode {
+
+namespace {
+
+struct Mark {
+    qsizetype at;
+    QByteArrayView text;
+    const char* handler;
+};
+
+// Longer marks before shorter ones.
+const std::array kMarks{
+    Mark{0, "\xff\xd8\xff", "jpeg"},
+    Mark{0, "\x89PNG\r\n\x1a\n", "png"},
+    Mark{0, "\x8aMNG\r\n\x1a\n", "mng"},
+    Mark{0, "GIF8", "gif"},
+    Mark{8, "WEBP", "webp"},
+    Mark{0, "BM", "bmp"},
+    Mark{0, "icns", "icns"},
+    Mark{0, QByteArrayView("\0\0\1\0", 4), "ico"},
+    Mark{0, QByteArrayView("\0\0\2\0", 4), "cur"},
+    Mark{0, "8BPS", kPhotoshopFormat},
+    Mark{0, QByteArrayView("\xff\x0a", 2), kJpegXlFormat},
+    Mark{0, QByteArrayView("\0\0\0\x0cJXL \r\n\x87\n", 12), kJpegXlFormat},
+    Mark{0, QByteArrayView("\0\0\0\x0cjP  \r\n\x87\n", 12), kJpeg2000Format},
+    Mark{0, "\xff\x4f\xff\x51", kJpeg2000Format},
+    // Camera raw files that are no TIFF, or only nearly one.
+    Mark{0, "FUJIFILMCCD-RAW", kRawFormat},
+    Mark{6, "HEAPCCDR", kRawFormat},
+    Mark{0, "IIRO", kRawFormat},
+    Mark{0, "IIRS", kRawFormat},
+    Mark{0, "MMOR", kRawFormat},
+    Mark{0, QByteArrayView("IIU\0", 4), kRawFormat},
+    Mark{0, "FOVb", kRawFormat},
+    Mark{0, QByteArrayView("\0MRM", 4), kRawFormat},
+    Mark{0, "ARECOYK", kRawFormat},
+};
+
+// Brands of ISO base media files, at byte 8.
+const std::array kBrands{
+    Mark{8, "crx ", kRawFormat},  Mark{8, "heic", kHeifFormat}, Mark{8, "heix", kHeifFormat},
+    Mark{8, "heim", kHeifFormat}, Mark{8, "heis", kHeifFormat}, Mark{8, "hevc", kHeifFormat},
+    Mark{8, "hevx", kHeifFormat}, Mark{8, "mif1", kHeifFormat}, Mark{8, "msf1", kHeifFormat},
+    Mark{8, "avif", kHeifFormat}, Mark{8, "avis", kHeifFormat}, Mark{8, "miaf", kHeifFormat},
+};
+
+// Formats whose first bytes say next to nothing; tried only on an item of that type.
+constexpr std::array kMarkless{"tga", "wbmp", "pbm", "pgm", "ppm", "xbm", "xpm"};
+
+bool isTiff(QByteArrayView bytes) {
+    return hasText(bytes, 0, QByteArrayView("II*\0", 4)) || hasText(bytes, 0, QByteArrayView("MM\0*", 4)) ||
+           hasText(bytes, 0, QByteArrayView("II+\0", 4)) || hasText(bytes, 0, QByteArrayView("MM\0+", 4));
+}
+
+// Tag and value pairs that only sensor data has: TIFF/EP, DNG and the makers' own compressions.
+bool tellsRaw(const TiffEntry& entry) {
+    constexpr std::uint16_t kCompression = 0x0103, kPhotometric = 0x0106, kDngVersion = 0xc612;
+    constexpr std::array<std::uint32_t, 2> kRawPhotometrics{32803, 34892};
+    constexpr std::array<std::uint32_t, 6> kRawCompressions{32767, 32770, 34713, 34892, 65000, 65535};
+    switch (entry.tag) {
+        case kDngVersion:
+            return true;
+        case kPhotometric:
+            return std::ranges::find(kRawPhotometrics, entry.value) != kRawPhotometrics.end();
+        case kCompression:
+            return std::ranges::find(kRawCompressions, entry.value) != kRawCompressions.end();
+        default:
+            return false;
+    }
+}
+
+}  // namespace
+
+bool isTiffBasedRaw(QByteArrayView bytes) {
+    if (hasText(bytes, 8, "CR\x02")) {
+        return true;
+    }
+    bool raw = false;
+    walkTiff(bytes, [&](const TiffEntry& entry) {
+        raw = tellsRaw(entry);
+        return !raw;
+    });
+    return raw;
+}
+
+QList<QByteArray> handlersFor(QByteArrayView bytes, QByteArrayView extension) {
+    if (isTiff(bytes)) {
+        // A raw file's other directories hold reduced pictures, which are not what is asked for.
+        return isTiffBasedRaw(bytes) ? QList<QByteArray>{kRawFormat} : QList<QByteArray>{"tiff", kRawFormat};
+    }
+    const auto stands = [&](const Mark& mark) { return hasText(bytes, mark.at, mark.text); };
+    if (hasText(bytes, 4, "ftyp")) {
+        const auto brand = std::ranges::find_if(kBrands, stands);
+        return brand == kBrands.end() ? QList<QByteArray>{} : QList<QByteArray>{brand->handler};
+    }
+    const auto mark = std::ranges::find_if(kMarks, stands);
+    if (mark != kMarks.end()) {
+        return {mark->handler};
+    }
+    const auto markless =
+        std::ranges::find_if(kMarkless, [&](const char* name) { return extension == QByteArrayView(name); });
+    return markless == kMarkless.end() ? QList<QByteArray>{} : QList<QByteArray>{*markless};
+}
+
+QList<QByteArray> allHandlers() {
+    QList<QByteArray> names{"tiff"};
+    for (const Mark& mark : kMarks) {
+        names.append(mark.handler);
+    }
+    names.append(kHeifFormat);
+    for (const char* name : kMarkless) {
+        names.append(name);
+    }
+    std::ranges::sort(names);
+    names.erase(std::unique(names.begin(), names.end()), names.end());
+    return names;
+}
+
+}  // namespace vantor::decode

@@ -1,0 +1,29 @@
+// Which image handlers may try some bytes, told from the bytes themselves.
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QList>
+
+namespace vantor::decode {
+
+// Names of our own plugins' formats.
+inline constexpr char kRawFormat[] = "vantor-raw";
+inline constexpr char kHeifFormat[] = "vantor-heif";
+inline constexpr char kJpegXlFormat[] = "vantor-jxl";
+inline constexpr char kJpeg2000Format[] = "vantor-jp2";
+inline constexpr char kPhotoshopFormat[] = "vantor-psd";
+
+// The handlers to try, the likeliest first; empty when the bytes are no picture of a kind we read.
+// `extension` (lower case) decides only for kinds without a mark of their own. Nothing that follows
+// references to other files is ever named.
+QList<QByteArray> handlersFor(QByteArrayView bytes, QByteArrayView extension);
+
+// All handlers that handlersFor() may name.
+QList<QByteArray> allHandlers();
+
+// Whether a TIFF structure holds sensor data rather than a finished picture: a colour-filter array, a raw
+// compression or the DNG version tag in the first directory or those below it.
+bool isTiffBasedRaw(QByteArrayView bytes);
+
+}  // namespace vantor::decode

@@ -1,0 +1,44 @@
+// vantor-decode: decodes carved pictures in the program's place. Started by the program only, with its
+// process id as the argument and a socket as descriptor 3.
+#include <time.h>
+#include <unistd.h>
+
+#include <QCoreApplication>
+#include <QThreadPool>
+#include <cstdio>
+#include <cstdlib>
+
+#include "decode/helper/Cage.h"
+#include "decode/helper/Channel.h"
+#include "decode/helper/PictureDecoder.h"
+
+int main(int argc, char** argv) {
+    using namespace vantor::decode;
+    if (argc != 2) {
+        std::fputs("vantor-decode is started by the program itself.\n", stderr);
+        return EXIT_FAILURE;
+    }
+    silenceErrors();
+    // with us.
+    tzset();
+    QCoreApplication application(argc, argv);
+    preparePictureDecoders();
+
+    CageOptions options;
+    options.parent = static_cast<pid_t>(std::strtol(argv[1], nullptr, 10));
+    bool parentGone = false;
+    const bool caged = enterCage(options, parentGone);
+    Channel channel(kHelperSocket);
+    if (parentGone || !channel.sayReady(caged)) {
+        _exit(EXIT_SUCCESS);
+    }
+    // Pictures are decoded side by side by processes; a thread of the pool itself gets no others to help it.
+    QThreadPool::globalInstance()->setMaxThreadCount(1);
+    QThreadPool::globalInstance()->start([&channel] {
+        PictureJobDecoder decoder;
+        // Past every clean-up that a damaged heap could trip over.
+        _exit(channel.serve(decoder) ? EXIT_SUCCESS : EXIT_FAILURE);
+    });
+    QThreadPool::globalInstance()->waitForDone();
+    return EXIT_SUCCESS;
+}

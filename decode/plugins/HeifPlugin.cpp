@@ -1,0 +1,110 @@
+// HEIC, HEIF and AVIF pictures; the library turns them upright itself.
+#include <libheif/heif.h>
+
+#include <algorithm>
+#include <memory>
+#include <string_view>
+
+#include "decode/plugins/PluginBytes.h"
+
+namespace vantor::decode {
+
+namespace {
+
+using Context = std::unique_ptr<heif_context, decltype(&heif_context_free)>;
+using Handle = std::unique_ptr<heif_image_handle, decltype(&heif_image_handle_release)>;
+using Image = std::unique_ptr<heif_image, decltype(&heif_image_release)>;
+using Options = std::unique_ptr<heif_decoding_options, decltype(&heif_decoding_options_free)>;
+
+std::uint64_t bigEndian(const QByteArray& bytes, qsizetype at, int width) {
+    std::uint64_t value = 0;
+    for (int i = 0; i < width; ++i) {
+        value = value << 8 | static_cast<std::uint8_t>(bytes.at(at + i));
+    }
+    return value;
+}
+
+// Where the file's own boxes end: whatever the carving took along behind them would make the library refuse
+// it all. A box that claims more than there is ends the file.
+qsizetype endOfBoxes(const QByteArray& bytes) {
+    constexpr std::string_view kTopLevel[] = {"ftyp", "meta", "mdat", "moov", "free",
+                                              "skip", "uuid", "idat", "mpvd"};
+    qsizetype at = 0;
+    while (bytes.size() - at >= 8) {
+        const std::string_view type(bytes.constData() + at + 4, 4);
+        if (std::ranges::find(kTopLevel, type) == std::end(kTopLevel)) {
+            return at;
+        }
+        std::uint64_t size = bigEndian(bytes, at, 4);
+        if (size == 1 && bytes.size() - at >= 16) {
+            size = bigEndian(bytes, at + 8, 8);
+        }
+        if (size < 8 || size > static_cast<std::uint64_t>(bytes.size() - at)) {
+            return bytes.size();
+        }
+        at += static_cast<qsizetype>(size);
+    }
+    return at;
+}
+
+QImage pixelsOf(const heif_image* decoded, bool alpha) {
+    const int width = heif_image_get_width(decoded, heif_channel_interleaved);
+    const int height = heif_image_get_height(decoded, heif_channel_interleaved);
+    int stride = 0;
+    const std::uint8_t* plane = heif_image_get_plane_readonly(decoded, heif_channel_interleaved, &stride);
+    if (!plane || width <= 0 || height <= 0) {
+        return {};
+    }
+    const auto format = alpha ? QImage::Format_RGBA8888 : QImage::Format_RGB888;
+    return QImage(plane, width, height, stride, format).copy();
+}
+
+QImage decodeHeif(const QByteArray& bytes) {
+    const Context context(heif_context_alloc(), &heif_context_free);
+    const auto size = static_cast<std::size_t>(endOfBoxes(bytes));
+    if (heif_context_read_from_memory_without_copy(context.get(), bytes.constData(), size, nullptr).code !=
+        heif_error_Ok) {
+        return {};
+    }
+    heif_image_handle* primary = nullptr;
+    if (heif_context_get_primary_image_handle(context.get(), &primary).code != heif_error_Ok) {
+        return {};
+    }
+    const Handle handle(primary, &heif_image_handle_release);
+    const int width = heif_image_handle_get_width(primary);
+    const int height = heif_image_handle_get_height(primary);
+    if (width <= 0 || height <= 0 ||
+        !isReasonableSize(static_cast<std::uint64_t>(width), static_cast<std::uint64_t>(height))) {
+        return {};
+    }
+    const bool alpha = heif_image_handle_has_alpha_channel(primary);
+    const Options options(heif_decoding_options_alloc(), &heif_decoding_options_free);
+    options->convert_hdr_to_8bit = 1;
+    heif_image* decoded = nullptr;
+    if (heif_decode_image(primary, &decoded, heif_colorspace_RGB,
+                          alpha ? heif_chroma_interleaved_RGBA : heif_chroma_interleaved_RGB, options.get())
+            .code != heif_error_Ok) {
+        return {};
+    }
+    const Image image(decoded, &heif_image_release);
+    return pixelsOf(decoded, alpha);
+}
+
+}  // namespace
+
+class HeifHandler : public WholePictureHandler {
+  public:
+    static constexpr char kFormat[] = "vantor-heif";
+
+  protected:
+    QImage decode(const QByteArray& bytes) override { return decodeHeif(bytes); }
+};
+
+class HeifPlugin : public HandlerPlugin<HeifHandler> {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QImageIOHandlerFactoryInterface_iid FILE "heif.json")
+};
+
+}  // namespace vantor::decode
+
+#include "HeifPlugin.moc"

@@ -1,0 +1,103 @@
+// Documents that tell their length in a header: CHM, DjVu, shell links, encapsulated PostScript.
+// Sources: public notes on the CHM layout; DjVu 3 specification; [MS-SHLLINK]; Adobe EPSF 3.0 and DSC 3.0.
+#include <algorithm>
+
+#include "formats/Walkers.h"
+
+namespace vantor {
+
+Extent walkChm(ByteView& view) {
+    if (!view.matches(0, std::string_view("ITSF\x03\0\0\0", 8)))
+        return unknownExtent();
+    const auto section = view.le64(0x38);
+    const auto end = section ? view.le64(addClamped(*section, 8)) : std::nullopt;
+    if (!end)
+        return cutOffAt(view, view.size());
+    if (*end < 0x60)
+        return damagedAt(view, 0x60);
+    return completeAt(view, *end);
+}
+
+Extent walkDjvu(ByteView& view) {
+    if (!view.matches(0, "AT&TFORM") || !view.matches(12, "DJV"))
+        return unknownExtent();
+    return completeAt(view, 12 + std::uint64_t{view.be32(8).value_or(0)});
+}
+
+Extent walkShellLink(ByteView& view) {
+    if (!view.matches(0, std::string_view("L\0\0\0\x01\x14\x02\0\0\0\0\0\xC0\0\0\0\0\0\0\x46", 20)))
+        return unknownExtent();
+    const auto flags = view.le32(20).value_or(0);
+    const std::uint64_t letter = (flags & 0x80) != 0 ? 2 : 1;
+    std::uint64_t at = 76;
+    if ((flags & 1) != 0)
+        at += std::uint64_t{2} + view.le16(at).value_or(0);
+    if ((flags & 2) != 0)
+        at += view.le32(at).value_or(0);
+    for (std::uint32_t text = 4; text <= 64; text <<= 1) {
+        if ((flags & text) != 0)
+            at += 2 + letter * view.le16(at).value_or(0);
+    }
+    constexpr int kMostBlocks = 64;
+    for (int blocks = 0; blocks < kMostBlocks; ++blocks) {
+        const auto bytes = view.le32(at);
+        if (!bytes)
+            return cutOffAt(view, view.size());
+        if (*bytes < 4)
+            return completeAt(view, at + 4);
+        at += *bytes;
+    }
+    return damagedAt(view, at);
+}
+
+namespace {
+
+// Text from "%!PS" to the end comment that is not one of an embedded document.
+Extent walkPostScriptText(ByteView& view) {
+    constexpr std::uint64_t kMostSilence = 64 * 1024 * 1024;  // without any comment line
+    std::uint64_t embedded = 0;
+    std::uint64_t sign = 0;
+    for (std::uint64_t at = 0; at < view.size();) {
+        at = view.find('%', at, std::min(view.size(), addClamped(sign, kMostSilence)));
+        if (at >= view.size() || !view.u8(at))
+            break;
+        if (!view.matches(at, "%%")) {
+            if (at - sign >= kMostSilence)
+                return damagedAt(view, sign);
+            ++at;
+            continue;
+        }
+        sign = at;
+        if (view.matches(at, "%%BeginDocument"))
+            ++embedded;
+        else if (view.matches(at, "%%EndDocument") && embedded != 0)
+            --embedded;
+        else if (view.matches(at, "%%EOF") && embedded == 0) {
+            at += 5;
+            at += view.u8(at) == '\r' ? 1 : 0;
+            at += view.u8(at) == '\n' ? 1 : 0;
+            return completeAt(view, at);
+        }
+        at += 2;
+    }
+    return cutOffAt(view, view.size());
+}
+
+}  // namespace
+
+Extent walkPostScript(ByteView& view) {
+    if (view.matches(0, "%!PS"))
+        return walkPostScriptText(view);
+    if (!view.matches(0, "\xC5\xD0\xD3\xC6"))
+        return unknownExtent();
+    // A binary head before the text: positions and lengths of the PostScript, a metafile and a TIFF preview.
+    std::uint64_t end = 30;
+    for (const std::uint64_t field : {4, 12, 20}) {
+        const std::uint64_t at = view.le32(field).value_or(0), bytes = view.le32(field + 4).value_or(0);
+        if (bytes != 0)
+            end = std::max(end, at + bytes);
+    }
+    return end > 30 ? completeAt(view, end) : damagedAt(view, 30);
+}
+
+}  // namespace vantor

@@ -1,0 +1,42 @@
+// The questions that walkers of text share.
+#include "formats/TextReader.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace vantor {
+
+std::uint64_t behindLineEnd(ByteView& view, std::uint64_t at) {
+    if (view.u8(at) == '\r')
+        ++at;
+    if (view.u8(at) == '\n')
+        ++at;
+    return at;
+}
+
+std::uint64_t behindByteOrderMark(ByteView& view) {
+    return view.matches(0, "\xEF\xBB\xBF") ? 3 : 0;
+}
+
+bool matchesAnyCase(ByteView& view, std::uint64_t at, std::string_view lower) {
+    const auto here = view.window(at, lower.size());
+    return here.size() >= lower.size() &&
+           std::equal(lower.begin(), lower.end(), here.begin(),
+                      [](char a, int b) { return a == static_cast<char>(std::tolower(b)); });
+}
+
+std::uint64_t textEnd(ByteView& view, std::uint64_t from) {
+    TextReader in(view, from);
+    constexpr int kErased = 0xFF;  // two of them are an erased sector, not letters
+    for (int last = 0;;) {
+        const auto at = in.at();
+        const int byte = in.next();
+        if (byte == kErased && last == kErased)
+            return at - 1;
+        if (byte < 0 || isControl(byte))
+            return at;
+        last = byte;
+    }
+}
+
+}  // namespace vantor

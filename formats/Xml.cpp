@@ -1,0 +1,159 @@
+// XML and SVG by their root element, HTML by its closing tag. Sources: XML 1.0; HTML living standard.
+#include <cctype>
+#include <string>
+
+#include "formats/TextReader.h"
+#include "formats/Walkers.h"
+
+namespace vantor {
+
+namespace {
+
+// Walks the tags of an XML document, counting how deep they stand.
+class XmlWalk {
+  public:
+    XmlWalk(ByteView& view, std::uint64_t at) : m_in(view, at), m_view(view) {}
+
+    Extent walk();
+
+  private:
+    enum class Step { Next, Root, Cut, Broken };
+
+    Step tag();
+    Step skipTo(std::string_view mark);
+    Step doctype();
+    bool follows(std::string_view text) { return m_view.matches(m_in.at(), text); }
+
+    TextReader m_in;
+    ByteView& m_view;
+    std::uint64_t m_depth = 0;
+};
+
+XmlWalk::Step XmlWalk::skipTo(std::string_view mark) {
+    std::string recent;
+    for (;;) {
+        const int byte = m_in.next();
+        if (byte < 0)
+            return Step::Cut;
+        if (isForeign(byte))
+            return Step::Broken;
+        recent.push_back(static_cast<char>(byte));
+        if (recent.size() > mark.size())
+            recent.erase(0, 1);
+        if (recent == mark)
+            return Step::Next;
+    }
+}
+
+// A document type may hold declarations in brackets, with quoted texts.
+XmlWalk::Step XmlWalk::doctype() {
+    int brackets = 0;
+    int quote = 0;
+    for (;;) {
+        const int byte = m_in.next();
+        if (byte < 0)
+            return Step::Cut;
+        if (isForeign(byte))
+            return Step::Broken;
+        if (quote != 0)
+            quote = byte == quote ? 0 : quote;
+        else if (byte == '"' || byte == '\'')
+            quote = byte;
+        else if (byte == '[' || byte == ']')
+            brackets += byte == '[' ? 1 : -1;
+        else if (byte == '>' && brackets <= 0)
+            return Step::Next;
+    }
+}
+
+// Behind a '<'.
+XmlWalk::Step XmlWalk::tag() {
+    if (follows("!--"))
+        return skipTo("-->");
+    if (follows("![CDATA["))
+        return skipTo("]]>");
+    if (follows("?"))
+        return skipTo("?>");
+    if (follows("!"))
+        return doctype();
+    const bool closes = follows("/");
+    int quote = 0;
+    int last = 0;
+    for (;;) {
+        const int byte = m_in.next();
+        if (byte < 0)
+            return Step::Cut;
+        if (isForeign(byte) || (byte == '<' && quote == 0))
+            return Step::Broken;
+        if (quote != 0) {
+            quote = byte == quote ? 0 : quote;
+        } else if (byte == '"' || byte == '\'') {
+            quote = byte;
+        } else if (byte == '>') {
+            break;
+        }
+        last = byte;
+    }
+    if (closes && m_depth == 0)
+        return Step::Broken;
+    if (closes)
+        --m_depth;
+    else if (last != '/')
+        ++m_depth;
+    return m_depth == 0 ? Step::Root : Step::Next;
+}
+
+Extent XmlWalk::walk() {
+    for (;;) {
+        const auto at = m_in.at();
+        const int byte = m_in.next();
+        if (byte < 0)
+            return cutOffAt(m_view, at);
+        if (isForeign(byte))
+            return damagedAt(m_view, at);
+        if (byte != '<')
+            continue;
+        switch (tag()) {
+            case Step::Next:
+                break;
+            case Step::Root:
+                return completeAt(m_view, behindLineEnd(m_view, m_in.at()));
+            case Step::Cut:
+                return cutOffAt(m_view, m_in.at());
+            case Step::Broken:
+                return damagedAt(m_view, at);
+        }
+    }
+}
+
+}  // namespace
+
+Extent walkXml(ByteView& view) {
+    std::uint64_t at = behindByteOrderMark(view);
+    constexpr std::uint64_t kMostLead = 256;
+    for (std::uint64_t lead = 0; lead < kMostLead && isTextSpace(view.u8(at).value_or(0)); ++lead)
+        ++at;
+    if (matchesAnyCase(view, at, "<!doctype html") || matchesAnyCase(view, at, "<html"))
+        return walkHtml(view);
+    const auto next = view.u8(at + 1).value_or(0);
+    const bool begins = next == '?' || next == '!' || std::isalpha(next) != 0;
+    return view.u8(at) == '<' && begins ? XmlWalk(view, at).walk() : unknownExtent();
+}
+
+Extent walkHtml(ByteView& view) {
+    constexpr std::string_view kClose = "</html>";
+    std::uint64_t at = behindByteOrderMark(view);
+    while (isTextSpace(view.u8(at).value_or(0)) && at < 256)
+        ++at;
+    const auto second = view.u8(at + 1).value_or(0);
+    if (view.u8(at) != '<' || (second != '!' && second != '?' && std::isalpha(second) == 0))
+        return unknownExtent();
+    const auto end = textEnd(view, at);
+    for (auto tag = view.find('<', at, end); tag < end; tag = view.find('<', tag + 1, end)) {
+        if (matchesAnyCase(view, tag, kClose))
+            return completeAt(view, behindLineEnd(view, tag + kClose.size()));
+    }
+    return inexact(end == view.size() ? cutOffAt(view, end) : completeAt(view, end));
+}
+
+}  // namespace vantor

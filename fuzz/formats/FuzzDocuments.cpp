@@ -1,0 +1,8 @@
+// Fuzzes the walkers of documents.
+#include "FuzzWalkers.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    return vantor::fuzz::walkWith(
+        {"PDF", "DOC", "MOBI", "CHM", "DJVU", "LNK", "PS", "RTF", "XML", "HTML", "VCF", "ICS", "TXT"}, data,
+        size);
+}

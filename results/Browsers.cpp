@@ -1,0 +1,91 @@
+// Data source and delegate of both browsers.
+#include <QLocale>
+
+#include "app/MyTableController.h"
+
+namespace vantor {
+
+ImageBrowserView* MyTableController::browserOf(ControlSet set) const {
+    return set == ControlSet::Photo ? imageBrowser : imageBrowser_2;
+}
+
+qsizetype MyTableController::numberOfItemsInImageBrowser(const ImageBrowserView*) {
+    return static_cast<qsizetype>(itemCount());
+}
+
+std::shared_ptr<MyImageObject> MyTableController::imageBrowser_itemAtIndex(const ImageBrowserView*,
+                                                                           qsizetype index) {
+    return index < 0 ? nullptr : itemAt(static_cast<std::size_t>(index));
+}
+
+qsizetype MyTableController::imageBrowser_writeItemsAtIndexes(const ImageBrowserView*,
+                                                              const QList<qsizetype>&, QMimeData*) {
+    return 0;
+}
+
+void MyTableController::zoomSliderDidChange(QObject*) {
+    imageBrowser->setZoomValue(static_cast<float>(_zoom_slider->value()) /
+                               static_cast<float>(_zoom_slider->maximum()));
+    imageBrowser->viewport()->update();
+}
+
+void MyTableController::imageBrowserSelectionDidChange(ImageBrowserView* view) {
+    if (view != imageBrowser_2 || session) {
+        return;
+    }
+    const QList<qsizetype> selected = view->selectionIndexes();
+    if (selected.isEmpty()) {
+        return;
+    }
+    const auto index = static_cast<std::uint32_t>(selected.constFirst());
+    if (index == kNoPreview || index == Prev_Index) {
+        return;
+    }
+    const std::shared_ptr<MyImageObject> item = imageBrowser_itemAtIndex(view, index);
+    if (!item) {
+        return;
+    }
+    Prev_Index = index;
+    _QuickLook_View->clear();
+    closemovie_Win();
+    CreateFile_QuickLook_View({item->valueForKey(QStringLiteral("path")),
+                               item->valueForKey(QStringLiteral("File_Start_Sector")),
+                               item->valueForKey(QStringLiteral("File_End_Sector"))});
+}
+
+// Types without items can be left out of the table.
+void MyTableController::filterResultRows() {
+    const QList<ResultRow> rows = resultRows();
+    for (int row = 0; row < rows.size(); ++row) {
+        idSigTableView->setRowHidden(row, foundTypesOnly->isChecked() && countOf(rows.at(row)) == 0);
+    }
+}
+
+// Counts in words, and the buttons that need something to work on.
+void MyTableController::showItemCounts() {
+    const qsizetype found = static_cast<qsizetype>(itemCount());
+    const auto words = [&](const ImageBrowserView* browser) {
+        const qsizetype selected = browser->selectionIndexes().size();
+        const QString count = found == 1 ? tr("1 item") : tr("%1 items").arg(QLocale().toString(found));
+        return selected > 0 ? tr("%1, %2 selected").arg(count, QLocale().toString(selected)) : count;
+    };
+    photoCountLabel->setText(words(imageBrowser));
+    rawCountLabel->setText(words(imageBrowser_2));
+    saveSelectedButton->setEnabled(imageBrowser->selectionModel()->hasSelection());
+    saveSelectedButton_Sig->setEnabled(imageBrowser_2->selectionModel()->hasSelection());
+    for (QPushButton* button : {saveAllButton, saveAllButton_Sig}) {
+        button->setEnabled(found > 0);
+    }
+    const bool haveFolder = !_path->text().isEmpty();
+    _open_folder->setEnabled(haveFolder);
+    _open_folder_Sig->setEnabled(haveFolder);
+    const QString saved =
+        m_saved.empty()
+            ? QString()
+            : tr("%1 of %2 saved")
+                  .arg(QLocale().toString(static_cast<qsizetype>(m_saved.size())), QLocale().toString(found));
+    savedLabel->setText(saved);
+    savedLabel_Sig->setText(saved);
+}
+
+}  // namespace vantor

@@ -1,0 +1,35 @@
+// Shows the movie of the current preview; holds at most one.
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+#include "results/Movie.h"
+
+namespace vantor {
+
+class MovieView : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit MovieView(QWidget* parent = nullptr);
+    ~MovieView() override;
+
+    // Takes the movie over and shows its first frame; null empties the view.
+    void setMovie(std::unique_ptr<Movie> movie);
+    Movie* movie() const { return m_movie.get(); }
+
+    // Starts the movie, or stops it when it plays.
+    void togglePlaying();
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    std::unique_ptr<Movie> m_movie;
+    QImage m_frame;
+};
+
+}  // namespace vantor

@@ -1,0 +1,133 @@
+// The preview of the selected item: copy, then picture, icon or movie.
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QLocale>
+
+#include "app/MyTableController.h"
+#include "catalogue/NumberText.h"
+#include "results/PreviewFile.h"
+#include "results/RecoveryMode.h"
+#include "wizard/Sheet.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr QSize kPreviewSize{200, 200};
+constexpr int kPollMilliseconds = 5;
+
+// Through text, as the sectors travel: values beyond a signed 64-bit number come back as the largest one.
+std::uint64_t sectorThroughText(const QVariant& sector) {
+    return static_cast<std::uint64_t>(textToInt64(QString::number(sector.toULongLong())));
+}
+
+QString lastComponent(const QString& path) {
+    return path.mid(path.lastIndexOf(u'/') + 1);
+}
+
+}  // namespace
+
+// Runs the work on a thread of its own while the window lives on.
+void MyTableController::runBeside(const std::function<void()>& work) {
+    m_besideRunning = true;
+    mPreviewThread = std::thread([this, work] {
+        work();
+        m_besideRunning = false;
+    });
+    QEventLoop loop;
+    QTimer poll;
+    connect(&poll, &QTimer::timeout, &loop, [&] {
+        if (!m_besideRunning) {
+            loop.quit();
+        }
+    });
+    poll.start(kPollMilliseconds);
+    loop.exec();
+    // A loop that ended with the program leaves a thread that may hang; the end of the program sees to it.
+    if (!m_besideRunning) {
+        mPreviewThread.join();
+    }
+}
+
+void MyTableController::CreateFile_QuickLook_View(const QVariantList& item) {
+    const QString path = item.at(0).toString();
+    const auto request = std::make_shared<PreviewFileRequest>();
+    request->openMedium = [open = m_parts.openMedium, device = devicePath()] {
+        return open ? open(device) : nullptr;
+    };
+    request->previousFile = Preview_Temp_File;
+    request->newFile = previewFilePath(m_previewFolder, path);
+    request->start = sectorThroughText(item.at(1));
+    request->end = sectorThroughText(item.at(2));
+    const auto result = std::make_shared<PreviewFileResult>();
+
+    session = true;
+    {
+        const SheetSession sheet(ClearPreview_Window, controlPanel, exitButton);
+        runBeside([this, request, result] { *result = makePreviewFile(*request, stop_now); });
+        if (m_ending) {
+            return;
+        }
+        if (result->mediumOpened) {
+            Preview_Temp_File = request->newFile;
+        }
+        QuickLook_Preview_Thread(path);
+    }
+    session = false;
+    if (stop_now == 1 && stop_screen_already_show == 0) {
+        Final_or_Stop_Screen();
+    }
+}
+
+void MyTableController::QuickLook_Preview_Thread(const QString& itemPath) {
+    setQuickLook_View_File(Preview_Temp_File, lastComponent(itemPath));
+    const QFileInfo file(Preview_Temp_File);
+    previewFacts->setText(file.exists() ? QLocale().formattedDataSize(file.size()) : QString());
+}
+
+void MyTableController::setQuickLook_View_File(const QString& file, const QString& file_Name) {
+    if (file_Name.isNull()) {
+        return;
+    }
+    if (Recovery_MODE != kVideoMode) {
+        Image_Preview(file, file_Name);
+        return;
+    }
+    _QuickLook_View_Box->setTitle(file_Name);
+    std::unique_ptr<Movie> movie = m_parts.movie ? m_parts.movie(file) : nullptr;
+    _QuickLook_View->setHidden(movie != nullptr);
+    mMovieView->setHidden(movie == nullptr);
+    if (movie) {
+        mMovieView->setMovie(std::move(movie));
+    } else {
+        Image_Preview(file, file_Name);
+    }
+}
+
+void MyTableController::setQuickLook_View(const QString& file) {
+    setQuickLook_View_File(file, lastComponent(file));
+}
+
+void MyTableController::Image_Preview(const QString& file, const QString& file_Name) {
+    if (file.isEmpty()) {
+        return;
+    }
+    QImage picture;
+    if (m_parts.picture && QFileInfo(file).isFile()) {
+        picture = m_parts.picture(file, kPreviewSize);
+    }
+    if (!picture.isNull()) {
+        showPicture(QPixmap::fromImage(framedAsDocument(picture, kPreviewSize)), file_Name);
+        return;
+    }
+    const QString extension = pathExtension(file);
+    m_previewIcons.prepare(extension);
+    showPicture(m_previewIcons.icon(extension).pixmap(kPreviewSize), file_Name);
+}
+
+void MyTableController::showPicture(const QPixmap& picture, const QString& title) {
+    _QuickLook_View_Box->setTitle(title);
+    _QuickLook_View->setPixmap(picture);
+}
+
+}  // namespace vantor

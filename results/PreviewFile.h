@@ -1,0 +1,41 @@
+// Makes the one temporary file that the preview shows.
+#pragma once
+
+#include <QString>
+#include <atomic>
+#include <cstdint>
+#include <functional>
+#include <memory>
+
+#include "media/SectorReader.h"
+
+namespace vantor {
+
+struct PreviewFileRequest {
+    std::function<std::unique_ptr<SectorReader>()> openMedium;
+    QString previousFile;  // deleted once the medium is open
+    QString newFile;
+    std::uint64_t start = 0;  // sectors [start, end)
+    std::uint64_t end = 0;
+};
+
+struct PreviewFileResult {
+    bool mediumOpened = false;  // false: the previous file is still there and nothing was made
+    bool fileMade = false;
+};
+
+// Deletes the previous preview file and copies the sectors into the new one. Any thread; ends early when
+// stop_now is 1.
+PreviewFileResult makePreviewFile(const PreviewFileRequest& request, const std::atomic<int>& stop_now);
+
+// Where preview files of the item are kept: `folder`/dprv.ext; without an extension, `folder`/dprv.
+QString previewFilePath(const QString& folder, const QString& itemPath);
+
+// The resources folder when it can be written to, else a folder of the user's own for the running session
+// (0700); the resources folder when even that cannot be had.
+QString previewFolder(const QString& resourcesFolder);
+
+// Deletes every entry of the folder whose name without its extension is "dprv"; errors are ignored.
+void deletePreviewFiles(const QString& folder);
+
+}  // namespace vantor

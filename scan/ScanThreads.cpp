@@ -1,0 +1,135 @@
+// Start, ticks, stop and end of the two threads of a scan.
+
+#include "app/MyTableController.h"
+#include "results/RecoveryMode.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr std::chrono::milliseconds kLastScanPatience{5000};
+
+}  // namespace
+
+void MyTableController::startScan(void (ScanSession::*driver)()) {
+    waitForThreads(kLastScanPatience);
+    prepareIcons();
+    m_inputs = readInputs();
+    m_saved.clear();
+    m_clock.start();
+    mSetLabelTimer = std::make_shared<ScanTimer>();
+    m_driverRunning = true;
+    m_timerRunning = true;
+    m_driver = std::thread([this, driver] {
+        (this->*driver)();
+        mSetLabelTimer->invalidate();
+        m_driverRunning = false;
+    });
+    m_timerThread = std::thread([this] {
+        startTimerThread();
+        m_timerRunning = false;
+    });
+    m_pump.start();
+}
+
+void MyTableController::startTimerThread() {
+    mSetLabelTimer->run([this] { timerTickSetLabel(); });
+    // The last values are shown, whatever the ticks missed.
+    m_queue.runAndWait([this] { timerTickSetLabel(); });
+}
+
+void MyTableController::stop_usb_disk(QObject*) {
+    stop_now = 1;
+}
+
+// A batch: what the scan has for the views, then its steps one by one.
+void MyTableController::pump() {
+    flushViews();
+    showScanFacts();
+    // Steps may ask the user something; the timer goes on meanwhile, the steps after them wait.
+    QMetaObject::invokeMethod(this, &MyTableController::drainQueue, Qt::QueuedConnection);
+}
+
+void MyTableController::drainQueue() {
+    if (m_draining) {
+        return;
+    }
+    m_draining = true;
+    while (!session && !m_ending && m_queue.runOne()) {
+    }
+    m_draining = false;
+    if (!session && !m_ending && !scanRunning() && m_queue.isEmpty() && m_pump.isActive()) {
+        scanThreadsEnded();
+    }
+}
+
+bool MyTableController::waitForThreads(std::chrono::milliseconds patience) {
+    const auto until = std::chrono::steady_clock::now() + patience;
+    while (scanRunning()) {
+        if (std::chrono::steady_clock::now() > until) {
+            return false;
+        }
+        if (!m_queue.runOne()) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }
+    }
+    if (m_driver.joinable()) {
+        m_driver.join();
+    }
+    if (m_timerThread.joinable()) {
+        m_timerThread.join();
+    }
+    return true;
+}
+
+void MyTableController::scanThreadsEnded() {
+    m_pump.stop();
+    waitForThreads(kLastScanPatience);
+    flushViews();
+    showItemCounts();
+    showWhereWeAre();
+    // The driver leaves the end screen to a preview that was being copied; should that have ended first, it
+    // is due now.
+    const bool onScanScreen = screen_counter == (Recovery_MODE == kPhotoMode ? 2 : 3);
+    if (stop_screen_already_show == 0 && onScanScreen) {
+        Final_or_Stop_Screen();
+    }
+}
+
+void MyTableController::flushViews() {
+    for (const ControlSet set : {ControlSet::Photo, ControlSet::Sig}) {
+        PendingView& pending = m_pending[static_cast<std::size_t>(set)];
+        if (pending.reload.exchange(false)) {
+            browserOf(set)->reloadData();
+            showItemCounts();
+        }
+        const qint64 index = pending.scrollTo.exchange(-1);
+        if (index >= 0) {
+            browserOf(set)->scrollIndexToVisible(index);
+        }
+    }
+    if (m_resultRowsDirty.exchange(false)) {
+        m_resultTable->refreshData();
+        if (foundTypesOnly->isChecked()) {
+            filterResultRows();
+        }
+    }
+}
+
+void MyTableController::showScanFacts() {
+    const std::uint64_t index = for_index;
+    const std::uint64_t start = start_sector;
+    m_meter.update(m_clock.elapsed(), index >= start ? index - start : 0);
+    scanFactsLabel->setText(m_meter.text(itemCount()));
+}
+
+// Looked up here, where icons may be made; the scan only copies them.
+void MyTableController::prepareIcons() {
+    for (const QStringList* records : {&CheckListHeader_Array, &CheckListHeader_Adv_Array}) {
+        for (qsizetype n = 0; n < records->size(); n += 7) {
+            m_icons.prepare(pathExtension(QStringLiteral("x.") + records->at(n)));
+        }
+    }
+}
+
+}  // namespace vantor

@@ -1,0 +1,286 @@
+// The pool: thumbnails, pictures, and what happens when helpers are missing, killed or late.
+#include <gtest/gtest.h>
+#include <signal.h>
+
+#include <QCoreApplication>
+#include <QTemporaryDir>
+#include <atomic>
+#include <thread>
+
+#include "decode/DecodePool.h"
+#include "tests/decode/Fixtures.h"
+
+namespace vantor {
+namespace {
+
+using namespace test;
+using std::chrono::milliseconds;
+
+QImage decoded(const QByteArray& thumbnail) {
+    return QImage::fromData(thumbnail, "JPEG");
+}
+
+TEST(DecodePool, Thumbnail_LandscapeAndPortrait_LongerSideIsOneHundred) {
+    DecodePool pool(poolOptions());
+    EXPECT_EQ(decoded(pool.thumbnail(encoded(twoColours({4000, 3000}), "jpeg"))).size(), QSize(100, 75));
+    EXPECT_EQ(decoded(pool.thumbnail(encoded(twoColours({300, 1200}), "png"))).size(), QSize(25, 100));
+}
+
+TEST(DecodePool, Thumbnail_SmallPicture_IsNotEnlarged) {
+    DecodePool pool(poolOptions(1));
+    EXPECT_EQ(decoded(pool.thumbnail(encoded(twoColours({40, 30}), "png"))).size(), QSize(40, 30));
+}
+
+TEST(DecodePool, Thumbnail_ExtremeSides_KeepAtLeastOnePixel) {
+    DecodePool pool(poolOptions(1));
+    EXPECT_EQ(decoded(pool.thumbnail(encoded(twoColours({20000, 2}), "png"))).size(), QSize(100, 1));
+}
+
+TEST(DecodePool, Thumbnail_IsAJpeg) {
+    DecodePool pool(poolOptions(1));
+    EXPECT_TRUE(pool.thumbnail(encoded(twoColours({200, 100}), "bmp")).startsWith("\xff\xd8\xff"));
+}
+
+TEST(DecodePool, Thumbnail_TurnedPictures_AreUpright) {
+    DecodePool pool(poolOptions());
+    // Stored lying, to be shown turned right by 90 degrees: what is left becomes the top.
+    const QByteArray turned = jpegHeldBy(twoColours({400, 200}), 6);
+    const QImage upright = decoded(pool.thumbnail(turned));
+    ASSERT_EQ(upright.size(), QSize(50, 100));
+    EXPECT_TRUE(isNear(upright.pixel(25, 20), Qt::red));
+    EXPECT_TRUE(isNear(upright.pixel(25, 80), Qt::blue));
+
+    const QByteArray half = jpegHeldBy(twoColours({400, 200}), 3);
+    const QImage standing = decoded(pool.thumbnail(half));
+    ASSERT_EQ(standing.size(), QSize(100, 50));
+    EXPECT_TRUE(isNear(standing.pixel(20, 25), Qt::blue));
+    EXPECT_TRUE(isNear(standing.pixel(80, 25), Qt::red));
+}
+
+TEST(DecodePool, Thumbnail_TransparentPicture_GetsAWhiteGround) {
+    QImage clear(80, 80, QImage::Format_ARGB32);
+    clear.fill(Qt::transparent);
+    QPainter(&clear).fillRect(0, 0, 40, 80, Qt::blue);
+    DecodePool pool(poolOptions(1));
+    const QImage thumbnail = decoded(pool.thumbnail(encoded(clear, "png")));
+    ASSERT_EQ(thumbnail.size(), QSize(80, 80));
+    EXPECT_TRUE(isNear(thumbnail.pixel(20, 40), Qt::blue));
+    EXPECT_TRUE(isNear(thumbnail.pixel(60, 40), Qt::white));
+}
+
+TEST(DecodePool, Thumbnail_NoPicture_IsEmptyAndTheHelperLives) {
+    DecodePool pool(poolOptions(1));
+    EXPECT_TRUE(pool.thumbnail({}).isEmpty());
+    EXPECT_TRUE(pool.thumbnail("no picture at all").isEmpty());
+    EXPECT_TRUE(pool.thumbnail(QByteArray(100'000, '\0')).isEmpty());
+    EXPECT_FALSE(pool.thumbnail(encoded(twoColours({64, 64}), "png")).isEmpty());
+    EXPECT_EQ(pool.counts().started, 1U);
+    EXPECT_EQ(pool.counts().refused, 2U);
+    EXPECT_EQ(pool.counts().pictures, 1U);
+}
+
+TEST(DecodePool, Picture_OfBytesAndOfAFile_FitsTheBoundAndKnowsItsFullSize) {
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("dprv.PNG"));
+    const QByteArray bytes = encoded(twoColours({1000, 500}), "png");
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+    file.close();
+
+    DecodePool pool(poolOptions(1));
+    for (const DecodedPicture& picture : {pool.picture(bytes, {200, 200}), pool.picture(path, {200, 200})}) {
+        EXPECT_EQ(picture.image.size(), QSize(200, 100));
+        EXPECT_EQ(picture.fullSize, QSize(1000, 500));
+        EXPECT_FALSE(picture.partial);
+        EXPECT_TRUE(isNear(picture.image.pixel(50, 50), Qt::red));
+    }
+    EXPECT_TRUE(pool.picture(folder.filePath(QStringLiteral("none.png")), {200, 200}).image.isNull());
+    EXPECT_TRUE(pool.picture(folder.path(), {200, 200}).image.isNull());
+    EXPECT_TRUE(pool.picture(bytes, {}).image.isNull());
+}
+
+TEST(DecodePool, Picture_AfterALargeOne_SmallOnesStillCome) {
+    DecodePool pool(poolOptions(1));
+    const QByteArray large = encoded(twoColours({6000, 4000}), "bmp");
+    ASSERT_GT(large.size(), 64 << 20);
+    EXPECT_EQ(pool.picture(large, {4000, 4000}).image.size(), QSize(4000, 2666));
+    EXPECT_EQ(pool.picture(encoded(twoColours({30, 20}), "png"), {200, 200}).image.size(), QSize(30, 20));
+    EXPECT_EQ(pool.counts().badAnswers, 0U);
+}
+
+TEST(DecodePool, MissingHelper_GivesNoPictureAtOnceAndNeverBlocks) {
+    DecodePoolOptions options = poolOptions();
+    options.helper = QStringLiteral("/nonexistent/vantor-decode");
+    DecodePool pool(options);
+    const QByteArray picture = encoded(twoColours({64, 64}), "png");
+    EXPECT_TRUE(pool.thumbnail(picture).isEmpty());
+    EXPECT_TRUE(pool.picture(picture, {200, 200}).image.isNull());
+    EXPECT_EQ(pool.counts().started, 0U);
+    EXPECT_GE(pool.counts().failedStarts, 1U);
+}
+
+TEST(DecodePool, HelperThatIsAnotherProgram_GivesNoPicture) {
+    DecodePoolOptions options = poolOptions(1);
+    options.helper = QStringLiteral("/bin/true");
+    DecodePool pool(options);
+    EXPECT_TRUE(pool.thumbnail(encoded(twoColours({64, 64}), "png")).isEmpty());
+}
+
+TEST(DecodePool, HelperThatNeverReports_IsGivenUp) {
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("sleeper"));
+    QFile script(path);
+    ASSERT_TRUE(script.open(QIODevice::WriteOnly));
+    script.write("#!/bin/sh\nexec sleep 1000\n");
+    script.close();
+    script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    DecodePoolOptions options = poolOptions(1);
+    options.helper = path;
+    options.startDeadline = milliseconds(200);
+    DecodePool pool(options);
+    EXPECT_TRUE(pool.thumbnail(encoded(twoColours({64, 64}), "png")).isEmpty());
+    EXPECT_GE(pool.counts().failedStarts, 1U);
+}
+
+TEST(DecodePool, IdleHelpersKilled_AreReplacedAndThePictureIsStillShown) {
+    DecodePool pool(poolOptions(2));
+    const QByteArray picture = encoded(twoColours({64, 64}), "png");
+    ASSERT_FALSE(pool.thumbnail(picture).isEmpty());
+    for (int round = 0; round < 5; ++round) {
+        const std::vector<pid_t> pids = pool.helperPids();
+        ASSERT_FALSE(pids.empty());
+        // The one that is lent out next: the pool lends the last one back first.
+        kill(pids.back(), SIGKILL);
+        EXPECT_FALSE(pool.thumbnail(picture).isEmpty());
+    }
+}
+
+TEST(DecodePool, DecoderThatCrashes_CostsItsPictureOnly) {
+    DecodePool pool(poolOptions(1));
+    const QByteArray small = encoded(twoColours({64, 64}), "png");
+    const QByteArray large = encoded(twoColours({9000, 9000}), "png");
+    ASSERT_FALSE(pool.thumbnail(small).isEmpty());
+    const pid_t helper = pool.helperPids().front();
+    QByteArray shown = "not asked";
+    std::thread caller([&] { shown = pool.thumbnail(large); });
+    // The large picture takes many times as long.
+    std::this_thread::sleep_for(milliseconds(40));
+    // What a damaged heap ends in; a sanitizer would catch a segmentation fault for itself.
+    kill(helper, SIGABRT);
+    caller.join();
+    EXPECT_TRUE(shown.isEmpty());
+    EXPECT_EQ(pool.counts().crashed, 1U);
+    EXPECT_FALSE(pool.thumbnail(small).isEmpty());
+}
+
+TEST(DecodePool, DecoderThatHangs_IsEndedAtTheDeadline) {
+    DecodePoolOptions options = poolOptions(1);
+    options.thumbnailDeadline = milliseconds(300);
+    DecodePool pool(options);
+    const QByteArray small = encoded(twoColours({64, 64}), "png");
+    ASSERT_FALSE(pool.thumbnail(small).isEmpty());
+    const pid_t helper = pool.helperPids().front();
+    stopProcess(helper);
+    EXPECT_TRUE(pool.thumbnail(small).isEmpty());
+    EXPECT_EQ(pool.counts().late, 1U);
+    EXPECT_EQ(kill(helper, 0), -1);
+    EXPECT_FALSE(pool.thumbnail(small).isEmpty());
+}
+
+TEST(DecodePool, Close_FreesACallerAtOnce) {
+    DecodePoolOptions options = poolOptions(1);
+    options.thumbnailDeadline = std::chrono::minutes(10);
+    DecodePool pool(options);
+    const QByteArray small = encoded(twoColours({64, 64}), "png");
+    ASSERT_FALSE(pool.thumbnail(small).isEmpty());
+    stopProcess(pool.helperPids().front());
+    QByteArray shown = "not asked";
+    std::thread caller([&] { shown = pool.thumbnail(small); });
+    std::this_thread::sleep_for(milliseconds(20));
+    pool.close();
+    caller.join();
+    EXPECT_TRUE(shown.isEmpty());
+    EXPECT_TRUE(pool.thumbnail(small).isEmpty());
+}
+
+TEST(DecodePool, DefaultHelper_IsFoundFromTheProgram) {
+    int argc = 1;
+    char name[] = VANTOR_BINARY_DIR "/bin/decode_tests";
+    char* argv[] = {name, nullptr};
+    const QCoreApplication application(argc, argv);
+    DecodePoolOptions options;
+    options.helpers = 1;
+    DecodePool pool(options);
+    EXPECT_FALSE(pool.thumbnail(encoded(twoColours({64, 64}), "png")).isEmpty());
+}
+
+TEST(DecodePool, Destruction_EndsItsHelpers) {
+    std::vector<pid_t> pids;
+    {
+        DecodePool pool(poolOptions(2));
+        ASSERT_FALSE(pool.thumbnail(encoded(twoColours({64, 64}), "png")).isEmpty());
+        pids = pool.helperPids();
+    }
+    for (const pid_t pid : pids) {
+        EXPECT_EQ(kill(pid, 0), -1);
+    }
+}
+
+TEST(DecodePool, LatePicture_CostsItsHelperOnly) {
+    DecodePoolOptions options = poolOptions(1);
+    options.thumbnailDeadline = milliseconds(1);
+    DecodePool pool(options);
+    EXPECT_TRUE(pool.thumbnail(encoded(twoColours({9000, 6000}), "png")).isEmpty());
+    EXPECT_EQ(pool.counts().late, 1U);
+    EXPECT_EQ(pool.picture(encoded(twoColours({64, 64}), "png"), {200, 200}).image.size(), QSize(64, 64));
+    EXPECT_EQ(pool.counts().started, 2U);
+}
+
+TEST(DecodePool, HelperThatHoldsTooMuchMemory_IsReplaced) {
+    DecodePoolOptions options = poolOptions(1);
+    options.residentLimitBytes = 1;
+    DecodePool pool(options);
+    const QByteArray picture = encoded(twoColours({64, 64}), "png");
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_FALSE(pool.thumbnail(picture).isEmpty());
+    }
+    EXPECT_EQ(pool.counts().recycled, 3U);
+}
+
+TEST(DecodePool, ManyCallers_AllGetTheirOwnPicture) {
+    DecodePool pool(poolOptions(2));
+    std::atomic<int> wrong{0};
+    std::vector<std::thread> callers;
+    for (int n = 1; n <= 6; ++n) {
+        callers.emplace_back([&pool, &wrong, n] {
+            const QByteArray picture = encoded(twoColours({n * 10, 8}), "png");
+            for (int i = 0; i < 30; ++i) {
+                wrong += decoded(pool.thumbnail(picture)).size() != QSize(n * 10, 8);
+            }
+        });
+    }
+    for (std::thread& caller : callers) {
+        caller.join();
+    }
+    EXPECT_EQ(wrong, 0);
+}
+
+TEST(DecodePool, Helpers_AreCaged) {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    GTEST_SKIP() << "the cage and the sanitizers exclude each other";
+#endif
+    DecodePool pool(poolOptions(1));
+    ASSERT_FALSE(pool.thumbnail(encoded(twoColours({64, 64}), "png")).isEmpty());
+    EXPECT_TRUE(pool.counts().caged);
+    const QByteArray status = bytesOfFile(QStringLiteral("/proc/%1/status").arg(pool.helperPids().front()));
+    EXPECT_TRUE(status.contains("NoNewPrivs:\t1"));
+    EXPECT_TRUE(status.contains("Seccomp:\t2"));
+    EXPECT_FALSE(status.contains("\nUid:\t0"));
+    const QByteArray limits = bytesOfFile(QStringLiteral("/proc/%1/limits").arg(pool.helperPids().front()));
+    EXPECT_TRUE(limits.contains("Max core file size        0 "));
+    EXPECT_FALSE(limits.contains("Max address space         unlimited"));
+}
+
+}  // namespace
+}  // namespace vantor

@@ -1,0 +1,105 @@
+// Telling kinds of pictures apart by their bytes.
+#include <gtest/gtest.h>
+
+#include "decode/helper/PictureKind.h"
+#include "decode/helper/TiffDirectory.h"
+#include "tests/decode/Fixtures.h"
+
+namespace vantor {
+namespace {
+
+using namespace test;
+using decode::handlersFor;
+using Handlers = QList<QByteArray>;
+
+QByteArray littleEndian(std::uint32_t value, int bytes) {
+    QByteArray text;
+    for (int i = 0; i < bytes; ++i) {
+        text.append(static_cast<char>(value >> (8 * i)));
+    }
+    return text;
+}
+
+QByteArray entry(std::uint16_t tag, std::uint16_t type, std::uint32_t count, std::uint32_t value) {
+    return littleEndian(tag, 2) + littleEndian(type, 2) + littleEndian(count, 4) + littleEndian(value, 4);
+}
+
+QByteArray tiffOf(const QList<QByteArray>& entries) {
+    QByteArray bytes("II*\0\x08\0\0\0", 8);
+    bytes += littleEndian(static_cast<std::uint32_t>(entries.size()), 2);
+    for (const QByteArray& one : entries) {
+        bytes += one;
+    }
+    return bytes + littleEndian(0, 4);
+}
+
+TEST(PictureKind, CommonPictures_ByTheirMarks) {
+    const QImage image = twoColours({8, 8});
+    EXPECT_EQ(handlersFor(encoded(image, "jpeg"), ""), Handlers{"jpeg"});
+    EXPECT_EQ(handlersFor(encoded(image, "png"), "jpg"), Handlers{"png"});
+    EXPECT_EQ(handlersFor(encoded(image, "bmp"), ""), Handlers{"bmp"});
+    EXPECT_EQ(handlersFor(encoded(image, "webp"), ""), Handlers{"webp"});
+    EXPECT_EQ(handlersFor(encoded(image, "tiff"), "").front(), "tiff");
+    EXPECT_EQ(handlersFor(QByteArray("\0\0\0\x18"
+                                     "ftypheic",
+                                     12),
+                          ""),
+              Handlers{"vantor-heif"});
+    EXPECT_EQ(handlersFor(QByteArray("\0\0\0\x18"
+                                     "ftypcrx ",
+                                     12),
+                          ""),
+              Handlers{"vantor-raw"});
+}
+
+TEST(PictureKind, WhatFollowsReferencesOrIsNoPicture_IsNeverTried) {
+    EXPECT_TRUE(handlersFor("<svg xmlns='http://www.w3.org/2000/svg'/>", "svg").isEmpty());
+    EXPECT_TRUE(handlersFor("%PDF-1.4", "pdf").isEmpty());
+    EXPECT_TRUE(handlersFor(QByteArray("\0\0\0\x18"
+                                       "ftypisom",
+                                       12),
+                            "")
+                    .isEmpty());
+    EXPECT_TRUE(handlersFor("", "").isEmpty());
+    EXPECT_TRUE(handlersFor(QByteArray(4096, '\0'), "").isEmpty());
+    EXPECT_FALSE(decode::allHandlers().contains("svg"));
+}
+
+TEST(PictureKind, MarklessFormats_OnlyByTheItemsType) {
+    const QByteArray bytes("\0\0\x0a\0", 4);
+    EXPECT_TRUE(handlersFor(bytes, "").isEmpty());
+    EXPECT_EQ(handlersFor(bytes, "tga"), Handlers{"tga"});
+}
+
+TEST(PictureKind, TiffWithSensorData_IsRawOnly) {
+    EXPECT_TRUE(decode::isTiffBasedRaw(tiffOf({entry(0x0106, 3, 1, 32803)})));
+    EXPECT_TRUE(decode::isTiffBasedRaw(tiffOf({entry(0x0103, 3, 1, 34713)})));
+    EXPECT_TRUE(decode::isTiffBasedRaw(tiffOf({entry(0xc612, 1, 4, 0x0104)})));
+    EXPECT_FALSE(decode::isTiffBasedRaw(tiffOf({entry(0x0106, 3, 1, 2), entry(0x0103, 3, 1, 5)})));
+    EXPECT_EQ(handlersFor(tiffOf({entry(0x0106, 3, 1, 32803)}), ""), Handlers{"vantor-raw"});
+}
+
+TEST(PictureKind, SensorDataInASubDirectory_IsFound) {
+    QByteArray bytes = tiffOf({entry(0x0106, 3, 1, 2), entry(0x014a, 4, 1, 200)});
+    bytes.resize(200, '\0');
+    bytes += littleEndian(1, 2) + entry(0x0106, 3, 1, 32803);
+    EXPECT_TRUE(decode::isTiffBasedRaw(bytes));
+}
+
+TEST(PictureKind, DirectoriesThatPointAtThemselvesOrBeyondTheEnd_EndTheWalk) {
+    int seen = 0;
+    const auto count = [&](const decode::TiffEntry&) {
+        ++seen;
+        return true;
+    };
+    EXPECT_TRUE(decode::walkTiff(tiffOf({entry(0x014a, 4, 1, 8)}), count));
+    EXPECT_EQ(seen, 2);
+    EXPECT_TRUE(decode::walkTiff(tiffOf({entry(0x014a, 4, 0xffffffff, 8)}), count));
+    EXPECT_TRUE(decode::walkTiff(tiffOf({entry(0x014a, 4, 1, 0xfffffff0)}), count));
+    EXPECT_TRUE(decode::walkTiff(QByteArray("II*\0\xff\xff\xff\xff", 8), count));
+    EXPECT_FALSE(decode::walkTiff("II", count));
+    EXPECT_FALSE(decode::walkTiff("", count));
+}
+
+}  // namespace
+}  // namespace vantor

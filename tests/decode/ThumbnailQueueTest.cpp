@@ -1,0 +1,205 @@
+// The queue: order, bounds, cancelling.
+#include <gtest/gtest.h>
+#include <signal.h>
+
+#include <atomic>
+#include <random>
+#include <semaphore>
+#include <thread>
+
+#include "decode/DecodePool.h"
+#include "decode/ThumbnailQueue.h"
+#include "tests/decode/Fixtures.h"
+
+namespace vantor {
+namespace {
+
+using namespace test;
+using std::chrono::milliseconds;
+
+QByteArray echo(const QByteArray& bytes) {
+    return bytes;
+}
+
+TEST(ThumbnailQueue, UnevenWork_IsDeliveredInOrder) {
+    std::atomic<int> underWay{0};
+    std::atomic<int> mostUnderWay{0};
+    ThumbnailQueue queue(
+        [&](const QByteArray& bytes) {
+            const int now = ++underWay;
+            int most = mostUnderWay;
+            while (most < now && !mostUnderWay.compare_exchange_weak(most, now)) {
+            }
+            std::this_thread::sleep_for(milliseconds(bytes.toInt() % 7));
+            --underWay;
+            return bytes;
+        },
+        {.workers = 4});
+    std::vector<int> delivered;
+    for (int i = 0; i < 200; ++i) {
+        ASSERT_TRUE(queue.submit(QByteArray::number(i),
+                                 [&](const QByteArray& made) { delivered.push_back(made.toInt()); }));
+    }
+    queue.flush();
+    ASSERT_EQ(delivered.size(), 200U);
+    EXPECT_TRUE(std::ranges::is_sorted(delivered));
+    EXPECT_EQ(delivered.back(), 199);
+    EXPECT_GT(mostUnderWay, 1);
+}
+
+TEST(ThumbnailQueue, FullQueue_BlocksTheSubmitterAndHoldsItsBound) {
+    std::counting_semaphore<> gate(0);
+    ThumbnailQueue queue(
+        [&](const QByteArray&) {
+            gate.acquire();
+            return QByteArray();
+        },
+        {.workers = 2, .maxBytes = 10'000});
+    std::atomic<int> submitted{0};
+    std::thread scan([&] {
+        for (int i = 0; i < 50; ++i) {
+            queue.submit(QByteArray(1000, 'x'), [](const QByteArray&) {});
+            ++submitted;
+        }
+    });
+    while (queue.bytesHeld() < 9000) {
+        std::this_thread::sleep_for(milliseconds(1));
+    }
+    EXPECT_LT(submitted, 50);
+    gate.release(50);
+    scan.join();
+    queue.flush();
+    EXPECT_LE(queue.mostBytesHeld(), 10'000U);
+    EXPECT_EQ(queue.bytesHeld(), 0U);
+}
+
+TEST(ThumbnailQueue, ItemAboveTheBound_PassesAlone) {
+    ThumbnailQueue queue(echo, {.workers = 2, .maxBytes = 100});
+    std::vector<qsizetype> delivered;
+    for (const int size : {50, 5000, 50}) {
+        queue.submit(QByteArray(size, 'x'),
+                     [&](const QByteArray& made) { delivered.push_back(made.size()); });
+    }
+    queue.flush();
+    EXPECT_EQ(delivered, (std::vector<qsizetype>{50, 5000, 50}));
+}
+
+TEST(ThumbnailQueue, ItemCount_IsBoundedToo) {
+    std::counting_semaphore<> gate(0);
+    ThumbnailQueue queue(
+        [&](const QByteArray& bytes) {
+            gate.acquire();
+            return bytes;
+        },
+        {.workers = 1, .maxItems = 4});
+    std::atomic<int> submitted{0};
+    std::thread scan([&] {
+        for (int i = 0; i < 20; ++i) {
+            queue.submit("x", [](const QByteArray&) {});
+            ++submitted;
+        }
+    });
+    while (submitted < 4) {
+        std::this_thread::sleep_for(milliseconds(1));
+    }
+    std::this_thread::sleep_for(milliseconds(20));
+    EXPECT_EQ(submitted, 4);
+    gate.release(20);
+    scan.join();
+}
+
+TEST(ThumbnailQueue, Cancel_DropsWhatWaitsAndFreesTheSubmitter) {
+    std::counting_semaphore<> gate(0);
+    ThumbnailQueue queue(
+        [&](const QByteArray& bytes) {
+            gate.acquire();
+            return bytes;
+        },
+        {.workers = 2, .maxBytes = 4000});
+    std::atomic<int> delivered{0};
+    std::atomic<bool> refused{false};
+    std::thread scan([&] {
+        for (int i = 0; i < 100 && !refused; ++i) {
+            refused = !queue.submit(QByteArray(1000, 'x'), [&](const QByteArray&) { ++delivered; });
+        }
+    });
+    while (queue.bytesHeld() < 3000) {
+        std::this_thread::sleep_for(milliseconds(1));
+    }
+    queue.cancel();
+    scan.join();
+    EXPECT_TRUE(refused);
+    EXPECT_FALSE(queue.submit("late", [&](const QByteArray&) { ++delivered; }));
+    queue.flush();
+
+    // What was under way before must not be mistaken for what comes after.
+    queue.resume();
+    std::vector<QByteArray> after;
+    ASSERT_TRUE(queue.submit("a", [&](const QByteArray& made) { after.push_back(made); }));
+    ASSERT_TRUE(queue.submit("b", [&](const QByteArray& made) { after.push_back(made); }));
+    gate.release(100);
+    queue.flush();
+    EXPECT_EQ(after, (std::vector<QByteArray>{"a", "b"}));
+    EXPECT_EQ(delivered, 0);
+    // What was under way at the cancelling is let go of when its decoding ends, whenever that is.
+    while (queue.bytesHeld() > 0) {
+        std::this_thread::sleep_for(milliseconds(1));
+    }
+}
+
+TEST(ThumbnailQueue, Destruction_WithWorkWaiting_DeliversNothingMore) {
+    std::atomic<int> delivered{0};
+    {
+        ThumbnailQueue queue(
+            [](const QByteArray& bytes) {
+                std::this_thread::sleep_for(milliseconds(20));
+                return bytes;
+            },
+            {.workers = 2});
+        for (int i = 0; i < 100; ++i) {
+            queue.submit("x", [&](const QByteArray&) { ++delivered; });
+        }
+    }
+    EXPECT_LT(delivered, 100);
+}
+
+// A scan's worth of pictures while somebody keeps killing helpers: every item comes, in order, with its
+// thumbnail.
+TEST(ThumbnailQueue, HelpersKilledAtRandom_EveryItemComesInOrder) {
+    DecodePool pool(poolOptions(2));
+    ThumbnailQueue queue([&](const QByteArray& bytes) { return pool.thumbnail(bytes); }, {.workers = 2});
+    std::atomic<bool> over{false};
+    std::atomic<int> kills{0};
+    std::thread killer([&] {
+        std::mt19937 random(7);
+        while (!over) {
+            std::this_thread::sleep_for(milliseconds(5 + random() % 60));
+            const std::vector<pid_t> pids = pool.helperPids();
+            if (!pids.empty() && kill(pids[random() % pids.size()], SIGKILL) == 0) {
+                ++kills;
+            }
+        }
+    });
+    constexpr int kItems = 300;
+    std::vector<int> order;
+    int shown = 0;
+    for (int i = 0; i < kItems; ++i) {
+        const QByteArray picture = encoded(twoColours({600 + i, 400}), "jpeg");
+        queue.submit(picture, [&, i](const QByteArray& thumbnail) {
+            order.push_back(i);
+            shown += !thumbnail.isEmpty();
+        });
+    }
+    queue.flush();
+    over = true;
+    killer.join();
+    ASSERT_EQ(order.size(), static_cast<std::size_t>(kItems));
+    EXPECT_TRUE(std::ranges::is_sorted(order));
+    EXPECT_GT(kills, 0);
+    // An item loses its picture only when its second helper is shot as well.
+    EXPECT_GT(shown, kItems * 8 / 10);
+    EXPECT_EQ(pool.counts().crashed, 0U);
+}
+
+}  // namespace
+}  // namespace vantor

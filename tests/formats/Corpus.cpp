@@ -1,0 +1,73 @@
+// Finding and reading the real files.
+#include "Corpus.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <sstream>
+
+namespace vantor::test {
+
+std::filesystem::path corpusFolder() {
+    const char* told = std::getenv("VANTOR_CORPUS");
+    const std::filesystem::path folder =
+        told != nullptr ? std::filesystem::path(told)
+                        : std::filesystem::path(VANTOR_SOURCE_DIR) / ".." / "shared" / "corpus";
+    return std::filesystem::exists(folder / "MANIFEST.tsv") ? folder : std::filesystem::path();
+}
+
+std::vector<CorpusFile> corpusFiles(const std::filesystem::path& folder) {
+    std::vector<CorpusFile> files;
+    std::ifstream manifest(folder / "MANIFEST.tsv");
+    std::string line;
+    std::getline(manifest, line);  // column names
+    while (std::getline(manifest, line)) {
+        std::istringstream columns(line);
+        std::string path, format;
+        std::getline(columns, path, '\t');
+        std::getline(columns, format, '\t');
+        if (format == "disk image")
+            continue;
+        std::string extension = std::filesystem::path(path).extension().string();
+        extension.erase(0, 1);
+        std::transform(extension.begin(), extension.end(), extension.begin(),
+                       [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+        files.push_back({path, extension, format == "hostile"});
+    }
+    return files;
+}
+
+Bytes readFile(const std::filesystem::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+Bytes noise(std::size_t count, std::uint32_t seed) {
+    std::mt19937 random(seed);
+    Bytes bytes(count);
+    for (auto& byte : bytes)
+        byte = static_cast<std::uint8_t>(random() >> 24);
+    return bytes;
+}
+
+std::size_t JoinedSource::read(std::uint64_t offset, std::span<std::uint8_t> into) {
+    ++m_reads;
+    std::size_t done = 0;
+    for (const auto* part : {&m_first, &m_second}) {
+        if (offset >= part->size()) {
+            offset -= part->size();
+            continue;
+        }
+        const auto count = std::min<std::uint64_t>(into.size() - done, part->size() - offset);
+        std::copy_n(part->begin() + static_cast<std::ptrdiff_t>(offset), count,
+                    into.begin() + static_cast<std::ptrdiff_t>(done));
+        done += static_cast<std::size_t>(count);
+        offset = 0;
+    }
+    m_bytesRead += done;
+    return done;
+}
+
+}  // namespace vantor::test

@@ -1,0 +1,49 @@
+// Real files for the format tests, and sources that watch how much a walker reads of them.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "formats/ByteSource.h"
+
+namespace vantor::test {
+
+using Bytes = std::vector<std::uint8_t>;
+
+struct CorpusFile {
+    std::string path;       // as the manifest writes it
+    std::string extension;  // upper case
+    bool hostile = false;
+};
+
+// The folder of real files: VANTOR_CORPUS, else ../shared/corpus beside the sources; empty where there is
+// none.
+std::filesystem::path corpusFolder();
+// The single files the manifest lists (no media images).
+std::vector<CorpusFile> corpusFiles(const std::filesystem::path& folder);
+Bytes readFile(const std::filesystem::path& path);
+
+// `count` bytes of seeded noise, the same on every machine.
+Bytes noise(std::size_t count, std::uint32_t seed);
+
+// Two borrowed stretches of bytes one after the other, counting the reading.
+class JoinedSource final : public ByteSource {
+  public:
+    JoinedSource(const Bytes& first, const Bytes& second) : m_first(first), m_second(second) {}
+
+    std::uint64_t size() const override { return m_first.size() + m_second.size(); }
+    std::size_t read(std::uint64_t offset, std::span<std::uint8_t> into) override;
+
+    std::uint64_t reads() const { return m_reads; }
+    std::uint64_t bytesRead() const { return m_bytesRead; }
+
+  private:
+    const Bytes& m_first;
+    const Bytes& m_second;
+    std::uint64_t m_reads = 0;
+    std::uint64_t m_bytesRead = 0;
+};
+
+}  // namespace vantor::test

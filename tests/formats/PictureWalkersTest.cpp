@@ -1,0 +1,215 @@
+// What is particular to the picture formats.
+#include <gtest/gtest.h>
+
+#include "Corpus.h"
+#include "Samples.h"
+#include "formats/Registry.h"
+
+namespace vantor::test {
+namespace {
+
+Extent walkBytes(std::string_view extension, const Bytes& bytes) {
+    SpanSource source(bytes);
+    return walk(extension, source);
+}
+
+Bytes exifSegment() {
+    const Bytes block = Build().text(std::string_view("Exif\0\0", 6)).add(tiff());
+    return Build().be16(0xFFE1).be16(2 + block.size()).add(block);
+}
+
+TEST(Jpeg, Facts_AreSizeAndDate) {
+    const Extent extent = walkBytes("JPG", jpeg(exifSegment()));
+    EXPECT_EQ(extent.verdict, Verdict::Complete);
+    EXPECT_EQ(extent.facts.width, 60U);
+    EXPECT_EQ(extent.facts.height, 40U);
+    EXPECT_EQ(extent.facts.taken, (CivilTime{2021, 7, 9, 18, 30, 5, false}));
+}
+
+TEST(Jpeg, ThumbnailInASegment_IsNotTheEnd) {
+    const Bytes inner = jpeg();
+    const Bytes whole = jpeg(Build().be16(0xFFE1).be16(2 + inner.size()).add(inner));
+    EXPECT_EQ(walkBytes("JPG", whole).end, whole.size());
+}
+
+TEST(Jpeg, AnotherPictureInsideTheScan_IsTheBreak) {
+    Bytes cut = jpeg({}, noise(0, 0));
+    cut.resize(cut.size() - 2);
+    const auto good = cut.size() + 512;
+    cut.insert(cut.end(), 512, 0x12);
+    const Bytes next = jpeg();
+    cut.insert(cut.end(), next.begin(), next.end());
+    const Extent extent = walkBytes("JPG", cut);
+    EXPECT_EQ(extent.verdict, Verdict::Damaged);
+    EXPECT_EQ(extent.end, good);
+}
+
+TEST(Jpeg, ForeignTextBehindACutScan_IsLeftOut) {
+    Bytes cut = jpeg();
+    cut.resize(cut.size() - 2);
+    const auto good = cut.size();
+    cut.insert(cut.end(), 20'000, 'a');
+    cut.insert(cut.end(), {0xFF, 0xD8, 0xFF});
+    const Extent extent = walkBytes("JPG", cut);
+    EXPECT_EQ(extent.verdict, Verdict::Damaged);
+    EXPECT_LE(extent.end, good);
+}
+
+TEST(Jpeg, BlankAreaInAScan_IsNoBreak) {
+    EXPECT_EQ(walkBytes("JPG", jpeg({}, Bytes(20'000, 0))).verdict, Verdict::Complete);
+}
+
+TEST(Jpeg, RestartMarkers_MustCountOn) {
+    const Bytes inTurn = {1, 0xFF, 0xD0, 2, 0xFF, 0xD1, 3}, leap = {1, 0xFF, 0xD0, 2, 0xFF, 0xD3, 3};
+    EXPECT_EQ(walkBytes("JPG", jpeg({}, inTurn)).verdict, Verdict::Complete);
+    EXPECT_EQ(walkBytes("JPG", jpeg({}, leap)).verdict, Verdict::Damaged);
+}
+
+// A picture whose index names a second one `gap` bytes behind its end.
+Bytes multiPicture(std::size_t gap, bool present) {
+    const auto index = [](std::uint64_t offset) {
+        Build out;
+        out.text(std::string_view("MPF\0", 4)).text("MM").be16(42).be32(8).be16(1);
+        out.be16(0xB002).be16(7).be32(32).be32(26).be32(0);
+        out.be32(0).be32(0).be32(0).be32(0);
+        out.be32(0).be32(0).be32(offset).be32(0);
+        return Build().be16(0xFFE2).be16(2 + out.size()).add(out);
+    };
+    const auto first = jpeg(index(0));
+    constexpr std::size_t kIndexBase = 2 + 4 + 4;  // behind SOI, the segment's head and its name
+    Build out;
+    out.add(jpeg(index(first.size() + gap - kIndexBase))).fill(gap);
+    return present ? out.add(jpeg()) : out;
+}
+
+TEST(Jpeg, FurtherPicturesOfTheIndex_BelongToTheFile) {
+    const Bytes whole = multiPicture(64, true);
+    EXPECT_EQ(walkBytes("MPO", whole).end, whole.size());
+    EXPECT_EQ(walkBytes("MPO", whole).verdict, Verdict::Complete);
+}
+
+TEST(Jpeg, FurtherPictureThatWasStripped_IsNotMissed) {
+    const Bytes whole = multiPicture(64, false);
+    EXPECT_EQ(walkBytes("JPG", whole).verdict, Verdict::Complete);
+    EXPECT_EQ(walkBytes("JPG", whole).end, whole.size() - 64);
+}
+
+TEST(Jpeg, FurtherPictureThatIsCut_CutsTheFile) {
+    Bytes cut = multiPicture(64, true);
+    cut.resize(cut.size() - 3);
+    EXPECT_EQ(walkBytes("MPO", cut).verdict, Verdict::CutOff);
+}
+
+Bytes movie() {
+    return Build()
+        .add(isoBox("ftyp", Build().text("mp42").be32(0)))
+        .add(isoBox("mdat", Bytes(40, 1)))
+        .add(isoBox("moov", isoBox("mvhd", Bytes(100))));
+}
+
+TEST(Jpeg, MovieBehindThePicture_BelongsToAMotionPhoto) {
+    const Bytes note =
+        Build().text("http://ns.adobe.com/xap/1.0/").u8(0).text("<x:xmpmeta GCamera:MotionPhoto=\"1\"/>");
+    const Bytes whole = Build().add(jpeg(Build().be16(0xFFE1).be16(2 + note.size()).add(note))).add(movie());
+    EXPECT_EQ(walkBytes("JPG", whole).end, whole.size());
+}
+
+TEST(Jpeg, MovieInAMakersTrailer_BelongsToTheFile) {
+    Build whole;
+    whole.add(jpeg()).be32(0x0000300A).le32(16).text("MotionPhoto_Data").add(movie());
+    whole.text("SEFH").fill(40).text("SEFT");
+    const Bytes followed = Build().add(whole).fill(3000, 9);
+    EXPECT_EQ(walkBytes("JPG", followed).end, whole.size());
+}
+
+TEST(Jpeg, MovieAtTheNextSector_IsTheNextFile) {
+    Bytes picture = jpeg({}, Bytes(512 - jpeg({}, {}).size() % 512, 0x31));
+    ASSERT_EQ(picture.size() % 512, 0U);
+    EXPECT_EQ(walkBytes("JPG", Build().add(picture).add(movie())).end, picture.size());
+}
+
+TEST(Png, SpoiltChunk_IsDamageButNotTheEnd) {
+    const Bytes good = Build()
+                           .text("\x89PNG\r\n\x1A\n")
+                           .add(pngChunk("IHDR", Bytes(13, 1)))
+                           .add(pngChunk("IDAT", Bytes(50, 2)))
+                           .add(pngChunk("IEND", {}));
+    EXPECT_EQ(walkBytes("PNG", good).verdict, Verdict::Complete);
+    Bytes spoilt = good;
+    spoilt[50] ^= 1;
+    EXPECT_EQ(walkBytes("PNG", spoilt).verdict, Verdict::Damaged);
+    EXPECT_EQ(walkBytes("PNG", spoilt).end, good.size());
+}
+
+TEST(Png, ForeignBytesInAChunk_EndBeforeTheChunk) {
+    const Bytes head = Build().text("\x89PNG\r\n\x1A\n").add(pngChunk("IHDR", Bytes(13, 1)));
+    const Bytes cut = Build().add(head).be32(5000).text("IDAT").add(noise(9000, 3));
+    EXPECT_EQ(walkBytes("PNG", cut).verdict, Verdict::Damaged);
+    EXPECT_EQ(walkBytes("PNG", cut).end, head.size());
+}
+
+TEST(Tiff, DirectoriesInACircle_ComeToAnEnd) {
+    Bytes circle = tiff();
+    circle[8 + 2 + 5 * 12] = 8;  // the link to the next directory names this one
+    const Extent extent = walkBytes("TIF", circle);
+    EXPECT_EQ(extent.verdict, Verdict::Complete);
+    EXPECT_EQ(extent.end, circle.size());
+}
+
+TEST(Tiff, Facts_AreSizeAndDate) {
+    for (const bool little : {true, false}) {
+        const Extent extent = walkBytes("TIF", tiff(little));
+        EXPECT_EQ(extent.facts.width, 4U);
+        EXPECT_EQ(extent.facts.height, 4U);
+        EXPECT_EQ(extent.facts.taken, (CivilTime{2021, 7, 9, 18, 30, 5, false}));
+    }
+}
+
+TEST(Tiff, PanasonicRaw_ReachesAsFarAsItsPixelsTake) {
+    Build raw;
+    raw.text("II").le16(0x55).le32(8).le16(5);
+    for (const auto& [tag, value] : {std::pair{2, 140}, {3, 100}, {10, 12}, {273, -1}, {280, 512}})
+        raw.le16(static_cast<std::uint64_t>(tag)).le16(4).le32(1).le32(static_cast<std::uint64_t>(value));
+    raw.le32(0).to(20'000);
+    const Extent extent = walkBytes("RW2", raw);
+    EXPECT_EQ(extent.verdict, Verdict::Complete);
+    EXPECT_EQ(extent.end, 512U + 140 * 100 / 14 * 16);
+    EXPECT_FALSE(extent.exactEnd);
+}
+
+TEST(Tiff, StripBeyondTheMedium_IsCutOff) {
+    Bytes cut = tiff();
+    cut.resize(cut.size() - 1);
+    EXPECT_EQ(walkBytes("DNG", cut).verdict, Verdict::CutOff);
+}
+
+TEST(Bmp, LengthField_IsBelievedOnlyNearThePixels) {
+    Build bmp;
+    bmp.text("BM").le32(1'000'000).le32(0).le32(54).le32(40).le32(2).le32(2).le16(1).le16(24).fill(24).fill(
+        16, 1);
+    EXPECT_EQ(walkBytes("BMP", Build().add(bmp).fill(2'000'000)).end, bmp.size());
+}
+
+TEST(Gif, ErasedSectorsInsteadOfData_AreNotWalked) {
+    Build gif;
+    gif.text("GIF89a")
+        .le16(2)
+        .le16(2)
+        .u8(0)
+        .u8(0)
+        .u8(0)
+        .u8(0x2C)
+        .fill(4)
+        .le16(2)
+        .le16(2)
+        .u8(0)
+        .u8(2)
+        .u8(3)
+        .fill(3, 1);
+    const Extent extent = walkBytes("GIF", Build().add(gif).fill(100'000, 0xFF));
+    EXPECT_EQ(extent.verdict, Verdict::Damaged);
+    EXPECT_EQ(extent.end, gif.size());
+}
+
+}  // namespace
+}  // namespace vantor::test

@@ -1,0 +1,39 @@
+// One small whole file of every format, made by hand, so that the walkers are tested where no real files are.
+#pragma once
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "Build.h"
+
+namespace vantor::test {
+
+struct Sample {
+    std::string extension;
+    Bytes bytes;
+    bool marked = true;  // the format marks its end: Complete must be exact, and a cut file never Complete
+};
+
+inline void PrintTo(const Sample& sample, std::ostream* out) {
+    *out << sample.extension;
+}
+
+std::vector<Sample> pictureSamples();
+std::vector<Sample> movieSamples();
+std::vector<Sample> soundSamples();
+std::vector<Sample> archiveSamples();
+std::vector<Sample> documentSamples();
+std::vector<Sample> allSamples();
+
+// Building blocks that single tests use as well.
+Bytes isoBox(std::string_view name, const Bytes& body);
+Bytes pngChunk(std::string_view name, const Bytes& body);
+Bytes riffChunk(std::string_view name, const Bytes& body);
+Bytes jpeg(const Bytes& segments = {}, const Bytes& entropy = {0x12, 0x34, 0xFF, 0x00, 0x56});
+// A TIFF of 4 x 4 grey pixels with a date.
+Bytes tiff(bool little = true);
+Bytes zipEntry(std::string_view name, const Bytes& content);
+Bytes zip(std::string_view name, const Bytes& content, std::string_view comment = {});
+
+}  // namespace vantor::test

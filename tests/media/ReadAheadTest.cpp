@@ -1,0 +1,86 @@
+// Reading ahead shows nowhere but in its speed either.
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "media/ReadAhead.h"
+#include "media/WindowedReader.h"
+#include "tests/media/ScriptedMedium.h"
+
+namespace vantor::test {
+namespace {
+
+constexpr std::uint64_t kWindow = WindowedReader::kWindowSectors;
+
+std::vector<ScanStep> stepsAhead(ScriptedMedium& medium, std::uint64_t start, std::uint64_t end) {
+    WindowedReader reader(std::make_unique<ScriptedSource>(medium), WindowedReader::Fetching::Ahead);
+    return scanSteps(reader, start, end);
+}
+
+std::vector<ScanStep> plainSteps(ScriptedMedium medium, std::uint64_t start, std::uint64_t end) {
+    PlainReader reader(medium);
+    return scanSteps(reader, start, end);
+}
+
+}  // namespace
+
+TEST(ReadAhead, HealthyMedium_ComesWholeAndInOrder) {
+    ScriptedMedium medium;
+    medium.sectors = 40 * kWindow + 77;
+    const auto expected = plainSteps(medium, 0, medium.sectors);
+    EXPECT_TRUE(stepsAhead(medium, 0, medium.sectors) == expected);
+    EXPECT_LE(medium.requests, 40 + 2 + kWindow) << "whole windows, but for the last";
+}
+
+TEST(ReadAhead, LastingFaultsAnywhere_SurfaceWhereSingleReadsMeetThem) {
+    std::mt19937 random(5);
+    for (int round = 0; round < 60; ++round) {
+        ScriptedMedium medium;
+        medium.sectors = 12 * kWindow + random() % kWindow;
+        medium.wholeRequestFails = random() % 2 == 0;
+        for (std::uint32_t faults = random() % 5; faults > 0; --faults) {
+            medium.refusals[random() % medium.sectors] = kAlways;
+        }
+        if (random() % 4 == 0) {
+            medium.goneFrom = random() % medium.sectors;
+        }
+        const std::uint64_t start = random() % (2 * kWindow);
+        const std::uint64_t end = medium.sectors + random() % 20;
+        const auto expected = plainSteps(medium, start, end);
+        ASSERT_TRUE(stepsAhead(medium, start, end) == expected) << "round " << round;
+    }
+}
+
+TEST(ReadAhead, SeeksInTheMiddle_GiveTheSectorAskedFor) {
+    ScriptedMedium medium;
+    medium.sectors = 64 * kWindow;
+    WindowedReader reader(std::make_unique<ScriptedSource>(medium), WindowedReader::Fetching::Ahead);
+    std::mt19937 random(6);
+    for (int round = 0; round < 200; ++round) {
+        std::uint64_t sector = random() % (60 * kWindow);
+        ASSERT_TRUE(reader.seek(sector));
+        for (std::uint64_t n = random() % (4 * kWindow); n > 0; --n, ++sector) {
+            ASSERT_TRUE(reader.read());
+            std::uint64_t number = 0;
+            std::memcpy(&number, reader.current(), sizeof number);
+            ASSERT_EQ(number, sector);
+        }
+    }
+}
+
+TEST(ReadAhead, PauseAndDestructionWaitForNobody) {
+    ScriptedMedium medium;
+    medium.sectors = std::uint64_t{1} << 40;
+    ScriptedSource source(medium);
+    for (int round = 0; round < 100; ++round) {
+        ReadAhead ahead(source, kWindow * kSectorBytes);
+        ahead.start(0);
+        EXPECT_TRUE(ahead.isAt(0));
+        ahead.take();
+        EXPECT_TRUE(ahead.isAt(kWindow));
+        ahead.pause();
+        EXPECT_FALSE(ahead.isAt(kWindow));
+    }
+}
+
+}  // namespace vantor::test

@@ -1,0 +1,29 @@
+// The two forms in which the program tells or asks something: a message with "OK", and a Yes/No question.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class QWidget;
+
+namespace vantor {
+
+// Interface thread only; each runs a modal loop until it is answered.
+
+// Shows the message, a line break in front, with the one button "OK".
+int Show_MessageBox(const QString& message);
+
+// True when the question was answered "Yes", the default button; "No" and any other way out are false.
+bool Show_YES_NO_MessageBox(const QString& question);
+
+// An alert as it stands, no line break added. The first button is the default one; the last one answers
+// Escape. Gives the index of the button pressed.
+struct Alert {
+    QString message;
+    QString informative = QStringLiteral("");
+    QStringList buttons = {QStringLiteral("OK")};
+    qsizetype defaultButton = 0;
+};
+qsizetype runAlert(const Alert& alert, QWidget* over = nullptr);
+
+}  // namespace vantor

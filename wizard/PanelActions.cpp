@@ -1,0 +1,94 @@
+// The destination folder and the help window.
+
+#include "app/MyTableController.h"
+#include "wizard/Alerts.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr int kChosen = 1;
+
+void dressFolderChooser(QFileDialog& chooser) {
+    chooser.setObjectName(QStringLiteral("folderChooser"));
+    chooser.setFileMode(QFileDialog::Directory);
+    chooser.setOption(QFileDialog::ShowDirsOnly);
+    chooser.setAcceptMode(QFileDialog::AcceptOpen);
+}
+
+}  // namespace
+
+QString MyTableController::devicePath() const {
+    return QStringLiteral("/dev/r") + _disk_identifier->text();
+}
+
+void MyTableController::Browse_Path(QObject*) {
+    browseForDestination();
+}
+
+void MyTableController::Browse_Path_Sig(QObject*) {
+    browseForDestination();
+}
+
+void MyTableController::browseForDestination() {
+    if (m_browseInfo->runModalForWindow() != kChosen) {
+        return;
+    }
+    auto* chooser = new QFileDialog(window, tr("Choose the destination folder"), _path->text());
+    dressFolderChooser(*chooser);
+    chooser->setAttribute(Qt::WA_DeleteOnClose);
+    connect(chooser, &QDialog::finished, this, [this, chooser](int result) {
+        if (result == QDialog::Accepted && !chooser->selectedFiles().isEmpty()) {
+            acceptDestination(chooser->selectedFiles().constFirst());
+        }
+    });
+    chooser->open();
+}
+
+void MyTableController::openPanelDidEnd(QFileDialog* panel, int returnCode, void*) {
+    panel->hide();
+    if (returnCode == kChosen && !panel->selectedFiles().isEmpty()) {
+        acceptDestination(panel->selectedFiles().constFirst());
+    }
+}
+
+// Both path fields get the folder, unless it lies on the medium that is to be recovered.
+bool MyTableController::acceptDestination(const QString& folder) {
+    if (m_parts.isOnMedium && m_parts.isOnMedium(folder, devicePath())) {
+        runAlert({QStringLiteral("\n") + tr("This folder cannot be the destination."),
+                  tr("It lies on the storage medium you are recovering from. Writing there would overwrite "
+                     "the files you "
+                     "want back. Choose a folder on another disk.")},
+                 window);
+        return false;
+    }
+    _path->setText(folder);
+    _path_Sig->setText(folder);
+    return true;
+}
+
+// Asks for a destination at once; "" when the user did not choose one.
+QString MyTableController::askDestination() {
+    if (m_browseInfo->runModalForWindow() != kChosen) {
+        return {};
+    }
+    QFileDialog chooser(window, tr("Choose the destination folder"), _path->text());
+    dressFolderChooser(chooser);
+    if (chooser.exec() != QDialog::Accepted || chooser.selectedFiles().isEmpty()) {
+        return {};
+    }
+    const QString folder = chooser.selectedFiles().constFirst();
+    return acceptDestination(folder) ? folder : QString();
+}
+
+void MyTableController::openDestination() {
+    if (!_path->text().isEmpty()) {
+        m_parts.openDocument(_path->text());
+    }
+}
+
+void MyTableController::Help_btn(QObject*) {
+    m_help->runModalForWindow();
+}
+
+}  // namespace vantor

@@ -1,0 +1,107 @@
+// Loading and closing of the secondary windows.
+#include "wizard/Panels.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+#include "ui_BrowseInfo.h"
+#include "ui_ClearPreview.h"
+#include "ui_LoadDrive.h"
+#include "ui_SaveFileInfo.h"
+#include "ui_SaveFileInfoForRaw.h"
+#include "wizard/Theme.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr int kButtonPressed = 1;
+constexpr int kPanelPicture = 6 * theme::kUnit;
+// A sheet has no frame of its own and does not take the keyboard away.
+constexpr Qt::WindowFlags kSheet = Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus;
+
+void setPicture(QLabel* label, const QString& name) {
+    label->setPixmap(ownIcon(name).pixmap(kPanelPicture, kPanelPicture));
+}
+
+void dressSheet(QDialog* window) {
+    window->setAttribute(Qt::WA_ShowWithoutActivating);
+    window->setProperty("role", QStringLiteral("sheet"));
+}
+
+}  // namespace
+
+Panel::Panel(QWidget* parent, Qt::WindowFlags flags) : m_window(std::make_unique<QDialog>(parent, flags)) {
+    window = m_window.get();
+}
+
+Panel::~Panel() = default;
+
+void Panel::awakeFromNib() {
+    setCommonBackground(window);
+}
+
+int Panel::runModalForWindow() {
+    window->setWindowModality(Qt::ApplicationModal);
+    const int code = window->exec();
+    window->hide();
+    return code;
+}
+
+void Panel::stopModalWithCode(int code) {
+    window->done(code);
+}
+
+Browse_Info::Browse_Info(QWidget* parent) : Panel(parent) {
+    Ui::BrowseInfo ui;
+    ui.setupUi(window);
+    setPicture(ui.panelIcon, QStringLiteral("folder"));
+    connect(ui.continueButton, &QPushButton::clicked, this, [this, ui] { Continue_Btn(ui.continueButton); });
+    awakeFromNib();
+}
+
+void Browse_Info::Continue_Btn(QObject*) {
+    stopModalWithCode(kButtonPressed);
+}
+
+SaveFile_Info::SaveFile_Info(QWidget* parent) : Panel(parent) {
+    Ui::SaveFileInfo ui;
+    ui.setupUi(window);
+    setPicture(ui.panelIcon, QStringLiteral("ok"));
+    connect(ui.okButton, &QPushButton::clicked, this, [this, ui] { OK_Btn(ui.okButton); });
+    awakeFromNib();
+}
+
+void SaveFile_Info::OK_Btn(QObject*) {
+    stopModalWithCode(kButtonPressed);
+}
+
+SaveFile_Info_For_RAW::SaveFile_Info_For_RAW(QWidget* parent) : Panel(parent) {
+    Ui::SaveFileInfoForRaw ui;
+    ui.setupUi(window);
+    setPicture(ui.panelIcon, QStringLiteral("ok"));
+    connect(ui.okButton, &QPushButton::clicked, this, [this, ui] { OK_Btn(ui.okButton); });
+    awakeFromNib();
+}
+
+void SaveFile_Info_For_RAW::OK_Btn(QObject*) {
+    stopModalWithCode(kButtonPressed);
+}
+
+ClearPreview_Modeless::ClearPreview_Modeless(QWidget* parent) : Panel(parent, kSheet) {
+    Ui::ClearPreview ui;
+    ui.setupUi(window);
+    setPicture(ui.panelIcon, QStringLiteral("preview"));
+    dressSheet(window);
+    awakeFromNib();
+}
+
+LoadDrive_Modeless::LoadDrive_Modeless(QWidget* parent) : Panel(parent, kSheet) {
+    Ui::LoadDrive ui;
+    ui.setupUi(window);
+    setPicture(ui.panelIcon, QStringLiteral("drive"));
+    dressSheet(window);
+    awakeFromNib();
+}
+
+}  // namespace vantor

@@ -1,0 +1,26 @@
+// A caption whose tabs line up its colon with those of its neighbours.
+#pragma once
+
+#include <QLabel>
+
+namespace vantor {
+
+// Plain text in one line. The distance of its tab stops follows the font, chosen so that captions of up to
+// three, two and no tabs' width end at the same stop when they carry one, two and four tabs.
+class TabbedLabel : public QLabel {
+    Q_OBJECT
+
+  public:
+    explicit TabbedLabel(QWidget* parent = nullptr) : QLabel(parent) {}
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    int tabDistance() const;
+};
+
+}  // namespace vantor
