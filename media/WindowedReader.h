@@ -29,6 +29,8 @@ class WindowedReader : public SectorReader {
     explicit WindowedReader(std::unique_ptr<BlockSource> source, Fetching fetching = Fetching::WhenAsked);
     ~WindowedReader() override;
 
+    std::uint64_t mediumSectors() const override { return m_source->sectors(); }
+
   protected:
     bool fetch() override;
     bool moveTo(std::uint64_t sector) override;
