@@ -172,6 +172,10 @@ class ScanSession {
 
   protected:
     const HandOver& handOver() const { return m_handOver; }
+    // The second half of addImageWithData: lists a photo item by its thumbnail, the placeholder when that is
+    // empty. Any one thread at a time.
+    void addThumbnail(const QByteArray& thumbnail, const QString& imageName, const QString& image_UID,
+                      const HandOver& from);
     // The chosen medium (of the control set of the mode), opened afresh at sector 0; null when it cannot be
     // opened.
     std::unique_ptr<SectorReader> openMedium() const;
