@@ -70,6 +70,9 @@ bool MyTableController::shutDown(std::chrono::milliseconds patience) {
     m_ending = true;
     m_queue.close();
     m_pump.stop();
+    if (m_thumbnails) {
+        m_thumbnails->cancel();
+    }
     const auto until = std::chrono::steady_clock::now() + patience;
     while (scanRunning() || m_besideRunning || m_saveRunning) {
         // The scan clears the word when it honours it, so it is said until everyone has heard.

@@ -1,5 +1,7 @@
 // Creation with the initial state, and teardown.
 
+#include <QThread>
+
 #include "app/MyTableController.h"
 #include "results/PreviewFile.h"
 #include "results/RecoveryMode.h"
@@ -10,6 +12,16 @@ namespace {
 
 constexpr std::chrono::milliseconds kTeardownPatience{5000};
 
+// Few enough to be made while the user waits for the end of a stopped scan.
+constexpr std::size_t kPhotosWaiting = 16;
+
+ThumbnailQueueOptions thumbnailQueueOptions() {
+    ThumbnailQueueOptions options;
+    options.workers = std::max(1, QThread::idealThreadCount());
+    options.maxItems = kPhotosWaiting;
+    return options;
+}
+
 }  // namespace
 
 MyTableController::MyTableController(ProgramParts parts)
@@ -18,6 +30,9 @@ MyTableController::MyTableController(ProgramParts parts)
     m_previewFolder = previewFolder(m_parts.resourcesFolder);
     setMediumOpener(m_parts.openMedium);
     setThumbnailer(m_parts.thumbnailer);
+    if (m_parts.thumbnailer) {
+        m_thumbnails = std::make_unique<ThumbnailQueue>(m_parts.thumbnailer, thumbnailQueueOptions());
+    }
     loadInterface();
     wire();
 }

@@ -36,6 +36,7 @@
 #include "app/InterfaceQueue.h"
 #include "app/Outlets.h"
 #include "app/ProgramParts.h"
+#include "decode/ThumbnailQueue.h"
 #include "media/MediaList.h"
 #include "media/RangePanel.h"
 #include "results/ImageBrowserModel.h"
@@ -157,6 +158,10 @@ class MyTableController : public QObject,
 
     // --- Browsers (results/Browsers.cpp) ---
 
+    // From a scan the bytes go to a queue where thumbnails are made side by side and listed in the order of
+    // carving.
+    void addImageWithData(const QByteArray& data, const QString& imageName,
+                          const QString& image_UID) override;
     qsizetype numberOfItemsInImageBrowser(const ImageBrowserView* view) override;
     std::shared_ptr<MyImageObject> imageBrowser_itemAtIndex(const ImageBrowserView* view,
                                                             qsizetype index) override;
@@ -349,6 +354,7 @@ class MyTableController : public QObject,
 
     // Shared between the threads of a scan.
     InterfaceQueue m_queue;
+    std::unique_ptr<ThumbnailQueue> m_thumbnails;  // null without a thumbnailer
     std::array<PendingView, 2> m_pending;
     std::atomic<bool> m_resultRowsDirty{false};
     std::atomic<bool> m_driverRunning{false};

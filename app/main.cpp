@@ -8,8 +8,10 @@
 
 #include "app/MyTableController.h"
 #include "catalogue/ResourcesFolder.h"
+#include "decode/DecodePool.h"
 #include "media/PlatformMedia.h"
 #include "results/DestinationCheck.h"
+#include "results/HelperMovie.h"
 #include "wizard/Theme.h"
 
 namespace {
@@ -18,6 +20,8 @@ using namespace vantor;
 
 // How long a device may take to let go when the program ends.
 constexpr std::chrono::milliseconds kLastPatience{500};
+// Frames larger than this are scaled down where they are decoded.
+constexpr QSize kLargestFrame{960, 540};
 
 ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTableController*>>& controller) {
     ProgramParts parts;
@@ -26,12 +30,18 @@ ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTable
         const MyTableController* const running = controller->load();
         return running != nullptr && running->stop_now == 1;
     });
+    const auto pool = std::make_shared<DecodePool>();
+    parts.thumbnailer = [pool](const QByteArray& encoded) { return pool->thumbnail(encoded); };
+    parts.picture = [pool](const QString& file, QSize largest) { return pool->picture(file, largest).image; };
+    parts.movie = [](const QString& file) { return HelperMovie::open(file, kLargestFrame); };
     parts.resourcesFolder = resourcesFolder();
     parts.isOnMedium = [targets = parts.media->targets()](const QString& folder, const QString& devicePath) {
         const auto target = targets->find(devicePath.mid(QStringLiteral("/dev/r").size()));
         return target && destinationIsOnMedium(folder, target->path);
     };
-    parts.openDocument = [](const QString& path) { return QDesktopServices::openUrl(QUrl::fromLocalFile(path)); };
+    parts.openDocument = [](const QString& path) {
+        return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+    };
     parts.terminate = [] { QCoreApplication::exit(0); };
     return parts;
 }

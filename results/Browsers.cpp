@@ -9,6 +9,20 @@ ImageBrowserView* MyTableController::browserOf(ControlSet set) const {
     return set == ControlSet::Photo ? imageBrowser : imageBrowser_2;
 }
 
+void MyTableController::addImageWithData(const QByteArray& data, const QString& imageName,
+                                         const QString& image_UID) {
+    if (data.isEmpty()) {
+        return;
+    }
+    if (onOwnThread() || !m_thumbnails) {
+        ScanSession::addImageWithData(data, imageName, image_UID);
+        return;
+    }
+    m_thumbnails->submit(data, [this, imageName, image_UID, from = handOver()](const QByteArray& thumbnail) {
+        addThumbnail(thumbnail, imageName, image_UID, from);
+    });
+}
+
 qsizetype MyTableController::numberOfItemsInImageBrowser(const ImageBrowserView*) {
     return static_cast<qsizetype>(itemCount());
 }

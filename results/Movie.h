@@ -18,6 +18,8 @@ class Movie {
 
     // Playback rate: 0 while paused or stopped.
     virtual float rate() const = 0;
+    // The first frame; null when it is not known yet.
+    virtual QImage poster() const { return {}; }
     virtual void play() = 0;
     virtual void stop() = 0;
 
@@ -25,8 +27,8 @@ class Movie {
     std::function<void(const QImage&)> onFrame;
 };
 
-// Opens a file as a movie; null when it cannot be played. Carved bytes are hostile: whoever decodes them does
-// it where a crash does not end the program.
+// Opens a file as a movie, on any thread; null when it cannot be played. Carved bytes are hostile: whoever
+// decodes them does it where a crash does not end the program.
 using MovieLoader = std::function<std::unique_ptr<Movie>(const QString& file)>;
 
 }  // namespace vantor

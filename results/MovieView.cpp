@@ -30,6 +30,7 @@ void MovieView::setMovie(std::unique_ptr<Movie> movie) {
     m_movie = std::move(movie);
     m_frame = {};
     if (m_movie) {
+        m_frame = m_movie->poster();
         m_movie->onFrame = [this](const QImage& frame) {
             if (!frame.isNull()) {
                 m_frame = frame;

@@ -121,7 +121,8 @@ FileKind kindOfType(const QString& extension, const QString& description) {
         return kind;
     }
     static const std::pair<QRegularExpression, FileKind> words[] = {
-        {QRegularExpression(QStringLiteral("sound|audio|music|song|voice|midi|instrument|tracker")), FileKind::Sound},
+        {QRegularExpression(QStringLiteral("sound|audio|music|song|voice|midi|instrument|tracker")),
+         FileKind::Sound},
         {QRegularExpression(QStringLiteral("movie|video|film|animation")), FileKind::Video},
         {QRegularExpression(QStringLiteral("picture|image|photo|bitmap|icon|drawing")), FileKind::Picture},
         {QRegularExpression(QStringLiteral("archive|compressed|package|backup")), FileKind::Archive},

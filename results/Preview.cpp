@@ -94,7 +94,15 @@ void MyTableController::setQuickLook_View_File(const QString& file, const QStrin
         return;
     }
     _QuickLook_View_Box->setTitle(file_Name);
-    std::unique_ptr<Movie> movie = m_parts.movie ? m_parts.movie(file) : nullptr;
+    // Shared with a thread that may be left behind when the program ends.
+    const auto opened = std::make_shared<std::unique_ptr<Movie>>();
+    if (m_parts.movie && QFileInfo(file).isFile()) {
+        runBeside([open = m_parts.movie, file, opened] { *opened = open(file); });
+    }
+    if (m_ending) {
+        return;
+    }
+    std::unique_ptr<Movie> movie = std::move(*opened);
     _QuickLook_View->setHidden(movie != nullptr);
     mMovieView->setHidden(movie == nullptr);
     if (movie) {
@@ -112,12 +120,15 @@ void MyTableController::Image_Preview(const QString& file, const QString& file_N
     if (file.isEmpty()) {
         return;
     }
-    QImage picture;
+    const auto picture = std::make_shared<QImage>();
     if (m_parts.picture && QFileInfo(file).isFile()) {
-        picture = m_parts.picture(file, kPreviewSize);
+        runBeside([read = m_parts.picture, file, picture] { *picture = read(file, kPreviewSize); });
     }
-    if (!picture.isNull()) {
-        showPicture(QPixmap::fromImage(framedAsDocument(picture, kPreviewSize)), file_Name);
+    if (m_ending) {
+        return;
+    }
+    if (!picture->isNull()) {
+        showPicture(QPixmap::fromImage(framedAsDocument(*picture, kPreviewSize)), file_Name);
         return;
     }
     const QString extension = pathExtension(file);

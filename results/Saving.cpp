@@ -16,7 +16,8 @@ namespace {
 constexpr int kPollMilliseconds = 20;
 
 QString countOfItems(std::size_t count) {
-    return count == 1 ? QObject::tr("1 item") : QObject::tr("%1 items").arg(QLocale().toString(quint64{count}));
+    return count == 1 ? QObject::tr("1 item")
+                      : QObject::tr("%1 items").arg(QLocale().toString(quint64{count}));
 }
 
 // What the summary says below its headline.
@@ -69,15 +70,17 @@ void MyTableController::saveItems(const QList<qsizetype>& indexes) {
         }
     }
     request.destination = destination;
-    request.openMedium = [open = m_parts.openMedium, device = devicePath()] { return open ? open(device) : nullptr; };
+    request.openMedium = [open = m_parts.openMedium, device = devicePath()] {
+        return open ? open(device) : nullptr;
+    };
     const auto job = std::make_shared<SaveJob>(std::move(request));
     if (watchSaving(job)) {
         reportSaving(job->report(), destination, job->cancelled);
     }
 }
 
-// Runs the job beside the window under a sheet with a Cancel button; false when the program ends meanwhile or the medium
-// does not answer a cancel.
+// Runs the job beside the window under a sheet with a Cancel button; false when the program ends meanwhile or
+// the medium does not answer a cancel.
 bool MyTableController::watchSaving(const std::shared_ptr<SaveJob>& job) {
     QProgressDialog sheet(tr("Saving %1…").arg(countOfItems(job->total())), tr("Cancel"), 0,
                           static_cast<int>(job->total()), window);

@@ -30,6 +30,10 @@ void MyTableController::onInterfaceThread(const std::function<void()>& step) {
     if (onOwnThread()) {
         step();
     } else {
+        // What the user is to see or answer comes after the last thumbnail.
+        if (m_thumbnails) {
+            m_thumbnails->flush();
+        }
         m_queue.runAndWait([this, &step] {
             flushViews();
             step();

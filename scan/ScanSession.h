@@ -31,6 +31,10 @@
 
 namespace vantor {
 
+// The names of the passes.
+inline constexpr QStringView kGeneralPass = u"GEN";
+inline constexpr QStringView kThoroughPass = u"THD";
+
 // How the last pass ended.
 enum class PassOutcome { NotRun, Completed, Stopped, ReadError, OpenError };
 
@@ -168,6 +172,10 @@ class ScanSession {
 
   protected:
     const HandOver& handOver() const { return m_handOver; }
+    // The second half of addImageWithData: lists a photo item by its thumbnail, the placeholder when that is
+    // empty. Any one thread at a time.
+    void addThumbnail(const QByteArray& thumbnail, const QString& imageName, const QString& image_UID,
+                      const HandOver& from);
     // The chosen medium (of the control set of the mode), opened afresh at sector 0; null when it cannot be
     // opened.
     std::unique_ptr<SectorReader> openMedium() const;
@@ -188,7 +196,8 @@ class ScanSession {
     void prepareRange(ControlSet set);
     void showProgressText();
     void fillTypeCounters();
-    void beginScanScreen();
+    bool beginPass(ControlSet set, const QString& passName, const QStringList& general,
+                   const QStringList& thorough);
     void openFailed(ControlSet set);
     bool endOfRange(bool lastReadSucceeded);
     const QStringList& generalCatalogueOfMode() const;

@@ -38,12 +38,14 @@ void ScanSession::addImageWithData(const QByteArray& data, const QString& imageN
     if (data.isEmpty()) {
         return;
     }
-    QByteArray thumbnail = m_thumbnailer ? m_thumbnailer(data) : QByteArray();
-    if (thumbnail.isEmpty()) {
-        thumbnail = Null_Image_Data;
-    }
-    auto item = MyImageObject::initWithImage_data(thumbnail, imageName, image_UID);
-    item->setOrigin(m_handOver.type, m_handOver.carved);
+    addThumbnail(m_thumbnailer ? m_thumbnailer(data) : QByteArray(), imageName, image_UID, m_handOver);
+}
+
+void ScanSession::addThumbnail(const QByteArray& thumbnail, const QString& imageName,
+                               const QString& image_UID, const HandOver& from) {
+    auto item = MyImageObject::initWithImage_data(thumbnail.isEmpty() ? Null_Image_Data : thumbnail,
+                                                  imageName, image_UID);
+    item->setOrigin(from.type, from.carved);
     appendItem(std::move(item));
     pacePhotoBrowser();
 }

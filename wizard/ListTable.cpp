@@ -61,6 +61,13 @@ void ListTable::paintEvent(QPaintEvent* event) {
 }
 
 void ListTable::keyPressEvent(QKeyEvent* event) {
+    const bool moves = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
+    if (moves && model()->rowCount() > 0 && !selectionModel()->hasSelection()) {
+        // The first arrow key chooses the row at hand instead of passing it over.
+        setCurrentIndex(currentIndex().isValid() ? currentIndex() : model()->index(0, 0));
+        selectRow(currentIndex().row());
+        return;
+    }
     QTableView::keyPressEvent(event);
     if (event->key() == Qt::Key_Space) {
         emit tickedByKeyboard();

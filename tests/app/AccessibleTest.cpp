@@ -16,11 +16,13 @@ class Accessible : public WindowTest {
     static void expectNames(const QWidget* window) {
         int controls = 0;
         for (auto* widget : window->findChildren<QWidget*>()) {
-            const bool isControl = qobject_cast<QAbstractButton*>(widget) || qobject_cast<QAbstractSlider*>(widget) ||
-                                   qobject_cast<QLineEdit*>(widget) || qobject_cast<QAbstractItemView*>(widget) ||
-                                   qobject_cast<QProgressBar*>(widget);
-            const bool isInner = widget->objectName().startsWith(QLatin1String("qt_")) || widget->inherits("QScrollBar") ||
-                                 widget->inherits("QHeaderView") || widget->inherits("QTableCornerButton") ||
+            const bool isControl =
+                qobject_cast<QAbstractButton*>(widget) || qobject_cast<QAbstractSlider*>(widget) ||
+                qobject_cast<QLineEdit*>(widget) || qobject_cast<QAbstractItemView*>(widget) ||
+                qobject_cast<QProgressBar*>(widget);
+            const bool isInner = widget->objectName().startsWith(QLatin1String("qt_")) ||
+                                 widget->inherits("QScrollBar") || widget->inherits("QHeaderView") ||
+                                 widget->inherits("QTableCornerButton") ||
                                  widget->inherits("QLineEditIconButton");
             if (!isControl || isInner) {
                 continue;

@@ -182,7 +182,8 @@ TEST_F(Browser, AHundredThousandItemsInBatches_AreAllThere) {
             return item;
         }
         qsizetype count = 0;
-        std::shared_ptr<MyImageObject> item = MyImageObject::initWithImage_data({}, QStringLiteral("a"), QStringLiteral("u"));
+        std::shared_ptr<MyImageObject> item =
+            MyImageObject::initWithImage_data({}, QStringLiteral("a"), QStringLiteral("u"));
     } many;
     controller->imageBrowser->setDataSource(&many);
     while (many.count < 100'000) {

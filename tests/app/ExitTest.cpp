@@ -17,7 +17,9 @@ class Exit : public WindowTest {
         QFile file(folder.filePath(QString::fromLatin1(name)));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     }
-    bool exists(const char* name) const { return QFileInfo::exists(folder.filePath(QString::fromLatin1(name))); }
+    bool exists(const char* name) const {
+        return QFileInfo::exists(folder.filePath(QString::fromLatin1(name)));
+    }
 };
 
 TEST_F(Exit, TheQuestionHasItsTextAndButtons) {
@@ -60,7 +62,8 @@ TEST_F(Exit, ClosingTheWindowAsksTheSame) {
 
 TEST_F(Exit, Yes_DeletesEveryPreviewFileAndNothingElse) {
     open();
-    for (const char* name : {"dprv", "dprv.jpg", "dprv.MOV", "dprv2.jpg", "xdprv.jpg", "dprv.tar.gz", "Help.pdf"}) {
+    for (const char* name :
+         {"dprv", "dprv.jpg", "dprv.MOV", "dprv2.jpg", "xdprv.jpg", "dprv.tar.gz", "Help.pdf"}) {
         touch(name);
     }
     answers.press(QStringLiteral("Yes"));

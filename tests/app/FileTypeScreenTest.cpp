@@ -17,13 +17,17 @@ class FileTypes : public WindowTest {
         }
         return found;
     }
-    int rowOf(const char* extension) const { return static_cast<int>(extensions().indexOf(QLatin1String(extension))); }
+    int rowOf(const char* extension) const {
+        return static_cast<int>(extensions().indexOf(QLatin1String(extension)));
+    }
     void clickCell(int row, int column) {
         QTableView* table = controller->idCheckTableView;
         const QRect cell = table->visualRect(table->model()->index(row, column));
         QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, QPoint(cell.left() + 18, cell.center().y()));
     }
-    bool ticked(const char* extension) const { return isTicked(controller->nsCheckedListDataObject.at(rowOf(extension))); }
+    bool ticked(const char* extension) const {
+        return isTicked(controller->nsCheckedListDataObject.at(rowOf(extension)));
+    }
 };
 
 TEST_F(FileTypes, OneRowAType_SortedWithoutRegardToCase_AllTicked) {
@@ -35,7 +39,8 @@ TEST_F(FileTypes, OneRowAType_SortedWithoutRegardToCase_AllTicked) {
         EXPECT_TRUE(isTicked(row));
     }
     const auto field = [this](const char* extension, const char* key) {
-        return controller->tableView(controller->idCheckTableView, QString::fromLatin1(key), rowOf(extension)).toString();
+        return controller->tableView(controller->idCheckTableView, QString::fromLatin1(key), rowOf(extension))
+            .toString();
     };
     // In both catalogues: described by the first record met, and not thorough.
     EXPECT_EQ(field("PDF", "Description"), QStringLiteral("PDF document"));
@@ -76,7 +81,8 @@ TEST_F(FileTypes, UntickingAType_RemovesAllItsRecordsFromBothCatalogues) {
     EXPECT_FALSE(controller->CheckListHeader_Array.contains(QStringLiteral("PDF")));
     EXPECT_FALSE(controller->CheckListHeader_Adv_Array.contains(QStringLiteral("PDF")));
     EXPECT_EQ(controller->CheckListHeader_Array.size(), 2 * 7);
-    EXPECT_EQ(controller->CheckListHeader_Array.at(0), QStringLiteral("ZIP")) << "catalogue order, not the table's";
+    EXPECT_EQ(controller->CheckListHeader_Array.at(0), QStringLiteral("ZIP"))
+        << "catalogue order, not the table's";
 }
 
 TEST_F(FileTypes, OtherColumnsDoNotTouchTheSelectAllBox) {

@@ -6,10 +6,13 @@ namespace vantor {
 namespace {
 
 const QString kMediaHelp = QStringLiteral(
-    "\nSelect the storage media from List from which you want to recover Data. Press ‘Next’ button to continue... ");
+    "\nSelect the storage media from List from which you want to recover Data. Press ‘Next’ button to "
+    "continue... ");
 const QString kEntireHelp = QStringLiteral(
-    "If ‘Entire Disk’ option is selected, Vantor Recovery searches lost data in the entire storage of selected disk. If "
-    "you want to perform within a specific sector range or in specific partition, please select other searching "
+    "If ‘Entire Disk’ option is selected, Vantor Recovery searches lost data in the entire storage of "
+    "selected disk. If "
+    "you want to perform within a specific sector range or in specific partition, please select other "
+    "searching "
     "criteria. Else press ‘Next’ button to start searching data in Entire disk.");
 const QString kTypeHelp = QStringLiteral(
     "\nPlease select the required extension type for recovery process. Press ‘Next’ button to continue... ");
@@ -83,12 +86,12 @@ TEST_F(Flow, Back_FromTheRangeScreen_ForgetsTheMediumAndTheMode) {
     EXPECT_FALSE(controller->_rec_mode_Video->isChecked());
     EXPECT_FALSE(controller->_Search_Type->isVisible());
     EXPECT_EQ(controller->_help_info->text(), kMediaHelp);
-    for (const QLabel* value : {controller->_sectors_val, controller->_disk_identifier, controller->_disk_val,
-                                controller->_vol_name_val, controller->_file_system_val, controller->_size_val,
-                                controller->_start_sector_entire_val, controller->_end_sector_entire_val,
-                                controller->_disk_val_Sig, controller->_vol_name_val_Sig,
-                                controller->_file_system_val_Sig, controller->_size_val_Sig,
-                                controller->_start_sector_entire_val_Sig, controller->_end_sector_entire_val_Sig}) {
+    for (const QLabel* value :
+         {controller->_sectors_val, controller->_disk_identifier, controller->_disk_val,
+          controller->_vol_name_val, controller->_file_system_val, controller->_size_val,
+          controller->_start_sector_entire_val, controller->_end_sector_entire_val, controller->_disk_val_Sig,
+          controller->_vol_name_val_Sig, controller->_file_system_val_Sig, controller->_size_val_Sig,
+          controller->_start_sector_entire_val_Sig, controller->_end_sector_entire_val_Sig}) {
         EXPECT_EQ(value->text(), QStringLiteral("<None>")) << value->objectName().toStdString();
     }
     EXPECT_FALSE(controller->backButton->isEnabled());
@@ -107,8 +110,9 @@ TEST_F(Flow, Photo_FromStartToEndAndBack) {
     EXPECT_EQ(controller->itemAt(0)->imageTitle(), QStringLiteral("GND00001.JPG"));
     EXPECT_EQ(controller->itemAt(2)->imageTitle(), QStringLiteral("THD00001.GIF"));
     EXPECT_EQ(controller->imageBrowser->model()->rowCount(), 3);
-    for (const QWidget* hidden : std::initializer_list<const QWidget*>{controller->_Progress_Horz, controller->_sector_label,
-                                                                       controller->_Mode_label, controller->_stop_scan}) {
+    for (const QWidget* hidden :
+         std::initializer_list<const QWidget*>{controller->_Progress_Horz, controller->_sector_label,
+                                               controller->_Mode_label, controller->_stop_scan}) {
         EXPECT_FALSE(hidden->isVisible()) << hidden->objectName().toStdString();
     }
     EXPECT_TRUE(controller->_zoom_slider->isVisible());

@@ -1,11 +1,11 @@
 // The road from a scan's threads to the interface thread.
-#include "app/InterfaceQueue.h"
-
 #include <gtest/gtest.h>
 
 #include <atomic>
 #include <thread>
 #include <vector>
+
+#include "app/InterfaceQueue.h"
 
 namespace vantor {
 namespace {

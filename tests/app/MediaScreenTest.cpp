@@ -1,6 +1,6 @@
 // The list of storage media on the first screen.
-#include <QMimeData>
 #include <QDropEvent>
+#include <QMimeData>
 #include <QUrl>
 
 #include "tests/app/WindowTest.h"
@@ -53,7 +53,9 @@ TEST_F(MediaScreen, Refresh_DropsTheSelection) {
 TEST_F(MediaScreen, TheSheetIsInViewWhileTheMediaAreAsked) {
     openWithCard();
     bool sheetSeen = false;
-    source->duringQuery = [&] { sheetSeen = controller->LoadDisk_Window->isVisible() && controller->session; };
+    source->duringQuery = [&] {
+        sheetSeen = controller->LoadDisk_Window->isVisible() && controller->session;
+    };
     click(controller->refreshButton);
     EXPECT_TRUE(sheetSeen);
     EXPECT_FALSE(controller->LoadDisk_Window->isVisible());
@@ -117,7 +119,8 @@ TEST_F(MediaScreen, AnImageDroppedOnTheWindow_IsOpened) {
 
 TEST_F(MediaScreen, RowsCanBeAddedAndDeleted) {
     openWithCard();
-    controller->addRow(MyDataObject::initWithString1(QStringLiteral("sdz"), {}, {}, {}, {}, QStringLiteral("1")));
+    controller->addRow(
+        MyDataObject::initWithString1(QStringLiteral("sdz"), {}, {}, {}, {}, QStringLiteral("1")));
     EXPECT_EQ(controller->idTableView->model()->rowCount(), 2);
     controller->deleteSelectedRow(nullptr);
     EXPECT_EQ(controller->idTableView->model()->rowCount(), 2);
@@ -128,9 +131,11 @@ TEST_F(MediaScreen, RowsCanBeAddedAndDeleted) {
 
 TEST_F(MediaScreen, OneModeIsOnAtATime) {
     openWithCard();
-    for (auto* chosen : {controller->_rec_mode_RawFile, controller->_rec_mode_Video, controller->_rec_mode_Photo}) {
+    for (auto* chosen :
+         {controller->_rec_mode_RawFile, controller->_rec_mode_Video, controller->_rec_mode_Photo}) {
         click(chosen);
-        for (auto* mode : {controller->_rec_mode_RawFile, controller->_rec_mode_Video, controller->_rec_mode_Photo}) {
+        for (auto* mode :
+             {controller->_rec_mode_RawFile, controller->_rec_mode_Video, controller->_rec_mode_Photo}) {
             EXPECT_EQ(mode->isChecked(), mode == chosen);
         }
     }

@@ -31,7 +31,9 @@ class ScriptedMovie : public Movie {
 class MoviePreview : public WindowTest {
   protected:
     void openResults() {
-        parts.movie = [this](const QString&) { return playable ? std::make_unique<ScriptedMovie>(log) : nullptr; };
+        parts.movie = [this](const QString&) {
+            return playable ? std::make_unique<ScriptedMovie>(log) : nullptr;
+        };
         openWithCard();
         toRange(kVideoMode);
         controller->show_hide_2_screen(true);

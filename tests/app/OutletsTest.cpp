@@ -27,8 +27,10 @@ const OutletKind kRangeSet[] = {
     {"radio button", &QRadioButton::staticMetaObject, "_entire_disk_rd _sector_range_rd"},
     {"label", &QLabel::staticMetaObject,
      "_disk _vol_name _file_system _size _start_sector_entire _end_sector_entire _disk_val _vol_name_val "
-     "_file_system_val _size_val _start_sector_entire_val _end_sector_entire_val _Sector_Range_Info _Start_Sec_Min "
-     "_Start_Sec_Min_val _Start_Sec_Max _Start_Sec_Max_val _Start_Sec_curr _End_Sec_Min _End_Sec_Min_val _End_Sec_Max "
+     "_file_system_val _size_val _start_sector_entire_val _end_sector_entire_val _Sector_Range_Info "
+     "_Start_Sec_Min "
+     "_Start_Sec_Min_val _Start_Sec_Max _Start_Sec_Max_val _Start_Sec_curr _End_Sec_Min _End_Sec_Min_val "
+     "_End_Sec_Max "
      "_End_Sec_Max_val _End_Sec_curr _path_label"},
     {"group box", &QGroupBox::staticMetaObject, "_Start_Sec_Box _End_Sec_Box"},
     {"text field", &QLineEdit::staticMetaObject, "_Start_slider_val _End_slider_val _path"},
@@ -57,7 +59,8 @@ class Outlets : public WindowTest {
         for (const QString& name : QString::fromLatin1(kind.names).split(u' ')) {
             const auto* found = controller->window->findChild<QWidget*>(name + suffix);
             ASSERT_NE(found, nullptr) << (name + suffix).toStdString() << " is missing";
-            EXPECT_NE(kind.type->cast(found), nullptr) << (name + suffix).toStdString() << " is no " << kind.kind;
+            EXPECT_NE(kind.type->cast(found), nullptr)
+                << (name + suffix).toStdString() << " is no " << kind.kind;
         }
     }
 };
@@ -96,12 +99,13 @@ TEST_F(Outlets, ColumnsBearTheirIdentifiers) {
         }
         return found;
     };
-    EXPECT_EQ(identifiers(controller->idTableView),
-              (QStringList{QStringLiteral("Collumn1"), QStringLiteral("Collumn2"), QStringLiteral("Collumn3"),
-                           QStringLiteral("Collumn4"), QStringLiteral("Collumn5"), QStringLiteral("Collumn6")}));
+    EXPECT_EQ(
+        identifiers(controller->idTableView),
+        (QStringList{QStringLiteral("Collumn1"), QStringLiteral("Collumn2"), QStringLiteral("Collumn3"),
+                     QStringLiteral("Collumn4"), QStringLiteral("Collumn5"), QStringLiteral("Collumn6")}));
     EXPECT_EQ(identifiers(controller->idCheckTableView),
-              (QStringList{QStringLiteral("State"), QStringLiteral("Extension"), QStringLiteral("Description"),
-                           QStringLiteral("Thoro")}));
+              (QStringList{QStringLiteral("State"), QStringLiteral("Extension"),
+                           QStringLiteral("Description"), QStringLiteral("Thoro")}));
     EXPECT_EQ(identifiers(controller->idSigTableView),
               (QStringList{QStringLiteral("FileTypes"), QStringLiteral("NoOfFile")}));
 }

@@ -11,7 +11,8 @@ namespace {
 class Preview : public WindowTest {
   protected:
     // The raw results screen with these items, sectors [start, end) each.
-    void openResults(std::initializer_list<std::tuple<const char*, int, int>> items, int mode = kRawFileMode) {
+    void openResults(std::initializer_list<std::tuple<const char*, int, int>> items,
+                     int mode = kRawFileMode) {
         openWithCard();
         toRange(mode);
         controller->show_hide_2_screen(true);
@@ -19,7 +20,8 @@ class Preview : public WindowTest {
         controller->screen_counter = 3;
         for (const auto& [name, start, end] : items) {
             controller->addImageWithData_2({}, QString::fromLatin1(name), QString::fromLatin1(name),
-                                           static_cast<std::uint64_t>(start), static_cast<std::uint64_t>(end));
+                                           static_cast<std::uint64_t>(start),
+                                           static_cast<std::uint64_t>(end));
         }
         QTest::qWait(1);
         opened = 0;
@@ -187,7 +189,8 @@ TEST_F(Preview, AScanThatEndsWhileAPreviewIsCopied_ShowsItsEndAfterwards) {
     openWithCard();
     toFileTypes(kRawFileMode);
     click(controller->nextButton);
-    ASSERT_TRUE(waitFor([&] { return scanGate.someoneWaits() && controller->imageBrowser_2->model()->rowCount() >= 1; }));
+    ASSERT_TRUE(waitFor(
+        [&] { return scanGate.someoneWaits() && controller->imageBrowser_2->model()->rowCount() >= 1; }));
     QTimer::singleShot(100, [&] {
         scanGate.open();
         QTimer::singleShot(200, [&] { copyGate.open(); });

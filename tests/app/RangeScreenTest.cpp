@@ -19,10 +19,16 @@ class RangeScreen : public WindowTest, public ::testing::WithParamInterface<int>
     }
     bool photo() const { return GetParam() == kPhotoMode; }
     QRadioButton* entire() { return photo() ? controller->_entire_disk_rd : controller->_entire_disk_rd_Sig; }
-    QRadioButton* range() { return photo() ? controller->_sector_range_rd : controller->_sector_range_rd_Sig; }
-    QLineEdit* startField() { return photo() ? controller->_Start_slider_val : controller->_Start_slider_val_Sig; }
+    QRadioButton* range() {
+        return photo() ? controller->_sector_range_rd : controller->_sector_range_rd_Sig;
+    }
+    QLineEdit* startField() {
+        return photo() ? controller->_Start_slider_val : controller->_Start_slider_val_Sig;
+    }
     QLineEdit* endField() { return photo() ? controller->_End_slider_val : controller->_End_slider_val_Sig; }
-    SectorSlider* startSlider() { return photo() ? controller->_Start_Slider : controller->_Start_Slider_Sig; }
+    SectorSlider* startSlider() {
+        return photo() ? controller->_Start_Slider : controller->_Start_Slider_Sig;
+    }
     SectorSlider* endSlider() { return photo() ? controller->_End_Slider : controller->_End_Slider_Sig; }
     QLabel* volume() { return photo() ? controller->_vol_name_val : controller->_vol_name_val_Sig; }
 
@@ -34,8 +40,8 @@ class RangeScreen : public WindowTest, public ::testing::WithParamInterface<int>
     }
 
     // Types a range, presses Next, and expects the refusal and the focus after it.
-    void expectRefusal(const QString& start, const QString& end, const QString& message, const QString& informative,
-                       QLineEdit* focused) {
+    void expectRefusal(const QString& start, const QString& end, const QString& message,
+                       const QString& informative, QLineEdit* focused) {
         type(startField(), start);
         type(endField(), end);
         controller->nextButton->setFocus();
@@ -71,14 +77,16 @@ TEST_P(RangeScreen, EntireDiskShowsTheFactsAndHidesTheRange) {
     EXPECT_TRUE(startField()->isVisible());
     EXPECT_TRUE(endSlider()->isVisible());
     EXPECT_EQ(controller->_help_info->text(),
-              QStringLiteral("‘Sector Range’ option provides facility to specify the range of start and end sector of "
-                             "storage media within which you want to perform searching for lost data. Please drag knob "
-                             "of Slider to enter sector range or you can also enter these values in Start Sector and "
-                             "End Sector fields manually."));
+              QStringLiteral(
+                  "‘Sector Range’ option provides facility to specify the range of start and end sector of "
+                  "storage media within which you want to perform searching for lost data. Please drag knob "
+                  "of Slider to enter sector range or you can also enter these values in Start Sector and "
+                  "End Sector fields manually."));
     choose(entire());
     EXPECT_TRUE(volume()->isVisible());
     EXPECT_FALSE(startField()->isVisible());
-    EXPECT_TRUE(controller->_help_info->text().startsWith(QStringLiteral("If ‘Entire Disk’ option is selected")));
+    EXPECT_TRUE(
+        controller->_help_info->text().startsWith(QStringLiteral("If ‘Entire Disk’ option is selected")));
 }
 
 TEST_P(RangeScreen, ChoosingTheRangeResetsIt) {

@@ -40,9 +40,11 @@ TEST_F(Saving, SaveAll_WritesEveryItemIntoAFolderOfItsType) {
     answers.press(QStringLiteral("OK"));
     click(controller->saveAllButton);
     EXPECT_EQ(answers.seen().back().text, QStringLiteral("\n3 items were saved."));
-    EXPECT_EQ(answers.seen().back().buttons, (QStringList{QStringLiteral("Open Folder"), QStringLiteral("OK")}));
-    EXPECT_EQ(savedFiles(), (QStringList{QStringLiteral("GIF/THD00001.GIF"), QStringLiteral("JPG/GND00001.JPG"),
-                                         QStringLiteral("JPG/GND00002.JPG")}));
+    EXPECT_EQ(answers.seen().back().buttons,
+              (QStringList{QStringLiteral("Open Folder"), QStringLiteral("OK")}));
+    EXPECT_EQ(savedFiles(),
+              (QStringList{QStringLiteral("GIF/THD00001.GIF"), QStringLiteral("JPG/GND00001.JPG"),
+                           QStringLiteral("JPG/GND00002.JPG")}));
     EXPECT_EQ(controller->savedLabel->text(), QStringLiteral("3 of 3 saved"));
     EXPECT_FALSE(controller->hasUnsavedItems());
     click(controller->backButton);
@@ -82,13 +84,16 @@ TEST_F(Saving, WithoutADestination_OneIsAskedFor) {
 }
 
 TEST_F(Saving, ADestinationOnTheScannedMedium_IsRefused) {
-    parts.isOnMedium = [](const QString&, const QString& device) { return device == QStringLiteral("/dev/rsdb1"); };
+    parts.isOnMedium = [](const QString&, const QString& device) {
+        return device == QStringLiteral("/dev/rsdb1");
+    };
     openPhotoResults();
     destinationIs(destination.path());
     answers.press(QStringLiteral("OK"));
     click(controller->saveAllButton);
     EXPECT_EQ(answers.seen().back().text, QStringLiteral("\nThis folder cannot be the destination."));
-    EXPECT_TRUE(answers.seen().back().informative.contains(QStringLiteral("storage medium you are recovering from")));
+    EXPECT_TRUE(
+        answers.seen().back().informative.contains(QStringLiteral("storage medium you are recovering from")));
     EXPECT_TRUE(savedFiles().isEmpty());
 }
 

@@ -9,7 +9,9 @@ namespace vantor {
 namespace {
 
 qsizetype entriesOf(const char* folder) {
-    return QDir(QString::fromLatin1(folder)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System).size();
+    return QDir(QString::fromLatin1(folder))
+        .entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System)
+        .size();
 }
 
 using ScanThreads = WindowTest;
@@ -69,7 +71,8 @@ TEST_F(ScanThreads, ExitDuringAScan_IsNotHeldUpByAMediumThatHangs) {
     answers.press(QStringLiteral("Yes"));
     click(controller->exitButton);
     EXPECT_EQ(terminations, 1);
-    EXPECT_FALSE(controller->shutDown(std::chrono::milliseconds(50))) << "the hanging thread is reported, not awaited";
+    EXPECT_FALSE(controller->shutDown(std::chrono::milliseconds(50)))
+        << "the hanging thread is reported, not awaited";
     gate.open();
     EXPECT_TRUE(controller->shutDown(std::chrono::seconds(5)));
     EXPECT_FALSE(controller->scanRunning());

@@ -19,12 +19,18 @@ TEST_F(Start, CaptionsOfBothSetsHaveTheirTabs) {
     const QStringList captions = {QStringLiteral("Disk\t\t\t\t:"),     QStringLiteral("Volume Name\t:"),
                                   QStringLiteral("File System\t\t:"),  QStringLiteral("Capacity (size)\t:"),
                                   QStringLiteral("Start Sector\t\t:"), QStringLiteral("End Sector\t\t:")};
-    const QList<QLabel*> photo = {controller->_disk,        controller->_vol_name,
-                                  controller->_file_system, controller->_size,
-                                  controller->_start_sector_entire, controller->_end_sector_entire};
-    const QList<QLabel*> sig = {controller->_disk_Sig,        controller->_vol_name_Sig,
-                                controller->_file_system_Sig, controller->_size_Sig,
-                                controller->_start_sector_entire_Sig, controller->_end_sector_entire_Sig};
+    const QList<QLabel*> photo = {controller->_disk,
+                                  controller->_vol_name,
+                                  controller->_file_system,
+                                  controller->_size,
+                                  controller->_start_sector_entire,
+                                  controller->_end_sector_entire};
+    const QList<QLabel*> sig = {controller->_disk_Sig,
+                                controller->_vol_name_Sig,
+                                controller->_file_system_Sig,
+                                controller->_size_Sig,
+                                controller->_start_sector_entire_Sig,
+                                controller->_end_sector_entire_Sig};
     for (qsizetype i = 0; i < captions.size(); ++i) {
         EXPECT_EQ(photo.at(i)->text(), captions.at(i));
         EXPECT_EQ(sig.at(i)->text(), captions.at(i));
@@ -44,8 +50,9 @@ TEST_F(Start, TheColonsOfTheCaptionsLineUp) {
 TEST_F(Start, HelpAndProgressTexts) {
     open();
     EXPECT_EQ(controller->_help_info->text(),
-              QStringLiteral("\nSelect the storage media from List from which you want to recover Data. Press ‘Next’ "
-                             "button to continue... "));
+              QStringLiteral(
+                  "\nSelect the storage media from List from which you want to recover Data. Press ‘Next’ "
+                  "button to continue... "));
     EXPECT_EQ(controller->_sector_label->text(), QStringLiteral("Sectors 0 of 0"));
 }
 
@@ -109,12 +116,14 @@ TEST_F(Start, FitsASmallScreenAndALargeOne) {
         for (const auto* label : controller->window->findChildren<QLabel*>()) {
             if (label->isVisible() && !label->text().isEmpty() && !label->wordWrap()) {
                 EXPECT_GE(label->width(), label->sizeHint().width()) << label->objectName().toStdString();
-                EXPECT_GE(label->height(), label->fontMetrics().height()) << label->objectName().toStdString();
+                EXPECT_GE(label->height(), label->fontMetrics().height())
+                    << label->objectName().toStdString();
             }
         }
         for (const auto* button : controller->window->findChildren<QPushButton*>()) {
             if (button->isVisible()) {
-                EXPECT_GE(button->width(), button->minimumSizeHint().width()) << button->objectName().toStdString();
+                EXPECT_GE(button->width(), button->minimumSizeHint().width())
+                    << button->objectName().toStdString();
                 EXPECT_LE(button->mapTo(controller->window, button->rect().bottomRight()).y(),
                           controller->window->height());
             }

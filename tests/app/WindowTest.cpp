@@ -119,7 +119,8 @@ WindowTest::WindowTest() {
         return true;
     };
     parts.terminate = [this] { ++terminations; };
-    QFile::copy(QStringLiteral(VANTOR_SOURCE_DIR "/resources/NoPreview.png"), folder.filePath(QStringLiteral("NoPreview.png")));
+    QFile::copy(QStringLiteral(VANTOR_SOURCE_DIR "/resources/NoPreview.png"),
+                folder.filePath(QStringLiteral("NoPreview.png")));
 }
 
 WindowTest::~WindowTest() {
@@ -131,18 +132,21 @@ WindowTest::~WindowTest() {
 void WindowTest::open() {
     controller = std::make_unique<MyTableController>(parts);
     controller->awakeFromNib();
-    QTest::qWait(1);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(controller->window));
 }
 
 void WindowTest::openWithCard() {
     source->add(QStringLiteral("sdb1"), QStringLiteral("CANON_DC"), card.bytes.size());
     writeCatalogue("ZelExt2.dll", record("JPG", "FFD8FF", "JPEG picture"));
     writeCatalogue("ZelExt2Adv.dll", record("GIF", "474946", "GIF picture"));
-    writeCatalogue("ZelVideo.dll", record("MP4", "66747970", "MPEG-4 movie", "5") + record("AVI", "52494646", "AVI movie"));
+    writeCatalogue("ZelVideo.dll",
+                   record("MP4", "66747970", "MPEG-4 movie", "5") + record("AVI", "52494646", "AVI movie"));
     writeCatalogue("ZelVideoAdv.dll", record("FLV", "464C56", "Flash movie"));
-    writeCatalogue("ZelRaw.dll", record("PDF", "25504446", "PDF document") + record("ZIP", "504B0304", "ZIP archive") +
+    writeCatalogue("ZelRaw.dll", record("PDF", "25504446", "PDF document") +
+                                     record("ZIP", "504B0304", "ZIP archive") +
                                      record("doc", "D0CF11E0", "Word document"));
-    writeCatalogue("ZelRawAdv.dll", record("TXT", "54455854", "Text") + record("PDF", "255044462D", "Other PDF"));
+    writeCatalogue("ZelRawAdv.dll",
+                   record("TXT", "54455854", "Text") + record("PDF", "255044462D", "Other PDF"));
     card.put(4, "\xFF\xD8\xFF").put(10, "\xFF\xD8\xFF").put(20, "GIF");
     card.put(24, "%PDF-").put(28, "PK\x03\x04").put(32, "TEXT");
     card.put(40, "ftyp", 4).put(44, "RIFF").put(50, "FLV");
@@ -180,8 +184,9 @@ void WindowTest::toFileTypes(int mode) {
 void WindowTest::scanToEnd() {
     answers.press(QStringLiteral("OK"));
     click(controller->nextButton);
-    ASSERT_TRUE(waitFor([this] { return answers.allGiven() && !controller->scanRunning() &&
-                                        controller->backButton->isEnabled(); }));
+    ASSERT_TRUE(waitFor([this] {
+        return answers.allGiven() && !controller->scanRunning() && controller->backButton->isEnabled();
+    }));
 }
 
 void WindowTest::writeCatalogue(const char* name, const QByteArray& records) {
@@ -190,10 +195,10 @@ void WindowTest::writeCatalogue(const char* name, const QByteArray& records) {
     file.write(records);
 }
 
-QByteArray WindowTest::record(const char* extension, const char* header, const char* description, const char* offset,
-                              const char* size) {
-    return QByteArray("Extension : ") + extension + "\nSize : " + size + "\nHeader :" + header + "\nOffset : " + offset +
-           "\nReserved : 0\nDescription : " + description + "\n";
+QByteArray WindowTest::record(const char* extension, const char* header, const char* description,
+                              const char* offset, const char* size) {
+    return QByteArray("Extension : ") + extension + "\nSize : " + size + "\nHeader :" + header +
+           "\nOffset : " + offset + "\nReserved : 0\nDescription : " + description + "\n";
 }
 
 }  // namespace vantor

@@ -1,4 +1,5 @@
-// The whole window over media and a resources folder that a test writes down, and somebody who answers its dialogs.
+// The whole window over media and a resources folder that a test writes down, and somebody who answers its
+// dialogs.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -54,8 +55,8 @@ struct SeenDialog {
     QString defaultButton;
 };
 
-// Answers the modal dialogs of a test in the order in which they are expected. A dialog that nobody expects is closed and
-// counted.
+// Answers the modal dialogs of a test in the order in which they are expected. A dialog that nobody expects
+// is closed and counted.
 class DialogAnswers {
   public:
     using Answer = std::function<void(QDialog*)>;
@@ -106,13 +107,13 @@ class WindowTest : public ::testing::Test {
     void scanToEnd();
 
     void writeCatalogue(const char* name, const QByteArray& records);
-    static QByteArray record(const char* extension, const char* header, const char* description, const char* offset = "1",
-                             const char* size = "1048576");
+    static QByteArray record(const char* extension, const char* header, const char* description,
+                             const char* offset = "1", const char* size = "1048576");
 
     QTemporaryDir folder;  // resources
     std::shared_ptr<ScriptedSource> source = std::make_shared<ScriptedSource>();
     ScriptedMedium card{64};
-    std::atomic<int> opened{0};         // times a medium was opened
+    std::atomic<int> opened{0};  // times a medium was opened
     std::atomic<bool> refuseOpen{false};
     ProgramParts parts;
     QStringList documentsOpened;
