@@ -258,7 +258,7 @@ std::vector<Sample> pictureSamples() {
             {"CRW", crw()},
             {"X3F", x3f()},
             {"PPM", Build().text("P6\n# by hand\n4 3\n255\n").fill(36, 0x55)},
-            {"PBM", Build().text("P4 9 2 ").fill(4, 0x55)},
+            {"PBM", Build().text("P4 9 20 ").fill(40, 0x55)},
             {"SGI", sgi()},
             {"QOI", qoi()},
             {"XPM", Build().text("/* XPM */\nstatic char *x[] = {\n\"1 1 1 1\",\n\"\\\" c };\"\n};\n")}};

@@ -1,0 +1,162 @@
+// Recovering and saving by the command against dd over the same cached card: vantor-saving-bench [ROUNDS].
+//
+// A card of 2 GiB holds 600 photos of 1 to 6 MB with random bytes between them; the second card has the files
+// of the sample card beside them, and is searched for files of all types. Card and destination lie in memory
+// (/dev/shm). Every figure is a ratio of the medians of this run.
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <functional>
+#include <random>
+#include <vector>
+
+#include "samples/CardContents.h"
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr qint64 kCardBytes = qint64{2} << 30;
+constexpr int kPhotos = 600;
+constexpr std::size_t kOtherFiles = 65;
+constexpr qint64 kSector = 512;
+
+class Random {
+  public:
+    explicit Random(std::uint64_t seed) : m_random(seed) {}
+
+    QByteArray bytes(qint64 count) {
+        QByteArray text(count, Qt::Uninitialized);
+        for (qint64 i = 0; i + 8 <= count; i += 8) {
+            const std::uint64_t word = m_random();
+            std::memcpy(text.data() + i, &word, sizeof word);
+        }
+        return text;
+    }
+    qint64 between(qint64 least, qint64 most) {
+        return least + static_cast<qint64>(m_random() % static_cast<std::uint64_t>(most - least));
+    }
+
+  private:
+    std::mt19937_64 m_random;
+};
+
+// The markers of a photo around entropy-coded bytes as they come: random, each 0xFF stuffed.
+QByteArray photo(Random& random, qint64 bytes) {
+    static const QByteArray kHead =
+        QByteArray::fromHex("ffd8ffe000104a46494600010100000100010000ffdb004300") + QByteArray(64, 1) +
+        QByteArray::fromHex(
+            "ffc0000b080bb80fa0010122 00ffc4001400010000000000000000000000000000000000ffda0008"
+            "010100003f00");
+    QByteArray coded = random.bytes(bytes - kHead.size() - 2);
+    for (qsizetype at = coded.indexOf('\xFF'); at >= 0 && at + 1 < coded.size();
+         at = coded.indexOf('\xFF', at + 1)) {
+        coded[at + 1] = '\0';
+    }
+    coded.back() = '\0';
+    return kHead + coded + QByteArray("\xFF\xD9", 2);
+}
+
+void writePadded(QFile& card, const QByteArray& file) {
+    card.write(file);
+    card.write(QByteArray((kSector - file.size() % kSector) % kSector, '\0'));
+}
+
+// Between 1 and 6 MB, 2 MB in the mean.
+qint64 photoBytes(Random& random) {
+    const double part = static_cast<double>(random.between(0, 1000)) / 1000;
+    return 1'000'000 + static_cast<qint64>(5'000'000 * part * part * part * part);
+}
+
+std::vector<vantor::samples::CardFile> otherFiles() {
+    std::vector<vantor::samples::CardFile> files;
+    vantor::samples::addDocuments(files);
+    vantor::samples::addArchives(files);
+    vantor::samples::addMovies(files);
+    vantor::samples::addSounds(files);
+    vantor::samples::addPictures(files);
+    files.resize(std::min<std::size_t>(files.size(), kOtherFiles));
+    return files;
+}
+
+// Random bytes take up what the files leave, in equal parts between the photos.
+bool writeCard(const QString& path, const std::vector<vantor::samples::CardFile>& others) {
+    QFile card(path);
+    if (!card.open(QIODevice::WriteOnly)) {
+        return false;
+    }
+    Random random(11);
+    for (std::size_t i = 0; i < kPhotos; ++i) {
+        writePadded(card, photo(random, photoBytes(random)));
+        if (i % 8 == 0 && i / 8 < others.size()) {
+            writePadded(card, others[i / 8].bytes);
+        }
+        const qint64 even = kCardBytes / kPhotos * static_cast<qint64>(i + 1);
+        card.write(random.bytes(std::max<qint64>(0, (even - card.pos()) / kSector * kSector)));
+    }
+    card.write(random.bytes(std::max<qint64>(0, kCardBytes - card.pos())));
+    return card.flush();
+}
+
+double seconds(const std::function<void()>& work) {
+    const auto begin = Clock::now();
+    work();
+    return std::chrono::duration<double>(Clock::now() - begin).count();
+}
+
+void runOrEnd(const QByteArray& command) {
+    if (std::system(command.constData()) != 0) {
+        std::fprintf(stderr, "failed: %s\n", command.constData());
+        std::exit(1);
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    const int rounds = argc > 1 ? std::max(1, std::atoi(argv[1])) : 5;
+    const QTemporaryDir memory(QStringLiteral("/dev/shm/vantor-saving-bench-XXXXXX"));
+    const struct {
+        const char* name;
+        const char* arguments;
+        std::vector<vantor::samples::CardFile> others;
+    } cards[] = {{"600 photos, photo mode", "--mode photo", {}},
+                 {"600 photos and 65 other files, all types", "--mode rawfile", otherFiles()}};
+    for (const auto& card : cards) {
+        const QString image = memory.filePath(QStringLiteral("card.img"));
+        if (!memory.isValid() || !writeCard(image, card.others)) {
+            std::fprintf(stderr, "The card could not be made in /dev/shm.\n");
+            return 1;
+        }
+        const QByteArray dd = "dd if=" + QFile::encodeName(image) + " of=/dev/null bs=1M status=none";
+        const QByteArray out = QFile::encodeName(memory.filePath(QStringLiteral("out")));
+        const QByteArray search = QByteArray(VANTOR_CLI " ") + card.arguments;
+        const QByteArray log = QFile::encodeName(memory.filePath(QStringLiteral("log")));
+        std::vector<double> ddTimes, searchTimes, saveTimes;
+        for (int round = 0; round < rounds; ++round) {
+            ddTimes.push_back(seconds([&] { runOrEnd(dd); }));
+            searchTimes.push_back(
+                seconds([&] { runOrEnd(search + ' ' + QFile::encodeName(image) + " > /dev/null"); }));
+            saveTimes.push_back(seconds(
+                [&] { runOrEnd(search + " --save " + out + ' ' + QFile::encodeName(image) + " > " + log); }));
+            QDir(QFile::decodeName(out)).removeRecursively();
+        }
+        const auto median = [](std::vector<double> values) {
+            std::sort(values.begin(), values.end());
+            return values[values.size() / 2];
+        };
+        std::printf("%s: dd %.2f s; searched in %.1f times that, recovered and saved in %.1f times that\n",
+                    card.name, median(ddTimes), median(searchTimes) / median(ddTimes),
+                    median(saveTimes) / median(ddTimes));
+        std::fflush(stdout);
+        runOrEnd("tail -n 3 " + log);
+    }
+    return 0;
+}
