@@ -122,7 +122,7 @@ void runOrEnd(const QByteArray& command) {
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     const int rounds = argc > 1 ? std::max(1, std::atoi(argv[1])) : 5;
-    const QTemporaryDir memory(QStringLiteral("/dev/shm/vantor-saving-bench-XXXXXX"));
+    QTemporaryDir memory(QStringLiteral("/dev/shm/vantor-saving-bench-XXXXXX"));
     const struct {
         const char* name;
         const char* arguments;

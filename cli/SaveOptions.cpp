@@ -71,6 +71,7 @@ std::optional<QString> SaveOptions::read(const QCommandLineParser& parser, CliOp
     constexpr quint64 kMostPixels = std::numeric_limits<std::uint32_t>::max();
     policy.minPixels = static_cast<std::uint32_t>(std::min(*leastPixels, kMostPixels));
     options.report = parser.isSet(report);
+    policy.checksums = options.report;
     return std::nullopt;
 }
 

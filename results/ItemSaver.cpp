@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "results/FreeSpace.h"
+#include "results/SavedFiles.h"
 #include "results/Sha256.h"
 #include "results/TrueLength.h"
 #include "results/WholeFile.h"
@@ -26,13 +27,6 @@ constexpr std::size_t kChunkBytes = 1024 * 1024;
 // Reading behind carved runs that found no whole file may cost as much as one pass over the medium, and on
 // small media so much.
 constexpr std::uint64_t kLeastVainReading = std::uint64_t{4} << 30;
-
-struct SavedFile {
-    QString path;
-    QString type;
-    QByteArray sha256;
-    std::uint64_t firstSector = 0;
-};
 
 QByteArrayView asView(std::span<const std::uint8_t> bytes) {
     return {bytes.data(), static_cast<qsizetype>(bytes.size())};
@@ -47,13 +41,11 @@ std::uint64_t firstSectorOf(const FoundItem& item) {
 struct ItemSaver::State {
     bool mayGoBeyond(const FoundItem& item) const;
     void noteLength(const FoundItem& item, const TrueLength& length, std::uint64_t readBeyond);
-    QByteArray checksumBeforeWriting(const FoundItem& item, const MediumBytes& bytes,
-                                     std::uint64_t length) const;
 
     std::vector<std::uint8_t> kept;
     std::array<std::vector<std::uint8_t>, 2> chunks;
     BackgroundSha256 sum;
-    std::multimap<std::uint64_t, SavedFile> savedBySize;
+    SavedFiles saved;
     std::map<std::uint64_t, std::uint64_t> streams;  // sectors [first, end) of whole frame streams
     std::uint64_t bytesReadInVain = 0;
     std::optional<dev_t> device;  // that the destination was on first
@@ -84,25 +76,6 @@ void ItemSaver::State::noteLength(const FoundItem& item, const TrueLength& lengt
         std::uint64_t& end = streams[firstSectorOf(item)];
         end = std::max(end, firstSectorOf(item) + length.bytes / kSectorBytes);
     }
-}
-
-// Only where a file of that length was saved before, and where it costs no reading; else empty.
-QByteArray ItemSaver::State::checksumBeforeWriting(const FoundItem& item, const MediumBytes& bytes,
-                                                   std::uint64_t length) const {
-    const auto [begin, end] = savedBySize.equal_range(length);
-    if (begin == end) {
-        return {};
-    }
-    // Types that share a header share the item.
-    const auto same = std::find_if(begin, end, [first = firstSectorOf(item)](const auto& saved) {
-        return saved.second.firstSector == first;
-    });
-    if (same != end && !item.source.carved.readFailed) {
-        return same->second.sha256;
-    }
-    const auto atHand = bytes.keptFrom(0);
-    return atHand.size() < length ? QByteArray()
-                                  : Sha256::of(asView(atHand.first(static_cast<std::size_t>(length))));
 }
 
 ItemSaver::ItemSaver(const QString& destination, const SavePolicy& policy)
@@ -179,40 +152,50 @@ void ItemSaver::saveBytes(const FoundItem& item, MediumBytes& bytes, SaveOutcome
         outcome.error = QStringLiteral("The folder %1 cannot be created").arg(writing.folder);
         return;
     }
-    if (m_policy.skipDuplicates) {
-        outcome.sha256 = m_state->checksumBeforeWriting(item, bytes, outcome.bytes);
-        if (!outcome.sha256.isEmpty() && settleAsDuplicate(writing, outcome)) {
-            return;
-        }
+    if (m_policy.skipDuplicates && settleBeforeWriting(writing, bytes, outcome)) {
+        return;
     }
     if (writeFile(writing, bytes, outcome)) {
-        m_state->savedBySize.emplace(outcome.bytes,
-                                     SavedFile{outcome.path, item.type, outcome.sha256, firstSectorOf(item)});
+        m_state->saved.add(outcome.bytes, {outcome.path, item.type, outcome.sha256, firstSectorOf(item)});
     }
 }
 
-// True when the bytes were saved before and need not be written again.
-bool ItemSaver::settleAsDuplicate(const Writing& writing, SaveOutcome& outcome) const {
-    const auto [begin, end] = m_state->savedBySize.equal_range(outcome.bytes);
-    const auto sameBytes = [&](const auto& saved) { return saved.second.sha256 == outcome.sha256; };
-    auto earlier = std::find_if(begin, end, [&](const auto& saved) {
-        return sameBytes(saved) && saved.second.type == writing.item.type;
-    });
-    const bool sameType = earlier != end;
-    earlier = sameType ? earlier : std::find_if(begin, end, sameBytes);
-    if (earlier == end || QFileInfo(earlier->second.path).size() != static_cast<qint64>(outcome.bytes)) {
+// True when the bytes are known to be saved already, without reading more of the medium than was read.
+bool ItemSaver::settleBeforeWriting(const Writing& writing, MediumBytes& bytes, SaveOutcome& outcome) const {
+    SavedFiles& saved = m_state->saved;
+    const FoundItem& item = writing.item;
+    if (!saved.hasSize(outcome.bytes)) {
         return false;
     }
-    const auto path =
-        sameType ? earlier->second.path : linkAs(earlier->second.path, writing.folder, writing.name);
+    // Types that share a header share the item.
+    if (!item.source.carved.readFailed) {
+        const SavedFile* const same = saved.fromPlace(outcome.bytes, firstSectorOf(item), item.type);
+        if (same != nullptr) {
+            return settleAs(*same, writing, outcome);
+        }
+    }
+    const auto atHand = bytes.keptFrom(0);
+    if (atHand.size() < outcome.bytes) {
+        return false;
+    }
+    outcome.sha256 = Sha256::of(asView(atHand.first(static_cast<std::size_t>(outcome.bytes))));
+    const SavedFile* const same = saved.withChecksum(outcome.bytes, outcome.sha256, item.type);
+    return same != nullptr && settleAs(*same, writing, outcome);
+}
+
+// False when the bytes have to be written again all the same.
+bool ItemSaver::settleAs(const SavedFile& earlier, const Writing& writing, SaveOutcome& outcome) const {
+    const bool sameType = earlier.type == writing.item.type;
+    const auto path = sameType ? earlier.path : linkAs(earlier.path, writing.folder, writing.name);
     if (!path) {
         return false;
     }
     outcome.path = *path;
+    outcome.sha256 = earlier.sha256;
     outcome.saved = outcome.duplicate = true;
     if (!sameType) {
-        SavedFile second{*path, writing.item.type, outcome.sha256, firstSectorOf(writing.item)};
-        m_state->savedBySize.emplace(outcome.bytes, std::move(second));
+        m_state->saved.add(outcome.bytes,
+                           {*path, writing.item.type, earlier.sha256, firstSectorOf(writing.item)});
     }
     return true;
 }
@@ -224,8 +207,12 @@ bool ItemSaver::writeFile(const Writing& writing, MediumBytes& bytes, SaveOutcom
         return false;
     }
     WholeFile file(writing.folder);
-    const bool checksumWasKnown = !outcome.sha256.isEmpty();
-    const std::uint64_t done = copyBytes(bytes, file, outcome);
+    const bool sizeIsKnown = m_policy.skipDuplicates && m_state->saved.hasSize(outcome.bytes);
+    const bool summing = outcome.sha256.isEmpty() && (m_policy.checksums || sizeIsKnown);
+    const std::uint64_t done = copyBytes(outcome.bytes, bytes, file, summing);
+    if (summing) {
+        outcome.sha256 = m_state->sum.result();
+    }
     outcome.sectorsUnreadable = bytes.sectorsUnreadable(done);
     if (file.isGood() && done < outcome.bytes) {
         if (done == 0) {
@@ -237,9 +224,12 @@ bool ItemSaver::writeFile(const Writing& writing, MediumBytes& bytes, SaveOutcom
     } else if (outcome.sectorsUnreadable != 0 && outcome.verdict == Verdict::Complete) {
         outcome.verdict = Verdict::Damaged;
     }
-    if (m_policy.skipDuplicates && file.isGood() && !checksumWasKnown &&
-        settleAsDuplicate(writing, outcome)) {
-        return false;
+    if (sizeIsKnown && summing && file.isGood()) {
+        const SavedFile* const same =
+            m_state->saved.withChecksum(outcome.bytes, outcome.sha256, writing.item.type);
+        if (same != nullptr && settleAs(*same, writing, outcome)) {
+            return false;
+        }
     }
     if (const auto seconds = outcome.taken ? secondsOf(*outcome.taken) : std::nullopt) {
         file.setModificationTime(*seconds);
@@ -255,10 +245,10 @@ bool ItemSaver::writeFile(const Writing& writing, MediumBytes& bytes, SaveOutcom
 }
 
 // Bytes written; fewer than asked where the medium or the file failed.
-std::uint64_t ItemSaver::copyBytes(MediumBytes& bytes, WholeFile& file, SaveOutcome& outcome) const {
-    const bool checksumKnown = !outcome.sha256.isEmpty();
+std::uint64_t ItemSaver::copyBytes(std::uint64_t length, MediumBytes& bytes, WholeFile& file,
+                                   bool summing) const {
     std::uint64_t done = 0;
-    for (std::size_t turn = 0; done < outcome.bytes && file.isGood(); ++turn) {
+    for (std::size_t turn = 0; done < length && file.isGood(); ++turn) {
         auto stretch = bytes.keptFrom(done);
         if (stretch.empty()) {
             // The checksum may still be busy with the other chunk.
@@ -266,19 +256,16 @@ std::uint64_t ItemSaver::copyBytes(MediumBytes& bytes, WholeFile& file, SaveOutc
             chunk.resize(kChunkBytes);
             stretch = std::span(chunk).first(bytes.readPast(done, chunk));
         }
-        const std::uint64_t count = std::min<std::uint64_t>(stretch.size(), outcome.bytes - done);
+        const std::uint64_t count = std::min<std::uint64_t>(stretch.size(), length - done);
         if (count == 0) {
             break;
         }
         stretch = stretch.first(static_cast<std::size_t>(count));
-        if (!checksumKnown) {
+        if (summing) {
             m_state->sum.add(asView(stretch));
         }
         file.write(asView(stretch));
         done += count;
-    }
-    if (!checksumKnown) {
-        outcome.sha256 = m_state->sum.result();
     }
     return done;
 }

@@ -16,6 +16,7 @@
 
 namespace vantor {
 
+struct SavedFile;
 class WholeFile;
 
 // Why an item was not written although nothing failed.
@@ -36,7 +37,7 @@ struct SaveOutcome {
     std::optional<CivilTime> taken;  // also the file's modification time
     std::uint32_t width = 0;         // pixels; 0: not told
     std::uint32_t height = 0;
-    QByteArray sha256;  // raw
+    QByteArray sha256;  // raw; may be empty where the policy asks for none
 };
 
 struct FoundItem {
@@ -72,8 +73,9 @@ class ItemSaver {
     bool destinationIsThere(SaveOutcome& outcome) const;
     bool decideLength(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const;
     void saveBytes(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const;
-    bool settleAsDuplicate(const Writing& writing, SaveOutcome& outcome) const;
-    std::uint64_t copyBytes(MediumBytes& bytes, WholeFile& file, SaveOutcome& outcome) const;
+    bool settleBeforeWriting(const Writing& writing, MediumBytes& bytes, SaveOutcome& outcome) const;
+    bool settleAs(const SavedFile& earlier, const Writing& writing, SaveOutcome& outcome) const;
+    std::uint64_t copyBytes(std::uint64_t length, MediumBytes& bytes, WholeFile& file, bool summing) const;
     bool writeFile(const Writing& writing, MediumBytes& bytes, SaveOutcome& outcome) const;
 
     QString m_destination;

@@ -11,6 +11,7 @@ struct SavePolicy {
     bool skipDuplicates = true;   // bytes that were saved before are not written again
     std::uint64_t minBytes = 0;   // smaller files are left out
     std::uint32_t minPixels = 0;  // pictures whose longer side has fewer pixels are left out
+    bool checksums = true;        // a checksum of every file, as the report tells it
     bool skipUnsound = false;     // what is certainly no file of its type is left out
 };
 

@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QCryptographicHash>
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 
@@ -30,9 +31,12 @@ class PhotoItemBuffer {
         m_overflow->addData(QByteArrayView(bytes, kSectorBytes));
     }
 
-    // Keeps the memory for the next item unless somebody still holds these bytes.
+    // Room as large as the largest item so far is asked for at once, since growing step by step copies each
+    // item once more. The old bytes are left to whoever still holds them.
     void clear() {
-        m_bytes.resize(0);
+        m_room = std::max(m_room, m_bytes.size());
+        m_bytes = QByteArray();
+        m_bytes.reserve(m_room);
         m_size = 0;
         m_overflow.reset();
     }
@@ -44,6 +48,7 @@ class PhotoItemBuffer {
 
   private:
     QByteArray m_bytes;
+    qsizetype m_room = 0;  // bytes
     std::uint64_t m_size = 0;
     std::optional<QCryptographicHash> m_overflow;
 };

@@ -177,21 +177,31 @@ TEST(ItemSaver, LongUnreadableStretchBehindTheCarvedRunEndsTheFile) {
     EXPECT_EQ(outcome.sectorsUnreadable, 0U);
 }
 
-TEST(ItemSaver, SameBytesAreSavedOnce) {
+class SameBytes : public testing::TestWithParam<bool> {};
+
+INSTANTIATE_TEST_SUITE_P(Checksums, SameBytes, testing::Bool());
+
+TEST_P(SameBytes, AreSavedOnce) {
     const QByteArray wav = wavFile(kWavBytes);
-    ScriptedMedium medium = mediumWith(wav, 10, 600);
+    const QByteArray other = wavFile(kWavBytes, 2);
+    ScriptedMedium medium = mediumWith(wav, 10, 1000);
     std::memcpy(medium.bytes.at(300).data(), wav.data(), static_cast<std::size_t>(wav.size()));
+    std::memcpy(medium.bytes.at(700).data(), other.data(), static_cast<std::size_t>(other.size()));
     ScriptedReader reader(medium);
     const QTemporaryDir folder;
-    const ItemSaver saver(folder.path());
+    SavePolicy policy;
+    policy.checksums = GetParam();
+    const ItemSaver saver(folder.path(), policy);
     const SaveOutcome first = saver.saveRuns("WAV", "a.WAV", run(10, 60), reader);
     const SaveOutcome again = saver.saveRuns("WAV", "b.WAV", run(300, 600), reader);
+    const SaveOutcome sameSizeOnly = saver.saveRuns("WAV", "d.WAV", run(700, 701), reader);
+    EXPECT_TRUE(sameSizeOnly.saved && !sameSizeOnly.duplicate);
     const SaveOutcome otherType = saver.saveRuns("RMI", "c.RMI", run(10, 60), reader);
     EXPECT_FALSE(first.duplicate);
     ASSERT_TRUE(again.saved && again.duplicate);
     EXPECT_EQ(again.path, first.path);
     ASSERT_TRUE(otherType.saved && otherType.duplicate);
-    EXPECT_EQ(filesUnder(folder.path()), QStringList({"RMI/c.RMI", "WAV/a.WAV"}));
+    EXPECT_EQ(filesUnder(folder.path()), QStringList({"RMI/c.RMI", "WAV/a.WAV", "WAV/d.WAV"}));
     struct stat one {
     }, other{};
     ::stat(first.path.toLocal8Bit().constData(), &one);
