@@ -1,16 +1,14 @@
 // Publishing, saving and checksumming without a window.
 #include "cli/CliSession.h"
 
-#include <QCryptographicHash>
 #include <QJsonArray>
 
 #include "results/PreviewCopy.h"
+#include "results/Sha256.h"
 
 namespace vantor {
 
 namespace {
-
-constexpr qsizetype kFailuresTold = 20;
 
 QString outcomeText(PassOutcome outcome) {
     switch (outcome) {
@@ -50,9 +48,6 @@ CliView::CliView(const CliOptions& options, std::uint64_t mediumSectors)
 CliSession::CliSession(const CliOptions& options, std::uint64_t mediumSectors)
     : CliView(options, mediumSectors), ScanSession(static_cast<CliView&>(*this)), m_options(options) {
     Recovery_MODE = options.mode;
-    if (!options.saveFolder.isEmpty()) {
-        m_saver.emplace(options.saveFolder);
-    }
 }
 
 CliSession::~CliSession() = default;
@@ -86,12 +81,38 @@ QStringList CliSession::chooseTypes(const QStringList& types) {
 }
 
 void CliSession::run() {
+    if (!m_options.saveFolder.isEmpty()) {
+        m_queue = std::make_unique<SaveQueue>(
+            m_options.saveFolder, m_options.savePolicy, [this] { return openMedium(); },
+            [this](const SaveTask&, const SaveOutcome& outcome) { m_outcomes.push_back(outcome); });
+    }
     if (m_options.mode == kPhotoMode) {
         Photo_Rec_Thread();
     } else {
         Raw_File_Rec_Thread();
     }
-    m_savingMedium.reset();
+    finishSaving();
+}
+
+void CliSession::finishSaving() {
+    if (!m_queue) {
+        return;
+    }
+    m_queue.reset();
+    for (std::size_t i = 0; i < m_outcomes.size(); ++i) {
+        const PublishedItem& item = m_published[i];
+        m_tally.add(item.name, m_outcomes[i]);
+        m_reported.push_back(
+            {item.name, item.type, item.firstSector, item.endSector, std::move(m_outcomes[i])});
+    }
+    m_outcomes.clear();
+}
+
+// Called for every item that is published, just before it is.
+void CliSession::save(const PublishedItem& item, const QByteArray& firstBytes) {
+    if (m_queue) {
+        m_queue->add({item.type, item.name, handOver().carved, firstBytes});
+    }
 }
 
 void CliSession::publish(PublishedItem item) {
@@ -107,11 +128,9 @@ void CliSession::addImageWithData(const QByteArray& data, const QString& imageNa
                            image_UID,   carve.firstSector, carve.firstSector + carve.bytes / kSectorBytes,
                            carve.bytes, carve.sha256};
         if (m_options.listJson && item.sha256.isEmpty()) {
-            item.sha256 = QCryptographicHash::hash(data, QCryptographicHash::Sha256);
+            item.sha256 = Sha256::of(data);
         }
-        if (m_saver) {
-            tally(item, save(item, data));
-        }
+        save(item, data);
         publish(std::move(item));
     }
     ScanSession::addImageWithData(data, imageName, image_UID);
@@ -133,36 +152,8 @@ void CliSession::addImageWithData_2(const QByteArray& data, const QString& image
                        File_End_Sec,
                        (File_End_Sec - File_Start_Sec) * kSectorBytes,
                        {}};
-    if (m_saver) {
-        tally(item, save(item, {}));
-    }
+    save(item, {});
     publish(std::move(item));
-}
-
-SectorReader* CliSession::mediumForSaving() {
-    if (!m_savingMedium) {
-        m_savingMedium = openMedium();
-    }
-    return m_savingMedium.get();
-}
-
-SaveOutcome CliSession::save(const PublishedItem& item, QByteArrayView firstBytes) {
-    const std::uint64_t sectors = rangeControls(ControlSet::Photo).sectors.toULongLong();
-    return m_saver->save({item.type,
-                          item.name,
-                          {handOver().carved, firstBytes, [this] { return mediumForSaving(); }, sectors}});
-}
-
-void CliSession::tally(const PublishedItem& item, const SaveOutcome& outcome) {
-    if (outcome.saved) {
-        ++m_tally.saved;
-        m_tally.withUnreadableSectors +=
-            outcome.sectorsUnreadable != 0 || handOver().carved.readFailed ? 1 : 0;
-        return;
-    }
-    if (m_tally.failed++ < kFailuresTold) {
-        m_tally.failures.append(QStringLiteral("%1: %2").arg(item.name, outcome.error));
-    }
 }
 
 void CliSession::checksumRawItems() {
@@ -171,11 +162,11 @@ void CliSession::checksumRawItems() {
     }
     const std::atomic<int> neverStop{0};
     for (PublishedItem& item : m_published) {
-        QCryptographicHash hash(QCryptographicHash::Sha256);
+        Sha256 hash;
         if (const auto medium = openMedium()) {
             copyPreviewSectors(
                 *medium, item.firstSector, item.endSector, neverStop, [&](const std::uint8_t* sector) {
-                    hash.addData(QByteArrayView(reinterpret_cast<const char*>(sector), kSectorBytes));
+                    hash.add(QByteArrayView(reinterpret_cast<const char*>(sector), kSectorBytes));
                     return true;
                 });
         }

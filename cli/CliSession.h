@@ -8,7 +8,9 @@
 #include <optional>
 
 #include "cli/Options.h"
-#include "results/ItemSaver.h"
+#include "results/RecoveryReport.h"
+#include "results/SaveQueue.h"
+#include "results/SaveTally.h"
 #include "scan/ScanSession.h"
 
 namespace vantor {
@@ -23,13 +25,6 @@ struct PublishedItem {
     std::uint64_t endSector = 0;  // exclusive
     std::uint64_t bytes = 0;
     QByteArray sha256;  // raw; of raw items only once they were checksummed
-};
-
-struct SaveTally {
-    std::uint64_t saved = 0;
-    std::uint64_t failed = 0;
-    std::uint64_t withUnreadableSectors = 0;
-    QStringList failures;  // the first few, a sentence each
 };
 
 // The view of a scan that nobody watches: it answers from the options and keeps the alerts.
@@ -84,7 +79,8 @@ class CliSession : private CliView, public ScanSession {
     QStringList chooseTypes(const QStringList& types);
     void chooseAllTypes();
 
-    // Both passes; returns when the scan has ended. Items are saved as they are published.
+    // Both passes; returns when the scan has ended and all that it published is saved. Items are saved while
+    // the scan goes on.
     void run();
 
     // Checksums of raw items, from a copy of their sectors as the preview makes it.
@@ -94,6 +90,8 @@ class CliSession : private CliView, public ScanSession {
 
     const std::vector<PublishedItem>& published() const { return m_published; }
     const SaveTally& saveTally() const { return m_tally; }
+    // Every published item with what became of it; without a destination none.
+    const std::vector<ReportedItem>& reportedItems() const { return m_reported; }
     using CliView::alerts;
     std::size_t publishedCount() const { return m_publishedCount; }  // any thread
 
@@ -103,15 +101,15 @@ class CliSession : private CliView, public ScanSession {
     void addImageWithData_2(const QByteArray& data, const QString& imageName, const QString& image_UID,
                             std::uint64_t File_Start_Sec, std::uint64_t File_End_Sec) override;
     void publish(PublishedItem item);
-    void tally(const PublishedItem& item, const SaveOutcome& outcome);
-    SaveOutcome save(const PublishedItem& item, QByteArrayView firstBytes);
-    SectorReader* mediumForSaving();
+    void save(const PublishedItem& item, const QByteArray& firstBytes);
+    void finishSaving();
 
     CliOptions m_options;
-    std::optional<ItemSaver> m_saver;
-    std::unique_ptr<SectorReader> m_savingMedium;
     std::vector<PublishedItem> m_published;
     std::atomic<std::size_t> m_publishedCount{0};
+    std::vector<SaveOutcome> m_outcomes;  // in the order of m_published; the saving thread's until it ends
+    std::unique_ptr<SaveQueue> m_queue;   // while a scan runs that saves
+    std::vector<ReportedItem> m_reported;
     SaveTally m_tally;
 };
 

@@ -4,6 +4,7 @@
 #include <QCommandLineParser>
 
 #include "catalogue/ResourcesFolder.h"
+#include "cli/SaveOptions.h"
 #include "cli/Version.h"
 
 namespace vantor {
@@ -62,10 +63,7 @@ ParsedOptions parseOptions(const QStringList& arguments) {
     const QCommandLineOption catalogue(QStringLiteral("catalogue"),
                                        QStringLiteral("Folder of the six signature catalogues."),
                                        QStringLiteral("DIR"), resourcesFolder());
-    const QCommandLineOption save(
-        QStringLiteral("save"),
-        QStringLiteral("Save what is found as DIR/<type>/<name>; nothing is overwritten."),
-        QStringLiteral("DIR"));
+    const SaveOptions saving;
     const QCommandLineOption listJson(
         QStringLiteral("list-json"),
         QStringLiteral("Print one JSON object a found item, and one for the end."));
@@ -73,7 +71,8 @@ ParsedOptions parseOptions(const QStringList& arguments) {
         QStringLiteral("list-media"),
         QStringLiteral("Print the storage media of this machine (with --list-json as "
                        "JSON) and search nothing."));
-    parser.addOptions({help, version, mode, types, range, noThorough, catalogue, save, listJson, listMedia});
+    parser.addOptions({help, version, mode, types, range, noThorough, catalogue, listJson, listMedia});
+    saving.addTo(parser);
     parser.addPositionalArgument(
         QStringLiteral("MEDIUM"),
         QStringLiteral("An image file, a device's identifier (sdb1) or its path (/dev/sdb1)."));
@@ -115,9 +114,8 @@ ParsedOptions parseOptions(const QStringList& arguments) {
     }
     options.thorough = !parser.isSet(noThorough);
     options.catalogueFolder = parser.value(catalogue);
-    options.saveFolder = parser.value(save);
-    if (parser.isSet(save) && options.saveFolder.isEmpty()) {
-        return badUsage(QStringLiteral("--save takes a folder."));
+    if (const auto complaint = saving.read(parser, options)) {
+        return badUsage(*complaint);
     }
     options.listJson = parser.isSet(listJson);
     options.listMedia = parser.isSet(listMedia);

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "results/RecoveryMode.h"
+#include "results/SavePolicy.h"
 
 namespace vantor {
 
@@ -16,6 +17,8 @@ struct CliOptions {
     bool thorough = true;
     QString catalogueFolder;
     QString saveFolder;  // empty: nothing is saved
+    SavePolicy savePolicy;
+    bool report = false;  // beside the saved files
     bool listJson = false;
     bool listMedia = false;  // nothing is searched
     QString medium;

@@ -3,6 +3,7 @@
 
 #include <unistd.h>
 
+#include <QDateTime>
 #include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
@@ -151,11 +152,8 @@ void printTable(const CliSession& session) {
 void tellSaving(const CliSession& session, const CliOptions& options) {
     const SaveTally& tally = session.saveTally();
     FILE* out = options.listJson ? stderr : stdout;
-    std::fprintf(out, "%llu saved in %s\n", static_cast<unsigned long long>(tally.saved),
-                 qPrintable(QDir(options.saveFolder).absolutePath()));
-    if (tally.withUnreadableSectors != 0) {
-        std::fprintf(out, "%llu of them have sectors that could not be read\n",
-                     static_cast<unsigned long long>(tally.withUnreadableSectors));
+    for (const QString& line : tally.lines(QDir(options.saveFolder).absolutePath())) {
+        std::fprintf(out, "%s\n", qPrintable(line));
     }
     if (tally.failed != 0) {
         complain(QStringLiteral("%1 could not be saved:").arg(tally.failed));
@@ -166,6 +164,22 @@ void tellSaving(const CliSession& session, const CliOptions& options) {
             complain(QStringLiteral("  and others"));
         }
     }
+}
+
+// False after saying why the report could not be written.
+bool writeReport(const CliSession& session, const CliOptions& options, ReportHead head) {
+    static const char* const kModes[] = {"photos", "videos", "files"};
+    head.mode = QLatin1String(kModes[options.mode]);
+    head.ended = QDateTime::currentDateTime();
+    head.searchEnded = session.lastOutcome() == PassOutcome::Completed;
+    const WrittenReport written =
+        writeReport(QDir(options.saveFolder).absolutePath(), head, session.reportedItems());
+    if (!written.error.isEmpty()) {
+        complain(written.error);
+        return false;
+    }
+    std::fprintf(options.listJson ? stderr : stdout, "Report: %s\n", qPrintable(written.html));
+    return true;
 }
 
 int exitCodeOf(const CliSession& session) {
@@ -205,6 +219,10 @@ int recover(const CliOptions& options) {
         return kExitDestinationTrouble;
     }
 
+    ReportHead head;
+    head.medium = options.medium;
+    head.sectors = medium.sectors;
+    head.begun = QDateTime::currentDateTime();
     CliSession session(options, medium.sectors);
     session.setMediumOpener(medium.open);
     session.loadCatalogues(options.catalogueFolder);
@@ -229,6 +247,9 @@ int recover(const CliOptions& options) {
     }
     if (!options.saveFolder.isEmpty()) {
         tellSaving(session, options);
+    }
+    if (options.report && !writeReport(session, options, head)) {
+        return kExitDestinationTrouble;
     }
     return exitCodeOf(session);
 }

@@ -1,0 +1,87 @@
+// Counting, and the sentences that say the counts.
+#include "results/SaveTally.h"
+
+#include <QLocale>
+
+namespace vantor {
+
+void SaveTally::add(const QString& name, const SaveOutcome& outcome) {
+    if (outcome.leftOut != LeftOut::No) {
+        ++(outcome.leftOut == LeftOut::TooSmall ? tooSmall : unsound);
+        return;
+    }
+    if (!outcome.saved) {
+        if (failed++ < static_cast<std::uint64_t>(kFailuresTold)) {
+            failures.append(QStringLiteral("%1: %2").arg(name, outcome.error));
+        }
+        return;
+    }
+    if (outcome.duplicate) {
+        ++duplicates;
+        return;
+    }
+    ++saved;
+    bytes += outcome.bytes;
+    withUnreadableSectors += outcome.sectorsUnreadable != 0 ? 1 : 0;
+    switch (outcome.verdict) {
+        case Verdict::Complete:
+            ++complete;
+            break;
+        case Verdict::CutOff:
+            ++cutOff;
+            break;
+        case Verdict::Damaged:
+            ++damaged;
+            break;
+        case Verdict::Unknown:
+            ++unknownLength;
+            break;
+    }
+}
+
+QStringList SaveTally::lines(const QString& destination) const {
+    QStringList kinds;
+    const auto kind = [&kinds](std::uint64_t count, const char* text) {
+        if (count != 0) {
+            kinds.append(QStringLiteral("%1 %2").arg(count).arg(QLatin1String(text)));
+        }
+    };
+    kind(complete, "complete");
+    kind(cutOff, "cut off");
+    kind(damaged, "damaged");
+    kind(unknownLength, "of unknown length");
+    QStringList lines;
+    QString first = QStringLiteral("%1 saved in %2").arg(saved).arg(destination);
+    if (saved != 0) {
+        first += QStringLiteral(" (%1): %2")
+                     .arg(QLocale::c().formattedDataSize(static_cast<qint64>(bytes)),
+                          kinds.join(QStringLiteral(", ")));
+    }
+    lines.append(first);
+    const auto line = [&lines](std::uint64_t count, const char* text) {
+        if (count != 0) {
+            lines.append(QStringLiteral("%1 %2").arg(count).arg(QLatin1String(text)));
+        }
+    };
+    line(withUnreadableSectors, "of them have sectors that could not be read");
+    line(duplicates, "not written again: the same bytes are saved already");
+    line(tooSmall, "left out: smaller than asked for");
+    line(unsound, "left out: no files of their type");
+    return lines;
+}
+
+QString soundnessText(Verdict verdict) {
+    switch (verdict) {
+        case Verdict::Complete:
+            return QStringLiteral("complete");
+        case Verdict::CutOff:
+            return QStringLiteral("cut off");
+        case Verdict::Damaged:
+            return QStringLiteral("damaged");
+        case Verdict::Unknown:
+            break;
+    }
+    return QStringLiteral("unknown");
+}
+
+}  // namespace vantor
