@@ -8,64 +8,13 @@
 #include <random>
 
 #include "Corpus.h"
+#include "CorpusExceptions.h"
 #include "formats/Registry.h"
 
 namespace vantor::test {
 namespace {
 
 constexpr std::size_t kSector = 512;
-
-// Files whose end cannot be told to the byte, and why.
-enum class Expect {
-    Unknown,      // no walker, or the format hides its end
-    CutOff,       // not whole themselves: never said to be
-    Short,        // the format's end stands `bytes` before the file's
-    ZeroPadding,  // zeros behind it count as its own
-};
-struct Exception {
-    std::string_view path;  // part of it
-    Expect expect;
-    std::int64_t bytes;
-    std::string_view reason;
-};
-constexpr std::array kExceptions = {
-    Exception{"fixture.dmg", Expect::Unknown, 0, "a disk image tells itself by its last bytes only"},
-    Exception{"NEWSSLID.DOC", Expect::Unknown, 0, "Word 2 document, no walker"},
-    Exception{"testIBMDisplayWrite40.doc", Expect::Unknown, 0, "DisplayWrite document, no walker"},
-    Exception{"line-weights.dwg", Expect::Unknown, 0, "DWG, no walker"},
-    Exception{"test-documents-enc.rar", Expect::Unknown, 0, "block headers are encrypted"},
-    Exception{"palette_and_groups.jxl", Expect::Unknown, 0,
-              "bare JPEG XL stream: only a decoder finds the end"},
-    Exception{"jxl__xyb.jxl", Expect::Unknown, 0, "bare JPEG XL stream: only a decoder finds the end"},
-    Exception{"01r_00.pcx", Expect::Unknown, 0, "its header contradicts itself (8 bits, rows for 1 bit)"},
-    Exception{"kB-garbage-prefix.mp3", Expect::Unknown, 0, "begins with bytes that are no MP3"},
-    Exception{"sony-zv-e10.arw", Expect::CutOff, 0, "cut to 100000 bytes"},
-    Exception{"cr3/file-type__fixture__fixture.cr3", Expect::CutOff, 0, "cut to 131072 bytes"},
-    Exception{"canon-r6.cr3", Expect::CutOff, 0, "the head of a larger file"},
-    Exception{"sony-a7-xavc.MP4", Expect::CutOff, 0, "its media data was taken out"},
-    Exception{"realmedia-audio.rm", Expect::CutOff, 0, "the last 10 bytes are missing"},
-    Exception{"fixture-mpa.mp2", Expect::CutOff, 0, "cut to 16384 bytes inside a frame"},
-    Exception{"mp2/file-type__fixture__fixture.mp2", Expect::CutOff, 0, "cut to 16384 bytes inside a frame"},
-    Exception{"__ts__sample.ac3", Expect::CutOff, 0, "cut inside a frame"},
-    Exception{"IllegalArgumentException.HeifReader", Expect::CutOff, 0, "a broken file of a test suite"},
-    Exception{"testMSG_chinese.msg", Expect::Short, 1, "one byte beyond the last sector"},
-    Exception{"Olympus__C-3000__P1010006.WAV", Expect::Short, 4, "four samples more than its header counts"},
-    Exception{"Olympus__C-3000__P1010007.WAV", Expect::Short, 4, "four samples more than its header counts"},
-    Exception{"9bit.j2k", Expect::Short, 1, "one byte behind the end mark"},
-    Exception{"CRW_0305.THM", Expect::Short, 1, "one byte behind the end mark"},
-    Exception{"exifr__test__fixtures__001.tif", Expect::Short, 1, "padded to four bytes"},
-    Exception{"Bush-dog.tif", Expect::Short, 2, "padded to four bytes"},
-    Exception{"tif-with-iptc-icc-xmp.tif", Expect::Short, 3, "padded to four bytes"},
-    Exception{"test-nested-tarball.tar", Expect::ZeroPadding, 0, "not padded to a record as tar does"},
-};
-
-const Exception* exceptionFor(const std::string& path) {
-    for (const auto& exception : kExceptions) {
-        if (path.find(exception.path) != path.npos)
-            return &exception;
-    }
-    return nullptr;
-}
 
 const char* nameOf(Verdict verdict) {
     static constexpr std::array<const char*, 4> kNames = {"Unknown", "Complete", "CutOff", "Damaged"};

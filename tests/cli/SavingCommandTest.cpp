@@ -1,0 +1,185 @@
+// Saving by the command: whole files, whatever happens to the run, the disk or the program.
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/mount.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QThread>
+#include <random>
+
+#include "tests/cli/CommandRun.h"
+#include "tests/cli/Saved.h"
+
+namespace vantor {
+namespace {
+
+struct CardFile {
+    QByteArray name, type, sha256;
+    int firstSector = 0;
+    bool inOnePiece = false;
+};
+
+QList<CardFile> cardFiles() {
+    QList<CardFile> files;
+    const QList<QByteArray> lines = bytesAt(QStringLiteral(VANTOR_SAMPLE_LIST)).split('\n');
+    for (qsizetype i = 1; i < lines.size(); ++i) {
+        const QList<QByteArray> fields = lines[i].split('\t');
+        if (fields.size() >= 6) {
+            files.append(
+                {fields[0], fields[1], fields[4], fields[2].toInt(), fields[5].startsWith("in one piece")});
+        }
+    }
+    return files;
+}
+
+const QStringList kModes{"photo", "video", "rawfile"};
+
+// The checksums of all files that a run without any disturbance saves in the mode.
+QSet<QByteArray> undisturbed(const QString& mode) {
+    const QTemporaryDir folder;
+    EXPECT_EQ(runCommand({"--mode", mode, "--save", folder.path(), VANTOR_SAMPLE_CARD}).exitCode, 0);
+    return checksumsUnder(folder.path());
+}
+
+}  // namespace
+
+TEST(SavingCommand, FilesOfTheSampleCardComeBackToTheByte) {
+    const QList<CardFile> files = cardFiles();
+    ASSERT_GT(files.size(), 80);
+    QSet<QByteArray> saved;
+    QHash<int, QSet<QByteArray>> typesAt;  // sector: the types that were found there
+    for (const QString& mode : kModes) {
+        const QTemporaryDir folder;
+        const CommandRun run =
+            runCommand({"--mode", mode, "--list-json", "--save", folder.path(), VANTOR_SAMPLE_CARD});
+        ASSERT_EQ(run.exitCode, 0) << run.err.constData();
+        saved += checksumsUnder(folder.path());
+        for (const QJsonObject& item : run.json()) {
+            const QByteArray name = item["name"].toString().toLatin1();
+            typesAt[item["first_sector"].toInt()].insert(name.mid(name.lastIndexOf('.') + 1));
+        }
+    }
+    int found = 0;
+    for (const CardFile& file : files) {
+        if (!file.inOnePiece || !typesAt[file.firstSector].contains(file.type)) {
+            continue;
+        }
+        ++found;
+        EXPECT_TRUE(saved.contains(file.sha256)) << file.name.constData();
+    }
+    EXPECT_GT(found, 80);
+}
+
+TEST(SavingCommand, AsPublishedSavesExactlyWhatIsListed) {
+    for (const QString& mode : kModes) {
+        const QTemporaryDir folder;
+        const CommandRun run = runCommand(
+            {"--mode", mode, "--list-json", "--as-published", "--save", folder.path(), VANTOR_SAMPLE_CARD});
+        ASSERT_EQ(run.exitCode, 0);
+        QSet<QByteArray> listed;
+        for (const QJsonObject& item : run.json()) {
+            if (item.contains("sha256")) {
+                listed.insert(item["sha256"].toString().toLatin1());
+            }
+        }
+        EXPECT_FALSE(listed.isEmpty());
+        EXPECT_EQ(checksumsUnder(folder.path()), listed) << mode.toStdString();
+    }
+}
+
+TEST(SavingCommand, ListIsTheSameWhateverIsSaved) {
+    const QTemporaryDir folder;
+    const QByteArray plain = runCommand({"--list-json", VANTOR_SAMPLE_CARD}).out;
+    const CommandRun saving =
+        runCommand({"--list-json", "--save", folder.path(), "--report", "--by-date", VANTOR_SAMPLE_CARD});
+    EXPECT_EQ(saving.out, plain);
+}
+
+TEST(SavingCommand, SummaryAndReportAgree) {
+    const QTemporaryDir folder;
+    const CommandRun run = runCommand({"--save", folder.path(), "--report", VANTOR_SAMPLE_CARD});
+    ASSERT_EQ(run.exitCode, 0);
+    const QByteArray csv = bytesAt(folder.filePath("Recovery report.csv"));
+    const auto files = filesUnder(folder.path()).size() - 2;
+    EXPECT_EQ(csv.count(",saved,"), files);
+    EXPECT_TRUE(run.out.contains(QByteArray::number(files) + " saved in ")) << run.out.right(400).constData();
+    EXPECT_TRUE(run.out.contains(" complete"));
+    EXPECT_TRUE(run.out.contains("Recovery report.html"));
+    EXPECT_GT(bytesAt(folder.filePath("Recovery report.html")).count("<tr>"), files);
+}
+
+TEST(SavingCommand, FiltersAndDates) {
+    const QTemporaryDir folder;
+    const QString dated = folder.filePath("dated"), large = folder.filePath("large");
+    EXPECT_EQ(runCommand({"--save", dated, "--by-date", VANTOR_SAMPLE_CARD}).exitCode, 0);
+    EXPECT_FALSE(QDir(dated + "/JPG").entryList({"20??-??-??"}, QDir::Dirs).isEmpty());
+    const CommandRun filtered = runCommand({"--save", large, "--min-bytes", "100000", VANTOR_SAMPLE_CARD});
+    EXPECT_TRUE(filtered.out.contains("left out: smaller than asked for"));
+    const QStringList files = filesUnder(large);
+    EXPECT_FALSE(files.isEmpty());
+    EXPECT_LT(files.size(), filesUnder(dated).size());
+    for (const QString& file : files) {
+        EXPECT_GE(QFileInfo(large + u'/' + file).size(), 100000) << file.toStdString();
+    }
+    EXPECT_TRUE(runCommand({"--save", folder.filePath("none"), "--min-pixels", "100000", "--report",
+                            VANTOR_SAMPLE_CARD})
+                    .out.contains("left out: smaller than asked for"));
+}
+
+TEST(SavingCommand, OptionsThatMakeNoSenseAreRefused) {
+    for (const QStringList& arguments : {QStringList{"--report", "x"},
+                                         {"--as-published", "x"},
+                                         {"--min-bytes", "5", "x"},
+                                         {"--save", "/tmp", "--min-bytes", "many", "x"},
+                                         {"--save", "/tmp", "--as-published", "--by-date", "x"}}) {
+        EXPECT_EQ(runCommand(arguments).exitCode, 2) << arguments.join(' ').toStdString();
+    }
+}
+
+TEST(SavingCommand, KilledRunLeavesWholeFilesOnly) {
+    const QSet<QByteArray> whole = undisturbed("rawfile");
+    ASSERT_GT(whole.size(), 80);
+    std::mt19937 random(5);
+    int filesSeen = 0;
+    for (int turn = 0; turn < 12; ++turn) {
+        const QTemporaryDir folder;
+        QProcess process;
+        process.start(VANTOR_CLI, {"--mode", "rawfile", "--save", folder.path(), VANTOR_SAMPLE_CARD});
+        ASSERT_TRUE(process.waitForStarted());
+        while (filesUnder(folder.path()).isEmpty() && process.state() == QProcess::Running) {
+            process.waitForFinished(1);
+        }
+        QThread::usleep(random() % 200'000);
+        ::kill(static_cast<pid_t>(process.processId()), SIGKILL);
+        ASSERT_TRUE(process.waitForFinished(30000));
+        for (const QString& file : filesUnder(folder.path())) {
+            ++filesSeen;
+            EXPECT_TRUE(whole.contains(Sha256::of(bytesAt(folder.filePath(file))).toHex()))
+                << file.toStdString();
+        }
+    }
+    EXPECT_GT(filesSeen, 0);
+}
+
+TEST(SavingCommand, FullDiskLeavesWholeFilesOnlyAndTellsTheRest) {
+    const QSet<QByteArray> whole = undisturbed("photo");
+    for (const char* size : {"size=200k", "size=1m", "size=3m", "size=5m"}) {
+        const QTemporaryDir folder;
+        if (::mount("tmpfs", folder.path().toLocal8Bit().constData(), "tmpfs", 0, size) != 0) {
+            GTEST_SKIP() << "needs root to mount a small file system";
+        }
+        const CommandRun run = runCommand({"--save", folder.path(), VANTOR_SAMPLE_CARD});
+        const QStringList files = filesUnder(folder.path());
+        const QSet<QByteArray> saved = checksumsUnder(folder.path());
+        ::umount(folder.path().toLocal8Bit().constData());
+        EXPECT_EQ(run.exitCode, 6) << size;
+        EXPECT_TRUE(run.err.contains("not enough room")) << run.err.constData();
+        EXPECT_FALSE(files.isEmpty()) << size;
+        EXPECT_TRUE(whole.contains(saved)) << size;
+    }
+}
+
+}  // namespace vantor
