@@ -2,8 +2,10 @@
 #include "tests/app/WindowTest.h"
 
 #include <QAbstractButton>
+#include <QCheckBox>
 #include <QApplication>
 #include <QFile>
+#include <QLineEdit>
 #include <QPushButton>
 
 #include "wizard/Theme.h"
@@ -104,6 +106,13 @@ void pressButton(QDialog* dialog, const QString& text) {
     dialog->reject();
 }
 
+void chooseFolder(QDialog* chooser, const QString& folder) {
+    auto* name = chooser->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    ASSERT_NE(name, nullptr);
+    name->setText(folder);
+    chooser->accept();
+}
+
 WindowTest::WindowTest() {
     parts.media = source;
     parts.openMedium = [this](const QString&) -> std::unique_ptr<SectorReader> {
@@ -155,7 +164,9 @@ void WindowTest::openWithCard() {
 
 void WindowTest::click(QWidget* widget) {
     ASSERT_TRUE(widget->isVisible()) << widget->objectName().toStdString() << " is not in view";
-    QTest::mouseClick(widget, Qt::LeftButton);
+    // A tick box may be wider than what can be clicked of it.
+    const QPoint place = qobject_cast<QCheckBox*>(widget) != nullptr ? QPoint(8, widget->height() / 2) : QPoint();
+    QTest::mouseClick(widget, Qt::LeftButton, {}, place);
 }
 
 bool WindowTest::waitFor(const std::function<bool()>& condition, int milliseconds) {

@@ -82,6 +82,8 @@ class DialogAnswers {
 };
 
 void pressButton(QDialog* dialog, const QString& text);
+// Types the folder into a folder chooser and accepts it.
+void chooseFolder(QDialog* chooser, const QString& folder);
 
 class WindowTest : public ::testing::Test {
   protected:
