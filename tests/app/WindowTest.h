@@ -6,6 +6,7 @@
 
 #include <QDialog>
 #include <QMessageBox>
+#include <QPointer>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -75,7 +76,7 @@ class DialogAnswers {
     void look();
 
     QTimer m_poll;
-    QPointer<QDialog> m_last;
+    QList<QPointer<QDialog>> m_handled;  // those in view that were seen
     std::deque<Answer> m_answers;
     std::vector<SeenDialog> m_seen;
     int m_unexpected = 0;
