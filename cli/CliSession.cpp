@@ -110,9 +110,7 @@ void CliSession::addImageWithData(const QByteArray& data, const QString& imageNa
             item.sha256 = QCryptographicHash::hash(data, QCryptographicHash::Sha256);
         }
         if (m_saver) {
-            const bool wholeInMemory = static_cast<std::uint64_t>(data.size()) == carve.bytes;
-            tally(item,
-                  wholeInMemory ? m_saver->saveBytes(item.type, item.name, data) : saveFromMedium(item));
+            tally(item, save(item, data));
         }
         publish(std::move(item));
     }
@@ -136,7 +134,7 @@ void CliSession::addImageWithData_2(const QByteArray& data, const QString& image
                        (File_End_Sec - File_Start_Sec) * kSectorBytes,
                        {}};
     if (m_saver) {
-        tally(item, saveFromMedium(item));
+        tally(item, save(item, {}));
     }
     publish(std::move(item));
 }
@@ -148,14 +146,11 @@ SectorReader* CliSession::mediumForSaving() {
     return m_savingMedium.get();
 }
 
-SaveOutcome CliSession::saveFromMedium(const PublishedItem& item) {
-    SectorReader* medium = mediumForSaving();
-    if (medium == nullptr) {
-        SaveOutcome outcome;
-        outcome.error = QStringLiteral("The medium can no longer be opened");
-        return outcome;
-    }
-    return m_saver->saveRuns(item.type, item.name, handOver().carved, *medium);
+SaveOutcome CliSession::save(const PublishedItem& item, QByteArrayView firstBytes) {
+    const std::uint64_t sectors = rangeControls(ControlSet::Photo).sectors.toULongLong();
+    return m_saver->save({item.type,
+                          item.name,
+                          {handOver().carved, firstBytes, [this] { return mediumForSaving(); }, sectors}});
 }
 
 void CliSession::tally(const PublishedItem& item, const SaveOutcome& outcome) {

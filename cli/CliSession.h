@@ -104,7 +104,7 @@ class CliSession : private CliView, public ScanSession {
                             std::uint64_t File_Start_Sec, std::uint64_t File_End_Sec) override;
     void publish(PublishedItem item);
     void tally(const PublishedItem& item, const SaveOutcome& outcome);
-    SaveOutcome saveFromMedium(const PublishedItem& item);
+    SaveOutcome save(const PublishedItem& item, QByteArrayView firstBytes);
     SectorReader* mediumForSaving();
 
     CliOptions m_options;

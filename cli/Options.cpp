@@ -69,7 +69,11 @@ ParsedOptions parseOptions(const QStringList& arguments) {
     const QCommandLineOption listJson(
         QStringLiteral("list-json"),
         QStringLiteral("Print one JSON object a found item, and one for the end."));
-    parser.addOptions({help, version, mode, types, range, noThorough, catalogue, save, listJson});
+    const QCommandLineOption listMedia(
+        QStringLiteral("list-media"),
+        QStringLiteral("Print the storage media of this machine (with --list-json as "
+                       "JSON) and search nothing."));
+    parser.addOptions({help, version, mode, types, range, noThorough, catalogue, save, listJson, listMedia});
     parser.addPositionalArgument(
         QStringLiteral("MEDIUM"),
         QStringLiteral("An image file, a device's identifier (sdb1) or its path (/dev/sdb1)."));
@@ -116,7 +120,11 @@ ParsedOptions parseOptions(const QStringList& arguments) {
         return badUsage(QStringLiteral("--save takes a folder."));
     }
     options.listJson = parser.isSet(listJson);
+    options.listMedia = parser.isSet(listMedia);
     const QStringList media = parser.positionalArguments();
+    if (options.listMedia) {
+        return media.isEmpty() ? parsed : badUsage(QStringLiteral("--list-media takes no medium."));
+    }
     if (media.size() != 1) {
         return badUsage(media.isEmpty() ? QStringLiteral("No medium given.")
                                         : QStringLiteral("More than one medium given."));

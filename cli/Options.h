@@ -17,6 +17,7 @@ struct CliOptions {
     QString catalogueFolder;
     QString saveFolder;  // empty: nothing is saved
     bool listJson = false;
+    bool listMedia = false;  // nothing is searched
     QString medium;
 };
 

@@ -4,15 +4,19 @@
 #include <unistd.h>
 
 #include <QDir>
+#include <QEventLoop>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QMap>
 #include <csignal>
 #include <cstdio>
+#include <thread>
 
+#include "cli/CliMedium.h"
 #include "cli/CliSession.h"
+#include "cli/ListMedia.h"
 #include "cli/ProgressLine.h"
-#include "media/RawDevice.h"
+#include "media/PlatformMedia.h"
 #include "media/SizeText.h"
 #include "results/DestinationCheck.h"
 #include "wizard/TextHelpers.h"
@@ -22,19 +26,21 @@ namespace vantor {
 namespace {
 
 std::atomic<int>* g_stopNow = nullptr;
+std::atomic<bool>* g_walkAway = nullptr;
 
 extern "C" void requestStop(int) {
-    if (g_stopNow != nullptr) {
-        *g_stopNow = 1;
-    }
+    *g_stopNow = 1;
+    *g_walkAway = true;
 }
 
-// Ctrl-C asks for a stop as the button does; a second one ends the program.
+// Ctrl-C asks for a stop as the button does, and leaves a device alone that does not answer; a second one
+// ends the program.
 class StopOnInterrupt {
   public:
-    explicit StopOnInterrupt(std::atomic<int>& stopNow) {
+    StopOnInterrupt(std::atomic<int>& stopNow, std::atomic<bool>& walkAway) {
         static_assert(std::atomic<int>::is_always_lock_free, "written from a signal handler");
         g_stopNow = &stopNow;
+        g_walkAway = &walkAway;
         struct sigaction action {};
         action.sa_handler = requestStop;
         action.sa_flags = static_cast<int>(SA_RESETHAND);
@@ -44,28 +50,33 @@ class StopOnInterrupt {
     ~StopOnInterrupt() {
         std::signal(SIGINT, SIG_DFL);
         std::signal(SIGTERM, SIG_DFL);
-        g_stopNow = nullptr;
     }
     StopOnInterrupt(const StopOnInterrupt&) = delete;
     StopOnInterrupt& operator=(const StopOnInterrupt&) = delete;
 };
 
+// The search has a thread of its own: the request for the user's consent to read a device needs one, and the
+// main thread's events.
+void runBesideEvents(const std::function<void()>& work) {
+    QEventLoop loop;
+    std::thread worker([&] {
+        work();
+        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
+    });
+    loop.exec();
+    worker.join();
+}
+
 void complain(const QString& text) {
     std::fprintf(stderr, "vantor-recovery-cli: %s\n", qPrintable(Trim_Str(text)));
 }
 
-// A path, or the identifier of a device such as sdb1.
-QString pathOfMedium(const QString& medium) {
-    const QString node = QStringLiteral("/dev/") + medium;
-    return !QFileInfo::exists(medium) && !medium.contains(u'/') && QFileInfo::exists(node) ? node : medium;
-}
-
 // The destination, made ready; false after saying why not.
-bool prepareDestination(const CliOptions& options) {
+bool prepareDestination(const CliOptions& options, const QString& mediumPath) {
     if (options.saveFolder.isEmpty()) {
         return true;
     }
-    if (destinationIsOnMedium(options.saveFolder, options.medium)) {
+    if (destinationIsOnMedium(options.saveFolder, mediumPath)) {
         complain(QStringLiteral(
                      "%1 lies on the medium that is to be searched; saving there would overwrite what is "
                      "still to be found. Choose a folder on another disk.")
@@ -177,34 +188,36 @@ int exitCodeOf(const CliSession& session) {
 
 }  // namespace
 
-int recover(const CliOptions& asked) {
-    CliOptions options = asked;
-    options.medium = pathOfMedium(asked.medium);
-    QString whyNot;
-    const auto facts = probeMedium(options.medium, &whyNot);
-    const std::uint64_t sectors = facts ? facts->sectors : 0;
-    if (!facts) {
-        complain(QStringLiteral("%1: %2").arg(asked.medium, whyNot));
-    } else if (rangeRefused(options, sectors)) {
+int recover(const CliOptions& options) {
+    const std::unique_ptr<MediaSource> source = makePlatformMediaSource();
+    if (options.listMedia) {
+        return listMedia(*source, options.listJson);
+    }
+    std::atomic<bool> walkAway{false};
+    const CliMedium medium = findMedium(options.medium, *source, [&walkAway] { return walkAway.load(); });
+    if (!medium.complaint.isEmpty()) {
+        complain(medium.complaint);
+    }
+    if (medium.sectors != 0 && rangeRefused(options, medium.sectors)) {
         return kExitBadUsage;
     }
-    if (!prepareDestination(options)) {
+    if (!prepareDestination(options, medium.path)) {
         return kExitDestinationTrouble;
     }
 
-    CliSession session(options, sectors);
-    session.setMediumOpener([path = options.medium](const QString&) { return openMedium(path); });
+    CliSession session(options, medium.sectors);
+    session.setMediumOpener(medium.open);
     session.loadCatalogues(options.catalogueFolder);
     if (typesRefused(session, options)) {
         return kExitBadUsage;
     }
     {
-        const StopOnInterrupt interrupt(session.stop_now);
+        const StopOnInterrupt interrupt(session.stop_now, walkAway);
         std::optional<ProgressLine> line;
         if (::isatty(STDERR_FILENO) == 1) {
             line.emplace(session);
         }
-        session.run();
+        runBesideEvents([&session] { session.run(); });
     }
     for (const QString& alert : session.alerts()) {
         complain(alert);

@@ -77,14 +77,22 @@ DecodePool::DecodePool(DecodePoolOptions options)
       m_keeper([this] { keepHelpers(); }) {}
 
 DecodePool::~DecodePool() {
+    close();
     {
         std::unique_lock lock(m_mutex);
-        m_closing = true;
-        m_helperFree.notify_all();
-        m_helperWanted.notify_all();
         m_helperWanted.wait(lock, [&] { return m_callers == 0; });
     }
     m_keeper.join();
+}
+
+void DecodePool::close() {
+    const std::scoped_lock lock(m_mutex);
+    m_closing = true;
+    for (const pid_t pid : m_live) {
+        kill(pid, SIGKILL);
+    }
+    m_helperFree.notify_all();
+    m_helperWanted.notify_all();
 }
 
 QByteArray DecodePool::thumbnail(const QByteArray& encoded) {
@@ -180,27 +188,21 @@ std::unique_ptr<HelperProcess> DecodePool::acquire() {
 }
 
 void DecodePool::giveBack(std::unique_ptr<HelperProcess> helper) {
-    const bool wornOut = isWornOut(*helper);
-    const pid_t pid = helper->pid();
-    if (wornOut) {
-        helper->finish();
-    }
-    const std::scoped_lock lock(m_mutex);
-    if (wornOut) {
-        std::erase(m_live, pid);
+    if (isWornOut(*helper)) {
+        retire(*helper);
+        const std::scoped_lock lock(m_mutex);
         ++m_counts.recycled;
         m_helperWanted.notify_all();
         return;
     }
+    const std::scoped_lock lock(m_mutex);
     m_idle.push_back(std::move(helper));
     m_helperFree.notify_one();
 }
 
 void DecodePool::bury(std::unique_ptr<HelperProcess> helper, AskOutcome outcome, bool& killedFromOutside) {
-    const pid_t pid = helper->pid();
-    const decode::HelperEnd end = helper->finish();
+    const decode::HelperEnd end = retire(*helper);
     const std::scoped_lock lock(m_mutex);
-    std::erase(m_live, pid);
     if (outcome == AskOutcome::Late) {
         ++m_counts.late;
     } else if (outcome == AskOutcome::BadAnswer) {
@@ -210,6 +212,15 @@ void DecodePool::bury(std::unique_ptr<HelperProcess> helper, AskOutcome outcome,
         ++(killedFromOutside ? m_counts.killed : end.bySignal ? m_counts.crashed : m_counts.exited);
     }
     m_helperWanted.notify_all();
+}
+
+// Forgets the process before it is reaped: its number may be another's from then on.
+decode::HelperEnd DecodePool::retire(HelperProcess& helper) {
+    {
+        const std::scoped_lock lock(m_mutex);
+        std::erase(m_live, helper.pid());
+    }
+    return helper.finish();
 }
 
 bool DecodePool::isWornOut(const HelperProcess& helper) const {

@@ -62,7 +62,7 @@ class DecodePool {
     explicit DecodePool(DecodePoolOptions options = {});
     DecodePool(const DecodePool&) = delete;
     DecodePool& operator=(const DecodePool&) = delete;
-    // Waits for the calls under way, each bounded by its deadline, and ends all helpers.
+    // Closes, waits for the calls under way to return, and ends all helpers.
     ~DecodePool();
 
     // A thumbnail: the full picture, upright, longer side at most kThumbnailSide pixels and never enlarged,
@@ -73,6 +73,9 @@ class DecodePool {
     // with the few formats that carry no mark of their own.
     DecodedPicture picture(const QByteArray& encoded, QSize bound, const QString& extension = {});
     DecodedPicture picture(const QString& path, QSize bound);
+
+    // For leaving in a hurry: calls under way return at once, later ones give no picture.
+    void close();
 
     int helpers() const { return m_wanted; }
     DecodePoolCounts counts() const;
@@ -91,6 +94,7 @@ class DecodePool {
     void giveBack(std::unique_ptr<decode::HelperProcess> helper);
     void bury(std::unique_ptr<decode::HelperProcess> helper, decode::AskOutcome outcome,
               bool& killedFromOutside);
+    decode::HelperEnd retire(decode::HelperProcess& helper);
     bool isWornOut(const decode::HelperProcess& helper) const;
     void keepHelpers();
 
@@ -101,7 +105,7 @@ class DecodePool {
     std::condition_variable m_helperFree;    // for callers
     std::condition_variable m_helperWanted;  // for the keeper, and for the destructor
     std::vector<std::unique_ptr<decode::HelperProcess>> m_idle;
-    std::vector<pid_t> m_live;  // idle and busy ones
+    std::vector<pid_t> m_live;  // idle and busy ones, none of them reaped yet
     int m_callers = 0;
     bool m_cannotStart = false;
     bool m_closing = false;

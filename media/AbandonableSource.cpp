@@ -38,6 +38,7 @@ struct AbandonableSource::Shared {
     Stage stage = Stage::Working;
     bool quit = false;
     bool sourceUsable = true;
+    std::uint64_t sectors = 0;  // set before the first Idle
 
     // The request, and what became of it once the stage is Idle. The buffer is the thread's while Working,
     // the caller's otherwise.
@@ -82,6 +83,7 @@ void AbandonableSource::Shared::post(std::uint64_t atSector, std::size_t count) 
 // The thread's life after opening.
 void AbandonableSource::Shared::serve(std::unique_ptr<BlockSource> source) {
     std::unique_lock lock(mutex);
+    sectors = source->sectors();
     for (;;) {
         stage = Stage::Idle;
         callerWakes.notify_one();
@@ -162,6 +164,11 @@ std::int64_t AbandonableSource::readAt(std::uint64_t sector, std::span<std::uint
         shared.post(m_expected, count);
     }
     return got;
+}
+
+std::uint64_t AbandonableSource::sectors() const {
+    const std::lock_guard lock(m_shared->mutex);
+    return m_shared->sectors;
 }
 
 bool AbandonableSource::usable() {

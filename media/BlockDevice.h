@@ -33,6 +33,7 @@ class BlockDevice : public BlockSource {
 
     std::int64_t readAt(std::uint64_t sector, std::span<std::uint8_t> into) override;
     bool usable() override { return !m_gone; }
+    std::uint64_t sectors() const override { return m_facts.sectors; }
 
   private:
     bool sameMedium() const;

@@ -22,6 +22,9 @@ class BlockSource {
     // False when the medium is gone for good: reading and positioning then fail without asking it. Never
     // blocks.
     virtual bool usable() = 0;
+
+    // Sectors of the medium as it was opened; 0 when that is not known. Any thread.
+    virtual std::uint64_t sectors() const { return 0; }
 };
 
 }  // namespace vantor

@@ -29,7 +29,7 @@ class ImageFile : public BlockSource {
     // Null when a part cannot be opened for reading or is no regular file.
     static std::unique_ptr<ImageFile> open(const QStringList& parts);
 
-    std::uint64_t sectors() const;
+    std::uint64_t sectors() const override;
 
     std::int64_t readAt(std::uint64_t sector, std::span<std::uint8_t> into) override;
     bool usable() override { return !m_gone; }

@@ -38,4 +38,11 @@ class MediaList {
     MediaSource& m_source;
 };
 
+// The records of a fresh list, for those who need nothing else of it.
+inline QList<std::shared_ptr<MyDataObject>> listedMedia(MediaSource& source) {
+    MediaList list(source);
+    list.rebuild();
+    return list.nsMutaryOfDataObject;
+}
+
 }  // namespace vantor

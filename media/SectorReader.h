@@ -51,6 +51,9 @@ class SectorReader {
     // The 512 bytes of the last sector read; zeros before the first. Valid until the next successful read.
     const std::uint8_t* current() const { return m_current; }
 
+    // Sectors of the medium as it was opened; 0 when that is not known.
+    virtual std::uint64_t mediumSectors() const { return 0; }
+
   protected:
     // Called when nothing is fetched ahead: makes the sector at position() current(), by handOver() or by
     // setting current() through handOver() with a longer run.

@@ -10,9 +10,8 @@
 #include <QDBusObjectPath>
 #include <QDBusPendingCall>
 #include <QDBusUnixFileDescriptor>
+#include <algorithm>
 #include <atomic>
-#include <condition_variable>
-#include <mutex>
 #include <thread>
 #include <utility>
 
@@ -31,6 +30,22 @@ constexpr auto kConsentTime = 10min;  // longer than anybody takes to type a pas
 QString newConnectionName() {
     static std::atomic<int> number{0};
     return QStringLiteral("vantor-udisks-%1").arg(++number);
+}
+
+// Looks whether something is done, ever less often up to 20 times a second, until the time is over or a stop
+// is asked for.
+template <class Done>
+bool lookOften(Done done, std::chrono::milliseconds wait, const StopRequest& stop) {
+    const auto deadline = std::chrono::steady_clock::now() + wait;
+    auto pause = 1ms;
+    while (!done()) {
+        if (std::chrono::steady_clock::now() >= deadline || (stop && stop())) {
+            return false;
+        }
+        std::this_thread::sleep_for(pause);
+        pause = std::min<std::chrono::milliseconds>(2 * pause, 50ms);
+    }
+    return true;
 }
 
 // Values in a form that knows nothing of a bus.
@@ -69,9 +84,7 @@ UdisksInterfaces readInterfaces(const QDBusArgument& argument) {
 }  // namespace
 
 struct UdisksBus::Attempt {
-    std::mutex mutex;
-    std::condition_variable done;
-    bool finished = false;
+    std::atomic<bool> finished{false};
     QString name;  // of the connection, whether or not it came to be
 
     ~Attempt() { QDBusConnection::disconnectFromBus(name); }
@@ -83,7 +96,6 @@ UdisksBus::~UdisksBus() = default;
 
 bool UdisksBus::ensureConnected(std::chrono::milliseconds wait) {
     if (const auto last = this->attempt()) {
-        const std::lock_guard lock(last->mutex);
         if (!last->finished) {
             return false;  // it has had its time
         }
@@ -104,13 +116,10 @@ bool UdisksBus::ensureConnected(std::chrono::milliseconds wait) {
         } else {
             QDBusConnection::connectToBus(address, attempt->name);
         }
-        const std::lock_guard lock(attempt->mutex);
         attempt->finished = true;
-        attempt->done.notify_all();
     }).detach();
-    std::unique_lock lock(attempt->mutex);
-    attempt->done.wait_for(lock, wait, [&] { return attempt->finished; });
-    return attempt->finished && QDBusConnection(attempt->name).isConnected();
+    return lookOften([&] { return attempt->finished.load(); }, wait, {}) &&
+           connectionOf(attempt).isConnected();
 }
 
 std::shared_ptr<UdisksBus::Attempt> UdisksBus::attempt() const {
@@ -172,16 +181,7 @@ FileDescriptor UdisksBus::openDevice(const QString& node, const StopRequest& sto
 }
 
 bool waitForAnswer(const QDBusPendingCall& call, std::chrono::milliseconds wait, const StopRequest& stop) {
-    const auto deadline = std::chrono::steady_clock::now() + wait;
-    auto pause = 1ms;
-    while (!call.isFinished()) {
-        if (std::chrono::steady_clock::now() >= deadline || (stop && stop())) {
-            return false;
-        }
-        std::this_thread::sleep_for(pause);
-        pause = std::min(2 * pause, std::chrono::milliseconds(50ms));
-    }
-    return true;
+    return lookOften([&] { return call.isFinished(); }, wait, stop);
 }
 
 }  // namespace vantor

@@ -34,6 +34,9 @@ WindowedReader::WindowedReader(std::unique_ptr<BlockSource> source, Fetching fet
 WindowedReader::~WindowedReader() = default;
 
 bool WindowedReader::fetch() {
+    if (m_gone) {
+        return false;
+    }
     if (position() < m_singleUntil) {
         return fetchSingle();
     }
@@ -76,12 +79,12 @@ bool WindowedReader::fetchWindow(std::size_t wanted) {
 
 bool WindowedReader::fetchSingle() {
     stopReadingAhead();
-    if (m_refused.contains(position()) || !m_source->usable()) {
+    if (m_refused.contains(position()) || noteWhetherGone()) {
         return false;
     }
     if (!readSingle()) {
         const bool secondAttempt = std::exchange(m_windowWasFirstAttempt, false);
-        if (secondAttempt || !m_source->usable() || !readSingle()) {
+        if (secondAttempt || noteWhetherGone() || !readSingle()) {
             m_refused.add(position());
             goSingle(position());
             return false;
@@ -106,9 +109,15 @@ void WindowedReader::goSingle(std::uint64_t from) {
     m_singleUntil = std::max(m_singleUntil, from + kWindowSectors);
 }
 
+// Millions of reads and seeks may follow; none of them needs to go further than the flag.
+bool WindowedReader::noteWhetherGone() {
+    m_gone = m_gone || !m_source->usable();
+    return m_gone;
+}
+
 bool WindowedReader::moveTo(std::uint64_t) {
     stopReadingAhead();
-    return m_source->usable();
+    return !noteWhetherGone();
 }
 
 }  // namespace vantor

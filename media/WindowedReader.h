@@ -29,6 +29,8 @@ class WindowedReader : public SectorReader {
     explicit WindowedReader(std::unique_ptr<BlockSource> source, Fetching fetching = Fetching::WhenAsked);
     ~WindowedReader() override;
 
+    std::uint64_t mediumSectors() const override { return m_source->sectors(); }
+
   protected:
     bool fetch() override;
     bool moveTo(std::uint64_t sector) override;
@@ -39,6 +41,7 @@ class WindowedReader : public SectorReader {
     void stopReadingAhead();
     bool readSingle();
     void goSingle(std::uint64_t from);
+    bool noteWhetherGone();
 
     std::unique_ptr<BlockSource> m_source;
     std::unique_ptr<ReadAhead> m_ahead;  // absent when nothing is fetched ahead
@@ -50,6 +53,7 @@ class WindowedReader : public SectorReader {
     std::uint64_t m_singleUntil = 0;       // sectors before this one are read one by one
     bool m_windowWasFirstAttempt = false;  // the next refusal of a single sector is the second one
     SectorSet m_refused;
+    bool m_gone = false;
 };
 
 }  // namespace vantor

@@ -1,86 +1,286 @@
-// From an item's bytes or sectors to a whole file in its type's folder.
+// From a found item to a whole file in its type's folder: how long, whether at all, under which name,
+// written.
 #include "results/ItemSaver.h"
 
+#include <sys/stat.h>
+
 #include <QDir>
-#include <functional>
+#include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+#include <array>
+#include <map>
+#include <utility>
 #include <vector>
 
+#include "results/FreeSpace.h"
+#include "results/Sha256.h"
+#include "results/TrueLength.h"
 #include "results/WholeFile.h"
 
 namespace vantor {
 
 namespace {
 
-// UTF-16 units; 240 bytes of UTF-8 at most, which leaves room for a number within the usual 255.
-constexpr qsizetype kLongestComponent = 80;
+constexpr std::size_t kChunkBytes = 1024 * 1024;
+// Reading behind carved runs that found no whole file may cost as much as one pass over the medium, and on
+// small media so much.
+constexpr std::uint64_t kLeastVainReading = std::uint64_t{4} << 30;
 
-constexpr std::size_t kWriteChunkBytes = 256 * 1024;
+struct SavedFile {
+    QString path;
+    QString type;
+    QByteArray sha256;
+    std::uint64_t firstSector = 0;
+};
 
-SaveOutcome saveWith(const QString& destination, const QString& type, const QString& name,
-                     const std::function<void(WholeFile&, SaveOutcome&)>& fill) {
-    SaveOutcome outcome;
-    const QString folder = destination + u'/' + safePathComponent(type);
-    if (!QDir().mkpath(folder)) {
-        outcome.error = QStringLiteral("The folder %1 cannot be created").arg(folder);
-        return outcome;
-    }
-    WholeFile file(folder);
-    if (file.isGood()) {
-        fill(file, outcome);
-    }
-    if (const auto path = file.commit(safePathComponent(name))) {
-        outcome.saved = true;
-        outcome.path = *path;
-    } else {
-        outcome.error = file.error();
-    }
-    return outcome;
+QByteArrayView asView(std::span<const std::uint8_t> bytes) {
+    return {bytes.data(), static_cast<qsizetype>(bytes.size())};
+}
+
+std::uint64_t firstSectorOf(const FoundItem& item) {
+    return item.source.carved.runs.empty() ? 0 : item.source.carved.runs.front().first;
 }
 
 }  // namespace
 
-SaveOutcome ItemSaver::saveBytes(const QString& type, const QString& name, QByteArrayView bytes) const {
-    return saveWith(m_destination, type, name, [&](WholeFile& file, SaveOutcome&) { file.write(bytes); });
+struct ItemSaver::State {
+    bool mayGoBeyond(const FoundItem& item) const;
+    void noteLength(const FoundItem& item, const TrueLength& length, std::uint64_t readBeyond);
+    QByteArray checksumBeforeWriting(const FoundItem& item, const MediumBytes& bytes,
+                                     std::uint64_t length) const;
+
+    std::vector<std::uint8_t> kept;
+    std::array<std::vector<std::uint8_t>, 2> chunks;
+    BackgroundSha256 sum;
+    std::multimap<std::uint64_t, SavedFile> savedBySize;
+    std::map<std::uint64_t, std::uint64_t> streams;  // sectors [first, end) of whole frame streams
+    std::uint64_t bytesReadInVain = 0;
+    std::optional<dev_t> device;  // that the destination was on first
+};
+
+// What is being written, and where to.
+struct ItemSaver::Writing {
+    const FoundItem& item;
+    QString folder;
+    QString name;
+};
+
+// Every frame of a stream may look like a file's beginning to the catalogues; such parts are saved as they
+// were carved, or saving would cost the square of the file.
+bool ItemSaver::State::mayGoBeyond(const FoundItem& item) const {
+    if (bytesReadInVain > std::max(kLeastVainReading, item.source.mediumSectors * kSectorBytes)) {
+        return false;
+    }
+    const std::uint64_t first = firstSectorOf(item);
+    const auto after = streams.lower_bound(first);
+    return !isFrameStream(item.type) || after == streams.begin() || std::prev(after)->second <= first;
 }
 
-SaveOutcome ItemSaver::saveRuns(const QString& type, const QString& name, const CarvedRun& item,
-                                SectorReader& medium) const {
-    return saveWith(m_destination, type, name, [&](WholeFile& file, SaveOutcome& outcome) {
-        std::vector<std::uint8_t> chunk;
-        chunk.reserve(kWriteChunkBytes);
-        const auto flush = [&] {
-            const bool written = file.write({chunk.data(), static_cast<qsizetype>(chunk.size())});
-            chunk.clear();
-            return written;
-        };
-        for (const SectorRun& run : item.runs) {
-            for (std::uint64_t sector = run.first; sector < run.end; ++sector) {
-                if ((medium.position() == sector || medium.seek(sector)) && medium.read()) {
-                    chunk.insert(chunk.end(), medium.current(), medium.current() + kSectorBytes);
-                } else {
-                    ++outcome.sectorsUnreadable;
-                    chunk.insert(chunk.end(), kSectorBytes, 0);
-                }
-                if (chunk.size() == kWriteChunkBytes && !flush()) {
-                    return;
-                }
-            }
-        }
-        flush();
+void ItemSaver::State::noteLength(const FoundItem& item, const TrueLength& length, std::uint64_t readBeyond) {
+    if (length.extent.verdict != Verdict::Complete) {
+        bytesReadInVain += readBeyond;
+    } else if (isFrameStream(item.type)) {
+        std::uint64_t& end = streams[firstSectorOf(item)];
+        end = std::max(end, firstSectorOf(item) + length.bytes / kSectorBytes);
+    }
+}
+
+// Only where a file of that length was saved before, and where it costs no reading; else empty.
+QByteArray ItemSaver::State::checksumBeforeWriting(const FoundItem& item, const MediumBytes& bytes,
+                                                   std::uint64_t length) const {
+    const auto [begin, end] = savedBySize.equal_range(length);
+    if (begin == end) {
+        return {};
+    }
+    // Types that share a header share the item.
+    const auto same = std::find_if(begin, end, [first = firstSectorOf(item)](const auto& saved) {
+        return saved.second.firstSector == first;
     });
+    if (same != end && !item.source.carved.readFailed) {
+        return same->second.sha256;
+    }
+    const auto atHand = bytes.keptFrom(0);
+    return atHand.size() < length ? QByteArray()
+                                  : Sha256::of(asView(atHand.first(static_cast<std::size_t>(length))));
 }
 
-QString safePathComponent(const QString& text) {
-    static const QString kForbidden = QStringLiteral("/\\:*?\"<>|");
-    QString component;
-    for (const QChar c : text.left(kLongestComponent)) {
-        component += c.unicode() < 0x20 || c.unicode() == 0x7F || kForbidden.contains(c) ? QChar(u'_') : c;
+ItemSaver::ItemSaver(const QString& destination, const SavePolicy& policy)
+    : m_destination(destination), m_policy(policy), m_state(std::make_unique<State>()) {}
+
+ItemSaver::~ItemSaver() = default;
+
+SaveOutcome ItemSaver::saveRuns(const QString& type, const QString& name, const CarvedRun& carved,
+                                SectorReader& medium) const {
+    return save({type, name, {carved, {}, [&medium] { return &medium; }, medium.mediumSectors()}});
+}
+
+SaveOutcome ItemSaver::save(const FoundItem& item) const {
+    SaveOutcome outcome;
+    if (!destinationIsThere(outcome)) {
+        return outcome;
     }
-    // Some file systems drop blanks and dots at the end, and then two names meet.
-    while (component.endsWith(u'.') || component.endsWith(u' ')) {
-        component.chop(1);
+    ItemSource source = item.source;
+    source.asPublished = m_policy.asPublished;
+    // The published bytes of an item with failed reads repeat the sector before; its places tell better.
+    if (!m_policy.asPublished && source.carved.readFailed && !source.carved.runs.empty()) {
+        source.firstBytes = {};
     }
-    return component.isEmpty() ? QStringLiteral("_") : component;
+    MediumBytes bytes(source, m_state->kept);
+    if (decideLength(item, bytes, outcome)) {
+        saveBytes(item, bytes, outcome);
+    }
+    return outcome;
+}
+
+// A destination that was pulled out leaves a folder of its name on another disk.
+bool ItemSaver::destinationIsThere(SaveOutcome& outcome) const {
+    struct stat info {};
+    if (!m_state->device && !QDir().mkpath(m_destination)) {
+        outcome.error = QStringLiteral("The folder %1 cannot be created").arg(m_destination);
+        return false;
+    }
+    if (::stat(QFile::encodeName(m_destination).constData(), &info) != 0 ||
+        m_state->device.value_or(info.st_dev) != info.st_dev) {
+        outcome.error = QStringLiteral("The folder %1 is no longer there").arg(m_destination);
+        return false;
+    }
+    m_state->device = info.st_dev;
+    return true;
+}
+
+// False when the item is left out.
+bool ItemSaver::decideLength(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const {
+    TrueLength length{bytes.carvedBytes(), {}};
+    if (!m_policy.asPublished) {
+        length = trueLengthOf(item.type, bytes, m_state->mayGoBeyond(item));
+        m_state->noteLength(item, length, bytes.bytesReadBeyond());
+    }
+    const Facts& facts = length.extent.facts;
+    outcome.bytes = length.bytes;
+    outcome.verdict = length.extent.verdict;
+    outcome.exactLength = length.extent.verdict == Verdict::Complete && length.extent.exactEnd;
+    outcome.taken = facts.taken;
+    outcome.width = facts.width;
+    outcome.height = facts.height;
+    const std::uint32_t longerSide = std::max(facts.width, facts.height);
+    if (length.bytes < m_policy.minBytes || (longerSide != 0 && longerSide < m_policy.minPixels)) {
+        outcome.leftOut = LeftOut::TooSmall;
+    } else if (m_policy.skipUnsound && isCertainlyUnsound(item.type, length.extent)) {
+        outcome.leftOut = LeftOut::Unsound;
+    }
+    return outcome.leftOut == LeftOut::No;
+}
+
+void ItemSaver::saveBytes(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const {
+    const SavedName name = savedNameOf(item.type, item.name, m_policy.byDate ? outcome.taken : std::nullopt);
+    const Writing writing{item, m_destination + u'/' + name.folder, name.file};
+    if (!QDir().mkpath(writing.folder)) {
+        outcome.error = QStringLiteral("The folder %1 cannot be created").arg(writing.folder);
+        return;
+    }
+    if (m_policy.skipDuplicates) {
+        outcome.sha256 = m_state->checksumBeforeWriting(item, bytes, outcome.bytes);
+        if (!outcome.sha256.isEmpty() && settleAsDuplicate(writing, outcome)) {
+            return;
+        }
+    }
+    if (writeFile(writing, bytes, outcome)) {
+        m_state->savedBySize.emplace(outcome.bytes,
+                                     SavedFile{outcome.path, item.type, outcome.sha256, firstSectorOf(item)});
+    }
+}
+
+// True when the bytes were saved before and need not be written again.
+bool ItemSaver::settleAsDuplicate(const Writing& writing, SaveOutcome& outcome) const {
+    const auto [begin, end] = m_state->savedBySize.equal_range(outcome.bytes);
+    const auto sameBytes = [&](const auto& saved) { return saved.second.sha256 == outcome.sha256; };
+    auto earlier = std::find_if(begin, end, [&](const auto& saved) {
+        return sameBytes(saved) && saved.second.type == writing.item.type;
+    });
+    const bool sameType = earlier != end;
+    earlier = sameType ? earlier : std::find_if(begin, end, sameBytes);
+    if (earlier == end || QFileInfo(earlier->second.path).size() != static_cast<qint64>(outcome.bytes)) {
+        return false;
+    }
+    const auto path =
+        sameType ? earlier->second.path : linkAs(earlier->second.path, writing.folder, writing.name);
+    if (!path) {
+        return false;
+    }
+    outcome.path = *path;
+    outcome.saved = outcome.duplicate = true;
+    if (!sameType) {
+        SavedFile second{*path, writing.item.type, outcome.sha256, firstSectorOf(writing.item)};
+        m_state->savedBySize.emplace(outcome.bytes, std::move(second));
+    }
+    return true;
+}
+
+// True when a new file was written; false with an error, or when it turned out to be a duplicate.
+bool ItemSaver::writeFile(const Writing& writing, MediumBytes& bytes, SaveOutcome& outcome) const {
+    if (const auto refusal = refuseForSpace(writing.folder, outcome.bytes)) {
+        outcome.error = *refusal;
+        return false;
+    }
+    WholeFile file(writing.folder);
+    const bool checksumWasKnown = !outcome.sha256.isEmpty();
+    const std::uint64_t done = copyBytes(bytes, file, outcome);
+    outcome.sectorsUnreadable = bytes.sectorsUnreadable(done);
+    if (file.isGood() && done < outcome.bytes) {
+        if (done == 0) {
+            outcome.error = QStringLiteral("The medium cannot be read any more");
+            return false;
+        }
+        outcome.bytes = done;
+        outcome.verdict = Verdict::CutOff;
+    } else if (outcome.sectorsUnreadable != 0 && outcome.verdict == Verdict::Complete) {
+        outcome.verdict = Verdict::Damaged;
+    }
+    if (m_policy.skipDuplicates && file.isGood() && !checksumWasKnown &&
+        settleAsDuplicate(writing, outcome)) {
+        return false;
+    }
+    if (const auto seconds = outcome.taken ? secondsOf(*outcome.taken) : std::nullopt) {
+        file.setModificationTime(*seconds);
+    }
+    const auto path = file.commit(writing.name);
+    if (!path) {
+        outcome.error = file.error();
+        return false;
+    }
+    outcome.saved = true;
+    outcome.path = *path;
+    return true;
+}
+
+// Bytes written; fewer than asked where the medium or the file failed.
+std::uint64_t ItemSaver::copyBytes(MediumBytes& bytes, WholeFile& file, SaveOutcome& outcome) const {
+    const bool checksumKnown = !outcome.sha256.isEmpty();
+    std::uint64_t done = 0;
+    for (std::size_t turn = 0; done < outcome.bytes && file.isGood(); ++turn) {
+        auto stretch = bytes.keptFrom(done);
+        if (stretch.empty()) {
+            // The checksum may still be busy with the other chunk.
+            auto& chunk = m_state->chunks[turn % 2];
+            chunk.resize(kChunkBytes);
+            stretch = std::span(chunk).first(bytes.readPast(done, chunk));
+        }
+        const std::uint64_t count = std::min<std::uint64_t>(stretch.size(), outcome.bytes - done);
+        if (count == 0) {
+            break;
+        }
+        stretch = stretch.first(static_cast<std::size_t>(count));
+        if (!checksumKnown) {
+            m_state->sum.add(asView(stretch));
+        }
+        file.write(asView(stretch));
+        done += count;
+    }
+    if (!checksumKnown) {
+        outcome.sha256 = m_state->sum.result();
+    }
+    return done;
 }
 
 }  // namespace vantor

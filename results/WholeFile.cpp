@@ -28,6 +28,21 @@ QString numberedName(const QString& name, int n) {
     return name.left(cut) + QStringLiteral(" (%1)").arg(n) + name.mid(cut);
 }
 
+// The first of the numbered paths that `take` accepts; it refuses with errno EEXIST what is taken.
+template <typename Take>
+std::optional<QString> firstFreeName(const QString& folder, const QString& name, const Take& take) {
+    for (int n = 1; n <= kMostNamesTried; ++n) {
+        const QString path = folder + u'/' + numberedName(name, n);
+        if (take(QFile::encodeName(path))) {
+            return path;
+        }
+        if (errno != EEXIST) {
+            break;
+        }
+    }
+    return std::nullopt;
+}
+
 }  // namespace
 
 WholeFile::WholeFile(const QString& folder) : m_folder(folder) {
@@ -74,6 +89,11 @@ bool WholeFile::write(QByteArrayView bytes) {
     return isGood();
 }
 
+bool WholeFile::setModificationTime(std::int64_t seconds) {
+    const struct timespec times[] = {{0, UTIME_OMIT}, {static_cast<time_t>(seconds), 0}};
+    return isGood() && ::futimens(m_fd, times) == 0;
+}
+
 std::optional<QString> WholeFile::commit(const QString& name) {
     if (!isGood()) {
         return std::nullopt;
@@ -82,17 +102,11 @@ std::optional<QString> WholeFile::commit(const QString& name) {
         fail();
         return std::nullopt;
     }
-    for (int n = 1; n <= kMostNamesTried; ++n) {
-        const QString path = m_folder + u'/' + numberedName(name, n);
-        if (takeName(QFile::encodeName(path))) {
-            return path;
-        }
-        if (errno != EEXIST) {
-            break;
-        }
+    const auto path = firstFreeName(m_folder, name, [this](const QByteArray& p) { return takeName(p); });
+    if (!path) {
+        fail();
     }
-    fail();
-    return std::nullopt;
+    return path;
 }
 
 // False with errno EEXIST when the name is taken.
@@ -125,6 +139,12 @@ bool WholeFile::takeName(const QByteArray& path) {
     }
     m_temporaryPath.clear();
     return true;
+}
+
+std::optional<QString> linkAs(const QString& existing, const QString& folder, const QString& name) {
+    return firstFreeName(folder, name, [from = QFile::encodeName(existing)](const QByteArray& path) {
+        return ::link(from.constData(), path.constData()) == 0;
+    });
 }
 
 QString WholeFile::error() const {

@@ -3,6 +3,7 @@
 
 #include <QByteArrayView>
 #include <QString>
+#include <cstdint>
 #include <optional>
 
 namespace vantor {
@@ -20,6 +21,9 @@ class WholeFile {
     bool isGood() const { return m_error == 0; }
     bool write(QByteArrayView bytes);
 
+    // Seconds since 1970 UTC; to be called behind the last write().
+    bool setModificationTime(std::int64_t seconds);
+
     // Flushes to the medium and takes the name, or the name with " (2)", " (3)" ... before its extension when
     // it is taken; the path of the file, or nothing when that failed.
     std::optional<QString> commit(const QString& name);
@@ -35,5 +39,9 @@ class WholeFile {
     int m_fd = -1;
     int m_error = 0;
 };
+
+// Gives a file a second name in a folder of the same file system, numbered like those of WholeFile; nothing
+// where the file system has no second names.
+std::optional<QString> linkAs(const QString& existing, const QString& folder, const QString& name);
 
 }  // namespace vantor

@@ -20,7 +20,7 @@ struct ScanSession::PhotoPass {
         }
     }
 
-    bool isGeneral() const { return name == u"GEN"; }
+    bool isGeneral() const { return name == kGeneralPass; }
 
     QString name;
     HeaderMatcher matcher;
@@ -42,38 +42,13 @@ struct ScanSession::PhotoPass {
 };
 
 bool ScanSession::Photo_Recovey_Mode(const QString& passName) {
-    const bool general = passName == u"GEN";
-    if (general) {
+    if (passName == kGeneralPass) {
         clearItems();
         m_view.resetPhotoBrowser();
-        m_view.showModeLabel(
-            QStringLiteral("( Currently performing Search based on: Vantor General Recovery Procedure )"));
-    } else {
-        m_view.showModeLabel(
-            QStringLiteral("( Currently performing Search based on: Vantor Thorough Scanning Alogrithm )"));
     }
-    pFile_Disk.reset();
-    prepareRange(ControlSet::Photo);
-    pFile_Disk = openMedium();
-    if (!pFile_Disk) {
-        openFailed(ControlSet::Photo);
+    if (!beginPass(ControlSet::Photo, passName, Ext_Array, Adv_Ext_Array)) {
         return false;
     }
-    m_view.setScanOptionsEnabled(false);
-    beginScanScreen();
-
-    if (start_sector != 0) {
-        pFile_Disk->seek(start_sector);
-    }
-    showProgressText();
-    REC_PROC_Array.clear();
-    if (general) {
-        REC_PROC_Array = Ext_Array;
-    } else if (passName == u"THD") {
-        REC_PROC_Array = Adv_Ext_Array;
-    }
-    fillTypeCounters();
-    for_index = start_sector.load();
 
     PhotoPass pass(passName, REC_PROC_Array);
     runPhotoLoop(pass);

@@ -78,44 +78,17 @@ struct ScanSession::RawPass {
 };
 
 bool ScanSession::Raw_File_Recovey_Mode(const QString& passName) {
-    const bool general = passName == u"GEN";
-    if (general) {
+    if (passName == kGeneralPass) {
         Prev_Index = kNoPreview;
         MultiHeader_Array.clear();
         clearItems();
         m_view.reloadBrowser(ControlSet::Sig);
-        m_view.showModeLabel(
-            QStringLiteral("( Currently performing Search based on: Vantor General Recovery Procedure )"));
-    } else {
-        m_view.showModeLabel(
-            QStringLiteral("( Currently performing Search based on: Vantor Thorough Scanning Alogrithm )"));
     }
-    pFile_Disk.reset();
-    prepareRange(ControlSet::Sig);
-    pFile_Disk = openMedium();
-    if (!pFile_Disk) {
-        openFailed(ControlSet::Sig);
+    if (!beginPass(ControlSet::Sig, passName, CheckListHeader_Array, CheckListHeader_Adv_Array)) {
         return false;
     }
-    m_view.setScanOptionsEnabled(false);
-    m_view.clearPreviewTitle();
-    beginScanScreen();
 
-    const QString destination = m_view.destinationFolder();
-    if (start_sector != 0) {
-        pFile_Disk->seek(start_sector);
-    }
-    showProgressText();
-    REC_PROC_Array.clear();
-    if (general) {
-        REC_PROC_Array = CheckListHeader_Array;
-    } else if (passName == u"THD") {
-        REC_PROC_Array = CheckListHeader_Adv_Array;
-    }
-    fillTypeCounters();
-    for_index = start_sector.load();
-
-    RawPass pass(passName, REC_PROC_Array, destination);
+    RawPass pass(passName, REC_PROC_Array, m_view.destinationFolder());
     if (!runRawLoop(pass)) {
         stop_now = 0;
         pFile_Disk.reset();

@@ -15,7 +15,12 @@ class ReferenceSector {
     bool equals(const std::uint8_t* sector) const {
         return std::memcmp(m_bytes.data(), sector, kSectorBytes) == 0;
     }
-    void become(const std::uint8_t* sector) { std::memcpy(m_bytes.data(), sector, kSectorBytes); }
+    // On a medium that is gone every sector comes by here, most of them equal already.
+    void become(const std::uint8_t* sector) {
+        if (!equals(sector)) {
+            std::memcpy(m_bytes.data(), sector, kSectorBytes);
+        }
+    }
 
   private:
     std::array<std::uint8_t, kSectorBytes> m_bytes{};

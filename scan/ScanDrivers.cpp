@@ -7,9 +7,9 @@ namespace vantor {
 
 void ScanSession::Photo_Rec_Thread() {
     stop_screen_already_show = 0;
-    if (Photo_Recovey_Mode(QStringLiteral("GEN")) && m_view.thoroughBoxOn(ControlSet::Photo) &&
+    if (Photo_Recovey_Mode(kGeneralPass.toString()) && m_view.thoroughBoxOn(ControlSet::Photo) &&
         stop_screen_already_show == 0) {
-        Photo_Recovey_Mode(QStringLiteral("THD"));
+        Photo_Recovey_Mode(kThoroughPass.toString());
     }
     if (stop_screen_already_show == 0) {
         Final_or_Stop_Screen();
@@ -18,7 +18,7 @@ void ScanSession::Photo_Rec_Thread() {
 
 void ScanSession::Raw_File_Rec_Thread() {
     stop_screen_already_show = 0;
-    if (!Raw_File_Recovey_Mode(QStringLiteral("GEN"))) {
+    if (!Raw_File_Recovey_Mode(kGeneralPass.toString())) {
         if (stop_screen_already_show == 0) {
             Final_or_Stop_Screen();
         }
@@ -32,7 +32,7 @@ void ScanSession::Raw_File_Rec_Thread() {
     // Thorough records that are chosen are searched for whether or not the box is on, unlike in photo mode.
     const bool thorough = m_view.thoroughBoxOn(ControlSet::Sig) || !REC_PROC_Array.isEmpty();
     if (thorough && stop_screen_already_show == 0) {
-        Raw_File_Recovey_Mode(QStringLiteral("THD"));
+        Raw_File_Recovey_Mode(kThoroughPass.toString());
     }
     if (m_view.modalSessionRunning()) {
         stop_now = 1;

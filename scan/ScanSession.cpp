@@ -12,7 +12,44 @@ ScanSession::ScanSession(ScanView& view) : m_view(view) {}
 
 ScanSession::~ScanSession() = default;
 
-// Range, progress bar, counter and text, as both scans begin.
+// What both scans begin with, from the mode text to the records of the pass; false when the medium cannot be
+// opened.
+bool ScanSession::beginPass(ControlSet set, const QString& passName, const QStringList& general,
+                            const QStringList& thorough) {
+    m_view.showModeLabel(
+        passName == kGeneralPass
+            ? QStringLiteral("( Currently performing Search based on: Vantor General Recovery Procedure )")
+            : QStringLiteral("( Currently performing Search based on: Vantor Thorough Scanning Alogrithm )"));
+    pFile_Disk.reset();
+    prepareRange(set);
+    pFile_Disk = openMedium();
+    if (!pFile_Disk) {
+        openFailed(set);
+        return false;
+    }
+    m_view.setScanOptionsEnabled(false);
+    if (set == ControlSet::Sig) {
+        m_view.clearPreviewTitle();
+    }
+    m_view.startProgress();
+    m_view.showHelpInfo(QStringLiteral(
+        "\nTo stop recovery, click on ‘Stop’ Button or please wait for the process to be completed."));
+    if (start_sector != 0) {
+        pFile_Disk->seek(start_sector);
+    }
+    showProgressText();
+    REC_PROC_Array.clear();
+    if (passName == kGeneralPass) {
+        REC_PROC_Array = general;
+    } else if (passName == kThoroughPass) {
+        REC_PROC_Array = thorough;
+    }
+    fillTypeCounters();
+    for_index = start_sector.load();
+    return true;
+}
+
+// Range, progress bar, counter and text.
 void ScanSession::prepareRange(ControlSet set) {
     start_sector = 0;
     end_sector = 0;
@@ -33,13 +70,6 @@ std::unique_ptr<SectorReader> ScanSession::openMedium() const {
 
 void ScanSession::showProgressText() {
     m_view.showSectorLabel(progressText(for_index, start_sector, end_sector, total_sector));
-}
-
-// What the scan screen shows once the medium is open.
-void ScanSession::beginScanScreen() {
-    m_view.startProgress();
-    m_view.showHelpInfo(QStringLiteral(
-        "\nTo stop recovery, click on ‘Stop’ Button or please wait for the process to be completed."));
 }
 
 // One triple a distinct type, in the order of first appearance.

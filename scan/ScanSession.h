@@ -31,6 +31,10 @@
 
 namespace vantor {
 
+// The names of the passes.
+inline constexpr QStringView kGeneralPass = u"GEN";
+inline constexpr QStringView kThoroughPass = u"THD";
+
 // How the last pass ended.
 enum class PassOutcome { NotRun, Completed, Stopped, ReadError, OpenError };
 
@@ -192,7 +196,8 @@ class ScanSession {
     void prepareRange(ControlSet set);
     void showProgressText();
     void fillTypeCounters();
-    void beginScanScreen();
+    bool beginPass(ControlSet set, const QString& passName, const QStringList& general,
+                   const QStringList& thorough);
     void openFailed(ControlSet set);
     bool endOfRange(bool lastReadSucceeded);
     const QStringList& generalCatalogueOfMode() const;

@@ -29,7 +29,12 @@ constexpr int kReadBufferBytes = 64 * 1024;
 constexpr std::int64_t kMostProbeBytes = 8 * 1024 * 1024;
 constexpr std::int64_t kMostPixels = 150'000'000;
 constexpr int kMostStreams = 64;
+#if defined(__SANITIZE_THREAD__)
+// The decoder's own threads are not instrumented, and every hand-over between them looks like a race.
+constexpr int kDecoderThreads = 1;
+#else
 constexpr int kDecoderThreads = 2;
+#endif
 // Broken packets in a row after which a stream counts as hopeless.
 constexpr int kMostFailures = 500;
 constexpr double kUsualFrameRate = 25;

@@ -279,6 +279,28 @@ TEST(Command, FullDestinationLosesNothingSilently) {
     EXPECT_EQ(saved, QStringList{"JPG/GND00001.JPG"}) << "whole or absent, nothing in between";
 }
 
+TEST(Command, PackedImageIsToldBeforeItIsSearched) {
+    const QTemporaryDir folder;
+    QFile packed(folder.filePath("card.img.gz"));
+    ASSERT_TRUE(packed.open(QIODevice::WriteOnly));
+    packed.write(QByteArray("\x1F\x8B\x08\0", 4) + QByteArray(5000, 'z'));
+    packed.close();
+    const CommandRun run = runCommand({packed.fileName()});
+    EXPECT_TRUE(run.err.contains("card.img.gz")) << run.err.constData();
+}
+
+TEST(Command, ListsMedia) {
+    const CommandRun table = runCommand({"--list-media"});
+    EXPECT_EQ(table.exitCode, 0);
+    EXPECT_FALSE(table.out.isEmpty());
+    const CommandRun json = runCommand({"--list-media", "--list-json"});
+    EXPECT_EQ(json.exitCode, 0);
+    for (const QJsonObject& medium : json.json()) {
+        EXPECT_FALSE(medium["identifier"].toString().isEmpty());
+    }
+    EXPECT_EQ(runCommand({"--list-media", "card.img"}).exitCode, 2);
+}
+
 TEST(Command, RecoversTheSampleCard) {
     const CommandRun photos = runCommand({"--list-json", VANTOR_SAMPLE_CARD});
     EXPECT_EQ(photos.exitCode, 0);

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 
+#include <QCoreApplication>
 #include <QTemporaryDir>
 #include <atomic>
 #include <thread>
@@ -43,14 +44,13 @@ TEST(DecodePool, Thumbnail_IsAJpeg) {
 TEST(DecodePool, Thumbnail_TurnedPictures_AreUpright) {
     DecodePool pool(poolOptions());
     // Stored lying, to be shown turned right by 90 degrees: what is left becomes the top.
-    const QByteArray turned =
-        encoded(twoColours({400, 200}), "jpeg", QImageIOHandler::TransformationRotate90);
+    const QByteArray turned = jpegHeldBy(twoColours({400, 200}), 6);
     const QImage upright = decoded(pool.thumbnail(turned));
     ASSERT_EQ(upright.size(), QSize(50, 100));
     EXPECT_TRUE(isNear(upright.pixel(25, 20), Qt::red));
     EXPECT_TRUE(isNear(upright.pixel(25, 80), Qt::blue));
 
-    const QByteArray half = encoded(twoColours({400, 200}), "jpeg", QImageIOHandler::TransformationRotate180);
+    const QByteArray half = jpegHeldBy(twoColours({400, 200}), 3);
     const QImage standing = decoded(pool.thumbnail(half));
     ASSERT_EQ(standing.size(), QSize(100, 50));
     EXPECT_TRUE(isNear(standing.pixel(20, 25), Qt::blue));
@@ -186,6 +186,33 @@ TEST(DecodePool, DecoderThatHangs_IsEndedAtTheDeadline) {
     EXPECT_EQ(pool.counts().late, 1U);
     EXPECT_EQ(kill(helper, 0), -1);
     EXPECT_FALSE(pool.thumbnail(small).isEmpty());
+}
+
+TEST(DecodePool, Close_FreesACallerAtOnce) {
+    DecodePoolOptions options = poolOptions(1);
+    options.thumbnailDeadline = std::chrono::minutes(10);
+    DecodePool pool(options);
+    const QByteArray small = encoded(twoColours({64, 64}), "png");
+    ASSERT_FALSE(pool.thumbnail(small).isEmpty());
+    stopProcess(pool.helperPids().front());
+    QByteArray shown = "not asked";
+    std::thread caller([&] { shown = pool.thumbnail(small); });
+    std::this_thread::sleep_for(milliseconds(20));
+    pool.close();
+    caller.join();
+    EXPECT_TRUE(shown.isEmpty());
+    EXPECT_TRUE(pool.thumbnail(small).isEmpty());
+}
+
+TEST(DecodePool, DefaultHelper_IsFoundFromTheProgram) {
+    int argc = 1;
+    char name[] = VANTOR_BINARY_DIR "/bin/decode_tests";
+    char* argv[] = {name, nullptr};
+    const QCoreApplication application(argc, argv);
+    DecodePoolOptions options;
+    options.helpers = 1;
+    DecodePool pool(options);
+    EXPECT_FALSE(pool.thumbnail(encoded(twoColours({64, 64}), "png")).isEmpty());
 }
 
 TEST(DecodePool, Destruction_EndsItsHelpers) {

@@ -150,7 +150,7 @@ TEST(Formats, CutShort_ShowThePartThatIsThereAndAnEmptyRest) {
 }
 
 TEST(Formats, CutShortAndTurned_IsStillUpright) {
-    const QByteArray bytes = encoded(twoColours({800, 400}), "jpeg", QImageIOHandler::TransformationRotate90);
+    const QByteArray bytes = jpegHeldBy(twoColours({800, 400}), 6);
     DecodePool pool(poolOptions(1));
     EXPECT_EQ(pool.picture(bytes.left(bytes.size() * 9 / 10), {100, 100}).image.size(), QSize(50, 100));
 }

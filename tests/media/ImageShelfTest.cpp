@@ -38,10 +38,8 @@ class ImageShelfTest : public testing::Test {
     }
 
     QStringList rows() {
-        MediaList list(*source);
-        list.rebuild();
         QStringList all;
-        for (const auto& row : list.nsMutaryOfDataObject) {
+        for (const auto& row : listedMedia(*source)) {
             all << row->nsStrDiskIdentifier + u' ' + row->nsStrVolName + u' ' + row->nsStrSectors;
         }
         return all;

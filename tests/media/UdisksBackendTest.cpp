@@ -236,8 +236,7 @@ TEST_F(DescriptorTest, RefusedConsent_GivesNone) {
 
 TEST_F(DescriptorTest, UnansweredConsent_EndsWithTheStopRequest) {
     service->silent = true;
-    int asked = 0;
-    EXPECT_FALSE(ask([&asked] { return ++asked > 3; }));
+    EXPECT_FALSE(ask([this] { return service->openings > 0; }));
     EXPECT_EQ(service->openings, 1);
 }
 

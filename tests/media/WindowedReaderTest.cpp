@@ -45,12 +45,14 @@ bool isTellingPlace(const Shape& shape, std::uint64_t fault) {
 
 enum class Places { All, Telling };
 
-// Every place of two windows, so both ends of the range and of every buffer are among them.
+// Every place of two windows where the range begins with the medium, the telling ones elsewhere: both ends of
+// the range and of every buffer are among them.
 template <class Check>
 void forEveryFault(Places places, Check check) {
     for (const Shape& shape : shapes()) {
         for (std::uint64_t fault = shape.start; fault < shape.start + 2 * kWindow; ++fault) {
-            if (places == Places::Telling && !isTellingPlace(shape, fault)) {
+            const bool everyPlace = places == Places::All && shape.start == 0;
+            if (!everyPlace && !isTellingPlace(shape, fault)) {
                 continue;
             }
             ScriptedMedium medium;

@@ -43,6 +43,8 @@ class ScriptedReader : public SectorReader {
   public:
     explicit ScriptedReader(ScriptedMedium& medium) : m_medium(medium) {}
 
+    std::uint64_t mediumSectors() const override { return m_medium.bytes.size(); }
+
   protected:
     bool fetch() override {
         if (m_medium.beforeRead) {

@@ -1,0 +1,24 @@
+// From what the user named to a medium that can be searched.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <memory>
+
+#include "media/MediaSource.h"
+#include "scan/ScanSession.h"
+
+namespace vantor {
+
+struct CliMedium {
+    std::uint64_t sectors = 0;
+    QString path;       // of the image or the device's node
+    MediumOpener open;  // for every pass and copy; also when the medium cannot be opened
+    QString complaint;  // a sentence for the user; empty when all is well
+};
+
+// Finds the medium by path or identifier. `stop` ends waits for a device that hangs and for the user's
+// consent. The source is asked only for what is no file; main thread.
+CliMedium findMedium(const QString& name, MediaSource& source, StopRequest stop);
+
+}  // namespace vantor

@@ -1,0 +1,17 @@
+// Room at the destination.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <optional>
+
+namespace vantor {
+
+// Bytes that may still be written into the folder (or, while it does not exist, into the nearest folder above
+// it); nothing when the file system does not tell.
+std::optional<std::uint64_t> freeBytesAt(const QString& folder);
+
+// A sentence for the user when so many bytes do not fit there.
+std::optional<QString> refuseForSpace(const QString& folder, std::uint64_t bytes);
+
+}  // namespace vantor

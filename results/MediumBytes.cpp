@@ -1,0 +1,188 @@
+// Keeping what was read, and knowing when to stop asking a medium that refuses.
+#include "results/MediumBytes.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstring>
+
+namespace vantor {
+
+namespace {
+
+constexpr std::uint64_t kStepBytes = 256 * 1024;
+constexpr std::size_t kBlockBytes = 64 * 1024;
+// A walker that hops no further than this is followed by reading on: the bytes between are wanted anyway.
+constexpr std::uint64_t kSmallHop = 1024 * 1024;
+
+// Runs that follow each other with nothing but refused sectors between them are one; others stay as they are.
+std::vector<SectorRun> withGapsClosed(const std::vector<SectorRun>& runs) {
+    const auto backwards = [](const SectorRun& a, const SectorRun& b) { return b.first < a.end; };
+    if (runs.empty() || std::adjacent_find(runs.begin(), runs.end(), backwards) != runs.end()) {
+        return runs;
+    }
+    return {{runs.front().first, runs.back().end}};
+}
+
+std::uint64_t sectorsOf(const std::vector<SectorRun>& runs) {
+    return CarvedRun{runs, false}.sectors();
+}
+
+}  // namespace
+
+MediumBytes::MediumBytes(const ItemSource& source, std::vector<std::uint8_t>& kept)
+    : m_source(source),
+      m_runs(source.asPublished ? source.carved.runs : withGapsClosed(source.carved.runs)),
+      m_carvedBytes(sectorsOf(m_runs) * kSectorBytes),
+      m_kept(kept),
+      m_keptStart(static_cast<std::uint64_t>(source.firstBytes.size())),
+      m_keptEnd(m_keptStart) {
+    if (!m_runs.empty() && !source.asPublished) {
+        m_runs.back().end = std::max(m_runs.back().end, source.mediumSectors);
+    }
+    m_wholeSize = std::max(sectorsOf(m_runs) * kSectorBytes, m_keptStart);
+    m_carvedBytes = std::max(m_carvedBytes, m_keptStart);
+    m_size = m_wholeSize;
+}
+
+void MediumBytes::limitTo(std::uint64_t bytes) {
+    m_size = std::min(m_size, std::max(bytes, m_carvedBytes));
+}
+
+std::size_t MediumBytes::read(std::uint64_t offset, std::span<std::uint8_t> into) {
+    std::size_t done = 0;
+    while (done < into.size() && offset + done < m_size) {
+        const auto bytes = bytesFrom(offset + done);
+        const auto count =
+            std::min<std::uint64_t>({bytes.size(), into.size() - done, m_size - offset - done});
+        if (count == 0) {
+            break;
+        }
+        std::copy_n(bytes.begin(), count, into.begin() + static_cast<std::ptrdiff_t>(done));
+        done += static_cast<std::size_t>(count);
+    }
+    return done;
+}
+
+std::size_t MediumBytes::readPast(std::uint64_t offset, std::span<std::uint8_t> into) {
+    const auto count = std::min<std::uint64_t>(into.size(), m_size - std::min(offset, m_size));
+    into = into.first(static_cast<std::size_t>(count));
+    if (offset % kSectorBytes == 0 && count % kSectorBytes == 0 && offset >= m_keptEnd) {
+        return readSectors(offset / kSectorBytes, into);
+    }
+    return read(offset, into);
+}
+
+// Some bytes from the offset on, also behind m_size; none where reading ended early.
+std::span<const std::uint8_t> MediumBytes::bytesFrom(std::uint64_t offset) {
+    auto bytes = keptFrom(offset);
+    if (bytes.empty() && offset < m_keptStart + kMostKept && offset < m_keptEnd + kSmallHop) {
+        keepUpTo(std::max(offset + 1, m_keptEnd + kStepBytes));
+        bytes = keptFrom(offset);
+    }
+    return bytes.empty() ? blockAt(offset) : bytes;
+}
+
+std::span<const std::uint8_t> MediumBytes::keptFrom(std::uint64_t offset) const {
+    if (offset < m_keptStart) {
+        const auto* bytes = reinterpret_cast<const std::uint8_t*>(m_source.firstBytes.data());
+        return {bytes + offset, static_cast<std::size_t>(m_keptStart - offset)};
+    }
+    const std::uint64_t end =
+        m_readableSectors == kNoLimit ? m_keptEnd : std::min(m_keptEnd, m_readableSectors * kSectorBytes);
+    if (offset >= end) {
+        return {};
+    }
+    return {m_kept.data() + (offset - m_keptStart), static_cast<std::size_t>(end - offset)};
+}
+
+void MediumBytes::keepUpTo(std::uint64_t end) {
+    const std::uint64_t stop = std::min(
+        {(end + kSectorBytes - 1) / kSectorBytes * kSectorBytes, m_wholeSize, m_keptStart + kMostKept});
+    if (stop <= m_keptEnd) {
+        return;
+    }
+    const auto held = static_cast<std::size_t>(m_keptEnd - m_keptStart);
+    const auto wanted = static_cast<std::size_t>(stop - m_keptStart);
+    if (m_kept.size() < wanted) {
+        m_kept.resize(std::max(wanted, std::min<std::size_t>(kMostKept, m_kept.size() * 2)));
+    }
+    m_keptEnd += readSectors(m_keptEnd / kSectorBytes, std::span(m_kept).subspan(held, wanted - held));
+}
+
+std::span<const std::uint8_t> MediumBytes::blockAt(std::uint64_t offset) {
+    if (offset < m_blockStart || offset - m_blockStart >= m_blockFill) {
+        m_block.resize(kBlockBytes);
+        m_blockStart = offset - offset % kSectorBytes;
+        const auto wanted = std::min<std::uint64_t>(kBlockBytes, m_wholeSize - m_blockStart);
+        m_blockFill = readSectors(m_blockStart / kSectorBytes,
+                                  std::span(m_block).first(static_cast<std::size_t>(wanted)));
+    }
+    const auto skip = static_cast<std::size_t>(offset - m_blockStart);
+    return skip < m_blockFill ? std::span<const std::uint8_t>(m_block).subspan(skip, m_blockFill - skip)
+                              : std::span<const std::uint8_t>();
+}
+
+// Bytes that arrived, from the item's sector on.
+std::size_t MediumBytes::readSectors(std::uint64_t first, std::span<std::uint8_t> into) {
+    using Clock = std::chrono::steady_clock;
+    SectorReader* const medium = m_source.medium ? m_source.medium() : nullptr;
+    if (medium == nullptr) {
+        m_readableSectors = std::min(m_readableSectors, first);
+        return 0;
+    }
+    auto mark = Clock::now();
+    for (std::size_t done = 0; done < into.size(); done += kSectorBytes) {
+        const std::uint64_t sector = first + done / kSectorBytes;
+        if (sector >= m_readableSectors) {
+            return static_cast<std::size_t>(std::max(m_readableSectors, first) - first) * kSectorBytes;
+        }
+        std::uint8_t* const place = into.data() + done;
+        const std::uint64_t at = onMedium(sector);
+        if ((medium->position() == at || medium->seek(at)) && medium->read()) {
+            std::memcpy(place, medium->current(), kSectorBytes);
+            continue;
+        }
+        std::memset(place, 0, kSectorBytes);
+        const auto now = Clock::now();
+        noteRefusal(sector, std::chrono::duration<double>(now - mark).count());
+        mark = now;
+    }
+    if (first * kSectorBytes + into.size() > m_carvedBytes) {
+        m_bytesReadBeyond += into.size();
+    }
+    return into.size();
+}
+
+void MediumBytes::noteRefusal(std::uint64_t sector, double seconds) {
+    m_unreadable.add(sector);
+    m_secondsRefused += seconds;
+    m_refusedInRow = sector == m_lastRefused + 1 ? m_refusedInRow + 1 : 1;
+    m_lastRefused = sector;
+    if (m_secondsRefused > kPatienceSeconds) {
+        m_readableSectors = std::min(m_readableSectors, sector + 1);
+    } else if (m_refusedInRow == kHopelessSectors && sector * kSectorBytes >= m_carvedBytes) {
+        m_readableSectors = std::min(m_readableSectors, sector + 1 - kHopelessSectors);
+    }
+}
+
+std::uint64_t MediumBytes::onMedium(std::uint64_t sector) const {
+    for (const SectorRun& run : m_runs) {
+        if (sector < run.end - run.first) {
+            return run.first + sector;
+        }
+        sector -= run.end - run.first;
+    }
+    return kNoLimit;
+}
+
+std::uint64_t MediumBytes::sectorsUnreadable(std::uint64_t bytes) const {
+    const std::uint64_t end = (bytes + kSectorBytes - 1) / kSectorBytes;
+    std::uint64_t count = 0;
+    for (std::uint64_t sector = m_unreadable.firstFrom(0); sector < end;
+         sector = m_unreadable.firstFrom(sector + 1)) {
+        ++count;
+    }
+    return count;
+}
+
+}  // namespace vantor

@@ -1,0 +1,75 @@
+// The copy of sectors with its failures.
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <string>
+
+#include "results/PreviewCopy.h"
+#include "tests/support/ScriptedMedium.h"
+
+namespace vantor {
+namespace {
+
+// The first byte of every sector copied.
+std::string copied(ScriptedMedium& medium, std::uint64_t start, std::uint64_t end) {
+    ScriptedReader reader(medium);
+    const std::atomic<int> stop{0};
+    std::string firsts;
+    copyPreviewSectors(reader, start, end, stop, [&](const std::uint8_t* sector) {
+        firsts += static_cast<char>(sector[0]);
+        return true;
+    });
+    return firsts;
+}
+
+ScriptedMedium letters(std::size_t sectors) {
+    ScriptedMedium medium(sectors);
+    for (std::size_t i = 0; i < sectors; ++i) {
+        medium.fill(i, static_cast<std::uint8_t>('a' + i));
+    }
+    return medium;
+}
+
+}  // namespace
+
+TEST(PreviewCopy, CopiesUpToTheEndSector) {
+    ScriptedMedium medium = letters(10);
+    EXPECT_EQ(copied(medium, 0, 3), "abc");
+    EXPECT_EQ(copied(medium, 4, 7), "efg");
+    EXPECT_EQ(copied(medium, 4, 4), "");
+    EXPECT_EQ(copied(medium, 7, 4), "");
+}
+
+TEST(PreviewCopy, UnreadableSectorRepeatsTheLastGoodBytes) {
+    ScriptedMedium medium = letters(10);
+    medium.badForEver = {3};
+    // The sector fails, and fails again one later; then the stream is past it and one behind.
+    EXPECT_EQ(copied(medium, 1, 8), "bcccefg");
+}
+
+TEST(PreviewCopy, NothingGoodBeforeAFailureGivesZeros) {
+    ScriptedMedium medium = letters(4);
+    medium.badTimes[0] = 1;
+    EXPECT_EQ(copied(medium, 0, 3), std::string("\0ab", 3));
+}
+
+TEST(PreviewCopy, StopsOnRequestAndOnAWriteError) {
+    ScriptedMedium medium = letters(10);
+    ScriptedReader reader(medium);
+    std::atomic<int> stop{0};
+    int written = 0;
+    const PreviewCopyResult stopped = copyPreviewSectors(reader, 0, 10, stop, [&](const std::uint8_t*) {
+        stop = ++written == 4 ? 1 : 0;
+        return true;
+    });
+    EXPECT_EQ(stopped.end, PreviewCopyEnd::Stopped);
+    EXPECT_EQ(stopped.sectorsWritten, 4U);
+    stop = 0;
+    ScriptedReader again(medium);
+    const PreviewCopyResult failed =
+        copyPreviewSectors(again, 0, 10, stop, [&](const std::uint8_t*) { return ++written < 7; });
+    EXPECT_EQ(failed.end, PreviewCopyEnd::WriteFailed);
+    EXPECT_EQ(failed.sectorsWritten, 2U);
+}
+
+}  // namespace vantor
