@@ -67,7 +67,7 @@ void MyTableController::showPreviewPane(bool hide) {
     if (video) {
         closemovie_Win();
     } else {
-        _QuickLook_View->clear();
+        _QuickLook_View->setText(tr("Select an item to preview it."));
     }
     previewFacts->clear();
 }
