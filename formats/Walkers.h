@@ -23,6 +23,10 @@ Extent walkPcx(ByteView& view);
 Extent walkTga(ByteView& view);
 Extent walkDds(ByteView& view);
 Extent walkXcf(ByteView& view);
+Extent walkAnyMap(ByteView& view);  // PBM, PGM, PPM in bytes
+Extent walkSgi(ByteView& view);
+Extent walkQoi(ByteView& view);
+Extent walkXpm(ByteView& view);
 Extent walkRaf(ByteView& view);
 Extent walkMrw(ByteView& view);
 Extent walkCrw(ByteView& view);
@@ -53,6 +57,8 @@ Extent walkAu(ByteView& view);
 Extent walkMidi(ByteView& view);
 Extent walkMonkeysAudio(ByteView& view);  // APE
 Extent walkMusepack(ByteView& view);      // MPC, versions 7 and 8
+Extent walkCoreAudio(ByteView& view);     // CAF
+Extent walkVoice(ByteView& view);         // VOC
 
 // Documents and archives.
 Extent walkPdf(ByteView& view);
@@ -63,6 +69,8 @@ Extent walkXz(ByteView& view);
 Extent walkRar(ByteView& view);  // versions 4 and 5
 Extent walkSevenZip(ByteView& view);
 Extent walkTar(ByteView& view);
+Extent walkAr(ByteView& view);
+Extent walkCpio(ByteView& view);
 Extent walkCab(ByteView& view);
 Extent walkArj(ByteView& view);
 Extent walkLzh(ByteView& view);

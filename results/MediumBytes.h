@@ -55,6 +55,8 @@ class MediumBytes final : public ByteSource {
 
     // Of the sectors read so far among the first `bytes` bytes.
     std::uint64_t sectorsUnreadable(std::uint64_t bytes) const;
+    // Whether the byte stands in a sector that was read in vain.
+    bool isUnreadable(std::uint64_t offset) const { return m_unreadable.contains(offset / kSectorBytes); }
     // True when reading ended early; the rest of the medium is as good as unreadable.
     bool gaveUp() const { return m_readableSectors != kNoLimit; }
     // How much was asked of the medium behind the carved run.

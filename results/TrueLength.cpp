@@ -5,6 +5,7 @@
 //   follows a break may be the rest of the file (one unreadable sector breaks a photo in its middle), so
 //   nothing that was carved is given up. Behind the carved run a broken file is believed only up to the
 //   length that its kind can plausibly have: a garbled length field must not fill the disk.
+// - An end that nothing marks, at a sector that could not be read, is a break.
 // - Cut off where the walker was not let see the medium's end: the carved run, for the same reason.
 // - Unknown: the carved run as it was published. Zeros at its end stay, since no walker says that they are
 // not
@@ -93,6 +94,9 @@ TrueLength trueLengthOf(const QString& type, MediumBytes& bytes, bool mayGoBeyon
     }
     TrueLength length;
     length.extent = walk(extension, bytes);
+    if (!length.extent.exactEnd && bytes.isUnreadable(length.extent.end)) {
+        length.extent.verdict = Verdict::Damaged;
+    }
     length.bytes = bytesToKeep(length.extent,
                                {bytes.carvedBytes(), bytes.size(), bytes.endsWithMedium(), mostPlausible});
     return length;

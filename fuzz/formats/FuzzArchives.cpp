@@ -2,7 +2,7 @@
 #include "FuzzWalkers.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    return vantor::fuzz::walkWith({"ZIP", "GZ", "BZ2", "XZ", "RAR", "7Z", "TAR", "CAB", "ARJ", "LZH",
-                                   "SQLITE", "PST", "MDB", "EXE", "ELF"},
+    return vantor::fuzz::walkWith({"ZIP", "GZ", "BZ2", "XZ", "RAR", "7Z", "TAR", "AR", "CPIO", "CAB", "ARJ",
+                                   "LZH", "SQLITE", "PST", "MDB", "EXE", "ELF"},
                                   data, size);
 }

@@ -2,7 +2,8 @@
 #include "FuzzWalkers.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    return vantor::fuzz::walkWith({"JPG", "PNG", "GIF", "BMP", "TIF", "PSD", "JP2", "JXL", "ICO", "ICNS",
-                                   "PCX", "TGA", "DDS", "XCF", "RAF", "MRW", "CRW", "X3F"},
-                                  data, size);
+    return vantor::fuzz::walkWith(
+        {"JPG", "PNG", "GIF", "BMP", "TIF", "PSD", "JP2", "JXL", "ICO", "ICNS", "PCX",
+         "TGA", "DDS", "XCF", "RAF", "MRW", "CRW", "X3F", "PPM", "SGI", "QOI",  "XPM"},
+        data, size);
 }

@@ -115,7 +115,7 @@ TEST(SavingCommand, FiltersAndDates) {
     const QTemporaryDir folder;
     const QString dated = folder.filePath("dated"), large = folder.filePath("large");
     EXPECT_EQ(runCommand({"--save", dated, "--by-date", VANTOR_SAMPLE_CARD}).exitCode, 0);
-    EXPECT_FALSE(QDir(dated + "/JPG").entryList({"20??-??-??"}, QDir::Dirs).isEmpty());
+    EXPECT_FALSE(QDir(dated + "/JPG").entryList({"20*"}, QDir::Dirs).isEmpty());
     const CommandRun filtered = runCommand({"--save", large, "--min-bytes", "100000", VANTOR_SAMPLE_CARD});
     EXPECT_TRUE(filtered.out.contains("left out: smaller than asked for"));
     const QStringList files = filesUnder(large);

@@ -288,6 +288,34 @@ std::string pdfText() {
            "\n%%EOF\n";
 }
 
+Bytes ar() {
+    const auto member = [](std::string_view bytes) {
+        return "name/           0           0     0     644     " + std::string(bytes) + "`\n";
+    };
+    return Build()
+        .text("!<arch>\n")
+        .text(member("3         "))
+        .text("abc\n")
+        .text(member("4         "))
+        .text("abcd");
+}
+
+Bytes cpio() {
+    const auto head = [](std::string_view size, std::string_view name) {
+        return "070701" + std::string(48, '0') + std::string(size) + std::string(32, '0') +
+               std::string(name) + std::string(8, '0');
+    };
+    return Build()
+        .text(head("00000005", "00000002"))
+        .text("a")
+        .to(112)
+        .text("hello")
+        .to(120)
+        .text(head("00000000", "0000000B"))
+        .text("TRAILER!!!")
+        .to(244);
+}
+
 }  // namespace
 
 std::vector<Sample> archiveSamples() {
@@ -299,6 +327,8 @@ std::vector<Sample> archiveSamples() {
             {"CBR", rar5()},
             {"7Z", sevenZip()},
             {"TAR", tar(), false},
+            {"AR", ar(), false},
+            {"CPIO", cpio(), false},
             {"CAB", Build().text("MSCF").le32(0).le32(80).le32(0).le32(44).le32(0).u8(3).u8(1).to(80)},
             {"ARJ", arj()},
             {"LZH", lzh()},

@@ -272,19 +272,34 @@ std::vector<Sample> movieSamples() {
 }
 
 std::vector<Sample> soundSamples() {
-    return {{"WAV", wav()},
-            {"AIFF", aiff()},
-            {"MP3", mpegAudio(), false},
-            {"AAC", adtsFrames(), false},
-            {"AC3", ac3(), false},
-            {"AMR", amr(), false},
-            {"FLAC", flac()},
-            {"OGG", Build().add(oggPage(2, 0)).add(oggPage(0, 1)).add(oggPage(4, 2))},
-            {"AU", Build().text(".snd").be32(24).be32(40).be32(1).be32(8000).be32(1).fill(40, 0x7F)},
-            {"MID", midi()},
-            {"APE", monkeys()},
-            {"MPC", musepack8()},
-            {"MP+", musepack7(), false}};
+    return {
+        {"WAV", wav()},
+        {"AIFF", aiff()},
+        {"MP3", mpegAudio(), false},
+        {"AAC", adtsFrames(), false},
+        {"AC3", ac3(), false},
+        {"AMR", amr(), false},
+        {"FLAC", flac()},
+        {"OGG", Build().add(oggPage(2, 0)).add(oggPage(0, 1)).add(oggPage(4, 2))},
+        {"AU", Build().text(".snd").be32(24).be32(40).be32(1).be32(8000).be32(1).fill(40, 0x7F)},
+        {"MID", midi()},
+        {"APE", monkeys()},
+        {"MPC", musepack8()},
+        {"MP+", musepack7(), false},
+        {"CAF",
+         Build().text("caff").be16(1).be16(0).text("desc").be64(32).fill(32, 1).text("data").be64(20).fill(
+             20, 2)},
+        {"VOC", Build()
+                    .text("Creative Voice File\x1A")
+                    .le16(26)
+                    .le16(0x010A)
+                    .le16(0x1129)
+                    .u8(1)
+                    .u8(9)
+                    .u8(0)
+                    .u8(0)
+                    .fill(9, 3)
+                    .u8(0)}};
 }
 
 }  // namespace vantor::test

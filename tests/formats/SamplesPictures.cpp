@@ -192,19 +192,76 @@ Bytes x3f() {
     return out.text("SECd").le32(0x20000).le32(1).le32(40).le32(34).text("IMAG").le32(at);
 }
 
+// Two packed rows, the second stored first.
+Bytes sgi() {
+    return Build()
+        .be16(0x01DA)
+        .u8(1)
+        .u8(1)
+        .be16(2)
+        .be16(4)
+        .be16(2)
+        .be16(1)
+        .to(512)
+        .be32(531)
+        .be32(528)
+        .be32(3)
+        .be32(3)
+        .u8(4)
+        .u8(7)
+        .u8(0)
+        .u8(4)
+        .u8(9)
+        .u8(0);
+}
+
+// 70 pixels: one in full, one by difference, one by two bytes, a run of 62, then five from the table.
+Bytes qoi() {
+    return Build()
+        .text("qoif")
+        .be32(70)
+        .be32(1)
+        .u8(3)
+        .u8(0)
+        .u8(0xFE)
+        .fill(3, 9)
+        .u8(0x6A)
+        .u8(0xA0)
+        .u8(0x88)
+        .u8(0xFD)
+        .fill(5, 0x01)
+        .fill(7)
+        .u8(1);
+}
+
 }  // namespace
 
 std::vector<Sample> pictureSamples() {
-    return {{"JPG", jpeg()},        {"PNG", png()},
-            {"GIF", gif()},         {"BMP", bmp()},
-            {"TIF", tiff(), false}, {"TIFF", tiff(false), false},
-            {"PSD", psd()},         {"JP2", jp2()},
-            {"J2K", jp2Stream(0)},  {"JXL", jxl()},
-            {"ICO", icon()},        {"ICNS", Build().text("icns").be32(24).text("is32").be32(16).fill(8, 1)},
-            {"PCX", pcx()},         {"TGA", tga()},
-            {"DDS", dds(), false},  {"XCF", xcf()},
-            {"RAF", raf()},         {"MRW", mrw()},
-            {"CRW", crw()},         {"X3F", x3f()}};
+    return {{"JPG", jpeg()},
+            {"PNG", png()},
+            {"GIF", gif()},
+            {"BMP", bmp()},
+            {"TIF", tiff(), false},
+            {"TIFF", tiff(false), false},
+            {"PSD", psd()},
+            {"JP2", jp2()},
+            {"J2K", jp2Stream(0)},
+            {"JXL", jxl()},
+            {"ICO", icon()},
+            {"ICNS", Build().text("icns").be32(24).text("is32").be32(16).fill(8, 1)},
+            {"PCX", pcx()},
+            {"TGA", tga()},
+            {"DDS", dds(), false},
+            {"XCF", xcf()},
+            {"RAF", raf()},
+            {"MRW", mrw()},
+            {"CRW", crw()},
+            {"X3F", x3f()},
+            {"PPM", Build().text("P6\n# by hand\n4 3\n255\n").fill(36, 0x55)},
+            {"PBM", Build().text("P4 9 2 ").fill(4, 0x55)},
+            {"SGI", sgi()},
+            {"QOI", qoi()},
+            {"XPM", Build().text("/* XPM */\nstatic char *x[] = {\n\"1 1 1 1\",\n\"\\\" c };\"\n};\n")}};
 }
 
 }  // namespace vantor::test

@@ -152,6 +152,17 @@ TEST(ItemSaver, UnreadableSectorMakesAWholeFileADamagedOne) {
     EXPECT_EQ(outcome.bytes, static_cast<std::uint64_t>(kWavBytes));
 }
 
+TEST(ItemSaver, UnreadableSectorDoesNotEndAFileWhoseEndNothingMarks) {
+    ScriptedMedium medium = mediumWith(QByteArray(60 * 512, 'x'), 10, 80);
+    medium.badForEver = {30};
+    ScriptedReader reader(medium);
+    const QTemporaryDir folder;
+    const SaveOutcome outcome = ItemSaver(folder.path()).saveRuns("TXT", "a.TXT", run(10, 60), reader);
+    ASSERT_TRUE(outcome.saved);
+    EXPECT_EQ(outcome.verdict, Verdict::Damaged);
+    EXPECT_EQ(outcome.bytes, 50 * 512U);
+}
+
 TEST(ItemSaver, LongUnreadableStretchBehindTheCarvedRunEndsTheFile) {
     ScriptedMedium medium = mediumWith(wavFile(kWavBytes), 10, 400);
     for (std::uint64_t sector = 100; sector < 300; ++sector) {
