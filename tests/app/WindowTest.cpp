@@ -132,6 +132,13 @@ WindowTest::WindowTest() {
 }
 
 WindowTest::~WindowTest() {
+    const QString shots = qEnvironmentVariable("VANTOR_SHOTS");
+    if (controller && !shots.isEmpty()) {
+        const auto* test = ::testing::UnitTest::GetInstance()->current_test_info();
+        QString name =
+            QString::fromLatin1(test->test_suite_name()) + u'.' + QString::fromLatin1(test->name());
+        controller->window->grab().save(shots + u'/' + name.replace(u'/', u'_') + QStringLiteral(".png"));
+    }
     controller.reset();
     EXPECT_EQ(answers.unexpected(), 0) << "a dialog came up that the test does not know of";
     EXPECT_TRUE(answers.allGiven()) << "a dialog did not come up";
