@@ -70,6 +70,10 @@ void MyTableController::Thro_Mode_Chk_SIG_Btn(QObject*) {
 void MyTableController::buildGroupBoxes() {
     qDeleteAll(m_groupBoxes);
     m_groupBoxes.clear();
+    // The stretch that keeps the boxes together goes behind the new ones.
+    if (QLayoutItem* last = typeGroupLayout->itemAt(typeGroupLayout->count() - 1); last->spacerItem() != nullptr) {
+        delete typeGroupLayout->takeAt(typeGroupLayout->count() - 1);
+    }
     for (const FileKind kind : kKinds) {
         const auto inKind = std::count_if(nsCheckedListDataObject.cbegin(), nsCheckedListDataObject.cend(),
                                           [kind](const FileTypeRow& row) { return kindOf(row) == kind; });
@@ -82,13 +86,6 @@ void MyTableController::buildGroupBoxes() {
                 [this, kind](bool on) { tickGroup(static_cast<int>(kind), on); });
         typeGroupLayout->addWidget(box);
         m_groupBoxes.append(box);
-    }
-    // One spacer at the end keeps the boxes together.
-    while (QLayoutItem* last = typeGroupLayout->itemAt(typeGroupLayout->count() - 1)) {
-        if (last->spacerItem() == nullptr) {
-            break;
-        }
-        delete typeGroupLayout->takeAt(typeGroupLayout->count() - 1);
     }
     typeGroupLayout->addStretch(1);
     showTypeCounts();
@@ -130,10 +127,9 @@ void MyTableController::showTypeCounts() {
     for (qsizetype kind = 0; kind < m_groupBoxes.size(); ++kind) {
         QCheckBox* box = m_groupBoxes.at(kind);
         const bool all = tickedOfKind.at(kind) == ofKind.at(kind);
-        box->setCheckState(all                         ? Qt::Checked
-                           : tickedOfKind.at(kind) > 0 ? Qt::PartiallyChecked
-                                                       : Qt::Unchecked);
-        box->setTristate(false);
+        const bool some = !all && tickedOfKind.at(kind) > 0;
+        box->setTristate(some);
+        box->setCheckState(some ? Qt::PartiallyChecked : all ? Qt::Checked : Qt::Unchecked);
     }
 }
 

@@ -1,5 +1,12 @@
 # What every target of the project shares: warnings, sanitizers, and the one way to declare a library or a test.
 
+# A compiler cache is used where there is one, so that a second checkout or configuration does not begin at nothing.
+find_program(VANTOR_CCACHE ccache)
+if(VANTOR_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER
+        ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${VANTOR_CCACHE})
+endif()
+
 add_library(vantor_options INTERFACE)
 target_compile_options(vantor_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor)
 if(VANTOR_WERROR)

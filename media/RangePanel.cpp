@@ -84,9 +84,15 @@ void RangePanel::chooseSectorRange() {
 
 void RangePanel::showChosen() {
     const bool entire = m_outlets.entireDisk->isChecked();
+    // Hidden before the others are shown, or a small window would grow.
+    if (entire) {
+        setHidden(m_outlets.rangeControls, true);
+    }
     setHidden(m_outlets.captions, !entire);
     setHidden(m_outlets.values, !entire);
-    setHidden(m_outlets.rangeControls, entire);
+    if (!entire) {
+        setHidden(m_outlets.rangeControls, false);
+    }
 }
 
 bool RangePanel::entireDiskOn() const {

@@ -77,6 +77,14 @@ void ImageBrowserView::setEmptyState(const QIcon& picture, const QString& title,
     viewport()->update();
 }
 
+// Keys that move find a place to move from.
+void ImageBrowserView::focusInEvent(QFocusEvent* event) {
+    QListView::focusInEvent(event);
+    if (!currentIndex().isValid() && m_model->rowCount() > 0) {
+        selectionModel()->setCurrentIndex(m_model->index(0, 0), QItemSelectionModel::NoUpdate);
+    }
+}
+
 void ImageBrowserView::paintEvent(QPaintEvent* event) {
     QListView::paintEvent(event);
     if (m_model->rowCount() == 0) {

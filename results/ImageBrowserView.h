@@ -35,6 +35,7 @@ class ImageBrowserView : public QListView {
     void selectionDidChange();
 
   protected:
+    void focusInEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
     void startDrag(Qt::DropActions) override {}

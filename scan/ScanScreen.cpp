@@ -169,11 +169,11 @@ void MyTableController::showAlert(const QString& message) {
 void MyTableController::returnFromScanScreen(ControlSet set) {
     later([this, set] {
         if (set == ControlSet::Photo) {
-            show_hide_2_screen(false);
             show_hide_3_screen_Photo(true);
+            show_hide_2_screen(false);
         } else {
-            show_hide_3_screen_RawFile(false);
             show_hide_4_screen_RawFile(true);
+            show_hide_3_screen_RawFile(false);
         }
         _open_folder->hide();
     });

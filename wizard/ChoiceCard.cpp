@@ -58,7 +58,7 @@ QSize ChoiceCard::sizeHint() const {
 }
 
 QSize ChoiceCard::minimumSizeHint() const {
-    return {kSmallestWidth, heightForWidth(std::max(width(), kSmallestWidth))};
+    return {kSmallestWidth, heightForWidth(std::max(width(), kPreferredWidth))};
 }
 
 void ChoiceCard::enterEvent(QEnterEvent* event) {

@@ -2,6 +2,7 @@
 #include "wizard/Panels.h"
 
 #include <QLabel>
+#include <QLayout>
 #include <QPushButton>
 
 #include "ui_BrowseInfo.h"
@@ -24,9 +25,18 @@ void setPicture(QLabel* label, const QString& name) {
     label->setPixmap(ownIcon(name).pixmap(kPanelPicture, kPanelPicture));
 }
 
+// As high as its wrapped text needs at the width it was drawn with, and no higher.
+void fitToWords(QDialog* window) {
+    window->ensurePolished();
+    const int width = window->minimumWidth();
+    window->layout()->activate();
+    window->setFixedSize(width, window->layout()->totalHeightForWidth(width));
+}
+
 void dressSheet(QDialog* window) {
     window->setAttribute(Qt::WA_ShowWithoutActivating);
     window->setProperty("role", QStringLiteral("sheet"));
+    fitToWords(window);
 }
 
 }  // namespace
@@ -43,6 +53,7 @@ void Panel::awakeFromNib() {
 
 int Panel::runModalForWindow() {
     window->setWindowModality(Qt::ApplicationModal);
+    fitToWords(window);
     const int code = window->exec();
     window->hide();
     return code;

@@ -174,8 +174,9 @@ void MyTableController::backToMedia() {
         range->clear();
     }
     backButton->setEnabled(false);
-    show_hide_1_screen(false);
+    // Hidden first: two screens in view at a time would make a small window grow.
     show_hide_2_screen(true);
+    show_hide_1_screen(false);
     setMode(kPhotoMode);
     Reload_Drive_list_Function();
     idTableView->setFocus();
@@ -192,12 +193,12 @@ void MyTableController::backToRange() {
     emptyBrowsers();
     zoomLabel->hide();
     _zoom_slider->hide();
-    show_hide_2_screen(false);
     if (Recovery_MODE == kPhotoMode) {
         show_hide_3_screen_Photo(true);
     } else {
         show_hide_3_screen_RawFile(true);
     }
+    show_hide_2_screen(false);
     hideOpenFolderButtons();
     stop_now = 0;
 }

@@ -15,6 +15,7 @@ void MyTableController::show_hide_1_screen(bool hide) {
 
 void MyTableController::show_hide_2_screen(bool hide) {
     const bool photo = Recovery_MODE == kPhotoMode;
+    activeRange().showChosen();
     const std::initializer_list<QWidget*> photoGroup = {
         diskFactsBox,        destinationBox,  _path_label,      _path,          _browse_path,
         criteriaBox,         _entire_disk_rd, _sector_range_rd, _Thro_Mode_Chk, thoroughLabel,
@@ -28,7 +29,6 @@ void MyTableController::show_hide_2_screen(bool hide) {
     if (!photo) {
         thoroughBox->hide();
     }
-    activeRange().showChosen();
 }
 
 void MyTableController::show_hide_3_screen_Photo(bool hide) {
@@ -67,7 +67,7 @@ void MyTableController::showPreviewPane(bool hide) {
     if (video) {
         closemovie_Win();
     } else {
-        _QuickLook_View->clear();
+        _QuickLook_View->setText(tr("Select an item to preview it."));
     }
     previewFacts->clear();
 }

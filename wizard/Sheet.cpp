@@ -9,7 +9,6 @@ namespace vantor {
 
 SheetSession::SheetSession(QDialog* sheet, QWidget* over, QWidget* exempt)
     : m_sheet(sheet), m_over(over), m_exempt(exempt) {
-    m_sheet->adjustSize();
     const QRect window = m_over->window()->frameGeometry();
     m_sheet->move(window.center().x() - m_sheet->width() / 2, window.top() + window.height() / 4);
     m_sheet->show();

@@ -14,7 +14,8 @@ class Browser : public WindowTest {
   protected:
     void addPhotos(int count) {
         for (int i = 0; i < count; ++i) {
-            controller->addImageWithData(QByteArray("junk"), QStringLiteral("GND%1.JPG").arg(++m_added),
+            ++m_added;
+            controller->addImageWithData(QByteArray("junk"), QStringLiteral("GND%1.JPG").arg(m_added),
                                          QStringLiteral("UID%1").arg(m_added));
         }
     }

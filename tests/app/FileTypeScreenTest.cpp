@@ -195,10 +195,10 @@ TEST_F(FileTypes, ResultsTable_BeyondItsEnd_HasEmptyCells) {
     EXPECT_FALSE(controller->tableView(table, QStringLiteral("FileTypes"), -1).isValid());
     EXPECT_FALSE(controller->tableView(table, QStringLiteral("Nothing"), 0).isValid());
     EXPECT_EQ(controller->tableView(table, QStringLiteral("FileTypes"), 1), QStringLiteral("PDF"));
-    EXPECT_EQ(controller->tableView(table, QStringLiteral("NoOfFile"), 1), QStringLiteral("1"));
-    EXPECT_EQ(controller->tableView(table, QStringLiteral("FileName"), 1), QStringLiteral("PDF00001.PDF"));
+    EXPECT_EQ(controller->tableView(table, QStringLiteral("NoOfFile"), 1), QStringLiteral("2"));
+    EXPECT_EQ(controller->tableView(table, QStringLiteral("FileName"), 1), QStringLiteral("PDF00002.PDF"));
     EXPECT_EQ(controller->tableView(table, QStringLiteral("FileTypes_Hidden"), 1), QStringLiteral("PDF"));
-    EXPECT_EQ(table->model()->index(1, 1).data(), QStringLiteral("1")) << "the table itself shows the count";
+    EXPECT_EQ(table->model()->index(1, 1).data(), QStringLiteral("2")) << "the table itself shows the count";
 }
 
 }  // namespace

@@ -232,7 +232,10 @@ TEST_F(Flow, TheWizardIsDrivenByKeyboardAlone) {
     openWithCard();
     controller->idTableView->setFocus();
     QTest::keyClick(controller->idTableView, Qt::Key_Down);
-    QTest::keyClick(controller->window, Qt::Key_Return);
+    ASSERT_TRUE(controller->idTableView->selectionModel()->hasSelection());
+    ASSERT_EQ(QApplication::activeWindow(), controller->window);
+    ASSERT_EQ(controller->window->focusWidget(), controller->idTableView);
+    QTest::keyClick(controller->idTableView, Qt::Key_Return);
     ASSERT_EQ(controller->screen_counter, 1);
     QTest::keyClick(controller->window, Qt::Key_Left, Qt::AltModifier);
     EXPECT_EQ(controller->screen_counter, 0);

@@ -31,8 +31,7 @@ TEST_F(Panels, ThePathsOfBothSetsFollowEitherChooser) {
     answers.then([&](QDialog* dialog) {
         EXPECT_EQ(qobject_cast<QFileDialog*>(dialog)->fileMode(), QFileDialog::Directory);
         EXPECT_TRUE(qobject_cast<QFileDialog*>(dialog)->testOption(QFileDialog::ShowDirsOnly));
-        qobject_cast<QFileDialog*>(dialog)->selectFile(first.path());
-        dialog->accept();
+        chooseFolder(dialog, first.path());
     });
     click(controller->_browse_path);
     ASSERT_TRUE(waitFor([this] { return answers.allGiven() && chooser() == nullptr; }));
@@ -42,10 +41,7 @@ TEST_F(Panels, ThePathsOfBothSetsFollowEitherChooser) {
     toRange(kVideoMode);
     EXPECT_EQ(controller->_path_Sig->text(), QString()) << "the set that is filled forgets its folder";
     answers.press(QStringLiteral("Continue"));
-    answers.then([&](QDialog* dialog) {
-        qobject_cast<QFileDialog*>(dialog)->selectFile(second.path());
-        dialog->accept();
-    });
+    answers.then([&](QDialog* dialog) { chooseFolder(dialog, second.path()); });
     click(controller->_browse_path_Sig);
     ASSERT_TRUE(waitFor([this] { return answers.allGiven() && chooser() == nullptr; }));
     EXPECT_EQ(controller->_path->text(), second.path());
@@ -77,10 +73,7 @@ TEST_F(Panels, AFolderOnTheMedium_IsRefusedWithTheReason) {
     openWithCard();
     toRange(kPhotoMode);
     answers.press(QStringLiteral("Continue"));
-    answers.then([&](QDialog* dialog) {
-        qobject_cast<QFileDialog*>(dialog)->selectFile(onCard.path());
-        dialog->accept();
-    });
+    answers.then([&](QDialog* dialog) { chooseFolder(dialog, onCard.path()); });
     answers.press(QStringLiteral("OK"));
     click(controller->_browse_path);
     ASSERT_TRUE(waitFor([this] { return answers.allGiven(); }));

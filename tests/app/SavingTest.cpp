@@ -68,11 +68,7 @@ TEST_F(Saving, SaveSelected_WritesTheSelectionOnly) {
 TEST_F(Saving, WithoutADestination_OneIsAskedFor) {
     openPhotoResults();
     answers.press(QStringLiteral("Continue"));
-    answers.then([this](QDialog* chooser) {
-        static_cast<QFileDialog*>(chooser)->setDirectory(destination.path());
-        static_cast<QFileDialog*>(chooser)->selectFile(destination.path());
-        chooser->accept();
-    });
+    answers.then([this](QDialog* chooser) { chooseFolder(chooser, destination.path()); });
     answers.press(QStringLiteral("OK"));
     click(controller->saveAllButton);
     EXPECT_EQ(savedFiles().size(), 3);

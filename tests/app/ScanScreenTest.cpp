@@ -149,6 +149,34 @@ TEST_F(ScanScreen, AFailedLastRead_IsReportedAndTheItemsStay) {
     EXPECT_EQ(controller->itemCount(), 2u);
 }
 
+TEST_F(ScanScreen, ThumbnailsAreListedInTheOrderOfCarving_BeforeTheEndScreen) {
+    std::atomic<int> asked{0};
+    parts.thumbnailer = [this, &asked](const QByteArray& bytes) {
+        if (asked++ == 0) {
+            gate.pass();  // the first takes longest
+        }
+        return bytes.left(3);
+    };
+    openWithCard();
+    toRange(kPhotoMode);
+    std::size_t listedAtTheEnd = 0;
+    answers.then([&](QDialog* panel) {
+        listedAtTheEnd = controller->itemCount();
+        pressButton(panel, QStringLiteral("OK"));
+    });
+    click(controller->nextButton);
+    ASSERT_TRUE(waitFor([this] { return gate.someoneWaits() && controller->for_index == 64; }));
+    QTest::qWait(1);
+    EXPECT_EQ(controller->itemCount(), 0u) << "nothing overtakes the first";
+    EXPECT_TRUE(answers.seen().empty()) << "the end screen waits for the thumbnails";
+    gate.open();
+    ASSERT_TRUE(ended());
+    EXPECT_EQ(listedAtTheEnd, 3u);
+    EXPECT_EQ(asked, 3);
+    EXPECT_EQ(controller->itemAt(0)->imageTitle(), QStringLiteral("GND00001.JPG"));
+    EXPECT_EQ(controller->itemAt(2)->imageData(), QByteArray("GIF"));
+}
+
 TEST_F(ScanScreen, ThoroughBoxOff_RunsOnePassInPhotoMode) {
     openWithCard();
     toRange(kPhotoMode);

@@ -3,7 +3,9 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCheckBox>
 #include <QFile>
+#include <QLineEdit>
 #include <QPushButton>
 
 #include "wizard/Theme.h"
@@ -72,15 +74,14 @@ void DialogAnswers::press(const QString& button) {
 }
 
 void DialogAnswers::look() {
+    m_handled.removeIf(
+        [](const QPointer<QDialog>& known) { return known == nullptr || !known->isVisible(); });
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (dialog == nullptr || !dialog->isVisible()) {
-        m_last = nullptr;
+    if (dialog == nullptr || !dialog->isVisible() || m_handled.contains(dialog) ||
+        dialog->objectName() == u"saveProgress") {
         return;
     }
-    if (dialog == m_last || dialog->objectName() == u"saveProgress") {
-        return;
-    }
-    m_last = dialog;
+    m_handled.append(dialog);
     m_seen.push_back(describe(dialog));
     if (m_answers.empty()) {
         ++m_unexpected;
@@ -104,6 +105,13 @@ void pressButton(QDialog* dialog, const QString& text) {
     dialog->reject();
 }
 
+void chooseFolder(QDialog* chooser, const QString& folder) {
+    auto* name = chooser->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    ASSERT_NE(name, nullptr);
+    name->setText(folder);
+    chooser->accept();
+}
+
 WindowTest::WindowTest() {
     parts.media = source;
     parts.openMedium = [this](const QString&) -> std::unique_ptr<SectorReader> {
@@ -124,6 +132,13 @@ WindowTest::WindowTest() {
 }
 
 WindowTest::~WindowTest() {
+    const QString shots = qEnvironmentVariable("VANTOR_SHOTS");
+    if (controller && !shots.isEmpty()) {
+        const auto* test = ::testing::UnitTest::GetInstance()->current_test_info();
+        QString name =
+            QString::fromLatin1(test->test_suite_name()) + u'.' + QString::fromLatin1(test->name());
+        controller->window->grab().save(shots + u'/' + name.replace(u'/', u'_') + QStringLiteral(".png"));
+    }
     controller.reset();
     EXPECT_EQ(answers.unexpected(), 0) << "a dialog came up that the test does not know of";
     EXPECT_TRUE(answers.allGiven()) << "a dialog did not come up";
@@ -132,6 +147,9 @@ WindowTest::~WindowTest() {
 void WindowTest::open() {
     controller = std::make_unique<MyTableController>(parts);
     controller->awakeFromNib();
+    // The sheet that hung over the window took the activation with it.
+    QTest::qWait(5);
+    controller->window->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(controller->window));
 }
 
@@ -155,7 +173,10 @@ void WindowTest::openWithCard() {
 
 void WindowTest::click(QWidget* widget) {
     ASSERT_TRUE(widget->isVisible()) << widget->objectName().toStdString() << " is not in view";
-    QTest::mouseClick(widget, Qt::LeftButton);
+    // A tick box may be wider than what can be clicked of it.
+    const QPoint place =
+        qobject_cast<QCheckBox*>(widget) != nullptr ? QPoint(8, widget->height() / 2) : QPoint();
+    QTest::mouseClick(widget, Qt::LeftButton, {}, place);
 }
 
 bool WindowTest::waitFor(const std::function<bool()>& condition, int milliseconds) {

@@ -6,6 +6,7 @@
 
 #include <QDialog>
 #include <QMessageBox>
+#include <QPointer>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -75,13 +76,15 @@ class DialogAnswers {
     void look();
 
     QTimer m_poll;
-    QPointer<QDialog> m_last;
+    QList<QPointer<QDialog>> m_handled;  // those in view that were seen
     std::deque<Answer> m_answers;
     std::vector<SeenDialog> m_seen;
     int m_unexpected = 0;
 };
 
 void pressButton(QDialog* dialog, const QString& text);
+// Types the folder into a folder chooser and accepts it.
+void chooseFolder(QDialog* chooser, const QString& folder);
 
 class WindowTest : public ::testing::Test {
   protected:
