@@ -20,6 +20,7 @@ void SaveJob::run() {
         if (outcome.saved) {
             m_report.saved.push_back(item);
             m_report.withUnreadableSectors += outcome.sectorsUnreadable > 0 ? 1 : 0;
+            m_report.duplicates += outcome.duplicate ? 1 : 0;
         } else {
             if (m_report.failed++ == 0) {
                 m_report.firstError = outcome.error;

@@ -25,6 +25,7 @@ struct SaveReport {
     bool mediumOpened = false;
     std::vector<std::shared_ptr<MyImageObject>> saved;
     std::size_t withUnreadableSectors = 0;  // of the saved ones
+    std::size_t duplicates = 0;             // of the saved ones: the bytes of another, written once
     std::size_t failed = 0;
     QString firstError;  // of the failed ones
 };

@@ -26,6 +26,10 @@ QString details(const SaveReport& report, const QString& destination, bool cance
     if (!report.saved.empty()) {
         lines << QObject::tr("They are in %1, in a folder for each type.").arg(destination);
     }
+    if (report.duplicates > 0) {
+        lines << QObject::tr("%1 had the same contents as another; the same contents are written once.")
+                     .arg(countOfItems(report.duplicates));
+    }
     if (report.withUnreadableSectors > 0) {
         lines << QObject::tr("%1 could only be read in part; what could not be read is filled with zeros.")
                      .arg(countOfItems(report.withUnreadableSectors));

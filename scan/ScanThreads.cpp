@@ -14,6 +14,7 @@ constexpr std::chrono::milliseconds kLastScanPatience{5000};
 void MyTableController::startScan(void (ScanSession::*driver)()) {
     waitForThreads(kLastScanPatience);
     prepareIcons();
+    setEmptyStates();
     m_inputs = readInputs();
     m_saved.clear();
     m_clock.start();

@@ -27,7 +27,7 @@ QFont titleFont(const QFont& base) {
 
 ChoiceCard::ChoiceCard(QWidget* parent) : QRadioButton(parent) {
     setMouseTracking(true);
-    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
 }

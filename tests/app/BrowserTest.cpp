@@ -2,6 +2,7 @@
 #include <QElapsedTimer>
 #include <QMimeData>
 #include <QScrollBar>
+#include <QSignalSpy>
 
 #include "results/MyImageObject.h"
 #include "results/RecoveryMode.h"
@@ -9,6 +10,18 @@
 
 namespace vantor {
 namespace {
+
+// As many items as asked for, all the same one.
+class Source : public ImageBrowserDataSource {
+  public:
+    qsizetype numberOfItemsInImageBrowser(const ImageBrowserView*) override { return count; }
+    std::shared_ptr<MyImageObject> imageBrowser_itemAtIndex(const ImageBrowserView*, qsizetype) override {
+        return item;
+    }
+    qsizetype count = 0;
+    std::shared_ptr<MyImageObject> item =
+        MyImageObject::initWithImage_data({}, QStringLiteral("a"), QStringLiteral("u"));
+};
 
 class Browser : public WindowTest {
   protected:
@@ -173,19 +186,27 @@ TEST_F(Browser, AListThatBeganAnew_IsTakenAnew) {
     EXPECT_EQ(controller->imageBrowser->model()->index(0, 0).data(), QStringLiteral("GND6.JPG"));
 }
 
+TEST_F(Browser, ALongerListOfOtherItems_IsTakenAnewToo) {
+    open();
+    Source source;
+    controller->imageBrowser->setDataSource(&source);
+    source.count = 5;
+    controller->imageBrowser->reloadData();
+    QSignalSpy anew(controller->imageBrowser->model(), &QAbstractItemModel::modelReset);
+    source.count = 6;
+    controller->imageBrowser->reloadData();
+    EXPECT_EQ(anew.size(), 0) << "a list that grew";
+    source.item = MyImageObject::initWithImage_data({}, QStringLiteral("b"), QStringLiteral("v"));
+    source.count = 7;
+    controller->imageBrowser->reloadData();
+    EXPECT_EQ(anew.size(), 1);
+    controller->imageBrowser->setDataSource(controller.get());
+}
+
 TEST_F(Browser, AHundredThousandItemsInBatches_AreAllThere) {
     open();
     showPhotoScreen();
-    class Source : public ImageBrowserDataSource {
-      public:
-        qsizetype numberOfItemsInImageBrowser(const ImageBrowserView*) override { return count; }
-        std::shared_ptr<MyImageObject> imageBrowser_itemAtIndex(const ImageBrowserView*, qsizetype) override {
-            return item;
-        }
-        qsizetype count = 0;
-        std::shared_ptr<MyImageObject> item =
-            MyImageObject::initWithImage_data({}, QStringLiteral("a"), QStringLiteral("u"));
-    } many;
+    Source many;
     controller->imageBrowser->setDataSource(&many);
     while (many.count < 100'000) {
         many.count += 500;

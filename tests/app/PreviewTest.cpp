@@ -148,6 +148,8 @@ TEST_F(Preview, TheSheetHangsWhileSectorsAreCopied_AndTheWindowTakesNoInput) {
         sheetSeen = controller->ClearPreview_Window->isVisible();
         sessionSeen = controller->session;
         select(1);
+        controller->backButton->setEnabled(true);
+        click(controller->backButton);
         openedMeanwhile = opened;
         gate.open();
     });
@@ -155,6 +157,8 @@ TEST_F(Preview, TheSheetHangsWhileSectorsAreCopied_AndTheWindowTakesNoInput) {
     EXPECT_TRUE(sheetSeen);
     EXPECT_TRUE(sessionSeen);
     EXPECT_EQ(openedMeanwhile, 1) << "one preview at a time";
+    EXPECT_EQ(controller->screen_counter, 3);
+    EXPECT_EQ(controller->itemCount(), 2u);
     EXPECT_EQ(title(), QStringLiteral("A.PDF"));
 }
 

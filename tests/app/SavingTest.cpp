@@ -134,7 +134,12 @@ TEST_F(Saving, RawItemsAreSavedTheSameWay) {
     answers.press(QStringLiteral("OK"));
     click(controller->saveAllButton_Sig);
     EXPECT_TRUE(savedFiles().contains(QStringLiteral("PDF/PDF00001.PDF")));
-    EXPECT_EQ(savedFiles().size(), 4);
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\n4 items were saved."));
+    // Both passes found the document.
+    EXPECT_EQ(savedFiles().size(), 3);
+    EXPECT_TRUE(answers.seen().back().informative.contains(
+        QStringLiteral("1 item had the same contents as another; the same contents are written once.")));
+    EXPECT_FALSE(controller->hasUnsavedItems());
 }
 
 }  // namespace
