@@ -71,7 +71,8 @@ void MyTableController::buildGroupBoxes() {
     qDeleteAll(m_groupBoxes);
     m_groupBoxes.clear();
     // The stretch that keeps the boxes together goes behind the new ones.
-    if (QLayoutItem* last = typeGroupLayout->itemAt(typeGroupLayout->count() - 1); last->spacerItem() != nullptr) {
+    if (QLayoutItem* last = typeGroupLayout->itemAt(typeGroupLayout->count() - 1);
+        last->spacerItem() != nullptr) {
         delete typeGroupLayout->takeAt(typeGroupLayout->count() - 1);
     }
     for (const FileKind kind : kKinds) {

@@ -97,16 +97,16 @@ TEST(ShippedPhotoCatalogues, RecordsShareOneLimit) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Files, ShippedCatalogues,
-                         testing::Values(Shipped{kPhotoCatalogue, CatalogueUse::Photo, true, 25},
-                                         Shipped{kPhotoThoroughCatalogue, CatalogueUse::Photo, false, 5},
-                                         Shipped{kVideoCatalogue, CatalogueUse::Selectable, true, 20},
-                                         Shipped{kVideoThoroughCatalogue, CatalogueUse::Selectable, false, 5},
-                                         Shipped{kRawFileCatalogue, CatalogueUse::Selectable, true, 300},
-                                         Shipped{kRawFileThoroughCatalogue, CatalogueUse::Selectable, false,
-                                                 20}),
-                         [](const auto& shipped) {
-                             return std::string(shipped.param.file).substr(1, std::strlen(shipped.param.file) - 5);
-                         });
+INSTANTIATE_TEST_SUITE_P(
+    Files, ShippedCatalogues,
+    testing::Values(Shipped{kPhotoCatalogue, CatalogueUse::Photo, true, 25},
+                    Shipped{kPhotoThoroughCatalogue, CatalogueUse::Photo, false, 5},
+                    Shipped{kVideoCatalogue, CatalogueUse::Selectable, true, 20},
+                    Shipped{kVideoThoroughCatalogue, CatalogueUse::Selectable, false, 5},
+                    Shipped{kRawFileCatalogue, CatalogueUse::Selectable, true, 300},
+                    Shipped{kRawFileThoroughCatalogue, CatalogueUse::Selectable, false, 20}),
+    [](const auto& shipped) {
+        return std::string(shipped.param.file).substr(1, std::strlen(shipped.param.file) - 5);
+    });
 
 }  // namespace vantor
