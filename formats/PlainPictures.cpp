@@ -136,7 +136,7 @@ Extent walkXpm(ByteView& view) {
         const auto byte = view.u8(at);
         if (!byte)
             return cutOffAt(view, at);
-        if (*byte < '\t' || *byte == 0x7F)
+        if (*byte < '\t' || *byte == 0x7F || *byte == 0xFF)
             return damagedAt(view, at);
         if (*byte == '"')
             quoted = !quoted;

@@ -203,10 +203,10 @@ TEST_P(SameBytes, AreSavedOnce) {
     ASSERT_TRUE(otherType.saved && otherType.duplicate);
     EXPECT_EQ(filesUnder(folder.path()), QStringList({"RMI/c.RMI", "WAV/a.WAV", "WAV/d.WAV"}));
     struct stat one {
-    }, other{};
+    }, second{};
     ::stat(first.path.toLocal8Bit().constData(), &one);
-    ::stat(otherType.path.toLocal8Bit().constData(), &other);
-    EXPECT_EQ(one.st_ino, other.st_ino) << "one file with two names";
+    ::stat(otherType.path.toLocal8Bit().constData(), &second);
+    EXPECT_EQ(one.st_ino, second.st_ino) << "one file with two names";
 
     SavePolicy keep;
     keep.skipDuplicates = false;
