@@ -18,9 +18,11 @@ void MyTableController::addImageWithData(const QByteArray& data, const QString& 
         ScanSession::addImageWithData(data, imageName, image_UID);
         return;
     }
-    m_thumbnails->submit(data, [this, imageName, image_UID, from = handOver()](const QByteArray& thumbnail) {
-        addThumbnail(thumbnail, imageName, image_UID, from);
-    });
+    // Bytes of its own, so that the scan's buffer stays the scan's and keeps its memory for the next item.
+    m_thumbnails->submit(QByteArray(data.constData(), data.size()),
+                         [this, imageName, image_UID, from = handOver()](const QByteArray& thumbnail) {
+                             addThumbnail(thumbnail, imageName, image_UID, from);
+                         });
 }
 
 qsizetype MyTableController::numberOfItemsInImageBrowser(const ImageBrowserView*) {

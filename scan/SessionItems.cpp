@@ -145,8 +145,9 @@ void ScanSession::clearItems() {
 }
 
 QList<ResultRow> ScanSession::resultRows() const {
+    // A list of its own: one that is shared would be changed in place as soon as the other side lets go.
     const std::lock_guard lock(m_listLock);
-    return nsSIGFileInfoDataObject;
+    return QList<ResultRow>(nsSIGFileInfoDataObject.cbegin(), nsSIGFileInfoDataObject.cend());
 }
 
 }  // namespace vantor

@@ -48,7 +48,8 @@ qsizetype MyTableController::numberOfRowsInTableView(const QTableView* table) {
         return nsCheckedListDataObject.size();
     }
     if (table == idSigTableView) {
-        return resultRows().size();
+        const std::lock_guard lock(listLock());
+        return nsSIGFileInfoDataObject.size();
     }
     return 0;
 }
@@ -64,10 +65,10 @@ QVariant MyTableController::tableView(const QTableView* table, const QString& ob
             return rowAt(nsCheckedListDataObject, row).value(objectValueForTableColumn);
         }
         if (table == idSigTableView) {
-            const QList<ResultRow> rows = resultRows();
-            assertParameter(row >= 0 && row < rows.size(),
+            const std::lock_guard lock(listLock());
+            assertParameter(row >= 0 && row < nsSIGFileInfoDataObject.size(),
                             "pRowIndex >= 0 && pRowIndex < [nsSIGFileInfoDataObject count]");
-            const ResultRow& found = rows.at(row);
+            const ResultRow& found = std::as_const(nsSIGFileInfoDataObject).at(row);
             return found.contains(objectValueForTableColumn)
                        ? QVariant(found.value(objectValueForTableColumn))
                        : QVariant();

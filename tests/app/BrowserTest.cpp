@@ -188,16 +188,16 @@ TEST_F(Browser, AListThatBeganAnew_IsTakenAnew) {
 
 TEST_F(Browser, ALongerListOfOtherItems_IsTakenAnewToo) {
     open();
-    Source source;
-    controller->imageBrowser->setDataSource(&source);
-    source.count = 5;
+    Source items;
+    controller->imageBrowser->setDataSource(&items);
+    items.count = 5;
     controller->imageBrowser->reloadData();
     QSignalSpy anew(controller->imageBrowser->model(), &QAbstractItemModel::modelReset);
-    source.count = 6;
+    items.count = 6;
     controller->imageBrowser->reloadData();
     EXPECT_EQ(anew.size(), 0) << "a list that grew";
-    source.item = MyImageObject::initWithImage_data({}, QStringLiteral("b"), QStringLiteral("v"));
-    source.count = 7;
+    items.item = MyImageObject::initWithImage_data({}, QStringLiteral("b"), QStringLiteral("v"));
+    items.count = 7;
     controller->imageBrowser->reloadData();
     EXPECT_EQ(anew.size(), 1);
     controller->imageBrowser->setDataSource(controller.get());

@@ -11,6 +11,7 @@ for tool in Xvfb openbox; do
     fi
 done
 mkdir -p "$shots"
+rm -f "$shots/display"
 server=
 manager=
 trap 'kill $manager $server 2>/dev/null' EXIT
