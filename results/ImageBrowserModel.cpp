@@ -8,7 +8,7 @@
 
 namespace vantor {
 
-ImageBrowserModel::ImageBrowserModel(ImageBrowserView* view) : m_view(view) {}
+ImageBrowserModel::ImageBrowserModel(ImageBrowserView* view) : QAbstractListModel(view), m_view(view) {}
 
 void ImageBrowserModel::reloadData() {
     const qsizetype asked = m_source != nullptr ? m_source->numberOfItemsInImageBrowser(m_view) : 0;
