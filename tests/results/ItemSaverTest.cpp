@@ -1,5 +1,6 @@
 // What lands in the destination: how long, under which name, once.
 #include <gtest/gtest.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
 
 #include <QCryptographicHash>
@@ -208,6 +209,10 @@ TEST_P(SameBytes, AreSavedOnce) {
     ::stat(otherType.path.toLocal8Bit().constData(), &second);
     EXPECT_EQ(one.st_ino, second.st_ino) << "one file with two names";
 
+    const SaveOutcome thirdTime = saver.saveRuns("RMI", "e.RMI", run(300, 600), reader);
+    EXPECT_TRUE(thirdTime.duplicate);
+    EXPECT_EQ(thirdTime.path, otherType.path) << "one name a type";
+
     SavePolicy keep;
     keep.skipDuplicates = false;
     const ItemSaver keeper(folder.filePath("all"), keep);
@@ -264,6 +269,21 @@ TEST(ItemSaver, DestinationThatWentAwayIsNotMadeAgain) {
     EXPECT_FALSE(outcome.saved);
     EXPECT_TRUE(outcome.error.contains("no longer there")) << outcome.error.toStdString();
     EXPECT_FALSE(QFileInfo::exists(destination));
+}
+
+TEST(ItemSaver, DestinationThatWasPulledOutIsNotWrittenBesideItsPlace) {
+    const QTemporaryDir folder;
+    const QByteArray mountPoint = folder.path().toLocal8Bit();
+    if (::mount("tmpfs", mountPoint.constData(), "tmpfs", 0, "size=1m") != 0) {
+        GTEST_SKIP() << "needs root to mount a file system";
+    }
+    ScriptedMedium medium = letters(4);
+    ScriptedReader reader(medium);
+    const ItemSaver saver(folder.path());
+    EXPECT_TRUE(saver.saveRuns("T", "a", run(0, 2), reader).saved);
+    ASSERT_EQ(::umount(mountPoint.constData()), 0);
+    EXPECT_FALSE(saver.saveRuns("T", "b", run(0, 2), reader).saved);
+    EXPECT_TRUE(filesUnder(folder.path()).isEmpty());
 }
 
 TEST(ItemSaver, PartsOfAStreamGoNoFurtherThanTheyWereCarved) {
