@@ -19,15 +19,15 @@ set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "recover photos, videos and files from memory cards
- Vantor Recovery reads a memory card that no longer gives its files back sector
- by sector, knows photos, videos and other files by the bytes that begin them,
- shows what it finds as it finds it, and saves it. It needs no readable file
- system on the card, never writes to it, and searches image files as well.
- .
- Files end where their own format says they end; pictures and movies from the
- card are decoded in confined helper processes. The package holds the program
- with its window, and vantor-recovery-cli for scripts and for machines without a
- display.")
+Vantor Recovery reads a memory card that no longer gives its files back sector
+by sector, knows photos, videos and other files by the bytes that begin them,
+shows what it finds as it finds it, and saves it. It needs no readable file
+system on the card, never writes to it, and searches image files as well.
+
+Files end where their own format says they end; pictures and movies from the
+card are decoded in confined helper processes. The package holds the program
+with its window, and vantor-recovery-cli for scripts and for machines without
+a display.")
 
 # Libraries are found by what the programs link. What is only loaded while they run stands here: pictures and
 # icons that Qt decodes through plugins.
