@@ -16,7 +16,8 @@ class BlockSource {
 
     // Reads up to `into.size()` bytes (a multiple of 512) at the sector. Returns the number of bytes read,
     // which is short at the end of the medium or before a place that was refused, or -1 when not even the
-    // first sector could be read. Every call asks the medium once; repeating is the caller's affair.
+    // first sector could be read. Every call asks the medium once; repeating is the caller's affair. Sources
+    // that are read ahead are asked from several threads at once.
     virtual std::int64_t readAt(std::uint64_t sector, std::span<std::uint8_t> into) = 0;
 
     // False when the medium is gone for good: reading and positioning then fail without asking it. Never

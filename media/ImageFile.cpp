@@ -74,7 +74,7 @@ std::uint64_t ImageFile::sectors() const {
 }
 
 std::int64_t ImageFile::readAt(std::uint64_t sector, std::span<std::uint8_t> into) {
-    if (m_gone || sector >= sectors()) {
+    if (sector >= sectors()) {
         return -1;
     }
     const std::uint64_t rest = sectors() - sector;

@@ -3,6 +3,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <atomic>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -45,7 +46,7 @@ class ImageFile : public BlockSource {
     static bool hasShrunk(const Part& part);
 
     std::vector<Part> m_parts;
-    bool m_gone = false;
+    std::atomic<bool> m_gone = false;  // told by usable(); what can still be read is read
 };
 
 }  // namespace vantor

@@ -1,39 +1,63 @@
-// A ring of windows between the reading thread and its owner.
+// A ring of windows between the reading threads and their owner.
 #include "media/ReadAhead.h"
 
+#include <algorithm>
 #include <span>
+#include <utility>
 
 #include "media/SectorReader.h"
 
 namespace vantor {
 
+namespace {
+
+// The owner fetches too, so that with it every processor has work; more would wait for memory.
+constexpr unsigned kMostThreads = 2;
+constexpr std::size_t kSlotsPerThread = 4;
+
+std::size_t threadsToUse() {
+    return std::clamp(std::thread::hardware_concurrency() - 1, 1U, kMostThreads);
+}
+
+}  // namespace
+
 ReadAhead::ReadAhead(BlockSource& source, std::size_t windowBytes)
     : m_source(source),
       m_windowBytes(windowBytes),
-      m_storage(new std::uint8_t[kSlots * windowBytes]),
-      m_thread([this] { run(); }) {}
+      m_storage(new std::uint8_t[threadsToUse() * kSlotsPerThread * windowBytes]),
+      m_slots(threadsToUse() * kSlotsPerThread) {
+    for (std::size_t n = 0; n < m_slots.size(); ++n) {
+        m_slots[n].bytes = m_storage.get() + n * windowBytes;
+        m_slots[n].looks.resize(windowBytes / kSectorBytes);
+    }
+    for (std::size_t n = 0; n < threadsToUse(); ++n) {
+        m_threads.emplace_back([this] { run(); });
+    }
+}
 
 ReadAhead::~ReadAhead() {
     {
         const std::lock_guard lock(m_mutex);
         m_quit = true;
     }
-    m_wanted.notify_one();
-    m_thread.join();
+    m_wanted.notify_all();
+    for (std::thread& thread : m_threads) {
+        thread.join();
+    }
 }
 
-std::uint8_t* ReadAhead::slot(std::uint64_t window) const {
-    return m_storage.get() + window % kSlots * m_windowBytes;
-}
-
-void ReadAhead::start(std::uint64_t sector) {
+void ReadAhead::start(std::uint64_t sector, std::shared_ptr<const SectorScreen> screen) {
     {
         const std::lock_guard lock(m_mutex);
-        m_nextFetched = sector;
-        m_windowsFetched = m_windowsGivenBack = m_windowsTaken = 0;
+        m_firstSector = sector;
+        m_windowsBegun = m_windowsGivenBack = m_windowsTaken = 0;
+        for (Slot& slot : m_slots) {
+            slot.fetched = false;
+        }
+        m_screen = std::move(screen);
         m_go = true;
     }
-    m_wanted.notify_one();
+    m_wanted.notify_all();
     m_nextTaken = sector;
     m_running = true;
 }
@@ -45,44 +69,59 @@ void ReadAhead::pause() {
     m_running = false;
     std::unique_lock lock(m_mutex);
     m_go = false;
-    m_fetched.wait(lock, [this] { return !m_reading; });
+    m_arrived.wait(lock, [this] { return m_busy == 0; });
 }
 
 ReadAhead::Window ReadAhead::take() {
     std::unique_lock lock(m_mutex);
-    m_windowsGivenBack = m_windowsTaken;
-    if (kSlots - (m_windowsFetched - m_windowsGivenBack) >= kWakeAtFree) {
+    if (m_windowsGivenBack != m_windowsTaken) {
+        m_slots[m_windowsGivenBack % m_slots.size()].fetched = false;
+        m_windowsGivenBack = m_windowsTaken;
         m_wanted.notify_one();
     }
-    m_fetched.wait(lock, [this] { return m_windowsFetched > m_windowsTaken; });
-    const Window window{slot(m_windowsTaken), m_lengths[m_windowsTaken % kSlots]};
+    // Waiting for another thread costs more than doing its work.
+    const Slot& slot = m_slots[m_windowsTaken % m_slots.size()];
+    while (!slot.fetched) {
+        if (mayFetch()) {
+            fetchNext(lock);
+        } else {
+            m_arrived.wait(lock, [&] { return slot.fetched; });
+        }
+    }
     ++m_windowsTaken;
     m_nextTaken += m_windowBytes / kSectorBytes;
-    return window;
+    return {slot.bytes, slot.length, slot.screened ? slot.looks.data() : nullptr};
+}
+
+// Called with the lock held, which is given up while the medium is read.
+void ReadAhead::fetchNext(std::unique_lock<std::mutex>& lock) {
+    const std::uint64_t window = m_windowsBegun++;
+    Slot& slot = m_slots[window % m_slots.size()];
+    ++m_busy;
+    lock.unlock();
+    slot.length = m_source.readAt(m_firstSector + window * (m_windowBytes / kSectorBytes),
+                                  std::span(slot.bytes, m_windowBytes));
+    slot.screened = m_screen != nullptr;
+    if (m_screen && slot.length > 0) {
+        m_screen->screen(slot.bytes, static_cast<std::size_t>(slot.length) / kSectorBytes, slot.looks.data());
+    }
+    lock.lock();
+    --m_busy;
+    slot.fetched = true;
+    if (slot.length != static_cast<std::int64_t>(m_windowBytes)) {
+        m_go = false;
+    }
 }
 
 void ReadAhead::run() {
     std::unique_lock lock(m_mutex);
     for (;;) {
-        m_wanted.wait(lock,
-                      [this] { return m_quit || (m_go && m_windowsFetched - m_windowsGivenBack < kSlots); });
+        m_wanted.wait(lock, [this] { return m_quit || mayFetch(); });
         if (m_quit) {
             return;
         }
-        const std::span<std::uint8_t> into(slot(m_windowsFetched), m_windowBytes);
-        const std::uint64_t sector = m_nextFetched;
-        m_reading = true;
-        lock.unlock();
-        const std::int64_t length = m_source.readAt(sector, into);
-        lock.lock();
-        m_reading = false;
-        m_lengths[m_windowsFetched % kSlots] = length;
-        ++m_windowsFetched;
-        m_nextFetched += m_windowBytes / kSectorBytes;
-        if (length != static_cast<std::int64_t>(m_windowBytes)) {
-            m_go = false;
-        }
-        m_fetched.notify_one();
+        fetchNext(lock);
+        m_arrived.notify_one();
     }
 }
 

@@ -1,4 +1,4 @@
-// Reads the next windows of a sequential reading on a thread of its own while the last one is looked at.
+// Reads and screens the next windows of a sequential reading on threads of its own.
 #pragma once
 
 #include <condition_variable>
@@ -7,14 +7,17 @@
 #include <memory>
 #include <mutex>
 #include <thread>
+#include <vector>
 
 #include "media/BlockSource.h"
+#include "media/SectorScreen.h"
 
 namespace vantor {
 
-// Searching a sector costs about as much as copying it out of the page cache; done side by side, the slower
-// of the two sets the pace instead of their sum. One owner, which may use the source itself only while the
-// reading is paused.
+// Searching a sector costs about half of copying it out of the page cache. Both are done to one window by one
+// thread, so that its bytes never travel from one processor to another, and to several windows side by side.
+// One owner, who lends a hand where it would wait. The source is asked from several threads at once, and by
+// the owner only while the reading is paused.
 class ReadAhead {
   public:
     ReadAhead(BlockSource& source, std::size_t windowBytes);
@@ -22,10 +25,11 @@ class ReadAhead {
     ReadAhead& operator=(const ReadAhead&) = delete;
     ~ReadAhead();
 
-    // Begins to read windows from the sector on; only while paused.
-    void start(std::uint64_t sector);
+    // Begins to read windows from the sector on; only while paused. Without a screen every sector is worth a
+    // look.
+    void start(std::uint64_t sector, std::shared_ptr<const SectorScreen> screen);
 
-    // Ends after the window being read and drops what was fetched.
+    // Ends after the windows being read and drops what was fetched.
     void pause();
 
     // True when the next window to be taken begins at the sector.
@@ -33,20 +37,26 @@ class ReadAhead {
 
     struct Window {
         const std::uint8_t* bytes = nullptr;
-        std::int64_t length = 0;  // as BlockSource::readAt() returned it
+        std::int64_t length = 0;              // as BlockSource::readAt() returned it
+        const std::uint8_t* looks = nullptr;  // one a sector, as SectorScreen sets them; null: look at all
     };
 
     // The next window, waiting for it where necessary; valid until the next take or start. After one that is
-    // not full nothing more is read, and the reading has to be paused and started again.
+    // not full the reading has to be paused and started again.
     Window take();
 
   private:
-    static constexpr std::size_t kSlots = 4;
-    // The thread is woken for this many free slots at once, not for each.
-    static constexpr std::size_t kWakeAtFree = 2;
+    struct Slot {
+        std::uint8_t* bytes = nullptr;
+        std::vector<std::uint8_t> looks;
+        std::int64_t length = 0;
+        bool screened = false;
+        bool fetched = false;
+    };
 
     void run();
-    std::uint8_t* slot(std::uint64_t window) const;
+    void fetchNext(std::unique_lock<std::mutex>& lock);
+    bool mayFetch() const { return m_go && m_windowsBegun - m_windowsGivenBack < m_slots.size(); }
 
     BlockSource& m_source;
     const std::size_t m_windowBytes;
@@ -57,18 +67,19 @@ class ReadAhead {
     std::uint64_t m_nextTaken = 0;  // sector
 
     std::mutex m_mutex;
-    std::condition_variable m_fetched;  // a window is there, or none will follow
+    std::condition_variable m_arrived;  // the window waited for is there, or a thread has come to rest
     std::condition_variable m_wanted;   // slots are free, or there is something else to do
-    std::uint64_t m_nextFetched = 0;    // sector
-    std::uint64_t m_windowsFetched = 0;
+    std::vector<Slot> m_slots;          // window n is in slot n % size
+    std::shared_ptr<const SectorScreen> m_screen;
+    std::uint64_t m_firstSector = 0;
+    std::uint64_t m_windowsBegun = 0;
     std::uint64_t m_windowsGivenBack = 0;
     std::uint64_t m_windowsTaken = 0;
-    std::int64_t m_lengths[kSlots] = {};
-    bool m_go = false;       // the thread may read
-    bool m_reading = false;  // it is doing so
+    std::size_t m_busy = 0;  // threads that are reading
+    bool m_go = false;       // the threads may read
     bool m_quit = false;
 
-    std::thread m_thread;
+    std::vector<std::thread> m_threads;
 };
 
 }  // namespace vantor

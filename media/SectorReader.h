@@ -3,6 +3,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
+
+#include "media/SectorScreen.h"
 
 namespace vantor {
 
@@ -51,6 +54,14 @@ class SectorReader {
     // The 512 bytes of the last sector read; zeros before the first. Valid until the next successful read.
     const std::uint8_t* current() const { return m_current; }
 
+    // False only when the screen has seen the bytes of current() and found them not worth a look.
+    bool worthALook() const {
+        return m_looks == nullptr || m_looks[(m_current - m_windowBegin) / std::ptrdiff_t{kSectorBytes}] != 0;
+    }
+
+    // Has sectors screened from here on, where the reader fetches ahead; null ends it.
+    virtual void setScreen(std::shared_ptr<const SectorScreen>) {}
+
     // Sectors of the medium as it was opened; 0 when that is not known.
     virtual std::uint64_t mediumSectors() const { return 0; }
 
@@ -62,10 +73,11 @@ class SectorReader {
     // True when the medium can be positioned at the sector.
     virtual bool moveTo(std::uint64_t sector) = 0;
 
-    // Gives `sectors` sectors at `bytes` to the reads, the first at once; the bytes stay valid until the next
-    // fetch that succeeds.
-    void handOver(const std::uint8_t* bytes, std::size_t sectors) {
-        m_current = bytes;
+    // Gives `sectors` sectors at `bytes` to the reads, the first at once, and what the screen said of each,
+    // if it was asked; both stay valid until the next fetch that succeeds.
+    void handOver(const std::uint8_t* bytes, std::size_t sectors, const std::uint8_t* looks = nullptr) {
+        m_windowBegin = m_current = bytes;
+        m_looks = looks;
         m_next = bytes + kSectorBytes;
         m_windowEnd = bytes + sectors * kSectorBytes;
     }
@@ -76,6 +88,8 @@ class SectorReader {
     const std::uint8_t* m_current = kZeros;
     const std::uint8_t* m_next = nullptr;
     const std::uint8_t* m_windowEnd = nullptr;
+    const std::uint8_t* m_windowBegin = kZeros;
+    const std::uint8_t* m_looks = nullptr;  // one a sector from m_windowBegin on
     std::uint64_t m_position = 0;
 };
 

@@ -52,7 +52,7 @@ bool WindowedReader::fetchWindow(std::size_t wanted) {
         window = m_ahead->take();
     } else {
         stopReadingAhead();
-        window = {m_back, m_source->readAt(position(), {m_back, wanted * kSectorBytes})};
+        window = {m_back, m_source->readAt(position(), {m_back, wanted * kSectorBytes}), nullptr};
     }
     const auto sectors = window.length < 0 ? 0 : static_cast<std::size_t>(window.length) / kSectorBytes;
     if (sectors < wanted) {
@@ -71,9 +71,9 @@ bool WindowedReader::fetchWindow(std::size_t wanted) {
     if (m_ahead && sequential && sectors == kWindowSectors && m_refused.runs() == 0 &&
         !m_ahead->isAt(m_windowEnd)) {
         stopReadingAhead();
-        m_ahead->start(m_windowEnd);
+        m_ahead->start(m_windowEnd, m_screen);
     }
-    handOver(window.bytes, sectors);
+    handOver(window.bytes, sectors, window.looks);
     return true;
 }
 
@@ -93,6 +93,11 @@ bool WindowedReader::fetchSingle() {
     std::swap(m_front, m_back);
     handOver(m_front, 1);
     return true;
+}
+
+void WindowedReader::setScreen(std::shared_ptr<const SectorScreen> screen) {
+    stopReadingAhead();
+    m_screen = std::move(screen);
 }
 
 void WindowedReader::stopReadingAhead() {

@@ -20,8 +20,8 @@ namespace vantor {
 // this reader, without another word to the medium.
 class WindowedReader : public SectorReader {
   public:
-    // Whether the windows of a sequential reading are fetched on the reader's own thread ahead of time. The
-    // source is then asked from that thread too, though never from two at once.
+    // Whether the windows of a sequential reading are fetched on the reader's own threads ahead of time. The
+    // source is then asked from several threads at once.
     enum class Fetching { WhenAsked, Ahead };
 
     static constexpr std::size_t kWindowSectors = 512;  // 256 KiB, which stays in the second-level cache
@@ -30,6 +30,7 @@ class WindowedReader : public SectorReader {
     ~WindowedReader() override;
 
     std::uint64_t mediumSectors() const override { return m_source->sectors(); }
+    void setScreen(std::shared_ptr<const SectorScreen> screen) override;
 
   protected:
     bool fetch() override;
@@ -45,7 +46,8 @@ class WindowedReader : public SectorReader {
 
     std::unique_ptr<BlockSource> m_source;
     std::unique_ptr<ReadAhead> m_ahead;  // absent when nothing is fetched ahead
-    std::uint64_t m_windowEnd = 0;       // sector behind the last full window
+    std::shared_ptr<const SectorScreen> m_screen;
+    std::uint64_t m_windowEnd = 0;  // sector behind the last full window
     // Two windows: a fetch that fails must leave the bytes of the last good sector in place.
     std::unique_ptr<std::uint8_t[]> m_storage;
     std::uint8_t* m_front;

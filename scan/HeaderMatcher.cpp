@@ -231,6 +231,12 @@ std::optional<int> HeaderMatcher::firstMatch(const std::uint8_t* sector) const {
     return best == kNone ? std::nullopt : std::optional(best);
 }
 
+void HeaderMatcher::screen(const std::uint8_t* bytes, std::size_t count, std::uint8_t* looks) const {
+    for (std::size_t n = 0; n < count; ++n) {
+        looks[n] = firstMatch(bytes + n * kSectorBytes) ? 1 : 0;
+    }
+}
+
 int HeaderMatcher::bestOf(const Probe& probe, std::uint32_t key, const std::uint8_t* sector, int best) const {
     auto entry = std::lower_bound(probe.entries.begin(), probe.entries.end(), key,
                                   [](const Entry& e, std::uint32_t k) { return e.key < k; });

@@ -7,18 +7,23 @@
 #include <optional>
 #include <vector>
 
+#include "media/SectorScreen.h"
+
 namespace vantor {
 
 // The compiled form of a pass's flat record array: start bytes with many headers are looked up by key, those
 // with few are compared four at a time. Construction may take milliseconds; matching is const and allocates
 // nothing.
-class HeaderMatcher {
+class HeaderMatcher : public SectorScreen {
   public:
     explicit HeaderMatcher(const QStringList& records);
 
     // The first record, in list order, whose header stands in the sector by its position rule. `sector` holds
     // 512 bytes; bytes outside match nothing.
     std::optional<int> firstMatch(const std::uint8_t* sector) const;
+
+    // A sector is worth a look when it has a match.
+    void screen(const std::uint8_t* bytes, std::size_t count, std::uint8_t* looks) const override;
 
   private:
     struct Entry {

@@ -1,5 +1,6 @@
 // The photo scan: collects the sectors behind each picture header into one item.
 #include <QStringList>
+#include <memory>
 #include <vector>
 
 #include "catalogue/NumberText.h"
@@ -14,7 +15,7 @@ namespace vantor {
 // The working state of one pass.
 struct ScanSession::PhotoPass {
     explicit PhotoPass(const QString& passName, const QStringList& records)
-        : name(passName), matcher(records) {
+        : name(passName), matcher(std::make_shared<const HeaderMatcher>(records)) {
         for (qsizetype n = 0; n < recordCount(records); ++n) {
             limits.push_back(static_cast<std::uint64_t>(textToInt64(recordField(records, n, Max_File_Size))));
         }
@@ -23,7 +24,7 @@ struct ScanSession::PhotoPass {
     bool isGeneral() const { return name == kGeneralPass; }
 
     QString name;
-    HeaderMatcher matcher;
+    std::shared_ptr<const HeaderMatcher> matcher;
     std::vector<std::uint64_t> limits;  // bytes, a record each
 
     ReferenceSector reference;
@@ -51,6 +52,7 @@ bool ScanSession::Photo_Recovey_Mode(const QString& passName) {
     }
 
     PhotoPass pass(passName, REC_PROC_Array);
+    pFile_Disk->setScreen(pass.matcher);
     runPhotoLoop(pass);
     if (pass.stopped) {
         stop_now = 0;
@@ -69,6 +71,7 @@ void ScanSession::runPhotoLoop(PhotoPass& pass) {
     SectorReader& medium = *pFile_Disk;
     const std::uint64_t end = end_sector;
     const bool haveRecords = !REC_PROC_Array.isEmpty();
+    const std::uint64_t limitWithoutMatch = pass.limits.empty() ? 0 : pass.limits.back();
     std::uint64_t index = for_index;
     while (index < end && haveRecords) {
         if (stop_now.load(std::memory_order_relaxed) == 1) {
@@ -86,10 +89,12 @@ void ScanSession::runPhotoLoop(PhotoPass& pass) {
             }
         }
         for_index.store(++index, std::memory_order_relaxed);
-        if (!pass.reference.equals(medium.current())) {
-            const auto match = pass.matcher.firstMatch(medium.current());
+        // A sector without a match matters as long as it changes the limit.
+        if ((medium.worthALook() || pass.itemLimit != limitWithoutMatch) &&
+            !pass.reference.equals(medium.current())) {
+            const auto match = pass.matcher->firstMatch(medium.current());
             if (!pass.limits.empty()) {
-                pass.itemLimit = match ? pass.limits[static_cast<std::size_t>(*match)] : pass.limits.back();
+                pass.itemLimit = match ? pass.limits[static_cast<std::size_t>(*match)] : limitWithoutMatch;
             }
             if (match) {
                 startPhotoItem(pass, *match);

@@ -1,5 +1,6 @@
 // The raw file scan of the video and raw-file modes: turns headers into runs of sectors.
 #include <QStringList>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -60,10 +61,13 @@ class Companions {
 // The working state of one pass. Size and start are one value for all open items.
 struct ScanSession::RawPass {
     RawPass(const QString& passName, const QStringList& records, const QString& folder)
-        : name(passName), matcher(records), companions(records), destination(folder) {}
+        : name(passName),
+          matcher(std::make_shared<const HeaderMatcher>(records)),
+          companions(records),
+          destination(folder) {}
 
     QString name;
-    HeaderMatcher matcher;
+    std::shared_ptr<const HeaderMatcher> matcher;
     Companions companions;
     QString destination;
 
@@ -89,6 +93,7 @@ bool ScanSession::Raw_File_Recovey_Mode(const QString& passName) {
     }
 
     RawPass pass(passName, REC_PROC_Array, m_view.destinationFolder());
+    pFile_Disk->setScreen(pass.matcher);
     if (!runRawLoop(pass)) {
         stop_now = 0;
         pFile_Disk.reset();
@@ -134,8 +139,8 @@ bool ScanSession::runRawLoop(RawPass& pass) {
         }
 
         bool headerFound = false;
-        if (!pass.reference.equals(medium.current())) {
-            if (const auto match = pass.matcher.firstMatch(medium.current())) {
+        if (medium.worthALook() && !pass.reference.equals(medium.current())) {
+            if (const auto match = pass.matcher->firstMatch(medium.current())) {
                 if (pass.carving) {
                     closeRawItems(pass);
                     pass.itemSize = 0;

@@ -6,6 +6,7 @@
 #include <cstring>
 #include <map>
 #include <memory>
+#include <mutex>
 #include <span>
 #include <vector>
 
@@ -62,12 +63,17 @@ class ScriptedSource : public BlockSource {
     explicit ScriptedSource(ScriptedMedium& medium) : m_medium(medium) {}
 
     std::int64_t readAt(std::uint64_t sector, std::span<std::uint8_t> into) override {
-        return m_medium.gone ? -1 : m_medium.request(sector, into);
+        const std::lock_guard lock(m_mutex);
+        return m_medium.request(sector, into);
     }
-    bool usable() override { return !m_medium.gone; }
+    bool usable() override {
+        const std::lock_guard lock(m_mutex);
+        return !m_medium.gone;
+    }
 
   private:
     ScriptedMedium& m_medium;
+    std::mutex m_mutex;  // reading ahead asks from several threads
 };
 
 // A stream without a buffer: every read is one request for one sector, and fails when that fails.

@@ -1,6 +1,8 @@
 // Random scans with faults and stops: the real engine, over every reader, publishes what the plain one does.
 #include <gtest/gtest.h>
 
+#include <atomic>
+
 #include "media/WindowedReader.h"
 #include "tests/scan/PlainScan.h"
 #include "tests/scan/RandomScans.h"
@@ -30,7 +32,7 @@ class ScriptedBlocks : public BlockSource {
 
   private:
     ScriptedMedium& m_medium;
-    bool m_failed = false;
+    std::atomic<bool> m_failed = false;
 };
 
 std::vector<plain::Item> publishedBy(const TestSession& session, bool photo) {
@@ -151,6 +153,58 @@ TEST(ScanProperty, WindowsChangeNothingThatIsPublished) {
         ASSERT_EQ(session.Photo_Recovey_Mode(s.pass.name), expected.returned) << "round " << round;
         ASSERT_EQ(publishedBy(session, true), expected.items) << "round " << round;
     }
+}
+
+// Read ahead, sectors are screened on other threads before the scan sees them.
+TEST(ScanProperty, ReadingAheadChangesNothingThatIsPublished) {
+    RandomScans random(4);
+    std::size_t items = 0;
+    for (int round = 0; round < 120; ++round) {
+        Scenario s = scenario(random, false);
+        const std::size_t sectors = 3000 + random.below(4000);
+        s.medium.bytes.resize(sectors);
+        for (auto& bytes : s.medium.bytes) {
+            // Long stretches between headers, some of them zeros.
+            bytes = random.oneIn(20) ? random.sector() : decltype(random.sector()){};
+            if (random.oneIn(2)) {
+                bytes[300] = 1;
+            }
+        }
+        for (std::size_t faults = random.below(3); faults > 0; --faults) {
+            s.medium.badForEver.insert(random.below(sectors));
+        }
+        s.pass.start = random.below(sectors / 2);
+        s.pass.end = sectors;
+        s.pass.stopAt.reset();
+        TestSession session(s.medium);
+        session.setMediumOpener([&](const QString&) {
+            return std::make_unique<WindowedReader>(std::make_unique<ScriptedBlocks>(s.medium),
+                                                    WindowedReader::Fetching::Ahead);
+        });
+        const bool photo = round % 2 == 0;
+        plain::Result expected;
+        bool returned = false;
+        if (photo) {
+            (s.pass.name == "GEN" ? session.Ext_Array : session.Adv_Ext_Array) = s.pass.records;
+            session.setRange(s.pass.start, s.pass.end);
+            expected = plain::photoPass(s.medium, s.pass, 0);
+            returned = session.Photo_Recovey_Mode(s.pass.name);
+        } else {
+            session.choose(s.pass.name == "GEN" ? s.pass.records : QStringList(),
+                           s.pass.name == "THD" ? s.pass.records : QStringList());
+            std::map<QString, std::uint64_t> counts;
+            for (const ResultRow& row : session.resultRows()) {
+                counts[row["FileTypes_Hidden"]] = 0;
+            }
+            session.setRange(s.pass.start, s.pass.end);
+            expected = plain::rawPass(s.medium, s.pass, counts);
+            returned = session.Raw_File_Recovey_Mode(s.pass.name);
+        }
+        ASSERT_EQ(publishedBy(session, photo), expected.items) << "round " << round;
+        ASSERT_EQ(returned, expected.returned) << "round " << round;
+        items += expected.items.size();
+    }
+    EXPECT_GT(items, 1000U);
 }
 
 }  // namespace vantor
