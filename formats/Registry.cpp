@@ -64,10 +64,12 @@ constexpr std::array kWalkers = {
     Walker{"ADTS", walkAdts, false, " AAC ADTS "},
     Walker{"AC-3", walkAc3, false, " AC3 EAC3 EC3 "},
     Walker{"PDF", walkPdf, true, " PDF AI "},
-    Walker{"ZIP", walkZip, true,
-           " ZIP DOCX DOCM DOTX XLSX XLSM XLTX XLSB PPTX PPTM PPSX POTX ODT ODS ODP ODG ODF ODB OTT EPUB JAR "
-           "APK XPS "
-           "OXPS KMZ PAGES NUMBERS KEY VSDX CBZ IPA WAR XPI SKETCH 3MF WHL SXW SXC SXI IDML "},
+    Walker{
+        "ZIP", walkZip, true,
+        " ZIP DOCX DOCM DOTX XLSX XLSM XLTX XLSB PPTX PPTM PPSX POTX ODT ODS ODP ODG ODF ODB OTT EPUB JAR "
+        "APK XPS "
+        "OXPS KMZ PAGES NUMBERS KEY VSDX CBZ IPA WAR XPI SKETCH 3MF WHL SXW SXC SXI SXD SXM IDML ODC ODI ODM "
+        "OTG OTH OTP OTS ORA KRA XD GGB SB3 FCSTD NPZ ASICE "},
     Walker{"gzip", walkGzip, true, " GZ TGZ SVGZ EMZ "},
     Walker{"bzip2", walkBzip2, true, " BZ2 TBZ TBZ2 "},
     Walker{"xz", walkXz, true, " XZ TXZ "},
@@ -92,14 +94,18 @@ constexpr std::array kWalkers = {
     Walker{"Shell link", walkShellLink, true, " LNK "},
     Walker{"PostScript", walkPostScript, true, " PS EPS EPSF "},
     Walker{"RTF", walkRtf, true, " RTF "},
-    Walker{"XML", walkXml, false, " XML SVG XMP GPX KML PLIST XSL XSD RSS FB2 XHTML WPL "},
+    Walker{"XML", walkXml, false,
+           " XML SVG XMP GPX KML PLIST XSL XSD RSS FB2 XHTML WPL ABW AMF ATOM CML CSPROJ DAE DBK DRAWIO ENEX "
+           "FCPXML FDX FODT GML GRAPHML JMX KDENLIVE MM MPD MUSICXML MZML NZB OPML OSM QGS QRC SBML TCX TTML "
+           "UI X3D XLF XSPF "},
     Walker{"HTML", walkHtml, false, " HTML HTM XHT MHT "},
     Walker{"vCard", walkContacts, true, " VCF VCARD "},
     Walker{"iCalendar", walkCalendar, true, " ICS IFB VCS "},
     Walker{
         "Text", walkText, false,
         " TXT EML MBOX CSV LOG INI JSON MD C H CPP HPP PY SH BAT JS CSS SQL TEX SRT SUB ASS M3U PLS NFO HDR "
-        "PHP PL JAVA TSV YAML YML "},
+        "PHP PL JAVA TSV YAML YML AFM CCD CUBE CUE DIFF GCODE GPL IMY IPYNB LDIF OBJ OFX ORG PEM PGN PO QIF "
+        "RIS SGF URL USDA VTT "},
 };
 
 }  // namespace
