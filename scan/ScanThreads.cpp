@@ -17,6 +17,7 @@ void MyTableController::startScan(void (ScanSession::*driver)()) {
     setEmptyStates();
     m_inputs = readInputs();
     m_saved.clear();
+    resetAddedItemCount();
     m_clock.start();
     mSetLabelTimer = std::make_shared<ScanTimer>();
     m_driverRunning = true;

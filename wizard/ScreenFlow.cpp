@@ -112,7 +112,6 @@ void MyTableController::nextFromRange() {
     _select_unselect_Chk->setCheckState(Qt::Checked);
     show_hide_2_screen(true);
     stop_now = 0;
-    resetAddedItemCount();
     if (Recovery_MODE == kPhotoMode) {
         show_hide_3_screen_Photo(false);
         _stop_scan->setFocus();

@@ -191,6 +191,20 @@ TEST_F(Flow, Back_FromTheResults_KeepsTheTicks) {
     EXPECT_EQ(controller->nsCheckedListDataObject, before);
 }
 
+TEST_F(Flow, AnotherScanOfTheChosenTypes_CountsItsItemsFromTheStart) {
+    openWithCard();
+    toFileTypes(kRawFileMode);
+    scanToEnd();
+    const std::uint64_t found = controller->itemCount();
+    ASSERT_GT(found, 0u);
+    EXPECT_EQ(controller->addedItemCount(), found);
+    answers.press(QStringLiteral("Go Back Without Saving"));
+    click(controller->backButton);
+    scanToEnd();
+    EXPECT_EQ(controller->itemCount(), found);
+    EXPECT_EQ(controller->addedItemCount(), found);
+}
+
 TEST_F(Flow, Back_FromTheFileTypes_KeepsTheRangeButNotTheTicks) {
     openWithCard();
     toRange(kRawFileMode);
