@@ -59,6 +59,8 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("vantor-recovery"));
     QApplication::setApplicationDisplayName(QStringLiteral("Vantor - Memory Card Recovery"));
     QApplication::setApplicationVersion(QStringLiteral(VANTOR_VERSION));
+    // The desktop finds the window's icon and name by this.
+    QApplication::setDesktopFileName(QStringLiteral("org.vantor.recovery"));
     // The window is closed by the exit routine alone.
     QApplication::setQuitOnLastWindowClosed(false);
     applyTheme(application);
