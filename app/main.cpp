@@ -52,6 +52,15 @@ void fitToScreen(QWidget* window) {
     window->resize(window->size().boundedTo(room.size() * 0.96));
 }
 
+// A process lives, and its windows stay, until the last of its threads is back from the device; nobody who
+// has left the program wants to look at them.
+void leaveTheScreen() {
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        window->hide();
+    }
+    QApplication::sync();
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -72,6 +81,7 @@ int main(int argc, char** argv) {
     controller->awakeFromNib();
     controller->openImages(QApplication::arguments().mid(1));
     const int code = QApplication::exec();
+    leaveTheScreen();
     if (!controller->shutDown(kLastPatience)) {
         // A device that does not answer holds a thread; nothing of it is waited for.
         std::_Exit(code);
