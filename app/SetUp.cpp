@@ -45,6 +45,7 @@ void MyTableController::loadInterface() {
     m_clearPreview = std::make_unique<ClearPreview_Modeless>(window);
     m_loadDrive = std::make_unique<LoadDrive_Modeless>(window);
     m_help = std::make_unique<Help_Support>(window, m_parts.resourcesFolder, m_parts.openDocument);
+    m_savingOptions = std::make_unique<SavingOptions>(window);
     BrowseInfo_Window = m_browseInfo->window;
     SaveFile_Info_Window = m_saveFileInfo->window;
     SaveFile_Info_For_RAW_Window = m_saveFileInfoForRaw->window;
@@ -158,6 +159,7 @@ void MyTableController::setUpBrowsers() {
     for (ImageBrowserView* browser : {imageBrowser, imageBrowser_2}) {
         browser->setDataSource(this);
     }
+    setUpLooks();
 }
 
 void MyTableController::setEmptyStates() {

@@ -87,11 +87,15 @@ void MyTableController::wireButtons() {
             tr("Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima);;All files (*)"));
         openImages(files);
     });
+    connect(_stop_scan, &QPushButton::clicked, this, &MyTableController::clearWaitingThumbnails);
     for (QPushButton* button : {_open_folder, _open_folder_Sig}) {
         connect(button, &QPushButton::clicked, this, &MyTableController::openDestination);
     }
     for (QPushButton* button : {saveSelectedButton, saveSelectedButton_Sig}) {
         connect(button, &QPushButton::clicked, this, &MyTableController::saveSelected);
+    }
+    for (QPushButton* button : {savingOptionsButton, savingOptionsButton_Sig}) {
+        connect(button, &QPushButton::clicked, this, &MyTableController::askSavingOptions);
     }
     for (QPushButton* button : {saveAllButton, saveAllButton_Sig}) {
         connect(button, &QPushButton::clicked, this, &MyTableController::saveAll);

@@ -30,6 +30,7 @@ ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTable
         const MyTableController* const running = controller->load();
         return running != nullptr && running->stop_now == 1;
     });
+    parts.openBeside = parts.openMedium;
     const auto pool = std::make_shared<DecodePool>();
     parts.thumbnailer = [pool](const QByteArray& encoded) { return pool->thumbnail(encoded); };
     parts.picture = [pool](const QString& file, QSize largest) { return pool->picture(file, largest).image; };

@@ -7,6 +7,7 @@
 
 #include "results/ImageBrowserView.h"
 #include "results/MyImageObject.h"
+#include "results/SoundnessBadge.h"
 #include "wizard/Theme.h"
 
 namespace vantor {
@@ -45,7 +46,7 @@ QPixmap ImageCell::decoded(const QByteArray& bytes) const {
 }
 
 void ImageCell::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
-    const auto item = m_view->item(index.row());
+    const auto item = m_view->itemOfRow(index.row());
     if (!item) {
         return;
     }
@@ -71,6 +72,7 @@ void ImageCell::paint(QPainter* painter, const QStyleOptionViewItem& option, con
     } else {
         picture.value<QIcon>().paint(painter, place);
     }
+    paintBadges(painter, place, m_view->factsOfRow(index.row()));
     QRect words = cell.adjusted(4, 0, -4, 0);
     words.setTop(place.bottom() + kPadding / 2);
     painter->setFont(option.font);

@@ -23,8 +23,9 @@ qsizetype runAlert(const Alert& alert, QWidget* over) {
     box.setWindowModality(Qt::ApplicationModal);
     box.setWindowTitle(QApplication::applicationDisplayName());
     box.setTextFormat(Qt::PlainText);
-    box.setIconPixmap(ownIcon(alert.buttons.size() > 1 ? QStringLiteral("question") : QStringLiteral("info"))
-                          .pixmap(kPictureEdge, kPictureEdge));
+    const QString byForm = alert.buttons.size() > 1 ? QStringLiteral("question") : QStringLiteral("info");
+    box.setIconPixmap(
+        ownIcon(alert.picture.isEmpty() ? byForm : alert.picture).pixmap(kPictureEdge, kPictureEdge));
     box.setText(alert.message);
     box.setInformativeText(alert.informative);
     box.setAccessibleName(alert.message.trimmed());

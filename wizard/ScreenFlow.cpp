@@ -212,14 +212,16 @@ void MyTableController::backToFileTypes() {
     show_hide_4_screen_RawFile(true);
     show_hide_3_screen_RawFile(false);
     stop_now = 0;
-    m_saved.clear();
+    forgetSaved();
+    endLooks();
     idCheckTableView->setFocus();
 }
 
 // The items go, and the browsers stand as at the start.
 void MyTableController::emptyBrowsers() {
     clearItems();
-    m_saved.clear();
+    forgetSaved();
+    endLooks();
     emptyBrowserViews();
     showItemCounts();
 }
