@@ -16,7 +16,6 @@ constexpr int kPictureEdge = 40;
 // So many fit into a line of the smaller text, however short the headline.
 constexpr int kLineCharacters = 56;
 
-const QString kOk = QStringLiteral("OK");
 const QString kYes = QStringLiteral("Yes");
 const QString kNo = QStringLiteral("No");
 
@@ -27,9 +26,7 @@ qsizetype runAlert(const Alert& alert, QWidget* over) {
     box.setWindowModality(Qt::ApplicationModal);
     box.setWindowTitle(QApplication::applicationDisplayName());
     box.setTextFormat(Qt::PlainText);
-    // What ends in "OK" tells something, whatever else it offers.
-    const bool asks = alert.buttons.constLast() != kOk;
-    box.setIconPixmap(ownIcon(asks ? QStringLiteral("question") : QStringLiteral("info"))
+    box.setIconPixmap(ownIcon(alert.buttons.size() > 1 ? QStringLiteral("question") : QStringLiteral("info"))
                           .pixmap(kPictureEdge, kPictureEdge));
     box.setText(alert.message);
     box.setInformativeText(alert.informative);
