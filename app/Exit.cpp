@@ -52,8 +52,8 @@ bool MyTableController::windowShouldClose(QObject*) {
 }
 
 void MyTableController::deletePreviews() {
-    if (!Preview_Temp_File.isEmpty()) {
-        QFile::remove(Preview_Temp_File);
+    if (fileManager->isDeletableFileAtPath(Preview_Temp_File)) {
+        fileManager->removeItemAtPath(Preview_Temp_File);
     }
     deletePreviewFiles(m_previewFolder);
 }

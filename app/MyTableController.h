@@ -39,6 +39,7 @@
 #include "decode/ThumbnailQueue.h"
 #include "media/MediaList.h"
 #include "media/RangePanel.h"
+#include "results/FileManager.h"
 #include "results/ImageBrowserModel.h"
 #include "results/RecoveryReport.h"
 #include "results/SavedMarks.h"
@@ -73,8 +74,10 @@ class MyTableController : public QObject,
   public:
     // --- Creation and set-up (app/Lifecycle.cpp, app/SetUp.cpp, app/Wiring.cpp) ---
 
+    // Constructor and destructor are `init` and `dealloc`; there is nothing for the class itself to set up.
     explicit MyTableController(ProgramParts parts);
     ~MyTableController() override;
+    static void initialize() {}
 
     // Once the interface is loaded: fills it and shows the window.
     void awakeFromNib();
@@ -201,7 +204,8 @@ class MyTableController : public QObject,
 
     // --- Fields ---
 
-    // Set when the interface is loaded.
+    // Set at start, with the interface.
+    const FileManager* fileManager = &FileManager::defaultManager();
     QMainWindow* window = nullptr;
     QDialog* BrowseInfo_Window = nullptr;
     QDialog* SaveFile_Info_Window = nullptr;
@@ -297,10 +301,12 @@ class MyTableController : public QObject,
     void backToFileTypes();
     void setMode(int mode);
     void showWhereWeAre();
+    void bringIntoView(QWidget* widget);
     void showPreviewPane(bool hide);
     void hideOpenFolderButtons();
     void pressDefault();
     void browseForDestination();
+    QLineEdit* pathInView() const;
     bool acceptDestination(const QString& folder);
     QString devicePath() const;
 

@@ -103,7 +103,7 @@ void MyTableController::showItemCounts() {
     for (QPushButton* button : {saveAllButton, saveAllButton_Sig}) {
         button->setEnabled(found > 0);
     }
-    const bool haveFolder = !_path->text().isEmpty();
+    const bool haveFolder = !pathInView()->text().isEmpty();
     _open_folder->setEnabled(haveFolder);
     _open_folder_Sig->setEnabled(haveFolder);
     const auto savedCount = static_cast<qsizetype>(m_marks.saved());

@@ -39,6 +39,7 @@ void ImageBrowserView::setDataSource(ImageBrowserDataSource* source) {
 
 void ImageBrowserView::reloadData() {
     m_model->reloadData();
+    describeState();
     viewport()->update();
 }
 
@@ -127,8 +128,13 @@ void ImageBrowserView::setEmptyState(const QIcon& picture, const QString& title,
     m_emptyPicture = picture;
     m_emptyTitle = title;
     m_emptyAdvice = advice;
-    setAccessibleDescription(title + u' ' + advice);
+    describeState();
     viewport()->update();
+}
+
+// The state is read out as long as it lasts, and no longer.
+void ImageBrowserView::describeState() {
+    setAccessibleDescription(m_model->rowCount() == 0 ? m_emptyTitle + u' ' + m_emptyAdvice : QString());
 }
 
 // Keys that move find a place to move from.

@@ -53,6 +53,8 @@ class ImageBrowserView : public QListView {
     void startDrag(Qt::DropActions) override {}
 
   private:
+    void describeState();
+
     ImageBrowserModel* m_model;
     float m_zoom = 0;
     QIcon m_emptyPicture;

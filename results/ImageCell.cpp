@@ -59,6 +59,11 @@ void ImageCell::paint(QPainter* painter, const QStyleOptionViewItem& option, con
         painter->setBrush(theme::kAccentWash);
         painter->drawRoundedRect(QRectF(cell).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
     }
+    if ((option.state & QStyle::State_HasFocus) != 0) {
+        painter->setPen(QPen(theme::kAccent, 1, Qt::DashLine));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRoundedRect(QRectF(cell).adjusted(3.5, 3.5, -3.5, -3.5), kRadius - 2, kRadius - 2);
+    }
     const int edge = m_view->iconSize().width();
     const QRect place(cell.center().x() - edge / 2, cell.top() + kPadding, edge, edge);
     const QVariant picture = item->imageRepresentation();

@@ -76,7 +76,7 @@ void MyTableController::saveItems(const QList<qsizetype>& indexes) {
             window);
         return;
     }
-    const QString destination = _path->text().isEmpty() ? askDestination() : _path->text();
+    const QString destination = pathInView()->text().isEmpty() ? askDestination() : pathInView()->text();
     if (destination.isEmpty() || !acceptDestination(destination)) {
         return;
     }

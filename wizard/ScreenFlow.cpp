@@ -1,4 +1,5 @@
 // The wizard: what Next, Back and the mode radios do on each screen.
+#include <QScrollBar>
 
 #include "app/MyTableController.h"
 #include "results/RecoveryMode.h"
@@ -243,6 +244,20 @@ void MyTableController::showWhereWeAre() {
     }
     stepTrail->setSteps(steps, screen_counter);
     contextBar->setVisible(screen_counter > 0);
+    bodyScroll->verticalScrollBar()->setValue(0);
+    // Once the new screen is laid out.
+    QTimer::singleShot(0, this, [this] {
+        if (window->focusWidget() != nullptr && body->isAncestorOf(window->focusWidget())) {
+            bringIntoView(window->focusWidget());
+        }
+    });
+}
+
+// Lists have scroll bars of their own and stay where they are.
+void MyTableController::bringIntoView(QWidget* widget) {
+    if (qobject_cast<QAbstractItemView*>(widget) == nullptr) {
+        bodyScroll->ensureWidgetVisible(widget);
+    }
 }
 
 }  // namespace vantor

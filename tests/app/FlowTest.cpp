@@ -28,6 +28,7 @@ TEST_F(Flow, Next_WithoutAMedium_IsRefusedAndStays) {
     EXPECT_EQ(answers.seen()[0].text, QStringLiteral("\nPlease select a storage media from list."));
     EXPECT_EQ(answers.seen()[0].informative, QString());
     EXPECT_EQ(answers.seen()[0].buttons, QStringList{QStringLiteral("OK")});
+    EXPECT_EQ(answers.seen()[0].defaultButton, QStringLiteral("OK"));
     EXPECT_EQ(controller->screen_counter, 0);
     EXPECT_TRUE(controller->idTableView->isVisible());
 }

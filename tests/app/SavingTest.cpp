@@ -280,6 +280,24 @@ TEST_F(Saving, TheSheetSaysHowFarItIs_AndCancelEndsIt) {
     EXPECT_TRUE(controller->hasUnsavedItems());
 }
 
+TEST_F(Saving, TheFolderOfAnEarlierSearch_IsNotTakenUnseen) {
+    QTemporaryDir other;
+    openWithCard();
+    toRange(kPhotoMode);
+    controller->_path->setText(destination.path());
+    click(controller->backButton);
+    toFileTypes(kRawFileMode);
+    scanToEnd();
+    ASSERT_EQ(controller->_path_Sig->text(), QString());
+    EXPECT_FALSE(controller->_open_folder_Sig->isEnabled());
+    answers.press(QStringLiteral("Continue"));
+    answers.then([&](QDialog* chooser) { chooseFolder(chooser, other.path()); });
+    answers.press(QStringLiteral("OK"));
+    click(controller->saveAllButton_Sig);
+    EXPECT_TRUE(savedFiles().isEmpty());
+    EXPECT_TRUE(QFileInfo::exists(other.filePath(QStringLiteral("PDF/PDF00001.PDF"))));
+}
+
 TEST_F(Saving, RawItemsAreSavedTheSameWay) {
     openWithCard();
     toFileTypes(kRawFileMode);

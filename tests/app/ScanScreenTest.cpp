@@ -119,6 +119,7 @@ TEST_P(UnreadableMedium, GoesBackToTheScreenBeforeWithTheAlert) {
     EXPECT_EQ(answers.seen().back().text, kReadError);
     EXPECT_EQ(answers.seen().back().informative, QString());
     EXPECT_EQ(answers.seen().back().buttons, QStringList{QStringLiteral("OK")});
+    EXPECT_EQ(answers.seen().back().defaultButton, QStringLiteral("OK"));
     EXPECT_EQ(controller->screen_counter, photo ? 1 : 2);
     EXPECT_EQ(controller->stepTrail->current(), photo ? 1 : 2);
     EXPECT_TRUE(photo ? controller->_path->isVisible() : controller->idCheckTableView->isVisible());
