@@ -31,7 +31,9 @@ ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTable
         return running != nullptr && running->stop_now == 1;
     });
     const auto pool = std::make_shared<DecodePool>();
-    parts.thumbnailer = [pool](const QByteArray& encoded) { return pool->thumbnail(encoded); };
+    parts.thumbnailer = [pool](const QByteArray& encoded, const QString& extension) {
+        return pool->thumbnail(encoded, extension);
+    };
     parts.picture = [pool](const QString& file, QSize largest) { return pool->picture(file, largest).image; };
     parts.movie = [](const QString& file) { return HelperMovie::open(file, kLargestFrame); };
     parts.resourcesFolder = resourcesFolder();

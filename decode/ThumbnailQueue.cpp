@@ -41,7 +41,7 @@ bool ThumbnailQueue::hasRoomFor(std::uint64_t bytes) const {
     return bytesFit && m_items.size() < m_options.maxItems;
 }
 
-bool ThumbnailQueue::submit(QByteArray encoded, Deliver deliver) {
+bool ThumbnailQueue::submit(QByteArray encoded, Deliver deliver, QString extension) {
     const std::uint64_t weight = weightOf(encoded);
     std::unique_lock lock(m_mutex);
     m_room.wait(lock, [&] { return m_cancelled || hasRoomFor(weight); });
@@ -50,7 +50,8 @@ bool ThumbnailQueue::submit(QByteArray encoded, Deliver deliver) {
     }
     m_bytes += weight;
     m_mostBytes = std::max(m_mostBytes, m_bytes);
-    m_items.push_back({m_generation, std::move(encoded), std::move(deliver), {}, false});
+    m_items.push_back(
+        {m_generation, std::move(encoded), std::move(extension), std::move(deliver), {}, false});
     m_work.notify_one();
     return true;
 }
@@ -67,8 +68,9 @@ void ThumbnailQueue::work() {
         const std::uint64_t generation = item.generation;
         QByteArray encoded = std::exchange(item.encoded, {});
         const std::uint64_t weight = weightOf(encoded);
+        const QString extension = item.extension;
         lock.unlock();
-        QByteArray thumbnail = m_makeThumbnail(encoded);
+        QByteArray thumbnail = m_makeThumbnail(encoded, extension);
         encoded = {};
         lock.lock();
         m_bytes -= weight;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
 #include <condition_variable>
 #include <cstddef>
 #include <cstdint>
@@ -23,7 +24,7 @@ struct ThumbnailQueueOptions {
 // the whole bound passes alone.
 class ThumbnailQueue {
   public:
-    using MakeThumbnail = std::function<QByteArray(const QByteArray& encoded)>;
+    using MakeThumbnail = std::function<QByteArray(const QByteArray& encoded, const QString& extension)>;
     // Gets the thumbnail, or an empty array where there is none. Called on the queue's own thread, one call
     // at a time, in the order of submission. May submit nothing to the queue and must not flush or cancel it.
     using Deliver = std::function<void(const QByteArray& thumbnail)>;
@@ -35,8 +36,9 @@ class ThumbnailQueue {
     // Cancels.
     ~ThumbnailQueue();
 
-    // False once the queue is cancelled; the item is then dropped.
-    bool submit(QByteArray encoded, Deliver deliver);
+    // False once the queue is cancelled; the item is then dropped. The extension is the item's, for formats
+    // that carry no mark of their own.
+    bool submit(QByteArray encoded, Deliver deliver, QString extension = {});
     // Returns when everything submitted before has been delivered, or the queue was cancelled.
     void flush();
     // Drops what was not delivered yet: no delivery begins after the return, and blocked submitters return.
@@ -52,6 +54,7 @@ class ThumbnailQueue {
     struct Item {
         std::uint64_t generation = 0;  // of the cancellation before it
         QByteArray encoded;
+        QString extension;
         Deliver deliver;
         QByteArray thumbnail;
         bool ready = false;

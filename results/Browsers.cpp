@@ -19,10 +19,12 @@ void MyTableController::addImageWithData(const QByteArray& data, const QString& 
         return;
     }
     // Bytes of its own, so that the scan's buffer stays the scan's and keeps its memory for the next item.
-    m_thumbnails->submit(QByteArray(data.constData(), data.size()),
-                         [this, imageName, image_UID, from = handOver()](const QByteArray& thumbnail) {
-                             addThumbnail(thumbnail, imageName, image_UID, from);
-                         });
+    m_thumbnails->submit(
+        QByteArray(data.constData(), data.size()),
+        [this, imageName, image_UID, from = handOver()](const QByteArray& thumbnail) {
+            addThumbnail(thumbnail, imageName, image_UID, from);
+        },
+        pathExtension(imageName));
 }
 
 qsizetype MyTableController::numberOfItemsInImageBrowser(const ImageBrowserView*) {

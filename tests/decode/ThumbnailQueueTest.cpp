@@ -17,7 +17,7 @@ namespace {
 using namespace test;
 using std::chrono::milliseconds;
 
-QByteArray echo(const QByteArray& bytes) {
+QByteArray echo(const QByteArray& bytes, const QString&) {
     return bytes;
 }
 
@@ -25,7 +25,7 @@ TEST(ThumbnailQueue, UnevenWork_IsDeliveredInOrder) {
     std::atomic<int> underWay{0};
     std::atomic<int> mostUnderWay{0};
     ThumbnailQueue queue(
-        [&](const QByteArray& bytes) {
+        [&](const QByteArray& bytes, const QString&) {
             const int now = ++underWay;
             int most = mostUnderWay;
             while (most < now && !mostUnderWay.compare_exchange_weak(most, now)) {
@@ -50,7 +50,7 @@ TEST(ThumbnailQueue, UnevenWork_IsDeliveredInOrder) {
 TEST(ThumbnailQueue, FullQueue_BlocksTheSubmitterAndHoldsItsBound) {
     std::counting_semaphore<> gate(0);
     ThumbnailQueue queue(
-        [&](const QByteArray&) {
+        [&](const QByteArray&, const QString&) {
             gate.acquire();
             return QByteArray();
         },
@@ -84,10 +84,22 @@ TEST(ThumbnailQueue, ItemAboveTheBound_PassesAlone) {
     EXPECT_EQ(delivered, (std::vector<qsizetype>{50, 5000, 50}));
 }
 
+TEST(ThumbnailQueue, Extension_GoesWithItsItem) {
+    ThumbnailQueue queue(
+        [](const QByteArray& bytes, const QString& extension) { return bytes + '.' + extension.toLatin1(); },
+        {.workers = 2});
+    std::vector<QByteArray> delivered;
+    const auto deliver = [&](const QByteArray& made) { delivered.push_back(made); };
+    queue.submit("a", deliver, QStringLiteral("TGA"));
+    queue.submit("b", deliver);
+    queue.flush();
+    EXPECT_EQ(delivered, (std::vector<QByteArray>{"a.TGA", "b."}));
+}
+
 TEST(ThumbnailQueue, ItemCount_IsBoundedToo) {
     std::counting_semaphore<> gate(0);
     ThumbnailQueue queue(
-        [&](const QByteArray& bytes) {
+        [&](const QByteArray& bytes, const QString&) {
             gate.acquire();
             return bytes;
         },
@@ -111,7 +123,7 @@ TEST(ThumbnailQueue, ItemCount_IsBoundedToo) {
 TEST(ThumbnailQueue, Cancel_DropsWhatWaitsAndFreesTheSubmitter) {
     std::counting_semaphore<> gate(0);
     ThumbnailQueue queue(
-        [&](const QByteArray& bytes) {
+        [&](const QByteArray& bytes, const QString&) {
             gate.acquire();
             return bytes;
         },
@@ -151,7 +163,7 @@ TEST(ThumbnailQueue, Destruction_WithWorkWaiting_DeliversNothingMore) {
     std::atomic<int> delivered{0};
     {
         ThumbnailQueue queue(
-            [](const QByteArray& bytes) {
+            [](const QByteArray& bytes, const QString&) {
                 std::this_thread::sleep_for(milliseconds(20));
                 return bytes;
             },
@@ -167,7 +179,8 @@ TEST(ThumbnailQueue, Destruction_WithWorkWaiting_DeliversNothingMore) {
 // thumbnail.
 TEST(ThumbnailQueue, HelpersKilledAtRandom_EveryItemComesInOrder) {
     DecodePool pool(poolOptions(2));
-    ThumbnailQueue queue([&](const QByteArray& bytes) { return pool.thumbnail(bytes); }, {.workers = 2});
+    ThumbnailQueue queue([&](const QByteArray& bytes, const QString&) { return pool.thumbnail(bytes); },
+                         {.workers = 2});
     std::atomic<bool> over{false};
     std::atomic<int> kills{0};
     std::thread killer([&] {
