@@ -326,6 +326,7 @@ class MyTableController : public QObject,
     void showItemCounts();
     void runBeside(const std::function<void()>& work);
     void showPicture(const QPixmap& picture, const QString& title);
+    void showPreviewFacts();
     void saveItems(const QList<qsizetype>& indexes);
     bool watchSaving(const std::shared_ptr<SaveJob>& job);
     void reportSaving(const SaveReport& report, const QString& destination, bool cancelled);
