@@ -345,6 +345,7 @@ class MyTableController : public QObject,
     void putInOrder();
     void runBeside(const std::function<void()>& work);
     void showPicture(const QPixmap& picture, const QString& title);
+    void showPreviewFacts();
     void saveItems(const QList<qsizetype>& indexes);
     std::shared_ptr<const ItemSaver> saverFor(const QString& destination);
     bool mayFillDestination(const QString& destination, std::uint64_t bytes);

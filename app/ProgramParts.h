@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <cstdint>
 #include <functional>
 #include <memory>
 
@@ -21,6 +22,8 @@ struct ProgramParts {
     Thumbnailer thumbnailer;
     PicturePreviewer picture = readPicture;
     MovieLoader movie;  // none: every preview is a picture
+    // How long a file sounds, in milliseconds; 0 when it does not or nobody knows. Any one thread.
+    std::function<std::int64_t(const QString& file)> soundLength;
     QString resourcesFolder;
 
     // True when files written into the folder would land on the medium behind "/dev/r" + identifier.

@@ -11,6 +11,7 @@
 #include "decode/DecodePool.h"
 #include "media/PlatformMedia.h"
 #include "results/DestinationCheck.h"
+#include "results/FilePreviewer.h"
 #include "results/HelperMovie.h"
 #include "wizard/Theme.h"
 
@@ -32,9 +33,17 @@ ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTable
     });
     parts.openBeside = parts.openMedium;
     const auto pool = std::make_shared<DecodePool>();
-    parts.thumbnailer = [pool](const QByteArray& encoded) { return pool->thumbnail(encoded); };
-    parts.picture = [pool](const QString& file, QSize largest) { return pool->picture(file, largest).image; };
-    parts.movie = [](const QString& file) { return HelperMovie::open(file, kLargestFrame); };
+    parts.thumbnailer = [pool](const QByteArray& encoded, const QString& extension) {
+        return pool->thumbnail(encoded, extension);
+    };
+    parts.picture = makeFilePreviewer(pool, std::make_shared<const DesktopThumbnailers>());
+    parts.soundLength = [](const QString& file) {
+        const auto sound = SoundReader::open(file);
+        return sound ? sound->durationMs() : 0;
+    };
+    parts.movie = [](const QString& file) {
+        return HelperMovie::open(file, kLargestFrame, {makeDesktopSoundDevice, {}});
+    };
     parts.resourcesFolder = resourcesFolder();
     parts.isOnMedium = [targets = parts.media->targets()](const QString& folder, const QString& devicePath) {
         const auto target = targets->find(devicePath.mid(QStringLiteral("/dev/r").size()));

@@ -41,7 +41,7 @@ bool ThumbnailQueue::hasRoomFor(std::uint64_t bytes) const {
     return bytesFit && m_items.size() < m_options.maxItems;
 }
 
-bool ThumbnailQueue::submit(QByteArray encoded, Deliver deliver, Deliver late) {
+bool ThumbnailQueue::submit(QByteArray encoded, Deliver deliver, QString extension, Deliver late) {
     const std::uint64_t weight = weightOf(encoded);
     std::unique_lock lock(m_mutex);
     m_room.wait(lock, [&] { return m_cancelled || m_hurrying || hasRoomFor(weight); });
@@ -53,6 +53,7 @@ bool ThumbnailQueue::submit(QByteArray encoded, Deliver deliver, Deliver late) {
     auto item = std::make_shared<Item>();
     item->generation = m_generation;
     item->encoded = std::move(encoded);
+    item->extension = std::move(extension);
     item->deliver = std::move(deliver);
     item->late = std::move(late);
     item->overdue = m_hurrying && item->late;
@@ -86,8 +87,9 @@ void ThumbnailQueue::work() {
         m_toDecode.pop_front();
         QByteArray encoded = std::exchange(item->encoded, {});
         const std::uint64_t weight = weightOf(encoded);
+        const QString extension = item->extension;
         lock.unlock();
-        QByteArray thumbnail = m_makeThumbnail(encoded);
+        QByteArray thumbnail = m_makeThumbnail(encoded, extension);
         encoded = {};
         lock.lock();
         m_bytes -= weight;

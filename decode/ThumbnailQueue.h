@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
 #include <condition_variable>
 #include <cstddef>
 #include <cstdint>
@@ -24,7 +25,7 @@ struct ThumbnailQueueOptions {
 // the whole bound passes alone.
 class ThumbnailQueue {
   public:
-    using MakeThumbnail = std::function<QByteArray(const QByteArray& encoded)>;
+    using MakeThumbnail = std::function<QByteArray(const QByteArray& encoded, const QString& extension)>;
     // Gets the thumbnail, or an empty array where there is none. Called on the queue's own thread, one call
     // at a time, in the order of submission. May submit nothing to the queue and must not flush or cancel it.
     using Deliver = std::function<void(const QByteArray& thumbnail)>;
@@ -36,10 +37,11 @@ class ThumbnailQueue {
     // Cancels.
     ~ThumbnailQueue();
 
-    // False once the queue is cancelled; the item is then dropped. With `late` the item may be delivered
-    // without a thumbnail while the queue hurries; `late` then gets the thumbnail when it is made, on any of
-    // the queue's threads, and may be called for several items at a time.
-    bool submit(QByteArray encoded, Deliver deliver, Deliver late = {});
+    // False once the queue is cancelled; the item is then dropped. The extension is the item's, for formats
+    // that carry no mark of their own. With `late` the item may be delivered without a thumbnail while the
+    // queue hurries; `late` then gets the thumbnail when it is made, on any of the queue's threads, and may
+    // be called for several items at a time.
+    bool submit(QByteArray encoded, Deliver deliver, QString extension = {}, Deliver late = {});
     // Nobody waits for a thumbnail any more, until resume(): items that may be late are delivered at once,
     // and a submitter finds room.
     void hurry();
@@ -59,6 +61,7 @@ class ThumbnailQueue {
     struct Item {
         std::uint64_t generation = 0;  // of the cancellation before it
         QByteArray encoded;
+        QString extension;
         Deliver deliver;
         Deliver late;
         QByteArray thumbnail;  // read once ready

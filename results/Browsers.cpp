@@ -26,6 +26,7 @@ void MyTableController::addImageWithData(const QByteArray& data, const QString& 
             addThumbnail(thumbnail, imageName, image_UID, from);
             *place = itemCount() - 1;
         },
+        pathExtension(imageName),
         [this, image_UID, place](const QByteArray& thumbnail) {
             replaceThumbnail(*place, image_UID, thumbnail);
             QMetaObject::invokeMethod(

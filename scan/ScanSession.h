@@ -39,8 +39,8 @@ inline constexpr QStringView kThoroughPass = u"THD";
 enum class PassOutcome { NotRun, Completed, Stopped, ReadError, OpenError };
 
 // Makes a thumbnail (JPEG, longer side at most 100 pixels, upright) of encoded picture bytes; empty when they
-// cannot be decoded.
-using Thumbnailer = std::function<QByteArray(const QByteArray&)>;
+// cannot be decoded. The extension of the item's name helps with formats that carry no mark of their own.
+using Thumbnailer = std::function<QByteArray(const QByteArray& encoded, const QString& extension)>;
 
 // Opens the medium behind "/dev/r" + identifier at sector 0, read-only; null when it cannot be opened.
 using MediumOpener = std::function<std::unique_ptr<SectorReader>(const QString& devicePath)>;

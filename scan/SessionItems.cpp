@@ -38,7 +38,8 @@ void ScanSession::addImageWithData(const QByteArray& data, const QString& imageN
     if (data.isEmpty()) {
         return;
     }
-    addThumbnail(m_thumbnailer ? m_thumbnailer(data) : QByteArray(), imageName, image_UID, m_handOver);
+    addThumbnail(m_thumbnailer ? m_thumbnailer(data, pathExtension(imageName)) : QByteArray(), imageName,
+                 image_UID, m_handOver);
 }
 
 void ScanSession::addThumbnail(const QByteArray& thumbnail, const QString& imageName,
@@ -63,7 +64,8 @@ void ScanSession::addImageWithPath(const QString& path, const QString& imageName
         return;
     }
     const bool shownFromPath =
-        Recovery_MODE == kVideoMode || (m_thumbnailer && !m_thumbnailer(bytesOf(trimmed)).isEmpty());
+        Recovery_MODE == kVideoMode ||
+        (m_thumbnailer && !m_thumbnailer(bytesOf(trimmed), pathExtension(trimmed)).isEmpty());
     if (shownFromPath) {
         appendItem(MyImageObject::initWithImage_Path(trimmed, imageName, image_UID));
     } else {

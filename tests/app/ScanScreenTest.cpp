@@ -152,7 +152,7 @@ TEST_F(ScanScreen, AFailedLastRead_IsReportedAndTheItemsStay) {
 
 TEST_F(ScanScreen, ThumbnailsAreListedInTheOrderOfCarving_BeforeTheEndScreen) {
     std::atomic<int> asked{0};
-    parts.thumbnailer = [this, &asked](const QByteArray& bytes) {
+    parts.thumbnailer = [this, &asked](const QByteArray& bytes, const QString&) {
         if (asked++ == 0) {
             gate.pass();  // the first takes longest
         }

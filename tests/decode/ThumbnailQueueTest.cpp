@@ -18,7 +18,7 @@ namespace {
 using namespace test;
 using std::chrono::milliseconds;
 
-QByteArray echo(const QByteArray& bytes) {
+QByteArray echo(const QByteArray& bytes, const QString&) {
     return bytes;
 }
 
@@ -26,7 +26,7 @@ TEST(ThumbnailQueue, UnevenWork_IsDeliveredInOrder) {
     std::atomic<int> underWay{0};
     std::atomic<int> mostUnderWay{0};
     ThumbnailQueue queue(
-        [&](const QByteArray& bytes) {
+        [&](const QByteArray& bytes, const QString&) {
             const int now = ++underWay;
             int most = mostUnderWay;
             while (most < now && !mostUnderWay.compare_exchange_weak(most, now)) {
@@ -51,7 +51,7 @@ TEST(ThumbnailQueue, UnevenWork_IsDeliveredInOrder) {
 TEST(ThumbnailQueue, FullQueue_BlocksTheSubmitterAndHoldsItsBound) {
     std::counting_semaphore<> gate(0);
     ThumbnailQueue queue(
-        [&](const QByteArray&) {
+        [&](const QByteArray&, const QString&) {
             gate.acquire();
             return QByteArray();
         },
@@ -85,10 +85,22 @@ TEST(ThumbnailQueue, ItemAboveTheBound_PassesAlone) {
     EXPECT_EQ(delivered, (std::vector<qsizetype>{50, 5000, 50}));
 }
 
+TEST(ThumbnailQueue, Extension_GoesWithItsItem) {
+    ThumbnailQueue queue(
+        [](const QByteArray& bytes, const QString& extension) { return bytes + '.' + extension.toLatin1(); },
+        {.workers = 2});
+    std::vector<QByteArray> delivered;
+    const auto deliver = [&](const QByteArray& made) { delivered.push_back(made); };
+    queue.submit("a", deliver, QStringLiteral("TGA"));
+    queue.submit("b", deliver);
+    queue.flush();
+    EXPECT_EQ(delivered, (std::vector<QByteArray>{"a.TGA", "b."}));
+}
+
 TEST(ThumbnailQueue, ItemCount_IsBoundedToo) {
     std::counting_semaphore<> gate(0);
     ThumbnailQueue queue(
-        [&](const QByteArray& bytes) {
+        [&](const QByteArray& bytes, const QString&) {
             gate.acquire();
             return bytes;
         },
@@ -112,7 +124,7 @@ TEST(ThumbnailQueue, ItemCount_IsBoundedToo) {
 TEST(ThumbnailQueue, Hurry_DeliversAtOnceInOrder_AndTheThumbnailsFollow) {
     std::counting_semaphore<> gate(0);
     ThumbnailQueue queue(
-        [&](const QByteArray& bytes) {
+        [&](const QByteArray& bytes, const QString&) {
             gate.acquire();
             return bytes;
         },
@@ -127,6 +139,7 @@ TEST(ThumbnailQueue, Hurry_DeliversAtOnceInOrder_AndTheThumbnailsFollow) {
                 const std::scoped_lock lock(mutex);
                 delivered.push_back({i, made});
             },
+            {},
             [&, i](const QByteArray& made) {
                 const std::scoped_lock lock(mutex);
                 late[i] = made;
@@ -173,14 +186,14 @@ TEST(ThumbnailQueue, Cancel_DropsLateThumbnailsToo) {
     std::counting_semaphore<> gate(0);
     std::atomic<int> late{0};
     ThumbnailQueue queue(
-        [&](const QByteArray& bytes) {
+        [&](const QByteArray& bytes, const QString&) {
             gate.acquire();
             return bytes;
         },
         {.workers = 1});
     for (int i = 0; i < 3; ++i) {
         queue.submit(
-            "x", [](const QByteArray&) {}, [&](const QByteArray&) { ++late; });
+            "x", [](const QByteArray&) {}, {}, [&](const QByteArray&) { ++late; });
     }
     queue.hurry();
     queue.flush();
@@ -195,7 +208,7 @@ TEST(ThumbnailQueue, Cancel_DropsLateThumbnailsToo) {
 TEST(ThumbnailQueue, Cancel_DropsWhatWaitsAndFreesTheSubmitter) {
     std::counting_semaphore<> gate(0);
     ThumbnailQueue queue(
-        [&](const QByteArray& bytes) {
+        [&](const QByteArray& bytes, const QString&) {
             gate.acquire();
             return bytes;
         },
@@ -235,7 +248,7 @@ TEST(ThumbnailQueue, Destruction_WithWorkWaiting_DeliversNothingMore) {
     std::atomic<int> delivered{0};
     {
         ThumbnailQueue queue(
-            [](const QByteArray& bytes) {
+            [](const QByteArray& bytes, const QString&) {
                 std::this_thread::sleep_for(milliseconds(20));
                 return bytes;
             },
@@ -251,7 +264,8 @@ TEST(ThumbnailQueue, Destruction_WithWorkWaiting_DeliversNothingMore) {
 // thumbnail.
 TEST(ThumbnailQueue, HelpersKilledAtRandom_EveryItemComesInOrder) {
     DecodePool pool(poolOptions(2));
-    ThumbnailQueue queue([&](const QByteArray& bytes) { return pool.thumbnail(bytes); }, {.workers = 2});
+    ThumbnailQueue queue([&](const QByteArray& bytes, const QString&) { return pool.thumbnail(bytes); },
+                         {.workers = 2});
     std::atomic<bool> over{false};
     std::atomic<int> kills{0};
     std::thread killer([&] {
