@@ -2,10 +2,12 @@
 #pragma once
 
 #include <QString>
+#include <cstdint>
 #include <functional>
 #include <memory>
 
 #include "media/MediaSource.h"
+#include "results/FreeSpace.h"
 #include "results/Movie.h"
 #include "results/PicturePreview.h"
 #include "scan/ScanSession.h"
@@ -15,13 +17,19 @@ namespace vantor {
 struct ProgramParts {
     std::shared_ptr<MediaSource> media;
     MediumOpener openMedium;
+    MediumOpener
+        openBeside;  // to examine found items while others read the medium; none: nothing is examined
     Thumbnailer thumbnailer;
     PicturePreviewer picture = readPicture;
     MovieLoader movie;  // none: every preview is a picture
+    // How long a file sounds, in milliseconds; 0 when it does not or nobody knows. Any one thread.
+    std::function<std::int64_t(const QString& file)> soundLength;
     QString resourcesFolder;
 
     // True when files written into the folder would land on the medium behind "/dev/r" + identifier.
     std::function<bool(const QString& folder, const QString& devicePath)> isOnMedium;
+    // Bytes that may still be written into the folder; nothing when that is not known.
+    std::function<std::optional<std::uint64_t>(const QString& folder)> freeBytes = freeBytesAt;
     // Shows a document or a folder in its default application.
     std::function<bool(const QString& path)> openDocument;
     // Ends the program.

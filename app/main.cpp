@@ -11,6 +11,7 @@
 #include "decode/DecodePool.h"
 #include "media/PlatformMedia.h"
 #include "results/DestinationCheck.h"
+#include "results/FilePreviewer.h"
 #include "results/HelperMovie.h"
 #include "wizard/Theme.h"
 
@@ -30,10 +31,19 @@ ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTable
         const MyTableController* const running = controller->load();
         return running != nullptr && running->stop_now == 1;
     });
+    parts.openBeside = parts.openMedium;
     const auto pool = std::make_shared<DecodePool>();
-    parts.thumbnailer = [pool](const QByteArray& encoded) { return pool->thumbnail(encoded); };
-    parts.picture = [pool](const QString& file, QSize largest) { return pool->picture(file, largest).image; };
-    parts.movie = [](const QString& file) { return HelperMovie::open(file, kLargestFrame); };
+    parts.thumbnailer = [pool](const QByteArray& encoded, const QString& extension) {
+        return pool->thumbnail(encoded, extension);
+    };
+    parts.picture = makeFilePreviewer(pool, std::make_shared<const DesktopThumbnailers>());
+    parts.soundLength = [](const QString& file) {
+        const auto sound = SoundReader::open(file);
+        return sound ? sound->durationMs() : 0;
+    };
+    parts.movie = [](const QString& file) {
+        return HelperMovie::open(file, kLargestFrame, {makeDesktopSoundDevice, {}});
+    };
     parts.resourcesFolder = resourcesFolder();
     parts.isOnMedium = [targets = parts.media->targets()](const QString& folder, const QString& devicePath) {
         const auto target = targets->find(devicePath.mid(QStringLiteral("/dev/r").size()));
@@ -50,6 +60,15 @@ ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTable
 void fitToScreen(QWidget* window) {
     const QRect room = window->screen()->availableGeometry();
     window->resize(window->size().boundedTo(room.size() * 0.96));
+}
+
+// A process lives, and its windows stay, until the last of its threads is back from the device; nobody who
+// has left the program wants to look at them.
+void leaveTheScreen() {
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        window->hide();
+    }
+    QApplication::sync();
 }
 
 }  // namespace
@@ -72,6 +91,7 @@ int main(int argc, char** argv) {
     controller->awakeFromNib();
     controller->openImages(QApplication::arguments().mid(1));
     const int code = QApplication::exec();
+    leaveTheScreen();
     if (!controller->shutDown(kLastPatience)) {
         // A device that does not answer holds a thread; nothing of it is waited for.
         std::_Exit(code);

@@ -115,8 +115,9 @@ void compare(decode::HelperProcess& helper, const QByteArray& bytes, const char*
 void measureRate(DecodePool& pool, const QByteArray& bytes) {
     constexpr int kPhotos = 100;
     int shown = 0;
-    ThumbnailQueue queue([&](const QByteArray& one) { return pool.thumbnail(one); },
-                         {.workers = pool.helpers()});
+    ThumbnailQueue queue(
+        [&](const QByteArray& one, const QString& extension) { return pool.thumbnail(one, extension); },
+        {.workers = pool.helpers()});
     const auto from = Clock::now();
     for (int i = 0; i < kPhotos; ++i) {
         queue.submit(bytes, [&](const QByteArray& thumbnail) { shown += !thumbnail.isEmpty(); });

@@ -40,7 +40,7 @@ Request pictureRequest(QSize bound, const QString& extension) {
     Request request;
     request.maxWidth = static_cast<std::uint32_t>(std::max(bound.width(), 1));
     request.maxHeight = static_cast<std::uint32_t>(std::max(bound.height(), 1));
-    const QByteArray hint = extension.toLatin1().left(sizeof request.hint - 1);
+    const QByteArray hint = extension.toLower().toLatin1().left(sizeof request.hint - 1);
     std::memcpy(request.hint, hint.constData(), static_cast<std::size_t>(hint.size()));
     return request;
 }
@@ -95,11 +95,11 @@ void DecodePool::close() {
     m_helperWanted.notify_all();
 }
 
-QByteArray DecodePool::thumbnail(const QByteArray& encoded) {
+QByteArray DecodePool::thumbnail(const QByteArray& encoded, const QString& extension) {
     if (encoded.isEmpty()) {
         return {};
     }
-    const Request request = pictureRequest(QSize(kThumbnailSide, kThumbnailSide), {});
+    const Request request = pictureRequest(QSize(kThumbnailSide, kThumbnailSide), extension);
     const DecodedPicture decoded = decode([&](HelperProcess& helper, Answer& answer) {
         return helper.ask(request, encoded, m_options.thumbnailDeadline, answer);
     });

@@ -66,11 +66,11 @@ class DecodePool {
     ~DecodePool();
 
     // A thumbnail: the full picture, upright, longer side at most kThumbnailSide pixels and never enlarged,
-    // as JPEG encoded by this process; empty when the bytes cannot be decoded.
-    QByteArray thumbnail(const QByteArray& encoded);
+    // as JPEG encoded by this process; empty when the bytes cannot be decoded. `extension` (may be empty)
+    // helps with the few formats that carry no mark of their own.
+    QByteArray thumbnail(const QByteArray& encoded, const QString& extension = {});
 
-    // The picture within the bound, upright, never enlarged. `extension` (lower case, may be empty) helps
-    // with the few formats that carry no mark of their own.
+    // The picture within the bound, upright, never enlarged.
     DecodedPicture picture(const QByteArray& encoded, QSize bound, const QString& extension = {});
     DecodedPicture picture(const QString& path, QSize bound);
 

@@ -20,10 +20,18 @@ constexpr std::uint64_t kMaxInputBytes = std::uint64_t{512} * 1024 * 1024;
 constexpr std::uint32_t kMaxAnswerSide = 8192;
 constexpr std::uint32_t kBytesPerPixel = 4;
 
+// Sound travels as pixels do, a sample frame in a pixel's place: two signed 16-bit samples in the machine's
+// byte order, left first. An answer's width is the count of sample frames, its height 1.
+constexpr std::uint32_t kBytesPerSoundFrame = kBytesPerPixel;
+constexpr int kSoundFramesPerSecond = 48000;
+
 enum class RequestKind : std::uint32_t {
     Picture = 1,    // decode the input, scaled into the bound, upright
     OpenMovie = 2,  // open the file, decode its first frame
     NextFrame = 3,  // the frame after the last, or the first one at or after timeMs when that is not negative
+    OpenSound = 4,  // open the file, decode the first piece of its sound
+    NextSound = 5,  // what follows the last piece, or the piece around timeMs when that is not negative
+    OpenCover = 6,  // as OpenMovie; a sound file's cover does as well
 };
 
 // Which descriptors ride with a request, in this order.
@@ -51,7 +59,7 @@ enum class AnswerStatus : std::uint32_t {
     Ready = 1,  // the helper's first message, serial 0
     Ok = 2,
     NotDecodable = 3,
-    EndOfMovie = 4,
+    EndOfMovie = 4,  // or of its sound
     BadRequest = 5,
 };
 
@@ -73,7 +81,7 @@ struct Answer {
     std::uint32_t fullHeight = 0;
     std::uint32_t flags = 0;  // AnswerFlags
     std::uint32_t reserved = 0;
-    std::int64_t timeMs = 0;      // of the frame
+    std::int64_t timeMs = 0;      // of the frame, or of the first sample
     std::int64_t durationMs = 0;  // of the movie; 0 when not known
 };
 

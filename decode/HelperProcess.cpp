@@ -93,7 +93,7 @@ bool makeRoom(SharedMemory& memory, std::uint64_t bytes, SharedAccess access, bo
 }  // namespace
 
 std::unique_ptr<HelperProcess> HelperProcess::start(const QString& executable,
-                                                    std::chrono::milliseconds deadline) {
+                                                    std::chrono::milliseconds deadline, int cancel) {
     int ends[2];
     if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends) != 0) {
         return nullptr;
@@ -109,7 +109,7 @@ std::unique_ptr<HelperProcess> HelperProcess::start(const QString& executable,
         close(ends[0]);
         return nullptr;
     }
-    std::unique_ptr<HelperProcess> helper(new HelperProcess(pid, ends[0]));
+    std::unique_ptr<HelperProcess> helper(new HelperProcess(pid, ends[0], cancel));
     Answer ready;
     if (helper->receive(Clock::now() + deadline, ready) != AskOutcome::Answered ||
         ready.status != AnswerStatus::Ready) {
@@ -229,9 +229,11 @@ bool HelperProcess::send(const Request& filled, int file, bool withInput, bool w
 AskOutcome HelperProcess::receive(Clock::time_point deadline, Answer& answer) {
     for (;;) {
         const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now()).count();
-        pollfd waited{m_socket, POLLIN, 0};
-        const int ready = poll(&waited, 1, static_cast<int>(std::clamp<std::int64_t>(left, 0, 1'000'000)));
-        if (ready == 0) {
+        // A negative descriptor is passed over.
+        std::array<pollfd, 2> waited{{{m_socket, POLLIN, 0}, {m_cancel, POLLIN, 0}}};
+        const int ready = poll(waited.data(), waited.size(),
+                               static_cast<int>(std::clamp<std::int64_t>(left, 0, 1'000'000)));
+        if (ready == 0 || (ready > 0 && waited[1].revents != 0)) {
             return AskOutcome::Late;
         }
         if (ready < 0) {

@@ -19,7 +19,7 @@ namespace vantor::decode {
 enum class AskOutcome {
     Answered,
     Died,         // the helper crashed or was ended; see killedFromOutside()
-    Late,         // no answer by the deadline
+    Late,         // no answer by the deadline, or the wait was cancelled
     BadAnswer,    // an answer that no helper of ours gives
     NotPossible,  // no memory or no descriptor could be had; the helper is unharmed
 };
@@ -36,9 +36,10 @@ class HelperProcess {
   public:
     using Clock = std::chrono::steady_clock;
 
-    // Null when the executable cannot be started or does not report ready in time.
-    static std::unique_ptr<HelperProcess> start(const QString& executable,
-                                                std::chrono::milliseconds deadline);
+    // Null when the executable cannot be started or does not report ready in time. `cancel` is a descriptor
+    // that ends every wait when it becomes readable; -1 for none.
+    static std::unique_ptr<HelperProcess> start(const QString& executable, std::chrono::milliseconds deadline,
+                                                int cancel = -1);
     HelperProcess(const HelperProcess&) = delete;
     HelperProcess& operator=(const HelperProcess&) = delete;
     // Kills and reaps whatever still runs.
@@ -65,7 +66,7 @@ class HelperProcess {
     HelperEnd finish();
 
   private:
-    HelperProcess(pid_t pid, int socket) : m_pid(pid), m_socket(socket) {}
+    HelperProcess(pid_t pid, int socket, int cancel) : m_pid(pid), m_socket(socket), m_cancel(cancel) {}
 
     AskOutcome exchange(Request& request, int file, std::chrono::milliseconds deadline, Answer& answer);
     bool send(const Request& request, int file, bool withInput, bool withOutput);
@@ -74,6 +75,7 @@ class HelperProcess {
 
     pid_t m_pid = -1;
     int m_socket = -1;
+    int m_cancel = -1;
     bool m_caged = false;
     bool m_inputSent = false;
     bool m_outputSent = false;

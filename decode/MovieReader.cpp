@@ -22,6 +22,16 @@ MovieReader::MovieReader(std::unique_ptr<HelperProcess> helper, QSize bound, Mov
     : m_helper(std::move(helper)), m_bound(bound), m_options(std::move(options)) {}
 
 std::unique_ptr<MovieReader> MovieReader::open(const QString& path, QSize bound, MovieReaderOptions options) {
+    return openAs(RequestKind::OpenMovie, path, bound, std::move(options));
+}
+
+QImage MovieReader::cover(const QString& path, QSize bound, MovieReaderOptions options) {
+    const auto reader = openAs(RequestKind::OpenCover, path, bound, std::move(options));
+    return reader ? reader->poster().image : QImage();
+}
+
+std::unique_ptr<MovieReader> MovieReader::openAs(RequestKind kind, const QString& path, QSize bound,
+                                                 MovieReaderOptions options) {
     if (options.helper.isEmpty()) {
         options.helper = DecodePool::helperPath(QStringLiteral("vantor-decode-movie"));
     }
@@ -29,14 +39,13 @@ std::unique_ptr<MovieReader> MovieReader::open(const QString& path, QSize bound,
     if (bound.isEmpty() || !file.isOpen()) {
         return nullptr;
     }
-    auto helper = HelperProcess::start(options.helper, options.startDeadline);
+    auto helper = HelperProcess::start(options.helper, options.startDeadline, options.cancelDescriptor());
     if (!helper) {
         return nullptr;
     }
     std::unique_ptr<MovieReader> reader(new MovieReader(std::move(helper), bound, std::move(options)));
     Answer answer;
-    auto poster =
-        reader->ask(RequestKind::OpenMovie, file.descriptor(), -1, reader->m_options.openDeadline, answer);
+    auto poster = reader->ask(kind, file.descriptor(), -1, reader->m_options.openDeadline, answer);
     if (!poster) {
         return nullptr;
     }

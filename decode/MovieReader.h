@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 
+#include "decode/CancelSignal.h"
 #include "decode/HelperProcess.h"
 
 namespace vantor {
@@ -18,6 +19,10 @@ struct MovieReaderOptions {
     std::chrono::milliseconds startDeadline{10000};
     std::chrono::milliseconds openDeadline{5000};
     std::chrono::milliseconds frameDeadline{3000};
+    // Ends the reader at once when it is raised, whatever is under way; must outlive it.
+    const CancelSignal* cancel = nullptr;
+
+    int cancelDescriptor() const { return cancel ? cancel->descriptor() : -1; }
 };
 
 struct MovieFrame {
@@ -33,6 +38,9 @@ class MovieReader {
     // Null when the file is no movie that can be shown, or no helper can be started.
     static std::unique_ptr<MovieReader> open(const QString& path, QSize bound,
                                              MovieReaderOptions options = {});
+
+    // The picture that a sound file carries, or a movie's first frame; null when there is none.
+    static QImage cover(const QString& path, QSize bound, MovieReaderOptions options = {});
 
     // The displayed size, upright; the length, 0 when not known; whether there is sound.
     QSize fullSize() const { return m_fullSize; }
@@ -50,6 +58,8 @@ class MovieReader {
     pid_t helperPid() const { return m_helper ? m_helper->pid() : -1; }
 
   private:
+    static std::unique_ptr<MovieReader> openAs(decode::RequestKind kind, const QString& path, QSize bound,
+                                               MovieReaderOptions options);
     MovieReader(std::unique_ptr<decode::HelperProcess> helper, QSize bound, MovieReaderOptions options);
     std::optional<MovieFrame> ask(decode::RequestKind kind, int file, std::int64_t timeMs,
                                   std::chrono::milliseconds deadline, decode::Answer& answer);

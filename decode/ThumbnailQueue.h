@@ -2,11 +2,13 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
 #include <condition_variable>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <thread>
 #include <vector>
@@ -23,7 +25,7 @@ struct ThumbnailQueueOptions {
 // the whole bound passes alone.
 class ThumbnailQueue {
   public:
-    using MakeThumbnail = std::function<QByteArray(const QByteArray& encoded)>;
+    using MakeThumbnail = std::function<QByteArray(const QByteArray& encoded, const QString& extension)>;
     // Gets the thumbnail, or an empty array where there is none. Called on the queue's own thread, one call
     // at a time, in the order of submission. May submit nothing to the queue and must not flush or cancel it.
     using Deliver = std::function<void(const QByteArray& thumbnail)>;
@@ -35,12 +37,19 @@ class ThumbnailQueue {
     // Cancels.
     ~ThumbnailQueue();
 
-    // False once the queue is cancelled; the item is then dropped.
-    bool submit(QByteArray encoded, Deliver deliver);
+    // False once the queue is cancelled; the item is then dropped. The extension is the item's, for formats
+    // that carry no mark of their own. With `late` the item may be delivered without a thumbnail while the
+    // queue hurries; `late` then gets the thumbnail when it is made, on any of the queue's threads, and may
+    // be called for several items at a time.
+    bool submit(QByteArray encoded, Deliver deliver, QString extension = {}, Deliver late = {});
+    // Nobody waits for a thumbnail any more, until resume(): items that may be late are delivered at once,
+    // and a submitter finds room.
+    void hurry();
     // Returns when everything submitted before has been delivered, or the queue was cancelled.
     void flush();
-    // Drops what was not delivered yet: no delivery begins after the return, and blocked submitters return.
-    // Waits for the delivery under way but not for decoding. The queue takes nothing more until resume().
+    // Drops what was not delivered yet, late thumbnails included: no delivery begins after the return, and
+    // blocked submitters return. Waits for the delivery under way but not for decoding. The queue takes
+    // nothing more until resume().
     void cancel();
     void resume();
 
@@ -52,13 +61,18 @@ class ThumbnailQueue {
     struct Item {
         std::uint64_t generation = 0;  // of the cancellation before it
         QByteArray encoded;
+        QString extension;
         Deliver deliver;
-        QByteArray thumbnail;
+        Deliver late;
+        QByteArray thumbnail;  // read once ready
         bool ready = false;
+        bool overdue = false;
+        bool delivered = false;
     };
 
     void work();
     void deliverInOrder();
+    void deliverLate(std::unique_lock<std::mutex>& lock, const Item& item);
     bool hasRoomFor(std::uint64_t bytes) const;
 
     const MakeThumbnail m_makeThumbnail;
@@ -67,13 +81,15 @@ class ThumbnailQueue {
     mutable std::mutex m_mutex;
     std::condition_variable m_room, m_work, m_done, m_idle;
     // Positions are counted over the queue's whole life: m_items[0] is item m_firstPosition.
-    std::deque<Item> m_items;
+    std::deque<std::shared_ptr<Item>> m_items;  // not yet delivered
     std::uint64_t m_firstPosition = 0;
-    std::uint64_t m_nextToDecode = 0;
+    std::deque<std::shared_ptr<Item>> m_toDecode;  // nobody has begun with
     std::uint64_t m_generation = 0;
     std::uint64_t m_bytes = 0;
     std::uint64_t m_mostBytes = 0;
     bool m_delivering = false;
+    int m_lateUnderWay = 0;
+    bool m_hurrying = false;
     bool m_cancelled = false;
     bool m_closing = false;
 

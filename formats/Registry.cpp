@@ -30,6 +30,7 @@ constexpr std::array kWalkers = {
     Walker{"DDS", walkDds, true, " DDS "},
     Walker{"XCF", walkXcf, true, " XCF "},
     Walker{"Any map", walkAnyMap, false, " PPM PGM PBM PNM "},
+    Walker{"Radiance", walkRadiance, false, " HDR "},
     Walker{"SGI", walkSgi, false, " SGI RGB RGBA BW "},
     Walker{"QOI", walkQoi, true, " QOI "},
     Walker{"XPM", walkXpm, true, " XPM "},
@@ -103,7 +104,7 @@ constexpr std::array kWalkers = {
     Walker{"iCalendar", walkCalendar, true, " ICS IFB VCS "},
     Walker{
         "Text", walkText, false,
-        " TXT EML MBOX CSV LOG INI JSON MD C H CPP HPP PY SH BAT JS CSS SQL TEX SRT SUB ASS M3U PLS NFO HDR "
+        " TXT EML MBOX CSV LOG INI JSON MD C H CPP HPP PY SH BAT JS CSS SQL TEX SRT SUB ASS M3U PLS NFO "
         "PHP PL JAVA TSV YAML YML AFM CCD CUBE CUE DIFF GCODE GPL IMY IPYNB LDIF OBJ OFX ORG PEM PGN PO QIF "
         "RIS SGF URL USDA VTT "},
 };

@@ -25,6 +25,7 @@ Extent walkDds(ByteView& view);
 Extent walkXcf(ByteView& view);
 Extent walkAnyMap(ByteView& view);  // PBM, PGM, PPM in bytes
 Extent walkSgi(ByteView& view);
+Extent walkRadiance(ByteView& view);  // also the text that bears the same ending
 Extent walkQoi(ByteView& view);
 Extent walkXpm(ByteView& view);
 Extent walkRaf(ByteView& view);

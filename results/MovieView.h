@@ -1,4 +1,4 @@
-// Shows the movie of the current preview; holds at most one.
+// Shows the movie of the current preview with its controls; holds at most one.
 #pragma once
 
 #include <QWidget>
@@ -7,6 +7,8 @@
 #include "results/Movie.h"
 
 namespace vantor {
+
+class MovieControls;
 
 class MovieView : public QWidget {
     Q_OBJECT
@@ -28,6 +30,10 @@ class MovieView : public QWidget {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    void showProgress();
+    QRect screen() const;
+
+    MovieControls* m_controls;
     std::unique_ptr<Movie> m_movie;
     QImage m_frame;
 };

@@ -93,6 +93,10 @@ bool isDocument(const QMimeType& mime) {
 
 }  // namespace
 
+bool isTextExtension(const QString& extension) {
+    return mimeOf(extension).inherits(QStringLiteral("text/plain"));
+}
+
 FileKind kindOfExtension(const QString& extension) {
     const FileKind byName = kindByName(extension);
     if (byName != FileKind::Other) {

@@ -36,6 +36,8 @@ class FileTypeIcons {
 // What kind of thing a file of the type holds.
 enum class FileKind { Document, Archive, Sound, Picture, Video, Other };
 FileKind kindOfExtension(const QString& extension);
+// Whether files of the type are plain text, markup and source code included.
+bool isTextExtension(const QString& extension);
 // As above; where the extension says nothing, the words of the description decide.
 FileKind kindOfType(const QString& extension, const QString& description);
 

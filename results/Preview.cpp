@@ -5,6 +5,7 @@
 
 #include "app/MyTableController.h"
 #include "catalogue/NumberText.h"
+#include "results/MovieControls.h"
 #include "results/PreviewFile.h"
 #include "results/RecoveryMode.h"
 #include "wizard/Sheet.h"
@@ -74,15 +75,38 @@ void MyTableController::CreateFile_QuickLook_View(const QVariantList& item) {
         QuickLook_Preview_Thread(path);
     }
     session = false;
-    if (stop_now == 1 && stop_screen_already_show == 0) {
+    // A scan that still runs shows its end itself, once it has let the medium go.
+    if (stop_now == 1 && stop_screen_already_show == 0 && !scanRunning()) {
         Final_or_Stop_Screen();
     }
 }
 
 void MyTableController::QuickLook_Preview_Thread(const QString& itemPath) {
     setQuickLook_View_File(Preview_Temp_File, lastComponent(itemPath));
+    if (!m_ending) {
+        showPreviewFacts();
+    }
+}
+
+// The size of the copied file, and of sound how long it is.
+void MyTableController::showPreviewFacts() {
     const QFileInfo file(Preview_Temp_File);
-    previewFacts->setText(file.exists() ? QLocale().formattedDataSize(file.size()) : QString());
+    if (!file.isFile()) {
+        previewFacts->clear();
+        return;
+    }
+    QString facts = QLocale().formattedDataSize(file.size());
+    const auto length = std::make_shared<std::int64_t>(0);
+    if (m_parts.soundLength && kindOfExtension(pathExtension(file.fileName())) == FileKind::Sound) {
+        runBeside([ask = m_parts.soundLength, path = file.filePath(), length] { *length = ask(path); });
+    }
+    if (m_ending) {
+        return;
+    }
+    if (*length > 0) {
+        facts = tr("%1, %2 min").arg(facts, timeText(*length));
+    }
+    previewFacts->setText(facts);
 }
 
 void MyTableController::setQuickLook_View_File(const QString& file, const QString& file_Name) {
@@ -133,12 +157,18 @@ void MyTableController::Image_Preview(const QString& file, const QString& file_N
     }
     const QString extension = pathExtension(file);
     m_previewIcons.prepare(extension);
-    showPicture(m_previewIcons.icon(extension).pixmap(kPreviewSize), file_Name);
+    QPixmap icon = m_previewIcons.icon(extension).pixmap(kPreviewSize);
+    // The desktop's icons may end at a smaller size.
+    if (!icon.isNull() && icon.size() != kPreviewSize) {
+        icon = icon.scaled(kPreviewSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    }
+    showPicture(icon, file_Name);
 }
 
 void MyTableController::showPicture(const QPixmap& picture, const QString& title) {
     _QuickLook_View_Box->setTitle(title);
     _QuickLook_View->setPixmap(picture);
+    _QuickLook_View->setAccessibleName(tr("Preview of %1").arg(title));
 }
 
 }  // namespace vantor

@@ -180,8 +180,9 @@ void MyTableController::returnFromScanScreen(ControlSet set) {
 }
 
 void MyTableController::hideScanProgress() {
-    for (QWidget* widget : std::initializer_list<QWidget*>{_Mode_label, _Progress_Horz, _sector_label,
-                                                           _stop_scan, scanFactsLabel, scanStrip}) {
+    for (QWidget* widget :
+         std::initializer_list<QWidget*>{clearingLabel, _Mode_label, _Progress_Horz, _sector_label,
+                                         _stop_scan, scanFactsLabel, scanStrip}) {
         widget->hide();
     }
     if (pFile_op) {

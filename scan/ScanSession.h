@@ -39,8 +39,8 @@ inline constexpr QStringView kThoroughPass = u"THD";
 enum class PassOutcome { NotRun, Completed, Stopped, ReadError, OpenError };
 
 // Makes a thumbnail (JPEG, longer side at most 100 pixels, upright) of encoded picture bytes; empty when they
-// cannot be decoded.
-using Thumbnailer = std::function<QByteArray(const QByteArray&)>;
+// cannot be decoded. The extension of the item's name helps with formats that carry no mark of their own.
+using Thumbnailer = std::function<QByteArray(const QByteArray& encoded, const QString& extension)>;
 
 // Opens the medium behind "/dev/r" + identifier at sector 0, read-only; null when it cannot be opened.
 using MediumOpener = std::function<std::unique_ptr<SectorReader>(const QString& devicePath)>;
@@ -176,6 +176,9 @@ class ScanSession {
     // empty. Any one thread at a time.
     void addThumbnail(const QByteArray& thumbnail, const QString& imageName, const QString& image_UID,
                       const HandOver& from);
+    // Gives the listed item of the place and UID its thumbnail; nothing when it is no longer there. Any
+    // thread.
+    void replaceThumbnail(std::size_t index, const QString& image_UID, const QByteArray& thumbnail);
     // The chosen medium (of the control set of the mode), opened afresh at sector 0; null when it cannot be
     // opened.
     std::unique_ptr<SectorReader> openMedium() const;

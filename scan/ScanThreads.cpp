@@ -16,8 +16,15 @@ void MyTableController::startScan(void (ScanSession::*driver)()) {
     prepareIcons();
     setEmptyStates();
     m_inputs = readInputs();
-    m_saved.clear();
+    if (m_thumbnails) {
+        m_thumbnails->cancel();
+        m_thumbnails->resume();
+    }
+    forgetSaved();
+    beginLooks();
+    resetAddedItemCount();
     m_clock.start();
+    m_scanBegun = QDateTime::currentDateTime();
     mSetLabelTimer = std::make_shared<ScanTimer>();
     m_driverRunning = true;
     m_timerRunning = true;
@@ -41,6 +48,17 @@ void MyTableController::startTimerThread() {
 
 void MyTableController::stop_usb_disk(QObject*) {
     stop_now = 1;
+}
+
+// Beside the word for the scan: nobody waits for thumbnails that are still being made.
+void MyTableController::clearWaitingThumbnails() {
+    if (!scanRunning()) {
+        return;
+    }
+    clearingLabel->show();
+    if (m_thumbnails) {
+        m_thumbnails->hurry();
+    }
 }
 
 // A batch: what the scan has for the views, then its steps one by one.

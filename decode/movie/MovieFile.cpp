@@ -1,17 +1,14 @@
-// Demuxing and decoding with limits on time, size and formats.
+// Frames out of the video stream: displayed size, turning, times.
 #include "decode/movie/MovieFile.h"
-
-#include <unistd.h>
 
 #include <QTransform>
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <cstring>
 
+#include "decode/movie/LimitedFormat.h"
+
 extern "C" {
-#include <libavcodec/avcodec.h>
-#include <libavformat/avformat.h>
 #include <libavutil/display.h>
 #include <libavutil/imgutils.h>
 #include <libswscale/swscale.h>
@@ -21,210 +18,74 @@ namespace vantor::decode {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
-// Opening, and every step to a frame, ends after this.
-constexpr auto kStepLimit = std::chrono::seconds{2};
-constexpr int kReadBufferBytes = 64 * 1024;
-constexpr std::int64_t kMostProbeBytes = 8 * 1024 * 1024;
-constexpr std::int64_t kMostPixels = 150'000'000;
-constexpr int kMostStreams = 64;
 #if defined(__SANITIZE_THREAD__)
 // The decoder's own threads are not instrumented, and every hand-over between them looks like a race.
 constexpr int kDecoderThreads = 1;
 #else
 constexpr int kDecoderThreads = 2;
 #endif
-// Broken packets in a row after which a stream counts as hopeless.
-constexpr int kMostFailures = 500;
 constexpr double kUsualFrameRate = 25;
-
-constexpr char kFormats[] =
-    "mov,mp4,m4a,3gp,3g2,mj2,matroska,webm,avi,mpeg,mpegts,asf,flv,dv,mxf,ogg,h264,hevc,rm";
-
-template <auto release>
-struct Release {
-    template <typename T>
-    void operator()(T* object) const {
-        release(&object);
-    }
-};
-struct ReleaseInput {
-    void operator()(AVIOContext* io) const {
-        av_freep(&io->buffer);
-        avio_context_free(&io);
-    }
-};
-using Input = std::unique_ptr<AVIOContext, ReleaseInput>;
-using Format = std::unique_ptr<AVFormatContext, Release<avformat_close_input>>;
-using Codec = std::unique_ptr<AVCodecContext, Release<avcodec_free_context>>;
-using Packet = std::unique_ptr<AVPacket, Release<av_packet_free>>;
-using RawFrame = std::unique_ptr<AVFrame, Release<av_frame_free>>;
 
 class LimitedMovie : public MovieFile {
   public:
-    explicit LimitedMovie(int descriptor) : m_descriptor(descriptor) {}
-    ~LimitedMovie() override {
-        sws_freeContext(m_scaler);
-        m_codec.reset();
-        m_format.reset();
-        m_input.reset();
-        close(m_descriptor);
-    }
+    explicit LimitedMovie(int descriptor) : m_format(descriptor) {}
+    ~LimitedMovie() override { sws_freeContext(m_scaler); }
 
-    bool openStream();
+    bool openStream(Pictures pictures);
     MovieInfo info() const override;
     std::optional<Frame> next(QSize bound) override;
     std::optional<Frame> at(std::int64_t timeMs, QSize bound) override;
 
   private:
-    static int readSome(void* movie, std::uint8_t* target, int wanted);
-    static std::int64_t seekTo(void* movie, std::int64_t offset, int whence);
-    static int isOver(void* movie);
-
-    bool openFormat();
-    bool openCodec();
     bool receiveFrame();
     bool receiveFrameAt(std::int64_t timeMs);
-    bool jumpTo(std::int64_t stamp, int flags);
     std::int64_t frameTimeMs() const;
     std::optional<Frame> display(QSize bound);
     QSize displayedSize(QSize stored) const;
-    void startStep() { m_stepEnd = Clock::now() + kStepLimit; }
 
-    int m_descriptor;
-    std::int64_t m_position = 0;
-    Clock::time_point m_stepEnd;
-    Input m_input;
-    Format m_format;
-    Codec m_codec;
-    Packet m_packet{av_packet_alloc()};
-    RawFrame m_frame{av_frame_alloc()};
+    LimitedFormat m_format;
     SwsContext* m_scaler = nullptr;
-    int m_stream = -1;
     int m_turn = 0;  // degrees clockwise, a multiple of 90
     std::int64_t m_framesSeen = 0;
-    bool m_draining = false;
 };
 
-int LimitedMovie::readSome(void* movie, std::uint8_t* target, int wanted) {
-    auto& self = *static_cast<LimitedMovie*>(movie);
-    const ssize_t got = pread(self.m_descriptor, target, static_cast<std::size_t>(wanted), self.m_position);
-    if (got <= 0) {
-        return got == 0 ? AVERROR_EOF : AVERROR(EIO);
+// A multiple of 90 degrees clockwise.
+int turnOf(AVStream& stream) {
+    const std::uint8_t* matrix = av_stream_get_side_data(&stream, AV_PKT_DATA_DISPLAYMATRIX, nullptr);
+    if (!matrix) {
+        return 0;
     }
-    self.m_position += got;
-    return static_cast<int>(got);
+    std::int32_t values[9];
+    std::memcpy(values, matrix, sizeof values);
+    const double degrees = av_display_rotation_get(values);
+    return std::isfinite(degrees) ? ((static_cast<int>(std::lround(-degrees / 90)) * 90) % 360 + 360) % 360
+                                  : 0;
 }
 
-std::int64_t LimitedMovie::seekTo(void* movie, std::int64_t offset, int whence) {
-    auto& self = *static_cast<LimitedMovie*>(movie);
-    const std::int64_t size = lseek(self.m_descriptor, 0, SEEK_END);
-    if (whence == AVSEEK_SIZE) {
-        return size;
-    }
-    const std::int64_t base = whence == SEEK_SET ? 0 : whence == SEEK_CUR ? self.m_position : size;
-    std::int64_t target = 0;
-    if (__builtin_add_overflow(base, offset, &target) || target < 0) {
-        return AVERROR(EINVAL);
-    }
-    return self.m_position = target;
-}
-
-int LimitedMovie::isOver(void* movie) {
-    return Clock::now() > static_cast<LimitedMovie*>(movie)->m_stepEnd;
-}
-
-bool LimitedMovie::openStream() {
-    startStep();
-    return openFormat() && openCodec();
-}
-
-bool LimitedMovie::openFormat() {
-    auto* buffer = static_cast<std::uint8_t*>(av_malloc(kReadBufferBytes));
-    m_input.reset(avio_alloc_context(buffer, kReadBufferBytes, 0, this, readSome, nullptr, seekTo));
-    AVFormatContext* format = avformat_alloc_context();
-    format->pb = m_input.get();
-    format->flags |= AVFMT_FLAG_CUSTOM_IO;
-    format->interrupt_callback = {isOver, this};
-    format->probesize = kMostProbeBytes;
-    format->max_streams = kMostStreams;
-    format->format_whitelist = av_strdup(kFormats);
-    format->protocol_whitelist = av_strdup("");
-    // Frees the context itself when it fails.
-    if (avformat_open_input(&format, "", nullptr, nullptr) < 0) {
+bool LimitedMovie::openStream(Pictures pictures) {
+    if (!m_format.open() || !m_format.openCodec(AVMEDIA_TYPE_VIDEO, kDecoderThreads)) {
         return false;
     }
-    m_format.reset(format);
-    return avformat_find_stream_info(format, nullptr) >= 0;
-}
-
-bool LimitedMovie::openCodec() {
-    const AVCodec* decoder = nullptr;
-    m_stream = av_find_best_stream(m_format.get(), AVMEDIA_TYPE_VIDEO, -1, -1, &decoder, 0);
-    if (m_stream < 0 || !decoder) {
-        return false;
-    }
-    AVStream* stream = m_format->streams[m_stream];
     // The cover of a sound file is no movie.
-    if (stream->disposition & AV_DISPOSITION_ATTACHED_PIC) {
+    if (pictures == Pictures::Moving && (m_format.stream().disposition & AV_DISPOSITION_ATTACHED_PIC)) {
         return false;
     }
-    for (unsigned i = 0; i < m_format->nb_streams; ++i) {
-        m_format->streams[i]->discard = static_cast<int>(i) == m_stream ? AVDISCARD_DEFAULT : AVDISCARD_ALL;
-    }
-    if (const std::uint8_t* matrix = av_stream_get_side_data(stream, AV_PKT_DATA_DISPLAYMATRIX, nullptr)) {
-        std::int32_t values[9];
-        std::memcpy(values, matrix, sizeof values);
-        const double degrees = av_display_rotation_get(values);
-        m_turn = std::isfinite(degrees)
-                     ? ((static_cast<int>(std::lround(-degrees / 90)) * 90) % 360 + 360) % 360
-                     : 0;
-    }
-    m_codec.reset(avcodec_alloc_context3(decoder));
-    if (!m_codec || avcodec_parameters_to_context(m_codec.get(), stream->codecpar) < 0) {
-        return false;
-    }
-    m_codec->pkt_timebase = stream->time_base;
-    m_codec->max_pixels = kMostPixels;
-    m_codec->thread_count = kDecoderThreads;
-    return avcodec_open2(m_codec.get(), decoder, nullptr) >= 0;
+    m_turn = turnOf(m_format.stream());
+    return true;
 }
 
-// Leaves the next decoded frame in m_frame.
+// Leaves the next decoded frame in the format's.
 bool LimitedMovie::receiveFrame() {
-    int failures = 0;
-    while (!isOver(this) && failures < kMostFailures) {
-        const int received = avcodec_receive_frame(m_codec.get(), m_frame.get());
-        if (received == 0) {
-            ++m_framesSeen;
-            return m_frame->width > 0 && m_frame->height > 0;
-        }
-        if (received == AVERROR_EOF) {
-            return false;
-        }
-        if (received != AVERROR(EAGAIN)) {
-            ++failures;
-        }
-        if (m_draining) {
-            return false;
-        }
-        if (av_read_frame(m_format.get(), m_packet.get()) < 0) {
-            m_draining = true;
-            avcodec_send_packet(m_codec.get(), nullptr);
-            continue;
-        }
-        if (m_packet->stream_index == m_stream && avcodec_send_packet(m_codec.get(), m_packet.get()) < 0) {
-            ++failures;
-        }
-        av_packet_unref(m_packet.get());
+    if (!m_format.receiveFrame()) {
+        return false;
     }
-    return false;
+    ++m_framesSeen;
+    return m_format.frame().width > 0 && m_format.frame().height > 0;
 }
 
 std::int64_t LimitedMovie::frameTimeMs() const {
-    const AVStream* stream = m_format->streams[m_stream];
-    const std::int64_t stamp = m_frame->best_effort_timestamp;
+    const AVStream* stream = &m_format.stream();
+    const std::int64_t stamp = m_format.frame().best_effort_timestamp;
     if (stamp == AV_NOPTS_VALUE) {
         const double rate = av_q2d(stream->avg_frame_rate);
         return static_cast<std::int64_t>(1000.0 * static_cast<double>(m_framesSeen - 1) /
@@ -240,8 +101,8 @@ std::int64_t LimitedMovie::frameTimeMs() const {
 
 // Square pixels, before turning.
 QSize LimitedMovie::displayedSize(QSize stored) const {
-    AVStream* stream = m_format->streams[m_stream];
-    const AVRational aspect = av_guess_sample_aspect_ratio(m_format.get(), stream, nullptr);
+    AVStream* stream = &m_format.stream();
+    const AVRational aspect = av_guess_sample_aspect_ratio(&m_format.container(), stream, nullptr);
     const double ratio = aspect.num > 0 && aspect.den > 0 ? av_q2d(aspect) : 1;
     // Stranger shapes are damage.
     if (ratio < 0.1 || ratio > 10) {
@@ -252,17 +113,15 @@ QSize LimitedMovie::displayedSize(QSize stored) const {
 
 MovieInfo LimitedMovie::info() const {
     MovieInfo info;
-    const QSize displayed = displayedSize({m_codec->width, m_codec->height});
+    const QSize displayed = displayedSize({m_format.codec().width, m_format.codec().height});
     info.size = m_turn % 180 == 0 ? displayed : displayed.transposed();
-    if (m_format->duration != AV_NOPTS_VALUE) {
-        info.durationMs = std::max<std::int64_t>(0, m_format->duration / (AV_TIME_BASE / 1000));
-    }
-    info.hasSound = av_find_best_stream(m_format.get(), AVMEDIA_TYPE_AUDIO, -1, -1, nullptr, 0) >= 0;
+    info.durationMs = m_format.durationMs();
+    info.hasSound = m_format.has(AVMEDIA_TYPE_AUDIO);
     return info;
 }
 
 std::optional<Frame> LimitedMovie::display(QSize bound) {
-    const AVFrame& frame = *m_frame;
+    const AVFrame& frame = m_format.frame();
     QSize size = displayedSize({frame.width, frame.height});
     const QSize room = m_turn % 180 == 0 ? bound : bound.transposed();
     if (size.width() > room.width() || size.height() > room.height()) {
@@ -287,17 +146,8 @@ std::optional<Frame> LimitedMovie::display(QSize bound) {
 }
 
 std::optional<Frame> LimitedMovie::next(QSize bound) {
-    startStep();
+    m_format.startStep();
     return receiveFrame() ? display(bound) : std::nullopt;
-}
-
-bool LimitedMovie::jumpTo(std::int64_t stamp, int flags) {
-    if (av_seek_frame(m_format.get(), m_stream, stamp, flags) < 0) {
-        return false;
-    }
-    avcodec_flush_buffers(m_codec.get());
-    m_draining = false;
-    return true;
 }
 
 bool LimitedMovie::receiveFrameAt(std::int64_t timeMs) {
@@ -310,25 +160,25 @@ bool LimitedMovie::receiveFrameAt(std::int64_t timeMs) {
 }
 
 std::optional<Frame> LimitedMovie::at(std::int64_t timeMs, QSize bound) {
-    startStep();
-    const AVStream* stream = m_format->streams[m_stream];
+    m_format.startStep();
+    const AVStream* stream = &m_format.stream();
     const std::int64_t first = stream->start_time == AV_NOPTS_VALUE ? 0 : stream->start_time;
     std::int64_t target = av_rescale_q(timeMs, AVRational{1, 1000}, stream->time_base);
     if (__builtin_add_overflow(target, first, &target)) {
         return std::nullopt;
     }
-    if (jumpTo(target, AVSEEK_FLAG_BACKWARD) && receiveFrameAt(timeMs)) {
+    if (m_format.jumpTo(target, AVSEEK_FLAG_BACKWARD) && receiveFrameAt(timeMs)) {
         return display(bound);
     }
     // Streams without an index may have landed where nothing can be decoded: from the beginning, then.
-    return jumpTo(0, AVSEEK_FLAG_BYTE) && receiveFrameAt(timeMs) ? display(bound) : std::nullopt;
+    return m_format.jumpTo(0, AVSEEK_FLAG_BYTE) && receiveFrameAt(timeMs) ? display(bound) : std::nullopt;
 }
 
 }  // namespace
 
-std::unique_ptr<MovieFile> MovieFile::open(int descriptor) {
+std::unique_ptr<MovieFile> MovieFile::open(int descriptor, Pictures pictures) {
     auto movie = std::make_unique<LimitedMovie>(descriptor);
-    return movie->openStream() ? std::move(movie) : nullptr;
+    return movie->openStream(pictures) ? std::move(movie) : nullptr;
 }
 
 }  // namespace vantor::decode

@@ -1,8 +1,9 @@
-// vantor-decode-movie: decodes carved movies in the program's place; started like vantor-decode, one for each
-// movie.
+// vantor-decode-movie: decodes carved movies in the program's place; started like vantor-decode, one for a
+// movie's pictures and one for its sound.
 #include <time.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -11,6 +12,7 @@
 #include "decode/helper/Channel.h"
 #include "decode/helper/PixelCopy.h"
 #include "decode/movie/MovieFile.h"
+#include "decode/movie/SoundFile.h"
 
 extern "C" {
 #include <libavutil/log.h>
@@ -31,22 +33,39 @@ class MovieJobDecoder : public JobDecoder {
 
   private:
     Answer attempt(const Job& job) {
-        const QSize bound(static_cast<int>(job.request.maxWidth), static_cast<int>(job.request.maxHeight));
-        if (job.request.kind == RequestKind::OpenMovie) {
-            const int own = job.file < 0 ? -1 : dup(job.file);
-            m_movie.reset();
-            m_movie = own < 0 ? nullptr : MovieFile::open(own);
+        switch (job.request.kind) {
+            case RequestKind::OpenMovie:
+                m_movie.reset();
+                m_movie = job.file < 0 ? nullptr : MovieFile::open(dup(job.file));
+                return nextFrame(job, AnswerStatus::NotDecodable);
+            case RequestKind::OpenCover:
+                m_movie.reset();
+                m_movie = job.file < 0 ? nullptr : MovieFile::open(dup(job.file), Pictures::CoverToo);
+                return nextFrame(job, AnswerStatus::NotDecodable);
+            case RequestKind::NextFrame:
+                return nextFrame(job, AnswerStatus::EndOfMovie);
+            case RequestKind::OpenSound:
+                m_sound.reset();
+                m_sound = job.file < 0 ? nullptr : SoundFile::open(dup(job.file));
+                return nextSound(job, AnswerStatus::NotDecodable);
+            case RequestKind::NextSound:
+                return nextSound(job, AnswerStatus::EndOfMovie);
+            case RequestKind::Picture:
+                break;
         }
-        if (!m_movie || job.request.kind == RequestKind::Picture) {
-            return {};
-        }
-        const auto frame = job.request.kind == RequestKind::NextFrame && job.request.timeMs >= 0
-                               ? m_movie->at(job.request.timeMs, bound)
-                               : m_movie->next(bound);
+        return {};
+    }
+
+    Answer nextFrame(const Job& job, AnswerStatus otherwise) {
         Answer answer;
+        answer.status = otherwise;
+        if (!m_movie) {
+            return answer;
+        }
+        const QSize bound(static_cast<int>(job.request.maxWidth), static_cast<int>(job.request.maxHeight));
+        const auto frame =
+            job.request.timeMs >= 0 ? m_movie->at(job.request.timeMs, bound) : m_movie->next(bound);
         if (!frame || !copyPixels(frame->image, bound, job.pixels, answer)) {
-            answer.status = job.request.kind == RequestKind::NextFrame ? AnswerStatus::EndOfMovie
-                                                                       : AnswerStatus::NotDecodable;
             return answer;
         }
         const MovieInfo info = m_movie->info();
@@ -58,7 +77,30 @@ class MovieJobDecoder : public JobDecoder {
         return answer;
     }
 
+    Answer nextSound(const Job& job, AnswerStatus otherwise) {
+        Answer answer;
+        answer.status = otherwise;
+        if (!m_sound) {
+            return answer;
+        }
+        const std::size_t bytes = std::size_t{job.request.maxWidth} * kBytesPerSoundFrame;
+        const auto room = job.pixels.first(std::min(bytes, job.pixels.size()));
+        const auto piece =
+            job.request.timeMs >= 0 ? m_sound->at(job.request.timeMs, room) : m_sound->next(room);
+        if (!piece) {
+            return answer;
+        }
+        answer.status = AnswerStatus::Ok;
+        answer.width = static_cast<std::uint32_t>(piece->frames);
+        answer.height = 1;
+        answer.timeMs = piece->timeMs;
+        answer.durationMs = m_sound->durationMs();
+        answer.flags |= kHasSound;
+        return answer;
+    }
+
     std::unique_ptr<MovieFile> m_movie;
+    std::unique_ptr<SoundFile> m_sound;
 };
 
 }  // namespace

@@ -167,6 +167,20 @@ TEST_F(Browser, SeveralItemsAreSelectedByKeyboard_AndTypingFindsOne) {
     EXPECT_EQ(browser->currentIndex().row(), 16);
 }
 
+TEST_F(Browser, WhereTheKeyboardStandsIsSeen) {
+    open();
+    showPhotoScreen();
+    addPhotos(3);
+    QTest::qWait(1);
+    controller->_stop_scan->setFocus();
+    ImageBrowserView* browser = controller->imageBrowser;
+    const QRect cell = browser->visualRect(browser->model()->index(0, 0));
+    const QImage before = browser->viewport()->grab(cell).toImage();
+    browser->setFocus();
+    EXPECT_TRUE(browser->selectionIndexes().isEmpty());
+    EXPECT_NE(browser->viewport()->grab(cell).toImage(), before);
+}
+
 TEST_F(Browser, TheSelectionSurvivesNewItems) {
     open();
     showPhotoScreen();

@@ -1,6 +1,10 @@
 // The movie preview of the video mode, over movies that a test plays itself.
+#include <QLabel>
+#include <QSlider>
+#include <QToolButton>
 #include <limits>
 
+#include "results/MovieControls.h"
 #include "results/RecoveryMode.h"
 #include "tests/app/WindowTest.h"
 
@@ -22,7 +26,17 @@ class ScriptedMovie : public Movie {
         playing = 0;
         ++m_log.stops;
     }
+    std::int64_t durationMs() const override { return duration; }
+    std::int64_t positionMs() const override { return position; }
+    void seek(std::int64_t timeMs) override { position = timeMs; }
+    bool hasSound() const override { return true; }
+    bool isMuted() const override { return muted; }
+    void setMuted(bool wanted) override { muted = wanted; }
+
     float playing = 0;
+    std::int64_t duration = 65'000;
+    std::int64_t position = 0;
+    bool muted = false;
 
   private:
     MovieLog& m_log;
@@ -47,6 +61,12 @@ class MoviePreview : public WindowTest {
         ImageBrowserView* browser = controller->imageBrowser_2;
         QTest::mouseClick(browser->viewport(), Qt::LeftButton, {},
                           browser->visualRect(browser->model()->index(row, 0)).center());
+    }
+
+    ScriptedMovie& shownMovie() { return dynamic_cast<ScriptedMovie&>(*controller->mMovieView->movie()); }
+    template <typename Widget>
+    Widget* control(const char* name) {
+        return controller->mMovieView->findChild<Widget*>(QLatin1String(name));
     }
 
     MovieLog log;
@@ -119,6 +139,62 @@ TEST_F(MoviePreview, SpaceAndClickPlayAndStop) {
     EXPECT_TRUE(controller->isPlaying(controller->mMovieView->movie()));
     click(controller->mMovieView);
     EXPECT_FALSE(controller->isPlaying(controller->mMovieView->movie()));
+}
+
+TEST_F(MoviePreview, TheControls_PlayPauseAndMute) {
+    openResults();
+    EXPECT_FALSE(control<QToolButton>("moviePlay")->isVisible()) << "nothing to control yet";
+    select(0);
+    click(control<QToolButton>("moviePlay"));
+    EXPECT_TRUE(controller->isPlaying(controller->mMovieView->movie()));
+    EXPECT_TRUE(control<QToolButton>("moviePlay")->accessibleName().startsWith(QStringLiteral("Pause")));
+    click(control<QToolButton>("movieMute"));
+    EXPECT_TRUE(shownMovie().muted);
+    EXPECT_EQ(control<QToolButton>("movieMute")->accessibleName(), QStringLiteral("Sound on"));
+    click(control<QToolButton>("moviePlay"));
+    EXPECT_FALSE(controller->isPlaying(controller->mMovieView->movie()));
+    EXPECT_TRUE(control<QToolButton>("moviePlay")->accessibleName().startsWith(QStringLiteral("Play")));
+}
+
+TEST_F(MoviePreview, ThePosition_IsShownAndCanBeChosen) {
+    openResults();
+    select(0);
+    auto* slider = control<QSlider>("moviePosition");
+    auto* times = control<QLabel>("movieTimes");
+    EXPECT_EQ(times->text(), QStringLiteral("0:00 / 1:05"));
+    shownMovie().position = 7200;
+    shownMovie().onProgress();
+    EXPECT_EQ(times->text(), QStringLiteral("0:07 / 1:05"));
+    EXPECT_EQ(slider->value(), 7200);
+    QTest::mouseClick(slider, Qt::LeftButton, {}, {slider->width() / 2, slider->height() / 2});
+    EXPECT_NEAR(static_cast<double>(shownMovie().position), 32'500, 3000) << "a click means that place";
+    slider->setFocus();
+    QTest::keyClick(slider, Qt::Key_Home);
+    EXPECT_EQ(shownMovie().position, 0);
+    QTest::keyClick(controller->mMovieView, Qt::Key_Right);
+    EXPECT_EQ(shownMovie().position, 5000);
+    EXPECT_EQ(times->text(), QStringLiteral("0:05 / 1:05"));
+    QTest::keyClick(controller->mMovieView, Qt::Key_Left);
+    EXPECT_EQ(shownMovie().position, 0);
+}
+
+TEST_F(MoviePreview, AnUnknownLength_LeavesNothingToSeekBy) {
+    openResults();
+    auto movie = std::make_unique<ScriptedMovie>(log);
+    movie->duration = 0;
+    select(0);
+    controller->mMovieView->setMovie(std::move(movie));
+    EXPECT_FALSE(control<QSlider>("moviePosition")->isEnabled());
+    EXPECT_EQ(control<QLabel>("movieTimes")->text(), QStringLiteral("0:00"));
+    QTest::keyClick(controller->mMovieView, Qt::Key_Right);
+    EXPECT_EQ(shownMovie().position, 0);
+}
+
+TEST(TimeText, MinutesSecondsAndHours) {
+    EXPECT_EQ(timeText(-5), QStringLiteral("0:00"));
+    EXPECT_EQ(timeText(59'999), QStringLiteral("0:59"));
+    EXPECT_EQ(timeText(600'000), QStringLiteral("10:00"));
+    EXPECT_EQ(timeText(3'723'000), QStringLiteral("1:02:03"));
 }
 
 TEST_F(MoviePreview, FramesAreDrawn) {

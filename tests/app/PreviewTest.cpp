@@ -46,7 +46,7 @@ TEST_F(Preview, ASelectedItem_IsCopiedWithoutItsEndSector) {
     EXPECT_TRUE(bytes.startsWith("%PDF-"));
     EXPECT_EQ(title(), QStringLiteral("A.PDF"));
     EXPECT_EQ(controller->Preview_Temp_File, folder.filePath(QStringLiteral("dprv.PDF")));
-    EXPECT_FALSE(controller->_QuickLook_View->pixmap().isNull()) << "no picture: the type's icon";
+    EXPECT_EQ(controller->_QuickLook_View->pixmap().size(), QSize(200, 200)) << "no picture: the type's icon";
     EXPECT_FALSE(controller->session);
     EXPECT_FALSE(controller->ClearPreview_Window->isVisible());
     EXPECT_EQ(controller->Prev_Index, 0u);
@@ -208,6 +208,29 @@ TEST_F(Preview, AScanThatEndsWhileAPreviewIsCopied_ShowsItsEndAfterwards) {
     EXPECT_EQ(controller->stop_now, 0);
 }
 
+TEST_F(Preview, AnItemSelectedBetweenStopAndTheEnd_LeavesTheEndToTheScan) {
+    Gate scanGate;
+    card.beforeRead = [&scanGate](std::uint64_t read) {
+        if (read == 60) {
+            scanGate.pass();
+        }
+    };
+    openWithCard();
+    toFileTypes(kRawFileMode);
+    click(controller->nextButton);
+    ASSERT_TRUE(waitFor(
+        [&] { return scanGate.someoneWaits() && controller->imageBrowser_2->model()->rowCount() >= 1; }));
+    click(controller->_stop_scan);  // the scan is still in its read
+    select(0);
+    EXPECT_EQ(controller->stop_screen_already_show, 0);
+    EXPECT_FALSE(controller->backButton->isEnabled());
+    answers.press(QStringLiteral("OK"));
+    scanGate.open();
+    EXPECT_TRUE(waitFor([this] { return answers.allGiven() && !controller->scanRunning(); }));
+    EXPECT_EQ(answers.seen().size(), 1u) << "the end panel comes once";
+    EXPECT_EQ(controller->lastOutcome(), PassOutcome::Stopped);
+}
+
 TEST_F(Preview, ExitDuringACopyThatHangs_IsPossible) {
     Gate gate;
     openResults({{"A.PDF", 24, 27}});
@@ -222,6 +245,27 @@ TEST_F(Preview, ExitDuringACopyThatHangs_IsPossible) {
     EXPECT_EQ(terminations, 1);
     EXPECT_TRUE(controller->shutDown(std::chrono::seconds(5)));
     EXPECT_FALSE(QFileInfo::exists(folder.filePath(QStringLiteral("dprv.PDF"))));
+}
+
+TEST_F(Preview, ASoundFile_TellsHowLongItIs) {
+    parts.soundLength = [](const QString& file) {
+        return file.endsWith(QLatin1String("dprv.MP3")) ? 205'000 : 0;
+    };
+    openResults({{"A.MP3", 24, 27}, {"B.PDF", 28, 29}});
+    select(0);
+    EXPECT_TRUE(controller->previewFacts->text().endsWith(QStringLiteral(", 3:25 min")));
+    select(1);
+    EXPECT_FALSE(controller->previewFacts->text().contains(QStringLiteral("min")));
+}
+
+TEST_F(Preview, AnItemAtTheVeryBeginning_IsCopiedFromSectorZero) {
+    card.put(0, "FIRST").put(1, "SECOND");
+    openResults({{"A.PDF", 0, 2}});
+    select(0);
+    const QByteArray bytes = previewBytes("dprv.PDF");
+    ASSERT_EQ(bytes.size(), 2 * 512);
+    EXPECT_TRUE(bytes.startsWith("FIRST"));
+    EXPECT_EQ(bytes.mid(512, 6), "SECOND");
 }
 
 TEST_F(Preview, AMissingDisplayName_DoesNothing) {

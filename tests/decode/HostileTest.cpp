@@ -62,7 +62,9 @@ TEST(Hostile, MutatedPictures_ComeInOrderAndLeaveThePoolSound) {
     std::vector<int> order;
     int shown = 0;
     {
-        ThumbnailQueue queue([&](const QByteArray& bytes) { return pool.thumbnail(bytes); }, {.workers = 2});
+        ThumbnailQueue queue([&](const QByteArray& bytes,
+                                 const QString& extension) { return pool.thumbnail(bytes, extension); },
+                             {.workers = 2});
         std::mt19937 random(20240607);
         for (int i = 0; i < kMutations; ++i) {
             queue.submit(mutated(seeds[static_cast<std::size_t>(i) % seeds.size()], random),

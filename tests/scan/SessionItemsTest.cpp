@@ -24,10 +24,10 @@ TEST_F(SessionItems, EmptyDataAddsNothing) {
 
 TEST_F(SessionItems, DataThatIsNoPictureGetsThePlaceholder) {
     session.Null_Image_Data = "placeholder";
-    session.setThumbnailer([](const QByteArray&) { return QByteArray(); });
+    session.setThumbnailer([](const QByteArray&, const QString&) { return QByteArray(); });
     session.addImageWithData("junk", "a", "b");
     EXPECT_EQ(session.itemAt(0)->imageData(), "placeholder");
-    session.setThumbnailer([](const QByteArray& data) { return "thumbnail of " + data; });
+    session.setThumbnailer([](const QByteArray& data, const QString&) { return "thumbnail of " + data; });
     session.addImageWithData("picture", "a", "b");
     EXPECT_EQ(session.itemAt(1)->imageData(), "thumbnail of picture");
 }
@@ -55,7 +55,7 @@ TEST_F(SessionItems, PathIsShownFromTheFileOrAsPlaceholder) {
     session.loadPlaceholder(folder.path());
     EXPECT_EQ(session.Null_Image_Data, "png");
     EXPECT_EQ(session.noprevfile, "");
-    session.setThumbnailer([](const QByteArray& data) { return data; });
+    session.setThumbnailer([](const QByteArray& data, const QString&) { return data; });
     session.addImageWithPath(" " + placeholder.fileName() + "\n", "shown", "1");
     EXPECT_EQ(session.itemAt(0)->path(), placeholder.fileName());
     EXPECT_TRUE(session.itemAt(0)->imageData().isEmpty());

@@ -1,0 +1,165 @@
+// Reading, probing and decoding within the limits.
+#include "decode/movie/LimitedFormat.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+
+namespace vantor::decode {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+// Opening, and every step to a frame, ends after this.
+constexpr auto kStepLimit = std::chrono::seconds{2};
+constexpr int kReadBufferBytes = 64 * 1024;
+constexpr std::int64_t kMostProbeBytes = 8 * 1024 * 1024;
+constexpr std::int64_t kMostPixels = 150'000'000;
+constexpr int kMostStreams = 64;
+
+constexpr char kFormats[] =
+    "mov,mp4,m4a,3gp,3g2,mj2,matroska,webm,avi,mpeg,mpegts,asf,flv,dv,mxf,ogg,h264,hevc,rm,mp3,aac,flac,wav,"
+    "aiff,au,amr,ape,caf,wv,ac3,mpc,mpc8";
+
+}  // namespace
+
+LimitedFormat::~LimitedFormat() {
+    m_codec.reset();
+    m_format.reset();
+    m_input.reset();
+    close(m_descriptor);
+}
+
+int LimitedFormat::readSome(void* format, std::uint8_t* target, int wanted) {
+    auto& self = *static_cast<LimitedFormat*>(format);
+    const ssize_t got = pread(self.m_descriptor, target, static_cast<std::size_t>(wanted), self.m_position);
+    if (got <= 0) {
+        return got == 0 ? AVERROR_EOF : AVERROR(EIO);
+    }
+    self.m_position += got;
+    return static_cast<int>(got);
+}
+
+std::int64_t LimitedFormat::seekTo(void* format, std::int64_t offset, int whence) {
+    auto& self = *static_cast<LimitedFormat*>(format);
+    const std::int64_t size = lseek(self.m_descriptor, 0, SEEK_END);
+    if (whence == AVSEEK_SIZE) {
+        return size;
+    }
+    const std::int64_t base = whence == SEEK_SET ? 0 : whence == SEEK_CUR ? self.m_position : size;
+    std::int64_t target = 0;
+    if (__builtin_add_overflow(base, offset, &target) || target < 0) {
+        return AVERROR(EINVAL);
+    }
+    return self.m_position = target;
+}
+
+int LimitedFormat::askWhetherOver(void* format) {
+    return static_cast<const LimitedFormat*>(format)->isOver();
+}
+
+void LimitedFormat::startStep() {
+    m_stepEnd = Clock::now() + kStepLimit;
+}
+
+bool LimitedFormat::isOver() const {
+    return Clock::now() > m_stepEnd;
+}
+
+bool LimitedFormat::open() {
+    startStep();
+    auto* buffer = static_cast<std::uint8_t*>(av_malloc(kReadBufferBytes));
+    m_input.reset(avio_alloc_context(buffer, kReadBufferBytes, 0, this, readSome, nullptr, seekTo));
+    AVFormatContext* format = avformat_alloc_context();
+    format->pb = m_input.get();
+    format->flags |= AVFMT_FLAG_CUSTOM_IO;
+    format->interrupt_callback = {askWhetherOver, this};
+    format->probesize = kMostProbeBytes;
+    format->max_streams = kMostStreams;
+    format->format_whitelist = av_strdup(kFormats);
+    format->protocol_whitelist = av_strdup("");
+    // Frees the context itself when it fails.
+    if (avformat_open_input(&format, "", nullptr, nullptr) < 0) {
+        return false;
+    }
+    m_format.reset(format);
+    return avformat_find_stream_info(format, nullptr) >= 0;
+}
+
+bool LimitedFormat::openCodec(AVMediaType kind, int threads) {
+    const AVCodec* decoder = nullptr;
+    m_stream = av_find_best_stream(m_format.get(), kind, -1, -1, &decoder, 0);
+    if (m_stream < 0 || !decoder) {
+        return false;
+    }
+    for (unsigned i = 0; i < m_format->nb_streams; ++i) {
+        m_format->streams[i]->discard = static_cast<int>(i) == m_stream ? AVDISCARD_DEFAULT : AVDISCARD_ALL;
+    }
+    m_codec.reset(avcodec_alloc_context3(decoder));
+    if (!m_codec || avcodec_parameters_to_context(m_codec.get(), stream().codecpar) < 0) {
+        return false;
+    }
+    m_codec->pkt_timebase = stream().time_base;
+    m_codec->max_pixels = kMostPixels;
+    m_codec->thread_count = threads;
+    return avcodec_open2(m_codec.get(), decoder, nullptr) >= 0;
+}
+
+bool LimitedFormat::receiveFrame() {
+    int failures = 0;
+    while (!isOver() && failures < kMostFailures) {
+        const int received = avcodec_receive_frame(m_codec.get(), m_frame.get());
+        if (received == 0) {
+            return true;
+        }
+        if (received == AVERROR_EOF) {
+            return false;
+        }
+        if (received != AVERROR(EAGAIN)) {
+            ++failures;
+        }
+        if (m_draining) {
+            return false;
+        }
+        if (av_read_frame(m_format.get(), m_packet.get()) < 0) {
+            m_draining = true;
+            avcodec_send_packet(m_codec.get(), nullptr);
+            continue;
+        }
+        if (m_packet->stream_index == m_stream && avcodec_send_packet(m_codec.get(), m_packet.get()) < 0) {
+            ++failures;
+        }
+        av_packet_unref(m_packet.get());
+    }
+    return false;
+}
+
+bool LimitedFormat::jumpTo(std::int64_t stamp, int flags) {
+    return seek(m_stream, stamp, flags);
+}
+
+bool LimitedFormat::jumpToTime(std::int64_t time) {
+    return seek(-1, time, AVSEEK_FLAG_BACKWARD);
+}
+
+bool LimitedFormat::seek(int stream, std::int64_t stamp, int flags) {
+    if (av_seek_frame(m_format.get(), stream, stamp, flags) < 0) {
+        return false;
+    }
+    avcodec_flush_buffers(m_codec.get());
+    m_draining = false;
+    return true;
+}
+
+std::int64_t LimitedFormat::durationMs() const {
+    return m_format->duration == AV_NOPTS_VALUE
+               ? 0
+               : std::max<std::int64_t>(0, m_format->duration / (AV_TIME_BASE / 1000));
+}
+
+bool LimitedFormat::has(AVMediaType kind) const {
+    return av_find_best_stream(m_format.get(), kind, -1, -1, nullptr, 0) >= 0;
+}
+
+}  // namespace vantor::decode

@@ -1,0 +1,20 @@
+// One picture of any file: each kind by the road that suits it, and never by decoding carved bytes in this
+// process.
+#pragma once
+
+#include <memory>
+
+#include "decode/DecodePool.h"
+#include "decode/MovieReader.h"
+#include "results/DesktopThumbnailers.h"
+#include "results/PicturePreview.h"
+
+namespace vantor {
+
+// Pictures as they are, movies by their first frame, sound by its cover, documents and archives as the
+// desktop's thumbnail programs show them, text as a page of its first lines. Any thread.
+PicturePreviewer makeFilePreviewer(std::shared_ptr<DecodePool> pool,
+                                   std::shared_ptr<const DesktopThumbnailers> desktop,
+                                   MovieReaderOptions movies = {});
+
+}  // namespace vantor

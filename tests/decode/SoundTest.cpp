@@ -1,0 +1,226 @@
+// Sound: pieces, positions, and files and helpers that break.
+#include <gtest/gtest.h>
+#include <signal.h>
+
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <cmath>
+#include <random>
+
+#include "decode/SoundReader.h"
+#include "tests/decode/Fixtures.h"
+
+namespace vantor {
+namespace {
+
+using namespace test;
+using std::chrono::seconds;
+
+MovieReaderOptions options() {
+    MovieReaderOptions chosen;
+    chosen.helper = QStringLiteral(VANTOR_MOVIE_HELPER);
+    return chosen;
+}
+
+// A WAVE file of one tone per second: 200 Hz in the first, 300 in the second and so on, the right channel
+// silent.
+QByteArray tones(int length) {
+    constexpr int kRate = 32000;
+    QByteArray samples;
+    for (int i = 0; i < length * kRate; ++i) {
+        const double hertz = 200 + 100 * (i / kRate);
+        const auto left = static_cast<std::int16_t>(16000 * std::sin(2 * M_PI * hertz * i / kRate));
+        samples.append(static_cast<char>(left & 0xff)).append(static_cast<char>(left >> 8)).append(2, '\0');
+    }
+    const auto number = [](std::uint32_t value) {
+        QByteArray bytes;
+        for (int shift = 0; shift < 32; shift += 8) {
+            bytes.append(static_cast<char>(value >> shift));
+        }
+        return bytes;
+    };
+    const auto size = static_cast<std::uint32_t>(samples.size());
+    return "RIFF" + number(size + 36) + "WAVEfmt " + number(16) + QByteArray("\1\0\2\0", 4) + number(kRate) +
+           number(kRate * 4) + QByteArray("\4\0\x10\0", 4) + "data" + number(size) + samples;
+}
+
+// Of the left channel, from how often it turns positive.
+double hertzOf(const SoundPiece& piece) {
+    int turns = 0;
+    for (std::size_t i = 2; i < piece.samples.size(); i += 2) {
+        turns += piece.samples[i - 2] < 0 && piece.samples[i] >= 0;
+    }
+    return static_cast<double>(turns) * kSoundFramesPerSecond / static_cast<double>(piece.frames());
+}
+
+class Sound : public testing::Test {
+  protected:
+    void SetUp() override {
+        if (!QFileInfo::exists(options().helper)) {
+            GTEST_SKIP() << "built without the movie helper";
+        }
+    }
+    QString written(const QByteArray& bytes, const QString& name) {
+        const QString path = m_folder.filePath(name);
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+        return path;
+    }
+    QTemporaryDir m_folder;
+};
+
+TEST_F(Sound, Pieces_FollowEachOtherToTheEnd) {
+    const auto reader = SoundReader::open(written(tones(3), QStringLiteral("dprv.WAV")), options());
+    ASSERT_TRUE(reader);
+    EXPECT_EQ(reader->durationMs(), 3000);
+    std::int64_t frames = 0;
+    while (const auto piece = reader->next()) {
+        EXPECT_NEAR(piece->timeMs, frames * 1000 / kSoundFramesPerSecond, 2);
+        EXPECT_LE(piece->frames(), kSoundFramesPerSecond / 10);
+        EXPECT_NEAR(hertzOf(*piece), 200 + 100 * (piece->timeMs / 1000), 11);
+        for (std::size_t i = 1; i < piece->samples.size(); i += 2) {
+            ASSERT_EQ(piece->samples[i], 0) << "left and right are told apart";
+        }
+        frames += piece->frames();
+    }
+    EXPECT_NEAR(frames, 3 * kSoundFramesPerSecond, 64);
+    EXPECT_FALSE(reader->isOver());
+    EXPECT_FALSE(reader->next());
+    EXPECT_TRUE(reader->seek(0));
+}
+
+TEST_F(Sound, Seek_GivesThePieceAtThatTime) {
+    const auto reader = SoundReader::open(written(tones(5), QStringLiteral("dprv.WAV")), options());
+    ASSERT_TRUE(reader);
+    for (const int time : {4300, 1200, 2500}) {
+        const auto piece = reader->seek(time);
+        ASSERT_TRUE(piece);
+        EXPECT_NEAR(piece->timeMs, time, 100);
+        EXPECT_NEAR(hertzOf(*piece), 200 + 100 * (time / 1000), 11);
+    }
+    EXPECT_FALSE(reader->seek(60'000));
+}
+
+TEST_F(Sound, RealMovies_SoundAsLongAsTheyAre) {
+    if (corpusFolder().isEmpty()) {
+        GTEST_SKIP() << "no corpus";
+    }
+    for (const char* name :
+         {"videos/3gp/file-type__fixture__fixture.3gp",
+          "videos/avi/digicam_corpus__Canon__PowerShot_S40__MVI_0121.AVI", "videos/synth/vp9_opus.webm",
+          "videos/mov/digicam_corpus__Apple__iPhone_XR__IMG_3589.mov",
+          "videos/mpg/digicam_corpus__Sony__DSC-P5__MOMLV100__DSC00010.MPG",
+          "videos/mts/file-type__fixture__fixture-raw.mts", "videos/asf/file-type__fixture__fixture.asf"}) {
+        SCOPED_TRACE(name);
+        const auto reader = SoundReader::open(corpusFolder() + u'/' + QLatin1String(name), options());
+        ASSERT_TRUE(reader);
+        std::int64_t frames = 0;
+        std::int64_t loudest = 0;
+        while (const auto piece = reader->next()) {
+            frames += piece->frames();
+            for (const std::int16_t sample : piece->samples) {
+                loudest = std::max<std::int64_t>(loudest, std::abs(sample));
+            }
+        }
+        EXPECT_NEAR(frames * 1000 / kSoundFramesPerSecond, reader->durationMs(),
+                    200 + reader->durationMs() / 10);
+        EXPECT_GT(loudest, 0);
+        EXPECT_FALSE(reader->isOver());
+    }
+}
+
+// Files in which seeking by the sound alone lands beyond the end.
+TEST_F(Sound, SeekInRealMovies_LandsThere) {
+    if (corpusFolder().isEmpty()) {
+        GTEST_SKIP() << "no corpus";
+    }
+    for (const char* name :
+         {"avi/digicam_corpus__Canon__PowerShot_S40__MVI_0121.AVI",
+          "avi/"
+          "media__libraries__test_data__src__test__assets__media__avi__sample-unflagged-audio-keyframes.avi",
+          "mpg/digicam_corpus__Sony__DSC-P5__MOMLV100__DSC00010.MPG", "synth/vp9_opus.webm"}) {
+        SCOPED_TRACE(name);
+        const auto reader =
+            SoundReader::open(corpusFolder() + QStringLiteral("/videos/") + QLatin1String(name), options());
+        ASSERT_TRUE(reader);
+        const std::int64_t middle = reader->durationMs() / 2;
+        const auto piece = reader->seek(middle);
+        ASSERT_TRUE(piece);
+        EXPECT_NEAR(static_cast<double>(piece->timeMs), static_cast<double>(middle), 150);
+    }
+}
+
+TEST_F(Sound, WithoutSound_IsNone) {
+    EXPECT_FALSE(
+        SoundReader::open(written(QByteArray(1 << 20, '\0'), QStringLiteral("zeros.mp3")), options()));
+    EXPECT_FALSE(SoundReader::open(written({}, QStringLiteral("empty.wav")), options()));
+    EXPECT_FALSE(SoundReader::open(m_folder.filePath(QStringLiteral("missing.wav")), options()));
+    MovieReaderOptions none;
+    none.helper = QStringLiteral("/nonexistent/vantor-decode-movie");
+    EXPECT_FALSE(SoundReader::open(written(tones(1), QStringLiteral("dprv.WAV")), none));
+}
+
+TEST_F(Sound, HelperKilled_EndsTheSoundOnly) {
+    const auto reader = SoundReader::open(written(tones(3), QStringLiteral("dprv.WAV")), options());
+    ASSERT_TRUE(reader && reader->next());
+    kill(reader->helperPid(), SIGABRT);
+    EXPECT_FALSE(reader->next());
+    EXPECT_TRUE(reader->isOver());
+    EXPECT_FALSE(reader->seek(0));
+}
+
+TEST_F(Sound, Cancel_FreesAReaderThatWaits) {
+    CancelSignal cancel;
+    MovieReaderOptions patient = options();
+    patient.cancel = &cancel;
+    patient.frameDeadline = std::chrono::minutes(10);
+    const auto reader = SoundReader::open(written(tones(3), QStringLiteral("dprv.WAV")), patient);
+    ASSERT_TRUE(reader && reader->next());
+    stopProcess(reader->helperPid());
+    std::thread canceller([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        cancel.raise();
+    });
+    EXPECT_FALSE(reader->next());
+    EXPECT_TRUE(reader->isOver());
+    canceller.join();
+}
+
+// Cut off, zeroed in parts, bytes changed: whatever it does to the decoders, the program goes on.
+TEST_F(Sound, MutatedFiles_SoundOrNot) {
+    if (corpusFolder().isEmpty()) {
+        GTEST_SKIP() << "no corpus";
+    }
+    constexpr qint64 kLargestSeed = 300 * 1024;
+    constexpr int kMutations = 100;
+    std::vector<QString> seeds;
+    for (const char* kind : {"videos", "files/mp3", "files/m4a", "files/flac", "files/ogg", "files/wma",
+                             "files/aac", "files/amr", "files/ape"}) {
+        for (const QString& path : filesBelow(corpusFolder() + u'/' + QLatin1String(kind))) {
+            if (QFileInfo(path).size() <= kLargestSeed) {
+                seeds.push_back(path);
+            }
+        }
+    }
+    ASSERT_GT(seeds.size(), 15U);
+    std::mt19937 random(12);
+    int sounding = 0;
+    for (int i = 0; i < kMutations; ++i) {
+        const QString& seed = seeds[static_cast<std::size_t>(i) % seeds.size()];
+        const QString path =
+            written(mutated(bytesOfFile(seed), random), QStringLiteral("dprv.") + QFileInfo(seed).suffix());
+        MovieReaderOptions impatient = options();
+        impatient.openDeadline = impatient.frameDeadline = seconds(1);
+        if (const auto reader = SoundReader::open(path, impatient)) {
+            ++sounding;
+            for (int piece = 0; piece < 20 && reader->next(); ++piece) {
+            }
+            reader->seek(reader->durationMs() / 2);
+        }
+    }
+    EXPECT_GT(sounding, kMutations / 10);
+    EXPECT_LT(sounding, kMutations);
+}
+
+}  // namespace
+}  // namespace vantor
