@@ -74,7 +74,10 @@ QString summaryDetails(const SaveSummary& summary) {
             lines << QObject::tr("Left out: %1, %2.").arg(countOfItems(count), why);
         }
     };
-    leftOut(tally.duplicates, QObject::tr("the same contents are saved already"));
+    if (tally.duplicates > 0) {
+        lines << QObject::tr("Not written again: %1, the same contents are saved already.")
+                     .arg(countOfItems(tally.duplicates));
+    }
     leftOut(tally.tooSmall, QObject::tr("smaller than you asked for"));
     leftOut(tally.unsound, QObject::tr("certainly no files of their type"));
     if (tally.failed > 0) {

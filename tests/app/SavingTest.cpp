@@ -261,7 +261,11 @@ TEST_F(Saving, TheSheetSaysHowFarItIs_AndCancelEndsIt) {
         if (cancel == nullptr || !gate.someoneWaits() || !cancel->isEnabled()) {
             return;
         }
-        heading = sheet->findChild<QLabel*>(QStringLiteral("saveHeading"))->text();
+        const QString says = sheet->findChild<QLabel*>(QStringLiteral("saveHeading"))->text();
+        if (says == heading || says == QStringLiteral("Saving 1 of 3")) {
+            return;  // the sheet looks at the job now and then
+        }
+        heading = says;
         file = sheet->findChild<QLabel*>(QStringLiteral("saveFileLabel"))->text();
         QTest::mouseClick(cancel, Qt::LeftButton);
         EXPECT_EQ(sheet->findChild<QLabel*>(QStringLiteral("saveFactsLabel"))->text(),
@@ -310,7 +314,7 @@ TEST_F(Saving, RawItemsAreSavedTheSameWay) {
     // Both passes found the document.
     EXPECT_EQ(savedFiles().size(), 3);
     EXPECT_TRUE(answers.seen().back().informative.contains(
-        QStringLiteral("Left out: 1 item, the same contents are saved already.")));
+        QStringLiteral("Not written again: 1 item, the same contents are saved already.")));
     EXPECT_FALSE(controller->hasUnsavedItems());
 }
 
