@@ -145,7 +145,7 @@ TEST(SavingCommand, WhatIsCertainlyNoFileOfItsType_IsLeftOutOnRequest) {
     catalogue.write(
         "Extension : PNG\nSize : 1048576\nHeader :89504E47\nOffset : 1\nReserved : 0\nDescription : x\n");
     catalogue.close();
-    const QStringList arguments{"--mode", "photo", "--catalogue", folder.path(), "--save"};
+    const QStringList arguments{"--no-thorough", "--catalogue", folder.path(), "--save"};
     const CommandRun all = runCommand(arguments + QStringList{folder.filePath("all"), image});
     ASSERT_EQ(all.exitCode, 0) << all.err.constData();
     EXPECT_EQ(filesUnder(folder.filePath("all")).size(), 1) << all.out.constData();
