@@ -51,9 +51,23 @@ bool isBlank(const QImage& image) {
     return true;
 }
 
+// A drawing without what lies behind its end, which its reader would take for an error, and without its
+// words: they would be drawn with fonts, which are files and out of the helper's reach.
+QByteArray wordlessDrawing(QByteArrayView bytes) {
+    constexpr QByteArrayView kEnd = "</svg>";
+    const qsizetype end = bytes.lastIndexOf(kEnd);
+    QByteArray drawing = bytes.first(end < 0 ? bytes.size() : end + kEnd.size()).toByteArray();
+    // Elements of an unknown name are passed over.
+    return drawing.replace("<text", "<void").replace("</text", "</void");
+}
+
+QByteArray prepared(QByteArrayView bytes, const QByteArray& handler) {
+    return handler == kDrawingFormat ? wordlessDrawing(bytes)
+                                     : QByteArray::fromRawData(bytes.data(), bytes.size());
+}
+
 struct Attempt {
-    Attempt(QByteArrayView bytes, const QByteArray& handler)
-        : data(QByteArray::fromRawData(bytes.data(), bytes.size())) {
+    Attempt(QByteArrayView bytes, const QByteArray& handler) : data(prepared(bytes, handler)) {
         buffer.setData(data);
         buffer.open(QIODevice::ReadOnly);
         reader.setDevice(&buffer);

@@ -35,6 +35,19 @@ const std::array kMarks{
     Mark{0, QByteArrayView("\0\0\0\x0cJXL \r\n\x87\n", 12), kJpegXlFormat},
     Mark{0, QByteArrayView("\0\0\0\x0cjP  \r\n\x87\n", 12), kJpeg2000Format},
     Mark{0, "\xff\x4f\xff\x51", kJpeg2000Format},
+    Mark{0, QByteArrayView("\x0a\x00\x01", 3), "vantor-pcx"},
+    Mark{0, "\x0a\x02\x01", "vantor-pcx"},
+    Mark{0, "\x0a\x03\x01", "vantor-pcx"},
+    Mark{0, "\x0a\x04\x01", "vantor-pcx"},
+    Mark{0, "\x0a\x05\x01", "vantor-pcx"},
+    Mark{0, "DDS ", "vantor-dds"},
+    Mark{0, "SDPX", "vantor-dpx"},
+    Mark{0, "XPDS", "vantor-dpx"},
+    Mark{0, "\x76\x2f\x31\x01", "vantor-exr"},
+    Mark{0, "qoif", "vantor-qoi"},
+    Mark{0, "\x01\xda", "vantor-sgi"},
+    Mark{0, "\x59\xa6\x6a\x95", "vantor-ras"},
+    Mark{0, "P7\n", "vantor-pam"},
     // Camera raw files that are no TIFF, or only nearly one.
     Mark{0, "FUJIFILMCCD-RAW", kRawFormat},
     Mark{6, "HEAPCCDR", kRawFormat},
@@ -56,7 +69,22 @@ const std::array kBrands{
 };
 
 // Formats whose first bytes say next to nothing; tried only on an item of that type.
-constexpr std::array kMarkless{"tga", "wbmp", "pbm", "pgm", "ppm", "xbm", "xpm"};
+struct Markless {
+    QByteArrayView extension;
+    const char* handler;
+};
+const std::array kMarkless{
+    Markless{"tga", "vantor-tga"}, Markless{"wbmp", "wbmp"}, Markless{"pbm", "pbm"}, Markless{"pgm", "pgm"},
+    Markless{"ppm", "ppm"},        Markless{"pnm", "ppm"},   Markless{"xbm", "xbm"}, Markless{"xpm", "xpm"},
+};
+
+// Markup whose first element is the drawing's.
+bool isDrawing(QByteArrayView bytes) {
+    constexpr qsizetype kMostProlog = 4096;
+    const QByteArrayView beginning = bytes.first(std::min(bytes.size(), kMostProlog));
+    const QByteArrayView trimmed = beginning.trimmed();
+    return (trimmed.startsWith('<') || trimmed.startsWith("\xef\xbb\xbf<")) && beginning.contains("<svg");
+}
 
 bool isTiff(QByteArrayView bytes) {
     return hasText(bytes, 0, QByteArrayView("II*\0", 4)) || hasText(bytes, 0, QByteArrayView("MM\0*", 4)) ||
@@ -104,23 +132,29 @@ QList<QByteArray> handlersFor(QByteArrayView bytes, QByteArrayView extension) {
         const auto brand = std::ranges::find_if(kBrands, stands);
         return brand == kBrands.end() ? QList<QByteArray>{} : QList<QByteArray>{brand->handler};
     }
+    QList<QByteArray> handlers;
     const auto mark = std::ranges::find_if(kMarks, stands);
     if (mark != kMarks.end()) {
-        return {mark->handler};
+        handlers.append(mark->handler);
+    } else if (isDrawing(bytes)) {
+        handlers.append(kDrawingFormat);
     }
-    const auto markless =
-        std::ranges::find_if(kMarkless, [&](const char* name) { return extension == QByteArrayView(name); });
-    return markless == kMarkless.end() ? QList<QByteArray>{} : QList<QByteArray>{*markless};
+    // Some begin like a cursor or an icon does.
+    const auto markless = std::ranges::find(kMarkless, extension, &Markless::extension);
+    if (markless != kMarkless.end()) {
+        handlers.append(markless->handler);
+    }
+    return handlers;
 }
 
 QList<QByteArray> allHandlers() {
-    QList<QByteArray> names{"tiff"};
+    QList<QByteArray> names{"tiff", kDrawingFormat};
     for (const Mark& mark : kMarks) {
         names.append(mark.handler);
     }
     names.append(kHeifFormat);
-    for (const char* name : kMarkless) {
-        names.append(name);
+    for (const Markless& kind : kMarkless) {
+        names.append(kind.handler);
     }
     std::ranges::sort(names);
     names.erase(std::unique(names.begin(), names.end()), names.end());

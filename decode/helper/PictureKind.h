@@ -13,10 +13,11 @@ inline constexpr char kHeifFormat[] = "vantor-heif";
 inline constexpr char kJpegXlFormat[] = "vantor-jxl";
 inline constexpr char kJpeg2000Format[] = "vantor-jp2";
 inline constexpr char kPhotoshopFormat[] = "vantor-psd";
+// Drawings follow references to other files; a helper can open none.
+inline constexpr char kDrawingFormat[] = "svg";
 
 // The handlers to try, the likeliest first; empty when the bytes are no picture of a kind we read.
-// `extension` (lower case) decides only for kinds without a mark of their own. Nothing that follows
-// references to other files is ever named.
+// `extension` (lower case) decides only for kinds without a mark of their own.
 QList<QByteArray> handlersFor(QByteArrayView bytes, QByteArrayView extension);
 
 // All handlers that handlersFor() may name.

