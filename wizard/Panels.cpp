@@ -31,8 +31,8 @@ void fitToWords(QDialog* window) {
     const int width = window->minimumWidth();
     window->layout()->activate();
     const QLayout* const layout = window->layout();
-    const int height = layout->hasHeightForWidth() ? layout->totalHeightForWidth(width)
-                                                   : layout->totalSizeHint().height();
+    const int height =
+        layout->hasHeightForWidth() ? layout->totalHeightForWidth(width) : layout->totalSizeHint().height();
     window->setFixedSize(width, height);
 }
 

@@ -180,7 +180,7 @@ TEST_F(ScanScreen, ThumbnailsAreListedInTheOrderOfCarving_BeforeTheEndScreen) {
 }
 
 TEST_F(ScanScreen, Stop_WaitsForNoThumbnail_AndThePicturesFollow) {
-    parts.thumbnailer = [this](const QByteArray& bytes) {
+    parts.thumbnailer = [this](const QByteArray& bytes, const QString&) {
         gate.pass();
         return bytes.left(3);
     };
