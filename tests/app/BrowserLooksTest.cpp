@@ -134,7 +134,7 @@ TEST_F(BrowserLooks, SavingAFilteredSelection_SavesThoseItems) {
     scan();
     ASSERT_TRUE(allKnown());
     const QTemporaryDir destination;
-    controller->_path->setText(destination.path());
+    controller->_path_Sig->setText(destination.path());
     show(ShowItems::Broken);
     ASSERT_EQ(shown(), QStringList{torn});
     controller->imageBrowser_2->selectAll();
