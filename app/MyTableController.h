@@ -373,7 +373,6 @@ class MyTableController : public QObject,
     QList<QCheckBox*> m_groupBoxes;  // by FileKind
     QString m_previewFolder;
     FileTypeIcons m_icons;  // prepared before a scan, read by it
-    FileTypeIcons m_previewIcons;
     // Subscriptions to notifications; gone after a refused exit.
     QList<QMetaObject::Connection> m_notifications;
 

@@ -156,8 +156,7 @@ void MyTableController::Image_Preview(const QString& file, const QString& file_N
         return;
     }
     const QString extension = pathExtension(file);
-    m_previewIcons.prepare(extension);
-    QPixmap icon = m_previewIcons.icon(extension).pixmap(kPreviewSize);
+    QPixmap icon = iconForFileType(extension).pixmap(kPreviewSize);
     // The desktop's icons may end at a smaller size.
     if (!icon.isNull() && icon.size() != kPreviewSize) {
         icon = icon.scaled(kPreviewSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);

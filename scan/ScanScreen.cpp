@@ -134,7 +134,7 @@ void MyTableController::scrollBrowserTo(ControlSet set, qsizetype index) {
 
 QIcon MyTableController::iconForFileType(const QString& extension) {
     if (onOwnThread() && !scanRunning()) {
-        m_icons.prepare(extension);
+        m_icons.prepare(extension, kindOfExtension(extension));
     }
     return m_icons.icon(extension);
 }

@@ -1,6 +1,7 @@
 // Start, ticks, stop and end of the two threads of a scan.
 
 #include "app/MyTableController.h"
+#include "catalogue/SignatureRecord.h"
 #include "results/RecoveryMode.h"
 
 namespace vantor {
@@ -145,8 +146,12 @@ void MyTableController::showScanFacts() {
 // Looked up here, where icons may be made; the scan only copies them.
 void MyTableController::prepareIcons() {
     for (const QStringList* records : {&CheckListHeader_Array, &CheckListHeader_Adv_Array}) {
-        for (qsizetype n = 0; n < records->size(); n += 7) {
-            m_icons.prepare(pathExtension(QStringLiteral("x.") + records->at(n)));
+        for (qsizetype n = 0; n < recordCount(*records); ++n) {
+            const QString extension =
+                pathExtension(QStringLiteral("x.") + recordField(*records, n, Ext_Name));
+            const FileKind kind = kindOfType(extension, recordField(*records, n, Ext_Descp));
+            const bool isMovie = kind == FileKind::Other && Recovery_MODE == kVideoMode;
+            m_icons.prepare(extension, isMovie ? FileKind::Video : kind);
         }
     }
 }
