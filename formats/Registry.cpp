@@ -118,7 +118,8 @@ std::span<const Walker> allWalkers() {
 const Walker* walkerFor(std::string_view extension) {
     if (extension.empty() || extension.find(' ') != extension.npos)
         return nullptr;
-    const std::string framed = " " + std::string(extension.substr(0, 16)) + " ";
+    std::string framed(1, ' ');
+    framed.append(extension.substr(0, 16)).append(1, ' ');
     const auto serves = [&](const Walker& walker) {
         return walker.extensions.find(framed) != std::string_view::npos;
     };
