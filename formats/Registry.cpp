@@ -30,6 +30,7 @@ constexpr std::array kWalkers = {
     Walker{"DDS", walkDds, true, " DDS "},
     Walker{"XCF", walkXcf, true, " XCF "},
     Walker{"Any map", walkAnyMap, false, " PPM PGM PBM PNM "},
+    Walker{"Float map", walkFloatMap, false, " PFM "},
     Walker{"Radiance", walkRadiance, false, " HDR "},
     Walker{"SGI", walkSgi, false, " SGI RGB RGBA BW "},
     Walker{"QOI", walkQoi, true, " QOI "},

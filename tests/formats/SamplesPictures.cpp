@@ -267,6 +267,7 @@ std::vector<Sample> pictureSamples() {
             {"CRW", crw()},
             {"X3F", x3f()},
             {"PPM", Build().text("P6\n# by hand\n4 3\n255\n").fill(36, 0x55)},
+            {"PFM", Build().text("PF\n4 3\n-1.0\n").fill(144, 0x55)},
             {"PBM", Build().text("P4 9 20 ").fill(40, 0x55)},
             {"HDR", radiance()},
             {"SGI", sgi()},
