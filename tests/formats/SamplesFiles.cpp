@@ -361,8 +361,8 @@ std::vector<Sample> documentSamples() {
 
 std::vector<Sample> allSamples() {
     std::vector<Sample> all;
-    for (const auto& part :
-         {pictureSamples(), movieSamples(), soundSamples(), archiveSamples(), documentSamples()})
+    for (const auto& part : {pictureSamples(), movieSamples(), soundSamples(), archiveSamples(),
+                             documentSamples(), rasterSamples(), recordSamples(), toldLengthSamples()})
         all.insert(all.end(), part.begin(), part.end());
     return all;
 }
