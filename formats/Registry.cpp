@@ -145,8 +145,9 @@ constexpr std::array kWalkers = {
     Walker{"Unity data", walkUnityData, true, " UNITY3D "},
     Walker{"Told length", walkToldLength, true,
            " WOFF WOFF2 DEX DTB ICC ICM GLB MD2 MD3 EVTX HLP BRSTM MMF VGM SHP EMF WMF SIT PF MPQ WPD "
-           "BIK BK2 BLF MED FIT FLC FLI CRAMFS UIMAGE ONE ONETOC2 "},
+           "BIK BK2 BLF MED FIT FLC FLI CRAMFS UIMAGE ONE ONETOC2 WRI "},
     Walker{"Long told length", walkLongToldLength, true, " HDF5 H5 E57 ROOT DSF DFF W64 "},
+    Walker{"DisplayWrite", walkDisplayWrite, true, " FFT DCA "},
     Walker{"CHM", walkChm, true, " CHM "},
     Walker{"DjVu", walkDjvu, true, " DJVU DJV "},
     Walker{"Shell link", walkShellLink, true, " LNK "},

@@ -126,8 +126,9 @@ Extent walkPasswordSafe(ByteView& view);  // KDBX, version 4
 Extent walkUnityData(ByteView& view);
 Extent walkChm(ByteView& view);
 Extent walkDjvu(ByteView& view);
-Extent walkShellLink(ByteView& view);   // LNK
-Extent walkPostScript(ByteView& view);  // PS, EPS
+Extent walkDisplayWrite(ByteView& view);  // and other documents of IBM's Document Content Architecture
+Extent walkShellLink(ByteView& view);     // LNK
+Extent walkPostScript(ByteView& view);    // PS, EPS
 Extent walkRtf(ByteView& view);
 Extent walkXml(ByteView& view);  // XML, SVG; hands HTML on
 Extent walkHtml(ByteView& view);

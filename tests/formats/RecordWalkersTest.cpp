@@ -144,6 +144,8 @@ TEST(ToldLength, FurtherForms_EndWhereTheySay) {
         {"WOFF", 99, {{0, Build().text("wOFF").be32(0x00010000).be32(99)}}},
         {"WOFF2", 99, {{0, Build().text("wOF2OTTO").be32(99)}}},
         {"SIT", 150, {{0, Build().text("StuffIt (c)1997-1998")}, {84, Build().be32(150)}}},
+        {"DOC", 500, {{0, Build().be32(0xDBA52D00)}, {32, Build().le32(500)}}},  // Word 2
+        {"WRI", 256, {{0, Build().be32(0x32BE0000)}, {5, {0xAB}}, {96, {2, 0}}}},
         {"MED", 70, {{0, Build().text("MMD0").be32(70)}}},
         {"MED", 70, {{0, Build().text("MMD2").be32(70)}}},
         {"FIT", 40, {{0, {12}}, {4, Build().le32(26)}, {8, Build().text(".FIT")}}},
