@@ -95,6 +95,7 @@ Extent walkMachO(ByteView& view) {
 // Sections until what follows is none: a number, a length, and all but the first kind in a fixed order.
 Extent walkWebAssembly(ByteView& view) {
     static constexpr std::uint8_t kOrder[] = {0, 1, 2, 3, 4, 6, 7, 8, 9, 11, 12, 10, 5};
+    constexpr unsigned kMostGroups = 5;
     if (!view.matches(0, std::string_view("\0asm\1\0\0\0", 8)))
         return unknownExtent();
     std::uint64_t at = 8;
@@ -103,15 +104,11 @@ Extent walkWebAssembly(ByteView& view) {
         const auto kind = view.u8(at);
         if (!kind || *kind >= std::size(kOrder) || (*kind != 0 && kOrder[*kind] <= last))
             break;
-        std::uint64_t bytes = 0, digits = 0;
-        for (bool more = true; more && digits < 5; ++digits) {
-            const auto digit = view.u8(at + 1 + digits).value_or(0);
-            bytes |= std::uint64_t{digit & 0x7FU} << (7 * digits);
-            more = (digit & 0x80) != 0;
-        }
-        if (bytes == 0)
+        std::uint64_t content = at + 1;
+        const auto bytes = groupedNumber(view, content, kMostGroups);
+        if (!bytes || *bytes == 0)
             break;
-        at += 1 + digits + bytes;
+        at = content + *bytes;
         if (at > view.size())
             return cutOffAt(view, view.size());
         last = std::max(last, kOrder[*kind]);

@@ -34,6 +34,10 @@ Bytes zip(std::string_view name, const Bytes& content, std::string_view comment)
         .text(comment);
 }
 
+Bytes compoundHead() {
+    return Build().be64(0xD0CF11E0A1B11AE1).fill(16).le16(0x3E).le16(3).le16(0xFFFE).le16(9).le16(6).to(44);
+}
+
 namespace {
 
 const Bytes kContent = Build().text("Some content that is long enough to be cut in its middle.");
@@ -167,16 +171,7 @@ Bytes lzh() {
 
 Bytes compound() {
     Build out;
-    out.be64(0xD0CF11E0A1B11AE1)
-        .fill(16)
-        .le16(0x3E)
-        .le16(3)
-        .le16(0xFFFE)
-        .le16(9)
-        .le16(6)
-        .to(44)
-        .le32(1)
-        .le32(1);
+    out.add(compoundHead()).le32(1).le32(1);
     out.to(68).le32(0xFFFFFFFE).le32(0).le32(0).to(512);
     out.le32(0xFFFFFFFD)
         .le32(0xFFFFFFFE)
