@@ -1,6 +1,7 @@
 // Images of discs and systems: ISO 9660, Apple disk images, Windows images, Android sparse images, evidence
 // images, packed discs of consoles. Sources: ECMA-119; public notes on the "koly" trailer; Microsoft WIM
-// format; Android sparse image header; Expert Witness Compression Format notes; CISO header notes.
+// format; Android sparse image header; Expert Witness Compression Format notes; Microsoft VHD
+// specification 1.0; VDI header notes; CISO header notes.
 #include <algorithm>
 
 #include "formats/Walkers.h"
@@ -97,6 +98,44 @@ Extent walkEvidence(ByteView& view) {
         at = *next;
     }
     return damagedAt(view, at);
+}
+
+Extent walkVirtualBoxDisk(ByteView& view) {
+    if (!view.matches(64, std::string_view("\x7F\x10\xDA\xBE\1\0\1\0", 8)))
+        return unknownExtent();
+    const auto data = view.le32(0x158), block = view.le32(0x178), blocks = view.le32(0x184);
+    if (!data || !block || !blocks)
+        return cutOffAt(view, view.size());
+    if (*data < 512 || *block < 512)
+        return unknownExtent();
+    return completeAt(view, *data + std::uint64_t{*block} * *blocks);
+}
+
+// Of growing size: a copy of the trailer stands at the beginning, the trailer behind the last block.
+Extent walkVirtualPcDisk(ByteView& view) {
+    constexpr std::string_view kTrailer = "conectix";
+    constexpr std::uint64_t kSector = 512, kHeadAt = 512, kHead = 1024;
+    constexpr std::uint32_t kMostBlocks = 1 << 22, kUnused = 0xFFFFFFFF;
+    if (!view.matches(0, kTrailer) || view.be64(16) != kHeadAt || !view.matches(kHeadAt, "cxsparse"))
+        return unknownExtent();
+    const auto table = view.be64(kHeadAt + 16);
+    const auto blocks = view.be32(kHeadAt + 28), block = view.be32(kHeadAt + 32);
+    if (!table || !blocks || !block)
+        return cutOffAt(view, view.size());
+    if (*table < kHeadAt + kHead || *table > view.size() || *blocks > kMostBlocks || *block < kSector)
+        return unknownExtent();
+    const auto upToSector = [](std::uint64_t bytes) { return (bytes + kSector - 1) / kSector * kSector; };
+    const std::uint64_t stored = *block + upToSector((*block / kSector + 7) / 8);
+    auto end = upToSector(*table + std::uint64_t{*blocks} * 4);
+    for (std::uint64_t i = 0; i < *blocks; ++i) {
+        const auto sector = view.be32(*table + i * 4);
+        if (!sector)
+            return cutOffAt(view, view.size());
+        if (*sector != kUnused)
+            end = std::max(end, *sector * kSector + stored);
+    }
+    const bool closed = view.matches(end, kTrailer);
+    return closed || end + kSector > view.size() ? completeAt(view, end + kSector) : damagedAt(view, end);
 }
 
 // The last entry of the index is the end.

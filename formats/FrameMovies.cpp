@@ -1,5 +1,6 @@
-// Movies of frames with little around them: IVF, YUV4MPEG2, DV, GXF, Smacker.
-// Sources: IVF header notes; yuv4mpeg(5); IEC 61834 and SMPTE 314M (DV); SMPTE 360M (GXF); Smacker notes.
+// Movies of frames with little around them: IVF, YUV4MPEG2, DV, AMV, GXF, Smacker.
+// Sources: IVF header notes; yuv4mpeg(5); IEC 61834 and SMPTE 314M (DV); SMPTE 360M (GXF); AMV and Smacker
+// notes.
 #include <algorithm>
 
 #include "formats/Walkers.h"
@@ -140,6 +141,29 @@ Extent walkDv(ByteView& view) {
         at += sequences * kSequence;
     }
     return inexact(completeAt(view, at));
+}
+
+// RIFF whose lengths were never filled in; its frames tell theirs, and a word ends it.
+Extent walkAmv(ByteView& view) {
+    constexpr std::uint64_t kMostHead = 4096, kHead = 8;
+    if (!view.matches(0, "RIFF") || !view.matches(8, "AMV LIST"))
+        return unknownExtent();
+    std::uint64_t at = view.find('m', 12, kMostHead);
+    while (at < kMostHead && view.u8(at) && !view.matches(at, "movi"))
+        at = view.find('m', at + 1, kMostHead);
+    if (!view.matches(at, "movi"))
+        return view.holds(0, kMostHead) ? unknownExtent() : cutOffAt(view, view.size());
+    at += 4;
+    for (;;) {
+        if (view.matches(at, "AMV_END_"))
+            return completeAt(view, at + kHead);
+        const auto bytes = view.le32(at + 4);
+        if (!bytes)
+            return cutOffAt(view, view.size());
+        if (!view.matches(at, "00dc") && !view.matches(at, "01wb"))
+            return damagedAt(view, at);
+        at += kHead + *bytes;
+    }
 }
 
 // Packets with marks at both ends of their heads, to the one that ends the stream.

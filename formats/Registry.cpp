@@ -67,6 +67,7 @@ constexpr std::array kWalkers = {
     Walker{"IVF", walkIvf, true, " IVF "},
     Walker{"YUV4MPEG2", walkYuv4Mpeg, true, " Y4M "},
     Walker{"DV", walkDv, false, " DV DIF "},
+    Walker{"AMV", walkAmv, false, " AMV "},
     Walker{"GXF", walkGxf, true, " GXF "},
     Walker{"Smacker", walkSmacker, true, " SMK "},
     Walker{"FLAC", walkFlac, true, " FLAC FLA "},
@@ -88,6 +89,7 @@ constexpr std::array kWalkers = {
     Walker{"MPEG audio", walkMpegAudio, false, " MP3 MP2 MP1 MPA M2A "},
     Walker{"ADTS", walkAdts, false, " AAC ADTS "},
     Walker{"AC-3", walkAc3, false, " AC3 EAC3 EC3 "},
+    Walker{"DTS", walkDts, false, " DTS "},
     Walker{"PDF", walkPdf, true, " PDF AI "},
     Walker{
         "ZIP", walkZip, true,
@@ -118,6 +120,8 @@ constexpr std::array kWalkers = {
     Walker{"Sparse image", walkSparseImage, true, " SIMG "},
     Walker{"Evidence image", walkEvidence, true, " E01 "},
     Walker{"Packed disc", walkPackedDisc, true, " CSO "},
+    Walker{"VirtualBox disk", walkVirtualBoxDisk, true, " VDI "},
+    Walker{"Virtual PC disk", walkVirtualPcDisk, false, " VHD "},
     Walker{"OLE2", walkCompoundFile, true,
            " DOC DOT XLS XLT PPT PPS POT MSG VSD PUB MPP FPX MSI DB OFT WPS XLA SUO MAX HWP "},
     Walker{"SQLite", walkSqlite, true, " SQLITE SQLITE3 DB3 GPKG MBTILES "},
@@ -145,7 +149,7 @@ constexpr std::array kWalkers = {
     Walker{"Unity data", walkUnityData, true, " UNITY3D "},
     Walker{"Told length", walkToldLength, true,
            " WOFF WOFF2 DEX DTB ICC ICM GLB MD2 MD3 EVTX HLP BRSTM MMF VGM SHP EMF WMF SIT PF MPQ WPD "
-           "BIK BK2 BLF MED FIT FLC FLI CRAMFS UIMAGE ONE ONETOC2 WRI "},
+           "BIK BK2 BLF MED FIT FLC FLI CRAMFS UIMAGE ONE ONETOC2 WRI VOX "},
     Walker{"Long told length", walkLongToldLength, true, " HDF5 H5 E57 ROOT DSF DFF W64 "},
     Walker{"DisplayWrite", walkDisplayWrite, true, " FFT DCA "},
     Walker{"CHM", walkChm, true, " CHM "},
@@ -160,6 +164,7 @@ constexpr std::array kWalkers = {
     Walker{"HTML", walkHtml, false, " HTML HTM XHT MHT "},
     Walker{"vCard", walkContacts, true, " VCF VCARD "},
     Walker{"iCalendar", walkCalendar, true, " ICS IFB VCS "},
+    Walker{"Marked text", walkMarkedText, false, " BDF DXF IDX OFF "},
     Walker{
         "Text", walkText, false,
         " TXT EML MBOX CSV LOG INI JSON MD C H CPP HPP PY SH BAT JS CSS SQL TEX SRT SUB ASS M3U PLS NFO "

@@ -1,7 +1,7 @@
 // Formats whose header says how long the file is: a mark, and where the number stands. A line a format.
 // Sources: WOFF 1.0 and 2.0 (W3C); Dalvik executable format (Android); Devicetree Specification 0.4;
 // ICC.1:2010; glTF 2.0 (Khronos); [MS-ONESTORE]; [MS-EMF]; [MS-WMF]; public descriptions of MD2, MD3, HLP,
-// EVTX, prefetch, StuffIt, WordPerfect 6, Word 2, Write, MPQ, Bink, FLIC, VGM and MED files; SMAF; ESRI
+// EVTX, prefetch, StuffIt, WordPerfect 6, Word 2, Write, MPQ, Bink, FLIC, VOX, VGM and MED files; SMAF; ESRI
 // shapefile description; FIT protocol; cramfs and U-Boot documentation; HDF5 File Format 3.0; ASTM E2807
 // (E57); ROOT file description; DSF 1.01; DSDIFF 1.5; Sony Wave64.
 #include <array>
@@ -65,6 +65,7 @@ constexpr std::array kFiles = {
     ToldLength{{0, "\xDB\xA5\x2D\0"_b}, {}, 32, 4, kLittle, 384},         // Word 2
     ToldLength{{0, "\x31\xBE\0\0\0\xAB"_b}, {}, 96, 2, kLittle, 2, 128},  // Write, in pages
     ToldLength{{0, "\x32\xBE\0\0\0\xAB"_b}, {}, 96, 2, kLittle, 2, 128},
+    ToldLength{{0, "VOX \x96\0\0\0"_b}, {8, "MAIN\0\0\0\0"_b}, 16, 4, kLittle, 12, 1, 20},
     ToldLength{{0, "LOGG\x90\0\0\0"_b}, {}, 16, 8, kLittle, 144},
     ToldLength{{0, "MMD0"}, {}, 4, 4, kBig, 52},
     ToldLength{{0, "MMD1"}, {}, 4, 4, kBig, 52},

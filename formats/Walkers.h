@@ -58,6 +58,7 @@ Extent walkRealMedia(ByteView& view);
 Extent walkIvf(ByteView& view);
 Extent walkYuv4Mpeg(ByteView& view);
 Extent walkDv(ByteView& view);
+Extent walkAmv(ByteView& view);
 Extent walkGxf(ByteView& view);
 Extent walkSmacker(ByteView& view);
 
@@ -68,6 +69,7 @@ Extent walkMpegVideo(ByteView& view);  // bare MPEG-1/2 video
 Extent walkMpegAudio(ByteView& view);  // MP1, MP2, MP3 with their tags
 Extent walkAdts(ByteView& view);       // AAC
 Extent walkAc3(ByteView& view);        // AC-3, E-AC-3
+Extent walkDts(ByteView& view);
 Extent walkAmr(ByteView& view);
 Extent walkFlac(ByteView& view);
 Extent walkOgg(ByteView& view);
@@ -117,6 +119,8 @@ Extent walkWindowsImage(ByteView& view);    // WIM
 Extent walkSparseImage(ByteView& view);     // of Android
 Extent walkEvidence(ByteView& view);        // E01
 Extent walkPackedDisc(ByteView& view);      // CSO
+Extent walkVirtualBoxDisk(ByteView& view);  // VDI
+Extent walkVirtualPcDisk(ByteView& view);   // VHD of growing size
 Extent walkRpm(ByteView& view);
 Extent walkRepairData(ByteView& view);  // PAR2
 Extent walkPcap(ByteView& view);
@@ -132,9 +136,10 @@ Extent walkPostScript(ByteView& view);    // PS, EPS
 Extent walkRtf(ByteView& view);
 Extent walkXml(ByteView& view);  // XML, SVG; hands HTML on
 Extent walkHtml(ByteView& view);
-Extent walkContacts(ByteView& view);  // VCF
-Extent walkCalendar(ByteView& view);  // ICS
-Extent walkText(ByteView& view);      // anything until the first control byte
+Extent walkContacts(ByteView& view);    // VCF
+Extent walkCalendar(ByteView& view);    // ICS
+Extent walkText(ByteView& view);        // anything until the first control byte
+Extent walkMarkedText(ByteView& view);  // BDF, DXF, IDX, OFF where they are text
 Extent walkTorrent(ByteView& view);
 Extent walkCertificate(ByteView& view);  // CER, PFX, P7M
 Extent walkLotus(ByteView& view);        // WK1 to 123

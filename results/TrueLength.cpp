@@ -41,9 +41,10 @@ constexpr std::array<std::string_view, 26> kLargeKinds = {
     "CAB",       "Jet database",  "TIFF",      "PSD",
     "FLAC",      "Monkey's Audio"};
 
-constexpr std::array<std::string_view, 13> kLargePackedFiles = {
-    "Zstandard",      "LZ4",         "lzip", "lzop", "Disc image", "Windows image",   "Sparse image",
-    "Evidence image", "Packed disc", "PAR2", "RPM",  "Unity data", "Long told length"};
+constexpr std::array<std::string_view, 15> kLargePackedFiles = {
+    "Zstandard",      "LZ4",         "lzip", "lzop", "Disc image", "Windows image",    "Sparse image",
+    "Evidence image", "Packed disc", "PAR2", "RPM",  "Unity data", "Long told length", "VirtualBox disk",
+    "Virtual PC disk"};
 constexpr std::array<std::string_view, 11> kLargeRecordings = {
     "DV", "GXF", "IVF", "YUV4MPEG2", "FITS", "NIfTI", "MRC", "DICOM", "Laser scan", "pcap", "pcapng"};
 

@@ -116,6 +116,15 @@ TEST(Certificate, InText_EndsWithTheText) {
     EXPECT_EQ(walkBytes("CER", Build().add(text).fill(400)).end, text.size());
 }
 
+TEST(MarkedText, OtherFormsOfTheType_AreUnknown) {
+    const Bytes drawing = Build().text("AutoCAD Binary DXF\r\n\x1A").fill(100);
+    EXPECT_EQ(walkBytes("DXF", drawing).verdict, Verdict::Unknown);
+    const Bytes index = Build().text("DIRC").be32(2).fill(100, 1);
+    EXPECT_EQ(walkBytes("IDX", index).verdict, Verdict::Unknown);
+    const Bytes text = Build().text("  0\nSECTION\n  0\nEOF\n");
+    EXPECT_EQ(walkBytes("DXF", Build().add(text).fill(100)).end, text.size());
+}
+
 TEST(UntoldLengths, AreUnknown) {
     Bytes old = sampleOf("KDBX");
     old[10] = 3;  // one encrypted stream

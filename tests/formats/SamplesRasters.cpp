@@ -138,6 +138,21 @@ Bytes dv() {
     return out;
 }
 
+Bytes amv() {
+    Build out;
+    out.text("RIFF")
+        .le32(0)
+        .text("AMV LIST")
+        .le32(0)
+        .text("hdrlamvh")
+        .le32(8)
+        .fill(8, 1)
+        .text("LIST")
+        .le32(0)
+        .text("movi");
+    return out.text("00dc").le32(9).fill(9, 7).text("01wb").le32(4).fill(4, 8).text("AMV_END_");
+}
+
 Bytes gxf() {
     Build out;
     for (const std::uint64_t kind : {0xBC, 0xBF, 0xFB})
@@ -175,6 +190,7 @@ std::vector<Sample> rasterSamples() {
         {"IVF", ivf(), false},
         {"Y4M", yuv(), false},
         {"DV", dv(), false},
+        {"AMV", amv()},
         {"GXF", gxf()},
         {"SMK", smacker()}};
 }

@@ -130,6 +130,44 @@ Bytes packedDisc() {
     return out.le32(9).le32(0x80000000 | 14).le32(20).to(79).u8(1);
 }
 
+Bytes virtualBoxDisk() {
+    Build out;
+    out.to(64).be32(0x7F10DABE).le32(0x00010001).to(0x158).le32(1024).to(0x178).le32(512).to(0x184).le32(2);
+    return out.to(1024).fill(1024, 6);
+}
+
+// Two of three blocks are stored, the second one first.
+Bytes virtualPcDisk() {
+    Build out;
+    out.text("conectix")
+        .to(16)
+        .be64(512)
+        .to(512)
+        .text("cxsparse")
+        .to(528)
+        .be64(1536)
+        .to(540)
+        .be32(3)
+        .be32(1024);
+    out.to(1536).be32(7).be32(0xFFFFFFFF).be32(4).to(2048).fill(6 * 512, 3);
+    return out.text("conectix").to(11 * 512 - 1).u8(1);
+}
+
+// Three frames of the core stream, the second with an extension.
+Bytes dts() {
+    const auto core = [](std::uint64_t bytes) {
+        return Build()
+            .be32(0x7FFE8001)
+            .u8(0xFC)
+            .u8(0x3C)
+            .u8((bytes - 1) >> 4)
+            .u8((bytes - 1) << 4 & 0xF0)
+            .fill(bytes - 8, 5);
+    };
+    const Bytes extension = Build().be32(0x64582025).fill(3).u8(2).u8(0x60).fill(11, 6);  // 20 bytes
+    return Build().add(core(100)).add(core(100)).add(extension).add(core(101));
+}
+
 Bytes machO(std::uint64_t end) {
     Build out;
     out.be32(0xCFFAEDFE).le32(0x01000007).le32(3).le32(2).le32(2).le32(72 + 24).le64(0);
@@ -307,6 +345,10 @@ std::vector<Sample> recordSamples() {
             {"SIMG", sparseImage()},
             {"E01", evidence()},
             {"CSO", packedDisc()},
+            {"VDI", virtualBoxDisk()},
+            {"VHD", virtualPcDisk()},
+            {"DTS", dts(), false},
+            {"BDF", Build().text("STARTFONT 2.1\nENDFONT\n"), false},
             {"MACHO", machO(230), false},
             {"DYLIB", processors(), false},
             {"WASM", webAssembly(), false},

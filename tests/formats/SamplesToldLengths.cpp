@@ -64,6 +64,7 @@ std::vector<Sample> toldLengthSamples() {
         {"FLC", grown(150, {{0, le32(150)}, {4, {0x12, 0xAF}}, {12, {8}}})},
         {"FLI", grown(150, {{0, le32(150)}, {4, {0x11, 0xAF}}, {12, {8}}})},
         {"WRI", grown(384, {{0, be32(0x31BE0000)}, {5, {0xAB}}, {96, {3, 0}}})},
+        {"VOX", grown(70, {{0, text("VOX ")}, {4, le32(150)}, {8, text("MAIN")}, {16, le32(50)}})},
         {"BLF", grown(200, {{0, text("LOGG")}, {4, le32(144)}, {16, le64(200)}})},
         {"MED", grown(70, {{0, text("MMD1")}, {4, be32(70)}})},
         {"FIT", grown(40, {{0, {14}}, {4, le32(24)}, {8, text(".FIT")}})},
