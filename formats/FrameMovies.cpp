@@ -163,6 +163,9 @@ Extent walkAmv(ByteView& view) {
         if (!view.matches(at, "00dc") && !view.matches(at, "01wb"))
             return damagedAt(view, at);
         at += kHead + *bytes;
+        // Some writers pad frames of odd length.
+        if (*bytes % 2 != 0 && view.u8(at) == 0)
+            ++at;
     }
 }
 

@@ -150,7 +150,17 @@ Bytes amv() {
         .text("LIST")
         .le32(0)
         .text("movi");
-    return out.text("00dc").le32(9).fill(9, 7).text("01wb").le32(4).fill(4, 8).text("AMV_END_");
+    return out.text("00dc")
+        .le32(9)
+        .fill(9, 7)
+        .u8(0)
+        .text("00dc")
+        .le32(3)
+        .fill(3, 7)
+        .text("01wb")
+        .le32(4)
+        .fill(4, 8)
+        .text("AMV_END_");
 }
 
 Bytes gxf() {
