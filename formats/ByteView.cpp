@@ -81,6 +81,8 @@ bool ByteView::copy(std::uint64_t at, std::span<std::uint8_t> into) {
 }
 
 bool ByteView::matches(std::uint64_t at, std::string_view bytes) {
+    if (bytes.empty())
+        return true;
     const auto here = window(at, bytes.size());
     return here.size() >= bytes.size() && std::memcmp(here.data(), bytes.data(), bytes.size()) == 0;
 }
