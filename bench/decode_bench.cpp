@@ -7,7 +7,6 @@
 #include <QFile>
 #include <QImage>
 #include <QThreadPool>
-#include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <cstdio>
@@ -15,6 +14,7 @@
 #include <thread>
 #include <vector>
 
+#include "bench/Bench.h"
 #include "decode/DecodePool.h"
 #include "decode/SharedPixels.h"
 #include "decode/ThumbnailCodec.h"
@@ -22,6 +22,7 @@
 #include "decode/helper/PictureDecoder.h"
 
 using namespace vantor;
+using bench::median;
 using Clock = std::chrono::steady_clock;
 
 namespace {
@@ -30,11 +31,6 @@ constexpr int kRounds = 40;
 
 double milliseconds(Clock::time_point from) {
     return std::chrono::duration<double, std::milli>(Clock::now() - from).count();
-}
-
-double median(std::vector<double> times) {
-    std::ranges::sort(times);
-    return times[times.size() / 2];
 }
 
 // Detail and grain as a camera's picture has them.
