@@ -16,9 +16,8 @@ constexpr std::chrono::milliseconds kCopyPatience{200};
 }  // namespace
 
 void MyTableController::Exit_App() {
-    if (hasUnsavedItems() && !scanRunning() &&
-        !mayLeaveUnsaved(tr("When the program ends, the list of found items is gone."),
-                         tr("Exit Without Saving"))) {
+    if (hasUnsavedItems() && !mayLeaveUnsaved(tr("When the program ends, the list of found items is gone."),
+                                              tr("Exit Without Saving"))) {
         return;
     }
     const QString question =
@@ -53,8 +52,8 @@ bool MyTableController::windowShouldClose(QObject*) {
 }
 
 void MyTableController::deletePreviews() {
-    if (!Preview_Temp_File.isEmpty()) {
-        QFile::remove(Preview_Temp_File);
+    if (fileManager->isDeletableFileAtPath(Preview_Temp_File)) {
+        fileManager->removeItemAtPath(Preview_Temp_File);
     }
     deletePreviewFiles(m_previewFolder);
 }
@@ -74,7 +73,9 @@ bool MyTableController::shutDown(std::chrono::milliseconds patience) {
         m_thumbnails->cancel();
     }
     const auto until = std::chrono::steady_clock::now() + patience;
-    while (scanRunning() || m_besideRunning || m_saveRunning) {
+    m_look.stop();
+    m_board.requestEnd();
+    while (scanRunning() || m_besideRunning || m_saveRunning || !m_board.hasEnded()) {
         // The scan clears the word when it honours it, so it is said until everyone has heard.
         stop_now = 1;
         if (mSetLabelTimer) {

@@ -13,7 +13,7 @@
 //   File types                  catalogue/FileTypeScreen.cpp
 //   Scan threads                scan/ScanThreads.cpp
 //   What a scan shows           scan/ScanScreen.cpp
-//   Browsers                    results/Browsers.cpp
+//   Browsers                    results/Browsers.cpp, results/BrowserLooks.cpp
 //   Preview                     results/Preview.cpp
 //   Movie                       results/MoviePreview.cpp
 //   Saving                      results/Saving.cpp
@@ -21,6 +21,7 @@
 
 #include <QCheckBox>
 #include <QColor>
+#include <QDateTime>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileDialog>
@@ -30,7 +31,6 @@
 #include <array>
 #include <atomic>
 #include <memory>
-#include <set>
 #include <thread>
 
 #include "app/InterfaceQueue.h"
@@ -39,18 +39,22 @@
 #include "decode/ThumbnailQueue.h"
 #include "media/MediaList.h"
 #include "media/RangePanel.h"
+#include "results/FileManager.h"
 #include "results/ImageBrowserModel.h"
+#include "results/RecoveryReport.h"
+#include "results/SavedMarks.h"
+#include "results/SoundnessBoard.h"
 #include "scan/ScanMeter.h"
 #include "scan/ScanSession.h"
 #include "scan/ScanTimer.h"
 #include "wizard/Help_Support.h"
 #include "wizard/Panels.h"
+#include "wizard/SavingOptions.h"
 #include "wizard/TableAdapter.h"
 
 namespace vantor {
 
 class SaveJob;
-struct SaveReport;
 
 // Members with given names keep them letter for letter; a message `first:second:` is `first(a, second)`.
 // Where an outlet already bears the first word, as `imageBrowser` does, the words of the message are joined
@@ -70,8 +74,10 @@ class MyTableController : public QObject,
   public:
     // --- Creation and set-up (app/Lifecycle.cpp, app/SetUp.cpp, app/Wiring.cpp) ---
 
+    // Constructor and destructor are `init` and `dealloc`; there is nothing for the class itself to set up.
     explicit MyTableController(ProgramParts parts);
     ~MyTableController() override;
+    static void initialize() {}
 
     // Once the interface is loaded: fills it and shows the window.
     void awakeFromNib();
@@ -156,7 +162,7 @@ class MyTableController : public QObject,
     void stop_usb_disk(QObject* sender);
     bool scanRunning() const { return m_driverRunning || m_timerRunning; }
 
-    // --- Browsers (results/Browsers.cpp) ---
+    // --- Browsers (results/Browsers.cpp, results/BrowserLooks.cpp) ---
 
     // From a scan the bytes go to a queue where thumbnails are made side by side and listed in the order of
     // carving.
@@ -165,6 +171,7 @@ class MyTableController : public QObject,
     qsizetype numberOfItemsInImageBrowser(const ImageBrowserView* view) override;
     std::shared_ptr<MyImageObject> imageBrowser_itemAtIndex(const ImageBrowserView* view,
                                                             qsizetype index) override;
+    ItemFacts factsOfItem(qsizetype index) override;
     // Items cannot be dragged out: writes nothing and gives 0.
     qsizetype imageBrowser_writeItemsAtIndexes(const ImageBrowserView* view, const QList<qsizetype>& indexes,
                                                QMimeData* toPasteboard);
@@ -191,11 +198,14 @@ class MyTableController : public QObject,
 
     void saveSelected();
     void saveAll();
+    void askSavingOptions();
+    // True while something found is neither saved nor left out as the user asked.
     bool hasUnsavedItems() const;
 
     // --- Fields ---
 
-    // Set when the interface is loaded.
+    // Set at start, with the interface.
+    const FileManager* fileManager = &FileManager::defaultManager();
     QMainWindow* window = nullptr;
     QDialog* BrowseInfo_Window = nullptr;
     QDialog* SaveFile_Info_Window = nullptr;
@@ -291,10 +301,12 @@ class MyTableController : public QObject,
     void backToFileTypes();
     void setMode(int mode);
     void showWhereWeAre();
+    void bringIntoView(QWidget* widget);
     void showPreviewPane(bool hide);
     void hideOpenFolderButtons();
     void pressDefault();
     void browseForDestination();
+    QLineEdit* pathInView() const;
     bool acceptDestination(const QString& folder);
     QString devicePath() const;
 
@@ -318,18 +330,29 @@ class MyTableController : public QObject,
     void flushViews();
     void showScanFacts();
     void prepareIcons();
+    void clearWaitingThumbnails();
 
     // results/
     ImageBrowserView* browserOf(ControlSet set) const;
     void emptyBrowsers();
     void emptyBrowserViews();
     void showItemCounts();
+    void setUpLooks();
+    void beginLooks();
+    void endLooks();
+    void lookAtItems();
+    void orderItems();
+    void putInOrder();
     void runBeside(const std::function<void()>& work);
     void showPicture(const QPixmap& picture, const QString& title);
     void showPreviewFacts();
     void saveItems(const QList<qsizetype>& indexes);
+    std::shared_ptr<const ItemSaver> saverFor(const QString& destination);
+    bool mayFillDestination(const QString& destination, std::uint64_t bytes);
+    ReportHead reportHead() const;
     bool watchSaving(const std::shared_ptr<SaveJob>& job);
-    void reportSaving(const SaveReport& report, const QString& destination, bool cancelled);
+    void reportSaving(const SaveJob& job, const QString& destination);
+    void forgetSaved();
     QString askDestination();
     void openDestination();
 
@@ -343,13 +366,13 @@ class MyTableController : public QObject,
     std::unique_ptr<ClearPreview_Modeless> m_clearPreview;
     std::unique_ptr<LoadDrive_Modeless> m_loadDrive;
     std::unique_ptr<Help_Support> m_help;
+    std::unique_ptr<SavingOptions> m_savingOptions;
     TableAdapter* m_mediaTable = nullptr;
     TableAdapter* m_typeTable = nullptr;
     TableAdapter* m_resultTable = nullptr;
     QList<QCheckBox*> m_groupBoxes;  // by FileKind
     QString m_previewFolder;
     FileTypeIcons m_icons;  // prepared before a scan, read by it
-    FileTypeIcons m_previewIcons;
     // Subscriptions to notifications; gone after a refused exit.
     QList<QMetaObject::Connection> m_notifications;
 
@@ -369,6 +392,7 @@ class MyTableController : public QObject,
     std::thread m_timerThread;
     QTimer m_pump;
     QElapsedTimer m_clock;
+    QDateTime m_scanBegun;
     ScanMeter m_meter;
     double m_progressSectors = 0;
     bool m_draining = false;
@@ -376,9 +400,23 @@ class MyTableController : public QObject,
     // Set on the file-type screen and by the last click in a table.
     int m_clickedColumn = -1;
 
+    // Set by what the user wants to see of the found items; as at the start with every scan.
+    BrowserWish m_wish;
+    SoundnessBoard m_board;
+    QTimer m_look;
+    QElapsedTimer m_sinceOrder;
+    std::uint64_t m_seenChanges = 0;
+    int m_orderedCount = 0;
+
     // Set as items are saved; emptied with the items.
     std::thread m_saver;
-    std::set<const MyImageObject*> m_saved;
+    SavedMarks m_marks;
+    std::shared_ptr<const ItemSaver> m_itemSaver;
+    QString m_saverDestination;
+    SavePolicy m_saverPolicy;
+
+    // Kept while the program runs.
+    SavingChoices m_savingChoices;
 
     bool m_ending = false;  // the exit was confirmed
 };

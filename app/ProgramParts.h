@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "media/MediaSource.h"
+#include "results/FreeSpace.h"
 #include "results/Movie.h"
 #include "results/PicturePreview.h"
 #include "scan/ScanSession.h"
@@ -16,6 +17,8 @@ namespace vantor {
 struct ProgramParts {
     std::shared_ptr<MediaSource> media;
     MediumOpener openMedium;
+    MediumOpener
+        openBeside;  // to examine found items while others read the medium; none: nothing is examined
     Thumbnailer thumbnailer;
     PicturePreviewer picture = readPicture;
     MovieLoader movie;  // none: every preview is a picture
@@ -25,6 +28,8 @@ struct ProgramParts {
 
     // True when files written into the folder would land on the medium behind "/dev/r" + identifier.
     std::function<bool(const QString& folder, const QString& devicePath)> isOnMedium;
+    // Bytes that may still be written into the folder; nothing when that is not known.
+    std::function<std::optional<std::uint64_t>(const QString& folder)> freeBytes = freeBytesAt;
     // Shows a document or a folder in its default application.
     std::function<bool(const QString& path)> openDocument;
     // Ends the program.

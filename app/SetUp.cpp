@@ -4,6 +4,7 @@
 
 #include "app/MyTableController.h"
 #include "results/RecoveryMode.h"
+#include "wizard/AccessibleControls.h"
 #include "wizard/Theme.h"
 
 namespace vantor {
@@ -20,6 +21,14 @@ void orderColumns(ListTable* table, const QList<Column>& visualOrder) {
     }
 }
 
+// The other columns are as wide as what they hold, in every size of type.
+void giveSpareWidthTo(ListTable* table, int column) {
+    QHeaderView* header = table->horizontalHeader();
+    header->setStretchLastSection(false);
+    header->setSectionResizeMode(QHeaderView::ResizeToContents);
+    header->setSectionResizeMode(column, QHeaderView::Stretch);
+}
+
 QString groupedDigits(const QVariant& value) {
     bool isNumber = false;
     const qulonglong number = value.toString().toULongLong(&isNumber);
@@ -29,9 +38,12 @@ QString groupedDigits(const QVariant& value) {
 }  // namespace
 
 void MyTableController::loadInterface() {
+    describeControls();
     m_window = std::make_unique<QMainWindow>();
     window = m_window.get();
     loadInto(window);
+    // The keyboard goes from what the screen holds to the buttons below it, and then to what stands above.
+    QWidget::setTabOrder(nextButton, helpButton);
     dressWindow();
     dressRangeSets();
     setUpTables();
@@ -45,6 +57,7 @@ void MyTableController::loadInterface() {
     m_clearPreview = std::make_unique<ClearPreview_Modeless>(window);
     m_loadDrive = std::make_unique<LoadDrive_Modeless>(window);
     m_help = std::make_unique<Help_Support>(window, m_parts.resourcesFolder, m_parts.openDocument);
+    m_savingOptions = std::make_unique<SavingOptions>(window);
     BrowseInfo_Window = m_browseInfo->window;
     SaveFile_Info_Window = m_saveFileInfo->window;
     SaveFile_Info_For_RAW_Window = m_saveFileInfoForRaw->window;
@@ -143,21 +156,16 @@ void MyTableController::setUpTables() {
     m_resultTable =
         new TableAdapter(*this, idSigTableView, {{QStringLiteral("FileTypes"), tr("Type")}, count});
 
-    const auto widths = [](ListTable* table, const QList<int>& pixels) {
-        for (int column = 0; column < pixels.size(); ++column) {
-            table->setColumnWidth(column, pixels.at(column));
-        }
-    };
-    widths(idTableView, {110, 260, 170, 120, 110, 120});
-    widths(idCheckTableView, {40, 120, 520});
-    widths(idSigTableView, {100, 70});
-    idCheckTableView->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Fixed);
+    giveSpareWidthTo(idTableView, 1);
+    giveSpareWidthTo(idCheckTableView, 2);
+    giveSpareWidthTo(idSigTableView, 0);
 }
 
 void MyTableController::setUpBrowsers() {
     for (ImageBrowserView* browser : {imageBrowser, imageBrowser_2}) {
         browser->setDataSource(this);
     }
+    setUpLooks();
 }
 
 void MyTableController::setEmptyStates() {
@@ -178,6 +186,7 @@ void MyTableController::setEmptyStates() {
 void MyTableController::awakeFromNib() {
     setCommonBackground(window);
     window->installEventFilter(this);
+    thoroughBox->installEventFilter(this);
     window->setWindowTitle(QStringLiteral("Vantor - Memory Card Recovery"));
     show_hide_2_screen(true);
     rangeScreen_Sig->hide();

@@ -1,4 +1,5 @@
 // Every connection from a control to its action, in one place.
+#include <QApplication>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QShortcut>
@@ -51,6 +52,12 @@ void MyTableController::wire() {
             imageBrowserSelectionDidChange(browser);
         });
     }
+    // In a window too small for the screen, what has the keyboard is in view.
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (now != nullptr && body->isAncestorOf(now)) {
+            bringIntoView(now);
+        }
+    });
     constexpr int kPumpMilliseconds = 50;  // views follow a scan at most 20 times a second
     m_pump.setInterval(kPumpMilliseconds);
     connect(&m_pump, &QTimer::timeout, this, &MyTableController::pump);
@@ -87,11 +94,15 @@ void MyTableController::wireButtons() {
             tr("Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima);;All files (*)"));
         openImages(files);
     });
+    connect(_stop_scan, &QPushButton::clicked, this, &MyTableController::clearWaitingThumbnails);
     for (QPushButton* button : {_open_folder, _open_folder_Sig}) {
         connect(button, &QPushButton::clicked, this, &MyTableController::openDestination);
     }
     for (QPushButton* button : {saveSelectedButton, saveSelectedButton_Sig}) {
         connect(button, &QPushButton::clicked, this, &MyTableController::saveSelected);
+    }
+    for (QPushButton* button : {savingOptionsButton, savingOptionsButton_Sig}) {
+        connect(button, &QPushButton::clicked, this, &MyTableController::askSavingOptions);
     }
     for (QPushButton* button : {saveAllButton, saveAllButton_Sig}) {
         connect(button, &QPushButton::clicked, this, &MyTableController::saveAll);
@@ -116,11 +127,8 @@ void MyTableController::wireRangeSet(ControlSet set) {
 
 void MyTableController::wireShortcuts() {
     const auto press = [this](const QKeySequence& keys, QAbstractButton* button) {
-        connect(new QShortcut(keys, window), &QShortcut::activated, button, [button] {
-            if (button->isVisible()) {
-                button->click();
-            }
-        });
+        // The shortcut of a button that is out of view or disabled is so too.
+        connect(new QShortcut(keys, button), &QShortcut::activated, button, &QAbstractButton::click);
     };
     press(Qt::CTRL | Qt::Key_Q, exitButton);
     press(Qt::ALT | Qt::Key_Left, backButton);
@@ -131,6 +139,8 @@ void MyTableController::wireShortcuts() {
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
         connect(new QShortcut(key, window), &QShortcut::activated, this, &MyTableController::pressDefault);
     }
+    connect(new QShortcut(Qt::Key_Escape, typeSearchField, nullptr, nullptr, Qt::WidgetShortcut),
+            &QShortcut::activated, typeSearchField, &QLineEdit::clear);
     const auto save = [this](const QKeySequence& keys, QPushButton* photo, QPushButton* raw) {
         connect(new QShortcut(keys, window), &QShortcut::activated, this, [photo, raw] {
             QPushButton* button = photo->isVisible() ? photo : raw;
@@ -150,6 +160,11 @@ void MyTableController::pressDefault() {
 }
 
 bool MyTableController::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == thoroughBox && event->type() == QEvent::MouseButtonRelease) {
+        // The words beside the box are part of it.
+        _Thro_Mode_Chk->click();
+        return true;
+    }
     if (watched != window) {
         return QObject::eventFilter(watched, event);
     }

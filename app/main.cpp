@@ -31,6 +31,7 @@ ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTable
         const MyTableController* const running = controller->load();
         return running != nullptr && running->stop_now == 1;
     });
+    parts.openBeside = parts.openMedium;
     const auto pool = std::make_shared<DecodePool>();
     parts.thumbnailer = [pool](const QByteArray& encoded, const QString& extension) {
         return pool->thumbnail(encoded, extension);
@@ -61,6 +62,15 @@ void fitToScreen(QWidget* window) {
     window->resize(window->size().boundedTo(room.size() * 0.96));
 }
 
+// A process lives, and its windows stay, until the last of its threads is back from the device; nobody who
+// has left the program wants to look at them.
+void leaveTheScreen() {
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        window->hide();
+    }
+    QApplication::sync();
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -68,6 +78,8 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("vantor-recovery"));
     QApplication::setApplicationDisplayName(QStringLiteral("Vantor - Memory Card Recovery"));
     QApplication::setApplicationVersion(QStringLiteral(VANTOR_VERSION));
+    // The desktop finds the window's icon and name by this.
+    QApplication::setDesktopFileName(QStringLiteral("org.vantor.recovery"));
     // The window is closed by the exit routine alone.
     QApplication::setQuitOnLastWindowClosed(false);
     applyTheme(application);
@@ -79,6 +91,7 @@ int main(int argc, char** argv) {
     controller->awakeFromNib();
     controller->openImages(QApplication::arguments().mid(1));
     const int code = QApplication::exec();
+    leaveTheScreen();
     if (!controller->shutDown(kLastPatience)) {
         // A device that does not answer holds a thread; nothing of it is waited for.
         std::_Exit(code);

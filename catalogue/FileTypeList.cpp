@@ -50,14 +50,11 @@ void sortFileTypeRows(QList<FileTypeRow>& rows) {
 void removeRecordsOfType(QStringList& records, const QString& extension) {
     QStringList kept;
     kept.reserve(records.size());
-    const qsizetype wholeRecords = recordCount(records);
-    for (qsizetype n = 0; n < wholeRecords; ++n) {
-        if (recordField(records, n, Ext_Name) != extension) {
-            kept.append(records.mid(n * kRecordStride, kRecordStride));
+    for (qsizetype at = 0; at < records.size(); at += kRecordStride) {
+        if (records.at(at + Ext_Name) != extension) {
+            kept.append(records.mid(at, kRecordStride));
         }
     }
-    // An incomplete last record is nobody's and stays.
-    kept.append(records.mid(wholeRecords * kRecordStride));
     records = kept;
 }
 

@@ -23,7 +23,8 @@ QList<FileTypeRow> fileTypeRows(const QStringList& general, const QStringList& t
 // Sorts by "Extension" without regard to case; rows that compare equal keep their order.
 void sortFileTypeRows(QList<FileTypeRow>& rows);
 
-// Removes every record of the type (exact, case-sensitive) from a flat record array.
+// Removes every record of the type (exact, case-sensitive) from a flat record array, with what there is of an
+// incomplete one at its end.
 void removeRecordsOfType(QStringList& records, const QString& extension);
 
 }  // namespace vantor

@@ -2,6 +2,7 @@
 #include <QCheckBox>
 
 #include "app/MyTableController.h"
+#include "wizard/Theme.h"
 
 namespace vantor {
 
@@ -105,11 +106,19 @@ void MyTableController::tickGroup(int kind, bool ticked) {
 
 void MyTableController::filterFileTypes(const QString& text) {
     const QString wanted = text.trimmed();
+    bool noneFound = true;
     for (int row = 0; row < nsCheckedListDataObject.size(); ++row) {
         const FileTypeRow& type = nsCheckedListDataObject.at(row);
         const bool found = type.value(kExtension).toString().contains(wanted, Qt::CaseInsensitive) ||
                            type.value(kDescription).toString().contains(wanted, Qt::CaseInsensitive);
         idCheckTableView->setRowHidden(row, !found);
+        noneFound = noneFound && !found;
+    }
+    if (noneFound && !wanted.isEmpty()) {
+        idCheckTableView->setEmptyState(ownIcon(QStringLiteral("type-other")), tr("No type matches"),
+                                        tr("Clear the search field to see all types."));
+    } else {
+        setEmptyStates();
     }
 }
 

@@ -39,10 +39,11 @@ SaveOptions::SaveOptions()
                     "taken.")),
       minBytes(option("min-bytes", "Do not save files of fewer bytes.", "N")),
       minPixels(option("min-pixels", "Do not save pictures whose longer side has fewer pixels.", "N")),
-      keepDuplicates(option("keep-duplicates", "Save the same bytes again when they are found again.")) {}
+      keepDuplicates(option("keep-duplicates", "Save the same bytes again when they are found again.")),
+      skipUnsound(option("skip-unsound", "Do not save what is certainly no file of its type.")) {}
 
 void SaveOptions::addTo(QCommandLineParser& parser) const {
-    parser.addOptions({save, asPublished, report, byDate, minBytes, minPixels, keepDuplicates});
+    parser.addOptions({save, asPublished, report, byDate, minBytes, minPixels, keepDuplicates, skipUnsound});
 }
 
 std::optional<QString> SaveOptions::read(const QCommandLineParser& parser, CliOptions& options) const {
@@ -50,13 +51,16 @@ std::optional<QString> SaveOptions::read(const QCommandLineParser& parser, CliOp
     if (parser.isSet(save) && options.saveFolder.isEmpty()) {
         return QStringLiteral("--save takes a folder.");
     }
-    for (const auto* other : {&asPublished, &report, &byDate, &minBytes, &minPixels, &keepDuplicates}) {
+    for (const auto* other :
+         {&asPublished, &report, &byDate, &minBytes, &minPixels, &keepDuplicates, &skipUnsound}) {
         if (parser.isSet(*other) && !parser.isSet(save)) {
             return QStringLiteral("--%1 goes with --save.").arg(other->names().constFirst());
         }
     }
-    if (parser.isSet(asPublished) && (parser.isSet(byDate) || parser.isSet(minPixels))) {
-        return QStringLiteral("--as-published looks into no file, so it knows neither dates nor pixels.");
+    if (parser.isSet(asPublished) &&
+        (parser.isSet(byDate) || parser.isSet(minPixels) || parser.isSet(skipUnsound))) {
+        return QStringLiteral(
+            "--as-published looks into no file, so it knows neither dates nor pixels nor soundness.");
     }
     const auto leastBytes = numberOf(parser, minBytes);
     const auto leastPixels = numberOf(parser, minPixels);
@@ -67,6 +71,7 @@ std::optional<QString> SaveOptions::read(const QCommandLineParser& parser, CliOp
     policy.asPublished = parser.isSet(asPublished);
     policy.byDate = parser.isSet(byDate);
     policy.skipDuplicates = !parser.isSet(keepDuplicates) && !policy.asPublished;
+    policy.skipUnsound = parser.isSet(skipUnsound);
     policy.minBytes = *leastBytes;
     constexpr quint64 kMostPixels = std::numeric_limits<std::uint32_t>::max();
     policy.minPixels = static_cast<std::uint32_t>(std::min(*leastPixels, kMostPixels));

@@ -12,6 +12,11 @@ target_compile_options(vantor_options INTERFACE -Wall -Wextra -Wpedantic -Wshado
 if(VANTOR_WERROR)
     target_compile_options(vantor_options INTERFACE -Werror)
 endif()
+if(UNIX AND NOT APPLE AND NOT VANTOR_SANITIZE)
+    # Addresses of library functions are looked up at the start and not writable after it: these programs read
+    # hostile bytes.
+    add_link_options(-Wl,-z,relro,-z,now)
+endif()
 if(VANTOR_SANITIZE)
     add_compile_options(-fsanitize=${VANTOR_SANITIZE} -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${VANTOR_SANITIZE})
@@ -32,6 +37,18 @@ function(vantor_library name)
     target_link_libraries(${name} PUBLIC ${arg_LINK} PRIVATE vantor_options)
 endfunction()
 
+# vantor_folders(sources...): defines the folders of sources and build for those that ask for them, and for no others:
+# an absolute path on the command line keeps the compiler cache from serving another checkout.
+function(vantor_folders)
+    foreach(source IN LISTS ARGN)
+        file(STRINGS ${source} uses REGEX "VANTOR_(SOURCE|BINARY)_DIR|decode/Fixtures.h" LIMIT_COUNT 1)
+        if(uses)
+            set_property(SOURCE ${source} APPEND PROPERTY COMPILE_DEFINITIONS
+                VANTOR_SOURCE_DIR="${CMAKE_SOURCE_DIR}" VANTOR_BINARY_DIR="${CMAKE_BINARY_DIR}")
+        endif()
+    endforeach()
+endfunction()
+
 # vantor_test(name SOURCES... LINK libs... [ENV name=value...] [NO_DISCOVER]): a GoogleTest program, one ctest
 # entry a test. Tests find their data through compile definitions, never through the working directory.
 function(vantor_test name)
@@ -41,8 +58,7 @@ function(vantor_test name)
     endif()
     add_executable(${name} ${arg_SOURCES})
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR})
-    target_compile_definitions(${name} PRIVATE
-        VANTOR_SOURCE_DIR="${CMAKE_SOURCE_DIR}" VANTOR_BINARY_DIR="${CMAKE_BINARY_DIR}")
+    vantor_folders(${arg_SOURCES})
     target_link_libraries(${name} PRIVATE ${arg_LINK} GTest::gtest GTest::gmock GTest::gtest_main vantor_options)
     gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60
         PROPERTIES TIMEOUT ${arg_TIMEOUT} ENVIRONMENT "QT_QPA_PLATFORM=offscreen;${arg_ENV}")

@@ -137,11 +137,13 @@ std::vector<pid_t> DecodePool::helperPids() const {
     return m_live;
 }
 
-// A helper that somebody else ended says nothing against the picture: another one tries, once.
+// A helper that was dead already, or that somebody else ended, says nothing against the picture: another one
+// tries, once.
 DecodedPicture DecodePool::decode(const Ask& ask) {
     DecodedPicture picture;
     bool killedFromOutside = false;
-    if (askOnce(ask, picture, killedFromOutside) == AskOutcome::Died && killedFromOutside) {
+    const AskOutcome outcome = askOnce(ask, picture, killedFromOutside);
+    if (outcome == AskOutcome::NotTaken || (outcome == AskOutcome::Died && killedFromOutside)) {
         askOnce(ask, picture, killedFromOutside);
     }
     return picture;

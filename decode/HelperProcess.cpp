@@ -174,7 +174,7 @@ AskOutcome HelperProcess::exchange(Request& request, int file, std::chrono::mill
     const bool withInput = file < 0 && request.kind == RequestKind::Picture && !m_inputSent;
     const auto until = Clock::now() + deadline;
     if (!send(request, file, withInput, !m_outputSent)) {
-        return AskOutcome::Died;
+        return AskOutcome::NotTaken;
     }
     m_inputSent = m_inputSent || withInput;
     m_outputSent = true;

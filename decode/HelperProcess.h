@@ -18,7 +18,8 @@ namespace vantor::decode {
 // What became of a request.
 enum class AskOutcome {
     Answered,
-    Died,         // the helper crashed or was ended; see killedFromOutside()
+    NotTaken,     // the helper was dead already
+    Died,         // the helper crashed or was ended
     Late,         // no answer by the deadline, or the wait was cancelled
     BadAnswer,    // an answer that no helper of ours gives
     NotPossible,  // no memory or no descriptor could be had; the helper is unharmed

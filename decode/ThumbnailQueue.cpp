@@ -41,44 +41,64 @@ bool ThumbnailQueue::hasRoomFor(std::uint64_t bytes) const {
     return bytesFit && m_items.size() < m_options.maxItems;
 }
 
-bool ThumbnailQueue::submit(QByteArray encoded, Deliver deliver, QString extension) {
+bool ThumbnailQueue::submit(QByteArray encoded, Deliver deliver, QString extension, Deliver late) {
     const std::uint64_t weight = weightOf(encoded);
     std::unique_lock lock(m_mutex);
-    m_room.wait(lock, [&] { return m_cancelled || hasRoomFor(weight); });
+    m_room.wait(lock, [&] { return m_cancelled || m_hurrying || hasRoomFor(weight); });
     if (m_cancelled) {
         return false;
     }
     m_bytes += weight;
     m_mostBytes = std::max(m_mostBytes, m_bytes);
-    m_items.push_back(
-        {m_generation, std::move(encoded), std::move(extension), std::move(deliver), {}, false});
+    auto item = std::make_shared<Item>();
+    item->generation = m_generation;
+    item->encoded = std::move(encoded);
+    item->extension = std::move(extension);
+    item->deliver = std::move(deliver);
+    item->late = std::move(late);
+    item->overdue = m_hurrying && item->late;
+    if (item->overdue) {
+        m_done.notify_all();
+    }
+    m_toDecode.push_back(item);
+    m_items.push_back(std::move(item));
     m_work.notify_one();
     return true;
+}
+
+void ThumbnailQueue::hurry() {
+    const std::scoped_lock lock(m_mutex);
+    m_hurrying = true;
+    for (const auto& item : m_items) {
+        item->overdue = item->late != nullptr;
+    }
+    m_room.notify_all();
+    m_done.notify_all();
 }
 
 void ThumbnailQueue::work() {
     std::unique_lock lock(m_mutex);
     for (;;) {
-        m_work.wait(lock, [&] { return m_closing || m_nextToDecode < m_firstPosition + m_items.size(); });
+        m_work.wait(lock, [&] { return m_closing || !m_toDecode.empty(); });
         if (m_closing) {
             return;
         }
-        const std::uint64_t position = m_nextToDecode++;
-        Item& item = m_items[position - m_firstPosition];
-        const std::uint64_t generation = item.generation;
-        QByteArray encoded = std::exchange(item.encoded, {});
+        const std::shared_ptr<Item> item = std::move(m_toDecode.front());
+        m_toDecode.pop_front();
+        QByteArray encoded = std::exchange(item->encoded, {});
         const std::uint64_t weight = weightOf(encoded);
-        const QString extension = item.extension;
+        const QString extension = item->extension;
         lock.unlock();
         QByteArray thumbnail = m_makeThumbnail(encoded, extension);
         encoded = {};
         lock.lock();
         m_bytes -= weight;
         m_room.notify_all();
-        if (generation == m_generation) {
-            Item& done = m_items[position - m_firstPosition];
-            done.thumbnail = std::move(thumbnail);
-            done.ready = true;
+        item->thumbnail = std::move(thumbnail);
+        item->ready = true;
+        if (item->delivered) {
+            deliverLate(lock, *item);
+        } else {
             m_done.notify_all();
         }
     }
@@ -87,21 +107,42 @@ void ThumbnailQueue::work() {
 void ThumbnailQueue::deliverInOrder() {
     std::unique_lock lock(m_mutex);
     for (;;) {
-        m_done.wait(lock, [&] { return m_closing || (!m_items.empty() && m_items.front().ready); });
+        m_done.wait(lock, [&] {
+            return m_closing || (!m_items.empty() && (m_items.front()->ready || m_items.front()->overdue));
+        });
         if (m_closing) {
             return;
         }
-        const Item item = std::move(m_items.front());
+        const std::shared_ptr<Item> item = std::move(m_items.front());
         m_items.pop_front();
         ++m_firstPosition;
         m_delivering = true;
+        const bool inTime = item->ready;
+        const QByteArray thumbnail = inTime ? item->thumbnail : QByteArray();
         lock.unlock();
-        item.deliver(item.thumbnail);
+        item->deliver(thumbnail);
         lock.lock();
+        item->delivered = true;
+        if (!inTime && item->ready) {
+            deliverLate(lock, *item);
+        }
         m_delivering = false;
         m_room.notify_all();
         m_idle.notify_all();
     }
+}
+
+// Hands over what came behind its item's delivery; the lock is open meanwhile.
+void ThumbnailQueue::deliverLate(std::unique_lock<std::mutex>& lock, const Item& item) {
+    if (item.generation != m_generation) {
+        return;
+    }
+    ++m_lateUnderWay;
+    lock.unlock();
+    item.late(item.thumbnail);
+    lock.lock();
+    --m_lateUnderWay;
+    m_idle.notify_all();
 }
 
 void ThumbnailQueue::flush() {
@@ -118,20 +159,21 @@ void ThumbnailQueue::cancel() {
     std::unique_lock lock(m_mutex);
     m_cancelled = true;
     ++m_generation;
-    for (const Item& item : m_items) {
-        m_bytes -= weightOf(item.encoded);
+    for (const auto& item : m_toDecode) {
+        m_bytes -= weightOf(item->encoded);
     }
+    m_toDecode.clear();
     m_firstPosition += m_items.size();
-    m_nextToDecode = m_firstPosition;
     m_items.clear();
     m_room.notify_all();
     m_idle.notify_all();
-    m_idle.wait(lock, [&] { return !m_delivering; });
+    m_idle.wait(lock, [&] { return !m_delivering && m_lateUnderWay == 0; });
 }
 
 void ThumbnailQueue::resume() {
     const std::scoped_lock lock(m_mutex);
     m_cancelled = false;
+    m_hurrying = false;
 }
 
 std::uint64_t ThumbnailQueue::bytesHeld() const {

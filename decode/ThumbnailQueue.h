@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <thread>
 #include <vector>
@@ -37,12 +38,18 @@ class ThumbnailQueue {
     ~ThumbnailQueue();
 
     // False once the queue is cancelled; the item is then dropped. The extension is the item's, for formats
-    // that carry no mark of their own.
-    bool submit(QByteArray encoded, Deliver deliver, QString extension = {});
+    // that carry no mark of their own. With `late` the item may be delivered without a thumbnail while the
+    // queue hurries; `late` then gets the thumbnail when it is made, on any of the queue's threads, and may
+    // be called for several items at a time.
+    bool submit(QByteArray encoded, Deliver deliver, QString extension = {}, Deliver late = {});
+    // Nobody waits for a thumbnail any more, until resume(): items that may be late are delivered at once,
+    // and a submitter finds room.
+    void hurry();
     // Returns when everything submitted before has been delivered, or the queue was cancelled.
     void flush();
-    // Drops what was not delivered yet: no delivery begins after the return, and blocked submitters return.
-    // Waits for the delivery under way but not for decoding. The queue takes nothing more until resume().
+    // Drops what was not delivered yet, late thumbnails included: no delivery begins after the return, and
+    // blocked submitters return. Waits for the delivery under way but not for decoding. The queue takes
+    // nothing more until resume().
     void cancel();
     void resume();
 
@@ -56,12 +63,16 @@ class ThumbnailQueue {
         QByteArray encoded;
         QString extension;
         Deliver deliver;
-        QByteArray thumbnail;
+        Deliver late;
+        QByteArray thumbnail;  // read once ready
         bool ready = false;
+        bool overdue = false;
+        bool delivered = false;
     };
 
     void work();
     void deliverInOrder();
+    void deliverLate(std::unique_lock<std::mutex>& lock, const Item& item);
     bool hasRoomFor(std::uint64_t bytes) const;
 
     const MakeThumbnail m_makeThumbnail;
@@ -70,13 +81,15 @@ class ThumbnailQueue {
     mutable std::mutex m_mutex;
     std::condition_variable m_room, m_work, m_done, m_idle;
     // Positions are counted over the queue's whole life: m_items[0] is item m_firstPosition.
-    std::deque<Item> m_items;
+    std::deque<std::shared_ptr<Item>> m_items;  // not yet delivered
     std::uint64_t m_firstPosition = 0;
-    std::uint64_t m_nextToDecode = 0;
+    std::deque<std::shared_ptr<Item>> m_toDecode;  // nobody has begun with
     std::uint64_t m_generation = 0;
     std::uint64_t m_bytes = 0;
     std::uint64_t m_mostBytes = 0;
     bool m_delivering = false;
+    int m_lateUnderWay = 0;
+    bool m_hurrying = false;
     bool m_cancelled = false;
     bool m_closing = false;
 

@@ -1,5 +1,6 @@
-// Pictures without compression to speak of: portable any map, SGI, QOI, X pixmap. Sources: ppm(5), pgm(5),
-// pbm(5); "The SGI Image File Format" 1.00; qoiformat.org specification 1.0; XPM manual 3.4.
+// Pictures without compression to speak of: portable any map and float map, SGI, QOI, X pixmap. Sources:
+// ppm(5), pgm(5), pbm(5), pfm(5); "The SGI Image File Format" 1.00; qoiformat.org specification 1.0; XPM
+// manual 3.4.
 #include <algorithm>
 #include <array>
 
@@ -29,6 +30,13 @@ class MapHead {
              digit = m_view.u8(++m_at))
             value = value * 10 + (*digit - '0');
         return value;
+    }
+    // Passes over whatever stands up to the next blank.
+    void word() {
+        while (m_at < kLongestHead && isSpace(m_view.u8(m_at).value_or(0)))
+            ++m_at;
+        while (m_at < kLongestHead && !isSpace(m_view.u8(m_at).value_or(' ')))
+            ++m_at;
     }
     // Behind the one blank that ends the head; nothing when it is not there.
     std::optional<std::uint64_t> end() {
@@ -62,6 +70,22 @@ Extent walkAnyMap(ByteView& view) {
     const std::uint64_t samples = kind == '6' ? 3 : 1;
     const std::uint64_t row = kind == '4' ? (width + 7) / 8 : width * samples * (most > 255 ? 2 : 1);
     return completeAt(view, *start + mulClamped(row, height), facts);
+}
+
+Extent walkFloatMap(ByteView& view) {
+    const auto kind = view.u8(1).value_or(0);
+    if (view.u8(0) != 'P' || (kind != 'F' && kind != 'f'))
+        return unknownExtent();
+    MapHead head(view);
+    const auto width = head.number(), height = head.number();
+    head.word();  // the scale, whose sign tells the order of bytes
+    const auto start = head.end();
+    if (!start || width == 0 || height == 0 || width > kMostSide || height > kMostSide)
+        return unknownExtent();
+    Facts facts;
+    facts.width = static_cast<std::uint32_t>(width);
+    facts.height = static_cast<std::uint32_t>(height);
+    return completeAt(view, *start + mulClamped(width * height, kind == 'F' ? 12 : 4), facts);
 }
 
 Extent walkSgi(ByteView& view) {

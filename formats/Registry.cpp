@@ -30,6 +30,8 @@ constexpr std::array kWalkers = {
     Walker{"DDS", walkDds, true, " DDS "},
     Walker{"XCF", walkXcf, true, " XCF "},
     Walker{"Any map", walkAnyMap, false, " PPM PGM PBM PNM "},
+    Walker{"Float map", walkFloatMap, false, " PFM "},
+    Walker{"Radiance", walkRadiance, false, " HDR "},
     Walker{"SGI", walkSgi, false, " SGI RGB RGBA BW "},
     Walker{"QOI", walkQoi, true, " QOI "},
     Walker{"XPM", walkXpm, true, " XPM "},
@@ -64,10 +66,12 @@ constexpr std::array kWalkers = {
     Walker{"ADTS", walkAdts, false, " AAC ADTS "},
     Walker{"AC-3", walkAc3, false, " AC3 EAC3 EC3 "},
     Walker{"PDF", walkPdf, true, " PDF AI "},
-    Walker{"ZIP", walkZip, true,
-           " ZIP DOCX DOCM DOTX XLSX XLSM XLTX XLSB PPTX PPTM PPSX POTX ODT ODS ODP ODG ODF ODB OTT EPUB JAR "
-           "APK XPS "
-           "OXPS KMZ PAGES NUMBERS KEY VSDX CBZ IPA WAR XPI SKETCH 3MF WHL SXW SXC SXI IDML "},
+    Walker{
+        "ZIP", walkZip, true,
+        " ZIP DOCX DOCM DOTX XLSX XLSM XLTX XLSB PPTX PPTM PPSX POTX ODT ODS ODP ODG ODF ODB OTT EPUB JAR "
+        "APK XPS "
+        "OXPS KMZ PAGES NUMBERS KEY VSDX CBZ IPA WAR XPI SKETCH 3MF WHL SXW SXC SXI SXD SXM IDML ODC ODI ODM "
+        "OTG OTH OTP OTS ORA KRA XD GGB SB3 FCSTD NPZ ASICE "},
     Walker{"gzip", walkGzip, true, " GZ TGZ SVGZ EMZ "},
     Walker{"bzip2", walkBzip2, true, " BZ2 TBZ TBZ2 "},
     Walker{"xz", walkXz, true, " XZ TXZ "},
@@ -92,14 +96,18 @@ constexpr std::array kWalkers = {
     Walker{"Shell link", walkShellLink, true, " LNK "},
     Walker{"PostScript", walkPostScript, true, " PS EPS EPSF "},
     Walker{"RTF", walkRtf, true, " RTF "},
-    Walker{"XML", walkXml, false, " XML SVG XMP GPX KML PLIST XSL XSD RSS FB2 XHTML WPL "},
+    Walker{"XML", walkXml, false,
+           " XML SVG XMP GPX KML PLIST XSL XSD RSS FB2 XHTML WPL ABW AMF ATOM CML CSPROJ DAE DBK DRAWIO ENEX "
+           "FCPXML FDX FODT GML GRAPHML JMX KDENLIVE MM MPD MUSICXML MZML NZB OPML OSM QGS QRC SBML TCX TTML "
+           "UI X3D XLF XSPF "},
     Walker{"HTML", walkHtml, false, " HTML HTM XHT MHT "},
     Walker{"vCard", walkContacts, true, " VCF VCARD "},
     Walker{"iCalendar", walkCalendar, true, " ICS IFB VCS "},
     Walker{
         "Text", walkText, false,
-        " TXT EML MBOX CSV LOG INI JSON MD C H CPP HPP PY SH BAT JS CSS SQL TEX SRT SUB ASS M3U PLS NFO HDR "
-        "PHP PL JAVA TSV YAML YML "},
+        " TXT EML MBOX CSV LOG INI JSON MD C H CPP HPP PY SH BAT JS CSS SQL TEX SRT SUB ASS M3U PLS NFO "
+        "PHP PL JAVA TSV YAML YML AFM CCD CUBE CUE DIFF GCODE GPL IMY IPYNB LDIF OBJ OFX ORG PEM PGN PO QIF "
+        "RIS SGF URL USDA VTT "},
 };
 
 }  // namespace
@@ -111,7 +119,8 @@ std::span<const Walker> allWalkers() {
 const Walker* walkerFor(std::string_view extension) {
     if (extension.empty() || extension.find(' ') != extension.npos)
         return nullptr;
-    const std::string framed = " " + std::string(extension.substr(0, 16)) + " ";
+    std::string framed(1, ' ');
+    framed.append(extension.substr(0, 16)).append(1, ' ');
     const auto serves = [&](const Walker& walker) {
         return walker.extensions.find(framed) != std::string_view::npos;
     };

@@ -24,7 +24,9 @@ Extent walkTga(ByteView& view);
 Extent walkDds(ByteView& view);
 Extent walkXcf(ByteView& view);
 Extent walkAnyMap(ByteView& view);  // PBM, PGM, PPM in bytes
+Extent walkFloatMap(ByteView& view);
 Extent walkSgi(ByteView& view);
+Extent walkRadiance(ByteView& view);  // also the text that bears the same ending
 Extent walkQoi(ByteView& view);
 Extent walkXpm(ByteView& view);
 Extent walkRaf(ByteView& view);

@@ -38,7 +38,8 @@ struct AbandonableSource::Shared {
     Stage stage = Stage::Working;
     bool quit = false;
     bool sourceUsable = true;
-    std::uint64_t sectors = 0;  // set before the first Idle
+    std::uint64_t sectors = 0;  // this and the next are set before the first Idle
+    std::uint64_t blockSectors = 1;
 
     // The request, and what became of it once the stage is Idle. The buffer is the thread's while Working,
     // the caller's otherwise.
@@ -84,6 +85,7 @@ void AbandonableSource::Shared::post(std::uint64_t atSector, std::size_t count) 
 void AbandonableSource::Shared::serve(std::unique_ptr<BlockSource> source) {
     std::unique_lock lock(mutex);
     sectors = source->sectors();
+    blockSectors = source->blockSectors();
     for (;;) {
         stage = Stage::Idle;
         callerWakes.notify_one();
@@ -169,6 +171,11 @@ std::int64_t AbandonableSource::readAt(std::uint64_t sector, std::span<std::uint
 std::uint64_t AbandonableSource::sectors() const {
     const std::lock_guard lock(m_shared->mutex);
     return m_shared->sectors;
+}
+
+std::uint64_t AbandonableSource::blockSectors() const {
+    const std::lock_guard lock(m_shared->mutex);
+    return m_shared->blockSectors;
 }
 
 bool AbandonableSource::usable() {

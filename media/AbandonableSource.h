@@ -37,6 +37,7 @@ class AbandonableSource : public BlockSource {
     std::int64_t readAt(std::uint64_t sector, std::span<std::uint8_t> into) override;
     bool usable() override;
     std::uint64_t sectors() const override;
+    std::uint64_t blockSectors() const override;
 
   private:
     struct Shared;

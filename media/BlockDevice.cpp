@@ -6,8 +6,10 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
+#include <cstring>
 #include <thread>
 #include <utility>
 
@@ -27,6 +29,14 @@ using namespace std::chrono_literals;
 // The kernel asks a reader for its medium every two seconds.
 constexpr auto kNoticeTime = 3s;
 constexpr auto kNoticeStep = 100ms;
+
+// Unbuffered requests need memory aligned to the block.
+constexpr std::size_t kAlignment = 65536;
+
+std::uint8_t* alignUp(std::uint8_t* p) {
+    const auto address = reinterpret_cast<std::uintptr_t>(p);
+    return p + (kAlignment - address % kAlignment) % kAlignment;
+}
 
 bool errorMeansGone(int error) {
     return error == ENODEV || error == ENXIO || error == ENOMEDIUM || error == EBADF;
@@ -54,10 +64,8 @@ std::optional<BlockDeviceFacts> blockDeviceFacts(int fd) {
 
 BlockDevice::BlockDevice(FileDescriptor descriptor, const BlockDeviceFacts& facts)
     : m_descriptor(std::move(descriptor)), m_facts(facts) {
-    // Media with larger blocks are read through the page cache, whose page is their block.
     const int flags = ::fcntl(m_descriptor.get(), F_GETFL);
-    m_unbuffered = m_facts.blockBytes == kSectorBytes && flags >= 0 &&
-                   ::fcntl(m_descriptor.get(), F_SETFL, flags | O_DIRECT) == 0;
+    m_unbuffered = flags >= 0 && ::fcntl(m_descriptor.get(), F_SETFL, flags | O_DIRECT) == 0;
     if (!m_unbuffered) {
         ::posix_fadvise(m_descriptor.get(), 0, 0, POSIX_FADV_SEQUENTIAL);
     }
@@ -69,7 +77,7 @@ std::int64_t BlockDevice::readAt(std::uint64_t sector, std::span<std::uint8_t> i
     }
     const std::uint64_t rest = m_facts.sectors - sector;
     const std::size_t wanted = rest < into.size() / kSectorBytes ? rest * kSectorBytes : into.size();
-    const std::int64_t got = positionedRead(m_descriptor.get(), sector * kSectorBytes, into.first(wanted));
+    const std::int64_t got = ask(sector, into.first(wanted));
     const int error = errno;
     if (got <= 0) {
         m_gone = got == 0 || refusalMeansGone(error);
@@ -83,6 +91,38 @@ std::int64_t BlockDevice::readAt(std::uint64_t sector, std::span<std::uint8_t> i
         m_lastGoodSector = sector + static_cast<std::uint64_t>(got) / kSectorBytes - 1;
     }
     return got;
+}
+
+std::uint64_t BlockDevice::blockSectors() const {
+    return std::max<std::uint64_t>(1, m_facts.blockBytes / kSectorBytes);
+}
+
+// As positionedRead(), of the blocks that hold the wanted sectors.
+std::int64_t BlockDevice::ask(std::uint64_t sector, std::span<std::uint8_t> into) {
+    const std::uint64_t block = blockSectors();
+    if (block == 1) {
+        return positionedRead(m_descriptor.get(), sector * kSectorBytes, into);
+    }
+    const std::uint64_t first = sector - sector % block;
+    const std::uint64_t end = (sector + into.size() / kSectorBytes + block - 1) / block * block;
+    const std::size_t bytes = (end - first) * kSectorBytes;
+    if (m_blocksBytes < bytes) {
+        m_blocks.reset(new std::uint8_t[bytes + kAlignment]);
+        m_blocksBytes = bytes;
+    }
+    std::uint8_t* const blocks = alignUp(m_blocks.get());
+    const std::int64_t got = positionedRead(m_descriptor.get(), first * kSectorBytes, {blocks, bytes});
+    const std::size_t skipped = (sector - first) * kSectorBytes;
+    if (got <= 0) {
+        return got;
+    }
+    if (static_cast<std::size_t>(got) <= skipped) {
+        errno = EIO;
+        return -1;
+    }
+    const std::size_t wanted = std::min(static_cast<std::size_t>(got) - skipped, into.size());
+    std::memcpy(into.data(), blocks + skipped, wanted);
+    return static_cast<std::int64_t>(wanted);
 }
 
 bool BlockDevice::sameMedium() const {
@@ -101,8 +141,7 @@ bool BlockDevice::knownGoodSectorIsDead() {
     alignas(4096) std::uint8_t bytes[kSectorBytes];
     const auto deadline = std::chrono::steady_clock::now() + kNoticeTime;
     for (;;) {
-        const std::int64_t got =
-            positionedRead(m_descriptor.get(), *m_lastGoodSector * kSectorBytes, {bytes, kSectorBytes});
+        const std::int64_t got = ask(*m_lastGoodSector, {bytes, kSectorBytes});
         if (got == static_cast<std::int64_t>(kSectorBytes)) {
             return !sameMedium();
         }

@@ -22,7 +22,8 @@ struct BlockDeviceFacts {
 std::optional<BlockDeviceFacts> blockDeviceFacts(int fd);
 
 // Reads an open block device without the page cache, so that one bad sector costs one sector, the kernel
-// repeats nothing on its own account, and no byte of an earlier card is ever taken for one of this.
+// repeats nothing on its own account, and no byte of an earlier card is ever taken for one of this. Of a
+// device with larger blocks whole blocks are read.
 //
 // The medium counts as gone when an error says so, when its size becomes 0 or its sequence number changes, or
 // when after a refusal a sector that was good before stays refused for kNoticeTime: the time the kernel may
@@ -34,14 +35,18 @@ class BlockDevice : public BlockSource {
     std::int64_t readAt(std::uint64_t sector, std::span<std::uint8_t> into) override;
     bool usable() override { return !m_gone; }
     std::uint64_t sectors() const override { return m_facts.sectors; }
+    std::uint64_t blockSectors() const override;
 
   private:
+    std::int64_t ask(std::uint64_t sector, std::span<std::uint8_t> into);
     bool sameMedium() const;
     bool refusalMeansGone(int error);
     bool knownGoodSectorIsDead();
 
     FileDescriptor m_descriptor;
     BlockDeviceFacts m_facts;
+    std::unique_ptr<std::uint8_t[]> m_blocks;  // whole blocks on their way, where these are not sectors
+    std::size_t m_blocksBytes = 0;
     std::optional<std::uint64_t> m_lastGoodSector;
     bool m_unbuffered = false;
     bool m_gone = false;

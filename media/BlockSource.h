@@ -26,6 +26,9 @@ class BlockSource {
 
     // Sectors of the medium as it was opened; 0 when that is not known. Any thread.
     virtual std::uint64_t sectors() const { return 0; }
+
+    // Sectors of the medium's smallest unit, which are read together and refused together. Any thread.
+    virtual std::uint64_t blockSectors() const { return 1; }
 };
 
 }  // namespace vantor

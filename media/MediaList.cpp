@@ -21,6 +21,7 @@ QString byteCount(const MediaFacts& facts) {
 
 void MediaList::rebuild() {
     nsMutaryOfDataObject.clear();
+    m_kinds.clear();
     getVolumeToFSGetInfo();
 }
 
@@ -48,6 +49,7 @@ void MediaList::find_disk_info(const QString& path) {
     if (identifier.isEmpty()) {
         return;
     }
+    m_kinds.insert(identifier, mediumKindOf(facts));
     const QString bytes = byteCount(facts);
     const QString sectors =
         QString::number(static_cast<quint64>(textToInt64(bytes) / static_cast<qint64>(kSectorBytes)));

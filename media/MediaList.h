@@ -1,11 +1,13 @@
 // The list of storage media that the first wizard screen offers.
 #pragma once
 
+#include <QHash>
 #include <QList>
 #include <QString>
 #include <memory>
 
 #include "media/MediaSource.h"
+#include "media/MediumKind.h"
 #include "media/MyDataObject.h"
 
 namespace vantor {
@@ -31,11 +33,15 @@ class MediaList {
     void addRow(std::shared_ptr<MyDataObject> record) { nsMutaryOfDataObject.append(std::move(record)); }
 
     QList<std::shared_ptr<MyDataObject>> nsMutaryOfDataObject;
+    // Of a listed medium, by its identifier.
+    MediumKind kindOfMedium(const QString& identifier) const { return m_kinds.value(identifier); }
+
     QString Parent_Disk_Size = QStringLiteral("");
     QString Parent_Media_Name = QStringLiteral("");
 
   private:
     MediaSource& m_source;
+    QHash<QString, MediumKind> m_kinds;
 };
 
 // The records of a fresh list, for those who need nothing else of it.

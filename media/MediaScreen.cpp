@@ -88,26 +88,23 @@ void MyTableController::openImages(const QStringList& files) {
     }
 }
 
-// Memory cards, sticks, optical discs and image files, as far as the names tell.
 QIcon MyTableController::iconOfMedium(qsizetype row) const {
     if (row < 0 || row >= nsMutaryOfDataObject.size()) {
         return {};
     }
-    const MyDataObject& medium = *nsMutaryOfDataObject.at(row);
-    const auto begins = [&](const char* prefix) {
-        return medium.nsStrDiskIdentifier.startsWith(QLatin1String(prefix)) ||
-               medium.nsStrParentDisk.startsWith(QLatin1String(prefix));
-    };
-    if (begins("mmcblk")) {
-        return ownIcon(QStringLiteral("card"));
+    switch (kindOfMedium(nsMutaryOfDataObject.at(row)->nsStrDiskIdentifier)) {
+        case MediumKind::Card:
+            return ownIcon(QStringLiteral("card"));
+        case MediumKind::UsbStick:
+            return ownIcon(QStringLiteral("usb"));
+        case MediumKind::OpticalDisc:
+            return ownIcon(QStringLiteral("disc"));
+        case MediumKind::ImageFile:
+            return ownIcon(QStringLiteral("image-file"));
+        case MediumKind::Disk:
+            break;
     }
-    if (begins("sr")) {
-        return ownIcon(QStringLiteral("disc"));
-    }
-    if (begins("image")) {
-        return ownIcon(QStringLiteral("image-file"));
-    }
-    return ownIcon(QStringLiteral("usb"));
+    return ownIcon(QStringLiteral("drive"));
 }
 
 }  // namespace vantor

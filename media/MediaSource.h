@@ -14,7 +14,8 @@ namespace vantor {
 
 // The facts of a volume under the disk utility's keys: "DeviceIdentifier", "VolumeName",
 // "FilesystemUserVisibleName", "ParentWholeDisk", "IOKitSize" (bytes, quint64), "BusProtocol",
-// "OpticalDeviceType", "MediaName". Absent keys stand for facts that are not known.
+// "OpticalDeviceType", "MediaName", and what the drive takes under "MediaCompatibility". Absent keys stand
+// for facts that are not known.
 using MediaFacts = QVariantMap;
 
 // What became of an image file that the user wants as a medium.

@@ -19,13 +19,18 @@ std::size_t threadsToUse() {
     return std::clamp(std::thread::hardware_concurrency() - 1, 1U, kMostThreads);
 }
 
+// The one beside them is that of the window taken before the last.
+std::size_t slotsToUse() {
+    return threadsToUse() * kSlotsPerThread + 1;
+}
+
 }  // namespace
 
 ReadAhead::ReadAhead(BlockSource& source, std::size_t windowBytes)
     : m_source(source),
       m_windowBytes(windowBytes),
-      m_storage(new std::uint8_t[threadsToUse() * kSlotsPerThread * windowBytes]),
-      m_slots(threadsToUse() * kSlotsPerThread) {
+      m_storage(new std::uint8_t[slotsToUse() * windowBytes]),
+      m_slots(slotsToUse()) {
     for (std::size_t n = 0; n < m_slots.size(); ++n) {
         m_slots[n].bytes = m_storage.get() + n * windowBytes;
         m_slots[n].looks.resize(windowBytes / kSectorBytes);
@@ -74,9 +79,10 @@ void ReadAhead::pause() {
 
 ReadAhead::Window ReadAhead::take() {
     std::unique_lock lock(m_mutex);
-    if (m_windowsGivenBack != m_windowsTaken) {
+    // The window taken last is kept: its last sector stays the current one should this window be refused.
+    if (m_windowsTaken > m_windowsGivenBack + 1) {
         m_slots[m_windowsGivenBack % m_slots.size()].fetched = false;
-        m_windowsGivenBack = m_windowsTaken;
+        ++m_windowsGivenBack;
         m_wanted.notify_one();
     }
     // Waiting for another thread costs more than doing its work.

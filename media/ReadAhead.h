@@ -41,8 +41,8 @@ class ReadAhead {
         const std::uint8_t* looks = nullptr;  // one a sector, as SectorScreen sets them; null: look at all
     };
 
-    // The next window, waiting for it where necessary; valid until the next take or start. After one that is
-    // not full the reading has to be paused and started again.
+    // The next window, waiting for it where necessary; valid until the take after the next, or the next
+    // start. After one that is not full the reading has to be paused and started again.
     Window take();
 
   private:

@@ -50,6 +50,14 @@ class SectorSet {
         return after == m_runs.end() ? std::numeric_limits<std::uint64_t>::max() : after->first;
     }
 
+    // The first sector of the row that ends directly before `sector` or holds it; `sector` when there is
+    // none.
+    std::uint64_t firstOfRunUpTo(std::uint64_t sector) const {
+        const auto after = m_runs.upper_bound(sector);
+        return after != m_runs.begin() && sector <= std::prev(after)->second ? std::prev(after)->first
+                                                                             : sector;
+    }
+
     std::size_t runs() const { return m_runs.size(); }
 
   private:

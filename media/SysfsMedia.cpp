@@ -75,6 +75,27 @@ bool isOnUsb(const SysfsDisk& disk) {
     return disk.hardwarePath.contains(u"/usb");
 }
 
+// What the device manager knows of the drive (udisks(8), "DEVICE INFORMATION"), in the disk service's words.
+QStringList mediaCompatibility(const SysfsDisk& disk) {
+    static constexpr struct {
+        const char16_t* key;
+        const char* media;
+    } kKnown[] = {
+        {u"ID_DRIVE_FLASH", "flash"},           {u"ID_DRIVE_FLASH_CF", "flash_cf"},
+        {u"ID_DRIVE_FLASH_MS", "flash_ms"},     {u"ID_DRIVE_FLASH_SM", "flash_sm"},
+        {u"ID_DRIVE_FLASH_SD", "flash_sd"},     {u"ID_DRIVE_FLASH_SDHC", "flash_sdhc"},
+        {u"ID_DRIVE_FLASH_SDXC", "flash_sdxc"}, {u"ID_DRIVE_FLASH_MMC", "flash_mmc"},
+        {u"ID_DRIVE_THUMB", "thumb"},
+    };
+    QStringList media;
+    for (const auto& known : kKnown) {
+        if (udevValue(disk.disk, known.key) == u"1") {
+            media << QLatin1String(known.media);
+        }
+    }
+    return media;
+}
+
 bool isOffered(const SysfsDisk& disk) {
     return isLoop(disk) || isOptical(disk) || isCardSlot(disk) || isOnUsb(disk) ||
            disk.removable.trimmed() == u"1";
@@ -115,6 +136,7 @@ class Lister {
         record.facts[QStringLiteral("IOKitSize")] = quint64{sectors * kSectorBytes};
         record.facts[QStringLiteral("BusProtocol")] = busName(disk);
         record.facts[QStringLiteral("MediaName")] = hardware.trimmed();
+        record.facts[QStringLiteral("MediaCompatibility")] = mediaCompatibility(disk);
         if (isOptical(disk)) {
             record.facts[QStringLiteral("OpticalDeviceType")] = QStringLiteral("CD-ROM");
         }

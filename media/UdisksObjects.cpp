@@ -147,6 +147,8 @@ MediumRecord recordOf(const Tree& tree, const QString& block, const QString& dri
     record.facts[QStringLiteral("IOKitSize")] = bytes;
     record.facts[QStringLiteral("BusProtocol")] = busName(tree, block, drive);
     record.facts[QStringLiteral("MediaName")] = driveName(tree, drive);
+    record.facts[QStringLiteral("MediaCompatibility")] =
+        tree.value(drive, kDrive, "MediaCompatibility").toStringList();
     if (const QString optical = opticalTypes(tree, drive); !optical.isEmpty()) {
         record.facts[QStringLiteral("OpticalDeviceType")] = optical;
     }

@@ -40,7 +40,7 @@ bool WindowedReader::fetch() {
     if (position() < m_singleUntil) {
         return fetchSingle();
     }
-    m_windowWasFirstAttempt = false;
+    m_attemptedFrom = m_attemptedUntil = 0;
     const auto wanted = static_cast<std::size_t>(
         std::min<std::uint64_t>(kWindowSectors, m_refused.firstFrom(position()) - position()));
     return wanted != 0 && fetchWindow(wanted);
@@ -56,7 +56,9 @@ bool WindowedReader::fetchWindow(std::size_t wanted) {
     }
     const auto sectors = window.length < 0 ? 0 : static_cast<std::size_t>(window.length) / kSectorBytes;
     if (sectors < wanted) {
-        m_windowWasFirstAttempt = true;
+        // A short window says where it was refused, one that is refused whole does not.
+        m_attemptedFrom = position() + sectors;
+        m_attemptedUntil = sectors == 0 ? position() + wanted : m_attemptedFrom + 1;
         goSingle(position() + sectors);
     }
     if (sectors == 0) {
@@ -79,20 +81,39 @@ bool WindowedReader::fetchWindow(std::size_t wanted) {
 
 bool WindowedReader::fetchSingle() {
     stopReadingAhead();
-    if (m_refused.contains(position()) || noteWhetherGone()) {
+    if (noteWhetherGone() || !readSingleOrRefuse(position())) {
         return false;
-    }
-    if (!readSingle()) {
-        const bool secondAttempt = std::exchange(m_windowWasFirstAttempt, false);
-        if (secondAttempt || noteWhetherGone() || !readSingle()) {
-            m_refused.add(position());
-            goSingle(position());
-            return false;
-        }
     }
     std::swap(m_front, m_back);
     handOver(m_front, 1);
     return true;
+}
+
+// Reads into the window behind, in two attempts.
+bool WindowedReader::readSingleOrRefuse(std::uint64_t sector) {
+    if (m_refused.contains(sector)) {
+        return false;
+    }
+    if (readSingle(sector)) {
+        return true;
+    }
+    const bool secondAttempt = sector >= m_attemptedFrom && sector < m_attemptedUntil;
+    m_attemptedFrom = m_attemptedUntil = 0;
+    if (!secondAttempt && !noteWhetherGone() && readSingle(sector)) {
+        return true;
+    }
+    refuseRestOfBlock(sector);
+    return false;
+}
+
+void WindowedReader::refuseRestOfBlock(std::uint64_t sector) {
+    const std::uint64_t block = m_source->blockSectors();
+    const std::uint64_t end = sector - sector % block + block;
+    for (std::uint64_t s = sector; s < end; ++s) {
+        m_refused.add(s);
+        ++m_refusals;
+    }
+    goSingle(end - 1);
 }
 
 void WindowedReader::setScreen(std::shared_ptr<const SectorScreen> screen) {
@@ -106,8 +127,8 @@ void WindowedReader::stopReadingAhead() {
     }
 }
 
-bool WindowedReader::readSingle() {
-    return m_source->readAt(position(), {m_back, kSectorBytes}) == static_cast<std::int64_t>(kSectorBytes);
+bool WindowedReader::readSingle(std::uint64_t sector) {
+    return m_source->readAt(sector, {m_back, kSectorBytes}) == static_cast<std::int64_t>(kSectorBytes);
 }
 
 void WindowedReader::goSingle(std::uint64_t from) {
@@ -120,9 +141,22 @@ bool WindowedReader::noteWhetherGone() {
     return m_gone;
 }
 
-bool WindowedReader::moveTo(std::uint64_t) {
+// Only of the stretch that the reader stands in: elsewhere it is a user's question, not a step of a scan.
+bool WindowedReader::isInDeadStretch(std::uint64_t sector) const {
+    const std::uint64_t first = m_refused.firstOfRunUpTo(sector);
+    if (position() < first || position() > sector) {
+        return false;
+    }
+    const std::uint64_t refused = sector - first + (m_refused.contains(sector) ? 1 : 0);
+    return refused >= (m_refusals < kMostRefusals ? kDeadStretch : 1);
+}
+
+bool WindowedReader::moveTo(std::uint64_t sector) {
     stopReadingAhead();
-    return !noteWhetherGone();
+    if (noteWhetherGone()) {
+        return false;
+    }
+    return !isInDeadStretch(sector) || readSingleOrRefuse(sector);
 }
 
 }  // namespace vantor

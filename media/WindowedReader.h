@@ -17,14 +17,22 @@ namespace vantor {
 //
 // A refused sector is asked for once more and no further: the refused window and the single read behind it
 // are the two attempts; a sector first met alone is repeated alone. What was refused twice stays refused for
-// this reader, without another word to the medium.
+// this reader, without another word to the medium, and so does the rest of its block.
+//
+// Positioning succeeds on bad sectors, as in any stream, so a scan looks once more at the sector that it read
+// last. On a medium that stays in its slot but no longer reads that would never end: where kDeadStretch
+// sectors in a row were refused, or kMostRefusals in all, it cannot be positioned at a sector that it refuses
+// either, from where it stands in such a stretch. Which sectors are read, and in what order, is the same with
+// and without.
 class WindowedReader : public SectorReader {
   public:
     // Whether the windows of a sequential reading are fetched on the reader's own threads ahead of time. The
     // source is then asked from several threads at once.
     enum class Fetching { WhenAsked, Ahead };
 
-    static constexpr std::size_t kWindowSectors = 512;  // 256 KiB, which stays in the second-level cache
+    static constexpr std::size_t kWindowSectors = 512;       // 256 KiB, which stays in the second-level cache
+    static constexpr std::uint64_t kDeadStretch = 2048;      // sectors: 1 MiB
+    static constexpr std::uint64_t kMostRefusals = 1 << 16;  // sectors
 
     explicit WindowedReader(std::unique_ptr<BlockSource> source, Fetching fetching = Fetching::WhenAsked);
     ~WindowedReader() override;
@@ -39,8 +47,11 @@ class WindowedReader : public SectorReader {
   private:
     bool fetchWindow(std::size_t wanted);
     bool fetchSingle();
+    bool readSingleOrRefuse(std::uint64_t sector);
+    void refuseRestOfBlock(std::uint64_t sector);
+    bool isInDeadStretch(std::uint64_t sector) const;
     void stopReadingAhead();
-    bool readSingle();
+    bool readSingle(std::uint64_t sector);
     void goSingle(std::uint64_t from);
     bool noteWhetherGone();
 
@@ -52,9 +63,12 @@ class WindowedReader : public SectorReader {
     std::unique_ptr<std::uint8_t[]> m_storage;
     std::uint8_t* m_front;
     std::uint8_t* m_back;
-    std::uint64_t m_singleUntil = 0;       // sectors before this one are read one by one
-    bool m_windowWasFirstAttempt = false;  // the next refusal of a single sector is the second one
+    std::uint64_t m_singleUntil = 0;  // sectors before this one are read one by one
+    // The sectors for the first of which to be refused alone that is the second attempt, after their window.
+    std::uint64_t m_attemptedFrom = 0;
+    std::uint64_t m_attemptedUntil = 0;
     SectorSet m_refused;
+    std::uint64_t m_refusals = 0;  // sectors
     bool m_gone = false;
 };
 

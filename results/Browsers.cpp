@@ -19,12 +19,19 @@ void MyTableController::addImageWithData(const QByteArray& data, const QString& 
         return;
     }
     // Bytes of its own, so that the scan's buffer stays the scan's and keeps its memory for the next item.
+    const auto place = std::make_shared<std::size_t>(0);
     m_thumbnails->submit(
         QByteArray(data.constData(), data.size()),
-        [this, imageName, image_UID, from = handOver()](const QByteArray& thumbnail) {
+        [this, imageName, image_UID, place, from = handOver()](const QByteArray& thumbnail) {
             addThumbnail(thumbnail, imageName, image_UID, from);
+            *place = itemCount() - 1;
         },
-        pathExtension(imageName));
+        pathExtension(imageName),
+        [this, image_UID, place](const QByteArray& thumbnail) {
+            replaceThumbnail(*place, image_UID, thumbnail);
+            QMetaObject::invokeMethod(
+                this, [this] { imageBrowser->viewport()->update(); }, Qt::QueuedConnection);
+        });
 }
 
 qsizetype MyTableController::numberOfItemsInImageBrowser(const ImageBrowserView*) {
@@ -85,7 +92,10 @@ void MyTableController::showItemCounts() {
     const auto words = [&](const ImageBrowserView* browser) {
         const qsizetype selected = browser->selectionIndexes().size();
         const QString count = found == 1 ? tr("1 item") : tr("%1 items").arg(QLocale().toString(found));
-        return selected > 0 ? tr("%1, %2 selected").arg(count, QLocale().toString(selected)) : count;
+        const int shown = browser->shownCount();
+        const QString inView =
+            m_wish.isPlain() ? count : tr("%1 of %2").arg(QLocale().toString(shown), count);
+        return selected > 0 ? tr("%1, %2 selected").arg(inView, QLocale().toString(selected)) : inView;
     };
     photoCountLabel->setText(words(imageBrowser));
     rawCountLabel->setText(words(imageBrowser_2));
@@ -94,14 +104,17 @@ void MyTableController::showItemCounts() {
     for (QPushButton* button : {saveAllButton, saveAllButton_Sig}) {
         button->setEnabled(found > 0);
     }
-    const bool haveFolder = !_path->text().isEmpty();
+    const bool haveFolder = !pathInView()->text().isEmpty();
     _open_folder->setEnabled(haveFolder);
     _open_folder_Sig->setEnabled(haveFolder);
+    const auto savedCount = static_cast<qsizetype>(m_marks.saved());
     const QString saved =
-        m_saved.empty()
-            ? QString()
-            : tr("%1 of %2 saved")
-                  .arg(QLocale().toString(static_cast<qsizetype>(m_saved.size())), QLocale().toString(found));
+        savedCount == 0 ? QString()
+                        : tr("%1 of %2 saved").arg(QLocale().toString(savedCount), QLocale().toString(found));
+    const int changed = changedChoices(m_savingChoices);
+    for (QPushButton* button : {savingOptionsButton, savingOptionsButton_Sig}) {
+        button->setText(changed == 0 ? tr("O&ptions…") : tr("O&ptions (%1)…").arg(changed));
+    }
     savedLabel->setText(saved);
     savedLabel_Sig->setText(saved);
 }

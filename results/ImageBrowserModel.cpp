@@ -14,8 +14,11 @@ void ImageBrowserModel::reloadData() {
     const qsizetype asked = m_source != nullptr ? m_source->numberOfItemsInImageBrowser(m_view) : 0;
     const int count = static_cast<int>(std::min<qsizetype>(asked, std::numeric_limits<int>::max()));
     const std::shared_ptr<MyImageObject> first = count > 0 ? item(0) : nullptr;
-    if (count >= m_count && m_count > 0 && first == m_first) {
-        if (count > m_count) {
+    const QString firstUid = first ? first->imageUID() : QString();
+    if (count >= m_count && m_count > 0 && firstUid == m_firstUid) {
+        if (m_order) {
+            m_count = count;  // whoever set the order sets the next one
+        } else if (count > m_count) {
             beginInsertRows({}, m_count, count - 1);
             m_count = count;
             endInsertRows();
@@ -24,8 +27,28 @@ void ImageBrowserModel::reloadData() {
     }
     beginResetModel();
     m_count = count;
-    m_first = first;
+    m_firstUid = firstUid;
+    if (m_order) {
+        m_order->clear();
+    }
     endResetModel();
+}
+
+void ImageBrowserModel::setOrder(std::optional<QList<int>> order) {
+    if (order == m_order) {
+        return;
+    }
+    beginResetModel();
+    m_order = std::move(order);
+    endResetModel();
+}
+
+int ImageBrowserModel::rowOfIndex(int index) const {
+    return m_order ? static_cast<int>(m_order->indexOf(index)) : index;
+}
+
+ItemFacts ImageBrowserModel::facts(qsizetype index) const {
+    return m_source != nullptr ? m_source->factsOfItem(index) : ItemFacts();
 }
 
 std::shared_ptr<MyImageObject> ImageBrowserModel::item(qsizetype index) const {
@@ -33,15 +56,24 @@ std::shared_ptr<MyImageObject> ImageBrowserModel::item(qsizetype index) const {
 }
 
 int ImageBrowserModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : m_count;
+    if (parent.isValid()) {
+        return 0;
+    }
+    return m_order ? static_cast<int>(m_order->size()) : m_count;
 }
 
 QVariant ImageBrowserModel::data(const QModelIndex& index, int role) const {
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole && role != Qt::AccessibleTextRole) {
         return {};
     }
-    const auto found = item(index.row());
-    return found ? QVariant(found->imageTitle()) : QVariant();
+    const int place = indexOfRow(index.row());
+    const auto found = item(place);
+    if (!found || role == Qt::DisplayRole) {
+        return found ? QVariant(found->imageTitle()) : QVariant();
+    }
+    const auto soundness = facts(place).soundness;
+    const QString between = role == Qt::ToolTipRole ? QStringLiteral("\n") : QStringLiteral(", ");
+    return soundness ? found->imageTitle() + between + describe(*soundness) : found->imageTitle();
 }
 
 Qt::ItemFlags ImageBrowserModel::flags(const QModelIndex& index) const {

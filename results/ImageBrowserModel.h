@@ -2,7 +2,11 @@
 #pragma once
 
 #include <QAbstractListModel>
+#include <QList>
 #include <memory>
+#include <optional>
+
+#include "results/BrowserOrder.h"
 
 namespace vantor {
 
@@ -21,8 +25,11 @@ class ImageBrowserDataSource {
     // Null beyond the end.
     virtual std::shared_ptr<MyImageObject> imageBrowser_itemAtIndex(const ImageBrowserView* view,
                                                                     qsizetype index) = 0;
+    // What is known of an item of the list, for its badge and the words about it.
+    virtual ItemFacts factsOfItem(qsizetype) { return {}; }
 };
 
+// Rows are places in an order where one is set, else places in the data source's list.
 class ImageBrowserModel : public QAbstractListModel {
     Q_OBJECT
 
@@ -34,7 +41,17 @@ class ImageBrowserModel : public QAbstractListModel {
     // new list.
     void reloadData();
 
+    // Shows these items of the list in this order, until another order or none is set.
+    void setOrder(std::optional<QList<int>> order);
+    bool hasOrder() const { return m_order.has_value(); }
+    // Items of the list, whether shown or not.
+    int listCount() const { return m_count; }
+    int indexOfRow(int row) const { return m_order ? m_order->value(row, -1) : row; }
+    int rowOfIndex(int index) const;  // -1: not shown
+
+    // Of the list.
     std::shared_ptr<MyImageObject> item(qsizetype index) const;
+    ItemFacts facts(qsizetype index) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -45,7 +62,8 @@ class ImageBrowserModel : public QAbstractListModel {
     ImageBrowserView* m_view;
     ImageBrowserDataSource* m_source = nullptr;
     int m_count = 0;
-    std::shared_ptr<MyImageObject> m_first;  // tells a list that grew from one that began anew
+    std::optional<QList<int>> m_order;
+    QString m_firstUid;  // tells a list that grew from one that began anew
 };
 
 }  // namespace vantor

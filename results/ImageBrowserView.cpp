@@ -1,6 +1,7 @@
 // Set-up, zoom and selection of the browsers.
 #include "results/ImageBrowserView.h"
 
+#include <QScrollBar>
 #include <algorithm>
 
 #include "results/ImageBrowserModel.h"
@@ -38,6 +39,7 @@ void ImageBrowserView::setDataSource(ImageBrowserDataSource* source) {
 
 void ImageBrowserView::reloadData() {
     m_model->reloadData();
+    describeState();
     viewport()->update();
 }
 
@@ -51,30 +53,88 @@ void ImageBrowserView::setZoomValue(float zoom) {
 }
 
 void ImageBrowserView::scrollIndexToVisible(qsizetype index) {
-    scrollTo(m_model->index(static_cast<int>(index)));
+    const int row = m_model->rowOfIndex(static_cast<int>(index));
+    if (row >= 0) {
+        scrollTo(m_model->index(row));
+    }
 }
 
 QList<qsizetype> ImageBrowserView::selectionIndexes() const {
     QList<qsizetype> rows;
     for (const QItemSelectionRange& range : selectionModel()->selection()) {
         for (int row = range.top(); row <= range.bottom(); ++row) {
-            rows.append(row);
+            rows.append(m_model->indexOfRow(row));
         }
     }
     std::sort(rows.begin(), rows.end());
     return rows;
 }
 
-std::shared_ptr<MyImageObject> ImageBrowserView::item(qsizetype index) const {
-    return m_model->item(index);
+void ImageBrowserView::setOrder(std::optional<QList<int>> order) {
+    if (!order && !m_model->hasOrder()) {
+        return;
+    }
+    const QList<qsizetype> selected = selectionIndexes();
+    const int current = currentIndex().isValid() ? m_model->indexOfRow(currentIndex().row()) : -1;
+    const int scrolled = verticalScrollBar()->value();
+    m_model->setOrder(std::move(order));
+    QItemSelection selection;
+    for (const qsizetype index : selected) {
+        const int row = m_model->rowOfIndex(static_cast<int>(index));
+        if (row >= 0) {
+            selection.append(QItemSelectionRange(m_model->index(row)));
+        }
+    }
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    if (const int row = current >= 0 ? m_model->rowOfIndex(current) : -1; row >= 0) {
+        selectionModel()->setCurrentIndex(m_model->index(row), QItemSelectionModel::NoUpdate);
+    }
+    verticalScrollBar()->setValue(scrolled);
+    emit selectionDidChange();
+}
+
+// Cells stand in a grid, so the first and the last in view tell the rest.
+std::vector<std::size_t> ImageBrowserView::indexesInView() const {
+    const int rows = m_model->rowCount();
+    const QSize cell = gridSize();
+    if (rows == 0 || cell.isEmpty() || !isVisible()) {
+        return {};
+    }
+    const int columns = std::max(1, viewport()->width() / cell.width());
+    const int firstLine = std::max(0, verticalOffset() / cell.height());
+    const int lines = viewport()->height() / cell.height() + 2;
+    const int first = std::min(rows, firstLine * columns);
+    const int end = std::min(rows, first + lines * columns);
+    std::vector<std::size_t> indexes;
+    for (int row = first; row < end; ++row) {
+        indexes.push_back(static_cast<std::size_t>(m_model->indexOfRow(row)));
+    }
+    return indexes;
+}
+
+int ImageBrowserView::shownCount() const {
+    return m_model->rowCount();
+}
+
+std::shared_ptr<MyImageObject> ImageBrowserView::itemOfRow(int row) const {
+    return m_model->item(m_model->indexOfRow(row));
+}
+
+ItemFacts ImageBrowserView::factsOfRow(int row) const {
+    return m_model->facts(m_model->indexOfRow(row));
 }
 
 void ImageBrowserView::setEmptyState(const QIcon& picture, const QString& title, const QString& advice) {
     m_emptyPicture = picture;
     m_emptyTitle = title;
     m_emptyAdvice = advice;
-    setAccessibleDescription(title + u' ' + advice);
+    describeState();
     viewport()->update();
+}
+
+// The state is read out as long as it lasts, and no longer.
+void ImageBrowserView::describeState() {
+    setAccessibleDescription(m_model->rowCount() == 0 ? m_emptyTitle + u' ' + m_emptyAdvice : QString());
 }
 
 // Keys that move find a place to move from.

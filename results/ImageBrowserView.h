@@ -4,6 +4,9 @@
 #include <QIcon>
 #include <QListView>
 #include <memory>
+#include <optional>
+
+#include "results/BrowserOrder.h"
 
 namespace vantor {
 
@@ -24,10 +27,19 @@ class ImageBrowserView : public QListView {
     void setZoomValue(float zoom);
     float zoomValue() const { return m_zoom; }
 
+    // Shows these items of the list in this order; the selection stays with its items, as far as they are
+    // shown.
+    void setOrder(std::optional<QList<int>> order);
+
+    // Items by their places in the list, whatever the order.
     void scrollIndexToVisible(qsizetype index);
-    // Rows of the selected items, ascending.
-    QList<qsizetype> selectionIndexes() const;
-    std::shared_ptr<MyImageObject> item(qsizetype index) const;
+    QList<qsizetype> selectionIndexes() const;  // ascending
+    std::vector<std::size_t> indexesInView() const;
+    int shownCount() const;
+
+    // Of a row.
+    std::shared_ptr<MyImageObject> itemOfRow(int row) const;
+    ItemFacts factsOfRow(int row) const;
 
     void setEmptyState(const QIcon& picture, const QString& title, const QString& advice);
 
@@ -41,6 +53,8 @@ class ImageBrowserView : public QListView {
     void startDrag(Qt::DropActions) override {}
 
   private:
+    void describeState();
+
     ImageBrowserModel* m_model;
     float m_zoom = 0;
     QIcon m_emptyPicture;

@@ -7,6 +7,7 @@
 
 #include "results/ImageBrowserView.h"
 #include "results/MyImageObject.h"
+#include "results/SoundnessBadge.h"
 #include "wizard/Theme.h"
 
 namespace vantor {
@@ -45,7 +46,7 @@ QPixmap ImageCell::decoded(const QByteArray& bytes) const {
 }
 
 void ImageCell::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
-    const auto item = m_view->item(index.row());
+    const auto item = m_view->itemOfRow(index.row());
     if (!item) {
         return;
     }
@@ -57,6 +58,11 @@ void ImageCell::paint(QPainter* painter, const QStyleOptionViewItem& option, con
         painter->setPen(selected ? QPen(theme::kAccent, 1.5) : QPen(theme::kRule, 1));
         painter->setBrush(theme::kAccentWash);
         painter->drawRoundedRect(QRectF(cell).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+    }
+    if ((option.state & QStyle::State_HasFocus) != 0) {
+        painter->setPen(QPen(theme::kAccent, 1, Qt::DashLine));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRoundedRect(QRectF(cell).adjusted(3.5, 3.5, -3.5, -3.5), kRadius - 2, kRadius - 2);
     }
     const int edge = m_view->iconSize().width();
     const QRect place(cell.center().x() - edge / 2, cell.top() + kPadding, edge, edge);
@@ -71,6 +77,7 @@ void ImageCell::paint(QPainter* painter, const QStyleOptionViewItem& option, con
     } else {
         picture.value<QIcon>().paint(painter, place);
     }
+    paintBadges(painter, place, m_view->factsOfRow(index.row()));
     QRect words = cell.adjusted(4, 0, -4, 0);
     words.setTop(place.bottom() + kPadding / 2);
     painter->setFont(option.font);

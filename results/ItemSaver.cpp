@@ -32,6 +32,14 @@ QByteArrayView asView(std::span<const std::uint8_t> bytes) {
     return {bytes.data(), static_cast<qsizetype>(bytes.size())};
 }
 
+QString cancelledText() {
+    return QStringLiteral("Cancelled");
+}
+
+bool isUnwanted(const FoundItem& item) {
+    return item.unwanted != nullptr && *item.unwanted;
+}
+
 std::uint64_t firstSectorOf(const FoundItem& item) {
     return item.source.carved.runs.empty() ? 0 : item.source.carved.runs.front().first;
 }
@@ -100,7 +108,10 @@ SaveOutcome ItemSaver::save(const FoundItem& item) const {
         source.firstBytes = {};
     }
     MediumBytes bytes(source, m_state->kept);
-    if (decideLength(item, bytes, outcome)) {
+    const bool chosen = decideLength(item, bytes, outcome);
+    if (isUnwanted(item)) {
+        outcome.error = cancelledText();
+    } else if (chosen) {
         saveBytes(item, bytes, outcome);
     }
     return outcome;
@@ -209,9 +220,13 @@ bool ItemSaver::writeFile(const Writing& writing, MediumBytes& bytes, SaveOutcom
     WholeFile file(writing.folder);
     const bool sizeIsKnown = m_policy.skipDuplicates && m_state->saved.hasSize(outcome.bytes);
     const bool summing = outcome.sha256.isEmpty() && (m_policy.checksums || sizeIsKnown);
-    const std::uint64_t done = copyBytes(outcome.bytes, bytes, file, summing);
+    const std::uint64_t done = copyBytes(writing.item, outcome.bytes, bytes, file, summing);
     if (summing) {
         outcome.sha256 = m_state->sum.result();
+    }
+    if (isUnwanted(writing.item)) {
+        outcome.error = cancelledText();
+        return false;
     }
     outcome.sectorsUnreadable = bytes.sectorsUnreadable(done);
     if (file.isGood() && done < outcome.bytes) {
@@ -245,10 +260,10 @@ bool ItemSaver::writeFile(const Writing& writing, MediumBytes& bytes, SaveOutcom
 }
 
 // Bytes written; fewer than asked where the medium or the file failed.
-std::uint64_t ItemSaver::copyBytes(std::uint64_t length, MediumBytes& bytes, WholeFile& file,
-                                   bool summing) const {
+std::uint64_t ItemSaver::copyBytes(const FoundItem& item, std::uint64_t length, MediumBytes& bytes,
+                                   WholeFile& file, bool summing) const {
     std::uint64_t done = 0;
-    for (std::size_t turn = 0; done < length && file.isGood(); ++turn) {
+    for (std::size_t turn = 0; done < length && file.isGood() && !isUnwanted(item); ++turn) {
         auto stretch = bytes.keptFrom(done);
         if (stretch.empty()) {
             // The checksum may still be busy with the other chunk.

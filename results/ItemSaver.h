@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <atomic>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -44,6 +45,8 @@ struct FoundItem {
     QString type;  // `Ext_Name`
     QString name;
     ItemSource source;
+    // Set by anybody once the item is no longer wanted: it then fails, and nothing of it stays behind.
+    const std::atomic<bool>* unwanted = nullptr;
 };
 
 // One medium and one destination. An item becomes `<destination>/<type>/<name>`, whole or not at all; nothing
@@ -75,7 +78,8 @@ class ItemSaver {
     void saveBytes(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const;
     bool settleBeforeWriting(const Writing& writing, MediumBytes& bytes, SaveOutcome& outcome) const;
     bool settleAs(const SavedFile& earlier, const Writing& writing, SaveOutcome& outcome) const;
-    std::uint64_t copyBytes(std::uint64_t length, MediumBytes& bytes, WholeFile& file, bool summing) const;
+    std::uint64_t copyBytes(const FoundItem& item, std::uint64_t length, MediumBytes& bytes, WholeFile& file,
+                            bool summing) const;
     bool writeFile(const Writing& writing, MediumBytes& bytes, SaveOutcome& outcome) const;
 
     QString m_destination;

@@ -30,6 +30,12 @@ class MyImageObject {
                                                              const QString& image_UID);
 
     void setPath(const QString& path) { m_path = path; }
+    // The same item with another picture, to stand in its place.
+    std::shared_ptr<MyImageObject> withImageData(const QByteArray& data) const {
+        auto copy = std::make_shared<MyImageObject>(*this);
+        copy->m_imageData = data;
+        return copy;
+    }
 
     QString imageUID() const { return m_image_UID; }
     QString imageTitle() const { return m_image_Name; }
@@ -53,9 +59,12 @@ class MyImageObject {
     // Type name (`Ext_Name`) and the sectors really read, for saving; empty for items that are files already.
     const QString& type() const { return m_type; }
     const CarvedRun& carved() const { return m_carved; }
-    void setOrigin(const QString& type, CarvedRun carved) {
+    // As the scan published them; after a failed read they are not the ones really read.
+    const SectorRun& publishedSectors() const { return m_published; }
+    void setOrigin(const QString& type, CarvedRun carved, SectorRun published) {
         m_type = type;
         m_carved = std::move(carved);
+        m_published = published;
     }
 
   private:
@@ -71,6 +80,7 @@ class MyImageObject {
     std::uint64_t m_File_End_Sector = 0;
     QString m_type;
     CarvedRun m_carved;
+    SectorRun m_published;
 };
 
 }  // namespace vantor

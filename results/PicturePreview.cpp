@@ -179,7 +179,7 @@ QImage framedAsDocument(const QImage& picture, QSize largest) {
 
 FileTypeIcons::FileTypeIcons() : m_general(ownIcon(ownIconName(FileKind::Other))) {}
 
-void FileTypeIcons::prepare(const QString& extension) {
+void FileTypeIcons::prepare(const QString& extension, FileKind kind) {
     if (m_byExtension.contains(extension)) {
         return;
     }
@@ -189,7 +189,7 @@ void FileTypeIcons::prepare(const QString& extension) {
         icon = QIcon::fromTheme(mime.iconName());
     }
     if (icon.isNull() || icon.availableSizes().isEmpty()) {
-        icon = ownIcon(ownIconName(kindOfExtension(extension)));
+        icon = ownIcon(ownIconName(kind));
     }
     m_byExtension.insert(extension, icon);
 }

@@ -18,11 +18,14 @@ QImage readPicture(const QString& file, QSize largest);
 // The picture on a sheet of paper with a margin and a shadow, no larger than `largest`.
 QImage framedAsDocument(const QImage& picture, QSize largest);
 
+// What kind of thing a file of the type holds.
+enum class FileKind { Document, Archive, Sound, Picture, Video, Other };
+
 // Icons by file extension: the desktop's, or one of the program's own by kind.
 class FileTypeIcons {
   public:
-    // Looks the icon up; interface thread only.
-    void prepare(const QString& extension);
+    // Looks the icon up, of that kind where the desktop has none for the type; interface thread only.
+    void prepare(const QString& extension, FileKind kind);
     // Any thread, while nobody prepares; an extension that was not prepared has the general icon.
     QIcon icon(const QString& extension) const;
 
@@ -33,8 +36,6 @@ class FileTypeIcons {
     QHash<QString, QIcon> m_byExtension;
 };
 
-// What kind of thing a file of the type holds.
-enum class FileKind { Document, Archive, Sound, Picture, Video, Other };
 FileKind kindOfExtension(const QString& extension);
 // Whether files of the type are plain text, markup and source code included.
 bool isTextExtension(const QString& extension);

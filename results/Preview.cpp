@@ -75,7 +75,8 @@ void MyTableController::CreateFile_QuickLook_View(const QVariantList& item) {
         QuickLook_Preview_Thread(path);
     }
     session = false;
-    if (stop_now == 1 && stop_screen_already_show == 0) {
+    // A scan that still runs shows its end itself, once it has let the medium go.
+    if (stop_now == 1 && stop_screen_already_show == 0 && !scanRunning()) {
         Final_or_Stop_Screen();
     }
 }
@@ -155,8 +156,7 @@ void MyTableController::Image_Preview(const QString& file, const QString& file_N
         return;
     }
     const QString extension = pathExtension(file);
-    m_previewIcons.prepare(extension);
-    QPixmap icon = m_previewIcons.icon(extension).pixmap(kPreviewSize);
+    QPixmap icon = iconForFileType(extension).pixmap(kPreviewSize);
     // The desktop's icons may end at a smaller size.
     if (!icon.isNull() && icon.size() != kPreviewSize) {
         icon = icon.scaled(kPreviewSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
@@ -167,6 +167,7 @@ void MyTableController::Image_Preview(const QString& file, const QString& file_N
 void MyTableController::showPicture(const QPixmap& picture, const QString& title) {
     _QuickLook_View_Box->setTitle(title);
     _QuickLook_View->setPixmap(picture);
+    _QuickLook_View->setAccessibleName(tr("Preview of %1").arg(title));
 }
 
 }  // namespace vantor

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include "results/FileManager.h"
 #include "results/PreviewCopy.h"
 #include "results/ResultRow.h"
 
@@ -20,6 +21,13 @@ bool isPreviewName(const QString& name) {
     return (extension.isEmpty() ? name : name.chopped(extension.size() + 1)) == kPreviewName;
 }
 
+void removeIfDeletable(const QString& path) {
+    const FileManager& fileManager = FileManager::defaultManager();
+    if (fileManager.isDeletableFileAtPath(path)) {
+        fileManager.removeItemAtPath(path);
+    }
+}
+
 }  // namespace
 
 PreviewFileResult makePreviewFile(const PreviewFileRequest& request, const std::atomic<int>& stop_now) {
@@ -29,9 +37,7 @@ PreviewFileResult makePreviewFile(const PreviewFileRequest& request, const std::
         return result;
     }
     result.mediumOpened = true;
-    if (!request.previousFile.isEmpty()) {
-        QFile::remove(request.previousFile);
-    }
+    removeIfDeletable(request.previousFile);
     QFile file(request.newFile);
     if (!file.open(QIODevice::ReadWrite | QIODevice::Truncate)) {
         return result;
@@ -65,10 +71,10 @@ void deletePreviewFiles(const QString& folder) {
     if (!QFileInfo(folder).isDir()) {
         return;
     }
-    QDir directory(folder);
+    const QDir directory(folder);
     for (const QString& name : directory.entryList(QDir::Files | QDir::Hidden | QDir::System)) {
         if (isPreviewName(name)) {
-            directory.remove(name);
+            removeIfDeletable(directory.filePath(name));
         }
     }
 }

@@ -2,53 +2,88 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 #include <atomic>
 #include <functional>
 #include <memory>
+#include <mutex>
+#include <optional>
 #include <vector>
 
 #include "media/SectorReader.h"
+#include "media/WatchedReader.h"
+#include "results/RecoveryReport.h"
+#include "results/SaveTally.h"
 
 namespace vantor {
 
 class MyImageObject;
 
-struct SaveRequest {
-    std::vector<std::shared_ptr<MyImageObject>> items;
-    QString destination;
-    std::function<std::unique_ptr<SectorReader>()> openMedium;
+struct ChosenItem {
+    std::size_t index = 0;  // in the list of found items
+    std::shared_ptr<const MyImageObject> item;
 };
 
-// What became of the items.
+struct SaveRequest {
+    std::vector<ChosenItem> items;
+    std::shared_ptr<const ItemSaver> saver;
+    std::function<std::unique_ptr<SectorReader>()> openMedium;
+    // Written behind the last item; none when absent.
+    std::optional<ReportHead> report;
+    QString destination;     // of the report
+    QByteArray placeholder;  // the picture of items without a thumbnail, which the report leaves out
+};
+
+// What became of the items, in the order of the request; those behind a cancel are absent.
 struct SaveReport {
     bool mediumOpened = false;
-    std::vector<std::shared_ptr<MyImageObject>> saved;
-    std::size_t withUnreadableSectors = 0;  // of the saved ones
-    std::size_t duplicates = 0;             // of the saved ones: the bytes of another, written once
-    std::size_t failed = 0;
-    QString firstError;  // of the failed ones
+    SaveTally tally;
+    std::vector<std::size_t> indexes;
+    std::vector<ReportedItem> items;
+    WrittenReport written;
 };
 
-// run() belongs to one thread; the words may be read and set by any other meanwhile.
+// How far a job is.
+struct SaveProgress {
+    std::size_t done = 0;     // items
+    QString current;          // name of the item at hand
+    std::uint64_t share = 0;  // of total(), in sectors of the items as they were found
+};
+
+// run() belongs to one thread; everything else may be used by any other meanwhile.
 class SaveJob {
   public:
-    explicit SaveJob(SaveRequest request) : m_request(std::move(request)) {}
+    explicit SaveJob(SaveRequest request);
 
-    // Ends after the item at hand once cancelled.
     void run();
 
-    std::size_t total() const { return m_request.items.size(); }
-    std::atomic<std::size_t> done{0};
-    std::atomic<bool> cancelled{false};
-    std::atomic<bool> finished{false};
+    // The item at hand is given up at once, unless the medium keeps it waiting; nothing of it stays behind.
+    void cancel();
+    bool isCancelled() const { return m_watch.ended; }
+    bool isFinished() const { return m_finished; }
+
+    std::size_t count() const { return m_request.items.size(); }
+    std::uint64_t total() const { return m_total; }
+    SaveProgress progress() const;
 
     // Once finished.
     const SaveReport& report() const { return m_report; }
 
   private:
+    void saveAll(SectorReader& medium);
+    void writeTheReport();
+
     SaveRequest m_request;
     SaveReport m_report;
+    std::uint64_t m_total = 0;
+    ReadWatch m_watch;
+    std::atomic<bool> m_finished{false};
+    std::atomic<std::uint64_t> m_sectorsOfCurrent{0};
+
+    mutable std::mutex m_lock;
+    SaveProgress m_progress;  // up to the item at hand
 };
+
+// What is found as one run of sectors, for the estimates before and while it is saved.
+std::uint64_t foundSectors(const MyImageObject& item);
 
 }  // namespace vantor

@@ -13,6 +13,8 @@ struct SavePolicy {
     std::uint32_t minPixels = 0;  // pictures whose longer side has fewer pixels are left out
     bool checksums = true;        // a checksum of every file, as the report tells it
     bool skipUnsound = false;     // what is certainly no file of its type is left out
+
+    friend bool operator==(const SavePolicy&, const SavePolicy&) = default;
 };
 
 }  // namespace vantor

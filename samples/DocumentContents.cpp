@@ -1,8 +1,10 @@
 // One document and one archive of each kind.
 #include "samples/Archives.h"
 #include "samples/CardContents.h"
+#include "samples/DataFiles.h"
 #include "samples/Deflate.h"
 #include "samples/Documents.h"
+#include "samples/ListedTexts.h"
 #include "samples/Scenes.h"
 
 namespace vantor::samples {
@@ -41,6 +43,11 @@ void addDocuments(std::vector<CardFile>& files) {
     add(files, kFolder, "LETTER.EML", emlFile());
     add(files, kFolder, "PLACES.SQLITE", sqliteFile(), Gap::Noise, 2);
     add(files, kFolder, "PLACES.DBF", dbfFile());
+    for (const auto& texts : {listedTexts(), drawnTexts(), markedUpTexts()})
+        for (const TextSpecimen& text : texts)
+            add(files, kFolder, text.name, text.bytes);
+    add(files, kFolder, "SQUARES.NPY", npyFile());
+    add(files, kFolder, "PLACES.SHP", shapeFile());
 }
 
 void addArchives(std::vector<CardFile>& files) {
@@ -56,6 +63,17 @@ void addArchives(std::vector<CardFile>& files) {
     add(files, kFolder, "NOTES.CAB", cabFile(members));
     add(files, kFolder, "NOTES.AR", arFile(members));
     add(files, kFolder, "NOTES.CPIO", cpioFile(members));
+    add(files, kFolder, "NOTES.LZ4", lz4File(textFile()), Gap::Zeros, 1);
+    add(files, kFolder, "NOTES.ZST", zstdFile(textFile()));
+    add(files, kFolder, "NOTES.LZH", lhaFile(members));
+    add(files, kFolder, "NOTES.DEB", debFile(members));
+    add(files, kFolder, "NOTES.JAR",
+        zipFile({{"META-INF/MANIFEST.MF", "Manifest-Version: 1.0\n"}, members[0]}));
+    add(files, kFolder, "PLACES.KMZ", zipFile({{"doc.kml", kmlFile()}}));
+    add(files, kFolder, "PAGES.WARC", warcFile());
+    add(files, kFolder, "NOTES.TORRENT", torrentFile());
+    add(files, kFolder, "QUIET.PCAP", pcapFile());
+    add(files, kFolder, "ANSWER.WASM", wasmFile(), Gap::Noise, 1);
 }
 
 }  // namespace vantor::samples

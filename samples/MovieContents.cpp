@@ -51,6 +51,11 @@ void addMovies(std::vector<CardFile>& files) {
     add("MOV_0007.TS", transportStreamFile(boat, kFramesPerSecond, PacketSize::Plain188));
     add("MOV_0008.MKV", mkvFile(boat, kFramesPerSecond));
     add("MOV_0009.FLV", flvFile(boat, kFramesPerSecond), Gap::Noise, 1);
+    add("MOV_0010.3G2", mp4File(boat, kFramesPerSecond, Mp4Brand::ThreeG2));
+    add("MOV_0011.F4V", mp4File(boat, kFramesPerSecond, Mp4Brand::F4v));
+    add("MOV_0012.H264", h264File(boat), Gap::Zeros, 1);
+    add("MOV_0013.Y4M",
+        y4mFile({sunsetAt(96, 72, 40, 40), sunsetAt(96, 72, 120, 120), sunsetAt(96, 72, 200, 200)}));
 }
 
 }  // namespace vantor::samples

@@ -41,6 +41,21 @@ void addPictures(std::vector<CardFile>& files) {
     add("CITY.MPO", mpoFile(paint("citySkyline", 640, 480), paint("citySkyline", 640, 480)));
     add("MOON.ICNS", icnsFile(paint("moonDesert", 256, 256)));
     add("SUNSET.APNG", animatedPngFile(sunset), Gap::Noise, 2);
+    add("CLIFF.CUR", curFile(scaledDown(paint("lighthouse", 256, 256), 32, 32)));
+    add("DAISIES.PSB", psbFile(paint("daisies", 200, 150)));
+    add("RIDGES.PBM", pbmFile(paint("pinkRidges", 400, 300)));
+    add("BEACH.PAM", pamFile(paint("palmBeach", 200, 150)));
+    add("DUNES.PFM", pfmFile(paint("dunes", 160, 120)));
+    add("AURORA.HDR", radianceFile(paint("aurora", 200, 150)));
+    add("MOON.FITS", fitsFile(paint("moonDesert", 240, 180)), Gap::Zeros, 1);
+    add("MEADOW.RAS", sunRasterFile(paint("meadow", 200, 150)));
+    add("TULIPS.DDS", ddsFile(paint("tulipRows", 128, 128)));
+    add("LAKE.KTX", ktxFile(paint("alpineLake", 128, 128)));
+    add("FISHES.LBM", lbmFile(paint("underWater", 160, 128)));
+    add("COSMOS.DPX", dpxFile(paint("pinkCosmos", 200, 150)));
+    add("CABIN.MIFF", miffFile(paint("winterCabin", 160, 120)));
+    add("SAIL.JNG", jngFile(sunsetAt(400, 300, 150, 90)));
+    add("FOREST.DCX", dcxFile({paint("mistyForest", 160, 120), paint("balloons", 160, 120)}));
 }
 
 }  // namespace vantor::samples

@@ -25,7 +25,22 @@ QByteArray psdFile(const Picture& picture);             // one flattened layer, 
 QByteArray icoFile(const std::vector<Picture>& sizes);  // 32-bit bitmaps
 QByteArray webpFile(const Picture& picture);            // lossless, literals only
 QByteArray xpmFile(const Picture& picture);
-QByteArray icnsFile(const Picture& picture256);  // one PNG of 256 × 256
+QByteArray icnsFile(const Picture& picture256);    // one PNG of 256 × 256
+QByteArray curFile(const Picture& picture);        // a cursor of one size, 32-bit
+QByteArray psbFile(const Picture& picture);        // as the PSD, in the large form
+QByteArray pbmFile(const Picture& picture);        // P4
+QByteArray pamFile(const Picture& picture);        // P7
+QByteArray pfmFile(const Picture& picture);        // PF, little-endian floats
+QByteArray radianceFile(const Picture& picture);   // HDR without run lengths
+QByteArray fitsFile(const Picture& picture);       // FITS 4.0, grey bytes
+QByteArray sunRasterFile(const Picture& picture);  // RAS, 24 bits
+QByteArray ddsFile(const Picture& picture);        // DirectDraw surface, 24 bits
+QByteArray ktxFile(const Picture& picture);        // KTX 1, one level; rows of whole words
+QByteArray lbmFile(const Picture& picture);        // Amiga ILBM, 24 planes
+QByteArray dpxFile(const Picture& picture);        // SMPTE ST 268, 8 bits
+QByteArray miffFile(const Picture& picture);
+QByteArray jngFile(const Picture& picture);             // a JPEG in PNG's chunks
+QByteArray dcxFile(const std::vector<Picture>& pages);  // PCX pages
 // Several JPEG files in one, indexed by the first (CIPA DC-007).
 QByteArray mpoFile(const Picture& left, const Picture& right);
 

@@ -41,6 +41,16 @@ QByteArray netpbmHeader(const char* magic, const Picture& picture) {
            QByteArray::number(picture.height) + "\n255\n";
 }
 
+QByteArray planes(const Picture& picture) {
+    return plane(picture, 0) + plane(picture, 1) + plane(picture, 2);
+}
+
+QByteArray photoshopHeader(int version, const Picture& picture) {
+    Bytes out;
+    out.text("8BPS").be16(size(version)).zeros(6).be16(3);
+    return out.be32(size(picture.height)).be32(size(picture.width)).be16(8).be16(3).bytes();
+}
+
 QByteArray pcxRow(const QByteArray& row) {
     Bytes out;
     for (qsizetype i = 0; i < row.size();) {
@@ -146,19 +156,21 @@ QByteArray sgiFile(const Picture& picture) {
 }
 
 QByteArray psdFile(const Picture& picture) {
+    // No colour table, resources or layers; uncompressed.
+    return photoshopHeader(1, picture) + QByteArray(4 + 4 + 4 + 2, '\0') + planes(picture);
+}
+
+QByteArray psbFile(const Picture& picture) {
+    // The same, but the length of the layers has eight bytes.
+    return photoshopHeader(2, picture) + QByteArray(4 + 4 + 8 + 2, '\0') + planes(picture);
+}
+
+QByteArray curFile(const Picture& picture) {
+    const QByteArray bitmap = iconBitmap(picture);
     Bytes out;
-    out.text("8BPS")
-        .be16(1)
-        .zeros(6)
-        .be16(3)
-        .be32(size(picture.height))
-        .be32(size(picture.width))
-        .be16(8)
-        .be16(3);
-    out.be32(0).be32(0).be32(0).be16(0);  // no colour table, resources or layers; uncompressed
-    for (int channel = 0; channel < 3; ++channel)
-        out.raw(plane(picture, channel));
-    return out.bytes();
+    out.le16(0).le16(2).le16(1).u8(size(picture.width)).u8(size(picture.height)).u8(0).u8(0);
+    out.le16(0).le16(0);  // the point that points
+    return out.le32(static_cast<std::uint64_t>(bitmap.size())).le32(6 + 16).raw(bitmap).bytes();
 }
 
 QByteArray icoFile(const std::vector<Picture>& sizes) {

@@ -222,6 +222,10 @@ QByteArray mp4File(const H264Video& video, int framesPerSecond, Mp4Brand brand) 
     Bytes brands;
     if (brand == Mp4Brand::ThreeGp)
         brands.text("3gp5").be32(0x100).text("3gp5").text("isom");
+    else if (brand == Mp4Brand::ThreeG2)
+        brands.text("3g2a").be32(0x10000).text("3g2a").text("isom");
+    else if (brand == Mp4Brand::F4v)
+        brands.text("f4v ").be32(0).text("isom").text("mp42");
     else if (brand == Mp4Brand::M4v)
         brands.text("M4V ").be32(1).text("M4V ").text("mp42").text("isom");
     else

@@ -28,6 +28,13 @@ QByteArray aacFile(int frames);  // ADTS frames of silence
 QByteArray amrFile(int frames);  // frames of zeros at the lowest rate
 QByteArray midiFile();           // the tune as notes
 
+QByteArray rf64File(const Sound& sound);        // EBU Tech 3306
+QByteArray w64File(const Sound& sound);         // Sony's wave of 64-bit sizes
+QByteArray amigaSoundFile(const Sound& sound);  // 8SVX, 8 bits
+QByteArray sphereFile(const Sound& sound);      // NIST SPHERE, PCM
+QByteArray rmiFile();                           // the notes in RIFF
+QByteArray wideAmrFile(int frames);             // AMR-WB frames of zeros at the lowest rate
+
 // The notes of the tune: MIDI note numbers, 0 for a rest, each `kTenthsPerNote` long.
 const std::vector<int>& tuneNotes();
 constexpr int kTenthsPerNote = 2;

@@ -23,6 +23,12 @@ void addSounds(std::vector<CardFile>& files) {
     add("SILENCE.AAC", aacFile(200));
     add("SILENCE.AMR", amrFile(150));
     add("TUNE.MID", midiFile());
+    add("TUNE.RF64", rf64File(small), Gap::Zeros, 1);
+    add("TUNE.W64", w64File(small));
+    add("TUNE.8SVX", amigaSoundFile(small));
+    add("TUNE.SPH", sphereFile(small));
+    add("TUNE.RMI", rmiFile());
+    add("SILENCE.AWB", wideAmrFile(150));
 }
 
 }  // namespace vantor::samples

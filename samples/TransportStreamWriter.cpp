@@ -11,6 +11,7 @@ namespace {
 
 constexpr int kPacket = 188;
 constexpr int kHeader = 4;
+constexpr int kSelectionPid = 0x1F;
 constexpr int kProgramPid = 0x100;
 constexpr int kVideoPid = 0x1011;
 constexpr std::int64_t kTicks = 90000;  // a second
@@ -85,7 +86,9 @@ QByteArray transportStreamFile(const H264Video& video, int framesPerSecond, Pack
     int tableCounter = 0;
     int programCounter = 0;
     int videoCounter = 0;
-    const QByteArray programs = Bytes().be16(1).be16(0xE000 | kProgramPid).bytes();
+    // Camcorders name the place of the selection table before their one program.
+    const QByteArray programs =
+        Bytes().be16(0).be16(0xE000 | kSelectionPid).be16(1).be16(0xE000 | kProgramPid).bytes();
     const QByteArray streams =
         Bytes().be16(0xE000 | kVideoPid).be16(0xF000).u8(kH264).be16(0xE000 | kVideoPid).be16(0xF000).bytes();
     std::int64_t time = kTicks;

@@ -1,4 +1,4 @@
-// Smoothing and wording of a scan's speed.
+// Samples and wording of a speed.
 #include "scan/ScanMeter.h"
 
 #include <QLocale>
@@ -6,16 +6,14 @@
 #include <QStringList>
 #include <cmath>
 
-#include "media/SectorReader.h"
-
 namespace vantor {
 
 namespace {
 
 constexpr std::int64_t kShortestSample = 500;  // milliseconds
-constexpr double kNewShare = 0.3;              // of a sample in the smoothed speed
 constexpr double kMinute = 60;
 constexpr double kHour = 60 * kMinute;
+const QString kBetween = QStringLiteral("   ·   ");
 
 QString timeLeft(double seconds) {
     if (seconds < 10) {
@@ -38,41 +36,44 @@ void ScanMeter::begin(std::uint64_t sectors) {
 }
 
 void ScanMeter::update(std::int64_t milliseconds, std::uint64_t done) {
-    if (m_since < 0 || done < m_done) {
-        m_since = milliseconds;
-        m_done = done;
+    if (m_since >= 0 && done >= m_done && milliseconds - m_since < kShortestSample) {
         return;
     }
-    const std::int64_t passed = milliseconds - m_since;
-    if (passed < kShortestSample) {
-        return;
-    }
-    const double speed =
-        static_cast<double>((done - m_done) * kSectorBytes) * 1000.0 / static_cast<double>(passed);
-    m_speed = m_speed ? *m_speed * (1 - kNewShare) + speed * kNewShare : speed;
     m_since = milliseconds;
     m_done = done;
+    m_speed.note(SpeedMeter::Clock::time_point(std::chrono::milliseconds(milliseconds)), done);
+}
+
+std::optional<double> ScanMeter::bytesPerSecond() const {
+    const double speed = m_speed.bytesPerSecond();
+    return speed >= 1 ? std::optional(speed) : std::nullopt;
 }
 
 std::optional<double> ScanMeter::secondsLeft() const {
-    if (!m_speed || *m_speed < 1 || m_done > m_sectors) {
+    if (!bytesPerSecond() || m_done > m_sectors) {
         return std::nullopt;
     }
-    return static_cast<double>((m_sectors - m_done) * kSectorBytes) / *m_speed;
+    return m_speed.secondsFor(m_sectors - m_done);
 }
 
-QString ScanMeter::text(std::uint64_t itemsFound) const {
+QString ScanMeter::speedAndTimeLeft() const {
     QStringList parts;
-    if (m_speed) {
+    if (const auto speed = bytesPerSecond()) {
         parts << QObject::tr("%1/s").arg(
-            QLocale().formattedDataSize(static_cast<qint64>(*m_speed), 0, QLocale::DataSizeSIFormat));
+            QLocale().formattedDataSize(static_cast<qint64>(*speed), 0, QLocale::DataSizeSIFormat));
     }
     if (const auto left = secondsLeft()) {
         parts << timeLeft(*left);
     }
-    parts << (itemsFound == 1 ? QObject::tr("1 item found")
-                              : QObject::tr("%1 items found").arg(QLocale().toString(itemsFound)));
-    return parts.join(QStringLiteral("   ·   "));
+    return parts.join(kBetween);
+}
+
+QString ScanMeter::text(std::uint64_t itemsFound) const {
+    const QString found = itemsFound == 1
+                              ? QObject::tr("1 item found")
+                              : QObject::tr("%1 items found").arg(QLocale().toString(qulonglong{itemsFound}));
+    const QString speed = speedAndTimeLeft();
+    return speed.isEmpty() ? found : speed + kBetween + found;
 }
 
 }  // namespace vantor

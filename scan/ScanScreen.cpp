@@ -134,7 +134,7 @@ void MyTableController::scrollBrowserTo(ControlSet set, qsizetype index) {
 
 QIcon MyTableController::iconForFileType(const QString& extension) {
     if (onOwnThread() && !scanRunning()) {
-        m_icons.prepare(extension);
+        m_icons.prepare(extension, kindOfExtension(extension));
     }
     return m_icons.icon(extension);
 }
@@ -180,8 +180,9 @@ void MyTableController::returnFromScanScreen(ControlSet set) {
 }
 
 void MyTableController::hideScanProgress() {
-    for (QWidget* widget : std::initializer_list<QWidget*>{_Mode_label, _Progress_Horz, _sector_label,
-                                                           _stop_scan, scanFactsLabel, scanStrip}) {
+    for (QWidget* widget :
+         std::initializer_list<QWidget*>{clearingLabel, _Mode_label, _Progress_Horz, _sector_label,
+                                         _stop_scan, scanFactsLabel, scanStrip}) {
         widget->hide();
     }
     if (pFile_op) {

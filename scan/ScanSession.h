@@ -176,6 +176,9 @@ class ScanSession {
     // empty. Any one thread at a time.
     void addThumbnail(const QByteArray& thumbnail, const QString& imageName, const QString& image_UID,
                       const HandOver& from);
+    // Gives the listed item of the place and UID its thumbnail; nothing when it is no longer there. Any
+    // thread.
+    void replaceThumbnail(std::size_t index, const QString& image_UID, const QByteArray& thumbnail);
     // The chosen medium (of the control set of the mode), opened afresh at sector 0; null when it cannot be
     // opened.
     std::unique_ptr<SectorReader> openMedium() const;

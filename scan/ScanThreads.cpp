@@ -1,6 +1,7 @@
 // Start, ticks, stop and end of the two threads of a scan.
 
 #include "app/MyTableController.h"
+#include "catalogue/SignatureRecord.h"
 #include "results/RecoveryMode.h"
 
 namespace vantor {
@@ -16,8 +17,15 @@ void MyTableController::startScan(void (ScanSession::*driver)()) {
     prepareIcons();
     setEmptyStates();
     m_inputs = readInputs();
-    m_saved.clear();
+    if (m_thumbnails) {
+        m_thumbnails->cancel();
+        m_thumbnails->resume();
+    }
+    forgetSaved();
+    beginLooks();
+    resetAddedItemCount();
     m_clock.start();
+    m_scanBegun = QDateTime::currentDateTime();
     mSetLabelTimer = std::make_shared<ScanTimer>();
     m_driverRunning = true;
     m_timerRunning = true;
@@ -41,6 +49,17 @@ void MyTableController::startTimerThread() {
 
 void MyTableController::stop_usb_disk(QObject*) {
     stop_now = 1;
+}
+
+// Beside the word for the scan: nobody waits for thumbnails that are still being made.
+void MyTableController::clearWaitingThumbnails() {
+    if (!scanRunning()) {
+        return;
+    }
+    clearingLabel->show();
+    if (m_thumbnails) {
+        m_thumbnails->hurry();
+    }
 }
 
 // A batch: what the scan has for the views, then its steps one by one.
@@ -127,8 +146,12 @@ void MyTableController::showScanFacts() {
 // Looked up here, where icons may be made; the scan only copies them.
 void MyTableController::prepareIcons() {
     for (const QStringList* records : {&CheckListHeader_Array, &CheckListHeader_Adv_Array}) {
-        for (qsizetype n = 0; n < records->size(); n += 7) {
-            m_icons.prepare(pathExtension(QStringLiteral("x.") + records->at(n)));
+        for (qsizetype n = 0; n < recordCount(*records); ++n) {
+            const QString extension =
+                pathExtension(QStringLiteral("x.") + recordField(*records, n, Ext_Name));
+            const FileKind kind = kindOfType(extension, recordField(*records, n, Ext_Descp));
+            const bool isMovie = kind == FileKind::Other && Recovery_MODE == kVideoMode;
+            m_icons.prepare(extension, isMovie ? FileKind::Video : kind);
         }
     }
 }

@@ -46,9 +46,16 @@ void ScanSession::addThumbnail(const QByteArray& thumbnail, const QString& image
                                const QString& image_UID, const HandOver& from) {
     auto item = MyImageObject::initWithImage_data(thumbnail.isEmpty() ? Null_Image_Data : thumbnail,
                                                   imageName, image_UID);
-    item->setOrigin(from.type, from.carved);
+    item->setOrigin(from.type, from.carved, {from.firstSector, from.firstSector + from.bytes / kSectorBytes});
     appendItem(std::move(item));
     pacePhotoBrowser();
+}
+
+void ScanSession::replaceThumbnail(std::size_t index, const QString& image_UID, const QByteArray& thumbnail) {
+    const std::lock_guard lock(m_listLock);
+    if (index < images.size() && images[index]->imageUID() == image_UID && !thumbnail.isEmpty()) {
+        images[index] = images[index]->withImageData(thumbnail);
+    }
 }
 
 void ScanSession::addImageWithPath(const QString& path, const QString& imageName, const QString& image_UID) {
@@ -78,7 +85,7 @@ void ScanSession::addImageWithData_2(const QByteArray&, const QString& imageName
     }
     auto item = MyImageObject::initWithImage(m_view.iconForFileType(pathExtension(name)), name, image_UID,
                                              File_Start_Sec, File_End_Sec);
-    item->setOrigin(m_handOver.type, m_handOver.carved);
+    item->setOrigin(m_handOver.type, m_handOver.carved, {File_Start_Sec, File_End_Sec});
     addRawItem(std::move(item), name, name);
 }
 

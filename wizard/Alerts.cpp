@@ -2,6 +2,7 @@
 #include "wizard/Alerts.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -12,6 +13,8 @@ namespace vantor {
 namespace {
 
 constexpr int kPictureEdge = 40;
+// So many fit into a line of the smaller text, however short the headline.
+constexpr int kLineCharacters = 56;
 
 const QString kYes = QStringLiteral("Yes");
 const QString kNo = QStringLiteral("No");
@@ -23,8 +26,9 @@ qsizetype runAlert(const Alert& alert, QWidget* over) {
     box.setWindowModality(Qt::ApplicationModal);
     box.setWindowTitle(QApplication::applicationDisplayName());
     box.setTextFormat(Qt::PlainText);
-    box.setIconPixmap(ownIcon(alert.buttons.size() > 1 ? QStringLiteral("question") : QStringLiteral("info"))
-                          .pixmap(kPictureEdge, kPictureEdge));
+    const QString byForm = alert.buttons.size() > 1 ? QStringLiteral("question") : QStringLiteral("info");
+    box.setIconPixmap(
+        ownIcon(alert.picture.isEmpty() ? byForm : alert.picture).pixmap(kPictureEdge, kPictureEdge));
     box.setText(alert.message);
     box.setInformativeText(alert.informative);
     box.setAccessibleName(alert.message.trimmed());
@@ -36,6 +40,11 @@ qsizetype runAlert(const Alert& alert, QWidget* over) {
     }
     box.setDefaultButton(qobject_cast<QPushButton*>(buttons.at(alert.defaultButton)));
     box.setEscapeButton(buttons.constLast());
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout());
+        grid != nullptr && !alert.informative.isEmpty()) {
+        grid->addItem(new QSpacerItem(kLineCharacters * box.fontMetrics().averageCharWidth(), 0),
+                      grid->rowCount(), 0, 1, grid->columnCount());
+    }
     box.exec();
     return buttons.indexOf(box.clickedButton());
 }

@@ -23,6 +23,7 @@ struct Alert {
     QString informative = QStringLiteral("");
     QStringList buttons = {QStringLiteral("OK")};
     qsizetype defaultButton = 0;
+    QString picture = {};  // name of an icon; by default that of a message or a question
 };
 qsizetype runAlert(const Alert& alert, QWidget* over = nullptr);
 

@@ -49,29 +49,73 @@ void ListTable::setEmptyState(const QIcon& picture, const QString& title, const 
     m_emptyPicture = picture;
     m_emptyTitle = title;
     m_emptyAdvice = advice;
-    setAccessibleDescription(title + u' ' + advice);
+    describeState();
     viewport()->update();
+}
+
+QSize ListTable::sizeHint() const {
+    constexpr int kRows = 4;  // the header included
+    return {QTableView::sizeHint().width(), kRows * kRowHeight};
+}
+
+void ListTable::setModel(QAbstractItemModel* model) {
+    QTableView::setModel(model);
+    connect(model, &QAbstractItemModel::modelReset, this, &ListTable::describeState);
+    describeState();
+}
+
+// The state is read out as long as it lasts, and no longer.
+void ListTable::describeState() {
+    setAccessibleDescription(firstRowInView() < 0 ? m_emptyTitle + u' ' + m_emptyAdvice : QString());
+}
+
+int ListTable::firstRowInView() const {
+    const int rows = model() != nullptr ? model()->rowCount() : 0;
+    for (int row = 0; row < rows; ++row) {
+        if (!isRowHidden(row)) {
+            return row;
+        }
+    }
+    return -1;
+}
+
+bool ListTable::currentRowInView() const {
+    return currentIndex().isValid() && !isRowHidden(currentIndex().row());
 }
 
 void ListTable::paintEvent(QPaintEvent* event) {
     QTableView::paintEvent(event);
-    if (model() != nullptr && model()->rowCount() == 0) {
+    if (firstRowInView() < 0) {
         paintEmptyState(viewport(), m_emptyPicture, m_emptyTitle, m_emptyAdvice);
     }
 }
 
 void ListTable::keyPressEvent(QKeyEvent* event) {
     const bool moves = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
-    if (moves && model()->rowCount() > 0 && !selectionModel()->hasSelection()) {
+    if (moves && (!currentRowInView() || !selectionModel()->hasSelection())) {
         // The first arrow key chooses the row at hand instead of passing it over.
-        setCurrentIndex(currentIndex().isValid() ? currentIndex() : model()->index(0, 0));
-        selectRow(currentIndex().row());
+        const int row = currentRowInView() ? currentIndex().row() : firstRowInView();
+        setCurrentIndex(model()->index(row, 0));
+        selectRow(row);
+        return;
+    }
+    if (event->key() == Qt::Key_Space && tickCurrentRow()) {
+        emit tickedByKeyboard();
         return;
     }
     QTableView::keyPressEvent(event);
-    if (event->key() == Qt::Key_Space) {
-        emit tickedByKeyboard();
+}
+
+// The box of the row, whichever of its cells is the current one; false when the row has none.
+bool ListTable::tickCurrentRow() {
+    for (int column = 0; currentRowInView() && column < model()->columnCount(); ++column) {
+        const QModelIndex cell = model()->index(currentIndex().row(), column);
+        if (cell.flags().testFlag(Qt::ItemIsUserCheckable)) {
+            const bool ticked = cell.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+            return model()->setData(cell, ticked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+        }
     }
+    return false;
 }
 
 }  // namespace vantor

@@ -11,11 +11,14 @@ class ListTable : public QTableView {
   public:
     explicit ListTable(QWidget* parent = nullptr);
 
-    // Shown in the middle of the table while it has no rows; also read out.
+    // Few rows: it takes whatever room there is, and asks for little.
+    QSize sizeHint() const override;
+    void setModel(QAbstractItemModel* model) override;
+    // Shown in the middle of the table while no row is in view; also read out then.
     void setEmptyState(const QIcon& picture, const QString& title, const QString& advice);
 
   signals:
-    // Space was pressed; a tick box under it has changed already.
+    // Space was pressed; the tick box of the row has changed already.
     void tickedByKeyboard();
 
   protected:
@@ -23,6 +26,11 @@ class ListTable : public QTableView {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    int firstRowInView() const;  // -1 when there is none
+    bool currentRowInView() const;
+    bool tickCurrentRow();
+    void describeState();
+
     QIcon m_emptyPicture;
     QString m_emptyTitle, m_emptyAdvice;
 };

@@ -34,7 +34,7 @@ void MyTableController::browseForDestination() {
     if (m_browseInfo->runModalForWindow() != kChosen) {
         return;
     }
-    auto* chooser = new QFileDialog(window, tr("Choose the destination folder"), _path->text());
+    auto* chooser = new QFileDialog(window, tr("Choose the destination folder"), pathInView()->text());
     dressFolderChooser(*chooser);
     chooser->setAttribute(Qt::WA_DeleteOnClose);
     connect(chooser, &QDialog::finished, this, [this, chooser](int result) {
@@ -50,6 +50,12 @@ void MyTableController::openPanelDidEnd(QFileDialog* panel, int returnCode, void
     if (returnCode == kChosen && !panel->selectedFiles().isEmpty()) {
         acceptDestination(panel->selectedFiles().constFirst());
     }
+}
+
+// The folder that the user sees on the screens of the mode; the other field may hold that of an earlier
+// search.
+QLineEdit* MyTableController::pathInView() const {
+    return activeSet() == ControlSet::Photo ? _path : _path_Sig;
 }
 
 // Both path fields get the folder, unless it lies on the medium that is to be recovered.
@@ -72,7 +78,7 @@ QString MyTableController::askDestination() {
     if (m_browseInfo->runModalForWindow() != kChosen) {
         return {};
     }
-    QFileDialog chooser(window, tr("Choose the destination folder"), _path->text());
+    QFileDialog chooser(window, tr("Choose the destination folder"), pathInView()->text());
     dressFolderChooser(chooser);
     if (chooser.exec() != QDialog::Accepted || chooser.selectedFiles().isEmpty()) {
         return {};
@@ -82,8 +88,8 @@ QString MyTableController::askDestination() {
 }
 
 void MyTableController::openDestination() {
-    if (!_path->text().isEmpty()) {
-        m_parts.openDocument(_path->text());
+    if (!pathInView()->text().isEmpty()) {
+        m_parts.openDocument(pathInView()->text());
     }
 }
 

@@ -30,7 +30,10 @@ void fitToWords(QDialog* window) {
     window->ensurePolished();
     const int width = window->minimumWidth();
     window->layout()->activate();
-    window->setFixedSize(width, window->layout()->totalHeightForWidth(width));
+    const QLayout* const layout = window->layout();
+    const int height =
+        layout->hasHeightForWidth() ? layout->totalHeightForWidth(width) : layout->totalSizeHint().height();
+    window->setFixedSize(width, height);
 }
 
 void dressSheet(QDialog* window) {

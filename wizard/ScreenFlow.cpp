@@ -1,4 +1,5 @@
 // The wizard: what Next, Back and the mode radios do on each screen.
+#include <QScrollBar>
 
 #include "app/MyTableController.h"
 #include "results/RecoveryMode.h"
@@ -112,7 +113,6 @@ void MyTableController::nextFromRange() {
     _select_unselect_Chk->setCheckState(Qt::Checked);
     show_hide_2_screen(true);
     stop_now = 0;
-    resetAddedItemCount();
     if (Recovery_MODE == kPhotoMode) {
         show_hide_3_screen_Photo(false);
         _stop_scan->setFocus();
@@ -213,14 +213,16 @@ void MyTableController::backToFileTypes() {
     show_hide_4_screen_RawFile(true);
     show_hide_3_screen_RawFile(false);
     stop_now = 0;
-    m_saved.clear();
+    forgetSaved();
+    endLooks();
     idCheckTableView->setFocus();
 }
 
 // The items go, and the browsers stand as at the start.
 void MyTableController::emptyBrowsers() {
     clearItems();
-    m_saved.clear();
+    forgetSaved();
+    endLooks();
     emptyBrowserViews();
     showItemCounts();
 }
@@ -242,6 +244,20 @@ void MyTableController::showWhereWeAre() {
     }
     stepTrail->setSteps(steps, screen_counter);
     contextBar->setVisible(screen_counter > 0);
+    bodyScroll->verticalScrollBar()->setValue(0);
+    // Once the new screen is laid out.
+    QTimer::singleShot(0, this, [this] {
+        if (window->focusWidget() != nullptr && body->isAncestorOf(window->focusWidget())) {
+            bringIntoView(window->focusWidget());
+        }
+    });
+}
+
+// Lists have scroll bars of their own and stay where they are.
+void MyTableController::bringIntoView(QWidget* widget) {
+    if (qobject_cast<QAbstractItemView*>(widget) == nullptr) {
+        bodyScroll->ensureWidgetVisible(widget);
+    }
 }
 
 }  // namespace vantor

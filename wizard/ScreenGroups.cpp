@@ -68,6 +68,7 @@ void MyTableController::showPreviewPane(bool hide) {
         closemovie_Win();
     } else {
         _QuickLook_View->setText(tr("Select an item to preview it."));
+        _QuickLook_View->setAccessibleName({});
     }
     previewFacts->clear();
 }

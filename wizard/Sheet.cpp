@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QEvent>
+#include <QShortcut>
 
 namespace vantor {
 
@@ -31,14 +32,15 @@ bool SheetSession::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::KeyPress:
         case QEvent::KeyRelease:
         case QEvent::Shortcut:
-        case QEvent::ShortcutOverride:
         case QEvent::Wheel:
         case QEvent::Drop:
             break;
         default:
             return false;
     }
-    const auto* widget = qobject_cast<QWidget*>(watched);
+    // A shortcut stands for the widget that it belongs to.
+    const QObject* target = qobject_cast<QShortcut*>(watched) != nullptr ? watched->parent() : watched;
+    const auto* widget = qobject_cast<const QWidget*>(target);
     if (widget == nullptr || widget->window() != m_over->window()) {
         return false;
     }

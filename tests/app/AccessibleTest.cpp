@@ -3,9 +3,11 @@
 #include <QAbstractItemView>
 #include <QAbstractSlider>
 #include <QAccessible>
+#include <QCheckBox>
 #include <QLineEdit>
 #include <QProgressBar>
 
+#include "results/RecoveryMode.h"
 #include "tests/app/WindowTest.h"
 
 namespace vantor {
@@ -53,6 +55,65 @@ TEST_F(Accessible, EveryPanelToo) {
                                  controller->ClearPreview_Window, controller->LoadDisk_Window}) {
         expectNames(panel);
     }
+}
+
+TEST_F(Accessible, TextsAreReadOutAsTheyStand) {
+    openWithCard();
+    toFileTypes(kRawFileMode);
+    scanToEnd();
+    const auto name = [](QWidget* widget) {
+        return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+    };
+    for (auto* label : controller->window->findChildren<QLabel*>()) {
+        if (!label->text().isEmpty()) {
+            QString read = label->text();
+            if (label->buddy() != nullptr) {
+                read.remove(u'&');  // marks the letter that leads to the label's control
+            }
+            EXPECT_EQ(name(label), read) << label->objectName().toStdString();
+        }
+    }
+    EXPECT_EQ(name(controller->_QuickLook_View_Box), QStringLiteral("No file is selected to preview"));
+    controller->imageBrowser_2->setCurrentIndex(controller->imageBrowser_2->model()->index(0, 0));
+    EXPECT_EQ(name(controller->_QuickLook_View),
+              QStringLiteral("Preview of ") + controller->_QuickLook_View_Box->title());
+}
+
+TEST_F(Accessible, AnEmptyListSaysWhatToDo_AndAFullOneDoesNot) {
+    open();
+    const auto description = [](QWidget* widget) {
+        return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Description);
+    };
+    EXPECT_TRUE(description(controller->idTableView).startsWith(QStringLiteral("No storage media found")));
+    EXPECT_TRUE(description(controller->imageBrowser).startsWith(QStringLiteral("No photos found yet")));
+    source->add(QStringLiteral("sdb1"), QStringLiteral("CARD"), 64);
+    click(controller->refreshButton);
+    EXPECT_EQ(description(controller->idTableView), QString());
+    controller->addImageWithData(QByteArray("junk"), QStringLiteral("A.JPG"), QStringLiteral("u"));
+    EXPECT_EQ(description(controller->imageBrowser), QString());
+}
+
+TEST_F(Accessible, AnActionDoesWhatAClickDoes) {
+    openWithCard();
+    const auto toggle = [](QWidget* widget) {
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget);
+        ASSERT_NE(face->actionInterface(), nullptr);
+        EXPECT_TRUE(
+            face->actionInterface()->actionNames().contains(QAccessibleActionInterface::toggleAction()));
+        face->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    };
+    toggle(controller->_rec_mode_RawFile);
+    EXPECT_EQ(Recovery_MODE, kRawFileMode);
+    toFileTypes(kRawFileMode);
+    QAccessibleInterface* all = QAccessible::queryAccessibleInterface(controller->_select_unselect_Chk);
+    EXPECT_EQ(all->role(), QAccessible::CheckBox);
+    EXPECT_TRUE(all->state().checked);
+    toggle(controller->_select_unselect_Chk);
+    EXPECT_FALSE(all->state().checked);
+    EXPECT_FALSE(isTicked(controller->nsCheckedListDataObject.at(0)));
+    auto* documents = controller->window->findChild<QCheckBox*>(QStringLiteral("typeGroupDocuments"));
+    toggle(documents);
+    EXPECT_EQ(controller->typeCountLabel->text(), QStringLiteral("3 of 4 selected"));
 }
 
 TEST_F(Accessible, RolesAndStatesFollowTheControls) {

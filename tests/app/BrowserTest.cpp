@@ -7,6 +7,7 @@
 #include "results/MyImageObject.h"
 #include "results/RecoveryMode.h"
 #include "tests/app/WindowTest.h"
+#include "wizard/Theme.h"
 
 namespace vantor {
 namespace {
@@ -75,6 +76,29 @@ TEST_F(Browser, EverySixthPhotoScrollsToTheEnd) {
     addPhotos(1);
     QTest::qWait(1);
     EXPECT_TRUE(atEnd(controller->imageBrowser));
+}
+
+TEST_F(Browser, TypesThatOnlyTheCatalogueKnows_HaveTheIconOfTheirKind) {
+    source->add(QStringLiteral("sdb1"), QStringLiteral("EMPTY"), 64);
+    writeCatalogue("ZelVideo.dll", record("Q9Z", "51395A21", "Something"));
+    writeCatalogue("ZelRaw.dll", record("Q8Z", "51385A21", "Tracker music"));
+    open();
+    const auto lastIcon = [this] {
+        return controller->itemAt(static_cast<qsizetype>(controller->itemCount()) - 1)->image();
+    };
+    const auto looks = [](const QIcon& icon) { return icon.pixmap(48).toImage(); };
+    toFileTypes(kVideoMode);
+    scanToEnd();
+    addRaw(QStringLiteral("Q9Z00001.Q9Z"));
+    EXPECT_EQ(looks(lastIcon()), looks(ownIcon(QStringLiteral("type-video"))));
+    answers.press(QStringLiteral("Go Back Without Saving"));
+    click(controller->backButton);
+    click(controller->backButton);
+    click(controller->backButton);
+    toFileTypes(kRawFileMode);
+    scanToEnd();
+    addRaw(QStringLiteral("Q8Z00001.Q8Z"));
+    EXPECT_EQ(looks(lastIcon()), looks(ownIcon(QStringLiteral("type-sound"))));
 }
 
 TEST_F(Browser, EveryFourthRawItemScrollsToTheEnd) {
@@ -165,6 +189,20 @@ TEST_F(Browser, SeveralItemsAreSelectedByKeyboard_AndTypingFindsOne) {
     EXPECT_EQ(browser->selectionIndexes().size(), 30);
     QTest::keyClicks(browser, QStringLiteral("gnd17"));
     EXPECT_EQ(browser->currentIndex().row(), 16);
+}
+
+TEST_F(Browser, WhereTheKeyboardStandsIsSeen) {
+    open();
+    showPhotoScreen();
+    addPhotos(3);
+    QTest::qWait(1);
+    controller->_stop_scan->setFocus();
+    ImageBrowserView* browser = controller->imageBrowser;
+    const QRect cell = browser->visualRect(browser->model()->index(0, 0));
+    const QImage before = browser->viewport()->grab(cell).toImage();
+    browser->setFocus();
+    EXPECT_TRUE(browser->selectionIndexes().isEmpty());
+    EXPECT_NE(browser->viewport()->grab(cell).toImage(), before);
 }
 
 TEST_F(Browser, TheSelectionSurvivesNewItems) {

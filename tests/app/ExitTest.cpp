@@ -3,6 +3,7 @@
 #include <QFileInfo>
 
 #include "results/RecoveryMode.h"
+#include "tests/app/Gate.h"
 #include "tests/app/WindowTest.h"
 
 namespace vantor {
@@ -118,6 +119,26 @@ TEST_F(Exit, WithUnsavedItems_AsksAboutThemFirst) {
     click(controller->exitButton);
     EXPECT_EQ(answers.seen().back().text, kQuestion);
     EXPECT_EQ(terminations, 1);
+}
+
+TEST_F(Exit, DuringAScanToo_AsksAboutUnsavedItemsFirst) {
+    Gate gate;
+    openWithCard();
+    toRange(kPhotoMode);
+    card.beforeRead = [&gate](std::uint64_t read) {
+        if (read == 30) {
+            gate.pass();
+        }
+    };
+    click(controller->nextButton);
+    ASSERT_TRUE(waitFor([&] { return gate.someoneWaits() && controller->itemCount() == 1; }));
+    answers.press(QStringLiteral("Stay"));
+    click(controller->exitButton);
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\nSome of the found items have not been saved."));
+    EXPECT_EQ(terminations, 0);
+    answers.press(QStringLiteral("OK"));
+    gate.open();
+    EXPECT_TRUE(waitFor([this] { return answers.allGiven() && !controller->scanRunning(); }));
 }
 
 }  // namespace

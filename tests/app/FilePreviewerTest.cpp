@@ -170,8 +170,8 @@ TEST_F(FilePreviewer, HelpersKilledAtRandom_PreviewsGoOn) {
     killer.join();
     EXPECT_GT(kills, 0);
     EXPECT_GT(shown, 0);
-    // A helper that was shot while it waited costs one picture at most.
-    EXPECT_TRUE(!preview(file).isNull() || !preview(file).isNull()) << "pictures are shown again";
+    preview(file);  // the last blow may have hit the helper that takes this one
+    EXPECT_FALSE(preview(file).isNull()) << "the next one is shown again";
 }
 
 TEST(TextPicture, Lines_AreCutAndHoldNoStrangeLetters) {

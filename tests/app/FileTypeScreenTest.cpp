@@ -60,6 +60,7 @@ TEST_F(FileTypes, NothingTicked_IsRefused) {
     EXPECT_EQ(answers.seen().back().text, QStringLiteral("\nPlease select atleast one extension type."));
     EXPECT_EQ(answers.seen().back().informative, QString());
     EXPECT_EQ(answers.seen().back().buttons, QStringList{QStringLiteral("OK")});
+    EXPECT_EQ(answers.seen().back().defaultButton, QStringLiteral("OK"));
     EXPECT_EQ(controller->window->focusWidget(), controller->idCheckTableView);
     EXPECT_EQ(controller->screen_counter, 2);
     EXPECT_TRUE(controller->resultRows().isEmpty());
@@ -154,6 +155,46 @@ TEST_F(FileTypes, SpaceTicksTheRowAndTheBoxFollows) {
     QTest::keyClick(controller->idCheckTableView, Qt::Key_Space);
     EXPECT_FALSE(isTicked(controller->nsCheckedListDataObject.at(0)));
     EXPECT_FALSE(controller->_select_unselect_Chk->isChecked());
+}
+
+TEST_F(FileTypes, SpaceTicksTheRowWhicheverColumnWasClicked) {
+    openWithCard();
+    toFileTypes(kRawFileMode);
+    clickCell(rowOf("ZIP"), 1);
+    QTest::keyClick(controller->idCheckTableView, Qt::Key_Space);
+    EXPECT_FALSE(ticked("ZIP"));
+    EXPECT_FALSE(controller->_select_unselect_Chk->isChecked());
+    EXPECT_EQ(controller->typeCountLabel->text(), QStringLiteral("3 of 4 selected"));
+    QTest::keyClick(controller->idCheckTableView, Qt::Key_Space);
+    EXPECT_TRUE(ticked("ZIP"));
+    EXPECT_TRUE(controller->_select_unselect_Chk->isChecked());
+}
+
+TEST_F(FileTypes, TheKeyboardReachesOnlyTheRowsThatTheSearchLeft) {
+    openWithCard();
+    toFileTypes(kRawFileMode);
+    clickCell(rowOf("doc"), 1);
+    QTest::keyClicks(controller->typeSearchField, QStringLiteral("archive"));
+    QTest::keyClick(controller->idCheckTableView, Qt::Key_Space);
+    EXPECT_TRUE(ticked("doc")) << "a row out of view is not ticked";
+    QTest::keyClick(controller->idCheckTableView, Qt::Key_Down);
+    QTest::keyClick(controller->idCheckTableView, Qt::Key_Space);
+    EXPECT_FALSE(ticked("ZIP"));
+    EXPECT_TRUE(ticked("doc"));
+}
+
+TEST_F(FileTypes, ASearchWithoutAMatchSaysSo) {
+    openWithCard();
+    toFileTypes(kRawFileMode);
+    const QImage full = controller->idCheckTableView->viewport()->grab().toImage();
+    click(controller->typeSearchField);
+    QTest::keyClicks(controller->typeSearchField, QStringLiteral("no such type"));
+    EXPECT_EQ(controller->idCheckTableView->accessibleDescription(),
+              QStringLiteral("No type matches Clear the search field to see all types."));
+    QTest::keyClick(controller->typeSearchField, Qt::Key_Escape);
+    EXPECT_EQ(controller->typeSearchField->text(), QString());
+    EXPECT_FALSE(controller->idCheckTableView->isRowHidden(0));
+    EXPECT_EQ(controller->idCheckTableView->viewport()->grab().toImage(), full);
 }
 
 TEST_F(FileTypes, SearchHidesRowsAndKeepsTheirTicks) {

@@ -28,6 +28,7 @@ TEST_F(Flow, Next_WithoutAMedium_IsRefusedAndStays) {
     EXPECT_EQ(answers.seen()[0].text, QStringLiteral("\nPlease select a storage media from list."));
     EXPECT_EQ(answers.seen()[0].informative, QString());
     EXPECT_EQ(answers.seen()[0].buttons, QStringList{QStringLiteral("OK")});
+    EXPECT_EQ(answers.seen()[0].defaultButton, QStringLiteral("OK"));
     EXPECT_EQ(controller->screen_counter, 0);
     EXPECT_TRUE(controller->idTableView->isVisible());
 }
@@ -189,6 +190,20 @@ TEST_F(Flow, Back_FromTheResults_KeepsTheTicks) {
     answers.press(QStringLiteral("Go Back Without Saving"));
     click(controller->backButton);
     EXPECT_EQ(controller->nsCheckedListDataObject, before);
+}
+
+TEST_F(Flow, AnotherScanOfTheChosenTypes_CountsItsItemsFromTheStart) {
+    openWithCard();
+    toFileTypes(kRawFileMode);
+    scanToEnd();
+    const std::uint64_t found = controller->itemCount();
+    ASSERT_GT(found, 0u);
+    EXPECT_EQ(controller->addedItemCount(), found);
+    answers.press(QStringLiteral("Go Back Without Saving"));
+    click(controller->backButton);
+    scanToEnd();
+    EXPECT_EQ(controller->itemCount(), found);
+    EXPECT_EQ(controller->addedItemCount(), found);
 }
 
 TEST_F(Flow, Back_FromTheFileTypes_KeepsTheRangeButNotTheTicks) {

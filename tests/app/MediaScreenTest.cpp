@@ -2,6 +2,7 @@
 #include <QDropEvent>
 #include <QMimeData>
 #include <QUrl>
+#include <utility>
 
 #include "tests/app/WindowTest.h"
 
@@ -60,6 +61,31 @@ TEST_F(MediaScreen, TheSheetIsInViewWhileTheMediaAreAsked) {
     EXPECT_TRUE(sheetSeen);
     EXPECT_FALSE(controller->LoadDisk_Window->isVisible());
     EXPECT_FALSE(controller->session);
+}
+
+TEST_F(MediaScreen, WhileTheSheetHangs_NoShortcutWorksButThatOfExit) {
+    if (QGuiApplication::platformName() == u"offscreen") {
+        GTEST_SKIP() << "every window that comes up is the active one here; window_in_xserver runs this";
+    }
+    openWithCard();
+    selectMedium();
+    source->duringQuery = [this, pressed = false]() mutable {
+        if (std::exchange(pressed, true)) {
+            return;
+        }
+        for (const Qt::Key key : {Qt::Key_F5, Qt::Key_F1, Qt::Key_Return}) {
+            QTest::keyClick(controller->window, key);
+        }
+        QTest::keyClick(controller->window, Qt::Key_Right, Qt::AltModifier);
+        answers.press(QStringLiteral("No"));
+        QTest::keyClick(controller->window, Qt::Key_Q, Qt::ControlModifier);
+    };
+    const int listings = source->listings;
+    click(controller->refreshButton);
+    EXPECT_EQ(source->listings, listings + 1);
+    EXPECT_EQ(controller->screen_counter, 0);
+    ASSERT_EQ(answers.seen().size(), 1u);
+    EXPECT_TRUE(answers.seen()[0].text.startsWith(QStringLiteral("\nDo you really want to exit")));
 }
 
 TEST_F(MediaScreen, ACardPutInAppears_AndTheSelectionStays) {

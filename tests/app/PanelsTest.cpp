@@ -1,5 +1,6 @@
 // The information panels, the folder chooser, the help window, and the two forms of alert.
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -150,6 +151,7 @@ TEST_F(Panels, WithoutTheDocument_OneAlertAndTheHelpWindowStays) {
     EXPECT_EQ(answers.seen()[1].text, QStringLiteral("\nHelp file does not exist!"));
     EXPECT_EQ(answers.seen()[1].informative, QString());
     EXPECT_EQ(answers.seen()[1].buttons, QStringList{QStringLiteral("OK")});
+    EXPECT_EQ(answers.seen()[1].defaultButton, QStringLiteral("OK"));
     EXPECT_TRUE(documentsOpened.isEmpty());
 }
 
@@ -158,6 +160,23 @@ TEST_F(Panels, MessageBox_PutsALineBreakInFront) {
     Show_MessageBox(QStringLiteral("Hello"));
     EXPECT_EQ(answers.seen().at(0).text, QStringLiteral("\nHello"));
     EXPECT_EQ(answers.seen().at(0).buttons, QStringList{QStringLiteral("OK")});
+    EXPECT_EQ(answers.seen().at(0).defaultButton, QStringLiteral("OK"));
+}
+
+TEST_F(Panels, AnAlertIsWideEnoughToBeRead) {
+    answers.then([](QDialog* box) {
+        EXPECT_GE(box->width(), 50 * box->fontMetrics().averageCharWidth());
+        pressButton(box, QStringLiteral("OK"));
+    });
+    runAlert(
+        {QStringLiteral("\nDone."), QStringLiteral("There is a good deal to be said about how it went.")});
+    answers.then([](QDialog* box) {
+        const auto* words = box->findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+        EXPECT_GE(words->width(), words->sizeHint().width());
+        pressButton(box, QStringLiteral("No"));
+    });
+    Show_YES_NO_MessageBox(
+        QStringLiteral("\nDo you really want to exit from 'Vantor - Memory Card Recovery'?"));
 }
 
 TEST_F(Panels, YesNo_IsTrueForYesAlone) {

@@ -208,6 +208,29 @@ TEST_F(Preview, AScanThatEndsWhileAPreviewIsCopied_ShowsItsEndAfterwards) {
     EXPECT_EQ(controller->stop_now, 0);
 }
 
+TEST_F(Preview, AnItemSelectedBetweenStopAndTheEnd_LeavesTheEndToTheScan) {
+    Gate scanGate;
+    card.beforeRead = [&scanGate](std::uint64_t read) {
+        if (read == 60) {
+            scanGate.pass();
+        }
+    };
+    openWithCard();
+    toFileTypes(kRawFileMode);
+    click(controller->nextButton);
+    ASSERT_TRUE(waitFor(
+        [&] { return scanGate.someoneWaits() && controller->imageBrowser_2->model()->rowCount() >= 1; }));
+    click(controller->_stop_scan);  // the scan is still in its read
+    select(0);
+    EXPECT_EQ(controller->stop_screen_already_show, 0);
+    EXPECT_FALSE(controller->backButton->isEnabled());
+    answers.press(QStringLiteral("OK"));
+    scanGate.open();
+    EXPECT_TRUE(waitFor([this] { return answers.allGiven() && !controller->scanRunning(); }));
+    EXPECT_EQ(answers.seen().size(), 1u) << "the end panel comes once";
+    EXPECT_EQ(controller->lastOutcome(), PassOutcome::Stopped);
+}
+
 TEST_F(Preview, ExitDuringACopyThatHangs_IsPossible) {
     Gate gate;
     openResults({{"A.PDF", 24, 27}});

@@ -52,6 +52,7 @@ class RangeScreen : public WindowTest, public ::testing::WithParamInterface<int>
         EXPECT_EQ(answers.seen().back().text, message);
         EXPECT_EQ(answers.seen().back().informative, informative);
         EXPECT_EQ(answers.seen().back().buttons, QStringList{QStringLiteral("OK")});
+        EXPECT_EQ(answers.seen().back().defaultButton, QStringLiteral("OK"));
         EXPECT_EQ(controller->window->focusWidget(), focused);
         EXPECT_EQ(controller->screen_counter, 1);
         EXPECT_TRUE(startField()->isVisible());
@@ -165,6 +166,20 @@ TEST_P(RangeScreen, TheNineRefusals) {
     expectRefusal(QStringLiteral("1"), QStringLiteral("1001"), kExceeded, kEndHint, endField());
     expectRefusal(QStringLiteral("7"), QStringLiteral("7"),
                   QStringLiteral("\nEnd Sector should be greater than Start Sector."), QString(), endField());
+}
+
+TEST_P(RangeScreen, AClickOnTheWordsTicksThoroughSearch) {
+    openRange(1000);
+    if (!photo()) {
+        EXPECT_FALSE(controller->thoroughLabel->isVisible());
+        return;
+    }
+    click(controller->thoroughLabel);
+    EXPECT_FALSE(controller->_Thro_Mode_Chk->isChecked());
+    click(controller->thoroughExplanation);
+    EXPECT_TRUE(controller->_Thro_Mode_Chk->isChecked());
+    click(controller->_Thro_Mode_Chk);
+    EXPECT_FALSE(controller->_Thro_Mode_Chk->isChecked());
 }
 
 TEST_P(RangeScreen, TheLastSectorAloneMayBeSearched) {

@@ -119,6 +119,7 @@ TEST_P(UnreadableMedium, GoesBackToTheScreenBeforeWithTheAlert) {
     EXPECT_EQ(answers.seen().back().text, kReadError);
     EXPECT_EQ(answers.seen().back().informative, QString());
     EXPECT_EQ(answers.seen().back().buttons, QStringList{QStringLiteral("OK")});
+    EXPECT_EQ(answers.seen().back().defaultButton, QStringLiteral("OK"));
     EXPECT_EQ(controller->screen_counter, photo ? 1 : 2);
     EXPECT_EQ(controller->stepTrail->current(), photo ? 1 : 2);
     EXPECT_TRUE(photo ? controller->_path->isVisible() : controller->idCheckTableView->isVisible());
@@ -176,6 +177,41 @@ TEST_F(ScanScreen, ThumbnailsAreListedInTheOrderOfCarving_BeforeTheEndScreen) {
     EXPECT_EQ(asked, 3);
     EXPECT_EQ(controller->itemAt(0)->imageTitle(), QStringLiteral("GND00001.JPG"));
     EXPECT_EQ(controller->itemAt(2)->imageData(), QByteArray("GIF"));
+}
+
+TEST_F(ScanScreen, Stop_WaitsForNoThumbnail_AndThePicturesFollow) {
+    parts.thumbnailer = [this](const QByteArray& bytes, const QString&) {
+        gate.pass();
+        return bytes.left(3);
+    };
+    openWithCard();
+    Gate medium;
+    toRange(kPhotoMode);
+    card.beforeRead = [&medium](std::uint64_t read) {
+        if (read == 48) {
+            medium.pass();
+        }
+    };
+    click(controller->nextButton);
+    ASSERT_TRUE(waitFor([&] { return gate.someoneWaits() && medium.someoneWaits(); }));
+    EXPECT_EQ(controller->itemCount(), 0u) << "both wait for their thumbnails";
+    EXPECT_FALSE(controller->clearingLabel->isVisible());
+    click(controller->_stop_scan);
+    EXPECT_TRUE(controller->clearingLabel->isVisible());
+    answers.press(QStringLiteral("OK"));
+    medium.open();
+    ASSERT_TRUE(ended()) << "while every thumbnail is held up";
+    EXPECT_FALSE(controller->clearingLabel->isVisible());
+    ASSERT_EQ(controller->itemCount(), 2u);
+    EXPECT_EQ(controller->itemAt(0)->imageTitle(), QStringLiteral("GND00001.JPG"));
+    EXPECT_EQ(controller->itemAt(1)->imageTitle(), QStringLiteral("GND00002.JPG"));
+    EXPECT_EQ(controller->itemAt(0)->imageData(), controller->Null_Image_Data);
+    EXPECT_FALSE(controller->itemAt(0)->carved().runs.empty());
+    gate.open();
+    EXPECT_TRUE(waitFor([this] {
+        return controller->itemAt(0)->imageData() == QByteArray("\xFF\xD8\xFF") &&
+               controller->itemAt(1)->imageData() == QByteArray("\xFF\xD8\xFF");
+    }));
 }
 
 TEST_F(ScanScreen, ThoroughBoxOff_RunsOnePassInPhotoMode) {

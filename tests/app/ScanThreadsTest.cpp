@@ -53,6 +53,7 @@ TEST_F(ScanThreads, TheWindowAnswersWhileTheMediumDoesNot) {
     ASSERT_TRUE(waitFor([&] { return gate.someoneWaits(); }));
     controller->window->resize(controller->window->size() + QSize(40, 40));
     ASSERT_TRUE(waitFor([this] { return controller->imageBrowser->model()->rowCount() == 1; }));
+    answers.press(QStringLiteral("Exit Without Saving"));
     answers.press(QStringLiteral("No"));
     click(controller->exitButton);
     EXPECT_EQ(terminations, 0);

@@ -1,4 +1,6 @@
 // The texts and the state that the window starts with, letter for letter.
+#include <QScrollBar>
+
 #include "results/RecoveryMode.h"
 #include "tests/app/WindowTest.h"
 
@@ -110,6 +112,29 @@ TEST_F(Start, ColourHelperTakesRedBlueGreen) {
     EXPECT_EQ(MyTableController::getColorFromRGB(241, 250, 244), QColor(241, 244, 250));
 }
 
+TEST_F(Start, InTooSmallAWindow_TheScreenScrollsAndTheButtonsStay) {
+    openWithCard();
+    toRange(kPhotoMode);
+    const QSize small(720, 480);
+    controller->window->resize(small);
+    QTest::qWait(10);
+    EXPECT_EQ(controller->window->size(), small);
+    EXPECT_TRUE(controller->bodyScroll->verticalScrollBar()->isVisible());
+    for (const QPushButton* button :
+         {controller->exitButton, controller->backButton, controller->nextButton, controller->helpButton}) {
+        EXPECT_TRUE(controller->window->rect().contains(
+            QRect(button->mapTo(controller->window, QPoint()), button->size())))
+            << button->objectName().toStdString();
+    }
+    // The keyboard brings into view what it reaches.
+    controller->_entire_disk_rd->setFocus();
+    for (int tab = 0; tab < 10 && !controller->_Thro_Mode_Chk->hasFocus(); ++tab) {
+        QTest::keyClick(controller->window->focusWidget(), Qt::Key_Tab);
+    }
+    ASSERT_TRUE(controller->_Thro_Mode_Chk->hasFocus());
+    EXPECT_FALSE(controller->_Thro_Mode_Chk->visibleRegion().isEmpty());
+}
+
 TEST_F(Start, FitsASmallScreenAndALargeOne) {
     openWithCard();
     const auto nothingIsCutOff = [this] {
@@ -128,6 +153,8 @@ TEST_F(Start, FitsASmallScreenAndALargeOne) {
                           controller->window->height());
             }
         }
+        EXPECT_FALSE(controller->bodyScroll->verticalScrollBar()->isVisible());
+        EXPECT_FALSE(controller->bodyScroll->horizontalScrollBar()->isVisible());
     };
     for (const QSize size : {QSize(1024, 720), QSize(3840, 2160)}) {
         controller->window->resize(size);

@@ -27,4 +27,4 @@ openbox 2>/dev/null &
 manager=$!
 sleep 1
 QT_QPA_PLATFORM=xcb VANTOR_SHOTS=$shots "$program" \
-    --gtest_filter='Flow.Photo*:Modes/RawFlow.*:Exit.ReturnIsYes:Exit.EscapeIsNo:Saving.SaveAll*:MoviePreview.SpaceAndClick*'
+    --gtest_filter='Flow.Photo*:Modes/RawFlow.*:Exit.ReturnIsYes:Exit.EscapeIsNo:Saving.SaveAll*:MoviePreview.SpaceAndClick*:MediaScreen.WhileTheSheet*'

@@ -40,12 +40,19 @@ TEST(FileTypeList, ExtensionsThatDifferInCaseAreTwoRowsSideBySide) {
     EXPECT_EQ(rows[3]["Extension"], "zip");
 }
 
-TEST(FileTypeList, RemovalIsCaseSensitiveAndKeepsAnIncompleteRecord) {
+TEST(FileTypeList, RemovalIsCaseSensitive) {
     QStringList records = recordsOf({{"doc", "D0CF"}, {"DOC", "DBA5"}});
-    records << "DOC"
-            << "12";
     removeRecordsOfType(records, "DOC");
-    EXPECT_EQ(records, recordsOf({{"doc", "D0CF"}}) + QStringList({"DOC", "12"}));
+    EXPECT_EQ(records, recordsOf({{"doc", "D0CF"}}));
+}
+
+TEST(FileTypeList, RemovalTakesAnIncompleteLastRecordOfTheTypeAlong) {
+    const QStringList whole = recordsOf({{"ZIP", "504B"}});
+    QStringList records = whole + QStringList({"DOC", "12"});
+    removeRecordsOfType(records, "12");
+    EXPECT_EQ(records, whole + QStringList({"DOC", "12"}));
+    removeRecordsOfType(records, "DOC");
+    EXPECT_EQ(records, whole);
 }
 
 TEST(FileTypeList, IncompleteRecordMakesNoRow) {

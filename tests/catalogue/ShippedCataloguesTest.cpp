@@ -99,12 +99,12 @@ TEST(ShippedPhotoCatalogues, RecordsShareOneLimit) {
 
 INSTANTIATE_TEST_SUITE_P(
     Files, ShippedCatalogues,
-    testing::Values(Shipped{kPhotoCatalogue, CatalogueUse::Photo, true, 25},
-                    Shipped{kPhotoThoroughCatalogue, CatalogueUse::Photo, false, 5},
-                    Shipped{kVideoCatalogue, CatalogueUse::Selectable, true, 20},
-                    Shipped{kVideoThoroughCatalogue, CatalogueUse::Selectable, false, 5},
-                    Shipped{kRawFileCatalogue, CatalogueUse::Selectable, true, 300},
-                    Shipped{kRawFileThoroughCatalogue, CatalogueUse::Selectable, false, 20}),
+    testing::Values(Shipped{kPhotoCatalogue, CatalogueUse::Photo, true, 65},
+                    Shipped{kPhotoThoroughCatalogue, CatalogueUse::Photo, false, 10},
+                    Shipped{kVideoCatalogue, CatalogueUse::Selectable, true, 45},
+                    Shipped{kVideoThoroughCatalogue, CatalogueUse::Selectable, false, 12},
+                    Shipped{kRawFileCatalogue, CatalogueUse::Selectable, true, 600},
+                    Shipped{kRawFileThoroughCatalogue, CatalogueUse::Selectable, false, 120}),
     [](const auto& shipped) {
         return std::string(shipped.param.file).substr(1, std::strlen(shipped.param.file) - 5);
     });

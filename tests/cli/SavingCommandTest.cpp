@@ -10,6 +10,7 @@
 #include <QThread>
 #include <random>
 
+#include "formats/Registry.h"
 #include "tests/cli/CommandRun.h"
 #include "tests/cli/Saved.h"
 
@@ -64,7 +65,8 @@ TEST(SavingCommand, FilesOfTheSampleCardComeBackToTheByte) {
     }
     int found = 0;
     for (const CardFile& file : files) {
-        if (!file.inOnePiece || !typesAt[file.firstSector].contains(file.type)) {
+        const bool endIsTold = walkerFor(file.type.toStdString()) != nullptr;
+        if (!file.inOnePiece || !endIsTold || !typesAt[file.firstSector].contains(file.type)) {
             continue;
         }
         ++found;
@@ -129,11 +131,38 @@ TEST(SavingCommand, FiltersAndDates) {
                     .out.contains("left out: smaller than asked for"));
 }
 
+TEST(SavingCommand, WhatIsCertainlyNoFileOfItsType_IsLeftOutOnRequest) {
+    const QTemporaryDir folder;
+    const QString image = folder.filePath("card.img");
+    QFile card(image);
+    ASSERT_TRUE(card.open(QIODevice::WriteOnly));
+    QByteArray sectors(8 * 512, 'x');
+    sectors.replace(512, 4, "\x89PNG");  // begins like a picture and goes on as none
+    card.write(sectors);
+    card.close();
+    QFile catalogue(folder.filePath("ZelExt2.dll"));
+    ASSERT_TRUE(catalogue.open(QIODevice::WriteOnly));
+    catalogue.write(
+        "Extension : PNG\nSize : 1048576\nHeader :89504E47\nOffset : 1\nReserved : 0\nDescription : x\n");
+    catalogue.close();
+    const QStringList arguments{"--no-thorough", "--catalogue", folder.path(), "--save"};
+    const CommandRun all = runCommand(arguments + QStringList{folder.filePath("all"), image});
+    ASSERT_EQ(all.exitCode, 0) << all.err.constData();
+    EXPECT_EQ(filesUnder(folder.filePath("all")).size(), 1) << all.out.constData();
+    const CommandRun sound =
+        runCommand(arguments + QStringList{folder.filePath("sound"), "--skip-unsound", image});
+    ASSERT_EQ(sound.exitCode, 0) << sound.err.constData();
+    EXPECT_TRUE(filesUnder(folder.filePath("sound")).isEmpty());
+    EXPECT_TRUE(sound.out.contains("1 left out: no files of their type")) << sound.out.constData();
+}
+
 TEST(SavingCommand, OptionsThatMakeNoSenseAreRefused) {
     for (const QStringList& arguments : {QStringList{"--report", "x"},
                                          {"--as-published", "x"},
                                          {"--min-bytes", "5", "x"},
                                          {"--save", "/tmp", "--min-bytes", "many", "x"},
+                                         {"--skip-unsound", "x"},
+                                         {"--save", "/tmp", "--as-published", "--skip-unsound", "x"},
                                          {"--save", "/tmp", "--as-published", "--by-date", "x"}}) {
         EXPECT_EQ(runCommand(arguments).exitCode, 2) << arguments.join(' ').toStdString();
     }

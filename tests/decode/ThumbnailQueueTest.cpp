@@ -3,6 +3,7 @@
 #include <signal.h>
 
 #include <atomic>
+#include <map>
 #include <random>
 #include <semaphore>
 #include <thread>
@@ -118,6 +119,90 @@ TEST(ThumbnailQueue, ItemCount_IsBoundedToo) {
     EXPECT_EQ(submitted, 4);
     gate.release(20);
     scan.join();
+}
+
+TEST(ThumbnailQueue, Hurry_DeliversAtOnceInOrder_AndTheThumbnailsFollow) {
+    std::counting_semaphore<> gate(0);
+    ThumbnailQueue queue(
+        [&](const QByteArray& bytes, const QString&) {
+            gate.acquire();
+            return bytes;
+        },
+        {.workers = 2, .maxItems = 3});
+    std::mutex mutex;
+    std::vector<std::pair<int, QByteArray>> delivered;
+    std::map<int, QByteArray> late;
+    const auto submit = [&](int i) {
+        return queue.submit(
+            QByteArray::number(i),
+            [&, i](const QByteArray& made) {
+                const std::scoped_lock lock(mutex);
+                delivered.push_back({i, made});
+            },
+            {},
+            [&, i](const QByteArray& made) {
+                const std::scoped_lock lock(mutex);
+                late[i] = made;
+            });
+    };
+    std::atomic<int> submitted{0};
+    std::thread scan([&] {
+        for (int i = 0; i < 6; ++i) {
+            submit(i);
+            ++submitted;
+        }
+    });
+    while (submitted < 3) {
+        std::this_thread::sleep_for(milliseconds(1));
+    }
+    queue.hurry();
+    scan.join();  // a full queue holds nobody up
+    queue.flush();
+    {
+        const std::scoped_lock lock(mutex);
+        ASSERT_EQ(delivered.size(), 6U);
+        for (int i = 0; i < 6; ++i) {
+            EXPECT_EQ(delivered[static_cast<std::size_t>(i)], (std::pair<int, QByteArray>(i, QByteArray())));
+        }
+        EXPECT_TRUE(late.empty());
+    }
+    gate.release(6);
+    while (queue.bytesHeld() != 0) {
+        std::this_thread::sleep_for(milliseconds(1));
+    }
+    queue.cancel();
+    ASSERT_EQ(late.size(), 6U);
+    EXPECT_EQ(late[5], QByteArray("5"));
+    queue.resume();
+    delivered.clear();
+    gate.release();
+    submit(7);
+    queue.flush();
+    EXPECT_EQ(delivered.at(0).second, QByteArray("7")) << "after resuming everybody waits again";
+    EXPECT_EQ(late.size(), 6U);
+}
+
+TEST(ThumbnailQueue, Cancel_DropsLateThumbnailsToo) {
+    std::counting_semaphore<> gate(0);
+    std::atomic<int> late{0};
+    ThumbnailQueue queue(
+        [&](const QByteArray& bytes, const QString&) {
+            gate.acquire();
+            return bytes;
+        },
+        {.workers = 1});
+    for (int i = 0; i < 3; ++i) {
+        queue.submit(
+            "x", [](const QByteArray&) {}, {}, [&](const QByteArray&) { ++late; });
+    }
+    queue.hurry();
+    queue.flush();
+    queue.cancel();
+    gate.release(3);
+    while (queue.bytesHeld() != 0) {
+        std::this_thread::sleep_for(milliseconds(1));
+    }
+    EXPECT_EQ(late, 0);
 }
 
 TEST(ThumbnailQueue, Cancel_DropsWhatWaitsAndFreesTheSubmitter) {

@@ -34,7 +34,7 @@ std::vector<CorpusFile> corpusFiles(const std::filesystem::path& folder) {
         extension.erase(0, 1);
         std::transform(extension.begin(), extension.end(), extension.begin(),
                        [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-        files.push_back({path, extension, format == "hostile"});
+        files.push_back({path, extension, format == "hostile", format});
     }
     return files;
 }

@@ -16,6 +16,7 @@ struct CorpusFile {
     std::string path;       // as the manifest writes it
     std::string extension;  // upper case
     bool hostile = false;
+    std::string format;  // as the manifest writes it
 };
 
 // The folder of real files: VANTOR_CORPUS, else ../shared/corpus beside the sources; empty where there is

@@ -193,6 +193,15 @@ Bytes x3f() {
 }
 
 // Two packed rows, the second stored first.
+// Two lines of ten pixels: one in runs and literals by channel, one in full with an old repetition.
+Bytes radiance() {
+    Build build;
+    build.text("#?RADIANCE\nFORMAT=32-bit_rle_rgbe\n\n-Y 2 +X 10\n").be32(0x0202000A);
+    for (int channel = 0; channel < 4; ++channel)
+        build.u8(128 + 7).u8(90).u8(3).u8(7).u8(8).u8(9);
+    return build.be32(0x50607080).be32(0x01010108).be32(0x11223344);
+}
+
 Bytes sgi() {
     return Build()
         .be16(0x01DA)
@@ -258,7 +267,9 @@ std::vector<Sample> pictureSamples() {
             {"CRW", crw()},
             {"X3F", x3f()},
             {"PPM", Build().text("P6\n# by hand\n4 3\n255\n").fill(36, 0x55)},
+            {"PFM", Build().text("PF\n4 3\n-1.0\n").fill(144, 0x55)},
             {"PBM", Build().text("P4 9 20 ").fill(40, 0x55)},
+            {"HDR", radiance()},
             {"SGI", sgi()},
             {"QOI", qoi()},
             {"XPM", Build().text("/* XPM */\nstatic char *x[] = {\n\"1 1 1 1\",\n\"\\\" c };\"\n};\n")}};

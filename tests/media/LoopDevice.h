@@ -46,6 +46,11 @@ class LoopDevice {
         const FileDescriptor other(::open(QFile::encodeName(file).constData(), O_RDONLY | O_CLOEXEC));
         return ::ioctl(m_device.get(), LOOP_CHANGE_FD, other.get()) == 0;
     }
+    // Smallest unit of a request, in bytes.
+    bool useBlocksOf(unsigned long bytes) { return ::ioctl(m_device.get(), LOOP_SET_BLOCK_SIZE, bytes) == 0; }
+    // Past the page cache of the file's own file system; only so is what lies behind the file's end an
+    // input/output error rather than zeros.
+    bool useDirectRequests() { return ::ioctl(m_device.get(), LOOP_SET_DIRECT_IO, 1UL) == 0; }
     // Takes the size of its file anew.
     bool resize() { return ::ioctl(m_device.get(), LOOP_SET_CAPACITY) == 0; }
 

@@ -41,6 +41,11 @@ class LoopDeviceTest : public testing::Test {
         GTEST_SKIP() << device->why().toStdString(); \
     }
 
+#define DIRECT_OR_SKIP()                                                                       \
+    if (!device->useDirectRequests()) {                                                        \
+        GTEST_SKIP() << "the temporary folder's file system takes no requests past its cache"; \
+    }
+
 std::uint64_t numberAt(const SectorReader& reader) {
     std::uint64_t number = 0;
     std::memcpy(&number, reader.current(), sizeof(number));
@@ -105,11 +110,37 @@ TEST_F(LoopDeviceTest, BeyondTwoTebibytes_IsReached) {
     EXPECT_EQ(numberAt(*reader), kFar);
 }
 
+TEST_F(LoopDeviceTest, LargeBlocks_AreReadFromAnySectorAndFailAsOne) {
+    const QString path = write(QStringLiteral("card"), 8192);
+    ATTACH_OR_SKIP(path);
+    ASSERT_TRUE(device->useBlocksOf(4096));
+    const auto reader = openMedium(device->node());
+    ASSERT_NE(reader, nullptr);
+    for (const std::uint64_t start : {0U, 3U, 8U, 8185U}) {
+        ASSERT_TRUE(reader->seek(start));
+        for (std::uint64_t s = start; s < std::min<std::uint64_t>(start + 1500, 8192); ++s) {
+            ASSERT_TRUE(reader->read()) << s;
+            ASSERT_EQ(numberAt(*reader), s);
+        }
+    }
+    EXPECT_FALSE(reader->read());
+    DIRECT_OR_SKIP();
+    ASSERT_TRUE(QFile::resize(path, 4096 * 512));  // the device keeps its size
+    const auto shorter = openMedium(device->node());
+    ASSERT_NE(shorter, nullptr);
+    const auto steps = scanSteps(*shorter, 5, 4200);
+    for (std::size_t i = 0; i < steps.size(); ++i) {
+        ASSERT_EQ(steps[i].readSucceeded, i + 5 < 4096) << i;
+    }
+    ASSERT_TRUE(shorter->seek(100));
+    EXPECT_TRUE(shorter->read());
+}
+
 TEST_F(LoopDeviceTest, PlaceThatFailsForGood_FailsAloneAndKeepsTheRest) {
     const QString path = write(QStringLiteral("card"), 8192);
     ATTACH_OR_SKIP(path);
-    // The device keeps its size; what is behind the file's end gives input/output errors.
-    ASSERT_TRUE(QFile::resize(path, 4096 * 512));
+    DIRECT_OR_SKIP();
+    ASSERT_TRUE(QFile::resize(path, 4096 * 512));  // the device keeps its size
     const auto reader = openMedium(device->node());
     ASSERT_NE(reader, nullptr);
     const auto steps = scanSteps(*reader, 0, 4200);

@@ -79,12 +79,53 @@ TEST_F(LostMediumScan, MediumThatStaysButFails_IsAskedForEachSectorOnceMoreAtMos
     }
     scanRaw();
     expectReadErrorAtTheEnd();
+    ASSERT_EQ(medium.refused.size(), kPart - kGood);
     for (const auto& [sector, times] : medium.refused) {
         ASSERT_LE(times, 2) << sector;
     }
-    // Every failed read shows the bytes of the last good sector again, and these hold a header: by the rules
-    // of the scan each counts as a find.
-    EXPECT_EQ(session.itemCount(), kPart - kGood + 1);
+}
+
+// Every failed read shows the bytes of the last good sector again, and these hold a header: by the rules of
+// the scan each counts as a find, until the reader takes the stretch for a dead one.
+TEST_F(LostMediumScan, RawScanOfAMediumThatStaysButFails_EndsWithAsManyFindsAsAShortStretchHas) {
+    medium.refusesFrom = kGood;
+    scanRaw();
+    expectReadErrorAtTheEnd();
+    EXPECT_EQ(session.itemCount(), 1 + WindowedReader::kDeadStretch);
+    EXPECT_EQ(session.end_sector, kWhole);
+    EXPECT_LE(medium.requests, 2 * kWhole);
+    EXPECT_LT(session.log.size(), 100 + 4 * static_cast<qsizetype>(session.itemCount()));
+}
+
+TEST_F(LostMediumScan, PhotoScanOfAMediumThatStaysButFails_EndsWithAsManyFindsAsAShortStretchHas) {
+    medium.refusesFrom = kGood;
+    scanPhotos();
+    expectReadErrorAtTheEnd();
+    EXPECT_EQ(session.itemCount(), 1 + WindowedReader::kDeadStretch);
+    EXPECT_EQ(session.end_sector, kWhole);
+    EXPECT_LE(medium.requests, 2 * kWhole);
+    EXPECT_LT(session.log.size(), 100 + 4 * static_cast<qsizetype>(session.itemCount()));
+}
+
+// No stretch is long enough to count as dead by itself.
+TEST_F(LostMediumScan, MediumFullOfShortStretches_AddsFindsUpToTheBoundOnly) {
+    constexpr std::uint64_t kStretch = 16;
+    constexpr std::uint64_t kPart = 4 * WindowedReader::kMostRefusals;
+    session.setRange(0, kPart);
+    std::uint64_t good = 0;
+    for (std::uint64_t s = 0; s < kPart; ++s) {
+        if (s % (kStretch + 1) == 0) {
+            ++good;
+        } else {
+            medium.refusals[s] = kAlways;
+        }
+    }
+    // Bytes 4 to 7 of every sector's number.
+    session.choose(recordsOf({{"JPG", "00000000", "5"}}));
+    session.Raw_File_Rec_Thread();
+    EXPECT_EQ(session.for_index, session.end_sector);
+    EXPECT_GT(session.itemCount(), good);
+    EXPECT_LE(session.itemCount(), 2 * good + WindowedReader::kMostRefusals);
 }
 
 }  // namespace

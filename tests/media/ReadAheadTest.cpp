@@ -1,6 +1,8 @@
 // Reading ahead shows nowhere but in its speed either.
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <condition_variable>
 #include <random>
 
 #include "media/ReadAhead.h"
@@ -22,7 +24,48 @@ std::vector<ScanStep> plainSteps(ScriptedMedium medium, std::uint64_t start, std
     return scanSteps(reader, start, end);
 }
 
+// A medium that takes its time over one refused window: others are read meanwhile.
+class SlowRefusal : public BlockSource {
+  public:
+    explicit SlowRefusal(std::uint64_t sector) : m_refused(sector) {}
+
+    std::int64_t readAt(std::uint64_t sector, std::span<std::uint8_t> into) override {
+        std::unique_lock lock(m_mutex);
+        if (sector == m_refused) {
+            // Long enough for every window that may be asked for meanwhile.
+            m_asked.wait_for(lock, std::chrono::milliseconds(200),
+                             [&] { return m_furthest > m_refused + 40 * kWindow; });
+            return -1;
+        }
+        m_furthest = std::max(m_furthest, sector);
+        for (std::size_t n = 0; n < into.size() / kSectorBytes; ++n) {
+            ScriptedMedium::fill(sector + n, into.data() + n * kSectorBytes);
+        }
+        m_asked.notify_all();
+        return static_cast<std::int64_t>(into.size());
+    }
+    bool usable() override { return true; }
+
+  private:
+    const std::uint64_t m_refused;
+    std::mutex m_mutex;
+    std::condition_variable m_asked;
+    std::uint64_t m_furthest = 0;
+};
+
 }  // namespace
+
+TEST(ReadAhead, WhileAWindowIsRefused_TheLastGoodSectorStaysInPlace) {
+    constexpr std::uint64_t kRefused = 10 * kWindow;
+    WindowedReader reader(std::make_unique<SlowRefusal>(kRefused), WindowedReader::Fetching::Ahead);
+    for (std::uint64_t sector = 0; sector < kRefused; ++sector) {
+        ASSERT_TRUE(reader.read());
+    }
+    ASSERT_FALSE(reader.read());
+    std::uint64_t number = 0;
+    std::memcpy(&number, reader.current(), sizeof number);
+    EXPECT_EQ(number, kRefused - 1);
+}
 
 TEST(ReadAhead, HealthyMedium_ComesWholeAndInOrder) {
     ScriptedMedium medium;

@@ -22,12 +22,16 @@ inline constexpr int kAlways = 1 << 30;
 // refuses, as a drive does.
 struct ScriptedMedium {
     std::uint64_t sectors = 0;
+    std::uint64_t blockSectors = 1;
     std::map<std::uint64_t, int> refusals;  // sector -> how many times it refuses
     bool wholeRequestFails = true;          // false: the sectors before the refusal arrive
     std::uint64_t goneFrom = ~std::uint64_t{0};
+    std::uint64_t refusesFrom = ~std::uint64_t{0};  // the medium stays, but reads nothing from here on
 
     bool gone = false;
-    std::map<std::uint64_t, int> refused;  // how often each sector was asked for in vain
+    std::map<std::uint64_t, int> refused;  // how often each sector of `refusals` was asked for in vain
+    std::vector<std::pair<std::uint64_t, std::uint64_t>>
+        refusedRequests;  // first sector and end of each, as far as it says
     std::uint64_t requests = 0;
 
     static void fill(std::uint64_t sector, std::uint8_t* bytes) {
@@ -43,10 +47,16 @@ struct ScriptedMedium {
                 gone = true;
                 break;
             }
+            if (s >= refusesFrom) {
+                return done == 0 || wholeRequestFails ? -1 : static_cast<std::int64_t>(done);
+            }
             const auto fault = refusals.find(s);
             if (fault != refusals.end() && fault->second > 0) {
                 --fault->second;
                 ++refused[s];
+                const bool nothingArrives = wholeRequestFails || done == 0;
+                refusedRequests.emplace_back(nothingArrives ? first : s,
+                                             nothingArrives ? first + into.size() / kSectorBytes : s + 1);
                 if (wholeRequestFails) {
                     return -1;
                 }
@@ -70,6 +80,7 @@ class ScriptedSource : public BlockSource {
         const std::lock_guard lock(m_mutex);
         return !m_medium.gone;
     }
+    std::uint64_t blockSectors() const override { return m_medium.blockSectors; }
 
   private:
     ScriptedMedium& m_medium;

@@ -168,6 +168,13 @@ void StandInUdisks::setObjects(const UdisksObjects& objects) {
             added << QVariant::fromValue(QDBusObjectPath(it.key()))
                   << QVariant::fromValue(onTheWire(it.value()));
             send(added);
+            continue;
+        }
+        const UdisksInterfaces was = before.value(it.key());
+        for (auto interface = it->constBegin(); interface != it->constEnd(); ++interface) {
+            if (was.value(interface.key()) != interface.value()) {
+                signalPropertiesChanged(it.key(), interface.key());
+            }
         }
     }
     for (auto it = before.constBegin(); it != before.constEnd(); ++it) {

@@ -46,7 +46,6 @@ class StandInUdisks : public QDBusVirtualObject {
 
     // Signals the difference, object by object.
     void setObjects(const UdisksObjects& objects);
-    void signalPropertiesChanged(const QString& path, const QString& interface);
     void answerWhatWasHeldBack();
 
     std::atomic<bool> silent{false};  // keeps questions without answering
@@ -57,6 +56,7 @@ class StandInUdisks : public QDBusVirtualObject {
     QString openedPath, openedMode;  // of the last OpenDevice
 
   private:
+    void signalPropertiesChanged(const QString& path, const QString& interface);
     QVariant managedObjects() const;
     QDBusMessage answerTo(const QDBusMessage& message);
     void send(const QDBusMessage& message);

@@ -107,12 +107,25 @@ TEST_F(UdisksBackendTest, CardInAndOut_ChangesTheListOnce) {
     EXPECT_EQ(rows(), QStringLiteral("mmcblk0 mmcblk0p1 sdb sdb1"));
 }
 
-TEST_F(UdisksBackendTest, MountedOrRenamed_ChangesTheList) {
+TEST_F(UdisksBackendTest, MountedOrRenamed_ReachesTheList) {
     EXPECT_EQ(rows(), kAllRows);
-    service->signalPropertiesChanged(blockPath(QStringLiteral("sdb1")), interfaceName("Filesystem"));
+    const QString card = QStringLiteral("mmcblk0p1");
+    EXPECT_TRUE(source->diskInfo(QStringLiteral("/media/anna/SUMMER")).isEmpty());
+    UdisksObjects objects = allTrees();
+    objects[blockPath(card)][interfaceName("Filesystem")][QStringLiteral("MountPoints")] =
+        QVariant::fromValue(QByteArrayList{zeroEnded(QStringLiteral("/media/anna/SUMMER"))});
+    service->setObjects(objects);
     ASSERT_TRUE(eventually([this] { return changes == 1; }));
-    service->signalPropertiesChanged(blockPath(QStringLiteral("sdb1")), interfaceName("Block"));
+    EXPECT_EQ(rows(), kAllRows);
+    const MediaFacts mounted = source->diskInfo(QStringLiteral("/media/anna/SUMMER"));
+    EXPECT_EQ(mounted.value(QStringLiteral("DeviceIdentifier")), card);
+    EXPECT_TRUE(mounted.value(QStringLiteral("VolumeName")).toString().isEmpty());
+
+    objects[blockPath(card)][interfaceName("Block")][QStringLiteral("IdLabel")] = QStringLiteral("WINTER");
+    service->setObjects(objects);
     ASSERT_TRUE(eventually([this] { return changes == 2; }));
+    EXPECT_EQ(rows(), kAllRows);
+    EXPECT_EQ(source->diskInfo(card).value(QStringLiteral("VolumeName")), QStringLiteral("WINTER"));
 }
 
 TEST_F(UdisksBackendTest, ServiceThatIsSilent_LeavesTheFallbackListUntilItAnswers) {

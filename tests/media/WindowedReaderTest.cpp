@@ -43,7 +43,14 @@ bool isTellingPlace(const Shape& shape, std::uint64_t fault) {
     return nearWindowEdge(fault) || nearWindowEdge(fault - shape.start) || fault % 97 == 0;
 }
 
-enum class Places { All, Telling };
+// At an end of the range or of a buffer, where most goes wrong.
+bool isEdge(const Shape& shape, std::uint64_t fault) {
+    const auto atWindowEdge = [](std::uint64_t s) { return s % kWindow < 2 || s % kWindow > kWindow - 3; };
+    return fault < shape.start + 2 || fault + 3 >= shape.end || atWindowEdge(fault) ||
+           atWindowEdge(fault - shape.start) || fault % 251 == 0;
+}
+
+enum class Places { All, Telling, Edges };
 
 // Every place of two windows where the range begins with the medium, the telling ones elsewhere: both ends of
 // the range and of every buffer are among them.
@@ -52,7 +59,9 @@ void forEveryFault(Places places, Check check) {
     for (const Shape& shape : shapes()) {
         for (std::uint64_t fault = shape.start; fault < shape.start + 2 * kWindow; ++fault) {
             const bool everyPlace = places == Places::All && shape.start == 0;
-            if (!everyPlace && !isTellingPlace(shape, fault)) {
+            const bool telling =
+                places == Places::Edges ? isEdge(shape, fault) : isTellingPlace(shape, fault);
+            if (!everyPlace && !telling) {
                 continue;
             }
             ScriptedMedium medium;
@@ -111,7 +120,74 @@ TEST(WindowedReader, TransientFault_SurfacesAsWithSingleReadsAndOneRetry) {
     }
 }
 
-// A pair whose first fault is healed by the retry is left out: a window that fails does not say where.
+// A window that is refused whole does not say where, so of two neighbours the second may be given up for the
+// window that the first one spoiled. What holds for every kind of neighbours: a sector is given up when two
+// requests that held it were refused, never for less; it refuses twice at most; and the reading goes on
+// exactly as single reads do on a medium whose only bad sectors are those.
+void expectReadingOfAMediumWithTheLostSectorsOnly(const Shape& shape, ScriptedMedium& medium) {
+    const ScriptedMedium asWritten = medium;
+    WindowedReader reader(std::make_unique<ScriptedSource>(medium));
+    if (shape.start != 0) {
+        reader.seek(shape.start);
+    }
+    ScriptedMedium lostOnly;
+    lostOnly.sectors = shape.sectors;
+    std::vector<ScanStep> steps;
+    for (std::uint64_t index = shape.start; index < shape.end; ++index) {
+        ScanStep step;
+        const std::uint64_t asked = reader.position();
+        step.readSucceeded = reader.read();
+        if (!step.readSucceeded) {
+            lostOnly.refusals[asked] = kAlways;
+            step.seekSucceeded = reader.seek(index);
+        }
+        step.position = reader.position();
+        std::memcpy(&step.bytesOf, reader.current(), sizeof(step.bytesOf));
+        steps.push_back(step);
+    }
+    EXPECT_TRUE(steps == plainSteps<PlainReader>(lostOnly, shape.start, shape.end));
+    for (const auto& [sector, times] : asWritten.refusals) {
+        if (sector >= shape.sectors) {
+            continue;  // behind the end of the medium
+        }
+        int inVain = 0;
+        for (const auto& [first, end] : medium.refusedRequests) {
+            inVain += sector >= first && sector < end ? 1 : 0;
+        }
+        const bool lost = lostOnly.refusals.count(sector) != 0;
+        const bool reached = steps.back().position > sector;
+        const auto refused = medium.refused.find(sector);
+        EXPECT_LE(refused == medium.refused.end() ? 0 : refused->second, 2) << sector;
+        EXPECT_TRUE(!lost || inVain >= 2) << sector;
+        EXPECT_TRUE(lost || !reached || times < 2) << sector;
+    }
+}
+
+TEST(WindowedReader, NeighbouringFaultsOfEveryKind_CostWhatWasRefusedTwiceAndNothingElse) {
+    for (const int first : {1, 2, 3, kAlways}) {
+        for (const int second : {1, 2, 3, kAlways}) {
+            for (const int third : {0, 1, 2, kAlways}) {
+                for (const std::uint64_t distance : {1U, 2U, 100U}) {
+                    if (distance == 100 && third != 0) {
+                        continue;
+                    }
+                    forEveryFault(Places::Edges,
+                                  [&](const Shape& shape, std::uint64_t fault, ScriptedMedium& medium) {
+                                      medium.refusals[fault] = first;
+                                      medium.refusals[fault + distance] = second;
+                                      if (third != 0) {
+                                          medium.refusals[fault + 2 * distance] = third;
+                                      }
+                                      expectReadingOfAMediumWithTheLostSectorsOnly(shape, medium);
+                                  });
+                }
+            }
+        }
+    }
+}
+
+// Where the first fault is not healed by the retry, even the choice of what is given up is that of single
+// reads.
 TEST(WindowedReader, AdjacentTransientFaults_SurfaceAsWithSingleReadsAndOneRetry) {
     for (const auto& [first, second] : {std::pair(2, 1), std::pair(2, 2), std::pair(3, 1), std::pair(3, 3)}) {
         for (const std::uint64_t distance : {1U, 2U, 100U}) {
@@ -124,6 +200,45 @@ TEST(WindowedReader, AdjacentTransientFaults_SurfaceAsWithSingleReadsAndOneRetry
                 });
         }
     }
+}
+
+TEST(WindowedReader, DeadStretch_FailsSeeksUntilItsEndAndLosesNothingBehindIt) {
+    constexpr std::uint64_t kStart = 1000;
+    constexpr std::uint64_t kEnd = kStart + 3 * WindowedReader::kDeadStretch;
+    for (const bool wholeRequestFails : {true, false}) {
+        ScriptedMedium medium;
+        medium.sectors = kEnd + 5000;
+        medium.wholeRequestFails = wholeRequestFails;
+        for (std::uint64_t s = kStart; s < kEnd; ++s) {
+            medium.refusals[s] = kAlways;
+        }
+        const auto single = plainSteps<PlainReader>(medium, 0, medium.sectors);
+        const auto steps = windowedSteps(medium, 0, medium.sectors);
+        for (std::uint64_t i = 0; i < steps.size(); ++i) {
+            ASSERT_EQ(steps[i].readSucceeded, single[i].readSucceeded) << i;
+            ASSERT_EQ(steps[i].bytesOf, single[i].bytesOf) << i;
+            const bool dead = i >= kStart + WindowedReader::kDeadStretch && i < kEnd;
+            ASSERT_EQ(steps[i].seekSucceeded, !dead) << i;
+            ASSERT_TRUE(dead || steps[i].position == single[i].position) << i;
+        }
+        for (const auto& [sector, times] : medium.refused) {
+            ASSERT_EQ(times, 2) << sector;
+        }
+    }
+}
+
+TEST(WindowedReader, DeadStretch_IsNoHindranceToOneWhoComesFromElsewhere) {
+    ScriptedMedium medium;
+    medium.sectors = 10000;
+    medium.refusesFrom = 1000;
+    WindowedReader reader(std::make_unique<ScriptedSource>(medium));
+    scanSteps(reader, 0, medium.sectors);
+    EXPECT_FALSE(reader.seek(9999));
+    ASSERT_TRUE(reader.seek(500));
+    ASSERT_TRUE(reader.read());
+    EXPECT_EQ(reader.current()[0], 500 % 256);
+    ASSERT_TRUE(reader.seek(9000));
+    EXPECT_FALSE(reader.read());
 }
 
 TEST(WindowedReader, OneRefusalOnly_IsHealedByTheRetry) {
@@ -150,6 +265,20 @@ TEST(WindowedReader, RefusedSector_IsAskedForTwiceAndNeverAgain) {
             EXPECT_EQ(times, 2) << "sector " << sector;
         }
     });
+}
+
+TEST(WindowedReader, RefusedBlock_IsAskedForTwiceForAllItsSectors) {
+    for (const std::uint64_t bad : {0U, 8U, 504U, 512U, 1016U}) {
+        ScriptedMedium medium;
+        medium.sectors = 3 * kWindow;
+        medium.blockSectors = 8;
+        for (std::uint64_t s = bad; s < bad + 8; ++s) {
+            medium.refusals[s] = kAlways;
+        }
+        const auto expected = plainSteps<PlainReader>(medium, 0, medium.sectors);
+        EXPECT_TRUE(windowedSteps(medium, 0, medium.sectors) == expected) << bad;
+        EXPECT_EQ(medium.refusedRequests.size(), 2U) << bad;
+    }
 }
 
 TEST(WindowedReader, LongDeadStretch_CostsTwoRequestsASectorAtMost) {
@@ -234,6 +363,17 @@ TEST(SectorSet, NeighboursBecomeOneRun) {
     EXPECT_EQ(set.firstFrom(6), 6U);
     EXPECT_EQ(set.firstFrom(8), 9U);
     EXPECT_EQ(set.firstFrom(10), ~std::uint64_t{0});
+}
+
+TEST(SectorSet, KnowsWhereARowBegins) {
+    SectorSet set;
+    for (const std::uint64_t s : {4U, 5U, 6U, 9U}) {
+        set.add(s);
+    }
+    const std::uint64_t expected[] = {0, 1, 2, 3, 4, 4, 4, 4, 8, 9, 9, 11};
+    for (std::uint64_t s = 0; s < 12; ++s) {
+        EXPECT_EQ(set.firstOfRunUpTo(s), expected[s]) << s;
+    }
 }
 
 TEST(SectorSet, GrowsToItsBoundOnly) {

@@ -1,7 +1,7 @@
 // Speed and time left.
 #include <gtest/gtest.h>
 
-#include "cli/ProgressLine.h"
+#include "scan/SpeedMeter.h"
 
 namespace vantor {
 
@@ -35,13 +35,6 @@ TEST(SpeedMeter, BeginsAnewWithAnotherPass) {
     EXPECT_EQ(meter.bytesPerSecond(), 0);
     meter.note(begin + 2s, 20);
     EXPECT_DOUBLE_EQ(meter.bytesPerSecond(), 10.0 * 512);
-}
-
-TEST(DurationText, ReadsWell) {
-    EXPECT_EQ(durationText(0.4), "0 s");
-    EXPECT_EQ(durationText(59.4), "59 s");
-    EXPECT_EQ(durationText(250), "4 min 10 s");
-    EXPECT_EQ(durationText(7500), "2 h 5 min");
 }
 
 }  // namespace vantor

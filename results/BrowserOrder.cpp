@@ -1,0 +1,101 @@
+// Choosing and sorting by what is known of the items.
+#include "results/BrowserOrder.h"
+
+#include <algorithm>
+#include <tuple>
+#include <vector>
+
+namespace vantor {
+
+namespace {
+
+bool isSmall(const Soundness& soundness, const BrowserWish& wish) {
+    const std::uint32_t longer = std::max(soundness.width, soundness.height);
+    return soundness.bytes < wish.smallBytes || (longer != 0 && longer < wish.smallPixels);
+}
+
+bool isShown(const ItemFacts& facts, const BrowserWish& wish) {
+    const auto& soundness = facts.soundness;
+    const auto is = [&](Verdict verdict) {
+        return soundness && !soundness->notOfItsType && soundness->verdict == verdict;
+    };
+    switch (wish.show) {
+        case ShowItems::All:
+            return true;
+        case ShowItems::Complete:
+            return is(Verdict::Complete);
+        case ShowItems::Broken:
+            return is(Verdict::CutOff) || is(Verdict::Damaged);
+        case ShowItems::UnknownLength:
+            return is(Verdict::Unknown);
+        case ShowItems::Unreadable:
+            return facts.readFailed || (soundness && soundness->unreadable);
+        case ShowItems::NotSaved:
+            return !facts.saved;
+        case ShowItems::NotSmall:
+            return !soundness || !isSmall(*soundness, wish);
+        case ShowItems::OfItsType:
+            return !soundness || !soundness->notOfItsType;
+    }
+    return true;
+}
+
+// Sorts ascending; what is best comes first, what is not known last.
+using SortKey = std::tuple<int, std::int64_t>;
+constexpr int kNotKnown = 100;
+
+SortKey keyOf(const ItemFacts& facts, SortItems sort) {
+    if (!facts.soundness) {
+        return {kNotKnown, 0};
+    }
+    const Soundness& soundness = *facts.soundness;
+    switch (sort) {
+        case SortItems::AsFound:
+            return {0, 0};
+        case SortItems::Soundness: {
+            static constexpr int kRank[] = {3, 0, 1, 2};  // by Verdict
+            return {soundness.notOfItsType ? 4 : kRank[static_cast<int>(soundness.verdict)], 0};
+        }
+        case SortItems::Size:
+            return {0, -static_cast<std::int64_t>(soundness.bytes)};
+        case SortItems::DateTaken:
+            break;
+    }
+    if (!soundness.taken) {
+        return {kNotKnown - 1, 0};
+    }
+    const CivilTime& taken = *soundness.taken;
+    std::int64_t moment = taken.year;
+    for (const auto& [part, size] :
+         {std::pair{taken.month, 13}, std::pair{taken.day, 32}, std::pair{taken.hour, 25},
+          std::pair{taken.minute, 61}, std::pair{taken.second, 62}}) {
+        moment = moment * size + part;
+    }
+    return {0, moment};
+}
+
+}  // namespace
+
+bool BrowserWish::needsSoundness() const {
+    const bool sorted = sort != SortItems::AsFound;
+    return sorted || (show != ShowItems::All && show != ShowItems::NotSaved);
+}
+
+QList<int> browserOrder(int count, const BrowserWish& wish, const std::function<ItemFacts(int)>& factsOf) {
+    std::vector<std::pair<SortKey, int>> chosen;
+    for (int place = 0; place < count; ++place) {
+        const ItemFacts facts = factsOf(place);
+        if (isShown(facts, wish)) {
+            chosen.push_back({wish.sort == SortItems::AsFound ? SortKey{} : keyOf(facts, wish.sort), place});
+        }
+    }
+    std::sort(chosen.begin(), chosen.end());
+    QList<int> order;
+    order.reserve(static_cast<qsizetype>(chosen.size()));
+    for (const auto& item : chosen) {
+        order.append(item.second);
+    }
+    return order;
+}
+
+}  // namespace vantor

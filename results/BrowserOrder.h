@@ -1,0 +1,43 @@
+// Which found items a browser shows, and in which order.
+#pragma once
+
+#include <QList>
+#include <functional>
+#include <optional>
+
+#include "results/Soundness.h"
+
+namespace vantor {
+
+enum class ShowItems { All, Complete, Broken, UnknownLength, Unreadable, NotSaved, NotSmall, OfItsType };
+enum class SortItems { AsFound, Soundness, Size, DateTaken };
+
+// Below these an item counts as small in the browser: what cameras and documents embed, not what people make.
+inline constexpr std::uint32_t kSmallPixels = 320;
+inline constexpr std::uint64_t kSmallBytes = 10'000;
+
+// What is known of an item so far.
+struct ItemFacts {
+    std::optional<Soundness> soundness;
+    bool readFailed = false;  // while it was searched for
+    bool saved = false;
+};
+
+struct BrowserWish {
+    ShowItems show = ShowItems::All;
+    SortItems sort = SortItems::AsFound;
+    std::uint32_t smallPixels = kSmallPixels;
+    std::uint64_t smallBytes = kSmallBytes;
+
+    bool isPlain() const { return show == ShowItems::All && sort == SortItems::AsFound; }
+    // Whether it takes the soundness of all items to grant it.
+    bool needsSoundness() const;
+
+    friend bool operator==(const BrowserWish&, const BrowserWish&) = default;
+};
+
+// Places in the list of `count` items. Items of which too little is known are shown where something is to be
+// left out and not shown where something is asked for; they come last in any order but the found one.
+QList<int> browserOrder(int count, const BrowserWish& wish, const std::function<ItemFacts(int)>& factsOf);
+
+}  // namespace vantor

@@ -1,0 +1,95 @@
+// Examining with the walkers that saving uses, and the words for the result.
+#include "results/Soundness.h"
+
+#include <QLocale>
+#include <QObject>
+#include <QStringList>
+
+#include "results/MediumBytes.h"
+#include "results/TrueLength.h"
+
+namespace vantor {
+
+namespace {
+
+QString words(const Soundness& soundness) {
+    if (soundness.notOfItsType) {
+        return QObject::tr("no file of its type");
+    }
+    switch (soundness.verdict) {
+        case Verdict::Complete:
+            return QObject::tr("complete");
+        case Verdict::CutOff:
+            return QObject::tr("cut off");
+        case Verdict::Damaged:
+            return QObject::tr("damaged");
+        case Verdict::Unknown:
+            break;
+    }
+    return QObject::tr("of unknown length");
+}
+
+}  // namespace
+
+std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, SectorReader& medium,
+                                 ReadWatch& watch, std::vector<std::uint8_t>& kept) {
+    WatchedReader watched(medium, watch, kMostExaminedBytes / kSectorBytes);
+    const ItemSource source{carved, {}, [&watched] { return &watched; }, medium.mediumSectors()};
+    MediumBytes bytes(source, kept);
+    const TrueLength length = trueLengthOf(type, bytes, true);
+    Soundness soundness;
+    soundness.unreadable = carved.readFailed;
+    soundness.bytes = bytes.carvedBytes();
+    if (watch.ended) {
+        return std::nullopt;
+    }
+    if (watched.wasEnded()) {
+        return soundness;
+    }
+    const Facts& facts = length.extent.facts;
+    soundness.unreadable = soundness.unreadable || bytes.sectorsUnreadable(length.bytes) != 0;
+    soundness.verdict = length.extent.verdict;
+    if (soundness.unreadable && soundness.verdict == Verdict::Complete) {
+        soundness.verdict = Verdict::Damaged;
+    }
+    soundness.notOfItsType = !soundness.unreadable && isCertainlyUnsound(type, length.extent);
+    soundness.bytes = length.bytes;
+    soundness.width = facts.width;
+    soundness.height = facts.height;
+    soundness.taken = facts.taken;
+    return soundness;
+}
+
+std::optional<Soundness> soundnessOf(const SaveOutcome& outcome) {
+    const bool known = outcome.saved || outcome.leftOut != LeftOut::No;
+    if (!known) {
+        return std::nullopt;
+    }
+    return Soundness{outcome.verdict,
+                     outcome.sectorsUnreadable != 0,
+                     outcome.leftOut == LeftOut::Unsound,
+                     outcome.bytes,
+                     outcome.width,
+                     outcome.height,
+                     outcome.taken};
+}
+
+QString describe(const Soundness& soundness) {
+    QStringList parts{words(soundness)};
+    if (soundness.unreadable) {
+        parts << QObject::tr("not all of its sectors could be read");
+    }
+    parts << QLocale().formattedDataSize(static_cast<qint64>(soundness.bytes), 1, QLocale::DataSizeSIFormat);
+    if (soundness.width != 0) {
+        parts << QObject::tr("%1 × %2 pixels").arg(soundness.width).arg(soundness.height);
+    }
+    if (soundness.taken) {
+        parts << QObject::tr("taken %1-%2-%3")
+                     .arg(soundness.taken->year, 4, 10, QLatin1Char('0'))
+                     .arg(soundness.taken->month, 2, 10, QLatin1Char('0'))
+                     .arg(soundness.taken->day, 2, 10, QLatin1Char('0'));
+    }
+    return parts.join(QStringLiteral(", "));
+}
+
+}  // namespace vantor

@@ -1,0 +1,38 @@
+// What can be said of a found item before it is saved: how sound it is, how large, from when.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "formats/Extent.h"
+#include "media/WatchedReader.h"
+#include "results/ItemSaver.h"
+
+namespace vantor {
+
+struct Soundness {
+    Verdict verdict = Verdict::Unknown;
+    bool unreadable = false;    // some of its sectors could not be read
+    bool notOfItsType = false;  // certainly no file of its type
+    std::uint64_t bytes = 0;    // as it would be saved
+    std::uint32_t width = 0;    // pixels; 0: not told
+    std::uint32_t height = 0;
+    std::optional<CivilTime> taken;
+};
+
+// Follows the item's own structure on the medium as saving does, without saving. A file that takes more than
+// kMostExaminedBytes of reading is of unknown soundness. Nothing when the watch was ended meanwhile. `kept`
+// is memory that serves many items.
+inline constexpr std::uint64_t kMostExaminedBytes = std::uint64_t{256} << 20;
+std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, SectorReader& medium,
+                                 ReadWatch& watch, std::vector<std::uint8_t>& kept);
+
+// What saving found out; nothing when it did not come that far.
+std::optional<Soundness> soundnessOf(const SaveOutcome& outcome);
+
+// "complete, 4.2 MB, 4000 × 3000 pixels, taken 2026-05-17".
+QString describe(const Soundness& soundness);
+
+}  // namespace vantor

@@ -1,0 +1,99 @@
+// The README's tables of types say what the catalogues and the walkers know.
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QRegularExpression>
+#include <cmath>
+#include <map>
+#include <set>
+
+#include "catalogue/SignatureRecord.h"
+#include "formats/Registry.h"
+#include "tests/catalogue/CorpusScan.h"
+
+namespace vantor {
+namespace {
+
+constexpr RecoveryMode kModes[] = {kPhotoMode, kVideoMode, kRawFileMode};
+
+QStringList readmeRows(const QString& from, const QString& to) {
+    QFile file(QStringLiteral(VANTOR_SOURCE_DIR "/README.md"));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(file.readAll());
+    QStringList rows;
+    const QString part = text.section(from, 1, 1).section(to, 0, 0);
+    for (const QString& line : part.split(u'\n')) {
+        if (line.startsWith(u"| ") && !line.startsWith(u"|--")) {
+            rows.append(line);
+        }
+    }
+    return rows;
+}
+
+std::set<QString> typesIn(const QStringList& records) {
+    std::set<QString> types;
+    for (qsizetype n = 0; n < recordCount(records); ++n) {
+        types.insert(recordField(records, n, Ext_Name));
+    }
+    return types;
+}
+
+double falseItemsIn64GiB(const QStringList& records) {
+    double sum = 0;
+    for (qsizetype n = 0; n < recordCount(records); ++n) {
+        sum += std::pow(2.0, 27 - 4 * static_cast<double>(recordField(records, n, Header_Hex).size()));
+    }
+    return sum;
+}
+
+QString figuresOf(const QStringList& records) {
+    const double expected = falseItemsIn64GiB(records);
+    return QStringLiteral("%1 | %2 | %3")
+        .arg(recordCount(records))
+        .arg(typesIn(records).size())
+        .arg(expected, 0, 'f', expected < 10 ? 2 : 0);
+}
+
+}  // namespace
+
+TEST(Readme, TellsTheFiguresOfEachCatalogue) {
+    const ShippedRecords records;
+    const QStringList rows = readmeRows(QStringLiteral("## What it knows"), QStringLiteral("### "));
+    for (const RecoveryMode mode : kModes) {
+        for (const QStringList* catalogue : {&records.general(mode), &records.thorough(mode)}) {
+            const QString figures = figuresOf(*catalogue);
+            std::printf("%s mode, %s pass: %s (records, types, false items in 64 GiB)\n", nameOf(mode),
+                        catalogue == &records.general(mode) ? "general" : "thorough", qPrintable(figures));
+            EXPECT_EQ(rows.filter(QStringLiteral("| %1 |").arg(figures)).size(), 1) << qPrintable(figures);
+        }
+    }
+}
+
+TEST(Readme, ListsEveryTypeAndWhetherItIsSavedAtItsTrueLength) {
+    const ShippedRecords records;
+    std::set<QString> shipped;
+    for (const RecoveryMode mode : kModes) {
+        shipped.merge(typesIn(records.general(mode)));
+        shipped.merge(typesIn(records.thorough(mode)));
+    }
+    std::set<QString> listed;
+    int trueLength = 0;
+    const QStringList rows = readmeRows(QStringLiteral("### The types"), QStringLiteral("## How fast"));
+    for (const QString& row : rows.mid(1)) {
+        const QStringList columns = row.split(QStringLiteral(" | "));
+        ASSERT_EQ(columns.size(), 3) << qPrintable(row);
+        const QStringList types = columns[2].chopped(2).split(u' ');
+        EXPECT_EQ(columns[1].toInt(), types.size()) << qPrintable(row.left(40));
+        for (QString type : types) {
+            const bool bold = type.startsWith(QStringLiteral("**"));
+            type.remove(u'*').remove(u'\\');
+            EXPECT_TRUE(listed.insert(type).second) << qPrintable(type) << " is listed twice";
+            EXPECT_EQ(bold, walkerFor(type.toStdString()) != nullptr) << qPrintable(type);
+            trueLength += bold ? 1 : 0;
+        }
+    }
+    EXPECT_EQ(listed, shipped);
+    std::printf("%zu types, %d of them saved at their true length\n", listed.size(), trueLength);
+}
+
+}  // namespace vantor

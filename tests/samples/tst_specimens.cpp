@@ -1,0 +1,163 @@
+// The rarer kinds of file on the card say their own sizes, and what they pack comes out again.
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QImageReader>
+#include <QXmlStreamReader>
+#include <QtEndian>
+
+#include "samples/Checksums.h"
+#include "samples/Documents.h"
+#include "samples/Scenes.h"
+#include "tests/samples/CardFixture.h"
+
+namespace vantor::samples {
+namespace {
+
+std::int64_t be32(const QByteArray& bytes, qsizetype at) {
+    return qFromBigEndian<quint32>(bytes.constData() + at);
+}
+std::int64_t le32(const QByteArray& bytes, qsizetype at) {
+    return qFromLittleEndian<quint32>(bytes.constData() + at);
+}
+std::int64_t le64(const QByteArray& bytes, qsizetype at) {
+    return qFromLittleEndian<qint64>(bytes.constData() + at);
+}
+int le16(const QByteArray& bytes, qsizetype at) {
+    return qFromLittleEndian<quint16>(bytes.constData() + at);
+}
+int be16(const QByteArray& bytes, qsizetype at) {
+    return qFromBigEndian<quint16>(bytes.constData() + at);
+}
+
+QImage decoded(QByteArray bytes) {
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer);
+    reader.setDecideFormatFromContent(true);
+    return reader.read();
+}
+
+TEST(CardRasters, HeadersSayHowManyPixelsFollow) {
+    const QByteArray ras = bytesOf("MEADOW.RAS");
+    EXPECT_EQ(be32(ras, 4) * be32(ras, 8) * 3, be32(ras, 16));
+    EXPECT_EQ(32 + be32(ras, 16), ras.size());
+    const QByteArray dds = bytesOf("TULIPS.DDS");
+    EXPECT_EQ(128 + le32(dds, 12) * le32(dds, 16) * 3, dds.size());
+    const QByteArray ktx = bytesOf("LAKE.KTX");
+    EXPECT_EQ(le32(ktx, 36) * le32(ktx, 40) * 3, le32(ktx, 64));
+    EXPECT_EQ(68 + le32(ktx, 64), ktx.size());
+    const QByteArray dpx = bytesOf("COSMOS.DPX");
+    EXPECT_EQ(be32(dpx, 16), dpx.size());
+    EXPECT_EQ(be32(dpx, 4) + be32(dpx, 772) * be32(dpx, 776) * 3, dpx.size());
+    const QByteArray lbm = bytesOf("FISHES.LBM");
+    EXPECT_EQ(be32(lbm, 4) + 8, lbm.size());
+    EXPECT_EQ(48 + be16(lbm, 20) / 8 * 24 * be16(lbm, 22), lbm.size());
+    EXPECT_EQ(bytesOf("MOON.FITS").size(), 2880 + (240 * 180 + 2879) / 2880 * 2880);
+    const QByteArray psb = bytesOf("DAISIES.PSB");
+    EXPECT_EQ(26 + 18 + be32(psb, 14) * be32(psb, 18) * 3, psb.size());
+}
+
+TEST(CardRasters, TextHeadersEndWhereThePixelsBegin) {
+    const auto behind = [](const char* name, const char* mark) {
+        const QByteArray bytes = bytesOf(name);
+        return bytes.size() - bytes.indexOf(mark) - qsizetype(qstrlen(mark));
+    };
+    EXPECT_EQ(behind("BEACH.PAM", "ENDHDR\n"), 200 * 150 * 3);
+    EXPECT_EQ(behind("DUNES.PFM", "\n-1.0\n"), 160 * 120 * 12);
+    EXPECT_EQ(behind("AURORA.HDR", "-Y 150 +X 200\n"), 200 * 150 * 4);
+    EXPECT_EQ(behind("CABIN.MIFF", ":\x1A"), 160 * 120 * 3);
+    EXPECT_EQ(behind("MOV_0013.Y4M", "C444\n"), 3 * (6 + 96 * 72 * 3));
+}
+
+TEST(CardRasters, KindsThatQtReads_DecodeToTheirSizes) {
+    EXPECT_EQ(decoded(bytesOf("RIDGES.PBM")).size(), QSize(400, 300));
+    EXPECT_EQ(decoded(bytesOf("CLIFF.CUR")).size(), QSize(32, 32));
+    const QByteArray jng = bytesOf("SAIL.JNG");
+    const qsizetype data = jng.indexOf("JDAT");
+    ASSERT_GT(data, 0);
+    EXPECT_EQ(decoded(jng.mid(data + 4, be32(jng, data - 4))).size(), QSize(400, 300));
+    EXPECT_EQ(crc32(jng.mid(data, be32(jng, data - 4) + 4)), be32(jng, data + 4 + be32(jng, data - 4)));
+}
+
+TEST(CardRasters, FaxPages_StandWhereTheTableSays) {
+    const QByteArray dcx = bytesOf("FOREST.DCX");
+    ASSERT_EQ(le32(dcx, 12), 0);
+    for (const qsizetype page : {le32(dcx, 4), le32(dcx, 8)}) {
+        EXPECT_EQ(dcx.mid(page, 4), QByteArray::fromHex("0A050108"));
+    }
+}
+
+TEST(CardRareSounds, SayTheirOwnSizes) {
+    const QByteArray rf64 = bytesOf("TUNE.RF64");
+    EXPECT_EQ(le64(rf64, 20) + 8, rf64.size());
+    EXPECT_EQ(le64(rf64, 28) + 80, rf64.size());
+    const QByteArray w64 = bytesOf("TUNE.W64");
+    EXPECT_EQ(le64(w64, 16), w64.size());
+    const QByteArray amiga = bytesOf("TUNE.8SVX");
+    EXPECT_EQ(be32(amiga, 4) + 8, amiga.size());
+    EXPECT_EQ(be32(amiga, 44) + 48, amiga.size());
+    const QByteArray rmi = bytesOf("TUNE.RMI");
+    EXPECT_EQ(le32(rmi, 4) + 8, rmi.size());
+    EXPECT_EQ(rmi.mid(20, 4), "MThd");
+    EXPECT_EQ((bytesOf("SILENCE.AWB").size() - 9) % 18, 0);
+    EXPECT_EQ(bytesOf("TUNE.SPH").mid(8, 8), "   1024\n");
+}
+
+TEST(CardRareArchives, StoredContent_ComesOutUnchanged) {
+    const QByteArray lz4 = bytesOf("NOTES.LZ4");
+    const qsizetype block = le32(lz4, 7) & 0x7FFFFFFF;
+    EXPECT_EQ(lz4.mid(11, block), textFile());
+    EXPECT_EQ(le32(lz4, 11 + block), 0);
+    const QByteArray zst = bytesOf("NOTES.ZST");
+    EXPECT_EQ(le32(zst, 5), textFile().size());
+    EXPECT_EQ(zst.mid(12), textFile());
+    EXPECT_EQ(static_cast<std::uint8_t>(zst[9]) | le16(zst, 10) << 8, textFile().size() << 3 | 1);
+    const QByteArray lzh = bytesOf("NOTES.LZH");
+    EXPECT_EQ(lzh.mid(2 + static_cast<std::uint8_t>(lzh[0]), le32(lzh, 7)), textFile());
+}
+
+TEST(CardRareArchives, UnixPackage_HoldsItsThreeMembers) {
+    const QByteArray deb = bytesOf("NOTES.DEB");
+    QList<QByteArray> names;
+    for (qsizetype at = 8; at + 60 <= deb.size();) {
+        names << deb.mid(at, 16).trimmed();
+        const qsizetype size = deb.mid(at + 48, 10).trimmed().toLongLong();
+        at += 60 + size + size % 2;
+    }
+    EXPECT_EQ(names, QList<QByteArray>({"debian-binary/", "control.tar/", "data.tar/"}));
+}
+
+TEST(CardRareData, RecordsReachToTheEnd) {
+    const QByteArray shape = bytesOf("PLACES.SHP");
+    EXPECT_EQ(be32(shape, 24) * 2, shape.size());
+    const QByteArray capture = bytesOf("QUIET.PCAP");
+    qsizetype at = 24;
+    while (at + 16 <= capture.size())
+        at += 16 + le32(capture, at + 8);
+    EXPECT_EQ(at, capture.size());
+    const QByteArray numbers = bytesOf("SQUARES.NPY");
+    EXPECT_EQ(10 + le16(numbers, 8) + 256 * 4, numbers.size());
+    EXPECT_EQ((10 + le16(numbers, 8)) % 64, 0);
+    const QByteArray program = bytesOf("ANSWER.WASM");
+    at = 8;
+    while (at + 2 <= program.size())
+        at += 2 + program[at + 1];
+    EXPECT_EQ(at, program.size());
+    const QByteArray web = bytesOf("PAGES.WARC");
+    EXPECT_EQ(web.mid(web.indexOf("\r\n\r\n") + 4).chopped(4), htmlFile());
+}
+
+TEST(CardTexts, XmlKinds_AreWellFormed) {
+    for (const char* name : {"NEWS.RSS", "NEWS.ATOM", "NEWS.OPML", "TUNES.XSPF", "BOOK.FB2", "NOTES.FODT",
+                             "NOTES.ENEX", "BOAT.TTML", "FORM.UI"}) {
+        QXmlStreamReader reader(bytesOf(name));
+        int elements = 0;
+        while (!reader.atEnd())
+            elements += reader.readNext() == QXmlStreamReader::StartElement;
+        EXPECT_FALSE(reader.hasError()) << name << qPrintable(reader.errorString());
+        EXPECT_GE(elements, 2) << name;
+    }
+}
+
+}  // namespace
+}  // namespace vantor::samples
