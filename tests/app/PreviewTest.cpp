@@ -6,41 +6,11 @@
 #include "results/MovieControls.h"
 #include "results/RecoveryMode.h"
 #include "tests/app/Gate.h"
+#include "tests/app/PreviewWindow.h"
 #include "tests/app/ScriptedMovie.h"
-#include "tests/app/WindowTest.h"
 
 namespace vantor {
 namespace {
-
-class Preview : public WindowTest {
-  protected:
-    // The raw results screen with these items, sectors [start, end) each.
-    void openResults(std::initializer_list<std::tuple<const char*, int, int>> items,
-                     int mode = kRawFileMode) {
-        openWithCard();
-        toRange(mode);
-        controller->show_hide_2_screen(true);
-        controller->show_hide_4_screen_RawFile(false);
-        controller->screen_counter = 3;
-        for (const auto& [name, start, end] : items) {
-            controller->addImageWithData_2({}, QString::fromLatin1(name), QString::fromLatin1(name),
-                                           static_cast<std::uint64_t>(start),
-                                           static_cast<std::uint64_t>(end));
-        }
-        QTest::qWait(1);
-        opened = 0;
-    }
-    void select(int row) {
-        ImageBrowserView* browser = controller->imageBrowser_2;
-        QTest::mouseClick(browser->viewport(), Qt::LeftButton, {},
-                          browser->visualRect(browser->model()->index(row, 0)).center());
-    }
-    QByteArray previewBytes(const char* name) const {
-        QFile file(folder.filePath(QString::fromLatin1(name)));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("absent");
-    }
-    QString title() const { return controller->_QuickLook_View_Box->title(); }
-};
 
 TEST_F(Preview, ASelectedItem_IsCopiedWithoutItsEndSector) {
     openResults({{"A.PDF", 24, 27}});
