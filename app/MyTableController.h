@@ -344,6 +344,7 @@ class MyTableController : public QObject,
     void orderItems();
     void putInOrder();
     void runBeside(const std::function<void()>& work);
+    std::unique_ptr<Movie> openBeside(const MovieLoader& loader, const QString& file);
     void showPicture(const QPixmap& picture, const QString& title);
     void showPreviewFacts();
     void saveItems(const QList<qsizetype>& indexes);
