@@ -1,7 +1,6 @@
 // JPEG: segments by their length, entropy data marker by marker, to the end of the last picture in the file.
 // Sources: ITU-T T.81 annex B; CIPA DC-007 (multi-picture format).
 #include <algorithm>
-#include <array>
 
 #include "formats/TiffDirectory.h"
 #include "formats/Walkers.h"
@@ -37,7 +36,6 @@ class JpegWalk {
     Step segment();
     Step scan();
     void application(std::uint8_t marker, std::uint64_t at, std::uint64_t length);
-    bool isTable(std::uint8_t marker) const;
     Extent furtherPictures();
     std::optional<Extent> motionPhoto();
 
@@ -57,8 +55,8 @@ bool isFrame(std::uint8_t marker) {
            marker == 0xF7;
 }
 
-bool JpegWalk::isTable(std::uint8_t marker) const {
-    // Tables, applications, comments, JPEG-LS parameters.
+// Tables, applications, comments, JPEG-LS parameters.
+bool isTable(std::uint8_t marker) {
     return marker == 0xC4 || marker == 0xCC || (marker >= 0xDB && marker <= 0xEF) || marker == 0xF8 ||
            marker == 0xFE;
 }

@@ -6,8 +6,6 @@
 #include <algorithm>
 #include <array>
 
-#include "formats/Dates.h"
-#include "formats/TiffDirectory.h"
 #include "formats/Walkers.h"
 
 namespace vantor {

@@ -45,8 +45,7 @@ constexpr std::size_t kMostDirectories = 512;
 constexpr std::uint64_t kMostPieces = 1 << 21;  // strips and tiles of one directory
 constexpr std::uint64_t kMostValueBytes = 1 << 30;
 
-// Values of these magic numbers: TIFF, BigTIFF, and makers' own (Panasonic, Olympus twice and in the other
-// order of bytes, Kodak), and JPEG XR.
+// TIFF, BigTIFF, the makers' own (Panasonic; Olympus two, one of them in either order of bytes), and JPEG XR.
 bool isKnownMagic(std::uint16_t magic) {
     return magic == 42 || magic == 43 || magic == kPanasonicMagic || magic == 0x4F52 || magic == 0x5352 ||
            magic == 0x01BC;

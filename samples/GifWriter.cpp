@@ -1,4 +1,5 @@
 // GIF89a with a fixed palette, ordered dithering and our own LZW.
+#include <algorithm>
 #include <vector>
 
 #include "samples/BitWriter.h"
