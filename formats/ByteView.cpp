@@ -80,6 +80,8 @@ bool ByteView::copy(std::uint64_t at, std::span<std::uint8_t> into) {
 }
 
 bool ByteView::matches(std::uint64_t at, std::string_view bytes) {
+    if (bytes.empty())
+        return true;
     const auto here = window(at, bytes.size());
     return here.size() >= bytes.size() && std::memcmp(here.data(), bytes.data(), bytes.size()) == 0;
 }
@@ -139,6 +141,19 @@ Finding ByteView::find(std::uint8_t byte, std::uint64_t from, std::uint64_t to) 
         from += count;
     }
     return {Finding::Outcome::Absent, to};
+}
+
+std::optional<std::uint64_t> groupedNumber(ByteView& view, std::uint64_t& at, unsigned mostGroups) {
+    std::uint64_t value = 0;
+    for (unsigned group = 0; group < mostGroups; ++group) {
+        const auto byte = view.u8(at++);
+        if (!byte)
+            return std::nullopt;
+        value |= static_cast<std::uint64_t>(*byte & 0x7F) << (7 * group);
+        if ((*byte & 0x80) == 0)
+            return value;
+    }
+    return std::nullopt;
 }
 
 std::uint64_t Cursor::take(std::size_t bytes) {

@@ -84,6 +84,10 @@ class ByteView {
     std::size_t m_step = kHopBytes;
 };
 
+// A number in groups of seven bits, the lowest first, each but the last with its eighth bit set (LEB128);
+// moves `at` behind it. Nothing when it is not wholly there or has more groups.
+std::optional<std::uint64_t> groupedNumber(ByteView& view, std::uint64_t& at, unsigned mostGroups);
+
 // Reads header fields one after the other. After a field that is not wholly there every getter yields 0 and
 // ok() stays false, so a header is read in one go and checked once.
 class Cursor {

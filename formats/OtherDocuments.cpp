@@ -1,5 +1,6 @@
 // Documents that tell their length in a header: CHM, DjVu, shell links, encapsulated PostScript.
-// Sources: public notes on the CHM layout; DjVu 3 specification; [MS-SHLLINK]; Adobe EPSF 3.0 and DSC 3.0.
+// Sources: public notes on the CHM layout; DjVu 3 specification; [MS-SHLLINK]; IBM DCA reference; Adobe
+// EPSF 3.0 and DSC 3.0.
 #include <algorithm>
 
 #include "formats/Walkers.h"
@@ -22,6 +23,22 @@ Extent walkDjvu(ByteView& view) {
     if (!view.matches(0, "AT&TFORM") || !view.matches(12, "DJV"))
         return unknownExtent();
     return completeAt(view, 12 + std::uint64_t{view.be32(8).value_or(0)});
+}
+
+// Structured fields, each with its length and class, until what follows is none.
+Extent walkDisplayWrite(ByteView& view) {
+    constexpr std::uint8_t kFirstClass = 0xE1, kLastClass = 0xE8;
+    if (!view.matches(0, std::string_view("\0\5\xE1\3\0\0\x20\xE2", 8)))
+        return unknownExtent();
+    for (std::uint64_t at = 0;;) {
+        const auto bytes = view.be16(at);
+        const auto kind = view.u8(at + 2);
+        if (!bytes || !kind || *bytes < 5 || *kind < kFirstClass || *kind > kLastClass)
+            return inexact(completeAt(view, at));
+        at += *bytes;
+        if (at > view.size())
+            return cutOffAt(view, view.size());
+    }
 }
 
 Extent walkShellLink(ByteView& view) {

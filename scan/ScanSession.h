@@ -119,6 +119,8 @@ class ScanSession {
     void timerTickSetLabel();
     // The end of a scan, its steps on the interface thread.
     void Final_or_Stop_Screen();
+    // The help text that goes with the results of a scan.
+    static QString endHelp();
 
     PassOutcome lastOutcome() const { return m_lastOutcome; }
 

@@ -16,6 +16,14 @@ namespace {
 
 constexpr std::uint64_t kMost = std::numeric_limits<std::uint64_t>::max();
 
+TEST(ByteView, NoBytes_MatchAnywhere) {
+    const Bytes bytes = {1, 2};
+    SpanSource source(bytes);
+    ByteView view(source);
+    for (const std::uint64_t at : {0, 2, 5})
+        EXPECT_TRUE(view.matches(at, std::string_view()));
+}
+
 TEST(ByteView, Numbers_InBothOrdersAndOnlyWhereWhollyThere) {
     const Bytes bytes = {1, 2, 3, 4, 5, 6, 7, 8, 9};
     SpanSource source(bytes);

@@ -173,6 +173,16 @@ TEST(Tiff, PanasonicRaw_ReachesAsFarAsItsPixelsTake) {
     EXPECT_FALSE(extent.exactEnd);
 }
 
+TEST(Tiff, PaddingOfPhotoshop_BelongsToTheFile) {
+    Bytes whole = tiff();
+    whole[8 + 2 + 2 * 12] = 0x49;  // the date's place holds Photoshop's own tag
+    whole[8 + 2 + 2 * 12 + 1] = 0x86;
+    ASSERT_EQ(whole.size() % 4, 2U);
+    EXPECT_EQ(walkBytes("TIF", Build().add(whole).fill(600)).end, whole.size() + 2);
+    EXPECT_EQ(walkBytes("TIF", Build().add(whole).fill(600, 1)).end, whole.size());
+    EXPECT_EQ(walkBytes("TIF", Build().add(tiff()).fill(600)).end, whole.size());
+}
+
 TEST(Tiff, StripBeyondTheMedium_IsCutOff) {
     Bytes cut = tiff();
     cut.resize(cut.size() - 1);
