@@ -30,8 +30,6 @@ struct Finding {
 
     bool found() const { return outcome == Outcome::Found; }
     bool stopped() const { return outcome == Outcome::Stopped; }
-    // Where only the place matters: a search of the few bytes of a head, for one.
-    operator std::uint64_t() const { return at; }
 };
 
 // One window onto a ByteSource that follows the reader. A hop reads kHopBytes, reading on doubles the window
