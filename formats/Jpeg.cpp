@@ -11,7 +11,6 @@ namespace {
 
 constexpr std::uint8_t kEoi = 0xD9;
 constexpr std::uint8_t kSos = 0xDA;
-constexpr std::uint64_t kSector = 512;
 
 // Coded pictures hold an 0xFF every 256 bytes on average. A stretch this long without one is foreign (zeros,
 // text) unless the picture goes on properly behind it, as blank areas can.
@@ -207,7 +206,7 @@ std::optional<Extent> JpegWalk::motionPhoto() {
     std::uint64_t at = m_at;
     if (m_view.matches(at + 8, kBlockName))
         at += 8 + kBlockName.size();
-    else if (!m_sawMotionNote && at % kSector == 0)
+    else if (!m_sawMotionNote && isSectorStart(at))
         return std::nullopt;  // a movie at a sector's start may be the next file
     if (!m_view.matches(at + 4, "ftyp"))
         return std::nullopt;

@@ -10,10 +10,7 @@ namespace vantor {
 namespace {
 
 constexpr std::uint64_t kMostEntries = 4096;  // a directory of cameras and scanners has some dozens
-constexpr std::uint16_t kTagWidth = 256;
-constexpr std::uint16_t kTagHeight = 257;
 constexpr std::uint16_t kTagDateTime = 306;
-constexpr std::uint16_t kTagExif = 34665;
 constexpr std::uint16_t kTagDateTimeOriginal = 36867;
 constexpr std::uint16_t kTagDateTimeDigitized = 36868;
 
@@ -113,10 +110,10 @@ void addTiffFacts(ByteView& view, std::uint64_t base, Facts& facts) {
                 break;
             const auto number = [&] { return readTiffNumber(view, *header, *entry, 0).value_or(0); };
             switch (entry->tag) {
-                case kTagWidth:
+                case kTiffWidth:
                     size.width = static_cast<std::uint32_t>(number());
                     break;
-                case kTagHeight:
+                case kTiffHeight:
                     size.height = static_cast<std::uint32_t>(number());
                     break;
                 case kTagDateTime:
@@ -128,7 +125,7 @@ void addTiffFacts(ByteView& view, std::uint64_t base, Facts& facts) {
                 case kTagDateTimeDigitized:
                     digitized = readExifDate(view, entry->valueAt);
                     break;
-                case kTagExif:
+                case kTiffExif:
                     next = number();
                     break;
                 default:

@@ -9,6 +9,11 @@
 
 namespace vantor {
 
+// Tags that more than one reader asks for.
+inline constexpr std::uint16_t kTiffWidth = 256;
+inline constexpr std::uint16_t kTiffHeight = 257;
+inline constexpr std::uint16_t kTiffExif = 34665;
+
 // The start of a TIFF structure. `base` is what its offsets count from.
 struct TiffHeader {
     std::uint64_t base = 0;
