@@ -119,18 +119,18 @@ Extent walkTorrent(ByteView& view) {
                 return at < 16 ? unknownExtent() : damagedAt(view, at);
             const std::uint8_t closing = text ? ':' : 'e';
             const auto close = view.find(closing, at, at + kMostDigits);
-            if (close >= view.size())
+            if (close.stopped())
                 return cutOffAt(view, view.size());
+            if (!close.found())
+                return damagedAt(view, at);
             std::uint64_t number = 0;
-            for (auto digit = at; text && digit < close; ++digit) {
+            for (auto digit = at; text && digit < close.at; ++digit) {
                 const auto value = view.u8(digit).value_or(0);
                 if (value < '0' || value > '9')
                     return at < 16 ? unknownExtent() : damagedAt(view, at);
                 number = addClamped(mulClamped(number, 10), value - '0');
             }
-            if (view.u8(close) != closing)
-                return damagedAt(view, at);
-            at = addClamped(close + 1, number);
+            at = addClamped(close.at + 1, number);
         }
     }
 }
@@ -171,10 +171,12 @@ Extent walkUnityData(ByteView& view) {
         return unknownExtent();
     std::uint64_t at = 12;
     for (int version = 0; version < 2; ++version) {
-        const auto limit = at + kLongestVersion;
-        at = view.find(0, at, limit) + 1;
-        if (at > limit)
+        const auto nul = view.find(0, at, at + kLongestVersion);
+        if (nul.stopped())
+            return cutOffAt(view, view.size());
+        if (!nul.found())
             return unknownExtent();
+        at = nul.at + 1;
     }
     const auto bytes = view.be64(at);
     if (!bytes)
