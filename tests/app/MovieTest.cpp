@@ -167,6 +167,23 @@ TEST(TimeText, MinutesSecondsAndHours) {
     EXPECT_EQ(timeText(3'723'000), QStringLiteral("1:02:03"));
 }
 
+TEST_F(MoviePreview, WithoutPictures_ASignOfSoundIsDrawn) {
+    openResults();
+    select(0);
+    controller->mMovieView->togglePlaying();
+    const QImage shown = controller->mMovieView->grab().toImage();
+    int drawn = 0;
+    const QRgb ground = shown.pixel(shown.width() / 2, 4);
+    for (int x = 0; x < shown.width(); ++x) {
+        drawn += shown.pixel(x, shown.height() / 2) != ground;
+    }
+    EXPECT_GT(drawn, 20);
+    EXPECT_LT(drawn, shown.width() - 20);
+    QTest::qWait(1);
+    EXPECT_FALSE(
+        control<QLabel>("movieTimes")->geometry().intersects(control<QToolButton>("movieMute")->geometry()));
+}
+
 TEST_F(MoviePreview, FramesAreDrawn) {
     openResults();
     select(0);
