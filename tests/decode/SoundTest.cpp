@@ -107,6 +107,34 @@ TEST_F(Sound, SeekInRealMovies_LandsThere) {
     }
 }
 
+// A transport stream that lost its middle: what follows is heard where it belongs, not too early.
+TEST_F(Sound, AHoleInTheFile_IsAHoleInTime) {
+    if (corpusFolder().isEmpty()) {
+        GTEST_SKIP() << "no corpus";
+    }
+    constexpr qsizetype kPacketBytes = 188;
+    const QByteArray whole = bytesOfFile(
+        corpusFolder() +
+        QStringLiteral("/videos/ts/media__libraries__test_data__src__test__assets__media__hls__cea608__"
+                       "sd-hls0000000000.ts"));
+    const qsizetype third = whole.size() / 3 / kPacketBytes * kPacketBytes;
+    const auto reader = SoundReader::open(
+        written(whole.left(third) + whole.mid(2 * third), QStringLiteral("dprv.TS")), movieOptions());
+    ASSERT_TRUE(reader);
+    std::int64_t endMs = -1, longestHoleMs = 0, soundMs = 0;
+    while (const auto piece = reader->next()) {
+        if (endMs >= 0) {
+            EXPECT_GT(piece->timeMs, endMs - 100) << "never back";
+            longestHoleMs = std::max(longestHoleMs, piece->timeMs - endMs);
+        }
+        soundMs += piece->frames() * 1000 / kSoundFramesPerSecond;
+        endMs = piece->timeMs + piece->frames() * 1000 / kSoundFramesPerSecond;
+    }
+    EXPECT_GT(longestHoleMs, 300);
+    EXPECT_NEAR(static_cast<double>(endMs), 2500, 300);
+    EXPECT_LT(soundMs, endMs - 300);
+}
+
 TEST_F(Sound, WithoutSound_IsNone) {
     EXPECT_FALSE(
         SoundReader::open(written(QByteArray(1 << 20, '\0'), QStringLiteral("zeros.mp3")), movieOptions()));
