@@ -148,6 +148,21 @@ TEST_F(MoviePreview, ThePosition_IsShownAndCanBeChosen) {
     EXPECT_EQ(shownMovie().position, 0);
 }
 
+TEST_F(MoviePreview, AHandleThatIsHeld_StaysInTheHand) {
+    openResults();
+    select(0);
+    QTest::qWait(1);
+    auto* slider = control<QSlider>("moviePosition");
+    const QPoint handle(4, slider->height() / 2);
+    QTest::mousePress(slider, Qt::LeftButton, {}, handle);
+    shownMovie().position = 30'000;
+    shownMovie().onProgress();
+    EXPECT_EQ(slider->value(), 0);
+    QTest::mouseRelease(slider, Qt::LeftButton, {}, handle);
+    shownMovie().onProgress();
+    EXPECT_EQ(slider->value(), 30'000);
+}
+
 TEST_F(MoviePreview, AnUnknownLength_LeavesNothingToSeekBy) {
     openResults();
     auto movie = std::make_unique<ScriptedMovie>(log);
