@@ -5,13 +5,13 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QThreadPool>
-#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <thread>
 #include <vector>
 
+#include "bench/Bench.h"
 #include "bench/MadeUpPhoto.h"
 #include "decode/DecodePool.h"
 #include "decode/SharedPixels.h"
@@ -20,6 +20,7 @@
 #include "decode/helper/PictureDecoder.h"
 
 using namespace vantor;
+using bench::median;
 using Clock = std::chrono::steady_clock;
 
 namespace {
@@ -28,11 +29,6 @@ constexpr int kRounds = 40;
 
 double milliseconds(Clock::time_point from) {
     return std::chrono::duration<double, std::milli>(Clock::now() - from).count();
-}
-
-double median(std::vector<double> times) {
-    std::ranges::sort(times);
-    return times[times.size() / 2];
 }
 
 double processorMilliseconds(clockid_t clock) {

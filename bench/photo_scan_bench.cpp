@@ -13,6 +13,7 @@
 #include <thread>
 #include <vector>
 
+#include "bench/Bench.h"
 #include "bench/MadeUpPhoto.h"
 #include "cli/CliSession.h"
 #include "decode/DecodePool.h"
@@ -22,6 +23,7 @@
 namespace {
 
 using namespace vantor;
+using bench::median;
 using Clock = std::chrono::steady_clock;
 
 constexpr std::size_t kMegabyte = 1024 * 1024;
@@ -144,11 +146,6 @@ Run scan(const QString& image, DecodePool* pool, double megabytesASecond) {
     run.seconds = std::chrono::duration<double>(Clock::now() - from).count();
     run.blocked = session.secondsBlocked();
     return run;
-}
-
-double median(std::vector<double> values) {
-    std::ranges::sort(values);
-    return values[values.size() / 2];
 }
 
 }  // namespace

@@ -81,6 +81,8 @@ bool ByteView::copy(std::uint64_t at, std::span<std::uint8_t> into) {
 }
 
 bool ByteView::matches(std::uint64_t at, std::string_view bytes) {
+    if (bytes.empty())
+        return true;
     const auto here = window(at, bytes.size());
     return here.size() >= bytes.size() && std::memcmp(here.data(), bytes.data(), bytes.size()) == 0;
 }
@@ -127,17 +129,32 @@ std::optional<std::uint64_t> ByteView::le64(std::uint64_t at) {
     return fixed<std::uint64_t>(*this, at, Endian::Little);
 }
 
-std::uint64_t ByteView::find(std::uint8_t byte, std::uint64_t from, std::uint64_t to) {
+Finding ByteView::find(std::uint8_t byte, std::uint64_t from, std::uint64_t to) {
     while (from < to) {
         const auto bytes = window(from);
         if (bytes.empty())
-            return from;
+            return {Finding::Outcome::Stopped, from};
         const auto count = static_cast<std::size_t>(std::min<std::uint64_t>(bytes.size(), to - from));
-        if (const void* hit = std::memchr(bytes.data(), byte, count))
-            return from + static_cast<std::uint64_t>(static_cast<const std::uint8_t*>(hit) - bytes.data());
+        if (const void* hit = std::memchr(bytes.data(), byte, count)) {
+            const auto skip = static_cast<const std::uint8_t*>(hit) - bytes.data();
+            return {Finding::Outcome::Found, from + static_cast<std::uint64_t>(skip)};
+        }
         from += count;
     }
-    return to;
+    return {Finding::Outcome::Absent, to};
+}
+
+std::optional<std::uint64_t> groupedNumber(ByteView& view, std::uint64_t& at, unsigned mostGroups) {
+    std::uint64_t value = 0;
+    for (unsigned group = 0; group < mostGroups; ++group) {
+        const auto byte = view.u8(at++);
+        if (!byte)
+            return std::nullopt;
+        value |= static_cast<std::uint64_t>(*byte & 0x7F) << (7 * group);
+        if ((*byte & 0x80) == 0)
+            return value;
+    }
+    return std::nullopt;
 }
 
 std::uint64_t Cursor::take(std::size_t bytes) {

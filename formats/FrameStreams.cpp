@@ -1,6 +1,6 @@
-// Sound that is nothing but frames one after the other: MPEG audio, ADTS, AC-3, AMR. Nothing marks the end;
-// the file goes on while frames of the same kind follow each other. Sources: ISO/IEC 11172-3, 13818-3 and -7;
-// ETSI TS 102 366; RFC 4867.
+// Sound that is nothing but frames one after the other: MPEG audio, ADTS, AC-3, DTS, AMR. Nothing marks the
+// end; the file goes on while frames of the same kind follow each other. Sources: ISO/IEC 11172-3, 13818-3
+// and -7; ETSI TS 102 366 and TS 102 114; RFC 4867.
 #include <algorithm>
 #include <array>
 
@@ -113,6 +113,28 @@ Extent walkAc3(ByteView& view) {
         crc = crc16(crc, first[i]);
     const bool proved = bytes != 0 && first.size() >= bytes && crc == 0;
     return walkFrames(view, start, proved ? 1 : kProof, frameBytes);
+}
+
+// Frames of the core stream, each with an extension of its own or without.
+Extent walkDts(ByteView& view) {
+    constexpr std::uint32_t kCore = 0x7FFE8001, kExtension = 0x64582025;
+    const auto bitsAt = [&](std::uint64_t at, unsigned first, unsigned count) {
+        const auto eight = view.number(at + first / 8, 4, Endian::Big).value_or(0);
+        return eight >> (32 - first % 8 - count) & ((std::uint64_t{1} << count) - 1);
+    };
+    if (view.be32(0) != kCore)
+        return unknownExtent();
+    return walkFrames(view, 0, kProof, [&](std::uint64_t at) -> std::uint64_t {
+        constexpr std::uint64_t kLeast = 96;
+        if (view.be32(at) == kCore) {
+            const auto bytes = bitsAt(at, 46, 14) + 1;
+            return bytes >= kLeast ? bytes : 0;
+        }
+        if (view.be32(at) != kExtension)
+            return 0;
+        const bool wide = bitsAt(at, 42, 1) != 0;
+        return bitsAt(at, wide ? 55 : 51, wide ? 20 : 16) + 1;
+    });
 }
 
 Extent walkAmr(ByteView& view) {

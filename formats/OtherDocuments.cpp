@@ -1,5 +1,6 @@
 // Documents that tell their length in a header: CHM, DjVu, shell links, encapsulated PostScript.
-// Sources: public notes on the CHM layout; DjVu 3 specification; [MS-SHLLINK]; Adobe EPSF 3.0 and DSC 3.0.
+// Sources: public notes on the CHM layout; DjVu 3 specification; [MS-SHLLINK]; IBM DCA reference; Adobe
+// EPSF 3.0 and DSC 3.0.
 #include <algorithm>
 
 #include "formats/Walkers.h"
@@ -22,6 +23,22 @@ Extent walkDjvu(ByteView& view) {
     if (!view.matches(0, "AT&TFORM") || !view.matches(12, "DJV"))
         return unknownExtent();
     return completeAt(view, 12 + std::uint64_t{view.be32(8).value_or(0)});
+}
+
+// Structured fields, each with its length and class, until what follows is none.
+Extent walkDisplayWrite(ByteView& view) {
+    constexpr std::uint8_t kFirstClass = 0xE1, kLastClass = 0xE8;
+    if (!view.matches(0, std::string_view("\0\5\xE1\3\0\0\x20\xE2", 8)))
+        return unknownExtent();
+    for (std::uint64_t at = 0;;) {
+        const auto bytes = view.be16(at);
+        const auto kind = view.u8(at + 2);
+        if (!bytes || !kind || *bytes < 5 || *kind < kFirstClass || *kind > kLastClass)
+            return inexact(completeAt(view, at));
+        at += *bytes;
+        if (at > view.size())
+            return cutOffAt(view, view.size());
+    }
 }
 
 Extent walkShellLink(ByteView& view) {
@@ -57,13 +74,14 @@ Extent walkPostScriptText(ByteView& view) {
     constexpr std::uint64_t kMostSilence = 64 * 1024 * 1024;  // without any comment line
     std::uint64_t embedded = 0;
     std::uint64_t sign = 0;
-    for (std::uint64_t at = 0; at < view.size();) {
-        at = view.find('%', at, std::min(view.size(), addClamped(sign, kMostSilence)));
-        if (at >= view.size() || !view.u8(at))
-            break;
+    for (std::uint64_t at = 0;;) {
+        const auto comment = view.find('%', at, std::min(view.size(), addClamped(sign, kMostSilence)));
+        if (comment.stopped())
+            return cutOffAt(view, comment.at);
+        if (!comment.found())
+            return comment.at < view.size() ? damagedAt(view, sign) : cutOffAt(view, view.size());
+        at = comment.at;
         if (!view.matches(at, "%%")) {
-            if (at - sign >= kMostSilence)
-                return damagedAt(view, sign);
             ++at;
             continue;
         }
@@ -80,7 +98,6 @@ Extent walkPostScriptText(ByteView& view) {
         }
         at += 2;
     }
-    return cutOffAt(view, view.size());
 }
 
 }  // namespace

@@ -12,16 +12,8 @@ constexpr std::string_view kMagic5("Rar!\x1A\x07\x01\0", 8);
 constexpr std::uint64_t kMostHeader5 = 2 * 1024 * 1024;
 
 std::optional<std::uint64_t> readNumber(ByteView& view, std::uint64_t& at) {
-    std::uint64_t value = 0;
-    for (unsigned group = 0; group < 10; ++group) {
-        const auto byte = view.u8(at++);
-        if (!byte)
-            return std::nullopt;
-        value |= static_cast<std::uint64_t>(*byte & 0x7F) << (7 * group);
-        if ((*byte & 0x80) == 0)
-            return value;
-    }
-    return std::nullopt;
+    constexpr unsigned kMostGroups = 10;
+    return groupedNumber(view, at, kMostGroups);
 }
 
 Extent walkRar5(ByteView& view) {

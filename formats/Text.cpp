@@ -102,4 +102,15 @@ Extent walkText(ByteView& view) {
     return end >= kLeast ? inexact(completeAt(view, end)) : unknownExtent();
 }
 
+// Types that are text in one form and something else in another: text only where it begins as such.
+Extent walkMarkedText(ByteView& view) {
+    static constexpr std::string_view kBeginnings[] = {
+        "STARTFONT ", "# VobSub index", "  0\r\nSECTION", "  0\nSECTION", "999\r\n", "999\n", "OFF\n"};
+    for (const auto beginning : kBeginnings) {
+        if (view.matches(0, beginning))
+            return walkText(view);
+    }
+    return unknownExtent();
+}
+
 }  // namespace vantor

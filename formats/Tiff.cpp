@@ -28,6 +28,7 @@ enum Tag : std::uint16_t {
     kPanasonicHeight = 3,
     kPanasonicBits = 10,
     kPanasonicRawOffset = 280,
+    kPhotoshop = 34377,
     kExif = 34665,
     kGps = 34853,
     kInterop = 40965,
@@ -84,6 +85,7 @@ class TiffWalk {
     std::size_t m_known = 0;
     std::uint64_t m_end = 0;
     bool m_broken = false;
+    bool m_padded = false;  // to four bytes, as the writer of Photoshop's own tag does
     Facts m_facts;
 };
 
@@ -161,6 +163,9 @@ void TiffWalk::entry(const TiffEntry& entry, Found& found) {
         case kSubDirectories:
             for (std::uint64_t i = 0; i < std::min<std::uint64_t>(entry.count, kMostDirectories); ++i)
                 enqueue(readTiffNumber(m_view, m_header, entry, i).value_or(0));
+            break;
+        case kPhotoshop:
+            m_padded = true;
             break;
         default:
             break;
@@ -272,6 +277,11 @@ Extent TiffWalk::walk() {
     addTiffFacts(m_view, m_header.base, m_facts);
     if (m_broken)
         return inexact(damagedAt(m_view, m_end, m_facts));
+    if (m_padded) {
+        const auto padding = (4 - m_end % 4) % 4;
+        if (padding != 0 && m_view.number(m_end, static_cast<std::size_t>(padding), Endian::Big) == 0U)
+            m_end += padding;
+    }
     return inexact(completeAt(m_view, m_end, m_facts));
 }
 

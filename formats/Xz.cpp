@@ -21,18 +21,9 @@ std::uint64_t padded(std::uint64_t at) {
     return (at + 3) / 4 * 4;
 }
 
-// A number in groups of seven bits, low group first; moves `at` behind it.
 std::optional<std::uint64_t> readNumber(ByteView& view, std::uint64_t& at) {
-    std::uint64_t value = 0;
-    for (unsigned group = 0; group < 9; ++group) {
-        const auto byte = view.u8(at++);
-        if (!byte)
-            return std::nullopt;
-        value |= static_cast<std::uint64_t>(*byte & 0x7F) << (7 * group);
-        if ((*byte & 0x80) == 0)
-            return value;
-    }
-    return std::nullopt;
+    constexpr unsigned kMostGroups = 9;
+    return groupedNumber(view, at, kMostGroups);
 }
 
 // Whether the CRC-32 told at `to` is that of [from, to).

@@ -41,6 +41,13 @@ constexpr std::array<std::string_view, 26> kLargeKinds = {
     "CAB",       "Jet database",  "TIFF",      "PSD",
     "FLAC",      "Monkey's Audio"};
 
+constexpr std::array<std::string_view, 15> kLargePackedFiles = {
+    "Zstandard",      "LZ4",         "lzip", "lzop", "Disc image", "Windows image",    "Sparse image",
+    "Evidence image", "Packed disc", "PAR2", "RPM",  "Unity data", "Long told length", "VirtualBox disk",
+    "Virtual PC disk"};
+constexpr std::array<std::string_view, 11> kLargeRecordings = {
+    "DV", "GXF", "IVF", "YUV4MPEG2", "FITS", "NIfTI", "MRC", "DICOM", "Laser scan", "pcap", "pcapng"};
+
 constexpr std::array<std::string_view, 8> kFrameStreams = {"MPEG program stream",
                                                            "MPEG transport stream",
                                                            "MPEG video",
@@ -51,8 +58,9 @@ constexpr std::array<std::string_view, 8> kFrameStreams = {"MPEG program stream"
                                                            "Text"};
 
 // Walkers that recognise files whose end they cannot tell.
-constexpr std::array<std::string_view, 6> kMayNotTellEnd = {"JPEG XL", "ISO media", "RAR",
-                                                            "OLE2",    "TIFF",      "PDF"};
+constexpr std::array<std::string_view, 11> kMayNotTellEnd = {
+    "JPEG XL",     "ISO media",        "RAR",        "OLE2", "TIFF", "PDF",
+    "Told length", "Long told length", "Sun raster", "RPM",  "Font"};
 
 template <std::size_t Count>
 bool isAmong(const std::array<std::string_view, Count>& names, const Walker* walker) {
@@ -85,7 +93,9 @@ std::uint64_t bytesToKeep(const Extent& extent, const LengthLimits& limits) {
 
 TrueLength trueLengthOf(const QString& type, MediumBytes& bytes, bool mayGoBeyond) {
     const std::string extension = extensionOf(type);
-    const bool large = isAmong(kLargeKinds, walkerFor(extension));
+    const Walker* const walker = walkerFor(extension);
+    const bool large = isAmong(kLargeKinds, walker) || isAmong(kLargePackedFiles, walker) ||
+                       isAmong(kLargeRecordings, walker);
     const std::uint64_t mostPlausible = large ? kMostLargeFile : kMostSmallFile;
     if (!mayGoBeyond) {
         bytes.limitTo(bytes.carvedBytes());

@@ -3,16 +3,12 @@
 
 #include "Corpus.h"
 #include "Samples.h"
+#include "WalkBytes.h"
 #include "formats/Crc.h"
 #include "formats/Registry.h"
 
 namespace vantor::test {
 namespace {
-
-Extent walkBytes(std::string_view extension, const Bytes& bytes) {
-    SpanSource source(bytes);
-    return walk(extension, source);
-}
 
 const Bytes kContent = Build().text("hello hello hello hello");
 const Bytes kPacked = {0xCB, 0x48, 0xCD, 0xC9, 0xC9, 0x57, 0xC8, 0x40, 0x27, 0x01};
@@ -214,16 +210,7 @@ TEST(Xml, ForeignBytesInTheDocument_AreTheBreak) {
 
 TEST(CompoundFile, TableBeyondTheMedium_IsCutOff) {
     Build out;
-    out.be64(0xD0CF11E0A1B11AE1)
-        .fill(16)
-        .le16(0x3E)
-        .le16(3)
-        .le16(0xFFFE)
-        .le16(9)
-        .le16(6)
-        .to(44)
-        .le32(1)
-        .to(68);
+    out.add(compoundHead()).le32(1).to(68);
     out.le32(0xFFFFFFFE).le32(0).le32(5000).to(4096);
     EXPECT_EQ(walkBytes("XLS", out).verdict, Verdict::CutOff);
 }

@@ -3,15 +3,11 @@
 
 #include "Corpus.h"
 #include "Samples.h"
+#include "WalkBytes.h"
 #include "formats/Registry.h"
 
 namespace vantor::test {
 namespace {
-
-Extent walkBytes(std::string_view extension, const Bytes& bytes) {
-    SpanSource source(bytes);
-    return walk(extension, source);
-}
 
 Bytes exifSegment() {
     const Bytes block = Build().text(std::string_view("Exif\0\0", 6)).add(tiff());
@@ -175,6 +171,16 @@ TEST(Tiff, PanasonicRaw_ReachesAsFarAsItsPixelsTake) {
     EXPECT_EQ(extent.verdict, Verdict::Complete);
     EXPECT_EQ(extent.end, 512U + 140 * 100 / 14 * 16);
     EXPECT_FALSE(extent.exactEnd);
+}
+
+TEST(Tiff, PaddingOfPhotoshop_BelongsToTheFile) {
+    Bytes whole = tiff();
+    whole[8 + 2 + 2 * 12] = 0x49;  // the date's place holds Photoshop's own tag
+    whole[8 + 2 + 2 * 12 + 1] = 0x86;
+    ASSERT_EQ(whole.size() % 4, 2U);
+    EXPECT_EQ(walkBytes("TIF", Build().add(whole).fill(600)).end, whole.size() + 2);
+    EXPECT_EQ(walkBytes("TIF", Build().add(whole).fill(600, 1)).end, whole.size());
+    EXPECT_EQ(walkBytes("TIF", Build().add(tiff()).fill(600)).end, whole.size());
 }
 
 TEST(Tiff, StripBeyondTheMedium_IsCutOff) {

@@ -1,6 +1,7 @@
 // One small whole file of every format, made by hand, so that the walkers are tested where no real files are.
 #pragma once
 
+#include <initializer_list>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -24,6 +25,9 @@ std::vector<Sample> movieSamples();
 std::vector<Sample> soundSamples();
 std::vector<Sample> archiveSamples();
 std::vector<Sample> documentSamples();
+std::vector<Sample> rasterSamples();
+std::vector<Sample> recordSamples();
+std::vector<Sample> toldLengthSamples();
 std::vector<Sample> allSamples();
 
 // Building blocks that single tests use as well.
@@ -33,6 +37,11 @@ Bytes riffChunk(std::string_view name, const Bytes& body);
 Bytes jpeg(const Bytes& segments = {}, const Bytes& entropy = {0x12, 0x34, 0xFF, 0x00, 0x56});
 // A TIFF of 4 x 4 grey pixels with a date.
 Bytes tiff(bool little = true);
+// A header of FITS, padded to its block.
+Bytes fitsCards(std::initializer_list<std::string_view> cards);
+Bytes exrAttribute(std::string_view name, std::string_view type, const Bytes& value);
+// The head of a compound file of 512-byte sectors, up to the count of its tables.
+Bytes compoundHead();
 Bytes zipEntry(std::string_view name, const Bytes& content);
 Bytes zip(std::string_view name, const Bytes& content, std::string_view comment = {});
 

@@ -34,6 +34,10 @@ Bytes zip(std::string_view name, const Bytes& content, std::string_view comment)
         .text(comment);
 }
 
+Bytes compoundHead() {
+    return Build().be64(0xD0CF11E0A1B11AE1).fill(16).le16(0x3E).le16(3).le16(0xFFFE).le16(9).le16(6).to(44);
+}
+
 namespace {
 
 const Bytes kContent = Build().text("Some content that is long enough to be cut in its middle.");
@@ -167,16 +171,7 @@ Bytes lzh() {
 
 Bytes compound() {
     Build out;
-    out.be64(0xD0CF11E0A1B11AE1)
-        .fill(16)
-        .le16(0x3E)
-        .le16(3)
-        .le16(0xFFFE)
-        .le16(9)
-        .le16(6)
-        .to(44)
-        .le32(1)
-        .le32(1);
+    out.add(compoundHead()).le32(1).le32(1);
     out.to(68).le32(0xFFFFFFFE).le32(0).le32(0).to(512);
     out.le32(0xFFFFFFFD)
         .le32(0xFFFFFFFE)
@@ -346,6 +341,9 @@ std::vector<Sample> documentSamples() {
         {"MOBI", mobi()},
         {"CHM", chm()},
         {"DJVU", Build().text("AT&TFORM").be32(40).text("DJVU").fill(36, 1)},
+        {"FFT",
+         Build().be32(0x0005E103).u8(0).be16(32).be32(0xE2050001).fill(26, 7).be32(0x0006E807).be16(12),
+         false},
         {"LNK", shellLink()},
         {"PS", Build().text("%!PS-Adobe-3.0\n%%BeginDocument: x\n%%EOF\n%%EndDocument\nshowpage\n%%EOF\n")},
         {"EPS", Build().be32(0xC5D0D3C6).le32(30).le32(50).fill(18).to(80)},
@@ -361,8 +359,8 @@ std::vector<Sample> documentSamples() {
 
 std::vector<Sample> allSamples() {
     std::vector<Sample> all;
-    for (const auto& part :
-         {pictureSamples(), movieSamples(), soundSamples(), archiveSamples(), documentSamples()})
+    for (const auto& part : {pictureSamples(), movieSamples(), soundSamples(), archiveSamples(),
+                             documentSamples(), rasterSamples(), recordSamples(), toldLengthSamples()})
         all.insert(all.end(), part.begin(), part.end());
     return all;
 }

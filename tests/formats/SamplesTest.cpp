@@ -36,6 +36,9 @@ TEST_P(SampleTest, FollowedByForeignBytes_EndsBeforeThem) {
         EXPECT_EQ(extent.verdict, Verdict::Complete);
         EXPECT_EQ(extent.end, GetParam().bytes.size());
     }
+    if (GetParam().marked) {
+        EXPECT_EQ(walkWith(noise(5000, 3)).end, GetParam().bytes.size());
+    }
 }
 
 TEST_P(SampleTest, CutAnywhere_IsNeverWhole) {

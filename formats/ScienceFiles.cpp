@@ -1,0 +1,179 @@
+// Measurements and pictures of medicine, maps and security: DICOM, LAS, NITF; certificates and signed mail.
+// Sources: DICOM PS3.5 and PS3.10; ASPRS LAS 1.4; MIL-STD-2500C (NITF); ITU-T X.690 (DER).
+#include <algorithm>
+
+#include "formats/Walkers.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr std::uint32_t kUndefined = 0xFFFFFFFF;
+
+// Data elements in either way of writing them. Those of undefined length are entered; what they hold looks
+// alike.
+class DicomWalk {
+  public:
+    explicit DicomWalk(ByteView& view) : m_view(view) {}
+    Extent walk();
+
+  private:
+    enum class Step { Good, End, Cut, Broken };
+    Step element();
+    // Length and head of the element at m_at; a length of its own kind says "until a delimiter".
+    std::optional<std::pair<std::uint32_t, std::uint64_t>> lengthHere();
+
+    ByteView& m_view;
+    std::uint64_t m_at = 132;
+    Endian m_endian = Endian::Little;
+    bool m_explicit = true;
+    bool m_inMeta = true;
+    std::uint32_t m_depth = 0;
+    std::uint32_t m_last = 0;  // tag before, outside sequences
+    Facts m_facts;
+};
+
+bool isPair(ByteView& view, std::uint64_t at) {
+    const auto a = view.u8(at).value_or(0), b = view.u8(at + 1).value_or(0);
+    return a >= 'A' && a <= 'Z' && b >= 'A' && b <= 'Z';
+}
+
+std::optional<std::pair<std::uint32_t, std::uint64_t>> DicomWalk::lengthHere() {
+    const bool item = m_view.number(m_at, 2, m_endian) == 0xFFFEU;
+    if (item || !m_explicit) {
+        const auto bytes = m_view.number(m_at + 4, 4, m_endian);
+        return bytes ? std::optional(std::pair(static_cast<std::uint32_t>(*bytes), std::uint64_t{8}))
+                     : std::nullopt;
+    }
+    for (const std::string_view wide :
+         {"OB", "OW", "OF", "OD", "OL", "OV", "SQ", "UC", "UR", "UT", "UN", "SV", "UV"}) {
+        if (!m_view.matches(m_at + 4, wide))
+            continue;
+        const auto bytes = m_view.number(m_at + 8, 4, m_endian);
+        return bytes ? std::optional(std::pair(static_cast<std::uint32_t>(*bytes), std::uint64_t{12}))
+                     : std::nullopt;
+    }
+    const auto bytes = m_view.number(m_at + 6, 2, m_endian);
+    return bytes ? std::optional(std::pair(static_cast<std::uint32_t>(*bytes), std::uint64_t{8}))
+                 : std::nullopt;
+}
+
+DicomWalk::Step DicomWalk::element() {
+    constexpr std::uint32_t kItem = 0xFFFEE000, kItemEnd = 0xFFFEE00D, kSequenceEnd = 0xFFFEE0DD;
+    constexpr std::uint32_t kRows = 0x00280010, kColumns = 0x00280011;
+    if (m_inMeta && m_view.number(m_at, 2, Endian::Little) != 2U) {
+        // Behind the group that describes the file its own way of writing begins.
+        m_inMeta = false;
+        m_explicit = isPair(m_view, m_at + 4);
+        m_endian = m_view.u8(m_at) == 0 ? Endian::Big : Endian::Little;
+    }
+    const auto group = m_view.number(m_at, 2, m_endian), number = m_view.number(m_at + 2, 2, m_endian);
+    if (!group || !number)
+        return Step::End;
+    const auto tag = static_cast<std::uint32_t>(*group << 16 | *number);
+    const bool delimiter = tag == kItem || tag == kItemEnd || tag == kSequenceEnd;
+    if (m_depth == 0 && (delimiter || tag <= m_last))
+        return Step::End;
+    if (!delimiter && m_explicit && !isPair(m_view, m_at + 4))
+        return m_depth == 0 ? Step::End : Step::Broken;
+    const auto length = lengthHere();
+    if (!length)
+        return Step::Cut;
+    const auto [bytes, head] = *length;
+    if (tag == kRows)
+        m_facts.height = m_view.le16(m_at + head).value_or(0);
+    if (tag == kColumns)
+        m_facts.width = m_view.le16(m_at + head).value_or(0);
+    if (m_depth == 0)
+        m_last = tag;
+    if (bytes == kUndefined)
+        ++m_depth;
+    else if (tag == kItemEnd || tag == kSequenceEnd)
+        --m_depth;
+    m_at += head + (bytes == kUndefined ? 0 : bytes);
+    return m_at > m_view.size() ? Step::Cut : Step::Good;
+}
+
+Extent DicomWalk::walk() {
+    constexpr std::uint32_t kMostElements = 1 << 22, kDeepest = 1 << 16;
+    if (!m_view.matches(128, std::string_view("DICM\2\0", 6)))
+        return unknownExtent();
+    Step step = Step::Good;
+    for (std::uint32_t elements = 0; step == Step::Good && elements < kMostElements; ++elements)
+        step = m_depth > kDeepest ? Step::Broken : element();
+    if (step == Step::Cut || (step == Step::End && (m_depth != 0 || m_inMeta)))
+        return cutOffAt(m_view, m_view.size(), m_facts);
+    if (step != Step::End)
+        return damagedAt(m_view, m_at, m_facts);
+    return inexact(completeAt(m_view, m_at, m_facts));
+}
+
+}  // namespace
+
+Extent walkDicom(ByteView& view) {
+    return DicomWalk(view).walk();
+}
+
+Extent walkLaserScan(ByteView& view) {
+    constexpr std::uint8_t kPacked = 0x80;
+    constexpr std::uint64_t kWideHead = 375, kExtra = 60;
+    if (!view.matches(0, "LASF") || view.u8(24) != 1 || (view.u8(104).value_or(0) & kPacked) != 0)
+        return unknownExtent();  // packed points tell no length
+    Cursor in(view, 94, Endian::Little);
+    const std::uint64_t head = in.u16(), points = in.u32();
+    in.skip(5);
+    const std::uint64_t bytes = in.u16();
+    std::uint64_t count = in.u32();
+    if (!in.ok())
+        return cutOffAt(view, view.size());
+    if (head < 227 || points < head || bytes < 20)
+        return unknownExtent();
+    const bool wide = head >= kWideHead;
+    if (wide)
+        count = std::max(count, view.le64(247).value_or(0));
+    std::uint64_t end = addClamped(points, mulClamped(bytes, count));
+    std::uint64_t at = wide ? view.le64(235).value_or(0) : 0;
+    for (auto records = wide ? view.le32(243).value_or(0) : 0; records > 0 && at >= end; --records) {
+        const auto extra = view.le64(at + 20);
+        if (!extra)
+            return cutOffAt(view, view.size());
+        end = at = addClamped(at + kExtra, *extra);
+    }
+    return completeAt(view, end);
+}
+
+Extent walkNitf(ByteView& view) {
+    constexpr std::uint64_t kLengthAt = 342, kDigits = 12;
+    if (!view.matches(0, "NITF02.10") && !view.matches(0, "NSIF01.00"))
+        return unknownExtent();
+    std::uint64_t bytes = 0;
+    for (std::uint64_t i = 0; i < kDigits; ++i) {
+        const auto digit = view.u8(kLengthAt + i);
+        if (!digit)
+            return cutOffAt(view, view.size());
+        if (*digit < '0' || *digit > '9')
+            return unknownExtent();
+        bytes = bytes * 10 + (*digit - '0');
+    }
+    constexpr std::uint64_t kUnset = 999'999'999'999, kLeast = 388;
+    return bytes < kLeast || bytes == kUnset ? unknownExtent() : completeAt(view, bytes);
+}
+
+// One sequence that tells its length, in text between two lines, or as it is.
+Extent walkCertificate(ByteView& view) {
+    if (view.matches(0, "-----BEGIN "))
+        return walkText(view);
+    const auto form = view.u8(1).value_or(0);
+    if (view.u8(0) != 0x30 || form < 0x82 || form > 0x84)
+        return unknownExtent();
+    const std::size_t digits = form & 0x7FU;
+    const auto bytes = view.number(2, digits, Endian::Big);
+    if (!bytes)
+        return unknownExtent();
+    const auto inner = view.u8(2 + digits);
+    if (*bytes < 0x80 || (inner != 0x30 && inner != 0x02 && inner != 0x06))
+        return unknownExtent();
+    return completeAt(view, 2 + digits + *bytes);
+}
+
+}  // namespace vantor
