@@ -5,6 +5,8 @@
 
 namespace vantor {
 
+InterfaceQueue::InterfaceQueue(std::function<void()> wake) : m_wake(std::move(wake)) {}
+
 void InterfaceQueue::post(Step step) {
     const std::lock_guard lock(m_lock);
     if (!m_closed) {
@@ -19,6 +21,11 @@ bool InterfaceQueue::runAndWait(Step step) {
     }
     const auto state = std::make_shared<State>(State::Waiting);
     m_entries.push_back({std::move(step), state});
+    if (m_wake) {
+        lock.unlock();
+        m_wake();
+        lock.lock();
+    }
     m_settled.wait(lock, [&] { return m_closed || *state != State::Waiting; });
     return *state == State::Done;
 }

@@ -9,11 +9,14 @@
 
 namespace vantor {
 
-// The interface thread empties the queue a few times a second; nothing of the toolkit is touched by the other
-// threads.
+// The interface thread empties the queue a few times a second, and at once when somebody waits; nothing of the
+// toolkit is touched by the other threads.
 class InterfaceQueue {
   public:
     using Step = std::function<void()>;
+
+    // `wake` is called on the thread that begins to wait, with its step already in the queue.
+    explicit InterfaceQueue(std::function<void()> wake = {});
 
     // Any thread: runs later on the interface thread.
     void post(Step step);
@@ -37,6 +40,7 @@ class InterfaceQueue {
         std::shared_ptr<State> state;  // null when nobody waits
     };
 
+    const std::function<void()> m_wake;
     mutable std::mutex m_lock;
     std::condition_variable m_settled;
     std::deque<Entry> m_entries;

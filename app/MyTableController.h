@@ -6,6 +6,7 @@
 //   Exit                        app/Exit.cpp
 //   Wizard actions              wizard/ScreenFlow.cpp
 //   Screens                     wizard/ScreenGroups.cpp
+//   Items left behind           wizard/LeftItems.cpp
 //   Table data sources          wizard/TableDataSources.cpp
 //   Panels and help             wizard/PanelActions.cpp
 //   Media list                  media/MediaScreen.cpp
@@ -110,6 +111,11 @@ class MyTableController : public QObject,
     void show_hide_3_screen_Photo(bool hide);
     void show_hide_3_screen_RawFile(bool hide);
     void show_hide_4_screen_RawFile(bool hide);
+
+    // --- Items left behind (wizard/LeftItems.cpp) ---
+
+    // The results of a scan whose later pass could not open the medium, which led back to the screen before.
+    void showLeftItems();
 
     // --- Table data sources (wizard/TableDataSources.cpp) ---
 
@@ -293,6 +299,8 @@ class MyTableController : public QObject,
     RangePanel& rangeOf(ControlSet set);
     void showEntireDiskHelp();
     void showSectorRangeHelp();
+    void showRangeHelp();
+    void showFileTypeHelp();
     void nextFromMedia();
     void nextFromRange();
     void nextFromFileTypes();
@@ -301,6 +309,10 @@ class MyTableController : public QObject,
     void backToFileTypes();
     void setMode(int mode);
     void showWhereWeAre();
+    bool onScanScreen() const;
+    void scanFellBack();
+    void showLeftItemsBar();
+    bool mayBeginScan();
     void bringIntoView(QWidget* widget);
     void showPreviewPane(bool hide);
     void hideOpenFolderButtons();
@@ -344,6 +356,7 @@ class MyTableController : public QObject,
     void orderItems();
     void putInOrder();
     void runBeside(const std::function<void()>& work);
+    std::unique_ptr<Movie> openBeside(const MovieLoader& loader, const QString& file);
     void showPicture(const QPixmap& picture, const QString& title);
     void showPreviewFacts();
     void saveItems(const QList<qsizetype>& indexes);
@@ -377,7 +390,8 @@ class MyTableController : public QObject,
     QList<QMetaObject::Connection> m_notifications;
 
     // Shared between the threads of a scan.
-    InterfaceQueue m_queue;
+    InterfaceQueue m_queue{
+        [this] { QMetaObject::invokeMethod(this, &MyTableController::drainQueue, Qt::QueuedConnection); }};
     std::unique_ptr<ThumbnailQueue> m_thumbnails;  // null without a thumbnailer
     std::array<PendingView, 2> m_pending;
     std::atomic<bool> m_resultRowsDirty{false};
@@ -396,6 +410,9 @@ class MyTableController : public QObject,
     ScanMeter m_meter;
     double m_progressSectors = 0;
     bool m_draining = false;
+
+    // Set when a scan fell back to the screen before.
+    QList<ResultRow> m_leftRows;
 
     // Set on the file-type screen and by the last click in a table.
     int m_clickedColumn = -1;

@@ -22,8 +22,7 @@ struct ProgramParts {
     Thumbnailer thumbnailer;
     PicturePreviewer picture = readPicture;
     MovieLoader movie;  // none: every preview is a picture
-    // How long a file sounds, in milliseconds; 0 when it does not or nobody knows. Any one thread.
-    std::function<std::int64_t(const QString& file)> soundLength;
+    MovieLoader sound;  // what sounds of a file that is shown as a picture; none: nothing does
     QString resourcesFolder;
 
     // True when files written into the folder would land on the medium behind "/dev/r" + identifier.

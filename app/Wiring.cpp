@@ -95,6 +95,7 @@ void MyTableController::wireButtons() {
         openImages(files);
     });
     connect(_stop_scan, &QPushButton::clicked, this, &MyTableController::clearWaitingThumbnails);
+    connect(showItemsButton, &QPushButton::clicked, this, &MyTableController::showLeftItems);
     for (QPushButton* button : {_open_folder, _open_folder_Sig}) {
         connect(button, &QPushButton::clicked, this, &MyTableController::openDestination);
     }

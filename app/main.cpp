@@ -12,7 +12,7 @@
 #include "media/PlatformMedia.h"
 #include "results/DestinationCheck.h"
 #include "results/FilePreviewer.h"
-#include "results/HelperMovie.h"
+#include "results/SoundMovie.h"
 #include "wizard/Theme.h"
 
 namespace {
@@ -37,13 +37,9 @@ ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTable
         return pool->thumbnail(encoded, extension);
     };
     parts.picture = makeFilePreviewer(pool, std::make_shared<const DesktopThumbnailers>());
-    parts.soundLength = [](const QString& file) {
-        const auto sound = SoundReader::open(file);
-        return sound ? sound->durationMs() : 0;
-    };
-    parts.movie = [](const QString& file) {
-        return HelperMovie::open(file, kLargestFrame, {makeDesktopSoundDevice, {}});
-    };
+    const HelperMovieOptions playing{makeDesktopSoundDevice, {}};
+    parts.sound = [playing](const QString& file) { return SoundMovie::open(file, {}, playing); };
+    parts.movie = [playing](const QString& file) { return openMovieOrSound(file, kLargestFrame, playing); };
     parts.resourcesFolder = resourcesFolder();
     parts.isOnMedium = [targets = parts.media->targets()](const QString& folder, const QString& devicePath) {
         const auto target = targets->find(devicePath.mid(QStringLiteral("/dev/r").size()));

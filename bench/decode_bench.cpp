@@ -2,19 +2,17 @@
 // makes. Usage: decode_bench [JPEG...]; without arguments a 12-megapixel picture is made up.
 #include <time.h>
 
-#include <QBuffer>
 #include <QCoreApplication>
 #include <QFile>
-#include <QImage>
 #include <QThreadPool>
-#include <algorithm>
 #include <chrono>
-#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <thread>
 #include <vector>
 
+#include "bench/Bench.h"
+#include "bench/MadeUpPhoto.h"
 #include "decode/DecodePool.h"
 #include "decode/SharedPixels.h"
 #include "decode/ThumbnailCodec.h"
@@ -22,6 +20,7 @@
 #include "decode/helper/PictureDecoder.h"
 
 using namespace vantor;
+using bench::median;
 using Clock = std::chrono::steady_clock;
 
 namespace {
@@ -30,31 +29,6 @@ constexpr int kRounds = 40;
 
 double milliseconds(Clock::time_point from) {
     return std::chrono::duration<double, std::milli>(Clock::now() - from).count();
-}
-
-double median(std::vector<double> times) {
-    std::ranges::sort(times);
-    return times[times.size() / 2];
-}
-
-// Detail and grain as a camera's picture has them.
-QByteArray madeUpPhoto(int width, int height) {
-    QImage image(width, height, QImage::Format_RGB32);
-    std::uint32_t noise = 1;
-    for (int y = 0; y < height; ++y) {
-        auto* row = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < width; ++x) {
-            noise = noise * 1664525 + 1013904223;
-            const int grain = static_cast<int>(noise >> 28);
-            const int wave = static_cast<int>(100 + 80 * std::sin(x / 37.0) * std::cos(y / 23.0));
-            row[x] = qRgb(wave + grain, (wave + x / 40) % 240 + grain, (255 - wave) / 2 + grain);
-        }
-    }
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "JPEG", 92);
-    return bytes;
 }
 
 double processorMilliseconds(clockid_t clock) {

@@ -2,9 +2,11 @@
 #include <benchmark/benchmark.h>
 
 #include <QStringList>
+#include <cstring>
 #include <random>
 #include <vector>
 
+#include "bench/Bench.h"
 #include "catalogue/CatalogueFile.h"
 #include "media/SectorReader.h"
 #include "scan/HeaderMatcher.h"
@@ -23,23 +25,6 @@ std::vector<std::uint8_t> randomSectors() {
     return bytes;
 }
 
-// Signatures of four to eight bytes at the offsets that real formats use.
-QStringList madeUpRecords(int count) {
-    static constexpr int kOffsets[] = {1, 1, 1, 1, 5, 9, 258};
-    std::mt19937 random(2);
-    QStringList array;
-    for (int n = 0; n < count; ++n) {
-        QString hex;
-        for (std::uint32_t bytes = 4 + random() % 5; bytes > 0; --bytes) {
-            hex += QStringLiteral("%1").arg(random() % 256, 2, 16, QLatin1Char('0'));
-        }
-        array << QStringLiteral("X%1").arg(n) << QStringLiteral("1000000") << hex
-              << QString::number(kOffsets[random() % std::size(kOffsets)]) << QString() << QString()
-              << QString::number(hex.left(2).toInt(nullptr, 16));
-    }
-    return array;
-}
-
 void match(benchmark::State& state, const QStringList& records) {
     const vantor::HeaderMatcher matcher(records);
     const auto sectors = randomSectors();
@@ -52,7 +37,7 @@ void match(benchmark::State& state, const QStringList& records) {
 }
 
 void BM_MatchBySignatures(benchmark::State& state) {
-    match(state, madeUpRecords(static_cast<int>(state.range(0))));
+    match(state, vantor::bench::madeUpRecords(static_cast<int>(state.range(0))));
 }
 BENCHMARK(BM_MatchBySignatures)->Arg(10)->Arg(100)->Arg(1000);
 

@@ -16,10 +16,12 @@
 #include <random>
 #include <vector>
 
+#include "bench/Bench.h"
 #include "samples/CardContents.h"
 
 namespace {
 
+using vantor::bench::median;
 using Clock = std::chrono::steady_clock;
 
 constexpr qint64 kCardBytes = qint64{2} << 30;
@@ -52,7 +54,7 @@ QByteArray photo(Random& random, qint64 bytes) {
     static const QByteArray kHead =
         QByteArray::fromHex("ffd8ffe000104a46494600010100000100010000ffdb004300") + QByteArray(64, 1) +
         QByteArray::fromHex(
-            "ffc0000b080bb80fa0010122 00ffc4001400010000000000000000000000000000000000ffda0008"
+            "ffc0000b080bb80fa001012200ffc4001400010000000000000000000000000000000000ffda0008"
             "010100003f00");
     QByteArray coded = random.bytes(bytes - kHead.size() - 2);
     for (qsizetype at = coded.indexOf('\xFF'); at >= 0 && at + 1 < coded.size();
@@ -63,9 +65,13 @@ QByteArray photo(Random& random, qint64 bytes) {
     return kHead + coded + QByteArray("\xFF\xD9", 2);
 }
 
-void writePadded(QFile& card, const QByteArray& file) {
-    card.write(file);
-    card.write(QByteArray((kSector - file.size() % kSector) % kSector, '\0'));
+bool writeAll(QFile& card, const QByteArray& bytes) {
+    return card.write(bytes) == bytes.size();
+}
+
+bool writePadded(QFile& card, const QByteArray& file) {
+    return writeAll(card, file) &&
+           writeAll(card, QByteArray((kSector - file.size() % kSector) % kSector, '\0'));
 }
 
 // Between 1 and 6 MB, 2 MB in the mean.
@@ -93,15 +99,18 @@ bool writeCard(const QString& path, const std::vector<vantor::samples::CardFile>
     }
     Random random(11);
     for (std::size_t i = 0; i < kPhotos; ++i) {
-        writePadded(card, photo(random, photoBytes(random)));
-        if (i % 8 == 0 && i / 8 < others.size()) {
-            writePadded(card, others[i / 8].bytes);
+        if (!writePadded(card, photo(random, photoBytes(random)))) {
+            return false;
+        }
+        if (i % 8 == 0 && i / 8 < others.size() && !writePadded(card, others[i / 8].bytes)) {
+            return false;
         }
         const qint64 even = kCardBytes / kPhotos * static_cast<qint64>(i + 1);
-        card.write(random.bytes(std::max<qint64>(0, (even - card.pos()) / kSector * kSector)));
+        if (!writeAll(card, random.bytes(std::max<qint64>(0, (even - card.pos()) / kSector * kSector)))) {
+            return false;
+        }
     }
-    card.write(random.bytes(std::max<qint64>(0, kCardBytes - card.pos())));
-    return card.flush();
+    return writeAll(card, random.bytes(std::max<qint64>(0, kCardBytes - card.pos()))) && card.flush();
 }
 
 double seconds(const std::function<void()>& work) {
@@ -148,10 +157,6 @@ int main(int argc, char** argv) {
                 [&] { runOrEnd(search + " --save " + out + ' ' + QFile::encodeName(image) + " > " + log); }));
             QDir(QFile::decodeName(out)).removeRecursively();
         }
-        const auto median = [](std::vector<double> values) {
-            std::sort(values.begin(), values.end());
-            return values[values.size() / 2];
-        };
         std::printf("%s: dd %.2f s; searched in %.1f times that, recovered and saved in %.1f times that\n",
                     card.name, median(ddTimes), median(searchTimes) / median(ddTimes),
                     median(saveTimes) / median(ddTimes));

@@ -13,15 +13,19 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
+#include <cstring>
 #include <functional>
 #include <random>
 #include <vector>
 
+#include "bench/Bench.h"
 #include "cli/CliSession.h"
 #include "media/RawDevice.h"
 
 namespace {
 
+using vantor::bench::median;
 using Clock = std::chrono::steady_clock;
 
 constexpr std::size_t kMegabyte = 1024 * 1024;
@@ -89,24 +93,6 @@ void runDd(const QString& image) {
     }
 }
 
-void cutTo(QStringList& records, int count) {
-    records = records.mid(0, qsizetype{7} * count);
-}
-
-QStringList madeUpRecords(int count) {
-    std::mt19937 random(2);
-    QStringList array;
-    for (int n = 0; n < count; ++n) {
-        QString hex;
-        for (int byte = 0; byte < 6; ++byte) {
-            hex += QStringLiteral("%1").arg(random() % 256, 2, 16, QLatin1Char('0'));
-        }
-        array << QStringLiteral("X%1").arg(n) << QStringLiteral("1000000") << hex << QStringLiteral("1")
-              << QString() << QString() << QString::number(hex.left(2).toInt(nullptr, 16));
-    }
-    return array;
-}
-
 void scan(const QString& image, vantor::RecoveryMode mode, int madeUp = 0) {
     vantor::CliOptions options;
     options.mode = mode;
@@ -115,8 +101,7 @@ void scan(const QString& image, vantor::RecoveryMode mode, int madeUp = 0) {
     vantor::CliSession session(options, vantor::probeMedium(image)->sectors);
     session.setMediumOpener([&](const QString&) { return vantor::openMedium(image); });
     if (madeUp > 0) {
-        session.RawFile_Array = madeUpRecords(1000);
-        cutTo(session.RawFile_Array, madeUp);
+        session.RawFile_Array = vantor::bench::madeUpRecords(madeUp);
     } else {
         session.loadCatalogues(QStringLiteral(VANTOR_SOURCE_DIR "/resources"));
         session.Adv_RawFile_Array.clear();
@@ -158,10 +143,6 @@ int main(int argc, char** argv) {
             memory[i] = std::max(memory[i], cost.mebibytes);
         }
     }
-    const auto median = [](std::vector<double> values) {
-        std::sort(values.begin(), values.end());
-        return values[values.size() / 2];
-    };
     std::printf("%zu GiB cached, %d rounds, dd bs=1M %.2f GB/s\n", gibibytes, rounds,
                 static_cast<double>(gibibytes) * 1.073741824 / median(dd));
     for (std::size_t i = 0; i < std::size(contestants); ++i) {

@@ -84,7 +84,10 @@ void CliSession::run() {
     if (!m_options.saveFolder.isEmpty()) {
         m_queue = std::make_unique<SaveQueue>(
             m_options.saveFolder, m_options.savePolicy, [this] { return openMedium(); },
-            [this](const SaveTask&, const SaveOutcome& outcome) { m_outcomes.push_back(outcome); });
+            [this](SaveTask& task, const SaveOutcome& outcome) {
+                m_outcomes.push_back(outcome);
+                giveBackPhotoBytes(std::move(task.firstBytes));
+            });
     }
     if (m_options.mode == kPhotoMode) {
         Photo_Rec_Thread();

@@ -41,7 +41,7 @@ endfunction()
 # an absolute path on the command line keeps the compiler cache from serving another checkout.
 function(vantor_folders)
     foreach(source IN LISTS ARGN)
-        file(STRINGS ${source} uses REGEX "VANTOR_(SOURCE|BINARY)_DIR|decode/Fixtures.h" LIMIT_COUNT 1)
+        file(STRINGS ${source} uses REGEX "VANTOR_(SOURCE|BINARY)_DIR|decode/(Movie)?Fixtures.h" LIMIT_COUNT 1)
         if(uses)
             set_property(SOURCE ${source} APPEND PROPERTY COMPILE_DEFINITIONS
                 VANTOR_SOURCE_DIR="${CMAKE_SOURCE_DIR}" VANTOR_BINARY_DIR="${CMAKE_BINARY_DIR}")

@@ -27,8 +27,10 @@ namespace {
 constexpr milliseconds kProcessorTimeOfAHelper = std::chrono::minutes{10};
 constexpr std::uint64_t kPicturesOfAHelper = 5000;
 
-constexpr milliseconds kFirstRetry{100};
+constexpr milliseconds kFirstRetry{20};
 constexpr milliseconds kLastRetry{30'000};
+// One that was ended while it started says nothing of the next; so many in a row do.
+constexpr int kHopelessStarts = 3;
 
 // Signals that a decoder does not raise on itself.
 bool isFromOutside(int signal) {
@@ -234,6 +236,7 @@ bool DecodePool::isWornOut(const HelperProcess& helper) const {
 // thread that started it.
 void DecodePool::keepHelpers() {
     milliseconds retry = kFirstRetry;
+    int failuresInARow = 0;
     std::unique_lock lock(m_mutex);
     while (!m_closing) {
         if (std::cmp_greater_equal(m_live.size(), m_wanted)) {
@@ -246,6 +249,7 @@ void DecodePool::keepHelpers() {
         lock.lock();
         if (helper) {
             retry = kFirstRetry;
+            failuresInARow = 0;
             m_cannotStart = false;
             ++m_counts.started;
             m_counts.caged = helper->caged();
@@ -255,7 +259,7 @@ void DecodePool::keepHelpers() {
             continue;
         }
         ++m_counts.failedStarts;
-        m_cannotStart = true;
+        m_cannotStart = ++failuresInARow >= kHopelessStarts;
         m_helperFree.notify_all();
         m_helperWanted.wait_for(lock, retry, [&] { return m_closing; });
         retry = std::min(retry * 2, kLastRetry);

@@ -4,26 +4,13 @@
 #include <QImage>
 #include <QSize>
 #include <QString>
-#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <optional>
 
-#include "decode/CancelSignal.h"
-#include "decode/HelperProcess.h"
+#include "decode/MovieHelper.h"
 
 namespace vantor {
-
-struct MovieReaderOptions {
-    QString helper;  // path of the movie helper; empty = beside the program
-    std::chrono::milliseconds startDeadline{10000};
-    std::chrono::milliseconds openDeadline{5000};
-    std::chrono::milliseconds frameDeadline{3000};
-    // Ends the reader at once when it is raised, whatever is under way; must outlive it.
-    const CancelSignal* cancel = nullptr;
-
-    int cancelDescriptor() const { return cancel ? cancel->descriptor() : -1; }
-};
 
 struct MovieFrame {
     QImage image;             // upright, within the bound
@@ -54,23 +41,21 @@ class MovieReader {
     // The first frame at or after the time; nullopt when there is none.
     std::optional<MovieFrame> seek(std::int64_t timeMs);
 
-    bool isOver() const { return !m_helper; }
-    pid_t helperPid() const { return m_helper ? m_helper->pid() : -1; }
+    bool isOver() const { return m_helper->isOver(); }
+    pid_t helperPid() const { return m_helper->pid(); }
 
   private:
     static std::unique_ptr<MovieReader> openAs(decode::RequestKind kind, const QString& path, QSize bound,
                                                MovieReaderOptions options);
-    MovieReader(std::unique_ptr<decode::HelperProcess> helper, QSize bound, MovieReaderOptions options);
-    std::optional<MovieFrame> ask(decode::RequestKind kind, int file, std::int64_t timeMs,
-                                  std::chrono::milliseconds deadline, decode::Answer& answer);
+    MovieReader(std::unique_ptr<decode::MovieHelper> helper, const decode::Answer& answer);
+    std::optional<MovieFrame> frameAt(std::int64_t timeMs);
+    MovieFrame frameOf(const decode::Answer& answer) const;
 
-    std::unique_ptr<decode::HelperProcess> m_helper;
-    const QSize m_bound;
-    const MovieReaderOptions m_options;
-    QSize m_fullSize;
-    std::int64_t m_durationMs = 0;
-    bool m_hasSound = false;
-    MovieFrame m_poster;
+    const std::unique_ptr<decode::MovieHelper> m_helper;
+    const QSize m_fullSize;
+    const std::int64_t m_durationMs;
+    const bool m_hasSound;
+    const MovieFrame m_poster;
 };
 
 }  // namespace vantor

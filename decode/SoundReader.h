@@ -8,8 +8,7 @@
 #include <optional>
 #include <vector>
 
-#include "decode/HelperProcess.h"
-#include "decode/MovieReader.h"
+#include "decode/MovieHelper.h"
 
 namespace vantor {
 
@@ -39,17 +38,16 @@ class SoundReader {
     // The piece around the time; nullopt when there is none.
     std::optional<SoundPiece> seek(std::int64_t timeMs);
 
-    bool isOver() const { return !m_helper; }
-    pid_t helperPid() const { return m_helper ? m_helper->pid() : -1; }
+    bool isOver() const { return m_helper->isOver(); }
+    pid_t helperPid() const { return m_helper->pid(); }
 
   private:
-    SoundReader(std::unique_ptr<decode::HelperProcess> helper, MovieReaderOptions options);
-    std::optional<SoundPiece> ask(decode::RequestKind kind, int file, std::int64_t timeMs,
-                                  std::chrono::milliseconds deadline, decode::Answer& answer);
+    SoundReader(std::unique_ptr<decode::MovieHelper> helper, const decode::Answer& answer);
+    std::optional<SoundPiece> pieceAt(std::int64_t timeMs);
+    SoundPiece pieceOf(const decode::Answer& answer) const;
 
-    std::unique_ptr<decode::HelperProcess> m_helper;
-    const MovieReaderOptions m_options;
-    std::int64_t m_durationMs = 0;
+    const std::unique_ptr<decode::MovieHelper> m_helper;
+    const std::int64_t m_durationMs;
     std::optional<SoundPiece> m_first;  // until it is given out
 };
 

@@ -38,10 +38,11 @@ std::uint64_t skipApe(ByteView& view, std::uint64_t at) {
     if (!isApeItem(view, at))
         return at;
     const auto limit = std::min(view.size(), at + kMostApeSearch);
-    for (auto footer = view.find('A', at, limit); footer < limit;
-         footer = view.find('A', footer + 1, limit)) {
-        if (view.matches(footer, kApe) && at + view.le32(footer + 12).value_or(0) == footer + kApeBlock)
-            return footer + kApeBlock;
+    for (auto footer = view.find('A', at, limit); footer.found();
+         footer = view.find('A', footer.at + 1, limit)) {
+        if (view.matches(footer.at, kApe) &&
+            at + view.le32(footer.at + 12).value_or(0) == footer.at + kApeBlock)
+            return footer.at + kApeBlock;
     }
     return at;
 }
@@ -50,9 +51,9 @@ std::uint64_t skipLyrics(ByteView& view, std::uint64_t at) {
     if (!view.matches(at, "LYRICSBEGIN"))
         return at;
     const auto limit = std::min(view.size(), at + kMostApeSearch);
-    for (auto mark = view.find('L', at + 1, limit); mark < limit; mark = view.find('L', mark + 1, limit)) {
-        if (view.matches(mark, "LYRICS200") || view.matches(mark, "LYRICSEND"))
-            return mark + 9;
+    for (auto mark = view.find('L', at + 1, limit); mark.found(); mark = view.find('L', mark.at + 1, limit)) {
+        if (view.matches(mark.at, "LYRICS200") || view.matches(mark.at, "LYRICSEND"))
+            return mark.at + 9;
     }
     return at;
 }

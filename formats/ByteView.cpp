@@ -129,17 +129,19 @@ std::optional<std::uint64_t> ByteView::le64(std::uint64_t at) {
     return fixed<std::uint64_t>(*this, at, Endian::Little);
 }
 
-std::uint64_t ByteView::find(std::uint8_t byte, std::uint64_t from, std::uint64_t to) {
+Finding ByteView::find(std::uint8_t byte, std::uint64_t from, std::uint64_t to) {
     while (from < to) {
         const auto bytes = window(from);
         if (bytes.empty())
-            return from;
+            return {Finding::Outcome::Stopped, from};
         const auto count = static_cast<std::size_t>(std::min<std::uint64_t>(bytes.size(), to - from));
-        if (const void* hit = std::memchr(bytes.data(), byte, count))
-            return from + static_cast<std::uint64_t>(static_cast<const std::uint8_t*>(hit) - bytes.data());
+        if (const void* hit = std::memchr(bytes.data(), byte, count)) {
+            const auto skip = static_cast<const std::uint8_t*>(hit) - bytes.data();
+            return {Finding::Outcome::Found, from + static_cast<std::uint64_t>(skip)};
+        }
         from += count;
     }
-    return to;
+    return {Finding::Outcome::Absent, to};
 }
 
 std::optional<std::uint64_t> groupedNumber(ByteView& view, std::uint64_t& at, unsigned mostGroups) {

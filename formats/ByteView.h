@@ -21,6 +21,19 @@ enum class Endian { Big, Little };
 std::uint64_t addClamped(std::uint64_t a, std::uint64_t b);
 std::uint64_t mulClamped(std::uint64_t a, std::uint64_t b);
 
+// What a search came upon. Where reading stopped there is no use in going on behind.
+struct Finding {
+    enum class Outcome { Found, Absent, Stopped };
+
+    Outcome outcome = Outcome::Absent;
+    std::uint64_t at = 0;  // of the byte found, or the end of the searched range, or where reading stopped
+
+    bool found() const { return outcome == Outcome::Found; }
+    bool stopped() const { return outcome == Outcome::Stopped; }
+    // Where only the place matters: a search of the few bytes of a head, for one.
+    operator std::uint64_t() const { return at; }
+};
+
 // One window onto a ByteSource that follows the reader. A hop reads kHopBytes, reading on doubles the window
 // up to kWindowBytes, so headers far apart stay cheap and long streams fast.
 class ByteView {
@@ -53,8 +66,8 @@ class ByteView {
     std::optional<std::uint32_t> le32(std::uint64_t at);
     std::optional<std::uint64_t> le64(std::uint64_t at);
 
-    // Position of the first `byte` in [from, to), or `to` (or where reading stopped) when there is none.
-    std::uint64_t find(std::uint8_t byte, std::uint64_t from, std::uint64_t to);
+    // Looks for the first `byte` in [from, to).
+    Finding find(std::uint8_t byte, std::uint64_t from, std::uint64_t to);
 
     // True once the cap on reading was hit; from then on the view reads as ended.
     bool exhausted() const { return m_budget == 0; }

@@ -93,6 +93,7 @@ Extent walkCrw(ByteView& view) {
         if (bytes.size() < 16)
             break;
         const std::size_t most = bytes.size() > kReach ? bytes.size() - kReach : bytes.size() - 15;
+        std::size_t passed = most;
         for (std::size_t i = 0; i < most; ++i) {
             const std::size_t entries = bytes[i] | bytes[i + 1] << 8;
             const std::size_t tail = i + 2 + entries * 10;
@@ -105,9 +106,10 @@ Extent walkCrw(ByteView& view) {
                 continue;
             if (isHeapEnd(view, heap, at + i, entries))
                 return completeAt(view, at + tail + 4);
-            break;  // the window moved: look again from the next position
+            passed = i + 1;  // the window moved: look again from the next position
+            break;
         }
-        at += most;
+        at += passed;
     }
     return at + 16 >= view.size() ? cutOffAt(view, view.size()) : unknownExtent();
 }
@@ -117,16 +119,18 @@ Extent walkX3f(ByteView& view) {
         return unknownExtent();
     const auto limit = std::min(view.size(), kMostSearch);
     constexpr std::uint64_t kMostEntries = 256;
-    for (std::uint64_t at = 4; at < limit; ++at) {
-        at = view.find('S', at, limit);
-        if (!view.matches(at, "SECd"))
+    auto mark = view.find('S', 4, limit);
+    for (; mark.found(); mark = view.find('S', mark.at + 1, limit)) {
+        if (!view.matches(mark.at, "SECd"))
             continue;
-        const std::uint64_t entries = view.le32(at + 8).value_or(0);
-        const auto end = at + 12 + entries * 12;
+        const std::uint64_t entries = view.le32(mark.at + 8).value_or(0);
+        const auto end = mark.at + 12 + entries * 12;
         // The directory is closed by its own position.
-        if (entries != 0 && entries <= kMostEntries && view.le32(end) == static_cast<std::uint32_t>(at))
+        if (entries != 0 && entries <= kMostEntries && view.le32(end) == static_cast<std::uint32_t>(mark.at))
             return completeAt(view, end + 4);
     }
+    if (mark.stopped())
+        return cutOffAt(view, mark.at);
     return limit == view.size() ? cutOffAt(view, view.size()) : unknownExtent();
 }
 

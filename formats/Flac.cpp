@@ -10,7 +10,9 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kStreamInfoAt = 8;
+constexpr unsigned kStreamInfo = 0;  // type of the first metadata block, and of no other
+constexpr std::uint64_t kStreamInfoBytes = 34;
+constexpr unsigned kLastKnownType = 6;         // those above are reserved
 constexpr std::uint64_t kMostZeros = 1 << 20;  // of one coded sample; more is an empty medium
 
 // Bits from a view, most significant first, with the running checksums over the whole bytes taken so far.
@@ -44,8 +46,10 @@ class BitReader {
     // Zero bits before the next one bit.
     std::uint64_t unary() {
         std::uint64_t zeros = 0;
-        while (m_ok && take(1) == 0)
-            m_ok = ++zeros < kMostZeros;
+        while (m_ok && take(1) == 0) {
+            if (++zeros >= kMostZeros)
+                m_ok = false;
+        }
         return zeros;
     }
 
@@ -217,16 +221,20 @@ Extent walkFlac(ByteView& view) {
     if (!view.matches(start, "fLaC"))
         return unknownExtent();
     std::uint64_t at = start + 4;
+    const std::uint64_t first = at;
     for (bool last = false; !last;) {
         const auto head = view.be32(at);
         if (!head)
             return cutOffAt(view, at);
         last = *head >> 31 != 0;
-        if ((*head >> 24 & 0x7F) == 0x7F)
+        const auto type = *head >> 24 & 0x7F, bytes = *head & 0xFFFFFF;
+        const bool proper = at == first ? type == kStreamInfo && bytes == kStreamInfoBytes
+                                        : type != kStreamInfo && type <= kLastKnownType;
+        if (!proper)
             return damagedAt(view, at);
-        at += 4 + (*head & 0xFFFFFF);
+        at += std::uint64_t{4} + bytes;
     }
-    const auto packed = view.be64(start + kStreamInfoAt + 10).value_or(0);
+    const auto packed = view.be64(first + 4 + 10).value_or(0);
     const auto bits = static_cast<unsigned>((packed >> 36 & 31) + 1);
     const std::uint64_t total = packed & 0xFFFFFFFFF;  // samples a channel; 0 = not told
     std::uint64_t samples = 0;

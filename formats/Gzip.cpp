@@ -25,9 +25,9 @@ std::uint64_t memberData(ByteView& view, std::uint64_t at) {
         if ((flags & text) == 0)
             continue;
         const auto end = view.find(0, data, data + kMostText);
-        if (view.u8(end) != 0)
+        if (!end.found())
             return 0;
-        data = end + 1;
+        data = end.at + 1;
     }
     return data + ((flags & 2) != 0 ? 2 : 0);
 }

@@ -11,13 +11,15 @@ namespace vantor {
 namespace {
 
 constexpr int kMostChildren = 256;
+constexpr int kMostItems = 4096;  // of a picture, which may be cut into many tiles
 
 // Canon's raw files keep their Exif directories in boxes CMT1 (picture) and CMT2 (exposure) of this one.
 constexpr std::string_view kCanonUuid = "\x85\xC0\xB6\x87\x82\x0F\x11\xE0\x81\x11\xF4\xCE\x46\x2B\x6A\x48";
 
 template <typename Visit>
-void forChildren(ByteView& view, std::uint64_t from, std::uint64_t to, Visit visit) {
-    for (int i = 0; i < kMostChildren && from < to; ++i) {
+void forChildren(ByteView& view, std::uint64_t from, std::uint64_t to, Visit visit,
+                 int most = kMostChildren) {
+    for (int i = 0; i < most && from < to; ++i) {
         const auto box = readIsoBox(view, from);
         if (!box || box->toEnd || box->end > to)
             return;
@@ -68,7 +70,7 @@ void canonBoxes(ByteView& view, const IsoBox& box, Facts& facts) {
 std::uint32_t exifItem(ByteView& view, const IsoBox& infoBox) {
     const bool wide = view.u8(infoBox.body) != 0;
     std::uint32_t found = 0;
-    forChildren(view, infoBox.body + (wide ? 8 : 6), infoBox.end, [&](const IsoBox& entry) {
+    const auto visit = [&](const IsoBox& entry) {
         const auto version = view.u8(entry.body).value_or(0);
         if (entry.text() != "infe" || version < 2)
             return;
@@ -77,7 +79,8 @@ std::uint32_t exifItem(ByteView& view, const IsoBox& infoBox) {
         in.skip(2);
         if (in.ok() && view.matches(in.at(), "Exif"))
             found = item;
-    });
+    };
+    forChildren(view, infoBox.body + (wide ? 8 : 6), infoBox.end, visit, kMostItems);
     return found;
 }
 

@@ -135,13 +135,14 @@ JpegWalk::Step JpegWalk::segment() {
 JpegWalk::Step JpegWalk::scan() {
     int restart = -1;
     for (;;) {
-        const auto hit = m_view.find(0xFF, m_at, std::min(m_view.size(), m_at + kHopelessRun));
+        const auto search = m_view.find(0xFF, m_at, std::min(m_view.size(), m_at + kHopelessRun));
+        const auto hit = search.at;
         if (hit - m_at >= kSuspiciousRun && m_suspect == 0)
             m_suspect = m_at;
         if (hit - m_at >= kHopelessRun)
             return Step::Broken;
         m_at = hit;
-        auto next = m_view.u8(hit + 1);
+        const auto next = search.found() ? m_view.u8(hit + 1) : std::nullopt;
         if (!next)
             return Step::Cut;
         if (*next == 0) {

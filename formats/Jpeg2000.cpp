@@ -43,10 +43,10 @@ Extent scanToEnd(ByteView& view, std::uint64_t at, const Facts& facts) {
         constexpr std::uint64_t kHopelessRun =
             4 * 1024 * 1024;  // without a byte that packed data often holds
         const auto hit = view.find(0xFF, at, std::min(view.size(), at + kHopelessRun));
-        if (hit - at >= kHopelessRun)
+        if (hit.at - at >= kHopelessRun)
             return damagedAt(view, at, facts);
-        at = hit;
-        const auto next = view.u8(at + 1);
+        at = hit.at;
+        const auto next = hit.found() ? view.u8(at + 1) : std::nullopt;
         if (!next)
             return cutOffAt(view, at, facts);
         if (*next == 0xD9)

@@ -11,6 +11,7 @@ namespace {
 constexpr std::uint64_t kSector = 512;
 constexpr std::uint64_t kMostStuffing = 64 * 1024;  // zero bytes between packets
 constexpr std::uint64_t kMostSilence = 256 * 1024;  // without a start code in bare video
+constexpr std::uint64_t kFewCodes = 4;              // fewer start codes do not make a video
 
 // The code behind 00 00 01 at `at`; nothing when no start code stands there.
 std::optional<std::uint8_t> startCode(ByteView& view, std::uint64_t at) {
@@ -18,14 +19,14 @@ std::optional<std::uint8_t> startCode(ByteView& view, std::uint64_t at) {
     return word && *word >> 8 == 1 ? std::optional(static_cast<std::uint8_t>(*word)) : std::nullopt;
 }
 
-// Position of the next start code in [from, to), or `to`.
-std::uint64_t findStartCode(ByteView& view, std::uint64_t from, std::uint64_t to) {
-    for (std::uint64_t at = from + 2; at < to; ++at) {
-        at = view.find(1, at, to);
-        if (at < to && startCode(view, at - 2))
-            return at - 2;
-    }
-    return to;
+// The next start code in [from, to).
+Finding findStartCode(ByteView& view, std::uint64_t from, std::uint64_t to) {
+    auto one = view.find(1, from + 2, to);
+    while (one.found() && !startCode(view, one.at - 2))
+        one = view.find(1, one.at + 1, to);
+    if (one.found())
+        one.at -= 2;
+    return one;
 }
 
 std::uint64_t packHeaderBytes(ByteView& view, std::uint64_t at) {
@@ -116,17 +117,19 @@ Extent walkMpegVideo(ByteView& view) {
     for (;; ++codes) {
         const auto limit = std::min(view.size(), at + kMostSilence);
         const auto next = findStartCode(view, at + 4, limit);
-        if (next >= limit)
+        if (next.stopped() && codes >= kFewCodes)
+            return inexact(cutOffAt(view, next.at, facts));
+        if (!next.found())
             break;
-        longest = std::max(longest, next - at);
-        at = next;
+        longest = std::max(longest, next.at - at);
+        at = next.at;
         const auto code = startCode(view, at).value_or(0);
         if (code == 0xB7)
             return completeAt(view, at + 4, facts);
         if (code >= 0xB9 || code == 0xB0 || code == 0xB1 || code == 0xB6)
-            return codes < 4 ? unknownExtent() : inexact(completeAt(view, at, facts));
+            return codes < kFewCodes ? unknownExtent() : inexact(completeAt(view, at, facts));
     }
-    if (codes < 4)
+    if (codes < kFewCodes)
         return unknownExtent();
     // No end code: the last picture slice is hardly longer than the longest before it.
     return inexact(completeAt(view, std::min(view.size(), at + longest), facts));

@@ -74,13 +74,14 @@ Extent walkPostScriptText(ByteView& view) {
     constexpr std::uint64_t kMostSilence = 64 * 1024 * 1024;  // without any comment line
     std::uint64_t embedded = 0;
     std::uint64_t sign = 0;
-    for (std::uint64_t at = 0; at < view.size();) {
-        at = view.find('%', at, std::min(view.size(), addClamped(sign, kMostSilence)));
-        if (at >= view.size() || !view.u8(at))
-            break;
+    for (std::uint64_t at = 0;;) {
+        const auto comment = view.find('%', at, std::min(view.size(), addClamped(sign, kMostSilence)));
+        if (comment.stopped())
+            return cutOffAt(view, comment.at);
+        if (!comment.found())
+            return comment.at < view.size() ? damagedAt(view, sign) : cutOffAt(view, view.size());
+        at = comment.at;
         if (!view.matches(at, "%%")) {
-            if (at - sign >= kMostSilence)
-                return damagedAt(view, sign);
             ++at;
             continue;
         }
@@ -97,7 +98,6 @@ Extent walkPostScriptText(ByteView& view) {
         }
         at += 2;
     }
-    return cutOffAt(view, view.size());
 }
 
 }  // namespace

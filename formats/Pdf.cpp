@@ -81,6 +81,8 @@ class PdfWalk {
     Mark judge(std::uint64_t at);
     std::uint64_t behindMark(std::uint64_t at);
     bool isForeignStart(std::uint64_t at);
+    std::string_view stretch(std::uint64_t at);
+    void noteSigns(std::uint64_t at, std::string_view text);
 
     ByteView& m_view;
     std::uint64_t m_lastMark = 0;    // behind the last end mark, valid or not
@@ -143,6 +145,22 @@ bool PdfWalk::isForeignStart(std::uint64_t at) {
     return textAt(m_view, at - 16, 16).find("stream") == std::string_view::npos;
 }
 
+// The buffered text from `at` on, beside the little before it that judging an end mark takes.
+std::string_view PdfWalk::stretch(std::uint64_t at) {
+    const auto lead = static_cast<std::size_t>(std::min<std::uint64_t>(at, kLookBack));
+    const auto bytes = m_view.window(at - lead, lead + kSeam);
+    const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    return text.substr(std::min(lead, text.size()));
+}
+
+// Remembers the last end of an object or stream in `text`, which stands at `at`.
+void PdfWalk::noteSigns(std::uint64_t at, std::string_view text) {
+    if (const auto sign = text.rfind("endobj"); sign != text.npos)
+        m_lastSign = at + sign + 6;
+    else if (const auto stream = text.rfind("endstream"); stream != text.npos)
+        m_lastSign = at + stream + 9;
+}
+
 Extent PdfWalk::walk() {
     if (!m_view.matches(0, "%PDF-"))
         return unknownExtent();
@@ -159,16 +177,13 @@ Extent PdfWalk::walk() {
     }
     m_lastSign = at;
     while (at < m_view.size()) {
-        const auto text = textAt(m_view, at, ByteView::kMostAtLeast);
+        const auto text = stretch(at);
         if (text.empty())
             break;
-        if (const auto sign = text.rfind("endobj"); sign != text.npos)
-            m_lastSign = at + sign + 6;
-        else if (const auto stream = text.rfind("endstream"); stream != text.npos)
-            m_lastSign = at + stream + 9;
-        else if (at - m_lastSign > kMostSilence)
-            break;
         const auto word = findWord(text);
+        noteSigns(at, text.substr(0, word));
+        if (at > m_lastSign && at - m_lastSign > kMostSilence)
+            break;
         if (word == text.npos) {
             at += text.size() > kSeam ? text.size() - kSeam : text.size();  // a word may straddle the seam
             continue;

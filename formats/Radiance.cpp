@@ -9,6 +9,7 @@ namespace {
 
 constexpr std::uint64_t kMostHead = 64 * 1024;  // bytes
 constexpr std::uint64_t kMostSide = 1 << 20;    // pixels
+constexpr std::uint64_t kMostPixels = 1 << 30;
 constexpr std::uint64_t kPixelBytes = 4;
 constexpr int kChannels = 4;
 
@@ -22,10 +23,10 @@ struct Lines {
 
 // Behind the blank line that ends the head; 0 when there is none.
 std::uint64_t behindHead(ByteView& view) {
-    for (auto line = view.find('\n', 0, kMostHead); line < kMostHead && line < view.size();
-         line = view.find('\n', line + 1, kMostHead)) {
-        if (view.u8(line + 1) == '\n')
-            return line + 2;
+    for (auto line = view.find('\n', 0, kMostHead); line.found();
+         line = view.find('\n', line.at + 1, kMostHead)) {
+        if (view.u8(line.at + 1) == '\n')
+            return line.at + 2;
     }
     return 0;
 }
@@ -106,7 +107,7 @@ Extent walkRadiance(ByteView& view) {
     const bool linesAreRows = view.u8(lines.begin + 1) == 'Y';
     lines.count = axis(view, lines.begin, ' ');
     lines.pixels = lines.count == 0 ? 0 : axis(view, lines.begin, '\n');
-    if (lines.pixels == 0)
+    if (lines.pixels == 0 || lines.count * lines.pixels > kMostPixels)
         return unknownExtent();
     Facts facts;
     facts.width = static_cast<std::uint32_t>(linesAreRows ? lines.pixels : lines.count);

@@ -127,15 +127,16 @@ Extent walkTga(ByteView& view) {
     // Version 2 closes with a footer, behind an extension area at most.
     constexpr std::uint64_t kFooter = 26, kMostExtras = 4096;
     constexpr std::string_view kMark("TRUEVISION-XFILE.\0", 18);
-    for (auto mark = view.find('T', at, addClamped(at, kMostExtras));
-         mark < at + kMostExtras && view.u8(mark); mark = view.find('T', mark + 1, at + kMostExtras)) {
-        if (mark >= at + kFooter - kMark.size() && view.matches(mark, kMark))
-            return completeAt(view, mark + kMark.size(), facts);
+    for (auto mark = view.find('T', at, at + kMostExtras); mark.found();
+         mark = view.find('T', mark.at + 1, at + kMostExtras)) {
+        if (mark.at >= at + kFooter - kMark.size() && view.matches(mark.at, kMark))
+            return completeAt(view, mark.at + kMark.size(), facts);
     }
     return inexact(completeAt(view, at, facts));
 }
 
 Extent walkDds(ByteView& view) {
+    constexpr std::uint64_t kHead = 128;
     if (!view.matches(0, std::string_view("DDS \x7C\0\0\0", 8)))
         return unknownExtent();
     Cursor in(view, 12, Endian::Little);
@@ -143,7 +144,7 @@ Extent walkDds(ByteView& view) {
     facts.height = in.u32();
     facts.width = in.u32();
     in.skip(4);
-    const auto depth = std::max<std::uint64_t>(1, in.u32());
+    const auto depth = in.u32();
     const auto levels = std::clamp<std::uint32_t>(in.u32(), 1, 17);
     in.skip(48);
     const auto flags = in.u32(), code = in.u32(), bits = in.u32();
@@ -159,15 +160,18 @@ Extent walkDds(ByteView& view) {
         code >> 24 >= '1' && code >> 24 <= '5' && (code & 0xFFFFFF) == 0x545844;  // "DXT1" to "DXT5"
     if ((packed && !known && block == 16) || (!packed && (bits == 0 || bits > 128)))
         return unknownExtent();
-    std::uint64_t face = 0;
+    constexpr std::uint32_t kCube = 0x200, kVolume = 0x200000;
+    const std::uint64_t faces = (more & kCube) != 0 ? 6 : 1;
+    const std::uint32_t slices = faces == 1 && (more & kVolume) != 0 ? depth : 1;
+    std::uint64_t pixels = 0;
     for (std::uint32_t level = 0; level < levels; ++level) {
         const std::uint64_t width = std::max(1U, facts.width >> level),
                             height = std::max(1U, facts.height >> level);
-        face += packed ? (width + 3) / 4 * ((height + 3) / 4) * block : (width * bits + 7) / 8 * height;
+        const auto slice =
+            packed ? (width + 3) / 4 * ((height + 3) / 4) * block : (width * bits + 7) / 8 * height;
+        pixels = addClamped(pixels, mulClamped(slice, std::max(1U, slices >> level)));
     }
-    constexpr std::uint32_t kCube = 0x200, kVolume = 0x200000;
-    const std::uint64_t faces = (more & kCube) != 0 ? 6 : (more & kVolume) != 0 ? depth : 1;
-    return inexact(completeAt(view, 128 + mulClamped(face, faces), facts));
+    return inexact(completeAt(view, addClamped(kHead, mulClamped(pixels, faces)), facts));
 }
 
 }  // namespace vantor

@@ -113,7 +113,7 @@ Extent XcfWalk::lastTileEnd(const Facts& facts) {
     if (m_last.at == 0 || m_last.at < m_end)
         return completeAt(m_view, m_end, facts);
     if (m_packing == Packing::None)
-        return completeAt(m_view, m_last.at + m_last.pixels * m_last.pixelBytes, facts);
+        return completeAt(m_view, addClamped(m_last.at, m_last.pixels * m_last.pixelBytes), facts);
     if (m_packing == Packing::Zlib) {
         const auto result = inflateZlib(m_view, m_last.at, m_last.pixels * m_last.pixelBytes);
         return result.outcome == InflateOutcome::Done  ? completeAt(m_view, result.end, facts)

@@ -149,9 +149,9 @@ Extent walkHtml(ByteView& view) {
     if (view.u8(at) != '<' || (second != '!' && second != '?' && std::isalpha(second) == 0))
         return unknownExtent();
     const auto end = textEnd(view, at);
-    for (auto tag = view.find('<', at, end); tag < end; tag = view.find('<', tag + 1, end)) {
-        if (matchesAnyCase(view, tag, kClose))
-            return completeAt(view, behindLineEnd(view, tag + kClose.size()));
+    for (auto tag = view.find('<', at, end); tag.found(); tag = view.find('<', tag.at + 1, end)) {
+        if (matchesAnyCase(view, tag.at, kClose))
+            return completeAt(view, behindLineEnd(view, tag.at + kClose.size()));
     }
     return inexact(end == view.size() ? cutOffAt(view, end) : completeAt(view, end));
 }

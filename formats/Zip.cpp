@@ -138,15 +138,15 @@ bool ZipWalk::skipDescriptor(const LocalEntry& entry) {
 // Stored data of unknown length: the descriptor that tells just the length so far.
 ZipWalk::Step ZipWalk::searchDescriptor(const LocalEntry& entry) {
     const auto limit = std::min(m_view.size(), entry.data + kMostStoredScan);
-    for (std::uint64_t at = entry.data; at < limit; ++at) {
-        at = m_view.find('P', at, limit);
-        if (m_view.le32(at) != kDescriptor ||
-            m_view.le32(at + 8) != static_cast<std::uint32_t>(at - entry.data))
+    auto sign = m_view.find('P', entry.data, limit);
+    for (; sign.found(); sign = m_view.find('P', sign.at + 1, limit)) {
+        if (m_view.le32(sign.at) != kDescriptor ||
+            m_view.le32(sign.at + 8) != static_cast<std::uint32_t>(sign.at - entry.data))
             continue;
-        m_at = at;
+        m_at = sign.at;
         return skipDescriptor(entry) ? Step::Next : Step::Broken;
     }
-    return limit == m_view.size() ? Step::Cut : Step::Broken;
+    return sign.stopped() || limit == m_view.size() ? Step::Cut : Step::Broken;
 }
 
 ZipWalk::Step ZipWalk::followData(const LocalEntry& entry) {

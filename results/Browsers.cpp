@@ -73,6 +73,7 @@ void MyTableController::imageBrowserSelectionDidChange(ImageBrowserView* view) {
     Prev_Index = index;
     _QuickLook_View->clear();
     closemovie_Win();
+    soundControls->setMovie(nullptr);
     CreateFile_QuickLook_View({item->valueForKey(QStringLiteral("path")),
                                item->valueForKey(QStringLiteral("File_Start_Sector")),
                                item->valueForKey(QStringLiteral("File_End_Sector"))});

@@ -1,4 +1,4 @@
-// The controls of the movie preview, each reached by mouse and keyboard.
+// The controls of what can be played, each reached by mouse and keyboard.
 #include "results/MovieControls.h"
 
 #include <QHBoxLayout>
@@ -64,11 +64,13 @@ MovieControls::MovieControls(QWidget* parent)
       m_times(new QLabel(this)),
       m_mute(makeButton(this, "movieMute")) {
     m_position->setObjectName(QStringLiteral("moviePosition"));
-    m_position->setAccessibleName(tr("Position in the movie"));
+    m_position->setAccessibleName(tr("Position"));
     m_position->setSingleStep(kStepMs);
     m_position->setPageStep(kPageMs);
     m_times->setObjectName(QStringLiteral("movieTimes"));
     m_times->setAccessibleName(tr("Time played and length"));
+    setMeaning(m_play, QStringLiteral("play"), tr("Play (Space)"));
+    setMeaning(m_mute, QStringLiteral("sound-on"), tr("Sound off"));
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins({});
     row->setSpacing(theme::kUnit / 2);
@@ -76,50 +78,79 @@ MovieControls::MovieControls(QWidget* parent)
     row->addWidget(m_position, 1);
     row->addWidget(m_times);
     row->addWidget(m_mute);
-    connect(m_play, &QToolButton::clicked, this, &MovieControls::playClicked);
-    connect(m_mute, &QToolButton::clicked, this, &MovieControls::muteClicked);
-    connect(m_position, &QSlider::valueChanged, this, [this](int timeMs) {
-        setPosition(timeMs);
-        emit positionChosen(timeMs);
+    connect(m_play, &QToolButton::clicked, this, &MovieControls::togglePlaying);
+    connect(m_mute, &QToolButton::clicked, this, [this] {
+        m_movie->setMuted(!m_movie->isMuted());
+        showProgress();
     });
-    setPlaying(false);
-    setMuted(false);
+    connect(m_position, &QSlider::valueChanged, this, [this](int timeMs) {
+        m_movie->seek(timeMs);
+        showPosition(timeMs);
+    });
+    hide();
 }
 
-void MovieControls::setMovie(std::int64_t durationMs, bool hasSound) {
-    m_durationMs = durationMs;
+MovieControls::~MovieControls() = default;
+
+void MovieControls::setMovie(std::unique_ptr<Movie> movie) {
+    m_movie = std::move(movie);
+    setVisible(m_movie != nullptr);
+    if (!m_movie) {
+        return;
+    }
+    const std::int64_t length = m_movie->durationMs();
     m_times->setMinimumWidth(0);
     {
         const QSignalBlocker blocker(m_position);
         m_position->setRange(
-            0, static_cast<int>(std::clamp<std::int64_t>(durationMs, 0, std::numeric_limits<int>::max())));
+            0, static_cast<int>(std::clamp<std::int64_t>(length, 0, std::numeric_limits<int>::max())));
     }
-    m_position->setEnabled(durationMs > 0);
-    m_mute->setVisible(hasSound);
+    m_position->setEnabled(length > 0);
+    m_mute->setVisible(m_movie->hasSound());
     // The widest text there will be, so that the slider keeps its length.
-    setPosition(durationMs);
+    showPosition(length);
     m_times->setMinimumWidth(m_times->sizeHint().width());
-    setPosition(0);
+    m_movie->onProgress = [this] { showProgress(); };
+    showProgress();
 }
 
-void MovieControls::setPosition(std::int64_t timeMs) {
+void MovieControls::togglePlaying() {
+    if (!m_movie) {
+        return;
+    }
+    if (m_movie->rate() != 0) {
+        m_movie->stop();
+    } else {
+        m_movie->play();
+    }
+    showProgress();
+}
+
+void MovieControls::seekBy(std::int64_t timeMs) {
+    if (m_movie && m_movie->durationMs() > 0) {
+        m_movie->seek(m_movie->positionMs() + timeMs);
+        showProgress();
+    }
+}
+
+void MovieControls::showProgress() {
+    const bool playing = m_movie->rate() != 0, muted = m_movie->isMuted();
+    setMeaning(m_play, playing ? QStringLiteral("pause") : QStringLiteral("play"),
+               playing ? tr("Pause (Space)") : tr("Play (Space)"));
+    setMeaning(m_mute, muted ? QStringLiteral("sound-off") : QStringLiteral("sound-on"),
+               muted ? tr("Sound on") : tr("Sound off"));
+    showPosition(m_movie->positionMs());
+    emit changed();
+}
+
+void MovieControls::showPosition(std::int64_t timeMs) {
     // A handle that somebody holds stays in the hand.
     if (!m_position->isSliderDown()) {
         const QSignalBlocker blocker(m_position);
         m_position->setValue(static_cast<int>(std::clamp<std::int64_t>(timeMs, 0, m_position->maximum())));
     }
-    m_times->setText(m_durationMs > 0 ? tr("%1 / %2").arg(timeText(timeMs), timeText(m_durationMs))
-                                      : timeText(timeMs));
-}
-
-void MovieControls::setPlaying(bool playing) {
-    setMeaning(m_play, playing ? QStringLiteral("pause") : QStringLiteral("play"),
-               playing ? tr("Pause (Space)") : tr("Play (Space)"));
-}
-
-void MovieControls::setMuted(bool muted) {
-    setMeaning(m_mute, muted ? QStringLiteral("sound-off") : QStringLiteral("sound-on"),
-               muted ? tr("Sound on") : tr("Sound off"));
+    const std::int64_t length = m_movie->durationMs();
+    m_times->setText(length > 0 ? tr("%1 / %2").arg(timeText(timeMs), timeText(length)) : timeText(timeMs));
 }
 
 QString timeText(std::int64_t timeMs) {

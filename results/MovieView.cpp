@@ -16,6 +16,7 @@ namespace vantor {
 namespace {
 
 constexpr int kPlaySign = 6 * theme::kUnit;
+constexpr int kSoundSign = 16 * theme::kUnit;
 constexpr std::int64_t kSeekStepMs = 5000;
 
 }  // namespace
@@ -26,55 +27,34 @@ MovieView::MovieView(QWidget* parent) : QWidget(parent), m_controls(new MovieCon
     column->setContentsMargins({});
     column->addStretch();
     column->addWidget(m_controls);
-    m_controls->hide();
-    connect(m_controls, &MovieControls::playClicked, this, &MovieView::togglePlaying);
-    connect(m_controls, &MovieControls::muteClicked, this, [this] {
-        m_movie->setMuted(!m_movie->isMuted());
-        showProgress();
-    });
-    connect(m_controls, &MovieControls::positionChosen, this,
-            [this](qint64 timeMs) { m_movie->seek(timeMs); });
+    connect(m_controls, &MovieControls::changed, this, qOverload<>(&QWidget::update));
 }
 
 MovieView::~MovieView() = default;
 
+Movie* MovieView::movie() const {
+    return m_controls->movie();
+}
+
 void MovieView::setMovie(std::unique_ptr<Movie> movie) {
-    m_movie = std::move(movie);
+    m_controls->setMovie(std::move(movie));
     m_frame = {};
-    m_controls->setVisible(m_movie != nullptr);
-    if (m_movie) {
-        m_frame = m_movie->poster();
-        m_controls->setMovie(m_movie->durationMs(), m_movie->hasSound());
-        m_movie->onFrame = [this](const QImage& frame) {
+    Movie* const shown = this->movie();
+    if (shown) {
+        m_frame = shown->poster();
+        shown->onFrame = [this](const QImage& frame) {
             m_frame = frame;
             update();
         };
-        m_movie->onProgress = [this] { showProgress(); };
-        showProgress();
     }
-    setCursor(m_movie ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    setCursor(shown ? Qt::PointingHandCursor : Qt::ArrowCursor);
     m_controls->setCursor(Qt::ArrowCursor);
-    setToolTip(m_movie ? tr("Play or pause (Space)") : QString());
+    setToolTip(shown ? tr("Play or pause (Space)") : QString());
     update();
 }
 
 void MovieView::togglePlaying() {
-    if (!m_movie) {
-        return;
-    }
-    if (m_movie->rate() != 0) {
-        m_movie->stop();
-    } else {
-        m_movie->play();
-    }
-    showProgress();
-}
-
-void MovieView::showProgress() {
-    m_controls->setPlaying(m_movie->rate() != 0);
-    m_controls->setPosition(m_movie->positionMs());
-    m_controls->setMuted(m_movie->isMuted());
-    update();
+    m_controls->togglePlaying();
 }
 
 // Where the pictures are: above the controls.
@@ -83,7 +63,8 @@ QRect MovieView::screen() const {
 }
 
 void MovieView::paintEvent(QPaintEvent*) {
-    if (!m_movie) {
+    const Movie* const shown = movie();
+    if (!shown) {
         paintEmptyState(this, ownIcon(QStringLiteral("mode-video")), tr("No movie"),
                         tr("Select an item to preview it."));
         return;
@@ -95,8 +76,13 @@ void MovieView::paintEvent(QPaintEvent*) {
         QRect place({}, m_frame.size().scaled(screen().size(), Qt::KeepAspectRatio));
         place.moveCenter(screen().center());
         painter.drawImage(place, m_frame);
+    } else {
+        // Sound without a cover.
+        QRect place(0, 0, kSoundSign, kSoundSign);
+        place.moveCenter(screen().center());
+        ownIcon(QStringLiteral("type-sound")).paint(&painter, place);
     }
-    if (m_movie->rate() == 0) {
+    if (shown->rate() == 0) {
         QRectF sign(0, 0, kPlaySign, kPlaySign);
         sign.moveCenter(QRectF(screen()).center());
         painter.setPen(Qt::NoPen);
@@ -117,21 +103,15 @@ void MovieView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void MovieView::keyPressEvent(QKeyEvent* event) {
-    const auto seekBy = [this](std::int64_t timeMs) {
-        if (m_movie && m_movie->durationMs() > 0) {
-            m_movie->seek(m_movie->positionMs() + timeMs);
-            showProgress();
-        }
-    };
     switch (event->key()) {
         case Qt::Key_Space:
             togglePlaying();
             break;
         case Qt::Key_Left:
-            seekBy(-kSeekStepMs);
+            m_controls->seekBy(-kSeekStepMs);
             break;
         case Qt::Key_Right:
-            seekBy(kSeekStepMs);
+            m_controls->seekBy(kSeekStepMs);
             break;
         default:
             QWidget::keyPressEvent(event);

@@ -19,7 +19,7 @@ class MovieView : public QWidget {
 
     // Takes the movie over and shows its first frame; null empties the view.
     void setMovie(std::unique_ptr<Movie> movie);
-    Movie* movie() const { return m_movie.get(); }
+    Movie* movie() const;
 
     // Starts the movie, or stops it when it plays.
     void togglePlaying();
@@ -30,11 +30,9 @@ class MovieView : public QWidget {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    void showProgress();
     QRect screen() const;
 
-    MovieControls* m_controls;
-    std::unique_ptr<Movie> m_movie;
+    MovieControls* m_controls;  // they hold the movie
     QImage m_frame;
 };
 

@@ -88,25 +88,35 @@ void MyTableController::QuickLook_Preview_Thread(const QString& itemPath) {
     }
 }
 
-// The size of the copied file, and of sound how long it is.
+// The size of the copied file; sound beside its picture can be heard, and tells how long it is.
 void MyTableController::showPreviewFacts() {
     const QFileInfo file(Preview_Temp_File);
     if (!file.isFile()) {
         previewFacts->clear();
         return;
     }
-    QString facts = QLocale().formattedDataSize(file.size());
-    const auto length = std::make_shared<std::int64_t>(0);
-    if (m_parts.soundLength && kindOfExtension(pathExtension(file.fileName())) == FileKind::Sound) {
-        runBeside([ask = m_parts.soundLength, path = file.filePath(), length] { *length = ask(path); });
+    if (Recovery_MODE != kVideoMode && kindOfExtension(pathExtension(file.fileName())) == FileKind::Sound) {
+        soundControls->setMovie(openBeside(m_parts.sound, file.filePath()));
     }
     if (m_ending) {
         return;
     }
-    if (*length > 0) {
-        facts = tr("%1, %2 min").arg(facts, timeText(*length));
+    const Movie* const sound = soundControls->movie();
+    const QString size = QLocale().formattedDataSize(file.size());
+    previewFacts->setText(sound != nullptr && sound->durationMs() > 0
+                              ? tr("%1, %2 min").arg(size, timeText(sound->durationMs()))
+                              : size);
+}
+
+// Null as well when the program ends meanwhile.
+std::unique_ptr<Movie> MyTableController::openBeside(const MovieLoader& loader, const QString& file) {
+    if (!loader || !QFileInfo(file).isFile()) {
+        return nullptr;
     }
-    previewFacts->setText(facts);
+    // Shared with a thread that may be left behind when the program ends.
+    const auto opened = std::make_shared<std::unique_ptr<Movie>>();
+    runBeside([loader, file, opened] { *opened = loader(file); });
+    return m_ending ? nullptr : std::move(*opened);
 }
 
 void MyTableController::setQuickLook_View_File(const QString& file, const QString& file_Name) {
@@ -118,15 +128,10 @@ void MyTableController::setQuickLook_View_File(const QString& file, const QStrin
         return;
     }
     _QuickLook_View_Box->setTitle(file_Name);
-    // Shared with a thread that may be left behind when the program ends.
-    const auto opened = std::make_shared<std::unique_ptr<Movie>>();
-    if (m_parts.movie && QFileInfo(file).isFile()) {
-        runBeside([open = m_parts.movie, file, opened] { *opened = open(file); });
-    }
+    std::unique_ptr<Movie> movie = openBeside(m_parts.movie, file);
     if (m_ending) {
         return;
     }
-    std::unique_ptr<Movie> movie = std::move(*opened);
     _QuickLook_View->setHidden(movie != nullptr);
     mMovieView->setHidden(movie == nullptr);
     if (movie) {

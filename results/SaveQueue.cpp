@@ -65,7 +65,7 @@ void SaveQueue::run() {
     }
 }
 
-void SaveQueue::save(const SaveTask& task) {
+void SaveQueue::save(SaveTask& task) {
     if (!m_medium) {
         m_medium = m_open();
     }

@@ -32,8 +32,8 @@ class SaveQueue {
 
     // Opens the medium anew; null when it is gone. Called on the saving thread, once.
     using Open = std::function<std::unique_ptr<SectorReader>()>;
-    // Called on the saving thread with each item's outcome, in order.
-    using Done = std::function<void(const SaveTask&, const SaveOutcome&)>;
+    // Called on the saving thread with each item's outcome, in order; may keep what it likes of the task.
+    using Done = std::function<void(SaveTask&, const SaveOutcome&)>;
 
     SaveQueue(const QString& destination, const SavePolicy& policy, Open open, Done done);
     SaveQueue(const SaveQueue&) = delete;
@@ -47,7 +47,7 @@ class SaveQueue {
 
   private:
     void run();
-    void save(const SaveTask& task);
+    void save(SaveTask& task);
 
     // The saving thread's alone.
     const ItemSaver m_saver;

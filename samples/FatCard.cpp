@@ -1,7 +1,6 @@
 // Laying out a FAT16 volume: boot sector, two tables, root folder, clusters.
 #include "samples/FatCard.h"
 
-#include <QStringList>
 #include <numeric>
 
 #include "samples/Bytes.h"
@@ -93,6 +92,14 @@ qsizetype FatCard::offsetOf(std::int64_t cluster) {
     return (kFirstDataSector + (cluster - 2) * kSectorsPerCluster) * kSectorBytes;
 }
 
+// Whether all entries of one more name fit into the folder.
+bool FatCard::hasRoomFor(const Folder& folder, const QString& name) {
+    const std::size_t room = folder.clusters.empty() ? std::size_t{kRootEntries}
+                                                     : folder.clusters.size() * kClusterBytes / kEntryBytes;
+    const std::size_t needed = isShortName(name) ? 1 : 1 + longNameEntries(name, shortNameOf(name, 1)).size();
+    return static_cast<std::size_t>(folder.entries) + needed <= room;
+}
+
 qsizetype FatCard::appendEntry(Folder& folder, const QByteArray& entry) {
     const qsizetype inside = qsizetype{folder.entries++} * kEntryBytes;
     const qsizetype at =
@@ -118,36 +125,57 @@ std::vector<qsizetype> FatCard::appendNamedEntries(Folder& folder, const QString
     return offsets;
 }
 
-void FatCard::makeFolder(const QString& path, int clusters) {
+bool FatCard::makeFolder(const QString& path, int clusters) {
     if (m_folders.contains(path))
-        return;
+        return true;
     const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
     const QString parentPath = slash < 0 ? QString() : path.left(slash);
-    makeFolder(parentPath);
-    Folder folder{take(clusters), 0};
-    chain(folder.clusters);
+    const QString name = path.mid(slash + 1);
+    if (!makeFolder(parentPath))
+        return false;
     Folder& parent = m_folders[parentPath];
+    Folder folder;
+    if (hasRoomFor(parent, name))
+        folder.clusters = take(clusters);
+    if (folder.clusters.empty())
+        return false;
+    chain(folder.clusters);
     const std::int64_t parentCluster = parent.clusters.empty() ? 0 : parent.clusters.front();
-    appendNamedEntries(parent, path.mid(slash + 1), kDirectory, folder.clusters.front(), 0);
+    appendNamedEntries(parent, name, kDirectory, folder.clusters.front(), 0);
     const int time = timeOf(m_entriesMade);
     appendEntry(folder, directoryEntry(QByteArray(".").leftJustified(11, ' '), kDirectory, time,
                                        folder.clusters.front(), 0));
     appendEntry(folder,
                 directoryEntry(QByteArray("..").leftJustified(11, ' '), kDirectory, time, parentCluster, 0));
     m_folders[path] = folder;
+    return true;
+}
+
+// The folder of that path, made if need be, if a file of that name fits into it; null else.
+FatCard::Folder* FatCard::folderFor(const QString& path, const QString& name) {
+    if (!makeFolder(path))
+        return nullptr;
+    Folder& folder = m_folders[path];
+    return hasRoomFor(folder, name) ? &folder : nullptr;
 }
 
 std::optional<std::vector<SectorRun>> FatCard::addFile(const QString& folder, const QString& name,
                                                        const QByteArray& bytes) {
+    Folder* const into = folderFor(folder, name);
+    if (into == nullptr)
+        return std::nullopt;
     const std::vector<std::int64_t> clusters = take((bytes.size() + kClusterBytes - 1) / kClusterBytes);
     if (clusters.empty())
         return std::nullopt;
-    return store(folder, name, bytes, clusters);
+    return store(*into, name, bytes, clusters);
 }
 
 std::optional<std::vector<SectorRun>> FatCard::addFileInTwoPieces(const QString& folder, const QString& name,
                                                                   const QByteArray& bytes,
                                                                   std::int64_t gapClusters) {
+    Folder* const into = folderFor(folder, name);
+    if (into == nullptr)
+        return std::nullopt;
     const std::int64_t count = (bytes.size() + kClusterBytes - 1) / kClusterBytes;
     std::vector<std::int64_t> clusters = take(count / 2);
     m_nextCluster += gapClusters;
@@ -155,12 +183,11 @@ std::optional<std::vector<SectorRun>> FatCard::addFileInTwoPieces(const QString&
     if (clusters.empty() || rest.empty())
         return std::nullopt;
     clusters.insert(clusters.end(), rest.begin(), rest.end());
-    return store(folder, name, bytes, clusters);
+    return store(*into, name, bytes, clusters);
 }
 
-std::vector<SectorRun> FatCard::store(const QString& folder, const QString& name, const QByteArray& bytes,
+std::vector<SectorRun> FatCard::store(Folder& folder, const QString& name, const QByteArray& bytes,
                                       const std::vector<std::int64_t>& clusters) {
-    makeFolder(folder);
     chain(clusters);
     std::vector<SectorRun> runs;
     for (std::size_t i = 0; i < clusters.size(); ++i) {
@@ -172,9 +199,7 @@ std::vector<SectorRun> FatCard::store(const QString& folder, const QString& name
             runs.push_back({first, first});
         runs.back().end = first + sectors;
     }
-    StoredFile file{appendNamedEntries(m_folders[folder], name, kArchive, clusters.front(), bytes.size()),
-                    clusters};
-    m_files.push_back(file);
+    m_files.push_back({appendNamedEntries(folder, name, kArchive, clusters.front(), bytes.size()), clusters});
     return runs;
 }
 

@@ -36,10 +36,10 @@ class FatCard {
     FatCard();
 
     // Makes a folder ("DCIM/100VANTR"), its parents included, with room for the given number of clusters of
-    // entries.
-    void makeFolder(const QString& path, int clusters = 1);
+    // entries, unless it is there; false when the card or a parent is full.
+    bool makeFolder(const QString& path, int clusters = 1);
 
-    // Stores a file in the next free clusters; empty when the card is full.
+    // Stores a file in the next free clusters; empty when the card or the folder is full.
     std::optional<std::vector<SectorRun>> addFile(const QString& folder, const QString& name,
                                                   const QByteArray& bytes);
 
@@ -72,11 +72,13 @@ class FatCard {
     void chain(const std::vector<std::int64_t>& clusters);
     std::vector<std::int64_t> take(std::int64_t clusters);
     static qsizetype offsetOf(std::int64_t cluster);
+    static bool hasRoomFor(const Folder& folder, const QString& name);
     qsizetype appendEntry(Folder& folder, const QByteArray& entry);
     std::vector<qsizetype> appendNamedEntries(Folder& folder, const QString& name, int attributes,
                                               std::int64_t firstCluster, qsizetype bytes);
-    std::vector<SectorRun> store(const QString& folder, const QString& name, const QByteArray& bytes,
+    std::vector<SectorRun> store(Folder& folder, const QString& name, const QByteArray& bytes,
                                  const std::vector<std::int64_t>& clusters);
+    Folder* folderFor(const QString& path, const QString& name);
 
     QByteArray m_image;
     std::map<QString, Folder> m_folders;

@@ -68,8 +68,10 @@ std::optional<SampleCard> buildSampleCard() {
     FatCard card;
     Random random(kNoiseSeed);
     // The folders come first, as on a card whose camera has made them before the first picture.
-    for (const CardFile& file : files)
-        card.makeFolder(file.folder);
+    for (const CardFile& file : files) {
+        if (!card.makeFolder(file.folder))
+            return std::nullopt;
+    }
     SampleCard result;
     for (const CardFile& file : files) {
         card.leaveGap(file.gapClusters, file.gap == Gap::Noise

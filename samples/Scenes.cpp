@@ -1,6 +1,7 @@
 // The list of motifs, the movie's motif and the test card.
 #include "samples/Scenes.h"
 
+#include <QtGlobal>
 #include <cstring>
 
 #include "samples/Fixed.h"
@@ -46,7 +47,7 @@ const Scene& sceneNamed(const char* name) {
         if (std::strcmp(scene.name, name) == 0)
             return scene;
     }
-    return scenes().front();
+    qFatal("There is no motif of the name \"%s\".", name);
 }
 
 Picture sunsetAt(int width, int height, int evening, int voyage) {

@@ -16,7 +16,7 @@ struct Scene {
 // Every motif, no two alike.
 const std::vector<Scene>& scenes();
 
-// The motif of the given name; there must be one.
+// The motif of the given name. A name that no motif has ends the program, so that no card is painted wrongly.
 const Scene& sceneNamed(const char* name);
 
 // One frame of the card's movies: the sun has gone down `evening`/255 of its way over the sea, and a boat has

@@ -12,8 +12,8 @@ namespace {
 using namespace vantor::samples;
 
 constexpr int kDone = 0;
-constexpr int kWrongUse = 1;
-constexpr int kFailed = 2;
+constexpr int kWrongUse = 2;
+constexpr int kFailed = 1;
 
 struct Request {
     QString image;

@@ -6,8 +6,10 @@
 #include <algorithm>
 #include <cstdint>
 #include <optional>
+#include <utility>
 
 #include "media/SectorReader.h"
+#include "scan/PhotoMemory.h"
 
 namespace vantor {
 
@@ -16,6 +18,8 @@ namespace vantor {
 class PhotoItemBuffer {
   public:
     static constexpr std::uint64_t kMaxBytesInMemory = std::uint64_t{256} * 1024 * 1024;
+
+    explicit PhotoItemBuffer(PhotoMemory& memory) : m_memory(memory) {}
 
     void append(const std::uint8_t* sector) {
         const auto* bytes = reinterpret_cast<const char*>(sector);
@@ -32,11 +36,11 @@ class PhotoItemBuffer {
     }
 
     // Room as large as the largest item so far is asked for at once, since growing step by step copies each
-    // item once more. The old bytes are left to whoever still holds them.
+    // item once more. The old bytes are left to whoever still holds them, who may give their memory back.
     void clear() {
         m_room = std::max(m_room, m_bytes.size());
-        m_bytes = QByteArray();
-        m_bytes.reserve(m_room);
+        m_memory.giveBack(std::exchange(m_bytes, {}));
+        m_bytes = m_memory.take(m_room);
         m_size = 0;
         m_overflow.reset();
     }
@@ -47,6 +51,7 @@ class PhotoItemBuffer {
     QByteArray overflowSha256() const { return m_overflow ? m_overflow->result() : QByteArray(); }
 
   private:
+    PhotoMemory& m_memory;
     QByteArray m_bytes;
     qsizetype m_room = 0;  // bytes
     std::uint64_t m_size = 0;

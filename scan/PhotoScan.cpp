@@ -14,8 +14,8 @@ namespace vantor {
 
 // The working state of one pass.
 struct ScanSession::PhotoPass {
-    explicit PhotoPass(const QString& passName, const QStringList& records)
-        : name(passName), matcher(std::make_shared<const HeaderMatcher>(records)) {
+    PhotoPass(const QString& passName, const QStringList& records, PhotoMemory& memory)
+        : name(passName), item(memory), matcher(std::make_shared<const HeaderMatcher>(records)) {
         for (qsizetype n = 0; n < recordCount(records); ++n) {
             limits.push_back(static_cast<std::uint64_t>(textToInt64(recordField(records, n, Max_File_Size))));
         }
@@ -24,11 +24,11 @@ struct ScanSession::PhotoPass {
     bool isGeneral() const { return name == kGeneralPass; }
 
     QString name;
+    PhotoItemBuffer item;
     std::shared_ptr<const HeaderMatcher> matcher;
     std::vector<std::uint64_t> limits;  // bytes, a record each
 
     ReferenceSector reference;
-    PhotoItemBuffer item;
     CarvedRun carved;
     QString itemType, itemName, itemUid;
     std::uint64_t itemFirstSector = 0;
@@ -51,7 +51,7 @@ bool ScanSession::Photo_Recovey_Mode(const QString& passName) {
         return false;
     }
 
-    PhotoPass pass(passName, REC_PROC_Array);
+    PhotoPass pass(passName, REC_PROC_Array, m_photoMemory);
     pFile_Disk->setScreen(pass.matcher);
     runPhotoLoop(pass);
     if (pass.stopped) {

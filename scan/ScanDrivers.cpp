@@ -50,12 +50,16 @@ void ScanSession::timerTickSetLabel() {
     m_view.setProgress(static_cast<double>(index - start_sector));
 }
 
+QString ScanSession::endHelp() {
+    return QStringLiteral("\nTo select another disk for recovery, click on ‘Back’ Button.");
+}
+
 void ScanSession::Final_or_Stop_Screen() {
     m_view.onInterfaceThread([this] {
         const ControlSet set = Recovery_MODE == kPhotoMode ? ControlSet::Photo : ControlSet::Sig;
         stop_screen_already_show = 1;
         stop_now = 1;
-        m_view.showHelpInfo(QStringLiteral("\nTo select another disk for recovery, click on ‘Back’ Button."));
+        m_view.showHelpInfo(endHelp());
         pFile_Disk.reset();
         m_view.hideScanProgress();
         m_view.runEndPanel(set);

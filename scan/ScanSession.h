@@ -27,6 +27,7 @@
 #include "results/MyImageObject.h"
 #include "results/RecoveryMode.h"
 #include "results/ResultRow.h"
+#include "scan/PhotoMemory.h"
 #include "scan/ScanView.h"
 
 namespace vantor {
@@ -118,6 +119,8 @@ class ScanSession {
     void timerTickSetLabel();
     // The end of a scan, its steps on the interface thread.
     void Final_or_Stop_Screen();
+    // The help text that goes with the results of a scan.
+    static QString endHelp();
 
     PassOutcome lastOutcome() const { return m_lastOutcome; }
 
@@ -184,6 +187,8 @@ class ScanSession {
     std::unique_ptr<SectorReader> openMedium() const;
     // Guards `images` and nsSIGFileInfoDataObject; held for moments.
     std::mutex& listLock() const { return m_listLock; }
+    // For whoever held a photo's bytes longest.
+    void giveBackPhotoBytes(QByteArray bytes) { m_photoMemory.giveBack(std::move(bytes)); }
 
     std::vector<std::shared_ptr<MyImageObject>> images;
     QList<ResultRow> nsSIGFileInfoDataObject;
@@ -221,6 +226,7 @@ class ScanSession {
     MediumOpener m_openMedium;
     Thumbnailer m_thumbnailer;
     HandOver m_handOver;
+    PhotoMemory m_photoMemory;
     QString m_placeholderPath;
     PassOutcome m_lastOutcome = PassOutcome::NotRun;
     std::atomic<std::uint64_t> m_addedItems{0};

@@ -108,10 +108,11 @@ void MyTableController::scanThreadsEnded() {
     flushViews();
     showItemCounts();
     showWhereWeAre();
-    // The driver leaves the end screen to a preview that was being copied; should that have ended first, it
-    // is due now.
-    const bool onScanScreen = screen_counter == (Recovery_MODE == kPhotoMode ? 2 : 3);
-    if (stop_screen_already_show == 0 && onScanScreen) {
+    if (!onScanScreen()) {
+        scanFellBack();
+    } else if (stop_screen_already_show == 0) {
+        // The driver leaves the end screen to a preview that was being copied; should that have ended first,
+        // it is due now.
         Final_or_Stop_Screen();
     }
 }

@@ -108,6 +108,9 @@ void MyTableController::nextFromRange() {
         range.field(refusal->field)->selectAll();
         return;
     }
+    if (Recovery_MODE == kPhotoMode && !mayBeginScan()) {
+        return;
+    }
     screen_counter = 2;
     _Thro_Mode_Chk_SIG->setChecked(true);
     _select_unselect_Chk->setCheckState(Qt::Checked);
@@ -120,7 +123,7 @@ void MyTableController::nextFromRange() {
         return;
     }
     buildFileTypeList();
-    _help_info->setText(kFileTypeHelp);
+    showFileTypeHelp();
     show_hide_3_screen_RawFile(false);
     typeSearchField->clear();
     buildGroupBoxes();
@@ -128,6 +131,9 @@ void MyTableController::nextFromRange() {
 }
 
 void MyTableController::nextFromFileTypes() {
+    if (Check_For_One_Extension_Selection() && !mayBeginScan()) {
+        return;
+    }
     cutCataloguesToTickedTypes();
     if (!Check_For_One_Extension_Selection()) {
         runAlert({QStringLiteral("\nPlease select atleast one extension type.")}, window);
@@ -142,10 +148,8 @@ void MyTableController::nextFromFileTypes() {
 }
 
 void MyTableController::Back_btn(QObject*) {
-    const bool leavesResults = screen_counter == 3 || (screen_counter == 2 && Recovery_MODE == kPhotoMode);
-    if (leavesResults && hasUnsavedItems() &&
-        !mayLeaveUnsaved(tr("When you go back, the list of found items is emptied."),
-                         tr("Go Back Without Saving"))) {
+    if (hasUnsavedItems() && !mayLeaveUnsaved(tr("When you go back, the list of found items is emptied."),
+                                              tr("Go Back Without Saving"))) {
         return;
     }
     switch (screen_counter) {
@@ -177,6 +181,9 @@ void MyTableController::backToMedia() {
     // Hidden first: two screens in view at a time would make a small window grow.
     show_hide_2_screen(true);
     show_hide_1_screen(false);
+    if (itemCount() > 0) {
+        emptyBrowsers();  // they are of the medium that is left
+    }
     setMode(kPhotoMode);
     Reload_Drive_list_Function();
     idTableView->setFocus();
@@ -184,12 +191,7 @@ void MyTableController::backToMedia() {
 
 void MyTableController::backToRange() {
     screen_counter = 1;
-    const RangePanel& range = activeRange();
-    if (range.entireDiskOn()) {
-        showEntireDiskHelp();
-    } else if (range.sectorRangeOn()) {
-        showSectorRangeHelp();
-    }
+    showRangeHelp();
     emptyBrowsers();
     zoomLabel->hide();
     _zoom_slider->hide();
@@ -209,13 +211,26 @@ void MyTableController::backToFileTypes() {
     imageBrowser_2->setZoomValue(kRawZoom);
     imageBrowser_2->reloadData();
     hideOpenFolderButtons();
-    _help_info->setText(kFileTypeHelp);
+    showFileTypeHelp();
     show_hide_4_screen_RawFile(true);
     show_hide_3_screen_RawFile(false);
     stop_now = 0;
     forgetSaved();
     endLooks();
     idCheckTableView->setFocus();
+}
+
+void MyTableController::showRangeHelp() {
+    const RangePanel& range = activeRange();
+    if (range.entireDiskOn()) {
+        showEntireDiskHelp();
+    } else if (range.sectorRangeOn()) {
+        showSectorRangeHelp();
+    }
+}
+
+void MyTableController::showFileTypeHelp() {
+    _help_info->setText(kFileTypeHelp);
 }
 
 // The items go, and the browsers stand as at the start.
@@ -244,6 +259,7 @@ void MyTableController::showWhereWeAre() {
     }
     stepTrail->setSteps(steps, screen_counter);
     contextBar->setVisible(screen_counter > 0);
+    showLeftItemsBar();
     bodyScroll->verticalScrollBar()->setValue(0);
     // Once the new screen is laid out.
     QTimer::singleShot(0, this, [this] {

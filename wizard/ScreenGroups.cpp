@@ -70,6 +70,7 @@ void MyTableController::showPreviewPane(bool hide) {
         _QuickLook_View->setText(tr("Select an item to preview it."));
         _QuickLook_View->setAccessibleName({});
     }
+    soundControls->setMovie(nullptr);
     previewFacts->clear();
 }
 

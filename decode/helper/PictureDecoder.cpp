@@ -150,8 +150,9 @@ std::optional<PictureResult> decodeBy(const QByteArray& handler, QByteArrayView 
 }  // namespace
 
 std::optional<PictureResult> decodePicture(QByteArrayView bytes, QByteArrayView extension, QSize bound) {
-    for (const QByteArray& handler : handlersFor(bytes, extension)) {
-        if (auto result = decodeBy(handler, bytes, bound)) {
+    const QByteArrayView picture = pictureWithin(bytes);
+    for (const QByteArray& handler : handlersFor(picture, extension)) {
+        if (auto result = decodeBy(handler, picture, bound)) {
             return result;
         }
     }

@@ -48,6 +48,12 @@ const std::array kMarks{
     Mark{0, "\x01\xda", "vantor-sgi"},
     Mark{0, "\x59\xa6\x6a\x95", "vantor-ras"},
     Mark{0, "P7\n", "vantor-pam"},
+    Mark{0, "PF\n", "vantor-pfm"},
+    Mark{0, "Pf\n", "vantor-pfm"},
+    Mark{0, "#?RADIANCE\n", "vantor-hdr"},
+    Mark{0, "#?RGBE\n", "vantor-hdr"},
+    Mark{0, "SIMPLE  =", "vantor-fits"},
+    Mark{0, "II\xbc\x01", "vantor-jxr"},
     // Camera raw files that are no TIFF, or only nearly one.
     Mark{0, "FUJIFILMCCD-RAW", kRawFormat},
     Mark{6, "HEAPCCDR", kRawFormat},
@@ -120,6 +126,20 @@ bool isTiffBasedRaw(QByteArrayView bytes) {
         return !raw;
     });
     return raw;
+}
+
+QByteArrayView pictureWithin(QByteArrayView bytes) {
+    constexpr std::uint64_t kTiffAt = 20, kTiffLength = 24;
+    if (!hasText(bytes, 0, "\xc5\xd0\xd3\xc6")) {
+        return bytes;
+    }
+    const auto size = static_cast<std::uint64_t>(bytes.size());
+    const std::uint64_t at = readUnsigned(bytes, kTiffAt, 4, ByteOrder::Little).value_or(size);
+    const std::uint64_t length = readUnsigned(bytes, kTiffLength, 4, ByteOrder::Little).value_or(0);
+    if (at > size) {
+        return bytes;
+    }
+    return bytes.sliced(static_cast<qsizetype>(at), static_cast<qsizetype>(std::min(length, size - at)));
 }
 
 QList<QByteArray> handlersFor(QByteArrayView bytes, QByteArrayView extension) {

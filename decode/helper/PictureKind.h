@@ -16,6 +16,10 @@ inline constexpr char kPhotoshopFormat[] = "vantor-psd";
 // Drawings follow references to other files; a helper can open none.
 inline constexpr char kDrawingFormat[] = "svg";
 
+// The bytes themselves, but for PostScript with a picture for the screen behind it: that picture, as Adobe's
+// Encapsulated PostScript specification (5002) places it; empty where it has none.
+QByteArrayView pictureWithin(QByteArrayView bytes);
+
 // The handlers to try, the likeliest first; empty when the bytes are no picture of a kind we read.
 // `extension` (lower case) decides only for kinds without a mark of their own.
 QList<QByteArray> handlersFor(QByteArrayView bytes, QByteArrayView extension);

@@ -19,15 +19,18 @@ namespace vantor::decode {
 
 namespace {
 
-// Format name of ours and the decoder's name in the library.
+// Format name of ours, the decoder's name in the library, and the bytes that it does not want to see: those
+// that the library tells the format by.
 struct Kind {
     const char* format;
     const char* decoder;
+    qsizetype markBytes = 0;
 };
 constexpr std::array kKinds{
-    Kind{"vantor-pcx", "pcx"}, Kind{"vantor-dds", "dds"},     Kind{"vantor-dpx", "dpx"},
-    Kind{"vantor-exr", "exr"}, Kind{"vantor-qoi", "qoi"},     Kind{"vantor-sgi", "sgi"},
-    Kind{"vantor-pam", "pam"}, Kind{"vantor-ras", "sunrast"}, Kind{"vantor-tga", "targa"},
+    Kind{"vantor-pcx", "pcx"},       Kind{"vantor-dds", "dds"},     Kind{"vantor-dpx", "dpx"},
+    Kind{"vantor-exr", "exr"},       Kind{"vantor-qoi", "qoi"},     Kind{"vantor-sgi", "sgi"},
+    Kind{"vantor-pam", "pam"},       Kind{"vantor-ras", "sunrast"}, Kind{"vantor-tga", "targa"},
+    Kind{"vantor-fits", "fits", 80},
 };
 
 template <auto release>
@@ -64,12 +67,12 @@ Codec openCodec(const char* name) {
 }
 
 // The decoders read a little beyond the end and want zeros there.
-Packet packetOf(const QByteArray& bytes) {
+Packet packetOf(QByteArrayView bytes) {
     Packet packet(av_packet_alloc());
     if (!packet || av_new_packet(packet.get(), static_cast<int>(bytes.size())) < 0) {
         return nullptr;
     }
-    std::memcpy(packet->data, bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    std::memcpy(packet->data, bytes.data(), static_cast<std::size_t>(bytes.size()));
     return packet;
 }
 
@@ -113,7 +116,8 @@ class SinglePictureHandler : public WholePictureHandler {
     QImage decode(const QByteArray& bytes) override {
         const Kind* kind = kindOf(format());
         const Codec codec = kind ? openCodec(kind->decoder) : nullptr;
-        const Packet packet = codec ? packetOf(bytes) : nullptr;
+        const Packet packet =
+            codec ? packetOf(QByteArrayView(bytes).sliced(std::min(bytes.size(), kind->markBytes))) : nullptr;
         const Frame frame(av_frame_alloc());
         if (!packet || avcodec_send_packet(codec.get(), packet.get()) < 0) {
             return {};

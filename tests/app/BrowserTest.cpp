@@ -64,6 +64,35 @@ TEST_F(Browser, WhatCannotBeDecoded_ShowsThePlaceholder) {
     EXPECT_EQ(controller->itemAt(0)->imageData(), placeholder.readAll());
 }
 
+TEST_F(Browser, WithoutThePlaceholder_WhatCannotBeDecodedIsAnEmptyCell) {
+    QFile::remove(folder.filePath(QStringLiteral("NoPreview.png")));
+    open();
+    addPhotos(1);
+    ASSERT_EQ(controller->itemCount(), 1u);
+    EXPECT_TRUE(controller->itemAt(0)->imageData().isEmpty());
+    controller->imageBrowser->grab();
+}
+
+TEST_F(Browser, APathOfBlanksAddsNothing_AndFilesAreShownFromTheirPath) {
+    open();
+    const auto add = [this](const QString& path) {
+        controller->addImageWithPath(path, QStringLiteral("a"), QStringLiteral("u"));
+    };
+    add(QStringLiteral(" \t\n"));
+    EXPECT_EQ(controller->itemCount(), 0u);
+    EXPECT_EQ(controller->addedItemCount(), 0u);
+    const QString placeholder = folder.filePath(QStringLiteral("NoPreview.png"));
+    add(QStringLiteral(" /nowhere/at/all.jpg\n"));
+    ASSERT_EQ(controller->itemCount(), 1u);
+    EXPECT_EQ(controller->itemAt(0)->path(), placeholder);
+    EXPECT_FALSE(controller->itemAt(0)->imageData().isEmpty());
+    Recovery_MODE = kVideoMode;
+    add(QStringLiteral("/nowhere/at/all.mov"));
+    ASSERT_EQ(controller->itemCount(), 2u);
+    EXPECT_EQ(controller->itemAt(1)->path(), QStringLiteral("/nowhere/at/all.mov"));
+    EXPECT_EQ(controller->addedItemCount(), 2u);
+}
+
 TEST_F(Browser, EverySixthPhotoScrollsToTheEnd) {
     open();
     showPhotoScreen();

@@ -35,6 +35,21 @@ TEST(InterfaceQueue, WhoWaitsIsReleasedAfterTheStep) {
     EXPECT_EQ(answer, 1);
 }
 
+TEST(InterfaceQueue, WhoWaitsWakesTheOtherSide_WhichFindsTheStep) {
+    std::atomic<int> woken{0};
+    InterfaceQueue queue([&woken] { ++woken; });
+    queue.post([] {});
+    EXPECT_EQ(woken, 0);
+    std::thread scan([&] { queue.runAndWait([] {}); });
+    while (woken == 0) {
+        std::this_thread::yield();
+    }
+    EXPECT_TRUE(queue.runOne());
+    EXPECT_TRUE(queue.runOne()) << "the step was there before the call";
+    scan.join();
+    EXPECT_EQ(woken, 1);
+}
+
 TEST(InterfaceQueue, ClosingReleasesWhoWaitsWithoutTheStep) {
     InterfaceQueue queue;
     bool ran = false;

@@ -1,42 +1,16 @@
 // The preview of a selected item: the copy, the picture, the icon, and what stays when the medium is gone.
 #include <QFileInfo>
+#include <QLocale>
+#include <QToolButton>
 
+#include "results/MovieControls.h"
 #include "results/RecoveryMode.h"
 #include "tests/app/Gate.h"
-#include "tests/app/WindowTest.h"
+#include "tests/app/PreviewWindow.h"
+#include "tests/app/ScriptedMovie.h"
 
 namespace vantor {
 namespace {
-
-class Preview : public WindowTest {
-  protected:
-    // The raw results screen with these items, sectors [start, end) each.
-    void openResults(std::initializer_list<std::tuple<const char*, int, int>> items,
-                     int mode = kRawFileMode) {
-        openWithCard();
-        toRange(mode);
-        controller->show_hide_2_screen(true);
-        controller->show_hide_4_screen_RawFile(false);
-        controller->screen_counter = 3;
-        for (const auto& [name, start, end] : items) {
-            controller->addImageWithData_2({}, QString::fromLatin1(name), QString::fromLatin1(name),
-                                           static_cast<std::uint64_t>(start),
-                                           static_cast<std::uint64_t>(end));
-        }
-        QTest::qWait(1);
-        opened = 0;
-    }
-    void select(int row) {
-        ImageBrowserView* browser = controller->imageBrowser_2;
-        QTest::mouseClick(browser->viewport(), Qt::LeftButton, {},
-                          browser->visualRect(browser->model()->index(row, 0)).center());
-    }
-    QByteArray previewBytes(const char* name) const {
-        QFile file(folder.filePath(QString::fromLatin1(name)));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("absent");
-    }
-    QString title() const { return controller->_QuickLook_View_Box->title(); }
-};
 
 TEST_F(Preview, ASelectedItem_IsCopiedWithoutItsEndSector) {
     openResults({{"A.PDF", 24, 27}});
@@ -247,15 +221,38 @@ TEST_F(Preview, ExitDuringACopyThatHangs_IsPossible) {
     EXPECT_FALSE(QFileInfo::exists(folder.filePath(QStringLiteral("dprv.PDF"))));
 }
 
-TEST_F(Preview, ASoundFile_TellsHowLongItIs) {
-    parts.soundLength = [](const QString& file) {
-        return file.endsWith(QLatin1String("dprv.MP3")) ? 205'000 : 0;
+TEST_F(Preview, ASoundFile_TellsHowLongItIsAndCanBeHeard) {
+    MovieLog log;
+    parts.sound = [&log](const QString& file) {
+        EXPECT_TRUE(file.endsWith(QLatin1String("dprv.MP3"))) << "nothing else is asked for its sound";
+        auto sound = std::make_unique<ScriptedMovie>(log);
+        sound->duration = 205'000;
+        return sound;
     };
-    openResults({{"A.MP3", 24, 27}, {"B.PDF", 28, 29}});
+    openResults({{"A.MP3", 24, 27}, {"B.PDF", 28, 29}, {"C.MP3", 30, 31}});
+    EXPECT_FALSE(controller->soundControls->isVisible());
     select(0);
     EXPECT_TRUE(controller->previewFacts->text().endsWith(QStringLiteral(", 3:25 min")));
+    EXPECT_TRUE(controller->_QuickLook_View->isVisible()) << "beside its picture";
+    EXPECT_FALSE(controller->mMovieView->isVisible());
+    click(controller->soundControls->findChild<QToolButton*>(QStringLiteral("moviePlay")));
+    EXPECT_NE(controller->soundControls->movie()->rate(), 0);
     select(1);
+    EXPECT_EQ(log.alive, 0) << "nothing sounds behind another item";
+    EXPECT_FALSE(controller->soundControls->isVisible());
     EXPECT_FALSE(controller->previewFacts->text().contains(QStringLiteral("min")));
+    select(2);
+    EXPECT_EQ(log.alive, 1);
+    controller->show_hide_4_screen_RawFile(true);
+    EXPECT_EQ(log.alive, 0) << "nor behind another screen";
+}
+
+TEST_F(Preview, ASoundFileThatCannotBePlayed_HasNoControls) {
+    parts.sound = [](const QString&) { return nullptr; };
+    openResults({{"A.MP3", 24, 27}});
+    select(0);
+    EXPECT_FALSE(controller->soundControls->isVisible());
+    EXPECT_EQ(controller->previewFacts->text(), QLocale().formattedDataSize(3 * 512));
 }
 
 TEST_F(Preview, AnItemAtTheVeryBeginning_IsCopiedFromSectorZero) {

@@ -127,16 +127,32 @@ TEST(DecodePool, HelperThatIsAnotherProgram_GivesNoPicture) {
     EXPECT_TRUE(pool.thumbnail(encoded(twoColours({64, 64}), "png")).isEmpty());
 }
 
-TEST(DecodePool, HelperThatNeverReports_IsGivenUp) {
-    QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("sleeper"));
+// The helper is this script, which ends in it running the real one.
+QString scriptedHelper(const QTemporaryDir& folder, const QByteArray& words) {
+    const QString path = folder.filePath(QStringLiteral("helper"));
     QFile script(path);
-    ASSERT_TRUE(script.open(QIODevice::WriteOnly));
-    script.write("#!/bin/sh\nexec sleep 1000\n");
+    EXPECT_TRUE(script.open(QIODevice::WriteOnly));
+    script.write("#!/bin/sh\n" + words + "\nexec " VANTOR_DECODE_HELPER " \"$@\"\n");
     script.close();
     script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return path;
+}
+
+TEST(DecodePool, HelpersThatDieWhileTheyStart_ArePassedOver) {
+    const QTemporaryDir folder;
+    const QByteArray mark = folder.filePath(QStringLiteral("started")).toUtf8();
     DecodePoolOptions options = poolOptions(1);
-    options.helper = path;
+    options.helper =
+        scriptedHelper(folder, "echo >> " + mark + "; test $(wc -l < " + mark + ") -gt 2 || kill -KILL $$");
+    DecodePool pool(options);
+    EXPECT_FALSE(pool.thumbnail(encoded(twoColours({64, 64}), "png")).isEmpty());
+    EXPECT_EQ(pool.counts().failedStarts, 2U);
+}
+
+TEST(DecodePool, HelperThatNeverReports_IsGivenUp) {
+    const QTemporaryDir folder;
+    DecodePoolOptions options = poolOptions(1);
+    options.helper = scriptedHelper(folder, "exec sleep 1000");
     options.startDeadline = milliseconds(200);
     DecodePool pool(options);
     EXPECT_TRUE(pool.thumbnail(encoded(twoColours({64, 64}), "png")).isEmpty());

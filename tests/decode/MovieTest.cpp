@@ -3,45 +3,27 @@
 #include <signal.h>
 
 #include <QFileInfo>
-#include <QTemporaryDir>
-#include <random>
 
 #include "decode/MovieReader.h"
 #include "decode/SoundReader.h"
-#include "tests/decode/Fixtures.h"
+#include "tests/decode/MovieFixtures.h"
 
 namespace vantor {
 namespace {
 
 using namespace test;
-using std::chrono::seconds;
 
-MovieReaderOptions options() {
-    MovieReaderOptions chosen;
-    chosen.helper = QStringLiteral(VANTOR_MOVIE_HELPER);
-    return chosen;
-}
-
-class Movie : public testing::Test {
+class Movie : public MovieHelperTest {
   protected:
     void SetUp() override {
+        MovieHelperTest::SetUp();
         if (corpusFolder().isEmpty()) {
             GTEST_SKIP() << "no corpus";
-        }
-        if (!QFileInfo::exists(options().helper)) {
-            GTEST_SKIP() << "built without the movie helper";
         }
     }
     static QString movie(const char* name) {
         return corpusFolder() + QStringLiteral("/videos/") + QLatin1String(name);
     }
-    QString written(const QByteArray& bytes, const QString& name) {
-        const QString path = m_folder.filePath(name);
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-        return path;
-    }
-    QTemporaryDir m_folder;
 };
 
 struct Expected {
@@ -68,7 +50,7 @@ std::vector<Expected> expectedMovies() {
 TEST_F(Movie, RealFiles_AreShownInTheirSizeAndHeard_OrNot) {
     const std::vector<Expected> grid = expectedMovies();
     ASSERT_GT(grid.size(), 50U);
-    MovieReaderOptions patient = options();
+    MovieReaderOptions patient = movieOptions();
     patient.openDeadline = patient.frameDeadline = std::chrono::minutes(1);
     for (const auto& [name, size, durationMs, sound] : grid) {
         SCOPED_TRACE(name.toStdString());
@@ -97,13 +79,14 @@ TEST_F(Movie, WithoutAPictureToShow_IsNone) {
                              // The head of a longer file.
                              "mp4/nom-exif__testdata__sony-a7-xavc.MP4"}) {
         ASSERT_TRUE(QFileInfo::exists(movie(name))) << name;
-        EXPECT_FALSE(MovieReader::open(movie(name), {200, 200}, options())) << name;
+        EXPECT_FALSE(MovieReader::open(movie(name), {200, 200}, movieOptions())) << name;
     }
     EXPECT_FALSE(MovieReader::open(written(QByteArray(1 << 20, '\0'), QStringLiteral("zeros.mts")),
-                                   {200, 200}, options()));
-    EXPECT_FALSE(MovieReader::open(written({}, QStringLiteral("empty.avi")), {200, 200}, options()));
-    EXPECT_FALSE(MovieReader::open(m_folder.filePath(QStringLiteral("missing.avi")), {200, 200}, options()));
-    EXPECT_FALSE(MovieReader::open(m_folder.path(), {200, 200}, options()));
+                                   {200, 200}, movieOptions()));
+    EXPECT_FALSE(MovieReader::open(written({}, QStringLiteral("empty.avi")), {200, 200}, movieOptions()));
+    EXPECT_FALSE(
+        MovieReader::open(m_folder.filePath(QStringLiteral("missing.avi")), {200, 200}, movieOptions()));
+    EXPECT_FALSE(MovieReader::open(m_folder.path(), {200, 200}, movieOptions()));
 }
 
 TEST_F(Movie, MissingHelper_IsNone) {
@@ -113,7 +96,7 @@ TEST_F(Movie, MissingHelper_IsNone) {
 }
 
 TEST_F(Movie, Frames_ComeInOrderUntilTheEnd) {
-    const auto reader = MovieReader::open(movie("synth/av1_opus.mp4"), {160, 160}, options());
+    const auto reader = MovieReader::open(movie("synth/av1_opus.mp4"), {160, 160}, movieOptions());
     ASSERT_TRUE(reader);
     std::int64_t last = reader->poster().timeMs;
     EXPECT_EQ(last, 0);
@@ -140,7 +123,7 @@ TEST_F(Movie, Seek_GivesTheFrameAtThatTime) {
          {"synth/vp9_opus.webm", "mpg/digicam_corpus__Sony__DSC-P5__MOMLV100__DSC00010.MPG",
           "mov/digicam_corpus__Apple__iPhone_XR__IMG_3589.mov"}) {
         SCOPED_TRACE(name);
-        const auto reader = MovieReader::open(movie(name), {160, 160}, options());
+        const auto reader = MovieReader::open(movie(name), {160, 160}, movieOptions());
         ASSERT_TRUE(reader);
         const std::int64_t middle = reader->durationMs() / 2;
         const auto frame = reader->seek(middle);
@@ -153,7 +136,7 @@ TEST_F(Movie, Seek_GivesTheFrameAtThatTime) {
 }
 
 TEST_F(Movie, HelperKilledWhilePlaying_EndsTheMovieOnly) {
-    const auto reader = MovieReader::open(movie("synth/vp9_opus.webm"), {160, 160}, options());
+    const auto reader = MovieReader::open(movie("synth/vp9_opus.webm"), {160, 160}, movieOptions());
     ASSERT_TRUE(reader && reader->next());
     kill(reader->helperPid(), SIGABRT);
     EXPECT_FALSE(reader->next());
@@ -163,7 +146,7 @@ TEST_F(Movie, HelperKilledWhilePlaying_EndsTheMovieOnly) {
 }
 
 TEST_F(Movie, HelperThatHangs_IsLeftAtTheDeadline) {
-    MovieReaderOptions impatient = options();
+    MovieReaderOptions impatient = movieOptions();
     impatient.frameDeadline = std::chrono::milliseconds(100);
     const auto reader = MovieReader::open(movie("synth/vp9_opus.webm"), {160, 160}, impatient);
     ASSERT_TRUE(reader);
@@ -172,32 +155,17 @@ TEST_F(Movie, HelperThatHangs_IsLeftAtTheDeadline) {
     EXPECT_TRUE(reader->isOver());
 }
 
-// Cut off, zeroed in parts, bytes changed: whatever it does to the decoders, the program goes on.
 TEST_F(Movie, MutatedFiles_AreShownOrNot) {
-    constexpr qint64 kLargestSeed = 300 * 1024;
     constexpr int kMutations = 120;
-    std::vector<QString> seeds;
-    for (const QString& path : filesBelow(corpusFolder() + QStringLiteral("/videos"))) {
-        if (QFileInfo(path).size() <= kLargestSeed) {
-            seeds.push_back(path);
-        }
-    }
-    ASSERT_GT(seeds.size(), 10U);
-    std::mt19937 random(11);
-    int shown = 0;
-    for (int i = 0; i < kMutations; ++i) {
-        const QString& seed = seeds[static_cast<std::size_t>(i) % seeds.size()];
-        const QString path =
-            written(mutated(bytesOfFile(seed), random), QStringLiteral("dprv.") + QFileInfo(seed).suffix());
-        MovieReaderOptions impatient = options();
-        impatient.openDeadline = impatient.frameDeadline = seconds(1);
-        if (const auto reader = MovieReader::open(path, {100, 100}, impatient)) {
-            ++shown;
+    const int shown = useMutated({"videos"}, kMutations, 11, [](const QString& path, const auto& impatient) {
+        const auto reader = MovieReader::open(path, {100, 100}, impatient);
+        if (reader) {
             for (int frame = 0; frame < 10 && reader->next(); ++frame) {
             }
             reader->seek(reader->durationMs() / 2);
         }
-    }
+        return reader != nullptr;
+    });
     EXPECT_GT(shown, kMutations / 10);
     EXPECT_LT(shown, kMutations);
 }

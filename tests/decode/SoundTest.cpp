@@ -2,47 +2,16 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 
-#include <QFileInfo>
-#include <QTemporaryDir>
-#include <cmath>
-#include <random>
+#include <thread>
 
 #include "decode/SoundReader.h"
-#include "tests/decode/Fixtures.h"
+#include "tests/decode/MovieFixtures.h"
+#include "tests/decode/Tones.h"
 
 namespace vantor {
 namespace {
 
 using namespace test;
-using std::chrono::seconds;
-
-MovieReaderOptions options() {
-    MovieReaderOptions chosen;
-    chosen.helper = QStringLiteral(VANTOR_MOVIE_HELPER);
-    return chosen;
-}
-
-// A WAVE file of one tone per second: 200 Hz in the first, 300 in the second and so on, the right channel
-// silent.
-QByteArray tones(int length) {
-    constexpr int kRate = 32000;
-    QByteArray samples;
-    for (int i = 0; i < length * kRate; ++i) {
-        const double hertz = 200 + 100 * (i / kRate);
-        const auto left = static_cast<std::int16_t>(16000 * std::sin(2 * M_PI * hertz * i / kRate));
-        samples.append(static_cast<char>(left & 0xff)).append(static_cast<char>(left >> 8)).append(2, '\0');
-    }
-    const auto number = [](std::uint32_t value) {
-        QByteArray bytes;
-        for (int shift = 0; shift < 32; shift += 8) {
-            bytes.append(static_cast<char>(value >> shift));
-        }
-        return bytes;
-    };
-    const auto size = static_cast<std::uint32_t>(samples.size());
-    return "RIFF" + number(size + 36) + "WAVEfmt " + number(16) + QByteArray("\1\0\2\0", 4) + number(kRate) +
-           number(kRate * 4) + QByteArray("\4\0\x10\0", 4) + "data" + number(size) + samples;
-}
 
 // Of the left channel, from how often it turns positive.
 double hertzOf(const SoundPiece& piece) {
@@ -53,24 +22,10 @@ double hertzOf(const SoundPiece& piece) {
     return static_cast<double>(turns) * kSoundFramesPerSecond / static_cast<double>(piece.frames());
 }
 
-class Sound : public testing::Test {
-  protected:
-    void SetUp() override {
-        if (!QFileInfo::exists(options().helper)) {
-            GTEST_SKIP() << "built without the movie helper";
-        }
-    }
-    QString written(const QByteArray& bytes, const QString& name) {
-        const QString path = m_folder.filePath(name);
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-        return path;
-    }
-    QTemporaryDir m_folder;
-};
+using Sound = MovieHelperTest;
 
 TEST_F(Sound, Pieces_FollowEachOtherToTheEnd) {
-    const auto reader = SoundReader::open(written(tones(3), QStringLiteral("dprv.WAV")), options());
+    const auto reader = SoundReader::open(written(tones(3), QStringLiteral("dprv.WAV")), movieOptions());
     ASSERT_TRUE(reader);
     EXPECT_EQ(reader->durationMs(), 3000);
     std::int64_t frames = 0;
@@ -90,7 +45,7 @@ TEST_F(Sound, Pieces_FollowEachOtherToTheEnd) {
 }
 
 TEST_F(Sound, Seek_GivesThePieceAtThatTime) {
-    const auto reader = SoundReader::open(written(tones(5), QStringLiteral("dprv.WAV")), options());
+    const auto reader = SoundReader::open(written(tones(5), QStringLiteral("dprv.WAV")), movieOptions());
     ASSERT_TRUE(reader);
     for (const int time : {4300, 1200, 2500}) {
         const auto piece = reader->seek(time);
@@ -112,7 +67,7 @@ TEST_F(Sound, RealMovies_SoundAsLongAsTheyAre) {
           "videos/mpg/digicam_corpus__Sony__DSC-P5__MOMLV100__DSC00010.MPG",
           "videos/mts/file-type__fixture__fixture-raw.mts"}) {
         SCOPED_TRACE(name);
-        const auto reader = SoundReader::open(corpusFolder() + u'/' + QLatin1String(name), options());
+        const auto reader = SoundReader::open(corpusFolder() + u'/' + QLatin1String(name), movieOptions());
         ASSERT_TRUE(reader);
         std::int64_t frames = 0;
         std::int64_t loudest = 0;
@@ -140,8 +95,8 @@ TEST_F(Sound, SeekInRealMovies_LandsThere) {
           "media__libraries__test_data__src__test__assets__media__avi__sample-unflagged-audio-keyframes.avi",
           "mpg/digicam_corpus__Sony__DSC-P5__MOMLV100__DSC00010.MPG", "synth/vp9_opus.webm"}) {
         SCOPED_TRACE(name);
-        const auto reader =
-            SoundReader::open(corpusFolder() + QStringLiteral("/videos/") + QLatin1String(name), options());
+        const auto reader = SoundReader::open(
+            corpusFolder() + QStringLiteral("/videos/") + QLatin1String(name), movieOptions());
         ASSERT_TRUE(reader);
         const std::int64_t middle = reader->durationMs() / 2;
         const auto piece = reader->seek(middle);
@@ -154,16 +109,16 @@ TEST_F(Sound, SeekInRealMovies_LandsThere) {
 
 TEST_F(Sound, WithoutSound_IsNone) {
     EXPECT_FALSE(
-        SoundReader::open(written(QByteArray(1 << 20, '\0'), QStringLiteral("zeros.mp3")), options()));
-    EXPECT_FALSE(SoundReader::open(written({}, QStringLiteral("empty.wav")), options()));
-    EXPECT_FALSE(SoundReader::open(m_folder.filePath(QStringLiteral("missing.wav")), options()));
+        SoundReader::open(written(QByteArray(1 << 20, '\0'), QStringLiteral("zeros.mp3")), movieOptions()));
+    EXPECT_FALSE(SoundReader::open(written({}, QStringLiteral("empty.wav")), movieOptions()));
+    EXPECT_FALSE(SoundReader::open(m_folder.filePath(QStringLiteral("missing.wav")), movieOptions()));
     MovieReaderOptions none;
     none.helper = QStringLiteral("/nonexistent/vantor-decode-movie");
     EXPECT_FALSE(SoundReader::open(written(tones(1), QStringLiteral("dprv.WAV")), none));
 }
 
 TEST_F(Sound, HelperKilled_EndsTheSoundOnly) {
-    const auto reader = SoundReader::open(written(tones(3), QStringLiteral("dprv.WAV")), options());
+    const auto reader = SoundReader::open(written(tones(3), QStringLiteral("dprv.WAV")), movieOptions());
     ASSERT_TRUE(reader && reader->next());
     kill(reader->helperPid(), SIGABRT);
     EXPECT_FALSE(reader->next());
@@ -173,7 +128,7 @@ TEST_F(Sound, HelperKilled_EndsTheSoundOnly) {
 
 TEST_F(Sound, Cancel_FreesAReaderThatWaits) {
     CancelSignal cancel;
-    MovieReaderOptions patient = options();
+    MovieReaderOptions patient = movieOptions();
     patient.cancel = &cancel;
     patient.frameDeadline = std::chrono::minutes(10);
     const auto reader = SoundReader::open(written(tones(3), QStringLiteral("dprv.WAV")), patient);
@@ -188,38 +143,22 @@ TEST_F(Sound, Cancel_FreesAReaderThatWaits) {
     canceller.join();
 }
 
-// Cut off, zeroed in parts, bytes changed: whatever it does to the decoders, the program goes on.
 TEST_F(Sound, MutatedFiles_SoundOrNot) {
     if (corpusFolder().isEmpty()) {
         GTEST_SKIP() << "no corpus";
     }
-    constexpr qint64 kLargestSeed = 300 * 1024;
     constexpr int kMutations = 100;
-    std::vector<QString> seeds;
-    for (const char* kind : {"videos", "files/mp3", "files/m4a", "files/flac", "files/ogg", "files/wma",
-                             "files/aac", "files/amr", "files/ape"}) {
-        for (const QString& path : filesBelow(corpusFolder() + u'/' + QLatin1String(kind))) {
-            if (QFileInfo(path).size() <= kLargestSeed) {
-                seeds.push_back(path);
-            }
-        }
-    }
-    ASSERT_GT(seeds.size(), 15U);
-    std::mt19937 random(12);
-    int sounding = 0;
-    for (int i = 0; i < kMutations; ++i) {
-        const QString& seed = seeds[static_cast<std::size_t>(i) % seeds.size()];
-        const QString path =
-            written(mutated(bytesOfFile(seed), random), QStringLiteral("dprv.") + QFileInfo(seed).suffix());
-        MovieReaderOptions impatient = options();
-        impatient.openDeadline = impatient.frameDeadline = seconds(1);
-        if (const auto reader = SoundReader::open(path, impatient)) {
-            ++sounding;
+    const std::vector<const char*> folders{"videos",    "files/mp3", "files/m4a", "files/flac", "files/ogg",
+                                           "files/wma", "files/aac", "files/amr", "files/ape"};
+    const int sounding = useMutated(folders, kMutations, 12, [](const QString& path, const auto& impatient) {
+        const auto reader = SoundReader::open(path, impatient);
+        if (reader) {
             for (int piece = 0; piece < 20 && reader->next(); ++piece) {
             }
             reader->seek(reader->durationMs() / 2);
         }
-    }
+        return reader != nullptr;
+    });
     EXPECT_GT(sounding, kMutations / 10);
     EXPECT_LT(sounding, kMutations);
 }

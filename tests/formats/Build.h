@@ -1,6 +1,7 @@
 // Putting together small files of every format, field by field.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string_view>
 #include <vector>
@@ -12,11 +13,13 @@ using Bytes = std::vector<std::uint8_t>;
 class Build {
   public:
     Build& text(std::string_view value) {
-        m_bytes.insert(m_bytes.end(), value.begin(), value.end());
+        for (const char letter : value)
+            m_bytes.push_back(static_cast<std::uint8_t>(letter));
         return *this;
     }
     Build& add(const Bytes& value) {
-        m_bytes.insert(m_bytes.end(), value.begin(), value.end());
+        for (const std::uint8_t byte : value)
+            m_bytes.push_back(byte);
         return *this;
     }
     Build& fill(std::size_t count, std::uint8_t value = 0) {

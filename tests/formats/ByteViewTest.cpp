@@ -16,26 +16,6 @@ namespace {
 
 constexpr std::uint64_t kMost = std::numeric_limits<std::uint64_t>::max();
 
-// A source with one unreadable sector.
-class HoledSource final : public ByteSource {
-  public:
-    HoledSource(const Bytes& bytes, std::uint64_t hole) : m_bytes(bytes), m_hole(hole) {}
-
-    std::uint64_t size() const override { return m_bytes.size(); }
-    std::size_t read(std::uint64_t offset, std::span<std::uint8_t> into) override {
-        if (offset >= m_hole && offset < m_hole + 512)
-            return 0;
-        if (offset < m_hole)
-            into =
-                into.first(static_cast<std::size_t>(std::min<std::uint64_t>(into.size(), m_hole - offset)));
-        return SpanSource(m_bytes).read(offset, into);
-    }
-
-  private:
-    const Bytes& m_bytes;
-    std::uint64_t m_hole;
-};
-
 TEST(ByteView, NoBytes_MatchAnywhere) {
     const Bytes bytes = {1, 2};
     SpanSource source(bytes);
@@ -76,7 +56,9 @@ TEST(ByteView, ReadingOn_TakesFewReadsAndHoppingLittle) {
     const Bytes bytes(10'000'000, 7), nothing;
     JoinedSource stream(bytes, nothing), hops(bytes, nothing);
     ByteView streaming(stream);
-    EXPECT_EQ(streaming.find(8, 0, bytes.size()), bytes.size());
+    const Finding none = streaming.find(8, 0, bytes.size());
+    EXPECT_EQ(none.outcome, Finding::Outcome::Absent);
+    EXPECT_EQ(none.at, bytes.size());
     EXPECT_LE(stream.reads(), 10'000'000 / ByteView::kWindowBytes + 16);
     ByteView hopping(hops);
     for (std::uint64_t at = 0; at < bytes.size(); at += 1'000'000)
@@ -94,6 +76,24 @@ TEST(ByteView, UnreadablePlace_ReadsAsTheEndAndBehindItGoesOn) {
     EXPECT_EQ(view.u8(9000), bytes[9000]);
     Bytes copy(20'000);
     EXPECT_FALSE(view.copy(0, copy));
+}
+
+TEST(ByteView, Search_TellsWhatItCameUpon) {
+    Bytes bytes(20'000, 1);
+    bytes[100] = 7;
+    bytes[15'000] = 7;
+    HoledSource source(bytes, 8192);
+    ByteView view(source);
+    const Finding hit = view.find(7, 0, bytes.size()), hole = view.find(7, 101, bytes.size()),
+                  none = view.find(7, 9000, 14'000), end = view.find(7, 15'001, 30'000);
+    EXPECT_TRUE(hit.found());
+    EXPECT_EQ(hit.at, 100U);
+    EXPECT_TRUE(hole.stopped());
+    EXPECT_EQ(hole.at, 8192U);
+    EXPECT_TRUE(!none.found() && !none.stopped());
+    EXPECT_EQ(none.at, 14'000U);
+    EXPECT_TRUE(end.stopped());
+    EXPECT_EQ(end.at, bytes.size());
 }
 
 TEST(ByteView, ReadingWithoutEnd_IsCutOff) {

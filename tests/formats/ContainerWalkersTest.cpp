@@ -3,15 +3,11 @@
 
 #include "Corpus.h"
 #include "Samples.h"
+#include "WalkBytes.h"
 #include "formats/Registry.h"
 
 namespace vantor::test {
 namespace {
-
-Extent walkBytes(std::string_view extension, const Bytes& bytes) {
-    SpanSource source(bytes);
-    return walk(extension, source);
-}
 
 const Bytes kType = isoBox("ftyp", Build().text("isom").be32(0).text("isom"));
 const Bytes kIndex = isoBox("moov", isoBox("mvhd", Build().be32(0).be32(3'708'700'205).fill(92)));

@@ -70,4 +70,14 @@ std::size_t JoinedSource::read(std::uint64_t offset, std::span<std::uint8_t> int
     return done;
 }
 
+std::size_t HoledSource::read(std::uint64_t offset, std::span<std::uint8_t> into) {
+    constexpr std::uint64_t kSector = 512;
+    ++m_reads;
+    if (offset >= m_hole && offset < m_hole + kSector)
+        return 0;
+    if (offset < m_hole)
+        into = into.first(static_cast<std::size_t>(std::min<std::uint64_t>(into.size(), m_hole - offset)));
+    return SpanSource(m_bytes).read(offset, into);
+}
+
 }  // namespace vantor::test

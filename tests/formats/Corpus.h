@@ -47,4 +47,20 @@ class JoinedSource final : public ByteSource {
     std::uint64_t m_bytesRead = 0;
 };
 
+// Borrowed bytes with one unreadable sector, counting the reading.
+class HoledSource final : public ByteSource {
+  public:
+    HoledSource(const Bytes& bytes, std::uint64_t hole) : m_bytes(bytes), m_hole(hole) {}
+
+    std::uint64_t size() const override { return m_bytes.size(); }
+    std::size_t read(std::uint64_t offset, std::span<std::uint8_t> into) override;
+
+    std::uint64_t reads() const { return m_reads; }
+
+  private:
+    const Bytes& m_bytes;
+    const std::uint64_t m_hole;
+    std::uint64_t m_reads = 0;
+};
+
 }  // namespace vantor::test

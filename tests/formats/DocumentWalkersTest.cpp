@@ -3,16 +3,12 @@
 
 #include "Corpus.h"
 #include "Samples.h"
+#include "WalkBytes.h"
 #include "formats/Crc.h"
 #include "formats/Registry.h"
 
 namespace vantor::test {
 namespace {
-
-Extent walkBytes(std::string_view extension, const Bytes& bytes) {
-    SpanSource source(bytes);
-    return walk(extension, source);
-}
 
 const Bytes kContent = Build().text("hello hello hello hello");
 const Bytes kPacked = {0xCB, 0x48, 0xCD, 0xC9, 0xC9, 0x57, 0xC8, 0x40, 0x27, 0x01};

@@ -3,15 +3,11 @@
 
 #include "Corpus.h"
 #include "Samples.h"
+#include "WalkBytes.h"
 #include "formats/Registry.h"
 
 namespace vantor::test {
 namespace {
-
-Extent walkBytes(std::string_view extension, const Bytes& bytes) {
-    SpanSource source(bytes);
-    return walk(extension, source);
-}
 
 Bytes exifSegment() {
     const Bytes block = Build().text(std::string_view("Exif\0\0", 6)).add(tiff());

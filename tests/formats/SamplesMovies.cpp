@@ -184,11 +184,12 @@ Bytes amr() {
     return out;
 }
 
-// A mono stream of one frame with a constant subframe.
+// A mono stream with comments and one frame with a constant subframe.
 Bytes flac() {
     Build out;
-    out.text("fLaC").u8(0x80).be24(34).be16(192).be16(192).be24(0).be24(0);
+    out.text("fLaC").u8(0).be24(34).be16(192).be16(192).be24(0).be24(0);
     out.be64(std::uint64_t{44100} << 44 | std::uint64_t{15} << 36 | 192).fill(16);
+    out.u8(0x84).be24(200).fill(200, 'x');  // comments
     Build frame;
     frame.be16(0xFFF8).u8(0x19).u8(0x08).u8(0);  // 192 samples, 44.1 kHz, mono, 16 bits, frame 0
     std::uint8_t check8 = 0;

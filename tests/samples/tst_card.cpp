@@ -132,23 +132,23 @@ TEST(SampleCard, NoSectorInsideAFile_LooksLikeTheStartOfAnother) {
     EXPECT_GT(seen, 50);
 }
 
-TEST(SampleCardProgram, OutputThatCannotBeWritten_ExitsWith2AndLeavesNothing) {
+TEST(SampleCardProgram, OutputThatCannotBeWritten_ExitsWith1AndLeavesNothing) {
     QTemporaryDir folder;
     const QString image = folder.filePath(QStringLiteral("card.img"));
     QProcess program;
     program.start(QStringLiteral(SAMPLE_CARD_PROGRAM),
                   {image, QStringLiteral("--list"), folder.filePath(QStringLiteral("none/card.tsv"))});
     ASSERT_TRUE(program.waitForFinished(100000));
-    EXPECT_EQ(program.exitCode(), 2);
+    EXPECT_EQ(program.exitCode(), 1);
     EXPECT_TRUE(program.readAllStandardError().contains("card.tsv"));
     EXPECT_FALSE(QFile::exists(image));
 }
 
-TEST(SampleCardProgram, WrongUse_ExitsWith1) {
+TEST(SampleCardProgram, WrongUse_ExitsWith2) {
     QProcess program;
     program.start(QStringLiteral(SAMPLE_CARD_PROGRAM), {QStringLiteral("a"), QStringLiteral("b")});
     ASSERT_TRUE(program.waitForFinished(100000));
-    EXPECT_EQ(program.exitCode(), 1);
+    EXPECT_EQ(program.exitCode(), 2);
     EXPECT_TRUE(program.readAllStandardError().contains("usage"));
 }
 

@@ -297,5 +297,10 @@ TEST(CardArchives, TarHeaders_SumUp) {
     EXPECT_EQ(members, 3);
 }
 
+TEST(Scenes, NameOfNoMotif_EndsTheProgram) {
+    EXPECT_STREQ(sceneNamed("aurora").name, "aurora");
+    EXPECT_DEATH(sceneNamed("auroora"), "auroora");
+}
+
 }  // namespace
 }  // namespace vantor::samples

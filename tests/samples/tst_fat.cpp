@@ -153,6 +153,46 @@ TEST(FatCard, FileLargerThanTheCard_IsRefused) {
         card.addFile(QStringLiteral("A"), QStringLiteral("B.BIN"), QByteArray(kCardBytes, 'x')).has_value());
 }
 
+TEST(FatCard, FullFolder_TakesNoMore) {
+    FatCard card;
+    const QString folder = QStringLiteral("A");
+    const QByteArray bytes(1, 'x');
+    constexpr int kRoom = FatCard::kClusterBytes / 32 - 2;  // without its own entry and its parent's
+    for (int i = 0; i < kRoom; ++i)
+        ASSERT_TRUE(card.addFile(folder, QStringLiteral("%1.BIN").arg(i), bytes)) << i;
+    EXPECT_FALSE(card.addFile(folder, QStringLiteral("ONEMORE.BIN"), bytes));
+    EXPECT_FALSE(card.makeFolder(QStringLiteral("A/B")));
+    EXPECT_TRUE(card.addFile(QStringLiteral("B"), QStringLiteral("ONEMORE.BIN"), bytes));
+}
+
+TEST(FatCard, NameOfManyEntries_FitsWhollyOrNotAtAll) {
+    FatCard card;
+    const QString folder = QStringLiteral("A");
+    const QByteArray bytes(1, 'x');
+    for (int i = 0; i < FatCard::kClusterBytes / 32 - 4; ++i)
+        ASSERT_TRUE(card.addFile(folder, QStringLiteral("%1.BIN").arg(i), bytes)) << i;
+    EXPECT_FALSE(card.addFile(folder, QStringLiteral("A name of three entries"), bytes));
+    EXPECT_TRUE(card.addFile(folder, QStringLiteral("Of two"), bytes));
+}
+
+TEST(FatCard, FullRootFolder_TakesNoMoreAndSpoilsNothing) {
+    FatCard card;
+    for (int i = 0; i < FatCard::kRootEntries - 1; ++i)  // the label is the first entry
+        ASSERT_TRUE(card.makeFolder(QString::number(i))) << i;
+    const QByteArray before = card.image();
+    EXPECT_FALSE(card.makeFolder(QStringLiteral("X")));
+    EXPECT_FALSE(card.addFile(QString(), QStringLiteral("X.BIN"), "x"));
+    EXPECT_TRUE(card.image() == before);
+}
+
+TEST(FatCard, FullCard_MakesNoFolder) {
+    FatCard card;
+    ASSERT_TRUE(card.addFile(QStringLiteral("A"), QStringLiteral("B.BIN"),
+                             QByteArray((FatCard::kClusters - 1) * FatCard::kClusterBytes, 'x')));
+    EXPECT_FALSE(card.makeFolder(QStringLiteral("C")));
+    EXPECT_FALSE(card.addFile(QStringLiteral("C"), QStringLiteral("D.BIN"), "x"));
+}
+
 TEST(FatNames, NamesThatDoNotFit_GetAShortAndALongForm) {
     EXPECT_TRUE(isShortName(QStringLiteral("IMG_0001.JPG")));
     EXPECT_FALSE(isShortName(QStringLiteral("NOTES.DOCX")));

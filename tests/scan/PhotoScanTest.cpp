@@ -331,7 +331,8 @@ TEST(PhotoScan, StopHandsTheOpenItemOverAndShowsTheEndOnce) {
 }
 
 TEST(PhotoScan, ItemBeyondTheMemoryBoundKeepsItsLengthAndChecksum) {
-    PhotoItemBuffer small;
+    PhotoMemory memory;
+    PhotoItemBuffer small(memory);
     std::array<std::uint8_t, kSectorBytes> sector{};
     QCryptographicHash all(QCryptographicHash::Sha256);
     const std::uint64_t sectors = PhotoItemBuffer::kMaxBytesInMemory / kSectorBytes + 3;
