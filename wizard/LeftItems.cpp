@@ -3,6 +3,7 @@
 #include <QLocale>
 
 #include "app/MyTableController.h"
+#include "wizard/Alerts.h"
 
 namespace vantor {
 
