@@ -338,6 +338,7 @@ class MyTableController : public QObject,
     void pump();
     void drainQueue();
     bool waitForThreads(std::chrono::milliseconds patience);
+    static constexpr std::chrono::milliseconds kLastScanPatience{5000};
     void scanThreadsEnded();
     void flushViews();
     void showScanFacts();

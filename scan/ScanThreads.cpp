@@ -6,14 +6,7 @@
 
 namespace vantor {
 
-namespace {
-
-constexpr std::chrono::milliseconds kLastScanPatience{5000};
-
-}  // namespace
-
 void MyTableController::startScan(void (ScanSession::*driver)()) {
-    waitForThreads(kLastScanPatience);
     prepareIcons();
     setEmptyStates();
     m_inputs = readInputs();
