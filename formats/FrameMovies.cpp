@@ -54,8 +54,7 @@ std::optional<Yuv> readYuvHead(ByteView& view) {
     const auto end = line.at;
     std::uint64_t width = 0, height = 0, sample = 1, numerator = 3;
     bool alpha = false;
-    for (auto blank = view.find(' ', 0, end); blank.found(); blank = view.find(' ', blank.at + 1, end)) {
-        const auto at = blank.at;
+    for (auto at = view.find(' ', 0, end); at < end; at = view.find(' ', at + 1, end)) {
         const auto name = view.u8(at + 1).value_or(0);
         std::uint64_t value = 0;
         for (auto digit = at + 2; digit < end && view.u8(digit).value_or(0) >= '0' &&
@@ -107,12 +106,11 @@ Extent walkYuv4Mpeg(ByteView& view) {
         return view.holds(0, kLongestFrameHead) ? unknownExtent() : cutOffAt(view, view.size());
     std::uint64_t at = head->frames;
     while (view.matches(at, "FRAME")) {
-        const auto limit = at + kLongestFrameHead;
-        const auto line = view.find('\n', at, limit);
-        if (!line.found() && !line.stopped())
-            return damagedAt(view, at, head->facts);
-        if (line.stopped() || line.at + 1 + head->bytes > view.size())
+        const auto line = view.find('\n', at, at + kLongestFrameHead);
+        if (line.stopped() || (line.found() && line.at + 1 + head->bytes > view.size()))
             return cutOffAt(view, view.size(), head->facts);
+        if (!line.found())
+            return damagedAt(view, at, head->facts);
         at = line.at + 1 + head->bytes;
     }
     return at > head->frames ? inexact(completeAt(view, at, head->facts))
@@ -150,12 +148,13 @@ Extent walkAmv(ByteView& view) {
     constexpr std::uint64_t kMostHead = 4096, kHead = 8;
     if (!view.matches(0, "RIFF") || !view.matches(8, "AMV LIST"))
         return unknownExtent();
-    auto list = view.find('m', 12, kMostHead);
-    while (list.found() && !view.matches(list.at, "movi"))
-        list = view.find('m', list.at + 1, kMostHead);
-    if (!list.found())
-        return list.stopped() ? cutOffAt(view, view.size()) : unknownExtent();
-    std::uint64_t at = list.at + 4;
+    auto frames = view.find('m', 12, kMostHead);
+    while (frames.found() && !view.matches(frames.at, "movi"))
+        frames = view.find('m', frames.at + 1, kMostHead);
+    if (!frames.found())
+        return frames.stopped() ? cutOffAt(view, view.size()) : unknownExtent();
+    auto at = frames.at;
+    at += 4;
     for (;;) {
         if (view.matches(at, "AMV_END_"))
             return completeAt(view, at + kHead);

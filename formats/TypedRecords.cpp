@@ -118,19 +118,20 @@ Extent walkTorrent(ByteView& view) {
             if (!text && *byte != 'i')
                 return at < 16 ? unknownExtent() : damagedAt(view, at);
             const std::uint8_t closing = text ? ':' : 'e';
-            const auto close = view.find(closing, at, at + kMostDigits);
-            if (close.stopped())
+            const auto search = view.find(closing, at, at + kMostDigits);
+            if (search.stopped())
                 return cutOffAt(view, view.size());
-            if (!close.found())
-                return damagedAt(view, at);
+            const auto close = search.at;
             std::uint64_t number = 0;
-            for (auto digit = at; text && digit < close.at; ++digit) {
+            for (auto digit = at; text && digit < close; ++digit) {
                 const auto value = view.u8(digit).value_or(0);
                 if (value < '0' || value > '9')
                     return at < 16 ? unknownExtent() : damagedAt(view, at);
                 number = addClamped(mulClamped(number, 10), value - '0');
             }
-            at = addClamped(close.at + 1, number);
+            if (!search.found())
+                return damagedAt(view, at);
+            at = addClamped(close + 1, number);
         }
     }
 }
@@ -172,10 +173,8 @@ Extent walkUnityData(ByteView& view) {
     std::uint64_t at = 12;
     for (int version = 0; version < 2; ++version) {
         const auto nul = view.find(0, at, at + kLongestVersion);
-        if (nul.stopped())
-            return cutOffAt(view, view.size());
         if (!nul.found())
-            return unknownExtent();
+            return nul.stopped() ? cutOffAt(view, view.size()) : unknownExtent();
         at = nul.at + 1;
     }
     const auto bytes = view.be64(at);
