@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QString>
+#include <algorithm>
+#include <iterator>
 
 namespace vantor {
 
@@ -35,5 +37,14 @@ inline constexpr KnownConfusion kKnownConfusions[] = {
     {"VSD", "DOC", "a compound document: its first sector says nothing of the program that wrote it"},
     {"WMA", "WMV", "one container, and the list of videos has no sound"},
 };
+
+// The confusion of files of `type` that are found as `foundAs`; null when none is known.
+inline const KnownConfusion* confusionOf(const QString& type, const QString& foundAs) {
+    const auto* known =
+        std::find_if(std::begin(kKnownConfusions), std::end(kKnownConfusions), [&](const KnownConfusion& c) {
+            return type == QLatin1String(c.type) && foundAs == QLatin1String(c.foundAs);
+        });
+    return known == std::end(kKnownConfusions) ? nullptr : known;
+}
 
 }  // namespace vantor

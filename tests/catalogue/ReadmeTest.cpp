@@ -3,13 +3,12 @@
 
 #include <QFile>
 #include <QRegularExpression>
-#include <cmath>
 #include <map>
 #include <set>
 
-#include "catalogue/SignatureRecord.h"
 #include "formats/Registry.h"
 #include "tests/catalogue/CorpusScan.h"
+#include "tests/catalogue/Figures.h"
 
 namespace vantor {
 namespace {
@@ -32,27 +31,11 @@ QStringList tableRows(const QString& part) {
     return rows;
 }
 
-std::set<QString> typesIn(const QStringList& records) {
-    std::set<QString> types;
-    for (qsizetype n = 0; n < recordCount(records); ++n) {
-        types.insert(recordField(records, n, Ext_Name));
-    }
-    return types;
-}
-
-double falseItemsIn64GiB(const QStringList& records) {
-    double sum = 0;
-    for (qsizetype n = 0; n < recordCount(records); ++n) {
-        sum += std::pow(2.0, 27 - 4 * static_cast<double>(recordField(records, n, Header_Hex).size()));
-    }
-    return sum;
-}
-
 QString figuresOf(const QStringList& records) {
     const double expected = falseItemsIn64GiB(records);
     return QStringLiteral("%1 | %2 | %3")
         .arg(recordCount(records))
-        .arg(typesIn(records).size())
+        .arg(valuesIn(records, Ext_Name).size())
         .arg(expected, 0, 'f', expected < 10 ? 2 : 0);
 }
 
@@ -76,8 +59,8 @@ TEST(Readme, ListsEveryTypeAndWhetherItIsSavedAtItsTrueLength) {
     const ShippedRecords records;
     std::set<QString> shipped;
     for (const RecoveryMode mode : kModes) {
-        shipped.merge(typesIn(records.general(mode)));
-        shipped.merge(typesIn(records.thorough(mode)));
+        shipped.merge(valuesIn(records.general(mode), Ext_Name));
+        shipped.merge(valuesIn(records.thorough(mode), Ext_Name));
     }
     std::set<QString> listed;
     int trueLength = 0;

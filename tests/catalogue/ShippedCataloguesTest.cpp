@@ -2,13 +2,12 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
-#include <QSet>
-#include <cmath>
 #include <cstring>
 
 #include "catalogue/CatalogueFile.h"
 #include "catalogue/CatalogueLint.h"
 #include "catalogue/SignatureRecord.h"
+#include "tests/catalogue/Figures.h"
 
 namespace vantor {
 namespace {
@@ -17,7 +16,7 @@ struct Shipped {
     const char* file;
     CatalogueUse use;
     bool general;
-    int leastTypes;
+    std::size_t leastTypes;
 };
 
 QByteArray bytesOf(const Shipped& shipped) {
@@ -30,17 +29,6 @@ QStringList recordsOf(const Shipped& shipped) {
     QStringList array;
     EXPECT_TRUE(appendCatalogueText(bytesOf(shipped), array)) << shipped.file;
     return array;
-}
-
-// Items expected in 64 GiB of random bytes: each sector matches a header of n bytes with probability 256^-n.
-double falseItems(const QStringList& records) {
-    constexpr double kSectors = 64.0 * 1024 * 1024 * 1024 / 512;
-    double sum = 0;
-    for (qsizetype n = 0; n < recordCount(records); ++n) {
-        sum +=
-            kSectors * std::pow(256.0, -static_cast<double>(recordField(records, n, Header_Hex).size() / 2));
-    }
-    return sum;
 }
 
 class ShippedCatalogues : public testing::TestWithParam<Shipped> {};
@@ -66,22 +54,19 @@ TEST_P(ShippedCatalogues, EveryRecordIsWholeAndReadable) {
 
 TEST_P(ShippedCatalogues, ListsEnoughTypes) {
     const QStringList records = recordsOf(GetParam());
-    QSet<QString> types;
-    for (qsizetype n = 0; n < recordCount(records); ++n) {
-        types.insert(recordField(records, n, Ext_Name));
-    }
+    const std::set<QString> types = valuesIn(records, Ext_Name);
     RecordProperty("types", static_cast<int>(types.size()));
     std::printf("%s: %d types in %d records, %.2f false items expected in 64 GiB of random bytes\n",
                 GetParam().file, static_cast<int>(types.size()), static_cast<int>(recordCount(records)),
-                falseItems(records));
+                falseItemsIn64GiB(records));
     EXPECT_GE(types.size(), GetParam().leastTypes);
 }
 
 TEST_P(ShippedCatalogues, GeneralFilesExpectLessThanOneFalseItem) {
     if (GetParam().general) {
-        EXPECT_LT(falseItems(recordsOf(GetParam())), 1.0);
+        EXPECT_LT(falseItemsIn64GiB(recordsOf(GetParam())), 1.0);
     } else {
-        EXPECT_LT(falseItems(recordsOf(GetParam())), 1000.0);
+        EXPECT_LT(falseItemsIn64GiB(recordsOf(GetParam())), 1000.0);
     }
 }
 
@@ -89,11 +74,7 @@ TEST_P(ShippedCatalogues, GeneralFilesExpectLessThanOneFalseItem) {
 TEST(ShippedPhotoCatalogues, RecordsShareOneLimit) {
     for (const char* file : {kPhotoCatalogue, kPhotoThoroughCatalogue}) {
         const QStringList records = recordsOf({file, CatalogueUse::Photo, true, 0});
-        QSet<QString> limits;
-        for (qsizetype n = 0; n < recordCount(records); ++n) {
-            limits.insert(recordField(records, n, Max_File_Size));
-        }
-        EXPECT_EQ(limits, QSet<QString>{QStringLiteral("134217728")}) << file;
+        EXPECT_EQ(valuesIn(records, Max_File_Size), std::set<QString>{QStringLiteral("134217728")}) << file;
     }
 }
 

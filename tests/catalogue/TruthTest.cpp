@@ -19,14 +19,6 @@ constexpr std::uint64_t kSectorsBehind = 3;
 const QSet<QString> kHoldOtherFiles = {"MSG", "TAR"};
 constexpr RecoveryMode kModes[] = {kPhotoMode, kVideoMode, kRawFileMode};
 
-const KnownConfusion* confusionOf(const QString& type, const QString& foundAs) {
-    const auto* known =
-        std::find_if(std::begin(kKnownConfusions), std::end(kKnownConfusions), [&](const KnownConfusion& c) {
-            return type == QLatin1String(c.type) && foundAs == QLatin1String(c.foundAs);
-        });
-    return known == std::end(kKnownConfusions) ? nullptr : known;
-}
-
 class Truth : public testing::Test {
   protected:
     void SetUp() override {

@@ -156,22 +156,14 @@ TEST(Pdf, NextDocumentAtASector_IsNotSwallowedByACutOne) {
 }
 
 TEST(Tar, PaddingToTheRecord_BelongsToTheFileWhileItIsZero) {
-    Bytes whole;
-    for (const auto& sample : archiveSamples()) {
-        if (sample.extension == "TAR")
-            whole = sample.bytes;
-    }
+    Bytes whole = tar();
     ASSERT_EQ(whole.size(), 10240U);
     whole[3000] = 1;  // foreign already behind the two closing blocks
     EXPECT_EQ(walkBytes("TAR", whole).end, 2048U);
 }
 
 TEST(Tar, SpoiltHeader_IsTheBreak) {
-    Bytes whole;
-    for (const auto& sample : archiveSamples()) {
-        if (sample.extension == "TAR")
-            whole = sample.bytes;
-    }
+    Bytes whole = tar();
     whole[1024] = 'x';
     EXPECT_EQ(walkBytes("TAR", whole).verdict, Verdict::Damaged);
     EXPECT_EQ(walkBytes("TAR", whole).end, 1024U);

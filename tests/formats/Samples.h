@@ -44,6 +44,8 @@ Bytes fitsCards(std::initializer_list<std::string_view> cards);
 Bytes exrAttribute(std::string_view name, std::string_view type, const Bytes& value);
 // The head of a compound file of 512-byte sectors, up to the count of its tables.
 Bytes compoundHead();
+// One small file, closed and padded to a record of 10,240 bytes.
+Bytes tar();
 Bytes zipEntry(std::string_view name, const Bytes& content);
 Bytes zip(std::string_view name, const Bytes& content, std::string_view comment = {});
 

@@ -127,6 +127,8 @@ Bytes sevenZip() {
         .add(tail);
 }
 
+}  // namespace
+
 Bytes tar() {
     Build head;
     head.text("a.txt").to(124).text("00000000071").to(148).text("        0").to(257).text("ustar").to(512);
@@ -139,6 +141,8 @@ Bytes tar() {
     head.put(148, Build().text(digits).u8(0).u8(' '));
     return head.add(kContent).to(10240);
 }
+
+namespace {
 
 Bytes arj() {
     const auto head = [](const Bytes& body) {
