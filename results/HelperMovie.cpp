@@ -24,56 +24,50 @@ constexpr std::int64_t kMostLateMs = 1500;
 
 std::unique_ptr<Movie> HelperMovie::open(const QString& file, QSize largest, HelperMovieOptions options) {
     std::unique_ptr<HelperMovie> movie(new HelperMovie);
-    movie->m_thread = std::thread([made = movie.get(), file, largest, options = std::move(options)] {
+    movie->m_worker.thread = std::thread([made = movie.get(), file, largest, options = std::move(options)] {
         made->run(file, largest, options);
     });
     {
-        std::unique_lock lock(movie->m_lock);
-        movie->m_changed.wait(lock, [&] { return movie->m_opened; });
+        std::unique_lock lock(movie->m_worker.lock);
+        movie->m_worker.changed.wait(lock, [&] { return movie->m_opened; });
     }
     return movie->m_poster.isNull() ? nullptr : std::move(movie);
 }
 
 HelperMovie::~HelperMovie() {
     stop();
-    {
-        const std::lock_guard lock(m_lock);
-        m_closing = true;
-    }
-    m_cancel.raise();
-    m_changed.notify_all();
-    m_thread.join();
+    m_worker.end();
 }
 
 void HelperMovie::play() {
     {
-        const std::lock_guard lock(m_lock);
+        const std::lock_guard lock(m_worker.lock);
         m_playing = true;
     }
-    m_changed.notify_all();
+    m_worker.changed.notify_all();
     poll();
 }
 
 // The reader's thread starts no sound once m_playing is false, so what is silent here stays so.
 void HelperMovie::stop() {
-    const std::lock_guard lock(m_lock);
+    const std::lock_guard lock(m_worker.lock);
     m_playing = false;
     if (m_sound) {
         m_sound->stop();
     }
-    m_changed.notify_all();
+    m_worker.changed.notify_all();
 }
 
 void HelperMovie::seek(std::int64_t timeMs) {
     {
-        const std::lock_guard lock(m_lock);
+        const std::lock_guard lock(m_worker.lock);
         m_seekTo = std::clamp<std::int64_t>(timeMs, 0, m_durationMs);
         m_positionMs = *m_seekTo;
         if (m_sound) {
             m_sound->stop();
         }
     }
-    m_changed.notify_all();
+    m_worker.changed.notify_all();
     poll();
 }
 
@@ -97,7 +91,7 @@ void HelperMovie::report() {
     QImage frame;
     bool busy = false;
     {
-        const std::lock_guard lock(m_lock);
+        const std::lock_guard lock(m_worker.lock);
         frame = std::exchange(m_latest, {});
         busy = m_playing || m_seekTo;
     }
@@ -117,9 +111,9 @@ void HelperMovie::report() {
 std::unique_ptr<MovieReader> HelperMovie::openReader(const QString& file, QSize largest,
                                                      const HelperMovieOptions& options) {
     MovieReaderOptions own = options.reader;
-    own.cancel = &m_cancel;
+    own.cancel = &m_worker.cancel;
     std::unique_ptr<MovieReader> reader = MovieReader::open(file, largest, own);
-    const std::lock_guard lock(m_lock);
+    const std::lock_guard lock(m_worker.lock);
     if (reader) {
         m_poster = reader->poster().image;
         m_durationMs = reader->durationMs();
@@ -128,7 +122,7 @@ std::unique_ptr<MovieReader> HelperMovie::openReader(const QString& file, QSize 
         }
     }
     m_opened = true;
-    m_changed.notify_all();
+    m_worker.changed.notify_all();
     return reader;
 }
 
@@ -137,9 +131,9 @@ void HelperMovie::run(const QString& file, QSize largest, const HelperMovieOptio
     while (reader) {
         std::optional<std::int64_t> target;
         {
-            std::unique_lock lock(m_lock);
-            m_changed.wait(lock, [this] { return m_closing || m_playing || m_seekTo; });
-            if (m_closing) {
+            std::unique_lock lock(m_worker.lock);
+            m_worker.changed.wait(lock, [this] { return m_worker.closing || m_playing || m_seekTo; });
+            if (m_worker.closing) {
                 return;
             }
             target = m_seekTo;
@@ -156,7 +150,7 @@ void HelperMovie::run(const QString& file, QSize largest, const HelperMovieOptio
 }
 
 void HelperMovie::show(const MovieFrame& frame) {
-    const std::lock_guard lock(m_lock);
+    const std::lock_guard lock(m_worker.lock);
     m_latest = frame.image;
     if (!m_seekTo) {
         m_positionMs = frame.timeMs;
@@ -167,7 +161,7 @@ void HelperMovie::show(const MovieFrame& frame) {
 void HelperMovie::goTo(MovieReader& reader, std::int64_t timeMs) {
     const std::optional<MovieFrame> frame = reader.seek(timeMs);
     {
-        const std::lock_guard lock(m_lock);
+        const std::lock_guard lock(m_worker.lock);
         m_atEnd = !frame;
         if (m_seekTo == timeMs) {
             m_seekTo.reset();
@@ -183,7 +177,7 @@ void HelperMovie::goTo(MovieReader& reader, std::int64_t timeMs) {
 
 // Where the movie goes on from; what is heard begins there as well.
 std::int64_t HelperMovie::startSound() {
-    const std::lock_guard lock(m_lock);
+    const std::lock_guard lock(m_worker.lock);
     if (m_sound && goesOn()) {
         m_sound->start(m_positionMs);
     }
@@ -195,9 +189,9 @@ void HelperMovie::playFrames(MovieReader& reader) {
     const std::int64_t begun = startSound();
     PlaybackClock<SoundPlayer> clock(begun, m_sound.get(), Clock::now());
     const auto waitUntil = [&](const auto& reached) {
-        std::unique_lock lock(m_lock);
+        std::unique_lock lock(m_worker.lock);
         while (goesOn() && !reached()) {
-            m_changed.wait_for(lock, kLongestWait, [this] { return !goesOn(); });
+            m_worker.changed.wait_for(lock, kLongestWait, [this] { return !goesOn(); });
         }
         return goesOn();
     };
@@ -220,7 +214,7 @@ void HelperMovie::playFrames(MovieReader& reader) {
             return;
         }
     }
-    const std::lock_guard lock(m_lock);
+    const std::lock_guard lock(m_worker.lock);
     if (!goesOn()) {
         return;
     }

@@ -4,13 +4,11 @@
 #include <QString>
 #include <QTimer>
 #include <atomic>
-#include <condition_variable>
 #include <memory>
-#include <mutex>
 #include <optional>
-#include <thread>
 
 #include "decode/MovieReader.h"
+#include "results/HelperThread.h"
 #include "results/Movie.h"
 #include "results/SoundDevice.h"
 #include "results/SoundPlayer.h"
@@ -49,13 +47,11 @@ class HelperMovie : public Movie {
     void goTo(MovieReader& reader, std::int64_t timeMs);
     void playFrames(MovieReader& reader);
     std::int64_t startSound();
-    bool goesOn() const { return m_playing && !m_closing && !m_seekTo; }
+    bool goesOn() const { return m_playing && !m_worker.closing && !m_seekTo; }
     void show(const MovieFrame& frame);
     void poll();
     void report();
 
-    std::thread m_thread;  // the reader's
-    CancelSignal m_cancel;
     std::unique_ptr<SoundPlayer> m_sound;  // null without sound or device; never changes once opened
     std::unique_ptr<QTimer> m_poll;
     QImage m_poster;
@@ -66,11 +62,9 @@ class HelperMovie : public Movie {
     std::int64_t m_reportedMs = 0;
     bool m_reportedPlaying = false;
 
-    mutable std::mutex m_lock;
-    std::condition_variable m_changed;
+    HelperThread m_worker;  // the reader's; its lock is for what follows
     QImage m_latest;        // not yet given to onFrame
     bool m_opened = false;  // or failed
-    bool m_closing = false;
     bool m_atEnd = false;
     std::optional<std::int64_t> m_seekTo;
     std::atomic<bool> m_playing{false};

@@ -28,35 +28,29 @@ std::int64_t framesIn(std::int64_t ms) {
 
 SoundPlayer::SoundPlayer(QString file, std::unique_ptr<SoundDevice> device, MovieReaderOptions options)
     : m_file(std::move(file)), m_options(std::move(options)), m_device(std::move(device)) {
-    m_options.cancel = &m_cancel;
-    m_thread = std::thread([this] { decode(); });
+    m_options.cancel = &m_worker.cancel;
+    m_worker.thread = std::thread([this] { decode(); });
 }
 
 SoundPlayer::~SoundPlayer() {
     stop();
-    {
-        const std::lock_guard lock(m_lock);
-        m_closing = true;
-    }
-    m_cancel.raise();
-    m_changed.notify_all();
-    m_thread.join();
+    m_worker.end();
 }
 
 void SoundPlayer::start(std::int64_t timeMs) {
     stop();
     {
-        const std::lock_guard lock(m_lock);
+        const std::lock_guard lock(m_worker.lock);
         ++m_turn;
         m_playing = true;
         m_startMs = m_nextMs = m_lastPositionMs = timeMs;
     }
-    m_changed.notify_all();
+    m_worker.changed.notify_all();
 }
 
 void SoundPlayer::stop() {
     {
-        const std::lock_guard lock(m_lock);
+        const std::lock_guard lock(m_worker.lock);
         ++m_turn;
         m_playing = false;
         m_outputBegun = false;
@@ -70,7 +64,7 @@ void SoundPlayer::stop() {
 
 std::int64_t SoundPlayer::positionMs() {
     const std::int64_t played = m_device->playedFrames();
-    const std::lock_guard lock(m_lock);
+    const std::lock_guard lock(m_worker.lock);
     if (m_outputBegun) {
         // The silence of a late piece counts when it is handed over, a little before it is heard.
         m_lastPositionMs = std::max(m_lastPositionMs, m_startMs + msOf(played - m_starved));
@@ -80,7 +74,7 @@ std::int64_t SoundPlayer::positionMs() {
 
 bool SoundPlayer::isFinished() {
     const std::int64_t played = m_device->playedFrames();
-    const std::lock_guard lock(m_lock);
+    const std::lock_guard lock(m_worker.lock);
     return m_ended && m_samples.empty() && played >= m_given + m_starved;
 }
 
@@ -92,10 +86,10 @@ bool SoundPlayer::wantsPiece() const {
 void SoundPlayer::decode() {
     std::unique_ptr<SoundReader> reader;
     std::uint64_t turn = 0;
-    std::unique_lock lock(m_lock);
+    std::unique_lock lock(m_worker.lock);
     for (;;) {
-        m_changed.wait(lock, [this] { return m_closing || wantsPiece(); });
-        if (m_closing) {
+        m_worker.changed.wait(lock, [this] { return m_worker.closing || wantsPiece(); });
+        if (m_worker.closing) {
             return;
         }
         const bool anew = turn != m_turn;
@@ -148,7 +142,7 @@ void SoundPlayer::appendSilence(std::int64_t frames) {
 void SoundPlayer::beginOutput(std::uint64_t turn) {
     const std::lock_guard deviceLock(m_deviceLock);
     {
-        const std::lock_guard lock(m_lock);
+        const std::lock_guard lock(m_worker.lock);
         if (turn != m_turn) {
             return;
         }
@@ -159,7 +153,7 @@ void SoundPlayer::beginOutput(std::uint64_t turn) {
 
 void SoundPlayer::fill(std::span<std::int16_t> samples) {
     {
-        const std::lock_guard lock(m_lock);
+        const std::lock_guard lock(m_worker.lock);
         const std::size_t count = std::min(samples.size(), m_samples.size());
         const auto end = m_samples.begin() + static_cast<std::ptrdiff_t>(count);
         std::copy(m_samples.begin(), end, samples.begin());
@@ -174,7 +168,7 @@ void SoundPlayer::fill(std::span<std::int16_t> samples) {
     if (m_muted) {
         std::fill(samples.begin(), samples.end(), std::int16_t{0});
     }
-    m_changed.notify_all();
+    m_worker.changed.notify_all();
 }
 
 }  // namespace vantor

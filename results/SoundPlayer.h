@@ -3,16 +3,15 @@
 
 #include <QString>
 #include <atomic>
-#include <condition_variable>
 #include <cstdint>
 #include <deque>
 #include <memory>
 #include <mutex>
 #include <span>
-#include <thread>
 #include <vector>
 
 #include "decode/SoundReader.h"
+#include "results/HelperThread.h"
 #include "results/SoundDevice.h"
 
 namespace vantor {
@@ -48,17 +47,14 @@ class SoundPlayer {
     void fill(std::span<std::int16_t> samples);
 
     const QString m_file;
-    CancelSignal m_cancel;
     MovieReaderOptions m_options;
     std::atomic<bool> m_muted{false};
     std::atomic<bool> m_failed{false};
 
-    std::mutex m_deviceLock;  // taken before m_lock, never while it is held
+    std::mutex m_deviceLock;  // taken before the worker's lock, never while that is held
     const std::unique_ptr<SoundDevice> m_device;
 
-    std::mutex m_lock;
-    std::condition_variable m_changed;
-    bool m_closing = false;
+    HelperThread m_worker;  // its lock is for what follows
     bool m_playing = false;
     std::uint64_t m_turn = 0;  // counts starts and stops
     std::int64_t m_startMs = 0;
@@ -69,8 +65,6 @@ class SoundPlayer {
     std::int64_t m_given = 0;            // frames of sound handed over
     std::int64_t m_starved = 0;          // frames of silence handed over while a piece was late
     std::int64_t m_lastPositionMs = 0;
-
-    std::thread m_thread;  // last: it uses everything above
 };
 
 }  // namespace vantor

@@ -99,6 +99,10 @@ QImage remainsOf(QByteArrayView bytes, const QByteArray& handler) {
     QImage image = cleanSheetFor(attempt.reader);
     const QSize size = image.size();
     attempt.reader.read(&image);
+    // Its handler puts red and blue in their places when all is read.
+    if (handler == "tiff" && image.depth() == 32) {
+        image = std::move(image).rgbSwapped();
+    }
     if (image.isNull() || image.size() != size || isBlank(image)) {
         return {};
     }

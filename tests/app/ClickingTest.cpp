@@ -11,6 +11,7 @@
 
 #include "results/FilePreviewer.h"
 #include "results/RecoveryMode.h"
+#include "results/ResultRow.h"
 #include "results/SoundMovie.h"
 #include "tests/app/HeardDevice.h"
 #include "tests/app/WindowTest.h"
@@ -176,6 +177,8 @@ class Clicking : public WindowTest {
         ASSERT_TRUE(playable || !window._QuickLook_View->pixmap().isNull()) << name.toStdString();
         movies += playable;
         sounds += window.soundControls->movie() != nullptr;
+        const bool isSound = kindOfExtension(pathExtension(name)) == FileKind::Sound;
+        ASSERT_TRUE(isSound || !window.soundControls->movie()) << "behind " << name.toStdString();
         ASSERT_LE(heard.alive, 1) << "behind " << name.toStdString();
     }
 

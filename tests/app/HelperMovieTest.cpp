@@ -123,6 +123,14 @@ TEST_F(PlayedMovie, Sought_ShowsThatFrameAndPlaysOnFromThere) {
     EXPECT_NE(movie->rate(), 0);
 }
 
+TEST_F(PlayedMovie, SoughtBeyondItsEnds_StandsThere) {
+    openMovie();
+    movie->seek(99'000);
+    EXPECT_EQ(movie->positionMs(), 4008);
+    movie->seek(-5);
+    EXPECT_EQ(movie->positionMs(), 0);
+}
+
 TEST_F(PlayedMovie, AtItsEnd_ItStandsThereAndBeginsAnew) {
     openMovie();
     movie->seek(3800);

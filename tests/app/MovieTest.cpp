@@ -148,6 +148,21 @@ TEST_F(MoviePreview, ThePosition_IsShownAndCanBeChosen) {
     EXPECT_EQ(shownMovie().position, 0);
 }
 
+TEST_F(MoviePreview, AHandleThatIsHeld_StaysInTheHand) {
+    openResults();
+    select(0);
+    QTest::qWait(1);
+    auto* slider = control<QSlider>("moviePosition");
+    const QPoint handle(4, slider->height() / 2);
+    QTest::mousePress(slider, Qt::LeftButton, {}, handle);
+    shownMovie().position = 30'000;
+    shownMovie().onProgress();
+    EXPECT_EQ(slider->value(), 0);
+    QTest::mouseRelease(slider, Qt::LeftButton, {}, handle);
+    shownMovie().onProgress();
+    EXPECT_EQ(slider->value(), 30'000);
+}
+
 TEST_F(MoviePreview, AnUnknownLength_LeavesNothingToSeekBy) {
     openResults();
     auto movie = std::make_unique<ScriptedMovie>(log);
@@ -165,6 +180,23 @@ TEST(TimeText, MinutesSecondsAndHours) {
     EXPECT_EQ(timeText(59'999), QStringLiteral("0:59"));
     EXPECT_EQ(timeText(600'000), QStringLiteral("10:00"));
     EXPECT_EQ(timeText(3'723'000), QStringLiteral("1:02:03"));
+}
+
+TEST_F(MoviePreview, WithoutPictures_ASignOfSoundIsDrawn) {
+    openResults();
+    select(0);
+    controller->mMovieView->togglePlaying();
+    const QImage shown = controller->mMovieView->grab().toImage();
+    int drawn = 0;
+    const QRgb ground = shown.pixel(shown.width() / 2, 4);
+    for (int x = 0; x < shown.width(); ++x) {
+        drawn += shown.pixel(x, shown.height() / 2) != ground;
+    }
+    EXPECT_GT(drawn, 20);
+    EXPECT_LT(drawn, shown.width() - 20);
+    QTest::qWait(1);
+    EXPECT_FALSE(
+        control<QLabel>("movieTimes")->geometry().intersects(control<QToolButton>("movieMute")->geometry()));
 }
 
 TEST_F(MoviePreview, FramesAreDrawn) {

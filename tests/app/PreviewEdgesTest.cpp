@@ -92,6 +92,18 @@ TEST_F(Preview, OnlyTheVideoMode_OpensMovies) {
     EXPECT_TRUE(controller->_QuickLook_View->isVisible());
 }
 
+TEST_F(Preview, TheVideoMode_HasOneRowOfControls) {
+    int asked = 0;
+    parts.sound = [&asked](const QString&) {
+        ++asked;
+        return nullptr;
+    };
+    openResults({{"A.MP3", 40, 42}}, kVideoMode);
+    select(0);
+    EXPECT_EQ(asked, 0) << "what sounds has opened as a movie, or does not";
+    EXPECT_FALSE(controller->soundControls->isVisible());
+}
+
 TEST_F(Preview, AnEmptyFile_IsNoMovieButShowsItsIcon) {
     openResults({{"A.MP4", 24, 24}}, kVideoMode);
     select(0);

@@ -1,6 +1,7 @@
 // The preview of a selected item: the copy, the picture, the icon, and what stays when the medium is gone.
 #include <QFileInfo>
 #include <QLocale>
+#include <QSlider>
 #include <QToolButton>
 
 #include "results/MovieControls.h"
@@ -245,6 +246,24 @@ TEST_F(Preview, ASoundFile_TellsHowLongItIsAndCanBeHeard) {
     EXPECT_EQ(log.alive, 1);
     controller->show_hide_4_screen_RawFile(true);
     EXPECT_EQ(log.alive, 0) << "nor behind another screen";
+}
+
+TEST_F(Preview, TheControlsOfSound_LieInViewUnderItsPicture) {
+    MovieLog log;
+    parts.sound = [&log](const QString&) { return std::make_unique<ScriptedMovie>(log); };
+    openResults({{"A.MP3", 24, 27}});
+    select(0);
+    QTest::qWait(1);
+    const QWidget* const controls = controller->soundControls;
+    const QWidget* const box = controller->_QuickLook_View_Box;
+    EXPECT_TRUE(box->rect().contains(controls->geometry()));
+    EXPECT_GT(controls->y(), controller->_QuickLook_View->geometry().bottom());
+    EXPECT_LT(controls->geometry().bottom(), controller->previewFacts->y());
+    EXPECT_GT(controls->findChild<QSlider*>()->width(), 40);
+    if (const QString shots = qEnvironmentVariable("VANTOR_SHOTS"); !shots.isEmpty()) {
+        controller->window->grab().save(shots + QStringLiteral("/Preview.Sound.png"));
+    }
+    close();
 }
 
 TEST_F(Preview, ASoundFileThatCannotBePlayed_HasNoControls) {

@@ -157,6 +157,25 @@ TEST_F(PlayedSound, WhatIsNoSound_IsNone) {
     EXPECT_EQ(heard.alive, 0);
 }
 
+// A transport stream without its middle third.
+TEST_F(PlayedSound, AHoleInTheFile_IsSilenceOfItsLength) {
+    QFile whole(
+        qEnvironmentVariable("VANTOR_CORPUS", QStringLiteral(VANTOR_SOURCE_DIR "/../shared/corpus")) +
+        QStringLiteral("/videos/ts/media__libraries__test_data__src__test__assets__media__hls__cea608__"
+                       "sd-hls0000000000.ts"));
+    if (!whole.open(QIODevice::ReadOnly)) {
+        GTEST_SKIP() << "no corpus";
+    }
+    constexpr qsizetype kPacketBytes = 188;
+    const QByteArray bytes = whole.readAll();
+    const qsizetype third = bytes.size() / 3 / kPacketBytes * kPacketBytes;
+    sound = SoundMovie::open(written(bytes.left(third) + bytes.mid(2 * third), "dprv.TS"), {}, options());
+    ASSERT_TRUE(sound);
+    sound->play();
+    ASSERT_TRUE(listenUntil(60'000));
+    EXPECT_NEAR(static_cast<double>(sound->positionMs()), 2500, 300);
+}
+
 TEST_F(PlayedSound, AFileWithPictures_IsAMovie_AndOneWithoutIsHeard) {
     const QString folder =
         qEnvironmentVariable("VANTOR_CORPUS", QStringLiteral(VANTOR_SOURCE_DIR "/../shared/corpus"));

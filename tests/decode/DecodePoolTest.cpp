@@ -57,6 +57,14 @@ TEST(DecodePool, Thumbnail_TurnedPictures_AreUpright) {
     EXPECT_TRUE(isNear(standing.pixel(80, 25), Qt::red));
 }
 
+TEST(DecodePool, Picture_Turned_FitsAnOblongBoundUpright) {
+    DecodePool pool(poolOptions(1));
+    const DecodedPicture shown = pool.picture(jpegHeldBy(twoColours({400, 200}), 6), {300, 50});
+    EXPECT_EQ(shown.image.size(), QSize(25, 50));
+    EXPECT_EQ(shown.fullSize, QSize(200, 400));
+    EXPECT_EQ(pool.picture(jpegHeldBy(twoColours({400, 200}), 6), {50, 300}).image.size(), QSize(50, 100));
+}
+
 TEST(DecodePool, Thumbnail_TransparentPicture_GetsAWhiteGround) {
     QImage clear(80, 80, QImage::Format_ARGB32);
     clear.fill(Qt::transparent);

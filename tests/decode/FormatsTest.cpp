@@ -161,6 +161,44 @@ TEST(Formats, CutShortAndTurned_IsStillUpright) {
     EXPECT_EQ(pool.picture(bytes.left(bytes.size() * 9 / 10), {100, 100}).image.size(), QSize(50, 100));
 }
 
+// Forty pixels by twenty in strips of two rows, left half red, right half blue, to be turned right by 90
+// degrees.
+QByteArray tiffInStrips() {
+    constexpr int kStrips = 10, kStripBytes = 2 * 40 * 3;
+    QByteArray offsets, lengths;
+    for (int strip = 0; strip < kStrips; ++strip) {
+        offsets += TiffWriter::littleEndian(
+            TiffWriter::kPixelsAt + static_cast<std::uint32_t>(strip) * kStripBytes, 2);
+        lengths += TiffWriter::littleEndian(kStripBytes, 2);
+    }
+    TiffWriter tiff;
+    tiff.longTag(0x0100, 40);
+    tiff.longTag(0x0101, 20);
+    tiff.bytesTag(0x0102, 3, QByteArray("\x08\0\x08\0\x08\0", 6));
+    tiff.shortTag(0x0103, 1);
+    tiff.shortTag(0x0106, 2);
+    tiff.bytesTag(0x0111, 3, offsets);
+    tiff.shortTag(0x0112, 6);
+    tiff.shortTag(0x0115, 3);
+    tiff.longTag(0x0116, 2);
+    tiff.bytesTag(0x0117, 3, lengths);
+    const QByteArray row = QByteArray("\xff\0\0", 3).repeated(20) + QByteArray("\0\0\xff", 3).repeated(20);
+    return tiff.finish(row.repeated(20));
+}
+
+TEST(Formats, TiffCutShortAndTurned_ShowsItsFirstStripsUpright) {
+    DecodePool pool(poolOptions(1));
+    const QByteArray whole = tiffInStrips();
+    ASSERT_EQ(pool.picture(whole, {100, 100}).image.size(), QSize(20, 40));
+    const DecodedPicture cut = pool.picture(whole.left(whole.size() - 6 * 240), {100, 100});
+    ASSERT_EQ(cut.image.size(), QSize(20, 40));
+    EXPECT_TRUE(cut.partial);
+    // What is stored first comes to the right.
+    EXPECT_TRUE(isNear(cut.image.pixel(17, 5), Qt::red));
+    EXPECT_TRUE(isNear(cut.image.pixel(17, 35), Qt::blue));
+    EXPECT_EQ(cut.image.pixel(3, 5) & RGB_MASK, 0U);
+}
+
 // An uncompressed 24-bit Targa of one colour: nothing in it says what it is.
 QByteArray targa(int side) {
     QByteArray bytes("\0\0\2\0\0\0\0\0\0\0\0\0", 12);

@@ -2,7 +2,7 @@
 // afterwards.
 #include <gtest/gtest.h>
 
-#include <QImageReader>
+#include <QTemporaryDir>
 #include <random>
 #include <thread>
 
@@ -82,6 +82,25 @@ TEST(Hostile, MutatedPictures_ComeInOrderAndLeaveThePoolSound) {
     RecordProperty("crashed", static_cast<int>(counts.crashed));
     RecordProperty("late", static_cast<int>(counts.late));
     expectSoundPool(pool);
+}
+
+// Somebody who has taken a helper over can say what he likes.
+TEST(Hostile, AnswersThatNoHelperGives_AreNotBelieved) {
+    const QTemporaryDir folder;
+    const auto picture = [&](const char* lie) {
+        DecodePoolOptions options = poolOptions(1);
+        options.helper = folder.filePath(QLatin1String(lie));
+        QFile::link(QStringLiteral(VANTOR_LYING_HELPER), options.helper);
+        DecodePool pool(options);
+        const QImage shown = pool.picture(QByteArray("any bytes"), {200, 200}).image;
+        EXPECT_EQ(pool.counts().badAnswers, shown.isNull() ? 1U : 0U) << lie;
+        return shown;
+    };
+    EXPECT_EQ(picture("truth").size(), QSize(1, 1)) << "but for the lie it would be believed";
+    for (const char* lie :
+         {"width", "height", "nowidth", "noheight", "serial", "magic", "status", "length"}) {
+        EXPECT_TRUE(picture(lie).isNull()) << lie;
+    }
 }
 
 // The size fields of a JPEG's frame header, wherever it stands.

@@ -3,6 +3,7 @@
 #include <signal.h>
 
 #include <QFileInfo>
+#include <QTransform>
 
 #include "decode/MovieReader.h"
 #include "decode/SoundReader.h"
@@ -89,6 +90,14 @@ TEST_F(Movie, WithoutAPictureToShow_IsNone) {
     EXPECT_FALSE(MovieReader::open(m_folder.path(), {200, 200}, movieOptions()));
 }
 
+TEST_F(Movie, TheCoverOfASong_IsNoMovieButItsPicture) {
+    const QString song =
+        corpusFolder() + QStringLiteral("/files/ape/file-type__fixture__fixture-monkeysaudio.ape");
+    EXPECT_FALSE(MovieReader::open(song, {200, 200}, movieOptions()));
+    EXPECT_EQ(MovieReader::cover(song, {200, 200}, movieOptions()).size(), QSize(200, 200));
+    EXPECT_TRUE(MovieReader::cover(song, {}, movieOptions()).isNull());
+}
+
 TEST_F(Movie, MissingHelper_IsNone) {
     MovieReaderOptions none;
     none.helper = QStringLiteral("/nonexistent/vantor-decode-movie");
@@ -132,6 +141,48 @@ TEST_F(Movie, Seek_GivesTheFrameAtThatTime) {
         EXPECT_LT(frame->timeMs, middle + 200);
         EXPECT_FALSE(reader->seek(reader->durationMs() * 10));
         EXPECT_TRUE(reader->seek(0));
+    }
+}
+
+// The display matrix of the first track (ISO/IEC 14496-12, section 8.3.2) for quarters of a turn to the
+// right.
+QByteArray turnedBy(QByteArray movie, int quarters) {
+    const QByteArray none(4, '\0'), one("\0\1\0\0", 4), minusOne("\xff\xff\0\0", 4);
+    const QByteArray cosine = quarters == 2 ? minusOne : none;
+    const QByteArray sine = quarters == 1 ? one : quarters == 3 ? minusOne : none;
+    const QByteArray against = quarters == 1 ? minusOne : quarters == 3 ? one : none;
+    constexpr qsizetype kMatrixBehindName = 44;
+    const QByteArray matrix = cosine + sine + none + against + cosine;
+    return movie.replace(movie.indexOf("tkhd") + kMatrixBehindName, matrix.size(), matrix);
+}
+
+// Mean difference of the green parts.
+double difference(const QImage& one, const QImage& other) {
+    EXPECT_EQ(one.size(), other.size());
+    qint64 sum = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            sum += std::abs(qGreen(one.pixel(x, y)) - qGreen(other.pixel(x, y)));
+        }
+    }
+    return static_cast<double>(sum) / (one.width() * one.height());
+}
+
+TEST_F(Movie, HeldTurned_IsShownUpright) {
+    const QByteArray bytes = bytesOfFile(movie("synth/av1_opus.mp4"));
+    const auto lying = MovieReader::open(movie("synth/av1_opus.mp4"), {200, 200}, movieOptions());
+    ASSERT_TRUE(lying);
+    for (const int quarters : {1, 2, 3}) {
+        SCOPED_TRACE(quarters);
+        const QString path = written(turnedBy(bytes, quarters), QStringLiteral("dprv.MP4"));
+        const auto turned = MovieReader::open(path, {200, 200}, movieOptions());
+        ASSERT_TRUE(turned);
+        EXPECT_EQ(turned->fullSize(), quarters == 2 ? QSize(1280, 720) : QSize(720, 1280));
+        const auto heldBy = [&](int degrees) {
+            return lying->poster().image.transformed(QTransform().rotate(degrees % 360));
+        };
+        EXPECT_LT(difference(turned->poster().image, heldBy(90 * quarters)), 3);
+        EXPECT_GT(difference(turned->poster().image, heldBy(90 * quarters + 180)), 10) << "not upside down";
     }
 }
 

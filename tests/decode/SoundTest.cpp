@@ -72,6 +72,9 @@ TEST_F(Sound, RealMovies_SoundAsLongAsTheyAre) {
         std::int64_t frames = 0;
         std::int64_t loudest = 0;
         while (const auto piece = reader->next()) {
+            if (frames == 0) {
+                EXPECT_NEAR(static_cast<double>(piece->timeMs), 0, 100) << "it begins with the pictures";
+            }
             frames += piece->frames();
             for (const std::int16_t sample : piece->samples) {
                 loudest = std::max<std::int64_t>(loudest, std::abs(sample));
@@ -105,6 +108,34 @@ TEST_F(Sound, SeekInRealMovies_LandsThere) {
         EXPECT_LE(piece->timeMs, middle + 150);
         EXPECT_GE(piece->timeMs, middle - 1000);
     }
+}
+
+// A transport stream that lost its middle: what follows is heard where it belongs, not too early.
+TEST_F(Sound, AHoleInTheFile_IsAHoleInTime) {
+    if (corpusFolder().isEmpty()) {
+        GTEST_SKIP() << "no corpus";
+    }
+    constexpr qsizetype kPacketBytes = 188;
+    const QByteArray whole = bytesOfFile(
+        corpusFolder() +
+        QStringLiteral("/videos/ts/media__libraries__test_data__src__test__assets__media__hls__cea608__"
+                       "sd-hls0000000000.ts"));
+    const qsizetype third = whole.size() / 3 / kPacketBytes * kPacketBytes;
+    const auto reader = SoundReader::open(
+        written(whole.left(third) + whole.mid(2 * third), QStringLiteral("dprv.TS")), movieOptions());
+    ASSERT_TRUE(reader);
+    std::int64_t endMs = -1, longestHoleMs = 0, soundMs = 0;
+    while (const auto piece = reader->next()) {
+        if (endMs >= 0) {
+            EXPECT_GT(piece->timeMs, endMs - 100) << "never back";
+            longestHoleMs = std::max(longestHoleMs, piece->timeMs - endMs);
+        }
+        soundMs += piece->frames() * 1000 / kSoundFramesPerSecond;
+        endMs = piece->timeMs + piece->frames() * 1000 / kSoundFramesPerSecond;
+    }
+    EXPECT_GT(longestHoleMs, 300);
+    EXPECT_NEAR(static_cast<double>(endMs), 2500, 300);
+    EXPECT_LT(soundMs, endMs - 300);
 }
 
 TEST_F(Sound, WithoutSound_IsNone) {
