@@ -54,7 +54,8 @@ std::optional<Yuv> readYuvHead(ByteView& view) {
     const auto end = line.at;
     std::uint64_t width = 0, height = 0, sample = 1, numerator = 3;
     bool alpha = false;
-    for (auto at = view.find(' ', 0, end); at < end; at = view.find(' ', at + 1, end)) {
+    for (auto blank = view.find(' ', 0, end); blank.found(); blank = view.find(' ', blank.at + 1, end)) {
+        const auto at = blank.at;
         const auto name = view.u8(at + 1).value_or(0);
         std::uint64_t value = 0;
         for (auto digit = at + 2; digit < end && view.u8(digit).value_or(0) >= '0' &&
