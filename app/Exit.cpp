@@ -73,9 +73,8 @@ bool MyTableController::shutDown(std::chrono::milliseconds patience) {
         m_thumbnails->cancel();
     }
     const auto until = std::chrono::steady_clock::now() + patience;
-    m_look.stop();
-    m_board.requestEnd();
-    while (scanRunning() || m_besideRunning || m_saveRunning || !m_board.hasEnded()) {
+    m_looks->shutDown();
+    while (scanRunning() || m_besideRunning || m_desk->isRunning() || !m_looks->hasEnded()) {
         // The scan clears the word when it honours it, so it is said until everyone has heard.
         stop_now = 1;
         if (mSetLabelTimer) {
@@ -86,11 +85,12 @@ bool MyTableController::shutDown(std::chrono::milliseconds patience) {
         }
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
-    for (std::thread* thread : {&m_driver, &m_timerThread, &mPreviewThread, &m_saver}) {
+    for (std::thread* thread : {&m_driver, &m_timerThread, &mPreviewThread}) {
         if (thread->joinable()) {
             thread->join();
         }
     }
+    m_desk->join();
     return true;
 }
 

@@ -9,8 +9,8 @@
 
 namespace vantor {
 
-// The interface thread empties the queue a few times a second, and at once when somebody waits; nothing of the
-// toolkit is touched by the other threads.
+// The interface thread empties the queue a few times a second, and at once when somebody waits; nothing of
+// the toolkit is touched by the other threads.
 class InterfaceQueue {
   public:
     using Step = std::function<void()>;

@@ -25,10 +25,7 @@ ThumbnailQueueOptions thumbnailQueueOptions() {
 }  // namespace
 
 MyTableController::MyTableController(ProgramParts parts)
-    : MediaList(*parts.media),
-      ScanSession(static_cast<ScanView&>(*this)),
-      m_parts(std::move(parts)),
-      m_board([this](std::size_t index) { return itemAt(index); }) {
+    : MediaList(*parts.media), ScanSession(static_cast<ScanView&>(*this)), m_parts(std::move(parts)) {
     Recovery_MODE = kPhotoMode;
     m_previewFolder = previewFolder(m_parts.resourcesFolder);
     setMediumOpener(m_parts.openMedium);

@@ -14,7 +14,7 @@
 //   File types                  catalogue/FileTypeScreen.cpp
 //   Scan threads                scan/ScanThreads.cpp
 //   What a scan shows           scan/ScanScreen.cpp
-//   Browsers                    results/Browsers.cpp, results/BrowserLooks.cpp
+//   Browsers                    results/Browsers.cpp
 //   Preview                     results/Preview.cpp
 //   Movie                       results/MoviePreview.cpp
 //   Saving                      results/Saving.cpp
@@ -40,22 +40,20 @@
 #include "decode/ThumbnailQueue.h"
 #include "media/MediaList.h"
 #include "media/RangePanel.h"
+#include "results/BrowserLooks.h"
 #include "results/FileManager.h"
 #include "results/ImageBrowserModel.h"
-#include "results/RecoveryReport.h"
-#include "results/SavedMarks.h"
-#include "results/SoundnessBoard.h"
+#include "results/PendingView.h"
+#include "results/SavingDesk.h"
+#include "scan/ScanInputs.h"
 #include "scan/ScanMeter.h"
 #include "scan/ScanSession.h"
 #include "scan/ScanTimer.h"
 #include "wizard/Help_Support.h"
 #include "wizard/Panels.h"
-#include "wizard/SavingOptions.h"
 #include "wizard/TableAdapter.h"
 
 namespace vantor {
-
-class SaveJob;
 
 // Members with given names keep them letter for letter; a message `first:second:` is `first(a, second)`.
 // Where an outlet already bears the first word, as `imageBrowser` does, the words of the message are joined
@@ -168,7 +166,7 @@ class MyTableController : public QObject,
     void stop_usb_disk(QObject* sender);
     bool scanRunning() const { return m_driverRunning || m_timerRunning; }
 
-    // --- Browsers (results/Browsers.cpp, results/BrowserLooks.cpp) ---
+    // --- Browsers (results/Browsers.cpp) ---
 
     // From a scan the bytes go to a queue where thumbnails are made side by side and listed in the order of
     // carving.
@@ -234,18 +232,6 @@ class MyTableController : public QObject,
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    // What a scan asks of the controls, read when it starts; they cannot be changed while it runs.
-    struct ScanInputs {
-        std::array<RangeControls, 2> range;
-        std::array<bool, 2> thorough{};
-        QString destination;
-    };
-    // What waits to be shown of one browser.
-    struct PendingView {
-        std::atomic<bool> reload{false};
-        std::atomic<qint64> scrollTo{-1};
-    };
-
     // --- What a scan shows (scan/ScanScreen.cpp) ---
 
     RangeControls rangeControls(ControlSet set) const override;
@@ -338,6 +324,7 @@ class MyTableController : public QObject,
     void pump();
     void drainQueue();
     bool waitForThreads(std::chrono::milliseconds patience);
+    static constexpr std::chrono::milliseconds kLastScanPatience{5000};
     void scanThreadsEnded();
     void flushViews();
     void showScanFacts();
@@ -349,23 +336,14 @@ class MyTableController : public QObject,
     void emptyBrowsers();
     void emptyBrowserViews();
     void showItemCounts();
-    void setUpLooks();
-    void beginLooks();
-    void endLooks();
-    void lookAtItems();
-    void orderItems();
-    void putInOrder();
+    LookedAtItems lookedAtItems();
     void runBeside(const std::function<void()>& work);
     std::unique_ptr<Movie> openBeside(const MovieLoader& loader, const QString& file);
     void showPicture(const QPixmap& picture, const QString& title);
     void showPreviewFacts();
     void saveItems(const QList<qsizetype>& indexes);
-    std::shared_ptr<const ItemSaver> saverFor(const QString& destination);
-    bool mayFillDestination(const QString& destination, std::uint64_t bytes);
+    SavingParts savingParts();
     ReportHead reportHead() const;
-    bool watchSaving(const std::shared_ptr<SaveJob>& job);
-    void reportSaving(const SaveJob& job, const QString& destination);
-    void forgetSaved();
     QString askDestination();
     void openDestination();
 
@@ -398,7 +376,6 @@ class MyTableController : public QObject,
     std::atomic<bool> m_driverRunning{false};
     std::atomic<bool> m_timerRunning{false};
     std::atomic<bool> m_besideRunning{false};
-    std::atomic<bool> m_saveRunning{false};
 
     // Set by every scan.
     ScanInputs m_inputs;
@@ -417,23 +394,9 @@ class MyTableController : public QObject,
     // Set on the file-type screen and by the last click in a table.
     int m_clickedColumn = -1;
 
-    // Set by what the user wants to see of the found items; as at the start with every scan.
-    BrowserWish m_wish;
-    SoundnessBoard m_board;
-    QTimer m_look;
-    QElapsedTimer m_sinceOrder;
-    std::uint64_t m_seenChanges = 0;
-    int m_orderedCount = 0;
-
-    // Set as items are saved; emptied with the items.
-    std::thread m_saver;
-    SavedMarks m_marks;
-    std::shared_ptr<const ItemSaver> m_itemSaver;
-    QString m_saverDestination;
-    SavePolicy m_saverPolicy;
-
-    // Kept while the program runs.
-    SavingChoices m_savingChoices;
+    // Begin anew with every scan.
+    std::unique_ptr<BrowserLooks> m_looks;
+    std::unique_ptr<SavingDesk> m_desk;
 
     bool m_ending = false;  // the exit was confirmed
 };

@@ -165,7 +165,13 @@ void MyTableController::setUpBrowsers() {
     for (ImageBrowserView* browser : {imageBrowser, imageBrowser_2}) {
         browser->setDataSource(this);
     }
-    setUpLooks();
+    m_looks =
+        std::make_unique<BrowserLooks>(std::array{BrowserScreen{imageBrowser, showBox, sortBox},
+                                                  BrowserScreen{imageBrowser_2, showBox_Sig, sortBox_Sig}},
+                                       lookedAtItems());
+    connect(m_looks.get(), &BrowserLooks::changed, this, &MyTableController::showItemCounts);
+    m_desk = std::make_unique<SavingDesk>(savingParts());
+    connect(m_desk.get(), &SavingDesk::marksChanged, this, &MyTableController::showItemCounts);
 }
 
 void MyTableController::setEmptyStates() {

@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QDropEvent>
 #include <QMimeData>
+#include <QMouseEvent>
 #include <QShortcut>
 #include <QUrl>
 
@@ -163,7 +164,11 @@ void MyTableController::pressDefault() {
 bool MyTableController::eventFilter(QObject* watched, QEvent* event) {
     if (watched == thoroughBox && event->type() == QEvent::MouseButtonRelease) {
         // The words beside the box are part of it.
-        _Thro_Mode_Chk->click();
+        const auto* const release = static_cast<QMouseEvent*>(event);
+        if (release->button() == Qt::LeftButton &&
+            thoroughBox->rect().contains(release->position().toPoint())) {
+            _Thro_Mode_Chk->click();
+        }
         return true;
     }
     if (watched != window) {

@@ -24,14 +24,16 @@ constexpr std::chrono::milliseconds kLastPatience{500};
 // Frames larger than this are scaled down where they are decoded.
 constexpr QSize kLargestFrame{960, 540};
 
-ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTableController*>>& controller) {
+ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTableController*>>& controller,
+                           const std::shared_ptr<const std::atomic<bool>>& leaving) {
     ProgramParts parts;
     parts.media = makePlatformMediaSource();
     parts.openMedium = makeMediumOpener(*parts.media, [controller] {
         const MyTableController* const running = controller->load();
         return running != nullptr && running->stop_now == 1;
     });
-    parts.openBeside = parts.openMedium;
+    // What a scan is told to stop is no word for those who read beside it.
+    parts.openBeside = makeMediumOpener(*parts.media, [leaving] { return leaving->load(); });
     const auto pool = std::make_shared<DecodePool>();
     parts.thumbnailer = [pool](const QByteArray& encoded, const QString& extension) {
         return pool->thumbnail(encoded, extension);
@@ -81,13 +83,15 @@ int main(int argc, char** argv) {
     applyTheme(application);
 
     const auto running = std::make_shared<std::atomic<const MyTableController*>>(nullptr);
-    const auto controller = std::make_unique<MyTableController>(platformParts(running));
+    const auto leaving = std::make_shared<std::atomic<bool>>(false);
+    const auto controller = std::make_unique<MyTableController>(platformParts(running, leaving));
     running->store(controller.get());
     fitToScreen(controller->window);
     controller->awakeFromNib();
     controller->openImages(QApplication::arguments().mid(1));
     const int code = QApplication::exec();
     leaveTheScreen();
+    *leaving = true;
     if (!controller->shutDown(kLastPatience)) {
         // A device that does not answer holds a thread; nothing of it is waited for.
         std::_Exit(code);

@@ -1,6 +1,7 @@
 // catalogue-lint FILE...: prints what is wrong in catalogue files, one finding a line; exit code 1 when there
 // is any.
 #include <QFile>
+#include <QFileInfo>
 #include <cstdio>
 
 #include "catalogue/CatalogueFile.h"
@@ -9,8 +10,9 @@
 namespace {
 
 vantor::CatalogueUse useOf(const QString& path) {
-    const bool photo = path.endsWith(QLatin1String(vantor::kPhotoCatalogue)) ||
-                       path.endsWith(QLatin1String(vantor::kPhotoThoroughCatalogue));
+    const QString name = QLatin1Char('/') + QFileInfo(path).fileName();
+    const bool photo = name == QLatin1String(vantor::kPhotoCatalogue) ||
+                       name == QLatin1String(vantor::kPhotoThoroughCatalogue);
     return photo ? vantor::CatalogueUse::Photo : vantor::CatalogueUse::Selectable;
 }
 

@@ -25,7 +25,11 @@ CliMedium byPath(const QString& path, StopRequest stop) {
     QString why;
     if (const auto facts = probeMedium(path, &why)) {
         medium.sectors = facts->sectors;
-        medium.complaint = facts->isImage ? refusePackedImage(path).value_or(QString()) : QString();
+        if (const auto packed = facts->isImage ? refusePackedImage(path) : std::nullopt) {
+            medium.complaint =
+                *packed +
+                QStringLiteral(" Searched all the same; only what is stored unpacked can be found.");
+        }
     } else {
         medium.complaint = QStringLiteral("%1: %2").arg(path, why);
     }

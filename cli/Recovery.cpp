@@ -12,7 +12,9 @@
 #include <csignal>
 #include <cstdio>
 #include <thread>
+#include <utility>
 
+#include "catalogue/CatalogueFile.h"
 #include "cli/CliMedium.h"
 #include "cli/CliSession.h"
 #include "cli/ListMedia.h"
@@ -102,6 +104,25 @@ bool rangeRefused(const CliOptions& options, std::uint64_t mediumSectors) {
                  (refusal->informative.isEmpty() ? QString() : QStringLiteral(" ") + refusal->informative));
     }
     return refusal.has_value();
+}
+
+// Searching without a catalogue would end well and find nothing. Readable ones that are empty are the
+// engine's to judge.
+bool cataloguesRefused(const CliOptions& options) {
+    static const std::pair<const char*, const char*> kFiles[] = {
+        {kPhotoCatalogue, kPhotoThoroughCatalogue},
+        {kVideoCatalogue, kVideoThoroughCatalogue},
+        {kRawFileCatalogue, kRawFileThoroughCatalogue}};
+    const auto& [general, thorough] = kFiles[options.mode];
+    const auto readable = [&options](const char* name) {
+        return QFileInfo(options.catalogueFolder + QLatin1String(name)).isReadable();
+    };
+    if (readable(general) || readable(thorough)) {
+        return false;
+    }
+    complain(QStringLiteral("The folder %1 holds no signature catalogue that can be read.")
+                 .arg(options.catalogueFolder));
+    return true;
 }
 
 bool typesRefused(CliSession& session, const CliOptions& options) {
@@ -215,10 +236,6 @@ int recover(const CliOptions& options) {
     if (medium.sectors != 0 && rangeRefused(options, medium.sectors)) {
         return kExitBadUsage;
     }
-    if (!prepareDestination(options, medium.path)) {
-        return kExitDestinationTrouble;
-    }
-
     ReportHead head;
     head.medium = options.medium;
     head.sectors = medium.sectors;
@@ -226,8 +243,11 @@ int recover(const CliOptions& options) {
     CliSession session(options, medium.sectors);
     session.setMediumOpener(medium.open);
     session.loadCatalogues(options.catalogueFolder);
-    if (typesRefused(session, options)) {
+    if (cataloguesRefused(options) || typesRefused(session, options)) {
         return kExitBadUsage;
+    }
+    if (!prepareDestination(options, medium.path)) {
+        return kExitDestinationTrouble;
     }
     {
         const StopOnInterrupt interrupt(session.stop_now, walkAway);
@@ -249,6 +269,11 @@ int recover(const CliOptions& options) {
         tellSaving(session, options);
     }
     if (options.report && !writeReport(session, options, head)) {
+        return kExitDestinationTrouble;
+    }
+    // A list that a full disk cut short looks complete to a script.
+    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+        complain(QStringLiteral("What was found cannot be written to the standard output."));
         return kExitDestinationTrouble;
     }
     return exitCodeOf(session);

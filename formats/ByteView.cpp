@@ -2,7 +2,6 @@
 #include "formats/ByteView.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 #include <limits>
 

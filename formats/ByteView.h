@@ -21,6 +21,12 @@ enum class Endian { Big, Little };
 std::uint64_t addClamped(std::uint64_t a, std::uint64_t b);
 std::uint64_t mulClamped(std::uint64_t a, std::uint64_t b);
 
+// Files begin at a sector of the medium: what stands at such a place, counted from a file's first byte, may
+// be the next one.
+constexpr bool isSectorStart(std::uint64_t at) {
+    return at % 512 == 0;
+}
+
 // What a search came upon. Where reading stopped there is no use in going on behind.
 struct Finding {
     enum class Outcome { Found, Absent, Stopped };
@@ -30,8 +36,6 @@ struct Finding {
 
     bool found() const { return outcome == Outcome::Found; }
     bool stopped() const { return outcome == Outcome::Stopped; }
-    // Where only the place matters: a search of the few bytes of a head, for one.
-    operator std::uint64_t() const { return at; }
 };
 
 // One window onto a ByteSource that follows the reader. A hop reads kHopBytes, reading on doubles the window

@@ -11,7 +11,6 @@ namespace {
 constexpr std::uint64_t kBlockMark = 0x314159265359;
 constexpr std::uint64_t kEndMark = 0x177245385090;
 constexpr std::uint64_t kMarkMask = 0xFFFFFFFFFFFF;
-constexpr std::uint64_t kSector = 512;
 // A block holds at most 900,000 bytes before packing and grows by a few percent at worst.
 constexpr std::uint64_t kMostBlockBytes = 1'100'000;
 
@@ -68,7 +67,7 @@ Extent walkBzip2(ByteView& view) {
     std::uint64_t at = 0;
     for (std::uint64_t streams = 0;; ++streams) {
         // As with gzip: what begins at a sector's start behind a lone stream is the next file.
-        if (streams != 0 && (!beginsStream(view, at) || (streams == 1 && at % kSector == 0)))
+        if (streams != 0 && (!beginsStream(view, at) || (streams == 1 && isSectorStart(at))))
             return completeAt(view, at);
         std::uint64_t bit = (at + 4) * 8;
         std::uint32_t combined = 0;

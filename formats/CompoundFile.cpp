@@ -1,7 +1,6 @@
 // OLE2 compound files (DOC, XLS, PPT, MSG …): the highest sector that the allocation table holds in use.
 // Source: [MS-CFB].
 #include <algorithm>
-#include <array>
 
 #include "formats/Walkers.h"
 

@@ -1,7 +1,6 @@
 // Databases and mail stores that tell or show their length: SQLite, Outlook PST, Access MDB, Palm databases
 // (MOBI). Sources: SQLite file format; [MS-PST]; public notes on the Jet page layout; Palm File Format
 // Specification.
-#include <algorithm>
 
 #include "formats/Walkers.h"
 

@@ -31,7 +31,8 @@ Extent walkAppleDiskImage(ByteView& view) {
     constexpr std::string_view kTrailer("koly\0\0\0\4\0\0\2\0", 12);
     constexpr std::uint64_t kTrailerBytes = 512, kMostSearch = 256 * 1024 * 1024, kMostBetween = 1 << 20;
     const auto limit = std::min(view.size(), kMostSearch);
-    for (auto at = view.find('k', 0, limit); at < limit && view.u8(at); at = view.find('k', at + 1, limit)) {
+    for (auto mark = view.find('k', 0, limit); mark.found(); mark = view.find('k', mark.at + 1, limit)) {
+        const auto at = mark.at;
         if (!view.matches(at, kTrailer))
             continue;
         const auto data = addClamped(view.be64(at + 24).value_or(0), view.be64(at + 32).value_or(0));

@@ -30,7 +30,7 @@ Extent walkFlv(ByteView& view) {
         const auto bytes = in.u24();
         in.skip(4);
         const auto stream = in.u24();
-        if (!in.ok() && view.size() - at > 0 && view.size() > at && isTagType(type))
+        if (!in.ok() && at < view.size() && isTagType(type))
             return cutOffAt(view, at);
         if (!in.ok() || !isTagType(type) || stream != 0)
             break;

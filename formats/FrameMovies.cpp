@@ -48,9 +48,10 @@ struct Yuv {
 // What the line at the beginning says.
 std::optional<Yuv> readYuvHead(ByteView& view) {
     constexpr std::uint64_t kLongestHead = 512, kMostSide = 1 << 16;
-    const auto end = view.find('\n', 0, kLongestHead);
-    if (end == kLongestHead || !view.u8(end))
+    const auto line = view.find('\n', 0, kLongestHead);
+    if (!line.found())
         return std::nullopt;
+    const auto end = line.at;
     std::uint64_t width = 0, height = 0, sample = 1, numerator = 3;
     bool alpha = false;
     for (auto at = view.find(' ', 0, end); at < end; at = view.find(' ', at + 1, end)) {
@@ -105,13 +106,12 @@ Extent walkYuv4Mpeg(ByteView& view) {
         return view.holds(0, kLongestFrameHead) ? unknownExtent() : cutOffAt(view, view.size());
     std::uint64_t at = head->frames;
     while (view.matches(at, "FRAME")) {
-        const auto limit = at + kLongestFrameHead;
-        const auto line = view.find('\n', at, limit);
-        if (line == limit)
-            return damagedAt(view, at, head->facts);
-        if (line + 1 + head->bytes > view.size())
+        const auto line = view.find('\n', at, at + kLongestFrameHead);
+        if (line.stopped() || (line.found() && line.at + 1 + head->bytes > view.size()))
             return cutOffAt(view, view.size(), head->facts);
-        at = line + 1 + head->bytes;
+        if (!line.found())
+            return damagedAt(view, at, head->facts);
+        at = line.at + 1 + head->bytes;
     }
     return at > head->frames ? inexact(completeAt(view, at, head->facts))
                              : cutOffAt(view, view.size(), head->facts);
@@ -148,11 +148,12 @@ Extent walkAmv(ByteView& view) {
     constexpr std::uint64_t kMostHead = 4096, kHead = 8;
     if (!view.matches(0, "RIFF") || !view.matches(8, "AMV LIST"))
         return unknownExtent();
-    std::uint64_t at = view.find('m', 12, kMostHead);
-    while (at < kMostHead && view.u8(at) && !view.matches(at, "movi"))
-        at = view.find('m', at + 1, kMostHead);
-    if (!view.matches(at, "movi"))
-        return view.holds(0, kMostHead) ? unknownExtent() : cutOffAt(view, view.size());
+    auto frames = view.find('m', 12, kMostHead);
+    while (frames.found() && !view.matches(frames.at, "movi"))
+        frames = view.find('m', frames.at + 1, kMostHead);
+    if (!frames.found())
+        return frames.stopped() ? cutOffAt(view, view.size()) : unknownExtent();
+    auto at = frames.at;
     at += 4;
     for (;;) {
         if (view.matches(at, "AMV_END_"))

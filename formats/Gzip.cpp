@@ -6,7 +6,6 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kSector = 512;
 constexpr std::uint64_t kMostText = 64 * 1024;  // name or comment
 
 // Position of the packed data of the member at `at`; 0 = no member or not wholly there.
@@ -38,7 +37,7 @@ Extent walkGzip(ByteView& view) {
     std::uint64_t at = 0;
     for (std::uint64_t members = 0;; ++members) {
         // A lone member that ends at a sector's end is a whole file, and the next file may be a gzip too.
-        const auto data = members == 1 && at % kSector == 0 ? 0 : memberData(view, at);
+        const auto data = members == 1 && isSectorStart(at) ? 0 : memberData(view, at);
         if (data == 0)
             return members != 0 ? completeAt(view, at) : unknownExtent();
         const auto result = inflate(view, data, kAnyOutput);

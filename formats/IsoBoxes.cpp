@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "formats/Among.h"
 #include "formats/IsoBox.h"
 #include "formats/Walkers.h"
 
@@ -20,11 +21,6 @@ constexpr std::array<std::string_view, 7> kFirstNames = {"ftyp", "moov", "mdat",
                                                          "free", "skip", "pnot"};
 
 constexpr std::uint32_t kMostBoxes = 1 << 20;
-
-template <std::size_t Count>
-bool isAmong(const std::array<std::string_view, Count>& names, std::string_view name) {
-    return std::find(names.begin(), names.end(), name) != names.end();
-}
 
 bool isNameLike(std::string_view name) {
     return std::all_of(name.begin(), name.end(), [](char c) {

@@ -1,7 +1,6 @@
 // JPEG: segments by their length, entropy data marker by marker, to the end of the last picture in the file.
 // Sources: ITU-T T.81 annex B; CIPA DC-007 (multi-picture format).
 #include <algorithm>
-#include <array>
 
 #include "formats/TiffDirectory.h"
 #include "formats/Walkers.h"
@@ -12,7 +11,6 @@ namespace {
 
 constexpr std::uint8_t kEoi = 0xD9;
 constexpr std::uint8_t kSos = 0xDA;
-constexpr std::uint64_t kSector = 512;
 
 // Coded pictures hold an 0xFF every 256 bytes on average. A stretch this long without one is foreign (zeros,
 // text) unless the picture goes on properly behind it, as blank areas can.
@@ -37,7 +35,6 @@ class JpegWalk {
     Step segment();
     Step scan();
     void application(std::uint8_t marker, std::uint64_t at, std::uint64_t length);
-    bool isTable(std::uint8_t marker) const;
     Extent furtherPictures();
     std::optional<Extent> motionPhoto();
 
@@ -57,8 +54,8 @@ bool isFrame(std::uint8_t marker) {
            marker == 0xF7;
 }
 
-bool JpegWalk::isTable(std::uint8_t marker) const {
-    // Tables, applications, comments, JPEG-LS parameters.
+// Tables, applications, comments, JPEG-LS parameters.
+bool isTable(std::uint8_t marker) {
     return marker == 0xC4 || marker == 0xCC || (marker >= 0xDB && marker <= 0xEF) || marker == 0xF8 ||
            marker == 0xFE;
 }
@@ -209,7 +206,7 @@ std::optional<Extent> JpegWalk::motionPhoto() {
     std::uint64_t at = m_at;
     if (m_view.matches(at + 8, kBlockName))
         at += 8 + kBlockName.size();
-    else if (!m_sawMotionNote && at % kSector == 0)
+    else if (!m_sawMotionNote && isSectorStart(at))
         return std::nullopt;  // a movie at a sector's start may be the next file
     if (!m_view.matches(at + 4, "ftyp"))
         return std::nullopt;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "formats/Among.h"
 #include "formats/IsoBox.h"
 #include "formats/TiffDirectory.h"
 #include "formats/Walkers.h"
@@ -19,11 +20,6 @@ constexpr std::array<std::string_view, 18> kJp2Names = {"ftyp", "jp2h", "jp2c", 
                                                         "free", "mdat", "cref", "nlst", "res ", "jumb"};
 constexpr std::array<std::string_view, 9> kJxlNames = {"ftyp", "jxlc", "jxlp", "jxll", "jxli",
                                                        "Exif", "xml ", "brob", "jbrd"};
-
-template <std::size_t Count>
-bool isAmong(const std::array<std::string_view, Count>& names, std::string_view name) {
-    return std::find(names.begin(), names.end(), name) != names.end();
-}
 
 // Behind the end mark of the last tile-part, whose length is not told; `at` is behind its first segment.
 // Packed data never holds 0xFF and a byte above 0x8F but in packet marks.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "formats/Among.h"
 #include "formats/Dates.h"
 #include "formats/Walkers.h"
 
@@ -34,11 +35,6 @@ struct Element {
 
     std::uint64_t end() const { return addClamped(body, bytes); }
 };
-
-template <std::size_t Count>
-bool isAmong(const std::array<std::uint32_t, Count>& ids, std::uint32_t id) {
-    return std::find(ids.begin(), ids.end(), id) != ids.end();
-}
 
 // Length in bytes of a variable number by its first byte; 0 = none.
 unsigned numberBytes(std::uint8_t first) {

@@ -8,7 +8,6 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kSector = 512;
 constexpr std::uint64_t kMostStuffing = 64 * 1024;  // zero bytes between packets
 constexpr std::uint64_t kMostSilence = 256 * 1024;  // without a start code in bare video
 constexpr std::uint64_t kFewCodes = 4;              // fewer start codes do not make a video
@@ -74,7 +73,7 @@ Extent walkMpegPs(ByteView& view) {
         if (*code == 0xB9) {
             end = here + 4;
             // Joined streams go on; what begins at a sector's start is the next file.
-            if (startCode(view, end) != 0xBA || end % kSector == 0)
+            if (startCode(view, end) != 0xBA || isSectorStart(end))
                 return completeAt(view, end);
         } else if (*code == 0xBA) {
             const auto bytes = packHeaderBytes(view, here);
@@ -83,7 +82,7 @@ Extent walkMpegPs(ByteView& view) {
             // told by its navigation packets, the clock starts anew inside a file.
             const bool again =
                 now < clock || (now == clock && here != 0 && startCode(view, here + bytes) == 0xBB);
-            if (bytes == 0 || (again && !navigation && here % kSector == 0))
+            if (bytes == 0 || (again && !navigation && isSectorStart(here)))
                 break;
             clock = now;
             end = here + bytes;

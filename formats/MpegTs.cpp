@@ -8,7 +8,6 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kSector = 512;
 constexpr std::uint64_t kPacketBytes = 188;
 constexpr int kProof = 5;  // packets in step that make a stream
 
@@ -69,7 +68,7 @@ Extent walkMpegTs(ByteView& view) {
         }
         const bool valid = *head >> 24 == 0x47 && (*head & 0x30) != 0;
         // A new recording begins at a sector's start; inside one the counter may jump.
-        const bool other = valid && tables.breaks(*head) && at % kSector == 0;
+        const bool other = valid && tables.breaks(*head) && isSectorStart(at);
         if (!valid || other)
             return inexact(completeAt(view, at));
         if (!view.holds(at, layout->lead + kPacketBytes))

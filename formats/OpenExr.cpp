@@ -47,9 +47,8 @@ class ExrWalk {
 };
 
 std::optional<std::uint64_t> ExrWalk::behindName() const {
-    const auto limit = m_at + kLongestName;
-    const auto nul = m_view.find(0, m_at, limit);
-    return nul < limit && m_view.u8(nul) ? std::optional(nul + 1) : std::nullopt;
+    const auto nul = m_view.find(0, m_at, m_at + kLongestName);
+    return nul.found() ? std::optional(nul.at + 1) : std::nullopt;
 }
 
 // One header: attributes of name, type, size and value until an empty name.

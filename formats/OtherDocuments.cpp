@@ -3,6 +3,7 @@
 // EPSF 3.0 and DSC 3.0.
 #include <algorithm>
 
+#include "formats/TextReader.h"
 #include "formats/Walkers.h"
 
 namespace vantor {
@@ -91,10 +92,7 @@ Extent walkPostScriptText(ByteView& view) {
         else if (view.matches(at, "%%EndDocument") && embedded != 0)
             --embedded;
         else if (view.matches(at, "%%EOF") && embedded == 0) {
-            at += 5;
-            at += view.u8(at) == '\r' ? 1 : 0;
-            at += view.u8(at) == '\n' ? 1 : 0;
-            return completeAt(view, at);
+            return completeAt(view, behindLineEnd(view, at + 5));
         }
         at += 2;
     }

@@ -2,13 +2,13 @@
 // and annex F (linearized files).
 #include <algorithm>
 
+#include "formats/TextReader.h"
 #include "formats/Walkers.h"
 
 namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kSector = 512;
 constexpr std::size_t kLookBack = 64;     // from the end mark to "startxref"
 constexpr std::size_t kHeadBytes = 1024;  // where the linearization dictionary stands
 // A file goes on as long as ends of objects turn up; this is the largest stream believed to lie between two.
@@ -108,12 +108,7 @@ std::uint64_t PdfWalk::linearizedLength() {
 
 // Behind "%%EOF" and one line end.
 std::uint64_t PdfWalk::behindMark(std::uint64_t at) {
-    at += 5;
-    if (m_view.u8(at) == '\r')
-        ++at;
-    if (m_view.u8(at) == '\n')
-        ++at;
-    return at;
+    return behindLineEnd(m_view, at + 5);
 }
 
 // What the end mark at `at` is to this file, judged by the cross-reference position told before it.
@@ -140,7 +135,7 @@ PdfWalk::Mark PdfWalk::judge(std::uint64_t at) {
 
 // Another PDF at a sector's start, unless it is the content of a stream of ours.
 bool PdfWalk::isForeignStart(std::uint64_t at) {
-    if (at % kSector != 0 || at < 16 || !m_view.matches(at, "%PDF-"))
+    if (!isSectorStart(at) || at < 16 || !m_view.matches(at, "%PDF-"))
         return false;
     return textAt(m_view, at - 16, 16).find("stream") == std::string_view::npos;
 }

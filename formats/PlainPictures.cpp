@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 
+#include "formats/TextReader.h"
 #include "formats/Walkers.h"
 
 namespace vantor {
@@ -176,12 +177,8 @@ Extent walkXpm(ByteView& view) {
             ++at;
         else if (!quoted && *byte == '}')
             closed = true;
-        else if (closed && *byte == ';') {
-            const std::uint64_t end = view.matches(at + 1, "\r\n") ? at + 3
-                                      : view.matches(at + 1, "\n") ? at + 2
-                                                                   : at + 1;
-            return completeAt(view, end);
-        }
+        else if (closed && *byte == ';')
+            return completeAt(view, behindLineEnd(view, at + 1));
     }
 }
 

@@ -1,6 +1,5 @@
 // PNG, APNG, MNG and JNG: chunks by their length, each proved by its checksum, to the end chunk.
 // Sources: W3C PNG (third edition), MNG 1.0.
-#include <array>
 
 #include "formats/Crc.h"
 #include "formats/TiffDirectory.h"

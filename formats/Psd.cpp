@@ -1,7 +1,5 @@
 // Photoshop documents (PSD, PSB): sections by length, then the flattened picture row by row.
 // Source: Adobe Photoshop File Formats Specification.
-#include <algorithm>
-#include <array>
 
 #include "formats/Inflate.h"
 #include "formats/Walkers.h"

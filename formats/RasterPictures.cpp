@@ -55,7 +55,7 @@ Extent walkPam(ByteView& view) {
     if (!view.matches(0, "P7\n"))
         return unknownExtent();
     std::uint64_t width = 0, height = 0, depth = 0, most = 0;
-    for (std::uint64_t at = 3; at < kLongestHead; at = view.find('\n', at, kLongestHead) + 1) {
+    for (std::uint64_t at = 3; at < kLongestHead; at = view.find('\n', at, kLongestHead).at + 1) {
         if (!view.u8(at))
             return cutOffAt(view, view.size());
         width = numberBehind(view, at, "WIDTH ").value_or(width);

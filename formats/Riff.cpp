@@ -1,13 +1,10 @@
 // RIFF (AVI, WAV, WebP …) and IFF (AIFF, 8SVX, ILBM …): chunks inside the outer one, and an AVI's further
 // RIFFs. Sources: Microsoft RIFF and AVI documentation, OpenDML 1.02, EBU Tech 3306 (RF64), WebP container,
 // EA IFF 85.
-#include "formats/Riff.h"
-
 #include <algorithm>
 #include <array>
 
-#include "formats/Dates.h"
-#include "formats/TiffDirectory.h"
+#include "formats/RiffFacts.h"
 #include "formats/Walkers.h"
 
 namespace vantor {

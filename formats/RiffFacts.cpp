@@ -1,10 +1,11 @@
 // Pixel size and date of AVI, WebP and WAV files. Sources: AVI RIFF File Reference, WebP container
 // specification, EBU Tech 3285 (broadcast extension).
+#include "formats/RiffFacts.h"
+
 #include <algorithm>
 #include <array>
 
 #include "formats/Dates.h"
-#include "formats/Riff.h"
 #include "formats/TiffDirectory.h"
 
 namespace vantor {

@@ -1,7 +1,6 @@
 // Small picture formats: ICO and CUR, ICNS, PCX, TGA, DDS. Sources: Microsoft's "Icons in Win32"; Apple icon
 // services header; ZSoft PCX manual; Truevision TGA 2.0; Microsoft DDS documentation.
 #include <algorithm>
-#include <array>
 
 #include "formats/Walkers.h"
 

@@ -1,5 +1,5 @@
-// Sound files that tell their length in a header: AU, MIDI, Monkey's Audio, Musepack; and RealMedia's chunks.
-// Sources: Sun au(5); Standard MIDI Files 1.0; Musepack SV7/SV8 notes; RealMedia file format.
+// Sound files that tell their length in a header: AU, MIDI, Monkey's Audio, Musepack. Sources: Sun au(5);
+// Standard MIDI Files 1.0; Musepack SV7/SV8 notes.
 #include <array>
 
 #include "formats/AudioTags.h"
@@ -127,34 +127,6 @@ Extent walkMusepack(ByteView& view) {
         return walkMusepack8(view);
     const bool version7 = view.matches(0, "MP+") && (view.u8(3).value_or(0) & 15) == 7;
     return version7 ? walkMusepack7(view) : unknownExtent();
-}
-
-Extent walkRealMedia(ByteView& view) {
-    static constexpr std::array<std::string_view, 8> kNames = {"PROP", "MDPR", "CONT", "DATA",
-                                                               "INDX", "RMMD", "RMJD", "RMJE"};
-    if (!view.matches(0, ".RMF"))
-        return unknownExtent();
-    std::uint64_t at = view.be32(4).value_or(0);
-    if (at < 10 || at > 64)
-        return unknownExtent();
-    bool sawData = false;
-    for (int chunks = 0; chunks < kMostChunks; ++chunks) {
-        bool known = false;
-        for (const auto& name : kNames)
-            known = known || view.matches(at, name);
-        if (!known)
-            break;
-        const auto bytes = view.be32(at + 4).value_or(0);
-        if (bytes < 8)
-            return sawData ? completeAt(view, at) : unknownExtent();
-        sawData = sawData || view.matches(at, "DATA");
-        at += bytes;
-        if (at > view.size())
-            return cutOffAt(view, view.size());
-    }
-    if (!sawData)
-        return view.holds(at, 8) ? damagedAt(view, at) : cutOffAt(view, at);
-    return completeAt(view, skipTrailingTags(view, at));
 }
 
 }  // namespace vantor

@@ -24,12 +24,11 @@ Extent walkRecords(ByteView& view, std::string_view begin, std::string_view end)
                 at = whole = behindLineEnd(view, here + end.size());
                 break;
             }
-            const auto before = in.at();
             last = in.next();
             if (last < 0)
-                return cutOffAt(view, before);
+                return cutOffAt(view, here);
             if (isForeign(last))
-                return damagedAt(view, whole != 0 ? whole : before);
+                return damagedAt(view, whole != 0 ? whole : here);
         }
     }
     return completeAt(view, whole);

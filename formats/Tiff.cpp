@@ -12,8 +12,6 @@ namespace {
 
 enum Tag : std::uint16_t {
     kSubfileType = 254,
-    kWidth = 256,
-    kHeight = 257,
     kBitsPerSample = 258,
     kCompression = 259,
     kStripOffsets = 273,
@@ -29,7 +27,6 @@ enum Tag : std::uint16_t {
     kPanasonicBits = 10,
     kPanasonicRawOffset = 280,
     kPhotoshop = 34377,
-    kExif = 34665,
     kGps = 34853,
     kInterop = 40965,
     kSonyPrivate = 50740,  // also DNG's private data, then of a byte type
@@ -46,8 +43,7 @@ constexpr std::size_t kMostDirectories = 512;
 constexpr std::uint64_t kMostPieces = 1 << 21;  // strips and tiles of one directory
 constexpr std::uint64_t kMostValueBytes = 1 << 30;
 
-// Values of these magic numbers: TIFF, BigTIFF, and makers' own (Panasonic, Olympus twice and in the other
-// order of bytes, Kodak), and JPEG XR.
+// TIFF, BigTIFF, the makers' own (Panasonic; Olympus two, one of them in either order of bytes), and JPEG XR.
 bool isKnownMagic(std::uint16_t magic) {
     return magic == 42 || magic == 43 || magic == kPanasonicMagic || magic == 0x4F52 || magic == 0x5352 ||
            magic == 0x01BC;
@@ -104,11 +100,11 @@ void TiffWalk::enqueue(std::uint64_t relative) {
 void TiffWalk::entry(const TiffEntry& entry, Found& found) {
     const auto number = [&] { return readTiffNumber(m_view, m_header, entry, 0).value_or(0); };
     switch (entry.tag) {
-        case kWidth:
+        case kTiffWidth:
         case kXrWidth:
             found.width = number();
             break;
-        case kHeight:
+        case kTiffHeight:
         case kXrHeight:
             found.height = number();
             break;
@@ -151,7 +147,7 @@ void TiffWalk::entry(const TiffEntry& entry, Found& found) {
         case kXrAlphaBytes:
             found.xrAlpha.bytes = entry;
             break;
-        case kExif:
+        case kTiffExif:
         case kGps:
         case kInterop:
             enqueue(number());

@@ -10,20 +10,26 @@ namespace vantor {
 namespace {
 
 constexpr std::uint64_t kMostEntries = 4096;  // a directory of cameras and scanners has some dozens
-constexpr std::uint16_t kTagWidth = 256;
-constexpr std::uint16_t kTagHeight = 257;
 constexpr std::uint16_t kTagDateTime = 306;
-constexpr std::uint16_t kTagExif = 34665;
 constexpr std::uint16_t kTagDateTimeOriginal = 36867;
 constexpr std::uint16_t kTagDateTimeDigitized = 36868;
 
-}  // namespace
-
+// Bytes of one element of a type; 0 = no such type.
 std::uint64_t tiffTypeBytes(std::uint16_t type) {
     static constexpr std::array<std::uint8_t, 19> kBytes = {0, 1, 1, 2, 4, 8, 1, 1, 2, 4,
                                                             8, 4, 8, 4, 0, 0, 8, 8, 8};
     return type < kBytes.size() ? kBytes[type] : 0;
 }
+
+// "2021:07:09 18:30:05" and the like, any separators; nothing unless it is a plausible date.
+std::optional<CivilTime> readExifDate(ByteView& view, std::uint64_t at) {
+    std::array<std::uint8_t, 19> text{};
+    if (!view.copy(at, text))
+        return std::nullopt;
+    return parseDate({reinterpret_cast<const char*>(text.data()), text.size()});
+}
+
+}  // namespace
 
 std::optional<TiffHeader> readTiffHeader(ByteView& view, std::uint64_t base) {
     TiffHeader header;
@@ -86,13 +92,6 @@ std::optional<std::uint64_t> readTiffNumber(ByteView& view, const TiffHeader& he
     return view.number(addClamped(entry.valueAt, mulClamped(index, bytes)), bytes, header.endian);
 }
 
-std::optional<CivilTime> readExifDate(ByteView& view, std::uint64_t at) {
-    std::array<std::uint8_t, 19> text{};
-    if (!view.copy(at, text))
-        return std::nullopt;
-    return parseDate({reinterpret_cast<const char*>(text.data()), text.size()});
-}
-
 void addTiffFacts(ByteView& view, std::uint64_t base, Facts& facts) {
     const auto header = readTiffHeader(view, base);
     if (!header)
@@ -111,10 +110,10 @@ void addTiffFacts(ByteView& view, std::uint64_t base, Facts& facts) {
                 break;
             const auto number = [&] { return readTiffNumber(view, *header, *entry, 0).value_or(0); };
             switch (entry->tag) {
-                case kTagWidth:
+                case kTiffWidth:
                     size.width = static_cast<std::uint32_t>(number());
                     break;
-                case kTagHeight:
+                case kTiffHeight:
                     size.height = static_cast<std::uint32_t>(number());
                     break;
                 case kTagDateTime:
@@ -126,7 +125,7 @@ void addTiffFacts(ByteView& view, std::uint64_t base, Facts& facts) {
                 case kTagDateTimeDigitized:
                     digitized = readExifDate(view, entry->valueAt);
                     break;
-                case kTagExif:
+                case kTiffExif:
                     next = number();
                     break;
                 default:

@@ -9,6 +9,11 @@
 
 namespace vantor {
 
+// Tags that more than one reader asks for.
+inline constexpr std::uint16_t kTiffWidth = 256;
+inline constexpr std::uint16_t kTiffHeight = 257;
+inline constexpr std::uint16_t kTiffExif = 34665;
+
 // The start of a TIFF structure. `base` is what its offsets count from.
 struct TiffHeader {
     std::uint64_t base = 0;
@@ -46,14 +51,9 @@ std::optional<std::uint64_t> readTiffNext(ByteView& view, const TiffHeader& head
 // Element `index` of an entry with an unsigned integer type.
 std::optional<std::uint64_t> readTiffNumber(ByteView& view, const TiffHeader& header, const TiffEntry& entry,
                                             std::uint64_t index);
-// Bytes of one element of a type; 0 = no such type.
-std::uint64_t tiffTypeBytes(std::uint16_t type);
 
 // Adds the date (and, where the directories tell it, the pixel size) of the TIFF structure at `base`. Quietly
 // adds nothing where there is none.
 void addTiffFacts(ByteView& view, std::uint64_t base, Facts& facts);
-
-// "2021:07:09 18:30:05" and the like, any separators; nothing unless it is a plausible date.
-std::optional<CivilTime> readExifDate(ByteView& view, std::uint64_t at);
 
 }  // namespace vantor

@@ -118,9 +118,10 @@ Extent walkTorrent(ByteView& view) {
             if (!text && *byte != 'i')
                 return at < 16 ? unknownExtent() : damagedAt(view, at);
             const std::uint8_t closing = text ? ':' : 'e';
-            const auto close = view.find(closing, at, at + kMostDigits);
-            if (close >= view.size())
+            const auto search = view.find(closing, at, at + kMostDigits);
+            if (search.stopped())
                 return cutOffAt(view, view.size());
+            const auto close = search.at;
             std::uint64_t number = 0;
             for (auto digit = at; text && digit < close; ++digit) {
                 const auto value = view.u8(digit).value_or(0);
@@ -128,7 +129,7 @@ Extent walkTorrent(ByteView& view) {
                     return at < 16 ? unknownExtent() : damagedAt(view, at);
                 number = addClamped(mulClamped(number, 10), value - '0');
             }
-            if (view.u8(close) != closing)
+            if (!search.found())
                 return damagedAt(view, at);
             at = addClamped(close + 1, number);
         }
@@ -171,10 +172,10 @@ Extent walkUnityData(ByteView& view) {
         return unknownExtent();
     std::uint64_t at = 12;
     for (int version = 0; version < 2; ++version) {
-        const auto limit = at + kLongestVersion;
-        at = view.find(0, at, limit) + 1;
-        if (at > limit)
-            return unknownExtent();
+        const auto nul = view.find(0, at, at + kLongestVersion);
+        if (!nul.found())
+            return nul.stopped() ? cutOffAt(view, view.size()) : unknownExtent();
+        at = nul.at + 1;
     }
     const auto bytes = view.be64(at);
     if (!bytes)

@@ -1,5 +1,4 @@
 // Archives of member after member: ar and cpio. Sources: ar(5), cpio(5).
-#include <array>
 
 #include "formats/Walkers.h"
 

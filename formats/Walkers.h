@@ -48,7 +48,6 @@ Extent walkX3f(ByteView& view);
 // Containers of picture, sound and movie.
 Extent walkIsoMedia(ByteView& view);  // MP4, MOV, 3GP, M4A, HEIF, AVIF, CR3
 Extent walkRiff(ByteView& view);      // AVI, WAV, WebP, RF64; AIFF and other IFF
-
 Extent walkMatroska(ByteView& view);  // MKV, WebM, MKA
 Extent walkAsf(ByteView& view);       // ASF, WMV, WMA
 Extent walkFlv(ByteView& view);

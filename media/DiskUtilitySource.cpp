@@ -55,9 +55,9 @@ QByteArray DiskUtilitySource::outputFor(const QString& path) const {
     QByteArray output;
     const QDeadlineTimer deadline(kPatienceMs);
     while (utility.state() != QProcess::NotRunning && !deadline.hasExpired() && output.size() < kMostOutput) {
-        const auto rest = static_cast<int>(deadline.remainingTime());
-        if (!utility.waitForReadyRead(rest)) {
-            utility.waitForFinished(rest);
+        const auto rest = [&deadline] { return static_cast<int>(deadline.remainingTime()); };
+        if (!utility.waitForReadyRead(rest())) {
+            utility.waitForFinished(rest());
         }
         output += utility.readAllStandardOutput();
     }

@@ -18,7 +18,6 @@ namespace vantor {
 
 namespace {
 
-constexpr qsizetype kMostParts = 512;  // all stay open; well below the usual limit of 1,024 descriptors
 constexpr qsizetype kSuffixLength = 4;
 
 // "name" of "name.007"; empty for any other path.
@@ -49,6 +48,7 @@ QStringList imageParts(const QString& path) {
 
 std::unique_ptr<ImageFile> ImageFile::open(const QStringList& parts) {
     if (parts.size() > kMostParts) {
+        errno = EMFILE;
         return nullptr;
     }
     std::unique_ptr<ImageFile> image(new ImageFile);
@@ -58,7 +58,11 @@ std::unique_ptr<ImageFile> ImageFile::open(const QStringList& parts) {
         FileDescriptor descriptor(
             ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
         struct stat info {};
-        if (!descriptor || ::fstat(descriptor.get(), &info) != 0 || !S_ISREG(info.st_mode)) {
+        if (!descriptor || ::fstat(descriptor.get(), &info) != 0) {
+            return nullptr;
+        }
+        if (!S_ISREG(info.st_mode)) {
+            errno = EINVAL;
             return nullptr;
         }
         ::posix_fadvise(descriptor.get(), 0, 0, POSIX_FADV_SEQUENTIAL);
@@ -89,12 +93,16 @@ std::int64_t ImageFile::readAt(std::uint64_t sector, std::span<std::uint8_t> int
         const std::int64_t got =
             positionedRead(part->descriptor.get(), at - part->first, into.subspan(done, length));
         if (got < 0) {
-            m_gone = errno == ENODEV || errno == ENXIO || errno == ESTALE;
+            if (errno == ENODEV || errno == ENXIO || errno == ESTALE) {
+                m_gone = true;
+            }
             break;
         }
         done += static_cast<std::size_t>(got);
         if (static_cast<std::size_t>(got) < length) {
-            m_gone = got == 0 || hasShrunk(*part);
+            if (got == 0 || hasShrunk(*part)) {
+                m_gone = true;
+            }
             break;
         }
         while (part != m_parts.end() && begin + done >= part->end) {

@@ -27,7 +27,10 @@ std::optional<QString> refusePackedImage(const QString& path);
 // into another file makes the medium gone, as does an error that says so.
 class ImageFile : public BlockSource {
   public:
-    // Null when a part cannot be opened for reading or is no regular file.
+    static constexpr qsizetype kMostParts = 512;  // all stay open; the usual limit is 1,024 descriptors
+
+    // Null, with errno, when a part cannot be opened for reading or is no regular file, or when there are
+    // more of them than may be open.
     static std::unique_ptr<ImageFile> open(const QStringList& parts);
 
     std::uint64_t sectors() const override;

@@ -103,6 +103,11 @@ std::optional<MediumFacts> probeMedium(const QString& path, QString* why) {
     if (kind == Kind::Other) {
         return refuse(QStringLiteral("Neither a storage medium nor an image file"));
     }
+    if (kind == Kind::Image && imageParts(path).size() > ImageFile::kMostParts) {
+        return refuse(
+            QStringLiteral("The image is in more than %1 parts; please join them into one file first")
+                .arg(ImageFile::kMostParts));
+    }
     errno = 0;
     std::optional<MediumFacts> facts;
     if (kind != Kind::Missing) {

@@ -1,9 +1,13 @@
 // What the browsers show of the found items and in which order, and who finds out how sound they are.
+#include "results/BrowserLooks.h"
+
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QSignalBlocker>
 
-#include "app/MyTableController.h"
+#include "results/ImageBrowserView.h"
+#include "results/MyImageObject.h"
+#include "results/RecoveryMode.h"
 
 namespace vantor {
 
@@ -14,7 +18,18 @@ constexpr qint64 kReorderMilliseconds = 500;
 
 }  // namespace
 
-void MyTableController::setUpLooks() {
+BrowserLooks::BrowserLooks(const std::array<BrowserScreen, 2>& screens, LookedAtItems items)
+    : m_screens(screens), m_items(std::move(items)), m_board(m_items.at) {
+    fillBoxes();
+    m_look.setInterval(kLookMilliseconds);
+    connect(&m_look, &QTimer::timeout, this, &BrowserLooks::look);
+}
+
+const BrowserScreen& BrowserLooks::screen() const {
+    return m_screens[Recovery_MODE == kPhotoMode ? 0 : 1];
+}
+
+void BrowserLooks::fillBoxes() {
     const std::pair<QString, ShowItems> shows[] = {
         {tr("All items"), ShowItems::All},
         {tr("Complete"), ShowItems::Complete},
@@ -31,60 +46,57 @@ void MyTableController::setUpLooks() {
         {tr("By size"), SortItems::Size},
         {tr("By date taken"), SortItems::DateTaken},
     };
-    for (QComboBox* box : {showBox, showBox_Sig}) {
+    for (const BrowserScreen& screen : m_screens) {
         for (const auto& [text, value] : shows) {
-            box->addItem(text, static_cast<int>(value));
+            screen.show->addItem(text, static_cast<int>(value));
         }
-        connect(box, &QComboBox::currentIndexChanged, this, [this] { orderItems(); });
-    }
-    for (QComboBox* box : {showBox, showBox_Sig, sortBox, sortBox_Sig}) {
-        box->view()->setAccessibleName(box->accessibleName());
-    }
-    for (QComboBox* box : {sortBox, sortBox_Sig}) {
         for (const auto& [text, value] : sorts) {
-            box->addItem(text, static_cast<int>(value));
+            screen.sort->addItem(text, static_cast<int>(value));
         }
-        connect(box, &QComboBox::currentIndexChanged, this, [this] { orderItems(); });
+        for (QComboBox* box : {screen.show, screen.sort}) {
+            box->view()->setAccessibleName(box->accessibleName());
+            connect(box, &QComboBox::currentIndexChanged, this, &BrowserLooks::choose);
+        }
     }
-    m_look.setInterval(kLookMilliseconds);
-    connect(&m_look, &QTimer::timeout, this, &MyTableController::lookAtItems);
 }
 
-// The list begins anew: nothing of the last one is known any more.
-void MyTableController::beginLooks() {
-    for (QComboBox* box : {showBox, showBox_Sig, sortBox, sortBox_Sig}) {
-        const QSignalBlocker quiet(box);
-        box->setCurrentIndex(0);
-    }
+// Nothing of the last list is known any more.
+void BrowserLooks::begin(SoundnessBoard::Open open) {
     m_wish = {};
-    for (ImageBrowserView* browser : {imageBrowser, imageBrowser_2}) {
-        browser->setOrder(std::nullopt);
+    for (const BrowserScreen& screen : m_screens) {
+        for (QComboBox* box : {screen.show, screen.sort}) {
+            const QSignalBlocker quiet(box);
+            box->setCurrentIndex(0);
+        }
+        screen.browser->setOrder(std::nullopt);
     }
-    m_board.begin(m_parts.openBeside
-                      ? [open = m_parts.openBeside, device = devicePath()] { return open(device); }
-                      : SoundnessBoard::Open());
+    m_board.begin(std::move(open));
     m_look.start();
 }
 
-void MyTableController::endLooks() {
+void BrowserLooks::end() {
     m_look.stop();
     m_board.begin({});
 }
 
-ItemFacts MyTableController::factsOfItem(qsizetype index) {
-    const auto at = static_cast<std::size_t>(index);
-    const auto item = itemAt(at);
-    return {m_board.find(at), item && item->carved().readFailed, m_marks.isSaved(at)};
+void BrowserLooks::shutDown() {
+    m_look.stop();
+    m_board.requestEnd();
+}
+
+ItemFacts BrowserLooks::factsOf(std::size_t index) const {
+    const auto item = m_items.at(index);
+    return {m_board.find(index), item && item->carved().readFailed, m_items.isSaved(index)};
 }
 
 // A few times a second while found items are in view.
-void MyTableController::lookAtItems() {
-    ImageBrowserView* browser = browserOf(activeSet());
-    m_board.setMediumBusy(scanRunning() || m_saveRunning);
+void BrowserLooks::look() {
+    ImageBrowserView* browser = screen().browser;
+    m_board.setMediumBusy(m_items.mediumBusy());
     m_board.want(browser->indexesInView());
-    m_board.wantAll(m_wish.needsSoundness() ? itemCount() : 0);
+    m_board.wantAll(m_wish.needsSoundness() ? m_items.count() : 0);
     const std::uint64_t changes = m_board.changes();
-    if (changes == m_seenChanges && static_cast<int>(itemCount()) == m_orderedCount) {
+    if (changes == m_seenChanges && static_cast<int>(m_items.count()) == m_orderedCount) {
         return;
     }
     browser->viewport()->update();
@@ -95,29 +107,41 @@ void MyTableController::lookAtItems() {
 }
 
 // The user chose what to show.
-void MyTableController::orderItems() {
-    const bool photo = activeSet() == ControlSet::Photo;
-    m_wish.show = static_cast<ShowItems>((photo ? showBox : showBox_Sig)->currentData().toInt());
-    m_wish.sort = static_cast<SortItems>((photo ? sortBox : sortBox_Sig)->currentData().toInt());
-    const SavePolicy& policy = m_savingChoices.policy;
+void BrowserLooks::choose() {
+    m_wish.show = static_cast<ShowItems>(screen().show->currentData().toInt());
+    m_wish.sort = static_cast<SortItems>(screen().sort->currentData().toInt());
+    const SavePolicy policy = m_items.policy();
     m_wish.smallPixels = policy.minPixels != 0 ? policy.minPixels : kSmallPixels;
     m_wish.smallBytes = policy.minBytes != 0 ? policy.minBytes : kSmallBytes;
     putInOrder();
-    lookAtItems();
+    look();
 }
 
-void MyTableController::putInOrder() {
-    ImageBrowserView* browser = browserOf(activeSet());
-    m_orderedCount = static_cast<int>(itemCount());
+void BrowserLooks::putInOrder() {
+    ImageBrowserView* browser = screen().browser;
+    m_orderedCount = static_cast<int>(m_items.count());
     m_sinceOrder.start();
     if (m_wish.isPlain()) {
         browser->setOrder(std::nullopt);
     } else {
+        const auto known = m_board.all();
         browser->reloadData();
-        browser->setOrder(
-            browserOrder(m_orderedCount, m_wish, [this](int index) { return factsOfItem(index); }));
+        browser->setOrder(browserOrder(m_orderedCount, m_wish, [&](int index) {
+            const auto at = static_cast<std::size_t>(index);
+            ItemFacts facts;
+            if (at < known.size()) {
+                facts.soundness = known[at];
+            }
+            if (m_wish.show == ShowItems::Unreadable) {
+                const auto item = m_items.at(at);
+                facts.readFailed = item && item->carved().readFailed;
+            } else if (m_wish.show == ShowItems::NotSaved) {
+                facts.saved = m_items.isSaved(at);
+            }
+            return facts;
+        }));
     }
-    showItemCounts();
+    emit changed();
 }
 
 }  // namespace vantor

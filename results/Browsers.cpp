@@ -34,6 +34,20 @@ void MyTableController::addImageWithData(const QByteArray& data, const QString& 
         });
 }
 
+ItemFacts MyTableController::factsOfItem(qsizetype index) {
+    return m_looks->factsOf(static_cast<std::size_t>(index));
+}
+
+LookedAtItems MyTableController::lookedAtItems() {
+    LookedAtItems items;
+    items.at = [this](std::size_t index) { return itemAt(index); };
+    items.count = [this] { return itemCount(); };
+    items.isSaved = [this](std::size_t index) { return m_desk->marks().isSaved(index); };
+    items.mediumBusy = [this] { return scanRunning() || m_desk->isRunning(); };
+    items.policy = [this] { return m_desk->choices().policy; };
+    return items;
+}
+
 qsizetype MyTableController::numberOfItemsInImageBrowser(const ImageBrowserView*) {
     return static_cast<qsizetype>(itemCount());
 }
@@ -91,11 +105,11 @@ void MyTableController::filterResultRows() {
 void MyTableController::showItemCounts() {
     const qsizetype found = static_cast<qsizetype>(itemCount());
     const auto words = [&](const ImageBrowserView* browser) {
-        const qsizetype selected = browser->selectionIndexes().size();
+        const qsizetype selected = browser->selectedCount();
         const QString count = found == 1 ? tr("1 item") : tr("%1 items").arg(QLocale().toString(found));
         const int shown = browser->shownCount();
         const QString inView =
-            m_wish.isPlain() ? count : tr("%1 of %2").arg(QLocale().toString(shown), count);
+            m_looks->isPlain() ? count : tr("%1 of %2").arg(QLocale().toString(shown), count);
         return selected > 0 ? tr("%1, %2 selected").arg(inView, QLocale().toString(selected)) : inView;
     };
     photoCountLabel->setText(words(imageBrowser));
@@ -108,11 +122,11 @@ void MyTableController::showItemCounts() {
     const bool haveFolder = !pathInView()->text().isEmpty();
     _open_folder->setEnabled(haveFolder);
     _open_folder_Sig->setEnabled(haveFolder);
-    const auto savedCount = static_cast<qsizetype>(m_marks.saved());
+    const auto savedCount = static_cast<qsizetype>(m_desk->marks().saved());
     const QString saved =
         savedCount == 0 ? QString()
                         : tr("%1 of %2 saved").arg(QLocale().toString(savedCount), QLocale().toString(found));
-    const int changed = changedChoices(m_savingChoices);
+    const int changed = changedChoices(m_desk->choices());
     for (QPushButton* button : {savingOptionsButton, savingOptionsButton_Sig}) {
         button->setText(changed == 0 ? tr("O&ptions…") : tr("O&ptions (%1)…").arg(changed));
     }

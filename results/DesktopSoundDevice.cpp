@@ -129,6 +129,7 @@ class DesktopSoundDevice : public SoundDevice {
     void start(Fill fill) override {
         const int turn = ++m_keeper->turn;
         m_keeper->played = 0;
+        m_keeper->failed = false;
         m_keeper->bytes.setFill(std::move(fill));
         QMetaObject::invokeMethod(m_keeper, [keeper = m_keeper, turn] { keeper->start(turn); });
     }

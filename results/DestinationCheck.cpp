@@ -9,23 +9,11 @@
 #include <QFileInfo>
 #include <optional>
 
+#include "results/WholeDisks.h"
+
 namespace vantor {
 
 namespace {
-
-// The name of the whole disk that a block device number belongs to, such as "sdb"; empty when the system
-// knows none.
-QString wholeDiskOf(dev_t device) {
-    const QString link = QStringLiteral("/sys/dev/block/%1:%2").arg(major(device)).arg(minor(device));
-    QString node = QFileInfo(link).canonicalFilePath();
-    if (node.isEmpty()) {
-        return {};
-    }
-    if (QFileInfo::exists(node + QStringLiteral("/partition"))) {
-        node = QFileInfo(node).path();
-    }
-    return QFileInfo(node).fileName();
-}
 
 // The block device behind a place's file system. Some file systems report a number of no device; then the
 // table of mounts names the source.
@@ -81,8 +69,7 @@ bool destinationIsOnMedium(const QString& folder, const QString& mediumPath) {
     if (under == medium->st_rdev) {
         return true;
     }
-    const QString disk = wholeDiskOf(medium->st_rdev);
-    return !disk.isEmpty() && disk == wholeDiskOf(under);
+    return wholeDisksOf(medium->st_rdev).intersects(wholeDisksOf(under));
 }
 
 }  // namespace vantor

@@ -30,6 +30,7 @@ void ImageBrowserModel::reloadData() {
     m_firstUid = firstUid;
     if (m_order) {
         m_order->clear();
+        m_rowOf.clear();
     }
     endResetModel();
 }
@@ -40,11 +41,20 @@ void ImageBrowserModel::setOrder(std::optional<QList<int>> order) {
     }
     beginResetModel();
     m_order = std::move(order);
+    m_rowOf.clear();
+    if (m_order) {
+        m_rowOf.resize(m_count, -1);
+        for (int row = 0; row < m_order->size(); ++row) {
+            if (const int index = m_order->at(row); index >= 0 && index < m_count) {
+                m_rowOf[index] = row;
+            }
+        }
+    }
     endResetModel();
 }
 
 int ImageBrowserModel::rowOfIndex(int index) const {
-    return m_order ? static_cast<int>(m_order->indexOf(index)) : index;
+    return m_order ? m_rowOf.value(index, -1) : index;
 }
 
 ItemFacts ImageBrowserModel::facts(qsizetype index) const {

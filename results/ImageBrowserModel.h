@@ -63,6 +63,7 @@ class ImageBrowserModel : public QAbstractListModel {
     ImageBrowserDataSource* m_source = nullptr;
     int m_count = 0;
     std::optional<QList<int>> m_order;
+    QList<int> m_rowOf;  // of an item of the list, while there is an order; -1: not shown
     QString m_firstUid;  // tells a list that grew from one that began anew
 };
 

@@ -70,6 +70,33 @@ QList<qsizetype> ImageBrowserView::selectionIndexes() const {
     return rows;
 }
 
+qsizetype ImageBrowserView::selectedCount() const {
+    qsizetype count = 0;
+    for (const QItemSelectionRange& range : selectionModel()->selection()) {
+        count += range.height();
+    }
+    return count;
+}
+
+// As few ranges as there can be: whatever works on a selection takes its time range by range.
+QItemSelection ImageBrowserView::rangesOf(const QList<qsizetype>& indexes) const {
+    std::vector<int> rows;
+    rows.reserve(static_cast<std::size_t>(indexes.size()));
+    for (const qsizetype index : indexes) {
+        if (const int row = m_model->rowOfIndex(static_cast<int>(index)); row >= 0) {
+            rows.push_back(row);
+        }
+    }
+    std::sort(rows.begin(), rows.end());
+    QItemSelection ranges;
+    for (std::size_t from = 0, to = 0; from < rows.size(); from = to) {
+        for (to = from + 1; to < rows.size() && rows[to] == rows[to - 1] + 1; ++to) {
+        }
+        ranges.append(QItemSelectionRange(m_model->index(rows[from]), m_model->index(rows[to - 1])));
+    }
+    return ranges;
+}
+
 void ImageBrowserView::setOrder(std::optional<QList<int>> order) {
     if (!order && !m_model->hasOrder()) {
         return;
@@ -78,14 +105,7 @@ void ImageBrowserView::setOrder(std::optional<QList<int>> order) {
     const int current = currentIndex().isValid() ? m_model->indexOfRow(currentIndex().row()) : -1;
     const int scrolled = verticalScrollBar()->value();
     m_model->setOrder(std::move(order));
-    QItemSelection selection;
-    for (const qsizetype index : selected) {
-        const int row = m_model->rowOfIndex(static_cast<int>(index));
-        if (row >= 0) {
-            selection.append(QItemSelectionRange(m_model->index(row)));
-        }
-    }
-    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    selectionModel()->select(rangesOf(selected), QItemSelectionModel::ClearAndSelect);
     if (const int row = current >= 0 ? m_model->rowOfIndex(current) : -1; row >= 0) {
         selectionModel()->setCurrentIndex(m_model->index(row), QItemSelectionModel::NoUpdate);
     }

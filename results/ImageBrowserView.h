@@ -34,6 +34,7 @@ class ImageBrowserView : public QListView {
     // Items by their places in the list, whatever the order.
     void scrollIndexToVisible(qsizetype index);
     QList<qsizetype> selectionIndexes() const;  // ascending
+    qsizetype selectedCount() const;
     std::vector<std::size_t> indexesInView() const;
     int shownCount() const;
 
@@ -53,6 +54,7 @@ class ImageBrowserView : public QListView {
     void startDrag(Qt::DropActions) override {}
 
   private:
+    QItemSelection rangesOf(const QList<qsizetype>& indexes) const;
     void describeState();
 
     ImageBrowserModel* m_model;

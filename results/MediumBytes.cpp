@@ -66,6 +66,9 @@ std::size_t MediumBytes::read(std::uint64_t offset, std::span<std::uint8_t> into
 std::size_t MediumBytes::readPast(std::uint64_t offset, std::span<std::uint8_t> into) {
     const auto count = std::min<std::uint64_t>(into.size(), m_size - std::min(offset, m_size));
     into = into.first(static_cast<std::size_t>(count));
+    if (m_readableSectors != kNoLimit && offset >= m_readableSectors * kSectorBytes) {
+        return 0;
+    }
     if (offset % kSectorBytes == 0 && count % kSectorBytes == 0 && offset >= m_keptEnd) {
         return readSectors(offset / kSectorBytes, into);
     }
@@ -130,7 +133,6 @@ std::size_t MediumBytes::readSectors(std::uint64_t first, std::span<std::uint8_t
         m_readableSectors = std::min(m_readableSectors, first);
         return 0;
     }
-    auto mark = Clock::now();
     for (std::size_t done = 0; done < into.size(); done += kSectorBytes) {
         const std::uint64_t sector = first + done / kSectorBytes;
         if (sector >= m_readableSectors) {
@@ -138,14 +140,13 @@ std::size_t MediumBytes::readSectors(std::uint64_t first, std::span<std::uint8_t
         }
         std::uint8_t* const place = into.data() + done;
         const std::uint64_t at = onMedium(sector);
+        const auto asked = Clock::now();
         if ((medium->position() == at || medium->seek(at)) && medium->read()) {
             std::memcpy(place, medium->current(), kSectorBytes);
             continue;
         }
         std::memset(place, 0, kSectorBytes);
-        const auto now = Clock::now();
-        noteRefusal(sector, std::chrono::duration<double>(now - mark).count());
-        mark = now;
+        noteRefusal(sector, std::chrono::duration<double>(Clock::now() - asked).count());
     }
     if (first * kSectorBytes + into.size() > m_carvedBytes) {
         m_bytesReadBeyond += into.size();

@@ -104,7 +104,7 @@ void MyTableController::showPreviewFacts() {
     const Movie* const sound = soundControls->movie();
     const QString size = QLocale().formattedDataSize(file.size());
     previewFacts->setText(sound != nullptr && sound->durationMs() > 0
-                              ? tr("%1, %2 min").arg(size, timeText(sound->durationMs()))
+                              ? tr("%1, %2").arg(size, timeText(sound->durationMs()))
                               : size);
 }
 

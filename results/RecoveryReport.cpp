@@ -64,7 +64,7 @@ QString relativePath(const QString& folder, const QString& path) {
     return QDir(folder).relativeFilePath(path);
 }
 
-QString soundnessOf(const SaveOutcome& outcome) {
+QString stateText(const SaveOutcome& outcome) {
     QString text = soundnessText(outcome.verdict);
     if (outcome.verdict == Verdict::Complete && !outcome.exactLength) {
         text += QStringLiteral(", length estimated");
@@ -131,7 +131,7 @@ QString itemRow(const ReportedItem& item, const QString& folder, const ReportThu
         outcome.saved
             ? QStringLiteral("<span class=\"%1\">%2</span>")
                   .arg(QLatin1String(kClasses[static_cast<int>(outcome.verdict)]),
-                       soundnessOf(outcome).toHtmlEscaped())
+                       stateText(outcome).toHtmlEscaped())
             : QStringLiteral("<span class=\"failed\">%1</span>")
                   .arg((resultText(outcome) + QStringLiteral(": ") + reasonText(outcome)).toHtmlEscaped());
     QStringList cells{
@@ -169,10 +169,11 @@ QString quoted(QString field) {
     return u'"' + field.replace(u'"', QStringLiteral("\"\"")) + u'"';
 }
 
-}  // namespace
+// Takes a text piece by piece: with its pictures, that of a large card does not belong in memory.
+using Pieces = std::function<void(const QByteArray&)>;
 
-QByteArray reportHtml(const ReportHead& head, const std::vector<ReportedItem>& items, const QString& folder,
-                      const ReportThumbnail& thumbnail) {
+void htmlTo(const Pieces& add, const ReportHead& head, const std::vector<ReportedItem>& items,
+            const QString& folder, const ReportThumbnail& thumbnail) {
     QString text = QStringLiteral(
                        "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\">"
                        "<meta name=\"viewport\" content=\"width=device-width\">"
@@ -191,17 +192,17 @@ QByteArray reportHtml(const ReportHead& head, const std::vector<ReportedItem>& i
     if (thumbnail) {
         columns.prepend(QString());
     }
-    QByteArray html = (text + row(columns, "th")).toUtf8();
+    add((text + row(columns, "th")).toUtf8());
     for (const ReportedItem& item : items) {
-        html += itemRow(item, folder, thumbnail).toUtf8();
+        add(itemRow(item, folder, thumbnail).toUtf8());
     }
-    return html + "</table>\n</body></html>\n";
+    add("</table>\n</body></html>\n");
 }
 
-QByteArray reportCsv(const ReportHead& head, const std::vector<ReportedItem>& items, const QString& folder) {
-    QByteArray csv =
-        "name,type,medium,first_sector,end_sector,bytes,sha256,soundness,exact_length,unreadable_sectors,"
-        "taken,width,height,result,path_or_reason\r\n";
+void csvTo(const Pieces& add, const ReportHead& head, const std::vector<ReportedItem>& items,
+           const QString& folder) {
+    add("name,type,medium,first_sector,end_sector,bytes,sha256,soundness,exact_length,unreadable_sectors,"
+        "taken,width,height,result,path_or_reason\r\n");
     for (const ReportedItem& item : items) {
         const SaveOutcome& o = item.outcome;
         const QStringList fields{quoted(item.name),
@@ -219,17 +220,31 @@ QByteArray reportCsv(const ReportHead& head, const std::vector<ReportedItem>& it
                                  QString::number(o.height),
                                  resultText(o),
                                  quoted(o.saved ? relativePath(folder, o.path) : reasonText(o))};
-        csv += fields.join(u',').toUtf8() + "\r\n";
+        add(fields.join(u',').toUtf8() + "\r\n");
     }
+}
+
+}  // namespace
+
+QByteArray reportHtml(const ReportHead& head, const std::vector<ReportedItem>& items, const QString& folder,
+                      const ReportThumbnail& thumbnail) {
+    QByteArray html;
+    htmlTo([&html](const QByteArray& piece) { html += piece; }, head, items, folder, thumbnail);
+    return html;
+}
+
+QByteArray reportCsv(const ReportHead& head, const std::vector<ReportedItem>& items, const QString& folder) {
+    QByteArray csv;
+    csvTo([&csv](const QByteArray& piece) { csv += piece; }, head, items, folder);
     return csv;
 }
 
 WrittenReport writeReport(const QString& folder, const ReportHead& head,
                           const std::vector<ReportedItem>& items, const ReportThumbnail& thumbnail) {
     WrittenReport written;
-    const auto write = [&](const QByteArray& text, const char* name) {
+    const auto write = [&](const char* name, const std::function<void(const Pieces&)>& text) {
         WholeFile file(folder);
-        file.write(text);
+        text([&file](const QByteArray& piece) { file.write(piece); });
         const auto path = file.commit(QLatin1String(name));
         if (!path) {
             written.error =
@@ -237,8 +252,9 @@ WrittenReport writeReport(const QString& folder, const ReportHead& head,
         }
         return path.value_or(QString());
     };
-    written.html = write(reportHtml(head, items, folder, thumbnail), "Recovery report.html");
-    written.csv = write(reportCsv(head, items, folder), "Recovery report.csv");
+    written.html = write("Recovery report.html",
+                         [&](const Pieces& add) { htmlTo(add, head, items, folder, thumbnail); });
+    written.csv = write("Recovery report.csv", [&](const Pieces& add) { csvTo(add, head, items, folder); });
     return written;
 }
 

@@ -1,6 +1,7 @@
 // One thread, one queue, one medium.
 #include "results/SaveQueue.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vantor {
@@ -10,8 +11,10 @@ namespace {
 // What a waiting task costs besides its bytes, so that tasks without bytes are capped too.
 constexpr std::uint64_t kTaskBytes = 1024;
 
+// Bytes may have room to spare behind them.
 std::uint64_t costOf(const SaveTask& task) {
-    return static_cast<std::uint64_t>(task.firstBytes.size()) + kTaskBytes;
+    return static_cast<std::uint64_t>(std::max(task.firstBytes.capacity(), task.firstBytes.size())) +
+           kTaskBytes;
 }
 
 }  // namespace

@@ -105,6 +105,11 @@ std::optional<Soundness> SoundnessBoard::find(std::size_t index) const {
     return index < m_known.size() ? m_known[index] : std::nullopt;
 }
 
+std::vector<std::optional<Soundness>> SoundnessBoard::all() const {
+    const std::lock_guard lock(m_mutex);
+    return m_known;
+}
+
 std::size_t SoundnessBoard::known() const {
     const std::lock_guard lock(m_mutex);
     return m_knownCount;

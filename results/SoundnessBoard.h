@@ -46,6 +46,8 @@ class SoundnessBoard {
     void note(std::size_t index, const Soundness& soundness);
 
     std::optional<Soundness> find(std::size_t index) const;
+    // Everything known so far; items beyond its end are not.
+    std::vector<std::optional<Soundness>> all() const;
     std::size_t known() const;
     // Grows whenever something new is known.
     std::uint64_t changes() const { return m_changes; }

@@ -7,9 +7,9 @@
 #include <unistd.h>
 
 #include <QFile>
+#include <QRandomGenerator>
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 
 namespace vantor {
@@ -17,6 +17,7 @@ namespace vantor {
 namespace {
 
 constexpr int kMostNamesTried = 100000;
+constexpr mode_t kMode = 0644;  // less the user's mask
 
 // "name.ext" with " (n)" before the extension; n = 1 is the name itself.
 QString numberedName(const QString& name, int n) {
@@ -47,18 +48,18 @@ std::optional<QString> firstFreeName(const QString& folder, const QString& name,
 
 WholeFile::WholeFile(const QString& folder) : m_folder(folder) {
     const QByteArray path = QFile::encodeName(folder);
-    m_fd = ::open(path.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0644);
+    m_fd = ::open(path.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, kMode);
     if (m_fd >= 0) {
         return;
     }
     if (errno == EOPNOTSUPP || errno == EISDIR || errno == EINVAL || errno == ENOENT) {
-        QByteArray pattern = path + "/.vantor-XXXXXX.part";
-        m_fd = ::mkostemps(pattern.data(), 5, O_CLOEXEC);
+        m_temporaryPath =
+            path + "/.vantor-" + QByteArray::number(QRandomGenerator::system()->generate64(), 16) + ".part";
+        m_fd = ::open(m_temporaryPath.constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, kMode);
         if (m_fd >= 0) {
-            m_temporaryPath = pattern;
-            ::fchmod(m_fd, 0644);
             return;
         }
+        m_temporaryPath.clear();
     }
     fail();
 }
@@ -126,7 +127,7 @@ bool WholeFile::takeName(const QByteArray& path) {
     }
     // The file system knows no rename that refuses to replace: reserve the name first, then replace our own
     // file.
-    const int reserved = ::open(path.constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0644);
+    const int reserved = ::open(path.constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, kMode);
     if (reserved < 0) {
         return false;
     }

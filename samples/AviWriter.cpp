@@ -1,4 +1,6 @@
 // AVI: RIFF lists of Motion JPEG frames with the sound between them.
+#include <algorithm>
+
 #include "samples/Bytes.h"
 #include "samples/MovieWriters.h"
 

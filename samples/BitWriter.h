@@ -23,7 +23,6 @@ class HighBitFirst {
         while (m_count != 0)
             putBit(bit);
     }
-    bool isAligned() const { return m_count == 0; }
     QByteArray& bytes() { return m_bytes; }
 
   private:

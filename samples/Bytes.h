@@ -41,10 +41,6 @@ class Bytes {
         for (int i = 0; i < 4; ++i)
             m_bytes[at + i] = static_cast<char>(value >> (8 * i));
     }
-    void setBe32(qsizetype at, std::uint64_t value) {
-        for (int i = 0; i < 4; ++i)
-            m_bytes[at + i] = static_cast<char>(value >> (8 * (3 - i)));
-    }
 
     qsizetype size() const { return m_bytes.size(); }
     const QByteArray& bytes() const { return m_bytes; }

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "samples/Fixed.h"
+#include "samples/Pixels.h"
 #include "samples/Random.h"
 
 namespace vantor::samples {
@@ -270,12 +271,11 @@ Picture Canvas::finish() const {
     Picture picture{m_width, m_height, {}};
     picture.rgb.reserve(m_pixels.size() * 3);
     // A little ordered noise in place of plain rounding keeps slow gradients smooth.
-    static constexpr int kBayer[16] = {0, 8, 2, 10, 12, 4, 14, 6, 3, 11, 1, 9, 15, 7, 13, 5};
     for (int y = 0; y < m_height; ++y) {
         for (int x = 0; x < m_width; ++x) {
             const Pixel& p = m_pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width) +
                                       static_cast<std::size_t>(x)];
-            const int threshold = kBayer[(y & 3) * 4 + (x & 3)] * 16;
+            const int threshold = ditherAt(x, y) * 16;
             for (const int channel : {int{p.red}, int{p.green}, int{p.blue}})
                 picture.rgb.push_back(static_cast<std::uint8_t>(std::min(255, (channel + threshold) >> 8)));
         }

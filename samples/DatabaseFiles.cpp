@@ -1,5 +1,6 @@
 // Databases of one table.
 #include <iterator>
+#include <vector>
 
 #include "samples/Bytes.h"
 #include "samples/Documents.h"
@@ -37,7 +38,7 @@ QByteArray textType(const QByteArray& text) {
     return variable(13 + 2 * static_cast<std::uint64_t>(text.size()));
 }
 
-// A leaf page; its cells fill it from the end. The page's own header stands `at` bytes into it.
+// A leaf page; its cells fill it from the end. The page's own header stands behind `before`.
 QByteArray leafPage(const std::vector<QByteArray>& records, const QByteArray& before) {
     QByteArray cells;
     Bytes pointers;

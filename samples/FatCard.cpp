@@ -4,6 +4,7 @@
 #include <numeric>
 
 #include "samples/Bytes.h"
+#include "samples/CardTime.h"
 #include "samples/FatNames.h"
 
 namespace vantor::samples {
@@ -19,7 +20,6 @@ constexpr int kArchive = 0x20;
 constexpr char kDeleted = '\xE5';
 const QByteArray kLabel = "VANTOR CARD";
 
-constexpr int kDate = (2024 - 1980) << 9 | 6 << 5 | 1;  // 1 June 2024
 // Entries are a minute apart, from ten o'clock on.
 int timeOf(int entry) {
     const int minutes = 600 + entry;
@@ -35,11 +35,11 @@ QByteArray directoryEntry(const QByteArray& shortName, int attributes, int time,
         .u8(0)
         .u8(0)
         .le16(t)
-        .le16(kDate)
-        .le16(kDate)
+        .le16(kDosDate)
+        .le16(kDosDate)
         .le16(0);
     entry.le16(t)
-        .le16(kDate)
+        .le16(kDosDate)
         .le16(static_cast<std::uint64_t>(firstCluster))
         .le32(static_cast<std::uint64_t>(bytes));
     return entry.bytes();

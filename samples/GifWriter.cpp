@@ -1,9 +1,11 @@
 // GIF89a with a fixed palette, ordered dithering and our own LZW.
+#include <algorithm>
 #include <vector>
 
 #include "samples/BitWriter.h"
 #include "samples/Bytes.h"
 #include "samples/PictureWriters.h"
+#include "samples/Pixels.h"
 
 namespace vantor::samples {
 
@@ -16,14 +18,12 @@ constexpr int kEnd = kClear + 1;
 constexpr int kLargestCode = 4095;
 
 QByteArray indexed(const Picture& picture) {
-    static constexpr int kBayer[16] = {0, 8, 2, 10, 12, 4, 14, 6, 3, 11, 1, 9, 15, 7, 13, 5};
     QByteArray indices;
     for (int y = 0; y < picture.height; ++y) {
         for (int x = 0; x < picture.width; ++x) {
             int index = 0;
             for (int c = 0; c < 3; ++c) {
-                const int scaled =
-                    picture.pixel(x, y)[c] * (kLevels - 1) * 16 + kBayer[(y & 3) * 4 + (x & 3)] * 255;
+                const int scaled = picture.pixel(x, y)[c] * (kLevels - 1) * 16 + ditherAt(x, y) * 255;
                 index = index * kLevels + scaled / (255 * 16);
             }
             indices.append(static_cast<char>(index));

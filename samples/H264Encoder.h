@@ -20,6 +20,9 @@ struct H264Video {
 
 H264Video encodeH264(const std::vector<Picture>& frames);
 
+// What stands before each part in a bare stream (ITU-T H.264 annex B).
+inline const QByteArray kStartCode("\0\0\0\1", 4);
+
 // The avcC record (ISO/IEC 14496-15) with four-byte lengths.
 QByteArray avcConfiguration(const H264Video& video);
 // A frame with its length before it, as MP4, Matroska and FLV store it.

@@ -7,17 +7,6 @@ namespace vantor::samples {
 
 namespace {
 
-std::uint64_t bytesIn(const Sound& sound) {
-    return sound.samples.size() * 2;
-}
-
-QByteArray lowByteFirst(const Sound& sound) {
-    Bytes out;
-    for (const std::int16_t sample : sound.samples)
-        out.le16(static_cast<std::uint16_t>(sample));
-    return out.bytes();
-}
-
 // One channel of 16-bit PCM as a wave's "fmt " describes it.
 QByteArray waveFormat(const Sound& sound) {
     const auto rate = static_cast<std::uint64_t>(sound.rate);
@@ -34,10 +23,10 @@ QByteArray longName(const char* letters) {
 QByteArray rf64File(const Sound& sound) {
     constexpr std::uint64_t kToldInDs64 = 0xFFFFFFFF;
     Bytes out;
-    out.text("RF64").le32(kToldInDs64).text("WAVEds64").le32(28).le64(72 + bytesIn(sound));
-    out.le64(bytesIn(sound)).le64(sound.samples.size()).le32(0);
+    out.text("RF64").le32(kToldInDs64).text("WAVEds64").le32(28).le64(72 + bytesOf(sound));
+    out.le64(bytesOf(sound)).le64(sound.samples.size()).le32(0);
     out.text("fmt ").le32(16).raw(waveFormat(sound)).text("data").le32(kToldInDs64);
-    return out.raw(lowByteFirst(sound)).bytes();
+    return out.raw(littleEndian(sound)).bytes();
 }
 
 QByteArray w64File(const Sound& sound) {
@@ -45,7 +34,7 @@ QByteArray w64File(const Sound& sound) {
     const QByteArray riff = Bytes().text("riff").raw(QByteArray::fromHex("2E91CF11A5D628DB04C10000")).bytes();
     Bytes chunks;
     chunks.raw(longName("wave")).raw(longName("fmt ")).le64(kChunkHeader + 16).raw(waveFormat(sound));
-    chunks.raw(longName("data")).le64(kChunkHeader + bytesIn(sound)).raw(lowByteFirst(sound)).alignTo(8);
+    chunks.raw(longName("data")).le64(kChunkHeader + bytesOf(sound)).raw(littleEndian(sound)).alignTo(8);
     Bytes out;
     return out.raw(riff)
         .le64(kChunkHeader + static_cast<std::uint64_t>(chunks.size()))
@@ -69,7 +58,7 @@ QByteArray sphereFile(const Sound& sound) {
                         QByteArray::number(sound.samples.size()) + "\nsample_rate -i " +
                         QByteArray::number(sound.rate) +
                         "\nsample_n_bytes -i 2\nsample_byte_format -s2 01\nsample_coding -s3 pcm\nend_head\n";
-    return header.leftJustified(1024) + lowByteFirst(sound);
+    return header.leftJustified(1024) + littleEndian(sound);
 }
 
 QByteArray rmiFile() {

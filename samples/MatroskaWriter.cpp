@@ -1,4 +1,6 @@
 // Matroska (RFC 9559): nested elements, one track, a cluster every ten frames.
+#include <algorithm>
+
 #include "samples/Bytes.h"
 #include "samples/MovieWriters.h"
 

@@ -1,6 +1,7 @@
 // XZ, 7z and cabinet files whose content is stored as it is.
 #include "samples/Archives.h"
 #include "samples/Bytes.h"
+#include "samples/CardTime.h"
 #include "samples/Checksums.h"
 
 namespace vantor::samples {
@@ -134,16 +135,14 @@ QByteArray sevenZipFile(const std::vector<ArchiveMember>& members) {
 
 QByteArray cabFile(const std::vector<ArchiveMember>& members) {
     constexpr qsizetype kBlock = 32768;
-    constexpr int kDate = (2024 - 1980) << 9 | 6 << 5 | 1;
-    constexpr int kTime = 10 << 11;
     Bytes files;
     QByteArray content;
     for (const ArchiveMember& member : members) {
         files.le32(sizeOf(member.bytes))
             .le32(sizeOf(content))
             .le16(0)
-            .le16(kDate)
-            .le16(kTime)
+            .le16(kDosDate)
+            .le16(kDosTime)
             .le16(0x20)
             .raw(member.name)
             .u8(0);

@@ -1,4 +1,6 @@
 // A PDF page with a drawing and a photo.
+#include <vector>
+
 #include "samples/Documents.h"
 #include "samples/JpegEncoder.h"
 

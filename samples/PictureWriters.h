@@ -44,4 +44,7 @@ QByteArray dcxFile(const std::vector<Picture>& pages);  // PCX pages
 // Several JPEG files in one, indexed by the first (CIPA DC-007).
 QByteArray mpoFile(const Picture& left, const Picture& right);
 
+// A chunk of PNG and its kin: length, type, content, checksum.
+QByteArray pngChunk(const char* type, const QByteArray& content);
+
 }  // namespace vantor::samples

@@ -1,6 +1,7 @@
 // The picture formats that are little more than a header and pixels.
 #include "samples/Bytes.h"
 #include "samples/PictureWriters.h"
+#include "samples/Pixels.h"
 
 namespace vantor::samples {
 
@@ -17,10 +18,6 @@ QByteArray plane(const Picture& picture, int channel) {
         for (int x = 0; x < picture.width; ++x)
             bytes.append(static_cast<char>(picture.pixel(x, y)[channel]));
     return bytes;
-}
-
-QByteArray rgbBytes(const Picture& picture) {
-    return {reinterpret_cast<const char*>(picture.rgb.data()), static_cast<qsizetype>(picture.rgb.size())};
 }
 
 // Blue first, bottom row first, each row filled up to `rowUnit` bytes.
@@ -105,8 +102,7 @@ QByteArray pgmFile(const Picture& picture) {
     QByteArray grey;
     for (int y = 0; y < picture.height; ++y) {
         for (int x = 0; x < picture.width; ++x) {
-            const std::uint8_t* p = picture.pixel(x, y);
-            grey.append(static_cast<char>((p[0] * 77 + p[1] * 150 + p[2] * 29) >> 8));
+            grey.append(static_cast<char>(greyOf(picture.pixel(x, y))));
         }
     }
     return netpbmHeader("P5", picture) + grey;

@@ -6,19 +6,19 @@
 
 namespace vantor::samples {
 
-namespace {
-
-constexpr int kFilterUp = 2;  // each byte less the one above it
-
-QByteArray chunk(const char* type, const QByteArray& content) {
+QByteArray pngChunk(const char* type, const QByteArray& content) {
     const QByteArray body = QByteArray(type) + content;
     return Bytes().be32(static_cast<std::uint64_t>(content.size())).raw(body).be32(crc32(body)).bytes();
 }
 
+namespace {
+
+constexpr int kFilterUp = 2;  // each byte less the one above it
+
 QByteArray header(const Picture& picture) {
     Bytes content;
     content.be32(static_cast<std::uint64_t>(picture.width)).be32(static_cast<std::uint64_t>(picture.height));
-    return chunk("IHDR", content.u8(8).u8(2).u8(0).u8(0).u8(0).bytes());
+    return pngChunk("IHDR", content.u8(8).u8(2).u8(0).u8(0).u8(0).bytes());
 }
 
 QByteArray pixels(const Picture& picture) {
@@ -41,28 +41,28 @@ QByteArray frameControl(const Picture& frame, int sequence) {
     Bytes content;
     content.be32(static_cast<std::uint64_t>(sequence));
     content.be32(static_cast<std::uint64_t>(frame.width)).be32(static_cast<std::uint64_t>(frame.height));
-    return chunk("fcTL", content.be32(0).be32(0).be16(1).be16(10).u8(0).u8(0).bytes());
+    return pngChunk("fcTL", content.be32(0).be32(0).be16(1).be16(10).u8(0).u8(0).bytes());
 }
 
 }  // namespace
 
 QByteArray pngFile(const Picture& picture) {
-    return kSignature + header(picture) + chunk("IDAT", pixels(picture)) + chunk("IEND", {});
+    return kSignature + header(picture) + pngChunk("IDAT", pixels(picture)) + pngChunk("IEND", {});
 }
 
 QByteArray animatedPngFile(const std::vector<Picture>& frames) {
     QByteArray out = kSignature + header(frames.front());
-    out += chunk("acTL", Bytes().be32(frames.size()).be32(0).bytes());
+    out += pngChunk("acTL", Bytes().be32(frames.size()).be32(0).bytes());
     int sequence = 0;
     for (std::size_t i = 0; i < frames.size(); ++i) {
         out += frameControl(frames[i], sequence++);
         if (i == 0)
-            out += chunk("IDAT", pixels(frames[i]));
+            out += pngChunk("IDAT", pixels(frames[i]));
         else
-            out += chunk("fdAT",
-                         Bytes().be32(static_cast<std::uint64_t>(sequence++)).raw(pixels(frames[i])).bytes());
+            out += pngChunk(
+                "fdAT", Bytes().be32(static_cast<std::uint64_t>(sequence++)).raw(pixels(frames[i])).bytes());
     }
-    return out + chunk("IEND", {});
+    return out + pngChunk("IEND", {});
 }
 
 QByteArray icnsFile(const Picture& picture256) {

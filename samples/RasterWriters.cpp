@@ -2,9 +2,9 @@
 #include <bit>
 
 #include "samples/Bytes.h"
-#include "samples/Checksums.h"
 #include "samples/JpegEncoder.h"
 #include "samples/PictureWriters.h"
+#include "samples/Pixels.h"
 
 namespace vantor::samples {
 
@@ -17,16 +17,8 @@ std::uint64_t high(const Picture& picture) {
     return static_cast<std::uint64_t>(picture.height);
 }
 
-int greyOf(const std::uint8_t* pixel) {
-    return (pixel[0] * 77 + pixel[1] * 150 + pixel[2] * 29) >> 8;
-}
-
 QByteArray sizeText(const Picture& picture) {
     return QByteArray::number(picture.width) + ' ' + QByteArray::number(picture.height);
-}
-
-QByteArray rgbOf(const Picture& picture) {
-    return {reinterpret_cast<const char*>(picture.rgb.data()), static_cast<qsizetype>(picture.rgb.size())};
 }
 
 // Rows from the top, blue first, each filled up to `rowUnit` bytes.
@@ -55,11 +47,6 @@ QByteArray amigaPlane(const Picture& picture, int y, int plane) {
     return row;
 }
 
-QByteArray pngChunk(const char* type, const QByteArray& content) {
-    const QByteArray typed = QByteArray(type) + content;
-    return Bytes().be32(static_cast<std::uint64_t>(content.size())).raw(typed).be32(crc32(typed)).bytes();
-}
-
 }  // namespace
 
 QByteArray pbmFile(const Picture& picture) {
@@ -78,7 +65,7 @@ QByteArray pbmFile(const Picture& picture) {
 QByteArray pamFile(const Picture& picture) {
     return "P7\nWIDTH " + QByteArray::number(picture.width) + "\nHEIGHT " +
            QByteArray::number(picture.height) + "\nDEPTH 3\nMAXVAL 255\nTUPLTYPE RGB\nENDHDR\n" +
-           rgbOf(picture);
+           rgbBytes(picture);
 }
 
 QByteArray pfmFile(const Picture& picture) {
@@ -145,7 +132,7 @@ QByteArray ktxFile(const Picture& picture) {
     Bytes out;
     out.text("\xABKTX 11\xBB\r\n\x1A\n").le32(0x04030201).le32(kUnsignedByte).le32(1).le32(kRgb);
     out.le32(kRgb8).le32(kRgb).le32(wide(picture)).le32(high(picture)).le32(0).le32(0).le32(1).le32(1);
-    return out.le32(0).le32(wide(picture) * high(picture) * 3).raw(rgbOf(picture)).bytes();
+    return out.le32(0).le32(wide(picture) * high(picture) * 3).raw(rgbBytes(picture)).bytes();
 }
 
 QByteArray lbmFile(const Picture& picture) {
@@ -173,7 +160,7 @@ QByteArray dpxFile(const Picture& picture) {
     out.be16(0).be16(1).be32(wide(picture)).be32(high(picture));
     out.be32(0).be32(0).be32(0).be32(255).be32(0).u8(kRgbElement).u8(kLinear).u8(kLinear).u8(8);
     out.be16(0).be16(0).be32(kHeaderBytes).zeros(static_cast<qsizetype>(kHeaderBytes) - out.size());
-    const QByteArray pixels = rgbOf(picture);
+    const QByteArray pixels = rgbBytes(picture);
     for (int y = 0; y < picture.height; ++y)
         out.raw(pixels.mid(qsizetype{y} * picture.width * 3, picture.width * 3)).alignTo(4);
     return out.bytes();
@@ -182,7 +169,7 @@ QByteArray dpxFile(const Picture& picture) {
 QByteArray miffFile(const Picture& picture) {
     return "id=ImageMagick  version=1.0\nclass=DirectClass  matte=False\ncolumns=" +
            QByteArray::number(picture.width) + "  rows=" + QByteArray::number(picture.height) +
-           "  depth=8\ncolorspace=sRGB\ncompression=None\n\f\n:\x1A" + rgbOf(picture);
+           "  depth=8\ncolorspace=sRGB\ncompression=None\n\f\n:\x1A" + rgbBytes(picture);
 }
 
 QByteArray jngFile(const Picture& picture) {

@@ -6,8 +6,6 @@ namespace vantor::samples {
 
 namespace {
 
-const QByteArray kStartCode("\0\0\0\1", 4);
-
 // ITU-R BT.601 in whole numbers, one plane after another.
 QByteArray yuvPlanes(const Picture& picture) {
     constexpr int kWeights[3][4] = {{66, 129, 25, 16}, {-38, -74, 112, 128}, {112, -94, -18, 128}};

@@ -14,7 +14,7 @@ Canvas::Edge hillLine(std::int64_t base, std::int64_t height, std::int64_t width
 // One colour at the edge running into another `depth` units below it.
 Canvas::Shade fading(Colour edge, Colour deep, std::int64_t depth);
 
-// Clouds in the band [from, to), densest in the middle; `amount` of [0, 65535] is how much of the sky stays
+// Clouds in the band [from, to), densest in the middle; `clear` of [0, 65535] is how much of the sky stays
 // clear.
 void paintClouds(Canvas& canvas, std::int64_t from, std::int64_t to, Colour light, Colour shadow, int clear,
                  std::uint32_t seed, int strongest = 230);

@@ -18,21 +18,10 @@ int frequencyOf(int note) {
     return octave >= 0 ? base << octave : base >> -octave;
 }
 
-std::uint64_t bytesOf(const Sound& sound) {
-    return sound.samples.size() * 2;
-}
-
 QByteArray bigEndian(const Sound& sound) {
     Bytes out;
     for (const std::int16_t sample : sound.samples)
         out.be16(static_cast<std::uint16_t>(sample));
-    return out.bytes();
-}
-
-QByteArray littleEndian(const Sound& sound) {
-    Bytes out;
-    for (const std::int16_t sample : sound.samples)
-        out.le16(static_cast<std::uint16_t>(sample));
     return out.bytes();
 }
 
@@ -48,6 +37,17 @@ QByteArray extended(int rate) {
 }
 
 }  // namespace
+
+std::uint64_t bytesOf(const Sound& sound) {
+    return sound.samples.size() * 2;
+}
+
+QByteArray littleEndian(const Sound& sound) {
+    Bytes out;
+    for (const std::int16_t sample : sound.samples)
+        out.le16(static_cast<std::uint16_t>(sample));
+    return out.bytes();
+}
 
 const std::vector<int>& tuneNotes() {
     static const std::vector<int> kNotes = {60, 64, 67, 72, 71, 67, 64, 67, 57, 60, 64, 69, 67, 64, 60, 0,

@@ -13,6 +13,10 @@ struct Sound {
     std::vector<std::int16_t> samples;
 };
 
+// The samples as plain PCM: how many bytes they take, and those bytes, low byte first.
+std::uint64_t bytesOf(const Sound& sound);
+QByteArray littleEndian(const Sound& sound);
+
 // A tune of plucked notes, the given number of tenths of a second long.
 Sound playTune(int rate, int tenths);
 

@@ -15,7 +15,6 @@ constexpr int kSelectionPid = 0x1F;
 constexpr int kProgramPid = 0x100;
 constexpr int kVideoPid = 0x1011;
 constexpr std::int64_t kTicks = 90000;  // a second
-const QByteArray kStartCode("\0\0\0\1", 4);
 
 class TransportStream {
   public:

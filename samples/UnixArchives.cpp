@@ -1,12 +1,11 @@
 // The archives of Unix: tar, ar and cpio.
 #include "samples/Archives.h"
 #include "samples/Bytes.h"
+#include "samples/CardTime.h"
 
 namespace vantor::samples {
 
 namespace {
-
-constexpr std::int64_t kTime = 1717236000;  // 1 June 2024, ten o'clock UTC
 
 QByteArray octal(std::int64_t value, int digits) {
     return QByteArray::number(qint64{value}, 8).rightJustified(digits, '0');
@@ -22,7 +21,7 @@ QByteArray tarHeader(const ArchiveMember& member) {
         .field(octal(0, 7), 8)
         .field(octal(0, 7), 8)
         .field(octal(member.bytes.size(), 11), 12);
-    out.field(octal(kTime, 11), 12)
+    out.field(octal(kUnixTime, 11), 12)
         .field("        ", 8)
         .text("0")
         .zeros(100)
@@ -43,8 +42,8 @@ QByteArray cpioEntry(const QByteArray& name, const QByteArray& bytes, int number
     out.text("070701");
     for (const std::int64_t field :
          {std::int64_t{number}, std::int64_t{mode}, std::int64_t{0}, std::int64_t{0}, std::int64_t{1},
-          mode == 0 ? std::int64_t{0} : kTime, std::int64_t{bytes.size()}, std::int64_t{0}, std::int64_t{0},
-          std::int64_t{0}, std::int64_t{0}, std::int64_t{name.size()} + 1, std::int64_t{0}})
+          mode == 0 ? std::int64_t{0} : kUnixTime, std::int64_t{bytes.size()}, std::int64_t{0},
+          std::int64_t{0}, std::int64_t{0}, std::int64_t{0}, std::int64_t{name.size()} + 1, std::int64_t{0}})
         out.raw(hexadecimal(field));
     return out.raw(name).u8(0).alignTo(4).raw(bytes).alignTo(4).bytes();
 }
@@ -63,7 +62,7 @@ QByteArray arFile(const std::vector<ArchiveMember>& members) {
     out.text("!<arch>\n");
     for (const ArchiveMember& member : members) {
         out.field(member.name + '/', 16, ' ')
-            .field(QByteArray::number(qint64{kTime}), 12, ' ')
+            .field(QByteArray::number(qint64{kUnixTime}), 12, ' ')
             .field("0", 6, ' ')
             .field("0", 6, ' ')
             .field("100644", 8, ' ');

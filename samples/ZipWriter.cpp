@@ -1,6 +1,7 @@
 // ZIP: local headers and data, then the directory and its end record.
 #include "samples/Archives.h"
 #include "samples/Bytes.h"
+#include "samples/CardTime.h"
 #include "samples/Checksums.h"
 #include "samples/Deflate.h"
 
@@ -10,8 +11,6 @@ namespace {
 
 constexpr int kVersion = 20;
 constexpr int kDeflated = 8;
-constexpr int kTime = 10 << 11;                         // ten o'clock
-constexpr int kDate = (2024 - 1980) << 9 | 6 << 5 | 1;  // 1 June 2024
 
 }  // namespace
 
@@ -26,8 +25,8 @@ QByteArray zipFile(const std::vector<ArchiveMember>& members) {
         common.le16(kVersion)
             .le16(0)
             .le16(stored ? 0 : kDeflated)
-            .le16(kTime)
-            .le16(kDate)
+            .le16(kDosTime)
+            .le16(kDosDate)
             .le32(crc32(member.bytes));
         common.le32(static_cast<std::uint64_t>(data.size()))
             .le32(static_cast<std::uint64_t>(member.bytes.size()));

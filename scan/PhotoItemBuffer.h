@@ -35,7 +35,7 @@ class PhotoItemBuffer {
         m_overflow->addData(QByteArrayView(bytes, kSectorBytes));
     }
 
-    // Room as large as the largest item so far is asked for at once, since growing step by step copies each
+    // Room for the largest item so far is asked for at once, since growing step by step copies each
     // item once more. The old bytes are left to whoever still holds them, who may give their memory back.
     void clear() {
         m_room = std::max(m_room, m_bytes.size());

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <algorithm>
 #include <mutex>
 #include <utility>
 #include <vector>
@@ -13,8 +14,10 @@ namespace vantor {
 class PhotoMemory {
   public:
     static constexpr qsizetype kMostKeptBytes = qsizetype{64} * 1024 * 1024;
+    // Of one photo. One that was larger must not make all behind it as large.
+    static constexpr qsizetype kMostRoom = qsizetype{16} * 1024 * 1024;
 
-    // Empty, with room for at least so many bytes.
+    // Empty, with room for so many bytes, but for no more than kMostRoom.
     QByteArray take(qsizetype room) {
         QByteArray bytes;
         {
@@ -25,13 +28,13 @@ class PhotoMemory {
                 m_keptBytes -= bytes.capacity();
             }
         }
-        bytes.reserve(room);
+        bytes.reserve(std::min(room, kMostRoom));
         return bytes;
     }
 
     // Lets go of the bytes; their memory is kept where nobody else holds it.
     void giveBack(QByteArray bytes) {
-        if (!bytes.isDetached()) {
+        if (!bytes.isDetached() || bytes.capacity() > kMostRoom) {
             return;
         }
         // Counted up and down once more, so that what others read of it comes before what is written next.

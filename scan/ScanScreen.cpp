@@ -41,7 +41,7 @@ void MyTableController::onInterfaceThread(const std::function<void()>& step) {
     }
 }
 
-MyTableController::ScanInputs MyTableController::readInputs() const {
+ScanInputs MyTableController::readInputs() const {
     ScanInputs inputs;
     for (std::size_t set = 0; set < m_range.size(); ++set) {
         inputs.range[set] = m_range[set]->controls();

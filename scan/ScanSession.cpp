@@ -54,11 +54,11 @@ void ScanSession::prepareRange(ControlSet set) {
     start_sector = 0;
     end_sector = 0;
     const SectorRange range = rangeFromControls(m_view.rangeControls(set));
+    for_index = range.start;  // first, so that no tick in between sees less than nothing done
     start_sector = range.start;
     end_sector = range.end;
     total_sector = range.end - range.start;
     m_view.setProgressRange(total_sector);
-    for_index = range.start;
     showProgressText();
 }
 

@@ -6,14 +6,7 @@
 
 namespace vantor {
 
-namespace {
-
-constexpr std::chrono::milliseconds kLastScanPatience{5000};
-
-}  // namespace
-
 void MyTableController::startScan(void (ScanSession::*driver)()) {
-    waitForThreads(kLastScanPatience);
     prepareIcons();
     setEmptyStates();
     m_inputs = readInputs();
@@ -21,8 +14,10 @@ void MyTableController::startScan(void (ScanSession::*driver)()) {
         m_thumbnails->cancel();
         m_thumbnails->resume();
     }
-    forgetSaved();
-    beginLooks();
+    m_desk->forget();
+    m_looks->begin(m_parts.openBeside
+                       ? [open = m_parts.openBeside, device = devicePath()] { return open(device); }
+                       : SoundnessBoard::Open());
     resetAddedItemCount();
     m_clock.start();
     m_scanBegun = QDateTime::currentDateTime();

@@ -215,8 +215,8 @@ void MyTableController::backToFileTypes() {
     show_hide_4_screen_RawFile(true);
     show_hide_3_screen_RawFile(false);
     stop_now = 0;
-    forgetSaved();
-    endLooks();
+    m_desk->forget();
+    m_looks->end();
     idCheckTableView->setFocus();
 }
 
@@ -236,8 +236,8 @@ void MyTableController::showFileTypeHelp() {
 // The items go, and the browsers stand as at the start.
 void MyTableController::emptyBrowsers() {
     clearItems();
-    forgetSaved();
-    endLooks();
+    m_desk->forget();
+    m_looks->end();
     emptyBrowserViews();
     showItemCounts();
 }

@@ -1,11 +1,9 @@
 // The records whose items open together on one header: exactly those that are wanted.
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <algorithm>
 #include <set>
 
-#include "catalogue/CatalogueFile.h"
 #include "catalogue/SignatureRecord.h"
 #include "tests/catalogue/CorpusScan.h"
 

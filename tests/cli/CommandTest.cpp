@@ -204,11 +204,45 @@ TEST(Command, UnreadableMediumIsToldToOrdinaryUsers) {
     EXPECT_EQ(runCommand({image}).exitCode, 5);
 }
 
-TEST(Command, ReadErrorHasItsExitCode) {
+TEST(Command, EmptyCatalogueIsAReadError) {
     const QTemporaryDir folder;
-    const CommandRun run = runCommand({"--catalogue", folder.path(), "--list-json", writeImage(folder)});
+    const CommandRun run =
+        runCommand({"--catalogue", writeCatalogues(folder, {}), "--list-json", writeImage(folder)});
     EXPECT_EQ(run.exitCode, 4);
     EXPECT_EQ(run.json().last()["end"], "read-error");
+}
+
+TEST(Command, FolderWithoutCataloguesIsRefusedInEveryMode) {
+    const QTemporaryDir folder;
+    const QString image = writeImage(folder);
+    for (const char* mode : {"photo", "video", "rawfile"}) {
+        const CommandRun run = runCommand({"--mode", mode, "--catalogue", folder.filePath("typo"), image});
+        EXPECT_EQ(run.exitCode, 2) << mode;
+        EXPECT_TRUE(run.err.contains("typo holds no signature catalogue")) << run.err.constData();
+        EXPECT_TRUE(run.out.isEmpty()) << run.out.constData();
+    }
+}
+
+TEST(Command, ListThatCannotBeWrittenIsNoSuccess) {
+    const QTemporaryDir folder;
+    const QString image = writeImage(folder);
+    QProcess process;
+    process.setStandardOutputFile("/dev/full");
+    process.start(VANTOR_CLI,
+                  {"--list-json", "--catalogue", writeCatalogues(folder, record("JPG", "FFD8FFE0")), image});
+    ASSERT_TRUE(process.waitForFinished(60000));
+    EXPECT_EQ(process.exitCode(), 6);
+    EXPECT_TRUE(process.readAllStandardError().contains("standard output"));
+}
+
+TEST(Command, RefusedTypesLeaveNoFolderBehind) {
+    const QTemporaryDir folder;
+    const QString image = writeImage(folder);
+    EXPECT_EQ(
+        runCommand({"--mode", "rawfile", "--types", "NOSUCHTYPE", "--save", folder.filePath("out"), image})
+            .exitCode,
+        2);
+    EXPECT_FALSE(QFile::exists(folder.filePath("out")));
 }
 
 TEST(Command, EmptyImageIsAReadError) {
@@ -237,8 +271,7 @@ TEST(Command, InterruptPublishesAndSavesWhatWasFound) {
     process.start(VANTOR_CLI, {"--catalogue", writeCatalogues(folder, record("JPG", "FFD8FFE0")),
                                "--list-json", "--save", folder.filePath("out"), image});
     ASSERT_TRUE(process.waitForStarted());
-    while (!QFile::exists(folder.filePath("out/JPG/GND00001.JPG")) && process.state() == QProcess::Running) {
-        QThread::msleep(5);
+    while (!QFile::exists(folder.filePath("out/JPG/GND00001.JPG")) && !process.waitForFinished(5)) {
     }
     ::kill(static_cast<pid_t>(process.processId()), SIGINT);
     ASSERT_TRUE(process.waitForFinished(30000));
@@ -286,7 +319,9 @@ TEST(Command, PackedImageIsToldBeforeItIsSearched) {
     packed.write(QByteArray("\x1F\x8B\x08\0", 4) + QByteArray(5000, 'z'));
     packed.close();
     const CommandRun run = runCommand({packed.fileName()});
-    EXPECT_TRUE(run.err.contains("card.img.gz")) << run.err.constData();
+    EXPECT_TRUE(run.err.contains("card.img.gz” is packed")) << run.err.constData();
+    EXPECT_TRUE(run.err.contains("Searched all the same")) << run.err.constData();
+    EXPECT_TRUE(run.out.contains("found")) << run.out.constData();
 }
 
 TEST(Command, ListsMedia) {

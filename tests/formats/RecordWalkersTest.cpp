@@ -3,15 +3,10 @@
 
 #include "Corpus.h"
 #include "Samples.h"
-#include "formats/Registry.h"
+#include "WalkBytes.h"
 
 namespace vantor::test {
 namespace {
-
-Extent walkBytes(std::string_view extension, const Bytes& bytes) {
-    SpanSource source(bytes);
-    return walk(extension, source);
-}
 
 Bytes sampleOf(std::string_view extension) {
     for (const auto& sample : allSamples()) {

@@ -13,7 +13,9 @@ namespace vantor::test {
 struct Sample {
     std::string extension;
     Bytes bytes;
-    bool marked = true;  // the format marks its end: Complete must be exact, and a cut file never Complete
+    bool marked = true;  // the format marks its end: Complete must be exact
+    // The format does not mark its end, but tells how far it reaches: a cut file is never Complete.
+    bool cutShows = false;
 };
 
 inline void PrintTo(const Sample& sample, std::ostream* out) {

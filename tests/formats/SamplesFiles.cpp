@@ -323,21 +323,21 @@ std::vector<Sample> archiveSamples() {
             {"7Z", sevenZip()},
             {"TAR", tar(), false},
             {"AR", ar(), false},
-            {"CPIO", cpio(), false},
+            {"CPIO", cpio(), false, true},
             {"CAB", Build().text("MSCF").le32(0).le32(80).le32(0).le32(44).le32(0).u8(3).u8(1).to(80)},
             {"ARJ", arj()},
             {"LZH", lzh()},
             {"SQLITE", sqlite()},
             {"MDB", jet(), false},
-            {"EXE", executable(), false},
-            {"ELF", elf(), false},
+            {"EXE", executable(), false, true},
+            {"ELF", elf(), false, true},
             {"PST", Build().text("!BDN").to(10).le16(23).to(0xB8).le64(1024).to(1024)}};
 }
 
 std::vector<Sample> documentSamples() {
     return {
         {"PDF", Build().text(pdfText())},
-        {"DOC", compound(), false},
+        {"DOC", compound(), false, true},
         {"MOBI", mobi()},
         {"CHM", chm()},
         {"DJVU", Build().text("AT&TFORM").be32(40).text("DJVU").fill(36, 1)},

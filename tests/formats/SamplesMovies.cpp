@@ -286,7 +286,7 @@ std::vector<Sample> soundSamples() {
         {"MID", midi()},
         {"APE", monkeys()},
         {"MPC", musepack8()},
-        {"MP+", musepack7(), false},
+        {"MP+", musepack7(), false, true},
         {"CAF",
          Build().text("caff").be16(1).be16(0).text("desc").be64(32).fill(32, 1).text("data").be64(20).fill(
              20, 2)},

@@ -192,7 +192,6 @@ Bytes x3f() {
     return out.text("SECd").le32(0x20000).le32(1).le32(40).le32(34).text("IMAG").le32(at);
 }
 
-// Two packed rows, the second stored first.
 // Two lines of ten pixels: one in runs and literals by channel, one in full with an old repetition.
 Bytes radiance() {
     Build build;
@@ -202,6 +201,7 @@ Bytes radiance() {
     return build.be32(0x50607080).be32(0x01010108).be32(0x11223344);
 }
 
+// Two packed rows, the second stored first.
 Bytes sgi() {
     return Build()
         .be16(0x01DA)
@@ -250,8 +250,8 @@ std::vector<Sample> pictureSamples() {
             {"PNG", png()},
             {"GIF", gif()},
             {"BMP", bmp()},
-            {"TIF", tiff(), false},
-            {"TIFF", tiff(false), false},
+            {"TIF", tiff(), false, true},
+            {"TIFF", tiff(false), false, true},
             {"PSD", psd()},
             {"JP2", jp2()},
             {"J2K", jp2Stream(0)},
@@ -260,7 +260,7 @@ std::vector<Sample> pictureSamples() {
             {"ICNS", Build().text("icns").be32(24).text("is32").be32(16).fill(8, 1)},
             {"PCX", pcx()},
             {"TGA", tga()},
-            {"DDS", dds(), false},
+            {"DDS", dds(), false, true},
             {"XCF", xcf()},
             {"RAF", raf()},
             {"MRW", mrw()},

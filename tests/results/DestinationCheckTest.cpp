@@ -1,10 +1,14 @@
 // Folders on the medium that is read are told from all others.
 #include <gtest/gtest.h>
+#include <sys/mount.h>
 
+#include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 
 #include "results/DestinationCheck.h"
+#include "tests/media/LoopDevice.h"
 
 namespace vantor {
 
@@ -34,6 +38,33 @@ TEST(DestinationCheck, FolderOnTheReadDiskIsSeen) {
     EXPECT_TRUE(destinationIsOnMedium("/", device));
     EXPECT_TRUE(destinationIsOnMedium("/not/yet/there", device));
     EXPECT_FALSE(destinationIsOnMedium("/proc", device));
+}
+
+TEST(DestinationCheck, FoldersOfAMountedCardAreSeenThroughLinks) {
+    const QTemporaryDir folder;
+    const QString image = folder.filePath("card.img");
+    QFile file(image);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.resize(4 << 20));
+    file.close();
+    if (QProcess::execute("/sbin/mke2fs", {"-q", "-F", image}) != 0) {
+        GTEST_SKIP() << "no file system can be made here";
+    }
+    const test::LoopDevice card(image);
+    if (!card.isThere()) {
+        GTEST_SKIP() << card.why().toStdString();
+    }
+    const QByteArray place = QFile::encodeName(folder.filePath("card"));
+    ASSERT_TRUE(QDir().mkpath(folder.filePath("card")));
+    if (::mount(QFile::encodeName(card.node()).constData(), place.constData(), "ext4", MS_RDONLY, nullptr) !=
+        0) {
+        GTEST_SKIP() << "no file system can be mounted here: " << std::strerror(errno);
+    }
+    EXPECT_TRUE(QFile::link(folder.filePath("card"), folder.filePath("link")));
+    EXPECT_TRUE(destinationIsOnMedium(folder.filePath("card"), card.node()));
+    EXPECT_TRUE(destinationIsOnMedium(folder.filePath("card/not/yet"), card.node()));
+    EXPECT_TRUE(destinationIsOnMedium(folder.filePath("link"), card.node()));
+    EXPECT_FALSE(destinationIsOnMedium(folder.path(), card.node()));
+    ::umount2(place.constData(), MNT_DETACH);
 }
 
 }  // namespace vantor

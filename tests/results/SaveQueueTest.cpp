@@ -54,7 +54,11 @@ TEST(SaveQueue, MediumThatIsGoneIsToldForEach) {
     EXPECT_EQ(failed, 3);
 }
 
-TEST(SaveQueue, SlowDestinationHoldsTheSearchUp) {
+class WaitingBytes : public testing::TestWithParam<bool> {};
+INSTANTIATE_TEST_SUITE_P(SaveQueue, WaitingBytes, testing::Bool());
+
+TEST_P(WaitingBytes, SlowDestinationHoldsTheSearchUp) {
+    const bool roomCounts = GetParam();
     const QTemporaryDir folder;
     std::atomic<bool> go{false};
     std::atomic<int> added{0}, done{0};
@@ -68,7 +72,11 @@ TEST(SaveQueue, SlowDestinationHoldsTheSearchUp) {
     constexpr int kTasks = 6;
     std::thread search([&] {
         for (int i = 0; i < kTasks; ++i) {
-            queue.add({"T", QString::number(i), {}, QByteArray(kBytes, static_cast<char>('a' + i))});
+            QByteArray bytes(roomCounts ? 10 : kBytes, static_cast<char>('a' + i));
+            if (roomCounts) {
+                bytes.reserve(kBytes);
+            }
+            queue.add({"T", QString::number(i), {}, bytes});
             ++added;
         }
     });

@@ -1,7 +1,10 @@
 // Reads the card and its list from the build folder.
 #include "tests/samples/CardFixture.h"
 
+#include <QBuffer>
 #include <QFile>
+#include <QImageReader>
+#include <QtEndian>
 
 namespace vantor::samples {
 
@@ -52,6 +55,26 @@ QByteArray bytesOf(const char* name) {
             return bytesOf(file);
     }
     return {};
+}
+
+std::int64_t be32(const QByteArray& bytes, qsizetype at) {
+    return qFromBigEndian<quint32>(bytes.constData() + at);
+}
+
+std::int64_t le32(const QByteArray& bytes, qsizetype at) {
+    return qFromLittleEndian<quint32>(bytes.constData() + at);
+}
+
+int le16(const QByteArray& bytes, qsizetype at) {
+    return qFromLittleEndian<quint16>(bytes.constData() + at);
+}
+
+QImage decoded(QByteArray bytes) {
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    return reader.read();
 }
 
 }  // namespace vantor::samples

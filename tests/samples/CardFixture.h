@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QImage>
 #include <QString>
 #include <cstdint>
 #include <vector>
@@ -28,5 +29,13 @@ const std::vector<ListedFile>& listedFiles();
 QByteArray bytesOf(const ListedFile& file);
 // The bytes of the file of that name; empty when there is none.
 QByteArray bytesOf(const char* name);
+
+// Unsigned numbers in the card's files; the bytes must be there.
+std::int64_t be32(const QByteArray& bytes, qsizetype at);
+std::int64_t le32(const QByteArray& bytes, qsizetype at);
+int le16(const QByteArray& bytes, qsizetype at);
+
+// The picture as it is to be seen; null when Qt cannot read it.
+QImage decoded(QByteArray bytes);
 
 }  // namespace vantor::samples

@@ -15,24 +15,6 @@
 namespace vantor::samples {
 namespace {
 
-QImage decoded(QByteArray bytes) {
-    QBuffer buffer(&bytes);
-    QImageReader reader(&buffer);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    return reader.read();
-}
-
-std::int64_t be32(const QByteArray& bytes, qsizetype at) {
-    return qFromBigEndian<quint32>(bytes.constData() + at);
-}
-std::int64_t le32(const QByteArray& bytes, qsizetype at) {
-    return qFromLittleEndian<quint32>(bytes.constData() + at);
-}
-int le16(const QByteArray& bytes, qsizetype at) {
-    return qFromLittleEndian<quint16>(bytes.constData() + at);
-}
-
 // The mean difference of the channels of two pictures of one size, in 1/100 of a level.
 qint64 meanDifference(const QImage& image, const Picture& picture) {
     qint64 sum = 0;

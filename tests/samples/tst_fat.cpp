@@ -3,7 +3,6 @@
 
 #include <QHash>
 #include <QSet>
-#include <QtEndian>
 
 #include "samples/FatCard.h"
 #include "samples/FatNames.h"
@@ -14,12 +13,6 @@ namespace {
 
 int byteAt(const QByteArray& bytes, qsizetype at) {
     return static_cast<std::uint8_t>(bytes[at]);
-}
-int le16(const QByteArray& bytes, qsizetype at) {
-    return byteAt(bytes, at) | byteAt(bytes, at + 1) << 8;
-}
-std::int64_t le32(const QByteArray& bytes, qsizetype at) {
-    return qFromLittleEndian<quint32>(bytes.constData() + at);
 }
 
 struct Volume {

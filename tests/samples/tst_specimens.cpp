@@ -1,8 +1,6 @@
 // The rarer kinds of file on the card say their own sizes, and what they pack comes out again.
 #include <gtest/gtest.h>
 
-#include <QBuffer>
-#include <QImageReader>
 #include <QXmlStreamReader>
 #include <QtEndian>
 
@@ -14,27 +12,11 @@
 namespace vantor::samples {
 namespace {
 
-std::int64_t be32(const QByteArray& bytes, qsizetype at) {
-    return qFromBigEndian<quint32>(bytes.constData() + at);
-}
-std::int64_t le32(const QByteArray& bytes, qsizetype at) {
-    return qFromLittleEndian<quint32>(bytes.constData() + at);
-}
 std::int64_t le64(const QByteArray& bytes, qsizetype at) {
     return qFromLittleEndian<qint64>(bytes.constData() + at);
 }
-int le16(const QByteArray& bytes, qsizetype at) {
-    return qFromLittleEndian<quint16>(bytes.constData() + at);
-}
 int be16(const QByteArray& bytes, qsizetype at) {
     return qFromBigEndian<quint16>(bytes.constData() + at);
-}
-
-QImage decoded(QByteArray bytes) {
-    QBuffer buffer(&bytes);
-    QImageReader reader(&buffer);
-    reader.setDecideFormatFromContent(true);
-    return reader.read();
 }
 
 TEST(CardRasters, HeadersSayHowManyPixelsFollow) {

@@ -74,6 +74,7 @@ class CorpusAccount {
         int listedExceptions = 0;  // not exact, for a reason that is written down
     };
     std::map<std::string, Line> m_lines;
+    std::map<std::string, std::string> m_reasons;  // by file: why it did not come back to the byte every time
 };
 
 }  // namespace vantor::test
