@@ -388,11 +388,8 @@ class MyTableController : public QObject,
     double m_progressSectors = 0;
     bool m_draining = false;
 
-    // Set when a scan fell back to the screen before.
-    QList<ResultRow> m_leftRows;
-
-    // Set on the file-type screen and by the last click in a table.
-    int m_clickedColumn = -1;
+    QList<ResultRow> m_leftRows;  // set when a scan fell back to the screen before
+    int m_clickedColumn = -1;     // of the last click in a table
 
     // Begin anew with every scan.
     std::unique_ptr<BrowserLooks> m_looks;

@@ -68,7 +68,6 @@ void MyTableController::loadInterface() {
 
 void MyTableController::dressWindow() {
     window->setWindowIcon(ownIcon(QStringLiteral("vantor-recovery")));
-    helpIcon->setPixmap(ownIcon(QStringLiteral("info")).pixmap(20, 20));
     // The longest help text takes two lines of the smallest window, and begins with an empty one at times.
     constexpr int kHelpLines = 3;
     _help_info->setFixedHeight(kHelpLines * _help_info->fontMetrics().lineSpacing());

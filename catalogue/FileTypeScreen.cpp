@@ -3,6 +3,7 @@
 
 #include "app/MyTableController.h"
 #include "wizard/Theme.h"
+#include "wizard/WrapLayout.h"
 
 namespace vantor {
 
@@ -71,25 +72,21 @@ void MyTableController::Thro_Mode_Chk_SIG_Btn(QObject*) {
 void MyTableController::buildGroupBoxes() {
     qDeleteAll(m_groupBoxes);
     m_groupBoxes.clear();
-    // The stretch that keeps the boxes together goes behind the new ones.
-    if (QLayoutItem* last = typeGroupLayout->itemAt(typeGroupLayout->count() - 1);
-        last->spacerItem() != nullptr) {
-        delete typeGroupLayout->takeAt(typeGroupLayout->count() - 1);
-    }
+    delete typeGroups->layout();
+    auto* line = new WrapLayout(typeGroups, 2 * theme::kUnit);
     for (const FileKind kind : kKinds) {
         const auto inKind = std::count_if(nsCheckedListDataObject.cbegin(), nsCheckedListDataObject.cend(),
                                           [kind](const FileTypeRow& row) { return kindOf(row) == kind; });
-        auto* box = new QCheckBox(typeGroupBar);
+        auto* box = new QCheckBox(typeGroups);
         box->setObjectName(QStringLiteral("typeGroup") + kindName(kind));
         box->setText(tr("%1 (%2)").arg(kindName(kind)).arg(inKind));
         box->setAccessibleName(tr("All types of the group %1").arg(kindName(kind)));
-        box->setVisible(inKind > 0);
         connect(box, &QCheckBox::clicked, this,
                 [this, kind](bool on) { tickGroup(static_cast<int>(kind), on); });
-        typeGroupLayout->addWidget(box);
+        line->addWidget(box);
+        box->setVisible(inKind > 0);
         m_groupBoxes.append(box);
     }
-    typeGroupLayout->addStretch(1);
     showTypeCounts();
 }
 

@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kLookMilliseconds = 150;
 constexpr qint64 kReorderMilliseconds = 500;
+constexpr int kListMargins = 24;
 
 }  // namespace
 
@@ -55,6 +56,8 @@ void BrowserLooks::fillBoxes() {
         }
         for (QComboBox* box : {screen.show, screen.sort}) {
             box->view()->setAccessibleName(box->accessibleName());
+            // A narrow box has a list that can be read.
+            box->view()->setMinimumWidth(box->view()->sizeHintForColumn(0) + kListMargins);
             connect(box, &QComboBox::currentIndexChanged, this, &BrowserLooks::choose);
         }
     }

@@ -39,18 +39,34 @@ void ImageBrowserModel::setOrder(std::optional<QList<int>> order) {
     if (order == m_order) {
         return;
     }
-    beginResetModel();
+    const int before = rowCount();
+    const int after = order ? static_cast<int>(order->size()) : m_count;
+    // All rows are alike to whoever lays them out: with as many as before there is nothing but to paint them.
+    if (after < before || before == 0) {
+        beginResetModel();
+        takeOrder(std::move(order));
+        endResetModel();
+    } else if (after > before) {
+        beginInsertRows({}, before, after - 1);
+        takeOrder(std::move(order));
+        endInsertRows();
+    } else {
+        takeOrder(std::move(order));
+    }
+}
+
+void ImageBrowserModel::takeOrder(std::optional<QList<int>> order) {
     m_order = std::move(order);
     m_rowOf.clear();
-    if (m_order) {
-        m_rowOf.resize(m_count, -1);
-        for (int row = 0; row < m_order->size(); ++row) {
-            if (const int index = m_order->at(row); index >= 0 && index < m_count) {
-                m_rowOf[index] = row;
-            }
+    if (!m_order) {
+        return;
+    }
+    m_rowOf.resize(m_count, -1);
+    for (int row = 0; row < m_order->size(); ++row) {
+        if (const int index = m_order->at(row); index >= 0 && index < m_count) {
+            m_rowOf[index] = row;
         }
     }
-    endResetModel();
 }
 
 int ImageBrowserModel::rowOfIndex(int index) const {

@@ -41,7 +41,8 @@ class ImageBrowserModel : public QAbstractListModel {
     // new list.
     void reloadData();
 
-    // Shows these items of the list in this order, until another order or none is set.
+    // Shows these items of the list in this order, until another order or none is set. The view paints anew
+    // and says which rows are selected now.
     void setOrder(std::optional<QList<int>> order);
     bool hasOrder() const { return m_order.has_value(); }
     // Items of the list, whether shown or not.
@@ -59,6 +60,8 @@ class ImageBrowserModel : public QAbstractListModel {
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
   private:
+    void takeOrder(std::optional<QList<int>> order);
+
     ImageBrowserView* m_view;
     ImageBrowserDataSource* m_source = nullptr;
     int m_count = 0;

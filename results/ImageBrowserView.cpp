@@ -104,8 +104,11 @@ void ImageBrowserView::setOrder(std::optional<QList<int>> order) {
     const QList<qsizetype> selected = selectionIndexes();
     const int current = currentIndex().isValid() ? m_model->indexOfRow(currentIndex().row()) : -1;
     const int scrolled = verticalScrollBar()->value();
+    // Quietly, and first: to compare what was selected with what will be takes long.
+    selectionModel()->reset();
     m_model->setOrder(std::move(order));
-    selectionModel()->select(rangesOf(selected), QItemSelectionModel::ClearAndSelect);
+    selectionModel()->select(rangesOf(selected), QItemSelectionModel::Select);
+    viewport()->update();
     if (const int row = current >= 0 ? m_model->rowOfIndex(current) : -1; row >= 0) {
         selectionModel()->setCurrentIndex(m_model->index(row), QItemSelectionModel::NoUpdate);
     }

@@ -14,7 +14,7 @@ namespace {
 constexpr int kMargin = 2 * theme::kUnit;
 constexpr int kPicture = 5 * theme::kUnit;
 constexpr int kPreferredWidth = 280;
-constexpr int kSmallestWidth = 200;
+constexpr int kSmallestWidth = 176;
 constexpr qreal kRadius = theme::kUnit;
 
 QFont titleFont(const QFont& base) {

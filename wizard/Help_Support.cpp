@@ -35,6 +35,9 @@ void Help_Support::awakeFromNib() {
     font.setUnderline(true);
     _Help_File_Label->setText(_Help_File_Label->text());
     _Help_File_Label->setFont(font);
+    // A style sheet measures its buttons in the font of before.
+    _Help_File_Label->setMinimumWidth(QFontMetrics(font).horizontalAdvance(_Help_File_Label->text()) +
+                                      theme::kUnit);
     _Help_File_Label->setCursor(Qt::OpenHandCursor);
     _Help_File_Label->setProperty("role", QStringLiteral("link"));
 }

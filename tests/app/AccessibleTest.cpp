@@ -4,6 +4,7 @@
 #include <QAbstractSlider>
 #include <QAccessible>
 #include <QCheckBox>
+#include <QFile>
 #include <QLineEdit>
 #include <QProgressBar>
 
@@ -127,6 +128,80 @@ TEST_F(Accessible, RolesAndStatesFollowTheControls) {
     EXPECT_EQ(QAccessible::queryAccessibleInterface(controller->_stop_scan)->role(), QAccessible::Button);
     EXPECT_FALSE(photo->text(QAccessible::Description).isEmpty());
 }
+
+// What a screen reader does on behalf of its user, by the faces of the controls alone.
+class ByReader : public Accessible, public ::testing::WithParamInterface<int> {
+  protected:
+    static QAccessibleInterface* face(QObject* object) {
+        return QAccessible::queryAccessibleInterface(object);
+    }
+    static void act(QWidget* widget, const QString& action) {
+        ASSERT_TRUE(widget->isVisible()) << widget->objectName().toStdString();
+        ASSERT_TRUE(face(widget)->actionInterface()->actionNames().contains(action))
+            << widget->objectName().toStdString();
+        face(widget)->actionInterface()->doAction(action);
+    }
+    // A button that is pressed so stays down for a moment before it clicks.
+    static void press(QWidget* button) {
+        act(button, QAccessibleActionInterface::pressAction());
+        constexpr int kLongerThanAPress = 150;
+        QTest::qWait(kLongerThanAPress);
+    }
+    static void choose(QWidget* button) { act(button, QAccessibleActionInterface::toggleAction()); }
+    static void selectRow(QWidget* list, int row) { face(list)->tableInterface()->selectRow(row); }
+    // The next dialog's button of this name.
+    void answer(const QString& name) {
+        answers.then([name](QDialog* dialog) {
+            for (auto* button : dialog->findChildren<QAbstractButton*>()) {
+                if (button->isVisible() && face(button)->text(QAccessible::Name) == name) {
+                    act(button, QAccessibleActionInterface::pressAction());
+                    return;
+                }
+            }
+            ADD_FAILURE() << "nothing is called " << name.toStdString();
+            dialog->reject();
+        });
+    }
+};
+
+TEST_P(ByReader, FromTheMediumToASavedFile) {
+    const bool photo = GetParam() == kPhotoMode;
+    openWithCard();
+    MyTableController& c = *controller;
+    selectRow(c.idTableView, 0);
+    QWidget* const modes[] = {c._rec_mode_Photo, c._rec_mode_Video, c._rec_mode_RawFile};
+    choose(modes[GetParam()]);
+    press(c.nextButton);
+    ASSERT_EQ(c.screen_counter, 1);
+
+    QTemporaryDir destination;
+    answer(QStringLiteral("Continue"));
+    answers.then([&](QDialog* chooser) { chooseFolder(chooser, destination.path()); });
+    press(photo ? c._browse_path : c._browse_path_Sig);
+    EXPECT_TRUE(waitFor(
+        [&] { return face(photo ? c._path : c._path_Sig)->text(QAccessible::Value) == destination.path(); }));
+    if (!photo) {
+        press(c.nextButton);
+        ASSERT_EQ(c.screen_counter, 2);
+    }
+    answer(QStringLiteral("OK"));
+    press(c.nextButton);
+    ASSERT_TRUE(waitFor([this] { return answers.allGiven() && !controller->scanRunning(); }));
+
+    ImageBrowserView* browser = photo ? c.imageBrowser : c.imageBrowser_2;
+    ASSERT_GE(face(browser)->tableInterface()->rowCount(), 2);
+    QAccessibleInterface* cell = face(browser)->tableInterface()->cellAt(1, 0);
+    EXPECT_TRUE(cell->text(QAccessible::Name).startsWith(c.itemAt(1)->imageTitle()));
+    selectRow(browser, 1);
+    answer(QStringLiteral("OK"));
+    press(photo ? c.saveSelectedButton : c.saveSelectedButton_Sig);
+    const QString name = c.itemAt(1)->imageTitle();
+    EXPECT_TRUE(QFile::exists(destination.filePath(name.section(u'.', -1) + u'/' + name)));
+    EXPECT_EQ(face(photo ? c.savedLabel : c.savedLabel_Sig)->text(QAccessible::Name),
+              QStringLiteral("1 of %1 saved").arg(c.itemCount()));
+}
+
+INSTANTIATE_TEST_SUITE_P(Modes, ByReader, ::testing::Values(kPhotoMode, kVideoMode, kRawFileMode));
 
 }  // namespace
 }  // namespace vantor

@@ -141,5 +141,36 @@ TEST_F(Exit, DuringAScanToo_AsksAboutUnsavedItemsFirst) {
     EXPECT_TRUE(waitFor([this] { return answers.allGiven() && !controller->scanRunning(); }));
 }
 
+TEST_F(Exit, AfterStay_TheScanGoesOnAndNotificationsArrive) {
+    Gate gate;
+    openWithCard();
+    toRange(kPhotoMode);
+    choose(controller->_sector_range_rd);
+    QTest::keyClick(controller->_Start_slider_val, Qt::Key_1);
+    ASSERT_EQ(controller->_Start_Slider->value(), 1);
+    choose(controller->_entire_disk_rd);
+    card.beforeRead = [&gate](std::uint64_t read) {
+        if (read == 30) {
+            gate.pass();
+        }
+    };
+    click(controller->nextButton);
+    ASSERT_TRUE(waitFor([&] { return gate.someoneWaits() && controller->itemCount() == 1; }));
+    answers.press(QStringLiteral("Stay"));
+    click(controller->exitButton);
+    ASSERT_EQ(answers.seen().size(), 1u) << "the exit question is not asked";
+    answers.press(QStringLiteral("OK"));
+    gate.open();
+    ASSERT_TRUE(waitFor([this] { return answers.allGiven() && !controller->scanRunning(); }));
+    EXPECT_EQ(controller->itemCount(), 3u) << "both passes";
+    EXPECT_EQ(controller->imageBrowser->model()->rowCount(), 3);
+    answers.press(QStringLiteral("Go Back Without Saving"));
+    click(controller->backButton);
+    choose(controller->_sector_range_rd);
+    controller->_Start_slider_val->clear();
+    QTest::keyClick(controller->_Start_slider_val, Qt::Key_9);
+    EXPECT_EQ(controller->_Start_Slider->value(), 9) << "text changes are still heard";
+}
+
 }  // namespace
 }  // namespace vantor
