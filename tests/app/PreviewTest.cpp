@@ -233,7 +233,7 @@ TEST_F(Preview, ASoundFile_TellsHowLongItIsAndCanBeHeard) {
     openResults({{"A.MP3", 24, 27}, {"B.PDF", 28, 29}, {"C.MP3", 30, 31}});
     EXPECT_FALSE(controller->soundControls->isVisible());
     select(0);
-    EXPECT_TRUE(controller->previewFacts->text().endsWith(QStringLiteral(", 3:25 min")));
+    EXPECT_TRUE(controller->previewFacts->text().endsWith(QStringLiteral(", 3:25")));
     EXPECT_TRUE(controller->_QuickLook_View->isVisible()) << "beside its picture";
     EXPECT_FALSE(controller->mMovieView->isVisible());
     click(controller->soundControls->findChild<QToolButton*>(QStringLiteral("moviePlay")));
@@ -241,7 +241,7 @@ TEST_F(Preview, ASoundFile_TellsHowLongItIsAndCanBeHeard) {
     select(1);
     EXPECT_EQ(log.alive, 0) << "nothing sounds behind another item";
     EXPECT_FALSE(controller->soundControls->isVisible());
-    EXPECT_FALSE(controller->previewFacts->text().contains(QStringLiteral("min")));
+    EXPECT_FALSE(controller->previewFacts->text().contains(u':'));
     select(2);
     EXPECT_EQ(log.alive, 1);
     controller->show_hide_4_screen_RawFile(true);
