@@ -125,11 +125,7 @@ TEST_F(Exit, DuringAScanToo_AsksAboutUnsavedItemsFirst) {
     Gate gate;
     openWithCard();
     toRange(kPhotoMode);
-    card.beforeRead = [&gate](std::uint64_t read) {
-        if (read == 30) {
-            gate.pass();
-        }
-    };
+    card.beforeRead = gate.atRead(30);
     click(controller->nextButton);
     ASSERT_TRUE(waitFor([&] { return gate.someoneWaits() && controller->itemCount() == 1; }));
     answers.press(QStringLiteral("Stay"));
@@ -149,11 +145,7 @@ TEST_F(Exit, AfterStay_TheScanGoesOnAndNotificationsArrive) {
     QTest::keyClick(controller->_Start_slider_val, Qt::Key_1);
     ASSERT_EQ(controller->_Start_Slider->value(), 1);
     choose(controller->_entire_disk_rd);
-    card.beforeRead = [&gate](std::uint64_t read) {
-        if (read == 30) {
-            gate.pass();
-        }
-    };
+    card.beforeRead = gate.atRead(30);
     click(controller->nextButton);
     ASSERT_TRUE(waitFor([&] { return gate.someoneWaits() && controller->itemCount() == 1; }));
     answers.press(QStringLiteral("Stay"));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <condition_variable>
+#include <cstdint>
 #include <mutex>
 
 namespace vantor {
@@ -15,6 +16,14 @@ class Gate {
         m_changed.notify_all();
         m_changed.wait(lock, [this] { return m_open; });
         --m_waiting;
+    }
+    // For a medium's `beforeRead`: passes at the read of that number.
+    auto atRead(std::uint64_t number) {
+        return [this, number](std::uint64_t read) {
+            if (read == number) {
+                pass();
+            }
+        };
     }
     void open() {
         const std::lock_guard lock(m_lock);

@@ -156,11 +156,7 @@ TEST_F(Preview, AScanThatEndsWhileAPreviewIsCopied_ShowsItsEndAfterwards) {
     Gate scanGate, copyGate;
     ScriptedMedium copied{64};
     copied.beforeRead = [&copyGate](std::uint64_t) { copyGate.pass(); };
-    card.beforeRead = [&scanGate](std::uint64_t read) {
-        if (read == 60) {
-            scanGate.pass();
-        }
-    };
+    card.beforeRead = scanGate.atRead(60);
     std::atomic<int> openings{0};
     parts.openMedium = [&](const QString&) {
         return std::make_unique<ScriptedReader>(++openings == 2 ? copied : card);
@@ -185,11 +181,7 @@ TEST_F(Preview, AScanThatEndsWhileAPreviewIsCopied_ShowsItsEndAfterwards) {
 
 TEST_F(Preview, AnItemSelectedBetweenStopAndTheEnd_LeavesTheEndToTheScan) {
     Gate scanGate;
-    card.beforeRead = [&scanGate](std::uint64_t read) {
-        if (read == 60) {
-            scanGate.pass();
-        }
-    };
+    card.beforeRead = scanGate.atRead(60);
     openWithCard();
     toFileTypes(kRawFileMode);
     click(controller->nextButton);

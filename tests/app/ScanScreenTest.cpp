@@ -16,14 +16,6 @@ class ScanScreen : public WindowTest {
   protected:
     ~ScanScreen() override { gate.open(); }
 
-    // The scan stands before the read of this sector.
-    void holdAt(std::uint64_t read) {
-        card.beforeRead = [this, read](std::uint64_t number) {
-            if (number == read) {
-                gate.pass();
-            }
-        };
-    }
     bool held() {
         return waitFor([this] { return gate.someoneWaits() && controller->_Mode_label->text() == kGeneral; });
     }
@@ -37,7 +29,7 @@ class ScanScreen : public WindowTest {
 TEST_F(ScanScreen, WhileAScanRuns_TheScreenSaysSoAndTheWizardStands) {
     openWithCard();
     toRange(kPhotoMode);
-    holdAt(16);
+    card.beforeRead = gate.atRead(16);
     click(controller->nextButton);
     ASSERT_TRUE(held());
     EXPECT_TRUE(waitFor([this] { return controller->_help_info->text() == kStopHelp; }));
@@ -67,7 +59,7 @@ TEST_P(StoppedScan, Stop_EndsItOnceWithWhatWasFound) {
     } else {
         toFileTypes(GetParam());
     }
-    holdAt(48);
+    card.beforeRead = gate.atRead(48);
     click(controller->nextButton);
     ASSERT_TRUE(held());
     click(controller->_stop_scan);
@@ -90,7 +82,7 @@ INSTANTIATE_TEST_SUITE_P(Modes, StoppedScan, ::testing::Values(kPhotoMode, kVide
 TEST_F(ScanScreen, StopAtTheFirstSector_FindsNothing) {
     openWithCard();
     toRange(kPhotoMode);
-    holdAt(0);
+    card.beforeRead = gate.atRead(0);
     click(controller->nextButton);
     ASSERT_TRUE(held());
     click(controller->_stop_scan);
@@ -187,11 +179,7 @@ TEST_F(ScanScreen, Stop_WaitsForNoThumbnail_AndThePicturesFollow) {
     openWithCard();
     Gate medium;
     toRange(kPhotoMode);
-    card.beforeRead = [&medium](std::uint64_t read) {
-        if (read == 48) {
-            medium.pass();
-        }
-    };
+    card.beforeRead = medium.atRead(48);
     click(controller->nextButton);
     ASSERT_TRUE(waitFor([&] { return gate.someoneWaits() && medium.someoneWaits(); }));
     EXPECT_EQ(controller->itemCount(), 0u) << "both wait for their thumbnails";

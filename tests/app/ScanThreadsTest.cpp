@@ -16,17 +16,22 @@ qsizetype entriesOf(const char* folder) {
 
 using ScanThreads = WindowTest;
 
+// Every other one is stopped half-way.
 TEST_F(ScanThreads, AHundredScans_LeaveNoThreadAndNoDescriptor) {
     openWithCard();
     qsizetype threads = 0, descriptors = 0;
     constexpr int kScans = 100;
     for (int scan = 0; scan < kScans; ++scan) {
         toRange(kPhotoMode);
-        if (scan % 2 == 1) {
-            controller->stop_now = 0;
-        }
+        const bool stopped = scan % 2 == 1;
+        card.beforeRead = [this, stopped, first = card.reads](std::uint64_t read) {
+            if (stopped && read == first + 32) {
+                controller->stop_now = 1;
+            }
+        };
         scanToEnd();
-        ASSERT_EQ(controller->itemCount(), 3u);
+        ASSERT_EQ(controller->lastOutcome(), stopped ? PassOutcome::Stopped : PassOutcome::Completed);
+        ASSERT_GE(controller->itemCount(), 1u);
         answers.press(QStringLiteral("Go Back Without Saving"));
         click(controller->backButton);
         click(controller->backButton);
@@ -35,7 +40,7 @@ TEST_F(ScanThreads, AHundredScans_LeaveNoThreadAndNoDescriptor) {
             descriptors = entriesOf("/proc/self/fd");
         }
     }
-    EXPECT_EQ(opened, 2 * kScans);
+    EXPECT_EQ(opened, kScans / 2 * 3) << "a stopped scan makes no second pass";
     EXPECT_EQ(entriesOf("/proc/self/task"), threads);
     EXPECT_EQ(entriesOf("/proc/self/fd"), descriptors);
 }
@@ -44,11 +49,7 @@ TEST_F(ScanThreads, TheWindowAnswersWhileTheMediumDoesNot) {
     Gate gate;
     openWithCard();
     toRange(kPhotoMode);
-    card.beforeRead = [&gate](std::uint64_t read) {
-        if (read == 30) {
-            gate.pass();
-        }
-    };
+    card.beforeRead = gate.atRead(30);
     click(controller->nextButton);
     ASSERT_TRUE(waitFor([&] { return gate.someoneWaits(); }));
     controller->window->resize(controller->window->size() + QSize(40, 40));

@@ -95,7 +95,7 @@ class WindowTest : public ::testing::Test {
     void open();
     void close() { controller.reset(); }
 
-    // The program as a person finds it: one card of 64 sectors with two pictures and two documents.
+    // The program as a person finds it: one card of 64 sectors with pictures, documents and movies.
     void openWithCard();
 
     static void click(QWidget* widget);
