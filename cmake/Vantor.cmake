@@ -49,8 +49,8 @@ function(vantor_folders)
     endforeach()
 endfunction()
 
-# vantor_test(name SOURCES... LINK libs... [ENV name=value...] [NO_DISCOVER]): a GoogleTest program, one ctest
-# entry a test. Tests find their data through compile definitions, never through the working directory.
+# vantor_test(name SOURCES... LINK libs... [ENV name=value...] [TIMEOUT seconds]): a GoogleTest program, one
+# ctest entry a test. Tests find their data through compile definitions, never through the working directory.
 function(vantor_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "TIMEOUT" "SOURCES;LINK;ENV")
     if(NOT arg_TIMEOUT)

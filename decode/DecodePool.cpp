@@ -144,11 +144,25 @@ std::vector<pid_t> DecodePool::helperPids() const {
 DecodedPicture DecodePool::decode(const Ask& ask) {
     DecodedPicture picture;
     bool killedFromOutside = false;
+    enter();
     const AskOutcome outcome = askOnce(ask, picture, killedFromOutside);
     if (outcome == AskOutcome::NotTaken || (outcome == AskOutcome::Died && killedFromOutside)) {
         askOnce(ask, picture, killedFromOutside);
     }
+    leave();
     return picture;
+}
+
+// Callers count also while they wait for a helper: the pool may not go away under them.
+void DecodePool::enter() {
+    const std::scoped_lock lock(m_mutex);
+    ++m_callers;
+}
+
+void DecodePool::leave() {
+    const std::scoped_lock lock(m_mutex);
+    --m_callers;
+    m_helperWanted.notify_all();
 }
 
 AskOutcome DecodePool::askOnce(const Ask& ask, DecodedPicture& picture, bool& killedFromOutside) {
@@ -168,16 +182,14 @@ AskOutcome DecodePool::askOnce(const Ask& ask, DecodedPicture& picture, bool& ki
     } else {
         bury(std::move(helper), outcome, killedFromOutside);
     }
-    const std::scoped_lock lock(m_mutex);
     if (outcome == AskOutcome::Answered) {
+        const std::scoped_lock lock(m_mutex);
         ++(picture.image.isNull() ? m_counts.refused : m_counts.pictures);
     }
-    --m_callers;
-    m_helperWanted.notify_all();
     return outcome;
 }
 
-// Null when there is no helper to wait for; otherwise the caller counts as one until askOnce() ends.
+// Null when there is no helper to wait for.
 std::unique_ptr<HelperProcess> DecodePool::acquire() {
     std::unique_lock lock(m_mutex);
     m_helperFree.wait(lock,
@@ -187,7 +199,6 @@ std::unique_ptr<HelperProcess> DecodePool::acquire() {
     }
     std::unique_ptr<HelperProcess> helper = std::move(m_idle.back());
     m_idle.pop_back();
-    ++m_callers;
     return helper;
 }
 
@@ -223,6 +234,9 @@ decode::HelperEnd DecodePool::retire(HelperProcess& helper) {
     {
         const std::scoped_lock lock(m_mutex);
         std::erase(m_live, helper.pid());
+        if (m_live.empty()) {
+            m_helperFree.notify_all();  // in case none can be started
+        }
     }
     return helper.finish();
 }

@@ -91,6 +91,8 @@ class DecodePool {
     DecodedPicture decode(const Ask& ask);
     decode::AskOutcome askOnce(const Ask& ask, DecodedPicture& picture, bool& killedFromOutside);
     std::unique_ptr<decode::HelperProcess> acquire();
+    void enter();
+    void leave();
     void giveBack(std::unique_ptr<decode::HelperProcess> helper);
     void bury(std::unique_ptr<decode::HelperProcess> helper, decode::AskOutcome outcome,
               bool& killedFromOutside);

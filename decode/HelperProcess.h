@@ -59,7 +59,7 @@ class HelperProcess {
     pid_t pid() const { return m_pid; }
     bool caged() const { return m_caged; }
     std::uint64_t answered() const { return m_answered; }
-    // Memory in use and processor time spent so far; nullopt when the system does not tell.
+    // Memory in use and processor time spent so far; nullopt, and 0, when the system does not tell.
     std::optional<std::uint64_t> residentBytes() const;
     std::chrono::milliseconds processorTime() const;
 

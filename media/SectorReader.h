@@ -66,8 +66,8 @@ class SectorReader {
     virtual std::uint64_t mediumSectors() const { return 0; }
 
   protected:
-    // Called when nothing is fetched ahead: makes the sector at position() current(), by handOver() or by
-    // setting current() through handOver() with a longer run.
+    // Called when nothing is fetched ahead: calls handOver() with the sector at position() and as many
+    // behind it as there are.
     virtual bool fetch() = 0;
 
     // True when the medium can be positioned at the sector.

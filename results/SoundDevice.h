@@ -8,7 +8,7 @@
 
 namespace vantor {
 
-// Takes decode::kSoundFramesPerSecond stereo frames a second. Used by one thread at a time.
+// Takes kSoundFramesPerSecond stereo frames a second. Used by one thread at a time.
 class SoundDevice {
   public:
     // Writes the whole span, left and right in turn. Called on a thread of the device's, one call at a time.

@@ -7,9 +7,8 @@
 //   length that its kind can plausibly have: a garbled length field must not fill the disk.
 // - An end that nothing marks, at a sector that could not be read, is a break.
 // - Cut off where the walker was not let see the medium's end: the carved run, for the same reason.
-// - Unknown: the carved run as it was published. Zeros at its end stay, since no walker says that they are
-// not
-//   the file's.
+// - Unknown: the carved run as it was published. Zeros at its end stay, since no walker says that they
+//   are not the file's.
 #include "results/TrueLength.h"
 
 #include <algorithm>

@@ -16,8 +16,9 @@ struct TrueLength {
     Extent extent;            // as the walker gave it
 };
 
-// Walks the item with the walker of its type (`Ext_Name`, any case). Reads no further behind the carved run
-// than kMostPlausible of the format, and not at all where `mayGoBeyond` is false.
+// Walks the item with the walker of its type (`Ext_Name`, any case). Behind the carved
+// run it reads, but for kinds that grow large, no further than a file of that kind plausibly reaches, and not
+// at all where `mayGoBeyond` is false.
 TrueLength trueLengthOf(const QString& type, MediumBytes& bytes, bool mayGoBeyond);
 
 // The rule itself; bytes all. `carved` is the published run, `view` how far the walker could see.

@@ -1,4 +1,5 @@
-// The two forms in which the program tells or asks something: a message with "OK", and a Yes/No question.
+// The forms in which the program tells or asks something: a message with "OK", a Yes/No question, and an
+// alert of any buttons.
 #pragma once
 
 #include <QString>
@@ -16,8 +17,8 @@ int Show_MessageBox(const QString& message);
 // True when the question was answered "Yes", the default button; "No" and any other way out are false.
 bool Show_YES_NO_MessageBox(const QString& question);
 
-// An alert as it stands, no line break added. The first button is the default one; the last one answers
-// Escape. Gives the index of the button pressed.
+// An alert as it stands, no line break added. The last button answers Escape. Gives the index of the button
+// pressed.
 struct Alert {
     QString message;
     QString informative = QStringLiteral("");

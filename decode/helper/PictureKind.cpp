@@ -19,7 +19,6 @@ struct Mark {
     const char* handler;
 };
 
-// Longer marks before shorter ones.
 const std::array kMarks{
     Mark{0, "\xff\xd8\xff", "jpeg"},
     Mark{0, "\x89PNG\r\n\x1a\n", "png"},

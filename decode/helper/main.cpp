@@ -19,7 +19,7 @@ int main(int argc, char** argv) {
         return EXIT_FAILURE;
     }
     silenceErrors();
-    // with us.
+    // Reads the time zone before the cage shuts its files away.
     tzset();
     QCoreApplication application(argc, argv);
     preparePictureDecoders();

@@ -53,9 +53,9 @@ class HookedReader : public SectorReader {
             return false;
         }
         if (!m_alwaysOnly) {
-            int& left = m_faults->transient[position()];
-            if (left > 0) {
-                --left;
+            const auto left = m_faults->transient.find(position());
+            if (left != m_faults->transient.end() && left.value() > 0) {
+                --left.value();
                 return false;
             }
         }
