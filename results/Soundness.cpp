@@ -32,8 +32,8 @@ QString words(const Soundness& soundness) {
 }  // namespace
 
 std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, SectorReader& medium,
-                                 ReadWatch& watch, std::vector<std::uint8_t>& kept) {
-    WatchedReader watched(medium, watch, kMostExaminedBytes / kSectorBytes);
+                                 ReadWatch& watch, std::vector<std::uint8_t>& kept, std::uint64_t mostBytes) {
+    WatchedReader watched(medium, watch, mostBytes / kSectorBytes);
     const ItemSource source{carved, {}, [&watched] { return &watched; }, medium.mediumSectors()};
     MediumBytes bytes(source, kept);
     const TrueLength length = trueLengthOf(type, bytes, true);

@@ -23,11 +23,12 @@ struct Soundness {
 };
 
 // Follows the item's own structure on the medium as saving does, without saving. A file that takes more than
-// kMostExaminedBytes of reading is of unknown soundness. Nothing when the watch was ended meanwhile. `kept`
+// `mostBytes` of reading is of unknown soundness. Nothing when the watch was ended meanwhile. `kept`
 // is memory that serves many items.
 inline constexpr std::uint64_t kMostExaminedBytes = std::uint64_t{256} << 20;
 std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, SectorReader& medium,
-                                 ReadWatch& watch, std::vector<std::uint8_t>& kept);
+                                 ReadWatch& watch, std::vector<std::uint8_t>& kept,
+                                 std::uint64_t mostBytes = kMostExaminedBytes);
 
 // What saving found out; nothing when it did not come that far.
 std::optional<Soundness> soundnessOf(const SaveOutcome& outcome);

@@ -166,16 +166,27 @@ TEST(Soundness, IsSaidInWords) {
     EXPECT_EQ(describe(torn), QStringLiteral("cut off, not all of its sectors could be read, 1.0 kB"));
 }
 
-TEST(Soundness, AFileOfTooMuchReading_IsOfUnknownLength) {
+TEST(Soundness, NothingIsKnownWhenTheWatchEnds) {
     ScriptedMedium medium = mediumWith(wavFile(kWavBytes), 0, 60);
     ScriptedReader reader(medium);
     ReadWatch watch;
     std::vector<std::uint8_t> kept;
     watch.ended = true;
     EXPECT_FALSE(examine(QStringLiteral("WAV"), {{{0, 40}}, false}, reader, watch, kept));
-    watch.ended = false;
-    EXPECT_EQ(examine(QStringLiteral("WAV"), {{{0, 40}}, false}, reader, watch, kept)->verdict,
-              Verdict::Complete);
+}
+
+TEST(Soundness, AFileOfTooMuchReading_IsOfUnknownLength) {
+    ScriptedMedium medium = mediumWith(wavFile(kWavBytes), 0, 60);
+    ScriptedReader reader(medium);
+    ReadWatch watch;
+    std::vector<std::uint8_t> kept;
+    const CarvedRun carved{{{0, 40}}, false};
+    const auto examined = [&](std::uint64_t mostBytes) {
+        return *examine(QStringLiteral("WAV"), carved, reader, watch, kept, mostBytes);
+    };
+    EXPECT_EQ(examined(kSectorBytes).verdict, Verdict::Unknown);
+    EXPECT_EQ(examined(kSectorBytes).bytes, 40 * kSectorBytes) << "as it was carved";
+    EXPECT_EQ(examined(kMostExaminedBytes).verdict, Verdict::Complete);
 }
 
 }  // namespace
