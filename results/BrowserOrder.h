@@ -32,8 +32,6 @@ struct BrowserWish {
     bool isPlain() const { return show == ShowItems::All && sort == SortItems::AsFound; }
     // Whether it takes the soundness of all items to grant it.
     bool needsSoundness() const;
-
-    friend bool operator==(const BrowserWish&, const BrowserWish&) = default;
 };
 
 // Places in the list of `count` items. Items of which too little is known are shown where something is to be

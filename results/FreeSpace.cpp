@@ -6,7 +6,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QLocale>
+
+#include "results/SizeForPeople.h"
 
 namespace vantor {
 
@@ -30,7 +31,7 @@ std::optional<QString> refuseForSpace(const QString& folder, std::uint64_t bytes
     if (!free || *free >= bytes) {
         return std::nullopt;
     }
-    const auto text = [](std::uint64_t n) { return QLocale::c().formattedDataSize(static_cast<qint64>(n)); };
+    const auto text = [](std::uint64_t n) { return sizeForPeople(n, QLocale::c()); };
     return QStringLiteral("There is not enough room in %1: %2 are needed, %3 are free")
         .arg(folder, text(bytes), text(*free));
 }

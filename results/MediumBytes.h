@@ -29,7 +29,8 @@ struct ItemSource {
 //
 // The first bytes, up to kMostKept, stay in memory as they are read, so that what was walked is not read
 // again to be written. A sector that cannot be read becomes zeros. Reading ends early (a short read) before a
-// long unreadable stretch behind the carved run, and when the medium took kPatienceSeconds for refusals. One thread.
+// long unreadable stretch behind the carved run, and when the medium took kPatienceSeconds for refusals. One
+// thread.
 class MediumBytes final : public ByteSource {
   public:
     static constexpr std::uint64_t kMostKept = std::uint64_t{64} * 1024 * 1024;

@@ -1,13 +1,13 @@
 // The preview of the selected item: copy, then picture, icon or movie.
 #include <QEventLoop>
 #include <QFileInfo>
-#include <QLocale>
 
 #include "app/MyTableController.h"
 #include "catalogue/NumberText.h"
 #include "results/MovieControls.h"
 #include "results/PreviewFile.h"
 #include "results/RecoveryMode.h"
+#include "results/SizeForPeople.h"
 #include "wizard/Sheet.h"
 
 namespace vantor {
@@ -102,7 +102,7 @@ void MyTableController::showPreviewFacts() {
         return;
     }
     const Movie* const sound = soundControls->movie();
-    const QString size = QLocale().formattedDataSize(file.size());
+    const QString size = sizeForPeople(static_cast<std::uint64_t>(file.size()));
     previewFacts->setText(sound != nullptr && sound->durationMs() > 0
                               ? tr("%1, %2").arg(size, timeText(sound->durationMs()))
                               : size);

@@ -2,11 +2,11 @@
 #include "results/RecoveryReport.h"
 
 #include <QDir>
-#include <QLocale>
 #include <QMap>
 #include <QUrl>
 
 #include "results/SaveTally.h"
+#include "results/SizeForPeople.h"
 #include "results/WholeFile.h"
 
 namespace vantor {
@@ -24,7 +24,7 @@ const char kStyle[] =
     ".cut,.damaged,.failed{color:#f88}}";
 
 QString sizeText(std::uint64_t bytes) {
-    return QLocale::c().formattedDataSize(static_cast<qint64>(bytes));
+    return sizeForPeople(bytes, QLocale::c());
 }
 
 QString dateText(const std::optional<CivilTime>& taken) {

@@ -1,7 +1,7 @@
 // Counting, and the sentences that say the counts.
 #include "results/SaveTally.h"
 
-#include <QLocale>
+#include "results/SizeForPeople.h"
 
 namespace vantor {
 
@@ -54,8 +54,7 @@ QStringList SaveTally::lines(const QString& destination) const {
     QString first = QStringLiteral("%1 saved in %2").arg(saved).arg(destination);
     if (saved != 0) {
         first += QStringLiteral(" (%1): %2")
-                     .arg(QLocale::c().formattedDataSize(static_cast<qint64>(bytes)),
-                          kinds.join(QStringLiteral(", ")));
+                     .arg(sizeForPeople(bytes, QLocale::c()), kinds.join(QStringLiteral(", ")));
     }
     lines.append(first);
     const auto line = [&lines](std::uint64_t count, const char* text) {

@@ -1,12 +1,12 @@
 // One job at a time, on a thread of its own, under a sheet.
 #include "results/SavingDesk.h"
 
-#include <QLocale>
 #include <map>
 
 #include "results/MyImageObject.h"
 #include "results/SaveJob.h"
 #include "results/SaveSummary.h"
+#include "results/SizeForPeople.h"
 #include "wizard/Alerts.h"
 #include "wizard/SavingSheet.h"
 
@@ -88,14 +88,11 @@ bool SavingDesk::mayFill(const QString& destination, std::uint64_t bytes) const 
     if (!free || *free >= bytes) {
         return true;
     }
-    const auto size = [](std::uint64_t n) {
-        return QLocale().formattedDataSize(static_cast<qint64>(n), 1, QLocale::DataSizeSIFormat);
-    };
     return runAlert(
                {QStringLiteral("\n") + tr("There may not be enough room in the destination."),
                 tr("Some %1 are needed and %2 are free in %3. What fits is saved whole; the rest is left "
                    "out and stays in the list.")
-                    .arg(size(bytes), size(*free), destination),
+                    .arg(sizeForPeople(bytes), sizeForPeople(*free), destination),
                 {tr("Save What Fits"), tr("Cancel")},
                 1},
                m_parts.window) == 0;

@@ -1,11 +1,11 @@
 // Examining with the walkers that saving uses, and the words for the result.
 #include "results/Soundness.h"
 
-#include <QLocale>
 #include <QObject>
 #include <QStringList>
 
 #include "results/MediumBytes.h"
+#include "results/SizeForPeople.h"
 #include "results/TrueLength.h"
 
 namespace vantor {
@@ -79,7 +79,7 @@ QString describe(const Soundness& soundness) {
     if (soundness.unreadable) {
         parts << QObject::tr("not all of its sectors could be read");
     }
-    parts << QLocale().formattedDataSize(static_cast<qint64>(soundness.bytes), 1, QLocale::DataSizeSIFormat);
+    parts << sizeForPeople(soundness.bytes);
     if (soundness.width != 0) {
         parts << QObject::tr("%1 × %2 pixels").arg(soundness.width).arg(soundness.height);
     }
