@@ -4,8 +4,9 @@
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
+#include <cstdlib>
+#include <cstring>
 
 #include "results/DestinationCheck.h"
 #include "tests/media/LoopDevice.h"
@@ -46,7 +47,8 @@ TEST(DestinationCheck, FoldersOfAMountedCardAreSeenThroughLinks) {
     QFile file(image);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.resize(4 << 20));
     file.close();
-    if (QProcess::execute("/sbin/mke2fs", {"-q", "-F", image}) != 0) {
+    // Not by Qt, after whose forks the thread sanitizer no longer sees this thread's locks.
+    if (std::system(QFile::encodeName("/sbin/mke2fs -q -F '" + image + "'").constData()) != 0) {
         GTEST_SKIP() << "no file system can be made here";
     }
     const test::LoopDevice card(image);
