@@ -323,8 +323,7 @@ class MyTableController : public QObject,
     void startScan(void (ScanSession::*driver)());
     void pump();
     void drainQueue();
-    bool waitForThreads(std::chrono::milliseconds patience);
-    static constexpr std::chrono::milliseconds kLastScanPatience{5000};
+    bool waitForThreads();
     void scanThreadsEnded();
     void flushViews();
     void showScanFacts();

@@ -6,6 +6,12 @@
 
 namespace vantor {
 
+namespace {
+
+constexpr std::chrono::milliseconds kLastScanPatience{5000};
+
+}  // namespace
+
 void MyTableController::startScan(void (ScanSession::*driver)()) {
     prepareIcons();
     setEmptyStates();
@@ -78,8 +84,9 @@ void MyTableController::drainQueue() {
     }
 }
 
-bool MyTableController::waitForThreads(std::chrono::milliseconds patience) {
-    const auto until = std::chrono::steady_clock::now() + patience;
+// False when the last scan has not ended after some seconds.
+bool MyTableController::waitForThreads() {
+    const auto until = std::chrono::steady_clock::now() + kLastScanPatience;
     while (scanRunning()) {
         if (std::chrono::steady_clock::now() > until) {
             return false;
@@ -99,7 +106,7 @@ bool MyTableController::waitForThreads(std::chrono::milliseconds patience) {
 
 void MyTableController::scanThreadsEnded() {
     m_pump.stop();
-    waitForThreads(kLastScanPatience);
+    waitForThreads();
     flushViews();
     showItemCounts();
     showWhereWeAre();

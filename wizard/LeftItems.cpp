@@ -60,7 +60,7 @@ void MyTableController::showLeftItems() {
 
 // False: the user stays with what was found and is not saved.
 bool MyTableController::mayBeginScan() {
-    if (!waitForThreads(kLastScanPatience)) {
+    if (!waitForThreads()) {
         runAlert({QStringLiteral("\n") + tr("The storage medium does not answer."),
                   tr("The search before has not ended yet. Take the medium out and put it back in, then try "
                      "again.")},

@@ -10,7 +10,7 @@
 
 #include "results/HelperMovie.h"
 #include "results/PlaybackClock.h"
-#include "tests/app/HeardDevice.h"
+#include "tests/app/Played.h"
 
 namespace vantor {
 namespace {
@@ -21,21 +21,13 @@ QString corpusFolder() {
     return QDir(folder).exists() ? folder : QString();
 }
 
-class PlayedMovie : public testing::Test {
+class PlayedMovie : public Played {
   protected:
     void SetUp() override {
         if (corpusFolder().isEmpty()) {
             GTEST_SKIP() << "no corpus";
         }
-        if (!QFileInfo::exists(QStringLiteral(VANTOR_MOVIE_HELPER))) {
-            GTEST_SKIP() << "built without the movie helper";
-        }
-    }
-    HelperMovieOptions options() {
-        HelperMovieOptions chosen;
-        chosen.sound = [this] { return std::make_unique<HeardDevice>(heard); };
-        chosen.reader.helper = QStringLiteral(VANTOR_MOVIE_HELPER);
-        return chosen;
+        Played::SetUp();
     }
     void openMovie(const char* name = "synth/vp9_opus.webm") {
         movie = HelperMovie::open(corpusFolder() + QStringLiteral("/videos/") + QLatin1String(name),
@@ -46,20 +38,10 @@ class PlayedMovie : public testing::Test {
             last = frame;
         };
     }
-    // Listens in steps until the movie has come so far, or time is up.
-    bool listenUntil(std::int64_t timeMs) {
-        return QTest::qWaitFor(
-            [&] {
-                loudest = std::max(loudest, loudestOf(heard.listen(5)));
-                return movie->positionMs() >= timeMs || movie->rate() == 0;
-            },
-            20000);
-    }
+    bool listenUntil(std::int64_t timeMs) { return Played::listenUntil(*movie, timeMs, 5); }
 
-    Heard heard;
     std::unique_ptr<Movie> movie;
     int frames = 0;
-    int loudest = 0;
     QImage last;
 };
 

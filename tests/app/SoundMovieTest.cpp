@@ -8,25 +8,14 @@
 #include <algorithm>
 
 #include "results/SoundMovie.h"
-#include "tests/app/HeardDevice.h"
+#include "tests/app/Played.h"
 #include "tests/decode/Tones.h"
 
 namespace vantor {
 namespace {
 
-class PlayedSound : public testing::Test {
+class PlayedSound : public Played {
   protected:
-    void SetUp() override {
-        if (!QFileInfo::exists(QStringLiteral(VANTOR_MOVIE_HELPER))) {
-            GTEST_SKIP() << "built without the movie helper";
-        }
-    }
-    HelperMovieOptions options() {
-        HelperMovieOptions chosen;
-        chosen.sound = [this] { return std::make_unique<HeardDevice>(heard); };
-        chosen.reader.helper = QStringLiteral(VANTOR_MOVIE_HELPER);
-        return chosen;
-    }
     QString written(const QByteArray& bytes, const char* name = "dprv.WAV") {
         const QString path = m_folder.filePath(QLatin1String(name));
         QFile file(path);
@@ -37,19 +26,9 @@ class PlayedSound : public testing::Test {
         sound = SoundMovie::open(written(test::tones(seconds)), {}, options());
         ASSERT_TRUE(sound);
     }
-    // Listens in steps until the sound has come so far, or has ended, or time is up.
-    bool listenUntil(std::int64_t timeMs) {
-        return QTest::qWaitFor(
-            [&] {
-                loudest = std::max(loudest, loudestOf(heard.listen(20)));
-                return sound->positionMs() >= timeMs || sound->rate() == 0;
-            },
-            20000);
-    }
+    bool listenUntil(std::int64_t timeMs) { return Played::listenUntil(*sound, timeMs, 20); }
 
-    Heard heard;
     std::unique_ptr<Movie> sound;
-    int loudest = 0;
 
   private:
     QTemporaryDir m_folder;
