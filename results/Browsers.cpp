@@ -105,12 +105,13 @@ void MyTableController::filterResultRows() {
 void MyTableController::showItemCounts() {
     const qsizetype found = static_cast<qsizetype>(itemCount());
     const auto words = [&](const ImageBrowserView* browser) {
-        const qsizetype selected = browser->selectedCount();
-        const QString count = found == 1 ? tr("1 item") : tr("%1 items").arg(QLocale().toString(found));
         const int shown = browser->shownCount();
-        const QString inView =
-            m_looks->isPlain() ? count : tr("%1 of %2").arg(QLocale().toString(shown), count);
-        return selected > 0 ? tr("%1, %2 selected").arg(inView, QLocale().toString(selected)) : inView;
+        const qsizetype selected = browser->selectedCount();
+        if (selected > 0) {
+            return tr("%1 of %2 selected").arg(QLocale().toString(selected), QLocale().toString(shown));
+        }
+        const QString count = found == 1 ? tr("1 item") : tr("%1 items").arg(QLocale().toString(found));
+        return m_looks->isPlain() ? count : tr("%1 of %2").arg(QLocale().toString(shown), count);
     };
     photoCountLabel->setText(words(imageBrowser));
     rawCountLabel->setText(words(imageBrowser_2));

@@ -212,7 +212,7 @@ TEST_F(Browser, SeveralItemsAreSelectedByKeyboard_AndTypingFindsOne) {
     browser->setCurrentIndex(browser->model()->index(0, 0));
     QTest::keyClick(browser, Qt::Key_Right, Qt::ShiftModifier);
     EXPECT_EQ(browser->selectionIndexes(), (QList<qsizetype>{0, 1}));
-    EXPECT_EQ(controller->photoCountLabel->text(), QStringLiteral("30 items, 2 selected"));
+    EXPECT_EQ(controller->photoCountLabel->text(), QStringLiteral("2 of 30 selected"));
     EXPECT_TRUE(controller->saveSelectedButton->isEnabled());
     QTest::keyClick(browser, Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(browser->selectionIndexes().size(), 30);
@@ -232,6 +232,20 @@ TEST_F(Browser, WhereTheKeyboardStandsIsSeen) {
     browser->setFocus();
     EXPECT_TRUE(browser->selectionIndexes().isEmpty());
     EXPECT_NE(browser->viewport()->grab(cell).toImage(), before);
+}
+
+TEST_F(Browser, HowManyAreSelectedCanBeReadInANarrowWindow) {
+    open();
+    showPhotoScreen();
+    controller->_zoom_slider->show();
+    controller->window->resize(655, 490);  // 1024 x 768 at 144 dots an inch
+    addPhotos(67);
+    QTest::qWait(1);
+    controller->imageBrowser->selectAll();
+    QTest::qWait(1);
+    EXPECT_EQ(controller->photoCountLabel->text(), QStringLiteral("67 of 67 selected"));
+    EXPECT_GE(controller->photoCountLabel->width(), controller->photoCountLabel->sizeHint().width());
+    EXPECT_FALSE(controller->bodyScroll->horizontalScrollBar()->isVisible());
 }
 
 TEST_F(Browser, TheSelectionSurvivesNewItems) {
