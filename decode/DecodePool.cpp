@@ -47,6 +47,12 @@ Request pictureRequest(QSize bound, const QString& extension) {
     return request;
 }
 
+Request previewRequest(QSize bound, const QString& extension) {
+    Request request = pictureRequest(bound, extension);
+    request.flags = decode::kReducedWillDo;
+    return request;
+}
+
 int coresOr(int wanted) {
     return wanted > 0 ? wanted : static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
 }
@@ -112,7 +118,7 @@ DecodedPicture DecodePool::picture(const QByteArray& encoded, QSize bound, const
     if (encoded.isEmpty() || bound.isEmpty()) {
         return {};
     }
-    const Request request = pictureRequest(bound, extension);
+    const Request request = previewRequest(bound, extension);
     return decode([&](HelperProcess& helper, Answer& answer) {
         return helper.ask(request, encoded, m_options.pictureDeadline, answer);
     });
@@ -123,7 +129,7 @@ DecodedPicture DecodePool::picture(const QString& path, QSize bound) {
     if (bound.isEmpty() || !file.isOpen()) {
         return {};
     }
-    const Request request = pictureRequest(bound, extensionHint(path));
+    const Request request = previewRequest(bound, extensionHint(path));
     return decode([&](HelperProcess& helper, Answer& answer) {
         return helper.askFile(request, file.descriptor(), m_options.pictureDeadline, answer);
     });

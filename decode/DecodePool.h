@@ -65,12 +65,14 @@ class DecodePool {
     // Closes, waits for the calls under way to return, and ends all helpers.
     ~DecodePool();
 
-    // A thumbnail: the full picture, upright, longer side at most kThumbnailSide pixels and never enlarged,
-    // as JPEG encoded by this process; empty when the bytes cannot be decoded. `extension` (may be empty)
-    // helps with the few formats that carry no mark of their own.
+    // A thumbnail: the full picture (never a small one that the file brings along), upright, longer side at
+    // most kThumbnailSide pixels and never enlarged, as JPEG encoded by this process; empty when the bytes
+    // cannot be decoded. `extension` (may be empty) helps with the few formats that carry no mark of their
+    // own.
     QByteArray thumbnail(const QByteArray& encoded, const QString& extension = {});
 
-    // The picture within the bound, upright, never enlarged.
+    // The picture within the bound, upright, never enlarged; where the full one cannot be decoded, a small
+    // one that the file brings along, and the full size is then not known.
     DecodedPicture picture(const QByteArray& encoded, QSize bound, const QString& extension = {});
     DecodedPicture picture(const QString& path, QSize bound);
 

@@ -11,7 +11,9 @@
 #include <exception>
 
 #include "decode/helper/PictureKind.h"
+#include "decode/helper/PictureWithin.h"
 #include "decode/helper/PixelCopy.h"
+#include "decode/helper/ReducedPicture.h"
 
 namespace vantor::decode {
 
@@ -154,13 +156,22 @@ std::optional<PictureResult> decodeBy(const QByteArray& handler, QByteArrayView 
 }  // namespace
 
 std::optional<PictureResult> decodePicture(QByteArrayView bytes, QByteArrayView extension, QSize bound) {
-    const QByteArrayView picture = pictureWithin(bytes);
+    const QByteArray picture = pictureWithin(bytes);
     for (const QByteArray& handler : handlersFor(picture, extension)) {
         if (auto result = decodeBy(handler, picture, bound)) {
             return result;
         }
     }
     return std::nullopt;
+}
+
+std::optional<PictureResult> decodeReduced(QByteArrayView bytes, QSize bound) {
+    const ReducedPicture reduced = reducedPictureIn(bytes);
+    auto result = reduced.bytes.isEmpty() ? std::nullopt : decodeBy(reduced.handler, reduced.bytes, bound);
+    if (result) {
+        result->fullSize = {};
+    }
+    return result;
 }
 
 void preparePictureDecoders() {
@@ -183,14 +194,18 @@ Answer PictureJobDecoder::decode(const Job& job) {
     std::optional<PictureResult> result;
     try {
         result = decodePicture(bytes, job.request.hint, bound);
+        if (!result && (job.request.flags & kReducedWillDo) != 0) {
+            result = decodeReduced(bytes, bound);
+        }
     } catch (const std::exception&) {
         // Out of memory within the limit, mostly: no picture.
     }
     if (!result || !copyPixels(result->image, bound, job.pixels, answer)) {
         return answer;
     }
-    answer.fullWidth = static_cast<std::uint32_t>(result->fullSize.width());
-    answer.fullHeight = static_cast<std::uint32_t>(result->fullSize.height());
+    const QSize fullSize = result->fullSize.isValid() ? result->fullSize : QSize(0, 0);
+    answer.fullWidth = static_cast<std::uint32_t>(fullSize.width());
+    answer.fullHeight = static_cast<std::uint32_t>(fullSize.height());
     answer.flags |= result->partial ? kPartial : 0U;
     return answer;
 }

@@ -1,13 +1,11 @@
-// Marks at the beginning of the bytes, and the look into TIFF structures that tells a camera's raw file from
-// a finished picture.
+// Marks at the beginning of the bytes, and the order in which handlers try what bears them.
 #include "decode/helper/PictureKind.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdint>
 
-#include "decode/helper/ByteView.h"
-#include "decode/helper/TiffDirectory.h"
+#include "decode/helper/SensorData.h"
 
 namespace vantor::decode {
 
@@ -83,6 +81,10 @@ const std::array kMarkless{
     Markless{"ppm", "ppm"},        Markless{"pnm", "ppm"},   Markless{"xbm", "xbm"}, Markless{"xpm", "xpm"},
 };
 
+bool hasText(QByteArrayView bytes, qsizetype at, QByteArrayView text) {
+    return bytes.size() - at >= text.size() && bytes.sliced(at, text.size()) == text;
+}
+
 // Markup whose first element is the drawing's.
 bool isDrawing(QByteArrayView bytes) {
     constexpr qsizetype kMostProlog = 4096;
@@ -96,50 +98,7 @@ bool isTiff(QByteArrayView bytes) {
            hasText(bytes, 0, QByteArrayView("II+\0", 4)) || hasText(bytes, 0, QByteArrayView("MM\0+", 4));
 }
 
-// Tag and value pairs that only sensor data has: TIFF/EP, DNG and the makers' own compressions.
-bool tellsRaw(const TiffEntry& entry) {
-    constexpr std::uint16_t kCompression = 0x0103, kPhotometric = 0x0106, kDngVersion = 0xc612;
-    constexpr std::array<std::uint32_t, 2> kRawPhotometrics{32803, 34892};
-    constexpr std::array<std::uint32_t, 6> kRawCompressions{32767, 32770, 34713, 34892, 65000, 65535};
-    switch (entry.tag) {
-        case kDngVersion:
-            return true;
-        case kPhotometric:
-            return std::ranges::find(kRawPhotometrics, entry.value) != kRawPhotometrics.end();
-        case kCompression:
-            return std::ranges::find(kRawCompressions, entry.value) != kRawCompressions.end();
-        default:
-            return false;
-    }
-}
-
 }  // namespace
-
-bool isTiffBasedRaw(QByteArrayView bytes) {
-    if (hasText(bytes, 8, "CR\x02")) {
-        return true;
-    }
-    bool raw = false;
-    walkTiff(bytes, [&](const TiffEntry& entry) {
-        raw = tellsRaw(entry);
-        return !raw;
-    });
-    return raw;
-}
-
-QByteArrayView pictureWithin(QByteArrayView bytes) {
-    constexpr std::uint64_t kTiffAt = 20, kTiffLength = 24;
-    if (!hasText(bytes, 0, "\xc5\xd0\xd3\xc6")) {
-        return bytes;
-    }
-    const auto size = static_cast<std::uint64_t>(bytes.size());
-    const std::uint64_t at = readUnsigned(bytes, kTiffAt, 4, ByteOrder::Little).value_or(size);
-    const std::uint64_t length = readUnsigned(bytes, kTiffLength, 4, ByteOrder::Little).value_or(0);
-    if (at > size) {
-        return bytes;
-    }
-    return bytes.sliced(static_cast<qsizetype>(at), static_cast<qsizetype>(std::min(length, size - at)));
-}
 
 QList<QByteArray> handlersFor(QByteArrayView bytes, QByteArrayView extension) {
     if (isTiff(bytes)) {
