@@ -11,6 +11,7 @@
 #include <exception>
 
 #include "decode/helper/PictureKind.h"
+#include "decode/helper/PictureLimits.h"
 #include "decode/helper/PictureWithin.h"
 #include "decode/helper/PixelCopy.h"
 #include "decode/helper/ReducedPicture.h"
@@ -19,8 +20,8 @@ namespace vantor::decode {
 
 namespace {
 
-// Pixels of one picture, in megabytes: enough for 150 megapixels; the reader's own default is 128.
-constexpr int kAllocationLimitMegabytes = 640;
+// Of the pixels of one picture; the reader's own default is 128.
+constexpr int kAllocationLimitMegabytes = (kMostPicturePixels * kBytesPerPixel >> 20) + 1;
 
 QSize scaledInto(QSize full, QSize bound) {
     if (full.width() <= bound.width() && full.height() <= bound.height()) {

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdint>
 
+#include "decode/helper/HandlerNames.h"
 #include "decode/helper/SensorData.h"
 
 namespace vantor::decode {
@@ -32,25 +33,25 @@ const std::array kMarks{
     Mark{0, QByteArrayView("\0\0\0\x0cJXL \r\n\x87\n", 12), kJpegXlFormat},
     Mark{0, QByteArrayView("\0\0\0\x0cjP  \r\n\x87\n", 12), kJpeg2000Format},
     Mark{0, "\xff\x4f\xff\x51", kJpeg2000Format},
-    Mark{0, QByteArrayView("\x0a\x00\x01", 3), "vantor-pcx"},
-    Mark{0, "\x0a\x02\x01", "vantor-pcx"},
-    Mark{0, "\x0a\x03\x01", "vantor-pcx"},
-    Mark{0, "\x0a\x04\x01", "vantor-pcx"},
-    Mark{0, "\x0a\x05\x01", "vantor-pcx"},
-    Mark{0, "DDS ", "vantor-dds"},
-    Mark{0, "SDPX", "vantor-dpx"},
-    Mark{0, "XPDS", "vantor-dpx"},
-    Mark{0, "\x76\x2f\x31\x01", "vantor-exr"},
-    Mark{0, "qoif", "vantor-qoi"},
-    Mark{0, "\x01\xda", "vantor-sgi"},
-    Mark{0, "\x59\xa6\x6a\x95", "vantor-ras"},
-    Mark{0, "P7\n", "vantor-pam"},
-    Mark{0, "PF\n", "vantor-pfm"},
-    Mark{0, "Pf\n", "vantor-pfm"},
-    Mark{0, "#?RADIANCE\n", "vantor-hdr"},
-    Mark{0, "#?RGBE\n", "vantor-hdr"},
-    Mark{0, "SIMPLE  =", "vantor-fits"},
-    Mark{0, "II\xbc\x01", "vantor-jxr"},
+    Mark{0, QByteArrayView("\x0a\x00\x01", 3), kPcxFormat},
+    Mark{0, "\x0a\x02\x01", kPcxFormat},
+    Mark{0, "\x0a\x03\x01", kPcxFormat},
+    Mark{0, "\x0a\x04\x01", kPcxFormat},
+    Mark{0, "\x0a\x05\x01", kPcxFormat},
+    Mark{0, "DDS ", kDdsFormat},
+    Mark{0, "SDPX", kDpxFormat},
+    Mark{0, "XPDS", kDpxFormat},
+    Mark{0, "\x76\x2f\x31\x01", kOpenExrFormat},
+    Mark{0, "qoif", kQoiFormat},
+    Mark{0, "\x01\xda", kSgiFormat},
+    Mark{0, "\x59\xa6\x6a\x95", kSunRasterFormat},
+    Mark{0, "P7\n", kPamFormat},
+    Mark{0, "PF\n", kFloatMapFormat},
+    Mark{0, "Pf\n", kFloatMapFormat},
+    Mark{0, "#?RADIANCE\n", kRadianceFormat},
+    Mark{0, "#?RGBE\n", kRadianceFormat},
+    Mark{0, "SIMPLE  =", kFitsFormat},
+    Mark{0, "II\xbc\x01", kJpegXrFormat},
     // Camera raw files that are no TIFF, or only nearly one.
     Mark{0, "FUJIFILMCCD-RAW", kRawFormat},
     Mark{6, "HEAPCCDR", kRawFormat},
@@ -77,7 +78,7 @@ struct Markless {
     const char* handler;
 };
 const std::array kMarkless{
-    Markless{"tga", "vantor-tga"}, Markless{"wbmp", "wbmp"}, Markless{"pbm", "pbm"}, Markless{"pgm", "pgm"},
+    Markless{"tga", kTargaFormat}, Markless{"wbmp", "wbmp"}, Markless{"pbm", "pbm"}, Markless{"pgm", "pgm"},
     Markless{"ppm", "ppm"},        Markless{"pnm", "ppm"},   Markless{"xbm", "xbm"}, Markless{"xpm", "xpm"},
 };
 

@@ -7,12 +7,6 @@
 
 namespace vantor::decode {
 
-// Names of our own plugins' formats.
-inline constexpr char kRawFormat[] = "vantor-raw";
-inline constexpr char kHeifFormat[] = "vantor-heif";
-inline constexpr char kJpegXlFormat[] = "vantor-jxl";
-inline constexpr char kJpeg2000Format[] = "vantor-jp2";
-inline constexpr char kPhotoshopFormat[] = "vantor-psd";
 // Drawings follow references to other files; a helper can open none.
 inline constexpr char kDrawingFormat[] = "svg";
 

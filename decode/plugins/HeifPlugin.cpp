@@ -3,6 +3,7 @@
 
 #include <memory>
 
+#include "decode/helper/HandlerNames.h"
 #include "decode/plugins/PluginBytes.h"
 
 namespace vantor::decode {
@@ -61,7 +62,7 @@ QImage decodeHeif(const QByteArray& bytes) {
 
 class HeifHandler : public WholePictureHandler {
   public:
-    static constexpr char kFormat[] = "vantor-heif";
+    static constexpr const char* kFormat = kHeifFormat;
 
   protected:
     QImage decode(const QByteArray& bytes) override { return decodeHeif(bytes); }

@@ -1,6 +1,7 @@
 // JPEG XR pictures.
 #include <algorithm>
 
+#include "decode/helper/HandlerNames.h"
 #include "decode/plugins/PluginBytes.h"
 
 extern "C" {
@@ -91,7 +92,7 @@ QImage decodeJpegXr(QByteArray bytes) {
 
 class JpegXrHandler : public WholePictureHandler {
   public:
-    static constexpr char kFormat[] = "vantor-jxr";
+    static constexpr const char* kFormat = kJpegXrFormat;
 
   protected:
     QImage decode(const QByteArray& bytes) override { return decodeJpegXr(bytes); }

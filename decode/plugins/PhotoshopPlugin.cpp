@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "decode/helper/HandlerNames.h"
 #include "decode/plugins/PluginBytes.h"
 
 namespace vantor::decode {
@@ -220,7 +221,7 @@ QImage decodePhotoshop(const QByteArray& bytes) {
 
 class PhotoshopHandler : public WholePictureHandler {
   public:
-    static constexpr char kFormat[] = "vantor-psd";
+    static constexpr const char* kFormat = kPhotoshopFormat;
 
   protected:
     QImage decode(const QByteArray& bytes) override { return decodePhotoshop(bytes); }

@@ -1,6 +1,10 @@
 // Telling kinds of pictures apart by their bytes.
 #include <gtest/gtest.h>
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
 #include "decode/helper/PictureKind.h"
 #include "decode/helper/SensorData.h"
 #include "tests/decode/Fixtures.h"
@@ -78,6 +82,28 @@ TEST(PictureKind, MarklessFormats_OnlyByTheItemsType) {
     EXPECT_EQ(handlersFor(bytes, "tga"), Handlers{"vantor-tga"});
     EXPECT_EQ(handlersFor("P6\n1 1\n255\nabc", "pnm"), Handlers{"ppm"});
     EXPECT_TRUE(handlersFor("P6\n1 1\n255\nabc", "txt").isEmpty());
+}
+
+// The library looks plugins up by what their .json says, the decoder asks by its own names.
+TEST(PictureKind, OurOwnHandlers_AreThoseThatThePluginsOffer) {
+    QStringList offered;
+    for (const QString& path : filesBelow(QStringLiteral(VANTOR_SOURCE_DIR "/decode/plugins"))) {
+        if (path.endsWith(QLatin1String(".json"))) {
+            for (const QJsonValue& key :
+                 QJsonDocument::fromJson(bytesOfFile(path)).object()[QLatin1String("Keys")].toArray()) {
+                offered.append(key.toString());
+            }
+        }
+    }
+    offered.sort();
+    QStringList asked;
+    for (const QByteArray& handler : decode::allHandlers()) {
+        if (handler.startsWith("vantor-")) {
+            asked.append(QString::fromLatin1(handler));
+        }
+    }
+    EXPECT_FALSE(asked.isEmpty());
+    EXPECT_EQ(asked, offered);
 }
 
 TEST(PictureKind, TiffWithSensorData_IsRawOnly) {
