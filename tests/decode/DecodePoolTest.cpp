@@ -9,6 +9,7 @@
 
 #include "decode/DecodePool.h"
 #include "tests/decode/Fixtures.h"
+#include "tests/decode/WatchedThread.h"
 
 namespace vantor {
 namespace {
@@ -183,15 +184,15 @@ TEST(DecodePool, IdleHelpersKilled_AreReplacedAndThePictureIsStillShown) {
 TEST(DecodePool, DecoderThatCrashes_CostsItsPictureOnly) {
     DecodePool pool(poolOptions(1));
     const QByteArray small = encoded(twoColours({64, 64}), "png");
-    const QByteArray large = encoded(twoColours({9000, 9000}), "png");
     ASSERT_FALSE(pool.thumbnail(small).isEmpty());
     const pid_t helper = pool.helperPids().front();
+    stopProcess(helper);
     QByteArray shown = "not asked";
-    std::thread caller([&] { shown = pool.thumbnail(large); });
-    // The large picture takes many times as long.
-    std::this_thread::sleep_for(milliseconds(40));
+    WatchedThread caller([&] { shown = pool.thumbnail(small); });
+    caller.awaitAsleepIn(kAskingAHelper);
     // What a damaged heap ends in; a sanitizer would catch a segmentation fault for itself.
     kill(helper, SIGABRT);
+    kill(helper, SIGCONT);
     caller.join();
     EXPECT_TRUE(shown.isEmpty());
     EXPECT_EQ(pool.counts().crashed, 1U);
@@ -220,8 +221,8 @@ TEST(DecodePool, Close_FreesACallerAtOnce) {
     ASSERT_FALSE(pool.thumbnail(small).isEmpty());
     stopProcess(pool.helperPids().front());
     QByteArray shown = "not asked";
-    std::thread caller([&] { shown = pool.thumbnail(small); });
-    std::this_thread::sleep_for(milliseconds(20));
+    WatchedThread caller([&] { shown = pool.thumbnail(small); });
+    caller.awaitAsleepIn(kAskingAHelper);
     pool.close();
     caller.join();
     EXPECT_TRUE(shown.isEmpty());
