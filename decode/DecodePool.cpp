@@ -96,9 +96,7 @@ DecodePool::~DecodePool() {
 void DecodePool::close() {
     const std::scoped_lock lock(m_mutex);
     m_closing = true;
-    for (const pid_t pid : m_live) {
-        kill(pid, SIGKILL);
-    }
+    m_leaving.raise();
     m_helperFree.notify_all();
     m_helperWanted.notify_all();
 }
@@ -265,7 +263,7 @@ void DecodePool::keepHelpers() {
         }
         lock.unlock();
         std::unique_ptr<HelperProcess> helper =
-            HelperProcess::start(m_options.helper, m_options.startDeadline);
+            HelperProcess::start(m_options.helper, m_options.startDeadline, m_leaving.descriptor());
         lock.lock();
         if (helper) {
             retry = kFirstRetry;

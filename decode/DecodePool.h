@@ -16,6 +16,7 @@
 #include <thread>
 #include <vector>
 
+#include "decode/CancelSignal.h"
 #include "decode/HelperProcess.h"
 
 namespace vantor {
@@ -114,6 +115,7 @@ class DecodePool {
     bool m_cannotStart = false;
     bool m_closing = false;
     DecodePoolCounts m_counts;
+    const CancelSignal m_leaving;  // raised with m_closing
 
     std::thread m_keeper;  // last: it uses everything above
 };

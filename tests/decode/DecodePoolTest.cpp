@@ -168,6 +168,23 @@ TEST(DecodePool, HelperThatNeverReports_IsGivenUp) {
     EXPECT_GE(pool.counts().failedStarts, 1U);
 }
 
+TEST(DecodePool, Destruction_GivesUpAHelperThatNeverReports) {
+    const QTemporaryDir folder;
+    const QString mark = folder.filePath(QStringLiteral("started"));
+    DecodePoolOptions options = poolOptions(1);
+    options.helper = scriptedHelper(folder, "echo $$ > " + mark.toUtf8() + "; exec sleep 1000");
+    options.startDeadline = std::chrono::minutes(10);
+    pid_t starting = 0;
+    {
+        DecodePool pool(options);
+        while (starting == 0) {
+            std::this_thread::sleep_for(milliseconds(1));
+            starting = bytesOfFile(mark).trimmed().toInt();
+        }
+    }
+    EXPECT_EQ(kill(starting, 0), -1) << "it would have gone on for minutes";
+}
+
 TEST(DecodePool, IdleHelpersKilled_AreReplacedAndThePictureIsStillShown) {
     DecodePool pool(poolOptions(2));
     const QByteArray picture = encoded(twoColours({64, 64}), "png");
