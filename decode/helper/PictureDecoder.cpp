@@ -167,12 +167,17 @@ std::optional<PictureResult> decodePicture(QByteArrayView bytes, QByteArrayView 
 }
 
 std::optional<PictureResult> decodeReduced(QByteArrayView bytes, QSize bound) {
-    const ReducedPicture reduced = reducedPictureIn(bytes);
-    auto result = reduced.bytes.isEmpty() ? std::nullopt : decodeBy(reduced.handler, reduced.bytes, bound);
-    if (result) {
-        result->fullSize = {};
+    for (const auto& [picture, handler, turn] : reducedPicturesIn(bytes)) {
+        const bool saysItself =
+            Attempt(picture, handler).reader.transformation() != QImageIOHandler::TransformationNone;
+        const auto toTurn = saysItself ? QImageIOHandler::TransformationNone : turn;
+        if (auto result = decodeBy(handler, picture, turnsSides(toTurn) ? bound.transposed() : bound)) {
+            result->image = turnedUpright(result->image, toTurn);
+            result->fullSize = {};
+            return result;
+        }
     }
-    return result;
+    return std::nullopt;
 }
 
 void preparePictureDecoders() {

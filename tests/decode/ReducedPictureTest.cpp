@@ -77,6 +77,60 @@ TEST(ReducedPicture, OfSensorData_IsShownAsAPreviewAndIsNoThumbnail) {
     }
 }
 
+// A raw file cut off before its sensor data; its directory leads to a JPEG, and to another in a strip.
+QByteArray rawWithJpeg(const QByteArray& jpeg, std::uint16_t orientation, const QByteArray& strip = {}) {
+    constexpr std::uint32_t kJpegAt = 100;
+    const auto entry = [](std::uint16_t tag, std::uint16_t type, qsizetype value) {
+        return number(tag, 2) + number(type, 2) + number(1, 4) + number(static_cast<std::uint64_t>(value), 4);
+    };
+    QByteArray bytes("II*\0\x08\0\0\0", 8);
+    bytes += number(6, 2) + entry(0x0106, 3, 32803) + entry(0x0111, 4, kJpegAt + jpeg.size()) +
+             entry(0x0112, 3, orientation) + entry(0x0117, 4, strip.size()) + entry(0x0201, 4, kJpegAt) +
+             entry(0x0202, 4, jpeg.size());
+    bytes.resize(kJpegAt, '\0');
+    return bytes + jpeg + strip;
+}
+
+TEST(ReducedPicture, OfARawFileHeldUpright_IsTurnedOnceWhoeverSaysSo) {
+    DecodePool pool(poolOptions(1));
+    const QImage lying = twoColours({120, 60});
+    const auto shownOf = [&](const QByteArray& jpeg, std::uint16_t orientation) {
+        const QByteArray raw = rawWithJpeg(jpeg, orientation);
+        EXPECT_TRUE(pool.thumbnail(raw).isEmpty());
+        return pool.picture(raw, {200, 80}).image;
+    };
+    EXPECT_EQ(shownOf(encoded(lying, "jpeg"), 1).size(), QSize(120, 60));
+    for (const QByteArray& jpeg : {encoded(lying, "jpeg"), jpegHeldBy(lying, 6)}) {
+        const QImage shown = shownOf(jpeg, 6);
+        ASSERT_EQ(shown.size(), QSize(40, 80));
+        EXPECT_TRUE(isNear(shown.pixel(20, 10), Qt::red));
+        EXPECT_TRUE(isNear(shown.pixel(20, 70), Qt::blue));
+    }
+    const QImage leftHanded = shownOf(encoded(lying, "jpeg"), 8);
+    ASSERT_EQ(leftHanded.size(), QSize(40, 80));
+    EXPECT_TRUE(isNear(leftHanded.pixel(20, 10), Qt::blue));
+}
+
+TEST(ReducedPicture, OfARawFile_IsTheLongestThatIsAJpeg) {
+    const QByteArray jpeg = encoded(twoColours({120, 60}), "jpeg");
+    const QByteArray larger = encoded(twoColours({240, 120}), "jpeg");
+    ASSERT_GT(larger.size(), jpeg.size());
+    const auto reduced = [](const QByteArray& raw) {
+        QList<QByteArray> all;
+        for (const auto& picture : decode::reducedPicturesIn(raw)) {
+            all.append(picture.handler == "jpeg" ? picture.bytes.toBase64() : picture.handler);
+        }
+        return all;
+    };
+    const QList<QByteArray> both{larger.toBase64(), jpeg.toBase64(), "tiff"};
+    EXPECT_EQ(reduced(rawWithJpeg(jpeg, 1, larger)), both);
+    EXPECT_EQ(reduced(rawWithJpeg(larger, 1, jpeg)), both);
+    const QByteArray cut = rawWithJpeg(jpeg, 1).chopped(9);
+    EXPECT_EQ(reduced(cut), (QList<QByteArray>{jpeg.chopped(9).toBase64(), "tiff"}));
+    EXPECT_EQ(reduced(rawWithJpeg("not a JPEG", 1, jpeg)), (QList<QByteArray>{jpeg.toBase64(), "tiff"}));
+    EXPECT_EQ(reduced(rawWithJpeg("not a JPEG", 1)), QList<QByteArray>{"tiff"});
+}
+
 // What the summary of a compound file says, as a property set of one property.
 QByteArray summaryWith(const QByteArray& bitmap) {
     constexpr int kSectionAt = 48, kValueAt = 16;
@@ -139,7 +193,9 @@ TEST(ReducedPicture, OfACompoundFilesSummary_IsShownAsAPreviewAndIsNoThumbnail) 
 }
 
 TEST(ReducedPicture, OfABrokenSummary_IsMissing) {
-    const auto reducedOf = [](const QByteArray& file) { return decode::reducedPictureIn(file).bytes; };
+    const auto reducedOf = [](const QByteArray& file) {
+        return decode::reducedPicturesIn(file).value(0).bytes;
+    };
     const QByteArray summary = summaryWith(bitmapOf(twoColours({60, 40})));
     const QByteArray whole = compoundFileWith(summary);
     ASSERT_FALSE(reducedOf(whole).isEmpty());
@@ -160,11 +216,11 @@ TEST(ReducedPicture, ChainsThatRunInCircles_End) {
     QByteArray file = compoundFileWith(summaryWith(bitmapOf(twoColours({60, 40}))));
     // The directory's sector follows itself, and no entry has the name.
     file.replace(512 + 4, 4, number(1, 4)).replace(2 * 512 + 64 * 2, 1, "?");
-    EXPECT_TRUE(decode::reducedPictureIn(file).bytes.isEmpty());
+    EXPECT_TRUE(decode::reducedPicturesIn(file).value(0).bytes.isEmpty());
     // So does the summary's, which claims the longest length.
     file = compoundFileWith(summaryWith(bitmapOf(twoColours({60, 40}))));
     file.replace(512 + 8, 4, number(2, 4)).replace(1024 + 128 + 120, 4, number(0xffffffff, 4));
-    EXPECT_LE(decode::reducedPictureIn(file).bytes.size(), (1 << 20) + 14);
+    EXPECT_LE(decode::reducedPicturesIn(file).value(0).bytes.size(), (1 << 20) + 14);
 }
 
 TEST(ReducedPicture, OfDamagedFiles_LeavesTheHelperAlive) {
