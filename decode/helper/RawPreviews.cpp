@@ -17,6 +17,8 @@ namespace {
 // The values of Exif's orientation that cameras write.
 QImageIOHandler::Transformations turnOf(std::uint64_t orientation) {
     switch (orientation) {
+        case 2:
+            return QImageIOHandler::TransformationMirror;
         case 3:
             return QImageIOHandler::TransformationRotate180;
         case 6:

@@ -2,8 +2,10 @@
 #include "decode/helper/ReducedPicture.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "decode/helper/ByteSpan.h"
+#include "decode/helper/LowpassPicture.h"
 #include "decode/helper/RawPreviews.h"
 #include "decode/helper/SensorData.h"
 #include "decode/helper/SummaryThumbnail.h"
@@ -26,6 +28,9 @@ QList<ReducedPicture> reducedPicturesIn(QByteArrayView bytes) {
     const RawPreviews previews = rawPreviews(view);
     for (const auto& [at, length] : previews.places) {
         pictures.append({borrowed(bytes, at, length), "jpeg", previews.turn});
+    }
+    if (QByteArray picture = lowpassPicture(view); !picture.isEmpty()) {
+        pictures.append({std::move(picture), "ppm", previews.turn});
     }
     if (isTiffBasedRaw(bytes)) {
         pictures.append({borrowed(bytes, 0, view.size()), "tiff"});

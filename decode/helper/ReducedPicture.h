@@ -17,6 +17,7 @@ struct ReducedPicture {
 
 // The smaller pictures that some files bring along, to be tried in this order; empty where there is none:
 // - camera raw files, and TIFF files as they are when cut short: the JPEG pictures for quick viewing;
+// - raw files in the VC-5 compression: its coarsest band;
 // - those with sensor data: the picture of the first directory (TIFF/EP, DNG);
 // - compound files: the bitmap in their summary.
 QList<ReducedPicture> reducedPicturesIn(QByteArrayView bytes);
