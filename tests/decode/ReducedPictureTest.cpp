@@ -226,7 +226,7 @@ TEST(ReducedPicture, ChainsThatRunInCircles_End) {
     EXPECT_LE(decode::reducedPicturesIn(file).value(0).bytes.size(), (1 << 20) + 14);
 }
 
-TEST(ReducedPicture, OfDamagedFiles_LeavesTheHelperAlive) {
+TEST(ReducedPicture, OfDamagedFiles_BreaksNoHelper) {
     const std::array seeds{compoundFileWith(summaryWith(bitmapOf(twoColours({60, 40})))),
                            rawWithJpeg(encoded(twoColours({120, 60}), "jpeg"), 6)};
     DecodePool pool(poolOptions(1));
@@ -237,7 +237,9 @@ TEST(ReducedPicture, OfDamagedFiles_LeavesTheHelperAlive) {
         shown[seed] += !pool.picture(mutated(seeds[seed], random), {200, 200}).image.isNull();
     }
     EXPECT_GT(*std::ranges::min_element(shown), 100);
-    EXPECT_EQ(pool.counts().started, 1U);
+    // A sanitizer's helper grows until it is replaced in good health.
+    const DecodePoolCounts counts = pool.counts();
+    EXPECT_EQ(counts.crashed + counts.exited + counts.badAnswers, 0U);
 }
 
 }  // namespace
