@@ -47,6 +47,12 @@ Request pictureRequest(QSize bound, const QString& extension) {
     return request;
 }
 
+Request previewRequest(QSize bound, const QString& extension) {
+    Request request = pictureRequest(bound, extension);
+    request.flags = decode::kReducedWillDo;
+    return request;
+}
+
 int coresOr(int wanted) {
     return wanted > 0 ? wanted : static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
 }
@@ -90,9 +96,7 @@ DecodePool::~DecodePool() {
 void DecodePool::close() {
     const std::scoped_lock lock(m_mutex);
     m_closing = true;
-    for (const pid_t pid : m_live) {
-        kill(pid, SIGKILL);
-    }
+    m_leaving.raise();
     m_helperFree.notify_all();
     m_helperWanted.notify_all();
 }
@@ -112,7 +116,7 @@ DecodedPicture DecodePool::picture(const QByteArray& encoded, QSize bound, const
     if (encoded.isEmpty() || bound.isEmpty()) {
         return {};
     }
-    const Request request = pictureRequest(bound, extension);
+    const Request request = previewRequest(bound, extension);
     return decode([&](HelperProcess& helper, Answer& answer) {
         return helper.ask(request, encoded, m_options.pictureDeadline, answer);
     });
@@ -123,7 +127,7 @@ DecodedPicture DecodePool::picture(const QString& path, QSize bound) {
     if (bound.isEmpty() || !file.isOpen()) {
         return {};
     }
-    const Request request = pictureRequest(bound, extensionHint(path));
+    const Request request = previewRequest(bound, extensionHint(path));
     return decode([&](HelperProcess& helper, Answer& answer) {
         return helper.askFile(request, file.descriptor(), m_options.pictureDeadline, answer);
     });
@@ -259,7 +263,7 @@ void DecodePool::keepHelpers() {
         }
         lock.unlock();
         std::unique_ptr<HelperProcess> helper =
-            HelperProcess::start(m_options.helper, m_options.startDeadline);
+            HelperProcess::start(m_options.helper, m_options.startDeadline, m_leaving.descriptor());
         lock.lock();
         if (helper) {
             retry = kFirstRetry;

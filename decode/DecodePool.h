@@ -16,6 +16,7 @@
 #include <thread>
 #include <vector>
 
+#include "decode/CancelSignal.h"
 #include "decode/HelperProcess.h"
 
 namespace vantor {
@@ -65,12 +66,14 @@ class DecodePool {
     // Closes, waits for the calls under way to return, and ends all helpers.
     ~DecodePool();
 
-    // A thumbnail: the full picture, upright, longer side at most kThumbnailSide pixels and never enlarged,
-    // as JPEG encoded by this process; empty when the bytes cannot be decoded. `extension` (may be empty)
-    // helps with the few formats that carry no mark of their own.
+    // A thumbnail: the full picture (never a small one that the file brings along), upright, longer side at
+    // most kThumbnailSide pixels and never enlarged, as JPEG encoded by this process; empty when the bytes
+    // cannot be decoded. `extension` (may be empty) helps with the few formats that carry no mark of their
+    // own.
     QByteArray thumbnail(const QByteArray& encoded, const QString& extension = {});
 
-    // The picture within the bound, upright, never enlarged.
+    // The picture within the bound, upright, never enlarged; where the full one cannot be decoded, a small
+    // one that the file brings along, and the full size is then not known.
     DecodedPicture picture(const QByteArray& encoded, QSize bound, const QString& extension = {});
     DecodedPicture picture(const QString& path, QSize bound);
 
@@ -112,6 +115,7 @@ class DecodePool {
     bool m_cannotStart = false;
     bool m_closing = false;
     DecodePoolCounts m_counts;
+    const CancelSignal m_leaving;  // raised with m_closing
 
     std::thread m_keeper;  // last: it uses everything above
 };

@@ -42,6 +42,10 @@ enum RequestDescriptors : std::uint32_t {
 };
 constexpr int kMaxDescriptors = 3;
 
+enum RequestFlags : std::uint32_t {
+    kReducedWillDo = 1,  // (pictures) a smaller one that the file brings along, where the full one is no use
+};
+
 struct Request {
     std::uint32_t magic = kMessageMagic;
     RequestKind kind = RequestKind::Picture;
@@ -50,7 +54,7 @@ struct Request {
     std::uint32_t maxWidth = 0;    // pixels, 1 to kMaxAnswerSide
     std::uint32_t maxHeight = 0;
     std::uint32_t descriptors = 0;  // RequestDescriptors
-    std::uint32_t reserved = 0;
+    std::uint32_t flags = 0;        // RequestFlags
     std::int64_t timeMs = -1;
     char hint[16] = {};  // the item's extension in lower case, NUL-terminated; may be empty
 };

@@ -11,14 +11,17 @@
 #include <exception>
 
 #include "decode/helper/PictureKind.h"
+#include "decode/helper/PictureLimits.h"
+#include "decode/helper/PictureWithin.h"
 #include "decode/helper/PixelCopy.h"
+#include "decode/helper/ReducedPicture.h"
 
 namespace vantor::decode {
 
 namespace {
 
-// Pixels of one picture, in megabytes: enough for 150 megapixels; the reader's own default is 128.
-constexpr int kAllocationLimitMegabytes = 640;
+// Of the pixels of one picture; the reader's own default is 128.
+constexpr int kAllocationLimitMegabytes = (kMostPicturePixels * kBytesPerPixel >> 20) + 1;
 
 QSize scaledInto(QSize full, QSize bound) {
     if (full.width() <= bound.width() && full.height() <= bound.height()) {
@@ -154,9 +157,23 @@ std::optional<PictureResult> decodeBy(const QByteArray& handler, QByteArrayView 
 }  // namespace
 
 std::optional<PictureResult> decodePicture(QByteArrayView bytes, QByteArrayView extension, QSize bound) {
-    const QByteArrayView picture = pictureWithin(bytes);
+    const QByteArray picture = pictureWithin(bytes);
     for (const QByteArray& handler : handlersFor(picture, extension)) {
         if (auto result = decodeBy(handler, picture, bound)) {
+            return result;
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<PictureResult> decodeReduced(QByteArrayView bytes, QSize bound) {
+    for (const auto& [picture, handler, turn] : reducedPicturesIn(bytes)) {
+        const bool saysItself =
+            Attempt(picture, handler).reader.transformation() != QImageIOHandler::TransformationNone;
+        const auto toTurn = saysItself ? QImageIOHandler::TransformationNone : turn;
+        if (auto result = decodeBy(handler, picture, turnsSides(toTurn) ? bound.transposed() : bound)) {
+            result->image = turnedUpright(result->image, toTurn);
+            result->fullSize = {};
             return result;
         }
     }
@@ -183,14 +200,18 @@ Answer PictureJobDecoder::decode(const Job& job) {
     std::optional<PictureResult> result;
     try {
         result = decodePicture(bytes, job.request.hint, bound);
+        if (!result && (job.request.flags & kReducedWillDo) != 0) {
+            result = decodeReduced(bytes, bound);
+        }
     } catch (const std::exception&) {
         // Out of memory within the limit, mostly: no picture.
     }
     if (!result || !copyPixels(result->image, bound, job.pixels, answer)) {
         return answer;
     }
-    answer.fullWidth = static_cast<std::uint32_t>(result->fullSize.width());
-    answer.fullHeight = static_cast<std::uint32_t>(result->fullSize.height());
+    const QSize fullSize = result->fullSize.isValid() ? result->fullSize : QSize(0, 0);
+    answer.fullWidth = static_cast<std::uint32_t>(fullSize.width());
+    answer.fullHeight = static_cast<std::uint32_t>(fullSize.height());
     answer.flags |= result->partial ? kPartial : 0U;
     return answer;
 }

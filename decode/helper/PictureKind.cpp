@@ -1,13 +1,12 @@
-// Marks at the beginning of the bytes, and the look into TIFF structures that tells a camera's raw file from
-// a finished picture.
+// Marks at the beginning of the bytes, and the order in which handlers try what bears them.
 #include "decode/helper/PictureKind.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdint>
 
-#include "decode/helper/ByteView.h"
-#include "decode/helper/TiffDirectory.h"
+#include "decode/helper/HandlerNames.h"
+#include "decode/helper/SensorData.h"
 
 namespace vantor::decode {
 
@@ -34,25 +33,25 @@ const std::array kMarks{
     Mark{0, QByteArrayView("\0\0\0\x0cJXL \r\n\x87\n", 12), kJpegXlFormat},
     Mark{0, QByteArrayView("\0\0\0\x0cjP  \r\n\x87\n", 12), kJpeg2000Format},
     Mark{0, "\xff\x4f\xff\x51", kJpeg2000Format},
-    Mark{0, QByteArrayView("\x0a\x00\x01", 3), "vantor-pcx"},
-    Mark{0, "\x0a\x02\x01", "vantor-pcx"},
-    Mark{0, "\x0a\x03\x01", "vantor-pcx"},
-    Mark{0, "\x0a\x04\x01", "vantor-pcx"},
-    Mark{0, "\x0a\x05\x01", "vantor-pcx"},
-    Mark{0, "DDS ", "vantor-dds"},
-    Mark{0, "SDPX", "vantor-dpx"},
-    Mark{0, "XPDS", "vantor-dpx"},
-    Mark{0, "\x76\x2f\x31\x01", "vantor-exr"},
-    Mark{0, "qoif", "vantor-qoi"},
-    Mark{0, "\x01\xda", "vantor-sgi"},
-    Mark{0, "\x59\xa6\x6a\x95", "vantor-ras"},
-    Mark{0, "P7\n", "vantor-pam"},
-    Mark{0, "PF\n", "vantor-pfm"},
-    Mark{0, "Pf\n", "vantor-pfm"},
-    Mark{0, "#?RADIANCE\n", "vantor-hdr"},
-    Mark{0, "#?RGBE\n", "vantor-hdr"},
-    Mark{0, "SIMPLE  =", "vantor-fits"},
-    Mark{0, "II\xbc\x01", "vantor-jxr"},
+    Mark{0, QByteArrayView("\x0a\x00\x01", 3), kPcxFormat},
+    Mark{0, "\x0a\x02\x01", kPcxFormat},
+    Mark{0, "\x0a\x03\x01", kPcxFormat},
+    Mark{0, "\x0a\x04\x01", kPcxFormat},
+    Mark{0, "\x0a\x05\x01", kPcxFormat},
+    Mark{0, "DDS ", kDdsFormat},
+    Mark{0, "SDPX", kDpxFormat},
+    Mark{0, "XPDS", kDpxFormat},
+    Mark{0, "\x76\x2f\x31\x01", kOpenExrFormat},
+    Mark{0, "qoif", kQoiFormat},
+    Mark{0, "\x01\xda", kSgiFormat},
+    Mark{0, "\x59\xa6\x6a\x95", kSunRasterFormat},
+    Mark{0, "P7\n", kPamFormat},
+    Mark{0, "PF\n", kFloatMapFormat},
+    Mark{0, "Pf\n", kFloatMapFormat},
+    Mark{0, "#?RADIANCE\n", kRadianceFormat},
+    Mark{0, "#?RGBE\n", kRadianceFormat},
+    Mark{0, "SIMPLE  =", kFitsFormat},
+    Mark{0, "II\xbc\x01", kJpegXrFormat},
     // Camera raw files that are no TIFF, or only nearly one.
     Mark{0, "FUJIFILMCCD-RAW", kRawFormat},
     Mark{6, "HEAPCCDR", kRawFormat},
@@ -79,9 +78,13 @@ struct Markless {
     const char* handler;
 };
 const std::array kMarkless{
-    Markless{"tga", "vantor-tga"}, Markless{"wbmp", "wbmp"}, Markless{"pbm", "pbm"}, Markless{"pgm", "pgm"},
+    Markless{"tga", kTargaFormat}, Markless{"wbmp", "wbmp"}, Markless{"pbm", "pbm"}, Markless{"pgm", "pgm"},
     Markless{"ppm", "ppm"},        Markless{"pnm", "ppm"},   Markless{"xbm", "xbm"}, Markless{"xpm", "xpm"},
 };
+
+bool hasText(QByteArrayView bytes, qsizetype at, QByteArrayView text) {
+    return bytes.size() - at >= text.size() && bytes.sliced(at, text.size()) == text;
+}
 
 // Markup whose first element is the drawing's.
 bool isDrawing(QByteArrayView bytes) {
@@ -96,50 +99,7 @@ bool isTiff(QByteArrayView bytes) {
            hasText(bytes, 0, QByteArrayView("II+\0", 4)) || hasText(bytes, 0, QByteArrayView("MM\0+", 4));
 }
 
-// Tag and value pairs that only sensor data has: TIFF/EP, DNG and the makers' own compressions.
-bool tellsRaw(const TiffEntry& entry) {
-    constexpr std::uint16_t kCompression = 0x0103, kPhotometric = 0x0106, kDngVersion = 0xc612;
-    constexpr std::array<std::uint32_t, 2> kRawPhotometrics{32803, 34892};
-    constexpr std::array<std::uint32_t, 6> kRawCompressions{32767, 32770, 34713, 34892, 65000, 65535};
-    switch (entry.tag) {
-        case kDngVersion:
-            return true;
-        case kPhotometric:
-            return std::ranges::find(kRawPhotometrics, entry.value) != kRawPhotometrics.end();
-        case kCompression:
-            return std::ranges::find(kRawCompressions, entry.value) != kRawCompressions.end();
-        default:
-            return false;
-    }
-}
-
 }  // namespace
-
-bool isTiffBasedRaw(QByteArrayView bytes) {
-    if (hasText(bytes, 8, "CR\x02")) {
-        return true;
-    }
-    bool raw = false;
-    walkTiff(bytes, [&](const TiffEntry& entry) {
-        raw = tellsRaw(entry);
-        return !raw;
-    });
-    return raw;
-}
-
-QByteArrayView pictureWithin(QByteArrayView bytes) {
-    constexpr std::uint64_t kTiffAt = 20, kTiffLength = 24;
-    if (!hasText(bytes, 0, "\xc5\xd0\xd3\xc6")) {
-        return bytes;
-    }
-    const auto size = static_cast<std::uint64_t>(bytes.size());
-    const std::uint64_t at = readUnsigned(bytes, kTiffAt, 4, ByteOrder::Little).value_or(size);
-    const std::uint64_t length = readUnsigned(bytes, kTiffLength, 4, ByteOrder::Little).value_or(0);
-    if (at > size) {
-        return bytes;
-    }
-    return bytes.sliced(static_cast<qsizetype>(at), static_cast<qsizetype>(std::min(length, size - at)));
-}
 
 QList<QByteArray> handlersFor(QByteArrayView bytes, QByteArrayView extension) {
     if (isTiff(bytes)) {

@@ -7,18 +7,8 @@
 
 namespace vantor::decode {
 
-// Names of our own plugins' formats.
-inline constexpr char kRawFormat[] = "vantor-raw";
-inline constexpr char kHeifFormat[] = "vantor-heif";
-inline constexpr char kJpegXlFormat[] = "vantor-jxl";
-inline constexpr char kJpeg2000Format[] = "vantor-jp2";
-inline constexpr char kPhotoshopFormat[] = "vantor-psd";
 // Drawings follow references to other files; a helper can open none.
 inline constexpr char kDrawingFormat[] = "svg";
-
-// The bytes themselves, but for PostScript with a picture for the screen behind it: that picture, as Adobe's
-// Encapsulated PostScript specification (5002) places it; empty where it has none.
-QByteArrayView pictureWithin(QByteArrayView bytes);
 
 // The handlers to try, the likeliest first; empty when the bytes are no picture of a kind we read.
 // `extension` (lower case) decides only for kinds without a mark of their own.
@@ -26,9 +16,5 @@ QList<QByteArray> handlersFor(QByteArrayView bytes, QByteArrayView extension);
 
 // All handlers that handlersFor() may name.
 QList<QByteArray> allHandlers();
-
-// Whether a TIFF structure holds sensor data rather than a finished picture: a colour-filter array, a raw
-// compression or the DNG version tag in the first directory or those below it.
-bool isTiffBasedRaw(QByteArrayView bytes);
 
 }  // namespace vantor::decode

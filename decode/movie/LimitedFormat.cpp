@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+#include "decode/helper/PictureLimits.h"
+
 namespace vantor::decode {
 
 namespace {
@@ -15,7 +17,6 @@ using Clock = std::chrono::steady_clock;
 constexpr auto kStepLimit = std::chrono::seconds{2};
 constexpr int kReadBufferBytes = 64 * 1024;
 constexpr std::int64_t kMostProbeBytes = 8 * 1024 * 1024;
-constexpr std::int64_t kMostPixels = 150'000'000;
 constexpr int kMostStreams = 64;
 
 constexpr char kFormats[] =
@@ -101,7 +102,7 @@ bool LimitedFormat::openCodec(AVMediaType kind, int threads) {
         return false;
     }
     m_codec->pkt_timebase = stream().time_base;
-    m_codec->max_pixels = kMostPixels;
+    m_codec->max_pixels = static_cast<std::int64_t>(kMostPicturePixels);
     m_codec->thread_count = threads;
     return avcodec_open2(m_codec.get(), decoder, nullptr) >= 0;
 }

@@ -6,29 +6,20 @@
 #include <cstdint>
 #include <memory>
 
+#include "decode/helper/LibavPointers.h"
+
 extern "C" {
-#include <libavcodec/avcodec.h>
 #include <libavformat/avformat.h>
 }
 
 namespace vantor::decode {
 
-template <auto release>
-struct Release {
-    template <typename T>
-    void operator()(T* object) const {
-        release(&object);
-    }
-};
 struct ReleaseInput {
     void operator()(AVIOContext* io) const {
         av_freep(&io->buffer);
         avio_context_free(&io);
     }
 };
-using Codec = std::unique_ptr<AVCodecContext, Release<avcodec_free_context>>;
-using Packet = std::unique_ptr<AVPacket, Release<av_packet_free>>;
-using RawFrame = std::unique_ptr<AVFrame, Release<av_frame_free>>;
 
 // Broken packets in a row after which a stream counts as hopeless.
 constexpr int kMostFailures = 500;

@@ -1,10 +1,9 @@
 // HEIC, HEIF and AVIF pictures; the library turns them upright itself.
 #include <libheif/heif.h>
 
-#include <algorithm>
 #include <memory>
-#include <string_view>
 
+#include "decode/helper/HandlerNames.h"
 #include "decode/plugins/PluginBytes.h"
 
 namespace vantor::decode {
@@ -15,37 +14,6 @@ using Context = std::unique_ptr<heif_context, decltype(&heif_context_free)>;
 using Handle = std::unique_ptr<heif_image_handle, decltype(&heif_image_handle_release)>;
 using Image = std::unique_ptr<heif_image, decltype(&heif_image_release)>;
 using Options = std::unique_ptr<heif_decoding_options, decltype(&heif_decoding_options_free)>;
-
-std::uint64_t bigEndian(const QByteArray& bytes, qsizetype at, int width) {
-    std::uint64_t value = 0;
-    for (int i = 0; i < width; ++i) {
-        value = value << 8 | static_cast<std::uint8_t>(bytes.at(at + i));
-    }
-    return value;
-}
-
-// Where the file's own boxes end: whatever the carving took along behind them would make the library refuse
-// it all. A box that claims more than there is ends the file.
-qsizetype endOfBoxes(const QByteArray& bytes) {
-    constexpr std::string_view kTopLevel[] = {"ftyp", "meta", "mdat", "moov", "free",
-                                              "skip", "uuid", "idat", "mpvd"};
-    qsizetype at = 0;
-    while (bytes.size() - at >= 8) {
-        const std::string_view type(bytes.constData() + at + 4, 4);
-        if (std::ranges::find(kTopLevel, type) == std::end(kTopLevel)) {
-            return at;
-        }
-        std::uint64_t size = bigEndian(bytes, at, 4);
-        if (size == 1 && bytes.size() - at >= 16) {
-            size = bigEndian(bytes, at + 8, 8);
-        }
-        if (size < 8 || size > static_cast<std::uint64_t>(bytes.size() - at)) {
-            return bytes.size();
-        }
-        at += static_cast<qsizetype>(size);
-    }
-    return at;
-}
 
 QImage pixelsOf(const heif_image* decoded, bool alpha) {
     const int width = heif_image_get_width(decoded, heif_channel_interleaved);
@@ -61,7 +29,7 @@ QImage pixelsOf(const heif_image* decoded, bool alpha) {
 
 QImage decodeHeif(const QByteArray& bytes) {
     const Context context(heif_context_alloc(), &heif_context_free);
-    const auto size = static_cast<std::size_t>(endOfBoxes(bytes));
+    const auto size = static_cast<std::size_t>(bytes.size());
     if (heif_context_read_from_memory_without_copy(context.get(), bytes.constData(), size, nullptr).code !=
         heif_error_Ok) {
         return {};
@@ -94,7 +62,7 @@ QImage decodeHeif(const QByteArray& bytes) {
 
 class HeifHandler : public WholePictureHandler {
   public:
-    static constexpr char kFormat[] = "vantor-heif";
+    static constexpr const char* kFormat = kHeifFormat;
 
   protected:
     QImage decode(const QByteArray& bytes) override { return decodeHeif(bytes); }

@@ -6,6 +6,7 @@
 #include <cstring>
 #include <memory>
 
+#include "decode/helper/HandlerNames.h"
 #include "decode/plugins/PluginBytes.h"
 
 namespace vantor::decode {
@@ -142,7 +143,7 @@ QImage decodeJpeg2000(const QByteArray& bytes) {
 
 class Jpeg2000Handler : public WholePictureHandler {
   public:
-    static constexpr char kFormat[] = "vantor-jp2";
+    static constexpr const char* kFormat = kJpeg2000Format;
 
   protected:
     QImage decode(const QByteArray& bytes) override { return decodeJpeg2000(bytes); }

@@ -3,6 +3,7 @@
 
 #include <memory>
 
+#include "decode/helper/HandlerNames.h"
 #include "decode/plugins/PluginBytes.h"
 
 namespace vantor::decode {
@@ -71,7 +72,7 @@ QImage decodeJpegXl(const QByteArray& bytes) {
 
 class JpegXlHandler : public WholePictureHandler {
   public:
-    static constexpr char kFormat[] = "vantor-jxl";
+    static constexpr const char* kFormat = kJpegXlFormat;
 
   protected:
     QImage decode(const QByteArray& bytes) override { return decodeJpegXl(bytes); }

@@ -1,6 +1,7 @@
 // JPEG XR pictures.
 #include <algorithm>
 
+#include "decode/helper/HandlerNames.h"
 #include "decode/plugins/PluginBytes.h"
 
 extern "C" {
@@ -61,10 +62,13 @@ QImage decodeJpegXr(QByteArray bytes) {
         converter->Initialize(converter.object, decoder.object, anyName, GUID_PKPixelFormat24bppBGR) < 0) {
         return {};
     }
-    // Rows are converted in place, where the decoded ones may be four times as wide.
+    // Rows are converted in place, so there must be room for the widest that are decoded.
     constexpr int kMostBytesPerPixel = 16;
     const auto stride = static_cast<std::size_t>(width) * kMostBytesPerPixel;
     QImage image(width, height, QImage::Format_RGB32);
+    if (image.isNull()) {
+        return {};
+    }
     // Blocks of rows: the library decodes 16 at a time.
     constexpr int kRows = 16;
     QByteArray rows(static_cast<qsizetype>(stride * kRows), '\0');
@@ -91,7 +95,7 @@ QImage decodeJpegXr(QByteArray bytes) {
 
 class JpegXrHandler : public WholePictureHandler {
   public:
-    static constexpr char kFormat[] = "vantor-jxr";
+    static constexpr const char* kFormat = kJpegXrFormat;
 
   protected:
     QImage decode(const QByteArray& bytes) override { return decodeJpegXr(bytes); }

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "decode/helper/HandlerNames.h"
 #include "decode/plugins/PluginBytes.h"
 
 namespace vantor::decode {
@@ -194,7 +195,7 @@ QImage decodeFloatMap(QByteArrayView bytes) {
 class LightHandler : public WholePictureHandler {
   protected:
     QImage decode(const QByteArray& bytes) override {
-        return format() == "vantor-pfm" ? decodeFloatMap(bytes) : decodeRadiance(bytes);
+        return format() == kFloatMapFormat ? decodeFloatMap(bytes) : decodeRadiance(bytes);
     }
 };
 
@@ -204,7 +205,8 @@ class LightPlugin : public QImageIOPlugin {
 
   public:
     Capabilities capabilities(QIODevice*, const QByteArray& format) const override {
-        return format == "vantor-pfm" || format == "vantor-hdr" ? Capabilities(CanRead) : Capabilities();
+        return format == kFloatMapFormat || format == kRadianceFormat ? Capabilities(CanRead)
+                                                                      : Capabilities();
     }
     QImageIOHandler* create(QIODevice* device, const QByteArray& format) const override {
         auto* handler = new LightHandler;

@@ -1,9 +1,9 @@
 // Photoshop documents: the flattened picture at their end, after Adobe's published file format specification.
+#include <QDataStream>
 #include <algorithm>
 #include <array>
-#include <optional>
 
-#include "decode/helper/ByteView.h"
+#include "decode/helper/HandlerNames.h"
 #include "decode/plugins/PluginBytes.h"
 
 namespace vantor::decode {
@@ -13,64 +13,68 @@ namespace {
 enum class Mode : std::uint16_t { Grey = 1, Indexed = 2, Rgb = 3, Cmyk = 4 };
 enum class Compression : std::uint16_t { None = 0, PackBits = 1 };
 
-constexpr std::uint64_t kHeaderBytes = 26;
-constexpr std::uint64_t kPaletteEntries = 256;
+constexpr qsizetype kHeaderBytes = 26;
+constexpr qsizetype kPaletteEntries = 256;
 
 struct Document {
-    QByteArrayView bytes;
+    const QByteArray& bytes;
     bool large = false;  // the variant with longer lengths
-    std::uint32_t channels = 0;
-    std::uint32_t height = 0;
-    std::uint32_t width = 0;
-    std::uint32_t depth = 0;  // bits of a sample, 8 or 16
+    quint16 channels = 0;
+    quint32 height = 0;
+    quint32 width = 0;
+    quint16 depth = 0;  // bits of a sample, 8 or 16
     Mode mode = Mode::Rgb;
-    std::uint64_t paletteAt = 0;
+    QByteArrayView palette{};  // three planes, shorter where the bytes end within
     Compression compression = Compression::None;
-    std::uint64_t dataAt = 0;  // behind the compression word
+    qsizetype dataAt = 0;  // behind the compression word
 
-    std::optional<std::uint64_t> number(std::uint64_t at, int width_) const {
-        return readUnsigned(bytes, at, width_, ByteOrder::Big);
-    }
     // Channels that make up the colour; the ones behind are masks.
-    std::uint32_t colours() const { return mode == Mode::Cmyk ? 4 : mode == Mode::Rgb ? 3 : 1; }
+    int colours() const { return mode == Mode::Cmyk ? 4 : mode == Mode::Rgb ? 3 : 1; }
 };
 
-bool readHeader(Document& document) {
-    const auto version = document.number(4, 2), channels = document.number(12, 2),
-               height = document.number(14, 4), width = document.number(18, 4),
-               depth = document.number(22, 2), mode = document.number(24, 2);
-    if (!hasText(document.bytes, 0, "8BPS") || !mode || (version != 1 && version != 2)) {
+// Takes the header off the stream; false when it is none that we read.
+bool readHeader(QDataStream& in, Document& document) {
+    QByteArray mark(4, '\0');
+    quint16 version = 0, mode = 0;
+    in.readRawData(mark.data(), 4);
+    in >> version;
+    in.skipRawData(6);
+    in >> document.channels >> document.height >> document.width >> document.depth >> mode;
+    if (in.status() != QDataStream::Ok || mark != "8BPS" || (version != 1 && version != 2)) {
         return false;
     }
     document.large = version == 2;
-    document.channels = static_cast<std::uint32_t>(*channels);
-    document.height = static_cast<std::uint32_t>(*height);
-    document.width = static_cast<std::uint32_t>(*width);
-    document.depth = static_cast<std::uint32_t>(*depth);
-    document.mode = static_cast<Mode>(*mode);
-    const bool knownMode = *mode >= 1 && *mode <= 4;
+    document.mode = static_cast<Mode>(mode);
+    const bool knownMode = mode >= 1 && mode <= 4;
     return knownMode && (document.depth == 8 || document.depth == 16) &&
            document.channels >= document.colours() && isReasonableSize(document.width, document.height);
 }
 
 // Steps over colour data, resources and layers.
-bool findPicture(Document& document) {
-    std::uint64_t at = kHeaderBytes;
-    document.paletteAt = at + 4;
-    const std::array lengthBytes{4, 4, document.large ? 8 : 4};
-    for (const int width : lengthBytes) {
-        const auto length = document.number(at, width);
-        if (!length || *length > static_cast<std::uint64_t>(document.bytes.size())) {
+bool findPicture(QDataStream& in, Document& document) {
+    const auto size = static_cast<quint64>(document.bytes.size());
+    document.palette =
+        QByteArrayView(document.bytes).sliced(std::min(document.bytes.size(), kHeaderBytes + 4));
+    for (const bool longLength : {false, false, document.large}) {
+        quint32 high = 0, low = 0;
+        if (longLength) {
+            in >> high;
+        }
+        in >> low;
+        const quint64 length = quint64{high} << 32 | low;
+        const auto at = static_cast<quint64>(in.device()->pos());
+        if (in.status() != QDataStream::Ok || length > size - at ||
+            !in.device()->seek(static_cast<qint64>(at + length))) {
             return false;
         }
-        at += static_cast<std::uint64_t>(width) + *length;
     }
-    const auto compression = document.number(at, 2);
-    if (!compression || *compression > 1) {
+    quint16 compression = 0;
+    in >> compression;
+    if (in.status() != QDataStream::Ok || compression > 1) {
         return false;
     }
-    document.compression = static_cast<Compression>(*compression);
-    document.dataAt = at + 2;
+    document.compression = static_cast<Compression>(compression);
+    document.dataAt = in.device()->pos();
     return true;
 }
 
@@ -96,27 +100,25 @@ void unpackRow(QByteArrayView packed, QByteArray& row) {
 class Rows {
   public:
     explicit Rows(const Document& document)
-        : m_document(document), m_row(qsizetype{document.width} * (document.depth / 8), '\0') {
-        const std::uint64_t rows = std::uint64_t{document.channels} * document.height;
-        m_at = document.dataAt + (packed() ? rows * lengthBytes() : 0);
+        : m_document(document),
+          m_lengths(document.bytes),
+          m_left(QByteArrayView(document.bytes).sliced(document.dataAt)),
+          m_row(qsizetype{document.width} * (document.depth / 8), '\0') {
+        if (packed()) {
+            m_lengths.device()->seek(document.dataAt);
+            dropFirst(qsizetype{document.channels} * document.height * (document.large ? 4 : 2));
+        }
     }
 
     // The high byte of a sample comes first, so a picture of 16 bits is shown by it. Null at the end of the
     // bytes.
     const char* next() {
-        const auto size = static_cast<std::uint64_t>(m_document.bytes.size());
-        std::uint64_t length = static_cast<std::uint64_t>(m_row.size());
-        if (packed()) {
-            const auto stored = m_document.number(m_document.dataAt + m_index * lengthBytes(), lengthBytes());
-            length = stored.value_or(0);
-        }
-        ++m_index;
-        if (m_at >= size) {
+        const qsizetype length = packed() ? nextLength() : m_row.size();
+        if (m_left.isEmpty()) {
             return nullptr;
         }
-        const auto piece = m_document.bytes.sliced(static_cast<qsizetype>(m_at),
-                                                   static_cast<qsizetype>(std::min(length, size - m_at)));
-        m_at += length;
+        const QByteArrayView piece = m_left.first(std::min(length, m_left.size()));
+        dropFirst(length);
         if (packed()) {
             unpackRow(piece, m_row);
         } else {
@@ -127,12 +129,25 @@ class Rows {
 
   private:
     bool packed() const { return m_document.compression == Compression::PackBits; }
-    int lengthBytes() const { return m_document.large ? 4 : 2; }
+
+    // Of the packed row that follows; 0 where the table of them is cut short.
+    qsizetype nextLength() {
+        quint32 length = 0;
+        quint16 shortLength = 0;
+        if (m_document.large) {
+            m_lengths >> length;
+        } else {
+            m_lengths >> shortLength;
+            length = shortLength;
+        }
+        return length;
+    }
+    void dropFirst(qsizetype count) { m_left = m_left.sliced(std::min(count, m_left.size())); }
 
     const Document& m_document;
+    QDataStream m_lengths;  // at the next packed row's
+    QByteArrayView m_left;  // rows not yet given out
     QByteArray m_row;
-    std::uint64_t m_at = 0;
-    std::uint64_t m_index = 0;
 };
 
 // Inks are stored as light: 255 is none.
@@ -141,11 +156,10 @@ QRgb fromInks(QRgb inks) {
     return qRgb(qRed(inks) * black / 255, qGreen(inks) * black / 255, qBlue(inks) * black / 255);
 }
 
-QRgb fromPalette(const Document& document, int index) {
-    const auto part = [&](std::uint64_t plane) {
-        const std::uint64_t at =
-            document.paletteAt + plane * kPaletteEntries + static_cast<std::uint64_t>(index);
-        return static_cast<int>(document.number(at, 1).value_or(0));
+QRgb fromPalette(QByteArrayView palette, int index) {
+    const auto part = [&](qsizetype plane) {
+        const qsizetype at = plane * kPaletteEntries + index;
+        return at < palette.size() ? static_cast<std::uint8_t>(palette[at]) : 0;
     };
     return qRgb(part(0), part(1), part(2));
 }
@@ -155,7 +169,7 @@ QRgb displayed(const Document& document, QRgb channels) {
         case Mode::Grey:
             return qRgb(qRed(channels), qRed(channels), qRed(channels));
         case Mode::Indexed:
-            return fromPalette(document, qRed(channels));
+            return fromPalette(document.palette, qRed(channels));
         case Mode::Rgb:
             return qRgb(qRed(channels), qGreen(channels), qBlue(channels));
         case Mode::Cmyk:
@@ -166,7 +180,8 @@ QRgb displayed(const Document& document, QRgb channels) {
 
 QImage decodePhotoshop(const QByteArray& bytes) {
     Document document{bytes};
-    if (!readHeader(document) || !findPicture(document)) {
+    QDataStream in(bytes);
+    if (!readHeader(in, document) || !findPicture(in, document)) {
         return {};
     }
     // The channels are gathered in the bytes of the pixels: red, green, blue, and alpha for the fourth.
@@ -174,9 +189,9 @@ QImage decodePhotoshop(const QByteArray& bytes) {
     image.fill(0);
     constexpr std::array kShifts{16, 8, 0, 24};
     Rows rows(document);
-    const std::uint32_t step = document.depth / 8;
+    const int step = document.depth / 8;
     bool any = false;
-    for (std::uint32_t channel = 0; channel < document.colours(); ++channel) {
+    for (int channel = 0; channel < document.colours(); ++channel) {
         for (int y = 0; y < image.height(); ++y) {
             const char* samples = rows.next();
             if (!samples) {
@@ -206,7 +221,7 @@ QImage decodePhotoshop(const QByteArray& bytes) {
 
 class PhotoshopHandler : public WholePictureHandler {
   public:
-    static constexpr char kFormat[] = "vantor-psd";
+    static constexpr const char* kFormat = kPhotoshopFormat;
 
   protected:
     QImage decode(const QByteArray& bytes) override { return decodePhotoshop(bytes); }

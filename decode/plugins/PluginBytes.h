@@ -5,21 +5,11 @@
 #include <QByteArray>
 #include <QImageIOHandler>
 #include <QImageIOPlugin>
-#include <cstdint>
+
+#include "decode/DecodeProtocol.h"
+#include "decode/helper/PictureLimits.h"
 
 namespace vantor::decode {
-
-// Far above any picture file, far below what memory there is.
-constexpr qint64 kMostPluginBytes = qint64{512} * 1024 * 1024;
-
-// Sides of a picture that a handler takes on: no camera's are larger, and the pixels fit the readers' own
-// limit.
-inline bool isReasonableSize(std::uint64_t width, std::uint64_t height) {
-    constexpr std::uint64_t kMostSide = 65535;
-    constexpr std::uint64_t kMostPixels = std::uint64_t{150} * 1000 * 1000;
-    return width > 0 && height > 0 && width <= kMostSide && height <= kMostSide &&
-           width * height <= kMostPixels;
-}
 
 // The bytes from the device's position on. The helper's devices are buffers already, whose bytes are not
 // copied.
@@ -27,7 +17,7 @@ inline QByteArray bytesOf(QIODevice* device) {
     if (const auto* buffer = qobject_cast<QBuffer*>(device)) {
         return buffer->pos() == 0 ? buffer->data() : buffer->data().mid(buffer->pos());
     }
-    return device->read(kMostPluginBytes);
+    return device->read(static_cast<qint64>(kMaxInputBytes));
 }
 
 // A handler that decodes the whole picture in one go and gives it out once.

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "decode/helper/HandlerNames.h"
 #include "decode/plugins/PluginBytes.h"
 
 namespace vantor::decode {
@@ -50,7 +51,7 @@ QImage decodeRaw(const QByteArray& bytes) {
 
 class RawHandler : public WholePictureHandler {
   public:
-    static constexpr char kFormat[] = "vantor-raw";
+    static constexpr const char* kFormat = kRawFormat;
 
   protected:
     QImage decode(const QByteArray& bytes) override {

@@ -6,10 +6,11 @@
 #include <cstring>
 #include <memory>
 
+#include "decode/helper/HandlerNames.h"
+#include "decode/helper/LibavPointers.h"
 #include "decode/plugins/PluginBytes.h"
 
 extern "C" {
-#include <libavcodec/avcodec.h>
 #include <libavutil/log.h>
 #include <libavutil/pixdesc.h>
 #include <libswscale/swscale.h>
@@ -27,22 +28,12 @@ struct Kind {
     qsizetype markBytes = 0;
 };
 constexpr std::array kKinds{
-    Kind{"vantor-pcx", "pcx"},       Kind{"vantor-dds", "dds"},     Kind{"vantor-dpx", "dpx"},
-    Kind{"vantor-exr", "exr"},       Kind{"vantor-qoi", "qoi"},     Kind{"vantor-sgi", "sgi"},
-    Kind{"vantor-pam", "pam"},       Kind{"vantor-ras", "sunrast"}, Kind{"vantor-tga", "targa"},
-    Kind{"vantor-fits", "fits", 80},
+    Kind{kPcxFormat, "pcx"},       Kind{kDdsFormat, "dds"},           Kind{kDpxFormat, "dpx"},
+    Kind{kOpenExrFormat, "exr"},   Kind{kQoiFormat, "qoi"},           Kind{kSgiFormat, "sgi"},
+    Kind{kPamFormat, "pam"},       Kind{kSunRasterFormat, "sunrast"}, Kind{kTargaFormat, "targa"},
+    Kind{kFitsFormat, "fits", 80},
 };
 
-template <auto release>
-struct Release {
-    template <typename T>
-    void operator()(T* object) const {
-        release(&object);
-    }
-};
-using Codec = std::unique_ptr<AVCodecContext, Release<avcodec_free_context>>;
-using Packet = std::unique_ptr<AVPacket, Release<av_packet_free>>;
-using Frame = std::unique_ptr<AVFrame, Release<av_frame_free>>;
 using Scaler = std::unique_ptr<SwsContext, decltype(&sws_freeContext)>;
 
 const Kind* kindOf(const QByteArray& format) {
@@ -57,7 +48,7 @@ Codec openCodec(const char* name) {
         return nullptr;
     }
     codec->thread_count = 1;
-    codec->max_pixels = std::int64_t{150} * 1000 * 1000;
+    codec->max_pixels = static_cast<std::int64_t>(kMostPicturePixels);
     // Light as it falls is much too dark on a screen.
     AVDictionary* options = nullptr;
     av_dict_set(&options, "apply_trc", "iec61966_2_1", 0);
@@ -90,7 +81,7 @@ QImage imageOf(const AVFrame& frame) {
         sws_getContext(frame.width, frame.height, form, frame.width, frame.height,
                        alpha ? AV_PIX_FMT_BGRA : AV_PIX_FMT_BGR0, SWS_POINT, nullptr, nullptr, nullptr),
         &sws_freeContext);
-    const Frame out(av_frame_alloc());
+    const RawFrame out(av_frame_alloc());
     if (image.isNull() || !scaler || !out) {
         return {};
     }
@@ -118,7 +109,7 @@ class SinglePictureHandler : public WholePictureHandler {
         const Codec codec = kind ? openCodec(kind->decoder) : nullptr;
         const Packet packet =
             codec ? packetOf(QByteArrayView(bytes).sliced(std::min(bytes.size(), kind->markBytes))) : nullptr;
-        const Frame frame(av_frame_alloc());
+        const RawFrame frame(av_frame_alloc());
         if (!packet || avcodec_send_packet(codec.get(), packet.get()) < 0) {
             return {};
         }

@@ -9,6 +9,7 @@
 
 #include "decode/DecodePool.h"
 #include "tests/decode/Fixtures.h"
+#include "tests/decode/WatchedThread.h"
 
 namespace vantor {
 namespace {
@@ -167,6 +168,23 @@ TEST(DecodePool, HelperThatNeverReports_IsGivenUp) {
     EXPECT_GE(pool.counts().failedStarts, 1U);
 }
 
+TEST(DecodePool, Destruction_GivesUpAHelperThatNeverReports) {
+    const QTemporaryDir folder;
+    const QString mark = folder.filePath(QStringLiteral("started"));
+    DecodePoolOptions options = poolOptions(1);
+    options.helper = scriptedHelper(folder, "echo $$ > " + mark.toUtf8() + "; exec sleep 1000");
+    options.startDeadline = std::chrono::minutes(10);
+    pid_t starting = 0;
+    {
+        DecodePool pool(options);
+        while (starting == 0) {
+            std::this_thread::sleep_for(milliseconds(1));
+            starting = bytesOfFile(mark).trimmed().toInt();
+        }
+    }
+    EXPECT_EQ(kill(starting, 0), -1) << "it would have gone on for minutes";
+}
+
 TEST(DecodePool, IdleHelpersKilled_AreReplacedAndThePictureIsStillShown) {
     DecodePool pool(poolOptions(2));
     const QByteArray picture = encoded(twoColours({64, 64}), "png");
@@ -183,15 +201,15 @@ TEST(DecodePool, IdleHelpersKilled_AreReplacedAndThePictureIsStillShown) {
 TEST(DecodePool, DecoderThatCrashes_CostsItsPictureOnly) {
     DecodePool pool(poolOptions(1));
     const QByteArray small = encoded(twoColours({64, 64}), "png");
-    const QByteArray large = encoded(twoColours({9000, 9000}), "png");
     ASSERT_FALSE(pool.thumbnail(small).isEmpty());
     const pid_t helper = pool.helperPids().front();
+    stopProcess(helper);
     QByteArray shown = "not asked";
-    std::thread caller([&] { shown = pool.thumbnail(large); });
-    // The large picture takes many times as long.
-    std::this_thread::sleep_for(milliseconds(40));
+    WatchedThread caller([&] { shown = pool.thumbnail(small); });
+    caller.awaitAsleepIn(kAskingAHelper);
     // What a damaged heap ends in; a sanitizer would catch a segmentation fault for itself.
     kill(helper, SIGABRT);
+    kill(helper, SIGCONT);
     caller.join();
     EXPECT_TRUE(shown.isEmpty());
     EXPECT_EQ(pool.counts().crashed, 1U);
@@ -220,8 +238,8 @@ TEST(DecodePool, Close_FreesACallerAtOnce) {
     ASSERT_FALSE(pool.thumbnail(small).isEmpty());
     stopProcess(pool.helperPids().front());
     QByteArray shown = "not asked";
-    std::thread caller([&] { shown = pool.thumbnail(small); });
-    std::this_thread::sleep_for(milliseconds(20));
+    WatchedThread caller([&] { shown = pool.thumbnail(small); });
+    caller.awaitAsleepIn(kAskingAHelper);
     pool.close();
     caller.join();
     EXPECT_TRUE(shown.isEmpty());

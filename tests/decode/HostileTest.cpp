@@ -2,12 +2,16 @@
 // afterwards.
 #include <gtest/gtest.h>
 
+#include <QFileInfo>
 #include <QTemporaryDir>
+#include <algorithm>
+#include <array>
 #include <random>
 #include <thread>
 
 #include "decode/DecodePool.h"
 #include "decode/ThumbnailQueue.h"
+#include "formats/Crc.h"
 #include "tests/decode/Fixtures.h"
 
 namespace vantor {
@@ -103,30 +107,73 @@ TEST(Hostile, AnswersThatNoHelperGives_AreNotBelieved) {
     }
 }
 
-// The size fields of a JPEG's frame header, wherever it stands.
-QByteArray jpegClaiming(std::uint16_t width, std::uint16_t height) {
-    QByteArray bytes = encoded(twoColours({64, 64}), "jpeg");
-    const qsizetype frame = bytes.indexOf("\xff\xc0");
-    bytes[frame + 5] = static_cast<char>(height >> 8);
-    bytes[frame + 6] = static_cast<char>(height);
-    bytes[frame + 7] = static_cast<char>(width >> 8);
-    bytes[frame + 8] = static_cast<char>(width);
+QByteArray bigEndian(std::uint32_t value) {
+    QByteArray bytes;
+    for (int shift = 24; shift >= 0; shift -= 8) {
+        bytes.append(static_cast<char>(value >> shift));
+    }
     return bytes;
 }
 
-TEST(Hostile, HugeClaims_NeitherHangNorFillTheMemory) {
+// The size fields of a JPEG's frame header, wherever it stands.
+QByteArray jpegClaiming(int side) {
+    QByteArray bytes = encoded(twoColours({64, 64}), "jpeg");
+    const qsizetype frame = bytes.indexOf("\xff\xc0");
+    const QByteArray both = bigEndian(static_cast<std::uint32_t>(side)).last(2);
+    return bytes.replace(frame + 5, 4, both + both);
+}
+
+// With bytes enough for the first rows of what they claim to be.
+QByteArray claimant(const char* format) {
+    return encoded(twoColours({600, 600}), format);
+}
+
+// The header with a sum of its own that is right, since a reader looks at that first.
+QByteArray pngClaiming(int side) {
+    constexpr qsizetype kHeader = 12, kHeaderBytes = 17;
+    QByteArray bytes = claimant("png");
+    const QByteArray claim = bigEndian(static_cast<std::uint32_t>(side));
+    bytes.replace(kHeader + 4, 8, claim + claim);
+    const auto* header = reinterpret_cast<const std::uint8_t*>(bytes.constData()) + kHeader;
+    return bytes.replace(kHeader + kHeaderBytes, 4, bigEndian(crc32(0, {header, kHeaderBytes})));
+}
+
+QByteArray bmpClaiming(int side) {
+    QByteArray bytes = claimant("bmp");
+    QByteArray claim = bigEndian(static_cast<std::uint32_t>(side));
+    std::ranges::reverse(claim);
+    return bytes.replace(18, 8, claim + claim);
+}
+
+// Within the limit, so that it is by their claims alone that the others fail.
+constexpr int kLargeSide = 9000;
+// Of these the first would still fit the memory that a helper may have.
+constexpr std::array kTooLargeSides{13000, 65000};
+
+TEST(Hostile, HugeClaims_AreRefusedForTheirSize) {
     DecodePoolOptions options = poolOptions(1);
-    options.thumbnailDeadline = seconds(3);
+    // Long enough to fill all that is claimed, so that it is not the deadline that refuses.
+    options.thumbnailDeadline = std::chrono::minutes(1);
     DecodePool pool(options);
-    pool.thumbnail(jpegClaiming(65535, 65535));
+    for (const auto& claiming : {pngClaiming, bmpClaiming}) {
+        SCOPED_TRACE(claiming == pngClaiming ? "PNG" : "BMP");
+        EXPECT_FALSE(pool.thumbnail(claiming(kLargeSide)).isEmpty());
+        for (const int side : kTooLargeSides) {
+            EXPECT_TRUE(pool.thumbnail(claiming(side)).isEmpty()) << side;
+        }
+    }
+    EXPECT_EQ(pool.counts().started, 1U) << "the helper refused by itself";
+    expectSoundPool(pool);
+}
 
-    QByteArray png = encoded(twoColours({64, 64}), "png");
-    png.replace(16, 8, QByteArray("\0\1\0\0\0\1\0\0", 8));
-    EXPECT_TRUE(pool.thumbnail(png).isEmpty());
-
-    QByteArray bmp = encoded(twoColours({64, 64}), "bmp");
-    bmp.replace(18, 8, QByteArray("\0\0\1\0\0\0\1\0", 8));
-    EXPECT_TRUE(pool.thumbnail(bmp).isEmpty());
+// A JPEG is read at an eighth of its size, which any claim fits.
+TEST(Hostile, HugeClaimOfAJpeg_ShowsWhatIsThere) {
+    DecodePoolOptions options = poolOptions(1);
+    options.thumbnailDeadline = std::chrono::minutes(1);
+    DecodePool pool(options);
+    const QImage shown = QImage::fromData(pool.thumbnail(jpegClaiming(65500)));
+    EXPECT_EQ(shown.size(), QSize(kThumbnailSide, kThumbnailSide));
+    EXPECT_EQ(pool.counts().started, 1U);
     expectSoundPool(pool);
 }
 

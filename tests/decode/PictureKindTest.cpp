@@ -1,8 +1,12 @@
 // Telling kinds of pictures apart by their bytes.
 #include <gtest/gtest.h>
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
 #include "decode/helper/PictureKind.h"
-#include "decode/helper/TiffDirectory.h"
+#include "decode/helper/SensorData.h"
 #include "tests/decode/Fixtures.h"
 
 namespace vantor {
@@ -80,6 +84,28 @@ TEST(PictureKind, MarklessFormats_OnlyByTheItemsType) {
     EXPECT_TRUE(handlersFor("P6\n1 1\n255\nabc", "txt").isEmpty());
 }
 
+// The library looks plugins up by what their .json says, the decoder asks by its own names.
+TEST(PictureKind, OurOwnHandlers_AreThoseThatThePluginsOffer) {
+    QStringList offered;
+    for (const QString& path : filesBelow(QStringLiteral(VANTOR_SOURCE_DIR "/decode/plugins"))) {
+        if (path.endsWith(QLatin1String(".json"))) {
+            for (const QJsonValue& key :
+                 QJsonDocument::fromJson(bytesOfFile(path)).object()[QLatin1String("Keys")].toArray()) {
+                offered.append(key.toString());
+            }
+        }
+    }
+    offered.sort();
+    QStringList asked;
+    for (const QByteArray& handler : decode::allHandlers()) {
+        if (handler.startsWith("vantor-")) {
+            asked.append(QString::fromLatin1(handler));
+        }
+    }
+    EXPECT_FALSE(asked.isEmpty());
+    EXPECT_EQ(asked, offered);
+}
+
 TEST(PictureKind, TiffWithSensorData_IsRawOnly) {
     EXPECT_TRUE(decode::isTiffBasedRaw(tiffOf({entry(0x0106, 3, 1, 32803)})));
     EXPECT_TRUE(decode::isTiffBasedRaw(tiffOf({entry(0x0103, 3, 1, 34713)})));
@@ -95,19 +121,57 @@ TEST(PictureKind, SensorDataInASubDirectory_IsFound) {
     EXPECT_TRUE(decode::isTiffBasedRaw(bytes));
 }
 
-TEST(PictureKind, DirectoriesThatPointAtThemselvesOrBeyondTheEnd_EndTheWalk) {
-    int seen = 0;
-    const auto count = [&](const decode::TiffEntry&) {
-        ++seen;
-        return true;
+// The same in the form with offsets of 64 bits: number, kind, how many, and the value.
+QByteArray bigEntry(std::uint16_t tag, std::uint16_t type, std::uint32_t count, std::uint32_t value) {
+    return littleEndian(tag, 2) + littleEndian(type, 2) + littleEndian(count, 4) + littleEndian(0, 4) +
+           littleEndian(value, 4) + littleEndian(0, 4);
+}
+
+QByteArray bigTiffOf(const QList<QByteArray>& entries) {
+    QByteArray bytes("II+\0\x08\0\0\0\x10\0\0\0\0\0\0\0", 16);
+    bytes += littleEndian(static_cast<std::uint32_t>(entries.size()), 4) + littleEndian(0, 4);
+    return bytes + entries.join() + QByteArray(8, '\0');
+}
+
+TEST(PictureKind, BigTiffWithSensorData_IsRawOnly) {
+    EXPECT_TRUE(decode::isTiffBasedRaw(bigTiffOf({bigEntry(0x0106, 3, 1, 32803)})));
+    EXPECT_TRUE(decode::isTiffBasedRaw(bigTiffOf({bigEntry(0xc612, 1, 4, 0x0104)})));
+    EXPECT_FALSE(decode::isTiffBasedRaw(bigTiffOf({bigEntry(0x0106, 3, 1, 2), bigEntry(0x0103, 3, 1, 5)})));
+    QByteArray below = bigTiffOf({bigEntry(0x0106, 3, 1, 2), bigEntry(0x014a, 18, 1, 200)});
+    below.resize(200, '\0');
+    below += littleEndian(1, 4) + littleEndian(0, 4) + bigEntry(0x0103, 3, 1, 34713) + QByteArray(8, '\0');
+    EXPECT_TRUE(decode::isTiffBasedRaw(below));
+    EXPECT_EQ(handlersFor(below, ""), Handlers{"vantor-raw"});
+}
+
+TEST(PictureKind, DirectoriesThatPointAtThemselvesOrBeyondTheEnd_HoldNoSensorData) {
+    EXPECT_FALSE(decode::isTiffBasedRaw(tiffOf({entry(0x014a, 4, 1, 8)})));
+    EXPECT_FALSE(decode::isTiffBasedRaw(tiffOf({entry(0x014a, 4, 0xffffffff, 8)})));
+    EXPECT_FALSE(decode::isTiffBasedRaw(tiffOf({entry(0x014a, 4, 1, 0xfffffff0)})));
+    EXPECT_FALSE(decode::isTiffBasedRaw(QByteArray("II*\0\xff\xff\xff\xff", 8)));
+    EXPECT_FALSE(decode::isTiffBasedRaw("II"));
+    EXPECT_FALSE(decode::isTiffBasedRaw(""));
+}
+
+// What lies beyond is looked at by nobody: a file could name millions.
+TEST(PictureKind, SoManyDirectories_AreLookedAtAndNoMore) {
+    const auto rawInDirectory = [](std::uint32_t which) {
+        constexpr std::uint32_t kListAt = 100, kFirstAt = 1000, kApart = 20, kCount = 40;
+        QByteArray bytes = tiffOf({entry(0x014a, 4, kCount, kListAt)});
+        bytes.resize(kListAt, '\0');
+        for (std::uint32_t i = 0; i < kCount; ++i) {
+            bytes += littleEndian(kFirstAt + i * kApart, 4);
+        }
+        bytes.resize(kFirstAt, '\0');
+        for (std::uint32_t i = 0; i < kCount; ++i) {
+            bytes += littleEndian(1, 2) + entry(0x0106, 3, 1, i == which ? 32803 : 2) + littleEndian(0, 4);
+            bytes.resize(kFirstAt + (i + 1) * kApart, '\0');
+        }
+        return decode::isTiffBasedRaw(bytes);
     };
-    EXPECT_TRUE(decode::walkTiff(tiffOf({entry(0x014a, 4, 1, 8)}), count));
-    EXPECT_EQ(seen, 2);
-    EXPECT_TRUE(decode::walkTiff(tiffOf({entry(0x014a, 4, 0xffffffff, 8)}), count));
-    EXPECT_TRUE(decode::walkTiff(tiffOf({entry(0x014a, 4, 1, 0xfffffff0)}), count));
-    EXPECT_TRUE(decode::walkTiff(QByteArray("II*\0\xff\xff\xff\xff", 8), count));
-    EXPECT_FALSE(decode::walkTiff("II", count));
-    EXPECT_FALSE(decode::walkTiff("", count));
+    EXPECT_TRUE(rawInDirectory(0));
+    EXPECT_TRUE(rawInDirectory(14));
+    EXPECT_FALSE(rawInDirectory(15));
 }
 
 }  // namespace
