@@ -21,7 +21,6 @@ struct Exception {
     std::string_view reason;
 };
 inline constexpr std::array kExceptions = {
-    Exception{"line-weights.dwg", Expect::Unknown, 0, "DWG, no walker"},
     Exception{"test-documents-enc.rar", Expect::Unknown, 0, "block headers are encrypted"},
     Exception{"palette_and_groups.jxl", Expect::Unknown, 0,
               "bare JPEG XL stream: only a decoder finds the end"},
