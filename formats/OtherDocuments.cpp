@@ -82,7 +82,9 @@ Extent walkPostScriptText(ByteView& view) {
         if (!comment.found())
             return comment.at < view.size() ? damagedAt(view, sign) : cutOffAt(view, view.size());
         at = comment.at;
-        if (!view.matches(at, "%%")) {
+        // Programs name these comments in strings too; only one that begins a line is meant.
+        const auto before = at != 0 ? view.u8(at - 1) : '\n';
+        if (!view.matches(at, "%%") || (before != '\n' && before != '\r')) {
             ++at;
             continue;
         }
