@@ -26,6 +26,18 @@ TEST(PostScriptHabits, LinesEndedByReturns_AreLines) {
     expectEnd("PS", Build().add(file).fill(3000), file.size());
 }
 
+TEST(PostScriptHabits, TrailerWithoutEnd_EndsBehindItsLines) {
+    const Bytes file = Build().text("%!PS-Adobe-3.0\nshowpage\n%%Trailer\n%%Pages: 1\n");
+    for (const Bytes& tail : {Bytes(), Bytes(3000, 0), Build().text("ab").fill(3000, 1).bytes()}) {
+        expectEnd("PS", Build().add(file).add(tail), file.size());
+        EXPECT_FALSE(walkBytes("PS", Build().add(file).add(tail)).exactEnd);
+    }
+    // The trailer of a document inside is not the whole's.
+    const Bytes outer = Build().text(
+        "%!PS-Adobe-3.0\n%%BeginDocument: a\n%%Trailer\n%%EndDocument\n\1binary\nshowpage\n%%EOF\n");
+    expectEnd("PS", Build().add(outer).add(noise(3000, 5)), outer.size());
+}
+
 // Video without an end code, as many slices as a short film has.
 Bytes openVideo() {
     Build out;
@@ -99,6 +111,31 @@ TEST(RealMediaHabits, HeadOfTheDataCountedTwice_IsSeenThrough) {
     Bytes other = Build().add(realMedia(kData + 18)).fill(18);
     other[18 + 13] = 1;
     expectEnd("RM", Build().add(other).fill(3000), other.size());
+}
+
+// A text of 4100 bytes in two pieces, the second of 4.
+Bytes palmText(std::uint64_t packing, const Bytes& second, std::uint64_t bookmarks = 0) {
+    const std::size_t head = 78 + 8 * (3 + bookmarks) + 2;
+    Build out;
+    out.text("T").to(60).text("TEXtREAd").fill(8).be16(3 + bookmarks);
+    out.be32(head).be32(0).be32(head + 16).be32(0).be32(head + 116).be32(0);
+    for (std::uint64_t i = 0; i < bookmarks; ++i)
+        out.be32(head + 116 + second.size() + 20 * i).be32(0);
+    out.fill(2).be16(packing).be16(0).be32(4100).be16(2).be16(4096).be32(0).fill(100, 'x').add(second);
+    return out.fill(20 * bookmarks, 'm');
+}
+
+TEST(PalmText, LastPiece_IsMeasured) {
+    const Bytes plain = palmText(1, Build().text("abcd"));
+    const Bytes packed = palmText(2, Build().u8(0xE5).u8(1).u8(0xFF).text("d"));  // blank and e, a byte, d
+    const Bytes earlier = palmText(2, Build().text("a").u8(0x80).u8(0x08));       // a, three of before
+    const Bytes marked = palmText(2, Build().text("abcd"), 2);
+    for (const Bytes& file : {plain, packed, earlier, marked}) {
+        for (const Bytes& tail : {Bytes(), Bytes(3000, 0), noise(3000, 3)})
+            expectEnd("PDB", Build().add(file).add(tail), file.size());
+        const Bytes cut(file.begin(), file.end() - 1);
+        EXPECT_EQ(walkBytes("PDB", cut).verdict, Verdict::CutOff);
+    }
 }
 
 TEST(CpioHabits, OnlyZerosFillTheLastBlock) {
