@@ -1,6 +1,8 @@
 // What writers do that no description of their format says, and what must not be taken for it.
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "Corpus.h"
 #include "Samples.h"
 #include "WalkBytes.h"
@@ -36,6 +38,42 @@ TEST(PostScriptHabits, TrailerWithoutEnd_EndsBehindItsLines) {
     const Bytes outer = Build().text(
         "%!PS-Adobe-3.0\n%%BeginDocument: a\n%%Trailer\n%%EndDocument\n\1binary\nshowpage\n%%EOF\n");
     expectEnd("PS", Build().add(outer).add(noise(3000, 5)), outer.size());
+}
+
+TEST(XmlHabits, InstructionBehindTheRoot_BelongsToTheFile) {
+    const std::string packet = "<?xpacket begin=''?>\n<x:xmpmeta>\n</x:xmpmeta>\n";
+    const Bytes file = Build().text(packet + std::string(300, ' ') + "<?xpacket end='w'?>");
+    const Bytes plain = Build().text(packet);
+    const Bytes commented = Build().text(packet + "<!-- done -->\n");
+    for (const Bytes& whole : {file, plain, commented}) {
+        for (const Bytes& tail : {Bytes(3000, 0), Build().text("\1<?more?>").bytes()})
+            expectEnd("XMP", Build().add(whole).add(tail), whole.size());
+    }
+    expectEnd("XMP", file, file.size());
+    // Without its last line the packet is cut, unless others' bytes show that it never had one.
+    for (const std::size_t cut : {plain.size(), file.size() - 19, file.size() - 18, file.size() - 1}) {
+        const Bytes part(file.begin(), file.begin() + static_cast<std::ptrdiff_t>(cut));
+        EXPECT_EQ(walkBytes("XMP", part).verdict, Verdict::CutOff) << cut;
+    }
+    // What another file begins with does not.
+    expectEnd("XMP", Build().add(plain).text("<?xml version='1.0'?><a/>"), plain.size());
+    const Bytes filled = Build().text("<a>").fill(505, 'x').text("</a>");
+    ASSERT_EQ(filled.size(), 512U);
+    expectEnd("XML", Build().add(filled).text("<!-- next --><b/>"), filled.size());
+}
+
+TEST(PdfHabits, UpdateNamedInAComment_BelongsToTheFile) {
+    const std::string first = "%PDF-1.4\n1 0 obj\nendobj\nxref\n0 1\nstartxref\n24\n%%EOF\n";
+    ASSERT_EQ(first.find("xref"), 24U);
+    const std::string update = "%BeginUpdate\n1 0 obj\nendobj\n";
+    const std::string section = "xref\n0 1\n%EndUpdate\nstartxref\n";
+    const auto at = std::to_string(first.size() + update.size());
+    const Bytes file = Build().text(first + update + section + at + "\n%%EOF\n");
+    for (const Bytes& tail : {Bytes(), Bytes(3000, 0), noise(3000, 9)})
+        expectEnd("PDF", Build().add(file).add(tail), file.size());
+    const Bytes alone = Build().text(first);
+    expectEnd("PDF", Build().add(alone).text("%PDF-1.4\n1 0 obj\n"), alone.size());
+    expectEnd("PDF", Build().add(alone).text("% a comment and no more\n"), alone.size());
 }
 
 // Video without an end code, as many slices as a short film has.
