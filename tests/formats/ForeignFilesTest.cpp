@@ -1,8 +1,6 @@
 // Small files by other programs: every one ends where its bytes end, whatever follows it on a medium.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <set>
@@ -15,10 +13,6 @@ namespace vantor::test {
 namespace {
 
 constexpr std::size_t kSector = 512;
-
-std::filesystem::path foreignFolder() {
-    return std::filesystem::path(VANTOR_SOURCE_DIR) / "tests/data/foreign";
-}
 
 // The first column of the table that names each file's writer.
 std::set<std::string> listedFiles() {
@@ -33,13 +27,6 @@ std::set<std::string> listedFiles() {
     return names;
 }
 
-std::string typeOf(const std::string& name) {
-    std::string type = name.substr(name.rfind('.') + 1);
-    std::transform(type.begin(), type.end(), type.begin(),
-                   [](char c) { return static_cast<char>(std::toupper(c)); });
-    return type;
-}
-
 TEST(ForeignFiles, WholeOnes_EndToTheByteWhateverFollows) {
     const auto names = listedFiles();
     ASSERT_GT(names.size(), 150U);
@@ -48,7 +35,7 @@ TEST(ForeignFiles, WholeOnes_EndToTheByteWhateverFollows) {
         SCOPED_TRACE(name);
         const Bytes file = readFile(foreignFolder() / name);
         ASSERT_FALSE(file.empty());
-        const std::string type = typeOf(name);
+        const std::string type = typeByName(name);
         ASSERT_NE(walkerFor(type), nullptr);
         walkers.insert(walkerFor(type)->name);
         const std::size_t filled = (file.size() + kSector - 1) / kSector * kSector;
@@ -73,7 +60,7 @@ TEST(ForeignFiles, CutOnes_AreNeverSurelyWhole) {
         for (std::size_t i = 1; i < kCuts; ++i) {
             const std::size_t cut = (file.size() - kOptional) * i / kCuts;
             const Bytes part(file.begin(), file.begin() + static_cast<std::ptrdiff_t>(cut));
-            const Extent extent = walkBytes(typeOf(name), part);
+            const Extent extent = walkBytes(typeByName(name), part);
             ASSERT_LE(extent.end, cut);
             EXPECT_FALSE(extent.verdict == Verdict::Complete && extent.exactEnd) << "cut at " << cut;
         }
