@@ -87,6 +87,9 @@ Extent walkAsf(ByteView& view) {
             break;
         at = end;
     }
+    // Without its index, of which the told length knows.
+    if (!properties.broadcast && properties.fileBytes > view.size() && at <= view.size())
+        return cutOffAt(view, view.size(), facts);
     return completeAt(view, at, facts);
 }
 

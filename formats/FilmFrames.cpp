@@ -15,7 +15,7 @@ constexpr std::uint64_t kMostPixels = 1 << 28;
 // Bytes of an uncompressed picture whose samples are filled up to words; 0 where they are packed otherwise.
 std::uint64_t pixelBytes(const Facts& facts, std::uint64_t samplesEach, unsigned bits) {
     const std::uint64_t samples = facts.width * samplesEach;
-    const std::uint64_t row = bits == 8                  ? samples
+    const std::uint64_t row = bits == 8                  ? (samples + 3) / 4 * 4
                               : bits == 10               ? (samples + 2) / 3 * 4
                               : bits == 12 || bits == 16 ? samples * 2
                                                          : 0;
@@ -85,7 +85,12 @@ Extent walkCineon(ByteView& view) {
         return cutOffAt(view, view.size());
     if (start < 1024 || start > 1 << 24 || channels == 0 || channels > 8 || !isPlausible(facts))
         return unknownExtent();
-    return frameEnd(view, told, start, pixelBytes(facts, channels, bits), facts);
+    const std::uint64_t pixels = pixelBytes(facts, channels, bits);
+    // One writer tells the length that the picture would have as a DPX of ten bits.
+    constexpr std::uint64_t kDpxHead = 8192;
+    if (start < kDpxHead && pixels != 0 && told == kDpxHead + pixelBytes(facts, channels, 10))
+        return completeAt(view, start + pixels, facts);
+    return frameEnd(view, told, start, pixels, facts);
 }
 
 }  // namespace vantor

@@ -142,12 +142,14 @@ Extent walkLzip(ByteView& view) {
     return damagedAt(view, start);
 }
 
-Extent walkLzop(ByteView& view) {
+namespace {
+
+std::optional<Frame> lzopMember(ByteView& view, std::uint64_t at) {
     constexpr std::string_view kMagic("\x89LZO\0\r\n\x1A\n", 9);
     constexpr std::uint32_t kMostBlock = 64 * 1024 * 1024;
-    if (!view.matches(0, kMagic))
-        return unknownExtent();
-    Cursor in(view, kMagic.size());
+    if (!view.matches(at, kMagic))
+        return std::nullopt;
+    Cursor in(view, at + kMagic.size());
     const bool recent = in.u16() >= 0x0940;
     in.skip(recent ? 6 : 3);  // library, what reads it, method and level
     const auto flags = in.u32();
@@ -164,13 +166,19 @@ Extent walkLzop(ByteView& view) {
         const auto start = in.at();
         const auto plain = in.u32();
         if (in.ok() && plain == 0)
-            return completeAt(view, in.at());
+            return Frame{Frame::State::Whole, in.at()};
         const auto packed = in.u32();
         if (in.ok() && (packed == 0 || packed > plain || plain > kMostBlock))
-            return damagedAt(view, start);
+            return Frame{Frame::State::Broken, start};
         in.skip(plainSums + (packed < plain ? packedSums : 0) + packed);
     }
-    return cutOffAt(view, view.size());
+    return cutFrame(view);
+}
+
+}  // namespace
+
+Extent walkLzop(ByteView& view) {
+    return walkFrames(view, lzopMember);
 }
 
 }  // namespace vantor

@@ -103,6 +103,25 @@ Extent walkMpegPs(ByteView& view) {
     return inexact(completeAt(view, at));
 }
 
+namespace {
+
+// Where the zero bytes in front of `at` begin, not before `from`.
+std::uint64_t startOfZeros(ByteView& view, std::uint64_t from, std::uint64_t at) {
+    while (at > from && view.u8(at - 1) == 0)
+        --at;
+    return at;
+}
+
+// Three zero bytes occur in no slice: where they first stand in [from, to) it has ended; else `to`.
+std::uint64_t endOfSlice(ByteView& view, std::uint64_t from, std::uint64_t to) {
+    auto zero = view.find(0, from, to);
+    while (zero.found() && view.number(zero.at, 3, Endian::Big) != 0U)
+        zero = view.find(0, zero.at + 1, to);
+    return zero.found() ? zero.at : to;
+}
+
+}  // namespace
+
 Extent walkMpegVideo(ByteView& view) {
     if (startCode(view, 0) != 0xB3)
         return unknownExtent();
@@ -120,6 +139,11 @@ Extent walkMpegVideo(ByteView& view) {
             return inexact(cutOffAt(view, next.at, facts));
         if (!next.found())
             break;
+        // A sequence that begins at a sector's start, behind a filled one, is the next file.
+        const auto filled = startOfZeros(view, at + 4, next.at);
+        if (startCode(view, next.at) == 0xB3 && isSectorStart(next.at) && next.at - filled > 2 &&
+            codes >= kFewCodes)
+            return inexact(completeAt(view, filled, facts));
         longest = std::max(longest, next.at - at);
         at = next.at;
         const auto code = startCode(view, at).value_or(0);
@@ -131,7 +155,8 @@ Extent walkMpegVideo(ByteView& view) {
     if (codes < kFewCodes)
         return unknownExtent();
     // No end code: the last picture slice is hardly longer than the longest before it.
-    return inexact(completeAt(view, std::min(view.size(), at + longest), facts));
+    const auto reach = std::min(view.size(), at + longest);
+    return inexact(completeAt(view, endOfSlice(view, std::min(reach, at + 4), reach), facts));
 }
 
 }  // namespace vantor

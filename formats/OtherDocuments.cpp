@@ -2,6 +2,7 @@
 // Sources: public notes on the CHM layout; DjVu 3 specification; [MS-SHLLINK]; IBM DCA reference; Adobe
 // EPSF 3.0 and DSC 3.0.
 #include <algorithm>
+#include <optional>
 
 #include "formats/TextReader.h"
 #include "formats/Walkers.h"
@@ -70,23 +71,41 @@ Extent walkShellLink(ByteView& view) {
 
 namespace {
 
+// Behind the last whole line of the text from `from` on.
+std::uint64_t endOfLines(ByteView& view, std::uint64_t from) {
+    const std::uint64_t end = textEnd(view, from);
+    std::uint64_t lines = end;
+    while (lines > from && view.u8(lines - 1) != '\n' && view.u8(lines - 1) != '\r')
+        --lines;
+    return lines > from ? lines : end;
+}
+
 // Text from "%!PS" to the end comment that is not one of an embedded document.
 Extent walkPostScriptText(ByteView& view) {
     constexpr std::uint64_t kMostSilence = 64 * 1024 * 1024;  // without any comment line
     std::uint64_t embedded = 0;
     std::uint64_t sign = 0;
+    // Many writers leave the end comment out: behind the trailer comes only text.
+    std::optional<std::uint64_t> lines;
     for (std::uint64_t at = 0;;) {
-        const auto comment = view.find('%', at, std::min(view.size(), addClamped(sign, kMostSilence)));
+        const auto limit = lines.value_or(std::min(view.size(), addClamped(sign, kMostSilence)));
+        const auto comment = view.find('%', at, limit);
+        if (lines && !comment.found())
+            return inexact(completeAt(view, *lines));
         if (comment.stopped())
             return cutOffAt(view, comment.at);
         if (!comment.found())
             return comment.at < view.size() ? damagedAt(view, sign) : cutOffAt(view, view.size());
         at = comment.at;
-        if (!view.matches(at, "%%")) {
+        // Programs name these comments in strings too; only one that begins a line is meant.
+        const auto before = at != 0 ? view.u8(at - 1) : '\n';
+        if (!view.matches(at, "%%") || (before != '\n' && before != '\r')) {
             ++at;
             continue;
         }
         sign = at;
+        if (!lines && embedded == 0 && view.matches(at, "%%Trailer"))
+            lines = endOfLines(view, at);
         if (view.matches(at, "%%BeginDocument"))
             ++embedded;
         else if (view.matches(at, "%%EndDocument") && embedded != 0)

@@ -10,6 +10,7 @@ namespace vantor {
 namespace {
 
 constexpr std::size_t kLookBack = 64;     // from the end mark to "startxref"
+constexpr std::size_t kUpdateLead = 256;  // comments and the first words of an update
 constexpr std::size_t kHeadBytes = 1024;  // where the linearization dictionary stands
 // A file goes on as long as ends of objects turn up; this is the largest stream believed to lie between two.
 constexpr std::uint64_t kMostSilence = 64 * 1024 * 1024;
@@ -54,6 +55,16 @@ bool beginsSection(std::string_view text) {
         return false;
     skipSpaces(text);
     return text.starts_with("obj");
+}
+
+// The same behind comments that a program names its update with; "%PDF-" begins the next file.
+bool beginsUpdate(std::string_view text) {
+    skipSpaces(text);
+    while (text.starts_with('%') && !text.starts_with("%PDF-") && !text.starts_with("%%EOF")) {
+        text.remove_prefix(std::min(text.find_first_of("\r\n"), text.size()));
+        skipSpaces(text);
+    }
+    return beginsSection(text);
 }
 
 constexpr std::size_t kSeam = 16;
@@ -130,7 +141,7 @@ PdfWalk::Mark PdfWalk::judge(std::uint64_t at) {
     const auto behind = behindMark(at);
     if (m_linearized > behind + kLookBack)
         return Mark::Inner;
-    return beginsSection(textAt(m_view, behind, kLookBack)) ? Mark::Inner : Mark::Last;
+    return beginsUpdate(textAt(m_view, behind, kUpdateLead)) ? Mark::Inner : Mark::Last;
 }
 
 // Another PDF at a sector's start, unless it is the content of a stream of ours.

@@ -145,6 +145,7 @@ constexpr std::array kWalkers = {
     Walker{"Font", walkFont, true, " TTF OTF TTC OTC "},
     Walker{"PFB", walkPackedType1, true, " PFB "},
     Walker{"Blender", walkBlend, false, " BLEND "},
+    Walker{"Drawing", walkDrawing, true, " DWG DWT "},
     Walker{"GDSII", walkChipLayout, false, " GDS "},
     Walker{"Unity data", walkUnityData, true, " UNITY3D "},
     Walker{"Told length", walkToldLength, true,

@@ -2,6 +2,7 @@
 // Sources: DICOM PS3.5 and PS3.10; ASPRS LAS 1.4; MIL-STD-2500C (NITF); ITU-T X.690 (DER).
 #include <algorithm>
 
+#include "formats/Inflate.h"
 #include "formats/Walkers.h"
 
 namespace vantor {
@@ -9,6 +10,7 @@ namespace vantor {
 namespace {
 
 constexpr std::uint32_t kUndefined = 0xFFFFFFFF;
+constexpr std::uint32_t kPicture = 0x7FE00010;
 
 // Data elements in either way of writing them. Those of undefined length are entered; what they hold looks
 // alike.
@@ -18,8 +20,11 @@ class DicomWalk {
     Extent walk();
 
   private:
-    enum class Step { Good, End, Cut, Broken };
+    enum class Step { Good, End, Packed, Cut, Broken };
     Step element();
+    Extent behindPacked();
+    // Whether `tag` may follow the picture; only looked at where nothing else tells an element from noise.
+    static bool mayFollowPicture(std::uint32_t tag);
     // Length and head of the element at m_at; a length of its own kind says "until a delimiter".
     std::optional<std::pair<std::uint32_t, std::uint64_t>> lengthHere();
 
@@ -28,6 +33,7 @@ class DicomWalk {
     Endian m_endian = Endian::Little;
     bool m_explicit = true;
     bool m_inMeta = true;
+    bool m_packed = false;
     std::uint32_t m_depth = 0;
     std::uint32_t m_last = 0;  // tag before, outside sequences
     Facts m_facts;
@@ -58,12 +64,21 @@ std::optional<std::pair<std::uint32_t, std::uint64_t>> DicomWalk::lengthHere() {
                  : std::nullopt;
 }
 
+// Signatures, padding, and what makers put into the odd groups behind that of the picture.
+bool DicomWalk::mayFollowPicture(std::uint32_t tag) {
+    constexpr std::uint32_t kSignatures = 0xFFFAFFFA, kPadding = 0xFFFCFFFC, kLastGroup = 0x8000;
+    const auto group = tag >> 16;
+    return tag == kSignatures || tag == kPadding || (group % 2 != 0 && group < kLastGroup);
+}
+
 DicomWalk::Step DicomWalk::element() {
     constexpr std::uint32_t kItem = 0xFFFEE000, kItemEnd = 0xFFFEE00D, kSequenceEnd = 0xFFFEE0DD;
-    constexpr std::uint32_t kRows = 0x00280010, kColumns = 0x00280011;
+    constexpr std::uint32_t kTransferSyntax = 0x00020010, kRows = 0x00280010, kColumns = 0x00280011;
     if (m_inMeta && m_view.number(m_at, 2, Endian::Little) != 2U) {
         // Behind the group that describes the file its own way of writing begins.
         m_inMeta = false;
+        if (m_packed)
+            return Step::Packed;
         m_explicit = isPair(m_view, m_at + 4);
         m_endian = m_view.u8(m_at) == 0 ? Endian::Big : Endian::Little;
     }
@@ -74,12 +89,16 @@ DicomWalk::Step DicomWalk::element() {
     const bool delimiter = tag == kItem || tag == kItemEnd || tag == kSequenceEnd;
     if (m_depth == 0 && (delimiter || tag <= m_last))
         return Step::End;
+    if (m_depth == 0 && !m_explicit && m_last >= kPicture && !mayFollowPicture(tag))
+        return Step::End;
     if (!delimiter && m_explicit && !isPair(m_view, m_at + 4))
         return m_depth == 0 ? Step::End : Step::Broken;
     const auto length = lengthHere();
     if (!length)
         return Step::Cut;
     const auto [bytes, head] = *length;
+    if (tag == kTransferSyntax)
+        m_packed = m_view.matches(m_at + head, "1.2.840.10008.1.2.1.99");
     if (tag == kRows)
         m_facts.height = m_view.le16(m_at + head).value_or(0);
     if (tag == kColumns)
@@ -94,6 +113,17 @@ DicomWalk::Step DicomWalk::element() {
     return m_at > m_view.size() ? Step::Cut : Step::Good;
 }
 
+// The elements as one deflate stream, filled up to an even length.
+Extent DicomWalk::behindPacked() {
+    const auto stream = inflate(m_view, m_at, kAnyOutput);
+    if (stream.outcome == InflateOutcome::Cut)
+        return cutOffAt(m_view, m_view.size(), m_facts);
+    if (stream.outcome != InflateOutcome::Done)
+        return damagedAt(m_view, stream.end, m_facts);
+    const bool odd = (stream.end - m_at) % 2 != 0 && m_view.u8(stream.end) == 0;
+    return completeAt(m_view, stream.end + (odd ? 1 : 0), m_facts);
+}
+
 Extent DicomWalk::walk() {
     constexpr std::uint32_t kMostElements = 1 << 22, kDeepest = 1 << 16;
     if (!m_view.matches(128, std::string_view("DICM\2\0", 6)))
@@ -101,6 +131,8 @@ Extent DicomWalk::walk() {
     Step step = Step::Good;
     for (std::uint32_t elements = 0; step == Step::Good && elements < kMostElements; ++elements)
         step = m_depth > kDeepest ? Step::Broken : element();
+    if (step == Step::Packed)
+        return behindPacked();
     if (step == Step::Cut || (step == Step::End && (m_depth != 0 || m_inMeta)))
         return cutOffAt(m_view, m_view.size(), m_facts);
     if (step != Step::End)

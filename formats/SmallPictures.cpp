@@ -87,6 +87,9 @@ Extent walkPcx(ByteView& view) {
         }
         return inexact(completeAt(view, at, facts));  // grey, or its palette is lost
     }
+    // One writer adds a palette, though a black one, to pictures in planes as well.
+    if (bits == 8 && view.matches(at, std::string_view("\x0C\0\0\0\0\0\0\0", 8)))
+        return completeAt(view, at + kPalette, facts);
     return completeAt(view, at, facts);
 }
 

@@ -38,6 +38,7 @@ enum Tag : std::uint16_t {
     kXrAlphaBytes = 0xBCC3,
 };
 
+constexpr std::uint64_t kRepeated = 4;
 constexpr std::uint16_t kPanasonicMagic = 0x55;
 constexpr std::size_t kMostDirectories = 512;
 constexpr std::uint64_t kMostPieces = 1 << 21;  // strips and tiles of one directory
@@ -74,6 +75,7 @@ class TiffWalk {
     void pieces(const Pieces& pieces, const Found& found);
     void sizes(const Found& found);
     void reach(std::uint64_t end);
+    bool repeatsItsLastBytes();
 
     ByteView& m_view;
     const TiffHeader m_header;
@@ -264,6 +266,16 @@ void TiffWalk::directory(std::uint64_t at) {
         enqueue(*next);
 }
 
+// Files laid out for reading over a network say so behind the header, and then write the last four bytes of
+// each piece of the picture twice.
+bool TiffWalk::repeatsItsLastBytes() {
+    constexpr std::string_view kLayout = "GDAL_STRUCTURAL_METADATA_SIZE=";
+    if (!m_view.matches(8, kLayout) && !m_view.matches(16, kLayout))
+        return false;
+    const auto last = m_view.be32(m_end - kRepeated), again = m_view.be32(m_end);
+    return last && last == again;
+}
+
 Extent TiffWalk::walk() {
     enqueue(m_header.firstDirectory);
     for (std::size_t i = 0; i < m_known; ++i)
@@ -278,6 +290,8 @@ Extent TiffWalk::walk() {
         if (padding != 0 && m_view.number(m_end, static_cast<std::size_t>(padding), Endian::Big) == 0U)
             m_end += padding;
     }
+    if (repeatsItsLastBytes())
+        m_end += kRepeated;
     return inexact(completeAt(m_view, m_end, m_facts));
 }
 

@@ -1,4 +1,5 @@
 // Archives of member after member: ar and cpio. Sources: ar(5), cpio(5).
+#include <algorithm>
 
 #include "formats/Walkers.h"
 
@@ -40,6 +41,18 @@ const CpioFields* cpioFieldsAt(ByteView& view, std::uint64_t at) {
     return view.matches(at, "070707") ? &kOldCpio : nullptr;
 }
 
+// Behind the zeros that fill the block in which `at` lies; `at` when others stand there.
+std::uint64_t behindPadding(ByteView& view, std::uint64_t at) {
+    constexpr std::uint64_t kBlock = 512;
+    const auto rest = static_cast<std::size_t>((kBlock - at % kBlock) % kBlock);
+    const auto bytes = view.window(at, rest);
+    if (bytes.size() < rest)
+        return at;
+    const bool blank = std::all_of(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(rest),
+                                   [](std::uint8_t byte) { return byte == 0; });
+    return blank ? at + rest : at;
+}
+
 }  // namespace
 
 // Nothing marks the end: it is where no further member begins.
@@ -60,7 +73,7 @@ Extent walkAr(ByteView& view) {
     return damagedAt(view, at);
 }
 
-// Ends with a member of a given name; writers may fill the last block with zeros, which say nothing.
+// Ends with a member of a given name; writers may fill the last block with zeros.
 Extent walkCpio(ByteView& view) {
     constexpr std::uint64_t kLongestName = 4096;
     std::uint64_t at = 0;
@@ -85,7 +98,7 @@ Extent walkCpio(ByteView& view) {
         if (at > view.size())
             return cutOffAt(view, view.size());
         if (last)
-            return inexact(completeAt(view, at));
+            return inexact(completeAt(view, behindPadding(view, at)));
     }
     return damagedAt(view, at);
 }

@@ -145,6 +145,7 @@ Extent walkLotus(ByteView& view);        // WK1 to 123
 Extent walkFont(ByteView& view);         // TTF, OTF, TTC
 Extent walkPackedType1(ByteView& view);  // PFB
 Extent walkBlend(ByteView& view);
+Extent walkDrawing(ByteView& view);     // DWG from R13 on
 Extent walkChipLayout(ByteView& view);  // GDS
 Extent walkDicom(ByteView& view);
 Extent walkLaserScan(ByteView& view);  // LAS

@@ -22,11 +22,13 @@ class XmlWalk {
     Step tag();
     Step skipTo(std::string_view mark);
     Step doctype();
+    Extent behindRoot();
     bool follows(std::string_view text) { return m_view.matches(m_in.at(), text); }
 
     TextReader m_in;
     ByteView& m_view;
     std::uint64_t m_depth = 0;
+    bool m_packet = false;  // one of metadata, whose last line is still to come
 };
 
 XmlWalk::Step XmlWalk::skipTo(std::string_view mark) {
@@ -103,7 +105,32 @@ XmlWalk::Step XmlWalk::tag() {
     return m_depth == 0 ? Step::Root : Step::Next;
 }
 
+// Ends behind the comments and instructions that follow the root element, as the last line of a metadata
+// packet does; not behind those with which another file begins.
+Extent XmlWalk::behindRoot() {
+    constexpr std::uint64_t kMostBlanks = 8192;  // writers leave room for growth
+    for (;;) {
+        const auto end = m_in.at();
+        const auto whole = [&] { return completeAt(m_view, behindLineEnd(m_view, end)); };
+        while (m_in.at() - end < kMostBlanks && isTextSpace(m_view.u8(m_in.at()).value_or(0)))
+            m_in.skip(1);
+        const bool instruction = follows("<?") && !follows("<?xml");
+        if (isSectorStart(m_in.at()) || (!instruction && !follows("<!--"))) {
+            const bool ended = m_in.at() + 1 >= m_view.size();
+            return m_packet && ended ? cutOffAt(m_view, m_view.size()) : whole();
+        }
+        m_packet = m_packet && !follows("<?xpacket end");
+        m_in.skip(2);
+        const Step step = skipTo(instruction ? "?>" : "-->");
+        if (step == Step::Cut)
+            return cutOffAt(m_view, m_view.size());
+        if (step != Step::Next)
+            return whole();
+    }
+}
+
 Extent XmlWalk::walk() {
+    m_packet = follows("<?xpacket begin");
     for (;;) {
         const auto at = m_in.at();
         const int byte = m_in.next();
@@ -117,7 +144,7 @@ Extent XmlWalk::walk() {
             case Step::Next:
                 break;
             case Step::Root:
-                return completeAt(m_view, behindLineEnd(m_view, m_in.at()));
+                return behindRoot();
             case Step::Cut:
                 return cutOffAt(m_view, m_in.at());
             case Step::Broken:

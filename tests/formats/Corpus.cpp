@@ -2,6 +2,7 @@
 #include "Corpus.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
@@ -18,6 +19,14 @@ std::filesystem::path corpusFolder() {
     return std::filesystem::exists(folder / "MANIFEST.tsv") ? folder : std::filesystem::path();
 }
 
+std::string typeByName(const std::filesystem::path& file) {
+    std::string type = file.extension().string();
+    type.erase(0, 1);
+    std::transform(type.begin(), type.end(), type.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+    return type;
+}
+
 std::vector<CorpusFile> corpusFiles(const std::filesystem::path& folder) {
     std::vector<CorpusFile> files;
     std::ifstream manifest(folder / "MANIFEST.tsv");
@@ -30,13 +39,13 @@ std::vector<CorpusFile> corpusFiles(const std::filesystem::path& folder) {
         std::getline(columns, format, '\t');
         if (format == "disk image")
             continue;
-        std::string extension = std::filesystem::path(path).extension().string();
-        extension.erase(0, 1);
-        std::transform(extension.begin(), extension.end(), extension.begin(),
-                       [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-        files.push_back({path, extension, format == "hostile", format});
+        files.push_back({path, typeByName(path), format == "hostile", format});
     }
     return files;
+}
+
+std::filesystem::path foreignFolder() {
+    return std::filesystem::path(VANTOR_SOURCE_DIR) / "tests/data/foreign";
 }
 
 Bytes readFile(const std::filesystem::path& path) {

@@ -24,6 +24,10 @@ struct CorpusFile {
 std::filesystem::path corpusFolder();
 // The single files the manifest lists (no media images).
 std::vector<CorpusFile> corpusFiles(const std::filesystem::path& folder);
+// Small files by other programs, listed in the folder's README.
+std::filesystem::path foreignFolder();
+// The type of a file by its name, upper case.
+std::string typeByName(const std::filesystem::path& file);
 Bytes readFile(const std::filesystem::path& path);
 
 // `count` bytes of seeded noise, the same on every machine.

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <filesystem>
 #include <random>
 
 #include "Corpus.h"
@@ -147,6 +148,21 @@ TEST(Hostile, MutatedCorpus_StaysBounded) {
     }
     EXPECT_GT(effort.walks, 4'000U);
     print("mutated corpus", effort);
+}
+
+TEST(Hostile, MutatedForeignFiles_StayBounded) {
+    constexpr int kPerFile = 100;
+    Effort effort;
+    Mutator mutator(1642);
+    for (const auto& entry : std::filesystem::directory_iterator(foreignFolder())) {
+        SCOPED_TRACE(entry.path().filename());
+        const std::string type = typeByName(entry.path());
+        const Bytes bytes = readFile(entry.path());
+        for (int i = 0; i < kPerFile; ++i)
+            walkOne(mutator.mutate(bytes), type, effort);
+    }
+    EXPECT_GT(effort.walks, 15'000U);
+    print("mutated foreign files", effort);
 }
 
 TEST(Hostile, DeliberatelyMalformedFiles_StayBoundedInEveryWalker) {

@@ -30,6 +30,7 @@ std::vector<Sample> documentSamples();
 std::vector<Sample> rasterSamples();
 std::vector<Sample> recordSamples();
 std::vector<Sample> toldLengthSamples();
+std::vector<Sample> drawingSamples();
 std::vector<Sample> allSamples();
 
 // Building blocks that single tests use as well.
@@ -39,6 +40,10 @@ Bytes riffChunk(std::string_view name, const Bytes& body);
 Bytes jpeg(const Bytes& segments = {}, const Bytes& entropy = {0x12, 0x34, 0xFF, 0x00, 0x56});
 // A TIFF of 4 x 4 grey pixels with a date.
 Bytes tiff(bool little = true);
+// Drawings of R2000, R2013 and R2007.
+Bytes placedDrawing();
+Bytes maskedDrawing();
+Bytes packedDrawing();
 // A header of FITS, padded to its block.
 Bytes fitsCards(std::initializer_list<std::string_view> cards);
 Bytes exrAttribute(std::string_view name, std::string_view type, const Bytes& value);

@@ -305,14 +305,14 @@ Bytes cpio() {
                std::string(name) + std::string(8, '0');
     };
     return Build()
-        .text(head("00000005", "00000002"))
+        .text(head("00000114", "00000002"))
         .text("a")
         .to(112)
         .text("hello")
-        .to(120)
+        .to(388)
         .text(head("00000000", "0000000B"))
         .text("TRAILER!!!")
-        .to(244);
+        .to(512);
 }
 
 }  // namespace
@@ -363,8 +363,9 @@ std::vector<Sample> documentSamples() {
 
 std::vector<Sample> allSamples() {
     std::vector<Sample> all;
-    for (const auto& part : {pictureSamples(), movieSamples(), soundSamples(), archiveSamples(),
-                             documentSamples(), rasterSamples(), recordSamples(), toldLengthSamples()})
+    for (const auto& part :
+         {pictureSamples(), movieSamples(), soundSamples(), archiveSamples(), documentSamples(),
+          rasterSamples(), recordSamples(), toldLengthSamples(), drawingSamples()})
         all.insert(all.end(), part.begin(), part.end());
     return all;
 }

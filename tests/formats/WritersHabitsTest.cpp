@@ -1,0 +1,197 @@
+// What writers do that no description of their format says, and what must not be taken for it.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "Corpus.h"
+#include "Samples.h"
+#include "WalkBytes.h"
+
+namespace vantor::test {
+namespace {
+
+void expectEnd(std::string_view extension, const Bytes& whole, std::size_t end) {
+    const Extent extent = walkBytes(extension, whole);
+    EXPECT_EQ(extent.verdict, Verdict::Complete);
+    EXPECT_EQ(extent.end, end);
+}
+
+TEST(PostScriptHabits, EndNamedInsideALine_IsNoEnd) {
+    const Bytes file = Build().text(
+        "%!PS-Adobe-3.0\n%%BeginProlog\ncurrentfile 1(%%EOF)/SubFileDecode filter\n"
+        "%%EndProlog\nshowpage\n%%EOF\n");
+    expectEnd("PS", Build().add(file).add(noise(3000, 31)), file.size());
+}
+
+TEST(PostScriptHabits, LinesEndedByReturns_AreLines) {
+    const Bytes file = Build().text("%!PS-Adobe-3.0\rshowpage\r%%EOF\r");
+    expectEnd("PS", Build().add(file).fill(3000), file.size());
+}
+
+TEST(PostScriptHabits, TrailerWithoutEnd_EndsBehindItsLines) {
+    const Bytes file = Build().text("%!PS-Adobe-3.0\nshowpage\n%%Trailer\n%%Pages: 1\n");
+    for (const Bytes& tail : {Bytes(), Bytes(3000, 0), Build().text("ab").fill(3000, 1).bytes()}) {
+        expectEnd("PS", Build().add(file).add(tail), file.size());
+        EXPECT_FALSE(walkBytes("PS", Build().add(file).add(tail)).exactEnd);
+    }
+    // The trailer of a document inside is not the whole's.
+    const Bytes outer = Build().text(
+        "%!PS-Adobe-3.0\n%%BeginDocument: a\n%%Trailer\n%%EndDocument\n\1binary\nshowpage\n%%EOF\n");
+    expectEnd("PS", Build().add(outer).add(noise(3000, 5)), outer.size());
+}
+
+TEST(XmlHabits, InstructionBehindTheRoot_BelongsToTheFile) {
+    const std::string packet = "<?xpacket begin=''?>\n<x:xmpmeta>\n</x:xmpmeta>\n";
+    const Bytes file = Build().text(packet + std::string(300, ' ') + "<?xpacket end='w'?>");
+    const Bytes plain = Build().text(packet);
+    const Bytes commented = Build().text(packet + "<!-- done -->\n");
+    for (const Bytes& whole : {file, plain, commented}) {
+        for (const Bytes& tail : {Bytes(3000, 0), Build().text("\1<?more?>").bytes()})
+            expectEnd("XMP", Build().add(whole).add(tail), whole.size());
+    }
+    expectEnd("XMP", file, file.size());
+    // Without its last line the packet is cut, unless others' bytes show that it never had one.
+    for (const std::size_t cut : {plain.size(), file.size() - 19, file.size() - 18, file.size() - 1}) {
+        const Bytes part(file.begin(), file.begin() + static_cast<std::ptrdiff_t>(cut));
+        EXPECT_EQ(walkBytes("XMP", part).verdict, Verdict::CutOff) << cut;
+    }
+    // What another file begins with does not.
+    expectEnd("XMP", Build().add(plain).text("<?xml version='1.0'?><a/>"), plain.size());
+    const Bytes filled = Build().text("<a>").fill(505, 'x').text("</a>");
+    ASSERT_EQ(filled.size(), 512U);
+    expectEnd("XML", Build().add(filled).text("<!-- next --><b/>"), filled.size());
+}
+
+TEST(PdfHabits, UpdateNamedInAComment_BelongsToTheFile) {
+    const std::string first = "%PDF-1.4\n1 0 obj\nendobj\nxref\n0 1\nstartxref\n24\n%%EOF\n";
+    ASSERT_EQ(first.find("xref"), 24U);
+    const std::string update = "%BeginUpdate\n1 0 obj\nendobj\n";
+    const std::string section = "xref\n0 1\n%EndUpdate\nstartxref\n";
+    const auto at = std::to_string(first.size() + update.size());
+    const Bytes file = Build().text(first + update + section + at + "\n%%EOF\n");
+    for (const Bytes& tail : {Bytes(), Bytes(3000, 0), noise(3000, 9)})
+        expectEnd("PDF", Build().add(file).add(tail), file.size());
+    const Bytes alone = Build().text(first);
+    expectEnd("PDF", Build().add(alone).text("%PDF-1.4\n1 0 obj\n"), alone.size());
+    expectEnd("PDF", Build().add(alone).text("% a comment and no more\n"), alone.size());
+}
+
+// Video without an end code, as many slices as a short film has.
+Bytes openVideo() {
+    Build out;
+    out.be32(0x000001B3).be32(0x14000F13).fill(8, 5);
+    for (std::uint64_t slice = 1; slice < 12; ++slice)
+        out.be32(0x00000100 | slice).fill(200, 6);
+    return out.be32(0x00000101).fill(90, 6);
+}
+
+TEST(MpegVideoHabits, NoEndCode_EndsBeforeZeros) {
+    const Bytes file = openVideo();
+    expectEnd("M2V", Build().add(file).fill(5000), file.size());
+    expectEnd("M2V", Build().add(file).fill(700).add(noise(5000, 4)), file.size());
+}
+
+TEST(MpegVideoHabits, SequenceBehindAFilledSector_IsTheNextFile) {
+    const Bytes file = openVideo();
+    ASSERT_NE(file.size() % 512, 0U);
+    const std::size_t sector = (file.size() + 511) / 512 * 512;
+    expectEnd("M2V", Build().add(file).to(sector).add(file), file.size());
+    // Elsewhere zeros may stand between sequences of one file.
+    const Extent joined = walkBytes("M2V", Build().add(file).to(sector - 7).add(file));
+    EXPECT_EQ(joined.end, sector - 7 + file.size());
+}
+
+Bytes dicomMeta(std::string_view syntax) {
+    Build out;
+    out.to(128).text("DICM").le16(2).le16(0x10).text("UI").le16(syntax.size()).text(syntax);
+    return out;
+}
+
+TEST(DicomHabits, ElementsWithoutTheirKind_EndBehindThePicture) {
+    Build file;
+    file.add(dicomMeta("1.2.840.10008.1.2.")).le16(8).le16(0x60).le32(2).text("OT");
+    file.le16(0x7FE0).le16(0x10).le32(20).fill(20, 8);
+    for (std::uint32_t seed = 0; seed < 40; ++seed)
+        expectEnd("DCM", Build().add(file).add(noise(4000, seed)), file.size());
+    // A maker's own group, then what fills the file up.
+    file.le16(0x7FE1).le16(0x10).le32(4).text("MINE").le16(0xFFFC).le16(0xFFFC).le32(6).fill(6);
+    expectEnd("DCM", Build().add(file).fill(4000), file.size());
+}
+
+TEST(DicomHabits, PackedElements_EndWithTheirStream) {
+    const Bytes meta = dicomMeta("1.2.840.10008.1.2.1.99");
+    const Build stream = Build().u8(1).le16(4).le16(0xFFFB).text("data");
+    const Bytes file = Build().add(meta).add(stream).u8(0);
+    ASSERT_EQ(file.size() % 2, 0U);
+    expectEnd("DCM", Build().add(file).add(noise(3000, 8)), file.size());
+    const Bytes cut(file.begin(), file.end() - 4);
+    EXPECT_EQ(walkBytes("DCM", cut).verdict, Verdict::CutOff);
+    const Bytes broken = Build().add(meta).fill(100, 0xFF);
+    EXPECT_EQ(walkBytes("DCM", broken).verdict, Verdict::Damaged);
+}
+
+Bytes realMedia(std::uint64_t told) {
+    Build out;
+    out.text(".RMF").be32(18).fill(10).text("DATA").be32(told).be16(0).be32(2).be32(0);
+    for (int i = 0; i < 2; ++i)
+        out.be16(0).be16(40).fill(36, 7);
+    return out;
+}
+
+TEST(RealMediaHabits, HeadOfTheDataCountedTwice_IsSeenThrough) {
+    constexpr std::uint64_t kData = 18 + 2 * 40;
+    const Bytes counted = Build().add(realMedia(kData + 18)).fill(8);
+    for (const Bytes& tail : {Bytes(), Bytes(3000, 0), noise(3000, 2)})
+        expectEnd("RM", Build().add(counted).add(tail), counted.size());
+    const Bytes right = realMedia(kData);
+    expectEnd("RM", Build().add(right).fill(3000), right.size());
+    // Packets that are not what the head counts prove nothing.
+    Bytes other = Build().add(realMedia(kData + 18)).fill(18);
+    other[18 + 13] = 1;
+    expectEnd("RM", Build().add(other).fill(3000), other.size());
+}
+
+// A text of 4100 bytes in two pieces, the second of 4.
+Bytes palmText(std::uint64_t packing, const Bytes& second, std::uint64_t bookmarks = 0) {
+    const std::size_t head = 78 + 8 * (3 + bookmarks) + 2;
+    Build out;
+    out.text("T").to(60).text("TEXtREAd").fill(8).be16(3 + bookmarks);
+    out.be32(head).be32(0).be32(head + 16).be32(0).be32(head + 116).be32(0);
+    for (std::uint64_t i = 0; i < bookmarks; ++i)
+        out.be32(head + 116 + second.size() + 20 * i).be32(0);
+    out.fill(2).be16(packing).be16(0).be32(4100).be16(2).be16(4096).be32(0).fill(100, 'x').add(second);
+    return out.fill(20 * bookmarks, 'm');
+}
+
+TEST(PalmText, LastPiece_IsMeasured) {
+    const Bytes plain = palmText(1, Build().text("abcd"));
+    const Bytes packed = palmText(2, Build().u8(0xE5).u8(1).u8(0xFF).text("d"));  // blank and e, a byte, d
+    const Bytes earlier = palmText(2, Build().text("a").u8(0x80).u8(0x08));       // a, three of before
+    const Bytes marked = palmText(2, Build().text("abcd"), 2);
+    for (const Bytes& file : {plain, packed, earlier, marked}) {
+        for (const Bytes& tail : {Bytes(), Bytes(3000, 0), noise(3000, 3)})
+            expectEnd("PDB", Build().add(file).add(tail), file.size());
+        const Bytes cut(file.begin(), file.end() - 1);
+        EXPECT_EQ(walkBytes("PDB", cut).verdict, Verdict::CutOff);
+    }
+}
+
+TEST(CpioHabits, OnlyZerosFillTheLastBlock) {
+    Build file;
+    const auto head = [](std::string_view name) {
+        return "070701" + std::string(88, '0') + std::string(name) + "00000000";
+    };
+    file.text(head("0000000B")).text("TRAILER!!!").fill(4);
+    expectEnd("CPIO", Build().add(file).fill(3000), 512);
+    expectEnd("CPIO", Build().add(file).add(noise(3000, 6)), file.size());
+    expectEnd("CPIO", file, file.size());
+}
+
+TEST(TiffHabits, LastBytesWrittenTwice_AreKeptWhereTheFileSaysSo) {
+    Bytes plain = tiff();
+    const Bytes last(plain.end() - 4, plain.end());
+    expectEnd("TIF", Build().add(plain).add(last).add(noise(3000, 6)), plain.size());
+}
+
+}  // namespace
+}  // namespace vantor::test
