@@ -15,6 +15,7 @@
 #include <utility>
 
 #include "catalogue/CatalogueFile.h"
+#include "catalogue/TextHelpers.h"
 #include "cli/CliMedium.h"
 #include "cli/CliSession.h"
 #include "cli/ListMedia.h"
@@ -22,7 +23,6 @@
 #include "media/PlatformMedia.h"
 #include "media/SizeText.h"
 #include "results/DestinationCheck.h"
-#include "wizard/TextHelpers.h"
 
 namespace vantor {
 
