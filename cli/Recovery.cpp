@@ -189,8 +189,7 @@ void tellSaving(const CliSession& session, const CliOptions& options) {
 
 // False after saying why the report could not be written.
 bool writeReport(const CliSession& session, const CliOptions& options, ReportHead head) {
-    static const char* const kModes[] = {"photos", "videos", "files"};
-    head.mode = QLatin1String(kModes[options.mode]);
+    head.mode = wordsForMode(options.mode);
     head.ended = QDateTime::currentDateTime();
     head.searchEnded = session.lastOutcome() == PassOutcome::Completed;
     const WrittenReport written =

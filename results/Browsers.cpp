@@ -2,6 +2,7 @@
 #include <QLocale>
 
 #include "app/MyTableController.h"
+#include "results/SaveSummary.h"
 
 namespace vantor {
 
@@ -106,7 +107,7 @@ void MyTableController::showItemCounts() {
     const qsizetype found = static_cast<qsizetype>(itemCount());
     const auto words = [&](const ImageBrowserView* browser) {
         const qsizetype selected = browser->selectedCount();
-        const QString count = found == 1 ? tr("1 item") : tr("%1 items").arg(QLocale().toString(found));
+        const QString count = countOfItems(static_cast<std::uint64_t>(found));
         const int shown = browser->shownCount();
         const QString inView =
             m_looks->isPlain() ? count : tr("%1 of %2").arg(QLocale().toString(shown), count);

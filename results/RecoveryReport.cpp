@@ -5,6 +5,7 @@
 #include <QMap>
 #include <QUrl>
 
+#include "results/RecoveryMode.h"
 #include "results/SaveTally.h"
 #include "results/SizeForPeople.h"
 #include "results/WholeFile.h"
@@ -225,6 +226,17 @@ void csvTo(const Pieces& add, const ReportHead& head, const std::vector<Reported
 }
 
 }  // namespace
+
+QString wordsForMode(int mode) {
+    switch (mode) {
+        case kVideoMode:
+            return QStringLiteral("videos");
+        case kRawFileMode:
+            return QStringLiteral("files");
+        default:
+            return QStringLiteral("photos");
+    }
+}
 
 QByteArray reportHtml(const ReportHead& head, const std::vector<ReportedItem>& items, const QString& folder,
                       const ReportThumbnail& thumbnail) {

@@ -29,6 +29,9 @@ struct ReportHead {
     bool searchEnded = true;  // false: stopped, or the medium could not be read to its end
 };
 
+// What a mode searches for: "photos", "videos" or "files".
+QString wordsForMode(int mode);
+
 // An encoded picture (JPEG or PNG) of a saved item, or nothing. Called for each item that was saved.
 using ReportThumbnail = std::function<QByteArray(const ReportedItem&)>;
 
