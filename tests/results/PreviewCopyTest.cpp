@@ -58,18 +58,15 @@ TEST(PreviewCopy, StopsOnRequestAndOnAWriteError) {
     ScriptedReader reader(medium);
     std::atomic<int> stop{0};
     int written = 0;
-    const PreviewCopyResult stopped = copyPreviewSectors(reader, 0, 10, stop, [&](const std::uint8_t*) {
+    copyPreviewSectors(reader, 0, 10, stop, [&](const std::uint8_t*) {
         stop = ++written == 4 ? 1 : 0;
         return true;
     });
-    EXPECT_EQ(stopped.end, PreviewCopyEnd::Stopped);
-    EXPECT_EQ(stopped.sectorsWritten, 4U);
+    EXPECT_EQ(written, 4);
     stop = 0;
     ScriptedReader again(medium);
-    const PreviewCopyResult failed =
-        copyPreviewSectors(again, 0, 10, stop, [&](const std::uint8_t*) { return ++written < 7; });
-    EXPECT_EQ(failed.end, PreviewCopyEnd::WriteFailed);
-    EXPECT_EQ(failed.sectorsWritten, 2U);
+    copyPreviewSectors(again, 0, 10, stop, [&](const std::uint8_t*) { return ++written < 7; });
+    EXPECT_EQ(written, 7) << "the write that failed was the last";
 }
 
 }  // namespace vantor
