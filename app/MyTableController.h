@@ -41,6 +41,7 @@
 #include "media/MediaList.h"
 #include "media/RangePanel.h"
 #include "results/BrowserLooks.h"
+#include "results/FileTypeIcons.h"
 #include "results/FileManager.h"
 #include "results/ImageBrowserModel.h"
 #include "results/PendingView.h"

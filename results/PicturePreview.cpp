@@ -1,146 +1,15 @@
-// Reading, framing and icons; kinds come from the shared MIME database.
+// Reading by content, turned upright and scaled while it is read.
 #include "results/PicturePreview.h"
 
 #include <QImageReader>
-#include <QMimeDatabase>
-#include <QPainter>
-#include <QRegularExpression>
-
-#include "wizard/Theme.h"
 
 namespace vantor {
 
 namespace {
 
 constexpr int kMostPictureMegabytes = 512;
-constexpr int kPaperMargin = 6;
-constexpr int kShadow = 2;
-
-QString ownIconName(FileKind kind) {
-    switch (kind) {
-        case FileKind::Document:
-            return QStringLiteral("type-document");
-        case FileKind::Archive:
-            return QStringLiteral("type-archive");
-        case FileKind::Sound:
-            return QStringLiteral("type-sound");
-        case FileKind::Picture:
-            return QStringLiteral("type-picture");
-        case FileKind::Video:
-            return QStringLiteral("type-video");
-        case FileKind::Other:
-            break;
-    }
-    return QStringLiteral("type-other");
-}
-
-QMimeType mimeOf(const QString& extension) {
-    static const QMimeDatabase database;
-    return database.mimeTypeForFile(QStringLiteral("x.") + extension.toLower(),
-                                    QMimeDatabase::MatchExtension);
-}
-
-// Types whose names the MIME database does not know or files under something else.
-FileKind kindByName(const QString& extension) {
-    static const QHash<QString, FileKind> kinds = {
-        {QStringLiteral("mts"), FileKind::Video},     {QStringLiteral("m2ts"), FileKind::Video},
-        {QStringLiteral("ts"), FileKind::Video},      {QStringLiteral("3gp"), FileKind::Video},
-        {QStringLiteral("mod"), FileKind::Video},     {QStringLiteral("vob"), FileKind::Video},
-        {QStringLiteral("rm"), FileKind::Video},      {QStringLiteral("swf"), FileKind::Video},
-        {QStringLiteral("ps"), FileKind::Document},   {QStringLiteral("eps"), FileKind::Document},
-        {QStringLiteral("cr3"), FileKind::Picture},   {QStringLiteral("crw"), FileKind::Picture},
-        {QStringLiteral("raf"), FileKind::Picture},   {QStringLiteral("x3f"), FileKind::Picture},
-        {QStringLiteral("psd"), FileKind::Picture},   {QStringLiteral("heic"), FileKind::Picture},
-        {QStringLiteral("caf"), FileKind::Sound},     {QStringLiteral("ape"), FileKind::Sound},
-        {QStringLiteral("jar"), FileKind::Archive},   {QStringLiteral("cab"), FileKind::Archive},
-        {QStringLiteral("dmg"), FileKind::Archive},   {QStringLiteral("iso"), FileKind::Archive},
-        {QStringLiteral("pst"), FileKind::Document},  {QStringLiteral("chm"), FileKind::Document},
-        {QStringLiteral("djvu"), FileKind::Document}, {QStringLiteral("mobi"), FileKind::Document},
-    };
-    return kinds.value(extension.toLower(), FileKind::Other);
-}
-
-bool isArchive(const QMimeType& mime) {
-    static const QStringList archives = {QStringLiteral("application/zip"),
-                                         QStringLiteral("application/gzip"),
-                                         QStringLiteral("application/x-tar"),
-                                         QStringLiteral("application/x-7z-compressed"),
-                                         QStringLiteral("application/vnd.rar"),
-                                         QStringLiteral("application/x-rar"),
-                                         QStringLiteral("application/x-bzip"),
-                                         QStringLiteral("application/x-bzip2"),
-                                         QStringLiteral("application/x-xz"),
-                                         QStringLiteral("application/x-arj"),
-                                         QStringLiteral("application/x-lha"),
-                                         QStringLiteral("application/x-lzma"),
-                                         QStringLiteral("application/zstd"),
-                                         QStringLiteral("application/x-compress"),
-                                         QStringLiteral("application/x-stuffit"),
-                                         QStringLiteral("application/x-cpio"),
-                                         QStringLiteral("application/vnd.ms-cab-compressed"),
-                                         QStringLiteral("application/x-archive")};
-    return archives.contains(mime.name()) || mime.name().endsWith(QLatin1String("-compressed-tar"));
-}
-
-bool isDocument(const QMimeType& mime) {
-    const QString name = mime.name();
-    return name.startsWith(QLatin1String("text/")) || mime.inherits(QStringLiteral("text/plain")) ||
-           name.contains(QLatin1String("document")) || name.contains(QLatin1String("msword")) ||
-           name.contains(QLatin1String("ms-excel")) || name.contains(QLatin1String("ms-powerpoint")) ||
-           name.contains(QLatin1String("pdf")) || name.contains(QLatin1String("rtf")) ||
-           name.contains(QLatin1String("epub")) || name.contains(QLatin1String("postscript"));
-}
 
 }  // namespace
-
-bool isTextExtension(const QString& extension) {
-    return mimeOf(extension).inherits(QStringLiteral("text/plain"));
-}
-
-FileKind kindOfExtension(const QString& extension) {
-    const FileKind byName = kindByName(extension);
-    if (byName != FileKind::Other) {
-        return byName;
-    }
-    const QMimeType mime = mimeOf(extension);
-    const QString name = mime.name();
-    if (name.startsWith(QLatin1String("image/"))) {
-        return FileKind::Picture;
-    }
-    if (name.startsWith(QLatin1String("video/")) || name.endsWith(QLatin1String("matroska"))) {
-        return FileKind::Video;
-    }
-    if (name.startsWith(QLatin1String("audio/"))) {
-        return FileKind::Sound;
-    }
-    if (isArchive(mime)) {
-        return FileKind::Archive;
-    }
-    return isDocument(mime) ? FileKind::Document : FileKind::Other;
-}
-
-FileKind kindOfType(const QString& extension, const QString& description) {
-    const FileKind kind = kindOfExtension(extension);
-    if (kind != FileKind::Other) {
-        return kind;
-    }
-    static const std::pair<QRegularExpression, FileKind> words[] = {
-        {QRegularExpression(QStringLiteral("sound|audio|music|song|voice|midi|instrument|tracker")),
-         FileKind::Sound},
-        {QRegularExpression(QStringLiteral("movie|video|film|animation")), FileKind::Video},
-        {QRegularExpression(QStringLiteral("picture|image|photo|bitmap|icon|drawing")), FileKind::Picture},
-        {QRegularExpression(QStringLiteral("archive|compressed|package|backup")), FileKind::Archive},
-        {QRegularExpression(QStringLiteral("document|text|spreadsheet|presentation|book|mail|note|database")),
-         FileKind::Document},
-    };
-    const QString lower = description.toLower();
-    for (const auto& [pattern, byWords] : words) {
-        if (lower.contains(pattern)) {
-            return byWords;
-        }
-    }
-    return FileKind::Other;
-}
 
 QImage readPicture(const QString& file, QSize largest) {
     QImageReader reader(file);
@@ -154,48 +23,6 @@ QImage readPicture(const QString& file, QSize largest) {
     const QImage picture = reader.read();
     const bool tooLarge = picture.width() > largest.width() || picture.height() > largest.height();
     return tooLarge ? picture.scaled(largest, Qt::KeepAspectRatio, Qt::SmoothTransformation) : picture;
-}
-
-QImage framedAsDocument(const QImage& picture, QSize largest) {
-    const int border = kPaperMargin + kShadow;
-    const QSize room = largest - QSize(2 * border, 2 * border);
-    QSize inner = picture.size();
-    if (inner.width() > room.width() || inner.height() > room.height()) {
-        inner.scale(room, Qt::KeepAspectRatio);
-    }
-    inner = inner.expandedTo({1, 1});
-    QImage framed(inner + QSize(2 * border, 2 * border), QImage::Format_ARGB32_Premultiplied);
-    framed.fill(Qt::transparent);
-    QPainter painter(&framed);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    const QRect paper = framed.rect().adjusted(kShadow, kShadow, -kShadow, -kShadow);
-    painter.fillRect(paper.translated(kShadow, kShadow), QColor(0, 0, 0, 40));
-    painter.fillRect(paper, Qt::white);
-    painter.setPen(theme::kRule);
-    painter.drawRect(paper.adjusted(0, 0, -1, -1));
-    painter.drawImage(QRect(QPoint(border, border), inner), picture);
-    return framed;
-}
-
-FileTypeIcons::FileTypeIcons() : m_general(ownIcon(ownIconName(FileKind::Other))) {}
-
-void FileTypeIcons::prepare(const QString& extension, FileKind kind) {
-    if (m_byExtension.contains(extension)) {
-        return;
-    }
-    const QMimeType mime = mimeOf(extension);
-    QIcon icon;
-    if (!mime.isDefault()) {
-        icon = QIcon::fromTheme(mime.iconName());
-    }
-    if (icon.isNull() || icon.availableSizes().isEmpty()) {
-        icon = ownIcon(ownIconName(kind));
-    }
-    m_byExtension.insert(extension, icon);
-}
-
-QIcon FileTypeIcons::icon(const QString& extension) const {
-    return m_byExtension.value(extension, m_general);
 }
 
 }  // namespace vantor

@@ -3,7 +3,9 @@
 #include <QFileInfo>
 
 #include "app/MyTableController.h"
+#include "catalogue/FileKind.h"
 #include "catalogue/NumberText.h"
+#include "results/DocumentFrame.h"
 #include "results/MovieControls.h"
 #include "results/PreviewFile.h"
 #include "results/RecoveryMode.h"

@@ -2,6 +2,7 @@
 #include <QThread>
 
 #include "app/MyTableController.h"
+#include "catalogue/FileKind.h"
 #include "wizard/Alerts.h"
 #include "wizard/Theme.h"
 
