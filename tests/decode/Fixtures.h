@@ -19,6 +19,7 @@
 #include <thread>
 
 #include "decode/DecodePool.h"
+#include "tests/support/CorpusFolder.h"
 
 namespace vantor::test {
 
@@ -27,15 +28,6 @@ inline DecodePoolOptions poolOptions(int helpers = 2) {
     options.helper = QStringLiteral(VANTOR_DECODE_HELPER);
     options.helpers = helpers;
     return options;
-}
-
-// The folder of real files; empty when it is not here.
-inline QString corpusFolder() {
-    QString folder = qEnvironmentVariable("VANTOR_CORPUS");
-    if (folder.isEmpty()) {
-        folder = QStringLiteral(VANTOR_SOURCE_DIR "/../shared/corpus");
-    }
-    return QDir(folder).exists() ? QDir::cleanPath(folder) : QString();
 }
 
 inline QStringList filesBelow(const QString& folder) {

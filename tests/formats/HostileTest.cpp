@@ -131,7 +131,7 @@ TEST(Hostile, MutatedSamples_StayBoundedInEveryWalker) {
 }
 
 TEST(Hostile, MutatedCorpus_StaysBounded) {
-    const auto folder = corpusFolder();
+    const auto folder = corpusRoot();
     if (folder.empty())
         GTEST_SKIP() << "no corpus: set VANTOR_CORPUS";
     constexpr int kPerFile = 16;
@@ -150,7 +150,7 @@ TEST(Hostile, MutatedCorpus_StaysBounded) {
 }
 
 TEST(Hostile, DeliberatelyMalformedFiles_StayBoundedInEveryWalker) {
-    const auto folder = corpusFolder();
+    const auto folder = corpusRoot();
     if (folder.empty())
         GTEST_SKIP() << "no corpus: set VANTOR_CORPUS";
     Effort effort;

@@ -22,14 +22,6 @@ std::string copied(ScriptedMedium& medium, std::uint64_t start, std::uint64_t en
     return firsts;
 }
 
-ScriptedMedium letters(std::size_t sectors) {
-    ScriptedMedium medium(sectors);
-    for (std::size_t i = 0; i < sectors; ++i) {
-        medium.fill(i, static_cast<std::uint8_t>('a' + i));
-    }
-    return medium;
-}
-
 }  // namespace
 
 TEST(PreviewCopy, CopiesUpToTheEndSector) {
