@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "media/WindowedReader.h"
-#include "tests/media/ScriptedMedium.h"
+#include "tests/media/ScriptedDrive.h"
 #include "tests/support/TestSession.h"
 
 namespace vantor::test {
@@ -39,8 +39,8 @@ class LostMediumScan : public testing::Test {
         EXPECT_EQ(session.for_index, session.end_sector);
     }
 
-    ScriptedMedium medium;
-    vantor::ScriptedMedium unused{1};
+    ScriptedDrive medium;
+    ScriptedMedium unused{1};
     TestSession session{unused};
 };
 
