@@ -287,6 +287,7 @@ class MyTableController : public QObject,
     void showEntireDiskHelp();
     void showSectorRangeHelp();
     void showRangeHelp();
+    void showMediaHelp();
     void showFileTypeHelp();
     void nextFromMedia();
     void nextFromRange();

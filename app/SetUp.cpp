@@ -3,6 +3,7 @@
 #include <QLocale>
 
 #include "app/MyTableController.h"
+#include "app/ProgramTitle.h"
 #include "results/RecoveryMode.h"
 #include "wizard/AccessibleControls.h"
 #include "wizard/Theme.h"
@@ -192,7 +193,7 @@ void MyTableController::awakeFromNib() {
     setCommonBackground(window);
     window->installEventFilter(this);
     thoroughBox->installEventFilter(this);
-    window->setWindowTitle(QStringLiteral("Vantor - Memory Card Recovery"));
+    window->setWindowTitle(kProgramTitle);
     show_hide_2_screen(true);
     rangeScreen_Sig->hide();
     show_hide_3_screen_Photo(true);
@@ -210,9 +211,7 @@ void MyTableController::awakeFromNib() {
 
     _Thro_Mode_Chk->setChecked(true);
     setMode(kPhotoMode);
-    _help_info->setText(
-        QStringLiteral("\nSelect the storage media from List from which you want to recover Data. Press "
-                       "‘Next’ button to continue... "));
+    showMediaHelp();
     _sector_label->setText(QStringLiteral("Sectors 0 of 0"));
     for (const auto& range : m_range) {
         range->setCaptions();

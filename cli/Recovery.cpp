@@ -15,6 +15,7 @@
 #include <utility>
 
 #include "catalogue/CatalogueFile.h"
+#include "catalogue/FileTypeList.h"
 #include "catalogue/TextHelpers.h"
 #include "cli/CliMedium.h"
 #include "cli/CliSession.h"
@@ -140,7 +141,7 @@ bool typesRefused(CliSession& session, const CliOptions& options) {
         return true;
     }
     if (!session.Check_For_One_Extension_Selection()) {
-        complain(QStringLiteral("\nPlease select atleast one extension type."));
+        complain(kNoTypeChosen);
         return true;
     }
     return false;
