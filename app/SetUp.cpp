@@ -52,19 +52,13 @@ void MyTableController::loadInterface() {
     setEmptyStates();
     buildGroupBoxes();
 
-    m_browseInfo = std::make_unique<Browse_Info>(window);
-    m_saveFileInfo = std::make_unique<SaveFile_Info>(window);
-    m_saveFileInfoForRaw = std::make_unique<SaveFile_Info_For_RAW>(window);
-    m_clearPreview = std::make_unique<ClearPreview_Modeless>(window);
-    m_loadDrive = std::make_unique<LoadDrive_Modeless>(window);
-    m_help = std::make_unique<Help_Support>(window, m_parts.resourcesFolder, m_parts.openDocument);
-    m_savingOptions = std::make_unique<SavingOptions>(window);
-    BrowseInfo_Window = m_browseInfo->window;
-    SaveFile_Info_Window = m_saveFileInfo->window;
-    SaveFile_Info_For_RAW_Window = m_saveFileInfoForRaw->window;
-    ClearPreview_Window = m_clearPreview->window;
-    LoadDisk_Window = m_loadDrive->window;
-    HelpWindow = m_help->window;
+    m_panels = std::make_unique<WindowPanels>(window, m_parts.resourcesFolder, m_parts.openDocument);
+    BrowseInfo_Window = m_panels->browseInfo.window;
+    SaveFile_Info_Window = m_panels->saveFileInfo.window;
+    SaveFile_Info_For_RAW_Window = m_panels->saveFileInfoForRaw.window;
+    ClearPreview_Window = m_panels->clearPreview.window;
+    LoadDisk_Window = m_panels->loadDrive.window;
+    HelpWindow = m_panels->help.window;
 }
 
 void MyTableController::dressWindow() {

@@ -38,7 +38,7 @@ void MyTableController::saveAll() {
 }
 
 void MyTableController::askSavingOptions() {
-    if (m_savingOptions->ask(m_desk->choices())) {
+    if (m_panels->savingOptions.ask(m_desk->choices())) {
         showItemCounts();
     }
 }

@@ -199,9 +199,9 @@ void MyTableController::hideScanProgress() {
 
 void MyTableController::runEndPanel(ControlSet set) {
     if (set == ControlSet::Photo) {
-        m_saveFileInfo->runModalForWindow();
+        m_panels->saveFileInfo.runModalForWindow();
     } else {
-        m_saveFileInfoForRaw->runModalForWindow();
+        m_panels->saveFileInfoForRaw.runModalForWindow();
     }
 }
 

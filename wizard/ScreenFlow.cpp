@@ -37,7 +37,7 @@ ControlSet MyTableController::activeSet() const {
 }
 
 RangePanel& MyTableController::activeRange() {
-    return *m_range[static_cast<std::size_t>(activeSet())];
+    return rangeOf(activeSet());
 }
 
 void MyTableController::Photo_Mode_Radio(QObject*) {
