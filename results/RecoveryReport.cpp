@@ -238,19 +238,6 @@ QString wordsForMode(int mode) {
     }
 }
 
-QByteArray reportHtml(const ReportHead& head, const std::vector<ReportedItem>& items, const QString& folder,
-                      const ReportThumbnail& thumbnail) {
-    QByteArray html;
-    htmlTo([&html](const QByteArray& piece) { html += piece; }, head, items, folder, thumbnail);
-    return html;
-}
-
-QByteArray reportCsv(const ReportHead& head, const std::vector<ReportedItem>& items, const QString& folder) {
-    QByteArray csv;
-    csvTo([&csv](const QByteArray& piece) { csv += piece; }, head, items, folder);
-    return csv;
-}
-
 WrittenReport writeReport(const QString& folder, const ReportHead& head,
                           const std::vector<ReportedItem>& items, const ReportThumbnail& thumbnail) {
     WrittenReport written;
