@@ -10,6 +10,7 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QImage>
+#include <QList>
 #include <QPainter>
 #include <QString>
 #include <QStringList>
@@ -43,6 +44,18 @@ inline QStringList filesBelow(const QString& folder) {
 inline QByteArray bytesOfFile(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// The fields of each line of a table below tests/; lines that begin with # are comments.
+inline QList<QList<QByteArray>> tableRows(const char* table) {
+    QList<QList<QByteArray>> rows;
+    const QByteArray text = bytesOfFile(QStringLiteral(VANTOR_SOURCE_DIR "/tests/") + QLatin1String(table));
+    for (const QByteArray& line : text.split('\n')) {
+        if (!line.isEmpty() && !line.startsWith('#')) {
+            rows.append(line.split('\t'));
+        }
+    }
+    return rows;
 }
 
 // Left half red, right half blue.

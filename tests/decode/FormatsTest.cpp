@@ -22,13 +22,9 @@ struct Expected {
 
 std::vector<Expected> expectedFormats() {
     std::vector<Expected> rows;
-    const QByteArray table =
-        bytesOfFile(QStringLiteral(VANTOR_SOURCE_DIR "/tests/decode/expected_formats.tsv"));
-    for (const QByteArray& line : table.split('\n')) {
-        const QList<QByteArray> fields = line.split('\t');
-        if (fields.size() == 3 && !line.startsWith('#')) {
-            rows.push_back({QString::fromUtf8(fields[0]), QSize(fields[1].toInt(), fields[2].toInt())});
-        }
+    for (const QList<QByteArray>& fields : tableRows("decode/expected_formats.tsv")) {
+        rows.push_back(
+            {QString::fromUtf8(fields.value(0)), QSize(fields.value(1).toInt(), fields.value(2).toInt())});
     }
     return rows;
 }

@@ -94,7 +94,11 @@ class PlainReader : public SectorReader {
     explicit PlainReader(ScriptedDrive& medium) : m_medium(medium) {}
 
   protected:
-    bool fetch() override {
+    bool fetch() override { return ask(); }
+    bool moveTo(std::uint64_t) override { return !m_medium.gone; }
+
+    // Hands the sector at the position over when the drive gives it.
+    bool ask() {
         std::uint8_t bytes[kSectorBytes];
         if (m_medium.gone || m_medium.request(position(), bytes) != std::int64_t{kSectorBytes}) {
             return false;
@@ -103,7 +107,6 @@ class PlainReader : public SectorReader {
         handOver(m_bytes, 1);
         return true;
     }
-    bool moveTo(std::uint64_t) override { return !m_medium.gone; }
 
   private:
     ScriptedDrive& m_medium;
@@ -111,30 +114,21 @@ class PlainReader : public SectorReader {
 };
 
 // As PlainReader, but a refused sector is asked for once more, and never again after that.
-class PlainReaderWithRetry : public SectorReader {
+class PlainReaderWithRetry : public PlainReader {
   public:
-    explicit PlainReaderWithRetry(ScriptedDrive& medium) : m_medium(medium) {}
+    using PlainReader::PlainReader;
 
   protected:
     bool fetch() override {
-        std::uint8_t bytes[kSectorBytes];
-        const auto ask = [&] {
-            return !m_medium.gone && m_medium.request(position(), bytes) == std::int64_t{kSectorBytes};
-        };
         if (m_refused.contains(position()) || (!ask() && !ask())) {
             m_refused.add(position());
             return false;
         }
-        std::memcpy(m_bytes, bytes, kSectorBytes);
-        handOver(m_bytes, 1);
         return true;
     }
-    bool moveTo(std::uint64_t) override { return !m_medium.gone; }
 
   private:
-    ScriptedDrive& m_medium;
     SectorSet m_refused;
-    std::uint8_t m_bytes[kSectorBytes] = {};
 };
 
 // What one step of a scan saw.
