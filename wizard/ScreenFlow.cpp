@@ -131,6 +131,7 @@ void MyTableController::nextFromRange() {
 }
 
 void MyTableController::nextFromFileTypes() {
+    // Asked before the catalogues are cut, so that who stays finds all types as they were.
     if (Check_For_One_Extension_Selection() && !mayBeginScan()) {
         return;
     }
