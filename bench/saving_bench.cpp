@@ -4,7 +4,6 @@
 // of the sample card beside them, and is searched for files of all types. Card and destination lie in memory
 // (/dev/shm). Every figure is a ratio of the medians of this run.
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -28,6 +27,7 @@ constexpr qint64 kCardBytes = qint64{2} << 30;
 constexpr int kPhotos = 600;
 constexpr std::size_t kOtherFiles = 65;
 constexpr qint64 kSector = 512;
+constexpr int kSavedMegabytes = 1200;  // of photos, about
 
 class Random {
   public:
@@ -126,6 +126,13 @@ void runOrEnd(const QByteArray& command) {
     }
 }
 
+double timed(const QByteArray& command, const QByteArray& untimedBefore, const QByteArray& untimedAfter) {
+    runOrEnd(untimedBefore);
+    const double taken = seconds([&] { runOrEnd(command); });
+    runOrEnd(untimedAfter);
+    return taken;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -144,22 +151,31 @@ int main(int argc, char** argv) {
             std::fprintf(stderr, "The card could not be made in /dev/shm.\n");
             return 1;
         }
-        const QByteArray dd = "dd if=" + QFile::encodeName(image) + " of=/dev/null bs=1M status=none";
+        const QByteArray dd = "dd bs=1M status=none if=" + QFile::encodeName(image);
         const QByteArray out = QFile::encodeName(memory.filePath(QStringLiteral("out")));
+        const QByteArray remove = "rm -rf " + out;
+        const QByteArray touch =
+            "dd bs=1M status=none if=/dev/zero count=" + QByteArray::number(kCardBytes >> 20) + " of=" + out +
+            " && " + remove;
         const QByteArray search = QByteArray(VANTOR_CLI " ") + card.arguments;
         const QByteArray log = QFile::encodeName(memory.filePath(QStringLiteral("log")));
-        std::vector<double> ddTimes, searchTimes, saveTimes;
+        std::vector<double> ddTimes, writeTimes, searchTimes, saveTimes;
         for (int round = 0; round < rounds; ++round) {
-            ddTimes.push_back(seconds([&] { runOrEnd(dd); }));
+            ddTimes.push_back(timed(dd + " of=/dev/null", touch, "true"));
+            writeTimes.push_back(
+                timed(dd + " of=" + out + " count=" + QByteArray::number(kSavedMegabytes), touch, remove));
             searchTimes.push_back(
-                seconds([&] { runOrEnd(search + ' ' + QFile::encodeName(image) + " > /dev/null"); }));
-            saveTimes.push_back(seconds(
-                [&] { runOrEnd(search + " --save " + out + ' ' + QFile::encodeName(image) + " > " + log); }));
-            QDir(QFile::decodeName(out)).removeRecursively();
+                timed(search + ' ' + QFile::encodeName(image) + " > /dev/null", touch, "true"));
+            saveTimes.push_back(timed(
+                search + " --save " + out + ' ' + QFile::encodeName(image) + " > " + log, touch, remove));
         }
-        std::printf("%s: dd %.2f s; searched in %.1f times that, recovered and saved in %.1f times that\n",
-                    card.name, median(ddTimes), median(searchTimes) / median(ddTimes),
-                    median(saveTimes) / median(ddTimes));
+        const double unit = median(ddTimes);
+        std::printf(
+            "%s: dd %.2f s; %d MiB written by dd in %.1f times that, searched in %.1f times, recovered and "
+            "saved in %.1f times (%.1f to %.1f)\n",
+            card.name, unit, kSavedMegabytes, median(writeTimes) / unit, median(searchTimes) / unit,
+            median(saveTimes) / unit, *std::ranges::min_element(saveTimes) / unit,
+            *std::ranges::max_element(saveTimes) / unit);
         std::fflush(stdout);
         runOrEnd("tail -n 3 " + log);
     }

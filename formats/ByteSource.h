@@ -1,6 +1,7 @@
 // The seam between the format walkers and whatever holds the bytes: a medium, an image file, memory.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -19,6 +20,10 @@ class ByteSource {
     // the end of the medium or an unreadable place comes next; walkers treat both alike, as the end of the
     // view.
     virtual std::size_t read(std::uint64_t offset, std::span<std::uint8_t> into) = 0;
+
+    // The bytes from the offset on that lie in memory already, and may be looked at there instead of being
+    // copied; perhaps none. They stay there as long as the source does.
+    virtual std::span<const std::uint8_t> atHand(std::uint64_t) { return {}; }
 };
 
 // Bytes that already lie in memory; borrows them.
@@ -28,6 +33,9 @@ class SpanSource final : public ByteSource {
 
     std::uint64_t size() const override { return m_bytes.size(); }
     std::size_t read(std::uint64_t offset, std::span<std::uint8_t> into) override;
+    std::span<const std::uint8_t> atHand(std::uint64_t offset) override {
+        return m_bytes.subspan(static_cast<std::size_t>(std::min<std::uint64_t>(offset, m_bytes.size())));
+    }
 
   private:
     std::span<const std::uint8_t> m_bytes;

@@ -32,8 +32,7 @@ std::uint64_t mulClamped(std::uint64_t a, std::uint64_t b) {
 ByteView::ByteView(ByteSource& source)
     : m_source(source),
       m_size(source.size()),
-      m_budget(addClamped(mulClamped(kPasses, m_size), kHopAllowance)),
-      m_buffer(kWindowBytes) {}
+      m_budget(addClamped(mulClamped(kPasses, m_size), kHopAllowance)) {}
 
 void ByteView::refill(std::uint64_t at, std::size_t atLeast) {
     const bool readingOn = at >= m_start && at <= m_start + m_fill && m_fill != 0;
@@ -50,6 +49,14 @@ void ByteView::refill(std::uint64_t at, std::size_t atLeast) {
     }
     m_budget -= cost;
     const auto length = static_cast<std::size_t>(std::min<std::uint64_t>(wanted, m_size - start));
+    const auto atHand = m_source.atHand(start);
+    if (atHand.size() >= length) {
+        m_bytes = atHand.data();
+        m_fill = length;
+        return;
+    }
+    m_buffer.resize(kWindowBytes);
+    m_bytes = m_buffer.data();
     m_fill = std::min(length, m_source.read(start, {m_buffer.data(), length}));
 }
 
@@ -63,7 +70,7 @@ std::span<const std::uint8_t> ByteView::window(std::uint64_t at, std::size_t atL
     if (at - m_start >= m_fill)
         return {};
     const auto skip = static_cast<std::size_t>(at - m_start);
-    return {m_buffer.data() + skip, m_fill - skip};
+    return {m_bytes + skip, m_fill - skip};
 }
 
 bool ByteView::copy(std::uint64_t at, std::span<std::uint8_t> into) {

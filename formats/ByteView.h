@@ -81,10 +81,11 @@ class ByteView {
 
     ByteSource& m_source;
     const std::uint64_t m_size;
-    std::uint64_t m_budget;  // bytes that may still be read
-    std::vector<std::uint8_t> m_buffer;
-    std::uint64_t m_start = 0;  // offset of m_buffer[0]
-    std::size_t m_fill = 0;     // valid bytes in m_buffer
+    std::uint64_t m_budget;                 // bytes that may still be read
+    std::vector<std::uint8_t> m_buffer;     // of kWindowBytes once something had to be copied
+    const std::uint8_t* m_bytes = nullptr;  // the window: m_buffer's, or where the source holds it
+    std::uint64_t m_start = 0;              // offset of m_bytes[0]
+    std::size_t m_fill = 0;                 // valid bytes there
     std::size_t m_step = kHopBytes;
 };
 

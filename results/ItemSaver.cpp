@@ -40,6 +40,13 @@ bool isUnwanted(const FoundItem& item) {
     return item.unwanted != nullptr && *item.unwanted;
 }
 
+// Of as many of a file's first bytes as can be read; they stay in memory for the writing.
+QByteArray sumOfHead(MediumBytes& bytes, std::uint64_t length) {
+    std::vector<std::uint8_t> head(static_cast<std::size_t>(std::min(length, Likeness::kHeadBytes)));
+    const std::size_t arrived = bytes.read(0, head);
+    return Sha256::of(asView(std::span(head).first(arrived)));
+}
+
 std::uint64_t firstSectorOf(const FoundItem& item) {
     return item.source.carved.runs.empty() ? 0 : item.source.carved.runs.front().first;
 }
@@ -64,6 +71,7 @@ struct ItemSaver::Writing {
     const FoundItem& item;
     QString folder;
     QString name;
+    Likeness likeness;  // empty where duplicates do not matter
 };
 
 // Every frame of a stream may look like a file's beginning to the catalogues; such parts are saved as they
@@ -158,16 +166,20 @@ bool ItemSaver::decideLength(const FoundItem& item, MediumBytes& bytes, SaveOutc
 
 void ItemSaver::saveBytes(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const {
     const SavedName name = savedNameOf(item.type, item.name, m_policy.byDate ? outcome.taken : std::nullopt);
-    const Writing writing{item, m_destination + u'/' + name.folder, name.file};
+    Writing writing{item, m_destination + u'/' + name.folder, name.file, {}};
     if (!QDir().mkpath(writing.folder)) {
         outcome.error = QStringLiteral("The folder %1 cannot be created").arg(writing.folder);
         return;
     }
-    if (m_policy.skipDuplicates && settleBeforeWriting(writing, bytes, outcome)) {
-        return;
+    if (m_policy.skipDuplicates) {
+        writing.likeness = {outcome.bytes, sumOfHead(bytes, outcome.bytes)};
+        if (settleBeforeWriting(writing, bytes, outcome)) {
+            return;
+        }
     }
     if (writeFile(writing, bytes, outcome)) {
-        m_state->saved.add(outcome.bytes, {outcome.path, item.type, outcome.sha256, firstSectorOf(item)});
+        writing.likeness.bytes = outcome.bytes;
+        m_state->saved.add(writing.likeness, {outcome.path, item.type, outcome.sha256, firstSectorOf(item)});
     }
 }
 
@@ -175,9 +187,6 @@ void ItemSaver::saveBytes(const FoundItem& item, MediumBytes& bytes, SaveOutcome
 bool ItemSaver::settleBeforeWriting(const Writing& writing, MediumBytes& bytes, SaveOutcome& outcome) const {
     SavedFiles& saved = m_state->saved;
     const FoundItem& item = writing.item;
-    if (!saved.hasSize(outcome.bytes)) {
-        return false;
-    }
     // Types that share a header share the item.
     if (!item.source.carved.readFailed) {
         const SavedFile* const same = saved.fromPlace(outcome.bytes, firstSectorOf(item), item.type);
@@ -186,11 +195,11 @@ bool ItemSaver::settleBeforeWriting(const Writing& writing, MediumBytes& bytes, 
         }
     }
     const auto atHand = bytes.keptFrom(0);
-    if (atHand.size() < outcome.bytes) {
+    if (atHand.size() < outcome.bytes || !saved.hasLike(writing.likeness)) {
         return false;
     }
     outcome.sha256 = Sha256::of(asView(atHand.first(static_cast<std::size_t>(outcome.bytes))));
-    const SavedFile* const same = saved.withChecksum(outcome.bytes, outcome.sha256, item.type);
+    const SavedFile* const same = saved.withChecksum(writing.likeness, outcome.sha256, item.type);
     return same != nullptr && settleAs(*same, writing, outcome);
 }
 
@@ -205,7 +214,7 @@ bool ItemSaver::settleAs(const SavedFile& earlier, const Writing& writing, SaveO
     outcome.sha256 = earlier.sha256;
     outcome.saved = outcome.duplicate = true;
     if (!sameType) {
-        m_state->saved.add(outcome.bytes,
+        m_state->saved.add(writing.likeness,
                            {*path, writing.item.type, earlier.sha256, firstSectorOf(writing.item)});
     }
     return true;
@@ -218,8 +227,8 @@ bool ItemSaver::writeFile(const Writing& writing, MediumBytes& bytes, SaveOutcom
         return false;
     }
     WholeFile file(writing.folder);
-    const bool sizeIsKnown = m_policy.skipDuplicates && m_state->saved.hasSize(outcome.bytes);
-    const bool summing = outcome.sha256.isEmpty() && (m_policy.checksums || sizeIsKnown);
+    const bool likeAnother = m_policy.skipDuplicates && m_state->saved.hasLike(writing.likeness);
+    const bool summing = outcome.sha256.isEmpty() && (m_policy.checksums || likeAnother);
     const std::uint64_t done = copyBytes(writing.item, outcome.bytes, bytes, file, summing);
     if (summing) {
         outcome.sha256 = m_state->sum.result();
@@ -239,9 +248,10 @@ bool ItemSaver::writeFile(const Writing& writing, MediumBytes& bytes, SaveOutcom
     } else if (outcome.sectorsUnreadable != 0 && outcome.verdict == Verdict::Complete) {
         outcome.verdict = Verdict::Damaged;
     }
-    if (sizeIsKnown && summing && file.isGood()) {
+    if (likeAnother && summing && file.isGood()) {
+        const Likeness asWritten{outcome.bytes, writing.likeness.head};
         const SavedFile* const same =
-            m_state->saved.withChecksum(outcome.bytes, outcome.sha256, writing.item.type);
+            m_state->saved.withChecksum(asWritten, outcome.sha256, writing.item.type);
         if (same != nullptr && settleAs(*same, writing, outcome)) {
             return false;
         }

@@ -42,6 +42,7 @@ MediumBytes::MediumBytes(const ItemSource& source, std::vector<std::uint8_t>& ke
     m_wholeSize = std::max(sectorsOf(m_runs) * kSectorBytes, m_keptStart);
     m_carvedBytes = std::max(m_carvedBytes, m_keptStart);
     m_size = m_wholeSize;
+    m_kept.reserve(kMostKept);  // growing must not move what others look at
 }
 
 void MediumBytes::limitTo(std::uint64_t bytes) {
@@ -79,7 +80,9 @@ std::size_t MediumBytes::readPast(std::uint64_t offset, std::span<std::uint8_t> 
 std::span<const std::uint8_t> MediumBytes::bytesFrom(std::uint64_t offset) {
     auto bytes = keptFrom(offset);
     if (bytes.empty() && offset < m_keptStart + kMostKept && offset < m_keptEnd + kSmallHop) {
-        keepUpTo(std::max(offset + 1, m_keptEnd + kStepBytes));
+        // A small item does not read what lies behind it before somebody asks.
+        const std::uint64_t step = m_keptEnd + kStepBytes;
+        keepUpTo(std::max(offset + 1, m_keptEnd < m_carvedBytes ? std::min(step, m_carvedBytes) : step));
         bytes = keptFrom(offset);
     }
     return bytes.empty() ? blockAt(offset) : bytes;

@@ -42,6 +42,7 @@ class MediumBytes final : public ByteSource {
 
     std::uint64_t size() const override { return m_size; }
     std::size_t read(std::uint64_t offset, std::span<std::uint8_t> into) override;
+    std::span<const std::uint8_t> atHand(std::uint64_t offset) override { return keptFrom(offset); }
 
     // The bytes from the offset on that are in memory; valid until the next read().
     std::span<const std::uint8_t> keptFrom(std::uint64_t offset) const;

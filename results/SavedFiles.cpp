@@ -1,4 +1,5 @@
-// Size first, which tells most files apart; the checksums of earlier files only where sizes agree.
+// Size and first bytes tell most files apart; the whole bytes of earlier files are asked for only where
+// both agree.
 #include "results/SavedFiles.h"
 
 #include <QFile>
@@ -40,8 +41,8 @@ const SavedFile* better(const SavedFile* best, const SavedFile& candidate, std::
 const SavedFile* SavedFiles::fromPlace(std::uint64_t bytes, std::uint64_t firstSector,
                                        const QString& type) const {
     const SavedFile* best = nullptr;
-    const auto [begin, end] = m_bySize.equal_range(bytes);
-    for (auto file = begin; file != end; ++file) {
+    for (auto file = m_files.lower_bound({bytes, {}}); file != m_files.end() && file->first.bytes == bytes;
+         ++file) {
         if (file->second.firstSector == firstSector) {
             best = better(best, file->second, bytes, type);
         }
@@ -49,17 +50,17 @@ const SavedFile* SavedFiles::fromPlace(std::uint64_t bytes, std::uint64_t firstS
     return best;
 }
 
-const SavedFile* SavedFiles::withChecksum(std::uint64_t bytes, const QByteArray& sha256,
+const SavedFile* SavedFiles::withChecksum(const Likeness& likeness, const QByteArray& sha256,
                                           const QString& type) {
     const SavedFile* best = nullptr;
-    const auto [begin, end] = m_bySize.equal_range(bytes);
+    const auto [begin, end] = m_files.equal_range(likeness);
     for (auto file = begin; file != end; ++file) {
         SavedFile& candidate = file->second;
         if (candidate.sha256.isEmpty()) {
             candidate.sha256 = checksumOfFile(candidate.path);
         }
         if (candidate.sha256 == sha256) {
-            best = better(best, candidate, bytes, type);
+            best = better(best, candidate, likeness.bytes, type);
         }
     }
     return best;

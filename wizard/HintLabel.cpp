@@ -2,6 +2,7 @@
 #include "wizard/HintLabel.h"
 
 #include <QPainter>
+#include <utility>
 
 #include "wizard/Theme.h"
 
@@ -35,6 +36,10 @@ void HintLabel::paintEvent(QPaintEvent* event) {
         fontMetrics().boundingRect(contentsRect(), static_cast<int>(alignment()) | Qt::TextWordWrap, text());
     const int line = fontMetrics().lineSpacing();
     const int middle = words.top() + emptyLinesBefore(text()) * line + line / 2;
+    // Another text has only the words painted again.
+    if (std::exchange(m_middle, middle) != middle) {
+        update();
+    }
     QPainter painter(this);
     ownIcon(QStringLiteral("info")).paint(&painter, QRect(0, middle - kSign / 2, kSign, kSign));
 }

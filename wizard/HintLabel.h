@@ -14,6 +14,9 @@ class HintLabel : public QLabel {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+
+  private:
+    int m_middle = -1;  // of the sign, as it was painted last; pixels from the top
 };
 
 }  // namespace vantor

@@ -52,6 +52,50 @@ TEST(ByteView, Windows_HoldWhatTheSourceHoldsAtAnyHop) {
     EXPECT_TRUE(view.window(300'000).empty());
 }
 
+// Holds its first half in memory.
+class HalfAtHand final : public ByteSource {
+  public:
+    explicit HalfAtHand(const Bytes& bytes)
+        : m_bytes(bytes),
+          m_held(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(bytes.size() / 2)) {
+        m_held.resize(bytes.size());
+    }
+
+    std::uint64_t size() const override { return m_bytes.size(); }
+    std::size_t read(std::uint64_t offset, std::span<std::uint8_t> into) override {
+        bytesCopied += into.size();
+        return SpanSource(m_bytes).read(offset, into);
+    }
+    std::span<const std::uint8_t> atHand(std::uint64_t offset) override {
+        const std::size_t half = m_bytes.size() / 2;
+        return offset < half ? std::span(m_held).first(half).subspan(static_cast<std::size_t>(offset))
+                             : std::span<const std::uint8_t>();
+    }
+
+    std::size_t bytesCopied = 0;
+
+  private:
+    const Bytes& m_bytes;
+    Bytes m_held;
+};
+
+TEST(ByteView, BytesAtHand_AreLookedAtInPlaceAndTheRestIsRead) {
+    const Bytes bytes = noise(300'000, 6);
+    HalfAtHand source(bytes);
+    ByteView view(source);
+    for (std::uint64_t at = 0; at < 100'000; at += 777) {
+        EXPECT_EQ(view.u8(at), bytes[at]);
+    }
+    EXPECT_EQ(source.bytesCopied, 0U);
+    for (const std::uint64_t at : {149'990U, 150'000U, 120'000U, 299'000U, 5U}) {
+        const auto window = view.window(at, 900);
+        ASSERT_GE(window.size(), 900U);
+        EXPECT_TRUE(
+            std::equal(window.begin(), window.end(), bytes.begin() + static_cast<std::ptrdiff_t>(at)));
+    }
+    EXPECT_NE(source.bytesCopied, 0U);
+}
+
 TEST(ByteView, ReadingOn_TakesFewReadsAndHoppingLittle) {
     const Bytes bytes(10'000'000, 7), nothing;
     JoinedSource stream(bytes, nothing), hops(bytes, nothing);

@@ -202,6 +202,40 @@ TEST_P(SameBytes, AreSavedOnce) {
     EXPECT_EQ(filesUnder(folder.filePath("all")), QStringList({"WAV/a.WAV", "WAV/b.WAV"}));
 }
 
+TEST_P(SameBytes, FilesThatOnlyBeginAlikeAreBothSaved) {
+    QByteArray wav = wavFile(kWavBytes);
+    ScriptedMedium medium = mediumWith(wav, 10, 1000);
+    wav.back() = static_cast<char>(wav.back() + 1);
+    std::memcpy(medium.bytes.at(300).data(), wav.data(), static_cast<std::size_t>(wav.size()));
+    ScriptedReader reader(medium);
+    const QTemporaryDir folder;
+    SavePolicy policy;
+    policy.checksums = GetParam();
+    const ItemSaver saver(folder.path(), policy);
+    saver.saveRuns("WAV", "a.WAV", run(10, 60), reader);
+    const SaveOutcome second = saver.saveRuns("WAV", "b.WAV", run(300, 600), reader);
+    EXPECT_FALSE(second.duplicate);
+    ASSERT_TRUE(second.saved);
+    EXPECT_TRUE(contentsOf(second.path) == wav);
+}
+
+// The checksum of a file tells whether it was asked for: most files of one size need none.
+TEST(ItemSaver, FilesOfOneSizeThatBeginDifferentlyAreNotSummedUp) {
+    const QByteArray wav = wavFile(kWavBytes);
+    ScriptedMedium medium = mediumWith(wav, 10, 1000);
+    const QByteArray other = wavFile(kWavBytes, 2);
+    std::memcpy(medium.bytes.at(300).data(), other.data(), static_cast<std::size_t>(other.size()));
+    ScriptedReader reader(medium);
+    const QTemporaryDir folder;
+    SavePolicy policy;
+    policy.checksums = false;
+    const ItemSaver saver(folder.path(), policy);
+    EXPECT_TRUE(saver.saveRuns("WAV", "a.WAV", run(10, 60), reader).saved);
+    const SaveOutcome second = saver.saveRuns("WAV", "b.WAV", run(300, 600), reader);
+    EXPECT_TRUE(second.saved);
+    EXPECT_TRUE(second.sha256.isEmpty());
+}
+
 TEST(ItemSaver, DateTakenIsTheFilesTimeAndOnRequestItsName) {
     ScriptedMedium medium = mediumWith(tiffFile(64, 48, "2026:05:17 14:03:22"), 5, 60);
     ScriptedReader reader(medium);

@@ -59,6 +59,27 @@ TEST_F(MediumBytesTest, BorrowedBytesComeFirst) {
     EXPECT_TRUE(read(bytes, 5000, 1000) == QByteArray(120, 'h') + onMedium(110, 0, 880));
 }
 
+TEST_F(MediumBytesTest, WhatLiesBehindIsNotReadUnasked) {
+    const ItemSource item = source({{{100, 110}}, false});
+    MediumBytes bytes(item, memory);
+    EXPECT_TRUE(read(bytes, 0, 10 * 512) == onMedium(100, 0, 10 * 512));
+    EXPECT_EQ(medium.reads, 10U);
+}
+
+TEST_F(MediumBytesTest, BytesLookedAtStayWhereTheyAre) {
+    const ItemSource item = source({{{100, 110}}, false});
+    MediumBytes bytes(item, memory);
+    EXPECT_TRUE(bytes.atHand(0).empty());
+    read(bytes, 0, 600);
+    const auto before = bytes.atHand(512);
+    ASSERT_EQ(before.size(), 9 * 512U);
+    read(bytes, 0, 2900 * 512);
+    const auto after = bytes.atHand(512);
+    EXPECT_EQ(after.data(), before.data());
+    EXPECT_EQ(after.size(), 2899 * 512U);
+    EXPECT_TRUE(QByteArrayView(before.data(), 9 * 512) == onMedium(101, 0, 9 * 512));
+}
+
 TEST_F(MediumBytesTest, UnknownMediumEndsWithTheCarvedRun) {
     ItemSource item = source({{{100, 110}}, false});
     item.mediumSectors = 0;

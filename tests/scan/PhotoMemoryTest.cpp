@@ -85,4 +85,28 @@ TEST(PhotoMemory, ServesThePhotoBehindTheOneThatWasSaved) {
     EXPECT_EQ(second, QByteArray(kSectorBytes, 2));
 }
 
+TEST(PhotoItemBuffer, HoldsWhatItWasGivenHoweverOftenItIsAskedForIt) {
+    PhotoMemory memory;
+    PhotoItemBuffer photo(memory);
+    for (const int sectors : {3, 1000, 20}) {
+        QByteArray expected;
+        std::vector<QByteArray> held;
+        for (int i = 0; i < sectors; ++i) {
+            const std::vector<std::uint8_t> sector(kSectorBytes, static_cast<std::uint8_t>(i + sectors));
+            photo.append(sector.data());
+            expected.append(static_cast<qsizetype>(kSectorBytes), static_cast<char>(i + sectors));
+            if (i % 7 == 2) {
+                held.push_back(photo.bytes());
+                ASSERT_EQ(held.back(), expected);
+            }
+        }
+        ASSERT_EQ(photo.bytes(), expected);
+        for (const QByteArray& earlier : held) {
+            ASSERT_TRUE(expected.startsWith(earlier));
+        }
+        photo.clear();
+        ASSERT_TRUE(photo.bytes().isEmpty());
+    }
+}
+
 }  // namespace vantor
