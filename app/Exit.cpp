@@ -2,6 +2,7 @@
 #include <QCoreApplication>
 
 #include "app/MyTableController.h"
+#include "app/ProgramTitle.h"
 #include "results/PreviewFile.h"
 #include "wizard/Alerts.h"
 
@@ -9,7 +10,6 @@ namespace vantor {
 
 namespace {
 
-const QString kTitle = QStringLiteral("Vantor - Memory Card Recovery");
 // How long a preview copy may take to see that it is to end before its file is deleted.
 constexpr std::chrono::milliseconds kCopyPatience{200};
 
@@ -21,7 +21,7 @@ void MyTableController::Exit_App() {
         return;
     }
     const QString question =
-        QStringLiteral("\nDo you really want to exit from '") + kTitle + QStringLiteral("'?");
+        QStringLiteral("\nDo you really want to exit from '") + kProgramTitle + QStringLiteral("'?");
     if (!Show_YES_NO_MessageBox(question)) {
         // After a refused exit no more notifications arrive.
         for (const QMetaObject::Connection& subscription : std::as_const(m_notifications)) {

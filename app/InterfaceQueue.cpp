@@ -19,15 +19,15 @@ bool InterfaceQueue::runAndWait(Step step) {
     if (m_closed) {
         return false;
     }
-    const auto state = std::make_shared<State>(State::Waiting);
-    m_entries.push_back({std::move(step), state});
+    const auto ran = std::make_shared<bool>(false);
+    m_entries.push_back({std::move(step), ran});
     if (m_wake) {
         lock.unlock();
         m_wake();
         lock.lock();
     }
-    m_settled.wait(lock, [&] { return m_closed || *state != State::Waiting; });
-    return *state == State::Done;
+    m_settled.wait(lock, [&] { return m_closed || *ran; });
+    return *ran;
 }
 
 bool InterfaceQueue::runOne() {
@@ -41,9 +41,9 @@ bool InterfaceQueue::runOne() {
         m_entries.pop_front();
     }
     entry.step();
-    if (entry.state) {
+    if (entry.ran) {
         const std::lock_guard lock(m_lock);
-        *entry.state = State::Done;
+        *entry.ran = true;
         m_settled.notify_all();
     }
     return true;
@@ -57,11 +57,6 @@ bool InterfaceQueue::isEmpty() const {
 void InterfaceQueue::close() {
     const std::lock_guard lock(m_lock);
     m_closed = true;
-    for (const Entry& entry : m_entries) {
-        if (entry.state) {
-            *entry.state = State::Dropped;
-        }
-    }
     m_entries.clear();
     m_settled.notify_all();
 }

@@ -34,10 +34,9 @@ class InterfaceQueue {
     void close();
 
   private:
-    enum class State { Waiting, Done, Dropped };
     struct Entry {
         Step step;
-        std::shared_ptr<State> state;  // null when nobody waits
+        std::shared_ptr<bool> ran;  // null when nobody waits
     };
 
     const std::function<void()> m_wake;

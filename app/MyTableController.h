@@ -13,20 +13,19 @@
 //   Search range                media/RangeScreen.cpp
 //   File types                  catalogue/FileTypeScreen.cpp
 //   Scan threads                scan/ScanThreads.cpp
-//   What a scan shows           scan/ScanScreen.cpp
 //   Browsers                    results/Browsers.cpp
 //   Preview                     results/Preview.cpp
 //   Movie                       results/MoviePreview.cpp
 //   Saving                      results/Saving.cpp
+//   Fields with given names
+//   What a scan shows           scan/ScanScreen.cpp
+//   Steps behind these, file by file, and the fields of our own
 #pragma once
 
-#include <QCheckBox>
-#include <QColor>
 #include <QDateTime>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileDialog>
-#include <QObject>
 #include <QSizeF>
 #include <QTimer>
 #include <array>
@@ -42,6 +41,7 @@
 #include "media/RangePanel.h"
 #include "results/BrowserLooks.h"
 #include "results/FileManager.h"
+#include "results/FileTypeIcons.h"
 #include "results/ImageBrowserModel.h"
 #include "results/PendingView.h"
 #include "results/SavingDesk.h"
@@ -49,9 +49,8 @@
 #include "scan/ScanMeter.h"
 #include "scan/ScanSession.h"
 #include "scan/ScanTimer.h"
-#include "wizard/Help_Support.h"
-#include "wizard/Panels.h"
 #include "wizard/TableAdapter.h"
+#include "wizard/WindowPanels.h"
 
 namespace vantor {
 
@@ -206,7 +205,7 @@ class MyTableController : public QObject,
     // True while something found is neither saved nor left out as the user asked.
     bool hasUnsavedItems() const;
 
-    // --- Fields ---
+    // --- Fields with given names ---
 
     // Set at start, with the interface.
     const FileManager* fileManager = &FileManager::defaultManager();
@@ -265,61 +264,71 @@ class MyTableController : public QObject,
     void later(std::function<void()> step);
     ScanInputs readInputs() const;
 
-    // app/
+    // --- Steps behind these ---
+
+    // app/SetUp.cpp
     void loadInterface();
     void dressWindow();
     void dressRangeSets();
     void setUpTables();
     void setUpBrowsers();
     void setEmptyStates();
+    // app/Wiring.cpp
     void wire();
     void wireButtons();
     void wireRangeSet(ControlSet set);
     void wireShortcuts();
+    void pressDefault();
+    // app/Exit.cpp
     void deletePreviews();
     bool mayLeaveUnsaved(const QString& consequence, const QString& leave);
-
-    // wizard/
+    // wizard/ScreenFlow.cpp
     ControlSet activeSet() const;
     RangePanel& activeRange();
-    RangePanel& rangeOf(ControlSet set);
-    void showEntireDiskHelp();
-    void showSectorRangeHelp();
-    void showRangeHelp();
-    void showFileTypeHelp();
+    void setMode(int mode);
     void nextFromMedia();
     void nextFromRange();
     void nextFromFileTypes();
     void backToMedia();
     void backToRange();
     void backToFileTypes();
-    void setMode(int mode);
+    void showMediaHelp();
+    void showRangeHelp();
+    void showFileTypeHelp();
     void showWhereWeAre();
+    void bringIntoView(QWidget* widget);
+    void emptyBrowsers();
+    void emptyBrowserViews();
+    // wizard/ScreenGroups.cpp
+    void showPreviewPane(bool hide);
+    void hideOpenFolderButtons();
+    // wizard/LeftItems.cpp
     bool onScanScreen() const;
     void scanFellBack();
     void showLeftItemsBar();
     bool mayBeginScan();
-    void bringIntoView(QWidget* widget);
-    void showPreviewPane(bool hide);
-    void hideOpenFolderButtons();
-    void pressDefault();
+    // wizard/PanelActions.cpp
     void browseForDestination();
-    QLineEdit* pathInView() const;
+    QString askDestination();
     bool acceptDestination(const QString& folder);
+    void openDestination();
+    QLineEdit* pathInView() const;
     QString devicePath() const;
-
-    // media/, catalogue/
+    // media/MediaScreen.cpp
     void mediaChanged();
     void reloadMediaKeepingSelection();
     void selectMedium(const QString& identifier);
     QIcon iconOfMedium(qsizetype row) const;
+    // media/RangeScreen.cpp
+    RangePanel& rangeOf(ControlSet set);
+    void showEntireDiskHelp();
+    void showSectorRangeHelp();
+    // catalogue/FileTypeScreen.cpp
     void buildGroupBoxes();
     void filterFileTypes(const QString& text);
     void tickGroup(int kind, bool ticked);
     void showTypeCounts();
-    void filterResultRows();
-
-    // scan/
+    // scan/ScanThreads.cpp
     void startScan(void (ScanSession::*driver)());
     void pump();
     void drainQueue();
@@ -329,42 +338,37 @@ class MyTableController : public QObject,
     void showScanFacts();
     void prepareIcons();
     void clearWaitingThumbnails();
-
-    // results/
+    // results/Browsers.cpp
     ImageBrowserView* browserOf(ControlSet set) const;
-    void emptyBrowsers();
-    void emptyBrowserViews();
+    void filterResultRows();
     void showItemCounts();
     LookedAtItems lookedAtItems();
+    // results/Preview.cpp
     void runBeside(const std::function<void()>& work);
     std::unique_ptr<Movie> openBeside(const MovieLoader& loader, const QString& file);
     void showPicture(const QPixmap& picture, const QString& title);
     void showPreviewFacts();
+    // results/Saving.cpp
     void saveItems(const QList<qsizetype>& indexes);
     SavingParts savingParts();
     ReportHead reportHead() const;
-    QString askDestination();
-    void openDestination();
+
+    // --- Fields of our own ---
 
     // Set when the controller is made.
     ProgramParts m_parts;
     std::unique_ptr<QMainWindow> m_window;
     std::array<std::unique_ptr<RangePanel>, 2> m_range;
-    std::unique_ptr<Browse_Info> m_browseInfo;
-    std::unique_ptr<SaveFile_Info> m_saveFileInfo;
-    std::unique_ptr<SaveFile_Info_For_RAW> m_saveFileInfoForRaw;
-    std::unique_ptr<ClearPreview_Modeless> m_clearPreview;
-    std::unique_ptr<LoadDrive_Modeless> m_loadDrive;
-    std::unique_ptr<Help_Support> m_help;
-    std::unique_ptr<SavingOptions> m_savingOptions;
+    std::unique_ptr<WindowPanels> m_panels;
     TableAdapter* m_mediaTable = nullptr;
     TableAdapter* m_typeTable = nullptr;
     TableAdapter* m_resultTable = nullptr;
     QList<QCheckBox*> m_groupBoxes;  // by FileKind
     QString m_previewFolder;
-    FileTypeIcons m_icons;  // prepared before a scan, read by it
-    // Subscriptions to notifications; gone after a refused exit.
-    QList<QMetaObject::Connection> m_notifications;
+    FileTypeIcons m_icons;                           // prepared before a scan, read by it
+    QList<QMetaObject::Connection> m_notifications;  // gone after a refused exit
+    int m_clickedColumn = -1;                        // of the last click in a table
+    bool m_ending = false;                           // the exit was confirmed
 
     // Shared between the threads of a scan.
     InterfaceQueue m_queue{
@@ -386,15 +390,11 @@ class MyTableController : public QObject,
     ScanMeter m_meter;
     double m_progressSectors = 0;
     bool m_draining = false;
+    QList<ResultRow> m_leftRows;  // only when it fell back to the screen before
 
-    QList<ResultRow> m_leftRows;  // set when a scan fell back to the screen before
-    int m_clickedColumn = -1;     // of the last click in a table
-
-    // Begin anew with every scan.
+    // Begin anew with every scan; the first to go, since they ask the others.
     std::unique_ptr<BrowserLooks> m_looks;
     std::unique_ptr<SavingDesk> m_desk;
-
-    bool m_ending = false;  // the exit was confirmed
 };
 
 }  // namespace vantor

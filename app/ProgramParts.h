@@ -7,9 +7,9 @@
 #include <memory>
 
 #include "media/MediaSource.h"
+#include "results/FilePreviewer.h"
 #include "results/FreeSpace.h"
 #include "results/Movie.h"
-#include "results/PicturePreview.h"
 #include "scan/ScanSession.h"
 
 namespace vantor {
@@ -17,12 +17,12 @@ namespace vantor {
 struct ProgramParts {
     std::shared_ptr<MediaSource> media;
     MediumOpener openMedium;
-    MediumOpener
-        openBeside;  // to examine found items while others read the medium; none: nothing is examined
+    // To examine found items while others read the medium; none: nothing is examined.
+    MediumOpener openBeside;
     Thumbnailer thumbnailer;
-    PicturePreviewer picture = readPicture;
-    MovieLoader movie;  // none: every preview is a picture
-    MovieLoader sound;  // what sounds of a file that is shown as a picture; none: nothing does
+    PicturePreviewer picture;  // none: every preview is an icon
+    MovieLoader movie;         // none: every preview is a picture
+    MovieLoader sound;         // what sounds of a file that is shown as a picture; none: nothing does
     QString resourcesFolder;
 
     // True when files written into the folder would land on the medium behind "/dev/r" + identifier.

@@ -3,6 +3,7 @@
 #include <QLocale>
 
 #include "app/MyTableController.h"
+#include "app/ProgramTitle.h"
 #include "results/RecoveryMode.h"
 #include "wizard/AccessibleControls.h"
 #include "wizard/Theme.h"
@@ -51,19 +52,13 @@ void MyTableController::loadInterface() {
     setEmptyStates();
     buildGroupBoxes();
 
-    m_browseInfo = std::make_unique<Browse_Info>(window);
-    m_saveFileInfo = std::make_unique<SaveFile_Info>(window);
-    m_saveFileInfoForRaw = std::make_unique<SaveFile_Info_For_RAW>(window);
-    m_clearPreview = std::make_unique<ClearPreview_Modeless>(window);
-    m_loadDrive = std::make_unique<LoadDrive_Modeless>(window);
-    m_help = std::make_unique<Help_Support>(window, m_parts.resourcesFolder, m_parts.openDocument);
-    m_savingOptions = std::make_unique<SavingOptions>(window);
-    BrowseInfo_Window = m_browseInfo->window;
-    SaveFile_Info_Window = m_saveFileInfo->window;
-    SaveFile_Info_For_RAW_Window = m_saveFileInfoForRaw->window;
-    ClearPreview_Window = m_clearPreview->window;
-    LoadDisk_Window = m_loadDrive->window;
-    HelpWindow = m_help->window;
+    m_panels = std::make_unique<WindowPanels>(window, m_parts.resourcesFolder, m_parts.openDocument);
+    BrowseInfo_Window = m_panels->browseInfo.window;
+    SaveFile_Info_Window = m_panels->saveFileInfo.window;
+    SaveFile_Info_For_RAW_Window = m_panels->saveFileInfoForRaw.window;
+    ClearPreview_Window = m_panels->clearPreview.window;
+    LoadDisk_Window = m_panels->loadDrive.window;
+    HelpWindow = m_panels->help.window;
 }
 
 void MyTableController::dressWindow() {
@@ -192,7 +187,7 @@ void MyTableController::awakeFromNib() {
     setCommonBackground(window);
     window->installEventFilter(this);
     thoroughBox->installEventFilter(this);
-    window->setWindowTitle(QStringLiteral("Vantor - Memory Card Recovery"));
+    window->setWindowTitle(kProgramTitle);
     show_hide_2_screen(true);
     rangeScreen_Sig->hide();
     show_hide_3_screen_Photo(true);
@@ -209,9 +204,7 @@ void MyTableController::awakeFromNib() {
 
     _Thro_Mode_Chk->setChecked(true);
     setMode(kPhotoMode);
-    _help_info->setText(
-        QStringLiteral("\nSelect the storage media from List from which you want to recover Data. Press "
-                       "‘Next’ button to continue... "));
+    showMediaHelp();
     _sector_label->setText(QStringLiteral("Sectors 0 of 0"));
     for (const auto& range : m_range) {
         range->setCaptions();

@@ -112,7 +112,7 @@ void MyTableController::wireButtons() {
 }
 
 void MyTableController::wireRangeSet(ControlSet set) {
-    const RangeOutlets& outlets = m_range[static_cast<std::size_t>(set)]->outlets();
+    const RangeOutlets& outlets = rangeOf(set).outlets();
     const bool photo = set == ControlSet::Photo;
     connect(outlets.start.slider, &SectorSlider::movedByUser, this,
             [this, photo, slider = outlets.start.slider] {

@@ -7,6 +7,7 @@
 #include <cstdlib>
 
 #include "app/MyTableController.h"
+#include "app/ProgramTitle.h"
 #include "catalogue/ResourcesFolder.h"
 #include "decode/DecodePool.h"
 #include "media/PlatformMedia.h"
@@ -74,7 +75,7 @@ void leaveTheScreen() {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("vantor-recovery"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Vantor - Memory Card Recovery"));
+    QApplication::setApplicationDisplayName(kProgramTitle);
     QApplication::setApplicationVersion(QStringLiteral(VANTOR_VERSION));
     // The desktop finds the window's icon and name by this.
     QApplication::setDesktopFileName(QStringLiteral("org.vantor.recovery"));

@@ -13,7 +13,6 @@ namespace vantor {
 namespace {
 
 constexpr int kSectorBytes = 512;
-constexpr qint64 kLastNumericOffset = 507;
 constexpr const char* kFieldNames[] = {"extension", "size", "header", "offset", "reserved", "description"};
 
 struct ValueLine {

@@ -20,6 +20,9 @@ bool isTicked(const FileTypeRow& row);
 // type describes it.
 QList<FileTypeRow> fileTypeRows(const QStringList& general, const QStringList& thorough);
 
+// What the user is told when no row is ticked.
+inline const QString kNoTypeChosen = QStringLiteral("\nPlease select atleast one extension type.");
+
 // Sorts by "Extension" without regard to case; rows that compare equal keep their order.
 void sortFileTypeRows(QList<FileTypeRow>& rows);
 

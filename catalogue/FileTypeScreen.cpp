@@ -2,6 +2,7 @@
 #include <QCheckBox>
 
 #include "app/MyTableController.h"
+#include "catalogue/FileKind.h"
 #include "wizard/Theme.h"
 #include "wizard/WrapLayout.h"
 

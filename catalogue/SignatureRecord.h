@@ -19,6 +19,9 @@ enum RecordField : qsizetype {
     Header_First_Byte = 6,  // "0".."255", or "" when the record had no header line
 };
 
+// A numeric rule in Header_Offset is honoured up to this byte, counted from 1.
+inline constexpr qint64 kLastNumericOffset = 507;
+
 // Number of whole records in a catalogue array; an incomplete one at the end does not count.
 inline qsizetype recordCount(const QStringList& array) {
     return array.size() / kRecordStride;

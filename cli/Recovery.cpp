@@ -15,6 +15,8 @@
 #include <utility>
 
 #include "catalogue/CatalogueFile.h"
+#include "catalogue/FileTypeList.h"
+#include "catalogue/TextHelpers.h"
 #include "cli/CliMedium.h"
 #include "cli/CliSession.h"
 #include "cli/ListMedia.h"
@@ -22,7 +24,6 @@
 #include "media/PlatformMedia.h"
 #include "media/SizeText.h"
 #include "results/DestinationCheck.h"
-#include "wizard/TextHelpers.h"
 
 namespace vantor {
 
@@ -140,7 +141,7 @@ bool typesRefused(CliSession& session, const CliOptions& options) {
         return true;
     }
     if (!session.Check_For_One_Extension_Selection()) {
-        complain(QStringLiteral("\nPlease select atleast one extension type."));
+        complain(kNoTypeChosen);
         return true;
     }
     return false;
@@ -188,9 +189,8 @@ void tellSaving(const CliSession& session, const CliOptions& options) {
 }
 
 // False after saying why the report could not be written.
-bool writeReport(const CliSession& session, const CliOptions& options, ReportHead head) {
-    static const char* const kModes[] = {"photos", "videos", "files"};
-    head.mode = QLatin1String(kModes[options.mode]);
+bool writeReportOf(const CliSession& session, const CliOptions& options, ReportHead head) {
+    head.mode = wordsForMode(options.mode);
     head.ended = QDateTime::currentDateTime();
     head.searchEnded = session.lastOutcome() == PassOutcome::Completed;
     const WrittenReport written =
@@ -219,6 +219,30 @@ int exitCodeOf(const CliSession& session) {
             break;
     }
     return kExitReadError;
+}
+
+// All that there is to say of an ended search; the exit code.
+int tell(CliSession& session, const CliOptions& options, const ReportHead& head) {
+    for (const QString& alert : session.alerts()) {
+        complain(alert);
+    }
+    if (options.listJson) {
+        printJson(session);
+    } else {
+        printTable(session);
+    }
+    if (!options.saveFolder.isEmpty()) {
+        tellSaving(session, options);
+    }
+    if (options.report && !writeReportOf(session, options, head)) {
+        return kExitDestinationTrouble;
+    }
+    // A list that a full disk cut short looks complete to a script.
+    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+        complain(QStringLiteral("What was found cannot be written to the standard output."));
+        return kExitDestinationTrouble;
+    }
+    return exitCodeOf(session);
 }
 
 }  // namespace
@@ -257,26 +281,7 @@ int recover(const CliOptions& options) {
         }
         runBesideEvents([&session] { session.run(); });
     }
-    for (const QString& alert : session.alerts()) {
-        complain(alert);
-    }
-    if (options.listJson) {
-        printJson(session);
-    } else {
-        printTable(session);
-    }
-    if (!options.saveFolder.isEmpty()) {
-        tellSaving(session, options);
-    }
-    if (options.report && !writeReport(session, options, head)) {
-        return kExitDestinationTrouble;
-    }
-    // A list that a full disk cut short looks complete to a script.
-    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
-        complain(QStringLiteral("What was found cannot be written to the standard output."));
-        return kExitDestinationTrouble;
-    }
-    return exitCodeOf(session);
+    return tell(session, options, head);
 }
 
 }  // namespace vantor

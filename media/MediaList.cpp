@@ -2,8 +2,8 @@
 #include "media/MediaList.h"
 
 #include "catalogue/NumberText.h"
+#include "catalogue/TextHelpers.h"
 #include "media/SizeText.h"
-#include "wizard/TextHelpers.h"
 
 namespace vantor {
 

@@ -13,7 +13,6 @@ namespace vantor {
 
 namespace {
 
-const QString kNone = QStringLiteral("<None>");
 const QString kFirstSector = QStringLiteral("0");
 
 template <class Widgets>
@@ -50,7 +49,7 @@ void RangePanel::fill(const MyDataObject& medium) {
 
 void RangePanel::clear() {
     for (QLabel* value : m_outlets.values) {
-        value->setText(kNone);
+        value->setText(kNoFact);
     }
 }
 

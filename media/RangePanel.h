@@ -16,6 +16,9 @@ namespace vantor {
 class MyDataObject;
 class SectorSlider;
 
+// What a fact says while there is no medium.
+inline const QString kNoFact = QStringLiteral("<None>");
+
 // One end of the range: its text field and the slider beside it.
 struct RangeEnd {
     QLineEdit* value = nullptr;
@@ -46,7 +49,7 @@ class RangePanel {
     void setCaptions();
     // Facts, sliders and texts of the medium; entire disk on, no destination.
     void fill(const MyDataObject& medium);
-    // "<None>" in all facts.
+    // kNoFact in all facts.
     void clear();
 
     void chooseEntireDisk();

@@ -8,16 +8,12 @@ namespace {
 
 const QString kEntireDiskHelp = QStringLiteral(
     "If ‘Entire Disk’ option is selected, Vantor Recovery searches lost data in the entire storage of "
-    "selected disk. If "
-    "you want to perform within a specific sector range or in specific partition, please select other "
-    "searching criteria. "
-    "Else press ‘Next’ button to start searching data in Entire disk.");
+    "selected disk. If you want to perform within a specific sector range or in specific partition, please "
+    "select other searching criteria. Else press ‘Next’ button to start searching data in Entire disk.");
 const QString kSectorRangeHelp = QStringLiteral(
     "‘Sector Range’ option provides facility to specify the range of start and end sector of storage media "
-    "within which "
-    "you want to perform searching for lost data. Please drag knob of Slider to enter sector range or you "
-    "can also enter "
-    "these values in Start Sector and End Sector fields manually.");
+    "within which you want to perform searching for lost data. Please drag knob of Slider to enter sector "
+    "range or you can also enter these values in Start Sector and End Sector fields manually.");
 
 }  // namespace
 

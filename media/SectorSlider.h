@@ -16,7 +16,6 @@ class SectorSlider : public QSlider {
 
     // The way from 0 to `sectors`; the knob is put at 0.
     void setSectors(double sectors);
-    double maxValue() const { return m_sectors; }
 
     double doubleValue() const;
     void setDoubleValue(double sector);

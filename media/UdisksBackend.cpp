@@ -16,9 +16,6 @@ constexpr auto kPatience = 3s;
 constexpr auto kSettleTime = 200ms;
 constexpr auto kRetryTime = 5s;
 
-const QString kService = QStringLiteral("org.freedesktop.UDisks2");
-const QString kManagerPath = QStringLiteral("/org/freedesktop/UDisks2");
-
 }  // namespace
 
 UdisksBackend::UdisksBackend(const QString& busAddress, const QString& root)
@@ -81,16 +78,16 @@ void UdisksBackend::listen() {
     m_listeningOn = bus.name();
     const QString any;
     for (const char* signal : {"InterfacesAdded", "InterfacesRemoved"}) {
-        bus.connect(any, kManagerPath, QStringLiteral("org.freedesktop.DBus.ObjectManager"),
+        bus.connect(any, kUdisksPath, QStringLiteral("org.freedesktop.DBus.ObjectManager"),
                     QLatin1String(signal), this, SLOT(onSignal()));
     }
     for (const char* interface : {"Block", "Drive", "Filesystem", "Partition", "PartitionTable"}) {
         bus.connect(any, any, QStringLiteral("org.freedesktop.DBus.Properties"),
-                    QStringLiteral("PropertiesChanged"), {kService + u'.' + QLatin1String(interface)}, any,
-                    this, SLOT(onSignal()));
+                    QStringLiteral("PropertiesChanged"), {kUdisksService + u'.' + QLatin1String(interface)},
+                    any, this, SLOT(onSignal()));
     }
     bus.connect(any, QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
-                QStringLiteral("NameOwnerChanged"), {kService}, any, this, SLOT(onSignal()));
+                QStringLiteral("NameOwnerChanged"), {kUdisksService}, any, this, SLOT(onSignal()));
     bus.connect(any, QStringLiteral("/org/freedesktop/DBus/Local"),
                 QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
                 SLOT(onSignal()));

@@ -21,9 +21,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-const QString kService = QStringLiteral("org.freedesktop.UDisks2");
-const QString kManagerPath = QStringLiteral("/org/freedesktop/UDisks2");
-
 constexpr int kObjectsTimeoutMs = 30'000;
 constexpr auto kConsentTime = 10min;  // longer than anybody takes to type a password
 
@@ -136,7 +133,7 @@ QDBusConnection UdisksBus::connection() const {
 }
 
 QDBusPendingCall UdisksBus::askForObjects() const {
-    const auto message = QDBusMessage::createMethodCall(kService, kManagerPath,
+    const auto message = QDBusMessage::createMethodCall(kUdisksService, kUdisksPath,
                                                         QStringLiteral("org.freedesktop.DBus.ObjectManager"),
                                                         QStringLiteral("GetManagedObjects"));
     return connection().asyncCall(message, kObjectsTimeoutMs);
@@ -161,7 +158,7 @@ std::optional<UdisksObjects> UdisksBus::objectsIn(const QDBusMessage& answer) {
 }
 
 FileDescriptor UdisksBus::openDevice(const QString& node, const StopRequest& stop) const {
-    QDBusMessage message = QDBusMessage::createMethodCall(kService, udisksObjectPath(node),
+    QDBusMessage message = QDBusMessage::createMethodCall(kUdisksService, udisksObjectPath(node),
                                                           QStringLiteral("org.freedesktop.UDisks2.Block"),
                                                           QStringLiteral("OpenDevice"));
     message.setArguments({QStringLiteral("r"), QVariantMap()});

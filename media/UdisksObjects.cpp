@@ -175,7 +175,7 @@ QList<MediumRecord> udisksMedia(const UdisksObjects& objects) {
 }
 
 QString udisksObjectPath(const QString& node) {
-    QString path = QStringLiteral("/org/freedesktop/UDisks2/block_devices/");
+    QString path = kUdisksPath + QStringLiteral("/block_devices/");
     for (const char c : QFileInfo(node).fileName().toUtf8()) {
         const bool plain = (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
         path += plain

@@ -10,6 +10,9 @@
 
 namespace vantor {
 
+inline const QString kUdisksService = QStringLiteral("org.freedesktop.UDisks2");
+inline const QString kUdisksPath = QStringLiteral("/org/freedesktop/UDisks2");  // of its manager
+
 // Object path -> interface -> properties, as org.freedesktop.UDisks2 manages them. Object paths among the
 // values are strings, arrays of byte arrays are QByteArrayList.
 using UdisksInterfaces = QMap<QString, QVariantMap>;

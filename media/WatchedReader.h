@@ -12,7 +12,6 @@ namespace vantor {
 // Shared between the reading thread and whoever watches it.
 struct ReadWatch {
     std::atomic<std::uint64_t> sectorsRead{0};
-    std::atomic<std::uint64_t> sectorsRefused{0};
     std::atomic<bool> ended{false};  // every read from now on is refused
 };
 
@@ -46,10 +45,7 @@ class WatchedReader final : public SectorReader {
     bool moveTo(std::uint64_t sector) override { return !wasEnded() && m_medium.seek(sector); }
 
   private:
-    bool refused() {
-        ++m_watch.sectorsRefused;
-        return false;
-    }
+    bool refused() { return false; }
 
     SectorReader& m_medium;
     ReadWatch& m_watch;

@@ -2,6 +2,7 @@
 #include <QLocale>
 
 #include "app/MyTableController.h"
+#include "results/SaveSummary.h"
 
 namespace vantor {
 
@@ -110,7 +111,7 @@ void MyTableController::showItemCounts() {
         if (selected > 0) {
             return tr("%1 of %2 selected").arg(QLocale().toString(selected), QLocale().toString(shown));
         }
-        const QString count = found == 1 ? tr("1 item") : tr("%1 items").arg(QLocale().toString(found));
+        const QString count = countOfItems(static_cast<std::uint64_t>(found));
         return m_looks->isPlain() ? count : tr("%1 of %2").arg(QLocale().toString(shown), count);
     };
     photoCountLabel->setText(words(imageBrowser));

@@ -4,11 +4,10 @@
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <optional>
 
+#include "results/FreeSpace.h"
 #include "results/WholeDisks.h"
 
 namespace vantor {
@@ -56,12 +55,7 @@ bool destinationIsOnMedium(const QString& folder, const QString& mediumPath) {
     if (!medium || !S_ISBLK(medium->st_mode)) {
         return false;
     }
-    QString existing = QDir(folder).absolutePath();
-    auto place = statOf(existing);
-    while (!place && existing != u"/") {
-        existing = QFileInfo(existing).path();
-        place = statOf(existing);
-    }
+    const auto place = statOf(nearestFolder(folder));
     if (!place) {
         return false;
     }

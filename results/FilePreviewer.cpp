@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "catalogue/FileKind.h"
 #include "results/ResultRow.h"
 #include "results/TextPicture.h"
 

@@ -2,14 +2,19 @@
 // process.
 #pragma once
 
+#include <QImage>
+#include <QString>
+#include <functional>
 #include <memory>
 
 #include "decode/DecodePool.h"
 #include "decode/MovieReader.h"
 #include "results/DesktopThumbnailers.h"
-#include "results/PicturePreview.h"
 
 namespace vantor {
+
+// A picture of the file no larger than the size; null when there is none. Any one thread.
+using PicturePreviewer = std::function<QImage(const QString& file, QSize largest)>;
 
 // Pictures as they are, movies by their first frame, sound by its cover, documents and archives as the
 // desktop's thumbnail programs show them, text as a page of its first lines. Any thread.

@@ -11,16 +11,17 @@
 
 namespace vantor {
 
-std::optional<std::uint64_t> freeBytesAt(const QString& folder) {
+QString nearestFolder(const QString& folder) {
     QString existing = QDir(folder).absolutePath();
-    struct statvfs info {};
-    while (::statvfs(QFile::encodeName(existing).constData(), &info) != 0) {
-        if (existing == u"/") {
-            return std::nullopt;
-        }
+    while (!QFileInfo::exists(existing) && existing != u"/") {
         existing = QFileInfo(existing).path();
     }
-    if (info.f_blocks == 0) {
+    return existing;
+}
+
+std::optional<std::uint64_t> freeBytesAt(const QString& folder) {
+    struct statvfs info {};
+    if (::statvfs(QFile::encodeName(nearestFolder(folder)).constData(), &info) != 0 || info.f_blocks == 0) {
         return std::nullopt;
     }
     return static_cast<std::uint64_t>(info.f_bavail) * info.f_frsize;

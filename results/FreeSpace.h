@@ -7,8 +7,10 @@
 
 namespace vantor {
 
-// Bytes that may still be written into the folder (or, while it does not exist, into the nearest folder above
-// it); nothing when the file system does not tell.
+// The folder itself, or while it does not exist the nearest one above it that does.
+QString nearestFolder(const QString& folder);
+
+// Bytes that may still be written into the nearest folder; nothing when the file system does not tell.
 std::optional<std::uint64_t> freeBytesAt(const QString& folder);
 
 // A sentence for the user when so many bytes do not fit there.

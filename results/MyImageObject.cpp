@@ -2,6 +2,7 @@
 #include "results/MyImageObject.h"
 
 #include "results/RecoveryMode.h"
+#include "results/ResultRow.h"
 
 namespace vantor {
 
@@ -54,6 +55,10 @@ QVariant MyImageObject::valueForKey(const QString& key) const {
         return m_path;
     }
     return {};
+}
+
+QString MyImageObject::fileType() const {
+    return m_type.isEmpty() ? pathExtension(m_image_Name) : m_type;
 }
 
 }  // namespace vantor

@@ -58,6 +58,8 @@ class MyImageObject {
 
     // Type name (`Ext_Name`) and the sectors really read, for saving; empty for items that are files already.
     const QString& type() const { return m_type; }
+    // The same, or the extension of a name without a type.
+    QString fileType() const;
     const CarvedRun& carved() const { return m_carved; }
     // As the scan published them; after a failed read they are not the ones really read.
     const SectorRun& publishedSectors() const { return m_published; }

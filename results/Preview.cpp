@@ -3,7 +3,9 @@
 #include <QFileInfo>
 
 #include "app/MyTableController.h"
+#include "catalogue/FileKind.h"
 #include "catalogue/NumberText.h"
+#include "results/DocumentFrame.h"
 #include "results/MovieControls.h"
 #include "results/PreviewFile.h"
 #include "results/RecoveryMode.h"
@@ -60,16 +62,16 @@ void MyTableController::CreateFile_QuickLook_View(const QVariantList& item) {
     request->newFile = previewFilePath(m_previewFolder, path);
     request->start = sectorThroughText(item.at(1));
     request->end = sectorThroughText(item.at(2));
-    const auto result = std::make_shared<PreviewFileResult>();
+    const auto mediumOpened = std::make_shared<bool>(false);
 
     session = true;
     {
         const SheetSession sheet(ClearPreview_Window, controlPanel, exitButton);
-        runBeside([this, request, result] { *result = makePreviewFile(*request, stop_now); });
+        runBeside([this, request, mediumOpened] { *mediumOpened = makePreviewFile(*request, stop_now); });
         if (m_ending) {
             return;
         }
-        if (result->mediumOpened) {
+        if (*mediumOpened) {
             Preview_Temp_File = request->newFile;
         }
         QuickLook_Preview_Thread(path);

@@ -9,20 +9,12 @@
 
 namespace vantor {
 
-enum class PreviewCopyEnd { Done, Stopped, WriteFailed };
-
-struct PreviewCopyResult {
-    PreviewCopyEnd end = PreviewCopyEnd::Done;
-    std::uint64_t sectorsWritten = 0;
-    std::uint64_t readsFailed = 0;
-};
-
 // Hands the sectors [start, end) of a medium that was just opened to `write`, 512 bytes each, in order. A
 // sector that cannot be read becomes the bytes of the last good one (zeros before the first), and the reads
 // after it lag one sector behind, as the scans do. Stops when `stop_now` is 1 before a sector or when `write`
 // returns false.
-PreviewCopyResult copyPreviewSectors(SectorReader& medium, std::uint64_t start, std::uint64_t end,
-                                     const std::atomic<int>& stop_now,
-                                     const std::function<bool(const std::uint8_t* sector)>& write);
+void copyPreviewSectors(SectorReader& medium, std::uint64_t start, std::uint64_t end,
+                        const std::atomic<int>& stop_now,
+                        const std::function<bool(const std::uint8_t* sector)>& write);
 
 }  // namespace vantor

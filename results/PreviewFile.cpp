@@ -30,23 +30,19 @@ void removeIfDeletable(const QString& path) {
 
 }  // namespace
 
-PreviewFileResult makePreviewFile(const PreviewFileRequest& request, const std::atomic<int>& stop_now) {
-    PreviewFileResult result;
+bool makePreviewFile(const PreviewFileRequest& request, const std::atomic<int>& stop_now) {
     const std::unique_ptr<SectorReader> medium = request.openMedium ? request.openMedium() : nullptr;
     if (!medium) {
-        return result;
+        return false;
     }
-    result.mediumOpened = true;
     removeIfDeletable(request.previousFile);
     QFile file(request.newFile);
-    if (!file.open(QIODevice::ReadWrite | QIODevice::Truncate)) {
-        return result;
+    if (file.open(QIODevice::ReadWrite | QIODevice::Truncate)) {
+        copyPreviewSectors(*medium, request.start, request.end, stop_now, [&](const std::uint8_t* sector) {
+            return file.write(reinterpret_cast<const char*>(sector), kSectorBytes) == kSectorBytes;
+        });
     }
-    result.fileMade = true;
-    copyPreviewSectors(*medium, request.start, request.end, stop_now, [&file](const std::uint8_t* sector) {
-        return file.write(reinterpret_cast<const char*>(sector), kSectorBytes) == kSectorBytes;
-    });
-    return result;
+    return true;
 }
 
 QString previewFilePath(const QString& folder, const QString& itemPath) {

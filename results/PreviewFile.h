@@ -19,14 +19,10 @@ struct PreviewFileRequest {
     std::uint64_t end = 0;
 };
 
-struct PreviewFileResult {
-    bool mediumOpened = false;  // false: the previous file is still there and nothing was made
-    bool fileMade = false;
-};
-
-// Deletes the previous preview file and copies the sectors into the new one. Any thread; ends early when
-// stop_now is 1.
-PreviewFileResult makePreviewFile(const PreviewFileRequest& request, const std::atomic<int>& stop_now);
+// Deletes the previous preview file and copies the sectors into the new one; false when the medium cannot be
+// opened: then the previous file is still there and nothing was made. Any thread; ends early when stop_now
+// is 1.
+bool makePreviewFile(const PreviewFileRequest& request, const std::atomic<int>& stop_now);
 
 // Where preview files of the item are kept: `folder`/dprv.ext; without an extension, `folder`/dprv.
 QString previewFilePath(const QString& folder, const QString& itemPath);

@@ -5,6 +5,7 @@
 #include <QMap>
 #include <QUrl>
 
+#include "results/RecoveryMode.h"
 #include "results/SaveTally.h"
 #include "results/SizeForPeople.h"
 #include "results/WholeFile.h"
@@ -226,17 +227,15 @@ void csvTo(const Pieces& add, const ReportHead& head, const std::vector<Reported
 
 }  // namespace
 
-QByteArray reportHtml(const ReportHead& head, const std::vector<ReportedItem>& items, const QString& folder,
-                      const ReportThumbnail& thumbnail) {
-    QByteArray html;
-    htmlTo([&html](const QByteArray& piece) { html += piece; }, head, items, folder, thumbnail);
-    return html;
-}
-
-QByteArray reportCsv(const ReportHead& head, const std::vector<ReportedItem>& items, const QString& folder) {
-    QByteArray csv;
-    csvTo([&csv](const QByteArray& piece) { csv += piece; }, head, items, folder);
-    return csv;
+QString wordsForMode(int mode) {
+    switch (mode) {
+        case kVideoMode:
+            return QStringLiteral("videos");
+        case kRawFileMode:
+            return QStringLiteral("files");
+        default:
+            return QStringLiteral("photos");
+    }
 }
 
 WrittenReport writeReport(const QString& folder, const ReportHead& head,

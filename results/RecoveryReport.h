@@ -29,13 +29,11 @@ struct ReportHead {
     bool searchEnded = true;  // false: stopped, or the medium could not be read to its end
 };
 
+// What a mode searches for: "photos", "videos" or "files".
+QString wordsForMode(int mode);
+
 // An encoded picture (JPEG or PNG) of a saved item, or nothing. Called for each item that was saved.
 using ReportThumbnail = std::function<QByteArray(const ReportedItem&)>;
-
-QByteArray reportHtml(const ReportHead& head, const std::vector<ReportedItem>& items, const QString& folder,
-                      const ReportThumbnail& thumbnail = {});
-// RFC 4180, UTF-8, with a line of column names.
-QByteArray reportCsv(const ReportHead& head, const std::vector<ReportedItem>& items, const QString& folder);
 
 struct WrittenReport {
     QString html;   // path
@@ -43,7 +41,8 @@ struct WrittenReport {
     QString error;  // a sentence for the user when one of them could not be written
 };
 
-// Writes "Recovery report.html" and "Recovery report.csv" into the folder; replaces nothing.
+// Writes "Recovery report.html" and "Recovery report.csv" (RFC 4180, UTF-8, with a line of column names) into
+// the folder; replaces nothing.
 WrittenReport writeReport(const QString& folder, const ReportHead& head,
                           const std::vector<ReportedItem>& items, const ReportThumbnail& thumbnail = {});
 

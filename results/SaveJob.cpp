@@ -6,17 +6,8 @@
 
 #include "results/ItemSaver.h"
 #include "results/MyImageObject.h"
-#include "results/ResultRow.h"
 
 namespace vantor {
-
-namespace {
-
-QString typeOf(const MyImageObject& item) {
-    return item.type().isEmpty() ? pathExtension(item.imageTitle()) : item.type();
-}
-
-}  // namespace
 
 std::uint64_t foundSectors(const MyImageObject& item) {
     return item.carved().sectors();
@@ -60,7 +51,7 @@ void SaveJob::saveAll(SectorReader& medium) {
             m_watch.sectorsRead = 0;
         }
         WatchedReader watched(medium, m_watch);
-        FoundItem found{typeOf(item),
+        FoundItem found{item.fileType(),
                         item.imageTitle(),
                         {item.carved(), {}, [&watched] { return &watched; }, medium.mediumSectors()},
                         &m_watch.ended};

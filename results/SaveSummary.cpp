@@ -17,17 +17,7 @@ QString number(std::uint64_t count) {
 
 // "Of these, 10 are complete, 2 are cut off."
 QString soundnessLine(const SaveTally& tally) {
-    QStringList kinds;
-    const auto kind = [&kinds](std::uint64_t count, const QString& text) {
-        if (count > 0) {
-            kinds << QObject::tr("%1 %2").arg(number(count), text);
-        }
-    };
-    kind(tally.complete, QObject::tr("complete"));
-    kind(tally.cutOff, QObject::tr("cut off"));
-    kind(tally.damaged, QObject::tr("damaged"));
-    kind(tally.unknownLength, QObject::tr("of unknown length"));
-    return QObject::tr("Of these: %1.").arg(kinds.join(QObject::tr(", ")));
+    return QObject::tr("Of these: %1.").arg(tally.bySoundness(QLocale()).join(QStringLiteral(", ")));
 }
 
 QStringList failureLines(const SaveTally& tally) {

@@ -39,22 +39,28 @@ void SaveTally::add(const QString& name, const SaveOutcome& outcome) {
     }
 }
 
-QStringList SaveTally::lines(const QString& destination) const {
+QStringList SaveTally::bySoundness(const QLocale& locale) const {
+    const std::pair<std::uint64_t, Verdict> counts[] = {{complete, Verdict::Complete},
+                                                        {cutOff, Verdict::CutOff},
+                                                        {damaged, Verdict::Damaged},
+                                                        {unknownLength, Verdict::Unknown}};
     QStringList kinds;
-    const auto kind = [&kinds](std::uint64_t count, const char* text) {
+    for (const auto& [count, verdict] : counts) {
         if (count != 0) {
-            kinds.append(QStringLiteral("%1 %2").arg(count).arg(QLatin1String(text)));
+            kinds.append(
+                QStringLiteral("%1 %2").arg(locale.toString(qulonglong{count}), soundnessWords(verdict)));
         }
-    };
-    kind(complete, "complete");
-    kind(cutOff, "cut off");
-    kind(damaged, "damaged");
-    kind(unknownLength, "of unknown length");
+    }
+    return kinds;
+}
+
+QStringList SaveTally::lines(const QString& destination) const {
     QStringList lines;
     QString first = QStringLiteral("%1 saved in %2").arg(saved).arg(destination);
     if (saved != 0) {
         first += QStringLiteral(" (%1): %2")
-                     .arg(sizeForPeople(bytes, QLocale::c()), kinds.join(QStringLiteral(", ")));
+                     .arg(sizeForPeople(bytes, QLocale::c()),
+                          bySoundness(QLocale::c()).join(QStringLiteral(", ")));
     }
     lines.append(first);
     const auto line = [&lines](std::uint64_t count, const char* text) {
@@ -81,6 +87,10 @@ QString soundnessText(Verdict verdict) {
             break;
     }
     return QStringLiteral("unknown");
+}
+
+QString soundnessWords(Verdict verdict) {
+    return verdict == Verdict::Unknown ? QStringLiteral("of unknown length") : soundnessText(verdict);
 }
 
 }  // namespace vantor

@@ -1,6 +1,7 @@
 // What became of the found items, counted for the summary at the end.
 #pragma once
 
+#include <QLocale>
 #include <QString>
 #include <QStringList>
 #include <cstdint>
@@ -29,11 +30,15 @@ struct SaveTally {
 
     void add(const QString& name, const SaveOutcome& outcome);
 
+    // How many of the saved are how sound: "10 complete", "2 cut off", ...
+    QStringList bySoundness(const QLocale& locale) const;
     // "12 saved in /out (3.4 MB): 10 complete, 2 cut off", and a line for each thing left out.
     QStringList lines(const QString& destination) const;
 };
 
-// "complete", "cut off", "damaged" or "unknown".
+// "complete", "cut off", "damaged" or "unknown", for machines.
 QString soundnessText(Verdict verdict);
+// The same for people: what is unknown is the length.
+QString soundnessWords(Verdict verdict);
 
 }  // namespace vantor

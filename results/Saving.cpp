@@ -7,21 +7,6 @@
 
 namespace vantor {
 
-namespace {
-
-QString wordsForMode() {
-    switch (Recovery_MODE.load()) {
-        case kVideoMode:
-            return QStringLiteral("videos");
-        case kRawFileMode:
-            return QStringLiteral("files");
-        default:
-            return QStringLiteral("photos");
-    }
-}
-
-}  // namespace
-
 SavingParts MyTableController::savingParts() {
     SavingParts parts;
     parts.window = window;
@@ -53,7 +38,7 @@ void MyTableController::saveAll() {
 }
 
 void MyTableController::askSavingOptions() {
-    if (m_savingOptions->ask(m_desk->choices())) {
+    if (m_panels->savingOptions.ask(m_desk->choices())) {
         showItemCounts();
     }
 }
@@ -82,7 +67,7 @@ ReportHead MyTableController::reportHead() const {
     const QString name = (Recovery_MODE == kPhotoMode ? _vol_name_val : _vol_name_val_Sig)->text();
     head.medium = QStringLiteral("%1 (%2)").arg(name, _disk_identifier->text());
     head.sectors = _sectors_val->text().toULongLong();
-    head.mode = wordsForMode();
+    head.mode = wordsForMode(Recovery_MODE);
     head.begun = m_scanBegun;
     head.searchEnded = !scanRunning() && lastOutcome() == PassOutcome::Completed;
     return head;

@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include "results/MediumBytes.h"
+#include "results/SaveTally.h"
 #include "results/SizeForPeople.h"
 #include "results/TrueLength.h"
 
@@ -13,20 +14,7 @@ namespace vantor {
 namespace {
 
 QString words(const Soundness& soundness) {
-    if (soundness.notOfItsType) {
-        return QObject::tr("no file of its type");
-    }
-    switch (soundness.verdict) {
-        case Verdict::Complete:
-            return QObject::tr("complete");
-        case Verdict::CutOff:
-            return QObject::tr("cut off");
-        case Verdict::Damaged:
-            return QObject::tr("damaged");
-        case Verdict::Unknown:
-            break;
-    }
-    return QObject::tr("of unknown length");
+    return soundness.notOfItsType ? QObject::tr("no file of its type") : soundnessWords(soundness.verdict);
 }
 
 }  // namespace

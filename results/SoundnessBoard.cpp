@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "results/MyImageObject.h"
-#include "results/ResultRow.h"
 
 namespace vantor {
 
@@ -199,9 +198,8 @@ std::optional<Soundness> SoundnessBoard::look(const MyImageObject& item, Turn& t
     if (item.carved().runs.empty()) {
         return Soundness{};
     }
-    const QString type = item.type().isEmpty() ? pathExtension(item.imageTitle()) : item.type();
     const std::uint64_t readBefore = m_watch.sectorsRead;
-    const auto found = examine(type, item.carved(), *turn.medium, m_watch, turn.kept);
+    const auto found = examine(item.fileType(), item.carved(), *turn.medium, m_watch, turn.kept);
     if (turn.kept.capacity() > kMostKeptMemory) {
         turn.kept = {};
     }

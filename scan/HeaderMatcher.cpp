@@ -18,8 +18,6 @@ namespace vantor {
 namespace {
 
 constexpr std::int64_t kSector = static_cast<std::int64_t>(kSectorBytes);
-// A numeric rule is honoured up to this start byte (counted from 0).
-constexpr std::int64_t kLastNumericStart = 506;
 constexpr std::size_t kMaxKeyBytes = 4;
 // A start byte with at most so many keys is compared rather than looked up.
 constexpr std::size_t kMostRareKeys = 3;
@@ -71,7 +69,7 @@ HeaderMatcher::HeaderMatcher(const QStringList& records) {
             m_narrowFirstByte[header.front()] = true;
         } else {
             const std::int64_t start = rule == u"1" ? 0 : static_cast<std::int64_t>(textToInt32(rule)) - 1;
-            if (start < 0 || start > kLastNumericStart || start + length > kSector) {
+            if (start < 0 || start >= kLastNumericOffset || start + length > kSector) {
                 continue;
             }
             fixedHeaders.push_back(

@@ -6,10 +6,10 @@
 
 #include "catalogue/NumberText.h"
 #include "catalogue/SignatureRecord.h"
+#include "catalogue/TextHelpers.h"
 #include "scan/HeaderMatcher.h"
 #include "scan/ReferenceSector.h"
 #include "scan/ScanSession.h"
-#include "wizard/TextHelpers.h"
 
 namespace vantor {
 

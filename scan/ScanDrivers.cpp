@@ -1,7 +1,7 @@
 // Which passes run, what a tick shows, and how a scan ends.
+#include "catalogue/TextHelpers.h"
 #include "scan/ProgressText.h"
 #include "scan/ScanSession.h"
-#include "wizard/TextHelpers.h"
 
 namespace vantor {
 

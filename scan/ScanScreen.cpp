@@ -2,6 +2,7 @@
 #include <QThread>
 
 #include "app/MyTableController.h"
+#include "catalogue/FileKind.h"
 #include "wizard/Alerts.h"
 #include "wizard/Theme.h"
 
@@ -198,9 +199,9 @@ void MyTableController::hideScanProgress() {
 
 void MyTableController::runEndPanel(ControlSet set) {
     if (set == ControlSet::Photo) {
-        m_saveFileInfo->runModalForWindow();
+        m_panels->saveFileInfo.runModalForWindow();
     } else {
-        m_saveFileInfoForRaw->runModalForWindow();
+        m_panels->saveFileInfoForRaw.runModalForWindow();
     }
 }
 

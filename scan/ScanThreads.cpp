@@ -1,6 +1,7 @@
 // Start, ticks, stop and end of the two threads of a scan.
 
 #include "app/MyTableController.h"
+#include "catalogue/FileKind.h"
 #include "catalogue/SignatureRecord.h"
 #include "results/RecoveryMode.h"
 

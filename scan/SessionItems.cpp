@@ -2,8 +2,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "catalogue/TextHelpers.h"
 #include "scan/ScanSession.h"
-#include "wizard/TextHelpers.h"
 
 namespace vantor {
 

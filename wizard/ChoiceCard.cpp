@@ -13,6 +13,7 @@ namespace {
 
 constexpr int kMargin = 2 * theme::kUnit;
 constexpr int kPicture = 5 * theme::kUnit;
+constexpr int kBelowTitle = 4;
 constexpr int kPreferredWidth = 280;
 constexpr int kSmallestWidth = 176;
 constexpr qreal kRadius = theme::kUnit;
@@ -41,12 +42,13 @@ void ChoiceCard::setExplanation(const QString& explanation) {
 
 QRect ChoiceCard::wordsRect(int width) const {
     const int left = kMargin + kPicture + kMargin;
-    return QRect(left, kMargin, std::max(1, width - left - kMargin), 10000);
+    return QRect(left, kMargin, std::max(1, width - left - kMargin), theme::kAnyHeight);
 }
 
 int ChoiceCard::heightOfWords(int width) const {
     const int title = QFontMetrics(titleFont(font())).height();
-    return title + 4 + fontMetrics().boundingRect(wordsRect(width), Qt::TextWordWrap, m_explanation).height();
+    return title + kBelowTitle +
+           fontMetrics().boundingRect(wordsRect(width), Qt::TextWordWrap, m_explanation).height();
 }
 
 int ChoiceCard::heightForWidth(int width) const {
@@ -94,7 +96,7 @@ void ChoiceCard::paintEvent(QPaintEvent*) {
     painter.setFont(titleFont(font()));
     painter.setPen(isEnabled() ? theme::kInk : theme::kDisabledInk);
     painter.drawText(words, Qt::TextShowMnemonic, text());
-    words.setTop(words.top() + painter.fontMetrics().height() + 4);
+    words.setTop(words.top() + painter.fontMetrics().height() + kBelowTitle);
     painter.setFont(font());
     painter.setPen(isEnabled() ? theme::kQuietInk : theme::kDisabledInk);
     painter.drawText(words, Qt::TextWordWrap, m_explanation);

@@ -21,7 +21,7 @@ void paintEmptyState(QWidget* viewport, const QIcon& picture, const QString& tit
     QFont titleFont = viewport->font();
     titleFont.setWeight(QFont::DemiBold);
     const int width = std::min(viewport->width() - 4 * theme::kUnit, kWidestText);
-    const QRect line((viewport->width() - width) / 2, 0, width, 10000);
+    const QRect line((viewport->width() - width) / 2, 0, width, theme::kAnyHeight);
     const int titleHeight = QFontMetrics(titleFont).boundingRect(line, Qt::TextWordWrap, title).height();
     const int adviceHeight = viewport->fontMetrics().boundingRect(line, Qt::TextWordWrap, advice).height();
     const int words = titleHeight + theme::kUnit / 2 + adviceHeight;

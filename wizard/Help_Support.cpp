@@ -33,7 +33,6 @@ void Help_Support::awakeFromNib() {
     QFont font = _Help_File_Label->font();
     font.setBold(true);
     font.setUnderline(true);
-    _Help_File_Label->setText(_Help_File_Label->text());
     _Help_File_Label->setFont(font);
     // A style sheet measures its buttons in the font of before.
     _Help_File_Label->setMinimumWidth(QFontMetrics(font).horizontalAdvance(_Help_File_Label->text()) +

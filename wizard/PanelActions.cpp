@@ -7,14 +7,19 @@ namespace vantor {
 
 namespace {
 
+// The code of a folder chooser that was ended by its OK button.
 constexpr int kChosen = 1;
 
-void dressFolderChooser(QFileDialog& chooser) {
-    chooser.setObjectName(QStringLiteral("folderChooser"));
-    chooser.setFileMode(QFileDialog::Directory);
-    chooser.setOption(QFileDialog::ShowDirsOnly);
-    chooser.setAcceptMode(QFileDialog::AcceptOpen);
-}
+class FolderChooser : public QFileDialog {
+  public:
+    FolderChooser(QWidget* parent, const QString& folder)
+        : QFileDialog(parent, QObject::tr("Choose the destination folder"), folder) {
+        setObjectName(QStringLiteral("folderChooser"));
+        setFileMode(Directory);
+        setOption(ShowDirsOnly);
+        setAcceptMode(AcceptOpen);
+    }
+};
 
 }  // namespace
 
@@ -31,11 +36,10 @@ void MyTableController::Browse_Path_Sig(QObject*) {
 }
 
 void MyTableController::browseForDestination() {
-    if (m_browseInfo->runModalForWindow() != kChosen) {
+    if (m_panels->browseInfo.runModalForWindow() != kButtonPressed) {
         return;
     }
-    auto* chooser = new QFileDialog(window, tr("Choose the destination folder"), pathInView()->text());
-    dressFolderChooser(*chooser);
+    auto* chooser = new FolderChooser(window, pathInView()->text());
     chooser->setAttribute(Qt::WA_DeleteOnClose);
     connect(chooser, &QDialog::finished, this, [this, chooser](int result) {
         if (result == QDialog::Accepted && !chooser->selectedFiles().isEmpty()) {
@@ -63,8 +67,7 @@ bool MyTableController::acceptDestination(const QString& folder) {
     if (m_parts.isOnMedium && m_parts.isOnMedium(folder, devicePath())) {
         runAlert({QStringLiteral("\n") + tr("This folder cannot be the destination."),
                   tr("It lies on the storage medium you are recovering from. Writing there would overwrite "
-                     "the files you "
-                     "want back. Choose a folder on another disk.")},
+                     "the files you want back. Choose a folder on another disk.")},
                  window);
         return false;
     }
@@ -75,11 +78,10 @@ bool MyTableController::acceptDestination(const QString& folder) {
 
 // Asks for a destination at once; "" when the user did not choose one.
 QString MyTableController::askDestination() {
-    if (m_browseInfo->runModalForWindow() != kChosen) {
+    if (m_panels->browseInfo.runModalForWindow() != kButtonPressed) {
         return {};
     }
-    QFileDialog chooser(window, tr("Choose the destination folder"), pathInView()->text());
-    dressFolderChooser(chooser);
+    FolderChooser chooser(window, pathInView()->text());
     if (chooser.exec() != QDialog::Accepted || chooser.selectedFiles().isEmpty()) {
         return {};
     }
@@ -94,7 +96,7 @@ void MyTableController::openDestination() {
 }
 
 void MyTableController::Help_btn(QObject*) {
-    m_help->runModalForWindow();
+    m_panels->help.runModalForWindow();
 }
 
 }  // namespace vantor

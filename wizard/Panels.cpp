@@ -16,7 +16,6 @@ namespace vantor {
 
 namespace {
 
-constexpr int kButtonPressed = 1;
 constexpr int kPanelPicture = 6 * theme::kUnit;
 // A sheet has no frame of its own and does not take the keyboard away.
 constexpr Qt::WindowFlags kSheet = Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus;

@@ -7,6 +7,9 @@
 
 namespace vantor {
 
+// The code that a panel's button stops its modal loop with.
+inline constexpr int kButtonPressed = 1;
+
 // What every panel does: it owns its window, gives it the common background and is its delegate. Interface
 // thread only.
 class Panel : public QObject {

@@ -7,7 +7,6 @@ namespace vantor {
 
 namespace {
 
-constexpr int kButtonPressed = 1;
 constexpr std::uint64_t kKilobyte = 1000;
 
 }  // namespace

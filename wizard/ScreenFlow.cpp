@@ -2,6 +2,7 @@
 #include <QScrollBar>
 
 #include "app/MyTableController.h"
+#include "catalogue/FileTypeList.h"
 #include "results/RecoveryMode.h"
 #include "wizard/Alerts.h"
 
@@ -14,7 +15,6 @@ const QString kMediaHelp = QStringLiteral(
     "continue... ");
 const QString kFileTypeHelp = QStringLiteral(
     "\nPlease select the required extension type for recovery process. Press ‘Next’ button to continue... ");
-const QString kNone = QStringLiteral("<None>");
 
 constexpr float kPhotoZoom = 0.55F;
 constexpr float kRawZoom = 0.05F;
@@ -37,7 +37,7 @@ ControlSet MyTableController::activeSet() const {
 }
 
 RangePanel& MyTableController::activeRange() {
-    return *m_range[static_cast<std::size_t>(activeSet())];
+    return rangeOf(activeSet());
 }
 
 void MyTableController::Photo_Mode_Radio(QObject*) {
@@ -131,12 +131,13 @@ void MyTableController::nextFromRange() {
 }
 
 void MyTableController::nextFromFileTypes() {
+    // Asked before the catalogues are cut, so that who stays finds all types as they were.
     if (Check_For_One_Extension_Selection() && !mayBeginScan()) {
         return;
     }
     cutCataloguesToTickedTypes();
     if (!Check_For_One_Extension_Selection()) {
-        runAlert({QStringLiteral("\nPlease select atleast one extension type.")}, window);
+        runAlert({kNoTypeChosen}, window);
         idCheckTableView->setFocus();
         return;
     }
@@ -171,9 +172,9 @@ void MyTableController::Back_btn(QObject*) {
 void MyTableController::backToMedia() {
     screen_counter = 0;
     _Search_Type->hide();
-    _help_info->setText(kMediaHelp);
-    _sectors_val->setText(kNone);
-    _disk_identifier->setText(kNone);
+    showMediaHelp();
+    _sectors_val->setText(kNoFact);
+    _disk_identifier->setText(kNoFact);
     for (const auto& range : m_range) {
         range->clear();
     }
@@ -217,6 +218,10 @@ void MyTableController::backToFileTypes() {
     m_desk->forget();
     m_looks->end();
     idCheckTableView->setFocus();
+}
+
+void MyTableController::showMediaHelp() {
+    _help_info->setText(kMediaHelp);
 }
 
 void MyTableController::showRangeHelp() {

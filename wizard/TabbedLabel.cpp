@@ -2,7 +2,7 @@
 #include "wizard/TabbedLabel.h"
 
 #include <QPainter>
-#include <QTextOption>
+#include <algorithm>
 #include <cmath>
 
 namespace vantor {
@@ -13,7 +13,7 @@ int TabbedLabel::tabDistance() const {
         std::floor(fontMetrics().horizontalAdvance(QStringLiteral("Volume Name")) / 3.02));
 }
 
-QSize TabbedLabel::sizeHint() const {
+int TabbedLabel::walk(const std::function<void(int x, const QString& text)>& piece) const {
     const int distance = std::max(1, tabDistance());
     int x = 0;
     const QStringList pieces = text().split(u'\t');
@@ -21,25 +21,22 @@ QSize TabbedLabel::sizeHint() const {
         if (i > 0) {
             x = (x / distance + 1) * distance;
         }
+        piece(x, pieces.at(i));
         x += fontMetrics().horizontalAdvance(pieces.at(i));
     }
-    return {x + 2, fontMetrics().height()};
+    return x;
+}
+
+QSize TabbedLabel::sizeHint() const {
+    return {walk([](int, const QString&) {}) + 2, fontMetrics().height()};
 }
 
 void TabbedLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setPen(palette().color(foregroundRole()));
-    const int distance = std::max(1, tabDistance());
-    int x = 0;
-    const QStringList pieces = text().split(u'\t');
-    for (qsizetype i = 0; i < pieces.size(); ++i) {
-        if (i > 0) {
-            x = (x / distance + 1) * distance;
-        }
-        painter.drawText(QRect(x, 0, width() - x, height()), Qt::AlignVCenter | Qt::TextSingleLine,
-                         pieces.at(i));
-        x += fontMetrics().horizontalAdvance(pieces.at(i));
-    }
+    walk([&](int x, const QString& piece) {
+        painter.drawText(QRect(x, 0, width() - x, height()), Qt::AlignVCenter | Qt::TextSingleLine, piece);
+    });
 }
 
 }  // namespace vantor

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QLabel>
+#include <functional>
 
 namespace vantor {
 
@@ -20,6 +21,8 @@ class TabbedLabel : public QLabel {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    // Calls `piece(x, text)` for what stands between the tabs; gives the place where the last one ends.
+    int walk(const std::function<void(int x, const QString& text)>& piece) const;
     int tabDistance() const;
 };
 

@@ -85,8 +85,6 @@ QVariant TableAdapter::headerData(int section, Qt::Orientation orientation, int 
     switch (role) {
         case Qt::DisplayRole:
             return m_columns.at(section).title;
-        case Qt::UserRole:
-            return m_columns.at(section).identifier;
         case Qt::TextAlignmentRole:
             return m_columns.at(section).rightAligned ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
                                                       : QVariant();

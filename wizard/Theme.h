@@ -25,6 +25,9 @@ inline const QColor kDisabledInk{0x8a, 0x94, 0xa6};
 // One unit of the spacing grid, in pixels before scaling.
 inline constexpr int kUnit = 8;
 
+// The height of a rectangle in which text is measured: more than any text of ours takes.
+inline constexpr int kAnyHeight = 10000;
+
 }  // namespace theme
 
 // The background of the main window and of every panel: red 241/255, green 244/255, blue 250/255, opaque.

@@ -9,6 +9,7 @@
 #include <random>
 #include <thread>
 
+#include "catalogue/FileKind.h"
 #include "results/FilePreviewer.h"
 #include "results/RecoveryMode.h"
 #include "results/ResultRow.h"

@@ -14,17 +14,6 @@ namespace {
 
 constexpr QSize kLargest{200, 200};
 
-QList<QList<QByteArray>> rowsOf(const char* table) {
-    QList<QList<QByteArray>> rows;
-    for (const QByteArray& line :
-         test::bytesOfFile(QStringLiteral(VANTOR_SOURCE_DIR "/tests/") + QLatin1String(table)).split('\n')) {
-        if (!line.isEmpty() && !line.startsWith('#')) {
-            rows.append(line.split('\t'));
-        }
-    }
-    return rows;
-}
-
 class FileGrid : public testing::Test {
   protected:
     void SetUp() override {
@@ -39,7 +28,7 @@ TEST_F(FileGrid, EveryRealFile_IsInATable) {
     for (const auto& [table, folder] : {std::pair("decode/expected_formats.tsv", "photos/"),
                                         std::pair("decode/expected_movies.tsv", "videos/"),
                                         std::pair("app/expected_files.tsv", "files/")}) {
-        for (const QList<QByteArray>& row : rowsOf(table)) {
+        for (const QList<QByteArray>& row : test::tableRows(table)) {
             known.insert(folder + row.at(0));
         }
     }
@@ -74,7 +63,7 @@ TEST_F(FileGrid, RealFiles_AreShownAndHeardAsTheTableSays) {
                : !MovieReader::cover(path, kLargest, movies).isNull() ? "cover"
                                                                       : "page";
     };
-    const QList<QList<QByteArray>> grid = rowsOf("app/expected_files.tsv");
+    const QList<QList<QByteArray>> grid = test::tableRows("app/expected_files.tsv");
     EXPECT_GT(grid.size(), 120);
     for (const QList<QByteArray>& row : grid) {
         ASSERT_EQ(row.size(), 5) << row.at(0).toStdString();

@@ -14,6 +14,7 @@
 
 #include "results/FilePreviewer.h"
 #include "results/TextPicture.h"
+#include "tests/support/CorpusFolder.h"
 
 namespace vantor {
 namespace {
@@ -21,9 +22,7 @@ namespace {
 constexpr QSize kLargest{200, 200};
 
 QString corpusFile(const char* name) {
-    const QString folder =
-        qEnvironmentVariable("VANTOR_CORPUS", QStringLiteral(VANTOR_SOURCE_DIR "/../shared/corpus"));
-    return folder + u'/' + QLatin1String(name);
+    return test::corpusFolder() + u'/' + QLatin1String(name);
 }
 
 class FilePreviewer : public testing::Test {

@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QDir>
 #include <QTest>
 #include <algorithm>
 #include <atomic>
@@ -11,26 +10,21 @@
 #include "results/HelperMovie.h"
 #include "results/PlaybackClock.h"
 #include "tests/app/Played.h"
+#include "tests/support/CorpusFolder.h"
 
 namespace vantor {
 namespace {
 
-QString corpusFolder() {
-    const QString folder =
-        qEnvironmentVariable("VANTOR_CORPUS", QStringLiteral(VANTOR_SOURCE_DIR "/../shared/corpus"));
-    return QDir(folder).exists() ? folder : QString();
-}
-
 class PlayedMovie : public Played {
   protected:
     void SetUp() override {
-        if (corpusFolder().isEmpty()) {
+        if (test::corpusFolder().isEmpty()) {
             GTEST_SKIP() << "no corpus";
         }
         Played::SetUp();
     }
     void openMovie(const char* name = "synth/vp9_opus.webm") {
-        movie = HelperMovie::open(corpusFolder() + QStringLiteral("/videos/") + QLatin1String(name),
+        movie = HelperMovie::open(test::corpusFolder() + QStringLiteral("/videos/") + QLatin1String(name),
                                   {160, 160}, options());
         ASSERT_TRUE(movie);
         movie->onFrame = [this](const QImage& frame) {

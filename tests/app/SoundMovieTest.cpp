@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
-#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
 #include <algorithm>
@@ -10,6 +9,7 @@
 #include "results/SoundMovie.h"
 #include "tests/app/Played.h"
 #include "tests/decode/Tones.h"
+#include "tests/support/CorpusFolder.h"
 
 namespace vantor {
 namespace {
@@ -139,7 +139,7 @@ TEST_F(PlayedSound, WhatIsNoSound_IsNone) {
 // A transport stream without its middle third.
 TEST_F(PlayedSound, AHoleInTheFile_IsSilenceOfItsLength) {
     QFile whole(
-        qEnvironmentVariable("VANTOR_CORPUS", QStringLiteral(VANTOR_SOURCE_DIR "/../shared/corpus")) +
+        test::corpusFolder() +
         QStringLiteral("/videos/ts/media__libraries__test_data__src__test__assets__media__hls__cea608__"
                        "sd-hls0000000000.ts"));
     if (!whole.open(QIODevice::ReadOnly)) {
@@ -156,9 +156,8 @@ TEST_F(PlayedSound, AHoleInTheFile_IsSilenceOfItsLength) {
 }
 
 TEST_F(PlayedSound, AFileWithPictures_IsAMovie_AndOneWithoutIsHeard) {
-    const QString folder =
-        qEnvironmentVariable("VANTOR_CORPUS", QStringLiteral(VANTOR_SOURCE_DIR "/../shared/corpus"));
-    if (!QFileInfo::exists(folder)) {
+    const QString folder = test::corpusFolder();
+    if (folder.isEmpty()) {
         GTEST_SKIP() << "no corpus";
     }
     const auto opened = [&](const char* name) {

@@ -22,7 +22,7 @@ constexpr RecoveryMode kModes[] = {kPhotoMode, kVideoMode, kRawFileMode};
 class Truth : public testing::Test {
   protected:
     void SetUp() override {
-        m_folder = test::corpusFolder();
+        m_folder = test::corpusRoot();
         if (m_folder.empty()) {
             GTEST_SKIP() << "no corpus: set VANTOR_CORPUS";
         }

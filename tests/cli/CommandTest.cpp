@@ -8,13 +8,13 @@
 
 #include <QCryptographicHash>
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QJsonArray>
 #include <QTemporaryDir>
 #include <QThread>
 
 #include "tests/cli/CommandRun.h"
+#include "tests/support/Files.h"
 
 namespace vantor {
 namespace {
@@ -54,16 +54,6 @@ QByteArray sha256Of(const QString& path) {
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
     return QCryptographicHash::hash(file.readAll(), QCryptographicHash::Sha256).toHex();
-}
-
-QStringList filesUnder(const QString& folder) {
-    QStringList files;
-    QDirIterator it(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        files.append(QDir(folder).relativeFilePath(it.next()));
-    }
-    files.sort();
-    return files;
 }
 
 }  // namespace

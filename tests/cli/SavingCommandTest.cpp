@@ -25,7 +25,7 @@ struct CardFile {
 
 QList<CardFile> cardFiles() {
     QList<CardFile> files;
-    const QList<QByteArray> lines = bytesAt(QStringLiteral(VANTOR_SAMPLE_LIST)).split('\n');
+    const QList<QByteArray> lines = contentsOf(QStringLiteral(VANTOR_SAMPLE_LIST)).split('\n');
     for (qsizetype i = 1; i < lines.size(); ++i) {
         const QList<QByteArray> fields = lines[i].split('\t');
         if (fields.size() >= 6) {
@@ -104,13 +104,13 @@ TEST(SavingCommand, SummaryAndReportAgree) {
     const QTemporaryDir folder;
     const CommandRun run = runCommand({"--save", folder.path(), "--report", VANTOR_SAMPLE_CARD});
     ASSERT_EQ(run.exitCode, 0);
-    const QByteArray csv = bytesAt(folder.filePath("Recovery report.csv"));
+    const QByteArray csv = contentsOf(folder.filePath("Recovery report.csv"));
     const auto files = filesUnder(folder.path()).size() - 2;
     EXPECT_EQ(csv.count(",saved,"), files);
     EXPECT_TRUE(run.out.contains(QByteArray::number(files) + " saved in ")) << run.out.right(400).constData();
     EXPECT_TRUE(run.out.contains(" complete"));
     EXPECT_TRUE(run.out.contains("Recovery report.html"));
-    EXPECT_GT(bytesAt(folder.filePath("Recovery report.html")).count("<tr>"), files);
+    EXPECT_GT(contentsOf(folder.filePath("Recovery report.html")).count("<tr>"), files);
 }
 
 TEST(SavingCommand, FiltersAndDates) {
@@ -186,7 +186,7 @@ TEST(SavingCommand, KilledRunLeavesWholeFilesOnly) {
         ASSERT_TRUE(process.waitForFinished(30000));
         for (const QString& file : filesUnder(folder.path())) {
             ++filesSeen;
-            EXPECT_TRUE(whole.contains(Sha256::of(bytesAt(folder.filePath(file))).toHex()))
+            EXPECT_TRUE(whole.contains(Sha256::of(contentsOf(folder.filePath(file))).toHex()))
                 << file.toStdString();
         }
     }

@@ -248,7 +248,7 @@ TEST(DecodePool, Close_FreesACallerAtOnce) {
 
 TEST(DecodePool, DefaultHelper_IsFoundFromTheProgram) {
     int argc = 1;
-    char name[] = VANTOR_BINARY_DIR "/bin/decode_tests";
+    char name[] = VANTOR_BINARY_DIR "/bin/decode_test";
     char* argv[] = {name, nullptr};
     const QCoreApplication application(argc, argv);
     DecodePoolOptions options;

@@ -10,6 +10,7 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QImage>
+#include <QList>
 #include <QPainter>
 #include <QString>
 #include <QStringList>
@@ -19,6 +20,7 @@
 #include <thread>
 
 #include "decode/DecodePool.h"
+#include "tests/support/CorpusFolder.h"
 
 namespace vantor::test {
 
@@ -27,15 +29,6 @@ inline DecodePoolOptions poolOptions(int helpers = 2) {
     options.helper = QStringLiteral(VANTOR_DECODE_HELPER);
     options.helpers = helpers;
     return options;
-}
-
-// The folder of real files; empty when it is not here.
-inline QString corpusFolder() {
-    QString folder = qEnvironmentVariable("VANTOR_CORPUS");
-    if (folder.isEmpty()) {
-        folder = QStringLiteral(VANTOR_SOURCE_DIR "/../shared/corpus");
-    }
-    return QDir(folder).exists() ? QDir::cleanPath(folder) : QString();
 }
 
 inline QStringList filesBelow(const QString& folder) {
@@ -51,6 +44,18 @@ inline QStringList filesBelow(const QString& folder) {
 inline QByteArray bytesOfFile(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// The fields of each line of a table below tests/; lines that begin with # are comments.
+inline QList<QList<QByteArray>> tableRows(const char* table) {
+    QList<QList<QByteArray>> rows;
+    const QByteArray text = bytesOfFile(QStringLiteral(VANTOR_SOURCE_DIR "/tests/") + QLatin1String(table));
+    for (const QByteArray& line : text.split('\n')) {
+        if (!line.isEmpty() && !line.startsWith('#')) {
+            rows.append(line.split('\t'));
+        }
+    }
+    return rows;
 }
 
 // Left half red, right half blue.

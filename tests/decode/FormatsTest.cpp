@@ -23,16 +23,11 @@ struct Expected {
 
 std::vector<Expected> expectedFormats() {
     std::vector<Expected> rows;
-    const QByteArray table =
-        bytesOfFile(QStringLiteral(VANTOR_SOURCE_DIR "/tests/decode/expected_formats.tsv"));
-    for (const QByteArray& line : table.split('\n')) {
-        const QList<QByteArray> fields = line.split('\t');
-        if (fields.size() >= 3 && !line.startsWith('#')) {
-            const auto sizeAt = [&](qsizetype field) {
-                return QSize(fields.value(field).toInt(), fields.value(field + 1).toInt());
-            };
-            rows.push_back({QString::fromUtf8(fields[0]), sizeAt(1), sizeAt(3)});
-        }
+    for (const QList<QByteArray>& fields : tableRows("decode/expected_formats.tsv")) {
+        const auto sizeAt = [&](qsizetype field) {
+            return QSize(fields.value(field).toInt(), fields.value(field + 1).toInt());
+        };
+        rows.push_back({QString::fromUtf8(fields.value(0)), sizeAt(1), sizeAt(3)});
     }
     return rows;
 }

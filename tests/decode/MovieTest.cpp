@@ -36,14 +36,10 @@ struct Expected {
 
 std::vector<Expected> expectedMovies() {
     std::vector<Expected> rows;
-    const QByteArray table =
-        bytesOfFile(QStringLiteral(VANTOR_SOURCE_DIR "/tests/decode/expected_movies.tsv"));
-    for (const QByteArray& line : table.split('\n')) {
-        const QList<QByteArray> fields = line.split('\t');
-        if (fields.size() == 5 && !line.startsWith('#')) {
-            rows.push_back({QString::fromUtf8(fields[0]), QSize(fields[1].toInt(), fields[2].toInt()),
-                            fields[3].toLongLong(), fields[4] == "1"});
-        }
+    for (const QList<QByteArray>& fields : tableRows("decode/expected_movies.tsv")) {
+        rows.push_back({QString::fromUtf8(fields.value(0)),
+                        QSize(fields.value(1).toInt(), fields.value(2).toInt()), fields.value(3).toLongLong(),
+                        fields.value(4) == "1"});
     }
     return rows;
 }

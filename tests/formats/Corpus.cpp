@@ -11,11 +11,12 @@
 
 namespace vantor::test {
 
-std::filesystem::path corpusFolder() {
+std::filesystem::path corpusRoot() {
     const char* told = std::getenv("VANTOR_CORPUS");
     const std::filesystem::path folder =
-        told != nullptr ? std::filesystem::path(told)
-                        : std::filesystem::path(VANTOR_SOURCE_DIR) / ".." / "shared" / "corpus";
+        told != nullptr && *told != '\0'
+            ? std::filesystem::path(told)
+            : std::filesystem::path(VANTOR_SOURCE_DIR) / ".." / "shared" / "corpus";
     return std::filesystem::exists(folder / "MANIFEST.tsv") ? folder : std::filesystem::path();
 }
 

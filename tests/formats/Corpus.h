@@ -21,7 +21,7 @@ struct CorpusFile {
 
 // The folder of real files: VANTOR_CORPUS, else ../shared/corpus beside the sources; empty where there is
 // none.
-std::filesystem::path corpusFolder();
+std::filesystem::path corpusRoot();
 // The single files the manifest lists (no media images).
 std::vector<CorpusFile> corpusFiles(const std::filesystem::path& folder);
 // Small files by other programs, listed in the folder's README.

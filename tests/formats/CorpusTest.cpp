@@ -35,7 +35,7 @@ struct Tally {
 class CorpusTest : public testing::Test {
   protected:
     void SetUp() override {
-        m_folder = corpusFolder();
+        m_folder = corpusRoot();
         if (m_folder.empty())
             GTEST_SKIP() << "no corpus: set VANTOR_CORPUS";
         for (const auto& file : corpusFiles(m_folder)) {

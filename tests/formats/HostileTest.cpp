@@ -132,7 +132,7 @@ TEST(Hostile, MutatedSamples_StayBoundedInEveryWalker) {
 }
 
 TEST(Hostile, MutatedCorpus_StaysBounded) {
-    const auto folder = corpusFolder();
+    const auto folder = corpusRoot();
     if (folder.empty())
         GTEST_SKIP() << "no corpus: set VANTOR_CORPUS";
     constexpr int kPerFile = 16;
@@ -166,7 +166,7 @@ TEST(Hostile, MutatedForeignFiles_StayBounded) {
 }
 
 TEST(Hostile, DeliberatelyMalformedFiles_StayBoundedInEveryWalker) {
-    const auto folder = corpusFolder();
+    const auto folder = corpusRoot();
     if (folder.empty())
         GTEST_SKIP() << "no corpus: set VANTOR_CORPUS";
     Effort effort;

@@ -9,7 +9,7 @@
 
 #include "media/AbandonableSource.h"
 #include "media/WindowedReader.h"
-#include "tests/media/ScriptedMedium.h"
+#include "tests/media/ScriptedDrive.h"
 
 namespace vantor::test {
 namespace {
@@ -53,7 +53,7 @@ class HangingSource : public BlockSource {
         if (sector + into.size() / kSectorBytes > m_state->hangsFrom) {
             m_state->gate.wait();
         }
-        ScriptedMedium::fill(sector, into.data());
+        ScriptedDrive::fill(sector, into.data());
         return static_cast<std::int64_t>(into.size());
     }
     bool usable() override { return true; }
@@ -71,7 +71,7 @@ void waitFor(Condition condition) {
 
 class ScriptedSourceThatTells : public ScriptedSource {
   public:
-    ScriptedSourceThatTells(ScriptedMedium& medium, std::atomic<bool>& closed)
+    ScriptedSourceThatTells(ScriptedDrive& medium, std::atomic<bool>& closed)
         : ScriptedSource(medium), m_closed(closed) {}
     ~ScriptedSourceThatTells() override { m_closed = true; }
 
@@ -80,7 +80,7 @@ class ScriptedSourceThatTells : public ScriptedSource {
 };
 
 // Scans a scripted medium through a thread and comes back when that has let go of it.
-std::vector<ScanStep> stepsThroughThread(ScriptedMedium& medium, std::uint64_t start, std::uint64_t end) {
+std::vector<ScanStep> stepsThroughThread(ScriptedDrive& medium, std::uint64_t start, std::uint64_t end) {
     std::atomic<bool> closed{false};
     std::vector<ScanStep> steps;
     {
@@ -94,11 +94,11 @@ std::vector<ScanStep> stepsThroughThread(ScriptedMedium& medium, std::uint64_t s
 
 TEST(AbandonableSource, EveryFault_SurfacesAsWithoutTheThread) {
     for (std::uint64_t fault = 0; fault < 3 * kWindow; fault += fault % kWindow < 4 ? 1 : 101) {
-        ScriptedMedium medium;
+        ScriptedDrive medium;
         medium.sectors = 4 * kWindow;
         medium.refusals[fault] = kAlways;
         medium.refusals[fault + 3] = kAlways;
-        ScriptedMedium copy = medium;
+        ScriptedDrive copy = medium;
         WindowedReader direct(std::make_unique<ScriptedSource>(copy));
         const auto expected = scanSteps(direct, 3, 4 * kWindow);
         ASSERT_TRUE(stepsThroughThread(medium, 3, 4 * kWindow) == expected) << "fault at " << fault;
@@ -107,7 +107,7 @@ TEST(AbandonableSource, EveryFault_SurfacesAsWithoutTheThread) {
 }
 
 TEST(AbandonableSource, ReadsNoSectorTwiceAndNoneBeyondTheNextWindow) {
-    ScriptedMedium medium;
+    ScriptedDrive medium;
     medium.sectors = 100 * kWindow;
     stepsThroughThread(medium, 0, 10 * kWindow);
     EXPECT_GE(medium.requests, 10U);

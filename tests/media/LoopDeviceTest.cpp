@@ -8,7 +8,7 @@
 #include "media/DiskSequence.h"
 #include "media/RawDevice.h"
 #include "tests/media/LoopDevice.h"
-#include "tests/media/ScriptedMedium.h"
+#include "tests/media/ScriptedDrive.h"
 
 namespace vantor::test {
 namespace {
@@ -20,7 +20,7 @@ class LoopDeviceTest : public testing::Test {
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         for (std::uint64_t s = 0; s < sectors; ++s) {
             std::uint8_t sector[kSectorBytes];
-            ScriptedMedium::fill(firstNumber + s, sector);
+            ScriptedDrive::fill(firstNumber + s, sector);
             file.write(reinterpret_cast<const char*>(sector), kSectorBytes);
         }
         return file.fileName();
@@ -98,7 +98,7 @@ TEST_F(LoopDeviceTest, BeyondTwoTebibytes_IsReached) {
     {
         const FileDescriptor file(::open(QFile::encodeName(path).constData(), O_WRONLY | O_CLOEXEC));
         std::uint8_t sector[kSectorBytes];
-        ScriptedMedium::fill(kFar, sector);
+        ScriptedDrive::fill(kFar, sector);
         ASSERT_EQ(::pwrite(file.get(), sector, kSectorBytes, static_cast<off_t>(kFar * kSectorBytes)),
                   kSectorBytes);
     }

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "media/WindowedReader.h"
-#include "tests/media/ScriptedMedium.h"
+#include "tests/media/ScriptedDrive.h"
 #include "tests/support/TestSession.h"
 
 namespace vantor::test {
@@ -12,7 +12,6 @@ constexpr std::uint64_t kGood = 1000;  // sectors; the last of them is number 99
 constexpr std::uint64_t kWhole = std::uint64_t{1} << 26;
 // The number 999 as a sector begins with it.
 constexpr TestRecord kHeaderOfLastGoodSector{"JPG", "E703000000000000"};
-constexpr char kReadError[] = "\nError in storage media reading.";
 
 class LostMediumScan : public testing::Test {
   protected:
@@ -35,13 +34,13 @@ class LostMediumScan : public testing::Test {
     }
 
     void expectReadErrorAtTheEnd() {
-        EXPECT_EQ(session.alerts, QStringList{QLatin1String(kReadError)});
+        EXPECT_EQ(session.alerts, QStringList{kReadError});
         EXPECT_EQ(session.lastOutcome(), PassOutcome::ReadError);
         EXPECT_EQ(session.for_index, session.end_sector);
     }
 
-    ScriptedMedium medium;
-    vantor::ScriptedMedium unused{1};
+    ScriptedDrive medium;
+    ScriptedMedium unused{1};
     TestSession session{unused};
 };
 

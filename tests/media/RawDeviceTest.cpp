@@ -10,7 +10,7 @@
 
 #include "media/ImageFile.h"
 #include "media/RawDevice.h"
-#include "tests/media/ScriptedMedium.h"
+#include "tests/media/ScriptedDrive.h"
 
 namespace vantor::test {
 namespace {
@@ -24,7 +24,7 @@ class RawDeviceTest : public testing::Test {
         QByteArray bytes;
         for (std::uint64_t s = first; s < end; ++s) {
             std::uint8_t sector[kSectorBytes];
-            ScriptedMedium::fill(s, sector);
+            ScriptedDrive::fill(s, sector);
             bytes.append(reinterpret_cast<const char*>(sector), kSectorBytes);
         }
         bytes.append(extra, 'x');
@@ -98,7 +98,7 @@ TEST_F(RawDeviceTest, BeyondTwoTebibytes_IsReached) {
     ASSERT_GE(fd, 0);
     for (const std::uint64_t s : {(std::uint64_t{5} << 30) / kSectorBytes, kFar}) {
         std::uint8_t sector[kSectorBytes];
-        ScriptedMedium::fill(s, sector);
+        ScriptedDrive::fill(s, sector);
         if (::pwrite(fd, sector, kSectorBytes, static_cast<off_t>(s * kSectorBytes)) != kSectorBytes) {
             ::close(fd);
             GTEST_SKIP() << "the file system of the temporary folder takes no file of 3 TiB";

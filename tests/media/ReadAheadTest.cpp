@@ -7,19 +7,19 @@
 
 #include "media/ReadAhead.h"
 #include "media/WindowedReader.h"
-#include "tests/media/ScriptedMedium.h"
+#include "tests/media/ScriptedDrive.h"
 
 namespace vantor::test {
 namespace {
 
 constexpr std::uint64_t kWindow = WindowedReader::kWindowSectors;
 
-std::vector<ScanStep> stepsAhead(ScriptedMedium& medium, std::uint64_t start, std::uint64_t end) {
+std::vector<ScanStep> stepsAhead(ScriptedDrive& medium, std::uint64_t start, std::uint64_t end) {
     WindowedReader reader(std::make_unique<ScriptedSource>(medium), WindowedReader::Fetching::Ahead);
     return scanSteps(reader, start, end);
 }
 
-std::vector<ScanStep> plainSteps(ScriptedMedium medium, std::uint64_t start, std::uint64_t end) {
+std::vector<ScanStep> plainSteps(ScriptedDrive medium, std::uint64_t start, std::uint64_t end) {
     PlainReader reader(medium);
     return scanSteps(reader, start, end);
 }
@@ -39,7 +39,7 @@ class SlowRefusal : public BlockSource {
         }
         m_furthest = std::max(m_furthest, sector);
         for (std::size_t n = 0; n < into.size() / kSectorBytes; ++n) {
-            ScriptedMedium::fill(sector + n, into.data() + n * kSectorBytes);
+            ScriptedDrive::fill(sector + n, into.data() + n * kSectorBytes);
         }
         m_asked.notify_all();
         return static_cast<std::int64_t>(into.size());
@@ -68,7 +68,7 @@ TEST(ReadAhead, WhileAWindowIsRefused_TheLastGoodSectorStaysInPlace) {
 }
 
 TEST(ReadAhead, HealthyMedium_ComesWholeAndInOrder) {
-    ScriptedMedium medium;
+    ScriptedDrive medium;
     medium.sectors = 40 * kWindow + 77;
     const auto expected = plainSteps(medium, 0, medium.sectors);
     EXPECT_TRUE(stepsAhead(medium, 0, medium.sectors) == expected);
@@ -78,7 +78,7 @@ TEST(ReadAhead, HealthyMedium_ComesWholeAndInOrder) {
 TEST(ReadAhead, LastingFaultsAnywhere_SurfaceWhereSingleReadsMeetThem) {
     std::mt19937 random(5);
     for (int round = 0; round < 60; ++round) {
-        ScriptedMedium medium;
+        ScriptedDrive medium;
         medium.sectors = 12 * kWindow + random() % kWindow;
         medium.wholeRequestFails = random() % 2 == 0;
         for (std::uint32_t faults = random() % 5; faults > 0; --faults) {
@@ -95,7 +95,7 @@ TEST(ReadAhead, LastingFaultsAnywhere_SurfaceWhereSingleReadsMeetThem) {
 }
 
 TEST(ReadAhead, SeeksInTheMiddle_GiveTheSectorAskedFor) {
-    ScriptedMedium medium;
+    ScriptedDrive medium;
     medium.sectors = 64 * kWindow;
     WindowedReader reader(std::make_unique<ScriptedSource>(medium), WindowedReader::Fetching::Ahead);
     std::mt19937 random(6);
@@ -112,7 +112,7 @@ TEST(ReadAhead, SeeksInTheMiddle_GiveTheSectorAskedFor) {
 }
 
 TEST(ReadAhead, PauseAndDestructionWaitForNobody) {
-    ScriptedMedium medium;
+    ScriptedDrive medium;
     medium.sectors = std::uint64_t{1} << 40;
     ScriptedSource source(medium);
     for (int round = 0; round < 100; ++round) {

@@ -2,20 +2,20 @@
 #include <gtest/gtest.h>
 
 #include "media/WindowedReader.h"
-#include "tests/media/ScriptedMedium.h"
+#include "tests/media/ScriptedDrive.h"
 
 namespace vantor::test {
 namespace {
 
 constexpr std::uint64_t kWindow = WindowedReader::kWindowSectors;
 
-std::vector<ScanStep> windowedSteps(ScriptedMedium& medium, std::uint64_t start, std::uint64_t end) {
+std::vector<ScanStep> windowedSteps(ScriptedDrive& medium, std::uint64_t start, std::uint64_t end) {
     WindowedReader reader(std::make_unique<ScriptedSource>(medium));
     return scanSteps(reader, start, end);
 }
 
 template <class Reader>
-std::vector<ScanStep> plainSteps(ScriptedMedium medium, std::uint64_t start, std::uint64_t end) {
+std::vector<ScanStep> plainSteps(ScriptedDrive medium, std::uint64_t start, std::uint64_t end) {
     Reader reader(medium);
     return scanSteps(reader, start, end);
 }
@@ -64,7 +64,7 @@ void forEveryFault(Places places, Check check) {
             if (!everyPlace && !telling) {
                 continue;
             }
-            ScriptedMedium medium;
+            ScriptedDrive medium;
             medium.sectors = shape.sectors;
             medium.wholeRequestFails = shape.wholeRequestFails;
             check(shape, fault, medium);
@@ -78,7 +78,7 @@ void forEveryFault(Places places, Check check) {
 }
 
 TEST(WindowedReader, PersistentFault_SurfacesAsWithSingleReads) {
-    forEveryFault(Places::All, [](const Shape& shape, std::uint64_t fault, ScriptedMedium& medium) {
+    forEveryFault(Places::All, [](const Shape& shape, std::uint64_t fault, ScriptedDrive& medium) {
         medium.refusals[fault] = kAlways;
         const auto expected = plainSteps<PlainReader>(medium, shape.start, shape.end);
         EXPECT_TRUE(windowedSteps(medium, shape.start, shape.end) == expected);
@@ -88,7 +88,7 @@ TEST(WindowedReader, PersistentFault_SurfacesAsWithSingleReads) {
 TEST(WindowedReader, AdjacentPersistentFaults_SurfaceAsWithSingleReads) {
     for (const std::uint64_t length : {2U, 7U, 600U}) {
         forEveryFault(Places::Telling,
-                      [length](const Shape& shape, std::uint64_t fault, ScriptedMedium& medium) {
+                      [length](const Shape& shape, std::uint64_t fault, ScriptedDrive& medium) {
                           for (std::uint64_t s = fault; s < fault + length; ++s) {
                               medium.refusals[s] = kAlways;
                           }
@@ -101,7 +101,7 @@ TEST(WindowedReader, AdjacentPersistentFaults_SurfaceAsWithSingleReads) {
 TEST(WindowedReader, FaultsAPartOfAWindowApart_SurfaceAsWithSingleReads) {
     for (const std::uint64_t distance : {2U, 3U, 511U, 512U, 513U}) {
         forEveryFault(Places::Telling,
-                      [distance](const Shape& shape, std::uint64_t fault, ScriptedMedium& medium) {
+                      [distance](const Shape& shape, std::uint64_t fault, ScriptedDrive& medium) {
                           medium.refusals[fault] = kAlways;
                           medium.refusals[fault + distance] = kAlways;
                           const auto expected = plainSteps<PlainReader>(medium, shape.start, shape.end);
@@ -112,7 +112,7 @@ TEST(WindowedReader, FaultsAPartOfAWindowApart_SurfaceAsWithSingleReads) {
 
 TEST(WindowedReader, TransientFault_SurfacesAsWithSingleReadsAndOneRetry) {
     for (const int times : {1, 2, 3}) {
-        forEveryFault(Places::All, [times](const Shape& shape, std::uint64_t fault, ScriptedMedium& medium) {
+        forEveryFault(Places::All, [times](const Shape& shape, std::uint64_t fault, ScriptedDrive& medium) {
             medium.refusals[fault] = times;
             const auto expected = plainSteps<PlainReaderWithRetry>(medium, shape.start, shape.end);
             EXPECT_TRUE(windowedSteps(medium, shape.start, shape.end) == expected);
@@ -124,13 +124,13 @@ TEST(WindowedReader, TransientFault_SurfacesAsWithSingleReadsAndOneRetry) {
 // window that the first one spoiled. What holds for every kind of neighbours: a sector is given up when two
 // requests that held it were refused, never for less; it refuses twice at most; and the reading goes on
 // exactly as single reads do on a medium whose only bad sectors are those.
-void expectReadingOfAMediumWithTheLostSectorsOnly(const Shape& shape, ScriptedMedium& medium) {
-    const ScriptedMedium asWritten = medium;
+void expectReadingOfAMediumWithTheLostSectorsOnly(const Shape& shape, ScriptedDrive& medium) {
+    const ScriptedDrive asWritten = medium;
     WindowedReader reader(std::make_unique<ScriptedSource>(medium));
     if (shape.start != 0) {
         reader.seek(shape.start);
     }
-    ScriptedMedium lostOnly;
+    ScriptedDrive lostOnly;
     lostOnly.sectors = shape.sectors;
     std::vector<ScanStep> steps;
     for (std::uint64_t index = shape.start; index < shape.end; ++index) {
@@ -172,7 +172,7 @@ TEST(WindowedReader, NeighbouringFaultsOfEveryKind_CostWhatWasRefusedTwiceAndNot
                         continue;
                     }
                     forEveryFault(Places::Edges,
-                                  [&](const Shape& shape, std::uint64_t fault, ScriptedMedium& medium) {
+                                  [&](const Shape& shape, std::uint64_t fault, ScriptedDrive& medium) {
                                       medium.refusals[fault] = first;
                                       medium.refusals[fault + distance] = second;
                                       if (third != 0) {
@@ -192,7 +192,7 @@ TEST(WindowedReader, AdjacentTransientFaults_SurfaceAsWithSingleReadsAndOneRetry
     for (const auto& [first, second] : {std::pair(2, 1), std::pair(2, 2), std::pair(3, 1), std::pair(3, 3)}) {
         for (const std::uint64_t distance : {1U, 2U, 100U}) {
             forEveryFault(
-                Places::Telling, [&](const Shape& shape, std::uint64_t fault, ScriptedMedium& medium) {
+                Places::Telling, [&](const Shape& shape, std::uint64_t fault, ScriptedDrive& medium) {
                     medium.refusals[fault] = first;
                     medium.refusals[fault + distance] = second;
                     const auto expected = plainSteps<PlainReaderWithRetry>(medium, shape.start, shape.end);
@@ -206,7 +206,7 @@ TEST(WindowedReader, DeadStretch_FailsSeeksUntilItsEndAndLosesNothingBehindIt) {
     constexpr std::uint64_t kStart = 1000;
     constexpr std::uint64_t kEnd = kStart + 3 * WindowedReader::kDeadStretch;
     for (const bool wholeRequestFails : {true, false}) {
-        ScriptedMedium medium;
+        ScriptedDrive medium;
         medium.sectors = kEnd + 5000;
         medium.wholeRequestFails = wholeRequestFails;
         for (std::uint64_t s = kStart; s < kEnd; ++s) {
@@ -228,7 +228,7 @@ TEST(WindowedReader, DeadStretch_FailsSeeksUntilItsEndAndLosesNothingBehindIt) {
 }
 
 TEST(WindowedReader, DeadStretch_IsNoHindranceToOneWhoComesFromElsewhere) {
-    ScriptedMedium medium;
+    ScriptedDrive medium;
     medium.sectors = 10000;
     medium.refusesFrom = 1000;
     WindowedReader reader(std::make_unique<ScriptedSource>(medium));
@@ -242,7 +242,7 @@ TEST(WindowedReader, DeadStretch_IsNoHindranceToOneWhoComesFromElsewhere) {
 }
 
 TEST(WindowedReader, OneRefusalOnly_IsHealedByTheRetry) {
-    ScriptedMedium medium;
+    ScriptedDrive medium;
     medium.sectors = 2 * kWindow;
     medium.refusals[100] = 1;
     for (const ScanStep& step : windowedSteps(medium, 0, medium.sectors)) {
@@ -252,7 +252,7 @@ TEST(WindowedReader, OneRefusalOnly_IsHealedByTheRetry) {
 }
 
 TEST(WindowedReader, RefusedSector_IsAskedForTwiceAndNeverAgain) {
-    forEveryFault(Places::All, [](const Shape& shape, std::uint64_t fault, ScriptedMedium& medium) {
+    forEveryFault(Places::All, [](const Shape& shape, std::uint64_t fault, ScriptedDrive& medium) {
         medium.refusals[fault] = kAlways;
         medium.refusals[fault + 1] = kAlways;
         medium.refusals[fault + 5] = kAlways;
@@ -269,7 +269,7 @@ TEST(WindowedReader, RefusedSector_IsAskedForTwiceAndNeverAgain) {
 
 TEST(WindowedReader, RefusedBlock_IsAskedForTwiceForAllItsSectors) {
     for (const std::uint64_t bad : {0U, 8U, 504U, 512U, 1016U}) {
-        ScriptedMedium medium;
+        ScriptedDrive medium;
         medium.sectors = 3 * kWindow;
         medium.blockSectors = 8;
         for (std::uint64_t s = bad; s < bad + 8; ++s) {
@@ -282,7 +282,7 @@ TEST(WindowedReader, RefusedBlock_IsAskedForTwiceForAllItsSectors) {
 }
 
 TEST(WindowedReader, LongDeadStretch_CostsTwoRequestsASectorAtMost) {
-    ScriptedMedium medium;
+    ScriptedDrive medium;
     medium.sectors = 20000;
     for (std::uint64_t s = 1000; s < 11000; ++s) {
         medium.refusals[s] = kAlways;
@@ -295,14 +295,14 @@ TEST(WindowedReader, LongDeadStretch_CostsTwoRequestsASectorAtMost) {
 }
 
 TEST(WindowedReader, HealthyMedium_IsReadInWholeWindows) {
-    ScriptedMedium medium;
+    ScriptedDrive medium;
     medium.sectors = 10 * kWindow;
     windowedSteps(medium, 0, medium.sectors);
     EXPECT_EQ(medium.requests, 10U);
 }
 
 TEST(WindowedReader, AfterAFault_GoesBackToWindows) {
-    ScriptedMedium medium;
+    ScriptedDrive medium;
     medium.sectors = 100 * kWindow;
     medium.refusals[5] = kAlways;
     windowedSteps(medium, 0, medium.sectors);
@@ -310,7 +310,7 @@ TEST(WindowedReader, AfterAFault_GoesBackToWindows) {
 }
 
 TEST(WindowedReader, MediumGone_FailsReadsAndSeeksWithoutAskingIt) {
-    ScriptedMedium medium;
+    ScriptedDrive medium;
     medium.sectors = std::uint64_t{1} << 26;
     medium.goneFrom = 1000;
     WindowedReader reader(std::make_unique<ScriptedSource>(medium));
@@ -326,7 +326,7 @@ TEST(WindowedReader, MediumGone_FailsReadsAndSeeksWithoutAskingIt) {
 }
 
 TEST(WindowedReader, EndOfTheMedium_FailsReadsButNotSeeks) {
-    ScriptedMedium medium;
+    ScriptedDrive medium;
     medium.sectors = kWindow + 7;
     WindowedReader reader(std::make_unique<ScriptedSource>(medium));
     const auto steps = scanSteps(reader, 0, kWindow + 20);
@@ -340,7 +340,7 @@ TEST(WindowedReader, EndOfTheMedium_FailsReadsButNotSeeks) {
 
 TEST(WindowedReader, PositionsBeyondTwoTebibytes_ReachTheMedium) {
     constexpr std::uint64_t kFar = (std::uint64_t{1} << 40) + 17;  // sectors: 512 TiB
-    ScriptedMedium medium;
+    ScriptedDrive medium;
     medium.sectors = kFar + 4;
     WindowedReader reader(std::make_unique<ScriptedSource>(medium));
     ASSERT_TRUE(reader.seek(kFar));

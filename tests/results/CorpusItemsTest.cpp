@@ -20,7 +20,7 @@ constexpr std::size_t kLargestMutated = 600'000;
 class CorpusItems : public testing::Test {
   protected:
     void SetUp() override {
-        m_corpus = test::corpusFolder();
+        m_corpus = test::corpusRoot();
         if (m_corpus.empty()) {
             GTEST_SKIP() << "no corpus: set VANTOR_CORPUS";
         }

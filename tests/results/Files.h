@@ -2,20 +2,15 @@
 #pragma once
 
 #include <QByteArray>
-#include <QFile>
 #include <QString>
 #include <QtEndian>
 #include <algorithm>
 #include <random>
 
+#include "tests/support/Files.h"
 #include "tests/support/ScriptedMedium.h"
 
 namespace vantor {
-
-inline QByteArray contentsOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
-}
 
 inline QByteArray noise(qsizetype bytes, unsigned seed) {
     std::mt19937 random(seed);

@@ -6,7 +6,6 @@
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QDir>
-#include <QDirIterator>
 #include <QFileInfo>
 #include <QTemporaryDir>
 
@@ -16,14 +15,6 @@
 namespace vantor {
 namespace {
 
-ScriptedMedium letters(std::size_t sectors) {
-    ScriptedMedium medium(sectors);
-    for (std::size_t i = 0; i < sectors; ++i) {
-        medium.fill(i, static_cast<std::uint8_t>('a' + i));
-    }
-    return medium;
-}
-
 SavePolicy asPublished() {
     SavePolicy policy;
     policy.asPublished = true;
@@ -32,16 +23,6 @@ SavePolicy asPublished() {
 
 CarvedRun run(std::uint64_t first, std::uint64_t end) {
     return {{{first, end}}, false};
-}
-
-QStringList filesUnder(const QString& folder) {
-    QStringList files;
-    QDirIterator it(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        files.append(QDir(folder).relativeFilePath(it.next()));
-    }
-    files.sort();
-    return files;
 }
 
 constexpr qsizetype kWavBytes = 100'000;  // 196 sectors

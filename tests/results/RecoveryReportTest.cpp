@@ -17,25 +17,34 @@ ReportHead head() {
     return h;
 }
 
-std::vector<ReportedItem> items() {
-    ReportedItem saved{"a,\"b\".JPG", "JPG", 4, 40, {}};
-    saved.outcome.saved = true;
-    saved.outcome.path = "/out/JPG/a b:100%.JPG";
-    saved.outcome.bytes = 18432;
-    saved.outcome.verdict = Verdict::Complete;
-    saved.outcome.taken = CivilTime{2026, 5, 17, 14, 3, 22, true};
-    saved.outcome.width = 64;
-    saved.outcome.height = 48;
-    saved.outcome.sha256 = QByteArray(32, '\xAB');
-    ReportedItem failed{"<script>alert(1)</script>", "J&G", 50, 60, {}};
-    failed.outcome.error = "No <room>";
-    return {saved, failed};
-}
+class RecoveryReport : public testing::Test {
+  protected:
+    std::vector<ReportedItem> items() const {
+        ReportedItem saved{"a,\"b\".JPG", "JPG", 4, 40, {}};
+        saved.outcome.saved = true;
+        saved.outcome.path = folder.filePath("JPG/a b:100%.JPG");
+        saved.outcome.bytes = 18432;
+        saved.outcome.verdict = Verdict::Complete;
+        saved.outcome.taken = CivilTime{2026, 5, 17, 14, 3, 22, true};
+        saved.outcome.width = 64;
+        saved.outcome.height = 48;
+        saved.outcome.sha256 = QByteArray(32, '\xAB');
+        ReportedItem failed{"<script>alert(1)</script>", "J&G", 50, 60, {}};
+        failed.outcome.error = "No <room>";
+        return {saved, failed};
+    }
+    QByteArray page(const ReportThumbnail& thumbnail = {}) const {
+        return contentsOf(writeReport(folder.path(), head(), items(), thumbnail).html);
+    }
+    QByteArray table() const { return contentsOf(writeReport(folder.path(), head(), items()).csv); }
+
+    const QTemporaryDir folder;
+};
 
 }  // namespace
 
-TEST(RecoveryReport, TableForMachines) {
-    const QList<QByteArray> lines = reportCsv(head(), items(), "/out").split('\n');
+TEST_F(RecoveryReport, TableForMachines) {
+    const QList<QByteArray> lines = table().split('\n');
     ASSERT_EQ(lines.size(), 4);
     EXPECT_TRUE(lines[0].startsWith("name,type,medium,first_sector,end_sector,bytes,sha256,soundness,"));
     EXPECT_EQ(lines[1], "\"a,\"\"b\"\".JPG\",\"JPG\",\"/dev/sdb <1> & \"\"more\"\"\",4,40,18432," +
@@ -44,33 +53,32 @@ TEST(RecoveryReport, TableForMachines) {
     EXPECT_TRUE(lines[2].endsWith(",failed,\"No <room>\"\r"));
 }
 
-TEST(RecoveryReport, PageEscapesEverything) {
-    const QByteArray page = reportHtml(head(), items(), "/out");
-    EXPECT_FALSE(page.contains("<script"));
-    EXPECT_TRUE(page.contains("&lt;script&gt;alert(1)"));
-    EXPECT_TRUE(page.contains("/dev/sdb &lt;1&gt; &amp; &quot;more&quot;"));
-    EXPECT_TRUE(page.contains("No &lt;room&gt;"));
-    EXPECT_TRUE(page.contains("<td>J&amp;G</td>"));
-    EXPECT_TRUE(page.contains("href=\"./JPG/a%20b%3A100%25.JPG\""));
-    EXPECT_TRUE(page.contains("64 × 48"));
-    EXPECT_FALSE(page.contains("<img"));
+TEST_F(RecoveryReport, PageEscapesEverything) {
+    const QByteArray html = page();
+    EXPECT_FALSE(html.contains("<script"));
+    EXPECT_TRUE(html.contains("&lt;script&gt;alert(1)"));
+    EXPECT_TRUE(html.contains("/dev/sdb &lt;1&gt; &amp; &quot;more&quot;"));
+    EXPECT_TRUE(html.contains("No &lt;room&gt;"));
+    EXPECT_TRUE(html.contains("<td>J&amp;G</td>"));
+    EXPECT_TRUE(html.contains("href=\"./JPG/a%20b%3A100%25.JPG\""));
+    EXPECT_TRUE(html.contains("64 × 48"));
+    EXPECT_FALSE(html.contains("<img"));
 }
 
-TEST(RecoveryReport, ThumbnailsAreWithinThePage) {
+TEST_F(RecoveryReport, ThumbnailsAreWithinThePage) {
     const auto thumbnail = [](const ReportedItem&) { return QByteArray("\xFF\xD8picture"); };
-    const QByteArray page = reportHtml(head(), items(), "/out", thumbnail);
-    EXPECT_EQ(page.count("<img"), 1) << "none for what was not saved";
-    EXPECT_TRUE(page.contains("data:image/jpeg;base64," + QByteArray("\xFF\xD8picture").toBase64()));
+    const QByteArray html = page(thumbnail);
+    EXPECT_EQ(html.count("<img"), 1) << "none for what was not saved";
+    EXPECT_TRUE(html.contains("data:image/jpeg;base64," + QByteArray("\xFF\xD8picture").toBase64()));
 }
 
-TEST(RecoveryReport, ReplacesNothing) {
-    const QTemporaryDir folder;
+TEST_F(RecoveryReport, ReplacesNothing) {
     const WrittenReport first = writeReport(folder.path(), head(), items());
     const WrittenReport second = writeReport(folder.path(), head(), {});
     EXPECT_EQ(first.html, folder.filePath("Recovery report.html"));
     EXPECT_EQ(first.csv, folder.filePath("Recovery report.csv"));
     EXPECT_EQ(second.html, folder.filePath("Recovery report (2).html"));
-    EXPECT_EQ(contentsOf(first.csv), reportCsv(head(), items(), folder.path()));
+    EXPECT_EQ(contentsOf(first.csv), table());
     EXPECT_FALSE(writeReport("/nowhere/at/all", head(), {}).error.isEmpty());
 }
 

@@ -8,17 +8,9 @@
 #include <QTemporaryDir>
 
 #include "results/WholeFile.h"
+#include "tests/support/Files.h"
 
 namespace vantor {
-namespace {
-
-QByteArray contentsOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
-}
-
-}  // namespace
-
 TEST(WholeFile, AppearsUnderItsNameOnlyWhenWhole) {
     const QTemporaryDir folder;
     {

@@ -109,12 +109,8 @@ TEST(HeaderMatcher, AgreesWithThePlainMatchOnRandomCataloguesAndSectors) {
         for (int i = 0; i < 10; ++i) {
             const auto sector = random.sector();
             const auto expected = plain::firstMatch(records, sector);
-            const auto got = matcher.firstMatch(sector.data());
-            ASSERT_EQ(got.has_value(), expected.has_value()) << "round " << round;
-            if (expected) {
-                ASSERT_EQ(*got, *expected) << "round " << round;
-                ++matched;
-            }
+            ASSERT_EQ(matcher.firstMatch(sector.data()), expected) << "round " << round;
+            matched += expected ? 1 : 0;
         }
     }
     EXPECT_GT(matched, 2000);
@@ -142,12 +138,8 @@ TEST(HeaderMatcher, AgreesWithThePlainMatchOnManyStartBytes) {
                 byte = static_cast<std::uint8_t>(random.oneIn(3) ? 0x43 : 0x41 + random.below(2));
             }
             const auto expected = plain::firstMatch(records, sector);
-            const auto got = matcher.firstMatch(sector.data());
-            ASSERT_EQ(got.has_value(), expected.has_value()) << "round " << round;
-            if (expected) {
-                ASSERT_EQ(*got, *expected) << "round " << round;
-                ++matched;
-            }
+            ASSERT_EQ(matcher.firstMatch(sector.data()), expected) << "round " << round;
+            matched += expected ? 1 : 0;
         }
     }
     EXPECT_GT(matched, 1000);

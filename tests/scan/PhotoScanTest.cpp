@@ -7,17 +7,6 @@
 namespace vantor {
 namespace {
 
-const QString kReadError = QStringLiteral("\nError in storage media reading.");
-
-// A medium of sectors that hold data, so that every one is searched.
-ScriptedMedium dataMedium(std::size_t sectors) {
-    ScriptedMedium medium(sectors);
-    for (std::size_t i = 0; i < sectors; ++i) {
-        medium.fill(i, 0x7A);
-    }
-    return medium;
-}
-
 std::vector<HandedOver> nonEmpty(const TestSession& session) {
     std::vector<HandedOver> items;
     for (const HandedOver& item : session.handedOver) {

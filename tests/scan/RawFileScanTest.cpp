@@ -6,16 +6,6 @@
 namespace vantor {
 namespace {
 
-const QString kReadError = QStringLiteral("\nError in storage media reading.");
-
-ScriptedMedium dataMedium(std::size_t sectors) {
-    ScriptedMedium medium(sectors);
-    for (std::size_t i = 0; i < sectors; ++i) {
-        medium.fill(i, 0x7A);
-    }
-    return medium;
-}
-
 QStringList published(const TestSession& session) {
     QStringList list;
     for (const HandedOver& item : session.handedOver) {

@@ -47,7 +47,7 @@ void readReport(const QString& path, ReportedItems& items) {
     }
 }
 
-CorpusCards::CorpusCards() : m_folder(corpusFolder()) {
+CorpusCards::CorpusCards() : m_folder(corpusRoot()) {
     if (m_folder.empty()) {
         return;
     }

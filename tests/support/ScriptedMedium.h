@@ -38,6 +38,24 @@ struct ScriptedMedium {
     std::function<void(std::uint64_t read)> beforeRead;  // with the number of the read, from 0
 };
 
+// Sectors of "aaa...", "bbb...", and so on.
+inline ScriptedMedium letters(std::size_t sectors) {
+    ScriptedMedium medium(sectors);
+    for (std::size_t i = 0; i < sectors; ++i) {
+        medium.fill(i, static_cast<std::uint8_t>('a' + i));
+    }
+    return medium;
+}
+
+// Sectors that hold data in which no header begins, so that every one is searched.
+inline ScriptedMedium dataMedium(std::size_t sectors) {
+    ScriptedMedium medium(sectors);
+    for (std::size_t i = 0; i < sectors; ++i) {
+        medium.fill(i, 0x7A);
+    }
+    return medium;
+}
+
 // A plain reader: one sector a read, nothing ahead. The medium outlives it.
 class ScriptedReader : public SectorReader {
   public:

@@ -12,6 +12,9 @@
 
 namespace vantor {
 
+// What the user is told at the end of a scan whose last read failed.
+inline const QString kReadError = QStringLiteral("\nError in storage media reading.");
+
 class RecordingView : public ScanView {
   public:
     RangeControls controls;

@@ -1,4 +1,5 @@
-// A medium in memory whose faults a test writes down, with the plain readers that others are compared with.
+// A drive in memory that answers requests of many sectors, whose faults a test writes down, with the plain
+// readers that others are compared with.
 #pragma once
 
 #include <algorithm>
@@ -20,7 +21,7 @@ inline constexpr int kAlways = 1 << 30;
 
 // Every sector begins with its own number. A request goes from sector to sector and ends at the first that
 // refuses, as a drive does.
-struct ScriptedMedium {
+struct ScriptedDrive {
     std::uint64_t sectors = 0;
     std::uint64_t blockSectors = 1;
     std::map<std::uint64_t, int> refusals;  // sector -> how many times it refuses
@@ -70,7 +71,7 @@ struct ScriptedMedium {
 
 class ScriptedSource : public BlockSource {
   public:
-    explicit ScriptedSource(ScriptedMedium& medium) : m_medium(medium) {}
+    explicit ScriptedSource(ScriptedDrive& medium) : m_medium(medium) {}
 
     std::int64_t readAt(std::uint64_t sector, std::span<std::uint8_t> into) override {
         const std::lock_guard lock(m_mutex);
@@ -83,17 +84,21 @@ class ScriptedSource : public BlockSource {
     std::uint64_t blockSectors() const override { return m_medium.blockSectors; }
 
   private:
-    ScriptedMedium& m_medium;
+    ScriptedDrive& m_medium;
     std::mutex m_mutex;  // reading ahead asks from several threads
 };
 
 // A stream without a buffer: every read is one request for one sector, and fails when that fails.
 class PlainReader : public SectorReader {
   public:
-    explicit PlainReader(ScriptedMedium& medium) : m_medium(medium) {}
+    explicit PlainReader(ScriptedDrive& medium) : m_medium(medium) {}
 
   protected:
-    bool fetch() override {
+    bool fetch() override { return ask(); }
+    bool moveTo(std::uint64_t) override { return !m_medium.gone; }
+
+    // Hands the sector at the position over when the drive gives it.
+    bool ask() {
         std::uint8_t bytes[kSectorBytes];
         if (m_medium.gone || m_medium.request(position(), bytes) != std::int64_t{kSectorBytes}) {
             return false;
@@ -102,38 +107,28 @@ class PlainReader : public SectorReader {
         handOver(m_bytes, 1);
         return true;
     }
-    bool moveTo(std::uint64_t) override { return !m_medium.gone; }
 
   private:
-    ScriptedMedium& m_medium;
+    ScriptedDrive& m_medium;
     std::uint8_t m_bytes[kSectorBytes] = {};
 };
 
 // As PlainReader, but a refused sector is asked for once more, and never again after that.
-class PlainReaderWithRetry : public SectorReader {
+class PlainReaderWithRetry : public PlainReader {
   public:
-    explicit PlainReaderWithRetry(ScriptedMedium& medium) : m_medium(medium) {}
+    using PlainReader::PlainReader;
 
   protected:
     bool fetch() override {
-        std::uint8_t bytes[kSectorBytes];
-        const auto ask = [&] {
-            return !m_medium.gone && m_medium.request(position(), bytes) == std::int64_t{kSectorBytes};
-        };
         if (m_refused.contains(position()) || (!ask() && !ask())) {
             m_refused.add(position());
             return false;
         }
-        std::memcpy(m_bytes, bytes, kSectorBytes);
-        handOver(m_bytes, 1);
         return true;
     }
-    bool moveTo(std::uint64_t) override { return !m_medium.gone; }
 
   private:
-    ScriptedMedium& m_medium;
     SectorSet m_refused;
-    std::uint8_t m_bytes[kSectorBytes] = {};
 };
 
 // What one step of a scan saw.

@@ -1,7 +1,7 @@
 // The string helpers, in UTF-16 units.
 #include <gtest/gtest.h>
 
-#include "wizard/TextHelpers.h"
+#include "catalogue/TextHelpers.h"
 
 namespace vantor {
 

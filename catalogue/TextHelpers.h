@@ -1,5 +1,4 @@
-// Small string helpers in the platform's own terms, kept apart from the alerts so that the engine may use
-// them.
+// Small string helpers in the platform's own terms, on the ground floor so that every room may use them.
 #pragma once
 
 #include <QString>

@@ -1,5 +1,5 @@
 // The string helpers; each is a line or two over QString, whose indices are UTF-16 units too.
-#include "wizard/TextHelpers.h"
+#include "catalogue/TextHelpers.h"
 
 #include <algorithm>
 

@@ -1,44 +1,14 @@
-// Reading, framing and icons; kinds come from the shared MIME database.
-#include "results/PicturePreview.h"
+// Kinds come from the shared MIME database, with corrections of our own.
+#include "catalogue/FileKind.h"
 
-#include <QImageReader>
+#include <QHash>
 #include <QMimeDatabase>
-#include <QPainter>
 #include <QRegularExpression>
-
-#include "wizard/Theme.h"
+#include <QStringList>
 
 namespace vantor {
 
 namespace {
-
-constexpr int kMostPictureMegabytes = 512;
-constexpr int kPaperMargin = 6;
-constexpr int kShadow = 2;
-
-QString ownIconName(FileKind kind) {
-    switch (kind) {
-        case FileKind::Document:
-            return QStringLiteral("type-document");
-        case FileKind::Archive:
-            return QStringLiteral("type-archive");
-        case FileKind::Sound:
-            return QStringLiteral("type-sound");
-        case FileKind::Picture:
-            return QStringLiteral("type-picture");
-        case FileKind::Video:
-            return QStringLiteral("type-video");
-        case FileKind::Other:
-            break;
-    }
-    return QStringLiteral("type-other");
-}
-
-QMimeType mimeOf(const QString& extension) {
-    static const QMimeDatabase database;
-    return database.mimeTypeForFile(QStringLiteral("x.") + extension.toLower(),
-                                    QMimeDatabase::MatchExtension);
-}
 
 // Types whose names the MIME database does not know or files under something else.
 FileKind kindByName(const QString& extension) {
@@ -93,8 +63,14 @@ bool isDocument(const QMimeType& mime) {
 
 }  // namespace
 
+QMimeType mimeTypeOf(const QString& extension) {
+    static const QMimeDatabase database;
+    return database.mimeTypeForFile(QStringLiteral("x.") + extension.toLower(),
+                                    QMimeDatabase::MatchExtension);
+}
+
 bool isTextExtension(const QString& extension) {
-    return mimeOf(extension).inherits(QStringLiteral("text/plain"));
+    return mimeTypeOf(extension).inherits(QStringLiteral("text/plain"));
 }
 
 FileKind kindOfExtension(const QString& extension) {
@@ -102,7 +78,7 @@ FileKind kindOfExtension(const QString& extension) {
     if (byName != FileKind::Other) {
         return byName;
     }
-    const QMimeType mime = mimeOf(extension);
+    const QMimeType mime = mimeTypeOf(extension);
     const QString name = mime.name();
     if (name.startsWith(QLatin1String("image/"))) {
         return FileKind::Picture;
@@ -140,62 +116,6 @@ FileKind kindOfType(const QString& extension, const QString& description) {
         }
     }
     return FileKind::Other;
-}
-
-QImage readPicture(const QString& file, QSize largest) {
-    QImageReader reader(file);
-    QImageReader::setAllocationLimit(kMostPictureMegabytes);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    if (size.isValid() && (size.width() > largest.width() || size.height() > largest.height())) {
-        reader.setScaledSize(size.scaled(largest, Qt::KeepAspectRatio));
-    }
-    const QImage picture = reader.read();
-    const bool tooLarge = picture.width() > largest.width() || picture.height() > largest.height();
-    return tooLarge ? picture.scaled(largest, Qt::KeepAspectRatio, Qt::SmoothTransformation) : picture;
-}
-
-QImage framedAsDocument(const QImage& picture, QSize largest) {
-    const int border = kPaperMargin + kShadow;
-    const QSize room = largest - QSize(2 * border, 2 * border);
-    QSize inner = picture.size();
-    if (inner.width() > room.width() || inner.height() > room.height()) {
-        inner.scale(room, Qt::KeepAspectRatio);
-    }
-    inner = inner.expandedTo({1, 1});
-    QImage framed(inner + QSize(2 * border, 2 * border), QImage::Format_ARGB32_Premultiplied);
-    framed.fill(Qt::transparent);
-    QPainter painter(&framed);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    const QRect paper = framed.rect().adjusted(kShadow, kShadow, -kShadow, -kShadow);
-    painter.fillRect(paper.translated(kShadow, kShadow), QColor(0, 0, 0, 40));
-    painter.fillRect(paper, Qt::white);
-    painter.setPen(theme::kRule);
-    painter.drawRect(paper.adjusted(0, 0, -1, -1));
-    painter.drawImage(QRect(QPoint(border, border), inner), picture);
-    return framed;
-}
-
-FileTypeIcons::FileTypeIcons() : m_general(ownIcon(ownIconName(FileKind::Other))) {}
-
-void FileTypeIcons::prepare(const QString& extension, FileKind kind) {
-    if (m_byExtension.contains(extension)) {
-        return;
-    }
-    const QMimeType mime = mimeOf(extension);
-    QIcon icon;
-    if (!mime.isDefault()) {
-        icon = QIcon::fromTheme(mime.iconName());
-    }
-    if (icon.isNull() || icon.availableSizes().isEmpty()) {
-        icon = ownIcon(ownIconName(kind));
-    }
-    m_byExtension.insert(extension, icon);
-}
-
-QIcon FileTypeIcons::icon(const QString& extension) const {
-    return m_byExtension.value(extension, m_general);
 }
 
 }  // namespace vantor
