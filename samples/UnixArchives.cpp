@@ -74,11 +74,11 @@ QByteArray arFile(const std::vector<ArchiveMember>& members) {
 }
 
 QByteArray cpioFile(const std::vector<ArchiveMember>& members) {
-    QByteArray out;
+    Bytes out;
     int number = 1;
     for (const ArchiveMember& member : members)
-        out += cpioEntry(member.name, member.bytes, number++, 0100644);
-    return out + cpioEntry("TRAILER!!!", {}, 0, 0);
+        out.raw(cpioEntry(member.name, member.bytes, number++, 0100644));
+    return out.raw(cpioEntry("TRAILER!!!", {}, 0, 0)).alignTo(512).bytes();
 }
 
 }  // namespace vantor::samples
