@@ -11,20 +11,6 @@ for tool in Xvfb openbox; do
     fi
 done
 mkdir -p "$shots"
-rm -f "$shots/display"
-server=
-manager=
-trap 'kill $manager $server 2>/dev/null' EXIT
-Xvfb -displayfd 3 -screen 0 1280x900x24 3>"$shots/display" 2>/dev/null &
-server=$!
-for _ in 1 2 3 4 5 6 7 8 9 10; do
-    [ -s "$shots/display" ] && break
-    sleep 1
-done
-DISPLAY=:$(cat "$shots/display")
-export DISPLAY
-openbox 2>/dev/null &
-manager=$!
-sleep 1
+. "$(dirname "$0")/xserver.sh"
 QT_QPA_PLATFORM=xcb VANTOR_SHOTS=$shots "$program" \
     --gtest_filter='Flow.Photo*:Modes/RawFlow.*:Exit.ReturnIsYes:Exit.EscapeIsNo:Saving.SaveAll*:MoviePreview.SpaceAndClick*:MediaScreen.WhileTheSheet*'
