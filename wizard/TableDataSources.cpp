@@ -2,6 +2,7 @@
 
 #include "app/MyTableController.h"
 #include "media/MyDataObject.h"
+#include "wizard/PlatformException.h"
 
 namespace vantor {
 
@@ -30,8 +31,11 @@ QVariant mediumCell(const MyDataObject& medium, const QString& column) {
 }
 
 template <class List>
-bool hasRow(const List& rows, qsizetype row) {
-    return row >= 0 && row < rows.size();
+const auto& rowAt(const List& rows, qsizetype row) {
+    if (row < 0 || row >= rows.size()) {
+        throw PlatformException("index beyond the array");
+    }
+    return rows.at(row);
 }
 
 }  // namespace
@@ -50,32 +54,42 @@ qsizetype MyTableController::numberOfRowsInTableView(const QTableView* table) {
     return 0;
 }
 
-// A row that is gone meanwhile shows nothing.
 QVariant MyTableController::tableView(const QTableView* table, const QString& objectValueForTableColumn,
                                       qsizetype row) {
-    if (table == idTableView && hasRow(nsMutaryOfDataObject, row)) {
-        const auto& medium = nsMutaryOfDataObject.at(row);
-        return medium ? mediumCell(*medium, objectValueForTableColumn) : QVariant();
-    }
-    if (table == idCheckTableView && hasRow(nsCheckedListDataObject, row)) {
-        return nsCheckedListDataObject.at(row).value(objectValueForTableColumn);
-    }
-    if (table == idSigTableView) {
-        const std::lock_guard lock(listLock());
-        if (hasRow(nsSIGFileInfoDataObject, row)) {
-            const ResultRow& found = nsSIGFileInfoDataObject.at(row);
-            return found.contains(objectValueForTableColumn) ? found.value(objectValueForTableColumn)
-                                                             : QVariant();
+    try {
+        if (table == idTableView) {
+            const auto& medium = rowAt(nsMutaryOfDataObject, row);
+            return medium ? mediumCell(*medium, objectValueForTableColumn) : QVariant();
         }
+        if (table == idCheckTableView) {
+            return rowAt(nsCheckedListDataObject, row).value(objectValueForTableColumn);
+        }
+        if (table == idSigTableView) {
+            const std::lock_guard lock(listLock());
+            assertParameter(row >= 0 && row < nsSIGFileInfoDataObject.size(),
+                            "pRowIndex >= 0 && pRowIndex < [nsSIGFileInfoDataObject count]");
+            const ResultRow& found = std::as_const(nsSIGFileInfoDataObject).at(row);
+            return found.contains(objectValueForTableColumn)
+                       ? QVariant(found.value(objectValueForTableColumn))
+                       : QVariant();
+        }
+    } catch (const PlatformException&) {
+        // A row that is gone meanwhile shows nothing.
     }
     return {};
 }
 
-// The edit of a row that is gone is dropped.
 void MyTableController::tableView(const QTableView* table, const QVariant& setObjectValue,
                                   const QString& forTableColumn, qsizetype row) {
-    if (table == idCheckTableView && hasRow(nsCheckedListDataObject, row)) {
+    if (table != idCheckTableView) {
+        return;
+    }
+    try {
+        assertParameter(row >= 0 && row < nsCheckedListDataObject.size(),
+                        "pRowIndex >= 0 && pRowIndex < [nsCheckedListDataObject count]");
         nsCheckedListDataObject[row][forTableColumn] = setObjectValue;
+    } catch (const PlatformException&) {
+        // The edit of a row that is gone is dropped.
     }
 }
 

@@ -1,0 +1,21 @@
+// The one kind of failure that interface calls raise and their callers swallow.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace vantor {
+
+class PlatformException : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+// Raises when the condition, given in words too, does not hold.
+inline void assertParameter(bool holds, const char* condition) {
+    if (!holds) {
+        throw PlatformException(std::string("Invalid parameter not satisfying: ") + condition);
+    }
+}
+
+}  // namespace vantor
