@@ -140,10 +140,11 @@ Extent walkMpegVideo(ByteView& view) {
         if (!next.found())
             break;
         // A sequence that begins at a sector's start, behind a filled one, is the next file.
-        const auto filled = startOfZeros(view, at + 4, next.at);
-        if (startCode(view, next.at) == 0xB3 && isSectorStart(next.at) && next.at - filled > 2 &&
-            codes >= kFewCodes)
-            return inexact(completeAt(view, filled, facts));
+        if (codes >= kFewCodes && isSectorStart(next.at) && startCode(view, next.at) == 0xB3) {
+            const auto filled = startOfZeros(view, at + 4, next.at);
+            if (next.at - filled > 2)
+                return inexact(completeAt(view, filled, facts));
+        }
         longest = std::max(longest, next.at - at);
         at = next.at;
         const auto code = startCode(view, at).value_or(0);

@@ -1,7 +1,6 @@
 // One rule a kind of file.
 #include "decode/helper/PictureWithin.h"
 
-#include <algorithm>
 #include <cstdint>
 
 #include "decode/helper/ByteSpan.h"
@@ -10,13 +9,6 @@
 namespace vantor::decode {
 
 namespace {
-
-QByteArray borrowed(QByteArrayView bytes, std::uint64_t at, std::uint64_t length) {
-    const auto size = static_cast<std::uint64_t>(bytes.size());
-    const std::uint64_t from = std::min(at, size);
-    return QByteArray::fromRawData(bytes.data() + from,
-                                   static_cast<qsizetype>(std::min(length, size - from)));
-}
 
 QByteArray screenPicture(QByteArrayView bytes, ByteView& view) {
     constexpr std::uint64_t kTiffAt = 20, kTiffLength = 24;

@@ -1,7 +1,6 @@
 // One rule a kind of file.
 #include "decode/helper/ReducedPicture.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "decode/helper/ByteSpan.h"
@@ -11,15 +10,6 @@
 #include "decode/helper/SummaryThumbnail.h"
 
 namespace vantor::decode {
-
-namespace {
-
-QByteArray borrowed(QByteArrayView bytes, std::uint64_t at, std::uint64_t length) {
-    const std::uint64_t left = static_cast<std::uint64_t>(bytes.size()) - at;
-    return QByteArray::fromRawData(bytes.data() + at, static_cast<qsizetype>(std::min(length, left)));
-}
-
-}  // namespace
 
 QList<ReducedPicture> reducedPicturesIn(QByteArrayView bytes) {
     SpanSource source(spanOf(bytes));
