@@ -194,6 +194,7 @@ void MyTableController::awakeFromNib() {
     show_hide_3_screen_RawFile(true);
     show_hide_4_screen_RawFile(true);
     hideOpenFolderButtons();
+    zoomLabel->hide();
     _zoom_slider->hide();
     backButton->setEnabled(false);
     show_hide_1_screen(false);

@@ -207,6 +207,7 @@ void MyTableController::runEndPanel(ControlSet set) {
 
 void MyTableController::showResultControls(ControlSet set) {
     const bool photo = set == ControlSet::Photo;
+    zoomLabel->setVisible(photo);
     _zoom_slider->setVisible(photo);
     (photo ? _open_folder : _open_folder_Sig)->show();
     browserOf(set)->setFocus();

@@ -194,6 +194,7 @@ void MyTableController::backToRange() {
     screen_counter = 1;
     showRangeHelp();
     emptyBrowsers();
+    zoomLabel->hide();
     _zoom_slider->hide();
     if (Recovery_MODE == kPhotoMode) {
         show_hide_3_screen_Photo(true);

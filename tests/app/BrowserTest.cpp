@@ -237,6 +237,7 @@ TEST_F(Browser, WhereTheKeyboardStandsIsSeen) {
 TEST_F(Browser, HowManyAreSelectedCanBeReadInANarrowWindow) {
     open();
     showPhotoScreen();
+    controller->zoomLabel->show();
     controller->_zoom_slider->show();
     controller->window->resize(655, 490);  // 1024 x 768 at 144 dots an inch
     addPhotos(67);

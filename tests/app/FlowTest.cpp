@@ -117,6 +117,7 @@ TEST_F(Flow, Photo_FromStartToEndAndBack) {
         EXPECT_FALSE(hidden->isVisible()) << hidden->objectName().toStdString();
     }
     EXPECT_TRUE(controller->_zoom_slider->isVisible());
+    EXPECT_TRUE(controller->zoomLabel->isVisible());
     EXPECT_TRUE(controller->_open_folder->isVisible());
     EXPECT_FALSE(controller->nextButton->isEnabled());
     EXPECT_TRUE(controller->_browse_path->isEnabled());
@@ -132,6 +133,7 @@ TEST_F(Flow, Photo_FromStartToEndAndBack) {
     EXPECT_EQ(controller->itemCount(), 0u);
     EXPECT_EQ(controller->imageBrowser->model()->rowCount(), 0);
     EXPECT_FALSE(controller->_zoom_slider->isVisible());
+    EXPECT_FALSE(controller->zoomLabel->isVisible());
     EXPECT_FALSE(controller->_open_folder->isVisible());
     EXPECT_TRUE(controller->nextButton->isEnabled());
     EXPECT_TRUE(controller->_path->isVisible());
@@ -152,6 +154,7 @@ TEST_P(RawFlow, FromStartToEndAndBackToTheFirstScreen) {
     EXPECT_EQ(controller->_help_info->text(), kEndHelp);
     EXPECT_TRUE(controller->_open_folder_Sig->isVisible());
     EXPECT_FALSE(controller->_zoom_slider->isVisible());
+    EXPECT_FALSE(controller->zoomLabel->isVisible());
     // General and thorough pass.
     EXPECT_EQ(controller->itemCount(), video ? 3u : 4u);
     EXPECT_EQ(controller->imageBrowser_2->model()->rowCount(), video ? 3 : 4);
