@@ -21,12 +21,12 @@
 #include <cstdio>
 #include <ctime>
 
-#include "app/MyTableController.h"
 #include "catalogue/ResourcesFolder.h"
 #include "decode/DecodePool.h"
 #include "media/PlatformMedia.h"
 #include "results/RecoveryMode.h"
-#include "wizard/Theme.h"
+#include "window/MyTableController.h"
+#include "window/widgets/Theme.h"
 
 namespace {
 

@@ -15,7 +15,7 @@ constexpr QStringView kHeaderKey = u"Header :";
 
 // The first byte of the header as decimal text, taken before any dot cuts the value.
 QString firstByteText(QStringView trimmedHeader) {
-    return QString::number(hex2int(trimmedHeader.left(2)));
+    return QString::number(HexText::hex2int(trimmedHeader.left(2)));
 }
 
 QString cutAtDot(const QString& trimmed) {

@@ -150,7 +150,7 @@ class Linter {
         if (header.value.size() % 2 != 0) {
             return QStringLiteral("its last digit is half a byte");
         }
-        if (hex2int(header.rawValue.left(2)) != hex2int(header.value.left(2))) {
+        if (HexText::hex2int(header.rawValue.left(2)) != HexText::hex2int(header.value.left(2))) {
             return QStringLiteral("its first byte is taken before the dot");
         }
         if (header.value.count(u'0') == header.value.size()) {

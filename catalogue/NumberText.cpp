@@ -98,7 +98,7 @@ double textToDouble(QStringView text) {
     return scanDouble(text).value_or(0.0);
 }
 
-int hex2dec(QStringView digit) {
+int HexText::hex2dec(QStringView digit) {
     if (digit.isEmpty()) {
         return 0;
     }
@@ -115,7 +115,7 @@ int hex2dec(QStringView digit) {
     return 0;
 }
 
-qint32 hex2int(QStringView digits) {
+qint32 HexText::hex2int(QStringView digits) {
     quint32 sum = 0;
     for (qsizetype i = 0; i < digits.size(); ++i) {
         sum = sum * 16u + static_cast<quint32>(hex2dec(digits.sliced(i, 1)));

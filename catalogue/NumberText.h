@@ -20,11 +20,14 @@ std::optional<double> scanDouble(QStringView text);
 // As scanDouble, with 0 for junk.
 double textToDouble(QStringView text);
 
-// Value of one hexadecimal digit, taken from the low 8 bits of the first character; anything else, and the
-// empty string, is 0.
-int hex2dec(QStringView digit);
+// Hexadecimal text, as a base for whoever has these as members.
+struct HexText {
+    // Value of one hexadecimal digit, taken from the low 8 bits of the first character; anything else, and
+    // the empty string, is 0.
+    static int hex2dec(QStringView digit);
 
-// Value of a string of hexadecimal digits in 32-bit arithmetic; characters that are no digits count as 0.
-qint32 hex2int(QStringView digits);
+    // Value of a string of hexadecimal digits in 32-bit arithmetic; characters that are no digits count as 0.
+    static qint32 hex2int(QStringView digits);
+};
 
 }  // namespace vantor

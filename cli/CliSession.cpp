@@ -4,7 +4,7 @@
 #include <QJsonArray>
 
 #include "results/PreviewCopy.h"
-#include "results/Sha256.h"
+#include "saving/Sha256.h"
 
 namespace vantor {
 

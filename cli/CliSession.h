@@ -8,9 +8,9 @@
 #include <optional>
 
 #include "cli/Options.h"
-#include "results/RecoveryReport.h"
-#include "results/SaveQueue.h"
-#include "results/SaveTally.h"
+#include "saving/RecoveryReport.h"
+#include "saving/SaveQueue.h"
+#include "saving/SaveTally.h"
 #include "scan/ScanSession.h"
 
 namespace vantor {

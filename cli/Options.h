@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "results/RecoveryMode.h"
-#include "results/SavePolicy.h"
+#include "saving/SavePolicy.h"
 
 namespace vantor {
 

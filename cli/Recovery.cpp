@@ -23,7 +23,7 @@
 #include "cli/ProgressLine.h"
 #include "media/PlatformMedia.h"
 #include "media/SizeText.h"
-#include "results/DestinationCheck.h"
+#include "saving/DestinationCheck.h"
 
 namespace vantor {
 

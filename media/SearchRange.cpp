@@ -18,7 +18,7 @@ std::optional<RangeRefusal> refuseField(const QString& text, const QString& sect
     if (scanInt64(text).value_or(-1) < 0) {
         return invalid;
     }
-    if (!Check_For_Valid_Sec(text)) {
+    if (!SectorText::Check_For_Valid_Sec(text)) {
         return invalid;
     }
     if (text.size() > sectors.size()) {
@@ -43,7 +43,7 @@ SectorRange rangeFromControls(const RangeControls& controls) {
     return {};
 }
 
-bool Check_For_Valid_Sec(const QString& text) {
+bool SectorText::Check_For_Valid_Sec(const QString& text) {
     return std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
 }
 

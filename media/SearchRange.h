@@ -36,8 +36,11 @@ struct RangeRefusal {
     RangeField field = RangeField::Start;
 };
 
-// True when every character is one of "0" to "9"; so for the empty text.
-bool Check_For_Valid_Sec(const QString& text);
+// The text of a sector field, as a base for whoever has this as a member.
+struct SectorText {
+    // True when every character is one of "0" to "9"; so for the empty text.
+    static bool Check_For_Valid_Sec(const QString& text);
+};
 
 // The first of the nine checks of a sector range that fails, or nothing when the range may be scanned.
 std::optional<RangeRefusal> refuseRange(const QString& start, const QString& end, const QString& sectors);

@@ -5,7 +5,6 @@
 #include <QStringList>
 
 #include "results/MediumBytes.h"
-#include "results/SaveTally.h"
 #include "results/SizeForPeople.h"
 #include "results/TrueLength.h"
 
@@ -48,18 +47,22 @@ std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, S
     return soundness;
 }
 
-std::optional<Soundness> soundnessOf(const SaveOutcome& outcome) {
-    const bool known = outcome.saved || outcome.leftOut != LeftOut::No;
-    if (!known) {
-        return std::nullopt;
+QString soundnessText(Verdict verdict) {
+    switch (verdict) {
+        case Verdict::Complete:
+            return QStringLiteral("complete");
+        case Verdict::CutOff:
+            return QStringLiteral("cut off");
+        case Verdict::Damaged:
+            return QStringLiteral("damaged");
+        case Verdict::Unknown:
+            break;
     }
-    return Soundness{outcome.verdict,
-                     outcome.sectorsUnreadable != 0,
-                     outcome.leftOut == LeftOut::Unsound,
-                     outcome.bytes,
-                     outcome.width,
-                     outcome.height,
-                     outcome.taken};
+    return QStringLiteral("unknown");
+}
+
+QString soundnessWords(Verdict verdict) {
+    return verdict == Verdict::Unknown ? QStringLiteral("of unknown length") : soundnessText(verdict);
 }
 
 QString describe(const Soundness& soundness) {

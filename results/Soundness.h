@@ -8,7 +8,7 @@
 
 #include "formats/Extent.h"
 #include "media/WatchedReader.h"
-#include "results/ItemSaver.h"
+#include "results/CarvedRun.h"
 
 namespace vantor {
 
@@ -30,8 +30,10 @@ std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, S
                                  ReadWatch& watch, std::vector<std::uint8_t>& kept,
                                  std::uint64_t mostBytes = kMostExaminedBytes);
 
-// What saving found out; nothing when it did not come that far.
-std::optional<Soundness> soundnessOf(const SaveOutcome& outcome);
+// "complete", "cut off", "damaged" or "unknown", for machines.
+QString soundnessText(Verdict verdict);
+// The same for people: what is unknown is the length.
+QString soundnessWords(Verdict verdict);
 
 // "complete, 4.2 MB, 4000 × 3000 pixels, taken 2026-05-17".
 QString describe(const Soundness& soundness);

@@ -32,7 +32,7 @@ constexpr int kNone = std::numeric_limits<int>::max();
 std::vector<std::uint8_t> headerOf(const QString& hex) {
     std::vector<std::uint8_t> bytes;
     for (qsizetype i = 0; i + 1 < hex.size(); i += 2) {
-        bytes.push_back(static_cast<std::uint8_t>(hex2int(QStringView(hex).sliced(i, 2))));
+        bytes.push_back(static_cast<std::uint8_t>(HexText::hex2int(QStringView(hex).sliced(i, 2))));
     }
     return bytes;
 }

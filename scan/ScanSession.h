@@ -23,6 +23,7 @@
 #include <vector>
 
 #include "catalogue/FileTypeList.h"
+#include "catalogue/NumberText.h"
 #include "media/SectorReader.h"
 #include "results/MyImageObject.h"
 #include "results/RecoveryMode.h"
@@ -52,7 +53,7 @@ using MediumOpener = std::function<std::unique_ptr<SectorReader>(const QString& 
 // Threads: the members under "Shared words" may be touched by any thread; `images` and the result rows are
 // guarded by listLock(); everything else belongs to whoever runs the scan, or to the main thread while none
 // runs.
-class ScanSession {
+class ScanSession : public HexText {
   public:
     explicit ScanSession(ScanView& view);
     ScanSession(const ScanSession&) = delete;
@@ -66,9 +67,6 @@ class ScanSession {
 
     // Fills the six catalogue arrays from the files in the folder; an unreadable file leaves its array empty.
     void loadCatalogues(const QString& folder);
-
-    int hex2int(const QString& string) const;
-    int hex2dec(const QString& string) const;
 
     // The file-type list of the current mode, all ticked, sorted.
     void buildFileTypeList();

@@ -1,6 +1,5 @@
 // Loading of the six catalogues, and the file-type selection made from them.
 #include "catalogue/CatalogueFile.h"
-#include "catalogue/NumberText.h"
 #include "scan/ScanSession.h"
 
 namespace vantor {
@@ -14,14 +13,6 @@ void ScanSession::loadCatalogues(const QString& folder) {
     for (const auto& [name, array] : files) {
         appendCatalogueFile(folder + QLatin1String(name), *array);
     }
-}
-
-int ScanSession::hex2int(const QString& string) const {
-    return vantor::hex2int(string);
-}
-
-int ScanSession::hex2dec(const QString& string) const {
-    return vantor::hex2dec(string);
 }
 
 const QStringList& ScanSession::generalCatalogueOfMode() const {

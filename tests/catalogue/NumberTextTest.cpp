@@ -46,22 +46,22 @@ TEST(NumberText, DoublesAreDecimalOnly) {
 }
 
 TEST(NumberText, HexDigits) {
-    EXPECT_EQ(hex2dec(u"0"), 0);
-    EXPECT_EQ(hex2dec(u"9"), 9);
-    EXPECT_EQ(hex2dec(u"A"), 10);
-    EXPECT_EQ(hex2dec(u"f"), 15);
-    EXPECT_EQ(hex2dec(u"g"), 0);
-    EXPECT_EQ(hex2dec(u""), 0);
-    EXPECT_EQ(hex2dec(u"\u0141"), 10);  // only the low 8 bits count, here those of 'A'
+    EXPECT_EQ(HexText::hex2dec(u"0"), 0);
+    EXPECT_EQ(HexText::hex2dec(u"9"), 9);
+    EXPECT_EQ(HexText::hex2dec(u"A"), 10);
+    EXPECT_EQ(HexText::hex2dec(u"f"), 15);
+    EXPECT_EQ(HexText::hex2dec(u"g"), 0);
+    EXPECT_EQ(HexText::hex2dec(u""), 0);
+    EXPECT_EQ(HexText::hex2dec(u"\u0141"), 10);  // only the low 8 bits count, here those of 'A'
 }
 
 TEST(NumberText, HexStrings) {
-    EXPECT_EQ(hex2int(u""), 0);
-    EXPECT_EQ(hex2int(u"FF"), 255);
-    EXPECT_EQ(hex2int(u"G1"), 1);
-    EXPECT_EQ(hex2int(u"1G"), 16);
-    EXPECT_EQ(hex2int(u"7FFFFFFF"), 0x7FFFFFFF);
-    EXPECT_EQ(hex2int(u"FFFFFFFF"), -1);
+    EXPECT_EQ(HexText::hex2int(u""), 0);
+    EXPECT_EQ(HexText::hex2int(u"FF"), 255);
+    EXPECT_EQ(HexText::hex2int(u"G1"), 1);
+    EXPECT_EQ(HexText::hex2int(u"1G"), 16);
+    EXPECT_EQ(HexText::hex2int(u"7FFFFFFF"), 0x7FFFFFFF);
+    EXPECT_EQ(HexText::hex2int(u"FFFFFFFF"), -1);
 }
 
 }  // namespace vantor

@@ -5,7 +5,7 @@
 #include <QSet>
 #include <QString>
 
-#include "results/Sha256.h"
+#include "saving/Sha256.h"
 #include "tests/support/Files.h"
 
 namespace vantor {

@@ -65,10 +65,10 @@ TEST(SearchRange, StartIsCheckedBeforeEnd) {
 }
 
 TEST(SearchRange, EmptyTextHasOnlyDigits) {
-    EXPECT_TRUE(Check_For_Valid_Sec(""));
-    EXPECT_TRUE(Check_For_Valid_Sec("0123456789"));
-    EXPECT_FALSE(Check_For_Valid_Sec("12 "));
-    EXPECT_FALSE(Check_For_Valid_Sec(QStringLiteral("\u0663")));  // a digit, but none of the ten
+    EXPECT_TRUE(SectorText::Check_For_Valid_Sec(""));
+    EXPECT_TRUE(SectorText::Check_For_Valid_Sec("0123456789"));
+    EXPECT_FALSE(SectorText::Check_For_Valid_Sec("12 "));
+    EXPECT_FALSE(SectorText::Check_For_Valid_Sec(QStringLiteral("\u0663")));  // a digit, but none of the ten
 }
 
 TEST(SearchRange, NumbersComeFromTheChosenControls) {

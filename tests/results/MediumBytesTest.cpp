@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "results/MediumBytes.h"
-#include "tests/results/Files.h"
+#include "tests/support/SmallFiles.h"
 
 namespace vantor {
 namespace {

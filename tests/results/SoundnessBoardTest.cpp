@@ -5,7 +5,7 @@
 
 #include "results/MyImageObject.h"
 #include "results/SoundnessBoard.h"
-#include "tests/results/Files.h"
+#include "tests/support/SmallFiles.h"
 
 namespace vantor {
 namespace {

@@ -80,7 +80,7 @@ bool headerMatches(const QStringList& records, qsizetype record, const ScriptedM
             return false;
         }
         int k = 0;
-        while (k < n && p + k < 512 && hex2int(hex.mid(2 * k, 2)) == sector[p + k]) {
+        while (k < n && p + k < 512 && HexText::hex2int(hex.mid(2 * k, 2)) == sector[p + k]) {
             ++k;
         }
         if (k == n) {

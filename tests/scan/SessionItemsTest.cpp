@@ -243,8 +243,8 @@ TEST_F(SessionItems, CataloguesAreReadIntoTheirArrays) {
 }
 
 TEST_F(SessionItems, HexHelpersAreMembersToo) {
-    EXPECT_EQ(session.hex2int("G1"), 1);
-    EXPECT_EQ(session.hex2dec("f"), 15);
+    EXPECT_EQ(session.hex2int(u"G1"), 1);
+    EXPECT_EQ(session.hex2dec(u"f"), 15);
 }
 
 }  // namespace vantor

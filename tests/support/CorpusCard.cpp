@@ -6,7 +6,7 @@
 #include <QFile>
 #include <cstdio>
 
-#include "results/Sha256.h"
+#include "saving/Sha256.h"
 #include "tests/formats/CorpusExceptions.h"
 
 namespace vantor::test {

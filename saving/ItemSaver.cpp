@@ -1,0 +1,312 @@
+// From a found item to a whole file in its type's folder: how long, whether at all, under which name,
+// written.
+#include "saving/ItemSaver.h"
+
+#include <sys/stat.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+#include <array>
+#include <map>
+#include <utility>
+#include <vector>
+
+#include "results/TrueLength.h"
+#include "saving/FreeSpace.h"
+#include "saving/SavedFiles.h"
+#include "saving/Sha256.h"
+#include "saving/WholeFile.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr std::size_t kChunkBytes = 1024 * 1024;
+// Reading behind carved runs that found no whole file may cost as much as one pass over the medium, and on
+// small media so much.
+constexpr std::uint64_t kLeastVainReading = std::uint64_t{4} << 30;
+
+QByteArrayView asView(std::span<const std::uint8_t> bytes) {
+    return {bytes.data(), static_cast<qsizetype>(bytes.size())};
+}
+
+QString cancelledText() {
+    return QStringLiteral("Cancelled");
+}
+
+bool isUnwanted(const FoundItem& item) {
+    return item.unwanted != nullptr && *item.unwanted;
+}
+
+// Of as many of a file's first bytes as can be read; they stay in memory for the writing.
+QByteArray sumOfHead(MediumBytes& bytes, std::uint64_t length) {
+    std::vector<std::uint8_t> head(static_cast<std::size_t>(std::min(length, Likeness::kHeadBytes)));
+    const std::size_t arrived = bytes.read(0, head);
+    return Sha256::of(asView(std::span(head).first(arrived)));
+}
+
+std::uint64_t firstSectorOf(const FoundItem& item) {
+    return item.source.carved.runs.empty() ? 0 : item.source.carved.runs.front().first;
+}
+
+}  // namespace
+
+struct ItemSaver::State {
+    bool mayGoBeyond(const FoundItem& item) const;
+    void noteLength(const FoundItem& item, const TrueLength& length, std::uint64_t readBeyond);
+
+    std::vector<std::uint8_t> kept;
+    std::array<std::vector<std::uint8_t>, 2> chunks;
+    BackgroundSha256 sum;
+    SavedFiles saved;
+    std::map<std::uint64_t, std::uint64_t> streams;  // sectors [first, end) of whole frame streams
+    std::uint64_t bytesReadInVain = 0;
+    std::optional<dev_t> device;  // that the destination was on first
+};
+
+// What is being written, and where to.
+struct ItemSaver::Writing {
+    const FoundItem& item;
+    QString folder;
+    QString name;
+    Likeness likeness;  // empty where duplicates do not matter
+};
+
+// Every frame of a stream may look like a file's beginning to the catalogues; such parts are saved as they
+// were carved, or saving would cost the square of the file.
+bool ItemSaver::State::mayGoBeyond(const FoundItem& item) const {
+    if (bytesReadInVain > std::max(kLeastVainReading, item.source.mediumSectors * kSectorBytes)) {
+        return false;
+    }
+    const std::uint64_t first = firstSectorOf(item);
+    const auto after = streams.lower_bound(first);
+    return !isFrameStream(item.type) || after == streams.begin() || std::prev(after)->second <= first;
+}
+
+void ItemSaver::State::noteLength(const FoundItem& item, const TrueLength& length, std::uint64_t readBeyond) {
+    if (length.extent.verdict != Verdict::Complete) {
+        bytesReadInVain += readBeyond;
+    } else if (isFrameStream(item.type)) {
+        std::uint64_t& end = streams[firstSectorOf(item)];
+        end = std::max(end, firstSectorOf(item) + length.bytes / kSectorBytes);
+    }
+}
+
+ItemSaver::ItemSaver(const QString& destination, const SavePolicy& policy)
+    : m_destination(destination), m_policy(policy), m_state(std::make_unique<State>()) {}
+
+ItemSaver::~ItemSaver() = default;
+
+SaveOutcome ItemSaver::saveRuns(const QString& type, const QString& name, const CarvedRun& carved,
+                                SectorReader& medium) const {
+    return save({type, name, {carved, {}, [&medium] { return &medium; }, medium.mediumSectors()}});
+}
+
+SaveOutcome ItemSaver::save(const FoundItem& item) const {
+    SaveOutcome outcome;
+    if (!destinationIsThere(outcome)) {
+        return outcome;
+    }
+    ItemSource source = item.source;
+    source.asPublished = m_policy.asPublished;
+    // The published bytes of an item with failed reads repeat the sector before; its places tell better.
+    if (!m_policy.asPublished && source.carved.readFailed && !source.carved.runs.empty()) {
+        source.firstBytes = {};
+    }
+    MediumBytes bytes(source, m_state->kept);
+    const bool chosen = decideLength(item, bytes, outcome);
+    if (isUnwanted(item)) {
+        outcome.error = cancelledText();
+    } else if (chosen) {
+        saveBytes(item, bytes, outcome);
+    }
+    return outcome;
+}
+
+// A destination that was pulled out leaves a folder of its name on another disk.
+bool ItemSaver::destinationIsThere(SaveOutcome& outcome) const {
+    struct stat info {};
+    if (!m_state->device && !QDir().mkpath(m_destination)) {
+        outcome.error = QStringLiteral("The folder %1 cannot be created").arg(m_destination);
+        return false;
+    }
+    if (::stat(QFile::encodeName(m_destination).constData(), &info) != 0 ||
+        m_state->device.value_or(info.st_dev) != info.st_dev) {
+        outcome.error = QStringLiteral("The folder %1 is no longer there").arg(m_destination);
+        return false;
+    }
+    m_state->device = info.st_dev;
+    return true;
+}
+
+// False when the item is left out.
+bool ItemSaver::decideLength(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const {
+    TrueLength length{bytes.carvedBytes(), {}};
+    if (!m_policy.asPublished) {
+        length = trueLengthOf(item.type, bytes, m_state->mayGoBeyond(item));
+        m_state->noteLength(item, length, bytes.bytesReadBeyond());
+    }
+    const Facts& facts = length.extent.facts;
+    outcome.bytes = length.bytes;
+    outcome.verdict = length.extent.verdict;
+    outcome.exactLength = length.extent.verdict == Verdict::Complete && length.extent.exactEnd;
+    outcome.taken = facts.taken;
+    outcome.width = facts.width;
+    outcome.height = facts.height;
+    const std::uint32_t longerSide = std::max(facts.width, facts.height);
+    if (length.bytes < m_policy.minBytes || (longerSide != 0 && longerSide < m_policy.minPixels)) {
+        outcome.leftOut = LeftOut::TooSmall;
+    } else if (m_policy.skipUnsound && isCertainlyUnsound(item.type, length.extent)) {
+        outcome.leftOut = LeftOut::Unsound;
+    }
+    return outcome.leftOut == LeftOut::No;
+}
+
+void ItemSaver::saveBytes(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const {
+    const SavedName name = savedNameOf(item.type, item.name, m_policy.byDate ? outcome.taken : std::nullopt);
+    Writing writing{item, m_destination + u'/' + name.folder, name.file, {}};
+    if (!QDir().mkpath(writing.folder)) {
+        outcome.error = QStringLiteral("The folder %1 cannot be created").arg(writing.folder);
+        return;
+    }
+    if (m_policy.skipDuplicates) {
+        writing.likeness = {outcome.bytes, sumOfHead(bytes, outcome.bytes)};
+        if (settleBeforeWriting(writing, bytes, outcome)) {
+            return;
+        }
+    }
+    if (writeFile(writing, bytes, outcome)) {
+        writing.likeness.bytes = outcome.bytes;
+        m_state->saved.add(writing.likeness, {outcome.path, item.type, outcome.sha256, firstSectorOf(item)});
+    }
+}
+
+// True when the bytes are known to be saved already, without reading more of the medium than was read.
+bool ItemSaver::settleBeforeWriting(const Writing& writing, MediumBytes& bytes, SaveOutcome& outcome) const {
+    SavedFiles& saved = m_state->saved;
+    const FoundItem& item = writing.item;
+    // Types that share a header share the item.
+    if (!item.source.carved.readFailed) {
+        const SavedFile* const same = saved.fromPlace(outcome.bytes, firstSectorOf(item), item.type);
+        if (same != nullptr) {
+            return settleAs(*same, writing, outcome);
+        }
+    }
+    const auto atHand = bytes.keptFrom(0);
+    if (atHand.size() < outcome.bytes || !saved.hasLike(writing.likeness)) {
+        return false;
+    }
+    outcome.sha256 = Sha256::of(asView(atHand.first(static_cast<std::size_t>(outcome.bytes))));
+    const SavedFile* const same = saved.withChecksum(writing.likeness, outcome.sha256, item.type);
+    return same != nullptr && settleAs(*same, writing, outcome);
+}
+
+// False when the bytes have to be written again all the same.
+bool ItemSaver::settleAs(const SavedFile& earlier, const Writing& writing, SaveOutcome& outcome) const {
+    const bool sameType = earlier.type == writing.item.type;
+    const auto path = sameType ? earlier.path : linkAs(earlier.path, writing.folder, writing.name);
+    if (!path) {
+        return false;
+    }
+    outcome.path = *path;
+    outcome.sha256 = earlier.sha256;
+    outcome.saved = outcome.duplicate = true;
+    if (!sameType) {
+        m_state->saved.add(writing.likeness,
+                           {*path, writing.item.type, earlier.sha256, firstSectorOf(writing.item)});
+    }
+    return true;
+}
+
+// True when a new file was written; false with an error, or when it turned out to be a duplicate.
+bool ItemSaver::writeFile(const Writing& writing, MediumBytes& bytes, SaveOutcome& outcome) const {
+    if (const auto refusal = refuseForSpace(writing.folder, outcome.bytes)) {
+        outcome.error = *refusal;
+        return false;
+    }
+    WholeFile file(writing.folder);
+    const bool likeAnother = m_policy.skipDuplicates && m_state->saved.hasLike(writing.likeness);
+    const bool summing = outcome.sha256.isEmpty() && (m_policy.checksums || likeAnother);
+    const std::uint64_t done = copyBytes(writing.item, outcome.bytes, bytes, file, summing);
+    if (summing) {
+        outcome.sha256 = m_state->sum.result();
+    }
+    if (isUnwanted(writing.item)) {
+        outcome.error = cancelledText();
+        return false;
+    }
+    outcome.sectorsUnreadable = bytes.sectorsUnreadable(done);
+    if (file.isGood() && done < outcome.bytes) {
+        if (done == 0) {
+            outcome.error = QStringLiteral("The medium cannot be read any more");
+            return false;
+        }
+        outcome.bytes = done;
+        outcome.verdict = Verdict::CutOff;
+    } else if (outcome.sectorsUnreadable != 0 && outcome.verdict == Verdict::Complete) {
+        outcome.verdict = Verdict::Damaged;
+    }
+    if (likeAnother && summing && file.isGood()) {
+        const Likeness asWritten{outcome.bytes, writing.likeness.head};
+        const SavedFile* const same =
+            m_state->saved.withChecksum(asWritten, outcome.sha256, writing.item.type);
+        if (same != nullptr && settleAs(*same, writing, outcome)) {
+            return false;
+        }
+    }
+    if (const auto seconds = outcome.taken ? secondsOf(*outcome.taken) : std::nullopt) {
+        file.setModificationTime(*seconds);
+    }
+    const auto path = file.commit(writing.name);
+    if (!path) {
+        outcome.error = file.error();
+        return false;
+    }
+    outcome.saved = true;
+    outcome.path = *path;
+    return true;
+}
+
+// Bytes written; fewer than asked where the medium or the file failed.
+std::uint64_t ItemSaver::copyBytes(const FoundItem& item, std::uint64_t length, MediumBytes& bytes,
+                                   WholeFile& file, bool summing) const {
+    std::uint64_t done = 0;
+    for (std::size_t turn = 0; done < length && file.isGood() && !isUnwanted(item); ++turn) {
+        auto stretch = bytes.keptFrom(done);
+        if (stretch.empty()) {
+            // The checksum may still be busy with the other chunk.
+            auto& chunk = m_state->chunks[turn % 2];
+            chunk.resize(kChunkBytes);
+            stretch = std::span(chunk).first(bytes.readPast(done, chunk));
+        }
+        const std::uint64_t count = std::min<std::uint64_t>(stretch.size(), length - done);
+        if (count == 0) {
+            break;
+        }
+        stretch = stretch.first(static_cast<std::size_t>(count));
+        if (summing) {
+            m_state->sum.add(asView(stretch));
+        }
+        file.write(asView(stretch));
+        done += count;
+    }
+    return done;
+}
+
+std::optional<Soundness> soundnessOf(const SaveOutcome& outcome) {
+    const bool known = outcome.saved || outcome.leftOut != LeftOut::No;
+    if (!known) {
+        return std::nullopt;
+    }
+    return Soundness{outcome.verdict,
+                     outcome.sectorsUnreadable != 0,
+                     outcome.leftOut == LeftOut::Unsound,
+                     outcome.bytes,
+                     outcome.width,
+                     outcome.height,
+                     outcome.taken};
+}
+
+}  // namespace vantor

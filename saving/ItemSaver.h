@@ -1,0 +1,94 @@
+// Writes found items into the destination folder, each as long as its own format says it is.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <atomic>
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+#include "formats/Extent.h"
+#include "media/SectorReader.h"
+#include "results/CarvedRun.h"
+#include "results/MediumBytes.h"
+#include "results/Soundness.h"
+#include "saving/SavePolicy.h"
+#include "saving/SavedName.h"
+
+namespace vantor {
+
+struct SavedFile;
+class WholeFile;
+
+// Why an item was not written although nothing failed.
+enum class LeftOut { No, TooSmall, Unsound };
+
+struct SaveOutcome {
+    bool saved = false;      // its bytes lie at `path`
+    bool duplicate = false;  // saved, as bytes that were saved before: `path` is the earlier file or a second
+                             // name of it
+    LeftOut leftOut = LeftOut::No;
+    QString path;
+    QString error;                        // a sentence for the user when saving failed
+    std::uint64_t bytes = 0;              // of the file
+    std::uint64_t sectorsUnreadable = 0;  // written as zeros
+    // Of the file as saved: Complete only when all of its sectors could be read.
+    Verdict verdict = Verdict::Unknown;
+    bool exactLength = true;         // false: the format does not mark its end to the byte
+    std::optional<CivilTime> taken;  // also the file's modification time
+    std::uint32_t width = 0;         // pixels; 0: not told
+    std::uint32_t height = 0;
+    QByteArray sha256;  // raw; may be empty where the policy asks for none
+};
+
+// What saving found out; nothing when it did not come that far.
+std::optional<Soundness> soundnessOf(const SaveOutcome& outcome);
+
+struct FoundItem {
+    QString type;  // `Ext_Name`
+    QString name;
+    ItemSource source;
+    // Set by anybody once the item is no longer wanted: it then fails, and nothing of it stays behind.
+    const std::atomic<bool>* unwanted = nullptr;
+};
+
+// One medium and one destination. An item becomes `<destination>/<type>/<name>`, whole or not at all; nothing
+// is ever overwritten, and no type or name leads out of the destination. What does not fit is told and left
+// out; a smaller item behind it may still fit. Any one thread.
+//
+// The same bytes are saved once: again under the same type they are left out, under another type (a header
+// that several types share) the file gets a second name there, or is written again where the file system has
+// no second names.
+class ItemSaver {
+  public:
+    explicit ItemSaver(const QString& destination, const SavePolicy& policy = {});
+    ItemSaver(const ItemSaver&) = delete;
+    ItemSaver& operator=(const ItemSaver&) = delete;
+    ~ItemSaver();
+
+    SaveOutcome save(const FoundItem& item) const;
+
+    // An item that is read from its medium from the first byte on.
+    SaveOutcome saveRuns(const QString& type, const QString& name, const CarvedRun& carved,
+                         SectorReader& medium) const;
+
+  private:
+    struct State;
+    struct Writing;
+
+    bool destinationIsThere(SaveOutcome& outcome) const;
+    bool decideLength(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const;
+    void saveBytes(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const;
+    bool settleBeforeWriting(const Writing& writing, MediumBytes& bytes, SaveOutcome& outcome) const;
+    bool settleAs(const SavedFile& earlier, const Writing& writing, SaveOutcome& outcome) const;
+    std::uint64_t copyBytes(const FoundItem& item, std::uint64_t length, MediumBytes& bytes, WholeFile& file,
+                            bool summing) const;
+    bool writeFile(const Writing& writing, MediumBytes& bytes, SaveOutcome& outcome) const;
+
+    QString m_destination;
+    SavePolicy m_policy;
+    std::unique_ptr<State> m_state;  // what was saved before, and memory that serves all items
+};
+
+}  // namespace vantor

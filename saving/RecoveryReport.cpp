@@ -1,0 +1,260 @@
+// The report's two texts. Everything that comes from a medium or a catalogue is escaped.
+#include "saving/RecoveryReport.h"
+
+#include <QDir>
+#include <QMap>
+#include <QUrl>
+
+#include "results/RecoveryMode.h"
+#include "results/SizeForPeople.h"
+#include "saving/SaveTally.h"
+#include "saving/WholeFile.h"
+
+namespace vantor {
+
+namespace {
+
+const char kStyle[] =
+    "body{font:15px/1.5 sans-serif;margin:2em auto;max-width:75em;padding:0 1em;color:#222}"
+    "table{border-collapse:collapse;margin:1em 0}th,td{padding:.25em .7em;text-align:left;"
+    "border-bottom:1px solid #ddd;vertical-align:top}td.n{text-align:right;white-space:nowrap}"
+    "th{background:#f3f3f3;position:sticky;top:0}img{max-width:100px;max-height:100px}"
+    ".complete{color:#176b2c}.cut,.damaged,.failed{color:#a11}.sum{font:11px monospace;color:#666;"
+    "word-break:break-all}@media(prefers-color-scheme:dark){body{background:#1c1c1c;color:#ddd}"
+    "th{background:#333}td,th{border-color:#444}a{color:#8bf}.complete{color:#7d8}"
+    ".cut,.damaged,.failed{color:#f88}}";
+
+QString sizeText(std::uint64_t bytes) {
+    return sizeForPeople(bytes, QLocale::c());
+}
+
+QString dateText(const std::optional<CivilTime>& taken) {
+    if (!taken) {
+        return {};
+    }
+    return QStringLiteral("%1-%2-%3 %4:%5:%6%7")
+        .arg(taken->year, 4, 10, QLatin1Char('0'))
+        .arg(taken->month, 2, 10, QLatin1Char('0'))
+        .arg(taken->day, 2, 10, QLatin1Char('0'))
+        .arg(taken->hour, 2, 10, QLatin1Char('0'))
+        .arg(taken->minute, 2, 10, QLatin1Char('0'))
+        .arg(taken->second, 2, 10, QLatin1Char('0'))
+        .arg(taken->utc ? QStringLiteral(" UTC") : QString());
+}
+
+// One word for machines, which the page shows too.
+QString resultText(const SaveOutcome& outcome) {
+    if (outcome.leftOut != LeftOut::No) {
+        return QStringLiteral("left out");
+    }
+    if (!outcome.saved) {
+        return QStringLiteral("failed");
+    }
+    return outcome.duplicate ? QStringLiteral("duplicate") : QStringLiteral("saved");
+}
+
+QString reasonText(const SaveOutcome& outcome) {
+    if (outcome.leftOut != LeftOut::No) {
+        return outcome.leftOut == LeftOut::TooSmall ? QStringLiteral("smaller than asked for")
+                                                    : QStringLiteral("no file of its type");
+    }
+    return outcome.error;
+}
+
+QString relativePath(const QString& folder, const QString& path) {
+    return QDir(folder).relativeFilePath(path);
+}
+
+QString stateText(const SaveOutcome& outcome) {
+    QString text = soundnessText(outcome.verdict);
+    if (outcome.verdict == Verdict::Complete && !outcome.exactLength) {
+        text += QStringLiteral(", length estimated");
+    }
+    if (outcome.sectorsUnreadable != 0) {
+        text += QStringLiteral(", %1 sectors unreadable").arg(outcome.sectorsUnreadable);
+    }
+    return text;
+}
+
+QString row(const QStringList& cells, const char* tag) {
+    const QString name = QLatin1String(tag);
+    QString text = QStringLiteral("<tr>");
+    for (const QString& cell : cells) {
+        text += QStringLiteral("<%1>%2</%1>").arg(name, cell);
+    }
+    return text + QStringLiteral("</tr>\n");
+}
+
+QString totals(const std::vector<ReportedItem>& items) {
+    QMap<QString, SaveTally> types;
+    for (const ReportedItem& item : items) {
+        types[item.type].add(item.name, item.outcome);
+    }
+    QString text = QStringLiteral("<h2>Totals</h2>\n<table>\n") +
+                   row({QStringLiteral("Type"), QStringLiteral("Saved"), QStringLiteral("Size"),
+                        QStringLiteral("Complete"), QStringLiteral("Cut off"), QStringLiteral("Damaged"),
+                        QStringLiteral("Length unknown"), QStringLiteral("Duplicates"),
+                        QStringLiteral("Left out"), QStringLiteral("Failed")},
+                       "th");
+    for (auto type = types.cbegin(); type != types.cend(); ++type) {
+        const SaveTally& t = type.value();
+        const auto number = [](std::uint64_t n) { return QString::number(n); };
+        text += row({type.key().toHtmlEscaped(), number(t.saved), sizeText(t.bytes), number(t.complete),
+                     number(t.cutOff), number(t.damaged), number(t.unknownLength), number(t.duplicates),
+                     number(t.tooSmall + t.unsound), number(t.failed)},
+                    "td");
+    }
+    return text + QStringLiteral("</table>\n");
+}
+
+QString linkTo(const QString& folder, const QString& path, const QString& inner) {
+    // The colon of a name must not read as a scheme.
+    const QByteArray target = "./" + QUrl::toPercentEncoding(relativePath(folder, path), "/");
+    return QStringLiteral("<a href=\"%1\">%2</a>").arg(QString::fromLatin1(target), inner);
+}
+
+QString itemRow(const ReportedItem& item, const QString& folder, const ReportThumbnail& thumbnail) {
+    const SaveOutcome& outcome = item.outcome;
+    QString name = item.name.toHtmlEscaped();
+    if (outcome.saved) {
+        name = linkTo(folder, outcome.path, relativePath(folder, outcome.path).toHtmlEscaped());
+    }
+    QString picture;
+    if (const QByteArray bytes = thumbnail && outcome.saved ? thumbnail(item) : QByteArray();
+        !bytes.isEmpty()) {
+        const char* const kind = bytes.startsWith("\x89PNG") ? "png" : "jpeg";
+        picture = linkTo(folder, outcome.path,
+                         QStringLiteral("<img alt=\"\" src=\"data:image/%1;base64,%2\">")
+                             .arg(QLatin1String(kind), QString::fromLatin1(bytes.toBase64())));
+    }
+    static const char* const kClasses[] = {"unknown", "complete", "cut", "damaged"};
+    const QString soundness =
+        outcome.saved
+            ? QStringLiteral("<span class=\"%1\">%2</span>")
+                  .arg(QLatin1String(kClasses[static_cast<int>(outcome.verdict)]),
+                       stateText(outcome).toHtmlEscaped())
+            : QStringLiteral("<span class=\"failed\">%1</span>")
+                  .arg((resultText(outcome) + QStringLiteral(": ") + reasonText(outcome)).toHtmlEscaped());
+    QStringList cells{
+        name,
+        item.type.toHtmlEscaped(),
+        outcome.saved ? sizeText(outcome.bytes) : QString(),
+        outcome.duplicate ? QStringLiteral("same bytes as an earlier file; ") + soundness : soundness,
+        dateText(outcome.taken),
+        outcome.width != 0 ? QStringLiteral("%1 × %2").arg(outcome.width).arg(outcome.height) : QString(),
+        QStringLiteral("%1 to %2").arg(item.firstSector).arg(item.endSector),
+        QStringLiteral("<span class=\"sum\">%1</span>").arg(QString::fromLatin1(outcome.sha256.toHex()))};
+    if (thumbnail) {
+        cells.prepend(picture);
+    }
+    return row(cells, "td");
+}
+
+QString headText(const ReportHead& head) {
+    const auto line = [](const char* label, const QString& text) {
+        return text.isEmpty() ? QString() : row({QLatin1String(label), text.toHtmlEscaped()}, "td");
+    };
+    const auto time = [](const QDateTime& t) {
+        return t.isValid() ? t.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")) : QString();
+    };
+    return QStringLiteral("<table>\n") + line("Medium", head.medium) +
+           line("Sectors of 512 bytes", head.sectors != 0 ? QString::number(head.sectors) : QString()) +
+           line("Searched for", head.mode) + line("Begun", time(head.begun)) +
+           line("Ended", time(head.ended)) +
+           line("Search", head.searchEnded ? QStringLiteral("completed")
+                                           : QStringLiteral("ended early: there may be more on the medium")) +
+           QStringLiteral("</table>\n");
+}
+
+QString quoted(QString field) {
+    return u'"' + field.replace(u'"', QStringLiteral("\"\"")) + u'"';
+}
+
+// Takes a text piece by piece: with its pictures, that of a large card does not belong in memory.
+using Pieces = std::function<void(const QByteArray&)>;
+
+void htmlTo(const Pieces& add, const ReportHead& head, const std::vector<ReportedItem>& items,
+            const QString& folder, const ReportThumbnail& thumbnail) {
+    QString text = QStringLiteral(
+                       "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\">"
+                       "<meta name=\"viewport\" content=\"width=device-width\">"
+                       "<title>Recovery report</title><style>%1</style></head>\n<body>\n"
+                       "<h1>Recovery report</h1>\n")
+                       .arg(QLatin1String(kStyle));
+    text += headText(head) + totals(items) + QStringLiteral("<h2>Files</h2>\n<table>\n");
+    QStringList columns{QStringLiteral("File"),
+                        QStringLiteral("Type"),
+                        QStringLiteral("Size"),
+                        QStringLiteral("State"),
+                        QStringLiteral("Taken"),
+                        QStringLiteral("Pixels"),
+                        QStringLiteral("Found in sectors"),
+                        QStringLiteral("SHA-256")};
+    if (thumbnail) {
+        columns.prepend(QString());
+    }
+    add((text + row(columns, "th")).toUtf8());
+    for (const ReportedItem& item : items) {
+        add(itemRow(item, folder, thumbnail).toUtf8());
+    }
+    add("</table>\n</body></html>\n");
+}
+
+void csvTo(const Pieces& add, const ReportHead& head, const std::vector<ReportedItem>& items,
+           const QString& folder) {
+    add("name,type,medium,first_sector,end_sector,bytes,sha256,soundness,exact_length,unreadable_sectors,"
+        "taken,width,height,result,path_or_reason\r\n");
+    for (const ReportedItem& item : items) {
+        const SaveOutcome& o = item.outcome;
+        const QStringList fields{quoted(item.name),
+                                 quoted(item.type),
+                                 quoted(head.medium),
+                                 QString::number(item.firstSector),
+                                 QString::number(item.endSector),
+                                 QString::number(o.bytes),
+                                 QString::fromLatin1(o.sha256.toHex()),
+                                 soundnessText(o.verdict),
+                                 o.exactLength ? QStringLiteral("yes") : QStringLiteral("no"),
+                                 QString::number(o.sectorsUnreadable),
+                                 dateText(o.taken),
+                                 QString::number(o.width),
+                                 QString::number(o.height),
+                                 resultText(o),
+                                 quoted(o.saved ? relativePath(folder, o.path) : reasonText(o))};
+        add(fields.join(u',').toUtf8() + "\r\n");
+    }
+}
+
+}  // namespace
+
+QString wordsForMode(int mode) {
+    switch (mode) {
+        case kVideoMode:
+            return QStringLiteral("videos");
+        case kRawFileMode:
+            return QStringLiteral("files");
+        default:
+            return QStringLiteral("photos");
+    }
+}
+
+WrittenReport writeReport(const QString& folder, const ReportHead& head,
+                          const std::vector<ReportedItem>& items, const ReportThumbnail& thumbnail) {
+    WrittenReport written;
+    const auto write = [&](const char* name, const std::function<void(const Pieces&)>& text) {
+        WholeFile file(folder);
+        text([&file](const QByteArray& piece) { file.write(piece); });
+        const auto path = file.commit(QLatin1String(name));
+        if (!path) {
+            written.error =
+                QStringLiteral("The report cannot be written into %1: %2").arg(folder, file.error());
+        }
+        return path.value_or(QString());
+    };
+    written.html = write("Recovery report.html",
+                         [&](const Pieces& add) { htmlTo(add, head, items, folder, thumbnail); });
+    written.csv = write("Recovery report.csv", [&](const Pieces& add) { csvTo(add, head, items, folder); });
+    return written;
+}
+
+}  // namespace vantor

@@ -1,0 +1,89 @@
+// Saves a choice of found items one after the other, while somebody watches.
+#pragma once
+
+#include <QString>
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <vector>
+
+#include "media/SectorReader.h"
+#include "media/WatchedReader.h"
+#include "saving/RecoveryReport.h"
+#include "saving/SaveTally.h"
+
+namespace vantor {
+
+class MyImageObject;
+
+struct ChosenItem {
+    std::size_t index = 0;  // in the list of found items
+    std::shared_ptr<const MyImageObject> item;
+};
+
+struct SaveRequest {
+    std::vector<ChosenItem> items;
+    std::shared_ptr<const ItemSaver> saver;
+    std::function<std::unique_ptr<SectorReader>()> openMedium;
+    // Written behind the last item; none when absent.
+    std::optional<ReportHead> report;
+    QString destination;     // of the report
+    QByteArray placeholder;  // the picture of items without a thumbnail, which the report leaves out
+};
+
+// What became of the items, in the order of the request; those behind a cancel are absent.
+struct SaveReport {
+    bool mediumOpened = false;
+    SaveTally tally;
+    std::vector<std::size_t> indexes;
+    std::vector<ReportedItem> items;
+    WrittenReport written;
+};
+
+// How far a job is.
+struct SaveProgress {
+    std::size_t done = 0;     // items
+    QString current;          // name of the item at hand
+    std::uint64_t share = 0;  // of total(), in sectors of the items as they were found
+};
+
+// run() belongs to one thread; everything else may be used by any other meanwhile.
+class SaveJob {
+  public:
+    explicit SaveJob(SaveRequest request);
+
+    void run();
+
+    // The item at hand is given up at once, unless the medium keeps it waiting; nothing of it stays behind.
+    void cancel();
+    bool isCancelled() const { return m_watch.ended; }
+    bool isFinished() const { return m_finished; }
+
+    std::size_t count() const { return m_request.items.size(); }
+    std::uint64_t total() const { return m_total; }
+    SaveProgress progress() const;
+
+    // Once finished.
+    const SaveReport& report() const { return m_report; }
+
+  private:
+    void saveAll(SectorReader& medium);
+    void writeTheReport();
+
+    SaveRequest m_request;
+    SaveReport m_report;
+    std::uint64_t m_total = 0;
+    ReadWatch m_watch;
+    std::atomic<bool> m_finished{false};
+    std::atomic<std::uint64_t> m_sectorsOfCurrent{0};
+
+    mutable std::mutex m_lock;
+    SaveProgress m_progress;  // up to the item at hand
+};
+
+// What is found as one run of sectors, for the estimates before and while it is saved.
+std::uint64_t foundSectors(const MyImageObject& item);
+
+}  // namespace vantor

@@ -1,0 +1,66 @@
+// Saves found items on a thread of its own, so that a search need not wait for the destination.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <condition_variable>
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <thread>
+
+#include "media/SectorReader.h"
+#include "results/CarvedRun.h"
+#include "saving/ItemSaver.h"
+
+namespace vantor {
+
+struct SaveTask {
+    QString type;
+    QString name;
+    CarvedRun carved;
+    QByteArray firstBytes;  // the carved bytes, where they are at hand
+};
+
+// Items are saved in the order in which they were added. The bytes that wait are capped: a destination that
+// is slower than the search slows the search, never fills the memory.
+class SaveQueue {
+  public:
+    static constexpr std::uint64_t kMostWaitingBytes = std::uint64_t{128} * 1024 * 1024;
+
+    // Opens the medium anew; null when it is gone. Called on the saving thread, once.
+    using Open = std::function<std::unique_ptr<SectorReader>()>;
+    // Called on the saving thread with each item's outcome, in order; may keep what it likes of the task.
+    using Done = std::function<void(SaveTask&, const SaveOutcome&)>;
+
+    SaveQueue(const QString& destination, const SavePolicy& policy, Open open, Done done);
+    SaveQueue(const SaveQueue&) = delete;
+    SaveQueue& operator=(const SaveQueue&) = delete;
+    ~SaveQueue();  // finishes
+
+    // Waits while too many bytes wait already. One caller.
+    void add(SaveTask task);
+    // Returns when all that was added is saved; nothing may be added behind it.
+    void finish();
+
+  private:
+    void run();
+    void save(SaveTask& task);
+
+    // The saving thread's alone.
+    const ItemSaver m_saver;
+    const Open m_open;
+    const Done m_done;
+    std::unique_ptr<SectorReader> m_medium;
+
+    std::mutex m_mutex;
+    std::condition_variable m_added, m_taken;
+    std::deque<SaveTask> m_waiting;
+    std::uint64_t m_waitingBytes = 0;  // the one being saved included
+    bool m_finishing = false;
+    std::thread m_thread;
+};
+
+}  // namespace vantor

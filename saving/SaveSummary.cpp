@@ -1,0 +1,87 @@
+// Counts in words.
+#include "saving/SaveSummary.h"
+
+#include <QLocale>
+#include <QObject>
+#include <QStringList>
+
+namespace vantor {
+
+namespace {
+
+constexpr qsizetype kFailuresShown = 5;
+
+QString number(std::uint64_t count) {
+    return QLocale().toString(qulonglong{count});
+}
+
+// "Of these, 10 are complete, 2 are cut off."
+QString soundnessLine(const SaveTally& tally) {
+    return QObject::tr("Of these: %1.").arg(tally.bySoundness(QLocale()).join(QStringLiteral(", ")));
+}
+
+QStringList failureLines(const SaveTally& tally) {
+    QStringList lines{QObject::tr("%1 could not be saved:").arg(countOfItems(tally.failed))};
+    const qsizetype shown = std::min(kFailuresShown, tally.failures.size());
+    for (const QString& failure : tally.failures.first(shown)) {
+        lines << QStringLiteral("   ") + failure;
+    }
+    if (tally.failed > static_cast<std::uint64_t>(shown)) {
+        lines << QObject::tr("   and %1 more").arg(number(tally.failed - static_cast<std::uint64_t>(shown)));
+    }
+    return lines;
+}
+
+}  // namespace
+
+QString countOfItems(std::uint64_t count) {
+    return count == 1 ? QObject::tr("1 item") : QObject::tr("%1 items").arg(number(count));
+}
+
+QString summaryHeadline(const SaveSummary& summary) {
+    const SaveTally& tally = summary.tally;
+    if (tally.saved == 0) {
+        return tally.duplicates > 0 ? QObject::tr("Nothing new was saved.")
+                                    : QObject::tr("Nothing was saved.");
+    }
+    return tally.saved == 1 ? QObject::tr("1 file was saved.")
+                            : QObject::tr("%1 files were saved.").arg(number(tally.saved));
+}
+
+QString summaryDetails(const SaveSummary& summary) {
+    const SaveTally& tally = summary.tally;
+    QStringList lines;
+    if (tally.saved > 0) {
+        lines << soundnessLine(tally)
+              << QObject::tr("They are in %1, in a folder for each type.").arg(summary.destination);
+    }
+    if (tally.withUnreadableSectors > 0) {
+        lines << QObject::tr("%1 could only be read in part; what could not be read is filled with zeros.")
+                     .arg(countOfItems(tally.withUnreadableSectors));
+    }
+    const auto leftOut = [&lines](std::uint64_t count, const QString& why) {
+        if (count > 0) {
+            lines << QObject::tr("Left out: %1, %2.").arg(countOfItems(count), why);
+        }
+    };
+    if (tally.duplicates > 0) {
+        lines << QObject::tr("Not written again: %1, the same contents are saved already.")
+                     .arg(countOfItems(tally.duplicates));
+    }
+    leftOut(tally.tooSmall, QObject::tr("smaller than you asked for"));
+    leftOut(tally.unsound, QObject::tr("certainly no files of their type"));
+    if (tally.failed > 0) {
+        lines << failureLines(tally);
+    }
+    if (summary.cancelled) {
+        lines << QObject::tr("The rest was not saved because you cancelled.");
+    }
+    if (summary.reportWritten) {
+        lines << QObject::tr("The Recovery report beside them tells more of each file.");
+    } else if (!summary.reportError.isEmpty()) {
+        lines << summary.reportError;
+    }
+    return lines.join(u'\n');
+}
+
+}  // namespace vantor

@@ -1,0 +1,79 @@
+// Counting, and the sentences that say the counts.
+#include "saving/SaveTally.h"
+
+#include "results/SizeForPeople.h"
+#include "results/Soundness.h"
+
+namespace vantor {
+
+void SaveTally::add(const QString& name, const SaveOutcome& outcome) {
+    if (outcome.leftOut != LeftOut::No) {
+        ++(outcome.leftOut == LeftOut::TooSmall ? tooSmall : unsound);
+        return;
+    }
+    if (!outcome.saved) {
+        if (failed++ < static_cast<std::uint64_t>(kFailuresTold)) {
+            failures.append(QStringLiteral("%1: %2").arg(name, outcome.error));
+        }
+        return;
+    }
+    if (outcome.duplicate) {
+        ++duplicates;
+        return;
+    }
+    ++saved;
+    bytes += outcome.bytes;
+    withUnreadableSectors += outcome.sectorsUnreadable != 0 ? 1 : 0;
+    switch (outcome.verdict) {
+        case Verdict::Complete:
+            ++complete;
+            break;
+        case Verdict::CutOff:
+            ++cutOff;
+            break;
+        case Verdict::Damaged:
+            ++damaged;
+            break;
+        case Verdict::Unknown:
+            ++unknownLength;
+            break;
+    }
+}
+
+QStringList SaveTally::bySoundness(const QLocale& locale) const {
+    const std::pair<std::uint64_t, Verdict> counts[] = {{complete, Verdict::Complete},
+                                                        {cutOff, Verdict::CutOff},
+                                                        {damaged, Verdict::Damaged},
+                                                        {unknownLength, Verdict::Unknown}};
+    QStringList kinds;
+    for (const auto& [count, verdict] : counts) {
+        if (count != 0) {
+            kinds.append(
+                QStringLiteral("%1 %2").arg(locale.toString(qulonglong{count}), soundnessWords(verdict)));
+        }
+    }
+    return kinds;
+}
+
+QStringList SaveTally::lines(const QString& destination) const {
+    QStringList lines;
+    QString first = QStringLiteral("%1 saved in %2").arg(saved).arg(destination);
+    if (saved != 0) {
+        first += QStringLiteral(" (%1): %2")
+                     .arg(sizeForPeople(bytes, QLocale::c()),
+                          bySoundness(QLocale::c()).join(QStringLiteral(", ")));
+    }
+    lines.append(first);
+    const auto line = [&lines](std::uint64_t count, const char* text) {
+        if (count != 0) {
+            lines.append(QStringLiteral("%1 %2").arg(count).arg(QLatin1String(text)));
+        }
+    };
+    line(withUnreadableSectors, "of them have sectors that could not be read");
+    line(duplicates, "not written again: the same bytes are saved already");
+    line(tooSmall, "left out: smaller than asked for");
+    line(unsound, "left out: no files of their type");
+    return lines;
+}
+
+}  // namespace vantor

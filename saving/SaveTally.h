@@ -1,0 +1,39 @@
+// What became of the found items, counted for the summary at the end.
+#pragma once
+
+#include <QLocale>
+#include <QString>
+#include <QStringList>
+#include <cstdint>
+
+#include "saving/ItemSaver.h"
+
+namespace vantor {
+
+struct SaveTally {
+    static constexpr qsizetype kFailuresTold = 20;
+
+    // Files that were written, by their soundness.
+    std::uint64_t saved = 0;
+    std::uint64_t bytes = 0;
+    std::uint64_t complete = 0;
+    std::uint64_t cutOff = 0;
+    std::uint64_t damaged = 0;
+    std::uint64_t unknownLength = 0;
+    std::uint64_t withUnreadableSectors = 0;
+
+    std::uint64_t duplicates = 0;
+    std::uint64_t tooSmall = 0;
+    std::uint64_t unsound = 0;
+    std::uint64_t failed = 0;
+    QStringList failures;  // the first few, a sentence each
+
+    void add(const QString& name, const SaveOutcome& outcome);
+
+    // How many of the saved are how sound: "10 complete", "2 cut off", ...
+    QStringList bySoundness(const QLocale& locale) const;
+    // "12 saved in /out (3.4 MB): 10 complete, 2 cut off", and a line for each thing left out.
+    QStringList lines(const QString& destination) const;
+};
+
+}  // namespace vantor

@@ -1,0 +1,69 @@
+// Size and first bytes tell most files apart; the whole bytes of earlier files are asked for only where
+// both agree.
+#include "saving/SavedFiles.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include "saving/Sha256.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr qint64 kChunkBytes = 1024 * 1024;
+
+// Empty when the file cannot be read.
+QByteArray checksumOfFile(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    Sha256 sum;
+    QByteArray chunk;
+    do {
+        chunk = file.read(kChunkBytes);
+        sum.add(chunk);
+    } while (!chunk.isEmpty());
+    return sum.result();
+}
+
+// The candidate when the file is still there; the best so far otherwise. One of the type is the best.
+const SavedFile* better(const SavedFile* best, const SavedFile& candidate, std::uint64_t bytes,
+                        const QString& type) {
+    const bool wanted = best == nullptr || (best->type != type && candidate.type == type);
+    const bool there = wanted && QFileInfo(candidate.path).size() == static_cast<qint64>(bytes);
+    return there ? &candidate : best;
+}
+
+}  // namespace
+
+const SavedFile* SavedFiles::fromPlace(std::uint64_t bytes, std::uint64_t firstSector,
+                                       const QString& type) const {
+    const SavedFile* best = nullptr;
+    for (auto file = m_files.lower_bound({bytes, {}}); file != m_files.end() && file->first.bytes == bytes;
+         ++file) {
+        if (file->second.firstSector == firstSector) {
+            best = better(best, file->second, bytes, type);
+        }
+    }
+    return best;
+}
+
+const SavedFile* SavedFiles::withChecksum(const Likeness& likeness, const QByteArray& sha256,
+                                          const QString& type) {
+    const SavedFile* best = nullptr;
+    const auto [begin, end] = m_files.equal_range(likeness);
+    for (auto file = begin; file != end; ++file) {
+        SavedFile& candidate = file->second;
+        if (candidate.sha256.isEmpty()) {
+            candidate.sha256 = checksumOfFile(candidate.path);
+        }
+        if (candidate.sha256 == sha256) {
+            best = better(best, candidate, likeness.bytes, type);
+        }
+    }
+    return best;
+}
+
+}  // namespace vantor

@@ -1,0 +1,85 @@
+// The report says what happened, to people and to machines, and runs nothing.
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include "saving/RecoveryReport.h"
+#include "tests/support/SmallFiles.h"
+
+namespace vantor {
+namespace {
+
+ReportHead head() {
+    ReportHead h;
+    h.medium = "/dev/sdb <1> & \"more\"";
+    h.sectors = 1000;
+    h.mode = "photos";
+    return h;
+}
+
+class RecoveryReport : public testing::Test {
+  protected:
+    std::vector<ReportedItem> items() const {
+        ReportedItem saved{"a,\"b\".JPG", "JPG", 4, 40, {}};
+        saved.outcome.saved = true;
+        saved.outcome.path = folder.filePath("JPG/a b:100%.JPG");
+        saved.outcome.bytes = 18432;
+        saved.outcome.verdict = Verdict::Complete;
+        saved.outcome.taken = CivilTime{2026, 5, 17, 14, 3, 22, true};
+        saved.outcome.width = 64;
+        saved.outcome.height = 48;
+        saved.outcome.sha256 = QByteArray(32, '\xAB');
+        ReportedItem failed{"<script>alert(1)</script>", "J&G", 50, 60, {}};
+        failed.outcome.error = "No <room>";
+        return {saved, failed};
+    }
+    QByteArray page(const ReportThumbnail& thumbnail = {}) const {
+        return contentsOf(writeReport(folder.path(), head(), items(), thumbnail).html);
+    }
+    QByteArray table() const { return contentsOf(writeReport(folder.path(), head(), items()).csv); }
+
+    const QTemporaryDir folder;
+};
+
+}  // namespace
+
+TEST_F(RecoveryReport, TableForMachines) {
+    const QList<QByteArray> lines = table().split('\n');
+    ASSERT_EQ(lines.size(), 4);
+    EXPECT_TRUE(lines[0].startsWith("name,type,medium,first_sector,end_sector,bytes,sha256,soundness,"));
+    EXPECT_EQ(lines[1], "\"a,\"\"b\"\".JPG\",\"JPG\",\"/dev/sdb <1> & \"\"more\"\"\",4,40,18432," +
+                            QByteArray("ab").repeated(32) +
+                            ",complete,yes,0,2026-05-17 14:03:22 UTC,64,48,saved,\"JPG/a b:100%.JPG\"\r");
+    EXPECT_TRUE(lines[2].endsWith(",failed,\"No <room>\"\r"));
+}
+
+TEST_F(RecoveryReport, PageEscapesEverything) {
+    const QByteArray html = page();
+    EXPECT_FALSE(html.contains("<script"));
+    EXPECT_TRUE(html.contains("&lt;script&gt;alert(1)"));
+    EXPECT_TRUE(html.contains("/dev/sdb &lt;1&gt; &amp; &quot;more&quot;"));
+    EXPECT_TRUE(html.contains("No &lt;room&gt;"));
+    EXPECT_TRUE(html.contains("<td>J&amp;G</td>"));
+    EXPECT_TRUE(html.contains("href=\"./JPG/a%20b%3A100%25.JPG\""));
+    EXPECT_TRUE(html.contains("64 × 48"));
+    EXPECT_FALSE(html.contains("<img"));
+}
+
+TEST_F(RecoveryReport, ThumbnailsAreWithinThePage) {
+    const auto thumbnail = [](const ReportedItem&) { return QByteArray("\xFF\xD8picture"); };
+    const QByteArray html = page(thumbnail);
+    EXPECT_EQ(html.count("<img"), 1) << "none for what was not saved";
+    EXPECT_TRUE(html.contains("data:image/jpeg;base64," + QByteArray("\xFF\xD8picture").toBase64()));
+}
+
+TEST_F(RecoveryReport, ReplacesNothing) {
+    const WrittenReport first = writeReport(folder.path(), head(), items());
+    const WrittenReport second = writeReport(folder.path(), head(), {});
+    EXPECT_EQ(first.html, folder.filePath("Recovery report.html"));
+    EXPECT_EQ(first.csv, folder.filePath("Recovery report.csv"));
+    EXPECT_EQ(second.html, folder.filePath("Recovery report (2).html"));
+    EXPECT_EQ(contentsOf(first.csv), table());
+    EXPECT_FALSE(writeReport("/nowhere/at/all", head(), {}).error.isEmpty());
+}
+
+}  // namespace vantor

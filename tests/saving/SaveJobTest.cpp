@@ -1,0 +1,164 @@
+// A choice of items: counted, reported, cancelled.
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <thread>
+
+#include "results/MyImageObject.h"
+#include "saving/SaveJob.h"
+#include "saving/SaveSummary.h"
+#include "saving/SavedMarks.h"
+#include "tests/support/SmallFiles.h"
+
+namespace vantor {
+namespace {
+
+class SaveJobTest : public ::testing::Test {
+  protected:
+    std::shared_ptr<MyImageObject> item(const QString& name, SectorRun run, const QByteArray& picture = {}) {
+        std::shared_ptr<MyImageObject> made = MyImageObject::initWithImage_data(picture, name, name);
+        made->setOrigin(name.section(u'.', -1), {{run}, false}, {run.first + 1, run.end + 1});
+        return made;
+    }
+    SaveRequest request(std::vector<ChosenItem> items, const SavePolicy& policy = {}) {
+        SaveRequest made;
+        made.items = std::move(items);
+        made.saver = std::make_shared<const ItemSaver>(folder.path(), policy);
+        made.openMedium = [this] { return std::make_unique<ScriptedReader>(medium); };
+        made.destination = folder.path();
+        return made;
+    }
+    QStringList files(const char* type) const {
+        return QDir(folder.filePath(QLatin1String(type))).entryList(QDir::Files | QDir::Hidden);
+    }
+
+    QTemporaryDir folder;
+    ScriptedMedium medium = mediumWith(wavFile(20'000), 10, 100);
+};
+
+TEST_F(SaveJobTest, CountsAndReportsAsTheCommandDoes) {
+    SaveRequest wish = request({{4, item("a.WAV", {10, 50}, "\x89PNGabc")},
+                                {2, item("b.WAV", {10, 50}, "none")},
+                                {9, item("c.QQQ", {60, 62})}});
+    wish.placeholder = "none";
+    wish.report = ReportHead{};
+    wish.report->medium = QStringLiteral("CANON_DC (sdb1)");
+    SaveJob job(std::move(wish));
+    job.run();
+    const SaveReport& report = job.report();
+    EXPECT_TRUE(job.isFinished());
+    EXPECT_TRUE(report.mediumOpened);
+    EXPECT_EQ(report.tally.saved, 2U);
+    EXPECT_EQ(report.tally.complete, 1U);
+    EXPECT_EQ(report.tally.unknownLength, 1U);
+    EXPECT_EQ(report.tally.duplicates, 1U);
+    EXPECT_EQ(report.indexes, (std::vector<std::size_t>{4, 2, 9}));
+    EXPECT_EQ(report.items[0].firstSector, 11U) << "as published";
+    EXPECT_EQ(job.progress().done, 3U);
+    EXPECT_EQ(job.progress().share, job.total());
+    EXPECT_EQ(contentsOf(folder.filePath("WAV/a.WAV")), wavFile(20'000));
+
+    const QByteArray html = contentsOf(report.written.html);
+    EXPECT_EQ(report.written.html, folder.filePath("Recovery report.html"));
+    EXPECT_TRUE(html.contains("CANON_DC (sdb1)"));
+    EXPECT_EQ(html.count("<img "), 1) << "pictures, without the one that stands for none";
+    EXPECT_EQ(contentsOf(report.written.csv).count("\r\n"), 4);
+}
+
+TEST_F(SaveJobTest, WithoutAReport_NoneIsWritten) {
+    SaveJob job(request({{0, item("a.WAV", {10, 50})}}));
+    job.run();
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList());
+}
+
+TEST_F(SaveJobTest, Cancel_GivesUpTheItemAtHandAndLeavesNothingOfIt) {
+    SaveJob job(
+        request({{0, item("a.WAV", {10, 50})}, {1, item("b.QQQ", {60, 80})}, {2, item("c.QQQ", {80, 90})}}));
+    medium.beforeRead = [&](std::uint64_t read) {
+        if (read == 45) {  // the first took forty: in the midst of the second
+            job.cancel();
+        }
+    };
+    job.run();
+    EXPECT_TRUE(job.isCancelled());
+    EXPECT_EQ(job.report().tally.saved, 1U);
+    EXPECT_EQ(job.report().tally.failed, 0U);
+    EXPECT_EQ(job.report().items.size(), 1U);
+    EXPECT_EQ(files("WAV"), QStringList{"a.WAV"});
+    EXPECT_EQ(files("QQQ"), QStringList());
+    EXPECT_LT(medium.reads, 65U);
+}
+
+TEST_F(SaveJobTest, WithoutAMedium_NothingIsSaid) {
+    SaveRequest wish = request({{0, item("a.WAV", {10, 50})}});
+    wish.openMedium = [] { return nullptr; };
+    wish.report = ReportHead{};
+    SaveJob job(std::move(wish));
+    job.run();
+    EXPECT_TRUE(job.isFinished());
+    EXPECT_FALSE(job.report().mediumOpened);
+    EXPECT_TRUE(job.report().items.empty());
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList());
+}
+
+TEST_F(SaveJobTest, OneSaverOverSeveralJobs_KnowsWhatIsSaved) {
+    SaveRequest first = request({{0, item("a.WAV", {10, 50})}});
+    SaveRequest second = request({{0, item("a.WAV", {10, 50})}});
+    second.saver = first.saver;
+    SaveJob one(std::move(first));
+    one.run();
+    SaveJob two(std::move(second));
+    two.run();
+    EXPECT_EQ(two.report().tally.duplicates, 1U);
+    EXPECT_EQ(files("WAV"), QStringList{"a.WAV"});
+}
+
+TEST(SavedMarks, SavedAndLeftOutNeedNoWorry_FailedDo) {
+    SavedMarks marks;
+    SaveOutcome saved, failed, small;
+    saved.saved = true;
+    small.leftOut = LeftOut::TooSmall;
+    marks.note(0, saved);
+    marks.note(1, failed);
+    marks.note(2, small);
+    EXPECT_EQ(marks.saved(), 1U);
+    EXPECT_EQ(marks.settled(), 2U);
+    marks.note(2, saved);
+    marks.note(0, small);
+    EXPECT_EQ(marks.saved(), 2U);
+    EXPECT_EQ(marks.settled(), 2U);
+    EXPECT_TRUE(marks.isSaved(0));
+    EXPECT_FALSE(marks.isSaved(1));
+    marks.clear();
+    EXPECT_EQ(marks.settled(), 0U);
+}
+
+TEST(SaveSummary, SaysEverythingOnce) {
+    SaveSummary summary;
+    summary.destination = QStringLiteral("/out");
+    summary.tally.saved = 1204;
+    summary.tally.complete = 1200;
+    summary.tally.cutOff = 3;
+    summary.tally.unknownLength = 1;
+    summary.tally.duplicates = 1;
+    summary.tally.failed = 7;
+    summary.tally.failures = {"a: full", "b: full", "c: full", "d: full", "e: full", "f: full", "g: full"};
+    summary.reportWritten = true;
+    EXPECT_EQ(summaryHeadline(summary), QStringLiteral("1,204 files were saved."));
+    EXPECT_EQ(summaryDetails(summary),
+              QStringLiteral("Of these: 1,200 complete, 3 cut off, 1 of unknown length.\n"
+                             "They are in /out, in a folder for each type.\n"
+                             "Not written again: 1 item, the same contents are saved already.\n"
+                             "7 items could not be saved:\n   a: full\n   b: full\n   c: full\n   d: full\n"
+                             "   e: full\n   and 2 more\n"
+                             "The Recovery report beside them tells more of each file."));
+    summary.tally = {};
+    summary.reportWritten = false;
+    summary.cancelled = true;
+    EXPECT_EQ(summaryHeadline(summary), QStringLiteral("Nothing was saved."));
+    EXPECT_EQ(summaryDetails(summary), QStringLiteral("The rest was not saved because you cancelled."));
+}
+
+}  // namespace
+}  // namespace vantor

@@ -1,0 +1,55 @@
+// Every outcome is counted once and said.
+#include <gtest/gtest.h>
+
+#include "saving/SaveTally.h"
+
+namespace vantor {
+namespace {
+
+SaveOutcome savedAs(Verdict verdict) {
+    SaveOutcome outcome;
+    outcome.saved = true;
+    outcome.bytes = 1000;
+    outcome.verdict = verdict;
+    return outcome;
+}
+
+}  // namespace
+
+TEST(SaveTally, SaysWhatBecameOfEach) {
+    SaveTally tally;
+    tally.add("a", savedAs(Verdict::Complete));
+    tally.add("b", savedAs(Verdict::Complete));
+    tally.add("c", savedAs(Verdict::CutOff));
+    tally.add("d", savedAs(Verdict::Unknown));
+    SaveOutcome outcome = savedAs(Verdict::Damaged);
+    outcome.sectorsUnreadable = 3;
+    tally.add("e", outcome);
+    outcome = savedAs(Verdict::Complete);
+    outcome.duplicate = true;
+    tally.add("f", outcome);
+    outcome = {};
+    outcome.leftOut = LeftOut::TooSmall;
+    tally.add("g", outcome);
+    outcome = {};
+    outcome.error = "No room";
+    tally.add("h", outcome);
+    EXPECT_EQ(tally.lines("/out"),
+              QStringList({"5 saved in /out (5.0 kB): 2 complete, 1 cut off, 1 damaged, 1 of unknown length",
+                           "1 of them have sectors that could not be read",
+                           "1 not written again: the same bytes are saved already",
+                           "1 left out: smaller than asked for"}));
+    EXPECT_EQ(tally.failed, 1U);
+    EXPECT_EQ(tally.failures, QStringList{"h: No room"});
+}
+
+TEST(SaveTally, KeepsTheFirstFailuresOnly) {
+    SaveTally tally;
+    for (int i = 0; i < 1000; ++i) {
+        tally.add(QString::number(i), {});
+    }
+    EXPECT_EQ(tally.failed, 1000U);
+    EXPECT_EQ(tally.failures.size(), SaveTally::kFailuresTold);
+}
+
+}  // namespace vantor

@@ -1,0 +1,306 @@
+// Both browsers: what they show, how they follow, zoom and select.
+#include <QElapsedTimer>
+#include <QMimeData>
+#include <QScrollBar>
+#include <QSignalSpy>
+
+#include "results/MyImageObject.h"
+#include "results/RecoveryMode.h"
+#include "tests/window/WindowTest.h"
+#include "window/widgets/Theme.h"
+
+namespace vantor {
+namespace {
+
+// As many items as asked for, all the same one.
+class Source : public ImageBrowserDataSource {
+  public:
+    qsizetype numberOfItemsInImageBrowser(const ImageBrowserView*) override { return count; }
+    std::shared_ptr<MyImageObject> imageBrowser_itemAtIndex(const ImageBrowserView*, qsizetype) override {
+        return item;
+    }
+    qsizetype count = 0;
+    std::shared_ptr<MyImageObject> item =
+        MyImageObject::initWithImage_data({}, QStringLiteral("a"), QStringLiteral("u"));
+};
+
+class Browser : public WindowTest {
+  protected:
+    void addPhotos(int count) {
+        for (int i = 0; i < count; ++i) {
+            ++m_added;
+            controller->addImageWithData(QByteArray("junk"), QStringLiteral("GND%1.JPG").arg(m_added),
+                                         QStringLiteral("UID%1").arg(m_added));
+        }
+    }
+    void addRaw(const QString& name) { controller->addImageWithData_2({}, name, name, 1, 2); }
+    // The last item is in view.
+    static bool atEnd(const ImageBrowserView* browser) {
+        return browser->verticalScrollBar()->value() == browser->verticalScrollBar()->maximum();
+    }
+    // Shows the photo screen with room for few items.
+    void showPhotoScreen() {
+        controller->show_hide_1_screen(true);
+        controller->show_hide_3_screen_Photo(false);
+        controller->window->resize(1024, 720);
+        QTest::qWait(1);
+    }
+
+    int m_added = 0;
+};
+
+TEST_F(Browser, EmptyDataAddsNothing) {
+    open();
+    controller->addImageWithData({}, QStringLiteral("a.jpg"), QStringLiteral("u"));
+    EXPECT_EQ(controller->itemCount(), 0u);
+    EXPECT_EQ(controller->addedItemCount(), 0u);
+}
+
+TEST_F(Browser, WhatCannotBeDecoded_ShowsThePlaceholder) {
+    open();
+    addPhotos(1);
+    QFile placeholder(folder.filePath(QStringLiteral("NoPreview.png")));
+    ASSERT_TRUE(placeholder.open(QIODevice::ReadOnly));
+    EXPECT_EQ(controller->itemAt(0)->imageData(), placeholder.readAll());
+}
+
+TEST_F(Browser, WithoutThePlaceholder_WhatCannotBeDecodedIsAnEmptyCell) {
+    QFile::remove(folder.filePath(QStringLiteral("NoPreview.png")));
+    open();
+    addPhotos(1);
+    ASSERT_EQ(controller->itemCount(), 1u);
+    EXPECT_TRUE(controller->itemAt(0)->imageData().isEmpty());
+    controller->imageBrowser->grab();
+}
+
+TEST_F(Browser, APathOfBlanksAddsNothing_AndFilesAreShownFromTheirPath) {
+    open();
+    const auto add = [this](const QString& path) {
+        controller->addImageWithPath(path, QStringLiteral("a"), QStringLiteral("u"));
+    };
+    add(QStringLiteral(" \t\n"));
+    EXPECT_EQ(controller->itemCount(), 0u);
+    EXPECT_EQ(controller->addedItemCount(), 0u);
+    const QString placeholder = folder.filePath(QStringLiteral("NoPreview.png"));
+    add(QStringLiteral(" /nowhere/at/all.jpg\n"));
+    ASSERT_EQ(controller->itemCount(), 1u);
+    EXPECT_EQ(controller->itemAt(0)->path(), placeholder);
+    EXPECT_FALSE(controller->itemAt(0)->imageData().isEmpty());
+    Recovery_MODE = kVideoMode;
+    add(QStringLiteral("/nowhere/at/all.mov"));
+    ASSERT_EQ(controller->itemCount(), 2u);
+    EXPECT_EQ(controller->itemAt(1)->path(), QStringLiteral("/nowhere/at/all.mov"));
+    EXPECT_EQ(controller->addedItemCount(), 2u);
+}
+
+TEST_F(Browser, EverySixthPhotoScrollsToTheEnd) {
+    open();
+    showPhotoScreen();
+    addPhotos(60);
+    QTest::qWait(1);
+    ASSERT_GT(controller->imageBrowser->verticalScrollBar()->maximum(), 0);
+    controller->imageBrowser->verticalScrollBar()->setValue(0);
+    addPhotos(5);
+    EXPECT_EQ(controller->imageBrowser->verticalScrollBar()->value(), 0) << "not in between";
+    addPhotos(1);
+    QTest::qWait(1);
+    EXPECT_TRUE(atEnd(controller->imageBrowser));
+}
+
+TEST_F(Browser, TypesThatOnlyTheCatalogueKnows_HaveTheIconOfTheirKind) {
+    source->add(QStringLiteral("sdb1"), QStringLiteral("EMPTY"), 64);
+    writeCatalogue("ZelVideo.dll", record("Q9Z", "51395A21", "Something"));
+    writeCatalogue("ZelRaw.dll", record("Q8Z", "51385A21", "Tracker music"));
+    open();
+    const auto lastIcon = [this] {
+        return controller->itemAt(static_cast<qsizetype>(controller->itemCount()) - 1)->image();
+    };
+    const auto looks = [](const QIcon& icon) { return icon.pixmap(48).toImage(); };
+    toFileTypes(kVideoMode);
+    scanToEnd();
+    addRaw(QStringLiteral("Q9Z00001.Q9Z"));
+    EXPECT_EQ(looks(lastIcon()), looks(ownIcon(QStringLiteral("type-video"))));
+    answers.press(QStringLiteral("Go Back Without Saving"));
+    click(controller->backButton);
+    click(controller->backButton);
+    click(controller->backButton);
+    toFileTypes(kRawFileMode);
+    scanToEnd();
+    addRaw(QStringLiteral("Q8Z00001.Q8Z"));
+    EXPECT_EQ(looks(lastIcon()), looks(ownIcon(QStringLiteral("type-sound"))));
+}
+
+TEST_F(Browser, EveryFourthRawItemScrollsToTheEnd) {
+    open();
+    Recovery_MODE = kRawFileMode;
+    controller->show_hide_1_screen(true);
+    controller->show_hide_4_screen_RawFile(false);
+    controller->window->resize(1024, 720);
+    for (int i = 0; i < 200; ++i) {
+        addRaw(QStringLiteral("F%1.PDF").arg(i));
+    }
+    QTest::qWait(1);
+    ASSERT_GT(controller->imageBrowser_2->verticalScrollBar()->maximum(), 0);
+    controller->imageBrowser_2->verticalScrollBar()->setValue(0);
+    for (int i = 0; i < 3; ++i) {
+        addRaw(QStringLiteral("G%1.PDF").arg(i));
+    }
+    EXPECT_EQ(controller->imageBrowser_2->verticalScrollBar()->value(), 0);
+    addRaw(QStringLiteral("LAST.PDF"));
+    QTest::qWait(1);
+    EXPECT_TRUE(atEnd(controller->imageBrowser_2));
+}
+
+TEST_F(Browser, RawItemsAreCountedInTheirTypesRow) {
+    open();
+    Recovery_MODE = kRawFileMode;
+    controller->createSignatureListTableRecord(QStringLiteral("JPG"), 0, {}, {}, QStringLiteral("JPG"));
+    addRaw(QStringLiteral(" \t "));
+    EXPECT_EQ(controller->itemCount(), 0u) << "a name of blanks adds nothing";
+    addRaw(QStringLiteral("A.JPG"));
+    addRaw(QStringLiteral("B.JPG "));
+    addRaw(QStringLiteral("c.jpg"));
+    EXPECT_EQ(controller->itemCount(), 3u);
+    const ResultRow row = controller->resultRows().at(0);
+    EXPECT_EQ(row[QStringLiteral("NoOfFile")], QStringLiteral("2"));
+    EXPECT_EQ(row[QStringLiteral("FileName")], QStringLiteral("B.JPG"));
+    controller->addImageWithPath_2(QStringLiteral("/tmp/x.JPG"), QStringLiteral("x"), QStringLiteral("u"));
+    EXPECT_EQ(controller->itemAt(3)->File_Start_Sector(), 0u);
+    EXPECT_EQ(controller->itemAt(3)->File_End_Sector(), 0u);
+}
+
+TEST_F(Browser, TheModeOfTheMomentDecidesWhatIsDrawn) {
+    open();
+    addPhotos(1);
+    EXPECT_EQ(controller->itemAt(0)->imageRepresentationType(), RepresentationType::EncodedData);
+    Recovery_MODE = kVideoMode;
+    EXPECT_EQ(controller->itemAt(0)->imageRepresentationType(), RepresentationType::Picture);
+    controller->imageBrowser->grab();  // an item without a picture is an empty cell
+}
+
+TEST_F(Browser, ItemsCannotBeDraggedOut) {
+    open();
+    addPhotos(2);
+    QMimeData pasteboard;
+    EXPECT_EQ(controller->imageBrowser_writeItemsAtIndexes(controller->imageBrowser, {0, 1}, &pasteboard), 0);
+    EXPECT_TRUE(pasteboard.formats().isEmpty());
+    EXPECT_FALSE(controller->imageBrowser->dragEnabled());
+    EXPECT_EQ(controller->imageBrowser->model()->flags(controller->imageBrowser->model()->index(0, 0)) &
+                  Qt::ItemIsDragEnabled,
+              Qt::NoItemFlags);
+}
+
+TEST_F(Browser, TheSliderZoomsThePhotosAndNothingElse) {
+    open();
+    showPhotoScreen();
+    controller->_zoom_slider->show();
+    const QSize before = controller->imageBrowser->gridSize();
+    controller->_zoom_slider->setFocus();
+    QTest::keyClick(controller->_zoom_slider, Qt::Key_End);
+    EXPECT_FLOAT_EQ(controller->imageBrowser->zoomValue(), 1.0F);
+    EXPECT_GT(controller->imageBrowser->gridSize().height(), before.height());
+    EXPECT_FLOAT_EQ(controller->imageBrowser_2->zoomValue(), 0.05F);
+}
+
+TEST_F(Browser, SeveralItemsAreSelectedByKeyboard_AndTypingFindsOne) {
+    open();
+    showPhotoScreen();
+    addPhotos(30);
+    QTest::qWait(1);
+    ImageBrowserView* browser = controller->imageBrowser;
+    browser->setFocus();
+    browser->setCurrentIndex(browser->model()->index(0, 0));
+    QTest::keyClick(browser, Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_EQ(browser->selectionIndexes(), (QList<qsizetype>{0, 1}));
+    EXPECT_EQ(controller->photoCountLabel->text(), QStringLiteral("2 of 30 selected"));
+    EXPECT_TRUE(controller->saveSelectedButton->isEnabled());
+    QTest::keyClick(browser, Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(browser->selectionIndexes().size(), 30);
+    QTest::keyClicks(browser, QStringLiteral("gnd17"));
+    EXPECT_EQ(browser->currentIndex().row(), 16);
+}
+
+TEST_F(Browser, WhereTheKeyboardStandsIsSeen) {
+    open();
+    showPhotoScreen();
+    addPhotos(3);
+    QTest::qWait(1);
+    controller->_stop_scan->setFocus();
+    ImageBrowserView* browser = controller->imageBrowser;
+    const QRect cell = browser->visualRect(browser->model()->index(0, 0));
+    const QImage before = browser->viewport()->grab(cell).toImage();
+    browser->setFocus();
+    EXPECT_TRUE(browser->selectionIndexes().isEmpty());
+    EXPECT_NE(browser->viewport()->grab(cell).toImage(), before);
+}
+
+TEST_F(Browser, HowManyAreSelectedCanBeReadInANarrowWindow) {
+    open();
+    showPhotoScreen();
+    controller->zoomLabel->show();
+    controller->_zoom_slider->show();
+    controller->window->resize(655, 490);  // 1024 x 768 at 144 dots an inch
+    addPhotos(67);
+    QTest::qWait(1);
+    controller->imageBrowser->selectAll();
+    QTest::qWait(1);
+    EXPECT_EQ(controller->photoCountLabel->text(), QStringLiteral("67 of 67 selected"));
+    EXPECT_GE(controller->photoCountLabel->width(), controller->photoCountLabel->sizeHint().width());
+    EXPECT_FALSE(controller->bodyScroll->horizontalScrollBar()->isVisible());
+}
+
+TEST_F(Browser, TheSelectionSurvivesNewItems) {
+    open();
+    showPhotoScreen();
+    addPhotos(10);
+    controller->imageBrowser->setCurrentIndex(controller->imageBrowser->model()->index(3, 0));
+    addPhotos(10);
+    EXPECT_EQ(controller->imageBrowser->selectionIndexes(), (QList<qsizetype>{3}));
+    EXPECT_EQ(controller->imageBrowser->model()->rowCount(), 20);
+}
+
+TEST_F(Browser, AListThatBeganAnew_IsTakenAnew) {
+    open();
+    addPhotos(5);
+    controller->clearItems();
+    addPhotos(6);
+    EXPECT_EQ(controller->imageBrowser->model()->rowCount(), 6);
+    EXPECT_EQ(controller->imageBrowser->model()->index(0, 0).data(), QStringLiteral("GND6.JPG"));
+}
+
+TEST_F(Browser, ALongerListOfOtherItems_IsTakenAnewToo) {
+    open();
+    Source items;
+    controller->imageBrowser->setDataSource(&items);
+    items.count = 5;
+    controller->imageBrowser->reloadData();
+    QSignalSpy anew(controller->imageBrowser->model(), &QAbstractItemModel::modelReset);
+    items.count = 6;
+    controller->imageBrowser->reloadData();
+    EXPECT_EQ(anew.size(), 0) << "a list that grew";
+    items.item = MyImageObject::initWithImage_data({}, QStringLiteral("b"), QStringLiteral("v"));
+    items.count = 7;
+    controller->imageBrowser->reloadData();
+    EXPECT_EQ(anew.size(), 1);
+    controller->imageBrowser->setDataSource(controller.get());
+}
+
+TEST_F(Browser, AHundredThousandItemsInBatches_AreAllThere) {
+    open();
+    showPhotoScreen();
+    Source many;
+    controller->imageBrowser->setDataSource(&many);
+    while (many.count < 100'000) {
+        many.count += 500;
+        controller->imageBrowser->reloadData();
+        QCoreApplication::processEvents();
+    }
+    EXPECT_EQ(controller->imageBrowser->model()->rowCount(), 100'000);
+    controller->imageBrowser->scrollIndexToVisible(99'999);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(atEnd(controller->imageBrowser));
+    controller->imageBrowser->setDataSource(controller.get());
+}
+
+}  // namespace
+}  // namespace vantor

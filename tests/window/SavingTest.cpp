@@ -1,0 +1,322 @@
+// Saving from the results screens: destination, progress, summary, and what stays unsaved.
+#include <QApplication>
+#include <QCheckBox>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+
+#include "results/RecoveryMode.h"
+#include "tests/window/Gate.h"
+#include "tests/window/WindowTest.h"
+
+namespace vantor {
+namespace {
+
+class Saving : public WindowTest {
+  protected:
+    void openPhotoResults() {
+        openWithCard();
+        toRange(kPhotoMode);
+        scanToEnd();
+    }
+    void destinationIs(const QString& path) {
+        controller->_path->setText(path);
+        controller->_path_Sig->setText(path);
+    }
+    void saveAllAndAnswer(const QString& button = QStringLiteral("OK")) {
+        answers.press(button);
+        click(controller->saveAllButton);
+    }
+    void changeOptions(const std::function<void(QDialog*)>& change) {
+        answers.then([change](QDialog* panel) {
+            ASSERT_EQ(panel->objectName(), QStringLiteral("savingOptions"));
+            change(panel);
+            pressButton(panel, QStringLiteral("OK"));
+        });
+        click(controller->savingOptionsButton);
+        QTest::qWait(20);  // whoever answers dialogs sees that it is gone
+    }
+    static void tick(QDialog* panel, const char* box) {
+        panel->findChild<QCheckBox*>(QLatin1String(box))->click();
+    }
+    QStringList savedFiles() const {
+        QStringList files;
+        const QDir root(destination.path());
+        for (const QString& type : root.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+            for (const QString& name : QDir(root.filePath(type)).entryList(QDir::Files)) {
+                files << type + u'/' + name;
+            }
+        }
+        return files;
+    }
+
+    QTemporaryDir destination;
+};
+
+TEST_F(Saving, SaveAll_WritesEveryItemIntoAFolderOfItsType) {
+    openPhotoResults();
+    destinationIs(destination.path());
+    answers.press(QStringLiteral("OK"));
+    click(controller->saveAllButton);
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\n3 files were saved."));
+    EXPECT_EQ(answers.seen().back().buttons,
+              (QStringList{QStringLiteral("Open Folder"), QStringLiteral("OK")}));
+    EXPECT_EQ(savedFiles(),
+              (QStringList{QStringLiteral("GIF/THD00001.GIF"), QStringLiteral("JPG/GND00001.JPG"),
+                           QStringLiteral("JPG/GND00002.JPG")}));
+    EXPECT_EQ(controller->savedLabel->text(), QStringLiteral("3 of 3 saved"));
+    EXPECT_FALSE(controller->hasUnsavedItems());
+    click(controller->backButton);
+    EXPECT_EQ(controller->screen_counter, 1) << "everything is saved, so nothing is asked";
+}
+
+TEST_F(Saving, SaveSelected_WritesTheSelectionOnly) {
+    openPhotoResults();
+    destinationIs(destination.path());
+    EXPECT_FALSE(controller->saveSelectedButton->isEnabled());
+    controller->imageBrowser->setCurrentIndex(controller->imageBrowser->model()->index(1, 0));
+    EXPECT_TRUE(controller->saveSelectedButton->isEnabled());
+    answers.press(QStringLiteral("Open Folder"));
+    click(controller->saveSelectedButton);
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\n1 file was saved."));
+    EXPECT_EQ(savedFiles(), QStringList{QStringLiteral("JPG/GND00002.JPG")});
+    EXPECT_EQ(documentsOpened, QStringList{destination.path()});
+    EXPECT_TRUE(controller->hasUnsavedItems());
+}
+
+TEST_F(Saving, WithoutADestination_OneIsAskedFor) {
+    openPhotoResults();
+    answers.press(QStringLiteral("Continue"));
+    answers.then([this](QDialog* chooser) { chooseFolder(chooser, destination.path()); });
+    answers.press(QStringLiteral("OK"));
+    click(controller->saveAllButton);
+    EXPECT_EQ(savedFiles().size(), 3);
+    EXPECT_EQ(controller->_path->text(), destination.path());
+    EXPECT_EQ(controller->_path_Sig->text(), destination.path());
+    EXPECT_TRUE(controller->_open_folder->isEnabled());
+    click(controller->_open_folder);
+    EXPECT_EQ(documentsOpened, QStringList{destination.path()});
+}
+
+TEST_F(Saving, ADestinationOnTheScannedMedium_IsRefused) {
+    parts.isOnMedium = [](const QString&, const QString& device) {
+        return device == QStringLiteral("/dev/rsdb1");
+    };
+    openPhotoResults();
+    destinationIs(destination.path());
+    answers.press(QStringLiteral("OK"));
+    click(controller->saveAllButton);
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\nThis folder cannot be the destination."));
+    EXPECT_TRUE(
+        answers.seen().back().informative.contains(QStringLiteral("storage medium you are recovering from")));
+    EXPECT_TRUE(savedFiles().isEmpty());
+}
+
+TEST_F(Saving, AMediumThatIsGone_IsReportedAndNothingCountsAsSaved) {
+    openPhotoResults();
+    destinationIs(destination.path());
+    refuseOpen = true;
+    answers.press(QStringLiteral("OK"));
+    click(controller->saveAllButton);
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\nNothing was saved."));
+    EXPECT_TRUE(controller->hasUnsavedItems());
+}
+
+TEST_F(Saving, WhatCannotBeWritten_IsCountedWithItsReason) {
+    openPhotoResults();
+    QFile blocked(destination.filePath(QStringLiteral("JPG")));
+    ASSERT_TRUE(blocked.open(QIODevice::WriteOnly));  // where the folder of the type should be
+    destinationIs(destination.path());
+    answers.press(QStringLiteral("OK"));
+    click(controller->saveAllButton);
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\n1 file was saved."));
+    EXPECT_TRUE(answers.seen().back().informative.contains(QStringLiteral("2 items could not be saved:")))
+        << answers.seen().back().informative.toStdString();
+    EXPECT_TRUE(controller->hasUnsavedItems());
+}
+
+TEST_F(Saving, SavingTwice_WritesNothingTwice) {
+    openPhotoResults();
+    destinationIs(destination.path());
+    saveAllAndAnswer();
+    saveAllAndAnswer();
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\nNothing new was saved."));
+    EXPECT_EQ(savedFiles().size(), 3);
+    changeOptions([](QDialog* panel) { tick(panel, "keepDuplicatesBox"); });
+    saveAllAndAnswer();
+    EXPECT_EQ(savedFiles().size(), 6) << "nothing is overwritten";
+}
+
+TEST_F(Saving, TheReportLiesBesideTheFiles_UnlessNotWanted) {
+    openPhotoResults();
+    destinationIs(destination.path());
+    saveAllAndAnswer();
+    const QStringList reports{QStringLiteral("Recovery report.csv"), QStringLiteral("Recovery report.html")};
+    EXPECT_EQ(QDir(destination.path()).entryList(QDir::Files), reports);
+    QFile html(destination.filePath(reports.at(1)));
+    ASSERT_TRUE(html.open(QIODevice::ReadOnly));
+    const QByteArray page = html.readAll();
+    EXPECT_TRUE(page.contains("CANON_DC (sdb1)"));
+    EXPECT_TRUE(page.contains("JPG/GND00001.JPG"));
+    EXPECT_TRUE(page.contains("completed")) << "the search";
+    EXPECT_TRUE(answers.seen().back().informative.contains(QStringLiteral("Recovery report")));
+    changeOptions([](QDialog* panel) { tick(panel, "reportBox"); });
+    saveAllAndAnswer();
+    EXPECT_EQ(QDir(destination.path()).entryList(QDir::Files), reports);
+    EXPECT_FALSE(answers.seen().back().informative.contains(QStringLiteral("Recovery report")));
+}
+
+TEST_F(Saving, TheOptionsAreKeptAndCounted) {
+    openPhotoResults();
+    EXPECT_EQ(controller->savingOptionsButton->text(), QStringLiteral("O&ptions…"));
+    changeOptions([](QDialog* panel) {
+        auto* pixels = panel->findChild<QSpinBox*>(QStringLiteral("minPixelsField"));
+        EXPECT_FALSE(pixels->isEnabled());
+        tick(panel, "byDateBox");
+        tick(panel, "minPixelsBox");
+        EXPECT_TRUE(pixels->isEnabled());
+        pixels->setValue(500);
+    });
+    EXPECT_EQ(controller->savingOptionsButton->text(), QStringLiteral("O&ptions (2)…"));
+    EXPECT_EQ(controller->savingOptionsButton_Sig->text(), QStringLiteral("O&ptions (2)…"));
+    answers.then([](QDialog* panel) {
+        EXPECT_TRUE(panel->findChild<QCheckBox*>(QStringLiteral("byDateBox"))->isChecked());
+        EXPECT_EQ(panel->findChild<QSpinBox*>(QStringLiteral("minPixelsField"))->value(), 500);
+        tick(panel, "byDateBox");
+        pressButton(panel, QStringLiteral("Cancel"));
+    });
+    click(controller->savingOptionsButton);
+    EXPECT_EQ(controller->savingOptionsButton->text(), QStringLiteral("O&ptions (2)…")) << "cancelled";
+}
+
+TEST_F(Saving, WhatIsLeftOutOnRequest_NeedsNoSaving) {
+    openPhotoResults();
+    destinationIs(destination.path());
+    changeOptions([](QDialog* panel) {
+        tick(panel, "minBytesBox");
+        panel->findChild<QSpinBox*>(QStringLiteral("minBytesField"))->setValue(1000);
+    });
+    saveAllAndAnswer(QStringLiteral("OK"));
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\nNothing was saved."));
+    EXPECT_TRUE(answers.seen().back().informative.contains(
+        QStringLiteral("Left out: 3 items, smaller than you asked for.")));
+    EXPECT_TRUE(savedFiles().isEmpty());
+    EXPECT_FALSE(controller->hasUnsavedItems());
+}
+
+TEST_F(Saving, ItemByItem_IsRemembered) {
+    openPhotoResults();
+    destinationIs(destination.path());
+    for (int row = 0; row < 3; ++row) {
+        EXPECT_TRUE(controller->hasUnsavedItems());
+        controller->imageBrowser->setCurrentIndex(controller->imageBrowser->model()->index(row, 0));
+        answers.press(QStringLiteral("OK"));
+        click(controller->saveSelectedButton);
+        EXPECT_EQ(controller->savedLabel->text(), QStringLiteral("%1 of 3 saved").arg(row + 1));
+    }
+    EXPECT_FALSE(controller->hasUnsavedItems());
+    EXPECT_EQ(savedFiles().size(), 3);
+}
+
+TEST_F(Saving, WithoutRoom_TheUserIsAskedFirst) {
+    parts.freeBytes = [](const QString&) { return std::optional<std::uint64_t>(1000); };
+    openPhotoResults();
+    destinationIs(destination.path());
+    answers.press(QStringLiteral("Cancel"));
+    click(controller->saveAllButton);
+    EXPECT_EQ(answers.seen().back().text,
+              QStringLiteral("\nThere may not be enough room in the destination."));
+    EXPECT_EQ(answers.seen().back().defaultButton, QStringLiteral("Cancel"));
+    EXPECT_TRUE(answers.seen().back().informative.contains(QStringLiteral("1.0 kB are free")))
+        << answers.seen().back().informative.toStdString();
+    EXPECT_TRUE(savedFiles().isEmpty());
+    answers.press(QStringLiteral("Save What Fits"));
+    saveAllAndAnswer();
+    EXPECT_EQ(savedFiles().size(), 3);
+}
+
+TEST_F(Saving, TheSheetSaysHowFarItIs_AndCancelEndsIt) {
+    openPhotoResults();
+    destinationIs(destination.path());
+    Gate gate;
+    card.beforeRead = [&gate, first = card.reads](std::uint64_t read) {
+        if (read == first + 70) {  // the first was followed to the card's end: in the midst of the second
+            gate.pass();
+        }
+    };
+    QString heading, file;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+        QDialog* sheet = nullptr;
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            sheet = widget->objectName() == u"saveProgress" && widget->isVisible()
+                        ? qobject_cast<QDialog*>(widget)
+                        : sheet;
+        }
+        auto* cancel =
+            sheet != nullptr ? sheet->findChild<QPushButton*>(QStringLiteral("cancelButton")) : nullptr;
+        if (cancel == nullptr || !gate.someoneWaits() || !cancel->isEnabled()) {
+            return;
+        }
+        const QString says = sheet->findChild<QLabel*>(QStringLiteral("saveHeading"))->text();
+        if (says == heading || says == QStringLiteral("Saving 1 of 3")) {
+            return;  // the sheet looks at the job now and then
+        }
+        heading = says;
+        file = sheet->findChild<QLabel*>(QStringLiteral("saveFileLabel"))->text();
+        QTest::mouseClick(cancel, Qt::LeftButton);
+        EXPECT_EQ(sheet->findChild<QLabel*>(QStringLiteral("saveFactsLabel"))->text(),
+                  QStringLiteral("Cancelling…"));
+        EXPECT_TRUE(sheet->isVisible());
+        gate.open();
+    });
+    look.start(5);
+    answers.press(QStringLiteral("OK"));
+    click(controller->saveAllButton);
+    EXPECT_EQ(heading, QStringLiteral("Saving 2 of 3"));
+    EXPECT_EQ(file, QStringLiteral("GND00002.JPG"));
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\n1 file was saved."));
+    EXPECT_TRUE(answers.seen().back().informative.contains(QStringLiteral("because you cancelled")));
+    EXPECT_EQ(savedFiles(), QStringList{QStringLiteral("JPG/GND00001.JPG")});
+    EXPECT_TRUE(controller->hasUnsavedItems());
+}
+
+TEST_F(Saving, TheFolderOfAnEarlierSearch_IsNotTakenUnseen) {
+    QTemporaryDir other;
+    openWithCard();
+    toRange(kPhotoMode);
+    controller->_path->setText(destination.path());
+    click(controller->backButton);
+    toFileTypes(kRawFileMode);
+    scanToEnd();
+    ASSERT_EQ(controller->_path_Sig->text(), QString());
+    EXPECT_FALSE(controller->_open_folder_Sig->isEnabled());
+    answers.press(QStringLiteral("Continue"));
+    answers.then([&](QDialog* chooser) { chooseFolder(chooser, other.path()); });
+    answers.press(QStringLiteral("OK"));
+    click(controller->saveAllButton_Sig);
+    EXPECT_TRUE(savedFiles().isEmpty());
+    EXPECT_TRUE(QFileInfo::exists(other.filePath(QStringLiteral("PDF/PDF00001.PDF"))));
+}
+
+TEST_F(Saving, RawItemsAreSavedTheSameWay) {
+    openWithCard();
+    toFileTypes(kRawFileMode);
+    scanToEnd();
+    destinationIs(destination.path());
+    answers.press(QStringLiteral("OK"));
+    click(controller->saveAllButton_Sig);
+    EXPECT_TRUE(savedFiles().contains(QStringLiteral("PDF/PDF00001.PDF")));
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\n3 files were saved."));
+    // Both passes found the document.
+    EXPECT_EQ(savedFiles().size(), 3);
+    EXPECT_TRUE(answers.seen().back().informative.contains(
+        QStringLiteral("Not written again: 1 item, the same contents are saved already.")));
+    EXPECT_FALSE(controller->hasUnsavedItems());
+}
+
+}  // namespace
+}  // namespace vantor

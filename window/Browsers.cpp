@@ -1,0 +1,139 @@
+// Data source and delegate of both browsers.
+#include <QLocale>
+
+#include "saving/SaveSummary.h"
+#include "window/MyTableController.h"
+
+namespace vantor {
+
+ImageBrowserView* MyTableController::browserOf(ControlSet set) const {
+    return set == ControlSet::Photo ? imageBrowser : imageBrowser_2;
+}
+
+void MyTableController::addImageWithData(const QByteArray& data, const QString& imageName,
+                                         const QString& image_UID) {
+    if (data.isEmpty()) {
+        return;
+    }
+    if (onOwnThread() || !m_thumbnails) {
+        ScanSession::addImageWithData(data, imageName, image_UID);
+        return;
+    }
+    // Bytes of its own, so that the scan's buffer stays the scan's and keeps its memory for the next item.
+    const auto place = std::make_shared<std::size_t>(0);
+    m_thumbnails->submit(
+        QByteArray(data.constData(), data.size()),
+        [this, imageName, image_UID, place, from = handOver()](const QByteArray& thumbnail) {
+            addThumbnail(thumbnail, imageName, image_UID, from);
+            *place = itemCount() - 1;
+        },
+        pathExtension(imageName),
+        [this, image_UID, place](const QByteArray& thumbnail) {
+            replaceThumbnail(*place, image_UID, thumbnail);
+            QMetaObject::invokeMethod(
+                this, [this] { imageBrowser->viewport()->update(); }, Qt::QueuedConnection);
+        });
+}
+
+ItemFacts MyTableController::factsOfItem(qsizetype index) {
+    return m_looks->factsOf(static_cast<std::size_t>(index));
+}
+
+LookedAtItems MyTableController::lookedAtItems() {
+    LookedAtItems items;
+    items.at = [this](std::size_t index) { return itemAt(index); };
+    items.count = [this] { return itemCount(); };
+    items.isSaved = [this](std::size_t index) { return m_desk->marks().isSaved(index); };
+    items.mediumBusy = [this] { return scanRunning() || m_desk->isRunning(); };
+    items.policy = [this] { return m_desk->choices().policy; };
+    return items;
+}
+
+qsizetype MyTableController::numberOfItemsInImageBrowser(const ImageBrowserView*) {
+    return static_cast<qsizetype>(itemCount());
+}
+
+std::shared_ptr<MyImageObject> MyTableController::imageBrowser_itemAtIndex(const ImageBrowserView*,
+                                                                           qsizetype index) {
+    return index < 0 ? nullptr : itemAt(static_cast<std::size_t>(index));
+}
+
+qsizetype MyTableController::imageBrowser_writeItemsAtIndexes(const ImageBrowserView*,
+                                                              const QList<qsizetype>&, QMimeData*) {
+    return 0;
+}
+
+void MyTableController::zoomSliderDidChange(QObject*) {
+    imageBrowser->setZoomValue(static_cast<float>(_zoom_slider->value()) /
+                               static_cast<float>(_zoom_slider->maximum()));
+    imageBrowser->viewport()->update();
+}
+
+void MyTableController::imageBrowserSelectionDidChange(ImageBrowserView* view) {
+    if (view != imageBrowser_2 || session) {
+        return;
+    }
+    const QList<qsizetype> selected = view->selectionIndexes();
+    if (selected.isEmpty()) {
+        return;
+    }
+    const auto index = static_cast<std::uint32_t>(selected.constFirst());
+    if (index == kNoPreview || index == Prev_Index) {
+        return;
+    }
+    const std::shared_ptr<MyImageObject> item = imageBrowser_itemAtIndex(view, index);
+    if (!item) {
+        return;
+    }
+    Prev_Index = index;
+    _QuickLook_View->clear();
+    closemovie_Win();
+    soundControls->setMovie(nullptr);
+    CreateFile_QuickLook_View({item->valueForKey(QStringLiteral("path")),
+                               item->valueForKey(QStringLiteral("File_Start_Sector")),
+                               item->valueForKey(QStringLiteral("File_End_Sector"))});
+}
+
+// Types without items can be left out of the table.
+void MyTableController::filterResultRows() {
+    const QList<ResultRow> rows = resultRows();
+    for (int row = 0; row < rows.size(); ++row) {
+        idSigTableView->setRowHidden(row, foundTypesOnly->isChecked() && countOf(rows.at(row)) == 0);
+    }
+}
+
+// Counts in words, and the buttons that need something to work on.
+void MyTableController::showItemCounts() {
+    const qsizetype found = static_cast<qsizetype>(itemCount());
+    const auto words = [&](const ImageBrowserView* browser) {
+        const int shown = browser->shownCount();
+        const qsizetype selected = browser->selectedCount();
+        if (selected > 0) {
+            return tr("%1 of %2 selected").arg(QLocale().toString(selected), QLocale().toString(shown));
+        }
+        const QString count = countOfItems(static_cast<std::uint64_t>(found));
+        return m_looks->isPlain() ? count : tr("%1 of %2").arg(QLocale().toString(shown), count);
+    };
+    photoCountLabel->setText(words(imageBrowser));
+    rawCountLabel->setText(words(imageBrowser_2));
+    saveSelectedButton->setEnabled(imageBrowser->selectionModel()->hasSelection());
+    saveSelectedButton_Sig->setEnabled(imageBrowser_2->selectionModel()->hasSelection());
+    for (QPushButton* button : {saveAllButton, saveAllButton_Sig}) {
+        button->setEnabled(found > 0);
+    }
+    const bool haveFolder = !pathInView()->text().isEmpty();
+    _open_folder->setEnabled(haveFolder);
+    _open_folder_Sig->setEnabled(haveFolder);
+    const auto savedCount = static_cast<qsizetype>(m_desk->marks().saved());
+    const QString saved =
+        savedCount == 0 ? QString()
+                        : tr("%1 of %2 saved").arg(QLocale().toString(savedCount), QLocale().toString(found));
+    const int changed = changedChoices(m_desk->choices());
+    for (QPushButton* button : {savingOptionsButton, savingOptionsButton_Sig}) {
+        button->setText(changed == 0 ? tr("O&ptions…") : tr("O&ptions (%1)…").arg(changed));
+    }
+    savedLabel->setText(saved);
+    savedLabel_Sig->setText(saved);
+}
+
+}  // namespace vantor

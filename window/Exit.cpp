@@ -1,0 +1,97 @@
+// The one way out, its question, and the end of the threads.
+#include <QCoreApplication>
+
+#include "window/MyTableController.h"
+#include "window/ProgramTitle.h"
+#include "window/preview/PreviewFile.h"
+#include "window/widgets/Alerts.h"
+
+namespace vantor {
+
+namespace {
+
+// How long a preview copy may take to see that it is to end before its file is deleted.
+constexpr std::chrono::milliseconds kCopyPatience{200};
+
+}  // namespace
+
+void MyTableController::Exit_App() {
+    if (hasUnsavedItems() && !mayLeaveUnsaved(tr("When the program ends, the list of found items is gone."),
+                                              tr("Exit Without Saving"))) {
+        return;
+    }
+    const QString question =
+        QStringLiteral("\nDo you really want to exit from '") + kProgramTitle + QStringLiteral("'?");
+    if (!Show_YES_NO_MessageBox(question)) {
+        // After a refused exit no more notifications arrive.
+        for (const QMetaObject::Connection& subscription : std::as_const(m_notifications)) {
+            disconnect(subscription);
+        }
+        m_notifications.clear();
+        return;
+    }
+    m_ending = true;
+    if (m_besideRunning) {
+        stop_now = 1;
+        const auto until = std::chrono::steady_clock::now() + kCopyPatience;
+        while (m_besideRunning && std::chrono::steady_clock::now() < until) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }
+    }
+    deletePreviews();
+    m_parts.terminate();
+}
+
+void MyTableController::Exit_Btn(QObject*) {
+    Exit_App();
+}
+
+bool MyTableController::windowShouldClose(QObject*) {
+    Exit_App();
+    return false;
+}
+
+void MyTableController::deletePreviews() {
+    if (fileManager->isDeletableFileAtPath(Preview_Temp_File)) {
+        fileManager->removeItemAtPath(Preview_Temp_File);
+    }
+    deletePreviewFiles(m_previewFolder);
+}
+
+bool MyTableController::mayLeaveUnsaved(const QString& consequence, const QString& leave) {
+    return runAlert({QStringLiteral("\n") + tr("Some of the found items have not been saved."),
+                     consequence,
+                     {leave, tr("Stay")},
+                     1}) == 0;
+}
+
+bool MyTableController::shutDown(std::chrono::milliseconds patience) {
+    m_ending = true;
+    m_queue.close();
+    m_pump.stop();
+    if (m_thumbnails) {
+        m_thumbnails->cancel();
+    }
+    const auto until = std::chrono::steady_clock::now() + patience;
+    m_looks->shutDown();
+    while (scanRunning() || m_besideRunning || m_desk->isRunning() || !m_looks->hasEnded()) {
+        // The scan clears the word when it honours it, so it is said until everyone has heard.
+        stop_now = 1;
+        if (mSetLabelTimer) {
+            mSetLabelTimer->invalidate();
+        }
+        if (std::chrono::steady_clock::now() > until) {
+            return false;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+    for (std::thread* thread : {&m_driver, &m_timerThread, &mPreviewThread}) {
+        if (thread->joinable()) {
+            thread->join();
+        }
+    }
+    m_desk->join();
+    return true;
+}
+
+}  // namespace vantor

@@ -1,0 +1,50 @@
+// Creation with the initial state, and teardown.
+
+#include <QThread>
+
+#include "results/RecoveryMode.h"
+#include "window/MyTableController.h"
+#include "window/preview/PreviewFile.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr std::chrono::milliseconds kTeardownPatience{5000};
+
+// Few enough to be made while the user waits for the end of a stopped scan.
+constexpr std::size_t kPhotosWaiting = 16;
+
+ThumbnailQueueOptions thumbnailQueueOptions() {
+    ThumbnailQueueOptions options;
+    options.workers = std::max(1, QThread::idealThreadCount());
+    options.maxItems = kPhotosWaiting;
+    return options;
+}
+
+}  // namespace
+
+MyTableController::MyTableController(ProgramParts parts)
+    : MediaList(*parts.media), ScanSession(static_cast<ScanView&>(*this)), m_parts(std::move(parts)) {
+    Recovery_MODE = kPhotoMode;
+    m_previewFolder = previewFolder(m_parts.resourcesFolder);
+    setMediumOpener(m_parts.openMedium);
+    setThumbnailer(m_parts.thumbnailer);
+    if (m_parts.thumbnailer) {
+        m_thumbnails = std::make_unique<ThumbnailQueue>(m_parts.thumbnailer, thumbnailQueueOptions());
+    }
+    loadInterface();
+    wire();
+}
+
+MyTableController::~MyTableController() {
+    m_parts.media->changed = nullptr;
+    shutDown(kTeardownPatience);
+}
+
+QColor MyTableController::getColorFromRGB(int red, int blue, int green) {
+    return QColor::fromRgbF(static_cast<float>(red) / 255.0F, static_cast<float>(green) / 255.0F,
+                            static_cast<float>(blue) / 255.0F, 1.0F);
+}
+
+}  // namespace vantor

@@ -1,0 +1,401 @@
+// The one controller behind the window: it owns the run's state through ScanSession, shows it in the outlets,
+// and turns what the user does into the next step.
+//
+// Contents, in the order of the declarations below, each under the file that holds the bodies:
+//   Creation and set-up         window/Lifecycle.cpp, window/SetUp.cpp, window/Wiring.cpp
+//   Exit                        window/Exit.cpp
+//   Wizard actions              window/ScreenFlow.cpp
+//   Screens                     window/ScreenGroups.cpp
+//   Items left behind           window/LeftItems.cpp
+//   Table data sources          window/TableDataSources.cpp
+//   Panels and help             window/PanelActions.cpp
+//   Media list                  window/MediaScreen.cpp
+//   Search range                window/RangeScreen.cpp
+//   File types                  window/FileTypeScreen.cpp
+//   Scan threads                window/ScanThreads.cpp
+//   Browsers                    window/Browsers.cpp
+//   Preview                     window/Preview.cpp
+//   Movie                       window/MoviePreview.cpp
+//   Saving                      window/Saving.cpp
+//   Fields with given names
+//   What a scan shows           window/ScanScreen.cpp
+//   Steps behind these, file by file, and the fields of our own
+#pragma once
+
+#include <QDateTime>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileDialog>
+#include <QSizeF>
+#include <QTimer>
+#include <array>
+#include <atomic>
+#include <memory>
+#include <thread>
+
+#include "decode/ThumbnailQueue.h"
+#include "media/MediaList.h"
+#include "media/SearchRange.h"
+#include "scan/ScanInputs.h"
+#include "scan/ScanMeter.h"
+#include "scan/ScanSession.h"
+#include "window/InterfaceQueue.h"
+#include "window/Outlets.h"
+#include "window/ProgramParts.h"
+#include "window/ScanTimer.h"
+#include "window/WindowPanels.h"
+#include "window/browser/BrowserLooks.h"
+#include "window/browser/FileTypeIcons.h"
+#include "window/browser/ImageBrowserModel.h"
+#include "window/browser/PendingView.h"
+#include "window/panels/RangePanel.h"
+#include "window/preview/FileManager.h"
+#include "window/saving/SavingDesk.h"
+#include "window/widgets/TableAdapter.h"
+
+namespace vantor {
+
+// Members with given names keep them letter for letter; a message `first:second:` is `first(a, second)`.
+// Where an outlet already bears the first word, as `imageBrowser` does, the words of the message are joined
+// instead.
+//
+// Threads: everything runs on the interface thread but what the base classes say otherwise and the ScanView
+// members, which the scan driver calls too.
+class MyTableController : public QObject,
+                          public MediaList,
+                          private ScanView,
+                          public ScanSession,
+                          public SectorText,
+                          public Outlets,
+                          public TableDataSource,
+                          public ImageBrowserDataSource {
+    Q_OBJECT
+
+  public:
+    // --- Creation and set-up (window/Lifecycle.cpp, window/SetUp.cpp, window/Wiring.cpp) ---
+
+    // Constructor and destructor are `init` and `dealloc`; there is nothing for the class itself to set up.
+    explicit MyTableController(ProgramParts parts);
+    ~MyTableController() override;
+    static void initialize() {}
+
+    // Once the interface is loaded: fills it and shows the window.
+    void awakeFromNib();
+    // Red, blue and green of 255 each, in this order.
+    static QColor getColorFromRGB(int red, int blue, int green);
+
+    // --- Exit (window/Exit.cpp) ---
+
+    // Asks, deletes the preview files and ends the program.
+    void Exit_App();
+    void Exit_Btn(QObject* sender);
+    // Asks as the exit button does; the window itself is never closed by this.
+    bool windowShouldClose(QObject* sender);
+    // Ends the threads; false when one of them does not answer within the time, as with a device that hangs.
+    bool shutDown(std::chrono::milliseconds patience);
+
+    // --- Wizard actions (window/ScreenFlow.cpp) ---
+
+    void Next_btn(QObject* sender);
+    void Back_btn(QObject* sender);
+    void Photo_Mode_Radio(QObject* sender);
+    void Video_Mode_Radio(QObject* sender);
+    void RawFile_Mode_Radio(QObject* sender);
+
+    // --- Screens (window/ScreenGroups.cpp) ---
+
+    // True hides the group, false shows it.
+    void show_hide_1_screen(bool hide);
+    void show_hide_2_screen(bool hide);
+    void show_hide_3_screen_Photo(bool hide);
+    void show_hide_3_screen_RawFile(bool hide);
+    void show_hide_4_screen_RawFile(bool hide);
+
+    // --- Items left behind (window/LeftItems.cpp) ---
+
+    // The results of a scan whose later pass could not open the medium, which led back to the screen before.
+    void showLeftItems();
+
+    // --- Table data sources (window/TableDataSources.cpp) ---
+
+    qsizetype numberOfRowsInTableView(const QTableView* table) override;
+    QVariant tableView(const QTableView* table, const QString& objectValueForTableColumn,
+                       qsizetype row) override;
+    void tableView(const QTableView* table, const QVariant& setObjectValue, const QString& forTableColumn,
+                   qsizetype row) override;
+
+    // --- Panels and help (window/PanelActions.cpp) ---
+
+    void Browse_Path(QObject* sender);
+    void Browse_Path_Sig(QObject* sender);
+    // The callback form of the folder chooser's end; 1 is its OK button.
+    void openPanelDidEnd(QFileDialog* panel, int returnCode, void* contextInfo);
+    void Help_btn(QObject* sender);
+
+    // --- Media list (window/MediaScreen.cpp) ---
+
+    void Reload_Drive_list_Function();
+    void rebresh_drives(QObject* sender);
+    void deleteSelectedRow(QObject* sender);
+    void addRow(std::shared_ptr<MyDataObject> record);
+    QString getMPSize(const QString& bytes) const;
+    // Adds image files of media to the list and selects the last of them.
+    void openImages(const QStringList& files);
+
+    // --- Search range (window/RangeScreen.cpp) ---
+
+    void Entire_Disk_Radio(QObject* sender);
+    void Entire_Disk_Radio_Sig(QObject* sender);
+    void Sector_Range_Radio(QObject* sender);
+    void Sector_Range_Radio_Sig(QObject* sender);
+    void DO_Start_slider(QObject* sender);
+    void DO_Start_slider_Sig(QObject* sender);
+    void DO_End_slider(QObject* sender);
+    void DO_End_slider_Sig(QObject* sender);
+    void controlTextDidChange(QLineEdit* field);
+
+    // --- File types (window/FileTypeScreen.cpp) ---
+
+    void Select_Unselect_Check_btn(QObject* sender);
+    void clickTable(QObject* sender);
+    void Thro_Mode_Chk_SIG_Btn(QObject* sender);
+
+    // --- Scan threads (window/ScanThreads.cpp) ---
+
+    void startTimerThread();
+    void stop_usb_disk(QObject* sender);
+    bool scanRunning() const { return m_driverRunning || m_timerRunning; }
+
+    // --- Browsers (window/Browsers.cpp) ---
+
+    // From a scan the bytes go to a queue where thumbnails are made side by side and listed in the order of
+    // carving.
+    void addImageWithData(const QByteArray& data, const QString& imageName,
+                          const QString& image_UID) override;
+    qsizetype numberOfItemsInImageBrowser(const ImageBrowserView* view) override;
+    std::shared_ptr<MyImageObject> imageBrowser_itemAtIndex(const ImageBrowserView* view,
+                                                            qsizetype index) override;
+    ItemFacts factsOfItem(qsizetype index) override;
+    // Items cannot be dragged out: writes nothing and gives 0.
+    qsizetype imageBrowser_writeItemsAtIndexes(const ImageBrowserView* view, const QList<qsizetype>& indexes,
+                                               QMimeData* toPasteboard);
+    void zoomSliderDidChange(QObject* sender);
+    void imageBrowserSelectionDidChange(ImageBrowserView* view);
+
+    // --- Preview (window/Preview.cpp) ---
+
+    // Path, start and end sector of an item, in this order.
+    void CreateFile_QuickLook_View(const QVariantList& item);
+    void QuickLook_Preview_Thread(const QString& itemPath);
+    void setQuickLook_View_File(const QString& file, const QString& file_Name);
+    void setQuickLook_View(const QString& file);
+    void Image_Preview(const QString& file, const QString& file_Name);
+
+    // --- Movie (window/MoviePreview.cpp) ---
+
+    bool isPlaying(const Movie* movie) const;
+    void stopPlayingMovie(Movie* movie) const;
+    void closemovie_Win();
+    std::unique_ptr<Movie> getAMovieFile();
+
+    // --- Saving (window/Saving.cpp) ---
+
+    void saveSelected();
+    void saveAll();
+    void askSavingOptions();
+    // True while something found is neither saved nor left out as the user asked.
+    bool hasUnsavedItems() const;
+
+    // --- Fields with given names ---
+
+    // Set at start, with the interface.
+    const FileManager* fileManager = &FileManager::defaultManager();
+    QMainWindow* window = nullptr;
+    QDialog* BrowseInfo_Window = nullptr;
+    QDialog* SaveFile_Info_Window = nullptr;
+    QDialog* SaveFile_Info_For_RAW_Window = nullptr;
+    QDialog* ClearPreview_Window = nullptr;
+    QDialog* LoadDisk_Window = nullptr;
+    QDialog* HelpWindow = nullptr;
+    QSizeF zero_thumbnail{0, 0};
+
+    // Set by every scan.
+    std::shared_ptr<ScanTimer> mSetLabelTimer;
+    std::unique_ptr<QFile> pFile_op;
+
+    // Set by every preview.
+    QString Preview_Temp_File = QStringLiteral("");
+    std::thread mPreviewThread;
+    std::atomic<bool> session{false};  // a preview copy or a media query is in its modal session
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    // --- What a scan shows (window/ScanScreen.cpp) ---
+
+    RangeControls rangeControls(ControlSet set) const override;
+    bool thoroughBoxOn(ControlSet set) const override;
+    QString destinationFolder() const override;
+    bool modalSessionRunning() const override { return session; }
+    void showModeLabel(const QString& text) override;
+    void showSectorLabel(const QString& text) override;
+    void showHelpInfo(const QString& text) override;
+    void setProgressRange(std::uint64_t sectors) override;
+    void startProgress() override;
+    void setProgress(double sectors) override;
+    void invalidateTimer() override;
+    void setScanOptionsEnabled(bool enabled) override;
+    void resetPhotoBrowser() override;
+    void reloadBrowser(ControlSet set) override;
+    void scrollBrowserTo(ControlSet set, qsizetype index) override;
+    QIcon iconForFileType(const QString& extension) override;
+    void clearPreviewTitle() override;
+    void resultRowsChanged() override;
+    void fileTypeRowsChanged() override;
+    void showAlert(const QString& message) override;
+    void returnFromScanScreen(ControlSet set) override;
+    void hideScanProgress() override;
+    void runEndPanel(ControlSet set) override;
+    void showResultControls(ControlSet set) override;
+    void enableAfterScan() override;
+    void onInterfaceThread(const std::function<void()>& step) override;
+
+    bool onOwnThread() const;
+    void later(std::function<void()> step);
+    ScanInputs readInputs() const;
+
+    // --- Steps behind these ---
+
+    // window/SetUp.cpp
+    void loadInterface();
+    void dressWindow();
+    void dressRangeSets();
+    void setUpTables();
+    void setUpBrowsers();
+    void setEmptyStates();
+    // window/Wiring.cpp
+    void wire();
+    void wireButtons();
+    void wireRangeSet(ControlSet set);
+    void wireShortcuts();
+    void pressDefault();
+    // window/Exit.cpp
+    void deletePreviews();
+    bool mayLeaveUnsaved(const QString& consequence, const QString& leave);
+    // window/ScreenFlow.cpp
+    ControlSet activeSet() const;
+    RangePanel& activeRange();
+    void setMode(int mode);
+    void nextFromMedia();
+    void nextFromRange();
+    void nextFromFileTypes();
+    void backToMedia();
+    void backToRange();
+    void backToFileTypes();
+    void showMediaHelp();
+    void showRangeHelp();
+    void showFileTypeHelp();
+    void showWhereWeAre();
+    void bringIntoView(QWidget* widget);
+    void emptyBrowsers();
+    void emptyBrowserViews();
+    // window/ScreenGroups.cpp
+    void showPreviewPane(bool hide);
+    void hideOpenFolderButtons();
+    // window/LeftItems.cpp
+    bool onScanScreen() const;
+    void scanFellBack();
+    void showLeftItemsBar();
+    bool mayBeginScan();
+    // window/PanelActions.cpp
+    void browseForDestination();
+    QString askDestination();
+    bool acceptDestination(const QString& folder);
+    void openDestination();
+    QLineEdit* pathInView() const;
+    QString devicePath() const;
+    // window/MediaScreen.cpp
+    void mediaChanged();
+    void reloadMediaKeepingSelection();
+    void selectMedium(const QString& identifier);
+    QIcon iconOfMedium(qsizetype row) const;
+    // window/RangeScreen.cpp
+    RangePanel& rangeOf(ControlSet set);
+    void showEntireDiskHelp();
+    void showSectorRangeHelp();
+    // window/FileTypeScreen.cpp
+    void buildGroupBoxes();
+    void filterFileTypes(const QString& text);
+    void tickGroup(int kind, bool ticked);
+    void showTypeCounts();
+    // window/ScanThreads.cpp
+    void startScan(void (ScanSession::*driver)());
+    void pump();
+    void drainQueue();
+    bool waitForThreads();
+    void scanThreadsEnded();
+    void flushViews();
+    void showScanFacts();
+    void prepareIcons();
+    void clearWaitingThumbnails();
+    // window/Browsers.cpp
+    ImageBrowserView* browserOf(ControlSet set) const;
+    void filterResultRows();
+    void showItemCounts();
+    LookedAtItems lookedAtItems();
+    // window/Preview.cpp
+    void runBeside(const std::function<void()>& work);
+    std::unique_ptr<Movie> openBeside(const MovieLoader& loader, const QString& file);
+    void showPicture(const QPixmap& picture, const QString& title);
+    void showPreviewFacts();
+    // window/Saving.cpp
+    void saveItems(const QList<qsizetype>& indexes);
+    SavingParts savingParts();
+    ReportHead reportHead() const;
+
+    // --- Fields of our own ---
+
+    // Set when the controller is made.
+    ProgramParts m_parts;
+    std::unique_ptr<QMainWindow> m_window;
+    std::array<std::unique_ptr<RangePanel>, 2> m_range;
+    std::unique_ptr<WindowPanels> m_panels;
+    TableAdapter* m_mediaTable = nullptr;
+    TableAdapter* m_typeTable = nullptr;
+    TableAdapter* m_resultTable = nullptr;
+    QList<QCheckBox*> m_groupBoxes;  // by FileKind
+    QString m_previewFolder;
+    FileTypeIcons m_icons;                           // prepared before a scan, read by it
+    QList<QMetaObject::Connection> m_notifications;  // gone after a refused exit
+    int m_clickedColumn = -1;                        // of the last click in a table
+    bool m_ending = false;                           // the exit was confirmed
+
+    // Shared between the threads of a scan.
+    InterfaceQueue m_queue{
+        [this] { QMetaObject::invokeMethod(this, &MyTableController::drainQueue, Qt::QueuedConnection); }};
+    std::unique_ptr<ThumbnailQueue> m_thumbnails;  // null without a thumbnailer
+    std::array<PendingView, 2> m_pending;
+    std::atomic<bool> m_resultRowsDirty{false};
+    std::atomic<bool> m_driverRunning{false};
+    std::atomic<bool> m_timerRunning{false};
+    std::atomic<bool> m_besideRunning{false};
+
+    // Set by every scan.
+    ScanInputs m_inputs;
+    std::thread m_driver;
+    std::thread m_timerThread;
+    QTimer m_pump;
+    QElapsedTimer m_clock;
+    QDateTime m_scanBegun;
+    ScanMeter m_meter;
+    double m_progressSectors = 0;
+    bool m_draining = false;
+    QList<ResultRow> m_leftRows;  // only when it fell back to the screen before
+
+    // Begin anew with every scan; the first to go, since they ask the others.
+    std::unique_ptr<BrowserLooks> m_looks;
+    std::unique_ptr<SavingDesk> m_desk;
+};
+
+}  // namespace vantor

@@ -1,0 +1,102 @@
+// The destination folder and the help window.
+
+#include "window/MyTableController.h"
+#include "window/widgets/Alerts.h"
+
+namespace vantor {
+
+namespace {
+
+// The code of a folder chooser that was ended by its OK button.
+constexpr int kChosen = 1;
+
+class FolderChooser : public QFileDialog {
+  public:
+    FolderChooser(QWidget* parent, const QString& folder)
+        : QFileDialog(parent, QObject::tr("Choose the destination folder"), folder) {
+        setObjectName(QStringLiteral("folderChooser"));
+        setFileMode(Directory);
+        setOption(ShowDirsOnly);
+        setAcceptMode(AcceptOpen);
+    }
+};
+
+}  // namespace
+
+QString MyTableController::devicePath() const {
+    return QStringLiteral("/dev/r") + _disk_identifier->text();
+}
+
+void MyTableController::Browse_Path(QObject*) {
+    browseForDestination();
+}
+
+void MyTableController::Browse_Path_Sig(QObject*) {
+    browseForDestination();
+}
+
+void MyTableController::browseForDestination() {
+    if (runModalForWindow(BrowseInfo_Window) != kButtonPressed) {
+        return;
+    }
+    auto* chooser = new FolderChooser(window, pathInView()->text());
+    chooser->setAttribute(Qt::WA_DeleteOnClose);
+    connect(chooser, &QDialog::finished, this, [this, chooser](int result) {
+        if (result == QDialog::Accepted && !chooser->selectedFiles().isEmpty()) {
+            acceptDestination(chooser->selectedFiles().constFirst());
+        }
+    });
+    chooser->open();
+}
+
+void MyTableController::openPanelDidEnd(QFileDialog* panel, int returnCode, void*) {
+    panel->hide();
+    if (returnCode == kChosen && !panel->selectedFiles().isEmpty()) {
+        acceptDestination(panel->selectedFiles().constFirst());
+    }
+}
+
+// The folder that the user sees on the screens of the mode; the other field may hold that of an earlier
+// search.
+QLineEdit* MyTableController::pathInView() const {
+    return activeSet() == ControlSet::Photo ? _path : _path_Sig;
+}
+
+// Both path fields get the folder, unless it lies on the medium that is to be recovered.
+bool MyTableController::acceptDestination(const QString& folder) {
+    if (m_parts.isOnMedium && m_parts.isOnMedium(folder, devicePath())) {
+        runAlert({QStringLiteral("\n") + tr("This folder cannot be the destination."),
+                  tr("It lies on the storage medium you are recovering from. Writing there would overwrite "
+                     "the files you want back. Choose a folder on another disk.")},
+                 window);
+        return false;
+    }
+    _path->setText(folder);
+    _path_Sig->setText(folder);
+    return true;
+}
+
+// Asks for a destination at once; "" when the user did not choose one.
+QString MyTableController::askDestination() {
+    if (runModalForWindow(BrowseInfo_Window) != kButtonPressed) {
+        return {};
+    }
+    FolderChooser chooser(window, pathInView()->text());
+    if (chooser.exec() != QDialog::Accepted || chooser.selectedFiles().isEmpty()) {
+        return {};
+    }
+    const QString folder = chooser.selectedFiles().constFirst();
+    return acceptDestination(folder) ? folder : QString();
+}
+
+void MyTableController::openDestination() {
+    if (!pathInView()->text().isEmpty()) {
+        m_parts.openDocument(pathInView()->text());
+    }
+}
+
+void MyTableController::Help_btn(QObject*) {
+    runModalForWindow(HelpWindow);
+}
+
+}  // namespace vantor

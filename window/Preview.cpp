@@ -1,0 +1,180 @@
+// The preview of the selected item: copy, then picture, icon or movie.
+#include <QEventLoop>
+#include <QFileInfo>
+
+#include "catalogue/FileKind.h"
+#include "catalogue/NumberText.h"
+#include "results/RecoveryMode.h"
+#include "results/SizeForPeople.h"
+#include "window/MyTableController.h"
+#include "window/preview/DocumentFrame.h"
+#include "window/preview/MovieControls.h"
+#include "window/preview/PreviewFile.h"
+#include "window/widgets/Sheet.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr QSize kPreviewSize{200, 200};
+constexpr int kPollMilliseconds = 5;
+
+// Through text, as the sectors travel: values beyond a signed 64-bit number come back as the largest one.
+std::uint64_t sectorThroughText(const QVariant& sector) {
+    return static_cast<std::uint64_t>(textToInt64(QString::number(sector.toULongLong())));
+}
+
+QString lastComponent(const QString& path) {
+    return path.mid(path.lastIndexOf(u'/') + 1);
+}
+
+}  // namespace
+
+// Runs the work on a thread of its own while the window lives on.
+void MyTableController::runBeside(const std::function<void()>& work) {
+    m_besideRunning = true;
+    mPreviewThread = std::thread([this, work] {
+        work();
+        m_besideRunning = false;
+    });
+    QEventLoop loop;
+    QTimer poll;
+    connect(&poll, &QTimer::timeout, &loop, [&] {
+        if (!m_besideRunning) {
+            loop.quit();
+        }
+    });
+    poll.start(kPollMilliseconds);
+    loop.exec();
+    // A loop that ended with the program leaves a thread that may hang; the end of the program sees to it.
+    if (!m_besideRunning) {
+        mPreviewThread.join();
+    }
+}
+
+void MyTableController::CreateFile_QuickLook_View(const QVariantList& item) {
+    const QString path = item.at(0).toString();
+    const auto request = std::make_shared<PreviewFileRequest>();
+    request->openMedium = [open = m_parts.openMedium, device = devicePath()] {
+        return open ? open(device) : nullptr;
+    };
+    request->previousFile = Preview_Temp_File;
+    request->newFile = previewFilePath(m_previewFolder, path);
+    request->start = sectorThroughText(item.at(1));
+    request->end = sectorThroughText(item.at(2));
+    const auto mediumOpened = std::make_shared<bool>(false);
+
+    session = true;
+    {
+        const SheetSession sheet(ClearPreview_Window, controlPanel, exitButton);
+        runBeside([this, request, mediumOpened] { *mediumOpened = makePreviewFile(*request, stop_now); });
+        if (m_ending) {
+            return;
+        }
+        if (*mediumOpened) {
+            Preview_Temp_File = request->newFile;
+        }
+        QuickLook_Preview_Thread(path);
+    }
+    session = false;
+    // A scan that still runs shows its end itself, once it has let the medium go.
+    if (stop_now == 1 && stop_screen_already_show == 0 && !scanRunning()) {
+        Final_or_Stop_Screen();
+    }
+}
+
+void MyTableController::QuickLook_Preview_Thread(const QString& itemPath) {
+    setQuickLook_View_File(Preview_Temp_File, lastComponent(itemPath));
+    if (!m_ending) {
+        showPreviewFacts();
+    }
+}
+
+// The size of the copied file; sound beside its picture can be heard, and tells how long it is.
+void MyTableController::showPreviewFacts() {
+    const QFileInfo file(Preview_Temp_File);
+    if (!file.isFile()) {
+        previewFacts->clear();
+        return;
+    }
+    if (Recovery_MODE != kVideoMode && kindOfExtension(pathExtension(file.fileName())) == FileKind::Sound) {
+        soundControls->setMovie(openBeside(m_parts.sound, file.filePath()));
+    }
+    if (m_ending) {
+        return;
+    }
+    const Movie* const sound = soundControls->movie();
+    const QString size = sizeForPeople(static_cast<std::uint64_t>(file.size()));
+    previewFacts->setText(sound != nullptr && sound->durationMs() > 0
+                              ? tr("%1, %2").arg(size, timeText(sound->durationMs()))
+                              : size);
+}
+
+// Null as well when the program ends meanwhile.
+std::unique_ptr<Movie> MyTableController::openBeside(const MovieLoader& loader, const QString& file) {
+    if (!loader || !QFileInfo(file).isFile()) {
+        return nullptr;
+    }
+    // Shared with a thread that may be left behind when the program ends.
+    const auto opened = std::make_shared<std::unique_ptr<Movie>>();
+    runBeside([loader, file, opened] { *opened = loader(file); });
+    return m_ending ? nullptr : std::move(*opened);
+}
+
+void MyTableController::setQuickLook_View_File(const QString& file, const QString& file_Name) {
+    if (file_Name.isNull()) {
+        return;
+    }
+    if (Recovery_MODE != kVideoMode) {
+        Image_Preview(file, file_Name);
+        return;
+    }
+    _QuickLook_View_Box->setTitle(file_Name);
+    std::unique_ptr<Movie> movie = openBeside(m_parts.movie, file);
+    if (m_ending) {
+        return;
+    }
+    _QuickLook_View->setHidden(movie != nullptr);
+    mMovieView->setHidden(movie == nullptr);
+    if (movie) {
+        mMovieView->setMovie(std::move(movie));
+    } else {
+        Image_Preview(file, file_Name);
+    }
+}
+
+void MyTableController::setQuickLook_View(const QString& file) {
+    setQuickLook_View_File(file, lastComponent(file));
+}
+
+void MyTableController::Image_Preview(const QString& file, const QString& file_Name) {
+    if (file.isEmpty()) {
+        return;
+    }
+    const auto picture = std::make_shared<QImage>();
+    if (m_parts.picture && QFileInfo(file).isFile()) {
+        runBeside([read = m_parts.picture, file, picture] { *picture = read(file, kPreviewSize); });
+    }
+    if (m_ending) {
+        return;
+    }
+    if (!picture->isNull()) {
+        showPicture(QPixmap::fromImage(framedAsDocument(*picture, kPreviewSize)), file_Name);
+        return;
+    }
+    const QString extension = pathExtension(file);
+    QPixmap icon = iconForFileType(extension).pixmap(kPreviewSize);
+    // The desktop's icons may end at a smaller size.
+    if (!icon.isNull() && icon.size() != kPreviewSize) {
+        icon = icon.scaled(kPreviewSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    }
+    showPicture(icon, file_Name);
+}
+
+void MyTableController::showPicture(const QPixmap& picture, const QString& title) {
+    _QuickLook_View_Box->setTitle(title);
+    _QuickLook_View->setPixmap(picture);
+    _QuickLook_View->setAccessibleName(tr("Preview of %1").arg(title));
+}
+
+}  // namespace vantor

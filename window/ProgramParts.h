@@ -1,0 +1,38 @@
+// What the window is given from outside: the real things in the program, scripted ones in the tests.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <functional>
+#include <memory>
+
+#include "media/MediaSource.h"
+#include "saving/FreeSpace.h"
+#include "scan/ScanSession.h"
+#include "window/preview/FilePreviewer.h"
+#include "window/preview/Movie.h"
+
+namespace vantor {
+
+struct ProgramParts {
+    std::shared_ptr<MediaSource> media;
+    MediumOpener openMedium;
+    // To examine found items while others read the medium; none: nothing is examined.
+    MediumOpener openBeside;
+    Thumbnailer thumbnailer;
+    PicturePreviewer picture;  // none: every preview is an icon
+    MovieLoader movie;         // none: every preview is a picture
+    MovieLoader sound;         // what sounds of a file that is shown as a picture; none: nothing does
+    QString resourcesFolder;
+
+    // True when files written into the folder would land on the medium behind "/dev/r" + identifier.
+    std::function<bool(const QString& folder, const QString& devicePath)> isOnMedium;
+    // Bytes that may still be written into the folder; nothing when that is not known.
+    std::function<std::optional<std::uint64_t>(const QString& folder)> freeBytes = freeBytesAt;
+    // Shows a document or a folder in its default application.
+    std::function<bool(const QString& path)> openDocument;
+    // Ends the program.
+    std::function<void()> terminate;
+};
+
+}  // namespace vantor

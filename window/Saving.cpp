@@ -1,0 +1,76 @@
+// Saving from both results screens: what is asked before the desk does it.
+#include <numeric>
+
+#include "results/RecoveryMode.h"
+#include "window/MyTableController.h"
+#include "window/widgets/Alerts.h"
+
+namespace vantor {
+
+SavingParts MyTableController::savingParts() {
+    SavingParts parts;
+    parts.window = window;
+    parts.itemAt = [this](std::size_t index) { return itemAt(index); };
+    parts.medium = [this] {
+        return [open = m_parts.openMedium, device = devicePath()] { return open ? open(device) : nullptr; };
+    };
+    parts.freeBytes = m_parts.freeBytes;
+    parts.placeholder = [this] { return Null_Image_Data; };
+    parts.reportHead = [this] { return reportHead(); };
+    parts.examined = [this](std::size_t index, const Soundness& found) { m_looks->note(index, found); };
+    parts.openFolder = [this] { openDestination(); };
+    parts.ending = [this] { return m_ending; };
+    return parts;
+}
+
+bool MyTableController::hasUnsavedItems() const {
+    return itemCount() > m_desk->marks().settled();
+}
+
+void MyTableController::saveSelected() {
+    saveItems(browserOf(activeSet())->selectionIndexes());
+}
+
+void MyTableController::saveAll() {
+    QList<qsizetype> all(static_cast<qsizetype>(itemCount()));
+    std::iota(all.begin(), all.end(), 0);
+    saveItems(all);
+}
+
+void MyTableController::askSavingOptions() {
+    if (m_panels->savingOptions.ask(m_desk->choices())) {
+        showItemCounts();
+    }
+}
+
+void MyTableController::saveItems(const QList<qsizetype>& indexes) {
+    if (indexes.isEmpty() || session) {
+        return;
+    }
+    if (m_desk->isRunning()) {
+        runAlert(
+            {QStringLiteral("\n") + tr("The storage medium does not answer."),
+             tr("It still holds up the saving that you cancelled. Take the medium out and put it back in, "
+                "then try again.")},
+            window);
+        return;
+    }
+    const QString destination = pathInView()->text().isEmpty() ? askDestination() : pathInView()->text();
+    if (destination.isEmpty() || !acceptDestination(destination)) {
+        return;
+    }
+    m_desk->save(indexes, destination);
+}
+
+ReportHead MyTableController::reportHead() const {
+    ReportHead head;
+    const QString name = (Recovery_MODE == kPhotoMode ? _vol_name_val : _vol_name_val_Sig)->text();
+    head.medium = QStringLiteral("%1 (%2)").arg(name, _disk_identifier->text());
+    head.sectors = _sectors_val->text().toULongLong();
+    head.mode = wordsForMode(Recovery_MODE);
+    head.begun = m_scanBegun;
+    head.searchEnded = !scanRunning() && lastOutcome() == PassOutcome::Completed;
+    return head;
+}
+
+}  // namespace vantor

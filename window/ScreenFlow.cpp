@@ -1,0 +1,284 @@
+// The wizard: what Next, Back and the mode radios do on each screen.
+#include <QScrollBar>
+
+#include "catalogue/FileTypeList.h"
+#include "results/RecoveryMode.h"
+#include "window/MyTableController.h"
+#include "window/widgets/Alerts.h"
+
+namespace vantor {
+
+namespace {
+
+const QString kMediaHelp = QStringLiteral(
+    "\nSelect the storage media from List from which you want to recover Data. Press ‘Next’ button to "
+    "continue... ");
+const QString kFileTypeHelp = QStringLiteral(
+    "\nPlease select the required extension type for recovery process. Press ‘Next’ button to continue... ");
+
+constexpr float kPhotoZoom = 0.55F;
+constexpr float kRawZoom = 0.05F;
+
+QString searchType(int mode) {
+    switch (mode) {
+        case kVideoMode:
+            return QStringLiteral("Search Type : Recover Video");
+        case kRawFileMode:
+            return QStringLiteral("Search Type : Recover Raw File");
+        default:
+            return QStringLiteral("Search Type : Recover Photo");
+    }
+}
+
+}  // namespace
+
+ControlSet MyTableController::activeSet() const {
+    return Recovery_MODE == kPhotoMode ? ControlSet::Photo : ControlSet::Sig;
+}
+
+RangePanel& MyTableController::activeRange() {
+    return rangeOf(activeSet());
+}
+
+void MyTableController::Photo_Mode_Radio(QObject*) {
+    setMode(kPhotoMode);
+}
+
+void MyTableController::Video_Mode_Radio(QObject*) {
+    setMode(kVideoMode);
+}
+
+void MyTableController::RawFile_Mode_Radio(QObject*) {
+    setMode(kRawFileMode);
+}
+
+void MyTableController::setMode(int mode) {
+    Recovery_MODE = mode;
+    _rec_mode_Photo->setChecked(mode == kPhotoMode);
+    _rec_mode_Video->setChecked(mode == kVideoMode);
+    _rec_mode_RawFile->setChecked(mode == kRawFileMode);
+    showWhereWeAre();
+}
+
+void MyTableController::Next_btn(QObject*) {
+    switch (screen_counter) {
+        case 0:
+            nextFromMedia();
+            break;
+        case 1:
+            nextFromRange();
+            break;
+        case 2:
+            if (Recovery_MODE != kPhotoMode) {
+                nextFromFileTypes();
+            }
+            break;
+        default:
+            break;
+    }
+    showWhereWeAre();
+}
+
+void MyTableController::nextFromMedia() {
+    const QModelIndexList selected = idTableView->selectionModel()->selectedRows();
+    if (selected.isEmpty()) {
+        runAlert({QStringLiteral("\nPlease select a storage media from list.")}, window);
+        return;
+    }
+    const std::shared_ptr<MyDataObject> medium = nsMutaryOfDataObject.at(selected.constFirst().row());
+    screen_counter = 1;
+    activeRange().fill(*medium);
+    showEntireDiskHelp();
+    if (Recovery_MODE == kPhotoMode) {
+        _Thro_Mode_Chk->setChecked(true);
+    }
+    _Search_Type->setText(searchType(Recovery_MODE));
+    _Search_Type->show();
+    backButton->setEnabled(true);
+    show_hide_1_screen(true);
+    show_hide_2_screen(false);
+    activeRange().outlets().entireDisk->setFocus();
+}
+
+void MyTableController::nextFromRange() {
+    RangePanel& range = activeRange();
+    if (const auto refusal = range.refusal()) {
+        runAlert({refusal->message, refusal->informative}, window);
+        range.field(refusal->field)->setFocus();
+        range.field(refusal->field)->selectAll();
+        return;
+    }
+    if (Recovery_MODE == kPhotoMode && !mayBeginScan()) {
+        return;
+    }
+    screen_counter = 2;
+    _Thro_Mode_Chk_SIG->setChecked(true);
+    _select_unselect_Chk->setCheckState(Qt::Checked);
+    show_hide_2_screen(true);
+    stop_now = 0;
+    if (Recovery_MODE == kPhotoMode) {
+        show_hide_3_screen_Photo(false);
+        _stop_scan->setFocus();
+        startScan(&ScanSession::Photo_Rec_Thread);
+        return;
+    }
+    buildFileTypeList();
+    showFileTypeHelp();
+    show_hide_3_screen_RawFile(false);
+    typeSearchField->clear();
+    buildGroupBoxes();
+    idCheckTableView->setFocus();
+}
+
+void MyTableController::nextFromFileTypes() {
+    // Asked before the catalogues are cut, so that who stays finds all types as they were.
+    if (Check_For_One_Extension_Selection() && !mayBeginScan()) {
+        return;
+    }
+    cutCataloguesToTickedTypes();
+    if (!Check_For_One_Extension_Selection()) {
+        runAlert({kNoTypeChosen}, window);
+        idCheckTableView->setFocus();
+        return;
+    }
+    screen_counter = 3;
+    show_hide_3_screen_RawFile(true);
+    show_hide_4_screen_RawFile(false);
+    _stop_scan->setFocus();
+    startScan(&ScanSession::Raw_File_Rec_Thread);
+}
+
+void MyTableController::Back_btn(QObject*) {
+    if (hasUnsavedItems() && !mayLeaveUnsaved(tr("When you go back, the list of found items is emptied."),
+                                              tr("Go Back Without Saving"))) {
+        return;
+    }
+    switch (screen_counter) {
+        case 1:
+            backToMedia();
+            break;
+        case 2:
+            backToRange();
+            break;
+        case 3:
+            backToFileTypes();
+            break;
+        default:
+            break;
+    }
+    showWhereWeAre();
+}
+
+void MyTableController::backToMedia() {
+    screen_counter = 0;
+    _Search_Type->hide();
+    showMediaHelp();
+    _sectors_val->setText(kNoFact);
+    _disk_identifier->setText(kNoFact);
+    for (const auto& range : m_range) {
+        range->clear();
+    }
+    backButton->setEnabled(false);
+    // Hidden first: two screens in view at a time would make a small window grow.
+    show_hide_2_screen(true);
+    show_hide_1_screen(false);
+    if (itemCount() > 0) {
+        emptyBrowsers();  // they are of the medium that is left
+    }
+    setMode(kPhotoMode);
+    Reload_Drive_list_Function();
+    idTableView->setFocus();
+}
+
+void MyTableController::backToRange() {
+    screen_counter = 1;
+    showRangeHelp();
+    emptyBrowsers();
+    zoomLabel->hide();
+    _zoom_slider->hide();
+    if (Recovery_MODE == kPhotoMode) {
+        show_hide_3_screen_Photo(true);
+    } else {
+        show_hide_3_screen_RawFile(true);
+    }
+    show_hide_2_screen(false);
+    hideOpenFolderButtons();
+    stop_now = 0;
+}
+
+void MyTableController::backToFileTypes() {
+    screen_counter = 2;
+    clearItems();
+    imageBrowser_2->setZoomValue(kRawZoom);
+    imageBrowser_2->reloadData();
+    hideOpenFolderButtons();
+    showFileTypeHelp();
+    show_hide_4_screen_RawFile(true);
+    show_hide_3_screen_RawFile(false);
+    stop_now = 0;
+    m_desk->forget();
+    m_looks->end();
+    idCheckTableView->setFocus();
+}
+
+void MyTableController::showMediaHelp() {
+    _help_info->setText(kMediaHelp);
+}
+
+void MyTableController::showRangeHelp() {
+    const RangePanel& range = activeRange();
+    if (range.entireDiskOn()) {
+        showEntireDiskHelp();
+    } else if (range.sectorRangeOn()) {
+        showSectorRangeHelp();
+    }
+}
+
+void MyTableController::showFileTypeHelp() {
+    _help_info->setText(kFileTypeHelp);
+}
+
+// The items go, and the browsers stand as at the start.
+void MyTableController::emptyBrowsers() {
+    clearItems();
+    m_desk->forget();
+    m_looks->end();
+    emptyBrowserViews();
+    showItemCounts();
+}
+
+void MyTableController::emptyBrowserViews() {
+    _zoom_slider->setValue(_zoom_slider->maximum() / 2);
+    imageBrowser->setZoomValue(kPhotoZoom);
+    imageBrowser_2->setZoomValue(kRawZoom);
+    imageBrowser->reloadData();
+    imageBrowser_2->reloadData();
+}
+
+// The step trail and the line that names search and medium.
+void MyTableController::showWhereWeAre() {
+    const bool photo = Recovery_MODE == kPhotoMode;
+    QStringList steps = {tr("Medium"), tr("Range"), tr("File types"), tr("Recover")};
+    if (photo) {
+        steps.removeAt(2);
+    }
+    stepTrail->setSteps(steps, screen_counter);
+    contextBar->setVisible(screen_counter > 0);
+    showLeftItemsBar();
+    bodyScroll->verticalScrollBar()->setValue(0);
+    // Once the new screen is laid out.
+    QTimer::singleShot(0, this, [this] {
+        if (window->focusWidget() != nullptr && body->isAncestorOf(window->focusWidget())) {
+            bringIntoView(window->focusWidget());
+        }
+    });
+}
+
+// Lists have scroll bars of their own and stay where they are.
+void MyTableController::bringIntoView(QWidget* widget) {
+    if (qobject_cast<QAbstractItemView*>(widget) == nullptr) {
+        bodyScroll->ensureWidgetVisible(widget);
+    }
+}
+
+}  // namespace vantor

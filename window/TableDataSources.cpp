@@ -1,0 +1,96 @@
+// One set of data-source operations serves the three tables.
+
+#include "media/MyDataObject.h"
+#include "window/MyTableController.h"
+#include "window/PlatformException.h"
+
+namespace vantor {
+
+namespace {
+
+QVariant mediumCell(const MyDataObject& medium, const QString& column) {
+    if (column == u"Collumn1") {
+        return medium.nsStrDiskIdentifier;
+    }
+    if (column == u"Collumn2") {
+        return medium.nsStrVolName;
+    }
+    if (column == u"Collumn3") {
+        return medium.nsStrFileSystem;
+    }
+    if (column == u"Collumn4") {
+        return medium.nsStrSize;
+    }
+    if (column == u"Collumn5") {
+        return medium.nsStrParentDisk;
+    }
+    if (column == u"Collumn6") {
+        return medium.nsStrSectors;
+    }
+    return {};
+}
+
+template <class List>
+const auto& rowAt(const List& rows, qsizetype row) {
+    if (row < 0 || row >= rows.size()) {
+        throw PlatformException("index beyond the array");
+    }
+    return rows.at(row);
+}
+
+}  // namespace
+
+qsizetype MyTableController::numberOfRowsInTableView(const QTableView* table) {
+    if (table == idTableView) {
+        return nsMutaryOfDataObject.size();
+    }
+    if (table == idCheckTableView) {
+        return nsCheckedListDataObject.size();
+    }
+    if (table == idSigTableView) {
+        const std::lock_guard lock(listLock());
+        return nsSIGFileInfoDataObject.size();
+    }
+    return 0;
+}
+
+QVariant MyTableController::tableView(const QTableView* table, const QString& objectValueForTableColumn,
+                                      qsizetype row) {
+    try {
+        if (table == idTableView) {
+            const auto& medium = rowAt(nsMutaryOfDataObject, row);
+            return medium ? mediumCell(*medium, objectValueForTableColumn) : QVariant();
+        }
+        if (table == idCheckTableView) {
+            return rowAt(nsCheckedListDataObject, row).value(objectValueForTableColumn);
+        }
+        if (table == idSigTableView) {
+            const std::lock_guard lock(listLock());
+            assertParameter(row >= 0 && row < nsSIGFileInfoDataObject.size(),
+                            "pRowIndex >= 0 && pRowIndex < [nsSIGFileInfoDataObject count]");
+            const ResultRow& found = std::as_const(nsSIGFileInfoDataObject).at(row);
+            return found.contains(objectValueForTableColumn)
+                       ? QVariant(found.value(objectValueForTableColumn))
+                       : QVariant();
+        }
+    } catch (const PlatformException&) {
+        // A row that is gone meanwhile shows nothing.
+    }
+    return {};
+}
+
+void MyTableController::tableView(const QTableView* table, const QVariant& setObjectValue,
+                                  const QString& forTableColumn, qsizetype row) {
+    if (table != idCheckTableView) {
+        return;
+    }
+    try {
+        assertParameter(row >= 0 && row < nsCheckedListDataObject.size(),
+                        "pRowIndex >= 0 && pRowIndex < [nsCheckedListDataObject count]");
+        nsCheckedListDataObject[row][forTableColumn] = setObjectValue;
+    } catch (const PlatformException&) {
+        // The edit of a row that is gone is dropped.
+    }
+}
+
+}  // namespace vantor

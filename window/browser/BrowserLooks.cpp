@@ -1,0 +1,150 @@
+// What the browsers show of the found items and in which order, and who finds out how sound they are.
+#include "window/browser/BrowserLooks.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QSignalBlocker>
+
+#include "results/MyImageObject.h"
+#include "results/RecoveryMode.h"
+#include "window/browser/ImageBrowserView.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr int kLookMilliseconds = 150;
+constexpr qint64 kReorderMilliseconds = 500;
+constexpr int kListMargins = 24;
+
+}  // namespace
+
+BrowserLooks::BrowserLooks(const std::array<BrowserScreen, 2>& screens, LookedAtItems items)
+    : m_screens(screens), m_items(std::move(items)), m_board(m_items.at) {
+    fillBoxes();
+    m_look.setInterval(kLookMilliseconds);
+    connect(&m_look, &QTimer::timeout, this, &BrowserLooks::look);
+}
+
+const BrowserScreen& BrowserLooks::screen() const {
+    return m_screens[Recovery_MODE == kPhotoMode ? 0 : 1];
+}
+
+void BrowserLooks::fillBoxes() {
+    const std::pair<QString, ShowItems> shows[] = {
+        {tr("All items"), ShowItems::All},
+        {tr("Complete"), ShowItems::Complete},
+        {tr("Cut off or damaged"), ShowItems::Broken},
+        {tr("Of unknown length"), ShowItems::UnknownLength},
+        {tr("With unreadable sectors"), ShowItems::Unreadable},
+        {tr("Not saved yet"), ShowItems::NotSaved},
+        {tr("Without small ones"), ShowItems::NotSmall},
+        {tr("Without false finds"), ShowItems::OfItsType},
+    };
+    const std::pair<QString, SortItems> sorts[] = {
+        {tr("As found"), SortItems::AsFound},
+        {tr("By soundness"), SortItems::Soundness},
+        {tr("By size"), SortItems::Size},
+        {tr("By date taken"), SortItems::DateTaken},
+    };
+    for (const BrowserScreen& screen : m_screens) {
+        for (const auto& [text, value] : shows) {
+            screen.show->addItem(text, static_cast<int>(value));
+        }
+        for (const auto& [text, value] : sorts) {
+            screen.sort->addItem(text, static_cast<int>(value));
+        }
+        for (QComboBox* box : {screen.show, screen.sort}) {
+            box->view()->setAccessibleName(box->accessibleName());
+            // A narrow box has a list that can be read.
+            box->view()->setMinimumWidth(box->view()->sizeHintForColumn(0) + kListMargins);
+            connect(box, &QComboBox::currentIndexChanged, this, &BrowserLooks::choose);
+        }
+    }
+}
+
+// Nothing of the last list is known any more.
+void BrowserLooks::begin(SoundnessBoard::Open open) {
+    m_wish = {};
+    for (const BrowserScreen& screen : m_screens) {
+        for (QComboBox* box : {screen.show, screen.sort}) {
+            const QSignalBlocker quiet(box);
+            box->setCurrentIndex(0);
+        }
+        screen.browser->setOrder(std::nullopt);
+    }
+    m_board.begin(std::move(open));
+    m_look.start();
+}
+
+void BrowserLooks::end() {
+    m_look.stop();
+    m_board.begin({});
+}
+
+void BrowserLooks::shutDown() {
+    m_look.stop();
+    m_board.requestEnd();
+}
+
+ItemFacts BrowserLooks::factsOf(std::size_t index) const {
+    const auto item = m_items.at(index);
+    return {m_board.find(index), item && item->carved().readFailed, m_items.isSaved(index)};
+}
+
+// A few times a second while found items are in view.
+void BrowserLooks::look() {
+    ImageBrowserView* browser = screen().browser;
+    m_board.setMediumBusy(m_items.mediumBusy());
+    m_board.want(browser->indexesInView());
+    m_board.wantAll(m_wish.needsSoundness() ? m_items.count() : 0);
+    const std::uint64_t changes = m_board.changes();
+    if (changes == m_seenChanges && static_cast<int>(m_items.count()) == m_orderedCount) {
+        return;
+    }
+    browser->viewport()->update();
+    if (m_wish.isPlain() || !m_sinceOrder.isValid() || m_sinceOrder.elapsed() > kReorderMilliseconds) {
+        m_seenChanges = changes;
+        putInOrder();
+    }
+}
+
+// The user chose what to show.
+void BrowserLooks::choose() {
+    m_wish.show = static_cast<ShowItems>(screen().show->currentData().toInt());
+    m_wish.sort = static_cast<SortItems>(screen().sort->currentData().toInt());
+    const SavePolicy policy = m_items.policy();
+    m_wish.smallPixels = policy.minPixels != 0 ? policy.minPixels : kSmallPixels;
+    m_wish.smallBytes = policy.minBytes != 0 ? policy.minBytes : kSmallBytes;
+    putInOrder();
+    look();
+}
+
+void BrowserLooks::putInOrder() {
+    ImageBrowserView* browser = screen().browser;
+    m_orderedCount = static_cast<int>(m_items.count());
+    m_sinceOrder.start();
+    if (m_wish.isPlain()) {
+        browser->setOrder(std::nullopt);
+    } else {
+        const auto known = m_board.all();
+        browser->reloadData();
+        browser->setOrder(browserOrder(m_orderedCount, m_wish, [&](int index) {
+            const auto at = static_cast<std::size_t>(index);
+            ItemFacts facts;
+            if (at < known.size()) {
+                facts.soundness = known[at];
+            }
+            if (m_wish.show == ShowItems::Unreadable) {
+                const auto item = m_items.at(at);
+                facts.readFailed = item && item->carved().readFailed;
+            } else if (m_wish.show == ShowItems::NotSaved) {
+                facts.saved = m_items.isSaved(at);
+            }
+            return facts;
+        }));
+    }
+    emit changed();
+}
+
+}  // namespace vantor

@@ -1,0 +1,79 @@
+// What the browsers show of the found items and in which order, and who finds out how sound they are.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
+#include <array>
+#include <functional>
+
+#include "results/BrowserOrder.h"
+#include "results/SoundnessBoard.h"
+#include "saving/SavePolicy.h"
+
+class QComboBox;
+
+namespace vantor {
+
+class ImageBrowserView;
+
+// A browser with the boxes in which the user chooses.
+struct BrowserScreen {
+    ImageBrowserView* browser = nullptr;
+    QComboBox* show = nullptr;
+    QComboBox* sort = nullptr;
+};
+
+// Who knows the items; all are asked on the interface thread but the first, which any thread may ask.
+struct LookedAtItems {
+    SoundnessBoard::ItemAt at;
+    std::function<std::size_t()> count;
+    std::function<bool(std::size_t)> isSaved;
+    std::function<bool()> mediumBusy;    // somebody else reads it
+    std::function<SavePolicy()> policy;  // says what counts as small
+};
+
+// Lives on the interface thread. The screens are that of photo mode and that of the other modes, of which the
+// one of the mode of the moment is looked at.
+class BrowserLooks : public QObject {
+    Q_OBJECT
+
+  public:
+    BrowserLooks(const std::array<BrowserScreen, 2>& screens, LookedAtItems items);
+
+    // The list begins anew, on the medium that `open` opens; without it nothing is examined.
+    void begin(SoundnessBoard::Open open);
+    // The items are gone.
+    void end();
+    // Nothing is looked at any more; the board ends when its medium answers.
+    void shutDown();
+    bool hasEnded() const { return m_board.hasEnded(); }
+
+    ItemFacts factsOf(std::size_t index) const;
+    // What saving found out.
+    void note(std::size_t index, const Soundness& soundness) { m_board.note(index, soundness); }
+    // All items, in the order in which they were found.
+    bool isPlain() const { return m_wish.isPlain(); }
+
+  signals:
+    // Other items are shown, or others are selected.
+    void changed();
+
+  private:
+    const BrowserScreen& screen() const;
+    void fillBoxes();
+    void look();
+    void choose();
+    void putInOrder();
+
+    const std::array<BrowserScreen, 2> m_screens;
+    const LookedAtItems m_items;
+    BrowserWish m_wish;
+    SoundnessBoard m_board;
+    QTimer m_look;
+    QElapsedTimer m_sinceOrder;
+    std::uint64_t m_seenChanges = 0;
+    int m_orderedCount = 0;
+};
+
+}  // namespace vantor

@@ -1,0 +1,183 @@
+// Set-up, zoom and selection of the browsers.
+#include "window/browser/ImageBrowserView.h"
+
+#include <QScrollBar>
+#include <algorithm>
+
+#include "window/browser/ImageBrowserModel.h"
+#include "window/browser/ImageCell.h"
+#include "window/widgets/EmptyState.h"
+
+namespace vantor {
+
+namespace {
+
+// Edge of the picture in a cell, in pixels, at zoom 0 and 1.
+constexpr int kSmallestPicture = 24;
+constexpr int kLargestPicture = 208;
+
+}  // namespace
+
+ImageBrowserView::ImageBrowserView(QWidget* parent)
+    : QListView(parent), m_model(new ImageBrowserModel(this)) {
+    setViewMode(IconMode);
+    setMovement(Static);
+    setResizeMode(Adjust);
+    setUniformItemSizes(true);
+    setSelectionMode(ExtendedSelection);
+    setDragEnabled(false);
+    setVerticalScrollMode(ScrollPerPixel);
+    setWordWrap(false);
+    setItemDelegate(new ImageCell(this));
+    setModel(m_model);
+    setZoomValue(0);
+}
+
+void ImageBrowserView::setDataSource(ImageBrowserDataSource* source) {
+    m_model->setDataSource(source);
+}
+
+void ImageBrowserView::reloadData() {
+    m_model->reloadData();
+    describeState();
+    viewport()->update();
+}
+
+void ImageBrowserView::setZoomValue(float zoom) {
+    m_zoom = zoom;
+    const float bounded = std::clamp(zoom, 0.0F, 1.0F);
+    const int edge =
+        kSmallestPicture + static_cast<int>(bounded * (kLargestPicture - kSmallestPicture) + 0.5F);
+    setIconSize({edge, edge});
+    setGridSize(ImageCell::cellSize(edge, font()));
+}
+
+void ImageBrowserView::scrollIndexToVisible(qsizetype index) {
+    const int row = m_model->rowOfIndex(static_cast<int>(index));
+    if (row >= 0) {
+        scrollTo(m_model->index(row));
+    }
+}
+
+QList<qsizetype> ImageBrowserView::selectionIndexes() const {
+    QList<qsizetype> rows;
+    for (const QItemSelectionRange& range : selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            rows.append(m_model->indexOfRow(row));
+        }
+    }
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+qsizetype ImageBrowserView::selectedCount() const {
+    qsizetype count = 0;
+    for (const QItemSelectionRange& range : selectionModel()->selection()) {
+        count += range.height();
+    }
+    return count;
+}
+
+// As few ranges as there can be: whatever works on a selection takes its time range by range.
+QItemSelection ImageBrowserView::rangesOf(const QList<qsizetype>& indexes) const {
+    std::vector<int> rows;
+    rows.reserve(static_cast<std::size_t>(indexes.size()));
+    for (const qsizetype index : indexes) {
+        if (const int row = m_model->rowOfIndex(static_cast<int>(index)); row >= 0) {
+            rows.push_back(row);
+        }
+    }
+    std::sort(rows.begin(), rows.end());
+    QItemSelection ranges;
+    for (std::size_t from = 0, to = 0; from < rows.size(); from = to) {
+        for (to = from + 1; to < rows.size() && rows[to] == rows[to - 1] + 1; ++to) {
+        }
+        ranges.append(QItemSelectionRange(m_model->index(rows[from]), m_model->index(rows[to - 1])));
+    }
+    return ranges;
+}
+
+void ImageBrowserView::setOrder(std::optional<QList<int>> order) {
+    if (!order && !m_model->hasOrder()) {
+        return;
+    }
+    const QList<qsizetype> selected = selectionIndexes();
+    const int current = currentIndex().isValid() ? m_model->indexOfRow(currentIndex().row()) : -1;
+    const int scrolled = verticalScrollBar()->value();
+    // Quietly, and first: to compare what was selected with what will be takes long.
+    selectionModel()->reset();
+    m_model->setOrder(std::move(order));
+    selectionModel()->select(rangesOf(selected), QItemSelectionModel::Select);
+    viewport()->update();
+    if (const int row = current >= 0 ? m_model->rowOfIndex(current) : -1; row >= 0) {
+        selectionModel()->setCurrentIndex(m_model->index(row), QItemSelectionModel::NoUpdate);
+    }
+    verticalScrollBar()->setValue(scrolled);
+    emit selectionDidChange();
+}
+
+// Cells stand in a grid, so the first and the last in view tell the rest.
+std::vector<std::size_t> ImageBrowserView::indexesInView() const {
+    const int rows = m_model->rowCount();
+    const QSize cell = gridSize();
+    if (rows == 0 || cell.isEmpty() || !isVisible()) {
+        return {};
+    }
+    const int columns = std::max(1, viewport()->width() / cell.width());
+    const int firstLine = std::max(0, verticalOffset() / cell.height());
+    const int lines = viewport()->height() / cell.height() + 2;
+    const int first = std::min(rows, firstLine * columns);
+    const int end = std::min(rows, first + lines * columns);
+    std::vector<std::size_t> indexes;
+    for (int row = first; row < end; ++row) {
+        indexes.push_back(static_cast<std::size_t>(m_model->indexOfRow(row)));
+    }
+    return indexes;
+}
+
+int ImageBrowserView::shownCount() const {
+    return m_model->rowCount();
+}
+
+std::shared_ptr<MyImageObject> ImageBrowserView::itemOfRow(int row) const {
+    return m_model->item(m_model->indexOfRow(row));
+}
+
+ItemFacts ImageBrowserView::factsOfRow(int row) const {
+    return m_model->facts(m_model->indexOfRow(row));
+}
+
+void ImageBrowserView::setEmptyState(const QIcon& picture, const QString& title, const QString& advice) {
+    m_emptyPicture = picture;
+    m_emptyTitle = title;
+    m_emptyAdvice = advice;
+    describeState();
+    viewport()->update();
+}
+
+// The state is read out as long as it lasts, and no longer.
+void ImageBrowserView::describeState() {
+    setAccessibleDescription(m_model->rowCount() == 0 ? m_emptyTitle + u' ' + m_emptyAdvice : QString());
+}
+
+// Keys that move find a place to move from.
+void ImageBrowserView::focusInEvent(QFocusEvent* event) {
+    QListView::focusInEvent(event);
+    if (!currentIndex().isValid() && m_model->rowCount() > 0) {
+        selectionModel()->setCurrentIndex(m_model->index(0, 0), QItemSelectionModel::NoUpdate);
+    }
+}
+
+void ImageBrowserView::paintEvent(QPaintEvent* event) {
+    QListView::paintEvent(event);
+    if (m_model->rowCount() == 0) {
+        paintEmptyState(viewport(), m_emptyPicture, m_emptyTitle, m_emptyAdvice);
+    }
+}
+
+void ImageBrowserView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    QListView::selectionChanged(selected, deselected);
+    emit selectionDidChange();
+}
+
+}  // namespace vantor

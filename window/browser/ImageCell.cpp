@@ -1,0 +1,90 @@
+// Cells keep encoded thumbnails and a small cache of decoded ones, so that a hundred thousand items fit in
+// memory.
+#include "window/browser/ImageCell.h"
+
+#include <QPainter>
+#include <algorithm>
+
+#include "results/MyImageObject.h"
+#include "window/browser/ImageBrowserView.h"
+#include "window/browser/SoundnessBadge.h"
+#include "window/widgets/Theme.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr int kPadding = theme::kUnit;
+constexpr int kNarrowestCell = 136;
+constexpr int kDecodedPictures = 600;
+constexpr qreal kRadius = 6;
+
+}  // namespace
+
+ImageCell::ImageCell(ImageBrowserView* view)
+    : QStyledItemDelegate(nullptr), m_view(view), m_decoded(kDecodedPictures) {
+    setParent(view);
+}
+
+QSize ImageCell::cellSize(int edge, const QFont& font) {
+    const QFontMetrics metrics(font);
+    return {std::max(edge + 2 * kPadding, kNarrowestCell), edge + metrics.height() + 3 * kPadding};
+}
+
+QSize ImageCell::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
+    return cellSize(m_view->iconSize().width(), option.font);
+}
+
+QPixmap ImageCell::decoded(const QByteArray& bytes) const {
+    if (const QPixmap* known = m_decoded.object(bytes)) {
+        return *known;
+    }
+    QPixmap pixmap;
+    pixmap.loadFromData(bytes);
+    m_decoded.insert(bytes, new QPixmap(pixmap));
+    return pixmap;
+}
+
+void ImageCell::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
+    const auto item = m_view->itemOfRow(index.row());
+    if (!item) {
+        return;
+    }
+    painter->save();
+    painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    const QRect cell = option.rect.adjusted(2, 2, -2, -2);
+    const bool selected = (option.state & QStyle::State_Selected) != 0;
+    if (selected || (option.state & QStyle::State_MouseOver) != 0) {
+        painter->setPen(selected ? QPen(theme::kAccent, 1.5) : QPen(theme::kRule, 1));
+        painter->setBrush(theme::kAccentWash);
+        painter->drawRoundedRect(QRectF(cell).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+    }
+    if ((option.state & QStyle::State_HasFocus) != 0) {
+        painter->setPen(QPen(theme::kAccent, 1, Qt::DashLine));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRoundedRect(QRectF(cell).adjusted(3.5, 3.5, -3.5, -3.5), kRadius - 2, kRadius - 2);
+    }
+    const int edge = m_view->iconSize().width();
+    const QRect place(cell.center().x() - edge / 2, cell.top() + kPadding, edge, edge);
+    const QVariant picture = item->imageRepresentation();
+    if (item->imageRepresentationType() == RepresentationType::EncodedData) {
+        const QPixmap pixmap = decoded(picture.toByteArray());
+        if (!pixmap.isNull()) {
+            QRect fitted({}, pixmap.size().scaled(place.size(), Qt::KeepAspectRatio));
+            fitted.moveCenter(place.center());
+            painter->drawPixmap(fitted, pixmap);
+        }
+    } else {
+        picture.value<QIcon>().paint(painter, place);
+    }
+    paintBadges(painter, place, m_view->factsOfRow(index.row()));
+    QRect words = cell.adjusted(4, 0, -4, 0);
+    words.setTop(place.bottom() + kPadding / 2);
+    painter->setFont(option.font);
+    painter->setPen(theme::kInk);
+    const QString title = option.fontMetrics.elidedText(item->imageTitle(), Qt::ElideMiddle, words.width());
+    painter->drawText(words, Qt::AlignHCenter | Qt::AlignTop | Qt::TextSingleLine, title);
+    painter->restore();
+}
+
+}  // namespace vantor

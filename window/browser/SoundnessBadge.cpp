@@ -1,0 +1,119 @@
+// Drawn rather than loaded, so that they are crisp at every zoom.
+#include "window/browser/SoundnessBadge.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+
+#include "window/widgets/Theme.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr int kLargestEdge = 18;
+constexpr int kSmallestEdge = 11;
+
+const QColor kCutOffColor{0xb4, 0x5f, 0x06};
+const QColor kDamagedColor{0xb9, 0x1c, 0x1c};
+
+// Lines within a square of one unit, drawn over the badge.
+QPainterPath polyline(std::initializer_list<QPointF> points) {
+    QPainterPath path(*points.begin());
+    for (const QPointF& point : points) {
+        path.lineTo(point);
+    }
+    return path;
+}
+
+QPainterPath checkMark() {
+    return polyline({{0.27, 0.53}, {0.44, 0.69}, {0.74, 0.34}});
+}
+
+QPainterPath cross() {
+    QPainterPath path = polyline({{0.33, 0.33}, {0.67, 0.67}});
+    path.addPath(polyline({{0.67, 0.33}, {0.33, 0.67}}));
+    return path;
+}
+
+// A line that breaks off.
+QPainterPath brokenLine() {
+    QPainterPath path = polyline({{0.22, 0.5}, {0.52, 0.5}});
+    path.addPath(polyline({{0.64, 0.3}, {0.64, 0.7}}));
+    return path;
+}
+
+QPainterPath questionMark() {
+    QPainterPath path({0.36, 0.38});
+    path.cubicTo({0.36, 0.18}, {0.66, 0.18}, {0.64, 0.4});
+    path.cubicTo({0.63, 0.5}, {0.5, 0.5}, {0.5, 0.6});
+    path.addPath(polyline({{0.5, 0.75}, {0.5, 0.77}}));
+    return path;
+}
+
+QPainterPath exclamationMark() {
+    QPainterPath path = polyline({{0.5, 0.4}, {0.5, 0.62}});
+    path.addPath(polyline({{0.5, 0.77}, {0.5, 0.78}}));
+    return path;
+}
+
+void paintSign(QPainter* painter, const QRectF& box, const QPainterPath& sign) {
+    painter->save();
+    painter->translate(box.topLeft());
+    painter->scale(box.width(), box.height());
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(QPen(Qt::white, 0.12, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->drawPath(sign);
+    painter->restore();
+}
+
+void paintDisc(QPainter* painter, const QRectF& box, const QColor& colour, const QPainterPath& sign) {
+    painter->setPen(QPen(Qt::white, 1.5));
+    painter->setBrush(colour);
+    painter->drawEllipse(box);
+    paintSign(painter, box, sign);
+}
+
+void paintWarning(QPainter* painter, const QRectF& box) {
+    QPainterPath triangle;
+    triangle.addPolygon(QPolygonF{QPointF(box.center().x(), box.top()), box.bottomRight(), box.bottomLeft()});
+    triangle.closeSubpath();
+    painter->setPen(QPen(Qt::white, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->setBrush(kCutOffColor);
+    painter->drawPath(triangle);
+    paintSign(painter, box, exclamationMark());
+}
+
+}  // namespace
+
+void paintBadges(QPainter* painter, const QRect& place, const ItemFacts& facts) {
+    const int edge = std::clamp(place.width() / 4, kSmallestEdge, kLargestEdge);
+    const QRectF corner(place.right() - edge + 2, place.bottom() - edge + 2, edge, edge);
+    const auto& soundness = facts.soundness;
+    if (facts.readFailed || (soundness && soundness->unreadable)) {
+        paintWarning(painter, corner.translated(0, -place.height() + edge));
+    }
+    if (!soundness) {
+        return;
+    }
+    if (soundness->notOfItsType) {
+        paintDisc(painter, corner, kDamagedColor, questionMark());
+        return;
+    }
+    switch (soundness->verdict) {
+        case Verdict::Complete:
+            paintDisc(painter, corner, theme::kDone, checkMark());
+            break;
+        case Verdict::CutOff:
+            paintDisc(painter, corner, kCutOffColor, brokenLine());
+            break;
+        case Verdict::Damaged:
+            paintDisc(painter, corner, kDamagedColor, cross());
+            break;
+        case Verdict::Unknown:
+            paintDisc(painter, corner, theme::kQuietInk, questionMark());
+            break;
+    }
+}
+
+}  // namespace vantor

@@ -1,0 +1,102 @@
+// The program with its window.
+#include <QApplication>
+#include <QDesktopServices>
+#include <QScreen>
+#include <QUrl>
+#include <atomic>
+#include <cstdlib>
+
+#include "catalogue/ResourcesFolder.h"
+#include "decode/DecodePool.h"
+#include "media/PlatformMedia.h"
+#include "saving/DestinationCheck.h"
+#include "window/MyTableController.h"
+#include "window/ProgramTitle.h"
+#include "window/preview/FilePreviewer.h"
+#include "window/preview/SoundMovie.h"
+#include "window/widgets/Theme.h"
+
+namespace {
+
+using namespace vantor;
+
+// How long a device may take to let go when the program ends.
+constexpr std::chrono::milliseconds kLastPatience{500};
+// Frames larger than this are scaled down where they are decoded.
+constexpr QSize kLargestFrame{960, 540};
+
+ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTableController*>>& controller,
+                           const std::shared_ptr<const std::atomic<bool>>& leaving) {
+    ProgramParts parts;
+    parts.media = makePlatformMediaSource();
+    parts.openMedium = makeMediumOpener(*parts.media, [controller] {
+        const MyTableController* const running = controller->load();
+        return running != nullptr && running->stop_now == 1;
+    });
+    // What a scan is told to stop is no word for those who read beside it.
+    parts.openBeside = makeMediumOpener(*parts.media, [leaving] { return leaving->load(); });
+    const auto pool = std::make_shared<DecodePool>();
+    parts.thumbnailer = [pool](const QByteArray& encoded, const QString& extension) {
+        return pool->thumbnail(encoded, extension);
+    };
+    parts.picture = makeFilePreviewer(pool, std::make_shared<const DesktopThumbnailers>());
+    const HelperMovieOptions playing{makeDesktopSoundDevice, {}};
+    parts.sound = [playing](const QString& file) { return SoundMovie::open(file, {}, playing); };
+    parts.movie = [playing](const QString& file) { return openMovieOrSound(file, kLargestFrame, playing); };
+    parts.resourcesFolder = resourcesFolder();
+    parts.isOnMedium = [targets = parts.media->targets()](const QString& folder, const QString& devicePath) {
+        const auto target = targets->find(devicePath.mid(QStringLiteral("/dev/r").size()));
+        return target && destinationIsOnMedium(folder, target->path);
+    };
+    parts.openDocument = [](const QString& path) {
+        return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+    };
+    parts.terminate = [] { QCoreApplication::exit(0); };
+    return parts;
+}
+
+// Small screens get a window that fits; all others the size it was drawn at.
+void fitToScreen(QWidget* window) {
+    const QRect room = window->screen()->availableGeometry();
+    window->resize(window->size().boundedTo(room.size() * 0.96));
+}
+
+// A process lives, and its windows stay, until the last of its threads is back from the device; nobody who
+// has left the program wants to look at them.
+void leaveTheScreen() {
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        window->hide();
+    }
+    QApplication::sync();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("vantor-recovery"));
+    QApplication::setApplicationDisplayName(kProgramTitle);
+    QApplication::setApplicationVersion(QStringLiteral(VANTOR_VERSION));
+    // The desktop finds the window's icon and name by this.
+    QApplication::setDesktopFileName(QStringLiteral("org.vantor.recovery"));
+    // The window is closed by the exit routine alone.
+    QApplication::setQuitOnLastWindowClosed(false);
+    applyTheme(application);
+
+    const auto running = std::make_shared<std::atomic<const MyTableController*>>(nullptr);
+    const auto leaving = std::make_shared<std::atomic<bool>>(false);
+    const auto controller = std::make_unique<MyTableController>(platformParts(running, leaving));
+    running->store(controller.get());
+    fitToScreen(controller->window);
+    controller->awakeFromNib();
+    controller->openImages(QApplication::arguments().mid(1));
+    const int code = QApplication::exec();
+    leaveTheScreen();
+    *leaving = true;
+    if (!controller->shutDown(kLastPatience)) {
+        // A device that does not answer holds a thread; nothing of it is waited for.
+        std::_Exit(code);
+    }
+    running->store(nullptr);
+    return code;
+}

@@ -1,0 +1,57 @@
+// Set-up and actions of the help window.
+#include "window/panels/Help_Support.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QLabel>
+#include <QPushButton>
+
+#include "ui_HelpSupport.h"
+#include "window/widgets/Alerts.h"
+#include "window/widgets/Theme.h"
+
+namespace vantor {
+
+Help_Support::Help_Support(QWidget* parent, const QString& resourcesFolder,
+                           std::function<bool(const QString&)> openDocument)
+    : Panel(parent), m_resourcesFolder(resourcesFolder), m_openDocument(std::move(openDocument)) {
+    Ui::HelpSupport ui;
+    ui.setupUi(window);
+    ui.panelIcon->setPixmap(
+        ownIcon(QStringLiteral("vantor-recovery")).pixmap(6 * theme::kUnit, 6 * theme::kUnit));
+    ui.helpVersion->setText(tr("Version %1").arg(QCoreApplication::applicationVersion()));
+    _Help_File_Label = ui._Help_File_Label;
+    connect(ui.continueButton, &QPushButton::clicked, this,
+            [this, ui] { ContinuePressed(ui.continueButton); });
+    connect(_Help_File_Label, &QPushButton::clicked, this, [this] { HelpFilePressed(_Help_File_Label); });
+    Help_Support::awakeFromNib();
+}
+
+// The button looks and behaves like a link: underlined, blue, bold, with the hand for a cursor.
+void Help_Support::awakeFromNib() {
+    Panel::awakeFromNib();
+    QFont font = _Help_File_Label->font();
+    font.setBold(true);
+    font.setUnderline(true);
+    _Help_File_Label->setFont(font);
+    // A style sheet measures its buttons in the font of before.
+    _Help_File_Label->setMinimumWidth(QFontMetrics(font).horizontalAdvance(_Help_File_Label->text()) +
+                                      theme::kUnit);
+    _Help_File_Label->setCursor(Qt::OpenHandCursor);
+    _Help_File_Label->setProperty("role", QStringLiteral("link"));
+}
+
+void Help_Support::ContinuePressed(QObject*) {
+    stopModalWithCode(1);
+}
+
+void Help_Support::HelpFilePressed(QObject*) {
+    const QString document = m_resourcesFolder + QStringLiteral("/Help.pdf");
+    if (QFileInfo::exists(document)) {
+        m_openDocument(document);
+        return;
+    }
+    Show_MessageBox(QStringLiteral("Help file does not exist!"));
+}
+
+}  // namespace vantor

@@ -1,0 +1,145 @@
+// One job at a time, on a thread of its own, under a sheet.
+#include "window/saving/SavingDesk.h"
+
+#include <map>
+
+#include "results/MyImageObject.h"
+#include "results/SizeForPeople.h"
+#include "saving/SaveJob.h"
+#include "saving/SaveSummary.h"
+#include "window/saving/SavingSheet.h"
+#include "window/widgets/Alerts.h"
+
+namespace vantor {
+
+namespace {
+
+// Types that share a header find the same sectors; they are saved once.
+std::uint64_t bytesNeeded(const std::vector<ChosenItem>& items) {
+    std::map<std::uint64_t, std::uint64_t> sectorsAt;
+    for (const ChosenItem& chosen : items) {
+        const CarvedRun& carved = chosen.item->carved();
+        if (!carved.runs.empty()) {
+            std::uint64_t& most = sectorsAt[carved.runs.front().first];
+            most = std::max(most, carved.sectors());
+        }
+    }
+    std::uint64_t sectors = 0;
+    for (const auto& place : sectorsAt) {
+        sectors += place.second;
+    }
+    return sectors * kSectorBytes;
+}
+
+}  // namespace
+
+SavingDesk::~SavingDesk() {
+    join();
+}
+
+void SavingDesk::join() {
+    if (m_thread.joinable()) {
+        m_thread.join();
+    }
+}
+
+void SavingDesk::save(const QList<qsizetype>& indexes, const QString& destination) {
+    SaveRequest request;
+    for (const qsizetype index : indexes) {
+        const auto at = static_cast<std::size_t>(index);
+        if (auto item = m_parts.itemAt(at)) {
+            request.items.push_back({at, std::move(item)});
+        }
+    }
+    if (!mayFill(destination, bytesNeeded(request.items))) {
+        return;
+    }
+    request.saver = saverFor(destination);
+    request.openMedium = m_parts.medium();
+    request.destination = destination;
+    request.placeholder = m_parts.placeholder();
+    if (m_choices.report) {
+        request.report = m_parts.reportHead();
+    }
+    const auto job = std::make_shared<SaveJob>(std::move(request));
+    if (watch(job)) {
+        tell(*job, destination);
+    }
+}
+
+void SavingDesk::forget() {
+    m_marks.clear();
+    m_saver.reset();
+}
+
+// One saver as long as it writes the same way into the same folder, so that what was saved before is known.
+std::shared_ptr<const ItemSaver> SavingDesk::saverFor(const QString& destination) {
+    if (!m_saver || m_saverDestination != destination || m_saverPolicy != m_choices.policy) {
+        m_saver = std::make_shared<const ItemSaver>(destination, m_choices.policy);
+        m_saverDestination = destination;
+        m_saverPolicy = m_choices.policy;
+    }
+    return m_saver;
+}
+
+// The need is that of the items as they were found; a file may turn out longer or shorter.
+bool SavingDesk::mayFill(const QString& destination, std::uint64_t bytes) const {
+    const auto free = m_parts.freeBytes ? m_parts.freeBytes(destination) : std::nullopt;
+    if (!free || *free >= bytes) {
+        return true;
+    }
+    return runAlert(
+               {QStringLiteral("\n") + tr("There may not be enough room in the destination."),
+                tr("Some %1 are needed and %2 are free in %3. What fits is saved whole; the rest is left "
+                   "out and stays in the list.")
+                    .arg(sizeForPeople(bytes), sizeForPeople(*free), destination),
+                {tr("Save What Fits"), tr("Cancel")},
+                1},
+               m_parts.window) == 0;
+}
+
+// Runs the job beside the window under a sheet; false when the program ends meanwhile or the medium does not
+// answer a cancel.
+bool SavingDesk::watch(const std::shared_ptr<SaveJob>& job) {
+    join();
+    m_running = true;
+    m_thread = std::thread([this, job] {
+        job->run();
+        m_running = false;
+    });
+    SavingSheet(m_parts.window, job).run(m_parts.ending);
+    return job->isFinished() && !m_parts.ending();
+}
+
+void SavingDesk::tell(const SaveJob& job, const QString& destination) {
+    const SaveReport& report = job.report();
+    for (std::size_t i = 0; i < report.items.size(); ++i) {
+        const SaveOutcome& outcome = report.items[i].outcome;
+        m_marks.note(report.indexes[i], outcome);
+        if (const auto soundness = soundnessOf(outcome)) {
+            m_parts.examined(report.indexes[i], *soundness);
+        }
+    }
+    emit marksChanged();
+    if (!report.mediumOpened) {
+        runAlert({QStringLiteral("\n") + tr("Nothing was saved."),
+                  tr("The storage medium cannot be read any more. Put it back in and try again.")},
+                 m_parts.window);
+        return;
+    }
+    const SaveSummary summary{report.tally, destination, job.isCancelled(),
+                              !report.written.html.isEmpty() && report.written.error.isEmpty(),
+                              report.written.error};
+    Alert alert{QStringLiteral("\n") + summaryHeadline(summary), summaryDetails(summary)};
+    const bool somethingThere = report.tally.saved + report.tally.duplicates > 0;
+    if (somethingThere) {
+        alert.buttons = {tr("Open Folder"), QStringLiteral("OK")};
+        alert.defaultButton = 1;
+        alert.picture = report.tally.failed > 0 ? QStringLiteral("info") : QStringLiteral("ok");
+    }
+    if (runAlert(alert, m_parts.window) == 0 && somethingThere) {
+        m_parts.openFolder();
+    }
+}
+
+}  // namespace vantor

@@ -1,0 +1,85 @@
+// Saves found items for the user: says what does not fit, shows how far it is, and tells what came of it.
+#pragma once
+
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <thread>
+
+#include "results/Soundness.h"
+#include "saving/RecoveryReport.h"
+#include "saving/SavedMarks.h"
+#include "window/saving/SavingOptions.h"
+
+class QWidget;
+
+namespace vantor {
+
+class MyImageObject;
+class SaveJob;
+struct SaveRequest;
+
+// What saving needs of the program around it; everything is called on the interface thread.
+struct SavingParts {
+    QWidget* window = nullptr;  // the alerts and the sheet are over it
+    std::function<std::shared_ptr<MyImageObject>(std::size_t)> itemAt;
+    // Gives what opens the medium of the moment, which is called on the thread of the job.
+    std::function<std::function<std::unique_ptr<SectorReader>()>()> medium;
+    std::function<std::optional<std::uint64_t>(const QString& folder)> freeBytes;
+    std::function<QByteArray()> placeholder;  // the picture of items without a thumbnail
+    std::function<ReportHead()> reportHead;
+    std::function<void(std::size_t, const Soundness&)> examined;  // found out while an item was saved
+    std::function<void()> openFolder;
+    std::function<bool()> ending;  // the program ends: nothing is waited for
+};
+
+// Interface thread.
+class SavingDesk : public QObject {
+    Q_OBJECT
+
+  public:
+    explicit SavingDesk(SavingParts parts) : m_parts(std::move(parts)) {}
+    ~SavingDesk() override;
+
+    // Items by their places in the list. Returns when they are saved or the user cancelled.
+    void save(const QList<qsizetype>& indexes, const QString& destination);
+
+    // After a cancel a medium that does not answer may hold a job up; nothing is saved meanwhile.
+    bool isRunning() const { return m_running; }
+    // Waits for the last job.
+    void join();
+
+    // The items are no longer the ones that are listed.
+    void forget();
+    const SavedMarks& marks() const { return m_marks; }
+
+    SavingChoices& choices() { return m_choices; }
+    const SavingChoices& choices() const { return m_choices; }
+
+  signals:
+    void marksChanged();
+
+  private:
+    bool mayFill(const QString& destination, std::uint64_t bytes) const;
+    std::shared_ptr<const ItemSaver> saverFor(const QString& destination);
+    bool watch(const std::shared_ptr<SaveJob>& job);
+    void tell(const SaveJob& job, const QString& destination);
+
+    const SavingParts m_parts;
+    SavingChoices m_choices;  // kept while the program runs
+
+    // Set as items are saved; emptied with the items.
+    SavedMarks m_marks;
+    std::shared_ptr<const ItemSaver> m_saver;
+    QString m_saverDestination;
+    SavePolicy m_saverPolicy;
+
+    std::atomic<bool> m_running{false};
+    std::thread m_thread;
+};
+
+}  // namespace vantor

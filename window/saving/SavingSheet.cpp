@@ -1,0 +1,94 @@
+// Polling the job, and the words for what it says.
+#include "window/saving/SavingSheet.h"
+
+#include <QDialog>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QLocale>
+
+#include "saving/SaveJob.h"
+#include "ui_SavingProgress.h"
+#include "window/widgets/Theme.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr int kPollMilliseconds = 20;
+constexpr qint64 kCancelPatience = 1000;  // milliseconds
+constexpr int kBarSteps = 1000;
+
+QString number(std::size_t count) {
+    return QLocale().toString(static_cast<qulonglong>(count));
+}
+
+}  // namespace
+
+SavingSheet::SavingSheet(QWidget* over, std::shared_ptr<SaveJob> job)
+    : m_job(std::move(job)),
+      m_dialog(std::make_unique<QDialog>(over)),
+      m_ui(std::make_unique<Ui::SavingProgress>()) {
+    m_ui->setupUi(m_dialog.get());
+    m_dialog->setWindowModality(Qt::WindowModal);
+    setCommonBackground(m_dialog.get());
+    m_ui->saveBar->setMaximum(kBarSteps);
+    connect(m_ui->cancelButton, &QPushButton::clicked, this, &SavingSheet::cancel);
+    m_dialog->installEventFilter(this);
+    m_meter.begin(m_job->total());
+    m_clock.start();
+    showProgress();
+}
+
+SavingSheet::~SavingSheet() = default;
+
+void SavingSheet::run(const std::function<bool()>& ending) {
+    QEventLoop loop;
+    connect(&m_poll, &QTimer::timeout, &loop, [&] {
+        showProgress();
+        const bool hangs = m_sinceCancel.isValid() && m_sinceCancel.elapsed() > kCancelPatience;
+        if (m_job->isFinished() || hangs || ending()) {
+            loop.quit();
+        }
+    });
+    m_poll.start(kPollMilliseconds);
+    m_dialog->show();
+    loop.exec();
+    m_poll.stop();
+    m_dialog->hide();
+}
+
+// Escape and the close button cancel too; the sheet goes when the job has ended.
+bool SavingSheet::eventFilter(QObject* watched, QEvent* event) {
+    const bool escape =
+        event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
+    if (event->type() != QEvent::Close && !escape) {
+        return QObject::eventFilter(watched, event);
+    }
+    cancel();
+    event->ignore();
+    return true;
+}
+
+void SavingSheet::cancel() {
+    m_job->cancel();
+    if (!m_sinceCancel.isValid()) {
+        m_sinceCancel.start();
+    }
+    m_ui->cancelButton->setEnabled(false);
+    showProgress();
+}
+
+void SavingSheet::showProgress() {
+    const SaveProgress progress = m_job->progress();
+    m_meter.update(m_clock.elapsed(), progress.share);
+    const std::size_t at = std::min(progress.done + 1, m_job->count());
+    m_ui->saveHeading->setText(tr("Saving %1 of %2").arg(number(at), number(m_job->count())));
+    m_ui->saveFileLabel->setText(m_ui->saveFileLabel->fontMetrics().elidedText(
+        progress.current, Qt::ElideMiddle, m_ui->saveFileLabel->width()));
+    const double share =
+        m_job->total() > 0 ? static_cast<double>(progress.share) / static_cast<double>(m_job->total()) : 0;
+    m_ui->saveBar->setValue(static_cast<int>(share * kBarSteps));
+    m_ui->saveFactsLabel->setText(m_job->isCancelled() ? tr("Cancelling…") : m_meter.speedAndTimeLeft());
+}
+
+}  // namespace vantor
