@@ -23,6 +23,10 @@ struct IsoBox {
 // The box at `at`; nothing when the view ends in its header or the size cannot be one.
 std::optional<IsoBox> readIsoBox(ByteView& view, std::uint64_t at);
 
+// Behind the ISO media boxes that begin at `start`, for formats that carry a movie; `start` when there are
+// none.
+std::uint64_t endOfIsoBoxes(ByteView& view, std::uint64_t start);
+
 // Adds the date and pixel size that a moov or meta box tells. Returns the position behind the last byte of
 // the picture data that a meta box refers to; 0 = none outside itself.
 std::uint64_t addIsoFacts(ByteView& view, const IsoBox& box, Facts& facts);

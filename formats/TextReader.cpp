@@ -39,4 +39,18 @@ std::uint64_t textEnd(ByteView& view, std::uint64_t from) {
     }
 }
 
+std::optional<std::uint64_t> numberBehind(ByteView& view, std::uint64_t at, std::string_view name) {
+    constexpr std::uint64_t kMost = 1ULL << 40;
+    if (!view.matches(at, name))
+        return std::nullopt;
+    at += name.size();
+    while (view.u8(at) == ' ' || view.u8(at) == '-')
+        ++at;
+    std::uint64_t value = 0;
+    for (auto digit = view.u8(at); digit && *digit >= '0' && *digit <= '9' && value < kMost;
+         digit = view.u8(++at))
+        value = value * 10 + (*digit - '0');
+    return value;
+}
+
 }  // namespace vantor

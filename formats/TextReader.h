@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 #include "formats/ByteView.h"
@@ -50,6 +51,8 @@ std::uint64_t behindLineEnd(ByteView& view, std::uint64_t at);
 std::uint64_t behindByteOrderMark(ByteView& view);
 // Whether `lower` stands at `at` in letters of either case.
 bool matchesAnyCase(ByteView& view, std::uint64_t at, std::string_view lower);
+// The number behind `name`, blanks and a sign at the beginning of a line; nothing for another line.
+std::optional<std::uint64_t> numberBehind(ByteView& view, std::uint64_t at, std::string_view name);
 // Where a text that runs from `from` ends: at the first control byte, or at the view's end.
 std::uint64_t textEnd(ByteView& view, std::uint64_t from);
 

@@ -12,9 +12,7 @@
 #include "results/TrueLength.h"
 
 #include <algorithm>
-#include <array>
 #include <string>
-#include <string_view>
 
 #include "formats/Registry.h"
 #include "results/MediumBytes.h"
@@ -29,42 +27,6 @@ constexpr std::uint64_t kGibibyte = std::uint64_t{1} << 30;
 constexpr std::uint64_t kMostSmallFile = 256 * kMebibyte;
 // The longest file of FAT32; cameras split their movies there.
 constexpr std::uint64_t kMostLargeFile = 4 * kGibibyte;
-
-// Kinds whose files reach gigabytes; all others are pictures, documents, songs.
-constexpr std::array<std::string_view, 26> kLargeKinds = {
-    "ISO media", "RIFF",          "Matroska",  "ASF",
-    "FLV",       "MXF",           "RealMedia", "MPEG program stream",
-    "Ogg",       "MPEG video",    "ZIP",       "MPEG transport stream",
-    "gzip",      "bzip2",         "xz",        "RAR",
-    "7z",        "tar",           "SQLite",    "PST",
-    "CAB",       "Jet database",  "TIFF",      "PSD",
-    "FLAC",      "Monkey's Audio"};
-
-constexpr std::array<std::string_view, 15> kLargePackedFiles = {
-    "Zstandard",      "LZ4",         "lzip", "lzop", "Disc image", "Windows image",    "Sparse image",
-    "Evidence image", "Packed disc", "PAR2", "RPM",  "Unity data", "Long told length", "VirtualBox disk",
-    "Virtual PC disk"};
-constexpr std::array<std::string_view, 11> kLargeRecordings = {
-    "DV", "GXF", "IVF", "YUV4MPEG2", "FITS", "NIfTI", "MRC", "DICOM", "Laser scan", "pcap", "pcapng"};
-
-constexpr std::array<std::string_view, 8> kFrameStreams = {"MPEG program stream",
-                                                           "MPEG transport stream",
-                                                           "MPEG video",
-                                                           "MPEG audio",
-                                                           "ADTS",
-                                                           "AC-3",
-                                                           "AMR",
-                                                           "Text"};
-
-// Walkers that recognise files whose end they cannot tell.
-constexpr std::array<std::string_view, 11> kMayNotTellEnd = {
-    "JPEG XL",     "ISO media",        "RAR",        "OLE2", "TIFF", "PDF",
-    "Told length", "Long told length", "Sun raster", "RPM",  "Font"};
-
-template <std::size_t Count>
-bool isAmong(const std::array<std::string_view, Count>& names, const Walker* walker) {
-    return walker != nullptr && std::find(names.begin(), names.end(), walker->name) != names.end();
-}
 
 std::string extensionOf(const QString& type) {
     return type.toUpper().toStdString();
@@ -92,9 +54,8 @@ std::uint64_t bytesToKeep(const Extent& extent, const LengthLimits& limits) {
 
 TrueLength trueLengthOf(const QString& type, MediumBytes& bytes, bool mayGoBeyond) {
     const std::string extension = extensionOf(type);
-    const Walker* const walker = walkerFor(extension);
-    const bool large = isAmong(kLargeKinds, walker) || isAmong(kLargePackedFiles, walker) ||
-                       isAmong(kLargeRecordings, walker);
+    const Format* const format = formatFor(extension);
+    const bool large = format != nullptr && format->large;
     const std::uint64_t mostPlausible = large ? kMostLargeFile : kMostSmallFile;
     if (!mayGoBeyond) {
         bytes.limitTo(bytes.carvedBytes());
@@ -112,12 +73,13 @@ TrueLength trueLengthOf(const QString& type, MediumBytes& bytes, bool mayGoBeyon
 }
 
 bool isFrameStream(const QString& type) {
-    return isAmong(kFrameStreams, walkerFor(extensionOf(type)));
+    const Format* const format = formatFor(extensionOf(type));
+    return format != nullptr && format->frameStream;
 }
 
 bool isCertainlyUnsound(const QString& type, const Extent& extent) {
-    const Walker* const walker = walkerFor(extensionOf(type));
-    return walker != nullptr && walker->strongMagic && !isAmong(kMayNotTellEnd, walker) &&
+    const Format* const format = formatFor(extensionOf(type));
+    return format != nullptr && format->strongMagic && !format->mayNotTellEnd &&
            extent.verdict == Verdict::Unknown && extent.facts.width == 0;
 }
 

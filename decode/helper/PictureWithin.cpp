@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "decode/helper/ByteSpan.h"
-#include "formats/Walkers.h"
+#include "formats/Registry.h"
 
 namespace vantor::decode {
 
@@ -17,7 +17,7 @@ QByteArray screenPicture(QByteArrayView bytes, ByteView& view) {
 
 // Whatever the carving took along behind the last box would make the HEIF library refuse it all.
 QByteArray withoutForeignTail(QByteArrayView bytes, ByteView& view) {
-    const Extent extent = walkIsoMedia(view);
+    const Extent extent = kIsoMedia.walk(view);
     return borrowed(bytes, 0, extent.verdict == Verdict::Unknown ? view.size() : extent.end);
 }
 

@@ -74,7 +74,7 @@ TEST(Readme, ListsEveryTypeAndWhetherItIsSavedAtItsTrueLength) {
             const bool bold = type.startsWith(QStringLiteral("**"));
             type.remove(u'*').remove(u'\\');
             EXPECT_TRUE(listed.insert(type).second) << qPrintable(type) << " is listed twice";
-            EXPECT_EQ(bold, walkerFor(type.toStdString()) != nullptr) << qPrintable(type);
+            EXPECT_EQ(bold, formatFor(type.toStdString()) != nullptr) << qPrintable(type);
             trueLength += bold ? 1 : 0;
         }
     }

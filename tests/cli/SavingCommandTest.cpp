@@ -65,7 +65,7 @@ TEST(SavingCommand, FilesOfTheSampleCardComeBackToTheByte) {
     }
     int found = 0;
     for (const CardFile& file : files) {
-        const bool endIsTold = walkerFor(file.type.toStdString()) != nullptr;
+        const bool endIsTold = formatFor(file.type.toStdString()) != nullptr;
         if (!file.inOnePiece || !endIsTold || !typesAt[file.firstSector].contains(file.type)) {
             continue;
         }

@@ -30,14 +30,14 @@ std::set<std::string> listedFiles() {
 TEST(ForeignFiles, WholeOnes_EndToTheByteWhateverFollows) {
     const auto names = listedFiles();
     ASSERT_GT(names.size(), 150U);
-    std::set<std::string_view> walkers;
+    std::set<std::string_view> formats;
     for (const auto& name : names) {
         SCOPED_TRACE(name);
         const Bytes file = readFile(foreignFolder() / name);
         ASSERT_FALSE(file.empty());
         const std::string type = typeByName(name);
-        ASSERT_NE(walkerFor(type), nullptr);
-        walkers.insert(walkerFor(type)->name);
+        ASSERT_NE(formatFor(type), nullptr);
+        formats.insert(formatFor(type)->name);
         const std::size_t filled = (file.size() + kSector - 1) / kSector * kSector;
         const Bytes next = Build().to(filled - file.size()).add(file);
         for (const Bytes& tail : {noise(100'000, 7), Bytes(100'000, 0), next, Bytes()}) {
@@ -47,7 +47,7 @@ TEST(ForeignFiles, WholeOnes_EndToTheByteWhateverFollows) {
             EXPECT_EQ(extent.end, file.size()) << tail.size() << " bytes behind";
         }
     }
-    EXPECT_GT(walkers.size(), 80U);
+    EXPECT_GT(formats.size(), 80U);
 }
 
 TEST(ForeignFiles, CutOnes_AreNeverSurelyWhole) {

@@ -46,11 +46,11 @@ void walkOne(const Bytes& bytes, const std::string& extension, Effort& effort) {
 
 void walkWithAll(const Bytes& bytes, Effort& effort) {
     static const Bytes kNothing;
-    for (const auto& walker : allWalkers()) {
-        SCOPED_TRACE(walker.name);
+    for (const Format* format : allFormats()) {
+        SCOPED_TRACE(format->name);
         JoinedSource source(bytes, kNothing);
         ByteView view(source);
-        expectBounded(bytes, source, walker.walk(view), effort);
+        expectBounded(bytes, source, format->walk(view), effort);
     }
 }
 

@@ -55,13 +55,13 @@ TEST_P(SampleTest, CutAnywhere_IsNeverSurelyWhole) {
     }
 }
 
-TEST_P(SampleTest, OtherContent_IsUnknownToTheWalker) {
-    const Walker* walker = walkerFor(GetParam().extension);
-    ASSERT_NE(walker, nullptr);
+TEST_P(SampleTest, OtherContent_IsUnknownToTheFormat) {
+    const Format* format = formatFor(GetParam().extension);
+    ASSERT_NE(format, nullptr);
     for (const Bytes& other : {Bytes(), Bytes(3000, 0), noise(3000, 11), Bytes(3000, 0xFF)}) {
         SpanSource source(other);
         ByteView view(source);
-        EXPECT_EQ(walker->walk(view).verdict, Verdict::Unknown);
+        EXPECT_EQ(format->walk(view).verdict, Verdict::Unknown);
     }
 }
 
@@ -69,18 +69,18 @@ INSTANTIATE_TEST_SUITE_P(Formats, SampleTest, testing::ValuesIn(allSamples()), [
     return sample.param.extension == "MP+" ? "MPPLUS" : sample.param.extension;
 });
 
-TEST(Registry, EveryWalker_HasASample) {
+TEST(Registry, EveryFormat_HasASample) {
     std::set<std::string_view> tested;
     for (const auto& sample : allSamples())
-        tested.insert(walkerFor(sample.extension)->name);
-    for (const auto& walker : allWalkers())
-        EXPECT_TRUE(tested.contains(walker.name)) << walker.name;
+        tested.insert(formatFor(sample.extension)->name);
+    for (const Format* format : allFormats())
+        EXPECT_TRUE(tested.contains(format->name)) << format->name;
 }
 
-TEST(Registry, UnknownType_HasNoWalkerButContentIsStillRecognised) {
-    EXPECT_EQ(walkerFor("QQQ"), nullptr);
-    EXPECT_EQ(walkerFor(""), nullptr);
-    EXPECT_EQ(walkerFor("JPG PNG"), nullptr);
+TEST(Registry, UnknownType_HasNoFormatButContentIsStillRecognised) {
+    EXPECT_EQ(formatFor("QQQ"), nullptr);
+    EXPECT_EQ(formatFor(""), nullptr);
+    EXPECT_EQ(formatFor("JPG PNG"), nullptr);
     const Bytes picture = jpeg();
     SpanSource source(picture);
     EXPECT_EQ(walk("QQQ", source).end, picture.size());
@@ -96,8 +96,8 @@ TEST(Registry, ContentOfAnotherFormat_IsWalkedAsWhatItIs) {
 
 TEST(Registry, NoExtension_IsServedTwice) {
     std::set<std::string> seen;
-    for (const auto& walker : allWalkers()) {
-        std::istringstream words{std::string(walker.extensions)};
+    for (const Format* format : allFormats()) {
+        std::istringstream words{std::string(format->extensions)};
         for (std::string word; words >> word;)
             EXPECT_TRUE(seen.insert(word).second) << word;
     }

@@ -19,7 +19,7 @@ constexpr std::uint64_t kFewReads = 64;
 std::uint64_t readsAround(std::string_view extension, const Bytes& bytes, std::uint64_t hole) {
     HoledSource source(bytes, hole);
     ByteView view(source);
-    const Extent extent = walkerFor(extension)->walk(view);
+    const Extent extent = formatFor(extension)->walk(view);
     EXPECT_NE(extent.verdict, Verdict::Complete);
     EXPECT_LE(extent.end, bytes.size());
     return source.reads();

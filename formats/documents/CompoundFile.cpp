@@ -1,0 +1,98 @@
+// OLE2 compound files (DOC, XLS, PPT, MSG …): the highest sector that the allocation table holds in use.
+// Source: [MS-CFB].
+#include <algorithm>
+
+#include "formats/Format.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr std::uint32_t kFree = 0xFFFFFFFF;
+constexpr std::uint32_t kMostRegular = 0xFFFFFFFA;
+constexpr std::uint64_t kInHeader = 109;  // table sectors listed in the header itself
+
+class CompoundWalk {
+  public:
+    CompoundWalk(ByteView& view, unsigned shift) : m_view(view), m_shift(shift) {}
+
+    Extent walk();
+
+  private:
+    std::uint64_t position(std::uint32_t sector) const { return (std::uint64_t{sector} + 1) << m_shift; }
+    bool tableSector(std::uint32_t sector);
+
+    ByteView& m_view;
+    const unsigned m_shift;
+    std::uint64_t m_tables = 0;
+    std::uint64_t m_lastUsed = 0;
+};
+
+// Takes one sector of the allocation table; false where it does not lie in the view.
+bool CompoundWalk::tableSector(std::uint32_t sector) {
+    const std::uint64_t entries = std::uint64_t{1} << (m_shift - 2);
+    const auto at = position(sector);
+    const auto first = m_tables++ * entries;
+    m_lastUsed = std::max<std::uint64_t>(m_lastUsed, sector);
+    const auto bytes = m_view.window(at, entries * 4);
+    if (bytes.size() < entries * 4)
+        return false;
+    for (std::uint64_t i = entries; i-- > 0;) {
+        const auto entry = bytes.data() + i * 4;
+        if (entry[0] == 0xFF && entry[1] == 0xFF && entry[2] == 0xFF && entry[3] == 0xFF)
+            continue;
+        m_lastUsed = std::max(m_lastUsed, first + i);
+        break;
+    }
+    return true;
+}
+
+Extent CompoundWalk::walk() {
+    const std::uint64_t tables = m_view.le32(44).value_or(0);
+    std::uint32_t list = m_view.le32(68).value_or(kFree);
+    const std::uint64_t lists = m_view.le32(72).value_or(0);
+    const std::uint64_t most = (m_view.size() >> m_shift) + 1;
+    if (tables == 0 || (std::uint64_t{1} << m_shift) * tables > (std::uint64_t{1} << 40))
+        return damagedAt(m_view, std::uint64_t{1} << m_shift);
+    bool inside = true;
+    for (std::uint64_t i = 0; inside && i < std::min(tables, kInHeader); ++i)
+        inside = tableSector(m_view.le32(76 + i * 4).value_or(kFree));
+    const std::uint64_t links =
+        (std::uint64_t{1} << (m_shift - 2)) - 1;  // the last entry names the next list
+    for (std::uint64_t i = 0; inside && i < std::min(lists, most) && list < kMostRegular; ++i) {
+        const auto at = position(list);
+        m_lastUsed = std::max<std::uint64_t>(m_lastUsed, list);
+        for (std::uint64_t link = 0; inside && link < links && m_tables < tables; ++link)
+            inside = tableSector(m_view.le32(at + link * 4).value_or(kFree));
+        list = m_view.le32(at + links * 4).value_or(kFree);
+    }
+    const auto end = (m_lastUsed + 2) << m_shift;
+    if (!inside)
+        return end > m_view.size() && m_lastUsed < kMostRegular ? cutOffAt(m_view, m_view.size())
+                                                                : damagedAt(m_view, m_view.size());
+    if (m_tables < tables)
+        return damagedAt(m_view, end);
+    // Free sectors behind the last one in use may have belonged to the file; they hold nothing.
+    return inexact(completeAt(m_view, end));
+}
+
+Extent walkCompoundFile(ByteView& view) {
+    if (!view.matches(0, "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1") || view.le16(28) != 0xFFFE)
+        return unknownExtent();
+    const auto shift = view.le16(30).value_or(0);
+    if (shift != 9 && shift != 12)
+        return unknownExtent();
+    return CompoundWalk(view, shift).walk();
+}
+
+}  // namespace
+
+extern constexpr Format kCompoundFile = {
+    .name = "OLE2",
+    .group = Group::Documents,
+    .walk = walkCompoundFile,
+    .extensions = " DOC DOT XLS XLT PPT PPS POT MSG VSD PUB MPP FPX MSI DB OFT WPS XLA SUO MAX HWP ",
+    .mayNotTellEnd = true,
+};
+
+}  // namespace vantor

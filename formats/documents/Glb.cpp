@@ -1,0 +1,22 @@
+// Scenes in binary glTF. Source: glTF 2.0 (Khronos).
+#include "formats/ToldLength.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr ToldLength kForms[] = {
+    {{0, "glTF\2\0\0\0"_b}, {}, 8, 4, Endian::Little, 20},
+};
+
+}  // namespace
+
+extern constexpr Format kGlb = {
+    .name = "glTF",
+    .group = Group::Documents,
+    .walk = walkToldLength<kForms>,
+    .extensions = " GLB ",
+    .mayNotTellEnd = true,
+};
+
+}  // namespace vantor

@@ -1,0 +1,33 @@
+// OneNote sections and their contents. Source: [MS-ONESTORE].
+#include "formats/ToldLength.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr ToldLength kForms[] = {
+    {{0, "\xE4\x52\x5C\x7B\x8C\xD8\xA7\x4D\xAE\xB1\x53\x78\xD0\x29\x96\xD3"},
+     {},
+     196,
+     8,
+     Endian::Little,
+     1024},
+    {{0, "\xA1\x2F\xFF\x43\xD9\xEF\x76\x4C\x9E\xE2\x10\xEA\x57\x22\x76\x5F"},
+     {},
+     196,
+     8,
+     Endian::Little,
+     1024},
+};
+
+}  // namespace
+
+extern constexpr Format kOneNote = {
+    .name = "OneNote",
+    .group = Group::Documents,
+    .walk = walkToldLength<kForms>,
+    .extensions = " ONE ONETOC2 ",
+    .mayNotTellEnd = true,
+};
+
+}  // namespace vantor

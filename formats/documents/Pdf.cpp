@@ -1,0 +1,227 @@
+// PDF: the end mark that belongs to this file, behind all its incremental updates. Source: ISO 32000-1, 7.5
+// and annex F (linearized files).
+#include <algorithm>
+
+#include "formats/Format.h"
+#include "formats/TextReader.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr std::size_t kLookBack = 64;     // from the end mark to "startxref"
+constexpr std::size_t kUpdateLead = 256;  // comments and the first words of an update
+constexpr std::size_t kHeadBytes = 1024;  // where the linearization dictionary stands
+// A file goes on as long as ends of objects turn up; this is the largest stream believed to lie between two.
+constexpr std::uint64_t kMostSilence = 64 * 1024 * 1024;
+
+bool isSpace(char c) {
+    return c == ' ' || c == '\r' || c == '\n' || c == '\t' || c == '\f';
+}
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+std::string_view textAt(ByteView& view, std::uint64_t at, std::size_t most) {
+    const auto bytes = view.window(at, most);
+    return {reinterpret_cast<const char*>(bytes.data()), std::min(bytes.size(), most)};
+}
+
+// Cuts leading digits off `text`; nothing when there are none or too many.
+std::optional<std::uint64_t> takeNumber(std::string_view& text) {
+    std::uint64_t value = 0;
+    std::size_t used = 0;
+    while (used < text.size() && used < 12 && isDigit(text[used]))
+        value = value * 10 + static_cast<std::uint64_t>(text[used++] - '0');
+    text.remove_prefix(used);
+    return used != 0 ? std::optional(value) : std::nullopt;
+}
+
+void skipSpaces(std::string_view& text) {
+    while (!text.empty() && isSpace(text.front()))
+        text.remove_prefix(1);
+}
+
+// "12 0 obj" or "xref": what a section or an update begins with.
+bool beginsSection(std::string_view text) {
+    skipSpaces(text);
+    if (text.starts_with("xref"))
+        return true;
+    if (!takeNumber(text))
+        return false;
+    skipSpaces(text);
+    if (!takeNumber(text))
+        return false;
+    skipSpaces(text);
+    return text.starts_with("obj");
+}
+
+// The same behind comments that a program names its update with; "%PDF-" begins the next file.
+bool beginsUpdate(std::string_view text) {
+    skipSpaces(text);
+    while (text.starts_with('%') && !text.starts_with("%PDF-") && !text.starts_with("%%EOF")) {
+        text.remove_prefix(std::min(text.find_first_of("\r\n"), text.size()));
+        skipSpaces(text);
+    }
+    return beginsSection(text);
+}
+
+constexpr std::size_t kSeam = 16;
+
+// The first end mark or beginning of a PDF in `text`.
+std::size_t findWord(std::string_view text) {
+    for (auto at = text.find('%'); at != text.npos; at = text.find('%', at + 1)) {
+        const auto rest = text.substr(at, 5);
+        if (rest == "%%EOF" || rest == "%PDF-")
+            return at;
+    }
+    return text.npos;
+}
+
+class PdfWalk {
+  public:
+    explicit PdfWalk(ByteView& view) : m_view(view) {}
+
+    Extent walk();
+
+  private:
+    enum class Mark { Foreign, Inner, Last };
+
+    std::uint64_t linearizedLength();
+    Mark judge(std::uint64_t at);
+    std::uint64_t behindMark(std::uint64_t at);
+    bool isForeignStart(std::uint64_t at);
+    std::string_view stretch(std::uint64_t at);
+    void noteSigns(std::uint64_t at, std::string_view text);
+
+    ByteView& m_view;
+    std::uint64_t m_lastMark = 0;    // behind the last end mark, valid or not
+    std::uint64_t m_lastSign = 0;    // behind the last end of an object or stream
+    std::uint64_t m_linearized = 0;  // length told by the linearization dictionary, while it may still apply
+};
+
+std::uint64_t PdfWalk::linearizedLength() {
+    auto head = textAt(m_view, 0, kHeadBytes);
+    const auto mark = head.find("/Linearized");
+    if (mark == head.npos)
+        return 0;
+    head.remove_prefix(mark);
+    head = head.substr(0, head.find(">>"));
+    for (auto at = head.find("/L"); at != head.npos; at = head.find("/L", at + 2)) {
+        auto rest = head.substr(at + 2);
+        skipSpaces(rest);
+        if (const auto length = takeNumber(rest))
+            return *length;
+    }
+    return 0;
+}
+
+// Behind "%%EOF" and one line end.
+std::uint64_t PdfWalk::behindMark(std::uint64_t at) {
+    return behindLineEnd(m_view, at + 5);
+}
+
+// What the end mark at `at` is to this file, judged by the cross-reference position told before it.
+PdfWalk::Mark PdfWalk::judge(std::uint64_t at) {
+    const auto start = at < kLookBack ? 0 : at - kLookBack;
+    auto before = textAt(m_view, start, static_cast<std::size_t>(at - start));
+    const auto key = before.rfind("startxref");
+    if (key == before.npos)
+        return Mark::Foreign;
+    before.remove_prefix(key + 9);
+    skipSpaces(before);
+    const auto target = takeNumber(before);
+    if (!target || *target >= at)
+        return Mark::Foreign;
+    if (*target == 0)
+        return Mark::Inner;  // the first section of a linearized file
+    if (!beginsSection(textAt(m_view, *target, kLookBack)))
+        return Mark::Foreign;
+    const auto behind = behindMark(at);
+    if (m_linearized > behind + kLookBack)
+        return Mark::Inner;
+    return beginsUpdate(textAt(m_view, behind, kUpdateLead)) ? Mark::Inner : Mark::Last;
+}
+
+// Another PDF at a sector's start, unless it is the content of a stream of ours.
+bool PdfWalk::isForeignStart(std::uint64_t at) {
+    if (!isSectorStart(at) || at < 16 || !m_view.matches(at, "%PDF-"))
+        return false;
+    return textAt(m_view, at - 16, 16).find("stream") == std::string_view::npos;
+}
+
+// The buffered text from `at` on, beside the little before it that judging an end mark takes.
+std::string_view PdfWalk::stretch(std::uint64_t at) {
+    const auto lead = static_cast<std::size_t>(std::min<std::uint64_t>(at, kLookBack));
+    const auto bytes = m_view.window(at - lead, lead + kSeam);
+    const std::string_view text(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    return text.substr(std::min(lead, text.size()));
+}
+
+// Remembers the last end of an object or stream in `text`, which stands at `at`.
+void PdfWalk::noteSigns(std::uint64_t at, std::string_view text) {
+    if (const auto sign = text.rfind("endobj"); sign != text.npos)
+        m_lastSign = at + sign + 6;
+    else if (const auto stream = text.rfind("endstream"); stream != text.npos)
+        m_lastSign = at + stream + 9;
+}
+
+Extent PdfWalk::walk() {
+    if (!m_view.matches(0, "%PDF-"))
+        return unknownExtent();
+    m_linearized = linearizedLength();
+    std::uint64_t at = 5;
+    if (m_linearized > kHeadBytes && m_linearized <= m_view.size()) {
+        // Hop to the told end; when no end mark stands there the file was changed and is read through.
+        const auto tail = textAt(m_view, m_linearized - 32, 32);
+        const auto mark = tail.rfind("%%EOF");
+        if (mark != tail.npos)
+            at = m_linearized - 32 + mark;
+        else
+            m_linearized = 0;
+    }
+    m_lastSign = at;
+    while (at < m_view.size()) {
+        const auto text = stretch(at);
+        if (text.empty())
+            break;
+        const auto word = findWord(text);
+        noteSigns(at, text.substr(0, word));
+        if (at > m_lastSign && at - m_lastSign > kMostSilence)
+            break;
+        if (word == text.npos) {
+            at += text.size() > kSeam ? text.size() - kSeam : text.size();  // a word may straddle the seam
+            continue;
+        }
+        at += word;
+        if (m_view.matches(at, "%%EOF")) {
+            m_lastMark = behindMark(at);
+            if (judge(at) == Mark::Last)
+                return completeAt(m_view, m_lastMark);
+        } else if (isForeignStart(at)) {
+            m_lastSign = std::min(m_lastSign, at);  // signs behind are the other's
+            break;
+        }
+        ++at;
+    }
+    const auto kept = std::max(m_lastMark, std::min(m_lastSign, m_view.size()));
+    return at >= m_view.size() ? cutOffAt(m_view, m_lastMark != 0 ? kept : m_view.size())
+                               : damagedAt(m_view, kept);
+}
+
+Extent walkPdf(ByteView& view) {
+    return PdfWalk(view).walk();
+}
+
+}  // namespace
+
+extern constexpr Format kPdf = {
+    .name = "PDF",
+    .group = Group::Documents,
+    .walk = walkPdf,
+    .extensions = " PDF AI ",
+    .mayNotTellEnd = true,
+};
+
+}  // namespace vantor

@@ -1,0 +1,82 @@
+// PostScript, also encapsulated (PS, EPS). Sources: Adobe EPSF 3.0 and DSC 3.0.
+#include <algorithm>
+#include <optional>
+
+#include "formats/Format.h"
+#include "formats/TextReader.h"
+
+namespace vantor {
+
+namespace {
+
+// Behind the last whole line of the text from `from` on.
+std::uint64_t endOfLines(ByteView& view, std::uint64_t from) {
+    const std::uint64_t end = textEnd(view, from);
+    std::uint64_t lines = end;
+    while (lines > from && view.u8(lines - 1) != '\n' && view.u8(lines - 1) != '\r')
+        --lines;
+    return lines > from ? lines : end;
+}
+
+// Text from "%!PS" to the end comment that is not one of an embedded document.
+Extent walkPostScriptText(ByteView& view) {
+    constexpr std::uint64_t kMostSilence = 64 * 1024 * 1024;  // without any comment line
+    std::uint64_t embedded = 0;
+    std::uint64_t sign = 0;
+    // Many writers leave the end comment out: behind the trailer comes only text.
+    std::optional<std::uint64_t> lines;
+    for (std::uint64_t at = 0;;) {
+        const auto limit = lines.value_or(std::min(view.size(), addClamped(sign, kMostSilence)));
+        const auto comment = view.find('%', at, limit);
+        if (lines && !comment.found())
+            return inexact(completeAt(view, *lines));
+        if (comment.stopped())
+            return cutOffAt(view, comment.at);
+        if (!comment.found())
+            return comment.at < view.size() ? damagedAt(view, sign) : cutOffAt(view, view.size());
+        at = comment.at;
+        // Programs name these comments in strings too; only one that begins a line is meant.
+        const auto before = at != 0 ? view.u8(at - 1) : '\n';
+        if (!view.matches(at, "%%") || (before != '\n' && before != '\r')) {
+            ++at;
+            continue;
+        }
+        sign = at;
+        if (!lines && embedded == 0 && view.matches(at, "%%Trailer"))
+            lines = endOfLines(view, at);
+        if (view.matches(at, "%%BeginDocument"))
+            ++embedded;
+        else if (view.matches(at, "%%EndDocument") && embedded != 0)
+            --embedded;
+        else if (view.matches(at, "%%EOF") && embedded == 0) {
+            return completeAt(view, behindLineEnd(view, at + 5));
+        }
+        at += 2;
+    }
+}
+
+Extent walkPostScript(ByteView& view) {
+    if (view.matches(0, "%!PS"))
+        return walkPostScriptText(view);
+    if (!view.matches(0, "\xC5\xD0\xD3\xC6"))
+        return unknownExtent();
+    // A binary head before the text: positions and lengths of the PostScript, a metafile and a TIFF preview.
+    std::uint64_t end = 30;
+    for (const std::uint64_t field : {4, 12, 20}) {
+        const std::uint64_t at = view.le32(field).value_or(0), bytes = view.le32(field + 4).value_or(0);
+        if (bytes != 0)
+            end = std::max(end, at + bytes);
+    }
+    return end > 30 ? completeAt(view, end) : damagedAt(view, 30);
+}
+
+}  // namespace
+
+extern constexpr Format kPostScript = {
+    .name = "PostScript",
+    .group = Group::Documents,
+    .walk = walkPostScript,
+    .extensions = " PS EPS EPSF ",
+};
+
+}  // namespace vantor

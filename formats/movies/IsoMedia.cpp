@@ -1,0 +1,119 @@
+// MP4, QuickTime, 3GP, HEIF, AVIF, CR3: top-level boxes, hopped over by their size, to the first thing that
+// is none. Sources: ISO/IEC 14496-12, QuickTime File Format.
+#include <algorithm>
+#include <array>
+
+#include "formats/Among.h"
+#include "formats/Format.h"
+#include "formats/IsoBox.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr std::array<std::string_view, 27> kTopLevelNames = {
+    "ftyp", "moov", "mdat", "free", "skip", "wide", "pnot", "PICT", "uuid",
+    "moof", "mfra", "sidx", "ssix", "styp", "meta", "prft", "emsg", "pdin",
+    "udta", "junk", "meco", "imda", "idat", "thum", "mfro", "bloc", "prev"};
+
+// Boxes that can stand first in a file of this family.
+constexpr std::array<std::string_view, 7> kFirstNames = {"ftyp", "moov", "mdat", "wide",
+                                                         "free", "skip", "pnot"};
+
+constexpr std::uint32_t kMostBoxes = 1 << 20;
+
+bool isNameLike(std::string_view name) {
+    return std::all_of(name.begin(), name.end(), [](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == ' ' ||
+               c == '_';
+    });
+}
+
+struct Seen {
+    bool index = false;  // moov or meta: what makes the data readable
+    bool movieIndex = false;
+    bool data = false;
+    bool fragment = false;
+    bool type = false;
+    std::uint64_t dataEnd = 0;  // how far a picture's items reach
+
+    bool whole(std::uint64_t end) const { return index && (data || !movieIndex) && end >= dataEnd; }
+};
+
+struct IsoWalk {
+    std::uint64_t at = 0;  // behind the last box
+    Seen seen;
+    bool openEnded = false;  // the last box claims the rest of the medium
+    bool cut = false;
+    Facts facts;
+};
+
+IsoWalk walkBoxes(ByteView& view, std::uint64_t start, bool wantFacts) {
+    IsoWalk walk;
+    walk.at = start;
+    for (std::uint32_t boxes = 0; boxes < kMostBoxes; ++boxes) {
+        const auto box = readIsoBox(view, walk.at);
+        if (!box)
+            return walk;
+        const std::string_view name = box->text();
+        const bool known = walk.at == start ? isAmong(kFirstNames, name) : isAmong(kTopLevelNames, name);
+        // A box of a maker's own is believed while the file still lacks something, not behind a whole one.
+        if (!known && (walk.at == start || walk.seen.whole(walk.at) || !isNameLike(name)))
+            return walk;
+        if (name == "ftyp" && walk.at != start)
+            return walk;  // the next file
+        if (box->toEnd) {
+            walk.openEnded = name == "mdat" || walk.at == start;
+            return walk;
+        }
+        walk.seen.type = walk.seen.type || name == "ftyp";
+        walk.seen.movieIndex = walk.seen.movieIndex || name == "moov";
+        walk.seen.index = walk.seen.index || name == "moov" || name == "meta";
+        walk.seen.data = walk.seen.data || name == "mdat" || name == "imda";
+        walk.seen.fragment = walk.seen.fragment || name == "moof";
+        if (wantFacts && (name == "moov" || name == "meta"))
+            walk.seen.dataEnd = std::max(walk.seen.dataEnd, addIsoFacts(view, *box, walk.facts));
+        if (box->end > view.size()) {
+            walk.cut = true;
+            return walk;
+        }
+        walk.at = box->end;
+    }
+    return walk;
+}
+
+Extent walkIsoMedia(ByteView& view) {
+    const IsoWalk walk = walkBoxes(view, 0, true);
+    if (walk.openEnded) {  // allowed in a file, meaningless on a medium
+        Extent extent = unknownExtent();
+        extent.facts = walk.facts;
+        return extent;
+    }
+    if (walk.cut)
+        return walk.seen.type || walk.at != 0 ? cutOffAt(view, view.size(), walk.facts) : unknownExtent();
+    if (walk.at == 0 || (!walk.seen.type && !walk.seen.index && !walk.seen.data))
+        return unknownExtent();
+    if (!walk.seen.whole(walk.at))
+        return walk.at == view.size() ? cutOffAt(view, walk.at, walk.facts)
+                                      : damagedAt(view, walk.at, walk.facts);
+    return completeAt(view, walk.at, walk.facts);
+}
+
+}  // namespace
+
+std::uint64_t endOfIsoBoxes(ByteView& view, std::uint64_t start) {
+    return std::min(walkBoxes(view, start, false).at, view.size());
+}
+
+extern constexpr Format kIsoMedia = {
+    .name = "ISO media",
+    .group = Group::Movies,
+    .walk = walkIsoMedia,
+    .extensions =
+        " MP4 MOV QT 3GP 3G2 3GPP M4A M4B M4V M4P F4V F4A CR3 CRM HEIC HEIF HIF AVIF AVIFS INSV "
+        "LRV GLV MQV AAX DVB ",
+    .large = true,
+    .mayNotTellEnd = true,
+};
+
+}  // namespace vantor

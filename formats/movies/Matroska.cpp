@@ -1,0 +1,182 @@
+// Matroska and WebM: the segment's elements by their size, and live recordings whose sizes are unknown.
+// Sources: RFC 8794 (EBML), RFC 9559 (Matroska).
+#include <algorithm>
+#include <array>
+
+#include "formats/Among.h"
+#include "formats/Dates.h"
+#include "formats/Format.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr std::uint32_t kEbml = 0x1A45DFA3, kSegment = 0x18538067, kVoid = 0xEC, kCrc = 0xBF;
+constexpr std::uint32_t kInfo = 0x1549A966, kTracks = 0x1654AE6B, kCluster = 0x1F43B675;
+constexpr std::uint32_t kTrackEntry = 0xAE, kVideo = 0xE0, kPixelWidth = 0xB0, kPixelHeight = 0xBA,
+                        kDate = 0x4461;
+
+// Children of a segment: seek head, info, tracks, cluster, cues, attachments, chapters, tags.
+constexpr std::array<std::uint32_t, 10> kInSegment = {
+    0x114D9B74, kInfo, kTracks, kCluster, 0x1C53BB6B, 0x1941A469, 0x1043A770, 0x1254C367, kVoid, kCrc};
+// Children of a cluster: timestamp, silent tracks, position, previous size, simple block, group, encrypted
+// block.
+constexpr std::array<std::uint32_t, 9> kInCluster = {0xE7, 0x5854, 0xA7, 0xAB, 0xA3, 0xA0, 0xAF, kVoid, kCrc};
+
+constexpr std::uint32_t kLeastLongId = 0x200000;  // three bytes and more
+constexpr int kMostStrangers = 16;
+constexpr int kMostFactElements = 512;
+
+struct Element {
+    std::uint32_t id = 0;
+    std::uint64_t body = 0;
+    std::uint64_t bytes = 0;
+    bool unknownSize = false;
+
+    std::uint64_t end() const { return addClamped(body, bytes); }
+};
+
+// Length in bytes of a variable number by its first byte; 0 = none.
+unsigned numberBytes(std::uint8_t first) {
+    unsigned bytes = 1;
+    for (unsigned mask = 0x80; mask != 0 && (first & mask) == 0; mask >>= 1)
+        ++bytes;
+    return bytes <= 8 ? bytes : 0;
+}
+
+std::optional<Element> readElement(ByteView& view, std::uint64_t at) {
+    Element element;
+    const unsigned idBytes = numberBytes(view.u8(at).value_or(0));
+    if (idBytes == 0 || idBytes > 4)
+        return std::nullopt;
+    const auto id = view.number(at, idBytes, Endian::Big);
+    const unsigned sizeBytes = numberBytes(view.u8(at + idBytes).value_or(0));
+    if (!id || sizeBytes == 0)
+        return std::nullopt;
+    const auto size = view.number(at + idBytes, sizeBytes, Endian::Big);
+    if (!size)
+        return std::nullopt;
+    const std::uint64_t mask = (std::uint64_t{1} << (7 * sizeBytes)) - 1;
+    element.id = static_cast<std::uint32_t>(*id);
+    element.bytes = *size & mask;
+    element.unknownSize = element.bytes == mask;
+    element.body = at + idBytes + sizeBytes;
+    return element;
+}
+
+// Pixel size and date out of the info and track elements, entering only the masters that lead to them.
+void addFacts(ByteView& view, const Element& parent, Facts& facts) {
+    std::uint64_t at = parent.body;
+    for (int i = 0; i < kMostFactElements && at < parent.end(); ++i) {
+        const auto element = readElement(view, at);
+        if (!element || element->unknownSize)
+            return;
+        const bool small = element->bytes >= 1 && element->bytes <= 8;
+        const auto value = small ? view.number(element->body, element->bytes, Endian::Big).value_or(0) : 0;
+        at = element->end();
+        if (element->id == kTrackEntry || element->id == kVideo)
+            at = element->body;
+        else if (element->id == kPixelWidth && parent.id == kTracks)
+            facts.width = std::max(facts.width, static_cast<std::uint32_t>(value));
+        else if (element->id == kPixelHeight && parent.id == kTracks)
+            facts.height = std::max(facts.height, static_cast<std::uint32_t>(value));
+        else if (element->id == kDate && parent.id == kInfo)
+            facts.taken = dateFromNanosecondsSince2001(static_cast<std::int64_t>(value));
+    }
+}
+
+class MatroskaWalk {
+  public:
+    explicit MatroskaWalk(ByteView& view) : m_view(view) {}
+
+    Extent walk();
+
+  private:
+    Extent segment(const Element& segment);
+    void openCluster();
+
+    ByteView& m_view;
+    std::uint64_t m_at = 0;
+    bool m_sawCluster = false;
+    Facts m_facts;
+};
+
+// m_at moves behind the last whole element of a cluster of unknown size.
+void MatroskaWalk::openCluster() {
+    for (;;) {
+        const auto element = readElement(m_view, m_at);
+        if (!element || element->unknownSize || !isAmong(kInCluster, element->id) ||
+            element->end() > m_view.size())
+            return;
+        m_at = element->end();
+    }
+}
+
+Extent MatroskaWalk::segment(const Element& segment) {
+    const auto limit = segment.unknownSize ? m_view.size() : segment.end();
+    m_at = segment.body;
+    int strangers = 0;
+    while (m_at < limit) {
+        const auto element = readElement(m_view, m_at);
+        if (!element && !m_view.holds(m_at, 12))
+            return cutOffAt(m_view, m_at, m_facts);
+        if (!element)
+            break;
+        // Elements of later versions and of vendors are taken only where the segment's size vouches for them.
+        const bool foreign = !isAmong(kInSegment, element->id);
+        if (foreign && (segment.unknownSize || element->id < kLeastLongId || ++strangers > kMostStrangers))
+            break;
+        if (element->id == kInfo || element->id == kTracks)
+            addFacts(m_view, *element, m_facts);
+        m_sawCluster = m_sawCluster || element->id == kCluster;
+        if (element->unknownSize) {
+            if (element->id != kCluster)
+                break;
+            m_at = element->body;
+            openCluster();
+            continue;
+        }
+        if (element->end() > limit && !segment.unknownSize)
+            break;
+        if (element->end() > m_view.size())
+            return cutOffAt(m_view, m_view.size(), m_facts);
+        m_at = element->end();
+    }
+    if (segment.unknownSize)
+        return m_sawCluster ? inexact(completeAt(m_view, m_at, m_facts)) : damagedAt(m_view, m_at, m_facts);
+    return m_at == limit ? completeAt(m_view, m_at, m_facts) : damagedAt(m_view, m_at, m_facts);
+}
+
+Extent MatroskaWalk::walk() {
+    const auto head = readElement(m_view, 0);
+    if (!head || head->id != kEbml || head->unknownSize || head->bytes > 4096)
+        return unknownExtent();
+    m_at = head->end();
+    for (int padding = 0; padding < 16; ++padding) {
+        const auto element = readElement(m_view, m_at);
+        if (!element)
+            return m_view.holds(m_at, 12) ? damagedAt(m_view, m_at) : cutOffAt(m_view, m_at);
+        if (element->id == kSegment)
+            return segment(*element);
+        if (element->id != kVoid)
+            break;
+        m_at = element->end();
+    }
+    return damagedAt(m_view, m_at);
+}
+
+Extent walkMatroska(ByteView& view) {
+    return MatroskaWalk(view).walk();
+}
+
+}  // namespace
+
+extern constexpr Format kMatroska = {
+    .name = "Matroska",
+    .group = Group::Movies,
+    .walk = walkMatroska,
+    .extensions = " MKV WEBM MKA MK3D MKS ",
+    .large = true,
+};
+
+}  // namespace vantor

@@ -1,0 +1,156 @@
+// RIFF (AVI, WAV, WebP …) and IFF (AIFF, 8SVX, ILBM …): chunks inside the outer one, and an AVI's further
+// RIFFs. Sources: Microsoft RIFF and AVI documentation, OpenDML 1.02, EBU Tech 3306 (RF64), WebP container,
+// EA IFF 85.
+#include <algorithm>
+#include <array>
+
+#include "formats/Format.h"
+#include "formats/movies/RiffFacts.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr std::uint64_t kHead = 12;  // outer name, size, form
+constexpr std::uint32_t kMostChunks = 1 << 16;
+constexpr std::uint32_t kUnsetSize = 0xFFFFFFFF;
+
+bool isChunkName(std::string_view name) {
+    return std::all_of(name.begin(), name.end(), [](char c) { return c >= ' ' && c <= '~'; }) &&
+           name[0] != ' ';
+}
+
+struct Chunk {
+    std::array<char, 4> name{};
+    std::uint64_t body = 0;
+    std::uint64_t bytes = 0;
+
+    std::string_view text() const { return {name.data(), name.size()}; }
+    std::uint64_t end() const { return addClamped(body, bytes); }
+};
+
+std::optional<Chunk> readChunk(ByteView& view, std::uint64_t at, Endian endian) {
+    Cursor in(view, at, endian);
+    Chunk chunk;
+    for (char& letter : chunk.name)
+        letter = static_cast<char>(in.u8());
+    chunk.bytes = in.u32();
+    chunk.body = in.at();
+    return in.ok() && isChunkName(chunk.text()) ? std::optional(chunk) : std::nullopt;
+}
+
+class RiffWalk {
+  public:
+    RiffWalk(ByteView& view, Endian endian) : m_view(view), m_endian(endian) {}
+
+    Extent walk();
+
+  private:
+    enum class Step { Done, Cut, Broken, Unbounded };
+
+    Step outer();
+    Step inner(std::uint64_t told);
+
+    ByteView& m_view;
+    const Endian m_endian;
+    std::uint64_t m_at = 0;
+    std::array<char, 4> m_form{};
+    std::uint64_t m_wideOuter = 0;  // 64-bit sizes of an RF64 file
+    std::uint64_t m_wideData = 0;
+    bool m_sawPayload = false;
+    Facts m_facts;
+};
+
+// The chunks of one outer chunk that should end at `told`; m_at moves behind the last.
+RiffWalk::Step RiffWalk::inner(std::uint64_t told) {
+    for (std::uint32_t chunks = 0; chunks < kMostChunks; ++chunks) {
+        // Some recorders count a few bytes too many: what cannot hold a chunk is none of the file.
+        if (m_at >= told || told - m_at < 8)
+            return Step::Done;
+        const auto chunk = readChunk(m_view, m_at, m_endian);
+        if (!chunk)
+            return m_view.holds(m_at, 8) ? Step::Broken : Step::Cut;
+        std::uint64_t end = chunk->end();
+        if (chunk->text() == "ds64") {
+            m_wideOuter = m_view.le64(chunk->body).value_or(0);
+            m_wideData = m_view.le64(chunk->body + 8).value_or(0);
+            told = addClamped(8, m_wideOuter);
+        } else if (chunk->text() == "data" && chunk->bytes == kUnsetSize) {
+            if (m_wideData == 0)
+                return Step::Unbounded;
+            end = addClamped(chunk->body, m_wideData);
+        }
+        addRiffFacts(m_view, {m_form.data(), m_form.size()}, chunk->text(), chunk->body, chunk->bytes,
+                     m_facts);
+        const bool list = chunk->text() == "LIST" && m_view.matches(chunk->body, "movi");
+        m_sawPayload = m_sawPayload || list || chunk->text() != "LIST";
+        if (end > m_view.size())
+            return Step::Cut;
+        const std::uint64_t padded = end + (end - chunk->body) % 2;
+        // The padding byte behind the last odd chunk is often left out of the count, and then of the file.
+        m_at = padded == told + 1 ? end : padded;
+    }
+    return Step::Broken;
+}
+
+RiffWalk::Step RiffWalk::outer() {
+    Cursor in(m_view, m_at + 4, m_endian);
+    const std::uint64_t size = in.u32();
+    if (!in.ok())
+        return Step::Cut;
+    m_view.copy(m_at + 8, {reinterpret_cast<std::uint8_t*>(m_form.data()), m_form.size()});
+    const std::uint64_t start = m_at;
+    m_at += kHead;
+    if (size == 0 || size == kUnsetSize)
+        return m_view.matches(start, "RF64") || m_view.matches(start, "BW64") ? inner(m_view.size())
+                                                                              : Step::Unbounded;
+    return inner(start + 8 + size);
+}
+
+Extent RiffWalk::walk() {
+    Step step = outer();
+    // An AVI beyond its first gigabyte goes on in further outer chunks.
+    const bool avi = std::string_view(m_form.data(), m_form.size()) == "AVI ";
+    for (std::uint32_t more = 0; step == Step::Done && avi && more < kMostChunks; ++more) {
+        if (!m_view.matches(m_at, "RIFF") || !m_view.matches(m_at + 8, "AVIX"))
+            break;
+        step = outer();
+    }
+    switch (step) {
+        case Step::Done:
+            return m_sawPayload ? completeAt(m_view, m_at, m_facts) : damagedAt(m_view, m_at, m_facts);
+        case Step::Cut:
+            return cutOffAt(m_view, m_view.exhausted() ? m_at : m_view.size(), m_facts);
+        case Step::Broken:
+            return damagedAt(m_view, m_at, m_facts);
+        case Step::Unbounded:
+            break;
+    }
+    Extent extent = unknownExtent();
+    extent.facts = m_facts;
+    return extent;
+}
+
+Extent walkRiff(ByteView& view) {
+    const bool little = view.matches(0, "RIFF") || view.matches(0, "RF64") || view.matches(0, "BW64");
+    const bool big = view.matches(0, "FORM") || view.matches(0, "RIFX");
+    std::array<std::uint8_t, 4> form{};
+    if ((!little && !big) || !view.copy(8, form) ||
+        !isChunkName({reinterpret_cast<const char*>(form.data()), form.size()}))
+        return unknownExtent();
+    return RiffWalk(view, little ? Endian::Little : Endian::Big).walk();
+}
+
+}  // namespace
+
+extern constexpr Format kRiff = {
+    .name = "RIFF",
+    .group = Group::Movies,
+    .walk = walkRiff,
+    .extensions =
+        " AVI WAV WAVE WEBP RF64 BW64 ANI RMI AIF AIFF AIFC 8SVX LBM IFF DIVX CDR DLS SF2 QCP PAL "
+        "CMX CPR LWO ",
+    .large = true,
+};
+
+}  // namespace vantor

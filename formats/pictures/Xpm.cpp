@@ -1,0 +1,40 @@
+// X pixmaps (XPM). Source: XPM manual 3.4.
+#include "formats/Format.h"
+#include "formats/TextReader.h"
+
+namespace vantor {
+
+namespace {
+
+// C source: an array of texts that ends with "};".
+Extent walkXpm(ByteView& view) {
+    if (!view.matches(0, "/* XPM */"))
+        return unknownExtent();
+    bool quoted = false, closed = false;
+    for (std::uint64_t at = 9;; ++at) {
+        const auto byte = view.u8(at);
+        if (!byte)
+            return cutOffAt(view, at);
+        if (*byte < '\t' || *byte == 0x7F || *byte == 0xFF)
+            return damagedAt(view, at);
+        if (*byte == '"')
+            quoted = !quoted;
+        else if (quoted && *byte == '\\')
+            ++at;
+        else if (!quoted && *byte == '}')
+            closed = true;
+        else if (closed && *byte == ';')
+            return completeAt(view, behindLineEnd(view, at + 1));
+    }
+}
+
+}  // namespace
+
+extern constexpr Format kXpm = {
+    .name = "XPM",
+    .group = Group::Pictures,
+    .walk = walkXpm,
+    .extensions = " XPM ",
+};
+
+}  // namespace vantor

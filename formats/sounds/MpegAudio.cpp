@@ -1,0 +1,57 @@
+// MPEG audio (MP3, MP2, MP1): nothing but frames. Sources: ISO/IEC 11172-3, 13818-3.
+#include <array>
+
+#include "formats/AudioTags.h"
+#include "formats/Format.h"
+#include "formats/sounds/FrameStream.h"
+
+namespace vantor {
+
+namespace {
+
+std::uint64_t mpegAudioFrameBytes(std::uint32_t head) {
+    static constexpr std::uint16_t kKilobits[5][16] = {
+        {0, 32, 64, 96, 128, 160, 192, 224, 256, 288, 320, 352, 384, 416, 448, 0},  // version 1, layer I
+        {0, 32, 48, 56, 64, 80, 96, 112, 128, 160, 192, 224, 256, 320, 384, 0},     // version 1, layer II
+        {0, 32, 40, 48, 56, 64, 80, 96, 112, 128, 160, 192, 224, 256, 320, 0},      // version 1, layer III
+        {0, 32, 48, 56, 64, 80, 96, 112, 128, 144, 160, 176, 192, 224, 256, 0},     // version 2, layer I
+        {0, 8, 16, 24, 32, 40, 48, 56, 64, 80, 96, 112, 128, 144, 160, 0}};  // version 2, layers II, III
+    static constexpr std::array<std::uint32_t, 4> kRates = {44100, 48000, 32000, 0};
+    const auto version = head >> 19 & 3, layer = 4 - (head >> 17 & 3);
+    const auto rateBits = head >> 10 & 3;
+    if (head >> 21 != 0x7FF || version == 1 || layer == 4 || rateBits == 3)
+        return 0;
+    const bool first = version == 3;
+    const auto table = first ? layer - 1 : layer == 1 ? 3 : 4;
+    const std::uint32_t bits = kKilobits[table][head >> 12 & 15] * 1000U;
+    const auto rate = kRates[rateBits] >> (version == 3 ? 0 : version == 2 ? 1 : 2);
+    const auto padding = head >> 9 & 1;
+    if (bits == 0)
+        return 0;
+    if (layer == 1)
+        return (12 * bits / rate + padding) * 4;
+    return (layer == 3 && !first ? 72 : 144) * bits / rate + padding;
+}
+
+Extent walkMpegAudio(ByteView& view) {
+    const auto start = skipLeadingTag(view, 0);
+    constexpr std::uint32_t kSameKind = 0xFFFE0C00;  // sync, version, layer, sampling rate
+    const auto first = view.be32(start).value_or(0);
+    return walkFrames(view, start, start != 0 ? 1 : kProofFrames, [&](std::uint64_t at) -> std::uint64_t {
+        const auto head = view.be32(at).value_or(0);
+        return ((head ^ first) & kSameKind) == 0 ? mpegAudioFrameBytes(head) : 0;
+    });
+}
+
+}  // namespace
+
+extern constexpr Format kMpegAudio = {
+    .name = "MPEG audio",
+    .group = Group::Sounds,
+    .walk = walkMpegAudio,
+    .extensions = " MP3 MP2 MP1 MPA M2A ",
+    .strongMagic = false,
+    .frameStream = true,
+};
+
+}  // namespace vantor
