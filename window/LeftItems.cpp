@@ -16,7 +16,6 @@ void MyTableController::scanFellBack() {
     if (itemCount() == 0) {
         return;
     }
-    m_leftRows = resultRows();
     // The help of the screen, in place of how to stop the scan.
     activeSet() == ControlSet::Photo ? showRangeHelp() : showFileTypeHelp();
     showItemsButton->setFocus();

@@ -165,6 +165,8 @@ class MyTableController : public QObject,
     void startTimerThread();
     void stop_usb_disk(QObject* sender);
     bool scanRunning() const { return m_driverRunning || m_timerRunning; }
+    // Interface thread: a little longer than it runs, until the window shows how it ended.
+    bool scanShown() const { return m_pump.isActive(); }
 
     // --- Browsers (window/Browsers.cpp) ---
 

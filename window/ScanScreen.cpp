@@ -169,6 +169,8 @@ void MyTableController::showAlert(const QString& message) {
 
 void MyTableController::returnFromScanScreen(ControlSet set) {
     later([this, set] {
+        // With the way to them, which is open as soon as the user has read the alert.
+        m_leftRows = resultRows();
         if (set == ControlSet::Photo) {
             show_hide_3_screen_Photo(true);
             show_hide_2_screen(false);

@@ -24,10 +24,14 @@
 
 namespace vantor::test {
 
+// Beyond which a test fails rather than waits: longer than anything takes on the busiest machine.
+constexpr std::chrono::minutes kPatience{1};
+
 inline DecodePoolOptions poolOptions(int helpers = 2) {
     DecodePoolOptions options;
     options.helper = QStringLiteral(VANTOR_DECODE_HELPER);
     options.helpers = helpers;
+    options.thumbnailDeadline = options.pictureDeadline = options.startDeadline = kPatience;
     return options;
 }
 

@@ -22,7 +22,7 @@ using std::chrono::milliseconds;
 using std::chrono::seconds;
 
 void expectSoundPool(DecodePool& pool) {
-    EXPECT_FALSE(pool.thumbnail(encoded(twoColours({640, 480}), "jpeg")).isEmpty());
+    EXPECT_FALSE(pool.picture(encoded(twoColours({640, 480}), "jpeg"), {200, 200}).image.isNull());
     // A helper never leaves by itself: under a sanitizer that would be a finding in our own code.
     EXPECT_EQ(pool.counts().exited, 0U);
     EXPECT_EQ(pool.counts().badAnswers, 0U);
@@ -33,7 +33,7 @@ TEST(Hostile, CorpusOfBrokenFiles_LeavesThePoolSound) {
         GTEST_SKIP() << "no corpus";
     }
     DecodePoolOptions options = poolOptions(2);
-    options.thumbnailDeadline = options.pictureDeadline = seconds(2);
+    options.thumbnailDeadline = seconds(2);
     DecodePool pool(options);
     const QStringList files = filesBelow(corpusFolder() + QStringLiteral("/files/hostile"));
     ASSERT_FALSE(files.isEmpty());
@@ -151,10 +151,8 @@ constexpr int kLargeSide = 9000;
 constexpr std::array kTooLargeSides{13000, 65000};
 
 TEST(Hostile, HugeClaims_AreRefusedForTheirSize) {
-    DecodePoolOptions options = poolOptions(1);
-    // Long enough to fill all that is claimed, so that it is not the deadline that refuses.
-    options.thumbnailDeadline = std::chrono::minutes(1);
-    DecodePool pool(options);
+    // With time to fill all that is claimed, so that it is not the deadline that refuses.
+    DecodePool pool(poolOptions(1));
     for (const auto& claiming : {pngClaiming, bmpClaiming}) {
         SCOPED_TRACE(claiming == pngClaiming ? "PNG" : "BMP");
         EXPECT_FALSE(pool.thumbnail(claiming(kLargeSide)).isEmpty());
@@ -168,9 +166,7 @@ TEST(Hostile, HugeClaims_AreRefusedForTheirSize) {
 
 // A JPEG is read at an eighth of its size, which any claim fits.
 TEST(Hostile, HugeClaimOfAJpeg_ShowsWhatIsThere) {
-    DecodePoolOptions options = poolOptions(1);
-    options.thumbnailDeadline = std::chrono::minutes(1);
-    DecodePool pool(options);
+    DecodePool pool(poolOptions(1));
     const QImage shown = QImage::fromData(pool.thumbnail(jpegClaiming(65500)));
     EXPECT_EQ(shown.size(), QSize(kThumbnailSide, kThumbnailSide));
     EXPECT_EQ(pool.counts().started, 1U);

@@ -16,6 +16,7 @@ namespace vantor::test {
 inline MovieReaderOptions movieOptions() {
     MovieReaderOptions chosen;
     chosen.helper = QStringLiteral(VANTOR_MOVIE_HELPER);
+    chosen.startDeadline = chosen.openDeadline = chosen.frameDeadline = kPatience;
     return chosen;
 }
 

@@ -57,8 +57,7 @@ TEST(HelperProcess, EndsWithTheProgramEvenWhereItHangs) {
     ASSERT_EQ(pipe(ends), 0);
     const pid_t program = fork();
     if (program == 0) {
-        const auto helper =
-            decode::HelperProcess::start(QStringLiteral(VANTOR_DECODE_HELPER), std::chrono::seconds(10));
+        const auto helper = decode::HelperProcess::start(QStringLiteral(VANTOR_DECODE_HELPER), kPatience);
         const pid_t pid = helper ? helper->pid() : -1;
         [[maybe_unused]] const ssize_t told = write(ends[1], &pid, sizeof pid);
         pause();
@@ -73,7 +72,8 @@ TEST(HelperProcess, EndsWithTheProgramEvenWhereItHangs) {
     stopProcess(helper);
     kill(program, SIGKILL);
     waitpid(program, nullptr, 0);
-    for (int i = 0; i < 1000 && !isDead(helper); ++i) {
+    const auto until = std::chrono::steady_clock::now() + kPatience;
+    while (!isDead(helper) && std::chrono::steady_clock::now() < until) {
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }
     EXPECT_TRUE(isDead(helper));

@@ -2,11 +2,10 @@
 #include <gtest/gtest.h>
 #include <signal.h>
 
-#include <thread>
-
 #include "decode/SoundReader.h"
 #include "tests/decode/MovieFixtures.h"
 #include "tests/decode/Tones.h"
+#include "tests/decode/WatchedThread.h"
 
 namespace vantor {
 namespace {
@@ -165,8 +164,10 @@ TEST_F(Sound, Cancel_FreesAReaderThatWaits) {
     const auto reader = SoundReader::open(written(tones(3), QStringLiteral("dprv.WAV")), patient);
     ASSERT_TRUE(reader && reader->next());
     stopProcess(reader->helperPid());
-    std::thread canceller([&] {
-        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    // The helper lives and ends with the thread that asks it, so it is another one that cancels.
+    const pid_t asking = gettid();
+    WatchedThread canceller([&] {
+        awaitThreadAsleepIn(asking, kAskingAHelper);
         cancel.raise();
     });
     EXPECT_FALSE(reader->next());

@@ -25,6 +25,20 @@ inline const std::vector<long> kAskingAHelper{SYS_ppoll};
 #endif
 inline const std::vector<long> kWaitingForAHelper{SYS_futex};
 
+// Where a thread of this process sleeps; -1 while it runs.
+inline long callOfThread(pid_t thread) {
+    const QByteArray place = bytesOfFile(QStringLiteral("/proc/self/task/%1/syscall").arg(thread));
+    bool sleeps = false;
+    const long call = place.left(place.indexOf(' ')).toLong(&sleeps);
+    return sleeps ? call : -1;
+}
+
+inline void awaitThreadAsleepIn(pid_t thread, const std::vector<long>& calls) {
+    while (std::ranges::find(calls, callOfThread(thread)) == calls.end()) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+}
+
 class WatchedThread {
   public:
     template <typename Work>
@@ -37,7 +51,7 @@ class WatchedThread {
 
     // Returns when the thread sleeps in one of these system calls, or has come to its end.
     void awaitAsleepIn(const std::vector<long>& calls) const {
-        while (!m_ended && std::ranges::find(calls, currentCall()) == calls.end()) {
+        while (!m_ended && std::ranges::find(calls, callOfThread(m_id)) == calls.end()) {
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
         }
     }
@@ -45,14 +59,6 @@ class WatchedThread {
     void join() { m_thread.join(); }
 
   private:
-    // -1 while it runs.
-    long currentCall() const {
-        const QByteArray place = bytesOfFile(QStringLiteral("/proc/self/task/%1/syscall").arg(m_id));
-        bool sleeps = false;
-        const long call = place.left(place.indexOf(' ')).toLong(&sleeps);
-        return sleeps ? call : -1;
-    }
-
     std::atomic<pid_t> m_id{0};
     std::atomic<bool> m_ended{false};
     std::thread m_thread;  // last: it uses the others

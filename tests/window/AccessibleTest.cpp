@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QProgressBar>
+#include <QSignalSpy>
 
 #include "results/RecoveryMode.h"
 #include "tests/window/WindowTest.h"
@@ -143,9 +144,9 @@ class ByReader : public Accessible, public ::testing::WithParamInterface<int> {
     }
     // A button that is pressed so stays down for a moment before it clicks.
     static void press(QWidget* button) {
-        act(button, QAccessibleActionInterface::pressAction());
-        constexpr int kLongerThanAPress = 150;
-        QTest::qWait(kLongerThanAPress);
+        const QSignalSpy clicked(qobject_cast<QAbstractButton*>(button), &QAbstractButton::clicked);
+        ASSERT_NO_FATAL_FAILURE(act(button, QAccessibleActionInterface::pressAction()));
+        ASSERT_TRUE(waitFor([&] { return !clicked.isEmpty(); }));
     }
     static void choose(QWidget* button) { act(button, QAccessibleActionInterface::toggleAction()); }
     static void selectRow(QWidget* list, int row) { face(list)->tableInterface()->selectRow(row); }
@@ -186,7 +187,7 @@ TEST_P(ByReader, FromTheMediumToASavedFile) {
     }
     answer(QStringLiteral("OK"));
     press(c.nextButton);
-    ASSERT_TRUE(waitFor([this] { return answers.allGiven() && !controller->scanRunning(); }));
+    ASSERT_TRUE(scanEnds());
 
     ImageBrowserView* browser = photo ? c.imageBrowser : c.imageBrowser_2;
     ASSERT_GE(face(browser)->tableInterface()->rowCount(), 2);

@@ -176,12 +176,12 @@ TEST_F(BrowserLooks, TheEndOfTheProgram_DoesNotWaitForAMediumThatHangs) {
     openResults();
     toFileTypes(kRawFileMode);
     cardBeside = card;
-    cardBeside.beforeRead = [&gate](std::uint64_t) { gate.pass(); };
+    cardBeside.beforeRead = gate.atEveryRead();
     scanToEnd();
     ASSERT_TRUE(waitFor([&] { return gate.someoneWaits(); }));
     EXPECT_FALSE(controller->shutDown(std::chrono::milliseconds(50)));
     gate.open();
-    EXPECT_TRUE(controller->shutDown(std::chrono::seconds(5)));
+    EXPECT_TRUE(controller->shutDown(kPatience));
 }
 
 }  // namespace

@@ -43,7 +43,7 @@ class Browser : public WindowTest {
         controller->show_hide_1_screen(true);
         controller->show_hide_3_screen_Photo(false);
         controller->window->resize(1024, 720);
-        QTest::qWait(1);
+        settle();
     }
 
     int m_added = 0;
@@ -97,13 +97,13 @@ TEST_F(Browser, EverySixthPhotoScrollsToTheEnd) {
     open();
     showPhotoScreen();
     addPhotos(60);
-    QTest::qWait(1);
+    settle();
     ASSERT_GT(controller->imageBrowser->verticalScrollBar()->maximum(), 0);
     controller->imageBrowser->verticalScrollBar()->setValue(0);
     addPhotos(5);
     EXPECT_EQ(controller->imageBrowser->verticalScrollBar()->value(), 0) << "not in between";
     addPhotos(1);
-    QTest::qWait(1);
+    settle();
     EXPECT_TRUE(atEnd(controller->imageBrowser));
 }
 
@@ -139,7 +139,7 @@ TEST_F(Browser, EveryFourthRawItemScrollsToTheEnd) {
     for (int i = 0; i < 200; ++i) {
         addRaw(QStringLiteral("F%1.PDF").arg(i));
     }
-    QTest::qWait(1);
+    settle();
     ASSERT_GT(controller->imageBrowser_2->verticalScrollBar()->maximum(), 0);
     controller->imageBrowser_2->verticalScrollBar()->setValue(0);
     for (int i = 0; i < 3; ++i) {
@@ -147,7 +147,7 @@ TEST_F(Browser, EveryFourthRawItemScrollsToTheEnd) {
     }
     EXPECT_EQ(controller->imageBrowser_2->verticalScrollBar()->value(), 0);
     addRaw(QStringLiteral("LAST.PDF"));
-    QTest::qWait(1);
+    settle();
     EXPECT_TRUE(atEnd(controller->imageBrowser_2));
 }
 
@@ -206,7 +206,7 @@ TEST_F(Browser, SeveralItemsAreSelectedByKeyboard_AndTypingFindsOne) {
     open();
     showPhotoScreen();
     addPhotos(30);
-    QTest::qWait(1);
+    settle();
     ImageBrowserView* browser = controller->imageBrowser;
     browser->setFocus();
     browser->setCurrentIndex(browser->model()->index(0, 0));
@@ -224,7 +224,7 @@ TEST_F(Browser, WhereTheKeyboardStandsIsSeen) {
     open();
     showPhotoScreen();
     addPhotos(3);
-    QTest::qWait(1);
+    settle();
     controller->_stop_scan->setFocus();
     ImageBrowserView* browser = controller->imageBrowser;
     const QRect cell = browser->visualRect(browser->model()->index(0, 0));
@@ -241,9 +241,9 @@ TEST_F(Browser, HowManyAreSelectedCanBeReadInANarrowWindow) {
     controller->_zoom_slider->show();
     controller->window->resize(655, 490);  // 1024 x 768 at 144 dots an inch
     addPhotos(67);
-    QTest::qWait(1);
+    settle();
     controller->imageBrowser->selectAll();
-    QTest::qWait(1);
+    settle();
     EXPECT_EQ(controller->photoCountLabel->text(), QStringLiteral("67 of 67 selected"));
     EXPECT_GE(controller->photoCountLabel->width(), controller->photoCountLabel->sizeHint().width());
     EXPECT_FALSE(controller->bodyScroll->horizontalScrollBar()->isVisible());

@@ -46,13 +46,8 @@ class CorpusWindow : public WindowTest, public testing::WithParamInterface<Tail>
         }
         answers.press(QStringLiteral("OK"));
         click(controller->nextButton);
-        constexpr int kLongest = 120'000;
-        ASSERT_TRUE(waitFor(
-            [this] {
-                return answers.allGiven() && !controller->scanRunning() &&
-                       controller->backButton->isEnabled();
-            },
-            kLongest));
+        constexpr std::chrono::minutes kLongest{5};
+        ASSERT_TRUE(scanEnds(kLongest));
         controller->_path->setText(destination.path());
         controller->_path_Sig->setText(destination.path());
         answers.press(QStringLiteral("OK"));

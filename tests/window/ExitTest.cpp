@@ -134,7 +134,7 @@ TEST_F(Exit, DuringAScanToo_AsksAboutUnsavedItemsFirst) {
     EXPECT_EQ(terminations, 0);
     answers.press(QStringLiteral("OK"));
     gate.open();
-    EXPECT_TRUE(waitFor([this] { return answers.allGiven() && !controller->scanRunning(); }));
+    EXPECT_TRUE(scanEnds());
 }
 
 TEST_F(Exit, AfterStay_TheScanGoesOnAndNotificationsArrive) {
@@ -153,7 +153,7 @@ TEST_F(Exit, AfterStay_TheScanGoesOnAndNotificationsArrive) {
     ASSERT_EQ(answers.seen().size(), 1u) << "the exit question is not asked";
     answers.press(QStringLiteral("OK"));
     gate.open();
-    ASSERT_TRUE(waitFor([this] { return answers.allGiven() && !controller->scanRunning(); }));
+    ASSERT_TRUE(scanEnds());
     EXPECT_EQ(controller->itemCount(), 3u) << "both passes";
     EXPECT_EQ(controller->imageBrowser->model()->rowCount(), 3);
     answers.press(QStringLiteral("Go Back Without Saving"));

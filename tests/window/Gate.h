@@ -1,45 +1,63 @@
-// Holds a scripted medium's reads until the test lets them go.
+// Holds whoever comes to it until the test lets them go.
 #pragma once
 
 #include <condition_variable>
 #include <cstdint>
+#include <memory>
 #include <mutex>
 
 namespace vantor {
 
+// What is handed to other threads outlives the gate: a test that ended early leaves nobody waiting, and who
+// comes later finds it open.
 class Gate {
   public:
-    // The reading thread waits here while the gate is shut.
-    void pass() {
-        std::unique_lock lock(m_lock);
-        ++m_waiting;
-        m_changed.notify_all();
-        m_changed.wait(lock, [this] { return m_open; });
-        --m_waiting;
+    Gate() = default;
+    Gate(const Gate&) = delete;
+    Gate& operator=(const Gate&) = delete;
+    ~Gate() { open(); }
+
+    // To be called on the thread that is to wait here while the gate is shut.
+    auto passage() const {
+        return [state = m_state] { state->pass(); };
     }
-    // For a medium's `beforeRead`: passes at the read of that number.
-    auto atRead(std::uint64_t number) {
-        return [this, number](std::uint64_t read) {
+    // For a medium's `beforeRead`: passes at every read, or at the read of that number.
+    auto atEveryRead() const {
+        return [state = m_state](std::uint64_t) { state->pass(); };
+    }
+    auto atRead(std::uint64_t number) const {
+        return [state = m_state, number](std::uint64_t read) {
             if (read == number) {
-                pass();
+                state->pass();
             }
         };
     }
     void open() {
-        const std::lock_guard lock(m_lock);
-        m_open = true;
-        m_changed.notify_all();
+        const std::lock_guard lock(m_state->lock);
+        m_state->open = true;
+        m_state->changed.notify_all();
     }
     bool someoneWaits() const {
-        const std::lock_guard lock(m_lock);
-        return m_waiting > 0;
+        const std::lock_guard lock(m_state->lock);
+        return m_state->waiting > 0;
     }
 
   private:
-    mutable std::mutex m_lock;
-    std::condition_variable m_changed;
-    bool m_open = false;
-    int m_waiting = 0;
+    struct State {
+        void pass() {
+            std::unique_lock guard(lock);
+            ++waiting;
+            changed.wait(guard, [this] { return open; });
+            --waiting;
+        }
+
+        std::mutex lock;
+        std::condition_variable changed;
+        bool open = false;
+        int waiting = 0;
+    };
+
+    const std::shared_ptr<State> m_state = std::make_shared<State>();
 };
 
 }  // namespace vantor

@@ -12,6 +12,8 @@
 namespace vantor {
 namespace {
 
+constexpr int kPatienceMs = 60'000;  // beyond which a test fails rather than waits
+
 // The middle of the rows in which something is painted between two columns; -1 where nothing is.
 int middleOfInk(const QImage& picture, int left, int right) {
     int first = -1, last = -1;
@@ -81,13 +83,14 @@ TEST(HintLabel, SignMovesWithTheWords) {
     label.setText(QStringLiteral("one\ntwo\nthree"));
     label.resize(300, 80);
     label.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&label));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&label, kPatienceMs));
     QApplication::processEvents();
     PaintedRegion painted;
     label.installEventFilter(&painted);
     label.setText(QStringLiteral("\none"));
     EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return painted.region.subtracted(QRect(20, 0, 280, 80)) == QRegion(0, 0, 20, 80); }));
+        [&] { return painted.region.subtracted(QRect(20, 0, 280, 80)) == QRegion(0, 0, 20, 80); },
+        kPatienceMs));
 }
 
 }  // namespace vantor

@@ -23,10 +23,7 @@ class LeftItems : public WindowTest, public ::testing::WithParamInterface<int> {
         card.beforeRead = [this](std::uint64_t) { refuseOpen = true; };
         answers.press(QStringLiteral("OK"));
         click(controller->nextButton);
-        ASSERT_TRUE(waitFor([this] {
-            return answers.allGiven() && !controller->scanRunning() && controller->backButton->isEnabled();
-        }));
-        QTest::qWait(60);  // the last steps of the scan
+        ASSERT_TRUE(scanEnds());
         ASSERT_EQ(answers.seen().back().text, QStringLiteral("\nError in storage media reading."));
         ASSERT_EQ(controller->screen_counter, screenBefore());
         found = controller->itemCount();
@@ -66,6 +63,27 @@ TEST_P(LeftItems, TheScreenTellsOfThemAndLeadsToThem) {
     EXPECT_EQ(controller->screen_counter, screenBefore());
     EXPECT_EQ(controller->itemCount(), 0u);
     EXPECT_FALSE(controller->leftItemsBar->isVisible());
+}
+
+// The alert is gone, and the scan's threads are still on their way to their end.
+TEST_P(LeftItems, WhoGoesToThemAtOnce_FindsTheTypesCounted) {
+    openWithCard();
+    photo() ? toRange(GetParam()) : toFileTypes(GetParam());
+    card.beforeRead = [this](std::uint64_t) { refuseOpen = true; };
+    answers.then([this](QDialog* alert) {
+        alert->reject();
+        click(controller->showItemsButton);
+    });
+    click(controller->nextButton);
+    ASSERT_TRUE(scanEnds());
+    EXPECT_EQ(controller->screen_counter, screenBefore() + 1);
+    EXPECT_EQ(browser()->model()->rowCount(), static_cast<int>(controller->itemCount()));
+    std::uint64_t counted = 0;
+    for (const ResultRow& row : controller->resultRows()) {
+        counted += countOf(row);
+    }
+    EXPECT_EQ(counted, photo() ? 0 : controller->itemCount());
+    EXPECT_EQ(controller->_help_info->text(), ScanSession::endHelp());
 }
 
 TEST_P(LeftItems, AnotherScan_AsksBeforeItTakesTheirPlace_Once) {

@@ -25,7 +25,7 @@ class MoviePreview : public WindowTest {
         for (const char* name : {"A.MP4", "B.MP4"}) {
             controller->addImageWithData_2({}, QString::fromLatin1(name), QString::fromLatin1(name), 40, 42);
         }
-        QTest::qWait(1);
+        settle();
     }
     void select(int row) {
         ImageBrowserView* browser = controller->imageBrowser_2;
@@ -151,7 +151,7 @@ TEST_F(MoviePreview, ThePosition_IsShownAndCanBeChosen) {
 TEST_F(MoviePreview, AHandleThatIsHeld_StaysInTheHand) {
     openResults();
     select(0);
-    QTest::qWait(1);
+    settle();
     auto* slider = control<QSlider>("moviePosition");
     const QPoint handle(4, slider->height() / 2);
     QTest::mousePress(slider, Qt::LeftButton, {}, handle);
@@ -194,7 +194,7 @@ TEST_F(MoviePreview, WithoutPictures_ASignOfSoundIsDrawn) {
     }
     EXPECT_GT(drawn, 20);
     EXPECT_LT(drawn, shown.width() - 20);
-    QTest::qWait(1);
+    settle();
     EXPECT_FALSE(
         control<QLabel>("movieTimes")->geometry().intersects(control<QToolButton>("movieMute")->geometry()));
 }

@@ -111,7 +111,7 @@ TEST_F(Panels, TheEndPanelFollowsTheMode) {
             pressButton(dialog, QStringLiteral("OK"));
         });
         click(controller->nextButton);
-        ASSERT_TRUE(waitFor([this] { return answers.allGiven() && !controller->scanRunning(); }));
+        ASSERT_TRUE(scanEnds());
         EXPECT_TRUE(expected);
         answers.press(QStringLiteral("Go Back Without Saving"));
         while (controller->screen_counter > 0) {

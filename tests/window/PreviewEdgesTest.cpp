@@ -46,12 +46,13 @@ TEST_F(Preview, TheLastPicture_IsGoneWhileTheNextIsCopied) {
     openResults({{"A.PDF", 24, 27}, {"B.PDF", 28, 29}});
     select(0);
     ASSERT_FALSE(controller->_QuickLook_View->pixmap().isNull());
-    card.beforeRead = [&gate](std::uint64_t) { gate.pass(); };
+    card.beforeRead = gate.atEveryRead();
     bool cleared = false;
-    QTimer::singleShot(50, [&] {
-        cleared = controller->_QuickLook_View->pixmap().isNull();
-        gate.open();
-    });
+    when([&] { return gate.someoneWaits(); },
+         [&] {
+             cleared = controller->_QuickLook_View->pixmap().isNull();
+             gate.open();
+         });
     select(1);
     EXPECT_TRUE(cleared);
     EXPECT_FALSE(controller->_QuickLook_View->pixmap().isNull());
@@ -64,12 +65,13 @@ TEST_F(Preview, AMovie_IsGoneWhileTheNextIsCopied) {
     openResults({{"A.MP4", 24, 27}, {"B.MP4", 28, 29}}, kVideoMode);
     select(0);
     controller->mMovieView->togglePlaying();
-    card.beforeRead = [&gate](std::uint64_t) { gate.pass(); };
+    card.beforeRead = gate.atEveryRead();
     int alive = 1;
-    QTimer::singleShot(50, [&] {
-        alive = log.alive;
-        gate.open();
-    });
+    when([&] { return gate.someoneWaits(); },
+         [&] {
+             alive = log.alive;
+             gate.open();
+         });
     select(1);
     EXPECT_EQ(alive, 0);
     EXPECT_EQ(log.stops, 1);

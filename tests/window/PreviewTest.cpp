@@ -115,18 +115,19 @@ TEST_F(Preview, APicture_IsShownFramedAndNoLargerThanThePane) {
 TEST_F(Preview, TheSheetHangsWhileSectorsAreCopied_AndTheWindowTakesNoInput) {
     Gate gate;
     openResults({{"A.PDF", 24, 27}, {"B.PDF", 28, 29}});
-    card.beforeRead = [&gate](std::uint64_t) { gate.pass(); };
+    card.beforeRead = gate.atEveryRead();
     bool sheetSeen = false, sessionSeen = false;
     int openedMeanwhile = 0;
-    QTimer::singleShot(50, [&] {
-        sheetSeen = controller->ClearPreview_Window->isVisible();
-        sessionSeen = controller->session;
-        select(1);
-        controller->backButton->setEnabled(true);
-        click(controller->backButton);
-        openedMeanwhile = opened;
-        gate.open();
-    });
+    when([&] { return gate.someoneWaits(); },
+         [&] {
+             sheetSeen = controller->ClearPreview_Window->isVisible();
+             sessionSeen = controller->session;
+             select(1);
+             controller->backButton->setEnabled(true);
+             click(controller->backButton);
+             openedMeanwhile = opened;
+             gate.open();
+         });
     select(0);
     EXPECT_TRUE(sheetSeen);
     EXPECT_TRUE(sessionSeen);
@@ -154,7 +155,7 @@ TEST_F(Preview, StopDuringTheCopy_PreviewsWhatIsThereAndEndsTheScan) {
 TEST_F(Preview, AScanThatEndsWhileAPreviewIsCopied_ShowsItsEndAfterwards) {
     Gate scanGate, copyGate;
     ScriptedMedium copied{64};
-    copied.beforeRead = [&copyGate](std::uint64_t) { copyGate.pass(); };
+    copied.beforeRead = copyGate.atEveryRead();
     card.beforeRead = scanGate.atRead(60);
     std::atomic<int> openings{0};
     parts.openMedium = [&](const QString&) {
@@ -165,13 +166,12 @@ TEST_F(Preview, AScanThatEndsWhileAPreviewIsCopied_ShowsItsEndAfterwards) {
     click(controller->nextButton);
     ASSERT_TRUE(waitFor(
         [&] { return scanGate.someoneWaits() && controller->imageBrowser_2->model()->rowCount() >= 1; }));
-    QTimer::singleShot(100, [&] {
-        scanGate.open();
-        QTimer::singleShot(200, [&] { copyGate.open(); });
-    });
+    when([&] { return copyGate.someoneWaits(); }, [&] { scanGate.open(); });
+    // What a scan says last when it leaves its end to a preview.
+    when([this] { return controller->stop_now == 1; }, [&] { copyGate.open(); });
     answers.press(QStringLiteral("OK"));
     select(0);
-    EXPECT_TRUE(waitFor([this] { return answers.allGiven() && !controller->scanRunning(); }));
+    EXPECT_TRUE(scanEnds());
     EXPECT_EQ(openings, 3);
     EXPECT_EQ(answers.seen().size(), 1u);
     EXPECT_TRUE(controller->backButton->isEnabled());
@@ -192,7 +192,7 @@ TEST_F(Preview, AnItemSelectedBetweenStopAndTheEnd_LeavesTheEndToTheScan) {
     EXPECT_FALSE(controller->backButton->isEnabled());
     answers.press(QStringLiteral("OK"));
     scanGate.open();
-    EXPECT_TRUE(waitFor([this] { return answers.allGiven() && !controller->scanRunning(); }));
+    EXPECT_TRUE(scanEnds());
     EXPECT_EQ(answers.seen().size(), 1u) << "the end panel comes once";
     EXPECT_EQ(controller->lastOutcome(), PassOutcome::Stopped);
 }
@@ -200,16 +200,17 @@ TEST_F(Preview, AnItemSelectedBetweenStopAndTheEnd_LeavesTheEndToTheScan) {
 TEST_F(Preview, ExitDuringACopyThatHangs_IsPossible) {
     Gate gate;
     openResults({{"A.PDF", 24, 27}});
-    card.beforeRead = [&gate](std::uint64_t) { gate.pass(); };
+    card.beforeRead = gate.atEveryRead();
     answers.press(QStringLiteral("Exit Without Saving"));
     answers.press(QStringLiteral("Yes"));
-    QTimer::singleShot(50, [&] {
-        click(controller->exitButton);
-        gate.open();
-    });
+    when([&] { return gate.someoneWaits(); },
+         [&] {
+             click(controller->exitButton);
+             gate.open();
+         });
     select(0);
     EXPECT_EQ(terminations, 1);
-    EXPECT_TRUE(controller->shutDown(std::chrono::seconds(5)));
+    EXPECT_TRUE(controller->shutDown(kPatience));
     EXPECT_FALSE(QFileInfo::exists(folder.filePath(QStringLiteral("dprv.PDF"))));
 }
 
@@ -244,7 +245,7 @@ TEST_F(Preview, TheControlsOfSound_LieInViewUnderItsPicture) {
     parts.sound = [&log](const QString&) { return std::make_unique<ScriptedMovie>(log); };
     openResults({{"A.MP3", 24, 27}});
     select(0);
-    QTest::qWait(1);
+    settle();
     const QWidget* const controls = controller->soundControls;
     const QWidget* const box = controller->_QuickLook_View_Box;
     EXPECT_TRUE(box->rect().contains(controls->geometry()));

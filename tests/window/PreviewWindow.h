@@ -24,7 +24,7 @@ class Preview : public WindowTest {
             controller->addImageWithData_2({}, QString::fromLatin1(name), QString::fromLatin1(name), start,
                                            end);
         }
-        QTest::qWait(1);
+        settle();
         opened = 0;
     }
     void select(int row) {

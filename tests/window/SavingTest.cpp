@@ -37,7 +37,6 @@ class Saving : public WindowTest {
             pressButton(panel, QStringLiteral("OK"));
         });
         click(controller->savingOptionsButton);
-        QTest::qWait(20);  // whoever answers dialogs sees that it is gone
     }
     static void tick(QDialog* panel, const char* box) {
         panel->findChild<QCheckBox*>(QLatin1String(box))->click();
@@ -242,11 +241,8 @@ TEST_F(Saving, TheSheetSaysHowFarItIs_AndCancelEndsIt) {
     openPhotoResults();
     destinationIs(destination.path());
     Gate gate;
-    card.beforeRead = [&gate, first = card.reads](std::uint64_t read) {
-        if (read == first + 70) {  // the first was followed to the card's end: in the midst of the second
-            gate.pass();
-        }
-    };
+    // The first was followed to the card's end: in the midst of the second.
+    card.beforeRead = gate.atRead(card.reads + 70);
     QString heading, file;
     QTimer look;
     QObject::connect(&look, &QTimer::timeout, [&] {

@@ -63,14 +63,14 @@ TEST_F(ScanThreads, TheWindowAnswersWhileTheMediumDoesNot) {
     EXPECT_EQ(terminations, 0);
     answers.press(QStringLiteral("OK"));
     gate.open();
-    EXPECT_TRUE(waitFor([this] { return answers.allGiven() && !controller->scanRunning(); }));
+    EXPECT_TRUE(scanEnds());
 }
 
 TEST_F(ScanThreads, ExitDuringAScan_IsNotHeldUpByAMediumThatHangs) {
     Gate gate;
     openWithCard();
     toRange(kPhotoMode);
-    card.beforeRead = [&gate](std::uint64_t) { gate.pass(); };
+    card.beforeRead = gate.atEveryRead();
     click(controller->nextButton);
     ASSERT_TRUE(waitFor([&] { return gate.someoneWaits(); }));
     answers.press(QStringLiteral("Yes"));
@@ -79,7 +79,7 @@ TEST_F(ScanThreads, ExitDuringAScan_IsNotHeldUpByAMediumThatHangs) {
     EXPECT_FALSE(controller->shutDown(std::chrono::milliseconds(50)))
         << "the hanging thread is reported, not awaited";
     gate.open();
-    EXPECT_TRUE(controller->shutDown(std::chrono::seconds(5)));
+    EXPECT_TRUE(controller->shutDown(kPatience));
     EXPECT_FALSE(controller->scanRunning());
 }
 
@@ -94,14 +94,13 @@ TEST_F(ScanThreads, ClosingDuringAnAlertOfTheScan_EndsTheProgram) {
     });
     click(controller->nextButton);
     ASSERT_TRUE(waitFor([this] { return terminations == 1 && answers.allGiven(); }));
-    EXPECT_TRUE(controller->shutDown(std::chrono::seconds(5)));
+    EXPECT_TRUE(controller->shutDown(kPatience));
 }
 
 TEST_F(ScanThreads, TheEndScreenComesOnceWhoeverAsks) {
     openWithCard();
     toRange(kPhotoMode);
     scanToEnd();
-    QTest::qWait(120);
     EXPECT_EQ(answers.seen().size(), 1u);
 }
 

@@ -35,7 +35,7 @@ class PlayedSound : public Played {
 };
 
 TEST_F(PlayedSound, PlaysStopsAndGoesOnWhereItStood) {
-    openSound(5);
+    ASSERT_NO_FATAL_FAILURE(openSound(5));
     EXPECT_EQ(sound->durationMs(), 5000);
     EXPECT_TRUE(sound->hasSound());
     EXPECT_TRUE(sound->poster().isNull());
@@ -44,25 +44,23 @@ TEST_F(PlayedSound, PlaysStopsAndGoesOnWhereItStood) {
     sound->onProgress = [&] { ++told; };
     sound->play();
     ASSERT_TRUE(listenUntil(1000));
-    EXPECT_NEAR(static_cast<double>(sound->positionMs()), static_cast<double>(heard.played) / 48, 150);
+    EXPECT_LE(sound->positionMs(), heard.played / 48) << "no further than what was heard";
     EXPECT_GT(loudest, 10'000);
     EXPECT_GT(told, 3);
     sound->stop();
     EXPECT_FALSE(heard.playing);
     EXPECT_EQ(sound->rate(), 0);
     const std::int64_t stoodAt = sound->positionMs();
-    QTest::qWait(120);
-    EXPECT_FALSE(heard.playing);
-    EXPECT_EQ(sound->positionMs(), stoodAt);
     sound->play();
     EXPECT_EQ(sound->positionMs(), stoodAt);
     ASSERT_TRUE(listenUntil(stoodAt + 200));
+    EXPECT_EQ(heard.starts, 2) << "nothing sounded in between";
     sound.reset();
     EXPECT_EQ(heard.alive, 0);
 }
 
 TEST_F(PlayedSound, Sought_PlaysFromThere) {
-    openSound(5);
+    ASSERT_NO_FATAL_FAILURE(openSound(5));
     sound->seek(3000);
     EXPECT_EQ(sound->positionMs(), 3000);
     EXPECT_FALSE(heard.playing) << "what stands goes on standing";
@@ -80,7 +78,7 @@ TEST_F(PlayedSound, Sought_PlaysFromThere) {
 }
 
 TEST_F(PlayedSound, AtItsEnd_ItStandsThereAndBeginsAnew) {
-    openSound(2);
+    ASSERT_NO_FATAL_FAILURE(openSound(2));
     sound->seek(1500);
     sound->play();
     ASSERT_TRUE(listenUntil(60'000));
@@ -94,7 +92,7 @@ TEST_F(PlayedSound, AtItsEnd_ItStandsThereAndBeginsAnew) {
 }
 
 TEST_F(PlayedSound, Muted_PlaysOnUnheard) {
-    openSound(3);
+    ASSERT_NO_FATAL_FAILURE(openSound(3));
     sound->setMuted(true);
     EXPECT_TRUE(sound->isMuted());
     sound->play();
@@ -107,13 +105,13 @@ TEST_F(PlayedSound, Muted_PlaysOnUnheard) {
 
 TEST_F(PlayedSound, WithoutADevice_ItStopsWhereItStands) {
     heard.broken = true;
-    openSound(3);
+    ASSERT_NO_FATAL_FAILURE(openSound(3));
     sound->seek(1000);
     bool told = false;
     sound->onProgress = [&] { told = sound->rate() == 0; };
     sound->play();
     EXPECT_NE(sound->rate(), 0);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return told; }, 10000));
+    ASSERT_TRUE(waitFor([&] { return told; }));
     EXPECT_EQ(sound->positionMs(), 1000);
     HelperMovieOptions none = options();
     none.sound = nullptr;

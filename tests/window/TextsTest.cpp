@@ -117,7 +117,7 @@ TEST_F(Start, InTooSmallAWindow_TheScreenScrollsAndTheButtonsStay) {
     toRange(kPhotoMode);
     const QSize small(720, 480);
     controller->window->resize(small);
-    QTest::qWait(10);
+    settle();
     EXPECT_EQ(controller->window->size(), small);
     EXPECT_TRUE(controller->bodyScroll->verticalScrollBar()->isVisible());
     for (const QPushButton* button :
@@ -158,7 +158,7 @@ TEST_F(Start, FitsASmallScreenAndALargeOne) {
     };
     for (const QSize size : {QSize(1024, 720), QSize(3840, 2160)}) {
         controller->window->resize(size);
-        QTest::qWait(10);
+        settle();
         EXPECT_EQ(controller->window->size(), size) << "the window does not get that small";
         nothingIsCutOff();
     }
@@ -166,13 +166,13 @@ TEST_F(Start, FitsASmallScreenAndALargeOne) {
     for (const int mode : {kPhotoMode, kRawFileMode}) {
         toRange(mode);
         choose(mode == kPhotoMode ? controller->_sector_range_rd : controller->_sector_range_rd_Sig);
-        QTest::qWait(10);
+        settle();
         EXPECT_EQ(controller->window->size(), QSize(1024, 720));
         nothingIsCutOff();
         click(controller->backButton);
     }
     toFileTypes(kRawFileMode);
-    QTest::qWait(10);
+    settle();
     EXPECT_EQ(controller->window->size(), QSize(1024, 720));
     nothingIsCutOff();
     scanToEnd();

@@ -14,6 +14,8 @@ namespace vantor {
 
 namespace {
 
+constexpr int kPollMilliseconds = 5;
+
 class Application : public ::testing::Environment {
   public:
     void SetUp() override {
@@ -64,7 +66,6 @@ void ScriptedSource::add(const QString& identifier, const QString& name, quint64
 }
 
 DialogAnswers::DialogAnswers() {
-    constexpr int kPollMilliseconds = 5;
     QObject::connect(&m_poll, &QTimer::timeout, [this] { look(); });
     m_poll.start(kPollMilliseconds);
 }
@@ -82,6 +83,10 @@ void DialogAnswers::look() {
         return;
     }
     m_handled.append(dialog);
+    // It may come up again before the next look.
+    QObject::connect(
+        dialog, &QDialog::finished, &m_poll, [this, dialog] { m_handled.removeAll(dialog); },
+        Qt::SingleShotConnection);
     m_seen.push_back(describe(dialog));
     if (m_answers.empty()) {
         ++m_unexpected;
@@ -131,13 +136,19 @@ WindowTest::WindowTest() {
                 folder.filePath(QStringLiteral("NoPreview.png")));
 }
 
-WindowTest::~WindowTest() {
+void WindowTest::TearDown() {
+    qDeleteAll(m_watches.children());
     const QString shots = qEnvironmentVariable("VANTOR_SHOTS");
     if (controller && !shots.isEmpty()) {
         const auto* test = ::testing::UnitTest::GetInstance()->current_test_info();
         QString name =
             QString::fromLatin1(test->test_suite_name()) + u'.' + QString::fromLatin1(test->name());
         controller->window->grab().save(shots + u'/' + name.replace(u'/', u'_') + QStringLiteral(".png"));
+    }
+    if (controller && !controller->shutDown(kPatience)) {
+        ADD_FAILURE() << "a thread of the window hangs";
+        // Left behind, so that the other tests are still heard.
+        [[maybe_unused]] const auto* const left = controller.release();
     }
     controller.reset();
     EXPECT_EQ(answers.unexpected(), 0) << "a dialog came up that the test does not know of";
@@ -148,9 +159,9 @@ void WindowTest::open() {
     controller = std::make_unique<MyTableController>(parts);
     controller->awakeFromNib();
     // The sheet that hung over the window took the activation with it.
-    QTest::qWait(5);
+    settle();
     controller->window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(controller->window));
+    ASSERT_TRUE(waitFor([this] { return controller->window->isActiveWindow(); }));
 }
 
 void WindowTest::openWithCard() {
@@ -179,8 +190,26 @@ void WindowTest::click(QWidget* widget) {
     QTest::mouseClick(widget, Qt::LeftButton, {}, place);
 }
 
-bool WindowTest::waitFor(const std::function<bool()>& condition, int milliseconds) {
-    return QTest::qWaitFor(condition, milliseconds);
+bool WindowTest::waitFor(const std::function<bool()>& condition, std::chrono::milliseconds patience) {
+    return QTest::qWaitFor(condition, static_cast<int>(patience.count()));
+}
+
+void WindowTest::when(std::function<bool()> condition, std::function<void()> action) {
+    auto* const look = new QTimer(&m_watches);
+    QObject::connect(look, &QTimer::timeout, look, [=] {
+        if (condition()) {
+            look->stop();
+            action();
+        }
+    });
+    look->start(kPollMilliseconds);
+}
+
+void WindowTest::settle() {
+    constexpr int kRounds = 8;  // more than layouts and zero timers set off one another
+    for (int round = 0; round < kRounds; ++round) {
+        QGuiApplication::sync();
+    }
 }
 
 void WindowTest::selectMedium(int row) {
@@ -205,9 +234,11 @@ void WindowTest::toFileTypes(int mode) {
 void WindowTest::scanToEnd() {
     answers.press(QStringLiteral("OK"));
     click(controller->nextButton);
-    ASSERT_TRUE(waitFor([this] {
-        return answers.allGiven() && !controller->scanRunning() && controller->backButton->isEnabled();
-    }));
+    ASSERT_TRUE(scanEnds());
+}
+
+bool WindowTest::scanEnds(std::chrono::milliseconds patience) {
+    return waitFor([this] { return answers.allGiven() && !controller->scanShown(); }, patience);
 }
 
 void WindowTest::writeCatalogue(const char* name, const QByteArray& records) {

@@ -10,6 +10,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <chrono>
 #include <deque>
 #include <functional>
 #include <memory>
@@ -86,10 +87,14 @@ void pressButton(QDialog* dialog, const QString& text);
 // Types the folder into a folder chooser and accepts it.
 void chooseFolder(QDialog* chooser, const QString& folder);
 
+// Beyond which a test fails rather than waits: longer than anything takes on the busiest machine.
+constexpr std::chrono::minutes kPatience{1};
+
 class WindowTest : public ::testing::Test {
   protected:
     WindowTest();
-    ~WindowTest() override;
+    // Ends the window while what the tests of a fixture share is still there for its threads.
+    void TearDown() override;
 
     // Makes the controller; media and catalogues have to be there.
     void open();
@@ -100,14 +105,20 @@ class WindowTest : public ::testing::Test {
 
     static void click(QWidget* widget);
     static void choose(QAbstractButton* card) { click(card); }
-    static bool waitFor(const std::function<bool()>& condition, int milliseconds = 10000);
+    static bool waitFor(const std::function<bool()>& condition,
+                        std::chrono::milliseconds patience = kPatience);
+    // Does this once the condition holds, also from within a modal loop that the test is held up in.
+    void when(std::function<bool()> condition, std::function<void()> action);
+    // Returns when events and layouts have had their turn: rounds of the loop, however long they take.
+    static void settle();
 
     void selectMedium(int row = 0);
     // From the first screen: the medium, the mode, Next.
     void toRange(int mode);
     void toFileTypes(int mode);
-    // Next, the scan, the end panel, until its threads have ended.
+    // Next, the scan, the end panel, until the window has done all that it does at the end of a scan.
     void scanToEnd();
+    bool scanEnds(std::chrono::milliseconds patience = kPatience);
 
     void writeCatalogue(const char* name, const QByteArray& records);
     static QByteArray record(const char* extension, const char* header, const char* description,
@@ -123,6 +134,9 @@ class WindowTest : public ::testing::Test {
     int terminations = 0;
     DialogAnswers answers;
     std::unique_ptr<MyTableController> controller;
+
+  private:
+    QObject m_watches;  // the timers of when()
 };
 
 }  // namespace vantor

@@ -52,6 +52,7 @@ void HelperMovie::play() {
 void HelperMovie::stop() {
     const std::lock_guard lock(m_worker.lock);
     m_playing = false;
+    ++m_stops;
     if (m_sound) {
         m_sound->stop();
     }
@@ -144,7 +145,7 @@ void HelperMovie::run(const QString& file, QSize largest, const HelperMovieOptio
         if (target) {
             goTo(*reader, *target);
         } else {
-            playFrames(*reader);
+            playFrames(*reader, options.soundPatience);
         }
     }
 }
@@ -178,6 +179,7 @@ void HelperMovie::goTo(MovieReader& reader, std::int64_t timeMs) {
 // Where the movie goes on from; what is heard begins there as well.
 std::int64_t HelperMovie::startSound() {
     const std::lock_guard lock(m_worker.lock);
+    m_turn = m_stops;
     if (m_sound && goesOn()) {
         m_sound->start(m_positionMs);
     }
@@ -185,9 +187,9 @@ std::int64_t HelperMovie::startSound() {
 }
 
 // Until the movie is stopped, sought in, or at its end, where it begins anew the next time.
-void HelperMovie::playFrames(MovieReader& reader) {
+void HelperMovie::playFrames(MovieReader& reader, milliseconds soundPatience) {
     const std::int64_t begun = startSound();
-    PlaybackClock<SoundPlayer> clock(begun, m_sound.get(), Clock::now());
+    PlaybackClock<SoundPlayer> clock(begun, m_sound.get(), Clock::now(), soundPatience);
     const auto waitUntil = [&](const auto& reached) {
         std::unique_lock lock(m_worker.lock);
         while (goesOn() && !reached()) {

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QTimer>
 #include <atomic>
+#include <chrono>
 #include <memory>
 #include <optional>
 
@@ -18,6 +19,8 @@ namespace vantor {
 struct HelperMovieOptions {
     SoundDeviceMaker sound;  // none: every movie is silent
     MovieReaderOptions reader;
+    // A device that takes nothing for this long does not lead the pictures any more.
+    std::chrono::milliseconds soundPatience{2000};
 };
 
 // Opened on any thread; used and destroyed on the interface thread. A helper that dies ends the movie where
@@ -45,9 +48,10 @@ class HelperMovie : public Movie {
     std::unique_ptr<MovieReader> openReader(const QString& file, QSize largest,
                                             const HelperMovieOptions& options);
     void goTo(MovieReader& reader, std::int64_t timeMs);
-    void playFrames(MovieReader& reader);
+    void playFrames(MovieReader& reader, std::chrono::milliseconds soundPatience);
     std::int64_t startSound();
-    bool goesOn() const { return m_playing && !m_worker.closing && !m_seekTo; }
+    // A movie that was stopped and goes on at once does so with a new turn.
+    bool goesOn() const { return m_playing && m_turn == m_stops && !m_worker.closing && !m_seekTo; }
     void show(const MovieFrame& frame);
     void poll();
     void report();
@@ -66,6 +70,8 @@ class HelperMovie : public Movie {
     QImage m_latest;        // not yet given to onFrame
     bool m_opened = false;  // or failed
     bool m_atEnd = false;
+    std::uint64_t m_stops = 0;
+    std::uint64_t m_turn = 0;  // the stops before what the reader's thread plays
     std::optional<std::int64_t> m_seekTo;
     std::atomic<bool> m_playing{false};
     std::atomic<std::int64_t> m_positionMs{0};

@@ -14,9 +14,10 @@ class PlaybackClock {
   public:
     using Time = std::chrono::steady_clock::time_point;
 
-    // `sound` may be null; else it was just started at this time of the movie, and outlives the clock.
-    PlaybackClock(std::int64_t timeMs, Sound* sound, Time now)
-        : m_sound(sound), m_baseMs(timeMs), m_baseTime(now) {}
+    // `sound` may be null; else it was just started at this time of the movie, and outlives the clock. A
+    // device that takes nothing for as long as the patience lasts does not lead any more.
+    PlaybackClock(std::int64_t timeMs, Sound* sound, Time now, std::chrono::milliseconds patience)
+        : m_sound(sound), m_patience(patience), m_baseMs(timeMs), m_baseTime(now) {}
 
     // Since the movie's beginning; never goes back.
     std::int64_t nowMs(Time now) {
@@ -32,9 +33,6 @@ class PlaybackClock {
     bool hasSound() const { return m_sound != nullptr; }
 
   private:
-    // A device that takes nothing for this long does not lead any more.
-    static constexpr std::chrono::milliseconds kPatience{2000};
-
     void followSound(Time now) {
         const std::int64_t position = m_sound->positionMs();
         if (position > m_baseMs) {
@@ -42,7 +40,7 @@ class PlaybackClock {
             m_baseTime = now;
             return;
         }
-        if (m_sound->hasFailed() || now - m_baseTime > kPatience) {
+        if (m_sound->hasFailed() || now - m_baseTime > m_patience) {
             m_sound->stop();
             m_sound = nullptr;
             m_baseTime = now;
@@ -50,6 +48,7 @@ class PlaybackClock {
     }
 
     Sound* m_sound;
+    std::chrono::milliseconds m_patience;
     std::int64_t m_baseMs;  // the last time known for certain, and when that was
     Time m_baseTime;
 };

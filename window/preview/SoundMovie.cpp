@@ -14,8 +14,12 @@ constexpr int kPollMilliseconds = 50;
 
 }  // namespace
 
-SoundMovie::SoundMovie(std::unique_ptr<SoundPlayer> player, QImage poster, std::int64_t durationMs)
-    : m_player(std::move(player)), m_poster(std::move(poster)), m_durationMs(durationMs) {}
+SoundMovie::SoundMovie(std::unique_ptr<SoundPlayer> player, QImage poster, std::int64_t durationMs,
+                       std::chrono::milliseconds patience)
+    : m_player(std::move(player)),
+      m_poster(std::move(poster)),
+      m_durationMs(durationMs),
+      m_patience(patience) {}
 
 SoundMovie::~SoundMovie() = default;
 
@@ -28,7 +32,8 @@ std::unique_ptr<Movie> SoundMovie::open(const QString& file, QSize largestPoster
     }
     return std::unique_ptr<Movie>(
         new SoundMovie(std::make_unique<SoundPlayer>(file, std::move(device), options.reader),
-                       MovieReader::cover(file, largestPoster, options.reader), reader->durationMs()));
+                       MovieReader::cover(file, largestPoster, options.reader), reader->durationMs(),
+                       options.soundPatience));
 }
 
 void SoundMovie::play() {
@@ -48,7 +53,7 @@ void SoundMovie::play() {
 
 void SoundMovie::startHere() {
     m_player->start(m_positionMs);
-    m_clock.emplace(m_positionMs, m_player.get(), Clock::now());
+    m_clock.emplace(m_positionMs, m_player.get(), Clock::now(), m_patience);
 }
 
 void SoundMovie::stop() {

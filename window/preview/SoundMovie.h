@@ -36,13 +36,15 @@ class SoundMovie : public Movie {
     void setMuted(bool muted) override;
 
   private:
-    SoundMovie(std::unique_ptr<SoundPlayer> player, QImage poster, std::int64_t durationMs);
+    SoundMovie(std::unique_ptr<SoundPlayer> player, QImage poster, std::int64_t durationMs,
+               std::chrono::milliseconds patience);
     void startHere();
     void follow();
 
     const std::unique_ptr<SoundPlayer> m_player;
     const QImage m_poster;
     const std::int64_t m_durationMs;
+    const std::chrono::milliseconds m_patience;  // with the device
     std::int64_t m_positionMs = 0;
     bool m_muted = false;
     bool m_atEnd = false;
