@@ -263,8 +263,9 @@ TEST(Command, InterruptPublishesAndSavesWhatWasFound) {
     ASSERT_TRUE(process.waitForStarted());
     while (!QFile::exists(folder.filePath("out/JPG/GND00001.JPG")) && !process.waitForFinished(5)) {
     }
+    ASSERT_EQ(process.state(), QProcess::Running) << process.readAllStandardError().constData();
     ::kill(static_cast<pid_t>(process.processId()), SIGINT);
-    ASSERT_TRUE(process.waitForFinished(30000));
+    ASSERT_TRUE(process.waitForFinished(60000));
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(process.exitCode(), 3);
     CommandRun run;

@@ -58,7 +58,7 @@ PrivateBus::PrivateBus() {
     m_daemon.start(QStringLiteral("dbus-daemon"),
                    {QStringLiteral("--nofork"), QStringLiteral("--print-address"),
                     QStringLiteral("--config-file=") + configuration.fileName()});
-    if (m_daemon.waitForStarted() && m_daemon.waitForReadyRead(10000)) {
+    if (m_daemon.waitForStarted() && m_daemon.waitForReadyRead(60000)) {
         m_address = QString::fromUtf8(m_daemon.readLine()).trimmed();
         m_pid = static_cast<pid_t>(m_daemon.processId());
     }
@@ -168,6 +168,7 @@ void StandInUdisks::setObjects(const UdisksObjects& objects) {
             added << QVariant::fromValue(QDBusObjectPath(it.key()))
                   << QVariant::fromValue(onTheWire(it.value()));
             send(added);
+            ++signalsSent;
             continue;
         }
         const UdisksInterfaces was = before.value(it.key());
@@ -183,6 +184,7 @@ void StandInUdisks::setObjects(const UdisksObjects& objects) {
                 QDBusMessage::createSignal(kManagerPath, kObjectManager, QStringLiteral("InterfacesRemoved"));
             removed << QVariant::fromValue(QDBusObjectPath(it.key())) << QStringList(it.value().keys());
             send(removed);
+            ++signalsSent;
         }
     }
 }
@@ -192,6 +194,7 @@ void StandInUdisks::signalPropertiesChanged(const QString& path, const QString& 
                                              QStringLiteral("PropertiesChanged"));
     signal << interface << QVariantMap() << QStringList();
     send(signal);
+    ++signalsSent;
 }
 
 }  // namespace vantor::test

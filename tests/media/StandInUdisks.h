@@ -53,6 +53,7 @@ class StandInUdisks : public QDBusVirtualObject {
     QString handedOut;                // file whose descriptor OpenDevice answers with
     std::atomic<int> listings{0};
     std::atomic<int> openings{0};
+    int signalsSent = 0;
     QString openedPath, openedMode;  // of the last OpenDevice
 
   private:
