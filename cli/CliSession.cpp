@@ -87,7 +87,8 @@ void CliSession::run() {
             [this](SaveTask& task, const SaveOutcome& outcome) {
                 m_outcomes.push_back(outcome);
                 giveBackPhotoBytes(std::move(task.firstBytes));
-            });
+            },
+            m_liesOnMedium);
     }
     if (m_options.mode == kPhotoMode) {
         Photo_Rec_Thread();

@@ -75,6 +75,9 @@ class CliSession : private CliView, public ScanSession {
     CliSession(const CliOptions& options, std::uint64_t mediumSectors);
     ~CliSession() override;
 
+    // Asked before each file is saved.
+    void setLiesOnMedium(ItemSaver::LiesOnMedium asked) { m_liesOnMedium = std::move(asked); }
+
     // Ticks the chosen types and cuts the catalogues; the types that no catalogue has, when there are any.
     QStringList chooseTypes(const QStringList& types);
     void chooseAllTypes();
@@ -108,7 +111,8 @@ class CliSession : private CliView, public ScanSession {
     std::vector<PublishedItem> m_published;
     std::atomic<std::size_t> m_publishedCount{0};
     std::vector<SaveOutcome> m_outcomes;  // in the order of m_published; the saving thread's until it ends
-    std::unique_ptr<SaveQueue> m_queue;   // while a scan runs that saves
+    ItemSaver::LiesOnMedium m_liesOnMedium;
+    std::unique_ptr<SaveQueue> m_queue;  // while a scan runs that saves
     std::vector<ReportedItem> m_reported;
     SaveTally m_tally;
 };

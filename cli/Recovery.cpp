@@ -266,6 +266,9 @@ int recover(const CliOptions& options) {
     head.begun = QDateTime::currentDateTime();
     CliSession session(options, medium.sectors);
     session.setMediumOpener(medium.open);
+    session.setLiesOnMedium([path = medium.path](const QString& destination) {
+        return destinationIsOnMedium(destination, path);
+    });
     session.loadCatalogues(options.catalogueFolder);
     if (cataloguesRefused(options) || typesRefused(session, options)) {
         return kExitBadUsage;

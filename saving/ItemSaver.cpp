@@ -9,13 +9,16 @@
 #include <QFileInfo>
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <map>
+#include <set>
 #include <utility>
 #include <vector>
 
 #include "results/TrueLength.h"
 #include "saving/FreeSpace.h"
 #include "saving/SavedFiles.h"
+#include "saving/SavingFolder.h"
 #include "saving/Sha256.h"
 #include "saving/WholeFile.h"
 
@@ -64,12 +67,13 @@ struct ItemSaver::State {
     std::map<std::uint64_t, std::uint64_t> streams;  // sectors [first, end) of whole frame streams
     std::uint64_t bytesReadInVain = 0;
     std::optional<dev_t> device;  // that the destination was on first
+    std::set<QString> folders;    // below it, that were written into
 };
 
 // What is being written, and where to.
 struct ItemSaver::Writing {
     const FoundItem& item;
-    QString folder;
+    SavingFolder folder;
     QString name;
     Likeness likeness;  // empty where duplicates do not matter
 };
@@ -94,8 +98,11 @@ void ItemSaver::State::noteLength(const FoundItem& item, const TrueLength& lengt
     }
 }
 
-ItemSaver::ItemSaver(const QString& destination, const SavePolicy& policy)
-    : m_destination(destination), m_policy(policy), m_state(std::make_unique<State>()) {}
+ItemSaver::ItemSaver(const QString& destination, const SavePolicy& policy, LiesOnMedium liesOnMedium)
+    : m_destination(destination),
+      m_policy(policy),
+      m_liesOnMedium(std::move(liesOnMedium)),
+      m_state(std::make_unique<State>()) {}
 
 ItemSaver::~ItemSaver() = default;
 
@@ -106,7 +113,9 @@ SaveOutcome ItemSaver::saveRuns(const QString& type, const QString& name, const 
 
 SaveOutcome ItemSaver::save(const FoundItem& item) const {
     SaveOutcome outcome;
-    if (!destinationIsThere(outcome)) {
+    // Not held open in between: the user may want to unmount it.
+    const auto destination = openDestination(outcome);
+    if (!destination) {
         return outcome;
     }
     ItemSource source = item.source;
@@ -120,25 +129,39 @@ SaveOutcome ItemSaver::save(const FoundItem& item) const {
     if (isUnwanted(item)) {
         outcome.error = cancelledText();
     } else if (chosen) {
-        saveBytes(item, bytes, outcome);
+        saveBytes(item, *destination, bytes, outcome);
     }
     return outcome;
 }
 
 // A destination that was pulled out leaves a folder of its name on another disk.
-bool ItemSaver::destinationIsThere(SaveOutcome& outcome) const {
-    struct stat info {};
+std::optional<SavingFolder> ItemSaver::openDestination(SaveOutcome& outcome) const {
     if (!m_state->device && !QDir().mkpath(m_destination)) {
         outcome.error = QStringLiteral("The folder %1 cannot be created").arg(m_destination);
-        return false;
+        return std::nullopt;
     }
-    if (::stat(QFile::encodeName(m_destination).constData(), &info) != 0 ||
-        m_state->device.value_or(info.st_dev) != info.st_dev) {
+    auto folder = SavingFolder::open(m_destination);
+    const auto device = folder ? folder->device() : std::nullopt;
+    if (!device || m_state->device.value_or(*device) != *device) {
         outcome.error = QStringLiteral("The folder %1 is no longer there").arg(m_destination);
-        return false;
+        return std::nullopt;
     }
-    m_state->device = info.st_dev;
-    return true;
+    if (m_liesOnMedium && m_liesOnMedium(m_destination)) {
+        outcome.error =
+            QStringLiteral("The folder %1 lies on the medium that is searched").arg(m_destination);
+        return std::nullopt;
+    }
+    m_state->device = device;
+    return folder;
+}
+
+void ItemSaver::flush() const {
+    const auto destination = SavingFolder::open(m_destination);
+    for (const QString& folder : std::exchange(m_state->folders, {})) {
+        if (const auto below = destination ? destination->below(folder) : std::nullopt) {
+            below->flush();
+        }
+    }
 }
 
 // False when the item is left out.
@@ -164,13 +187,21 @@ bool ItemSaver::decideLength(const FoundItem& item, MediumBytes& bytes, SaveOutc
     return outcome.leftOut == LeftOut::No;
 }
 
-void ItemSaver::saveBytes(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const {
+void ItemSaver::saveBytes(const FoundItem& item, const SavingFolder& destination, MediumBytes& bytes,
+                          SaveOutcome& outcome) const {
     const SavedName name = savedNameOf(item.type, item.name, m_policy.byDate ? outcome.taken : std::nullopt);
-    Writing writing{item, m_destination + u'/' + name.folder, name.file, {}};
-    if (!QDir().mkpath(writing.folder)) {
-        outcome.error = QStringLiteral("The folder %1 cannot be created").arg(writing.folder);
+    const auto folder = destination.below(name.folder);
+    if (!folder) {
+        const bool leadsAway = errno == ELOOP || errno == ENOTDIR || errno == EXDEV;
+        outcome.error = (leadsAway ? QStringLiteral("The folder %1/%2 leads elsewhere")
+                                   : QStringLiteral("The folder %1/%2 cannot be created"))
+                            .arg(m_destination, name.folder);
         return;
     }
+    if (m_state->folders.insert(name.folder).second) {
+        removeLeftovers(*folder);
+    }
+    Writing writing{item, *folder, name.file, {}};
     if (m_policy.skipDuplicates) {
         writing.likeness = {outcome.bytes, sumOfHead(bytes, outcome.bytes)};
         if (settleBeforeWriting(writing, bytes, outcome)) {
@@ -222,7 +253,7 @@ bool ItemSaver::settleAs(const SavedFile& earlier, const Writing& writing, SaveO
 
 // True when a new file was written; false with an error, or when it turned out to be a duplicate.
 bool ItemSaver::writeFile(const Writing& writing, MediumBytes& bytes, SaveOutcome& outcome) const {
-    if (const auto refusal = refuseForSpace(writing.folder, outcome.bytes)) {
+    if (const auto refusal = refuseForSpace(writing.folder.path(), outcome.bytes)) {
         outcome.error = *refusal;
         return false;
     }

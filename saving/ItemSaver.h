@@ -5,6 +5,7 @@
 #include <QString>
 #include <atomic>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -19,6 +20,7 @@
 namespace vantor {
 
 struct SavedFile;
+class SavingFolder;
 class WholeFile;
 
 // Why an item was not written although nothing failed.
@@ -62,12 +64,20 @@ struct FoundItem {
 // no second names.
 class ItemSaver {
   public:
-    explicit ItemSaver(const QString& destination, const SavePolicy& policy = {});
+    // Asked before each file with the destination: whether it lies on the medium by now, for somebody may
+    // have mounted another place there.
+    using LiesOnMedium = std::function<bool(const QString& destination)>;
+
+    explicit ItemSaver(const QString& destination, const SavePolicy& policy = {},
+                       LiesOnMedium liesOnMedium = {});
     ItemSaver(const ItemSaver&) = delete;
     ItemSaver& operator=(const ItemSaver&) = delete;
     ~ItemSaver();
 
     SaveOutcome save(const FoundItem& item) const;
+
+    // To be called behind the last item: the names of all files survive a loss of power from here on.
+    void flush() const;
 
     // An item that is read from its medium from the first byte on.
     SaveOutcome saveRuns(const QString& type, const QString& name, const CarvedRun& carved,
@@ -77,9 +87,10 @@ class ItemSaver {
     struct State;
     struct Writing;
 
-    bool destinationIsThere(SaveOutcome& outcome) const;
+    std::optional<SavingFolder> openDestination(SaveOutcome& outcome) const;
     bool decideLength(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const;
-    void saveBytes(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const;
+    void saveBytes(const FoundItem& item, const SavingFolder& destination, MediumBytes& bytes,
+                   SaveOutcome& outcome) const;
     bool settleBeforeWriting(const Writing& writing, MediumBytes& bytes, SaveOutcome& outcome) const;
     bool settleAs(const SavedFile& earlier, const Writing& writing, SaveOutcome& outcome) const;
     std::uint64_t copyBytes(const FoundItem& item, std::uint64_t length, MediumBytes& bytes, WholeFile& file,
@@ -88,6 +99,7 @@ class ItemSaver {
 
     QString m_destination;
     SavePolicy m_policy;
+    LiesOnMedium m_liesOnMedium;
     std::unique_ptr<State> m_state;  // what was saved before, and memory that serves all items
 };
 

@@ -36,6 +36,7 @@ void SaveJob::run() {
     m_report.mediumOpened = medium != nullptr;
     if (medium) {
         saveAll(*medium);
+        m_request.saver->flush();
         writeTheReport();
     }
     m_finished = true;

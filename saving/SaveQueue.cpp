@@ -19,8 +19,9 @@ std::uint64_t costOf(const SaveTask& task) {
 
 }  // namespace
 
-SaveQueue::SaveQueue(const QString& destination, const SavePolicy& policy, Open open, Done done)
-    : m_saver(destination, policy),
+SaveQueue::SaveQueue(const QString& destination, const SavePolicy& policy, Open open, Done done,
+                     ItemSaver::LiesOnMedium liesOnMedium)
+    : m_saver(destination, policy, std::move(liesOnMedium)),
       m_open(std::move(open)),
       m_done(std::move(done)),
       m_thread([this] { run(); }) {}
@@ -54,6 +55,7 @@ void SaveQueue::run() {
     for (;;) {
         m_added.wait(lock, [this] { return m_finishing || !m_waiting.empty(); });
         if (m_waiting.empty()) {
+            m_saver.flush();
             return;
         }
         SaveTask task = std::move(m_waiting.front());

@@ -35,7 +35,8 @@ class SaveQueue {
     // Called on the saving thread with each item's outcome, in order; may keep what it likes of the task.
     using Done = std::function<void(SaveTask&, const SaveOutcome&)>;
 
-    SaveQueue(const QString& destination, const SavePolicy& policy, Open open, Done done);
+    SaveQueue(const QString& destination, const SavePolicy& policy, Open open, Done done,
+              ItemSaver::LiesOnMedium liesOnMedium = {});
     SaveQueue(const SaveQueue&) = delete;
     SaveQueue& operator=(const SaveQueue&) = delete;
     ~SaveQueue();  // finishes

@@ -4,6 +4,7 @@
 #include <sys/sysmacros.h>
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QStringList>
 
@@ -38,6 +39,18 @@ QSet<QString> wholeDisksOf(dev_t device, const QString& sysRoot) {
         }
     }
     return disks;
+}
+
+std::optional<QByteArray> backingFileOf(const QString& disk, const QString& sysRoot) {
+    QFile told(QStringLiteral("%1/block/%2/loop/backing_file").arg(sysRoot, disk));
+    if (!told.open(QIODevice::ReadOnly)) {
+        return std::nullopt;
+    }
+    QByteArray path = told.readAll();
+    if (path.endsWith('\n')) {
+        path.chop(1);
+    }
+    return path;
 }
 
 }  // namespace vantor

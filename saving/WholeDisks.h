@@ -3,8 +3,10 @@
 
 #include <sys/types.h>
 
+#include <QByteArray>
 #include <QSet>
 #include <QString>
+#include <optional>
 
 namespace vantor {
 
@@ -12,5 +14,8 @@ namespace vantor {
 // unlocked, joined or otherwise stacked device all disks below it. Empty when the system knows none.
 // `sysRoot` is where the kernel shows its devices (Linux, Documentation/ABI/stable/sysfs-block: "slaves").
 QSet<QString> wholeDisksOf(dev_t device, const QString& sysRoot = QStringLiteral("/sys"));
+
+// The path of the file that a whole disk such as "loop0" is made of; nothing for real disks.
+std::optional<QByteArray> backingFileOf(const QString& disk, const QString& sysRoot = QStringLiteral("/sys"));
 
 }  // namespace vantor

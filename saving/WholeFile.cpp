@@ -1,8 +1,9 @@
-// Unnamed files where the kernel has them, temporary names elsewhere; both end in a link that refuses to
-// replace.
+// Unnamed files where the kernel has them, temporary names elsewhere; both end in a name that replaces none.
 #include "saving/WholeFile.h"
 
+#include <dirent.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -11,6 +12,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <vector>
 
 namespace vantor {
 
@@ -29,13 +31,14 @@ QString numberedName(const QString& name, int n) {
     return name.left(cut) + QStringLiteral(" (%1)").arg(n) + name.mid(cut);
 }
 
-// The first of the numbered paths that `take` accepts; it refuses with errno EEXIST what is taken.
+// The path of the first of the numbered names that `take` accepts; it refuses with errno EEXIST what is
+// taken.
 template <typename Take>
-std::optional<QString> firstFreeName(const QString& folder, const QString& name, const Take& take) {
+std::optional<QString> firstFreeName(const SavingFolder& folder, const QString& name, const Take& take) {
     for (int n = 1; n <= kMostNamesTried; ++n) {
-        const QString path = folder + u'/' + numberedName(name, n);
-        if (take(QFile::encodeName(path))) {
-            return path;
+        const QString numbered = numberedName(name, n);
+        if (take(QFile::encodeName(numbered))) {
+            return folder.path() + u'/' + numbered;
         }
         if (errno != EEXIST) {
             break;
@@ -44,22 +47,52 @@ std::optional<QString> firstFreeName(const QString& folder, const QString& name,
     return std::nullopt;
 }
 
+const QByteArray kTemporaryPrefix = ".vantor-";
+const QByteArray kTemporarySuffix = ".part";
+
+QByteArray temporaryName() {
+    return kTemporaryPrefix + QByteArray::number(QRandomGenerator::system()->generate64(), 16) +
+           kTemporarySuffix;
+}
+
+// Whoever writes a temporary file holds its lock, which goes with the process.
+bool isLeftover(const SavingFolder& folder, const QByteArray& name) {
+    if (!name.startsWith(kTemporaryPrefix) || !name.endsWith(kTemporarySuffix)) {
+        return false;
+    }
+    const FileDescriptor file(
+        ::openat(folder.descriptor(), name.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    return file && ::flock(file.get(), LOCK_EX | LOCK_NB) == 0;
+}
+
 }  // namespace
 
-WholeFile::WholeFile(const QString& folder) : m_folder(folder) {
-    const QByteArray path = QFile::encodeName(folder);
-    m_fd = ::open(path.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, kMode);
+WholeFile::WholeFile(const SavingFolder& folder) : m_folder(folder) {
+    create();
+}
+
+WholeFile::WholeFile(const QString& folder) : m_folder(SavingFolder::open(folder)) {
+    if (m_folder) {
+        create();
+    } else {
+        fail();
+    }
+}
+
+void WholeFile::create() {
+    m_fd = ::openat(m_folder->descriptor(), ".", O_TMPFILE | O_WRONLY | O_CLOEXEC, kMode);
     if (m_fd >= 0) {
         return;
     }
     if (errno == EOPNOTSUPP || errno == EISDIR || errno == EINVAL || errno == ENOENT) {
-        m_temporaryPath =
-            path + "/.vantor-" + QByteArray::number(QRandomGenerator::system()->generate64(), 16) + ".part";
-        m_fd = ::open(m_temporaryPath.constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, kMode);
+        m_temporaryName = temporaryName();
+        m_fd = ::openat(m_folder->descriptor(), m_temporaryName.constData(),
+                        O_CREAT | O_EXCL | O_NOFOLLOW | O_WRONLY | O_CLOEXEC, kMode);
         if (m_fd >= 0) {
+            ::flock(m_fd, LOCK_EX | LOCK_NB);
             return;
         }
-        m_temporaryPath.clear();
+        m_temporaryName.clear();
     }
     fail();
 }
@@ -68,8 +101,8 @@ WholeFile::~WholeFile() {
     if (m_fd >= 0) {
         ::close(m_fd);
     }
-    if (!m_temporaryPath.isEmpty()) {
-        ::unlink(m_temporaryPath.constData());
+    if (!m_temporaryName.isEmpty()) {
+        ::unlinkat(m_folder->descriptor(), m_temporaryName.constData(), 0);
     }
 }
 
@@ -103,7 +136,7 @@ std::optional<QString> WholeFile::commit(const QString& name) {
         fail();
         return std::nullopt;
     }
-    const auto path = firstFreeName(m_folder, name, [this](const QByteArray& p) { return takeName(p); });
+    const auto path = firstFreeName(*m_folder, name, [this](const QByteArray& n) { return takeName(n); });
     if (!path) {
         fail();
     }
@@ -111,41 +144,66 @@ std::optional<QString> WholeFile::commit(const QString& name) {
 }
 
 // False with errno EEXIST when the name is taken.
-bool WholeFile::takeName(const QByteArray& path) {
-    if (m_temporaryPath.isEmpty()) {
-        char self[64];
-        std::snprintf(self, sizeof self, "/proc/self/fd/%d", m_fd);
-        return ::linkat(AT_FDCWD, self, AT_FDCWD, path.constData(), AT_SYMLINK_FOLLOW) == 0;
+bool WholeFile::takeName(const QByteArray& name) {
+    if (!m_temporaryName.isEmpty()) {
+        return takeNameOfTemporary(name);
     }
-    if (::renameat2(AT_FDCWD, m_temporaryPath.constData(), AT_FDCWD, path.constData(), RENAME_NOREPLACE) ==
-        0) {
-        m_temporaryPath.clear();
-        return true;
-    }
-    if (errno != EINVAL && errno != ENOSYS) {
-        return false;
-    }
-    // The file system knows no rename that refuses to replace: reserve the name first, then replace our own
-    // file.
-    const int reserved = ::open(path.constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, kMode);
-    if (reserved < 0) {
-        return false;
-    }
-    ::close(reserved);
-    if (::rename(m_temporaryPath.constData(), path.constData()) != 0) {
-        const int why = errno;
-        ::unlink(path.constData());
-        errno = why;
-        return false;
-    }
-    m_temporaryPath.clear();
-    return true;
+    char self[64];
+    std::snprintf(self, sizeof self, "/proc/self/fd/%d", m_fd);
+    return ::linkat(AT_FDCWD, self, m_folder->descriptor(), name.constData(), AT_SYMLINK_FOLLOW) == 0;
 }
 
-std::optional<QString> linkAs(const QString& existing, const QString& folder, const QString& name) {
-    return firstFreeName(folder, name, [from = QFile::encodeName(existing)](const QByteArray& path) {
-        return ::link(from.constData(), path.constData()) == 0;
-    });
+// A second name that refuses to replace, or a new name that does; where the file system knows neither, a new
+// name once none stands there. Nothing empty ever bears the final name.
+bool WholeFile::takeNameOfTemporary(const QByteArray& name) {
+    const int folder = m_folder->descriptor();
+    if (::linkat(folder, m_temporaryName.constData(), folder, name.constData(), 0) == 0) {
+        ::unlinkat(folder, m_temporaryName.constData(), 0);
+        m_temporaryName.clear();
+        return true;
+    }
+    if (errno == EEXIST) {
+        return false;
+    }
+    int renamed =
+        ::renameat2(folder, m_temporaryName.constData(), folder, name.constData(), RENAME_NOREPLACE);
+    if (renamed != 0 && (errno == EINVAL || errno == ENOSYS)) {
+        if (::faccessat(folder, name.constData(), F_OK, AT_SYMLINK_NOFOLLOW) == 0) {
+            errno = EEXIST;
+            return false;
+        }
+        renamed = ::renameat(folder, m_temporaryName.constData(), folder, name.constData());
+    }
+    if (renamed == 0) {
+        m_temporaryName.clear();
+    }
+    return renamed == 0;
+}
+
+std::optional<QString> linkAs(const QString& existing, const SavingFolder& folder, const QString& name) {
+    return firstFreeName(folder, name,
+                         [from = QFile::encodeName(existing), to = folder.descriptor()](const QByteArray& n) {
+                             return ::linkat(AT_FDCWD, from.constData(), to, n.constData(), 0) == 0;
+                         });
+}
+
+void removeLeftovers(const SavingFolder& folder) {
+    // A stream of its own: reading a folder moves the position of its descriptor.
+    const int again = ::openat(folder.descriptor(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    DIR* const listing = again >= 0 ? ::fdopendir(again) : nullptr;
+    if (listing == nullptr) {
+        return;
+    }
+    std::vector<QByteArray> leftovers;
+    while (const dirent* const entry = ::readdir(listing)) {
+        if (isLeftover(folder, entry->d_name)) {
+            leftovers.emplace_back(entry->d_name);
+        }
+    }
+    ::closedir(listing);
+    for (const QByteArray& name : leftovers) {
+        ::unlinkat(folder.descriptor(), name.constData(), 0);
+    }
 }
 
 QString WholeFile::error() const {

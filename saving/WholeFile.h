@@ -6,12 +6,16 @@
 #include <cstdint>
 #include <optional>
 
+#include "saving/SavingFolder.h"
+
 namespace vantor {
 
 // Writes unnamed (or, where the file system cannot, under a hidden temporary name) and takes its name at the
 // end. An object that is destroyed without commit() leaves nothing behind. Any one thread.
 class WholeFile {
   public:
+    explicit WholeFile(const SavingFolder& folder);
+    // The folder is opened for this file alone.
     explicit WholeFile(const QString& folder);
     WholeFile(const WholeFile&) = delete;
     WholeFile& operator=(const WholeFile&) = delete;
@@ -31,17 +35,22 @@ class WholeFile {
     QString error() const;
 
   private:
-    bool takeName(const QByteArray& path);
+    void create();
+    bool takeName(const QByteArray& name);
+    bool takeNameOfTemporary(const QByteArray& name);
     bool fail();
 
-    QString m_folder;
-    QByteArray m_temporaryPath;  // empty for an unnamed file
+    std::optional<SavingFolder> m_folder;
+    QByteArray m_temporaryName;  // in the folder; empty for an unnamed file
     int m_fd = -1;
     int m_error = 0;
 };
 
 // Gives a file a second name in a folder of the same file system, numbered like those of WholeFile; nothing
 // where the file system has no second names.
-std::optional<QString> linkAs(const QString& existing, const QString& folder, const QString& name);
+std::optional<QString> linkAs(const QString& existing, const SavingFolder& folder, const QString& name);
+
+// Removes the temporary files that runs which were killed left in the folder; those of runs that go on stay.
+void removeLeftovers(const SavingFolder& folder);
 
 }  // namespace vantor

@@ -14,6 +14,14 @@ SavingParts MyTableController::savingParts() {
     parts.medium = [this] {
         return [open = m_parts.openMedium, device = devicePath()] { return open ? open(device) : nullptr; };
     };
+    parts.liesOnMedium = [this]() -> ItemSaver::LiesOnMedium {
+        if (!m_parts.isOnMedium) {
+            return {};
+        }
+        return [asked = m_parts.isOnMedium, device = devicePath()](const QString& folder) {
+            return asked(folder, device);
+        };
+    };
     parts.freeBytes = m_parts.freeBytes;
     parts.placeholder = [this] { return Null_Image_Data; };
     parts.reportHead = [this] { return reportHead(); };

@@ -13,7 +13,7 @@
 
 namespace vantor {
 
-TEST(DestinationCheck, ImageFilesNeverForbidAFolder) {
+TEST(DestinationCheck, TheFolderThatHoldsAnImageIsAllowed) {
     const QTemporaryDir folder;
     QFile image(folder.filePath("card.img"));
     ASSERT_TRUE(image.open(QIODevice::WriteOnly));
@@ -66,6 +66,8 @@ TEST(DestinationCheck, FoldersOfAMountedCardAreSeenThroughLinks) {
     EXPECT_TRUE(destinationIsOnMedium(folder.filePath("card/not/yet"), card.node()));
     EXPECT_TRUE(destinationIsOnMedium(folder.filePath("link"), card.node()));
     EXPECT_FALSE(destinationIsOnMedium(folder.path(), card.node()));
+    EXPECT_TRUE(destinationIsOnMedium(folder.filePath("card"), image)) << "what is mounted is the image";
+    EXPECT_FALSE(destinationIsOnMedium(folder.path(), image));
     ::umount2(place.constData(), MNT_DETACH);
 }
 

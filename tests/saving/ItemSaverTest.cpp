@@ -76,6 +76,34 @@ TEST(ItemSaver, FolderThatCannotBeMadeIsTold) {
     EXPECT_TRUE(outcome.error.contains("JPG"));
 }
 
+TEST(ItemSaver, FolderThatIsALinkIsNotFollowed) {
+    const QTemporaryDir folder, card;
+    ASSERT_TRUE(QFile::link(card.path(), folder.filePath("JPG")));
+    ScriptedMedium medium = letters(4);
+    ScriptedReader reader(medium);
+    const SaveOutcome outcome = ItemSaver(folder.path()).saveRuns("JPG", "x", run(0, 2), reader);
+    EXPECT_FALSE(outcome.saved);
+    EXPECT_TRUE(outcome.error.contains("leads elsewhere")) << outcome.error.toStdString();
+    EXPECT_TRUE(QDir(card.path()).isEmpty(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::Hidden));
+}
+
+TEST(ItemSaver, AsksBeforeEachFileWhetherTheDestinationLiesOnTheMedium) {
+    const QTemporaryDir folder;
+    int asked = 0;
+    const ItemSaver saver(folder.path(), {}, [&](const QString& destination) {
+        EXPECT_EQ(destination, folder.path());
+        return ++asked == 2;
+    });
+    ScriptedMedium medium = letters(6);
+    ScriptedReader reader(medium);
+    EXPECT_TRUE(saver.saveRuns("T", "a", run(0, 2), reader).saved);
+    const SaveOutcome refused = saver.saveRuns("T", "b", run(2, 4), reader);
+    EXPECT_FALSE(refused.saved);
+    EXPECT_TRUE(refused.error.contains("on the medium")) << refused.error.toStdString();
+    EXPECT_TRUE(saver.saveRuns("T", "c", run(4, 6), reader).saved);
+    EXPECT_EQ(QDir(folder.filePath("T")).entryList(QDir::Files), (QStringList{"a", "c"}));
+}
+
 TEST(ItemSaver, FileEndsWhereItsFormatSays) {
     const QByteArray wav = wavFile(kWavBytes);
     ScriptedMedium medium = mediumWith(wav, 10, 400);

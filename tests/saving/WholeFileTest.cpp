@@ -1,5 +1,7 @@
 // A file is there whole or not at all, and replaces none.
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 
 #include <QDateTime>
 #include <QDir>
@@ -8,6 +10,7 @@
 #include <QTemporaryDir>
 
 #include "saving/WholeFile.h"
+#include "tests/saving/PoorFileSystem.h"
 #include "tests/support/Files.h"
 
 namespace vantor {
@@ -60,10 +63,53 @@ TEST(LinkAs, SecondNameTakesNoOthersPlace) {
     WholeFile file(folder.path());
     file.write("x");
     const auto path = file.commit("a.txt");
-    EXPECT_EQ(linkAs(*path, folder.path(), "b.txt"), folder.filePath("b.txt"));
-    EXPECT_EQ(linkAs(*path, folder.path(), "b.txt"), folder.filePath("b (2).txt"));
+    const auto open = SavingFolder::open(folder.path());
+    ASSERT_TRUE(open);
+    EXPECT_EQ(linkAs(*path, *open, "b.txt"), folder.filePath("b.txt"));
+    EXPECT_EQ(linkAs(*path, *open, "b.txt"), folder.filePath("b (2).txt"));
     EXPECT_EQ(contentsOf(folder.filePath("b (2).txt")), "x");
-    EXPECT_FALSE(linkAs(folder.filePath("absent"), folder.path(), "c"));
+    EXPECT_FALSE(linkAs(folder.filePath("absent"), *open, "c"));
 }
+
+TEST(Leftovers, OfDeadRunsGoAndThoseOfLivingOnesStay) {
+    const QTemporaryDir folder;
+    const QStringList names{".vantor-1a.part", ".vantor-2b.part", ".vantor-3c", "photo.part"};
+    for (const QString& name : names) {
+        ASSERT_TRUE(QFile(folder.filePath(name)).open(QIODevice::WriteOnly));
+    }
+    const FileDescriptor living(::open(QFile::encodeName(folder.filePath(names[1])).constData(), O_WRONLY));
+    ASSERT_EQ(::flock(living.get(), LOCK_EX | LOCK_NB), 0);
+    removeLeftovers(*SavingFolder::open(folder.path()));
+    QDir left(folder.path());
+    EXPECT_EQ(left.entryList(QDir::Files | QDir::Hidden, QDir::Name),
+              (QStringList{".vantor-2b.part", ".vantor-3c", "photo.part"}));
+}
+
+// Cards and sticks know neither unnamed files nor second names, some drivers not even a rename that refuses.
+class WholeFileOnPoorFileSystems : public testing::TestWithParam<test::PoorFileSystem::Has> {};
+
+TEST_P(WholeFileOnPoorFileSystems, TakesItsNameAtTheEndAndReplacesNone) {
+    const QTemporaryDir folder;
+    const test::PoorFileSystem poor(GetParam());
+    const auto hidden = [&] { return QDir(folder.path()).entryList({".*"}, QDir::Files | QDir::Hidden); };
+    for (const char* text : {"one", "two"}) {
+        WholeFile file(folder.path());
+        ASSERT_TRUE(file.isGood()) << file.error().toStdString();
+        EXPECT_EQ(hidden().size(), 1) << "written under a name of its own";
+        file.write(text);
+        removeLeftovers(*SavingFolder::open(folder.path()));
+        EXPECT_EQ(hidden().size(), 1) << "a file that is being written is no leftover";
+        ASSERT_TRUE(file.commit("a.jpg")) << file.error().toStdString();
+    }
+    EXPECT_EQ(contentsOf(folder.filePath("a.jpg")), "one");
+    EXPECT_EQ(contentsOf(folder.filePath("a (2).jpg")), "two");
+    { const WholeFile givenUp(folder.path()); }
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, WholeFileOnPoorFileSystems,
+                         testing::Values(test::PoorFileSystem::Has{false, true, false},
+                                         test::PoorFileSystem::Has{false, false, true},
+                                         test::PoorFileSystem::Has{false, false, false}));
 
 }  // namespace vantor

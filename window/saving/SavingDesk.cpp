@@ -75,7 +75,8 @@ void SavingDesk::forget() {
 // One saver as long as it writes the same way into the same folder, so that what was saved before is known.
 std::shared_ptr<const ItemSaver> SavingDesk::saverFor(const QString& destination) {
     if (!m_saver || m_saverDestination != destination || m_saverPolicy != m_choices.policy) {
-        m_saver = std::make_shared<const ItemSaver>(destination, m_choices.policy);
+        m_saver = std::make_shared<const ItemSaver>(destination, m_choices.policy,
+                                                    m_parts.liesOnMedium ? m_parts.liesOnMedium() : nullptr);
         m_saverDestination = destination;
         m_saverPolicy = m_choices.policy;
     }

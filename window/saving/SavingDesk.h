@@ -29,6 +29,8 @@ struct SavingParts {
     std::function<std::shared_ptr<MyImageObject>(std::size_t)> itemAt;
     // Gives what opens the medium of the moment, which is called on the thread of the job.
     std::function<std::function<std::unique_ptr<SectorReader>()>()> medium;
+    // Gives what tells whether a folder lies on the medium of the moment; asked on the thread of the job.
+    std::function<ItemSaver::LiesOnMedium()> liesOnMedium;
     std::function<std::optional<std::uint64_t>(const QString& folder)> freeBytes;
     std::function<QByteArray()> placeholder;  // the picture of items without a thumbnail
     std::function<ReportHead()> reportHead;

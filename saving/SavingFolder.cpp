@@ -1,0 +1,69 @@
+// One part of the way after the other, each opened from the one before.
+#include "saving/SavingFolder.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <QFile>
+#include <QStringList>
+#include <cerrno>
+#include <utility>
+
+namespace vantor {
+
+namespace {
+
+constexpr mode_t kFolderMode = 0777;  // less the user's mask
+
+}  // namespace
+
+SavingFolder::SavingFolder(FileDescriptor folder, QString path)
+    : m_folder(std::make_shared<const FileDescriptor>(std::move(folder))), m_path(std::move(path)) {}
+
+std::optional<SavingFolder> SavingFolder::open(const QString& path) {
+    FileDescriptor folder(::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!folder) {
+        return std::nullopt;
+    }
+    return SavingFolder(std::move(folder), path);
+}
+
+std::optional<SavingFolder> SavingFolder::below(const QString& relative) const {
+    const auto home = device();
+    SavingFolder at = *this;
+    for (const QString& part : relative.split(u'/', Qt::SkipEmptyParts)) {
+        const QByteArray name = QFile::encodeName(part);
+        if (name == "." || name == "..") {
+            errno = ELOOP;
+            return std::nullopt;
+        }
+        if (::mkdirat(at.descriptor(), name.constData(), kFolderMode) != 0 && errno != EEXIST) {
+            return std::nullopt;
+        }
+        FileDescriptor next(
+            ::openat(at.descriptor(), name.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+        if (!next) {
+            return std::nullopt;
+        }
+        at = SavingFolder(std::move(next), at.m_path + u'/' + part);
+        if (at.device() != home) {
+            errno = EXDEV;
+            return std::nullopt;
+        }
+    }
+    return at;
+}
+
+std::optional<dev_t> SavingFolder::device() const {
+    struct stat info {};
+    if (::fstat(descriptor(), &info) != 0) {
+        return std::nullopt;
+    }
+    return info.st_dev;
+}
+
+void SavingFolder::flush() const {
+    ::fsync(descriptor());
+}
+
+}  // namespace vantor

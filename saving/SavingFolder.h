@@ -1,0 +1,38 @@
+// A folder that is written into, held open so that nothing that happens to its path leads elsewhere.
+#pragma once
+
+#include <sys/types.h>
+
+#include <QString>
+#include <memory>
+#include <optional>
+
+#include "media/FileDescriptor.h"
+
+namespace vantor {
+
+// What fails leaves the reason in errno. Any thread; copies share the open folder.
+class SavingFolder {
+  public:
+    // The folder as the user chose it: links on the way are followed.
+    static std::optional<SavingFolder> open(const QString& path);
+
+    // A folder below this one, such as "JPG/2026-05-17", made where it is absent. No part of the way may be a
+    // link (ELOOP or ENOTDIR) or lead to another file system (EXDEV): somebody may have planted it.
+    std::optional<SavingFolder> below(const QString& relative) const;
+
+    int descriptor() const { return m_folder->get(); }
+    const QString& path() const { return m_path; }
+    // The number of the file system it lies on; nothing when it cannot be asked any more.
+    std::optional<dev_t> device() const;
+    // What was created in it survives a loss of power from here on, as far as the file system can.
+    void flush() const;
+
+  private:
+    SavingFolder(FileDescriptor folder, QString path);
+
+    std::shared_ptr<const FileDescriptor> m_folder;
+    QString m_path;
+};
+
+}  // namespace vantor

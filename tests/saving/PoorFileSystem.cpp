@@ -1,0 +1,70 @@
+// The calls of the C library, before it.
+#include "tests/saving/PoorFileSystem.h"
+
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/types.h>
+
+#include <cerrno>
+#include <cstdarg>
+#include <optional>
+
+namespace vantor::test {
+
+namespace {
+
+std::optional<PoorFileSystem::Has> has;
+
+template <typename Call>
+Call real(const char* name) {
+    return reinterpret_cast<Call>(::dlsym(RTLD_NEXT, name));
+}
+
+int refuse(int why) {
+    errno = why;
+    return -1;
+}
+
+}  // namespace
+
+PoorFileSystem::PoorFileSystem(Has what) {
+    has = what;
+}
+
+PoorFileSystem::~PoorFileSystem() {
+    has.reset();
+}
+
+}  // namespace vantor::test
+
+using vantor::test::has;
+
+extern "C" {
+
+int openat(int folder, const char* path, int flags, ...) {
+    std::va_list list;
+    va_start(list, flags);
+    const auto mode = static_cast<mode_t>(va_arg(list, unsigned));
+    va_end(list);
+    if (has && !has->unnamedFiles && (flags & O_TMPFILE) == O_TMPFILE) {
+        return vantor::test::refuse(EOPNOTSUPP);
+    }
+    return vantor::test::real<int (*)(int, const char*, int, mode_t)>("openat")(folder, path, flags, mode);
+}
+
+int linkat(int from, const char* oldPath, int to, const char* newPath, int flags) noexcept {
+    if (has && !has->secondNames) {
+        return vantor::test::refuse(EPERM);
+    }
+    return vantor::test::real<int (*)(int, const char*, int, const char*, int)>("linkat")(from, oldPath, to,
+                                                                                          newPath, flags);
+}
+
+int renameat2(int from, const char* oldPath, int to, const char* newPath, unsigned flags) noexcept {
+    if (has && !has->namesThatReplaceNone && flags != 0) {
+        return vantor::test::refuse(EINVAL);
+    }
+    return vantor::test::real<int (*)(int, const char*, int, const char*, unsigned)>("renameat2")(
+        from, oldPath, to, newPath, flags);
+}
+}

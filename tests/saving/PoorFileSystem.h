@@ -1,0 +1,19 @@
+// A file system that lacks what others have: in this program's calls, while an object of the class lives.
+#pragma once
+
+namespace vantor::test {
+
+class PoorFileSystem {
+  public:
+    struct Has {
+        bool unnamedFiles = false;          // O_TMPFILE
+        bool secondNames = false;           // linkat
+        bool namesThatReplaceNone = false;  // RENAME_NOREPLACE
+    };
+    explicit PoorFileSystem(Has has);
+    ~PoorFileSystem();
+    PoorFileSystem(const PoorFileSystem&) = delete;
+    PoorFileSystem& operator=(const PoorFileSystem&) = delete;
+};
+
+}  // namespace vantor::test
