@@ -10,6 +10,7 @@
 #include <QTemporaryDir>
 
 #include "saving/ItemSaver.h"
+#include "tests/saving/PoorFileSystem.h"
 #include "tests/support/SmallFiles.h"
 
 namespace vantor {
@@ -85,6 +86,32 @@ TEST(ItemSaver, FolderThatIsALinkIsNotFollowed) {
     EXPECT_FALSE(outcome.saved);
     EXPECT_TRUE(outcome.error.contains("leads elsewhere")) << outcome.error.toStdString();
     EXPECT_TRUE(QDir(card.path()).isEmpty(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::Hidden));
+}
+
+TEST(ItemSaver, FilesAndTheirNamesAreFlushed) {
+    const QTemporaryDir folder;
+    const ItemSaver saver(folder.path());
+    ScriptedMedium medium = letters(6);
+    ScriptedReader reader(medium);
+    const int before = test::flushesSoFar();
+    ASSERT_TRUE(saver.saveRuns("T", "a", run(0, 2), reader).saved);
+    ASSERT_TRUE(saver.saveRuns("T", "b", run(2, 4), reader).saved);
+    EXPECT_EQ(test::flushesSoFar() - before, 2) << "each file";
+    ASSERT_TRUE(saver.saveRuns("U", "c", run(4, 6), reader).saved);
+    saver.flush();
+    EXPECT_EQ(test::flushesSoFar() - before, 3 + 2) << "and each folder, once";
+    saver.flush();
+    EXPECT_EQ(test::flushesSoFar() - before, 3 + 2);
+}
+
+TEST(ItemSaver, LeftoversOfAKilledRunGoWhereTheNextOneWrites) {
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QDir(folder.path()).mkpath("T"));
+    ASSERT_TRUE(QFile(folder.filePath("T/.vantor-1a.part")).open(QIODevice::WriteOnly));
+    ScriptedMedium medium = letters(2);
+    ScriptedReader reader(medium);
+    ASSERT_TRUE(ItemSaver(folder.path()).saveRuns("T", "a", run(0, 2), reader).saved);
+    EXPECT_EQ(QDir(folder.filePath("T")).entryList(QDir::Files | QDir::Hidden), QStringList{"a"});
 }
 
 TEST(ItemSaver, AsksBeforeEachFileWhetherTheDestinationLiesOnTheMedium) {

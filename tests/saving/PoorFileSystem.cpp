@@ -5,6 +5,7 @@
 #include <fcntl.h>
 #include <sys/types.h>
 
+#include <atomic>
 #include <cerrno>
 #include <cstdarg>
 #include <optional>
@@ -14,6 +15,7 @@ namespace vantor::test {
 namespace {
 
 std::optional<PoorFileSystem::Has> has;
+std::atomic<int> flushes{0};
 
 template <typename Call>
 Call real(const char* name) {
@@ -35,11 +37,20 @@ PoorFileSystem::~PoorFileSystem() {
     has.reset();
 }
 
+int flushesSoFar() {
+    return flushes;
+}
+
 }  // namespace vantor::test
 
 using vantor::test::has;
 
 extern "C" {
+
+int fsync(int fd) {
+    ++vantor::test::flushes;
+    return vantor::test::real<int (*)(int)>("fsync")(fd);
+}
 
 int openat(int folder, const char* path, int flags, ...) {
     std::va_list list;

@@ -16,4 +16,7 @@ class PoorFileSystem {
     PoorFileSystem& operator=(const PoorFileSystem&) = delete;
 };
 
+// How often something was flushed to its medium by this program so far.
+int flushesSoFar();
+
 }  // namespace vantor::test
