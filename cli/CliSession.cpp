@@ -128,9 +128,11 @@ void CliSession::addImageWithData(const QByteArray& data, const QString& imageNa
                                   const QString& image_UID) {
     if (!data.isEmpty()) {
         const HandOver& carve = handOver();
-        PublishedItem item{carve.pass,  carve.type,        imageName,
-                           image_UID,   carve.firstSector, carve.firstSector + carve.bytes / kSectorBytes,
-                           carve.bytes, carve.sha256};
+        PublishedItem item{carve.pass,        carve.type,
+                           imageName,         image_UID,
+                           carve.firstSector, carve.firstSector + carve.bytes / kSectorBytes,
+                           carve.bytes,       carve.carved.readFailed,
+                           carve.sha256};
         if (m_options.listJson && item.sha256.isEmpty()) {
             item.sha256 = Sha256::of(data);
         }
@@ -155,27 +157,36 @@ void CliSession::addImageWithData_2(const QByteArray& data, const QString& image
                        File_Start_Sec,
                        File_End_Sec,
                        (File_End_Sec - File_Start_Sec) * kSectorBytes,
+                       handOver().carved.readFailed,
                        {}};
     save(item, {});
     publish(std::move(item));
 }
 
-void CliSession::checksumRawItems() {
+bool CliSession::checksumRawItems() {
     if (m_options.mode == kPhotoMode) {
-        return;
+        return true;
     }
+    bool all = true;
     const std::atomic<int> neverStop{0};
     for (PublishedItem& item : m_published) {
         Sha256 hash;
-        if (const auto medium = openMedium()) {
+        const auto medium = openMedium();
+        const bool read =
+            medium &&
             copyPreviewSectors(
                 *medium, item.firstSector, item.endSector, neverStop, [&](const std::uint8_t* sector) {
                     hash.add(QByteArrayView(reinterpret_cast<const char*>(sector), kSectorBytes));
                     return true;
                 });
+        // Bytes that were repeated while they were searched repeat here; what fails only now is not the item.
+        if (read || (medium && item.readFailed)) {
+            item.sha256 = hash.result();
+        } else {
+            all = false;
         }
-        item.sha256 = hash.result();
     }
+    return all;
 }
 
 std::vector<QJsonObject> CliSession::jsonLines() const {
@@ -188,7 +199,8 @@ std::vector<QJsonObject> CliSession::jsonLines() const {
                          {QStringLiteral("first_sector"), number(item.firstSector)},
                          {QStringLiteral("end_sector"), number(item.endSector)},
                          {QStringLiteral("bytes"), number(item.bytes)},
-                         {QStringLiteral("sha256"), QString::fromLatin1(item.sha256.toHex())}});
+                         {QStringLiteral("sha256"),
+                          item.sha256.isEmpty() ? QJsonValue() : QString::fromLatin1(item.sha256.toHex())}});
     }
     QJsonArray rows;
     for (const ResultRow& row : resultRows()) {

@@ -24,7 +24,8 @@ struct PublishedItem {
     std::uint64_t firstSector = 0;
     std::uint64_t endSector = 0;  // exclusive
     std::uint64_t bytes = 0;
-    QByteArray sha256;  // raw; of raw items only once they were checksummed
+    bool readFailed = false;  // while it was searched
+    QByteArray sha256;        // raw; of raw items only once they were checksummed, empty where that failed
 };
 
 // The view of a scan that nobody watches: it answers from the options and keeps the alerts.
@@ -87,7 +88,7 @@ class CliSession : private CliView, public ScanSession {
     void run();
 
     // Checksums of raw items, from a copy of their sectors as the preview makes it.
-    void checksumRawItems();
+    bool checksumRawItems();
 
     std::vector<QJsonObject> jsonLines() const;
 

@@ -28,12 +28,24 @@ void printJson(const Records& records) {
     }
 }
 
+// A volume's label is whatever somebody wrote on the card: nothing in it speaks to the terminal.
+QString harmless(const QString& text) {
+    QString shown;
+    for (const QChar c : text) {
+        const bool invisible = c.category() == QChar::Other_Control || c.category() == QChar::Other_Format ||
+                               c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
+        shown += invisible ? QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0')) : QString(c);
+    }
+    return shown;
+}
+
 void printTable(const Records& records) {
     QList<QStringList> rows{{QStringLiteral("Medium"), QStringLiteral("Name"), QStringLiteral("File system"),
                              QStringLiteral("Size"), QStringLiteral("Disk"), QStringLiteral("Sectors")}};
     for (const auto& record : records) {
-        rows.append({record->nsStrDiskIdentifier, record->nsStrVolName, record->nsStrFileSystem,
-                     record->nsStrSize.simplified(), record->nsStrParentDisk, record->nsStrSectors});
+        rows.append({record->nsStrDiskIdentifier, harmless(record->nsStrVolName),
+                     harmless(record->nsStrFileSystem), record->nsStrSize.simplified(),
+                     record->nsStrParentDisk, record->nsStrSectors});
     }
     QList<qsizetype> widths(rows.first().size(), 0);
     for (const QStringList& row : rows) {

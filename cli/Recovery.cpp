@@ -9,6 +9,7 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QMap>
+#include <array>
 #include <csignal>
 #include <cstdio>
 #include <thread>
@@ -37,7 +38,10 @@ extern "C" void requestStop(int) {
     *g_walkAway = true;
 }
 
-// Ctrl-C asks for a stop as the button does, and leaves a device alone that does not answer; a second one
+// Ctrl-C, an end of the terminal or of the session.
+constexpr std::array kStopRequests = {SIGINT, SIGTERM, SIGHUP};
+
+// Each asks for a stop as the button does, and leaves a device alone that does not answer; a second one
 // ends the program.
 class StopOnInterrupt {
   public:
@@ -48,12 +52,14 @@ class StopOnInterrupt {
         struct sigaction action {};
         action.sa_handler = requestStop;
         action.sa_flags = static_cast<int>(SA_RESETHAND);
-        ::sigaction(SIGINT, &action, nullptr);
-        ::sigaction(SIGTERM, &action, nullptr);
+        for (const int request : kStopRequests) {
+            ::sigaction(request, &action, nullptr);
+        }
     }
     ~StopOnInterrupt() {
-        std::signal(SIGINT, SIG_DFL);
-        std::signal(SIGTERM, SIG_DFL);
+        for (const int request : kStopRequests) {
+            std::signal(request, SIG_DFL);
+        }
     }
     StopOnInterrupt(const StopOnInterrupt&) = delete;
     StopOnInterrupt& operator=(const StopOnInterrupt&) = delete;
@@ -147,11 +153,13 @@ bool typesRefused(CliSession& session, const CliOptions& options) {
     return false;
 }
 
-void printJson(CliSession& session) {
-    session.checksumRawItems();
+// False when not all items could be read for their checksums.
+bool printJson(CliSession& session) {
+    const bool all = session.checksumRawItems();
     for (const QJsonObject& line : session.jsonLines()) {
         std::printf("%s\n", QJsonDocument(line).toJson(QJsonDocument::Compact).constData());
     }
+    return all;
 }
 
 void printTable(const CliSession& session) {
@@ -226,8 +234,9 @@ int tell(CliSession& session, const CliOptions& options, const ReportHead& head)
     for (const QString& alert : session.alerts()) {
         complain(alert);
     }
+    bool allRead = true;
     if (options.listJson) {
-        printJson(session);
+        allRead = printJson(session);
     } else {
         printTable(session);
     }
@@ -242,7 +251,12 @@ int tell(CliSession& session, const CliOptions& options, const ReportHead& head)
         complain(QStringLiteral("What was found cannot be written to the standard output."));
         return kExitDestinationTrouble;
     }
-    return exitCodeOf(session);
+    const int code = exitCodeOf(session);
+    if (!allRead) {
+        complain(QStringLiteral("Not all items could be read once more; those have no checksum."));
+        return code == kExitCompleted ? kExitReadError : code;
+    }
+    return code;
 }
 
 }  // namespace

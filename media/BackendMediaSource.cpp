@@ -1,6 +1,7 @@
 // Choosing the backend that answers, and looking facts up in its listing.
 #include "media/BackendMediaSource.h"
 
+#include <QSet>
 #include <utility>
 
 namespace vantor {
@@ -38,6 +39,14 @@ void BackendMediaSource::listAnew() {
         }
     }
     m_media = media.value_or(QList<MediumRecord>());
+    // Of media that are mounted at one place, one over the other, each is told by a path of its own.
+    QSet<QString> paths;
+    for (MediumRecord& medium : m_media) {
+        if (paths.contains(medium.path)) {
+            medium.path = medium.target.path;
+        }
+        paths.insert(medium.path);
+    }
     QHash<QString, MediumTarget> targets;
     for (const MediumRecord& medium : m_media) {
         targets[medium.facts.value(QStringLiteral("DeviceIdentifier")).toString()] = medium.target;

@@ -4,6 +4,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
@@ -31,19 +32,47 @@ QString stemOfPart(const QString& path) {
     return numbered ? path.chopped(kSuffixLength) : QString();
 }
 
+constexpr int kLastPart = 999;
+
+QString pathOfPart(const QString& stem, int number) {
+    return QStringLiteral("%1.%2").arg(stem).arg(number, 3, 10, QChar(u'0'));
+}
+
 }  // namespace
 
 QStringList imageParts(const QString& path) {
     const QString stem = stemOfPart(path);
     QStringList parts;
-    for (int number = 1; !stem.isEmpty() && number < 1000; ++number) {
-        const QString part = QStringLiteral("%1.%2").arg(stem).arg(number, 3, 10, QChar(u'0'));
+    for (int number = 1; !stem.isEmpty() && number <= kLastPart; ++number) {
+        const QString part = pathOfPart(stem, number);
         if (!QFileInfo(part).isFile()) {
             break;
         }
         parts << part;
     }
     return parts.contains(path) ? parts : QStringList{path};
+}
+
+QString missingPart(const QString& path) {
+    const QString stem = stemOfPart(path);
+    if (stem.isEmpty()) {
+        return {};
+    }
+    // Two numbered neighbours make a row; a file that merely ends in a number is whole.
+    int last = 0, parts = 0;
+    for (const QString& name : QFileInfo(path).dir().entryList(QDir::Files)) {
+        if (stemOfPart(name) == QFileInfo(stem).fileName()) {
+            const int number = QStringView(name).last(kSuffixLength - 1).toInt();
+            last = std::max(last, number);
+            parts += number > 0 ? 1 : 0;
+        }
+    }
+    for (int number = 1; parts > 1 && number < last; ++number) {
+        if (!QFileInfo(pathOfPart(stem, number)).isFile()) {
+            return pathOfPart(stem, number);
+        }
+    }
+    return {};
 }
 
 std::unique_ptr<ImageFile> ImageFile::open(const QStringList& parts) {

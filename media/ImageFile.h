@@ -18,6 +18,10 @@ namespace vantor {
 // is there, else `path` alone. A gap ends the sequence.
 QStringList imageParts(const QString& path);
 
+// The path of the first part that is missing in front of the last one that is there; empty when none is, or
+// when the path is not one of a row of parts.
+QString missingPart(const QString& path);
+
 // A sentence for the user that says what to do, when the file holds a medium packed in a form that cannot be
 // searched as it stands: an archive, a compressed file, a container of a virtual machine or of an evidence
 // tool. Looks at a few bytes only; nothing for a plain image or for a file that cannot be read.

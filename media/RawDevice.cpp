@@ -65,6 +65,10 @@ std::unique_ptr<BlockSource> openDevice(const QString& path, const OpenTerms& te
 std::unique_ptr<BlockSource> openSource(const QString& path, OpenTerms terms) {
     switch (kindOf(path)) {
         case Kind::Image:
+            if (!missingPart(path).isEmpty()) {
+                errno = ENOENT;
+                return nullptr;
+            }
             return ImageFile::open(imageParts(path));
         case Kind::Device: {
             StopRequest stop = terms.stop;
@@ -107,6 +111,9 @@ std::optional<MediumFacts> probeMedium(const QString& path, QString* why) {
         return refuse(
             QStringLiteral("The image is in more than %1 parts; please join them into one file first")
                 .arg(ImageFile::kMostParts));
+    }
+    if (const QString missing = kind == Kind::Image ? missingPart(path) : QString(); !missing.isEmpty()) {
+        return refuse(QStringLiteral("A part of the image is missing: %1").arg(missing));
     }
     errno = 0;
     std::optional<MediumFacts> facts;

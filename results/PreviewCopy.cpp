@@ -3,9 +3,10 @@
 
 namespace vantor {
 
-void copyPreviewSectors(SectorReader& medium, std::uint64_t start, std::uint64_t end,
+bool copyPreviewSectors(SectorReader& medium, std::uint64_t start, std::uint64_t end,
                         const std::atomic<int>& stop_now,
                         const std::function<bool(const std::uint8_t* sector)>& write) {
+    bool allRead = true;
     if (start != 0) {
         medium.seek(start);
     }
@@ -13,11 +14,13 @@ void copyPreviewSectors(SectorReader& medium, std::uint64_t start, std::uint64_t
         if (!medium.read()) {
             // Where this fails too, the bytes at hand are written all the same.
             medium.seek(sector);
+            allRead = false;
         }
         if (!write(medium.current())) {
-            return;
+            break;
         }
     }
+    return allRead;
 }
 
 }  // namespace vantor

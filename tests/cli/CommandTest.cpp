@@ -252,7 +252,11 @@ TEST(Command, DestinationThatCannotBeMade) {
     EXPECT_TRUE(run.err.contains("cannot be written to"));
 }
 
-TEST(Command, InterruptPublishesAndSavesWhatWasFound) {
+// Ctrl-C, a request to end, and a terminal that is closed.
+class CommandStopped : public testing::TestWithParam<int> {};
+INSTANTIATE_TEST_SUITE_P(BySignal, CommandStopped, testing::Values(SIGINT, SIGTERM, SIGHUP));
+
+TEST_P(CommandStopped, PublishesAndSavesWhatWasFound) {
     const QTemporaryDir folder;
     // Sparse and large enough that the scan is still running when the signal comes.
     const QString image = writeImage(folder);
@@ -264,7 +268,7 @@ TEST(Command, InterruptPublishesAndSavesWhatWasFound) {
     while (!QFile::exists(folder.filePath("out/JPG/GND00001.JPG")) && !process.waitForFinished(5)) {
     }
     ASSERT_EQ(process.state(), QProcess::Running) << process.readAllStandardError().constData();
-    ::kill(static_cast<pid_t>(process.processId()), SIGINT);
+    ::kill(static_cast<pid_t>(process.processId()), GetParam());
     ASSERT_TRUE(process.waitForFinished(60000));
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(process.exitCode(), 3);

@@ -115,6 +115,21 @@ TEST_F(RawDeviceTest, BeyondTwoTebibytes_IsReached) {
     EXPECT_FALSE(reader->read());
 }
 
+TEST_F(RawDeviceTest, SplitImageWithAPartMissing_IsRefusedByName) {
+    const QStringList parts{writeFile("card.001", QByteArray(512, 'a')),
+                            writeFile("card.003", QByteArray(512, 'c')), writeFile("card.txt", "x"),
+                            writeFile("other.002", QByteArray(512, 'o'))};
+    for (const QString& part : {parts[0], parts[1]}) {
+        QString why;
+        EXPECT_FALSE(probeMedium(part, &why));
+        EXPECT_TRUE(why.contains("card.002")) << why.toStdString();
+        EXPECT_EQ(openMedium(part), nullptr);
+    }
+    EXPECT_TRUE(probeMedium(parts[3])) << "a file that merely ends in a number";
+    writeFile("card.002", QByteArray(512, 'b'));
+    EXPECT_EQ(probeMedium(parts[0])->sectors, 3U);
+}
+
 TEST_F(RawDeviceTest, SplitImage_IsReadAsOne) {
     // Parts that do not end at a sector's end, one of them shorter than a sector.
     QFile whole(writeImage(QStringLiteral("whole.img"), 0, 1500, 100));
