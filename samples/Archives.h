@@ -1,4 +1,4 @@
-// Archives, and the office documents that are archives.
+// Archives, by libarchive where it writes them.
 #pragma once
 
 #include <QByteArray>
@@ -6,20 +6,18 @@
 
 namespace vantor::samples {
 
-enum class Packing { Stored, Deflated };
-
-struct ArchiveMember {
+struct Member {
     QByteArray name;
     QByteArray bytes;
-    Packing packing = Packing::Deflated;
 };
 
-QByteArray zipFile(const std::vector<ArchiveMember>& members);  // PKWARE APPNOTE, version 2.0
-QByteArray tarFile(const std::vector<ArchiveMember>& members);  // POSIX ustar
-QByteArray xzFile(const QByteArray& bytes);                     // .xz 1.0.4, LZMA2 chunks without compression
-QByteArray sevenZipFile(const std::vector<ArchiveMember>& members);  // 7z 0.4, the "copy" method
-QByteArray cabFile(const std::vector<ArchiveMember>& members);       // MS-CAB without compression
-QByteArray arFile(const std::vector<ArchiveMember>& members);        // the common archive of Unix
-QByteArray cpioFile(const std::vector<ArchiveMember>& members);      // the "newc" form
+// Formats and filters in libarchive's names: "ustar", "7zip", "raw"; "gzip", "xz".
+QByteArray archived(const std::vector<Member>& members, const char* format, const char* filter = nullptr);
+
+// By hand, since an office document's first member must be stored as it is and without extra fields
+// ("mimetype").
+QByteArray zipFile(const std::vector<Member>& members);
+QByteArray cabFile(const std::vector<Member>& members);  // MS-CAB without compression
+QByteArray lhaFile(const std::vector<Member>& members);  // level 0 headers, "-lh0-"
 
 }  // namespace vantor::samples

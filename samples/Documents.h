@@ -1,35 +1,33 @@
-// Documents and data files of many kinds, each small but whole.
+// Documents and data of programs, each small but whole.
 #pragma once
 
 #include <QByteArray>
+#include <QImage>
+#include <vector>
 
-#include "samples/Canvas.h"
+#include "samples/Archives.h"
 
 namespace vantor::samples {
 
-QByteArray pdfFile(const Picture& photo);  // ISO 32000, one page
-QByteArray postScriptFile();               // encapsulated PostScript
-QByteArray rtfFile();
-QByteArray textFile();
-QByteArray csvFile();
-QByteArray htmlFile();
-QByteArray xmlFile();
-QByteArray svgFile();
-QByteArray gpxFile();
-QByteArray kmlFile();
-QByteArray icsFile();  // RFC 5545
-QByteArray vcfFile();  // RFC 2426
-QByteArray emlFile();  // RFC 5322
+// A document of texts.tsv: one text, or the members of a document that is a ZIP archive.
+struct TextDocument {
+    QByteArray name;
+    std::vector<Member> members;  // a single one without a name is the document itself
+};
 
-QByteArray docxFile();  // ECMA-376
-QByteArray xlsxFile();
-QByteArray pptxFile();
-QByteArray odtFile();  // OASIS OpenDocument 1.2
-QByteArray odsFile();
-QByteArray odpFile();
-QByteArray epubFile();  // EPUB 3
+// All of texts.tsv in its order. Each line is a name, a tab and the text with \n, \r, \t and \\ for what
+// cannot stand in it; "NAME/member" is a member of the archive NAME.
+const std::vector<TextDocument>& textDocuments();
+QByteArray contentOf(const TextDocument& document);
+// The text of this name; throws std::runtime_error when there is none.
+QByteArray textNamed(const char* name);
 
-QByteArray sqliteFile();  // one table of places, pages of 4096 bytes
-QByteArray dbfFile();     // dBASE III, the same table
+QByteArray pdfFile(const QImage& photo);  // one page with a drawing and a photo
+QByteArray sqliteFile();                  // one table of places
+QByteArray dbfFile();                     // dBASE III, the same table
+QByteArray numpyFile();                   // 256 squares
+QByteArray shapeFile();                   // Esri shapefile of points
+QByteArray pcapFile();                    // empty Ethernet packets
+QByteArray wasmFile();                    // one function
 
 }  // namespace vantor::samples
