@@ -1,6 +1,4 @@
 // Archives of a few small members, all made on 1 June 2024, ten o'clock.
-#include "samples/Archives.h"
-
 #include <archive.h>
 #include <archive_entry.h>
 #include <zlib.h>
@@ -9,6 +7,7 @@
 #include <stdexcept>
 
 #include "samples/Bytes.h"
+#include "samples/Documents.h"
 
 namespace vantor::samples {
 

@@ -1,10 +1,13 @@
 // What cameras write: Exif in JPEG, two JPEG in one, a sensor's raw values.
-#include <algorithm>
+#include <tiffio.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <exiv2/exif.hpp>
 
 #include "samples/Bytes.h"
 #include "samples/Encoding.h"
 #include "samples/Pictures.h"
-#include "samples/Tiff.h"
 
 namespace vantor::samples {
 
@@ -19,107 +22,91 @@ QByteArray withSegment(const QByteArray& jpeg, int marker, const QByteArray& con
 
 }  // namespace
 
-QByteArray withExif(const QByteArray& jpeg, const QImage& picture, const ExifNotes& notes) {
-    constexpr qsizetype kFirst = 8;
+QByteArray withExif(const QByteArray& jpeg, const QImage& picture, const QByteArray& takenAt, bool isTurned) {
     const QByteArray small =
         writtenByQt("jpg", picture.scaled(160, 160, Qt::KeepAspectRatio, Qt::SmoothTransformation), 70);
-    const auto takenAt = characters(notes.takenAt);
-    std::vector<Field> camera = {{0x010F, kAscii, characters("VANTOR")},
-                                 {0x0110, kAscii, characters("SAMPLE 100")},
-                                 {0x0112, kShort, {notes.isTurned ? 6 : 1}},
-                                 {0x011A, kRational, {72, 1}},
-                                 {0x011B, kRational, {72, 1}},
-                                 {0x0128, kShort, {2}},
-                                 {0x0132, kAscii, takenAt},
-                                 {0x0213, kShort, {2}},
-                                 {0x8769, kLong, {0}}};
-    const std::vector<Field> shot = {{0x829A, kRational, {1, 250}},
-                                     {0x829D, kRational, {56, 10}},
-                                     {0x8827, kShort, {100}},
-                                     {0x9000, kUndefined, characters("0230", false)},
-                                     {0x9003, kAscii, takenAt},
-                                     {0x9004, kAscii, takenAt},
-                                     {0x9101, kUndefined, {1, 2, 3, 0}},
-                                     {0x9209, kShort, {16}},
-                                     {0x920A, kRational, {50, 10}},
-                                     {0xA000, kUndefined, characters("0100", false)},
-                                     {0xA001, kShort, {1}},
-                                     {0xA002, kLong, {picture.width()}},
-                                     {0xA003, kLong, {picture.height()}}};
-    std::vector<Field> thumbnail = {
-        {0x0103, kShort, {6}}, {0x0201, kLong, {0}}, {0x0202, kLong, {small.size()}}};
-    const qsizetype shotAt = kFirst + directoryBytes(camera);
-    const qsizetype thumbnailAt = shotAt + directoryBytes(shot);
-    camera.back().values = {shotAt};
-    thumbnail[1].values = {thumbnailAt + directoryBytes(thumbnail)};
-    return withSegment(jpeg, 0xFFE1,
-                       QByteArray("Exif\0\0", 6) + tiffHeader(Order::Big) +
-                           directory(Order::Big, camera, kFirst, thumbnailAt) +
-                           directory(Order::Big, shot, shotAt) +
-                           directory(Order::Big, thumbnail, thumbnailAt) + small);
+    Exiv2::ExifData exif;
+    exif["Exif.Image.Make"] = "VANTOR";
+    exif["Exif.Image.Model"] = "SAMPLE 100";
+    exif["Exif.Image.Orientation"] = std::uint16_t(isTurned ? 6 : 1);
+    exif["Exif.Photo.ExposureTime"] = Exiv2::Rational(1, 250);
+    exif["Exif.Photo.FNumber"] = Exiv2::Rational(56, 10);
+    exif["Exif.Photo.ISOSpeedRatings"] = std::uint16_t(100);
+    for (const char* when :
+         {"Exif.Image.DateTime", "Exif.Photo.DateTimeOriginal", "Exif.Photo.DateTimeDigitized"})
+        exif[when] = takenAt.toStdString();
+    exif["Exif.Photo.PixelXDimension"] = std::uint32_t(picture.width());
+    exif["Exif.Photo.PixelYDimension"] = std::uint32_t(picture.height());
+    Exiv2::ExifThumb(exif).setJpegThumbnail(reinterpret_cast<const Exiv2::byte*>(small.constData()),
+                                            small.size());
+    Exiv2::Blob tiff;
+    Exiv2::ExifParser::encode(tiff, Exiv2::bigEndian, exif);
+    return withSegment(
+        jpeg, 0xFFE1,
+        QByteArray("Exif\0\0", 6).append(reinterpret_cast<const char*>(tiff.data()), qsizetype(tiff.size())));
 }
 
 QByteArray mpoFile(const QByteArray& left, const QByteArray& right) {
+    constexpr int kUndefined = 7;
+    constexpr int kLong = 4;
     constexpr qsizetype kOffsetsFrom = 2 + 4 + 4;  // behind the start, the marker and length, and "MPF"
     const auto indexed = [&](qsizetype leftBytes) {
-        const Bytes entries = Bytes()
-                                  .be32(0x20020002)
-                                  .be32(leftBytes)
-                                  .be32(0)
-                                  .be32(0)
-                                  .be32(0x00020002)
-                                  .be32(right.size())
-                                  .be32(leftBytes - kOffsetsFrom)
-                                  .be32(0);
-        const std::vector<Field> index = {{0xB000, kUndefined, characters("0100", false)},
-                                          {0xB001, kLong, {2}},
-                                          {0xB002, kUndefined, characters(entries, false)}};
-        return withSegment(left, 0xFFE2,
-                           QByteArray("MPF\0", 4) + tiffHeader(Order::Big) + directory(Order::Big, index, 8));
+        Bytes out;
+        out.raw("MPF").u8(0).raw("MM").be16(42).be32(8).be16(3);
+        out.be16(0xB000).be16(kUndefined).be32(4).raw("0100").be16(0xB001).be16(kLong).be32(1).be32(2);
+        out.be16(0xB002).be16(kUndefined).be32(32).be32(8 + 2 + 3 * 12 + 4).be32(0);
+        out.be32(0x20020002).be32(leftBytes).be32(0).be32(0);
+        out.be32(0x00020002).be32(right.size()).be32(leftBytes - kOffsetsFrom).be32(0);
+        return withSegment(left, 0xFFE2, out);
     };
     return indexed(indexed(0).size()) + right;
 }
 
 QByteArray dngFile(const QImage& picture) {
-    constexpr int kColourFilterArray = 32803;
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("dng"));
+    TIFF* const tiff = TIFFOpen(path.toLocal8Bit().constData(), "wl");
+    const float fromObserverToLinear[] = {3.24f, -1.54f, -0.5f, -0.97f, 1.88f, 0.04f, 0.06f, -0.2f, 1.06f};
+    const float neutral[] = {1, 1, 1};
+    const std::uint16_t twoByTwo[] = {2, 2};
+    const std::uint32_t white = 255 * 255;
+    TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, picture.width());
+    TIFFSetField(tiff, TIFFTAG_IMAGELENGTH, picture.height());
+    TIFFSetField(tiff, TIFFTAG_BITSPERSAMPLE, 16);
+    TIFFSetField(tiff, TIFFTAG_SAMPLESPERPIXEL, 1);
+    TIFFSetField(tiff, TIFFTAG_ROWSPERSTRIP, picture.height());
+    TIFFSetField(tiff, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG);
+    TIFFSetField(tiff, TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_CFA);
+    TIFFSetField(tiff, TIFFTAG_MAKE, "VANTOR");
+    TIFFSetField(tiff, TIFFTAG_MODEL, "SAMPLE 100");
+    TIFFSetField(tiff, TIFFTAG_CFAREPEATPATTERNDIM, twoByTwo);
+    TIFFSetField(tiff, TIFFTAG_CFAPATTERN, 4, "\0\1\1\2");
+    TIFFSetField(tiff, TIFFTAG_DNGVERSION, "\1\1\0\0");
+    TIFFSetField(tiff, TIFFTAG_DNGBACKWARDVERSION, "\1\1\0\0");
+    TIFFSetField(tiff, TIFFTAG_UNIQUECAMERAMODEL, "VANTOR SAMPLE 100");
+    TIFFSetField(tiff, TIFFTAG_WHITELEVEL, 1, &white);
+    TIFFSetField(tiff, TIFFTAG_COLORMATRIX1, 9, fromObserverToLinear);
+    TIFFSetField(tiff, TIFFTAG_ASSHOTNEUTRAL, 3, neutral);
+    TIFFSetField(tiff, TIFFTAG_CALIBRATIONILLUMINANT1, 21);
+    // The directory comes first, as cameras write it.
+    TIFFDeferStrileArrayWriting(tiff);
+    TIFFWriteCheck(tiff, 0, "dng");
+    TIFFWriteDirectory(tiff);
+    TIFFSetDirectory(tiff, 0);
     // What a sensor with red, green / green, blue filters would have seen, roughly undoing the display's
     // gamma.
-    Bytes sensor;
     for (int y = 0; y < picture.height(); ++y) {
+        std::vector<std::uint16_t> row;
         for (int x = 0; x < picture.width(); ++x) {
             const int value = picture.constScanLine(y)[x * 3 + y % 2 + x % 2];
-            sensor.le16(value * value);
+            row.push_back(std::uint16_t(value * value));
         }
+        TIFFWriteScanline(tiff, row.data(), std::uint32_t(y));
     }
-    std::vector<Field> fields = {
-        {0x00FE, kLong, {0}},
-        {0x0100, kLong, {picture.width()}},
-        {0x0101, kLong, {picture.height()}},
-        {0x0102, kShort, {16}},
-        {0x0103, kShort, {1}},
-        {0x0106, kShort, {kColourFilterArray}},
-        {0x010F, kAscii, characters("VANTOR")},
-        {0x0110, kAscii, characters("SAMPLE 100")},
-        {0x0111, kLong, {0}},
-        {0x0112, kShort, {1}},
-        {0x0115, kShort, {1}},
-        {0x0116, kLong, {picture.height()}},
-        {0x0117, kLong, {sensor.size()}},
-        {0x011C, kShort, {1}},
-        {0x828D, kShort, {2, 2}},
-        {0x828E, kByte, {0, 1, 1, 2}},
-        {0xC612, kByte, {1, 1, 0, 0}},
-        {0xC613, kByte, {1, 1, 0, 0}},
-        {0xC614, kAscii, characters("VANTOR SAMPLE 100")},
-        {0xC61D, kLong, {65025}},
-        // From the standard observer's colours to linear sRGB, in hundredths.
-        {0xC621,
-         kSignedRational,
-         {324, 100, -154, 100, -50, 100, -97, 100, 188, 100, 4, 100, 6, 100, -20, 100, 106, 100}},
-        {0xC628, kRational, {1, 1, 1, 1, 1, 1}},
-        {0xC65A, kShort, {21}}};
-    fields[8].values = {8 + directoryBytes(fields)};
-    return tiffHeader(Order::Little) + directory(Order::Little, fields, 8) + sensor;
+    TIFFForceStrileArrayWriting(tiff);
+    TIFFClose(tiff);
+    QFile written(path);
+    return written.open(QIODevice::ReadOnly) ? written.readAll() : QByteArray();
 }
 
 }  // namespace vantor::samples

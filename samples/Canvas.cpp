@@ -4,7 +4,6 @@
 #include <QRgba64>
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace vantor::samples {
 
@@ -58,16 +57,6 @@ Colour mix(Colour from, Colour to, double share) {
     return {between(from.red, to.red, s), between(from.green, to.green, s), between(from.blue, to.blue, s)};
 }
 
-double sine(double angle) {
-    return std::sin(angle * std::numbers::pi / kHalfTurn);
-}
-double cosine(double angle) {
-    return std::cos(angle * std::numbers::pi / kHalfTurn);
-}
-double within(double value, double low, double high) {
-    return std::clamp(value, low, high);
-}
-
 double noise(double x, double y, int seed, int octaves) {
     double sum = 0;
     double weights = 0;
@@ -91,11 +80,6 @@ int Canvas::rowOf(double y) const {
     return int(within(std::floor(y * m_image.height() / kUnitsHigh), 0, m_image.height()));
 }
 
-void Canvas::fill(const QPolygonF& shape, const QBrush& brush) {
-    m_painter.setBrush(brush);
-    m_painter.drawPolygon(shape);
-}
-
 void Canvas::gradient(const std::vector<Stop>& stops, double from, double to) {
     const double span = stops.back().y - stops.front().y;
     QLinearGradient colours(0, stops.front().y, 0, stops.back().y);
@@ -103,10 +87,6 @@ void Canvas::gradient(const std::vector<Stop>& stops, double from, double to) {
         colours.setColorAt((stop.y - stops.front().y) / span, toQt(stop.colour));
     const double first = rowOf(from) * kUnitsHigh / m_image.height();
     m_painter.fillRect(QRectF(0, first, wide(), to - first), colours);
-}
-
-void Canvas::disc(Point centre, double radius, Colour colour, double alpha) {
-    ellipse(centre, radius, radius, 0, colour, alpha);
 }
 
 void Canvas::glow(Point centre, double radius, Colour colour, double alpha) {
@@ -141,6 +121,17 @@ void Canvas::polygon(const std::vector<Point>& corners, Stop top, Stop bottom, d
     const bool plain = toQt(top.colour) == toQt(bottom.colour);
     m_painter.setBrush(plain ? QBrush(toQt(top.colour, alpha)) : QBrush(colours));
     m_painter.drawPolygon(shape);
+}
+
+void Canvas::shape(Point at, double size, std::initializer_list<double> corners, Colour colour) {
+    std::vector<Point> points;
+    for (const double* c = corners.begin(); c != corners.end(); c += 2)
+        points.push_back({at.x + c[0] * size / 100, at.y + c[1] * size / 100});
+    polygon(points, colour);
+}
+
+void Canvas::box(double left, double top, double right, double bottom, Colour colour, double alpha) {
+    m_painter.fillRect(QRectF(QPointF(left, top), QPointF(right, bottom)), toQt(colour, alpha));
 }
 
 void Canvas::ellipse(Point centre, double radiusX, double radiusY, double turn, Colour colour, double alpha) {

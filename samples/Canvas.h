@@ -6,7 +6,10 @@
 
 #include <QImage>
 #include <QPainter>
+#include <algorithm>
+#include <cmath>
 #include <functional>
+#include <numbers>
 #include <vector>
 
 namespace vantor::samples {
@@ -36,9 +39,15 @@ constexpr double kOpaque = 256;
 constexpr int kHalfTurn = 32768;
 constexpr int kFullTurn = 2 * kHalfTurn;
 
-double sine(double angle);
-double cosine(double angle);
-double within(double value, double low, double high);
+inline double sine(double angle) {
+    return std::sin(angle * std::numbers::pi / kHalfTurn);
+}
+inline double cosine(double angle) {
+    return std::cos(angle * std::numbers::pi / kHalfTurn);
+}
+inline double within(double value, double low, double high) {
+    return std::clamp(value, low, high);
+}
 // Octaves of smooth noise, each half as strong and twice as fine, at a point in cells; 0 to 65535.
 double noise(double x, double y, int seed, int octaves);
 
@@ -50,13 +59,18 @@ class Canvas {
 
     // Whole rows of [from, to) in the colours of the stops, which come in rising order.
     void gradient(const std::vector<Stop>& stops, double from = 0, double to = kUnitsHigh);
-    void disc(Point centre, double radius, Colour colour, double alpha = kOpaque);
+    void disc(Point centre, double radius, Colour colour, double alpha = kOpaque) {
+        ellipse(centre, radius, radius, 0, colour, alpha);
+    }
     // Light that fades to nothing at the radius.
     void glow(Point centre, double radius, Colour colour, double alpha);
     void ring(Point centre, double inner, double outer, Colour colour, double alpha);
     void polygon(const std::vector<Point>& corners, Colour colour, double alpha = kOpaque);
     // A polygon whose colour runs from one to another between two heights.
     void polygon(const std::vector<Point>& corners, Stop top, Stop bottom, double alpha = kOpaque);
+    // A polygon of pairs of coordinates in hundredths of `size`, counted from `at`.
+    void shape(Point at, double size, std::initializer_list<double> corners, Colour colour);
+    void box(double left, double top, double right, double bottom, Colour colour, double alpha = kOpaque);
     void ellipse(Point centre, double radiusX, double radiusY, double turn, Colour colour,
                  double alpha = kOpaque);
     // A line with round ends, thicker or thinner towards its end.
@@ -81,7 +95,6 @@ class Canvas {
     QRgba64* row(int y) { return reinterpret_cast<QRgba64*>(m_image.scanLine(y)); }
     double unitsAt(int pixel) const { return (pixel + 0.5) * kUnitsHigh / m_image.height(); }
     int rowOf(double y) const;
-    void fill(const QPolygonF& shape, const QBrush& brush);
 
     QImage m_image;  // 16 bits a channel
     QPainter m_painter;

@@ -120,15 +120,9 @@ QByteArray listLine(const CardFile& file, const QByteArray& bytes, const QString
                           : file.gap == Gap::Noise ? "after a gap of " + gap + " sectors of random bytes"
                                                    : "right after the file before";
     const QString hash = QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex();
-    return QStringList{file.name,
-                       file.name.section('.', -1).toUpper(),
-                       textOf(int(runs[0].first)),
-                       textOf(int(bytes.size())),
-                       hash,
-                       pieces + "; " + place + "; " + file.folder}
-               .join('\t')
-               .toUtf8() +
-           '\n';
+    QStringList fields{file.name, file.name.section('.', -1).toUpper(), textOf(int(runs[0].first))};
+    fields << textOf(int(bytes.size())) << hash << pieces + "; " + place + "; " + file.folder + '\n';
+    return fields.join('\t').toUtf8();
 }
 
 std::vector<QByteArray> contentsOf(const std::vector<CardFile>& files) {
@@ -173,8 +167,7 @@ SampleCard buildSampleCard(const std::vector<CardFile>& files) {
             // A file of its first half's size makes room for it, and one behind stays in its way.
             card.write("HALF.TMP", QByteArray(bytes.size() / kClusterBytes / 2 * kClusterBytes, '\0'));
             card.write("WAY.TMP", QByteArray(kPieceGapClusters * kClusterBytes, '\0'));
-            waiting << "HALF.TMP"
-                    << "WAY.TMP";
+            waiting += QStringList{"HALF.TMP", "WAY.TMP"};
             card.copy(waiting, file.folder);
             card.run("mdel", {"::/" + file.folder + "/HALF.TMP"});
         }

@@ -1,12 +1,10 @@
 // What is on the card: a holiday's photos, and a file of every other kind.
-#include "samples/Archives.h"
 #include "samples/Bytes.h"
 #include "samples/Card.h"
 #include "samples/Documents.h"
 #include "samples/Encoding.h"
 #include "samples/Pictures.h"
 #include "samples/Scenes.h"
-#include "samples/Sounds.h"
 
 namespace vantor::samples {
 
@@ -36,6 +34,7 @@ struct Photo {
     int width;
     int height;
     Notes notes;
+    QRgb laterLight = 0;  // of a motif that was taken twice; 0 the first time
     Writer writer = Writer::Plain;
     int quality = 88;
     Gap gap = Gap::None;
@@ -46,31 +45,31 @@ constexpr Photo kPhotos[] = {
     {seaSunset, 2048, 1536, Notes::Exif},
     {lavenderRows, 1600, 1200, Notes::Exif},
     {sunflower, 1600, 1200, Notes::Exif},
-    {alpineLake, 2048, 1365, Notes::Exif, Writer::Plain, 90, Gap::Zeros, 3},
+    {alpineLake, 2048, 1365, Notes::Exif, 0, Writer::Plain, 90, Gap::Zeros, 3},
     {balloons, 1600, 1200, Notes::Exif},
-    {lighthouse, 1200, 1600, Notes::Exif},
-    {blueRidges, 1600, 1067, Notes::Exif, Writer::FullChroma},
-    {palmBeach, 1600, 1200, Notes::Exif, Writer::Plain, 88, Gap::Noise, 5},
+    {meadow, 1200, 1600, Notes::Exif},
+    {blueRidges, 1600, 1067, Notes::Exif, 0, Writer::FullChroma},
+    {rainbowHills, 1600, 1200, Notes::Exif, 0, Writer::Plain, 88, Gap::Noise, 5},
     {starryNight, 1600, 1067, Notes::Exif},
     {meadow, 1600, 1200, Notes::Exif},
     {citySkyline, 1600, 1067, Notes::Exif},
-    {cherryBranch, 1280, 960, Notes::Exif, Writer::FullChroma, 92, Gap::Zeros, 1},
-    {rainbowHills, 1600, 1200, Notes::Exif},
-    {dunes, 1600, 1067, Notes::Exif},
+    {pinkCosmos, 1280, 960, Notes::Exif, 0, Writer::FullChroma, 92, Gap::Zeros, 1},
+    {autumnLake, 1600, 1200, Notes::Exif},
+    {pinkRidges, 1600, 1067, Notes::Exif},
     {daisies, 960, 1280, Notes::ExifTurned},
     {aurora, 1600, 1067, Notes::Exif},
-    {autumnTrees, 1280, 960, Notes::Exif, Writer::Plain, 88, Gap::Noise, 12},
-    {underWater, 1280, 960, Notes::Exif},
-    {winterCabin, 1600, 1200, Notes::Exif},
-    {tulipRows, 1280, 960, Notes::Exif},
-    {lilacBay, 1280, 960, Notes::Jfif},
-    {mistyForest, 1280, 960, Notes::Jfif, Writer::FullChroma},
-    {fireworks, 1280, 960, Notes::Jfif, Writer::Progressive, 88, Gap::Zeros, 8},
-    {pinkRidges, 1280, 853, Notes::Jfif, Writer::Restarting},
-    {autumnLake, 1280, 960, Notes::Jfif},
-    {pinkCosmos, 1024, 768, Notes::Jfif, Writer::Restarting},
-    {moonDesert, 1024, 768, Notes::Jfif, Writer::Plain, 92},
-    {cityLights, 1280, 960, Notes::Jfif, Writer::Restarting, 88, Gap::Noise, 4},
+    {seaSunset, 1280, 960, Notes::Exif, 0xFFB4A0, Writer::Plain, 88, Gap::Noise, 12},
+    {lilacBay, 1280, 960, Notes::Exif},
+    {fireworks, 1600, 1200, Notes::Exif},
+    {mistyForest, 1280, 960, Notes::Exif},
+    {lilacBay, 1280, 960, Notes::Jfif, 0xFFE6B4},
+    {mistyForest, 1280, 960, Notes::Jfif, 0xFFD2AA, Writer::FullChroma},
+    {alpineLake, 1280, 960, Notes::Jfif, 0xFFD8B8, Writer::Progressive, 88, Gap::Zeros, 8},
+    {blueRidges, 1280, 853, Notes::Jfif, 0xFFDCC0, Writer::Restarting},
+    {autumnLake, 1280, 960, Notes::Jfif, 0xFFCFA0},
+    {balloons, 1024, 768, Notes::Jfif, 0xFFC8A0, Writer::Restarting},
+    {sunflower, 1024, 768, Notes::Jfif, 0xFFE0B8, Writer::Plain, 92},
+    {citySkyline, 1280, 960, Notes::Jfif, 0xFFD0E8, Writer::Restarting, 88, Gap::Noise, 4},
 };
 
 QByteArray jpegFile(const QImage& picture, Writer writer, int quality) {
@@ -86,6 +85,8 @@ QByteArray jpegFile(const QImage& picture, Writer writer, int quality) {
 
 QByteArray photoFile(const Photo& plan, int number) {
     QImage picture = painted(plan.scene, plan.width, plan.height);
+    if (plan.laterLight != 0)
+        picture = seenAgain(picture, QColor(plan.laterLight));
     if (plan.notes == Notes::ExifTurned)
         picture = picture.transformed(QTransform().rotate(-90));
     const QByteArray jpeg = jpegFile(picture, plan.writer, plan.quality);
@@ -94,7 +95,7 @@ QByteArray photoFile(const Photo& plan, int number) {
     const auto digits = [](int value) { return QByteArray::number(value).rightJustified(2, '0'); };
     const QByteArray takenAt = "2024:06:" + digits(1 + number / 2) + ' ' + digits(10 + number % 9) + ':' +
                                digits(number * 7 % 60) + ":00";
-    return withExif(jpeg, picture, {takenAt, plan.notes == Notes::ExifTurned});
+    return withExif(jpeg, picture, takenAt, plan.notes == Notes::ExifTurned);
 }
 
 void addPhotos(std::vector<CardFile>& files) {
@@ -109,10 +110,11 @@ void addPhotos(std::vector<CardFile>& files) {
     files.back().inTwoPieces = true;
 }
 
-std::vector<QImage> sunset(int count, int width, int height) {
+// The boat sails all its way, and the sun goes down unless it stands still at a share of its own.
+std::vector<QImage> sunset(int count, int width, int height, double stillAt = -1) {
     std::vector<QImage> frames;
-    for (int i = 0; i < count; ++i)
-        frames.push_back(sunsetAt(width, height, double(i) / (count - 1), double(i) / (count - 1)));
+    for (double share = 0; frames.size() < size_t(count); share += 1.0 / (count - 1))
+        frames.push_back(sunsetAt(width, height, stillAt < 0 ? share : stillAt, share));
     return frames;
 }
 
@@ -139,23 +141,21 @@ void addPictures(std::vector<CardFile>& files) {
     folder.add("SUNSET.GIF", [] {
         return encoded({"gif", "gif", "pal8", nullptr, "loop=0"}, sunset(12, 240, 180));
     });
-    folder.add("CHERRY.GIF", [] {
-        return encoded({"gif", "gif", "pal8"}, {painted(cherryBranch, 480, 360)});
-    });
+    folder.add("COSMOS.GIF", [] { return encoded({"gif", "gif", "pal8"}, {painted(pinkCosmos, 480, 360)}); });
     folder.add("LAKE.TIF", byLibav("tiff", "rgb24", alpineLake, 640, 480, "compression_algo=raw"));
     folder.add("AURORA.TIFF", byQt("tiff", aurora, 480, 360));
-    folder.add("DUNES.DNG", by(dngFile, dunes, 640, 480), Gap::Zeros, 2);
-    folder.add("BEACH.PPM", byQt("ppm", palmBeach, 400, 300));
+    folder.add("ROCKS.DNG", by(dngFile, alpineLake, 640, 480), Gap::Zeros, 2);
+    folder.add("BAY.PPM", byQt("ppm", lilacBay, 400, 300));
     folder.add("FOREST.PGM", byQt("pgm", mistyForest, 400, 300));
     folder.add("DAISIES.TGA", byLibav("targa", "bgr24", daisies, 320, 240, "rle=0"));
-    folder.add("FISHES.PCX", byLibav("pcx", "rgb24", underWater, 320, 240));
-    folder.add("TULIPS.SGI", byLibav("sgi", "rgb24", tulipRows, 320, 240));
+    folder.add("BALLOONS.PCX", byLibav("pcx", "rgb24", balloons, 320, 240));
+    folder.add("LAVENDER.SGI", byLibav("sgi", "rgb24", lavenderRows, 320, 240));
     folder.add("COSMOS.PSD", [] { return photoshopFile(painted(pinkCosmos, 400, 300), false); });
     folder.add("FLOWER.ICO", [] {
         return iconFile({painted(sunflower, 64, 64), painted(sunflower, 32, 32)}, false);
     });
-    folder.add("CABIN.XPM", [] {
-        return writtenByQt("xpm", painted(winterCabin, 160, 120).convertToFormat(QImage::Format_Indexed8));
+    folder.add("AUTUMN.XPM", [] {
+        return writtenByQt("xpm", painted(autumnLake, 160, 120).convertToFormat(QImage::Format_Indexed8));
     });
     folder.add("SAIL.WEBP", [] { return writtenByQt("webp", sunsetAt(400, 300, 0.75, 0.5), 95); });
     folder.add("RIDGES.QOI", byLibav("qoi", "rgb24", pinkRidges, 400, 300));
@@ -163,7 +163,7 @@ void addPictures(std::vector<CardFile>& files) {
         const QByteArray jpeg = writtenByQt("jpg", painted(citySkyline, 640, 480), 85);
         return mpoFile(jpeg, jpeg);
     });
-    folder.add("MOON.ICNS", byQt("icns", moonDesert, 256, 256));
+    folder.add("NIGHT.ICNS", byQt("icns", starryNight, 256, 256));
     folder.add(
         "SUNSET.APNG",
         [] {
@@ -171,21 +171,21 @@ void addPictures(std::vector<CardFile>& files) {
                 .remove(33, 21);  // without pHYs, which would stand before the mark of an animation
         },
         Gap::Noise, 2);
-    folder.add("CLIFF.CUR", [] { return iconFile({painted(lighthouse, 32, 32)}, true); });
+    folder.add("DAISY.CUR", [] { return iconFile({painted(daisies, 32, 32)}, true); });
     folder.add("DAISIES.PSB", [] { return photoshopFile(painted(daisies, 200, 150), true); });
     folder.add("RIDGES.PBM", byQt("pbm", pinkRidges, 400, 300));
-    folder.add("BEACH.PAM", byLibav("pam", "rgb24", palmBeach, 200, 150));
+    folder.add("BAY.PAM", byLibav("pam", "rgb24", lilacBay, 200, 150));
     // The bottom row comes first, which libav leaves to its caller.
-    folder.add("DUNES.PFM",
-               [] { return encodedPicture("pfm", "gbrpf32le", painted(dunes, 160, 120).mirrored()); });
+    folder.add("ROCKS.PFM",
+               [] { return encodedPicture("pfm", "gbrpf32le", painted(alpineLake, 160, 120).mirrored()); });
     folder.add("AURORA.HDR", by(radianceFile, aurora, 200, 150));
-    folder.add("MOON.FITS", byLibav("fits", "gray", moonDesert, 240, 180), Gap::Zeros, 1);
+    folder.add("NIGHT.FITS", byLibav("fits", "gray", starryNight, 240, 180), Gap::Zeros, 1);
     folder.add("MEADOW.RAS", byLibav("sunrast", "bgr24", meadow, 200, 150, "rle=0"));
-    folder.add("TULIPS.DDS", by(ddsFile, tulipRows, 128, 128));
+    folder.add("LAVENDER.DDS", by(ddsFile, lavenderRows, 128, 128));
     folder.add("LAKE.KTX", by(ktxFile, alpineLake, 128, 128));
-    folder.add("FISHES.LBM", by(lbmFile, underWater, 160, 128));
+    folder.add("BALLOONS.LBM", by(lbmFile, balloons, 160, 128));
     folder.add("COSMOS.DPX", byLibav("dpx", "rgb24", pinkCosmos, 200, 150));
-    folder.add("CABIN.MIFF", by(miffFile, winterCabin, 160, 120));
+    folder.add("AUTUMN.MIFF", by(miffFile, autumnLake, 160, 120));
     folder.add("SAIL.JNG", [] { return jngFile(sunsetAt(400, 300, 0.6, 0.35)); });
     folder.add("FOREST.DCX", [] {
         return dcxFile({byLibav("pcx", "rgb24", mistyForest, 160, 120)(),
@@ -204,34 +204,27 @@ void addMovies(std::vector<CardFile>& files) {
     Folder folder(files, "VIDEO");
     // The sun goes down, in motion JPEG; only a boat moves, so that most of each H.264 frame is as in the one
     // before.
-    const auto sunsetMovie = [](const char* container, const char* sound, const char* options) {
+    const auto sunsetMovie = [](const char* container, const char* options) {
         static const std::vector<QImage> kFrames = sunset(50, 480, 320);
         // Finer, till no frame begins a sector by chance, where a search would find it as a photo of its own.
         for (int quality = 472;; --quality) {
             const QByteArray fine = "flags=+qscale:global_quality=" + QByteArray::number(quality);
-            const QByteArray movie =
-                encoded({container, "mjpeg", "yuvj420p", sound, options, fine}, kFrames, playTune(22050, 5));
+            const QByteArray movie = encoded({container, "mjpeg", "yuvj420p", "pcm_s16le", options, fine},
+                                             kFrames, playTune(22050, 5));
             if (!hasPhotoAtSector(movie))
                 return movie;
         }
     };
-    const auto boatMovie = [](const char* container, const char* options) {
-        static const std::vector<QImage> kFrames = [] {
-            std::vector<QImage> frames;
-            for (int i = 0; i < 30; ++i)
-                frames.push_back(sunsetAt(480, 320, 0.67, i / 29.0));
-            return frames;
-        }();
-        return encoded({container, "libx264", "yuv420p", nullptr, options,
-                        "preset=veryfast:crf=12:x264-params=threads=1"},
-                       kFrames);
-    };
-    const auto boat = [=](const char* container, const char* options = "") {
-        return [=] { return boatMovie(container, options); };
+    const auto boat = [](const char* container, const char* options = "") {
+        return [=] {
+            static const std::vector<QImage> kFrames = sunset(30, 480, 320, 0.67);
+            return encoded({container, "libx264", "yuv420p", nullptr, options, "preset=veryfast:crf=12"},
+                           kFrames);
+        };
     };
     folder.add(
-        "MOV_0001.MOV", [=] { return sunsetMovie("mov", "pcm_s16le", "movflags=faststart"); }, Gap::Zeros, 6);
-    folder.add("MOV_0002.AVI", [=] { return sunsetMovie("avi", "pcm_s16le", ""); });
+        "MOV_0001.MOV", [=] { return sunsetMovie("mov", "movflags=faststart"); }, Gap::Zeros, 6);
+    folder.add("MOV_0002.AVI", [=] { return sunsetMovie("avi", ""); });
     folder.add("MOV_0003.MP4", boat("mp4"), Gap::Noise, 7);
     folder.add("MOV_0004.3GP", boat("3gp"));
     folder.add("MOV_0005.M4V", boat("ipod", "movflags=faststart"));

@@ -5,6 +5,8 @@
 
 #include <QBuffer>
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QRegularExpression>
@@ -26,36 +28,20 @@ struct Place {
 constexpr Place kPlaces[] = {{"Harbour", 24},    {"Lavender fields", 31}, {"Alpine lake", 18},
                              {"Lighthouse", 12}, {"Old town", 44},        {"Autumn wood", 27}};
 
-QByteArray unescaped(const QByteArray& text) {
-    QByteArray out;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text[i] != '\\') {
-            out += text[i];
-            continue;
-        }
-        const char next = text.at(++i);
-        out += next == 'n' ? '\n' : next == 'r' ? '\r' : next == 't' ? '\t' : next;
-    }
-    return out;
-}
-
 }  // namespace
 
 const std::vector<TextDocument>& textDocuments() {
     static const std::vector<TextDocument> kDocuments = [] {
-        QFile table(QStringLiteral(VANTOR_SOURCE_DIR "/samples/texts.tsv"));
+        QFile table(QStringLiteral(VANTOR_SOURCE_DIR "/samples/texts.json"));
         if (!table.open(QIODevice::ReadOnly))
             throw std::runtime_error(table.errorString().toStdString());
         std::vector<TextDocument> documents;
-        for (const QByteArray& line : table.readAll().chopped(1).split('\n')) {
-            const qsizetype tab = line.indexOf('\t');
-            const qsizetype slash = line.left(tab).indexOf('/');
-            const QByteArray name = line.left(slash < 0 ? tab : slash);
+        for (const QJsonValue& pair : QJsonDocument::fromJson(table.readAll()).array()) {
+            const QByteArray path = pair[0].toString().toUtf8();
+            const QByteArray name = path.split('/').at(0);
             if (documents.empty() || documents.back().name != name)
                 documents.push_back({name, {}});
-            documents.back().members.push_back(
-                {slash < 0 ? QByteArray() : line.mid(slash + 1, tab - slash - 1),
-                 unescaped(line.mid(tab + 1))});
+            documents.back().members.push_back({path.mid(name.size() + 1), pair[1].toString().toUtf8()});
         }
         return documents;
     }();
@@ -71,7 +57,7 @@ QByteArray textNamed(const char* name) {
         if (document.name == name)
             return contentOf(document);
     }
-    throw std::runtime_error(std::string("texts.tsv lacks ") + name);
+    throw std::runtime_error(std::string("texts.json lacks ") + name);
 }
 
 QByteArray pdfFile(const QImage& photo) {

@@ -1,22 +1,33 @@
-// Documents and data of programs, each small but whole.
+// Documents, archives and data of programs, each small but whole.
 #pragma once
 
 #include <QByteArray>
 #include <QImage>
 #include <vector>
 
-#include "samples/Archives.h"
-
 namespace vantor::samples {
 
-// A document of texts.tsv: one text, or the members of a document that is a ZIP archive.
+struct Member {
+    QByteArray name;
+    QByteArray bytes;
+};
+
+// Formats and filters in libarchive's names: "ustar", "7zip", "raw"; "gzip", "xz".
+QByteArray archived(const std::vector<Member>& members, const char* format, const char* filter = nullptr);
+
+// By hand, since an office document's first member must be stored as it is and without extra fields
+// ("mimetype").
+QByteArray zipFile(const std::vector<Member>& members);
+QByteArray cabFile(const std::vector<Member>& members);  // MS-CAB without compression
+QByteArray lhaFile(const std::vector<Member>& members);  // level 0 headers, "-lh0-"
+
+// A document of texts.json: one text, or the members of a document that is a ZIP archive.
 struct TextDocument {
     QByteArray name;
     std::vector<Member> members;  // a single one without a name is the document itself
 };
 
-// All of texts.tsv in its order. Each line is a name, a tab and the text with \n, \r, \t and \\ for what
-// cannot stand in it; "NAME/member" is a member of the archive NAME.
+// All of texts.json in its order; there, "NAME/member" is a member of the archive NAME.
 const std::vector<TextDocument>& textDocuments();
 QByteArray contentOf(const TextDocument& document);
 // The text of this name; throws std::runtime_error when there is none.

@@ -36,4 +36,14 @@ QByteArray encodedPicture(const char* codec, const char* pixels, const QImage& p
 QByteArray writtenByQt(const char* format, const QImage& picture, int quality = -1,
                        bool isProgressive = false);
 
+// A tune of plucked notes.
+Sound playTune(int rate, double seconds);
+
+QByteArray midiFile();                          // the tune as notes
+QByteArray rmiFile();                           // the same in RIFF
+QByteArray amigaSoundFile(const Sound& sound);  // 8SVX, 8 bits
+QByteArray sphereFile(const Sound& sound);      // NIST SPHERE, PCM
+// Frames of zeros at the lowest rate, of 20 ms each (RFC 4867).
+QByteArray amrFile(bool isWide, int frames);
+
 }  // namespace vantor::samples

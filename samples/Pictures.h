@@ -7,13 +7,9 @@
 
 namespace vantor::samples {
 
-struct ExifNotes {
-    QByteArray takenAt;     // "2024:06:01 10:00:00"
-    bool isTurned = false;  // stored on its side, to be turned clockwise to be seen
-};
-
-// The JPEG file as a camera would have written it: with Exif and a small picture in place of JFIF.
-QByteArray withExif(const QByteArray& jpeg, const QImage& picture, const ExifNotes& notes);
+// The JPEG file as a camera would have written it: with Exif and a small picture in place of JFIF. `takenAt`
+// is like "2024:06:01 10:00:00"; what is turned is stored on its side, to be turned clockwise to be seen.
+QByteArray withExif(const QByteArray& jpeg, const QImage& picture, const QByteArray& takenAt, bool isTurned);
 // Two JPEG files in one, indexed by the first (CIPA DC-007).
 QByteArray mpoFile(const QByteArray& left, const QByteArray& right);
 QByteArray dngFile(const QImage& picture);  // Adobe DNG 1.1, 16-bit colour filter array

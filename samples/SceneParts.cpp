@@ -51,39 +51,17 @@ void paintStars(Canvas& canvas, int count, double to, int seed) {
     }
 }
 
-void paintBird(Canvas& canvas, Point at, double span, Colour colour) {
-    const double half = span / 2;
-    canvas.polygon({{at.x - half, at.y - span / 8},
-                    {at.x - half / 2, at.y - span / 4},
-                    {at.x, at.y},
-                    {at.x + half / 2, at.y - span / 4},
-                    {at.x + half, at.y - span / 8},
-                    {at.x + half / 2, at.y - span / 6},
-                    {at.x, at.y + span / 9},
-                    {at.x - half / 2, at.y - span / 6}},
-                   colour);
-}
-
 void paintFir(Canvas& canvas, Point foot, double height, Colour dark, Colour light) {
-    canvas.polygon({{foot.x - height / 40, foot.y},
-                    {foot.x + height / 40, foot.y},
-                    {foot.x + height / 60, foot.y - height / 4},
-                    {foot.x - height / 60, foot.y - height / 4}},
-                   mix(dark, {40, 26, 18}, 140));
+    canvas.shape(foot, height, {-2.5, 0, 2.5, 0, 1.7, -25, -1.7, -25}, mix(dark, {40, 26, 18}, 140));
     constexpr int kTiers = 6;
     for (int tier = 0; tier < kTiers; ++tier) {
-        const double bottom = foot.y - height / 9 - height * tier * 13 / (kTiers * 16);
-        const double top = bottom - height * 5 / 18;
-        const double half = height * (kTiers - tier + 1) / (kTiers * 5);
-        canvas.polygon({{foot.x, top},
-                        {foot.x + half / 3, bottom - height / 12},
-                        {foot.x + half, bottom},
-                        {foot.x + half / 3, bottom - height / 60},
-                        {foot.x, bottom + height / 50},
-                        {foot.x - half / 3, bottom - height / 60},
-                        {foot.x - half, bottom},
-                        {foot.x - half / 3, bottom - height / 12}},
-                       mix(dark, light, 256 * tier / kTiers));
+        const double bottom = 11 + 81.25 * tier / kTiers;
+        const double half = 20.0 * (kTiers - tier + 1) / kTiers;
+        const double inner = half / 3;
+        canvas.shape(foot, height,
+                     {0, -bottom - 27.8, inner, -bottom - 8.3, half, -bottom, inner, -bottom - 1.7, 0,
+                      -bottom + 2, -inner, -bottom - 1.7, -half, -bottom, -inner, -bottom - 8.3},
+                     mix(dark, light, 256 * tier / kTiers));
     }
 }
 
@@ -110,23 +88,11 @@ void paintLeafTree(Canvas& canvas, Point foot, double height, Colour crown, Colo
     }
 }
 
-void paintSail(Canvas& canvas, Point waterline, double height, Colour sail, Colour hull) {
-    const double deck = waterline.y - height / 12;
-    canvas.stroke({waterline.x, deck}, {waterline.x, waterline.y - height}, height / 60, height / 90, hull);
-    canvas.polygon({{waterline.x + height / 50, waterline.y - height * 97 / 100},
-                    {waterline.x + height * 19 / 100, waterline.y - height / 2},
-                    {waterline.x + height * 40 / 100, deck - height / 30},
-                    {waterline.x + height / 50, deck - height / 30}},
-                   sail);
-    canvas.polygon({{waterline.x - height / 40, waterline.y - height * 86 / 100},
-                    {waterline.x - height * 30 / 100, deck - height / 30},
-                    {waterline.x - height / 40, deck - height / 20}},
-                   mix(sail, hull, 50));
-    canvas.polygon({{waterline.x - height * 36 / 100, deck},
-                    {waterline.x + height * 46 / 100, deck - height / 60},
-                    {waterline.x + height * 34 / 100, waterline.y},
-                    {waterline.x - height * 26 / 100, waterline.y}},
-                   hull);
+void paintSail(Canvas& canvas, Point at, double height, Colour sail, Colour hull) {
+    canvas.shape(at, height, {-0.8, -8, 0.8, -8, 0.5, -100, -0.5, -100}, hull);
+    canvas.shape(at, height, {2, -97, 19, -50, 40, -11.7, 2, -11.7}, sail);
+    canvas.shape(at, height, {-2.5, -86, -30, -11.7, -2.5, -13.3}, mix(sail, hull, 50));
+    canvas.shape(at, height, {-36, -8.3, 46, -10, 34, 0, -26, 0}, hull);
 }
 
 void paintFlower(Canvas& canvas, const Flower& flower) {

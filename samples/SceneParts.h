@@ -1,4 +1,4 @@
-// What several motifs have in common: skylines, clouds, stars, trees, birds.
+// What several motifs have in common: skylines, clouds, stars, trees.
 #pragma once
 
 #include <cmath>
@@ -32,7 +32,6 @@ Canvas::Shade fading(Colour edge, Colour deep, double depth);
 void paintClouds(Canvas& canvas, double from, double to, Colour light, Colour shadow, int clear, int seed,
                  int strongest = 230);
 void paintStars(Canvas& canvas, int count, double to, int seed);
-void paintBird(Canvas& canvas, Point at, double span, Colour colour);
 void paintFir(Canvas& canvas, Point foot, double height, Colour dark, Colour light);
 void paintLeafTree(Canvas& canvas, Point foot, double height, Colour crown, Colour trunk, int seed);
 void paintSail(Canvas& canvas, Point waterline, double height, Colour sail, Colour hull);

@@ -11,6 +11,14 @@ QImage painted(Scene* scene, int width, int height) {
     return canvas.finish();
 }
 
+QImage seenAgain(const QImage& picture, const QColor& light) {
+    QImage again = picture.mirrored(true, false);
+    QPainter painter(&again);
+    painter.setCompositionMode(QPainter::CompositionMode_Multiply);
+    painter.fillRect(again.rect(), light);
+    return again;
+}
+
 QImage sunsetAt(int width, int height, double evening, double voyage) {
     Canvas canvas(width, height);
     constexpr double kHorizon = 6400;

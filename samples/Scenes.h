@@ -9,12 +9,14 @@ class Canvas;
 
 // A motif paints itself at any size; it is at its best between 4:3 and 3:2.
 using Scene = void(Canvas& canvas);
-Scene seaSunset, lilacBay, palmBeach, lighthouse, underWater, alpineLake, autumnLake;
-Scene blueRidges, pinkRidges, dunes, rainbowHills, balloons, autumnTrees, winterCabin, mistyForest;
-Scene lavenderRows, tulipRows, meadow, sunflower, daisies, cherryBranch, pinkCosmos;
-Scene starryNight, aurora, citySkyline, fireworks, cityLights, moonDesert;
+Scene seaSunset, lilacBay, alpineLake, autumnLake;
+Scene blueRidges, pinkRidges, rainbowHills, balloons, mistyForest;
+Scene lavenderRows, meadow, sunflower, daisies, pinkCosmos;
+Scene starryNight, aurora, citySkyline, fireworks;
 
 QImage painted(Scene* scene, int width, int height);
+// The same place from its other side, in the light of a later hour.
+QImage seenAgain(const QImage& picture, const QColor& light);
 
 // One frame of the card's movies: the sun has gone down `evening` of [0, 1] of its way over the sea, and a
 // boat has sailed `voyage` of its own.

@@ -41,19 +41,13 @@ void paintLeaf(Canvas& canvas, Point foot, double length, double angle, Colour c
     canvas.stroke(foot, tip, length / 50, length / 90, mix(colour, {210, 235, 140}, 120));
 }
 
-struct RowColours {
-    std::vector<Colour> flowers;
-    Colour soil;
-    Colour leaf;
-
-    Colour of(int row) const {
-        return flowers[std::size_t(row + 1000 * int(flowers.size())) % flowers.size()];
-    }
-};
-
-// Rows of flowers that run towards a point on the horizon.
-void paintRows(Canvas& canvas, double horizon, const RowColours& colours, int seed) {
+// Rows of lavender that run towards a point on the horizon.
+void paintRows(Canvas& canvas, double horizon, int seed) {
     const double wide = canvas.wide();
+    const auto bloomOf = [](double row) {
+        static constexpr Colour kBlooms[] = {{134, 84, 200}, {116, 72, 186}, {150, 96, 210}};
+        return kBlooms[(int(row) + 3000) % 3];
+    };
     canvas.cover(horizon, kUnitsHigh, [&](double x, double y, double& alpha) {
         alpha = kOpaque;
         const double depth = y - horizon + 90;
@@ -63,9 +57,9 @@ void paintRows(Canvas& canvas, double horizon, const RowColours& colours, int se
         const double grain = noise(across / 260, 50000000 / depth / 140, seed, 4);
         const double bulge = within(inside < 950 ? inside : 1900 - inside, 0, 950);
         if (bulge + grain / 160 < 430)
-            return mix(mix(colours.soil, colours.leaf, grain / 300), {255, 236, 200},
+            return mix(mix({96, 74, 60}, {86, 110, 60}, grain / 300), {255, 236, 200},
                        within(130 - depth / 8, 0, 110));
-        const Colour bloom = colours.of(int(row));
+        const Colour bloom = bloomOf(row);
         const Colour shaded =
             mix({bloom.red / 3, bloom.green / 3, bloom.blue / 2}, bloom, bulge / 5 + (grain - 26000) / 110);
         return mix(shaded, {255, 226, 214}, within(110 - depth / 14, 0, 100));
@@ -78,17 +72,9 @@ void paintRows(Canvas& canvas, double horizon, const RowColours& colours, int se
         const Point at{wide * 55 / 100 + across * (depth + 90) / 4096,
                        horizon + depth - random.between(0, depth / 12)};
         const double turn = random.between(-5000, 5000);
-        const Colour lit = mix(colours.of(int(row)), {255, 240, 255}, random.between(0, 120));
+        const Colour lit = mix(bloomOf(row), {255, 240, 255}, random.between(0, 120));
         canvas.ellipse(at, 10 + depth / 70, 16 + depth / 46, turn, lit);
     }
-}
-
-void paintClosedTulip(Canvas& canvas, Point at, double size, Colour colour) {
-    canvas.ellipse({at.x - size / 4, at.y}, size / 3, size * 5 / 8, -2600, mix(colour, {60, 0, 20}, 60));
-    canvas.ellipse({at.x + size / 4, at.y}, size / 3, size * 5 / 8, 2600, mix(colour, {60, 0, 20}, 90));
-    canvas.ellipse(at, size * 3 / 8, size * 5 / 8, 0, colour);
-    canvas.ellipse({at.x - size / 9, at.y - size / 12}, size / 9, size * 4 / 9, 600,
-                   mix(colour, {255, 240, 220}, 110), 150);
 }
 
 }  // namespace
@@ -104,55 +90,15 @@ void lavenderRows(Canvas& canvas) {
     canvas.disc({wide * 55 / 100, 4250}, 330, {255, 250, 220});
     canvas.below(mountainLine(4760, 1200, 5200, 44, 5), fading({116, 96, 150}, {196, 150, 160}, 900),
                  kHorizon);
-    paintRows(canvas, kHorizon,
-              {{{134, 84, 200}, {116, 72, 186}, {150, 96, 210}}, {96, 74, 60}, {86, 110, 60}}, 6);
+    paintRows(canvas, kHorizon, 6);
     for (int i = 0; i < 3; ++i)
         paintLeafTree(canvas, {wide * (14 + i * 7) / 100, 4850}, 1000 + i % 2 * 300, {80, 96, 60},
                       {60, 44, 40}, i + 3);
 }
 
-void tulipRows(Canvas& canvas) {
-    const double wide = canvas.wide();
-    constexpr double kHorizon = 4300;
-    canvas.gradient({{0, {50, 130, 214}}, {3000, {150, 204, 240}}, {kHorizon, {226, 240, 246}}}, 0, kHorizon);
-    paintClouds(canvas, 100, 4200, {255, 255, 255}, {180, 200, 226}, 31500, 13);
-    canvas.below(mountainLine(4400, 330, 1500, 2, 4), fading({90, 130, 90}, {120, 160, 110}, 400), kHorizon);
-    paintRows(canvas, kHorizon,
-              {{{230, 50, 56}, {250, 200, 50}, {240, 120, 160}, {250, 246, 240}, {250, 130, 40}},
-               {110, 130, 60},
-               {60, 130, 50}},
-              9);
-    // A windmill on the horizon.
-    const double x = wide * 24 / 100;
-    canvas.polygon({{x - 330, 4500}, {x + 330, 4500}, {x + 190, 3000}, {x - 190, 3000}}, {120, 80, 60});
-    canvas.polygon({{x - 230, 3020}, {x, 2660}, {x + 230, 3020}}, {70, 56, 56});
-    for (int wing = 0; wing < 4; ++wing) {
-        const double angle = 5000 + wing * kFullTurn / 4;
-        const Point hub{x, 2980};
-        const auto place = [&](double along, double across) {
-            return Point{hub.x + (along * cosine(angle) - across * sine(angle)),
-                         hub.y + (along * sine(angle) + across * cosine(angle))};
-        };
-        canvas.polygon({place(300, 0), place(1300, 0), place(1300, 220), place(300, 220)}, {250, 246, 236});
-        canvas.stroke(hub, place(1330, 0), 40, 30, {90, 60, 50});
-    }
-    Random random(54);
-    for (int i = 0; i < 13; ++i) {
-        const Point at{wide * (3 + i * 8) / 100 + random.between(-120, 120), 8300 + random.between(0, 900)};
-        static constexpr Colour kTulips[] = {{236, 40, 60}, {255, 206, 40}, {250, 120, 160}};
-        paintStem(canvas, at, at.x + random.between(-200, 200), 80, {70, 140, 60});
-        paintLeaf(canvas, {at.x, 10200}, 1700, kFullTurn * 3 / 4 + random.between(-5000, 5000),
-                  {70, 146, 74});
-        paintClosedTulip(canvas, at, 620 + random.between(0, 160), kTulips[i % 3]);
-    }
-}
-
 void meadow(Canvas& canvas) {
     const double wide = canvas.wide();
-    canvas.gradient({{0, {64, 144, 224}},
-                     {3600, {170, 216, 244}},
-                     {4800, {236, 244, 240}},
-                     {kUnitsHigh, {236, 244, 240}}});
+    canvas.gradient({{0, {64, 144, 224}}, {3600, {170, 216, 244}}, {4800, {236, 244, 240}}});
     paintClouds(canvas, 200, 4600, {255, 255, 255}, {186, 208, 232}, 32500, 49);
     canvas.below(mountainLine(5100, 1700, 4600, 75, 5), fading({110, 150, 180}, {176, 206, 196}, 1500));
     canvas.below(hillLine(5300, 700, 11000, 3000), fading({96, 160, 84}, {150, 196, 90}, 900));
@@ -225,50 +171,6 @@ void daisies(Canvas& canvas) {
                              {252, 200, 40},
                              p.turn,
                              p.flat});
-}
-
-void cherryBranch(Canvas& canvas) {
-    const double wide = canvas.wide();
-    canvas.gradient({{0, {116, 184, 232}}, {6000, {196, 224, 240}}, {kUnitsHigh, {244, 228, 236}}});
-    paintBlur(canvas, {{255, 226, 236}, {250, 196, 214}, {226, 240, 250}}, 34, 99);
-    Random random(2024);
-    const auto branchY = [&](double x) { return 6900 - x * 4300 / wide + 420 * sine(x * kFullTurn / 8000); };
-    const Colour bark{94, 62, 58};
-    for (double x = -100; x < wide; x += 120)
-        canvas.stroke({x, branchY(x)}, {x + 120, branchY(x + 120)}, 330 - x * 190 / wide,
-                      330 - x * 190 / wide, mix(bark, {140, 104, 96}, int(x / 120) % 3 * 20));
-    std::vector<Point> buds;
-    for (int twig = 0; twig < 15; ++twig) {
-        const double x = wide * (4 + twig * 6) / 100;
-        Point at{x, branchY(x)};
-        const int rising = twig % 2 == 0 ? -1 : 1;
-        for (int part = 0; part < 5; ++part) {
-            const Point next{at.x + 180 + random.between(0, 160),
-                             at.y + rising * (170 + random.between(0, 190))};
-            canvas.stroke(at, next, 100 - part * 15, 88 - part * 15, bark);
-            at = next;
-            buds.push_back(at);
-        }
-        buds.push_back({x + 60, branchY(x) - 60});
-    }
-    for (const Point& bud : buds) {
-        for (int i = 0; i < 3; ++i) {
-            const Point at{bud.x + random.between(-330, 330), bud.y + random.between(-330, 330)};
-            const Colour petal = mix({255, 232, 240}, {246, 160, 192}, random.between(0, 200));
-            paintFlower(canvas, {at,
-                                 260 + random.between(0, 150),
-                                 5,
-                                 {238, 130, 170},
-                                 petal,
-                                 {214, 80, 120},
-                                 random.between(0, 65535),
-                                 210 + random.between(0, 46)});
-        }
-    }
-    for (int i = 0; i < 40; ++i) {
-        const Point at{random.between(0, wide), random.between(1500, 9900)};
-        canvas.ellipse(at, 80, 46, random.between(0, 65535), {250, 196, 216}, 220);
-    }
 }
 
 void pinkCosmos(Canvas& canvas) {

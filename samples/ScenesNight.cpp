@@ -9,18 +9,6 @@ namespace vantor::samples {
 
 namespace {
 
-void paintMoon(Canvas& canvas, Point at, double radius) {
-    canvas.glow(at, radius * 5, {190, 206, 246}, 120);
-    canvas.disc(at, radius, {246, 244, 230});
-    Random random(9);
-    for (int i = 0; i < 16; ++i) {
-        const double angle = random.between(0, 65535);
-        const double reach = radius * random.between(0, 75) / 100;
-        canvas.disc({at.x + reach * cosine(angle), at.y + reach * sine(angle)},
-                    radius * random.between(5, 22) / 100, {206, 206, 206}, 90);
-    }
-}
-
 void paintMilkyWay(Canvas& canvas, double to) {
     const double wide = canvas.wide();
     canvas.cover(0, to, [=](double x, double y, double& alpha) {
@@ -75,10 +63,9 @@ void paintTowers(Canvas& canvas, double ground, int count, double tallest, Colou
             for (double wx = x - half + 70; wx < x + half - 80; wx += 120) {
                 if (random.between(0, 99) >= litShare)
                     continue;
-                const Colour light =
-                    random.between(0, 4) == 0 ? Colour{190, 220, 255} : Colour{255, 216, 140};
-                canvas.polygon({{wx, y}, {wx + 66, y}, {wx + 66, y + 92}, {wx, y + 92}}, light,
-                               random.between(150, 256));
+                const bool isCold = random.between(0, 4) == 0;
+                const Colour light = isCold ? Colour{190, 220, 255} : Colour{255, 216, 140};
+                canvas.box(wx, y, wx + 66, y + 92, light, random.between(150, 256));
             }
         }
     }
@@ -88,8 +75,7 @@ void paintTowers(Canvas& canvas, double ground, int count, double tallest, Colou
 
 void starryNight(Canvas& canvas) {
     const double wide = canvas.wide();
-    canvas.gradient(
-        {{0, {6, 10, 34}}, {4500, {22, 34, 84}}, {7600, {80, 76, 130}}, {kUnitsHigh, {80, 76, 130}}});
+    canvas.gradient({{0, {6, 10, 34}}, {4500, {22, 34, 84}}, {7600, {80, 76, 130}}});
     paintMilkyWay(canvas, 7800);
     paintStars(canvas, 1500, 7600, 42);
     canvas.below(mountainLine(8300, 2400, 4300, 7, 6), fading({34, 36, 76}, {52, 52, 98}, 1500));
@@ -110,7 +96,7 @@ void starryNight(Canvas& canvas) {
 
 void aurora(Canvas& canvas) {
     const double wide = canvas.wide();
-    canvas.gradient({{0, {6, 12, 40}}, {6200, {16, 50, 80}}, {kUnitsHigh, {16, 50, 80}}});
+    canvas.gradient({{0, {6, 12, 40}}, {6200, {16, 50, 80}}});
     paintStars(canvas, 500, 6000, 17);
     for (int curtain = 0; curtain < 3; ++curtain) {
         const auto seed = curtain + 60;
@@ -162,55 +148,6 @@ void fireworks(Canvas& canvas) {
     paintBurst(canvas, {wide * 10 / 100, 4900}, 1000, {120, 255, 170}, 5);
     paintTowers(canvas, kShore, 26, 1300, {14, 14, 36}, 40, 23);
     canvas.mirrorBelow(kShore, {8, 10, 34}, 50, 380, 6);
-}
-
-void cityLights(Canvas& canvas) {
-    const double wide = canvas.wide();
-    canvas.gradient({{0, {16, 18, 44}}, {6000, {40, 30, 66}}, {kUnitsHigh, {24, 18, 40}}});
-    Random random(808);
-    static constexpr Colour kLights[] = {{255, 190, 90},  {255, 110, 90},  {110, 190, 255},
-                                         {255, 230, 170}, {190, 120, 255}, {110, 255, 190}};
-    for (int i = 0; i < 90; ++i) {
-        const double y = 1200 + std::sqrt(random.between(0, 10000) * 6000);
-        const double radius = 200 + random.between(0, 460);
-        const Point at{random.between(0, wide), y};
-        const Colour light = kLights[i % 6];
-        canvas.glow(at, radius * 2, light, 40);
-        canvas.disc(at, radius, light, 70 + random.between(0, 50));
-        canvas.ring(at, radius - 36, radius, mix(light, {255, 255, 255}, 120), 90);
-    }
-}
-
-void moonDesert(Canvas& canvas) {
-    const double wide = canvas.wide();
-    canvas.gradient(
-        {{0, {14, 24, 66}}, {4600, {60, 80, 140}}, {7000, {196, 160, 176}}, {kUnitsHigh, {196, 160, 176}}});
-    paintStars(canvas, 260, 4200, 5);
-    paintMoon(canvas, {wide * 30 / 100, 2600}, 900);
-    const auto mesa = [](double x) {  // flat tops with steep sides
-        const double step = within((noise(x / 2300, 0, 14, 2) - 30000) / 3277, 0, 1);
-        return 7100 - 2000 * step * step * (3 - 2 * step) - noise(x / 400, 0, 3, 3) / 400;
-    };
-    canvas.below(mesa, [](double x, double y, double) {
-        const double layers = noise(x / 6000, y / 130, 31, 3);
-        return mix({84, 60, 100}, {170, 110, 120}, (layers - 16000) / 120);
-    });
-    canvas.below(hillLine(7600, 350, 13000, 700), fading({110, 84, 112}, {56, 46, 84}, 2600));
-    for (int i = 0; i < 6; ++i) {  // cacti
-        const double x = wide * (12 + i * 17) / 100;
-        const double foot = 8300 + i % 3 * 620;
-        const double tall = 1300 + i % 3 * 420;
-        const Colour green{26, 42, 58};
-        canvas.stroke({x, foot}, {x, foot - tall}, tall / 7, tall / 7, green);
-        for (const int side : {-1, 1}) {
-            const double y = foot - tall * (side < 0 ? 40 : 52) / 100;
-            canvas.stroke({x, y}, {x + side * tall / 4, y - tall / 20}, tall / 10, tall / 10, green);
-            canvas.stroke({x + side * tall / 4, y - tall / 20}, {x + side * tall / 4, y - tall / 3},
-                          tall / 10, tall / 10, green);
-        }
-        canvas.stroke({x - tall / 22, foot - 100}, {x - tall / 22, foot - tall}, tall / 40, tall / 40,
-                      {120, 130, 170}, 150);
-    }
 }
 
 }  // namespace vantor::samples

@@ -1,11 +1,10 @@
 // The tune as samples and as notes.
-#include "samples/Sounds.h"
-
 #include <algorithm>
 #include <cmath>
 #include <numbers>
 
 #include "samples/Bytes.h"
+#include "samples/Encoding.h"
 
 namespace vantor::samples {
 

@@ -22,7 +22,7 @@ TEST(CardRasters, HeadersSayHowManyPixelsFollow) {
     const QByteArray ras = bytesOf("MEADOW.RAS");
     EXPECT_EQ(be32(ras, 4) * be32(ras, 8) * 3, be32(ras, 16));
     EXPECT_EQ(32 + be32(ras, 16), ras.size());
-    const QByteArray dds = bytesOf("TULIPS.DDS");
+    const QByteArray dds = bytesOf("LAVENDER.DDS");
     EXPECT_EQ(128 + le32(dds, 12) * le32(dds, 16) * 3, dds.size());
     const QByteArray ktx = bytesOf("LAKE.KTX");
     EXPECT_EQ(le32(ktx, 36) * le32(ktx, 40) * 3, le32(ktx, 64));
@@ -30,10 +30,10 @@ TEST(CardRasters, HeadersSayHowManyPixelsFollow) {
     const QByteArray dpx = bytesOf("COSMOS.DPX");
     EXPECT_EQ(le32(dpx, 16), dpx.size());
     EXPECT_EQ(le32(dpx, 4) + le32(dpx, 772) * le32(dpx, 776) * 3, dpx.size());
-    const QByteArray lbm = bytesOf("FISHES.LBM");
+    const QByteArray lbm = bytesOf("BALLOONS.LBM");
     EXPECT_EQ(be32(lbm, 4) + 8, lbm.size());
     EXPECT_EQ(48 + be16(lbm, 20) / 8 * 24 * be16(lbm, 22), lbm.size());
-    EXPECT_EQ(bytesOf("MOON.FITS").size(), 2880 + (240 * 180 + 2879) / 2880 * 2880);
+    EXPECT_EQ(bytesOf("NIGHT.FITS").size(), 2880 + (240 * 180 + 2879) / 2880 * 2880);
     const QByteArray psb = bytesOf("DAISIES.PSB");
     EXPECT_EQ(26 + 18 + be32(psb, 14) * be32(psb, 18) * 3, psb.size());
 }
@@ -43,16 +43,16 @@ TEST(CardRasters, TextHeadersEndWhereThePixelsBegin) {
         const QByteArray bytes = bytesOf(name);
         return bytes.size() - bytes.indexOf(mark) - qsizetype(qstrlen(mark));
     };
-    EXPECT_EQ(behind("BEACH.PAM", "ENDHDR\n"), 200 * 150 * 3);
-    EXPECT_EQ(behind("DUNES.PFM", "\n-1.000000\n"), 160 * 120 * 12);
+    EXPECT_EQ(behind("BAY.PAM", "ENDHDR\n"), 200 * 150 * 3);
+    EXPECT_EQ(behind("ROCKS.PFM", "\n-1.000000\n"), 160 * 120 * 12);
     EXPECT_EQ(behind("AURORA.HDR", "-Y 150 +X 200\n"), 200 * 150 * 4);
-    EXPECT_EQ(behind("CABIN.MIFF", ":\x1A"), 160 * 120 * 3);
+    EXPECT_EQ(behind("AUTUMN.MIFF", ":\x1A"), 160 * 120 * 3);
     EXPECT_EQ(behind("MOV_0013.Y4M", "XYSCSS=444\n"), 3 * (6 + 96 * 72 * 3));
 }
 
 TEST(CardRasters, KindsThatQtReads_DecodeToTheirSizes) {
     EXPECT_EQ(decoded(bytesOf("RIDGES.PBM")).size(), QSize(400, 300));
-    EXPECT_EQ(decoded(bytesOf("CLIFF.CUR")).size(), QSize(32, 32));
+    EXPECT_EQ(decoded(bytesOf("DAISY.CUR")).size(), QSize(32, 32));
     const QByteArray jng = bytesOf("SAIL.JNG");
     const qsizetype data = jng.indexOf("JDAT");
     ASSERT_GT(data, 0);
