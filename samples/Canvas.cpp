@@ -1,220 +1,155 @@
-// Shapes, gradients and reflections in whole numbers.
+// Shapes by QPainter; skylines, clouds and water pixel by pixel.
 #include "samples/Canvas.h"
 
+#include <QRgba64>
 #include <algorithm>
-
-#include "samples/Fixed.h"
-#include "samples/Pixels.h"
-#include "samples/Random.h"
+#include <cmath>
 
 namespace vantor::samples {
 
 namespace {
 
-constexpr int kSub = 256;      // parts of a pixel
-constexpr int kScanLines = 8;  // sub-scanlines a pixel row in a polygon
+QColor toQt(Colour colour, double alpha = kOpaque) {
+    const auto share = [](double value, double whole) { return float(within(value / whole, 0, 1)); };
+    return QColor::fromRgbF(share(colour.red, 255), share(colour.green, 255), share(colour.blue, 255),
+                            share(alpha, kOpaque));
+}
 
-int mixChannel(int from, int to, int share) {
-    return from + (to - from) * share / 256;
+void blend(QRgba64& pixel, Colour colour, double alpha) {
+    if (alpha <= 0)
+        return;
+    const double share = std::min(alpha / kOpaque, 1.0);
+    const auto channel = [share](quint16 old, double fresh) {
+        return quint16(old + (within(fresh, 0, 255) * 257 - old) * share);
+    };
+    pixel = qRgba64(channel(pixel.red(), colour.red), channel(pixel.green(), colour.green),
+                    channel(pixel.blue(), colour.blue), 0xFFFF);
+}
+
+double between(double from, double to, double share) {
+    return from + (to - from) * share;
+}
+
+// The value of a corner of the noise's grid, 0 to 65535.
+double corner(int x, int y, int seed) {
+    quint32 hash = quint32(x) * 0x9E3779B1u + quint32(y) * 0x85EBCA77u + quint32(seed) * 0xC2B2AE3Du;
+    hash = (hash ^ (hash >> 15)) * 0x2C1B3C6Du;
+    hash = (hash ^ (hash >> 12)) * 0x297A2D39u;
+    return (hash ^ (hash >> 15)) & 0xFFFF;
+}
+
+double smoothNoise(double x, double y, int seed) {
+    const auto smooth = [](double t) { return t * t * (3 - 2 * t); };
+    const int column = int(x) - (x < 0 ? 1 : 0);
+    const int line = int(y) - (y < 0 ? 1 : 0);
+    const double right = smooth(x - column);
+    const double top = between(corner(column, line, seed), corner(column + 1, line, seed), right);
+    if (y == line)
+        return top;
+    const double bottom = between(corner(column, line + 1, seed), corner(column + 1, line + 1, seed), right);
+    return between(top, bottom, smooth(y - line));
 }
 
 }  // namespace
 
-Colour mix(Colour from, Colour to, int share) {
-    const int s = static_cast<int>(clampTo(share, 0, 256));
-    return {mixChannel(from.red, to.red, s), mixChannel(from.green, to.green, s),
-            mixChannel(from.blue, to.blue, s)};
+Colour mix(Colour from, Colour to, double share) {
+    const double s = within(share / kOpaque, 0, 1);
+    return {between(from.red, to.red, s), between(from.green, to.green, s), between(from.blue, to.blue, s)};
+}
+
+double noise(double x, double y, int seed, int octaves) {
+    double sum = 0;
+    double weights = 0;
+    for (int octave = 0; octave < octaves; ++octave) {
+        const double finer = 1 << octave;
+        sum += smoothNoise(x * finer, y * finer, seed + octave * 101) / finer;
+        weights += 1 / finer;
+    }
+    return sum / weights;
 }
 
 Canvas::Canvas(int width, int height)
-    : m_width(width),
-      m_height(height),
-      m_pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), Pixel{0, 0, 0}) {}
-
-std::int64_t Canvas::toSub(std::int64_t units) const {
-    return floorDivide(units * m_height * kSub, kUnitsHigh);
+    : m_image(width, height, QImage::Format_RGBA64_Premultiplied), m_painter(&m_image) {
+    m_image.fill(Qt::black);
+    m_painter.setRenderHint(QPainter::Antialiasing);
+    m_painter.setPen(Qt::NoPen);
+    m_painter.scale(height / kUnitsHigh, height / kUnitsHigh);
 }
 
-int Canvas::rowOf(std::int64_t y) const {
-    return static_cast<int>(clampTo(floorDivide(y * m_height, kUnitsHigh), 0, m_height));
+int Canvas::rowOf(double y) const {
+    return int(within(std::floor(y * m_image.height() / kUnitsHigh), 0, m_image.height()));
 }
 
-void Canvas::blend(int x, int y, Colour colour, std::int64_t alpha) {
-    if (x < 0 || y < 0 || x >= m_width || y >= m_height || alpha <= 0)
-        return;
-    Pixel& p = at(x, y);
-    const std::int64_t a = std::min<std::int64_t>(alpha, kOpaque);
-    const auto channel = [a](std::uint16_t old, int fresh) {
-        return static_cast<std::uint16_t>(old + (fresh * 256 - old) * a / kOpaque);
+void Canvas::gradient(const std::vector<Stop>& stops, double from, double to) {
+    const double span = stops.back().y - stops.front().y;
+    QLinearGradient colours(0, stops.front().y, 0, stops.back().y);
+    for (const Stop& stop : stops)
+        colours.setColorAt((stop.y - stops.front().y) / span, toQt(stop.colour));
+    const double first = rowOf(from) * kUnitsHigh / m_image.height();
+    m_painter.fillRect(QRectF(0, first, wide(), to - first), colours);
+}
+
+void Canvas::glow(Point centre, double radius, Colour colour, double alpha) {
+    constexpr int kSteps = 16;
+    QRadialGradient light({centre.x, centre.y}, radius);
+    for (int i = 0; i <= kSteps; ++i) {
+        const double strength = 1 - double(i * i) / (kSteps * kSteps);
+        light.setColorAt(double(i) / kSteps, toQt(colour, alpha * strength * strength));
+    }
+    m_painter.setBrush(light);
+    m_painter.drawEllipse(QPointF(centre.x, centre.y), radius, radius);
+}
+
+void Canvas::ring(Point centre, double inner, double outer, Colour colour, double alpha) {
+    m_painter.setBrush(Qt::NoBrush);
+    m_painter.setPen(QPen(toQt(colour, alpha), outer - inner));
+    m_painter.drawEllipse(QPointF(centre.x, centre.y), (inner + outer) / 2, (inner + outer) / 2);
+    m_painter.setPen(Qt::NoPen);
+}
+
+void Canvas::polygon(const std::vector<Point>& corners, Colour colour, double alpha) {
+    polygon(corners, {0, colour}, {kUnitsHigh, colour}, alpha);
+}
+
+void Canvas::polygon(const std::vector<Point>& corners, Stop top, Stop bottom, double alpha) {
+    QPolygonF shape;
+    for (const Point& at : corners)
+        shape << QPointF(at.x, at.y);
+    QLinearGradient colours(0, top.y, 0, bottom.y);
+    colours.setColorAt(0, toQt(top.colour, alpha));
+    colours.setColorAt(1, toQt(bottom.colour, alpha));
+    const bool plain = toQt(top.colour) == toQt(bottom.colour);
+    m_painter.setBrush(plain ? QBrush(toQt(top.colour, alpha)) : QBrush(colours));
+    m_painter.drawPolygon(shape);
+}
+
+void Canvas::shape(Point at, double size, std::initializer_list<double> corners, Colour colour) {
+    std::vector<Point> points;
+    for (const double* c = corners.begin(); c != corners.end(); c += 2)
+        points.push_back({at.x + c[0] * size / 100, at.y + c[1] * size / 100});
+    polygon(points, colour);
+}
+
+void Canvas::box(double left, double top, double right, double bottom, Colour colour, double alpha) {
+    m_painter.fillRect(QRectF(QPointF(left, top), QPointF(right, bottom)), toQt(colour, alpha));
+}
+
+void Canvas::ellipse(Point centre, double radiusX, double radiusY, double turn, Colour colour, double alpha) {
+    m_painter.save();
+    m_painter.translate(centre.x, centre.y);
+    m_painter.rotate(turn * 360 / kFullTurn);
+    m_painter.setBrush(toQt(colour, alpha));
+    m_painter.drawEllipse(QPointF(), radiusX, radiusY);
+    m_painter.restore();
+}
+
+void Canvas::stroke(Point from, Point to, double startWidth, double endWidth, Colour colour, double alpha) {
+    const double length = std::max(1.0, std::hypot(to.x - from.x, to.y - from.y));
+    const Point across{(from.y - to.y) / (2 * length), (to.x - from.x) / (2 * length)};
+    const auto side = [across](Point at, double width) {
+        return Point{at.x + across.x * width, at.y + across.y * width};
     };
-    p = {channel(p.red, colour.red), channel(p.green, colour.green), channel(p.blue, colour.blue)};
-}
-
-void Canvas::gradient(const std::vector<Stop>& stops, std::int64_t from, std::int64_t to) {
-    const int last = rowOf(to);
-    for (int y = rowOf(from); y < last; ++y) {
-        const std::int64_t at16 = (2 * y + 1) * kUnitsHigh * 8 / m_height;  // sixteenths of a unit
-        std::size_t i = 1;
-        while (i + 1 < stops.size() && stops[i].y * 16 <= at16)
-            ++i;
-        const Stop& above = stops[i - 1];
-        const Stop& under = stops[i];
-        const std::int64_t span = std::max<std::int64_t>(1, (under.y - above.y) * 16);
-        const std::int64_t share = clampTo((at16 - above.y * 16) * 65536 / span, 0, 65536);
-        const auto channel = [share](int a, int b) {
-            return static_cast<std::uint16_t>((a * 65536 + (b - a) * share) / 256);
-        };
-        const Pixel row{channel(above.colour.red, under.colour.red),
-                        channel(above.colour.green, under.colour.green),
-                        channel(above.colour.blue, under.colour.blue)};
-        for (int x = 0; x < m_width; ++x)
-            at(x, y) = row;
-    }
-}
-
-void Canvas::disc(Point centre, std::int64_t radius, Colour colour, int alpha) {
-    ring(centre, -1, radius, colour, alpha);
-}
-
-void Canvas::ring(Point centre, std::int64_t inner, std::int64_t outer, Colour colour, int alpha) {
-    const std::int64_t cx = toSub(centre.x);
-    const std::int64_t cy = toSub(centre.y);
-    const std::int64_t r1 = toSub(outer);
-    const std::int64_t r0 = inner < 0 ? -kSub : toSub(inner);
-    const auto first = [](std::int64_t v) { return static_cast<int>(floorDivide(v, kSub)) - 1; };
-    for (int y = std::max(0, first(cy - r1)); y <= std::min(m_height - 1, first(cy + r1) + 2); ++y) {
-        for (int x = std::max(0, first(cx - r1)); x <= std::min(m_width - 1, first(cx + r1) + 2); ++x) {
-            const std::int64_t dx = x * kSub + kSub / 2 - cx;
-            const std::int64_t dy = y * kSub + kSub / 2 - cy;
-            const std::int64_t squared = dx * dx + dy * dy;
-            if (squared > (r1 + kSub) * (r1 + kSub) || (r0 > kSub && squared < (r0 - kSub) * (r0 - kSub)))
-                continue;
-            const std::int64_t distance = squareRoot(squared);
-            const std::int64_t cover = clampTo(r1 - distance + kSub / 2, 0, kSub);
-            const std::int64_t hole = inner < 0 ? 0 : clampTo(r0 - distance + kSub / 2, 0, kSub);
-            blend(x, y, colour, std::max<std::int64_t>(0, cover - hole) * alpha / kSub);
-        }
-    }
-}
-
-void Canvas::glow(Point centre, std::int64_t radius, Colour colour, int alpha) {
-    const std::int64_t cx = toSub(centre.x);
-    const std::int64_t cy = toSub(centre.y);
-    const std::int64_t r = std::max<std::int64_t>(1, toSub(radius));
-    const int x1 = static_cast<int>(std::min<std::int64_t>(m_width - 1, (cx + r) / kSub + 1));
-    const int y1 = static_cast<int>(std::min<std::int64_t>(m_height - 1, (cy + r) / kSub + 1));
-    for (int y = static_cast<int>(std::max<std::int64_t>(0, (cy - r) / kSub)); y <= y1; ++y) {
-        for (int x = static_cast<int>(std::max<std::int64_t>(0, (cx - r) / kSub)); x <= x1; ++x) {
-            const std::int64_t dx = x * kSub + kSub / 2 - cx;
-            const std::int64_t dy = y * kSub + kSub / 2 - cy;
-            const std::int64_t squared = dx * dx + dy * dy;
-            if (squared >= r * r)
-                continue;
-            const std::int64_t strength = 4096 - squared * 4096 / (r * r);
-            const std::int64_t a =
-                alpha * strength * strength * 16 / 4096 / 4096;  // in sixteenths, for soft edges
-            Pixel& p = at(x, y);
-            const auto channel = [a](std::uint16_t old, int fresh) {
-                return static_cast<std::uint16_t>(old + (fresh * 256 - old) * a / (kOpaque * 16));
-            };
-            p = {channel(p.red, colour.red), channel(p.green, colour.green), channel(p.blue, colour.blue)};
-        }
-    }
-}
-
-void Canvas::fillCorners(const std::vector<Point>& corners, const std::function<Colour(int)>& colourOf,
-                         int alpha) {
-    if (corners.size() < 3)
-        return;
-    std::vector<Point> sub;
-    sub.reserve(corners.size());
-    for (const Point& corner : corners)
-        sub.push_back({toSub(corner.x), toSub(corner.y)});
-    const auto [leftmost, rightmost] =
-        std::minmax_element(sub.begin(), sub.end(), [](const Point& a, const Point& b) { return a.x < b.x; });
-    const int firstColumn = static_cast<int>(clampTo(floorDivide(leftmost->x, kSub), 0, m_width));
-    const int endColumn =
-        static_cast<int>(clampTo(floorDivide(rightmost->x, kSub) + 1, firstColumn, m_width));
-    const auto [low, high] =
-        std::minmax_element(sub.begin(), sub.end(), [](const Point& a, const Point& b) { return a.y < b.y; });
-    const int firstRow = static_cast<int>(clampTo(floorDivide(low->y, kSub), 0, m_height));
-    const int lastRow = static_cast<int>(clampTo(floorDivide(high->y, kSub), -1, m_height - 1));
-
-    std::vector<int> cover(static_cast<std::size_t>(m_width));
-    std::vector<std::int64_t> crossings;
-    for (int row = firstRow; row <= lastRow; ++row) {
-        std::fill(cover.begin() + firstColumn, cover.begin() + endColumn, 0);
-        for (int line = 0; line < kScanLines; ++line) {
-            const std::int64_t y = row * kSub + (2 * line + 1) * kSub / (2 * kScanLines);
-            crossings.clear();
-            for (std::size_t i = 0; i < sub.size(); ++i) {
-                const Point& a = sub[i];
-                const Point& b = sub[(i + 1) % sub.size()];
-                if ((a.y <= y) != (b.y <= y))
-                    crossings.push_back(a.x + floorDivide((y - a.y) * (b.x - a.x), b.y - a.y));
-            }
-            std::sort(crossings.begin(), crossings.end());
-            for (std::size_t i = 0; i + 1 < crossings.size(); i += 2) {
-                const std::int64_t left = clampTo(crossings[i], 0, std::int64_t{m_width} * kSub);
-                const std::int64_t right = clampTo(crossings[i + 1], 0, std::int64_t{m_width} * kSub);
-                for (std::int64_t x = left / kSub; x * kSub < right; ++x)
-                    cover[static_cast<std::size_t>(x)] +=
-                        static_cast<int>(std::min(right, (x + 1) * kSub) - std::max(left, x * kSub));
-            }
-        }
-        const Colour colour = colourOf(row);
-        for (int x = firstColumn; x < endColumn; ++x) {
-            if (cover[static_cast<std::size_t>(x)] > 0)
-                blend(x, row, colour,
-                      std::int64_t{cover[static_cast<std::size_t>(x)]} * alpha / (kSub * kScanLines));
-        }
-    }
-}
-
-void Canvas::polygon(const std::vector<Point>& corners, Colour colour, int alpha) {
-    fillCorners(
-        corners, [colour](int) { return colour; }, alpha);
-}
-
-void Canvas::polygon(const std::vector<Point>& corners, Stop top, Stop bottom, int alpha) {
-    const std::int64_t span = std::max<std::int64_t>(1, bottom.y - top.y);
-    fillCorners(
-        corners,
-        [&, this](int row) {
-            return mix(top.colour, bottom.colour,
-                       static_cast<int>(clampTo((unitsAtRow(row) - top.y) * 256 / span, 0, 256)));
-        },
-        alpha);
-}
-
-void Canvas::ellipse(Point centre, std::int64_t radiusX, std::int64_t radiusY, std::int64_t turn,
-                     Colour colour, int alpha) {
-    constexpr int kCorners = 40;
-    std::vector<Point> corners;
-    corners.reserve(kCorners);
-    for (int i = 0; i < kCorners; ++i) {
-        const std::int64_t x = radiusX * cosine(i * kFullTurn / kCorners) / kUnity;
-        const std::int64_t y = radiusY * sine(i * kFullTurn / kCorners) / kUnity;
-        corners.push_back({centre.x + (x * cosine(turn) - y * sine(turn)) / kUnity,
-                           centre.y + (x * sine(turn) + y * cosine(turn)) / kUnity});
-    }
-    polygon(corners, colour, alpha);
-}
-
-void Canvas::stroke(Point from, Point to, std::int64_t startWidth, std::int64_t endWidth, Colour colour,
-                    int alpha) {
-    const std::int64_t dx = to.x - from.x;
-    const std::int64_t dy = to.y - from.y;
-    const std::int64_t length = std::max<std::int64_t>(1, squareRoot(dx * dx + dy * dy));
-    const auto across = [&](std::int64_t width) {
-        return Point{-dy * width / (2 * length), dx * width / (2 * length)};
-    };
-    const Point a = across(startWidth);
-    const Point b = across(endWidth);
-    polygon({{from.x + a.x, from.y + a.y},
-             {to.x + b.x, to.y + b.y},
-             {to.x - b.x, to.y - b.y},
-             {from.x - a.x, from.y - a.y}},
+    polygon({side(from, startWidth), side(to, endWidth), side(to, -endWidth), side(from, -startWidth)},
             colour, alpha);
     if (alpha != kOpaque)
         return;  // round ends would show where they overlap
@@ -222,86 +157,59 @@ void Canvas::stroke(Point from, Point to, std::int64_t startWidth, std::int64_t 
     disc(to, endWidth / 2, colour);
 }
 
-void Canvas::below(const Edge& edge, const Shade& shade, std::int64_t bottom) {
+void Canvas::below(const Edge& edge, const Shade& shade, double bottom) {
     const int lastRow = rowOf(bottom);
-    for (int x = 0; x < m_width; ++x) {
-        const std::int64_t across = unitsAtColumn(x);
-        const std::int64_t height = edge(across);
-        const std::int64_t top = toSub(height);
-        for (int y = static_cast<int>(std::max<std::int64_t>(0, floorDivide(top, kSub))); y < lastRow; ++y) {
-            const std::int64_t cover = clampTo((y + 1) * kSub - top, 0, kSub);
-            blend(x, y, shade(across, unitsAtRow(y), height), cover);
-        }
+    for (int x = 0; x < m_image.width(); ++x) {
+        const double across = unitsAt(x);
+        const double height = edge(across);
+        const double top = height * m_image.height() / kUnitsHigh;
+        for (int y = int(std::max(0.0, std::floor(top))); y < lastRow; ++y)
+            blend(row(y)[x], shade(across, unitsAt(y), height), (y + 1 - top) * kOpaque);
     }
 }
 
-void Canvas::cover(std::int64_t from, std::int64_t to, const Paint& paint) {
+void Canvas::cover(double from, double to, const Paint& paint) {
     const int last = rowOf(to);
     for (int y = rowOf(from); y < last; ++y) {
-        for (int x = 0; x < m_width; ++x) {
-            int alpha = 0;
-            const Colour colour = paint(unitsAtColumn(x), unitsAtRow(y), alpha);
-            blend(x, y, colour, alpha);
+        for (int x = 0; x < m_image.width(); ++x) {
+            double alpha = 0;
+            const Colour colour = paint(unitsAt(x), unitsAt(y), alpha);
+            blend(row(y)[x], colour, alpha);
         }
     }
 }
 
-void Canvas::mirrorBelow(std::int64_t horizon, Colour tint, int tintShare, std::int64_t ripple,
-                         std::uint32_t seed) {
+void Canvas::mirrorBelow(double horizon, Colour tint, double tintShare, double ripple, int seed) {
     const int first = rowOf(horizon);
-    for (int y = first; y < m_height; ++y) {
-        const std::int64_t depth = unitsAtRow(y) - horizon;
+    for (int y = first; y < m_image.height(); ++y) {
+        const double depth = unitsAt(y) - horizon;
         // Ripples grow larger and wider apart towards the viewer.
-        const std::int64_t rowScale = 400 + depth / 3;
-        for (int x = 0; x < m_width; ++x) {
-            const std::int64_t across = unitsAtColumn(x) - unitsWide() / 2;
-            const int wave =
-                cloudNoise(across * 65536 / (rowScale * 2), depth * 65536 * 7 / (rowScale * 2), seed, 3) -
-                32768;
-            const std::int64_t shift = ripple * wave / 32768 * (600 + depth) / 3000;
-            const std::int64_t from = 2 * std::int64_t{first} - y - 1 + shift * m_height / kUnitsHigh;
-            const Pixel seen = at(x, static_cast<int>(clampTo(from, 0, std::max(0, first - 1))));
-            at(x, y) = seen;
-            blend(x, y, tint, clampTo(tintShare + depth / 120 + wave / 1400, 0, 230));
+        const double scale = 800 + depth * 2 / 3;
+        for (int x = 0; x < m_image.width(); ++x) {
+            const double across = unitsAt(x) - wide() / 2;
+            const double wave = noise(across / scale, depth * 7 / scale, seed, 3) - 32768;
+            const double shift = ripple * wave / 32768 * (600 + depth) / 3000;
+            const double from = 2 * first - y - 1 + shift * m_image.height() / kUnitsHigh;
+            row(y)[x] = row(int(within(from, 0, first - 1)))[x];
+            blend(row(y)[x], tint, within(tintShare + depth / 120 + wave / 1400, 0, 230));
         }
     }
 }
 
-Picture Canvas::finish() const {
-    Picture picture{m_width, m_height, {}};
-    picture.rgb.reserve(m_pixels.size() * 3);
-    // A little ordered noise in place of plain rounding keeps slow gradients smooth.
-    for (int y = 0; y < m_height; ++y) {
-        for (int x = 0; x < m_width; ++x) {
-            const Pixel& p = m_pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width) +
-                                      static_cast<std::size_t>(x)];
-            const int threshold = ditherAt(x, y) * 16;
-            for (const int channel : {int{p.red}, int{p.green}, int{p.blue}})
-                picture.rgb.push_back(static_cast<std::uint8_t>(std::min(255, (channel + threshold) >> 8)));
+QImage Canvas::finish() {
+    static constexpr int kBayer[16] = {0, 8, 2, 10, 12, 4, 14, 6, 3, 11, 1, 9, 15, 7, 13, 5};
+    m_painter.end();
+    QImage picture(m_image.size(), QImage::Format_RGB888);
+    for (int y = 0; y < picture.height(); ++y) {
+        uchar* out = picture.scanLine(y);
+        for (int x = 0; x < picture.width(); ++x) {
+            const QRgba64 pixel = row(y)[x];
+            const int threshold = kBayer[y % 4 * 4 + x % 4] * 16;
+            for (const int channel : {pixel.red(), pixel.green(), pixel.blue()})
+                *out++ = uchar((channel - channel / 256 + threshold) >> 8);
         }
     }
     return picture;
-}
-
-Picture scaledDown(const Picture& source, int width, int height) {
-    Picture result{width, height, {}};
-    result.rgb.reserve(static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 3);
-    for (int y = 0; y < height; ++y) {
-        const int y0 = y * source.height / height;
-        const int y1 = std::max(y0 + 1, (y + 1) * source.height / height);
-        for (int x = 0; x < width; ++x) {
-            const int x0 = x * source.width / width;
-            const int x1 = std::max(x0 + 1, (x + 1) * source.width / width);
-            int sums[3] = {0, 0, 0};
-            for (int sy = y0; sy < y1; ++sy)
-                for (int sx = x0; sx < x1; ++sx)
-                    for (int c = 0; c < 3; ++c)
-                        sums[c] += source.pixel(sx, sy)[c];
-            for (const int sum : sums)
-                result.rgb.push_back(static_cast<std::uint8_t>(sum / ((y1 - y0) * (x1 - x0))));
-        }
-    }
-    return result;
 }
 
 }  // namespace vantor::samples

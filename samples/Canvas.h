@@ -1,116 +1,103 @@
-// An integer rasteriser: what is painted with it is the same, bit for bit, on every machine.
+// What the card's motifs are painted with: QPainter, and the pixels themselves where noise decides.
 //
 // Places and lengths are in units of 1/10000 of the canvas's height, so that a scene is painted alike at any
-// size.
+// size. Shares and alphas run from 0 to 256, angles in 1/65536 of a turn.
 #pragma once
 
-#include <cstdint>
+#include <QImage>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
 #include <functional>
+#include <numbers>
 #include <vector>
 
 namespace vantor::samples {
 
 struct Colour {
-    int red = 0;  // each channel 0..255
-    int green = 0;
-    int blue = 0;
+    double red = 0;  // each channel 0..255
+    double green = 0;
+    double blue = 0;
 };
 
-// The colour `share`/256 of the way from one to the other.
-Colour mix(Colour from, Colour to, int share);
+// The colour `share` of the way from one to the other.
+Colour mix(Colour from, Colour to, double share);
 
 struct Point {
-    std::int64_t x = 0;  // units
-    std::int64_t y = 0;
+    double x = 0;
+    double y = 0;
 };
 
-// One colour of a vertical gradient, at a height in units.
+// One colour of a vertical gradient, at a height.
 struct Stop {
-    std::int64_t y = 0;
+    double y = 0;
     Colour colour;
 };
 
-// A finished picture: three bytes a pixel, rows from the top without padding.
-struct Picture {
-    int width = 0;
-    int height = 0;
-    std::vector<std::uint8_t> rgb;
+constexpr double kUnitsHigh = 10000;
+constexpr double kOpaque = 256;
+constexpr int kHalfTurn = 32768;
+constexpr int kFullTurn = 2 * kHalfTurn;
 
-    const std::uint8_t* pixel(int x, int y) const {
-        return &rgb[(static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
-                     static_cast<std::size_t>(x)) *
-                    3];
-    }
-};
-
-// The picture made smaller by averaging boxes of pixels; never larger than it is.
-Picture scaledDown(const Picture& source, int width, int height);
-
-constexpr std::int64_t kUnitsHigh = 10000;
-constexpr int kOpaque = 256;
+inline double sine(double angle) {
+    return std::sin(angle * std::numbers::pi / kHalfTurn);
+}
+inline double cosine(double angle) {
+    return std::cos(angle * std::numbers::pi / kHalfTurn);
+}
+inline double within(double value, double low, double high) {
+    return std::clamp(value, low, high);
+}
+// Octaves of smooth noise, each half as strong and twice as fine, at a point in cells; 0 to 65535.
+double noise(double x, double y, int seed, int octaves);
 
 class Canvas {
   public:
     Canvas(int width, int height);
 
-    int width() const { return m_width; }
-    int height() const { return m_height; }
-    std::int64_t unitsWide() const { return kUnitsHigh * m_width / m_height; }
-
-    // Units of the middle of a pixel.
-    std::int64_t unitsAtColumn(int x) const { return (2 * x + 1) * kUnitsHigh / (2 * m_height); }
-    std::int64_t unitsAtRow(int y) const { return (2 * y + 1) * kUnitsHigh / (2 * m_height); }
-    int rowOf(std::int64_t y) const;
+    double wide() const { return kUnitsHigh * m_image.width() / m_image.height(); }
 
     // Whole rows of [from, to) in the colours of the stops, which come in rising order.
-    void gradient(const std::vector<Stop>& stops, std::int64_t from = 0, std::int64_t to = kUnitsHigh);
-
-    void disc(Point centre, std::int64_t radius, Colour colour, int alpha = kOpaque);
+    void gradient(const std::vector<Stop>& stops, double from = 0, double to = kUnitsHigh);
+    void disc(Point centre, double radius, Colour colour, double alpha = kOpaque) {
+        ellipse(centre, radius, radius, 0, colour, alpha);
+    }
     // Light that fades to nothing at the radius.
-    void glow(Point centre, std::int64_t radius, Colour colour, int alpha);
-    void ring(Point centre, std::int64_t inner, std::int64_t outer, Colour colour, int alpha);
-    void polygon(const std::vector<Point>& corners, Colour colour, int alpha = kOpaque);
+    void glow(Point centre, double radius, Colour colour, double alpha);
+    void ring(Point centre, double inner, double outer, Colour colour, double alpha);
+    void polygon(const std::vector<Point>& corners, Colour colour, double alpha = kOpaque);
     // A polygon whose colour runs from one to another between two heights.
-    void polygon(const std::vector<Point>& corners, Stop top, Stop bottom, int alpha = kOpaque);
-    void ellipse(Point centre, std::int64_t radiusX, std::int64_t radiusY, std::int64_t turn, Colour colour,
-                 int alpha = kOpaque);
+    void polygon(const std::vector<Point>& corners, Stop top, Stop bottom, double alpha = kOpaque);
+    // A polygon of pairs of coordinates in hundredths of `size`, counted from `at`.
+    void shape(Point at, double size, std::initializer_list<double> corners, Colour colour);
+    void box(double left, double top, double right, double bottom, Colour colour, double alpha = kOpaque);
+    void ellipse(Point centre, double radiusX, double radiusY, double turn, Colour colour,
+                 double alpha = kOpaque);
     // A line with round ends, thicker or thinner towards its end.
-    void stroke(Point from, Point to, std::int64_t startWidth, std::int64_t endWidth, Colour colour,
-                int alpha = kOpaque);
+    void stroke(Point from, Point to, double startWidth, double endWidth, Colour colour,
+                double alpha = kOpaque);
 
     // Everything below a skyline: `edge` gives its height at a place across, `shade` the colour of a point
     // below it.
-    using Edge = std::function<std::int64_t(std::int64_t x)>;
-    using Shade = std::function<Colour(std::int64_t x, std::int64_t y, std::int64_t edge)>;
-    void below(const Edge& edge, const Shade& shade, std::int64_t bottom = kUnitsHigh);
-
+    using Edge = std::function<double(double x)>;
+    using Shade = std::function<Colour(double x, double y, double edge)>;
+    void below(const Edge& edge, const Shade& shade, double bottom = kUnitsHigh);
     // Every pixel of the rows [from, to) blended with what `paint` says; it sets alpha, 0 leaves the pixel.
-    using Paint = std::function<Colour(std::int64_t x, std::int64_t y, int& alpha)>;
-    void cover(std::int64_t from, std::int64_t to, const Paint& paint);
-
+    using Paint = std::function<Colour(double x, double y, double& alpha)>;
+    void cover(double from, double to, const Paint& paint);
     // The rows from `horizon` down become water: what stands above, mirrored, rippled and tinted.
-    void mirrorBelow(std::int64_t horizon, Colour tint, int tintShare, std::int64_t ripple,
-                     std::uint32_t seed);
+    void mirrorBelow(double horizon, Colour tint, double tintShare, double ripple, int seed);
 
-    Picture finish() const;
+    // The picture in 24 bits, dithered so that slow gradients show no bands.
+    QImage finish();
 
   private:
-    struct Pixel {
-        std::uint16_t red, green, blue;  // 8.8 fixed point, so that slow gradients show no bands
-    };
+    QRgba64* row(int y) { return reinterpret_cast<QRgba64*>(m_image.scanLine(y)); }
+    double unitsAt(int pixel) const { return (pixel + 0.5) * kUnitsHigh / m_image.height(); }
+    int rowOf(double y) const;
 
-    Pixel& at(int x, int y) {
-        return m_pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width) +
-                        static_cast<std::size_t>(x)];
-    }
-    std::int64_t toSub(std::int64_t units) const;  // units to 1/256 pixels
-    void blend(int x, int y, Colour colour, std::int64_t alpha);
-    void fillCorners(const std::vector<Point>& corners, const std::function<Colour(int row)>& colourOf,
-                     int alpha);
-
-    int m_width;
-    int m_height;
-    std::vector<Pixel> m_pixels;
+    QImage m_image;  // 16 bits a channel
+    QPainter m_painter;
 };
 
 }  // namespace vantor::samples

@@ -1,35 +1,44 @@
-// Documents and data files of many kinds, each small but whole.
+// Documents, archives and data of programs, each small but whole.
 #pragma once
 
 #include <QByteArray>
-
-#include "samples/Canvas.h"
+#include <QImage>
+#include <vector>
 
 namespace vantor::samples {
 
-QByteArray pdfFile(const Picture& photo);  // ISO 32000, one page
-QByteArray postScriptFile();               // encapsulated PostScript
-QByteArray rtfFile();
-QByteArray textFile();
-QByteArray csvFile();
-QByteArray htmlFile();
-QByteArray xmlFile();
-QByteArray svgFile();
-QByteArray gpxFile();
-QByteArray kmlFile();
-QByteArray icsFile();  // RFC 5545
-QByteArray vcfFile();  // RFC 2426
-QByteArray emlFile();  // RFC 5322
+struct Member {
+    QByteArray name;
+    QByteArray bytes;
+};
 
-QByteArray docxFile();  // ECMA-376
-QByteArray xlsxFile();
-QByteArray pptxFile();
-QByteArray odtFile();  // OASIS OpenDocument 1.2
-QByteArray odsFile();
-QByteArray odpFile();
-QByteArray epubFile();  // EPUB 3
+// Formats and filters in libarchive's names: "ustar", "7zip", "raw"; "gzip", "xz".
+QByteArray archived(const std::vector<Member>& members, const char* format, const char* filter = nullptr);
 
-QByteArray sqliteFile();  // one table of places, pages of 4096 bytes
-QByteArray dbfFile();     // dBASE III, the same table
+// By hand, since an office document's first member must be stored as it is and without extra fields
+// ("mimetype").
+QByteArray zipFile(const std::vector<Member>& members);
+QByteArray cabFile(const std::vector<Member>& members);  // MS-CAB without compression
+QByteArray lhaFile(const std::vector<Member>& members);  // level 0 headers, "-lh0-"
+
+// A document of texts.json: one text, or the members of a document that is a ZIP archive.
+struct TextDocument {
+    QByteArray name;
+    std::vector<Member> members;  // a single one without a name is the document itself
+};
+
+// All of texts.json in its order; there, "NAME/member" is a member of the archive NAME.
+const std::vector<TextDocument>& textDocuments();
+QByteArray contentOf(const TextDocument& document);
+// The text of this name; throws std::runtime_error when there is none.
+QByteArray textNamed(const char* name);
+
+QByteArray pdfFile(const QImage& photo);  // one page with a drawing and a photo
+QByteArray sqliteFile();                  // one table of places
+QByteArray dbfFile();                     // dBASE III, the same table
+QByteArray numpyFile();                   // 256 squares
+QByteArray shapeFile();                   // Esri shapefile of points
+QByteArray pcapFile();                    // empty Ethernet packets
+QByteArray wasmFile();                    // one function
 
 }  // namespace vantor::samples

@@ -2,53 +2,46 @@
 #include "samples/SceneParts.h"
 
 #include <algorithm>
-
-#include "samples/Fixed.h"
+#include <cmath>
 
 namespace vantor::samples {
 
-Canvas::Edge mountainLine(std::int64_t base, std::int64_t height, std::int64_t width, std::uint32_t seed,
-                          int octaves) {
-    return [=](std::int64_t x) {
-        const std::int64_t noise = cloudNoise(x * 65536 / width, 0, seed, octaves);
-        return base - height * noise / 65536;
+Canvas::Edge mountainLine(double base, double height, double width, int seed, int octaves) {
+    return [=](double x) { return base - height * noise(x / width, 0, seed, octaves) / 65536; };
+}
+
+Canvas::Edge hillLine(double base, double height, double width, double phase) {
+    return [=](double x) {
+        const double angle = x * kFullTurn / width + phase;
+        return base - height * sine(angle) / 2 - height * sine(angle * 2 + phase * 3) / 6;
     };
 }
 
-Canvas::Edge hillLine(std::int64_t base, std::int64_t height, std::int64_t width, std::int64_t phase) {
-    return [=](std::int64_t x) {
-        const std::int64_t angle = x * kFullTurn / width + phase;
-        return base - height * sine(angle) / (2 * kUnity) -
-               height * sine(angle * 2 + phase * 3) / (6 * kUnity);
-    };
+Canvas::Shade fading(Colour edge, Colour deep, double depth) {
+    return [=](double, double y, double top) { return mix(edge, deep, (y - top) * 256 / depth); };
 }
 
-Canvas::Shade fading(Colour edge, Colour deep, std::int64_t depth) {
-    return [=](std::int64_t, std::int64_t y, std::int64_t top) {
-        return mix(edge, deep, static_cast<int>(clampTo((y - top) * 256 / depth, 0, 256)));
-    };
-}
-
-void paintClouds(Canvas& canvas, std::int64_t from, std::int64_t to, Colour light, Colour shadow, int clear,
-                 std::uint32_t seed, int strongest) {
-    canvas.cover(from, to, [=](std::int64_t x, std::int64_t y, int& alpha) {
-        const std::int64_t half = (to - from) / 2;
-        const std::int64_t fromMiddle = y > from + half ? y - from - half : from + half - y;
-        const std::int64_t band = 256 - fromMiddle * fromMiddle * 256 / (half * half);
+void paintClouds(Canvas& canvas, double from, double to, Colour light, Colour shadow, int clear, int seed,
+                 int strongest) {
+    canvas.cover(from, to, [=](double x, double y, double& alpha) {
+        const double half = (to - from) / 2;
+        const double fromMiddle = y > from + half ? y - from - half : from + half - y;
+        const double band = 256 - fromMiddle * fromMiddle * 256 / (half * half);
         // Clouds lie flat: their noise is stretched across the sky, more so near the horizon.
-        const std::int64_t stretch = 2600;
-        const int density = cloudNoise(x * 65536 / stretch, y * 65536 / (stretch * 2 / 5), seed, 5);
-        alpha = static_cast<int>(clampTo((density - clear) * 256 / 14000, 0, strongest) * band / 256);
-        const int above = cloudNoise(x * 65536 / stretch, (y - 120) * 65536 / (stretch * 2 / 5), seed, 3);
-        return mix(shadow, light, static_cast<int>(clampTo(128 + (density - above) / 40, 0, 256)));
+        const double stretch = 2600;
+        const double density = noise(x / stretch, y / (stretch * 2 / 5), seed, 5);
+        alpha = within((density - clear) * 256 / 14000, 0, strongest) * band / 256;
+        if (alpha <= 0)
+            return Colour{};
+        const double above = noise(x / stretch, (y - 120) / (stretch * 2 / 5), seed, 3);
+        return mix(shadow, light, 128 + (density - above) / 40);
     });
 }
 
-void paintStars(Canvas& canvas, int count, std::int64_t to, std::uint64_t seed) {
+void paintStars(Canvas& canvas, int count, double to, int seed) {
     Random random(seed);
     for (int i = 0; i < count; ++i) {
-        const Point at{random.between(0, static_cast<int>(canvas.unitsWide())),
-                       random.between(0, static_cast<int>(to))};
+        const Point at{random.between(0, canvas.wide()), random.between(0, to)};
         const int brightness = random.between(60, 256);
         const Colour tint = random.between(0, 3) == 0 ? Colour{255, 226, 190} : Colour{225, 235, 255};
         const int size = random.between(0, 30) == 0 ? 22 : random.between(7, 13);
@@ -58,46 +51,23 @@ void paintStars(Canvas& canvas, int count, std::int64_t to, std::uint64_t seed) 
     }
 }
 
-void paintBird(Canvas& canvas, Point at, std::int64_t span, Colour colour) {
-    const std::int64_t half = span / 2;
-    canvas.polygon({{at.x - half, at.y - span / 8},
-                    {at.x - half / 2, at.y - span / 4},
-                    {at.x, at.y},
-                    {at.x + half / 2, at.y - span / 4},
-                    {at.x + half, at.y - span / 8},
-                    {at.x + half / 2, at.y - span / 6},
-                    {at.x, at.y + span / 9},
-                    {at.x - half / 2, at.y - span / 6}},
-                   colour);
-}
-
-void paintFir(Canvas& canvas, Point foot, std::int64_t height, Colour dark, Colour light) {
-    canvas.polygon({{foot.x - height / 40, foot.y},
-                    {foot.x + height / 40, foot.y},
-                    {foot.x + height / 60, foot.y - height / 4},
-                    {foot.x - height / 60, foot.y - height / 4}},
-                   mix(dark, {40, 26, 18}, 140));
+void paintFir(Canvas& canvas, Point foot, double height, Colour dark, Colour light) {
+    canvas.shape(foot, height, {-2.5, 0, 2.5, 0, 1.7, -25, -1.7, -25}, mix(dark, {40, 26, 18}, 140));
     constexpr int kTiers = 6;
     for (int tier = 0; tier < kTiers; ++tier) {
-        const std::int64_t bottom = foot.y - height / 9 - height * tier * 13 / (kTiers * 16);
-        const std::int64_t top = bottom - height * 5 / 18;
-        const std::int64_t half = height * (kTiers - tier + 1) / (kTiers * 5);
-        canvas.polygon({{foot.x, top},
-                        {foot.x + half / 3, bottom - height / 12},
-                        {foot.x + half, bottom},
-                        {foot.x + half / 3, bottom - height / 60},
-                        {foot.x, bottom + height / 50},
-                        {foot.x - half / 3, bottom - height / 60},
-                        {foot.x - half, bottom},
-                        {foot.x - half / 3, bottom - height / 12}},
-                       mix(dark, light, 256 * tier / kTiers));
+        const double bottom = 11 + 81.25 * tier / kTiers;
+        const double half = 20.0 * (kTiers - tier + 1) / kTiers;
+        const double inner = half / 3;
+        canvas.shape(foot, height,
+                     {0, -bottom - 27.8, inner, -bottom - 8.3, half, -bottom, inner, -bottom - 1.7, 0,
+                      -bottom + 2, -inner, -bottom - 1.7, -half, -bottom, -inner, -bottom - 8.3},
+                     mix(dark, light, 256 * tier / kTiers));
     }
 }
 
-void paintLeafTree(Canvas& canvas, Point foot, std::int64_t height, Colour crown, Colour trunk,
-                   std::uint64_t seed) {
+void paintLeafTree(Canvas& canvas, Point foot, double height, Colour crown, Colour trunk, int seed) {
     Random random(seed);
-    const std::int64_t fork = foot.y - height * 45 / 100;
+    const double fork = foot.y - height * 45 / 100;
     canvas.stroke(foot, {foot.x, fork}, height / 14, height / 22, trunk);
     for (int branch = -2; branch <= 2; ++branch) {
         const Point tip{foot.x + height * branch / 9, fork - height * (4 - branch * branch / 2) / 16};
@@ -106,60 +76,42 @@ void paintLeafTree(Canvas& canvas, Point foot, std::int64_t height, Colour crown
     const Point middle{foot.x, foot.y - height * 67 / 100};
     constexpr int kTufts = 420;
     for (int i = 0; i < kTufts; ++i) {
-        const std::int64_t angle = random.between(0, kFullTurn - 1);
-        const std::int64_t reach = squareRoot(std::int64_t{random.between(0, 10000)} * 10000);
-        const Point at{middle.x + height * 36 / 100 * reach / 10000 * cosine(angle) / kUnity,
-                       middle.y + height * 31 / 100 * reach / 10000 * sine(angle) / kUnity};
+        const double angle = random.between(0, kFullTurn - 1);
+        const double reach = std::sqrt(random.between(0, 10000) * 10000);
+        const Point at{middle.x + height * 36 / 100 * reach / 10000 * cosine(angle),
+                       middle.y + height * 31 / 100 * reach / 10000 * sine(angle)};
         // Light falls from the upper left; later tufts lie in front.
-        const std::int64_t lit = (middle.y - at.y + (middle.x - at.x) / 2) * 256 / height;
-        const Colour shade = mix({crown.red / 3, crown.green / 3, crown.blue / 3}, crown,
-                                 static_cast<int>(clampTo(130 + lit + i / 6, 0, 256)));
-        const Colour sunny =
-            mix(shade, {255, 240, 190}, static_cast<int>(clampTo(lit / 2 + random.between(-30, 30), 0, 90)));
-        canvas.ellipse(at, height / 34 + random.between(0, static_cast<int>(height / 60)), height / 50, angle,
-                       sunny, 225);
+        const double lit = (middle.y - at.y + (middle.x - at.x) / 2) * 256 / height;
+        const Colour shade = mix({crown.red / 3, crown.green / 3, crown.blue / 3}, crown, 130 + lit + i / 6);
+        const Colour sunny = mix(shade, {255, 240, 190}, within(lit / 2 + random.between(-30, 30), 0, 90));
+        canvas.ellipse(at, height / 34 + random.between(0, height / 60), height / 50, angle, sunny, 225);
     }
 }
 
-void paintSail(Canvas& canvas, Point waterline, std::int64_t height, Colour sail, Colour hull) {
-    const std::int64_t deck = waterline.y - height / 12;
-    canvas.stroke({waterline.x, deck}, {waterline.x, waterline.y - height}, height / 60, height / 90, hull);
-    canvas.polygon({{waterline.x + height / 50, waterline.y - height * 97 / 100},
-                    {waterline.x + height * 19 / 100, waterline.y - height / 2},
-                    {waterline.x + height * 40 / 100, deck - height / 30},
-                    {waterline.x + height / 50, deck - height / 30}},
-                   sail);
-    canvas.polygon({{waterline.x - height / 40, waterline.y - height * 86 / 100},
-                    {waterline.x - height * 30 / 100, deck - height / 30},
-                    {waterline.x - height / 40, deck - height / 20}},
-                   mix(sail, hull, 50));
-    canvas.polygon({{waterline.x - height * 36 / 100, deck},
-                    {waterline.x + height * 46 / 100, deck - height / 60},
-                    {waterline.x + height * 34 / 100, waterline.y},
-                    {waterline.x - height * 26 / 100, waterline.y}},
-                   hull);
+void paintSail(Canvas& canvas, Point at, double height, Colour sail, Colour hull) {
+    canvas.shape(at, height, {-0.8, -8, 0.8, -8, 0.5, -100, -0.5, -100}, hull);
+    canvas.shape(at, height, {2, -97, 19, -50, 40, -11.7, 2, -11.7}, sail);
+    canvas.shape(at, height, {-2.5, -86, -30, -11.7, -2.5, -13.3}, mix(sail, hull, 50));
+    canvas.shape(at, height, {-36, -8.3, 46, -10, 34, 0, -26, 0}, hull);
 }
 
 void paintFlower(Canvas& canvas, const Flower& flower) {
-    const auto squash = [&](std::int64_t y) { return y * flower.flatness / 256; };
+    const auto squash = [&](double y) { return y * flower.flatness / 256; };
     for (int ring = 0; ring < 2; ++ring) {
-        const std::int64_t radius = ring == 0 ? flower.radius : flower.radius * 4 / 5;
+        const double radius = ring == 0 ? flower.radius : flower.radius * 4 / 5;
         for (int i = 0; i < flower.petals; ++i) {
-            const std::int64_t angle =
-                flower.turn + (2 * i + ring) * std::int64_t{kFullTurn} / (2 * flower.petals);
-            const std::int64_t width = radius * 5 / (flower.petals + 3);
+            const double angle = flower.turn + (2 * i + ring) * kFullTurn / (2 * flower.petals);
+            const double width = radius * 5 / (flower.petals + 3);
             const Colour petal = mix(flower.outer, flower.inner, ring * 70 + (i % 3) * 24);
-            const auto place = [&](std::int64_t along, std::int64_t across) {
-                return Point{
-                    flower.centre.x + (along * cosine(angle) - across * sine(angle)) / kUnity,
-                    flower.centre.y + squash((along * sine(angle) + across * cosine(angle)) / kUnity)};
+            const auto place = [&](double along, double across) {
+                return Point{flower.centre.x + (along * cosine(angle) - across * sine(angle)),
+                             flower.centre.y + squash((along * sine(angle) + across * cosine(angle)))};
             };
             std::vector<Point> outline;
             constexpr int kSteps = 14;
             for (int step = 0; step <= 2 * kSteps; ++step) {
                 const int t = step <= kSteps ? step : 2 * kSteps - step;
-                const std::int64_t bulge =
-                    width * sine(std::int64_t{t} * t * kHalfTurn / (kSteps * kSteps + kSteps)) / (2 * kUnity);
+                const double bulge = width * sine(t * t * kHalfTurn / (kSteps * kSteps + kSteps)) / 2;
                 outline.push_back(place(radius * (2 + t) / (2 + kSteps), step <= kSteps ? bulge : -bulge));
             }
             canvas.polygon(outline, petal);
@@ -174,12 +126,10 @@ void paintFlower(Canvas& canvas, const Flower& flower) {
     // Seeds on a golden spiral.
     const int seeds = 130;
     for (int i = 0; i < seeds; ++i) {
-        const std::int64_t angle = std::int64_t{i} * 25034;
-        const std::int64_t reach = flower.radius * 25 / 100 * squareRoot(std::int64_t{i} * 10000) /
-                                   squareRoot(std::int64_t{seeds} * 10000);
-        canvas.disc({flower.centre.x + reach * cosine(angle) / kUnity,
-                     flower.centre.y + squash(reach * sine(angle) / kUnity)},
-                    std::max<std::int64_t>(4, flower.radius / 70),
+        const double angle = i * 25034;
+        const double reach = flower.radius * 25 / 100 * std::sqrt(i * 10000) / std::sqrt(seeds * 10000);
+        canvas.disc({flower.centre.x + reach * cosine(angle), flower.centre.y + squash(reach * sine(angle))},
+                    std::max<double>(4, flower.radius / 70),
                     mix(flower.eye, i % 2 == 0 ? Colour{255, 245, 200} : Colour{60, 30, 10}, 110));
     }
 }

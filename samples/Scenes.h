@@ -1,29 +1,27 @@
-// The motifs of the card's photos: landscapes, flowers and skies painted from numbers.
+// The motifs of the card's pictures: landscapes, flowers and skies, no two alike.
 #pragma once
 
-#include <vector>
-
-#include "samples/Canvas.h"
+#include <QImage>
 
 namespace vantor::samples {
 
+class Canvas;
+
 // A motif paints itself at any size; it is at its best between 4:3 and 3:2.
-struct Scene {
-    const char* name;
-    Picture (*paint)(int width, int height);
-};
+using Scene = void(Canvas& canvas);
+Scene seaSunset, lilacBay, alpineLake, autumnLake;
+Scene blueRidges, pinkRidges, rainbowHills, balloons, mistyForest;
+Scene lavenderRows, meadow, sunflower, daisies, pinkCosmos;
+Scene starryNight, aurora, citySkyline, fireworks;
 
-// Every motif, no two alike.
-const std::vector<Scene>& scenes();
+QImage painted(Scene* scene, int width, int height);
+// The same place from its other side, in the light of a later hour.
+QImage seenAgain(const QImage& picture, const QColor& light);
 
-// The motif of the given name. A name that no motif has ends the program, so that no card is painted wrongly.
-const Scene& sceneNamed(const char* name);
-
-// One frame of the card's movies: the sun has gone down `evening`/255 of its way over the sea, and a boat has
-// sailed `voyage`/255 of its own.
-Picture sunsetAt(int width, int height, int evening, int voyage);
-
+// One frame of the card's movies: the sun has gone down `evening` of [0, 1] of its way over the sea, and a
+// boat has sailed `voyage` of its own.
+QImage sunsetAt(int width, int height, double evening, double voyage);
 // Bars and ramps to judge colours by.
-Picture testCard(int width, int height);
+QImage testCard(int width, int height);
 
 }  // namespace vantor::samples

@@ -1,105 +1,87 @@
 // Motifs of flowers.
 #include <algorithm>
+#include <cmath>
 
-#include "samples/Fixed.h"
-#include "samples/SceneList.h"
 #include "samples/SceneParts.h"
+#include "samples/Scenes.h"
 
 namespace vantor::samples {
 
 namespace {
 
 // Soft discs out of focus, as behind a flower taken from near.
-void paintBlur(Canvas& canvas, const std::vector<Colour>& colours, int count, std::uint64_t seed) {
+void paintBlur(Canvas& canvas, const std::vector<Colour>& colours, int count, int seed) {
     Random random(seed);
-    const int wide = static_cast<int>(canvas.unitsWide());
+    const int wide = canvas.wide();
     for (int i = 0; i < count; ++i) {
         const Point at{random.between(-300, wide + 300), random.between(-300, 10300)};
-        const Colour colour = colours[static_cast<std::size_t>(i) % colours.size()];
-        const std::int64_t reach = random.between(900, 3400);
+        const Colour colour = colours[i % colours.size()];
+        const double reach = random.between(900, 3400);
         canvas.glow(at, reach, colour, random.between(50, 150));
     }
     for (int i = 0; i < count / 3; ++i) {
         const Point at{random.between(0, wide), random.between(0, 6500)};
-        const std::int64_t radius = random.between(180, 520);
+        const double radius = random.between(180, 520);
         canvas.disc(at, radius, {255, 255, 230}, 26);
         canvas.ring(at, radius - 30, radius, {255, 255, 236}, 30);
     }
 }
 
-void paintStem(Canvas& canvas, Point top, std::int64_t bottomX, std::int64_t width, Colour colour) {
+void paintStem(Canvas& canvas, Point top, double bottomX, double width, Colour colour) {
     const Point bottom{bottomX, 10300};
     canvas.stroke(top, bottom, width, width * 5 / 4, colour);
     canvas.stroke({top.x - width / 5, top.y}, {bottom.x - width / 5, bottom.y}, width / 4, width / 4,
                   mix(colour, {220, 240, 150}, 90), 160);
 }
 
-void paintLeaf(Canvas& canvas, Point foot, std::int64_t length, std::int64_t angle, Colour colour) {
-    const Point tip{foot.x + length * cosine(angle) / kUnity, foot.y + length * sine(angle) / kUnity};
+void paintLeaf(Canvas& canvas, Point foot, double length, double angle, Colour colour) {
+    const Point tip{foot.x + length * cosine(angle), foot.y + length * sine(angle)};
     const Point middle{(foot.x + tip.x) / 2, (foot.y + tip.y) / 2};
     canvas.ellipse(middle, length / 2, length / 6, angle, colour);
     canvas.stroke(foot, tip, length / 50, length / 90, mix(colour, {210, 235, 140}, 120));
 }
 
-struct RowColours {
-    std::vector<Colour> flowers;
-    Colour soil;
-    Colour leaf;
-};
-
-// Rows of flowers that run towards a point on the horizon.
-void paintRows(Canvas& canvas, std::int64_t horizon, const RowColours& colours, std::uint64_t seed) {
-    const std::int64_t wide = canvas.unitsWide();
-    canvas.cover(horizon, kUnitsHigh, [&](std::int64_t x, std::int64_t y, int& alpha) {
+// Rows of lavender that run towards a point on the horizon.
+void paintRows(Canvas& canvas, double horizon, int seed) {
+    const double wide = canvas.wide();
+    const auto bloomOf = [](double row) {
+        static constexpr Colour kBlooms[] = {{134, 84, 200}, {116, 72, 186}, {150, 96, 210}};
+        return kBlooms[(int(row) + 3000) % 3];
+    };
+    canvas.cover(horizon, kUnitsHigh, [&](double x, double y, double& alpha) {
         alpha = kOpaque;
-        const std::int64_t depth = y - horizon + 90;
-        const std::int64_t across = (x - wide * 55 / 100) * 4096 / depth;
-        const std::int64_t row = floorDivide(across, 1900);
-        const std::int64_t inside = across - row * 1900;
-        const int grain = cloudNoise(across * 65536 / 260, 50000000 / depth * 65536 / 140,
-                                     static_cast<std::uint32_t>(seed), 4);
-        const std::int64_t bulge = clampTo(inside < 950 ? inside : 1900 - inside, 0, 950);
+        const double depth = y - horizon + 90;
+        const double across = (x - wide * 55 / 100) * 4096 / depth;
+        const double row = std::floor(across / 1900);
+        const double inside = across - row * 1900;
+        const double grain = noise(across / 260, 50000000 / depth / 140, seed, 4);
+        const double bulge = within(inside < 950 ? inside : 1900 - inside, 0, 950);
         if (bulge + grain / 160 < 430)
-            return mix(mix(colours.soil, colours.leaf, grain / 300), {255, 236, 200},
-                       static_cast<int>(clampTo(130 - depth / 8, 0, 110)));
-        const auto kind = static_cast<std::size_t>((row % static_cast<std::int64_t>(colours.flowers.size()) +
-                                                    static_cast<std::int64_t>(colours.flowers.size()))) %
-                          colours.flowers.size();
-        const Colour bloom = colours.flowers[kind];
-        const Colour shaded = mix({bloom.red / 3, bloom.green / 3, bloom.blue / 2}, bloom,
-                                  static_cast<int>(clampTo(bulge / 5 + (grain - 26000) / 110, 0, 256)));
-        return mix(shaded, {255, 226, 214}, static_cast<int>(clampTo(110 - depth / 14, 0, 100)));
+            return mix(mix({96, 74, 60}, {86, 110, 60}, grain / 300), {255, 236, 200},
+                       within(130 - depth / 8, 0, 110));
+        const Colour bloom = bloomOf(row);
+        const Colour shaded =
+            mix({bloom.red / 3, bloom.green / 3, bloom.blue / 2}, bloom, bulge / 5 + (grain - 26000) / 110);
+        return mix(shaded, {255, 226, 214}, within(110 - depth / 14, 0, 100));
     });
     Random random(seed);
     for (int i = 0; i < 900; ++i) {  // single blossoms in the foreground
-        const std::int64_t depth = 1200 + random.between(0, static_cast<int>(kUnitsHigh - horizon - 1200));
-        const std::int64_t row = random.between(-12, 12);
-        const std::int64_t across = row * 1900 + 950 + random.between(-480, 480);
+        const double depth = 1200 + random.between(0, kUnitsHigh - horizon - 1200);
+        const double row = random.between(-12, 12);
+        const double across = row * 1900 + 950 + random.between(-480, 480);
         const Point at{wide * 55 / 100 + across * (depth + 90) / 4096,
-                       horizon + depth - random.between(0, static_cast<int>(depth / 12))};
-        const auto kind = static_cast<std::size_t>(row + 24) % colours.flowers.size();
-        const std::size_t kinds = colours.flowers.size();
-        const Colour bloom = colours.flowers[(kind + kinds - 24 % kinds) % kinds];
-        const int turn = random.between(-5000, 5000);
-        const Colour lit = mix(bloom, {255, 240, 255}, random.between(0, 120));
+                       horizon + depth - random.between(0, depth / 12)};
+        const double turn = random.between(-5000, 5000);
+        const Colour lit = mix(bloomOf(row), {255, 240, 255}, random.between(0, 120));
         canvas.ellipse(at, 10 + depth / 70, 16 + depth / 46, turn, lit);
     }
 }
 
-void paintClosedTulip(Canvas& canvas, Point at, std::int64_t size, Colour colour) {
-    canvas.ellipse({at.x - size / 4, at.y}, size / 3, size * 5 / 8, -2600, mix(colour, {60, 0, 20}, 60));
-    canvas.ellipse({at.x + size / 4, at.y}, size / 3, size * 5 / 8, 2600, mix(colour, {60, 0, 20}, 90));
-    canvas.ellipse(at, size * 3 / 8, size * 5 / 8, 0, colour);
-    canvas.ellipse({at.x - size / 9, at.y - size / 12}, size / 9, size * 4 / 9, 600,
-                   mix(colour, {255, 240, 220}, 110), 150);
-}
-
 }  // namespace
 
-Picture lavenderRows(int width, int height) {
-    Canvas canvas(width, height);
-    const std::int64_t wide = canvas.unitsWide();
-    constexpr std::int64_t kHorizon = 4700;
+void lavenderRows(Canvas& canvas) {
+    const double wide = canvas.wide();
+    constexpr double kHorizon = 4700;
     canvas.gradient(
         {{0, {66, 108, 190}}, {2400, {160, 160, 214}}, {4000, {250, 196, 160}}, {kHorizon, {255, 226, 160}}},
         0, kHorizon);
@@ -108,67 +90,22 @@ Picture lavenderRows(int width, int height) {
     canvas.disc({wide * 55 / 100, 4250}, 330, {255, 250, 220});
     canvas.below(mountainLine(4760, 1200, 5200, 44, 5), fading({116, 96, 150}, {196, 150, 160}, 900),
                  kHorizon);
-    paintRows(canvas, kHorizon,
-              {{{134, 84, 200}, {116, 72, 186}, {150, 96, 210}}, {96, 74, 60}, {86, 110, 60}}, 6);
+    paintRows(canvas, kHorizon, 6);
     for (int i = 0; i < 3; ++i)
         paintLeafTree(canvas, {wide * (14 + i * 7) / 100, 4850}, 1000 + i % 2 * 300, {80, 96, 60},
-                      {60, 44, 40}, static_cast<std::uint64_t>(i) + 3);
-    return canvas.finish();
+                      {60, 44, 40}, i + 3);
 }
 
-Picture tulipRows(int width, int height) {
-    Canvas canvas(width, height);
-    const std::int64_t wide = canvas.unitsWide();
-    constexpr std::int64_t kHorizon = 4300;
-    canvas.gradient({{0, {50, 130, 214}}, {3000, {150, 204, 240}}, {kHorizon, {226, 240, 246}}}, 0, kHorizon);
-    paintClouds(canvas, 100, 4200, {255, 255, 255}, {180, 200, 226}, 31500, 13);
-    canvas.below(mountainLine(4400, 330, 1500, 2, 4), fading({90, 130, 90}, {120, 160, 110}, 400), kHorizon);
-    paintRows(canvas, kHorizon,
-              {{{230, 50, 56}, {250, 200, 50}, {240, 120, 160}, {250, 246, 240}, {250, 130, 40}},
-               {110, 130, 60},
-               {60, 130, 50}},
-              9);
-    // A windmill on the horizon.
-    const std::int64_t x = wide * 24 / 100;
-    canvas.polygon({{x - 330, 4500}, {x + 330, 4500}, {x + 190, 3000}, {x - 190, 3000}}, {120, 80, 60});
-    canvas.polygon({{x - 230, 3020}, {x, 2660}, {x + 230, 3020}}, {70, 56, 56});
-    for (int wing = 0; wing < 4; ++wing) {
-        const std::int64_t angle = 5000 + wing * kFullTurn / 4;
-        const Point hub{x, 2980};
-        const auto place = [&](std::int64_t along, std::int64_t across) {
-            return Point{hub.x + (along * cosine(angle) - across * sine(angle)) / kUnity,
-                         hub.y + (along * sine(angle) + across * cosine(angle)) / kUnity};
-        };
-        canvas.polygon({place(300, 0), place(1300, 0), place(1300, 220), place(300, 220)}, {250, 246, 236});
-        canvas.stroke(hub, place(1330, 0), 40, 30, {90, 60, 50});
-    }
-    Random random(54);
-    for (int i = 0; i < 13; ++i) {
-        const Point at{wide * (3 + i * 8) / 100 + random.between(-120, 120), 8300 + random.between(0, 900)};
-        static constexpr Colour kTulips[] = {{236, 40, 60}, {255, 206, 40}, {250, 120, 160}};
-        paintStem(canvas, at, at.x + random.between(-200, 200), 80, {70, 140, 60});
-        paintLeaf(canvas, {at.x, 10200}, 1700, kFullTurn * 3 / 4 + random.between(-5000, 5000),
-                  {70, 146, 74});
-        paintClosedTulip(canvas, at, 620 + random.between(0, 160), kTulips[i % 3]);
-    }
-    return canvas.finish();
-}
-
-Picture meadow(int width, int height) {
-    Canvas canvas(width, height);
-    const std::int64_t wide = canvas.unitsWide();
-    canvas.gradient({{0, {64, 144, 224}},
-                     {3600, {170, 216, 244}},
-                     {4800, {236, 244, 240}},
-                     {kUnitsHigh, {236, 244, 240}}});
+void meadow(Canvas& canvas) {
+    const double wide = canvas.wide();
+    canvas.gradient({{0, {64, 144, 224}}, {3600, {170, 216, 244}}, {4800, {236, 244, 240}}});
     paintClouds(canvas, 200, 4600, {255, 255, 255}, {186, 208, 232}, 32500, 49);
     canvas.below(mountainLine(5100, 1700, 4600, 75, 5), fading({110, 150, 180}, {176, 206, 196}, 1500));
     canvas.below(hillLine(5300, 700, 11000, 3000), fading({96, 160, 84}, {150, 196, 90}, 900));
-    canvas.below(hillLine(5900, 400, 15000, 30000), [](std::int64_t x, std::int64_t y, std::int64_t edge) {
-        const std::int64_t depth = y - edge + 200;
-        const int grain = cloudNoise(x * 65536 / (40 + depth / 20), y * 65536 / (90 + depth / 6), 3, 4);
-        return mix({50, 120, 40}, {176, 214, 84},
-                   static_cast<int>(clampTo((grain - 14000) / 130 + 60 - depth / 60, 0, 256)));
+    canvas.below(hillLine(5900, 400, 15000, 30000), [](double x, double y, double edge) {
+        const double depth = y - edge + 200;
+        const double grain = noise(x / (40 + depth / 20), y / (90 + depth / 6), 3, 4);
+        return mix({50, 120, 40}, {176, 214, 84}, (grain - 14000) / 130 + 60 - depth / 60);
     });
     Random random(606);
     static constexpr Colour kOuter[] = {
@@ -176,26 +113,24 @@ Picture meadow(int width, int height) {
     static constexpr Colour kEye[] = {
         {40, 20, 30}, {250, 200, 40}, {60, 50, 130}, {180, 110, 20}, {250, 220, 90}};
     for (int i = 0; i < 380; ++i) {
-        const std::int64_t t = i * 3900 / 380;
-        const std::int64_t y = 6100 + t;
-        const std::int64_t size = 34 + t * t / 42000;
-        const Point at{random.between(-100, static_cast<int>(wide) + 100), y + random.between(-120, 120)};
+        const double t = i * 3900 / 380;
+        const double y = 6100 + t;
+        const double size = 34 + t * t / 42000;
+        const Point at{random.between(-100, wide + 100), y + random.between(-120, 120)};
         const int kind = random.between(0, 4);
         canvas.stroke(at, {at.x + random.between(-60, 60), at.y + size * 4}, size / 7 + 6, size / 6 + 6,
                       {50, 116, 40});
         paintFlower(canvas, {at, size, 5 + kind % 3 * 3, mix(kOuter[kind], {255, 255, 255}, 60), kOuter[kind],
                              kEye[kind], random.between(0, 65535), 190 + random.between(0, 66)});
     }
-    return canvas.finish();
 }
 
-Picture sunflower(int width, int height) {
-    Canvas canvas(width, height);
-    const std::int64_t wide = canvas.unitsWide();
+void sunflower(Canvas& canvas) {
+    const double wide = canvas.wide();
     canvas.gradient({{0, {96, 170, 226}}, {5000, {170, 206, 160}}, {kUnitsHigh, {70, 120, 50}}});
     paintBlur(canvas, {{150, 200, 110}, {250, 226, 110}, {120, 180, 220}, {90, 150, 70}}, 40, 18);
     for (int i = 0; i < 5; ++i) {
-        const Point at{wide * (8 + i * 22) / 100, 5400 + i % 2 * 900};
+        const Point at{wide * (8 + i * 22) / 100, 5400.0 + i % 2 * 900};
         canvas.glow(at, 1500, {240, 190, 40}, 170);
         canvas.glow(at, 600, {90, 50, 20}, 190);
     }
@@ -206,32 +141,26 @@ Picture sunflower(int width, int height) {
     paintFlower(canvas, {heart, 3900, 21, {240, 140, 10}, {255, 206, 40}, {110, 62, 24}, 900, 250});
     canvas.disc(heart, 1040, {84, 46, 20});
     for (int i = 0; i < 620; ++i) {
-        const std::int64_t angle = std::int64_t{i} * 25034;
-        const std::int64_t reach =
-            1180 * squareRoot(std::int64_t{i} * 10000) / squareRoot(std::int64_t{620} * 10000);
-        const Colour seed = mix({60, 34, 16}, {226, 150, 50},
-                                static_cast<int>(clampTo(reach * 230 / 1180 + (i % 3) * 14 - 30, 0, 256)));
-        canvas.disc(
-            {heart.x + reach * cosine(angle) / kUnity, heart.y + reach * sine(angle) / kUnity * 250 / 256},
-            38, seed);
+        const double angle = i * 25034;
+        const double reach = 1180 * std::sqrt(i * 10000) / std::sqrt(620 * 10000);
+        const Colour seed = mix({60, 34, 16}, {226, 150, 50}, reach * 230 / 1180 + (i % 3) * 14 - 30);
+        canvas.disc({heart.x + reach * cosine(angle), heart.y + reach * sine(angle) * 250 / 256}, 38, seed);
     }
-    return canvas.finish();
 }
 
-Picture daisies(int width, int height) {
-    Canvas canvas(width, height);
-    const std::int64_t wide = canvas.unitsWide();
+void daisies(Canvas& canvas) {
+    const double wide = canvas.wide();
     canvas.gradient({{0, {130, 190, 120}}, {5000, {80, 150, 80}}, {kUnitsHigh, {34, 84, 44}}});
     paintBlur(canvas, {{190, 226, 130}, {60, 120, 60}, {240, 244, 200}, {110, 176, 100}}, 44, 27);
     struct Place {
-        int x, y, radius, turn, flat;
+        double x, y, radius, turn, flat;
     };
     static constexpr Place kPlaces[] = {{14, 3000, 900, 500, 190},   {84, 2500, 1000, 2500, 200},
                                         {60, 6900, 1250, 1200, 220}, {20, 7200, 1600, 900, 214},
                                         {90, 7400, 1350, 3000, 226}, {46, 3700, 2250, 100, 246}};
     for (const Place& p : kPlaces) {
         const Point at{wide * p.x / 100, p.y};
-        paintStem(canvas, at, at.x + (p.turn % 7 - 3) * 130, p.radius / 9, {70, 140, 60});
+        paintStem(canvas, at, at.x + (int(p.turn) % 7 - 3) * 130, p.radius / 9, {70, 140, 60});
     }
     for (const Place& p : kPlaces)
         paintFlower(canvas, {{wide * p.x / 100, p.y},
@@ -242,64 +171,14 @@ Picture daisies(int width, int height) {
                              {252, 200, 40},
                              p.turn,
                              p.flat});
-    return canvas.finish();
 }
 
-Picture cherryBranch(int width, int height) {
-    Canvas canvas(width, height);
-    const std::int64_t wide = canvas.unitsWide();
-    canvas.gradient({{0, {116, 184, 232}}, {6000, {196, 224, 240}}, {kUnitsHigh, {244, 228, 236}}});
-    paintBlur(canvas, {{255, 226, 236}, {250, 196, 214}, {226, 240, 250}}, 34, 99);
-    Random random(2024);
-    const auto branchY = [&](std::int64_t x) {
-        return 6900 - x * 4300 / wide + 420 * sine(x * kFullTurn / 8000) / kUnity;
-    };
-    const Colour bark{94, 62, 58};
-    for (std::int64_t x = -100; x < wide; x += 120)
-        canvas.stroke({x, branchY(x)}, {x + 120, branchY(x + 120)}, 330 - x * 190 / wide,
-                      330 - x * 190 / wide, mix(bark, {140, 104, 96}, static_cast<int>(x / 120 % 3) * 20));
-    std::vector<Point> buds;
-    for (int twig = 0; twig < 15; ++twig) {
-        const std::int64_t x = wide * (4 + twig * 6) / 100;
-        Point at{x, branchY(x)};
-        const int rising = twig % 2 == 0 ? -1 : 1;
-        for (int part = 0; part < 5; ++part) {
-            const Point next{at.x + 180 + random.between(0, 160),
-                             at.y + rising * (170 + random.between(0, 190))};
-            canvas.stroke(at, next, 100 - part * 15, 88 - part * 15, bark);
-            at = next;
-            buds.push_back(at);
-        }
-        buds.push_back({x + 60, branchY(x) - 60});
-    }
-    for (const Point& bud : buds) {
-        for (int i = 0; i < 3; ++i) {
-            const Point at{bud.x + random.between(-330, 330), bud.y + random.between(-330, 330)};
-            const Colour petal = mix({255, 232, 240}, {246, 160, 192}, random.between(0, 200));
-            paintFlower(canvas, {at,
-                                 260 + random.between(0, 150),
-                                 5,
-                                 {238, 130, 170},
-                                 petal,
-                                 {214, 80, 120},
-                                 random.between(0, 65535),
-                                 210 + random.between(0, 46)});
-        }
-    }
-    for (int i = 0; i < 40; ++i) {
-        const Point at{random.between(0, static_cast<int>(wide)), random.between(1500, 9900)};
-        canvas.ellipse(at, 80, 46, random.between(0, 65535), {250, 196, 216}, 220);
-    }
-    return canvas.finish();
-}
-
-Picture pinkCosmos(int width, int height) {
-    Canvas canvas(width, height);
-    const std::int64_t wide = canvas.unitsWide();
+void pinkCosmos(Canvas& canvas) {
+    const double wide = canvas.wide();
     canvas.gradient({{0, {250, 196, 150}}, {4500, {236, 160, 170}}, {kUnitsHigh, {96, 70, 110}}});
     paintBlur(canvas, {{255, 226, 170}, {246, 140, 170}, {140, 100, 160}, {255, 200, 150}}, 42, 63);
     struct Place {
-        int x, y, radius, flat;
+        double x, y, radius, flat;
     };
     static constexpr Place kPlaces[] = {{10, 5200, 800, 150},
                                         {78, 2200, 900, 170},
@@ -310,12 +189,11 @@ Picture pinkCosmos(int width, int height) {
         paintStem(canvas, {wide * p.x / 100, p.y}, wide * p.x / 100 + p.y / 9 - 500, p.radius / 13,
                   {76, 110, 70});
     for (const Place& p : kPlaces) {
-        const Colour outer = p.x % 4 == 0 ? Colour{206, 50, 120} : Colour{244, 130, 184};
+        const Colour outer = int(p.x) % 4 == 0 ? Colour{206, 50, 120} : Colour{244, 130, 184};
         paintFlower(
             canvas,
             {{wide * p.x / 100, p.y}, p.radius, 8, {170, 30, 100}, outer, {246, 196, 50}, p.x * 777, p.flat});
     }
-    return canvas.finish();
 }
 
 }  // namespace vantor::samples

@@ -1,50 +1,38 @@
 // Motifs of the dark hours.
 #include <algorithm>
+#include <cmath>
 
-#include "samples/Fixed.h"
-#include "samples/SceneList.h"
 #include "samples/SceneParts.h"
+#include "samples/Scenes.h"
 
 namespace vantor::samples {
 
 namespace {
 
-void paintMoon(Canvas& canvas, Point at, std::int64_t radius) {
-    canvas.glow(at, radius * 5, {190, 206, 246}, 120);
-    canvas.disc(at, radius, {246, 244, 230});
-    Random random(9);
-    for (int i = 0; i < 16; ++i) {
-        const std::int64_t angle = random.between(0, 65535);
-        const std::int64_t reach = radius * random.between(0, 75) / 100;
-        canvas.disc({at.x + reach * cosine(angle) / kUnity, at.y + reach * sine(angle) / kUnity},
-                    radius * random.between(5, 22) / 100, {206, 206, 206}, 90);
-    }
-}
-
-void paintMilkyWay(Canvas& canvas, std::int64_t to) {
-    const std::int64_t wide = canvas.unitsWide();
-    canvas.cover(0, to, [=](std::int64_t x, std::int64_t y, int& alpha) {
-        const std::int64_t along = x * 6000 / wide + 600;
-        const std::int64_t off = y - (7200 - along) + 500;
-        const int dust = cloudNoise(x * 65536 / 1500, y * 65536 / 1500, 1, 5);
-        const std::int64_t band = clampTo(256 - off * off / 12000, 0, 256);
-        alpha = static_cast<int>(clampTo(band * (dust - 15000) / 50000, 0, 150));
-        return mix({120, 110, 190}, {250, 226, 216}, static_cast<int>(clampTo((dust - 24000) / 90, 0, 256)));
+void paintMilkyWay(Canvas& canvas, double to) {
+    const double wide = canvas.wide();
+    canvas.cover(0, to, [=](double x, double y, double& alpha) {
+        const double along = x * 6000 / wide + 600;
+        const double off = y - (7200 - along) + 500;
+        const double dust = noise(x / 1500, y / 1500, 1, 5);
+        const double band = within(256 - off * off / 12000, 0, 256);
+        alpha = within(band * (dust - 15000) / 50000, 0, 150);
+        return mix({120, 110, 190}, {250, 226, 216}, (dust - 24000) / 90);
     });
 }
 
-void paintBurst(Canvas& canvas, Point centre, std::int64_t radius, Colour colour, std::uint64_t seed) {
+void paintBurst(Canvas& canvas, Point centre, double radius, Colour colour, int seed) {
     Random random(seed);
     canvas.glow(centre, radius * 3 / 2, colour, 110);
     constexpr int kRays = 64;
     for (int ray = 0; ray < kRays; ++ray) {
-        const std::int64_t angle = ray * std::int64_t{kFullTurn} / kRays + random.between(-300, 300);
-        const std::int64_t reach = radius * random.between(55, 100) / 100;
+        const double angle = ray * kFullTurn / kRays + random.between(-300, 300);
+        const double reach = radius * random.between(55, 100) / 100;
         Point last = centre;
         for (int i = 1; i <= 12; ++i) {
-            const std::int64_t along = reach * i / 12;
-            const Point next{centre.x + along * cosine(angle) / kUnity,
-                             centre.y + along * sine(angle) / kUnity + radius * i * i / 900};
+            const double along = reach * i / 12;
+            const Point next{centre.x + along * cosine(angle),
+                             centre.y + along * sine(angle) + radius * i * i / 900};
             if (i > 3)
                 canvas.stroke(last, next, radius / 90 + 6, radius / 90 + 6,
                               mix(colour, {255, 255, 255}, i * 14), 60 + i * 15);
@@ -55,30 +43,29 @@ void paintBurst(Canvas& canvas, Point centre, std::int64_t radius, Colour colour
     }
 }
 
-void paintTowers(Canvas& canvas, std::int64_t ground, int count, std::int64_t tallest, Colour body,
-                 int litShare, std::uint64_t seed) {
+void paintTowers(Canvas& canvas, double ground, int count, double tallest, Colour body, int litShare,
+                 int seed) {
     Random random(seed);
-    const std::int64_t wide = canvas.unitsWide();
+    const double wide = canvas.wide();
     for (int i = 0; i < count; ++i) {
-        const std::int64_t half = 180 + random.between(0, 330);
-        const std::int64_t x = wide * i / (count - 1) + random.between(-150, 150);
-        const std::int64_t toMiddle = x > wide / 2 ? x - wide / 2 : wide / 2 - x;
-        const std::int64_t height = (tallest * random.between(40, 100) / 100) * (wide - toMiddle) / wide;
-        const std::int64_t top = ground - height;
+        const double half = 180 + random.between(0, 330);
+        const double x = wide * i / (count - 1) + random.between(-150, 150);
+        const double toMiddle = x > wide / 2 ? x - wide / 2 : wide / 2 - x;
+        const double height = (tallest * random.between(40, 100) / 100) * (wide - toMiddle) / wide;
+        const double top = ground - height;
         canvas.polygon({{x - half, ground}, {x - half, top}, {x + half, top}, {x + half, ground}},
                        {top, mix(body, {120, 110, 170}, 50)}, {ground, body});
         if (i % 4 == 1)
             canvas.stroke({x, top}, {x, top - height / 5}, 36, 12, body);
         if (i % 4 == 3)
             canvas.polygon({{x - half, top}, {x, top - half}, {x + half, top}}, body);
-        for (std::int64_t y = top + 130; y < ground - 100; y += 170) {
-            for (std::int64_t wx = x - half + 70; wx < x + half - 80; wx += 120) {
+        for (double y = top + 130; y < ground - 100; y += 170) {
+            for (double wx = x - half + 70; wx < x + half - 80; wx += 120) {
                 if (random.between(0, 99) >= litShare)
                     continue;
-                const Colour light =
-                    random.between(0, 4) == 0 ? Colour{190, 220, 255} : Colour{255, 216, 140};
-                canvas.polygon({{wx, y}, {wx + 66, y}, {wx + 66, y + 92}, {wx, y + 92}}, light,
-                               random.between(150, 256));
+                const bool isCold = random.between(0, 4) == 0;
+                const Colour light = isCold ? Colour{190, 220, 255} : Colour{255, 216, 140};
+                canvas.box(wx, y, wx + 66, y + 92, light, random.between(150, 256));
             }
         }
     }
@@ -86,53 +73,47 @@ void paintTowers(Canvas& canvas, std::int64_t ground, int count, std::int64_t ta
 
 }  // namespace
 
-Picture starryNight(int width, int height) {
-    Canvas canvas(width, height);
-    const std::int64_t wide = canvas.unitsWide();
-    canvas.gradient(
-        {{0, {6, 10, 34}}, {4500, {22, 34, 84}}, {7600, {80, 76, 130}}, {kUnitsHigh, {80, 76, 130}}});
+void starryNight(Canvas& canvas) {
+    const double wide = canvas.wide();
+    canvas.gradient({{0, {6, 10, 34}}, {4500, {22, 34, 84}}, {7600, {80, 76, 130}}});
     paintMilkyWay(canvas, 7800);
     paintStars(canvas, 1500, 7600, 42);
     canvas.below(mountainLine(8300, 2400, 4300, 7, 6), fading({34, 36, 76}, {52, 52, 98}, 1500));
     canvas.below(hillLine(8900, 700, 10000, 8000), fading({14, 18, 44}, {8, 10, 28}, 1200));
     Random random(4);
     for (int i = 0; i < 40; ++i) {
-        const std::int64_t x = random.between(0, static_cast<int>(wide));
+        const double x = random.between(0, wide);
         paintFir(canvas, {x, hillLine(8900, 700, 10000, 8000)(x) + 160}, 500 + random.between(0, 800),
                  {6, 8, 24}, {14, 18, 40});
     }
     // A lit tent.
-    const std::int64_t x = wide * 66 / 100;
+    const double x = wide * 66 / 100;
     canvas.glow({x, 9300}, 1700, {255, 190, 90}, 150);
     canvas.polygon({{x - 620, 9500}, {x, 8700}, {x + 620, 9500}}, {8700, {255, 214, 120}},
                    {9500, {236, 130, 50}});
     canvas.polygon({{x - 60, 9500}, {x, 8760}, {x + 150, 9500}}, {140, 70, 40});
-    return canvas.finish();
 }
 
-Picture aurora(int width, int height) {
-    Canvas canvas(width, height);
-    const std::int64_t wide = canvas.unitsWide();
-    canvas.gradient({{0, {6, 12, 40}}, {6200, {16, 50, 80}}, {kUnitsHigh, {16, 50, 80}}});
+void aurora(Canvas& canvas) {
+    const double wide = canvas.wide();
+    canvas.gradient({{0, {6, 12, 40}}, {6200, {16, 50, 80}}});
     paintStars(canvas, 500, 6000, 17);
     for (int curtain = 0; curtain < 3; ++curtain) {
-        const auto seed = static_cast<std::uint32_t>(curtain) + 60;
-        canvas.cover(0, 6300, [=](std::int64_t x, std::int64_t y, int& alpha) {
-            const std::int64_t foot = 5200 - curtain * 1100 +
-                                      700 * sine(x * kFullTurn / 11000 + curtain * 21000) / kUnity +
-                                      cloudNoise(x * 65536 / 1700, 0, seed, 3) / 60;
-            const std::int64_t above = foot - y;
-            const int ray = cloudNoise(x * 65536 / 260, 0, seed + 5, 3);
-            const std::int64_t reach = 1500 + ray / 24;
+        const auto seed = curtain + 60;
+        canvas.cover(0, 6300, [=](double x, double y, double& alpha) {
+            const double foot = 5200 - curtain * 1100 + 700 * sine(x * kFullTurn / 11000 + curtain * 21000) +
+                                noise(x / 1700, 0, seed, 3) / 60;
+            const double above = foot - y;
+            const double ray = noise(x / 260, 0, seed + 5, 3);
+            const double reach = 1500 + ray / 24;
             if (above < -260 || above > reach)
                 return Colour{0, 0, 0};
-            const std::int64_t fall = above < 0 ? 256 + above : 256 - above * 256 / reach;
-            alpha = static_cast<int>(clampTo(fall * fall / 256 * (ray / 300 + 60) / 256, 0, 215));
-            return mix({90, 255, 160}, {170, 80, 220},
-                       static_cast<int>(clampTo(above * 300 / reach, 0, 256)));
+            const double fall = above < 0 ? 256 + above : 256 - above * 256 / reach;
+            alpha = within(fall * fall / 256 * (ray / 300 + 60) / 256, 0, 215);
+            return mix({90, 255, 160}, {170, 80, 220}, above * 300 / reach);
         });
     }
-    constexpr std::int64_t kShore = 6600;
+    constexpr double kShore = 6600;
     canvas.below(mountainLine(kShore + 200, 1700, 4200, 3, 6), fading({24, 44, 66}, {14, 26, 46}, 900),
                  kShore);
     Random random(7);
@@ -141,12 +122,10 @@ Picture aurora(int width, int height) {
         paintFir(canvas, foot, 360 + random.between(0, 560), {4, 12, 22}, {10, 26, 34});
     }
     canvas.mirrorBelow(kShore, {4, 14, 34}, 60, 260, 12);
-    return canvas.finish();
 }
 
-Picture citySkyline(int width, int height) {
-    Canvas canvas(width, height);
-    constexpr std::int64_t kShore = 7000;
+void citySkyline(Canvas& canvas) {
+    constexpr double kShore = 7000;
     canvas.gradient(
         {{0, {24, 26, 74}}, {3200, {90, 60, 120}}, {5400, {230, 120, 110}}, {kShore, {255, 190, 120}}}, 0,
         kShore);
@@ -155,13 +134,11 @@ Picture citySkyline(int width, int height) {
     paintTowers(canvas, kShore, 17, 4900, {44, 38, 78}, 34, 11);
     paintTowers(canvas, kShore, 20, 2400, {22, 22, 50}, 50, 19);
     canvas.mirrorBelow(kShore, {20, 20, 56}, 60, 330, 2);
-    return canvas.finish();
 }
 
-Picture fireworks(int width, int height) {
-    Canvas canvas(width, height);
-    const std::int64_t wide = canvas.unitsWide();
-    constexpr std::int64_t kShore = 7600;
+void fireworks(Canvas& canvas) {
+    const double wide = canvas.wide();
+    constexpr double kShore = 7600;
     canvas.gradient({{0, {6, 8, 30}}, {kShore, {34, 30, 74}}}, 0, kShore);
     paintStars(canvas, 160, 5000, 3);
     paintBurst(canvas, {wide * 28 / 100, 2900}, 2100, {255, 120, 90}, 1);
@@ -171,61 +148,6 @@ Picture fireworks(int width, int height) {
     paintBurst(canvas, {wide * 10 / 100, 4900}, 1000, {120, 255, 170}, 5);
     paintTowers(canvas, kShore, 26, 1300, {14, 14, 36}, 40, 23);
     canvas.mirrorBelow(kShore, {8, 10, 34}, 50, 380, 6);
-    return canvas.finish();
-}
-
-Picture cityLights(int width, int height) {
-    Canvas canvas(width, height);
-    const std::int64_t wide = canvas.unitsWide();
-    canvas.gradient({{0, {16, 18, 44}}, {6000, {40, 30, 66}}, {kUnitsHigh, {24, 18, 40}}});
-    Random random(808);
-    static constexpr Colour kLights[] = {{255, 190, 90},  {255, 110, 90},  {110, 190, 255},
-                                         {255, 230, 170}, {190, 120, 255}, {110, 255, 190}};
-    for (int i = 0; i < 90; ++i) {
-        const std::int64_t y = 1200 + squareRoot(std::int64_t{random.between(0, 10000)} * 6000);
-        const std::int64_t radius = 200 + random.between(0, 460);
-        const Point at{random.between(0, static_cast<int>(wide)), y};
-        const Colour light = kLights[i % 6];
-        canvas.glow(at, radius * 2, light, 40);
-        canvas.disc(at, radius, light, 70 + random.between(0, 50));
-        canvas.ring(at, radius - 36, radius, mix(light, {255, 255, 255}, 120), 90);
-    }
-    return canvas.finish();
-}
-
-Picture moonDesert(int width, int height) {
-    Canvas canvas(width, height);
-    const std::int64_t wide = canvas.unitsWide();
-    canvas.gradient(
-        {{0, {14, 24, 66}}, {4600, {60, 80, 140}}, {7000, {196, 160, 176}}, {kUnitsHigh, {196, 160, 176}}});
-    paintStars(canvas, 260, 4200, 5);
-    paintMoon(canvas, {wide * 30 / 100, 2600}, 900);
-    const auto mesa = [](std::int64_t x) {  // flat tops with steep sides
-        const int noise = cloudNoise(x * 65536 / 2300, 0, 14, 2);
-        const std::int64_t step = smooth(clampTo((std::int64_t{noise} - 30000) * 20, 0, 65536));
-        return 7100 - 2000 * step / 65536 - cloudNoise(x * 65536 / 400, 0, 3, 3) / 400;
-    };
-    canvas.below(mesa, [](std::int64_t x, std::int64_t y, std::int64_t) {
-        const int layers = cloudNoise(x * 65536 / 6000, y * 65536 / 130, 31, 3);
-        return mix({84, 60, 100}, {170, 110, 120}, static_cast<int>(clampTo((layers - 16000) / 120, 0, 256)));
-    });
-    canvas.below(hillLine(7600, 350, 13000, 700), fading({110, 84, 112}, {56, 46, 84}, 2600));
-    for (int i = 0; i < 6; ++i) {  // cacti
-        const std::int64_t x = wide * (12 + i * 17) / 100;
-        const std::int64_t foot = 8300 + i % 3 * 620;
-        const std::int64_t tall = 1300 + i % 3 * 420;
-        const Colour green{26, 42, 58};
-        canvas.stroke({x, foot}, {x, foot - tall}, tall / 7, tall / 7, green);
-        for (const int side : {-1, 1}) {
-            const std::int64_t y = foot - tall * (side < 0 ? 40 : 52) / 100;
-            canvas.stroke({x, y}, {x + side * tall / 4, y - tall / 20}, tall / 10, tall / 10, green);
-            canvas.stroke({x + side * tall / 4, y - tall / 20}, {x + side * tall / 4, y - tall / 3},
-                          tall / 10, tall / 10, green);
-        }
-        canvas.stroke({x - tall / 22, foot - 100}, {x - tall / 22, foot - tall}, tall / 40, tall / 40,
-                      {120, 130, 170}, 150);
-    }
-    return canvas.finish();
 }
 
 }  // namespace vantor::samples

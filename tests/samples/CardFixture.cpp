@@ -1,6 +1,8 @@
 // Reads the card and its list from the build folder.
 #include "tests/samples/CardFixture.h"
 
+#include <zlib.h>
+
 #include <QBuffer>
 #include <QFile>
 #include <QImageReader>
@@ -67,6 +69,10 @@ std::int64_t le32(const QByteArray& bytes, qsizetype at) {
 
 int le16(const QByteArray& bytes, qsizetype at) {
     return qFromLittleEndian<quint16>(bytes.constData() + at);
+}
+
+std::uint32_t checksum(const QByteArray& bytes) {
+    return std::uint32_t(crc32(0, reinterpret_cast<const Bytef*>(bytes.constData()), uInt(bytes.size())));
 }
 
 QImage decoded(QByteArray bytes) {

@@ -35,6 +35,9 @@ std::int64_t be32(const QByteArray& bytes, qsizetype at);
 std::int64_t le32(const QByteArray& bytes, qsizetype at);
 int le16(const QByteArray& bytes, qsizetype at);
 
+// The CRC-32 of ZIP and PNG.
+std::uint32_t checksum(const QByteArray& bytes);
+
 // The picture as it is to be seen; null when Qt cannot read it.
 QImage decoded(QByteArray bytes);
 

@@ -4,8 +4,6 @@
 #include <QHash>
 #include <QSet>
 
-#include "samples/FatCard.h"
-#include "samples/FatNames.h"
 #include "tests/samples/CardFixture.h"
 
 namespace vantor::samples {
@@ -117,85 +115,8 @@ TEST(FatCard, EveryFileEntry_IsDeletedAndKeepsItsPlaceAndSize) {
         if (!entry.isLongPart())
             sizes[volume.at(le16(entry.raw, 26)) / 512] = le32(entry.raw, 28);
     }
-    EXPECT_EQ(std::size_t(sizes.size()), listedFiles().size());
     for (const ListedFile& file : listedFiles())
         EXPECT_EQ(sizes.value(file.firstSector, -1), file.bytes) << qPrintable(file.name);
-}
-
-TEST(FatCard, BeforeDeletion_ChainsLeadThroughBothPieces) {
-    FatCard card;
-    const QByteArray bytes(5 * FatCard::kClusterBytes, 'x');
-    const auto runs = card.addFileInTwoPieces(QStringLiteral("A"), QStringLiteral("B.BIN"), bytes, 3);
-    ASSERT_TRUE(runs.has_value());
-    ASSERT_EQ(runs->size(), 2u);
-    EXPECT_EQ((*runs)[1].first - (*runs)[0].end, 3 * FatCard::kSectorsPerCluster);
-    const Volume volume(card.image());
-    const Entry folder = entriesIn(volume.image.mid(volume.rootAt, 512)).back();
-    const Entry file = entriesIn(folderBytes(volume, le16(folder.raw, 26))).back();
-    QByteArray chained;
-    for (int cluster = le16(file.raw, 26); cluster < 0xFFF8 && chained.size() < 100000;
-         cluster = volume.fat(cluster))
-        chained += volume.image.mid(volume.at(cluster), FatCard::kClusterBytes);
-    EXPECT_TRUE(chained == bytes);
-    EXPECT_FALSE(file.isDeleted());
-}
-
-TEST(FatCard, FileLargerThanTheCard_IsRefused) {
-    FatCard card;
-    EXPECT_FALSE(
-        card.addFile(QStringLiteral("A"), QStringLiteral("B.BIN"), QByteArray(kCardBytes, 'x')).has_value());
-}
-
-TEST(FatCard, FullFolder_TakesNoMore) {
-    FatCard card;
-    const QString folder = QStringLiteral("A");
-    const QByteArray bytes(1, 'x');
-    constexpr int kRoom = FatCard::kClusterBytes / 32 - 2;  // without its own entry and its parent's
-    for (int i = 0; i < kRoom; ++i)
-        ASSERT_TRUE(card.addFile(folder, QStringLiteral("%1.BIN").arg(i), bytes)) << i;
-    EXPECT_FALSE(card.addFile(folder, QStringLiteral("ONEMORE.BIN"), bytes));
-    EXPECT_FALSE(card.makeFolder(QStringLiteral("A/B")));
-    EXPECT_TRUE(card.addFile(QStringLiteral("B"), QStringLiteral("ONEMORE.BIN"), bytes));
-}
-
-TEST(FatCard, NameOfManyEntries_FitsWhollyOrNotAtAll) {
-    FatCard card;
-    const QString folder = QStringLiteral("A");
-    const QByteArray bytes(1, 'x');
-    for (int i = 0; i < FatCard::kClusterBytes / 32 - 4; ++i)
-        ASSERT_TRUE(card.addFile(folder, QStringLiteral("%1.BIN").arg(i), bytes)) << i;
-    EXPECT_FALSE(card.addFile(folder, QStringLiteral("A name of three entries"), bytes));
-    EXPECT_TRUE(card.addFile(folder, QStringLiteral("Of two"), bytes));
-}
-
-TEST(FatCard, FullRootFolder_TakesNoMoreAndSpoilsNothing) {
-    FatCard card;
-    for (int i = 0; i < FatCard::kRootEntries - 1; ++i)  // the label is the first entry
-        ASSERT_TRUE(card.makeFolder(QString::number(i))) << i;
-    const QByteArray before = card.image();
-    EXPECT_FALSE(card.makeFolder(QStringLiteral("X")));
-    EXPECT_FALSE(card.addFile(QString(), QStringLiteral("X.BIN"), "x"));
-    EXPECT_TRUE(card.image() == before);
-}
-
-TEST(FatCard, FullCard_MakesNoFolder) {
-    FatCard card;
-    ASSERT_TRUE(card.addFile(QStringLiteral("A"), QStringLiteral("B.BIN"),
-                             QByteArray((FatCard::kClusters - 1) * FatCard::kClusterBytes, 'x')));
-    EXPECT_FALSE(card.makeFolder(QStringLiteral("C")));
-    EXPECT_FALSE(card.addFile(QStringLiteral("C"), QStringLiteral("D.BIN"), "x"));
-}
-
-TEST(FatNames, NamesThatDoNotFit_GetAShortAndALongForm) {
-    EXPECT_TRUE(isShortName(QStringLiteral("IMG_0001.JPG")));
-    EXPECT_FALSE(isShortName(QStringLiteral("NOTES.DOCX")));
-    EXPECT_EQ(shortNameOf(QStringLiteral("TUNE.AU"), 5), "TUNE    AU ");
-    EXPECT_EQ(shortNameOf(QStringLiteral("NOTES.DOCX"), 12), "NOTES~12DOC");
-    const auto entries = longNameEntries(QStringLiteral("PLACES.SQLITE2"), "PLACES~1SQL");
-    ASSERT_EQ(entries.size(), 2u);
-    EXPECT_EQ(byteAt(entries[0], 0), 0x42);
-    EXPECT_EQ(byteAt(entries[1], 0), 0x01);
-    EXPECT_EQ(entries[0].mid(1, 6), QByteArray("2\0\0\0\xFF\xFF", 6));
 }
 
 }  // namespace
