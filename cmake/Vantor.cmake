@@ -4,7 +4,8 @@
 find_program(VANTOR_CCACHE ccache)
 if(VANTOR_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER
-        ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${VANTOR_CCACHE})
+        ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1
+        CCACHE_SLOPPINESS=pch_defines,time_macros ${VANTOR_CCACHE})
 endif()
 
 add_library(vantor_options INTERFACE)
@@ -24,17 +25,35 @@ if(VANTOR_SANITIZE)
         add_compile_options(-fno-sanitize-recover=undefined)
     endif()
 endif()
+# Names and lines for a stack trace; what a debugger wants beyond that takes a fifth longer and is Debug's.
+add_compile_options($<$<CONFIG:RelWithDebInfo>:-g1>)
+# Most of a test's code runs once, so compiling it well costs more than it brings.
+add_library(vantor_test_options INTERFACE)
+target_compile_options(vantor_test_options INTERFACE $<$<CONFIG:RelWithDebInfo>:-O0>)
 if(VANTOR_BUILD_FUZZ)
     # Every engine library carries the coverage counters that the harnesses steer by.
     add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
-# vantor_library(name SOURCES... [LINK libs...]): a static library of one room, included as "room/Header.h".
+# vantor_share_headers(name kind): compiles name's files with the headers of cmake/precompiled/kind.h parsed before.
+# clang's own form of that needs other flags; its builds are few and go without.
+function(vantor_share_headers name kind)
+    if(VANTOR_PCH AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        target_precompile_headers(${name} REUSE_FROM vantor_precompiled_${kind})
+    endif()
+endfunction()
+
+# vantor_library(name SOURCES... [LINK libs...] [HEADERS kind]): a static library of one room, included as
+# "room/Header.h"; kind is Standard, Engine (if nothing is said) or Window.
 function(vantor_library name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "HEADERS" "SOURCES;LINK")
+    if(NOT arg_HEADERS)
+        set(arg_HEADERS Engine)
+    endif()
     add_library(${name} STATIC ${arg_SOURCES})
     target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR})
     target_link_libraries(${name} PUBLIC ${arg_LINK} PRIVATE vantor_options)
+    vantor_share_headers(${name} ${arg_HEADERS})
 endfunction()
 
 # vantor_folders(sources...): defines the folders of sources and build for those that ask for them, and for no others:
@@ -49,17 +68,41 @@ function(vantor_folders)
     endforeach()
 endfunction()
 
-# vantor_test(name SOURCES... LINK libs... [ENV name=value...] [TIMEOUT seconds]): a GoogleTest program, one
-# ctest entry a test. Tests find their data through compile definitions, never through the working directory.
+# vantor_test_library(name SOURCES... LINK libs... [HEADERS kind]): what several test programs share.
+function(vantor_test_library name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "HEADERS" "SOURCES;LINK")
+    if(NOT arg_HEADERS)
+        set(arg_HEADERS Engine)
+    endif()
+    add_library(${name} STATIC ${arg_SOURCES})
+    target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR})
+    vantor_folders(${arg_SOURCES})
+    target_link_libraries(${name} PUBLIC ${arg_LINK} GTest::gtest PRIVATE vantor_options vantor_test_options)
+    vantor_share_headers(${name} ${arg_HEADERS}Tests)
+endfunction()
+
+# vantor_hot(sources...): test code that loops over much data, compiled as the product is.
+function(vantor_hot)
+    set_source_files_properties(${ARGN} PROPERTIES
+        COMPILE_OPTIONS $<$<CONFIG:RelWithDebInfo>:-O2> SKIP_PRECOMPILE_HEADERS ON)
+endfunction()
+
+# vantor_test(name SOURCES... LINK libs... [HEADERS kind] [ENV name=value...] [TIMEOUT seconds]): a GoogleTest
+# program, one ctest entry a test; HEADERS as for a library. Tests find their data through compile definitions, never through the working directory.
 function(vantor_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "TIMEOUT" "SOURCES;LINK;ENV")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "HEADERS;TIMEOUT" "SOURCES;LINK;ENV")
+    if(NOT arg_HEADERS)
+        set(arg_HEADERS Engine)
+    endif()
     if(NOT arg_TIMEOUT)
         set(arg_TIMEOUT 120)
     endif()
     add_executable(${name} ${arg_SOURCES})
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR})
     vantor_folders(${arg_SOURCES})
-    target_link_libraries(${name} PRIVATE ${arg_LINK} GTest::gtest GTest::gmock GTest::gtest_main vantor_options)
+    target_link_libraries(${name} PRIVATE ${arg_LINK} GTest::gtest GTest::gmock GTest::gtest_main vantor_options
+        vantor_test_options)
+    vantor_share_headers(${name} ${arg_HEADERS}Tests)
     gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60
         PROPERTIES TIMEOUT ${arg_TIMEOUT} ENVIRONMENT "QT_QPA_PLATFORM=offscreen;${arg_ENV}")
 endfunction()

@@ -1,0 +1,1 @@
+// An object library needs a source.
