@@ -3,7 +3,7 @@
 // A card of 2 GiB holds 600 photos of 1 to 6 MB with random bytes between them; the second card has the files
 // of the sample card beside them, and is searched for files of all types. Card and destination lie in memory
 // (/dev/shm). Every figure is a ratio of the medians of this run.
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QFile>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -16,7 +16,7 @@
 #include <vector>
 
 #include "bench/Bench.h"
-#include "samples/CardContents.h"
+#include "samples/Card.h"
 
 namespace {
 
@@ -80,19 +80,19 @@ qint64 photoBytes(Random& random) {
     return 1'000'000 + static_cast<qint64>(5'000'000 * part * part * part * part);
 }
 
-std::vector<vantor::samples::CardFile> otherFiles() {
-    std::vector<vantor::samples::CardFile> files;
-    vantor::samples::addDocuments(files);
-    vantor::samples::addArchives(files);
-    vantor::samples::addMovies(files);
-    vantor::samples::addSounds(files);
-    vantor::samples::addPictures(files);
-    files.resize(std::min<std::size_t>(files.size(), kOtherFiles));
-    return files;
+// Files of the sample card that are no photos of its camera, spread over all of them.
+std::vector<QByteArray> otherFiles() {
+    std::vector<vantor::samples::CardFile> files = vantor::samples::cardContents();
+    std::erase_if(files, [](const auto& file) { return file.folder.startsWith("DCIM"); });
+    std::vector<QByteArray> others;
+    for (std::size_t i = 0; i < kOtherFiles; ++i) {
+        others.push_back(files.at(i * files.size() / kOtherFiles).content());
+    }
+    return others;
 }
 
 // Random bytes take up what the files leave, in equal parts between the photos.
-bool writeCard(const QString& path, const std::vector<vantor::samples::CardFile>& others) {
+bool writeCard(const QString& path, const std::vector<QByteArray>& others) {
     QFile card(path);
     if (!card.open(QIODevice::WriteOnly)) {
         return false;
@@ -102,7 +102,7 @@ bool writeCard(const QString& path, const std::vector<vantor::samples::CardFile>
         if (!writePadded(card, photo(random, photoBytes(random)))) {
             return false;
         }
-        if (i % 8 == 0 && i / 8 < others.size() && !writePadded(card, others[i / 8].bytes)) {
+        if (i % 8 == 0 && i / 8 < others.size() && !writePadded(card, others[i / 8])) {
             return false;
         }
         const qint64 even = kCardBytes / kPhotos * static_cast<qint64>(i + 1);
@@ -136,13 +136,15 @@ double timed(const QByteArray& command, const QByteArray& untimedBefore, const Q
 }  // namespace
 
 int main(int argc, char** argv) {
-    const QCoreApplication application(argc, argv);
+    // The other files are painted.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
     const int rounds = argc > 1 ? std::max(1, std::atoi(argv[1])) : 5;
     QTemporaryDir memory(QStringLiteral("/dev/shm/vantor-saving-bench-XXXXXX"));
     const struct {
         const char* name;
         const char* arguments;
-        std::vector<vantor::samples::CardFile> others;
+        std::vector<QByteArray> others;
     } cards[] = {{"600 photos, photo mode", "--mode photo", {}},
                  {"600 photos and 65 other files, all types", "--mode rawfile", otherFiles()}};
     for (const auto& card : cards) {
