@@ -29,8 +29,10 @@ constexpr std::uint64_t kPicturesOfAHelper = 5000;
 
 constexpr milliseconds kFirstRetry{20};
 constexpr milliseconds kLastRetry{30'000};
-// One that was ended while it started says nothing of the next; so many in a row do.
+// One that was ended while it started says nothing of the next; so many in a row do. Where helpers did start
+// before, what ends them now may pass: pictures wait somewhat longer before they go without.
 constexpr int kHopelessStarts = 3;
+constexpr int kHopelessStartsAfterGoodOnes = 7;
 
 // Signals that a decoder does not raise on itself.
 bool isFromOutside(int signal) {
@@ -277,7 +279,8 @@ void DecodePool::keepHelpers() {
             continue;
         }
         ++m_counts.failedStarts;
-        m_cannotStart = ++failuresInARow >= kHopelessStarts;
+        m_cannotStart =
+            ++failuresInARow >= (m_counts.started == 0 ? kHopelessStarts : kHopelessStartsAfterGoodOnes);
         m_helperFree.notify_all();
         m_helperWanted.wait_for(lock, retry, [&] { return m_closing; });
         retry = std::min(retry * 2, kLastRetry);
