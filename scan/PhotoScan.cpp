@@ -7,6 +7,7 @@
 #include "catalogue/SignatureRecord.h"
 #include "scan/HeaderMatcher.h"
 #include "scan/PhotoItemBuffer.h"
+#include "scan/PlatformException.h"
 #include "scan/ReferenceSector.h"
 #include "scan/ScanSession.h"
 
@@ -14,8 +15,10 @@ namespace vantor {
 
 // The working state of one pass.
 struct ScanSession::PhotoPass {
-    PhotoPass(const QString& passName, const QStringList& records, PhotoMemory& memory)
-        : name(passName), item(memory), matcher(std::make_shared<const HeaderMatcher>(records)) {
+    PhotoPass(const QString& passName, PhotoMemory& memory) : name(passName), item(memory) {}
+
+    void searchFor(const QStringList& records) {
+        matcher = std::make_shared<const HeaderMatcher>(records);
         for (qsizetype n = 0; n < recordCount(records); ++n) {
             limits.push_back(static_cast<std::uint64_t>(textToInt64(recordField(records, n, Max_File_Size))));
         }
@@ -47,13 +50,18 @@ bool ScanSession::Photo_Recovey_Mode(const QString& passName) {
         clearItems();
         m_view.resetPhotoBrowser();
     }
-    if (!beginPass(ControlSet::Photo, passName, Ext_Array, Adv_Ext_Array)) {
+    if (!beginPass(ControlSet::Photo, passName)) {
         return false;
     }
 
-    PhotoPass pass(passName, REC_PROC_Array, m_photoMemory);
-    pFile_Disk->setScreen(pass.matcher);
-    runPhotoLoop(pass);
+    PhotoPass pass(passName, m_photoMemory);
+    // What the interface raises meanwhile ends the pass as the end of its range does.
+    withoutPlatformException([&] {
+        prepareRecords(passName, Ext_Array, Adv_Ext_Array);
+        pass.searchFor(REC_PROC_Array);
+        pFile_Disk->setScreen(pass.matcher);
+        runPhotoLoop(pass);
+    });
     if (pass.stopped) {
         stop_now = 0;
         pFile_Disk.reset();

@@ -8,6 +8,7 @@
 #include "catalogue/SignatureRecord.h"
 #include "catalogue/TextHelpers.h"
 #include "scan/HeaderMatcher.h"
+#include "scan/PlatformException.h"
 #include "scan/ReferenceSector.h"
 #include "scan/ScanSession.h"
 
@@ -88,13 +89,20 @@ bool ScanSession::Raw_File_Recovey_Mode(const QString& passName) {
         clearItems();
         m_view.reloadBrowser(ControlSet::Sig);
     }
-    if (!beginPass(ControlSet::Sig, passName, CheckListHeader_Array, CheckListHeader_Adv_Array)) {
+    if (!beginPass(ControlSet::Sig, passName)) {
         return false;
     }
+    prepareRecords(passName, CheckListHeader_Array, CheckListHeader_Adv_Array);
 
     RawPass pass(passName, REC_PROC_Array, m_view.destinationFolder());
     pFile_Disk->setScreen(pass.matcher);
-    if (!runRawLoop(pass)) {
+    bool stopped = false;
+    if (!withoutPlatformException([&] { stopped = !runRawLoop(pass); })) {
+        // Open items are not published then, in a later pass neither.
+        MultiHeader_Array.clear();
+        return endOfRange(pass.lastReadSucceeded);
+    }
+    if (stopped) {
         stop_now = 0;
         pFile_Disk.reset();
         m_view.invalidateTimer();

@@ -12,10 +12,8 @@ ScanSession::ScanSession(ScanView& view) : m_view(view) {}
 
 ScanSession::~ScanSession() = default;
 
-// What both scans begin with, from the mode text to the records of the pass; false when the medium cannot be
-// opened.
-bool ScanSession::beginPass(ControlSet set, const QString& passName, const QStringList& general,
-                            const QStringList& thorough) {
+// What both scans begin with, from the mode text to the help; false when the medium cannot be opened.
+bool ScanSession::beginPass(ControlSet set, const QString& passName) {
     m_view.showModeLabel(
         passName == kGeneralPass
             ? QStringLiteral("( Currently performing Search based on: Vantor General Recovery Procedure )")
@@ -34,6 +32,12 @@ bool ScanSession::beginPass(ControlSet set, const QString& passName, const QStri
     m_view.startProgress();
     m_view.showHelpInfo(QStringLiteral(
         "\nTo stop recovery, click on ‘Stop’ Button or please wait for the process to be completed."));
+    return true;
+}
+
+// To the first sector of the pass, with the records that it searches for.
+void ScanSession::prepareRecords(const QString& passName, const QStringList& general,
+                                 const QStringList& thorough) {
     if (start_sector != 0) {
         pFile_Disk->seek(start_sector);
     }
@@ -46,7 +50,6 @@ bool ScanSession::beginPass(ControlSet set, const QString& passName, const QStri
     }
     fillTypeCounters();
     for_index = start_sector.load();
-    return true;
 }
 
 // Range, progress bar, counter and text.

@@ -202,8 +202,8 @@ class ScanSession : public HexText {
     void prepareRange(ControlSet set);
     void showProgressText();
     void fillTypeCounters();
-    bool beginPass(ControlSet set, const QString& passName, const QStringList& general,
-                   const QStringList& thorough);
+    bool beginPass(ControlSet set, const QString& passName);
+    void prepareRecords(const QString& passName, const QStringList& general, const QStringList& thorough);
     void openFailed(ControlSet set);
     bool endOfRange(bool lastReadSucceeded);
     const QStringList& generalCatalogueOfMode() const;
