@@ -1,6 +1,7 @@
 // The photo scan: collects the sectors behind each picture header into one item.
 #include <QStringList>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "catalogue/NumberText.h"
@@ -62,17 +63,18 @@ bool ScanSession::Photo_Recovey_Mode(const QString& passName) {
         pFile_Disk->setScreen(pass.matcher);
         runPhotoLoop(pass);
     });
+    const auto openItemAt = pass.itemOpen ? std::optional(pass.itemFirstSector) : std::nullopt;
     if (pass.stopped) {
         stop_now = 0;
+        passEnds(PassOutcome::Stopped, openItemAt);
         pFile_Disk.reset();
         m_view.invalidateTimer();
         handOverPhoto(pass);
-        m_lastOutcome = PassOutcome::Stopped;
         Final_or_Stop_Screen();
         return false;
     }
     handOverPhoto(pass);
-    return endOfRange(pass.lastReadSucceeded);
+    return endOfRange(pass.lastReadSucceeded, openItemAt);
 }
 
 void ScanSession::runPhotoLoop(PhotoPass& pass) {
@@ -86,10 +88,12 @@ void ScanSession::runPhotoLoop(PhotoPass& pass) {
             pass.stopped = true;
             return;
         }
+        const bool readBefore = pass.lastReadSucceeded;
         pass.lastReadSucceeded = medium.read();
         if (pass.lastReadSucceeded) {
             pass.lastGoodSector = medium.position() - 1;
         } else {
+            m_readFailures.note(medium.position(), readBefore);
             pass.carved.readFailed = true;
             if (!medium.seek(index)) {
                 // Bytes that can be neither renewed nor passed over count as a repeat.

@@ -102,20 +102,21 @@ bool ScanSession::Raw_File_Recovey_Mode(const QString& passName) {
         MultiHeader_Array.clear();
         return endOfRange(pass.lastReadSucceeded);
     }
+    const auto openItemAt = MultiHeader_Array.isEmpty() ? std::nullopt : std::optional(pass.itemStartSector);
     if (stopped) {
         stop_now = 0;
+        passEnds(PassOutcome::Stopped, openItemAt);
         pFile_Disk.reset();
         m_view.invalidateTimer();
         // The items stay in the list of open ones until the next general pass begins.
         for (qsizetype at = 0; at < MultiHeader_Array.size(); at += kOpenItemStride) {
             publishRawItem(pass, at);
         }
-        m_lastOutcome = PassOutcome::Stopped;
         Final_or_Stop_Screen();
         return false;
     }
     closeRawItems(pass);
-    return endOfRange(pass.lastReadSucceeded);
+    return endOfRange(pass.lastReadSucceeded, openItemAt);
 }
 
 // False when the user stopped.
@@ -131,11 +132,15 @@ bool ScanSession::runRawLoop(RawPass& pass) {
         if (stop_now.load(std::memory_order_relaxed) == 1) {
             return false;
         }
+        const bool readBefore = pass.lastReadSucceeded;
         pass.lastReadSucceeded = medium.read();
         if (pass.lastReadSucceeded) {
             pass.lastGoodSector = medium.position() - 1;
-        } else if (!medium.seek(index)) {
-            pass.reference.become(medium.current());
+        } else {
+            m_readFailures.note(medium.position(), readBefore);
+            if (!medium.seek(index)) {
+                pass.reference.become(medium.current());
+            }
         }
         for_index.store(++index, std::memory_order_relaxed);
         if (pass.carving && !MultiHeader_Array.isEmpty()) {
