@@ -19,21 +19,29 @@ QString nodeOf(const QString& name) {
     return isPath ? name : QStringLiteral("/dev/") + name;
 }
 
-CliMedium byPath(const QString& path, StopRequest stop) {
+// `name` is the path as it was typed.
+CliMedium byPath(const QString& name, const QString& path, StopRequest stop) {
     CliMedium medium;
     medium.path = path;
     QString why;
     if (const auto facts = probeMedium(path, &why)) {
         medium.sectors = facts->sectors;
-        if (const auto packed = facts->isImage ? refusePackedImage(path) : std::nullopt) {
+        if (facts->isImage && facts->sectors == 0) {
+            medium.complaint = QStringLiteral("“%1” is empty: it holds no whole sector.").arg(name);
+        } else if (const auto packed = facts->isImage ? refusePackedImage(path) : std::nullopt) {
             medium.complaint =
                 *packed +
                 QStringLiteral(" Searched all the same; only what is stored unpacked can be found.");
         }
+    } else if (!QFileInfo::exists(path)) {
+        medium.complaint =
+            QStringLiteral("“%1” is neither a file nor a storage medium of this machine.").arg(name);
     } else {
-        medium.complaint = QStringLiteral("%1: %2").arg(path, why);
+        medium.complaint = QStringLiteral("%1: %2").arg(name, why);
     }
-    medium.open = [path, stop = std::move(stop)](const QString&) { return openMedium(path, {stop, {}, {}}); };
+    medium.open = [path, stop = std::move(stop)](const QString&) {
+        return openMedium(path, {stop, {}, {}, {}});
+    };
     return medium;
 }
 
@@ -42,7 +50,7 @@ CliMedium byPath(const QString& path, StopRequest stop) {
 CliMedium findMedium(const QString& name, MediaSource& source, StopRequest stop) {
     const QString node = nodeOf(name);
     if (QFileInfo(node).isFile()) {
-        return byPath(node, std::move(stop));
+        return byPath(name, node, std::move(stop));
     }
     const QString canonicalNode = QFileInfo(node).canonicalFilePath();
     for (const auto& record : listedMedia(source)) {
@@ -55,12 +63,13 @@ CliMedium findMedium(const QString& name, MediaSource& source, StopRequest stop)
         CliMedium medium;
         medium.path = target->path;
         medium.sectors = static_cast<std::uint64_t>(textToInt64(record->nsStrSectors));
-        medium.open = [opener = makeMediumOpener(source, std::move(stop)), identifier](const QString&) {
-            return opener(QStringLiteral("/dev/r") + identifier);
-        };
+        const auto refusal = std::make_shared<LastRefusal>();
+        medium.refusal = refusal;
+        medium.open = [opener = makeMediumOpener(source, std::move(stop), refusal),
+                       identifier](const QString&) { return opener(QStringLiteral("/dev/r") + identifier); };
         return medium;
     }
-    return byPath(node, std::move(stop));
+    return byPath(name, node, std::move(stop));
 }
 
 }  // namespace vantor

@@ -15,6 +15,8 @@ struct CliMedium {
     QString path;       // of the image or the device's node
     MediumOpener open;  // for every pass and copy; also when the medium cannot be opened
     QString complaint;  // a sentence for the user; empty when all is well
+    // How the last opening went; null where the complaint says it.
+    std::shared_ptr<const LastRefusal> refusal;
 };
 
 // Finds the medium by path or identifier. `stop` ends waits for a device that hangs and for the user's

@@ -13,20 +13,8 @@ namespace vantor {
 namespace {
 
 constexpr auto kTick = std::chrono::milliseconds(500);
-constexpr double kMegabyte = 1e6;
 
 }  // namespace
-
-QString durationText(double seconds) {
-    const auto whole = static_cast<qint64>(seconds + 0.5);
-    if (whole < 60) {
-        return QStringLiteral("%1 s").arg(whole);
-    }
-    if (whole < 3600) {
-        return QStringLiteral("%1 min %2 s").arg(whole / 60).arg(whole % 60);
-    }
-    return QStringLiteral("%1 h %2 min").arg(whole / 3600).arg(whole % 3600 / 60);
-}
 
 ProgressLine::ProgressLine(const CliSession& session)
     : m_session(session), m_thread([this](const std::stop_token& stop) {
@@ -49,14 +37,16 @@ void ProgressLine::draw() {
     if (index < start || index > end) {
         return;
     }
-    m_speed.note(SpeedMeter::Clock::now(), index - start);
-    const double left = m_speed.secondsFor(end - index);
-    const QString text =
-        QStringLiteral("%1%  %2 MB/s  %3  %4 found")
-            .arg(percentDone(index, start, m_session.total_sector), 3)
-            .arg(m_speed.bytesPerSecond() / kMegabyte, 0, 'f', 1)
-            .arg(left < 0 ? QStringLiteral("estimating") : durationText(left) + QStringLiteral(" left"))
-            .arg(m_session.publishedCount());
+    if (const std::uint64_t total = m_session.total_sector; total != m_total || index - start < m_done) {
+        m_total = total;
+        m_meter.begin(total, m_session.sectorsOfLaterPasses());  // another pass began
+    }
+    m_done = index - start;
+    const auto now = std::chrono::steady_clock::now() - m_begun;
+    m_meter.update(std::chrono::duration_cast<std::chrono::milliseconds>(now).count(), m_done);
+    const QString text = QStringLiteral("%1%   %2")
+                             .arg(percentDone(index, start, m_session.total_sector), 3)
+                             .arg(m_meter.text(m_session.publishedCount()));
     std::fprintf(stderr, "\r\033[K%s", qPrintable(text));
     std::fflush(stderr);
 }

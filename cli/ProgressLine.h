@@ -1,18 +1,15 @@
 // The progress line of a terminal: done, speed, time left, items found.
 #pragma once
 
-#include <QString>
-#include <memory>
+#include <chrono>
+#include <cstdint>
 #include <thread>
 
-#include "scan/SpeedMeter.h"
+#include "scan/ScanMeter.h"
 
 namespace vantor {
 
 class CliSession;
-
-// "4 min 10 s", "35 s", "2 h 5 min".
-QString durationText(double seconds);
 
 // Draws on standard error twice a second from its own thread until it is destroyed, and then wipes the line.
 class ProgressLine {
@@ -24,7 +21,10 @@ class ProgressLine {
     void draw();
 
     const CliSession& m_session;
-    SpeedMeter m_speed;
+    const std::chrono::steady_clock::time_point m_begun = std::chrono::steady_clock::now();
+    ScanMeter m_meter;
+    std::uint64_t m_total = 0;
+    std::uint64_t m_done = 0;
     std::jthread m_thread;
 };
 

@@ -23,7 +23,7 @@
 #include "cli/ListMedia.h"
 #include "cli/ProgressLine.h"
 #include "media/PlatformMedia.h"
-#include "media/SizeText.h"
+#include "results/SizeForPeople.h"
 #include "saving/DestinationCheck.h"
 
 namespace vantor {
@@ -163,20 +163,19 @@ bool printJson(CliSession& session) {
 }
 
 void printTable(const CliSession& session) {
-    QMap<QString, int> perType;
+    QMap<QString, std::uint64_t> perType;
     for (const PublishedItem& item : session.published()) {
         ++perType[item.type];
-        std::printf("%s  %-20s  sectors %llu to %llu  %s\n", qPrintable(item.pass), qPrintable(item.name),
-                    static_cast<unsigned long long>(item.firstSector),
-                    static_cast<unsigned long long>(item.endSector),
-                    qPrintable(getMPSize(QString::number(item.bytes)).simplified()));
+        std::printf("%s  %-20s  sectors %s to %s  %s\n", qPrintable(item.pass), qPrintable(item.name),
+                    qPrintable(numberForPeople(item.firstSector)),
+                    qPrintable(numberForPeople(item.endSector)), qPrintable(sizeForPeople(item.bytes)));
     }
     QStringList counts;
     for (auto type = perType.cbegin(); type != perType.cend(); ++type) {
-        counts.append(QStringLiteral("%1 %2").arg(type.value()).arg(type.key()));
+        counts.append(QStringLiteral("%1 %2").arg(numberForPeople(type.value()), type.key()));
     }
-    std::printf("%zu found%s%s\n", session.published().size(), counts.isEmpty() ? "" : ": ",
-                qPrintable(counts.join(QStringLiteral(", "))));
+    std::printf("%s found%s%s\n", qPrintable(numberForPeople(session.published().size())),
+                counts.isEmpty() ? "" : ": ", qPrintable(counts.join(QStringLiteral(", "))));
 }
 
 void tellSaving(const CliSession& session, const CliOptions& options) {
@@ -186,7 +185,7 @@ void tellSaving(const CliSession& session, const CliOptions& options) {
         std::fprintf(out, "%s\n", qPrintable(line));
     }
     if (tally.failed != 0) {
-        complain(QStringLiteral("%1 could not be saved:").arg(tally.failed));
+        complain(QStringLiteral("%1 could not be saved:").arg(numberForPeople(tally.failed)));
         for (const QString& failure : tally.failures) {
             complain(QStringLiteral("  ") + failure);
         }
@@ -200,7 +199,7 @@ void tellSaving(const CliSession& session, const CliOptions& options) {
 bool writeReportOf(const CliSession& session, const CliOptions& options, ReportHead head) {
     head.mode = wordsForMode(options.mode);
     head.ended = QDateTime::currentDateTime();
-    head.searchEnded = session.lastOutcome() == PassOutcome::Completed;
+    head.searchEnd = searchEndHeadline(session.searchEnd());
     const WrittenReport written =
         writeReport(QDir(options.saveFolder).absolutePath(), head, session.reportedItems());
     if (!written.error.isEmpty()) {
@@ -229,11 +228,27 @@ int exitCodeOf(const CliSession& session) {
     return kExitReadError;
 }
 
+// Why the search did not get to its end, and how to get there.
+void tellEnd(const SearchEnd& end, const CliMedium& medium) {
+    if (end.isFlawless()) {
+        return;
+    }
+    complain(searchEndHeadline(end));
+    const QString why = medium.refusal ? wordsForRefusal(medium.refusal->get()) : QString();
+    if (end.outcome == PassOutcome::OpenError && !why.isEmpty()) {
+        complain(why);
+    }
+    if (end.canGoOn()) {
+        complain(QStringLiteral("To go on from there: --range %1:%2").arg(end.goOnAt).arg(end.end));
+    }
+}
+
 // All that there is to say of an ended search; the exit code.
-int tell(CliSession& session, const CliOptions& options, const ReportHead& head) {
+int tell(CliSession& session, const CliOptions& options, const CliMedium& medium, const ReportHead& head) {
     for (const QString& alert : session.alerts()) {
         complain(alert);
     }
+    tellEnd(session.searchEnd(), medium);
     bool allRead = true;
     if (options.listJson) {
         allRead = printJson(session);
@@ -298,7 +313,7 @@ int recover(const CliOptions& options) {
         }
         runBesideEvents([&session] { session.run(); });
     }
-    return tell(session, options, head);
+    return tell(session, options, medium, head);
 }
 
 }  // namespace vantor

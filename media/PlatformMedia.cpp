@@ -29,15 +29,15 @@ std::unique_ptr<MediaSource> makePlatformMediaSource() {
 }
 
 std::function<std::unique_ptr<SectorReader>(const QString& devicePath)> makeMediumOpener(
-    const MediaSource& source, StopRequest stop) {
-    return [targets = source.targets(), request = source.descriptorRequest(),
-            stop = std::move(stop)](const QString& devicePath) -> std::unique_ptr<SectorReader> {
+    const MediaSource& source, StopRequest stop, std::shared_ptr<LastRefusal> refusal) {
+    return [targets = source.targets(), request = source.descriptorRequest(), stop = std::move(stop),
+            refusal = std::move(refusal)](const QString& devicePath) -> std::unique_ptr<SectorReader> {
         const QString prefix = QStringLiteral("/dev/r");
         if (!targets || !devicePath.startsWith(prefix)) {
             return nullptr;
         }
         const auto target = targets->find(devicePath.sliced(prefix.size()));
-        return target ? openMedium(target->path, {stop, request, target->identity}) : nullptr;
+        return target ? openMedium(target->path, {stop, request, target->identity, refusal}) : nullptr;
     };
 }
 

@@ -16,8 +16,9 @@ std::unique_ptr<MediaSource> makePlatformMediaSource();
 
 // Opens "/dev/r" + identifier: the node or image that the source listed last under that identifier, and only
 // while the same medium is in the slot. Any thread but the main one, since asking the user for consent may
-// take minutes; `stop` ends that wait as it ends any other. Lives on without the source.
+// take minutes; `stop` ends that wait as it ends any other; `refusal` is told how it
+// went. Lives on without the source.
 std::function<std::unique_ptr<SectorReader>(const QString& devicePath)> makeMediumOpener(
-    const MediaSource& source, StopRequest stop = {});
+    const MediaSource& source, StopRequest stop = {}, std::shared_ptr<LastRefusal> refusal = {});
 
 }  // namespace vantor

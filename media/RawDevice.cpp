@@ -43,20 +43,42 @@ bool isBlockDevice(int fd) {
 
 bool isMedium(const MediumIdentity& wanted, const BlockDeviceFacts& facts) {
     const auto same = [](std::uint64_t a, std::uint64_t b) { return a == 0 || b == 0 || a == b; };
-    return facts.sectors != 0 && same(wanted.diskSequence, facts.diskSequence) &&
-           same(wanted.sectors, facts.sectors);
+    return same(wanted.diskSequence, facts.diskSequence) && same(wanted.sectors, facts.sectors);
+}
+
+void note(const OpenTerms& terms, OpenRefusal refusal) {
+    if (terms.refusal) {
+        terms.refusal->note(refusal);
+    }
+}
+
+bool isForbidden(int error) {
+    return error == EACCES || error == EPERM;
 }
 
 std::unique_ptr<BlockSource> openDevice(const QString& path, const OpenTerms& terms) {
     FileDescriptor descriptor = openNode(path);
-    if (!descriptor && (errno == EACCES || errno == EPERM) && terms.askForDescriptor) {
-        descriptor = terms.askForDescriptor(path, terms.stop);
+    if (!descriptor) {
+        const int error = errno;
+        if (isForbidden(error)) {
+            note(terms, OpenRefusal::MayNotReadDevice);
+            if (terms.askForDescriptor) {
+                descriptor = terms.askForDescriptor(path, terms.stop);
+            }
+        } else if (error == ENOENT || error == ENXIO || error == ENODEV || error == ENOMEDIUM) {
+            note(terms, OpenRefusal::NotThere);
+        }
     }
     if (!descriptor || !isBlockDevice(descriptor.get())) {
         return nullptr;
     }
     const auto facts = blockDeviceFacts(descriptor.get());
-    if (!facts || !isMedium(terms.identity, *facts)) {
+    if (!facts || facts->sectors == 0) {
+        note(terms, OpenRefusal::NotThere);
+        return nullptr;
+    }
+    if (!isMedium(terms.identity, *facts)) {
+        note(terms, OpenRefusal::AnotherMedium);
         return nullptr;
     }
     return std::make_unique<BlockDevice>(std::move(descriptor), *facts);
@@ -64,20 +86,29 @@ std::unique_ptr<BlockSource> openDevice(const QString& path, const OpenTerms& te
 
 std::unique_ptr<BlockSource> openSource(const QString& path, OpenTerms terms) {
     switch (kindOf(path)) {
-        case Kind::Image:
+        case Kind::Image: {
             if (!missingPart(path).isEmpty()) {
                 errno = ENOENT;
                 return nullptr;
             }
-            return ImageFile::open(imageParts(path));
+            auto image = ImageFile::open(imageParts(path));
+            if (!image && isForbidden(errno)) {
+                note(terms, OpenRefusal::MayNotReadImage);
+            }
+            return image;
+        }
         case Kind::Device: {
             StopRequest stop = terms.stop;
             return AbandonableSource::start(
                 [path, terms = std::move(terms)] { return openDevice(path, terms); }, std::move(stop));
         }
-        default:
+        case Kind::Missing:
+            note(terms, OpenRefusal::NotThere);
             return nullptr;
+        case Kind::Other:
+            break;
     }
+    return nullptr;
 }
 
 std::optional<MediumFacts> imageFacts(const QString& path) {
@@ -129,7 +160,12 @@ std::unique_ptr<SectorReader> openMedium(const QString& path, OpenTerms terms) {
     // A device has its reading thread already, and is slower than any search.
     const auto fetching =
         kindOf(path) == Kind::Image ? WindowedReader::Fetching::Ahead : WindowedReader::Fetching::WhenAsked;
+    note(terms, OpenRefusal::Unknown);
+    const auto refusal = terms.refusal;
     auto source = openSource(path, std::move(terms));
+    if (source && refusal) {
+        refusal->note(OpenRefusal::None);
+    }
     return source ? std::make_unique<WindowedReader>(std::move(source), fetching) : nullptr;
 }
 

@@ -9,6 +9,7 @@
 
 #include "media/AbandonableSource.h"
 #include "media/FileDescriptor.h"
+#include "media/OpenRefusal.h"
 #include "media/SectorReader.h"
 
 namespace vantor {
@@ -34,9 +35,10 @@ struct MediumIdentity {
 using DescriptorRequest = std::function<FileDescriptor(const QString& node, const StopRequest& stop)>;
 
 struct OpenTerms {
-    StopRequest stop;                    // ends waits for a device that hangs
-    DescriptorRequest askForDescriptor;  // absent: without permission the medium cannot be opened
-    MediumIdentity identity;             // another medium in the slot counts as one that is gone
+    StopRequest stop;                           // ends waits for a device that hangs
+    DescriptorRequest askForDescriptor;         // absent: without permission the medium cannot be opened
+    MediumIdentity identity;                    // another medium in the slot counts as one that is gone
+    std::shared_ptr<LastRefusal> refusal = {};  // is told how the opening went; absent: nobody asks
 };
 
 // A reader at sector 0, or null when the medium cannot be opened. Opens read-only, whatever the permissions,

@@ -62,6 +62,9 @@ class SectorReader {
     // Has sectors screened from here on, where the reader fetches ahead; null ends it.
     virtual void setScreen(std::shared_ptr<const SectorScreen>) {}
 
+    // True when the medium was found to have been taken out, or no longer to answer.
+    virtual bool isGone() const { return false; }
+
     // Sectors of the medium as it was opened; 0 when that is not known.
     virtual std::uint64_t mediumSectors() const { return 0; }
 

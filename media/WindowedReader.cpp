@@ -9,7 +9,6 @@ namespace vantor {
 
 namespace {
 
-constexpr std::size_t kWindowBytes = WindowedReader::kWindowSectors * kSectorBytes;
 // Unbuffered descriptors ask for aligned memory; a page satisfies all of them.
 constexpr std::size_t kAlignment = 4096;
 
@@ -20,14 +19,16 @@ std::uint8_t* alignUp(std::uint8_t* p) {
 
 }  // namespace
 
-WindowedReader::WindowedReader(std::unique_ptr<BlockSource> source, Fetching fetching)
+WindowedReader::WindowedReader(std::unique_ptr<BlockSource> source, Fetching fetching,
+                               std::size_t windowSectors)
     : m_source(std::move(source)),
-      m_storage(new std::uint8_t[2 * kWindowBytes + kAlignment]),
+      m_windowSectors(windowSectors),
+      m_storage(new std::uint8_t[2 * windowSectors * kSectorBytes + kAlignment]),
       m_front(alignUp(m_storage.get())),
-      m_back(m_front + kWindowBytes) {
+      m_back(m_front + windowSectors * kSectorBytes) {
     // On a single processor two threads would only take turns.
     if (fetching == Fetching::Ahead && std::thread::hardware_concurrency() > 1) {
-        m_ahead = std::make_unique<ReadAhead>(*m_source, kWindowBytes);
+        m_ahead = std::make_unique<ReadAhead>(*m_source, windowSectors * kSectorBytes);
     }
 }
 
@@ -42,7 +43,7 @@ bool WindowedReader::fetch() {
     }
     m_attemptedFrom = m_attemptedUntil = 0;
     const auto wanted = static_cast<std::size_t>(
-        std::min<std::uint64_t>(kWindowSectors, m_refused.firstFrom(position()) - position()));
+        std::min<std::uint64_t>(m_windowSectors, m_refused.firstFrom(position()) - position()));
     return wanted != 0 && fetchWindow(wanted);
 }
 
@@ -70,7 +71,7 @@ bool WindowedReader::fetchWindow(std::size_t wanted) {
     // One window alone is read by many a copy; the second in a row is the sign of a scan. Refusals end the
     // reading ahead, which knows nothing of them.
     const bool sequential = std::exchange(m_windowEnd, position() + sectors) == position();
-    if (m_ahead && sequential && sectors == kWindowSectors && m_refused.runs() == 0 &&
+    if (m_ahead && sequential && sectors == m_windowSectors && m_refused.runs() == 0 &&
         !m_ahead->isAt(m_windowEnd)) {
         stopReadingAhead();
         m_ahead->start(m_windowEnd, m_screen);
@@ -132,7 +133,7 @@ bool WindowedReader::readSingle(std::uint64_t sector) {
 }
 
 void WindowedReader::goSingle(std::uint64_t from) {
-    m_singleUntil = std::max(m_singleUntil, from + kWindowSectors);
+    m_singleUntil = std::max(m_singleUntil, from + m_windowSectors);
 }
 
 // Millions of reads and seeks may follow; none of them needs to go further than the flag.

@@ -34,10 +34,13 @@ class WindowedReader : public SectorReader {
     static constexpr std::uint64_t kDeadStretch = 2048;      // sectors: 1 MiB
     static constexpr std::uint64_t kMostRefusals = 1 << 16;  // sectors
 
-    explicit WindowedReader(std::unique_ptr<BlockSource> source, Fetching fetching = Fetching::WhenAsked);
+    // Smaller windows are for tests, in which a short medium is to have many.
+    explicit WindowedReader(std::unique_ptr<BlockSource> source, Fetching fetching = Fetching::WhenAsked,
+                            std::size_t windowSectors = kWindowSectors);
     ~WindowedReader() override;
 
     std::uint64_t mediumSectors() const override { return m_source->sectors(); }
+    bool isGone() const override { return m_gone; }
     void setScreen(std::shared_ptr<const SectorScreen> screen) override;
 
   protected:
@@ -56,6 +59,7 @@ class WindowedReader : public SectorReader {
     bool noteWhetherGone();
 
     std::unique_ptr<BlockSource> m_source;
+    const std::size_t m_windowSectors;
     std::unique_ptr<ReadAhead> m_ahead;  // absent when nothing is fetched ahead
     std::shared_ptr<const SectorScreen> m_screen;
     std::uint64_t m_windowEnd = 0;  // sector behind the last full window

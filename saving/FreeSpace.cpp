@@ -32,7 +32,7 @@ std::optional<QString> refuseForSpace(const QString& folder, std::uint64_t bytes
     if (!free || *free >= bytes) {
         return std::nullopt;
     }
-    const auto text = [](std::uint64_t n) { return sizeForPeople(n, QLocale::c()); };
+    const auto text = [](std::uint64_t n) { return sizeForPeople(n); };
     return QStringLiteral("There is not enough room in %1: %2 are needed, %3 are free")
         .arg(folder, text(bytes), text(*free));
 }

@@ -24,10 +24,6 @@ const char kStyle[] =
     "th{background:#333}td,th{border-color:#444}a{color:#8bf}.complete{color:#7d8}"
     ".cut,.damaged,.failed{color:#f88}}";
 
-QString sizeText(std::uint64_t bytes) {
-    return sizeForPeople(bytes, QLocale::c());
-}
-
 QString dateText(const std::optional<CivilTime>& taken) {
     if (!taken) {
         return {};
@@ -71,7 +67,7 @@ QString stateText(const SaveOutcome& outcome) {
         text += QStringLiteral(", length estimated");
     }
     if (outcome.sectorsUnreadable != 0) {
-        text += QStringLiteral(", %1 sectors unreadable").arg(outcome.sectorsUnreadable);
+        text += QStringLiteral(", %1 sectors unreadable").arg(numberForPeople(outcome.sectorsUnreadable));
     }
     return text;
 }
@@ -98,10 +94,10 @@ QString totals(const std::vector<ReportedItem>& items) {
                        "th");
     for (auto type = types.cbegin(); type != types.cend(); ++type) {
         const SaveTally& t = type.value();
-        const auto number = [](std::uint64_t n) { return QString::number(n); };
-        text += row({type.key().toHtmlEscaped(), number(t.saved), sizeText(t.bytes), number(t.complete),
-                     number(t.cutOff), number(t.damaged), number(t.unknownLength), number(t.duplicates),
-                     number(t.tooSmall + t.unsound), number(t.failed)},
+        text += row({type.key().toHtmlEscaped(), numberForPeople(t.saved), sizeForPeople(t.bytes),
+                     numberForPeople(t.complete), numberForPeople(t.cutOff), numberForPeople(t.damaged),
+                     numberForPeople(t.unknownLength), numberForPeople(t.duplicates),
+                     numberForPeople(t.tooSmall + t.unsound), numberForPeople(t.failed)},
                     "td");
     }
     return text + QStringLiteral("</table>\n");
@@ -138,11 +134,11 @@ QString itemRow(const ReportedItem& item, const QString& folder, const ReportThu
     QStringList cells{
         name,
         item.type.toHtmlEscaped(),
-        outcome.saved ? sizeText(outcome.bytes) : QString(),
+        outcome.saved ? sizeForPeople(outcome.bytes) : QString(),
         outcome.duplicate ? QStringLiteral("same bytes as an earlier file; ") + soundness : soundness,
         dateText(outcome.taken),
         outcome.width != 0 ? QStringLiteral("%1 × %2").arg(outcome.width).arg(outcome.height) : QString(),
-        QStringLiteral("%1 to %2").arg(item.firstSector).arg(item.endSector),
+        QStringLiteral("%1 to %2").arg(numberForPeople(item.firstSector), numberForPeople(item.endSector)),
         QStringLiteral("<span class=\"sum\">%1</span>").arg(QString::fromLatin1(outcome.sha256.toHex()))};
     if (thumbnail) {
         cells.prepend(picture);
@@ -158,12 +154,9 @@ QString headText(const ReportHead& head) {
         return t.isValid() ? t.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")) : QString();
     };
     return QStringLiteral("<table>\n") + line("Medium", head.medium) +
-           line("Sectors of 512 bytes", head.sectors != 0 ? QString::number(head.sectors) : QString()) +
+           line("Sectors of 512 bytes", head.sectors != 0 ? numberForPeople(head.sectors) : QString()) +
            line("Searched for", head.mode) + line("Begun", time(head.begun)) +
-           line("Ended", time(head.ended)) +
-           line("Search", head.searchEnded ? QStringLiteral("completed")
-                                           : QStringLiteral("ended early: there may be more on the medium")) +
-           QStringLiteral("</table>\n");
+           line("Ended", time(head.ended)) + line("Search", head.searchEnd) + QStringLiteral("</table>\n");
 }
 
 QString quoted(QString field) {

@@ -26,7 +26,7 @@ struct ReportHead {
     QString mode;               // what was searched for, in words
     QDateTime begun;
     QDateTime ended;
-    bool searchEnded = true;  // false: stopped, or the medium could not be read to its end
+    QString searchEnd;  // how the search ended, in words
 };
 
 // What a mode searches for: "photos", "videos" or "files".

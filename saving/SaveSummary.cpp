@@ -1,9 +1,10 @@
 // Counts in words.
 #include "saving/SaveSummary.h"
 
-#include <QLocale>
 #include <QObject>
 #include <QStringList>
+
+#include "results/SizeForPeople.h"
 
 namespace vantor {
 
@@ -11,13 +12,9 @@ namespace {
 
 constexpr qsizetype kFailuresShown = 5;
 
-QString number(std::uint64_t count) {
-    return QLocale().toString(qulonglong{count});
-}
-
 // "Of these, 10 are complete, 2 are cut off."
 QString soundnessLine(const SaveTally& tally) {
-    return QObject::tr("Of these: %1.").arg(tally.bySoundness(QLocale()).join(QStringLiteral(", ")));
+    return QObject::tr("Of these: %1.").arg(tally.bySoundness().join(QStringLiteral(", ")));
 }
 
 QStringList failureLines(const SaveTally& tally) {
@@ -27,7 +24,8 @@ QStringList failureLines(const SaveTally& tally) {
         lines << QStringLiteral("   ") + failure;
     }
     if (tally.failed > static_cast<std::uint64_t>(shown)) {
-        lines << QObject::tr("   and %1 more").arg(number(tally.failed - static_cast<std::uint64_t>(shown)));
+        lines << QObject::tr("   and %1 more")
+                     .arg(numberForPeople(tally.failed - static_cast<std::uint64_t>(shown)));
     }
     return lines;
 }
@@ -35,7 +33,7 @@ QStringList failureLines(const SaveTally& tally) {
 }  // namespace
 
 QString countOfItems(std::uint64_t count) {
-    return count == 1 ? QObject::tr("1 item") : QObject::tr("%1 items").arg(number(count));
+    return count == 1 ? QObject::tr("1 item") : QObject::tr("%1 items").arg(numberForPeople(count));
 }
 
 QString summaryHeadline(const SaveSummary& summary) {
@@ -45,7 +43,7 @@ QString summaryHeadline(const SaveSummary& summary) {
                                     : QObject::tr("Nothing was saved.");
     }
     return tally.saved == 1 ? QObject::tr("1 file was saved.")
-                            : QObject::tr("%1 files were saved.").arg(number(tally.saved));
+                            : QObject::tr("%1 files were saved.").arg(numberForPeople(tally.saved));
 }
 
 QString summaryDetails(const SaveSummary& summary) {

@@ -40,7 +40,7 @@ void SaveTally::add(const QString& name, const SaveOutcome& outcome) {
     }
 }
 
-QStringList SaveTally::bySoundness(const QLocale& locale) const {
+QStringList SaveTally::bySoundness() const {
     const std::pair<std::uint64_t, Verdict> counts[] = {{complete, Verdict::Complete},
                                                         {cutOff, Verdict::CutOff},
                                                         {damaged, Verdict::Damaged},
@@ -48,8 +48,7 @@ QStringList SaveTally::bySoundness(const QLocale& locale) const {
     QStringList kinds;
     for (const auto& [count, verdict] : counts) {
         if (count != 0) {
-            kinds.append(
-                QStringLiteral("%1 %2").arg(locale.toString(qulonglong{count}), soundnessWords(verdict)));
+            kinds.append(QStringLiteral("%1 %2").arg(numberForPeople(count), soundnessWords(verdict)));
         }
     }
     return kinds;
@@ -57,16 +56,15 @@ QStringList SaveTally::bySoundness(const QLocale& locale) const {
 
 QStringList SaveTally::lines(const QString& destination) const {
     QStringList lines;
-    QString first = QStringLiteral("%1 saved in %2").arg(saved).arg(destination);
+    QString first = QStringLiteral("%1 saved in %2").arg(numberForPeople(saved), destination);
     if (saved != 0) {
-        first += QStringLiteral(" (%1): %2")
-                     .arg(sizeForPeople(bytes, QLocale::c()),
-                          bySoundness(QLocale::c()).join(QStringLiteral(", ")));
+        first +=
+            QStringLiteral(" (%1): %2").arg(sizeForPeople(bytes), bySoundness().join(QStringLiteral(", ")));
     }
     lines.append(first);
     const auto line = [&lines](std::uint64_t count, const char* text) {
         if (count != 0) {
-            lines.append(QStringLiteral("%1 %2").arg(count).arg(QLatin1String(text)));
+            lines.append(QStringLiteral("%1 %2").arg(numberForPeople(count), QLatin1String(text)));
         }
     };
     line(withUnreadableSectors, "of them have sectors that could not be read");

@@ -1,7 +1,6 @@
 // What became of the found items, counted for the summary at the end.
 #pragma once
 
-#include <QLocale>
 #include <QString>
 #include <QStringList>
 #include <cstdint>
@@ -31,7 +30,7 @@ struct SaveTally {
     void add(const QString& name, const SaveOutcome& outcome);
 
     // How many of the saved are how sound: "10 complete", "2 cut off", ...
-    QStringList bySoundness(const QLocale& locale) const;
+    QStringList bySoundness() const;
     // "12 saved in /out (3.4 MB): 10 complete, 2 cut off", and a line for each thing left out.
     QStringList lines(const QString& destination) const;
 };

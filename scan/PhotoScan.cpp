@@ -1,12 +1,14 @@
 // The photo scan: collects the sectors behind each picture header into one item.
 #include <QStringList>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "catalogue/NumberText.h"
 #include "catalogue/SignatureRecord.h"
 #include "scan/HeaderMatcher.h"
 #include "scan/PhotoItemBuffer.h"
+#include "scan/PlatformException.h"
 #include "scan/ReferenceSector.h"
 #include "scan/ScanSession.h"
 
@@ -14,8 +16,10 @@ namespace vantor {
 
 // The working state of one pass.
 struct ScanSession::PhotoPass {
-    PhotoPass(const QString& passName, const QStringList& records, PhotoMemory& memory)
-        : name(passName), item(memory), matcher(std::make_shared<const HeaderMatcher>(records)) {
+    PhotoPass(const QString& passName, PhotoMemory& memory) : name(passName), item(memory) {}
+
+    void searchFor(const QStringList& records) {
+        matcher = std::make_shared<const HeaderMatcher>(records);
         for (qsizetype n = 0; n < recordCount(records); ++n) {
             limits.push_back(static_cast<std::uint64_t>(textToInt64(recordField(records, n, Max_File_Size))));
         }
@@ -47,24 +51,30 @@ bool ScanSession::Photo_Recovey_Mode(const QString& passName) {
         clearItems();
         m_view.resetPhotoBrowser();
     }
-    if (!beginPass(ControlSet::Photo, passName, Ext_Array, Adv_Ext_Array)) {
+    if (!beginPass(ControlSet::Photo, passName)) {
         return false;
     }
 
-    PhotoPass pass(passName, REC_PROC_Array, m_photoMemory);
-    pFile_Disk->setScreen(pass.matcher);
-    runPhotoLoop(pass);
+    PhotoPass pass(passName, m_photoMemory);
+    // What the interface raises meanwhile ends the pass as the end of its range does.
+    withoutPlatformException([&] {
+        prepareRecords(passName, Ext_Array, Adv_Ext_Array);
+        pass.searchFor(REC_PROC_Array);
+        pFile_Disk->setScreen(pass.matcher);
+        runPhotoLoop(pass);
+    });
+    const auto openItemAt = pass.itemOpen ? std::optional(pass.itemFirstSector) : std::nullopt;
     if (pass.stopped) {
         stop_now = 0;
+        passEnds(PassOutcome::Stopped, openItemAt);
         pFile_Disk.reset();
         m_view.invalidateTimer();
         handOverPhoto(pass);
-        m_lastOutcome = PassOutcome::Stopped;
         Final_or_Stop_Screen();
         return false;
     }
     handOverPhoto(pass);
-    return endOfRange(pass.lastReadSucceeded);
+    return endOfRange(pass.lastReadSucceeded, openItemAt);
 }
 
 void ScanSession::runPhotoLoop(PhotoPass& pass) {
@@ -78,10 +88,12 @@ void ScanSession::runPhotoLoop(PhotoPass& pass) {
             pass.stopped = true;
             return;
         }
+        const bool readBefore = pass.lastReadSucceeded;
         pass.lastReadSucceeded = medium.read();
         if (pass.lastReadSucceeded) {
             pass.lastGoodSector = medium.position() - 1;
         } else {
+            m_readFailures.note(medium.position(), readBefore);
             pass.carved.readFailed = true;
             if (!medium.seek(index)) {
                 // Bytes that can be neither renewed nor passed over count as a repeat.

@@ -8,6 +8,7 @@
 #include "catalogue/SignatureRecord.h"
 #include "catalogue/TextHelpers.h"
 #include "scan/HeaderMatcher.h"
+#include "scan/PlatformException.h"
 #include "scan/ReferenceSector.h"
 #include "scan/ScanSession.h"
 
@@ -88,26 +89,34 @@ bool ScanSession::Raw_File_Recovey_Mode(const QString& passName) {
         clearItems();
         m_view.reloadBrowser(ControlSet::Sig);
     }
-    if (!beginPass(ControlSet::Sig, passName, CheckListHeader_Array, CheckListHeader_Adv_Array)) {
+    if (!beginPass(ControlSet::Sig, passName)) {
         return false;
     }
+    prepareRecords(passName, CheckListHeader_Array, CheckListHeader_Adv_Array);
 
     RawPass pass(passName, REC_PROC_Array, m_view.destinationFolder());
     pFile_Disk->setScreen(pass.matcher);
-    if (!runRawLoop(pass)) {
+    bool stopped = false;
+    if (!withoutPlatformException([&] { stopped = !runRawLoop(pass); })) {
+        // Open items are not published then, in a later pass neither.
+        MultiHeader_Array.clear();
+        return endOfRange(pass.lastReadSucceeded);
+    }
+    const auto openItemAt = MultiHeader_Array.isEmpty() ? std::nullopt : std::optional(pass.itemStartSector);
+    if (stopped) {
         stop_now = 0;
+        passEnds(PassOutcome::Stopped, openItemAt);
         pFile_Disk.reset();
         m_view.invalidateTimer();
         // The items stay in the list of open ones until the next general pass begins.
         for (qsizetype at = 0; at < MultiHeader_Array.size(); at += kOpenItemStride) {
             publishRawItem(pass, at);
         }
-        m_lastOutcome = PassOutcome::Stopped;
         Final_or_Stop_Screen();
         return false;
     }
     closeRawItems(pass);
-    return endOfRange(pass.lastReadSucceeded);
+    return endOfRange(pass.lastReadSucceeded, openItemAt);
 }
 
 // False when the user stopped.
@@ -123,11 +132,15 @@ bool ScanSession::runRawLoop(RawPass& pass) {
         if (stop_now.load(std::memory_order_relaxed) == 1) {
             return false;
         }
+        const bool readBefore = pass.lastReadSucceeded;
         pass.lastReadSucceeded = medium.read();
         if (pass.lastReadSucceeded) {
             pass.lastGoodSector = medium.position() - 1;
-        } else if (!medium.seek(index)) {
-            pass.reference.become(medium.current());
+        } else {
+            m_readFailures.note(medium.position(), readBefore);
+            if (!medium.seek(index)) {
+                pass.reference.become(medium.current());
+            }
         }
         for_index.store(++index, std::memory_order_relaxed);
         if (pass.carving && !MultiHeader_Array.isEmpty()) {

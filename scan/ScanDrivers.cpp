@@ -1,5 +1,6 @@
 // Which passes run, what a tick shows, and how a scan ends.
 #include "catalogue/TextHelpers.h"
+#include "scan/PlatformException.h"
 #include "scan/ProgressText.h"
 #include "scan/ScanSession.h"
 
@@ -34,11 +35,13 @@ void ScanSession::Raw_File_Rec_Thread() {
     if (thorough && stop_screen_already_show == 0) {
         Raw_File_Recovey_Mode(kThoroughPass.toString());
     }
-    if (m_view.modalSessionRunning()) {
-        stop_now = 1;
-    } else if (stop_screen_already_show == 0) {
-        Final_or_Stop_Screen();
-    }
+    withoutPlatformException([this] {
+        if (m_view.modalSessionRunning()) {
+            stop_now = 1;
+        } else if (stop_screen_already_show == 0) {
+            Final_or_Stop_Screen();
+        }
+    });
 }
 
 void ScanSession::timerTickSetLabel() {

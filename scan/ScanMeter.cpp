@@ -1,10 +1,11 @@
 // Samples and wording of a speed.
 #include "scan/ScanMeter.h"
 
-#include <QLocale>
 #include <QObject>
 #include <QStringList>
 #include <cmath>
+
+#include "results/SizeForPeople.h"
 
 namespace vantor {
 
@@ -30,9 +31,10 @@ QString timeLeft(double seconds) {
 
 }  // namespace
 
-void ScanMeter::begin(std::uint64_t sectors) {
+void ScanMeter::begin(std::uint64_t sectors, std::uint64_t later) {
     *this = ScanMeter();
     m_sectors = sectors;
+    m_later = later;
 }
 
 void ScanMeter::update(std::int64_t milliseconds, std::uint64_t done) {
@@ -53,14 +55,13 @@ std::optional<double> ScanMeter::secondsLeft() const {
     if (!bytesPerSecond() || m_done > m_sectors) {
         return std::nullopt;
     }
-    return m_speed.secondsFor(m_sectors - m_done);
+    return m_speed.secondsFor(m_sectors - m_done + m_later);
 }
 
 QString ScanMeter::speedAndTimeLeft() const {
     QStringList parts;
     if (const auto speed = bytesPerSecond()) {
-        parts << QObject::tr("%1/s").arg(
-            QLocale().formattedDataSize(static_cast<qint64>(*speed), 0, QLocale::DataSizeSIFormat));
+        parts << QObject::tr("%1/s").arg(sizeForPeople(static_cast<std::uint64_t>(*speed), 0));
     }
     if (const auto left = secondsLeft()) {
         parts << timeLeft(*left);
@@ -69,9 +70,8 @@ QString ScanMeter::speedAndTimeLeft() const {
 }
 
 QString ScanMeter::text(std::uint64_t itemsFound) const {
-    const QString found = itemsFound == 1
-                              ? QObject::tr("1 item found")
-                              : QObject::tr("%1 items found").arg(QLocale().toString(qulonglong{itemsFound}));
+    const QString found = itemsFound == 1 ? QObject::tr("1 item found")
+                                          : QObject::tr("%1 items found").arg(numberForPeople(itemsFound));
     const QString speed = speedAndTimeLeft();
     return speed.isEmpty() ? found : speed + kBetween + found;
 }

@@ -11,14 +11,14 @@ namespace vantor {
 
 class ScanMeter {
   public:
-    // Work over `sectors` sectors begins, such as a pass.
-    void begin(std::uint64_t sectors);
+    // Work over `sectors` sectors begins, such as a pass; the passes behind it have `later` more.
+    void begin(std::uint64_t sectors, std::uint64_t later = 0);
     // `done` sectors were worked through `milliseconds` after some fixed moment.
     void update(std::int64_t milliseconds, std::uint64_t done);
 
     // Bytes a second over the last minute; nothing before the first half second.
     std::optional<double> bytesPerSecond() const;
-    std::optional<double> secondsLeft() const;
+    std::optional<double> secondsLeft() const;  // to the end of the last pass
 
     // "84 MB/s  ·  about 3 min left".
     QString speedAndTimeLeft() const;
@@ -27,6 +27,7 @@ class ScanMeter {
 
   private:
     std::uint64_t m_sectors = 0;
+    std::uint64_t m_later = 0;
     std::uint64_t m_done = 0;
     std::int64_t m_since = -1;
     SpeedMeter m_speed;

@@ -1,6 +1,7 @@
 // Construction, and the steps that both scans share at the beginning and end of a pass.
 #include "scan/ScanSession.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "catalogue/SignatureRecord.h"
@@ -12,16 +13,21 @@ ScanSession::ScanSession(ScanView& view) : m_view(view) {}
 
 ScanSession::~ScanSession() = default;
 
-// What both scans begin with, from the mode text to the records of the pass; false when the medium cannot be
-// opened.
-bool ScanSession::beginPass(ControlSet set, const QString& passName, const QStringList& general,
-                            const QStringList& thorough) {
+// What both scans begin with, from the mode text to the help; false when the medium cannot be opened.
+bool ScanSession::beginPass(ControlSet set, const QString& passName) {
     m_view.showModeLabel(
         passName == kGeneralPass
             ? QStringLiteral("( Currently performing Search based on: Vantor General Recovery Procedure )")
             : QStringLiteral("( Currently performing Search based on: Vantor Thorough Scanning Alogrithm )"));
     pFile_Disk.reset();
-    prepareRange(set);
+    prepareRange(set, passName);
+    m_readFailures = {};
+    const bool thorough = passName == kThoroughPass;
+    // A thorough pass over no signatures meets none of them again.
+    const std::uint64_t unreadableBefore = thorough ? m_end.unreadable : 0;
+    m_end = {};
+    m_end.thorough = thorough;
+    m_end.unreadable = unreadableBefore;
     pFile_Disk = openMedium();
     if (!pFile_Disk) {
         openFailed(set);
@@ -34,6 +40,21 @@ bool ScanSession::beginPass(ControlSet set, const QString& passName, const QStri
     m_view.startProgress();
     m_view.showHelpInfo(QStringLiteral(
         "\nTo stop recovery, click on ‘Stop’ Button or please wait for the process to be completed."));
+    return true;
+}
+
+// One that reads: without records a pass ends at once.
+bool ScanSession::anotherPassFollows(ControlSet set, const QString& passName) const {
+    if (passName != kGeneralPass) {
+        return false;
+    }
+    return set == ControlSet::Photo ? m_view.thoroughBoxOn(set) && !Adv_Ext_Array.isEmpty()
+                                    : !CheckListHeader_Adv_Array.isEmpty();
+}
+
+// To the first sector of the pass, with the records that it searches for.
+void ScanSession::prepareRecords(const QString& passName, const QStringList& general,
+                                 const QStringList& thorough) {
     if (start_sector != 0) {
         pFile_Disk->seek(start_sector);
     }
@@ -46,14 +67,14 @@ bool ScanSession::beginPass(ControlSet set, const QString& passName, const QStri
     }
     fillTypeCounters();
     for_index = start_sector.load();
-    return true;
 }
 
 // Range, progress bar, counter and text.
-void ScanSession::prepareRange(ControlSet set) {
+void ScanSession::prepareRange(ControlSet set, const QString& passName) {
     start_sector = 0;
     end_sector = 0;
     const SectorRange range = rangeFromControls(m_view.rangeControls(set));
+    m_laterSectors = anotherPassFollows(set, passName) ? range.end - range.start : 0;
     for_index = range.start;  // first, so that no tick in between sees less than nothing done
     start_sector = range.start;
     end_sector = range.end;
@@ -89,7 +110,7 @@ void ScanSession::fillTypeCounters() {
 
 // The medium cannot be opened: back to the screen before the scan, with every control as it was there.
 void ScanSession::openFailed(ControlSet set) {
-    m_lastOutcome = PassOutcome::OpenError;
+    passEnds(PassOutcome::OpenError);
     --screen_counter;
     m_view.invalidateTimer();
     m_view.returnFromScanScreen(set);
@@ -102,13 +123,28 @@ void ScanSession::openFailed(ControlSet set) {
     m_view.showAlert(QStringLiteral("\nError in storage media reading."));
 }
 
-bool ScanSession::endOfRange(bool lastReadSucceeded) {
+// Before the medium is closed, which knows how it fared.
+void ScanSession::passEnds(PassOutcome outcome, std::optional<std::uint64_t> openItemAt) {
+    m_end.outcome = outcome;
+    m_end.start = start_sector;
+    m_end.end = end_sector;
+    m_end.unreadable = std::max(m_end.unreadable, m_readFailures.sectors);
+    m_end.mediumGone = pFile_Disk && pFile_Disk->isGone();
+    m_end.nothingToSearch = REC_PROC_Array.isEmpty() || start_sector >= end_sector;
+    m_end.sector = outcome == PassOutcome::ReadError ? m_readFailures.from : for_index.load();
+    m_end.goOnAt = std::min(m_end.sector, openItemAt.value_or(m_end.sector));
+    if (pFile_Disk) {
+        // After a failed read the stream is behind the counter.
+        m_end.goOnAt = std::min(m_end.goOnAt, pFile_Disk->position());
+    }
+}
+
+bool ScanSession::endOfRange(bool lastReadSucceeded, std::optional<std::uint64_t> openItemAt) {
+    passEnds(lastReadSucceeded ? PassOutcome::Completed : PassOutcome::ReadError, openItemAt);
     pFile_Disk.reset();
     if (lastReadSucceeded) {
-        m_lastOutcome = PassOutcome::Completed;
         return true;
     }
-    m_lastOutcome = PassOutcome::ReadError;
     m_view.showAlert(QStringLiteral("\nError in storage media reading."));
     return false;
 }

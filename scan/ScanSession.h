@@ -20,6 +20,7 @@
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <vector>
 
 #include "catalogue/FileTypeList.h"
@@ -30,15 +31,13 @@
 #include "results/ResultRow.h"
 #include "scan/PhotoMemory.h"
 #include "scan/ScanView.h"
+#include "scan/SearchEnd.h"
 
 namespace vantor {
 
 // The names of the passes.
 inline constexpr QStringView kGeneralPass = u"GEN";
 inline constexpr QStringView kThoroughPass = u"THD";
-
-// How the last pass ended.
-enum class PassOutcome { NotRun, Completed, Stopped, ReadError, OpenError };
 
 // Makes a thumbnail (JPEG, longer side at most 100 pixels, upright) of encoded picture bytes; empty when they
 // cannot be decoded. The extension of the item's name helps with formats that carry no mark of their own.
@@ -120,7 +119,11 @@ class ScanSession : public HexText {
     // The help text that goes with the results of a scan.
     static QString endHelp();
 
-    PassOutcome lastOutcome() const { return m_lastOutcome; }
+    // How the last pass ended; not while one runs.
+    const SearchEnd& searchEnd() const { return m_end; }
+    PassOutcome lastOutcome() const { return m_end.outcome; }
+    // Sectors that the passes behind the one that runs will read. Any thread.
+    std::uint64_t sectorsOfLaterPasses() const { return m_laterSectors; }
 
     // --- Fields ---
 
@@ -199,13 +202,16 @@ class ScanSession : public HexText {
     void addRawItem(std::unique_ptr<MyImageObject> item, const QString& name, const QString& path);
     void pacePhotoBrowser();
     void paceBrowser(ControlSet set, std::uint64_t step);
-    void prepareRange(ControlSet set);
+    void prepareRange(ControlSet set, const QString& passName);
     void showProgressText();
     void fillTypeCounters();
-    bool beginPass(ControlSet set, const QString& passName, const QStringList& general,
-                   const QStringList& thorough);
+    bool beginPass(ControlSet set, const QString& passName);
+    bool anotherPassFollows(ControlSet set, const QString& passName) const;
+    void prepareRecords(const QString& passName, const QStringList& general, const QStringList& thorough);
     void openFailed(ControlSet set);
-    bool endOfRange(bool lastReadSucceeded);
+    // An item that is still open begins at the sector.
+    void passEnds(PassOutcome outcome, std::optional<std::uint64_t> openItemAt = std::nullopt);
+    bool endOfRange(bool lastReadSucceeded, std::optional<std::uint64_t> openItemAt = std::nullopt);
     const QStringList& generalCatalogueOfMode() const;
     const QStringList& thoroughCatalogueOfMode() const;
 
@@ -226,7 +232,9 @@ class ScanSession : public HexText {
     HandOver m_handOver;
     PhotoMemory m_photoMemory;
     QString m_placeholderPath;
-    PassOutcome m_lastOutcome = PassOutcome::NotRun;
+    ReadFailures m_readFailures;  // of the pass
+    SearchEnd m_end;
+    std::atomic<std::uint64_t> m_laterSectors{0};
     std::atomic<std::uint64_t> m_addedItems{0};
     mutable std::mutex m_listLock;
 };

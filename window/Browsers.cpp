@@ -1,10 +1,17 @@
 // Data source and delegate of both browsers.
-#include <QLocale>
-
+#include "results/SizeForPeople.h"
 #include "saving/SaveSummary.h"
 #include "window/MyTableController.h"
 
 namespace vantor {
+
+namespace {
+
+QString numberOf(qsizetype count) {
+    return numberForPeople(static_cast<std::uint64_t>(count));
+}
+
+}  // namespace
 
 ImageBrowserView* MyTableController::browserOf(ControlSet set) const {
     return set == ControlSet::Photo ? imageBrowser : imageBrowser_2;
@@ -100,6 +107,7 @@ void MyTableController::filterResultRows() {
     for (int row = 0; row < rows.size(); ++row) {
         idSigTableView->setRowHidden(row, foundTypesOnly->isChecked() && countOf(rows.at(row)) == 0);
     }
+    showEmptyResults();
 }
 
 // Counts in words, and the buttons that need something to work on.
@@ -109,10 +117,10 @@ void MyTableController::showItemCounts() {
         const int shown = browser->shownCount();
         const qsizetype selected = browser->selectedCount();
         if (selected > 0) {
-            return tr("%1 of %2 selected").arg(QLocale().toString(selected), QLocale().toString(shown));
+            return tr("%1 of %2 selected").arg(numberOf(selected), numberOf(shown));
         }
         const QString count = countOfItems(static_cast<std::uint64_t>(found));
-        return m_looks->isPlain() ? count : tr("%1 of %2").arg(QLocale().toString(shown), count);
+        return m_looks->isPlain() ? count : tr("%1 of %2").arg(numberOf(shown), count);
     };
     photoCountLabel->setText(words(imageBrowser));
     rawCountLabel->setText(words(imageBrowser_2));
@@ -126,14 +134,14 @@ void MyTableController::showItemCounts() {
     _open_folder_Sig->setEnabled(haveFolder);
     const auto savedCount = static_cast<qsizetype>(m_desk->marks().saved());
     const QString saved =
-        savedCount == 0 ? QString()
-                        : tr("%1 of %2 saved").arg(QLocale().toString(savedCount), QLocale().toString(found));
+        savedCount == 0 ? QString() : tr("%1 of %2 saved").arg(numberOf(savedCount), numberOf(found));
     const int changed = changedChoices(m_desk->choices());
     for (QPushButton* button : {savingOptionsButton, savingOptionsButton_Sig}) {
         button->setText(changed == 0 ? tr("O&ptions…") : tr("O&ptions (%1)…").arg(changed));
     }
     savedLabel->setText(saved);
     savedLabel_Sig->setText(saved);
+    showEmptyResults();
 }
 
 }  // namespace vantor

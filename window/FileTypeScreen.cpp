@@ -2,6 +2,7 @@
 #include <QCheckBox>
 
 #include "catalogue/FileKind.h"
+#include "results/SizeForPeople.h"
 #include "window/MyTableController.h"
 #include "window/widgets/Theme.h"
 #include "window/widgets/WrapLayout.h"
@@ -80,7 +81,7 @@ void MyTableController::buildGroupBoxes() {
                                           [kind](const FileTypeRow& row) { return kindOf(row) == kind; });
         auto* box = new QCheckBox(typeGroups);
         box->setObjectName(QStringLiteral("typeGroup") + kindName(kind));
-        box->setText(tr("%1 (%2)").arg(kindName(kind)).arg(inKind));
+        box->setText(tr("%1 (%2)").arg(kindName(kind), numberForPeople(static_cast<std::uint64_t>(inKind))));
         box->setAccessibleName(tr("All types of the group %1").arg(kindName(kind)));
         connect(box, &QCheckBox::clicked, this,
                 [this, kind](bool on) { tickGroup(static_cast<int>(kind), on); });
@@ -104,20 +105,21 @@ void MyTableController::tickGroup(int kind, bool ticked) {
 
 void MyTableController::filterFileTypes(const QString& text) {
     const QString wanted = text.trimmed();
-    bool noneFound = true;
     for (int row = 0; row < nsCheckedListDataObject.size(); ++row) {
         const FileTypeRow& type = nsCheckedListDataObject.at(row);
         const bool found = type.value(kExtension).toString().contains(wanted, Qt::CaseInsensitive) ||
                            type.value(kDescription).toString().contains(wanted, Qt::CaseInsensitive);
         idCheckTableView->setRowHidden(row, !found);
-        noneFound = noneFound && !found;
     }
-    if (noneFound && !wanted.isEmpty()) {
-        idCheckTableView->setEmptyState(ownIcon(QStringLiteral("type-other")), tr("No type matches"),
-                                        tr("Clear the search field to see all types."));
-    } else {
-        setEmptyStates();
-    }
+    showEmptyTypes(wanted);
+}
+
+void MyTableController::showEmptyTypes(const QString& filter) {
+    const bool onlyFiltered = !filter.isEmpty() && !nsCheckedListDataObject.isEmpty();
+    idCheckTableView->setEmptyState(
+        ownIcon(QStringLiteral("type-other")), onlyFiltered ? tr("No type matches") : tr("No file types"),
+        onlyFiltered ? tr("Clear the search field to see all types.")
+                     : tr("The catalogue of file types could not be read. Install the program again."));
 }
 
 void MyTableController::showTypeCounts() {
@@ -131,7 +133,10 @@ void MyTableController::showTypeCounts() {
             ++tickedOfKind[kind];
         }
     }
-    typeCountLabel->setText(tr("%1 of %2 selected").arg(ticked).arg(nsCheckedListDataObject.size()));
+    typeCountLabel->setText(
+        tr("%1 of %2 selected")
+            .arg(numberForPeople(static_cast<std::uint64_t>(ticked)),
+                 numberForPeople(static_cast<std::uint64_t>(nsCheckedListDataObject.size()))));
     for (qsizetype kind = 0; kind < m_groupBoxes.size(); ++kind) {
         QCheckBox* box = m_groupBoxes.at(kind);
         const bool all = tickedOfKind.at(kind) == ofKind.at(kind);

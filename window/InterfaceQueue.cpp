@@ -19,15 +19,18 @@ bool InterfaceQueue::runAndWait(Step step) {
     if (m_closed) {
         return false;
     }
-    const auto ran = std::make_shared<bool>(false);
+    const auto ran = std::make_shared<Settled>();
     m_entries.push_back({std::move(step), ran});
     if (m_wake) {
         lock.unlock();
         m_wake();
         lock.lock();
     }
-    m_settled.wait(lock, [&] { return m_closed || *ran; });
-    return *ran;
+    m_settled.wait(lock, [&] { return m_closed || ran->done; });
+    if (ran->raised) {
+        std::rethrow_exception(ran->raised);
+    }
+    return ran->done;
 }
 
 bool InterfaceQueue::runOne() {
@@ -40,12 +43,19 @@ bool InterfaceQueue::runOne() {
         entry = std::move(m_entries.front());
         m_entries.pop_front();
     }
-    entry.step();
-    if (entry.ran) {
-        const std::lock_guard lock(m_lock);
-        *entry.ran = true;
-        m_settled.notify_all();
+    if (!entry.ran) {
+        entry.step();
+        return true;
     }
+    std::exception_ptr raised;
+    try {
+        entry.step();
+    } catch (...) {
+        raised = std::current_exception();
+    }
+    const std::lock_guard lock(m_lock);
+    *entry.ran = {true, raised};
+    m_settled.notify_all();
     return true;
 }
 

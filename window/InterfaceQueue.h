@@ -3,6 +3,7 @@
 
 #include <condition_variable>
 #include <deque>
+#include <exception>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -21,8 +22,8 @@ class InterfaceQueue {
     // Any thread: runs later on the interface thread.
     void post(Step step);
 
-    // Any thread but the interface thread: waits until the step has run there. False when the queue was
-    // closed first.
+    // Any thread but the interface thread: waits until the step has run there, and throws what it threw.
+    // False when the queue was closed first.
     bool runAndWait(Step step);
 
     // Interface thread: runs the oldest step. False when there is none.
@@ -34,9 +35,13 @@ class InterfaceQueue {
     void close();
 
   private:
+    struct Settled {
+        bool done = false;
+        std::exception_ptr raised;
+    };
     struct Entry {
         Step step;
-        std::shared_ptr<bool> ran;  // null when nobody waits
+        std::shared_ptr<Settled> ran;  // null when nobody waits
     };
 
     const std::function<void()> m_wake;

@@ -1,7 +1,6 @@
 // Found items that a scan left behind when it led back to the screen before: the way to them, and the
 // question before another scan takes their place.
-#include <QLocale>
-
+#include "results/SizeForPeople.h"
 #include "window/MyTableController.h"
 #include "window/widgets/Alerts.h"
 
@@ -27,7 +26,7 @@ void MyTableController::showLeftItemsBar() {
     leftItemsLabel->setText((found == 1
                                  ? tr("1 item was found before the medium could no longer be opened.")
                                  : tr("%1 items were found before the medium could no longer be opened.")
-                                       .arg(QLocale().toString(found))) +
+                                       .arg(numberForPeople(static_cast<std::uint64_t>(found)))) +
                             u' ' + tr("The list is kept until you search again or go back."));
 }
 

@@ -28,6 +28,7 @@ MyTableController::MyTableController(ProgramParts parts)
     : MediaList(*parts.media), ScanSession(static_cast<ScanView&>(*this)), m_parts(std::move(parts)) {
     Recovery_MODE = kPhotoMode;
     m_previewFolder = previewFolder(m_parts.resourcesFolder);
+    m_previewHold = PreviewFolderHold(m_previewFolder);
     setMediumOpener(m_parts.openMedium);
     setThumbnailer(m_parts.thumbnailer);
     if (m_parts.thumbnailer) {

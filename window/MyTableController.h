@@ -18,7 +18,7 @@
 //   Movie                       window/MoviePreview.cpp
 //   Saving                      window/Saving.cpp
 //   Fields with given names
-//   What a scan shows           window/ScanScreen.cpp
+//   What a scan shows           window/ScanScreen.cpp, window/SearchEndBar.cpp
 //   Steps behind these, file by file, and the fields of our own
 #pragma once
 
@@ -45,11 +45,13 @@
 #include "window/ScanTimer.h"
 #include "window/WindowPanels.h"
 #include "window/browser/BrowserLooks.h"
+#include "window/browser/EmptyWords.h"
 #include "window/browser/FileTypeIcons.h"
 #include "window/browser/ImageBrowserModel.h"
 #include "window/browser/PendingView.h"
 #include "window/panels/RangePanel.h"
 #include "window/preview/FileManager.h"
+#include "window/preview/PreviewFile.h"
 #include "window/saving/SavingDesk.h"
 #include "window/widgets/TableAdapter.h"
 
@@ -329,8 +331,14 @@ class MyTableController : public QObject,
     // window/FileTypeScreen.cpp
     void buildGroupBoxes();
     void filterFileTypes(const QString& text);
+    void showEmptyTypes(const QString& filter);
     void tickGroup(int kind, bool ticked);
     void showTypeCounts();
+    // window/SearchEndBar.cpp
+    void showSearchEnd();
+    PanelWords endPanelWords(const PanelWords& drawn) const;
+    SearchWish searchWish() const;
+    void showEmptyResults();
     // window/ScanThreads.cpp
     void startScan(void (ScanSession::*driver)());
     void pump();
@@ -368,6 +376,7 @@ class MyTableController : public QObject,
     TableAdapter* m_resultTable = nullptr;
     QList<QCheckBox*> m_groupBoxes;  // by FileKind
     QString m_previewFolder;
+    PreviewFolderHold m_previewHold;
     FileTypeIcons m_icons;                           // prepared before a scan, read by it
     QList<QMetaObject::Connection> m_notifications;  // gone after a refused exit
     int m_clickedColumn = -1;                        // of the last click in a table
@@ -393,6 +402,7 @@ class MyTableController : public QObject,
     ScanMeter m_meter;
     double m_progressSectors = 0;
     bool m_draining = false;
+    bool m_searchEnded = false;   // and its results are in view
     QList<ResultRow> m_leftRows;  // only when it fell back to the screen before
 
     // Begin anew with every scan; the first to go, since they ask the others.

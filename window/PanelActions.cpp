@@ -1,5 +1,7 @@
 // The destination folder and the help window.
 
+#include <QFileInfo>
+
 #include "window/MyTableController.h"
 #include "window/widgets/Alerts.h"
 
@@ -90,9 +92,13 @@ QString MyTableController::askDestination() {
 }
 
 void MyTableController::openDestination() {
-    if (!pathInView()->text().isEmpty()) {
-        m_parts.openDocument(pathInView()->text());
+    const QString folder = pathInView()->text();
+    if (folder.isEmpty() || (QFileInfo(folder).isDir() && m_parts.openDocument(folder))) {
+        return;
     }
+    const QString why = QFileInfo(folder).isDir() ? tr("This desktop has no program that shows folders.")
+                                                  : tr("It is not there any more.");
+    runAlert({QStringLiteral("\n") + tr("The folder could not be opened."), why + u'\n' + folder}, window);
 }
 
 void MyTableController::Help_btn(QObject*) {

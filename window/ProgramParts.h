@@ -17,6 +17,8 @@ namespace vantor {
 struct ProgramParts {
     std::shared_ptr<MediaSource> media;
     MediumOpener openMedium;
+    // Why it could not open the medium when it was last asked, and what helps; "" when that is not known.
+    std::function<QString()> whyNotOpened;
     // To examine found items while others read the medium; none: nothing is examined.
     MediumOpener openBeside;
     Thumbnailer thumbnailer;
@@ -29,7 +31,7 @@ struct ProgramParts {
     std::function<bool(const QString& folder, const QString& devicePath)> isOnMedium;
     // Bytes that may still be written into the folder; nothing when that is not known.
     std::function<std::optional<std::uint64_t>(const QString& folder)> freeBytes = freeBytesAt;
-    // Shows a document or a folder in its default application.
+    // Shows a document or a folder in its default application; false when there is none.
     std::function<bool(const QString& path)> openDocument;
     // Ends the program.
     std::function<void()> terminate;

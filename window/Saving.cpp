@@ -77,7 +77,7 @@ ReportHead MyTableController::reportHead() const {
     head.sectors = _sectors_val->text().toULongLong();
     head.mode = wordsForMode(Recovery_MODE);
     head.begun = m_scanBegun;
-    head.searchEnded = !scanRunning() && lastOutcome() == PassOutcome::Completed;
+    head.searchEnd = scanRunning() ? tr("It goes on.") : searchEndHeadline(searchEnd());
     return head;
 }
 

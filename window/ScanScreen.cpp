@@ -4,7 +4,6 @@
 #include "catalogue/FileKind.h"
 #include "window/MyTableController.h"
 #include "window/widgets/Alerts.h"
-#include "window/widgets/Theme.h"
 
 namespace vantor {
 
@@ -81,7 +80,7 @@ void MyTableController::showHelpInfo(const QString& text) {
 void MyTableController::setProgressRange(std::uint64_t sectors) {
     later([this, sectors] {
         m_progressSectors = static_cast<double>(sectors);
-        m_meter.begin(sectors);
+        m_meter.begin(sectors, sectorsOfLaterPasses());
     });
 }
 
@@ -179,6 +178,7 @@ void MyTableController::returnFromScanScreen(ControlSet set) {
             show_hide_3_screen_RawFile(false);
         }
         _open_folder->hide();
+        showSearchEnd();  // the alert says only that it failed
     });
 }
 
@@ -192,17 +192,16 @@ void MyTableController::hideScanProgress() {
         pFile_op->flush();
         pFile_op.reset();
     }
-    imageBrowser->setEmptyState(
-        ownIcon(QStringLiteral("mode-photo")), tr("No photos were found"),
-        tr("Go back and search the entire disk, or look for Video or Raw File types."));
-    imageBrowser_2->setEmptyState(ownIcon(QStringLiteral("mode-files")), tr("Nothing was found"),
-                                  tr("Go back and select more file types, or search the entire disk."));
+    m_searchEnded = true;
+    showEmptyResults();
 }
 
 void MyTableController::runEndPanel(ControlSet set) {
     if (set == ControlSet::Photo) {
+        m_panels->saveFileInfo.setWords(endPanelWords(m_panels->photoEnd));
         runModalForWindow(SaveFile_Info_Window);
     } else {
+        m_panels->saveFileInfoForRaw.setWords(endPanelWords(m_panels->rawEnd));
         runModalForWindow(SaveFile_Info_For_RAW_Window);
     }
 }
@@ -213,6 +212,7 @@ void MyTableController::showResultControls(ControlSet set) {
     _zoom_slider->setVisible(photo);
     (photo ? _open_folder : _open_folder_Sig)->show();
     browserOf(set)->setFocus();
+    showSearchEnd();
     showItemCounts();
 }
 

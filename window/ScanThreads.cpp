@@ -15,8 +15,10 @@ constexpr std::chrono::milliseconds kLastScanPatience{5000};
 
 void MyTableController::startScan(void (ScanSession::*driver)()) {
     prepareIcons();
-    setEmptyStates();
+    m_searchEnded = false;
+    searchEndBar->hide();
     m_inputs = readInputs();
+    showEmptyResults();
     if (m_thumbnails) {
         m_thumbnails->cancel();
         m_thumbnails->resume();

@@ -61,6 +61,7 @@ void MyTableController::setMode(int mode) {
 }
 
 void MyTableController::Next_btn(QObject*) {
+    searchEndBar->setVisible(searchEndBar->isVisible() && onScanScreen());
     switch (screen_counter) {
         case 0:
             nextFromMedia();
@@ -153,6 +154,7 @@ void MyTableController::Back_btn(QObject*) {
                                               tr("Go Back Without Saving"))) {
         return;
     }
+    searchEndBar->hide();
     switch (screen_counter) {
         case 1:
             backToMedia();

@@ -1,8 +1,8 @@
 // Loading of the interface and the set-up once it is loaded.
 #include <QHeaderView>
-#include <QLocale>
 
 #include "results/RecoveryMode.h"
+#include "results/SizeForPeople.h"
 #include "window/MyTableController.h"
 #include "window/ProgramTitle.h"
 #include "window/widgets/AccessibleControls.h"
@@ -33,7 +33,7 @@ void giveSpareWidthTo(ListTable* table, int column) {
 QString groupedDigits(const QVariant& value) {
     bool isNumber = false;
     const qulonglong number = value.toString().toULongLong(&isNumber);
-    return isNumber ? QLocale().toString(number) : value.toString();
+    return isNumber ? numberForPeople(number) : value.toString();
 }
 
 }  // namespace
@@ -173,14 +173,8 @@ void MyTableController::setEmptyStates() {
         ownIcon(QStringLiteral("drive")), tr("No storage media found"),
         tr("Insert the memory card or connect its reader and press Refresh, or open an image "
            "file of a medium. You can also drop an image file here."));
-    idCheckTableView->setEmptyState(
-        ownIcon(QStringLiteral("type-other")), tr("No file types"),
-        tr("The catalogue of file types could not be read. Install the program again."));
-    idSigTableView->setEmptyState({}, tr("No types"), tr("Go back and tick the types to search for."));
-    imageBrowser->setEmptyState(ownIcon(QStringLiteral("mode-photo")), tr("No photos found yet"),
-                                tr("They appear here as the search goes on."));
-    imageBrowser_2->setEmptyState(ownIcon(QStringLiteral("mode-files")), tr("Nothing found yet"),
-                                  tr("Items appear here as the search goes on."));
+    showEmptyTypes({});
+    showEmptyResults();
 }
 
 void MyTableController::awakeFromNib() {

@@ -1,8 +1,8 @@
 // One set of data-source operations serves the three tables.
 
 #include "media/MyDataObject.h"
+#include "scan/PlatformException.h"
 #include "window/MyTableController.h"
-#include "window/PlatformException.h"
 
 namespace vantor {
 

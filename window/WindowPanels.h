@@ -17,7 +17,9 @@ struct WindowPanels {
           clearPreview(window),
           loadDrive(window),
           help(window, resourcesFolder, openDocument),
-          savingOptions(window) {}
+          savingOptions(window),
+          photoEnd(saveFileInfo.words()),
+          rawEnd(saveFileInfoForRaw.words()) {}
 
     Browse_Info browseInfo;
     SaveFile_Info saveFileInfo;
@@ -26,6 +28,9 @@ struct WindowPanels {
     LoadDrive_Modeless loadDrive;
     Help_Support help;
     SavingOptions savingOptions;
+
+    // What the panels at the end of a search say of its results, as they were drawn.
+    PanelWords photoEnd, rawEnd;
 };
 
 }  // namespace vantor

@@ -1,8 +1,6 @@
 // The program with its window.
 #include <QApplication>
-#include <QDesktopServices>
 #include <QScreen>
-#include <QUrl>
 #include <atomic>
 #include <cstdlib>
 
@@ -14,6 +12,7 @@
 #include "window/ProgramTitle.h"
 #include "window/preview/FilePreviewer.h"
 #include "window/preview/SoundMovie.h"
+#include "window/widgets/OpenDocument.h"
 #include "window/widgets/Theme.h"
 
 namespace {
@@ -29,10 +28,13 @@ ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTable
                            const std::shared_ptr<const std::atomic<bool>>& leaving) {
     ProgramParts parts;
     parts.media = makePlatformMediaSource();
-    parts.openMedium = makeMediumOpener(*parts.media, [controller] {
+    const auto refusal = std::make_shared<LastRefusal>();
+    const auto stopped = [controller] {
         const MyTableController* const running = controller->load();
         return running != nullptr && running->stop_now == 1;
-    });
+    };
+    parts.openMedium = makeMediumOpener(*parts.media, stopped, refusal);
+    parts.whyNotOpened = [refusal] { return wordsForRefusal(refusal->get()); };
     // What a scan is told to stop is no word for those who read beside it.
     parts.openBeside = makeMediumOpener(*parts.media, [leaving] { return leaving->load(); });
     const auto pool = std::make_shared<DecodePool>();
@@ -48,9 +50,7 @@ ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTable
         const auto target = targets->find(devicePath.mid(QStringLiteral("/dev/r").size()));
         return target && destinationIsOnMedium(folder, target->path);
     };
-    parts.openDocument = [](const QString& path) {
-        return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
-    };
+    parts.openDocument = [](const QString& path) { return openInDesktop(path); };
     parts.terminate = [] { QCoreApplication::exit(0); };
     return parts;
 }

@@ -235,13 +235,41 @@ TEST(Command, RefusedTypesLeaveNoFolderBehind) {
     EXPECT_FALSE(QFile::exists(folder.filePath("out")));
 }
 
+TEST(Command, MediumThatIsNotThereIsToldAsTyped) {
+    const CommandRun run = runCommand({"nosuch.img"});
+    EXPECT_EQ(run.exitCode, 5);
+    EXPECT_TRUE(run.err.contains("“nosuch.img” is neither a file nor a storage medium of this machine."))
+        << run.err.constData();
+    EXPECT_FALSE(run.err.contains("/dev/nosuch")) << run.err.constData();
+}
+
+TEST(Command, CompletedSearchSaysNothingOfItsEnd) {
+    const QTemporaryDir folder;
+    const CommandRun run =
+        runCommand({"--catalogue", writeCatalogues(folder, record("JPG", "FFD8FFE0")), writeImage(folder)});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.err, "");
+}
+
+TEST(Command, TableHasTheUnitsAndSeparatorsOfTheWindow) {
+    const QTemporaryDir folder;
+    const QString image = writeImage(folder, "card.img", 4000);
+    const CommandRun run = runCommand(
+        {"--no-thorough", "--catalogue", writeCatalogues(folder, record("JPG", "FFD8FFE0")), image});
+    EXPECT_TRUE(run.out.contains("sectors 4 to 40  18.4 kB\n")) << run.out.constData();
+    EXPECT_TRUE(run.out.contains("sectors 40 to 4,000  2.0 MB\n")) << run.out.constData();
+    EXPECT_TRUE(run.out.contains("2 found: 2 JPG\n")) << run.out.constData();
+}
+
 TEST(Command, EmptyImageIsAReadError) {
     const QTemporaryDir folder;
     QFile empty(folder.filePath("empty.img"));
     ASSERT_TRUE(empty.open(QIODevice::WriteOnly));
     empty.write("less than a sector");
     empty.close();
-    EXPECT_EQ(runCommand({empty.fileName()}).exitCode, 4);
+    const CommandRun run = runCommand({empty.fileName()});
+    EXPECT_EQ(run.exitCode, 4);
+    EXPECT_TRUE(run.err.contains(("“" + empty.fileName() + "” is empty").toUtf8())) << run.err.constData();
 }
 
 TEST(Command, DestinationThatCannotBeMade) {
@@ -274,9 +302,12 @@ TEST_P(CommandStopped, PublishesAndSavesWhatWasFound) {
     EXPECT_EQ(process.exitCode(), 3);
     CommandRun run;
     run.out = process.readAllStandardOutput();
+    run.err = process.readAllStandardError();
     const auto lines = run.json();
     ASSERT_EQ(lines.size(), 3);
     EXPECT_EQ(lines.last()["end"], "stopped");
+    EXPECT_TRUE(run.err.contains("The search was stopped at ")) << run.err.constData();
+    EXPECT_TRUE(run.err.contains("To go on from there: --range 40:8589934592\n")) << run.err.constData();
     EXPECT_EQ(filesUnder(folder.filePath("out")), QStringList({"JPG/GND00001.JPG", "JPG/GND00002.JPG"}));
 }
 

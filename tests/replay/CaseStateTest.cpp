@@ -8,6 +8,7 @@
 #include <QJsonObject>
 
 #include "catalogue/NumberText.h"
+#include "tests/support/ReadAheadMedium.h"
 #include "tests/support/TestSession.h"
 
 namespace vantor {
@@ -45,11 +46,15 @@ ScriptedMedium mediumOf(const QString& imagePath, const QJsonObject& faults) {
     return medium;
 }
 
+// How the sectors come to the scan.
+enum class Reading { OneByOne, Ahead };
+
 // A run of one case: its choices made, its stop request set up.
 class CaseRun {
   public:
-    CaseRun(const QString& folder, const QJsonObject& params)
+    CaseRun(const QString& folder, const QJsonObject& params, Reading reading)
         : m_params(params),
+          m_reading(reading),
           m_medium(
               mediumOf(folder + QStringLiteral("/image.bin"), params[QStringLiteral("faults")].toObject())),
           session(m_medium) {
@@ -95,6 +100,9 @@ class CaseRun {
         if (inStoppedPass() && session.start_sector == stopIndex()) {
             session.stop_now = 1;
         }
+        if (m_reading == Reading::Ahead) {
+            return openReadAhead(m_medium);
+        }
         return std::make_unique<ScriptedReader>(m_medium);
     }
 
@@ -107,6 +115,7 @@ class CaseRun {
     }
 
     QJsonObject m_params;
+    Reading m_reading;
     ScriptedMedium m_medium;
     int m_openings = 0;
 
@@ -195,14 +204,17 @@ void expectFinalState(const TestSession& session, const QJsonObject& expected) {
               asText(expected[QStringLiteral("label")].toArray()));
 }
 
+class ScanCases : public testing::TestWithParam<Reading> {};
+
 }  // namespace
 
-TEST(ScanCases, LeaveTheSessionAsExpected) {
+TEST_P(ScanCases, LeaveTheSessionAsExpected) {
     const QStringList names = casesFolder().entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
     if (names.isEmpty()) {
         GTEST_SKIP() << "no cases here";
     }
     int checked = 0;
+    const std::uint64_t passedOverBefore = HookedReader::passedOver();
     for (const QString& name : names) {
         const QString folder = casesFolder().filePath(name);
         if (QFile::exists(folder + QStringLiteral("/image.recipe.json")) ||
@@ -215,7 +227,7 @@ TEST(ScanCases, LeaveTheSessionAsExpected) {
         SCOPED_TRACE(name.toStdString() + " " + params[QStringLiteral("title")].toString().toStdString());
         ASSERT_FALSE(expected.isEmpty());
 
-        CaseRun run(folder, params);
+        CaseRun run(folder, params, GetParam());
         run.run();
         const bool photo = params[QStringLiteral("mode")].toString() == u"photo";
         EXPECT_EQ(
@@ -235,6 +247,13 @@ TEST(ScanCases, LeaveTheSessionAsExpected) {
         ++checked;
     }
     EXPECT_GT(checked, 0);
+    EXPECT_EQ(HookedReader::passedOver() > passedOverBefore, GetParam() == Reading::Ahead)
+        << "whether the cases get to the screen";
 }
+
+INSTANTIATE_TEST_SUITE_P(Readings, ScanCases, testing::Values(Reading::OneByOne, Reading::Ahead),
+                         [](const auto& reading) {
+                             return std::string(reading.param == Reading::Ahead ? "ReadAhead" : "OneByOne");
+                         });
 
 }  // namespace vantor

@@ -4,6 +4,9 @@
 // --test-stop PASS:INDEX            the stop request stands when that pass is about to read the sector
 // --test-read-fault SECTOR:always|K every read, or the first K reads, of the sector fail
 // --test-seek-fail                  the repositioning after a failed read fails
+//
+// With VANTOR_REPLAY_AHEAD in the environment the image is read ahead and screened in small windows, which
+// changes nothing that is printed.
 #include <QCoreApplication>
 #include <QJsonDocument>
 #include <cstdio>
@@ -11,14 +14,18 @@
 #include "catalogue/NumberText.h"
 #include "cli/CliSession.h"
 #include "cli/Options.h"
+#include "media/ImageFile.h"
 #include "media/RawDevice.h"
-#include "tests/replay/HookedReader.h"
+#include "tests/support/HookedReader.h"
+#include "tests/support/ReadAheadMedium.h"
 
 namespace vantor {
 namespace {
 
 struct Hooks {
-    std::shared_ptr<ReadFaults> faults = std::make_shared<ReadFaults>();
+    std::set<std::uint64_t> always;
+    std::map<std::uint64_t, int> transient;
+    bool seekAfterFailureFails = false;
     QString stopPass;
     std::uint64_t stopIndex = 0;
 };
@@ -30,7 +37,7 @@ Hooks takeHooks(QStringList& arguments) {
     for (qsizetype i = 0; i < arguments.size(); ++i) {
         const QString& argument = arguments.at(i);
         if (argument == u"--test-seek-fail") {
-            hooks.faults->seekAfterFailureFails = true;
+            hooks.seekAfterFailureFails = true;
         } else if (argument == u"--test-stop" && i + 1 < arguments.size()) {
             const QStringList parts = arguments.at(++i).split(u':');
             hooks.stopPass = parts.value(0);
@@ -39,9 +46,9 @@ Hooks takeHooks(QStringList& arguments) {
             const QStringList parts = arguments.at(++i).split(u':');
             const auto sector = static_cast<std::uint64_t>(textToInt64(parts.value(0)));
             if (parts.value(1) == u"always") {
-                hooks.faults->always.insert(sector);
+                hooks.always.insert(sector);
             } else {
-                hooks.faults->transient[sector] = textToInt32(parts.value(1));
+                hooks.transient[sector] = textToInt32(parts.value(1));
             }
         } else {
             rest.append(argument);
@@ -62,18 +69,31 @@ class ReplayOpener {
 
     std::unique_ptr<SectorReader> open() {
         const QString pass = m_openings++ == 0 ? QStringLiteral("GEN") : QStringLiteral("THD");
-        auto inner = openMedium(m_image);
-        if (!inner) {
-            return nullptr;
-        }
-        auto reader = std::make_unique<HookedReader>(std::move(inner), m_hooks.faults, m_scanOver);
-        if (!m_scanOver && pass == m_hooks.stopPass) {
+        auto reader = m_scanOver || !m_ahead ? openBeside() : openAhead();
+        if (reader && !m_scanOver && pass == m_hooks.stopPass) {
             requestStopAt(*reader);
         }
         return reader;
     }
 
   private:
+    std::unique_ptr<HookedReader> openBeside() {
+        auto inner = openMedium(m_image);
+        if (!inner) {
+            return nullptr;
+        }
+        return std::make_unique<HookedReader>(
+            std::move(inner), m_scanOver ? ReadFaults{&m_hooks.always, nullptr, false} : faults(),
+            HookedReader::Screen::Kept);
+    }
+
+    std::unique_ptr<HookedReader> openAhead() {
+        auto image = ImageFile::open(imageParts(m_image));
+        return image ? openReadAhead(std::move(image), faults()) : nullptr;
+    }
+
+    ReadFaults faults() { return {&m_hooks.always, &m_hooks.transient, m_hooks.seekAfterFailureFails}; }
+
     void requestStopAt(HookedReader& reader) {
         const std::uint64_t start = m_session.start_sector;
         if (m_hooks.stopIndex < start || m_hooks.stopIndex >= m_session.end_sector) {
@@ -84,12 +104,17 @@ class ReplayOpener {
             return;
         }
         // The request made while the sector before is read is seen before the sector itself.
-        reader.beforeRead(m_hooks.stopIndex - start - 1, [this] { m_session.stop_now = 1; });
+        reader.beforeRead([this, last = m_hooks.stopIndex - start - 1](std::uint64_t reads) {
+            if (reads == last) {
+                m_session.stop_now = 1;
+            }
+        });
     }
 
     CliSession& m_session;
     QString m_image;
     Hooks m_hooks;
+    const bool m_ahead = qEnvironmentVariableIsSet("VANTOR_REPLAY_AHEAD");
     int m_openings = 0;
     bool m_scanOver = false;
 };

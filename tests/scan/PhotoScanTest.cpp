@@ -1,7 +1,10 @@
 // The photo scan over scripted media: items, limits, faults, ends.
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 #include "scan/PhotoItemBuffer.h"
+#include "scan/PlatformException.h"
 #include "tests/support/TestSession.h"
 
 namespace vantor {
@@ -203,6 +206,21 @@ TEST(PhotoScan, NamesBeginAnewWithEachPassAndUidsRunOn) {
     EXPECT_EQ(session.GND_Image_number, 4U);
 }
 
+TEST(PhotoScan, ThoroughUidsRunOnFromScanToScan) {
+    ScriptedMedium medium = dataMedium(6);
+    medium.put(1, "\xFF\xD8").put(2, std::string_view("II*\0", 4)).put(3, std::string_view("II*\0", 4));
+    TestSession session(medium);
+    session.Ext_Array = kJpegAndPng;
+    session.Adv_Ext_Array = recordsOf({{"TIF", "49492A00"}});
+    session.Photo_Rec_Thread();
+    session.Photo_Rec_Thread();
+    EXPECT_EQ(session.names(), QStringList({"GND00001.JPG", "THD00001.TIF", "THD00002.TIF"}));
+    EXPECT_EQ(session.itemAt(0)->imageUID(), "GND00002.JPG");
+    EXPECT_EQ(session.itemAt(1)->imageUID(), "THD00003.TIF");
+    EXPECT_EQ(session.itemAt(2)->imageUID(), "THD00004.TIF");
+    EXPECT_EQ(session.THD_Image_number, 4U);
+}
+
 TEST(PhotoScan, TypeCountersCountFromMinusOne) {
     ScriptedMedium medium = dataMedium(6);
     medium.put(1, "\xFF\xD8").put(2, "\xFF\xD8").put(3, "\x89PNG");
@@ -299,6 +317,54 @@ TEST(PhotoScan, MediumThatCannotBeOpenedForTheThoroughPassLeavesTheControlsUsabl
     EXPECT_EQ(session.log.filter("options").last(), "options on");
     EXPECT_EQ(session.lastOutcome(), PassOutcome::OpenError);
     EXPECT_EQ(session.endPanels, 0);
+}
+
+TEST(PhotoScan, PlatformExceptionEndsThePassAsTheEndOfTheRangeDoes) {
+    ScriptedMedium medium = dataMedium(20);
+    medium.put(2, "\xFF\xD8").put(5, "\x89PNG");
+    TestSession session(medium);
+    session.Ext_Array = kJpegAndPng;
+    int reloads = 0;
+    session.onNote = [&reloads](const QString& line) {
+        if (line == u"reload photo browser" && ++reloads == 1) {
+            throw PlatformException("the browser is gone");
+        }
+    };
+    EXPECT_TRUE(session.Photo_Recovey_Mode("GEN")) << "the last read succeeded";
+    EXPECT_EQ(session.lastOutcome(), PassOutcome::Completed);
+    EXPECT_EQ(session.for_index, 6U);
+    EXPECT_EQ(session.names(), QStringList({"GND00001.JPG", "GND00001.JPG"}))
+        << "handed over once more, as it stands";
+    EXPECT_EQ(session.pFile_Disk, nullptr);
+    EXPECT_TRUE(session.alerts.isEmpty());
+}
+
+TEST(PhotoScan, PlatformExceptionWhileThePassIsPreparedEndsItWithoutARead) {
+    ScriptedMedium medium = dataMedium(20);
+    TestSession session(medium);
+    session.Ext_Array = kJpegAndPng;
+    session.onNote = [&session](const QString& line) {
+        if (line.startsWith(u"sectors") && session.sectorLabels.size() == 2) {
+            throw PlatformException("no label");
+        }
+    };
+    EXPECT_FALSE(session.Photo_Recovey_Mode("GEN"));
+    EXPECT_EQ(medium.reads, 0U);
+    EXPECT_EQ(session.lastOutcome(), PassOutcome::ReadError);
+    EXPECT_EQ(session.alerts, QStringList{kReadError});
+}
+
+TEST(PhotoScan, OtherExceptionsAreTheCallers) {
+    ScriptedMedium medium = dataMedium(20);
+    medium.put(2, "\xFF\xD8").put(5, "\x89PNG");
+    TestSession session(medium);
+    session.Ext_Array = kJpegAndPng;
+    session.onNote = [](const QString& line) {
+        if (line == u"reload photo browser") {
+            throw std::logic_error("not the platform's");
+        }
+    };
+    EXPECT_THROW(session.Photo_Recovey_Mode("GEN"), std::logic_error);
 }
 
 TEST(PhotoScan, StopHandsTheOpenItemOverAndShowsTheEndOnce) {

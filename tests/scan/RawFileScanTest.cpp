@@ -1,6 +1,9 @@
 // The raw file scan over scripted media: open items, companions, the 18 MiB limit, faults, ends.
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
+#include "scan/PlatformException.h"
 #include "tests/support/TestSession.h"
 
 namespace vantor {
@@ -81,6 +84,25 @@ TEST(RawScan, HeaderExactlyAtTheLimitOpensANewItem) {
     session.choose(recordsOf({{"PDF", "25504446"}}));
     session.Raw_File_Recovey_Mode("GEN");
     EXPECT_EQ(published(session), QStringList({"PDF00001.PDF 2-36866", "PDF00002.PDF 36866-36870"}));
+}
+
+TEST(RawScan, ItemBehindAnotherHasTheWholeLimitForItself) {
+    ScriptedMedium medium(36864 + 200);
+    medium.put(2, "%PDF").put(100, "%PDF");
+    TestSession session(medium);
+    session.choose(recordsOf({{"PDF", "25504446"}}));
+    session.Raw_File_Recovey_Mode("GEN");
+    EXPECT_EQ(published(session), QStringList({"PDF00001.PDF 2-101", "PDF00002.PDF 100-36964"}));
+}
+
+TEST(RawScan, WithoutARowOfItsTypeAnItemIsNumberedByThePass) {
+    ScriptedMedium medium = dataMedium(12);
+    medium.put(2, "%PDF").put(5, "PK\x03\x04").put(8, "%PDF");
+    TestSession session(medium);
+    session.choose(recordsOf({{"PDF", "25504446"}, {"ZIP", "504B0304"}}));
+    session.nsSIGFileInfoDataObject.clear();
+    session.Raw_File_Recovey_Mode("GEN");
+    EXPECT_EQ(published(session), QStringList({"PDF00001.PDF 2-6", "ZIP00002.ZIP 5-9", "PDF00003.PDF 8-12"}));
 }
 
 TEST(RawScan, CatalogueLimitIsNotUsed) {
@@ -192,6 +214,63 @@ TEST(RawScan, MediumThatCannotBeOpened) {
                                                "alert: " + kReadError}));
     EXPECT_EQ(session.endPanels, 0) << "the driver sees that the end was shown";
     EXPECT_EQ(session.addedItemCount(), 0U);
+}
+
+TEST(RawScan, MediumThatCannotBeOpenedForTheThoroughPassSetsTheCountOfAddedItemsBack) {
+    ScriptedMedium medium = dataMedium(6);
+    medium.put(1, "%PDF");
+    TestSession session(medium);
+    session.choose(recordsOf({{"PDF", "25504446"}}), recordsOf({{"TIF", "49492A00"}}));
+    session.openingsThatSucceed = 1;
+    session.Raw_File_Rec_Thread();
+    EXPECT_EQ(session.lastOutcome(), PassOutcome::OpenError);
+    EXPECT_EQ(session.names(), QStringList{"PDF00001.PDF"}) << "what was found stays";
+    EXPECT_EQ(session.addedItemCount(), 0U);
+}
+
+TEST(RawScan, PlatformExceptionEndsThePassWithoutItsOpenItems) {
+    ScriptedMedium medium = dataMedium(12);
+    medium.put(2, "%PDF").put(6, "PK\x03\x04");
+    TestSession session(medium);
+    session.choose(recordsOf({{"PDF", "25504446"}, {"ZIP", "504B0304"}}));
+    session.onNote = [](const QString& line) {
+        if (line == u"icon: PDF") {
+            throw PlatformException("no icon");
+        }
+    };
+    EXPECT_TRUE(session.Raw_File_Recovey_Mode("GEN")) << "the last read succeeded";
+    EXPECT_EQ(session.lastOutcome(), PassOutcome::Completed);
+    EXPECT_EQ(session.for_index, 7U);
+    EXPECT_TRUE(session.names().isEmpty());
+    EXPECT_TRUE(session.MultiHeader_Array.isEmpty());
+    EXPECT_EQ(session.pFile_Disk, nullptr);
+    EXPECT_TRUE(session.alerts.isEmpty());
+}
+
+TEST(RawScan, OtherExceptionsAreTheCallers) {
+    ScriptedMedium medium = dataMedium(12);
+    medium.put(2, "%PDF").put(6, "%PDF");
+    TestSession session(medium);
+    session.choose(recordsOf({{"PDF", "25504446"}}));
+    session.onNote = [](const QString& line) {
+        if (line == u"icon: PDF") {
+            throw std::logic_error("not the platform's");
+        }
+    };
+    EXPECT_THROW(session.Raw_File_Recovey_Mode("GEN"), std::logic_error);
+}
+
+TEST(RawScan, WritesNothingToTheTerminal) {
+    ScriptedMedium medium = dataMedium(8);
+    medium.put(1, "%PDF").put(4, std::string_view("II*\0", 4));
+    TestSession session(medium);
+    session.choose(recordsOf({{"PDF", "25504446"}}), recordsOf({{"TIF", "49492A00"}}));
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    session.Raw_File_Rec_Thread();
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "");
+    EXPECT_EQ(session.itemCount(), 2U) << "each of them was said to the log when it was opened";
 }
 
 TEST(RawScan, StepsOfAGeneralPassComeInOrder) {

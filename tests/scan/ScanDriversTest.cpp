@@ -1,6 +1,9 @@
 // Which passes run, what a tick shows, and that the end comes once.
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
+#include "scan/PlatformException.h"
 #include "tests/support/TestSession.h"
 
 namespace vantor {
@@ -57,6 +60,43 @@ TEST(ScanDrivers, FailedGeneralPassIsFollowedByTheEndScreenAlone) {
     session.Raw_File_Rec_Thread();
     EXPECT_EQ(session.openedPaths.size(), 1);
     EXPECT_EQ(session.endPanels, 1);
+}
+
+TEST(ScanDrivers, AfterTheGeneralPassTheCountersAreThoseOfTheThoroughTypes) {
+    ScriptedMedium medium = threeSectors();
+    TestSession session(medium);
+    session.choose(kPdf, recordsOf({{"TIF", "49492A00"}, {"GIF", "474946"}, {"TIF", "4D4D002A"}}));
+    session.openingsThatSucceed = 1;  // so that the thorough pass does not come to make them itself
+    session.Raw_File_Rec_Thread();
+    EXPECT_EQ(session.Fol_Cnt_Array, QVariantList({"TIF", -1LL, "TIF", "GIF", -1LL, "GIF"}));
+    EXPECT_EQ(session.REC_PROC_Array, session.CheckListHeader_Adv_Array);
+
+    session.choose(kPdf);
+    session.thorough = false;
+    session.openingsThatSucceed = 1;
+    session.Raw_File_Rec_Thread();
+    EXPECT_TRUE(session.Fol_Cnt_Array.isEmpty());
+}
+
+TEST(ScanDrivers, PlatformExceptionAtTheEndOfARawScanIsSwallowed) {
+    ScriptedMedium medium = threeSectors();
+    TestSession session(medium);
+    session.choose(kPdf);
+    session.onNote = [](const QString& line) {
+        if (line == u"raw end panel") {
+            throw PlatformException("no panel");
+        }
+    };
+    session.Raw_File_Rec_Thread();
+    EXPECT_EQ(session.endPanels, 1);
+    EXPECT_FALSE(session.log.contains("result controls"));
+
+    session.onNote = [](const QString& line) {
+        if (line == u"raw end panel") {
+            throw std::logic_error("not the platform's");
+        }
+    };
+    EXPECT_THROW(session.Raw_File_Rec_Thread(), std::logic_error);
 }
 
 TEST(ScanDrivers, ModalSessionPutsTheEndScreenOff) {

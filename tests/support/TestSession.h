@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QStringList>
+#include <functional>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -26,6 +27,7 @@ class RecordingView : public ScanView {
     std::vector<qsizetype> scrolls;
     std::vector<double> progress;
     int endPanels = 0;
+    std::function<void(const QString& line)> onNote;  // after every line of the log; may throw
 
     RangeControls rangeControls(ControlSet) const override { return controls; }
     bool thoroughBoxOn(ControlSet) const override { return thorough; }
@@ -68,7 +70,12 @@ class RecordingView : public ScanView {
     void enableAfterScan() override { note("enabled after scan"); }
 
   private:
-    void note(const QString& line) { log.append(line); }
+    void note(const QString& line) {
+        log.append(line);
+        if (onNote) {
+            onNote(line);
+        }
+    }
 };
 
 struct HandedOver {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <stdexcept>
 #include <thread>
 #include <vector>
 
@@ -33,6 +34,23 @@ TEST(InterfaceQueue, WhoWaitsIsReleasedAfterTheStep) {
     }
     scan.join();
     EXPECT_EQ(answer, 1);
+}
+
+TEST(InterfaceQueue, WhoWaitsIsThrownWhatTheStepThrew) {
+    InterfaceQueue queue;
+    std::atomic<bool> caught{false};
+    std::thread scan([&] {
+        try {
+            queue.runAndWait([] { throw std::runtime_error("raised there"); });
+        } catch (const std::runtime_error&) {
+            caught = true;
+        }
+    });
+    while (!queue.runOne()) {
+        std::this_thread::yield();
+    }
+    scan.join();
+    EXPECT_TRUE(caught);
 }
 
 TEST(InterfaceQueue, WhoWaitsWakesTheOtherSide_WhichFindsTheStep) {

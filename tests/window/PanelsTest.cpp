@@ -138,6 +138,48 @@ TEST_F(Panels, Help_OpensItsDocument) {
     EXPECT_FALSE(controller->HelpWindow->isVisible());
 }
 
+TEST_F(Panels, ADocumentThatNothingCanOpen_IsTold) {
+    QFile document(folder.filePath(QStringLiteral("Help.pdf")));
+    ASSERT_TRUE(document.open(QIODevice::WriteOnly));
+    parts.openDocument = [](const QString&) { return false; };
+    open();
+    answers.then([this](QDialog* help) {
+        answers.press(QStringLiteral("OK"));
+        QTest::mouseClick(help->findChild<QPushButton*>(QStringLiteral("_Help_File_Label")), Qt::LeftButton);
+        EXPECT_TRUE(help->isVisible());
+        pressButton(help, QStringLiteral("Continue"));
+    });
+    click(controller->helpButton);
+    ASSERT_EQ(answers.seen().size(), 2u);
+    EXPECT_EQ(answers.seen()[1].text, QStringLiteral("\nThe help document could not be opened."));
+    EXPECT_TRUE(answers.seen()[1].informative.endsWith(document.fileName()));
+}
+
+TEST_F(Panels, AFolderThatNothingCanOpen_IsTold) {
+    QTemporaryDir saved;
+    bool canOpen = true;
+    parts.openDocument = [&](const QString& path) {
+        documentsOpened.append(path);
+        return canOpen;
+    };
+    openWithCard();
+    toRange(kPhotoMode);
+    controller->_path->setText(saved.path());
+    scanToEnd();
+    click(controller->_open_folder);
+    EXPECT_EQ(documentsOpened, QStringList{saved.path()});
+    canOpen = false;
+    answers.press(QStringLiteral("OK"));
+    click(controller->_open_folder);
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\nThe folder could not be opened."));
+    EXPECT_TRUE(answers.seen().back().informative.startsWith("This desktop has no program"));
+    ASSERT_TRUE(saved.remove());
+    answers.press(QStringLiteral("OK"));
+    click(controller->_open_folder);
+    EXPECT_TRUE(answers.seen().back().informative.startsWith("It is not there any more."));
+    EXPECT_EQ(documentsOpened.size(), 2);
+}
+
 TEST_F(Panels, WithoutTheDocument_OneAlertAndTheHelpWindowStays) {
     open();
     answers.then([this](QDialog* help) {

@@ -48,7 +48,12 @@ void Help_Support::ContinuePressed(QObject*) {
 void Help_Support::HelpFilePressed(QObject*) {
     const QString document = m_resourcesFolder + QStringLiteral("/Help.pdf");
     if (QFileInfo::exists(document)) {
-        m_openDocument(document);
+        if (!m_openDocument(document)) {
+            runAlert({QStringLiteral("\n") + tr("The help document could not be opened."),
+                      tr("This desktop has no program that shows PDF documents. It lies here:") + u'\n' +
+                          document},
+                     window);
+        }
         return;
     }
     Show_MessageBox(QStringLiteral("Help file does not exist!"));

@@ -53,6 +53,20 @@ void Panel::awakeFromNib() {
     setCommonBackground(window);
 }
 
+PanelWords Panel::words() const {
+    return {{},
+            window->findChild<QLabel*>(QStringLiteral("panelHeading"))->text(),
+            window->findChild<QLabel*>(QStringLiteral("panelText"))->text()};
+}
+
+void Panel::setWords(const PanelWords& words) {
+    auto* const icon = window->findChild<QLabel*>(QStringLiteral("panelIcon"));
+    setPicture(icon, words.picture);
+    icon->setAccessibleName(words.heading);
+    window->findChild<QLabel*>(QStringLiteral("panelHeading"))->setText(words.heading);
+    window->findChild<QLabel*>(QStringLiteral("panelText"))->setText(words.text);
+}
+
 int runModalForWindow(QDialog* window) {
     window->setWindowModality(Qt::ApplicationModal);
     fitToWords(window);

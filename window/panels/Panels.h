@@ -3,6 +3,7 @@
 
 #include <QDialog>
 #include <QObject>
+#include <QString>
 #include <memory>
 
 namespace vantor {
@@ -14,6 +15,13 @@ inline constexpr int kButtonPressed = 1;
 // stopped with, 0 when the window was closed in another way.
 int runModalForWindow(QDialog* window);
 
+// What a panel says beside its buttons.
+struct PanelWords {
+    QString picture;  // name of an icon
+    QString heading;
+    QString text;
+};
+
 // What every panel does: it owns its window, gives it the common background and is its delegate. Interface
 // thread only.
 class Panel : public QObject {
@@ -24,6 +32,10 @@ class Panel : public QObject {
 
     // Called once the window is loaded.
     virtual void awakeFromNib();
+
+    // Of a panel that has a heading: what it says, and what it is to say from now on.
+    PanelWords words() const;
+    void setWords(const PanelWords& words);
 
     QDialog* window = nullptr;
 

@@ -1,6 +1,9 @@
 // The preview file's life: where it lies, how it is made, and how it goes.
 #include "window/preview/PreviewFile.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -61,6 +64,18 @@ QString previewFolder(const QString& resourcesFolder) {
     }
     QFile::setPermissions(own, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     return own;
+}
+
+// The lock goes with the process, however that ends; the folder itself bears it, so that nothing is left.
+PreviewFolderHold::PreviewFolderHold(const QString& folder)
+    : m_folder(::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+    if (!m_folder) {
+        return;
+    }
+    if (::flock(m_folder.get(), LOCK_EX | LOCK_NB) == 0) {
+        deletePreviewFiles(folder);
+    }
+    ::flock(m_folder.get(), LOCK_SH | LOCK_NB);
 }
 
 void deletePreviewFiles(const QString& folder) {

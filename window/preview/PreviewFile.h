@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 
+#include "media/FileDescriptor.h"
 #include "media/SectorReader.h"
 
 namespace vantor {
@@ -30,6 +31,17 @@ QString previewFilePath(const QString& folder, const QString& itemPath);
 // The resources folder when it can be written to, else a folder of the user's own for the running session
 // (0700); the resources folder when even that cannot be had.
 QString previewFolder(const QString& resourcesFolder);
+
+// Says that this process keeps its preview files in the folder, as long as it lives. Where no other live one
+// does, what killed ones left there is deleted first. Without the folder nothing is held.
+class PreviewFolderHold {
+  public:
+    PreviewFolderHold() = default;
+    explicit PreviewFolderHold(const QString& folder);
+
+  private:
+    FileDescriptor m_folder;
+};
 
 // Deletes every entry of the folder whose name without its extension is "dprv"; errors are ignored.
 void deletePreviewFiles(const QString& folder);

@@ -4,8 +4,8 @@
 #include <QDialog>
 #include <QEventLoop>
 #include <QKeyEvent>
-#include <QLocale>
 
+#include "results/SizeForPeople.h"
 #include "saving/SaveJob.h"
 #include "ui_SavingProgress.h"
 #include "window/widgets/Theme.h"
@@ -17,10 +17,6 @@ namespace {
 constexpr int kPollMilliseconds = 20;
 constexpr qint64 kCancelPatience = 1000;  // milliseconds
 constexpr int kBarSteps = 1000;
-
-QString number(std::size_t count) {
-    return QLocale().toString(static_cast<qulonglong>(count));
-}
 
 }  // namespace
 
@@ -82,7 +78,8 @@ void SavingSheet::showProgress() {
     const SaveProgress progress = m_job->progress();
     m_meter.update(m_clock.elapsed(), progress.share);
     const std::size_t at = std::min(progress.done + 1, m_job->count());
-    m_ui->saveHeading->setText(tr("Saving %1 of %2").arg(number(at), number(m_job->count())));
+    m_ui->saveHeading->setText(
+        tr("Saving %1 of %2").arg(numberForPeople(at), numberForPeople(m_job->count())));
     m_ui->saveFileLabel->setText(m_ui->saveFileLabel->fontMetrics().elidedText(
         progress.current, Qt::ElideMiddle, m_ui->saveFileLabel->width()));
     const double share =

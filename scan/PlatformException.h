@@ -18,4 +18,15 @@ inline void assertParameter(bool holds, const char* condition) {
     }
 }
 
+// False when the step was ended by a platform exception, which goes no further; any other does.
+template <class Step>
+bool withoutPlatformException(const Step& step) {
+    try {
+        step();
+    } catch (const PlatformException&) {
+        return false;
+    }
+    return true;
+}
+
 }  // namespace vantor

@@ -1,0 +1,198 @@
+// What the results screens say of a search that has ended, and of lists that are empty.
+#include <QLabel>
+
+#include "results/RecoveryMode.h"
+#include "tests/window/Gate.h"
+#include "tests/window/WindowTest.h"
+#include "window/widgets/Theme.h"
+
+namespace vantor {
+namespace {
+
+QString emptyWordsOf(const QWidget* list) {
+    return list->accessibleDescription();
+}
+
+class SearchEndBar : public WindowTest {
+  protected:
+    void TearDown() override {
+        gate.open();
+        WindowTest::TearDown();
+    }
+
+    // Which picture a panel or the bar shows.
+    static bool isTick(const QLabel* icon) {
+        const QSize size = icon->pixmap().size();
+        return icon->pixmap().toImage() == ownIcon(QStringLiteral("ok")).pixmap(size).toImage();
+    }
+
+    // Answers the end panel and keeps what it said.
+    void readEndPanel() {
+        answers.then([this](QDialog* panel) {
+            heading = panel->findChild<QLabel*>(QStringLiteral("panelHeading"))->text();
+            text = panel->findChild<QLabel*>(QStringLiteral("panelText"))->text();
+            tick = isTick(panel->findChild<QLabel*>(QStringLiteral("panelIcon")));
+            pressButton(panel, QStringLiteral("OK"));
+        });
+    }
+
+    void runToEnd() {
+        readEndPanel();
+        click(controller->nextButton);
+        ASSERT_TRUE(scanEnds());
+    }
+
+    void withoutFinds() {
+        for (auto& sector : card.bytes) {
+            sector.fill(0x7A);
+        }
+    }
+
+    Gate gate;
+    QString heading, text;
+    bool tick = false;
+};
+
+TEST_F(SearchEndBar, ACompletedSearch_HasTheTick) {
+    openWithCard();
+    toRange(kPhotoMode);
+    runToEnd();
+    EXPECT_EQ(heading, "The search has completed.");
+    EXPECT_TRUE(tick);
+    EXPECT_TRUE(controller->searchEndBar->isVisible());
+    EXPECT_EQ(controller->searchEndLabel->text(), "The search has completed.");
+    EXPECT_TRUE(isTick(controller->searchEndIcon));
+    answers.press(QStringLiteral("Go Back Without Saving"));
+    click(controller->backButton);
+    EXPECT_FALSE(controller->searchEndBar->isVisible());
+}
+
+TEST_F(SearchEndBar, AStoppedSearch_SaysWhereAndHowToGoOn) {
+    openWithCard();
+    toFileTypes(kRawFileMode);
+    card.beforeRead = gate.atRead(46);
+    click(controller->nextButton);
+    ASSERT_TRUE(waitFor([this] { return gate.someoneWaits(); }));
+    click(controller->_stop_scan);
+    readEndPanel();
+    gate.open();
+    ASSERT_TRUE(scanEnds());
+    EXPECT_EQ(heading, "The search was stopped at 73 % (sector 47 of 64).");
+    EXPECT_FALSE(tick);
+    EXPECT_TRUE(text.endsWith("start at sector 28.")) << text.toStdString();
+    EXPECT_EQ(
+        controller->searchEndLabel->text(),
+        "The search was stopped at 73 % (sector 47 of 64). To go on from there, go back, choose “Sector "
+        "Range” and start at sector 28.");
+    EXPECT_FALSE(isTick(controller->searchEndIcon));
+}
+
+TEST_F(SearchEndBar, AReadError_SaysWhere) {
+    openWithCard();
+    card.badForEver = {62, 63};
+    toRange(kPhotoMode);
+    answers.press(QStringLiteral("OK"));
+    readEndPanel();
+    click(controller->nextButton);
+    ASSERT_TRUE(scanEnds());
+    EXPECT_EQ(heading, "The search ended with a read error at sector 62 of 64.");
+    EXPECT_FALSE(tick);
+}
+
+TEST_F(SearchEndBar, AMediumThatMayNotBeRead_IsToldBesideTheAlert) {
+    parts.whyNotOpened = [] { return QStringLiteral("You may not read this card. Ask for it."); };
+    openWithCard();
+    toRange(kPhotoMode);
+    refuseOpen = true;
+    answers.press(QStringLiteral("OK"));
+    click(controller->nextButton);
+    ASSERT_TRUE(scanEnds());
+    EXPECT_EQ(answers.seen().back().text, "\nError in storage media reading.");
+    EXPECT_EQ(controller->screen_counter, 1);
+    EXPECT_TRUE(controller->searchEndBar->isVisible());
+    EXPECT_EQ(controller->searchEndLabel->text(),
+              "The medium could not be opened. You may not read this card. Ask for it.");
+    refuseOpen = false;
+    runToEnd();
+    EXPECT_EQ(controller->searchEndLabel->text(), "The search has completed.");
+}
+
+TEST_F(SearchEndBar, TheBarIsGoneWhileASearchRuns) {
+    parts.whyNotOpened = [] { return QString(); };
+    openWithCard();
+    toRange(kPhotoMode);
+    refuseOpen = true;
+    answers.press(QStringLiteral("OK"));
+    click(controller->nextButton);
+    ASSERT_TRUE(scanEnds());
+    EXPECT_TRUE(controller->searchEndBar->isVisible());
+    refuseOpen = false;
+    card.beforeRead = gate.atRead(16);
+    click(controller->nextButton);
+    ASSERT_TRUE(waitFor([this] { return gate.someoneWaits(); }));
+    EXPECT_FALSE(controller->searchEndBar->isVisible());
+    answers.press(QStringLiteral("OK"));
+    gate.open();
+    EXPECT_TRUE(scanEnds());
+}
+
+TEST_F(SearchEndBar, AfterTheEntireDisk_ThatIsNotAdvised) {
+    withoutFinds();
+    openWithCard();
+    withoutFinds();
+    toRange(kPhotoMode);
+    runToEnd();
+    EXPECT_EQ(emptyWordsOf(controller->imageBrowser),
+              "No photos were found You can go back and look for Video or Raw File types.");
+    EXPECT_EQ(text, "No photos were found. You can go back and look for Video or Raw File types.");
+}
+
+TEST_F(SearchEndBar, AfterARange_TheEntireDiskIsAdvised) {
+    openWithCard();
+    toRange(kPhotoMode);
+    choose(controller->_sector_range_rd);
+    controller->_Start_slider_val->setText(QStringLiteral("30"));
+    controller->_End_slider_val->setText(QStringLiteral("38"));
+    runToEnd();
+    EXPECT_TRUE(emptyWordsOf(controller->imageBrowser).contains("search the entire disk"))
+        << emptyWordsOf(controller->imageBrowser).toStdString();
+}
+
+TEST_F(SearchEndBar, WhereTheChoiceHidesAll_TheWayToThemIsTold) {
+    openWithCard();
+    toRange(kPhotoMode);
+    runToEnd();
+    ASSERT_GT(controller->itemCount(), 0u);
+    controller->showBox->setCurrentIndex(
+        controller->showBox->findData(static_cast<int>(ShowItems::Unreadable)));
+    ASSERT_EQ(controller->imageBrowser->shownCount(), 0);
+    EXPECT_EQ(emptyWordsOf(controller->imageBrowser),
+              "None of the found items is of this kind Choose “All items” above to see all that was found: 3 "
+              "items.");
+}
+
+TEST_F(SearchEndBar, ATypeListThatIsOnlyFiltered_BlamesNoCatalogue) {
+    openWithCard();
+    toFileTypes(kRawFileMode);
+    controller->typeSearchField->setText(QStringLiteral("nosuchtype"));
+    const QString filtered = "No type matches Clear the search field to see all types.";
+    EXPECT_EQ(emptyWordsOf(controller->idCheckTableView), filtered);
+    runToEnd();
+    answers.press(QStringLiteral("Go Back Without Saving"));
+    click(controller->backButton);
+    ASSERT_EQ(controller->typeSearchField->text(), "nosuchtype");
+    EXPECT_EQ(emptyWordsOf(controller->idCheckTableView), filtered) << "after a search too";
+}
+
+TEST_F(SearchEndBar, AResultTableThatShowsFoundTypesOnly_SaysThatNoneWas) {
+    openWithCard();
+    withoutFinds();
+    toFileTypes(kRawFileMode);
+    runToEnd();
+    controller->foundTypesOnly->setChecked(true);
+    EXPECT_EQ(emptyWordsOf(controller->idSigTableView),
+              "None found Nothing of the types that you ticked was found.");
+}
+
+}  // namespace
+}  // namespace vantor

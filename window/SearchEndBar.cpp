@@ -1,0 +1,70 @@
+// How a search ended, beside its results, and what empty lists say.
+#include <algorithm>
+
+#include "window/MyTableController.h"
+#include "window/browser/EmptyWords.h"
+#include "window/widgets/Theme.h"
+
+namespace vantor {
+
+void MyTableController::showSearchEnd() {
+    const SearchEnd& end = searchEnd();
+    QStringList sentences{searchEndHeadline(end), searchEndAdvice(end)};
+    if (end.outcome == PassOutcome::OpenError && m_parts.whyNotOpened) {
+        sentences << m_parts.whyNotOpened();
+    }
+    sentences.removeAll(QString());
+    searchEndLabel->setText(sentences.join(u' '));
+    const QString picture = end.isFlawless() ? QStringLiteral("ok") : QStringLiteral("info");
+    const int edge = searchEndIcon->minimumWidth();
+    searchEndIcon->setPixmap(ownIcon(picture).pixmap(edge, edge));
+    searchEndBar->setVisible(!sentences.isEmpty());
+}
+
+PanelWords MyTableController::endPanelWords(const PanelWords& drawn) const {
+    const SearchEnd& end = searchEnd();
+    PanelWords words;
+    words.picture = end.isFlawless() ? QStringLiteral("ok") : QStringLiteral("info");
+    words.heading = searchEndHeadline(end);
+    const EmptyWords empty = nothingFound(searchWish(), end);
+    words.text = itemCount() > 0 ? drawn.text : empty.title + QStringLiteral(". ") + empty.advice;
+    if (const QString advice = searchEndAdvice(end); !advice.isEmpty() && itemCount() > 0) {
+        words.text += QStringLiteral("\n\n") + advice;
+    }
+    return words;
+}
+
+SearchWish MyTableController::searchWish() const {
+    const ControlSet set = activeSet();
+    SearchWish wish;
+    wish.photo = set == ControlSet::Photo;
+    wish.entireDisk = m_inputs.range[static_cast<std::size_t>(set)].entireDisk == 1;
+    wish.allTypes =
+        wish.photo || std::all_of(nsCheckedListDataObject.cbegin(), nsCheckedListDataObject.cend(), isTicked);
+    wish.thorough = !wish.photo || m_inputs.thorough[static_cast<std::size_t>(set)];
+    return wish;
+}
+
+// Whatever the list is empty of: a search that goes on, one that has ended, or a choice of what to show.
+void MyTableController::showEmptyResults() {
+    const ControlSet set = activeSet();
+    ImageBrowserView* const browser = browserOf(set);
+    const bool photo = set == ControlSet::Photo;
+    const std::size_t found = itemCount();
+    EmptyWords words;
+    if (found > 0 && browser->shownCount() == 0) {
+        words = nothingShown(found);
+    } else if (m_searchEnded) {
+        words = nothingFound(searchWish(), searchEnd());
+    } else {
+        words = nothingYet(photo);
+    }
+    browser->setEmptyState(ownIcon(photo ? QStringLiteral("mode-photo") : QStringLiteral("mode-files")),
+                           words.title, words.advice);
+    const bool onlyFound = foundTypesOnly->isChecked() && !resultRows().isEmpty();
+    idSigTableView->setEmptyState({}, onlyFound ? tr("None found") : tr("No types"),
+                                  onlyFound ? tr("Nothing of the types that you ticked was found.")
+                                            : tr("Go back and tick the types to search for."));
+}
+
+}  // namespace vantor
