@@ -13,11 +13,7 @@ target_compile_options(vantor_options INTERFACE -Wall -Wextra -Wpedantic -Wshado
 if(VANTOR_WERROR)
     target_compile_options(vantor_options INTERFACE -Werror)
 endif()
-if(UNIX AND NOT APPLE AND NOT VANTOR_SANITIZE)
-    # Addresses of library functions are looked up at the start and not writable after it: these programs read
-    # hostile bytes.
-    add_link_options(-Wl,-z,relro,-z,now)
-endif()
+include(${CMAKE_CURRENT_LIST_DIR}/Hardening.cmake)
 if(VANTOR_SANITIZE)
     add_compile_options(-fsanitize=${VANTOR_SANITIZE} -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${VANTOR_SANITIZE})

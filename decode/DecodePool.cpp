@@ -140,6 +140,11 @@ DecodePoolCounts DecodePool::counts() const {
     return m_counts;
 }
 
+DecodeObstacle DecodePool::obstacle() const {
+    const std::scoped_lock lock(m_mutex);
+    return m_obstacle;
+}
+
 std::vector<pid_t> DecodePool::helperPids() const {
     const std::scoped_lock lock(m_mutex);
     return m_live;
@@ -198,8 +203,10 @@ AskOutcome DecodePool::askOnce(const Ask& ask, DecodedPicture& picture, bool& ki
 // Null when there is no helper to wait for.
 std::unique_ptr<HelperProcess> DecodePool::acquire() {
     std::unique_lock lock(m_mutex);
-    m_helperFree.wait(lock,
-                      [&] { return m_closing || !m_idle.empty() || (m_cannotStart && m_live.empty()); });
+    m_helperFree.wait(lock, [&] {
+        const bool hopeless = m_obstacle != DecodeObstacle::None && m_live.empty();
+        return m_closing || !m_idle.empty() || hopeless;
+    });
     if (m_closing || m_idle.empty()) {
         return nullptr;
     }
@@ -264,23 +271,28 @@ void DecodePool::keepHelpers() {
             continue;
         }
         lock.unlock();
+        decode::StartFailure failure{};
         std::unique_ptr<HelperProcess> helper =
-            HelperProcess::start(m_options.helper, m_options.startDeadline, m_leaving.descriptor());
+            HelperProcess::start(m_options.helper, m_options.startDeadline, m_leaving.descriptor(), &failure);
         lock.lock();
         if (helper) {
             retry = kFirstRetry;
             failuresInARow = 0;
-            m_cannotStart = false;
+            m_obstacle = DecodeObstacle::None;
             ++m_counts.started;
-            m_counts.caged = helper->caged();
             m_live.push_back(helper->pid());
             m_idle.push_back(std::move(helper));
             m_helperFree.notify_one();
             continue;
         }
         ++m_counts.failedStarts;
-        m_cannotStart =
-            ++failuresInARow >= (m_counts.started == 0 ? kHopelessStarts : kHopelessStartsAfterGoodOnes);
+        // A start may fail by chance; a system has cages or has none.
+        if (failure == decode::StartFailure::NotCaged) {
+            m_obstacle = DecodeObstacle::NoCage;
+        } else if (++failuresInARow >=
+                   (m_counts.started == 0 ? kHopelessStarts : kHopelessStartsAfterGoodOnes)) {
+            m_obstacle = DecodeObstacle::NoHelper;
+        }
         m_helperFree.notify_all();
         m_helperWanted.wait_for(lock, retry, [&] { return m_closing; });
         retry = std::min(retry * 2, kLastRetry);

@@ -40,6 +40,13 @@ struct DecodedPicture {
     bool partial = false;  // the bytes ended or broke before the picture did
 };
 
+// Why no picture can be decoded at all.
+enum class DecodeObstacle {
+    None,
+    NoHelper,  // none can be started
+    NoCage,    // the system gives helpers no cage, and nothing is decoded outside one
+};
+
 // What happened so far.
 struct DecodePoolCounts {
     std::uint64_t started = 0;
@@ -52,7 +59,6 @@ struct DecodePoolCounts {
     std::uint64_t late = 0;
     std::uint64_t badAnswers = 0;
     std::uint64_t recycled = 0;  // replaced in good health, for their memory or age
-    bool caged = false;          // the helper started last reported its system-call filter in force
 };
 
 // Thread-safe; every call blocks its caller until a helper is free and has answered, failed or run into the
@@ -82,6 +88,8 @@ class DecodePool {
 
     int helpers() const { return m_wanted; }
     DecodePoolCounts counts() const;
+    // As far as it is known by now: helpers are started in the background.
+    DecodeObstacle obstacle() const;
     // The processes that stand ready or work at the moment.
     std::vector<pid_t> helperPids() const;
 
@@ -112,7 +120,7 @@ class DecodePool {
     std::vector<std::unique_ptr<decode::HelperProcess>> m_idle;
     std::vector<pid_t> m_live;  // idle and busy ones, none of them reaped yet
     int m_callers = 0;
-    bool m_cannotStart = false;
+    DecodeObstacle m_obstacle = DecodeObstacle::None;
     bool m_closing = false;
     DecodePoolCounts m_counts;
     const CancelSignal m_leaving;  // raised with m_closing

@@ -25,6 +25,9 @@ constexpr std::uint32_t kBytesPerPixel = 4;
 constexpr std::uint32_t kBytesPerSoundFrame = kBytesPerPixel;
 constexpr int kSoundFramesPerSecond = 48000;
 
+// Times and lengths beyond a year, forwards or backwards, are damage.
+constexpr std::int64_t kMostMs = std::int64_t{366} * 24 * 3600 * 1000;
+
 enum class RequestKind : std::uint32_t {
     Picture = 1,    // decode the input, scaled into the bound, upright
     OpenMovie = 2,  // open the file, decode its first frame

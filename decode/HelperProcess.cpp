@@ -19,6 +19,9 @@
 #include <string>
 #include <vector>
 
+#include "decode/AnswerCheck.h"
+#include "decode/Sanitized.h"
+
 namespace vantor::decode {
 
 namespace {
@@ -93,7 +96,14 @@ bool makeRoom(SharedMemory& memory, std::uint64_t bytes, SharedAccess access, bo
 }  // namespace
 
 std::unique_ptr<HelperProcess> HelperProcess::start(const QString& executable,
-                                                    std::chrono::milliseconds deadline, int cancel) {
+                                                    std::chrono::milliseconds deadline, int cancel,
+                                                    StartFailure* failure) {
+    const auto because = [&](StartFailure reason) {
+        if (failure) {
+            *failure = reason;
+        }
+    };
+    because(StartFailure::NotRunning);
     int ends[2];
     if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends) != 0) {
         return nullptr;
@@ -110,12 +120,19 @@ std::unique_ptr<HelperProcess> HelperProcess::start(const QString& executable,
         return nullptr;
     }
     std::unique_ptr<HelperProcess> helper(new HelperProcess(pid, ends[0], cancel));
-    Answer ready;
-    if (helper->receive(Clock::now() + deadline, ready) != AskOutcome::Answered ||
-        ready.status != AnswerStatus::Ready) {
+    Answer answer;
+    if (helper->receive(Clock::now() + deadline, answer) != AskOutcome::Answered) {
         return nullptr;
     }
-    helper->m_caged = (ready.flags & kCaged) != 0;
+    const std::optional<Answer> ready = believedReady(answer);
+    if (!ready) {
+        return nullptr;
+    }
+    if ((ready->flags & kCaged) == 0 && !kSanitized) {
+        because(StartFailure::NotCaged);
+        return nullptr;
+    }
+    because(StartFailure::None);
     return helper;
 }
 
@@ -178,13 +195,16 @@ AskOutcome HelperProcess::exchange(Request& request, int file, std::chrono::mill
     }
     m_inputSent = m_inputSent || withInput;
     m_outputSent = true;
-    const AskOutcome outcome = receive(until, answer);
+    Answer received;
+    const AskOutcome outcome = receive(until, received);
     if (outcome != AskOutcome::Answered) {
         return outcome;
     }
-    if (!fits(request, answer)) {
+    const std::optional<Answer> clean = believed(request, received);
+    if (!clean) {
         return AskOutcome::BadAnswer;
     }
+    answer = *clean;
     ++m_answered;
     return outcome;
 }
@@ -249,20 +269,8 @@ AskOutcome HelperProcess::receive(Clock::time_point deadline, Answer& answer) {
         if (got <= 0) {
             return AskOutcome::Died;
         }
-        const bool whole = got == static_cast<ssize_t>(sizeof answer) && answer.magic == kMessageMagic;
-        return whole ? AskOutcome::Answered : AskOutcome::BadAnswer;
+        return got == static_cast<ssize_t>(sizeof answer) ? AskOutcome::Answered : AskOutcome::BadAnswer;
     }
-}
-
-bool HelperProcess::fits(const Request& request, const Answer& answer) const {
-    if (answer.serial != request.serial) {
-        return false;
-    }
-    if (answer.status != AnswerStatus::Ok) {
-        return answer.status == AnswerStatus::NotDecodable || answer.status == AnswerStatus::EndOfMovie;
-    }
-    return answer.width > 0 && answer.height > 0 && answer.width <= request.maxWidth &&
-           answer.height <= request.maxHeight;
 }
 
 std::optional<std::uint64_t> HelperProcess::residentBytes() const {

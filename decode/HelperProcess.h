@@ -31,16 +31,23 @@ struct HelperEnd {
     int code = 0;  // signal or exit status
 };
 
+// Why there is no helper.
+enum class StartFailure {
+    None,
+    NotRunning,  // it could not be started, or did not report ready in time
+    NotCaged,    // the system gives it no cage, and nothing is decoded outside one
+};
+
 // Used by one thread at a time. The thread that calls start() must outlive the process: the system ends a
 // helper together with the thread that started it.
 class HelperProcess {
   public:
     using Clock = std::chrono::steady_clock;
 
-    // Null when the executable cannot be started or does not report ready in time. `cancel` is a descriptor
-    // that ends every wait when it becomes readable; -1 for none.
+    // Null when there is a failure, of which `failure` then tells. `cancel` is a descriptor that ends every
+    // wait when it becomes readable; -1 for none.
     static std::unique_ptr<HelperProcess> start(const QString& executable, std::chrono::milliseconds deadline,
-                                                int cancel = -1);
+                                                int cancel = -1, StartFailure* failure = nullptr);
     HelperProcess(const HelperProcess&) = delete;
     HelperProcess& operator=(const HelperProcess&) = delete;
     // Kills and reaps whatever still runs.
@@ -57,7 +64,6 @@ class HelperProcess {
     const std::byte* pixels() const { return m_output.data(); }
 
     pid_t pid() const { return m_pid; }
-    bool caged() const { return m_caged; }
     std::uint64_t answered() const { return m_answered; }
     // Memory in use and processor time spent so far; nullopt, and 0, when the system does not tell.
     std::optional<std::uint64_t> residentBytes() const;
@@ -72,12 +78,10 @@ class HelperProcess {
     AskOutcome exchange(Request& request, int file, std::chrono::milliseconds deadline, Answer& answer);
     bool send(const Request& request, int file, bool withInput, bool withOutput);
     AskOutcome receive(Clock::time_point deadline, Answer& answer);
-    bool fits(const Request& request, const Answer& answer) const;
 
     pid_t m_pid = -1;
     int m_socket = -1;
     int m_cancel = -1;
-    bool m_caged = false;
     bool m_inputSent = false;
     bool m_outputSent = false;
     std::uint64_t m_serial = 0;

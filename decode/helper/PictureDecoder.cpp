@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <exception>
 
+#include "decode/helper/CrowdedJpeg.h"
 #include "decode/helper/PictureKind.h"
 #include "decode/helper/PictureLimits.h"
 #include "decode/helper/PictureWithin.h"
@@ -65,8 +66,10 @@ QByteArray wordlessDrawing(QByteArrayView bytes) {
 }
 
 QByteArray prepared(QByteArrayView bytes, const QByteArray& handler) {
-    return handler == kDrawingFormat ? wordlessDrawing(bytes)
-                                     : QByteArray::fromRawData(bytes.data(), bytes.size());
+    if (handler == kDrawingFormat) {
+        return wordlessDrawing(bytes);
+    }
+    return handler == "jpeg" ? withoutCrowd(bytes) : QByteArray::fromRawData(bytes.data(), bytes.size());
 }
 
 struct Attempt {

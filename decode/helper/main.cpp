@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "decode/Sanitized.h"
 #include "decode/helper/Cage.h"
 #include "decode/helper/Channel.h"
 #include "decode/helper/PictureDecoder.h"
@@ -29,7 +30,8 @@ int main(int argc, char** argv) {
     bool parentGone = false;
     const bool caged = enterCage(options, parentGone);
     Channel channel(kHelperSocket);
-    if (parentGone || !channel.sayReady(caged)) {
+    // Outside the cage nothing is decoded; the program is told, and says why.
+    if (parentGone || !channel.sayReady(caged) || (!caged && !kSanitized)) {
         _exit(EXIT_SUCCESS);
     }
     // Pictures are decoded side by side by processes; a thread of the pool itself gets no others to help it.

@@ -24,8 +24,6 @@ constexpr std::int64_t kMostBeyondMs = 500;
 constexpr int kMostFrameSamples = 1 << 20;
 constexpr int kMostChannels = 32;
 constexpr int kMostRate = 768000;
-// Times beyond a year are damage.
-constexpr std::int64_t kMostMs = std::int64_t{366} * 24 * 3600 * 1000;
 
 using Resampler = std::unique_ptr<SwrContext, Release<swr_free>>;
 

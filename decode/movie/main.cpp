@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <exception>
 
+#include "decode/Sanitized.h"
 #include "decode/helper/Cage.h"
 #include "decode/helper/Channel.h"
 #include "decode/helper/PixelCopy.h"
@@ -120,7 +121,8 @@ int main(int argc, char** argv) {
     bool parentGone = false;
     const bool caged = enterCage(options, parentGone);
     Channel channel(kHelperSocket);
-    if (parentGone || !channel.sayReady(caged)) {
+    // Outside the cage nothing is decoded; the program is told, and says why.
+    if (parentGone || !channel.sayReady(caged) || (!caged && !kSanitized)) {
         _exit(EXIT_SUCCESS);
     }
     MovieJobDecoder decoder;

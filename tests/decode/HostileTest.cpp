@@ -11,6 +11,7 @@
 
 #include "decode/DecodePool.h"
 #include "decode/ThumbnailQueue.h"
+#include "decode/helper/CrowdedJpeg.h"
 #include "formats/Crc.h"
 #include "tests/decode/Fixtures.h"
 
@@ -171,6 +172,50 @@ TEST(Hostile, HugeClaimOfAJpeg_ShowsWhatIsThere) {
     EXPECT_EQ(shown.size(), QSize(kThumbnailSide, kThumbnailSide));
     EXPECT_EQ(pool.counts().started, 1U);
     expectSoundPool(pool);
+}
+
+// As many as fit some megabytes; the JPEG library takes minutes over them.
+QByteArray jpegWithSegments(int count, std::uint8_t marker, QByteArrayView where) {
+    QByteArray segments;
+    for (int i = 0; i < count; ++i) {
+        segments.append('\xff').append(static_cast<char>(marker)).append(QByteArray("\0\x04hi", 4));
+    }
+    QByteArray bytes = encoded(twoColours({64, 48}), "jpeg");
+    return bytes.insert(bytes.indexOf(where), segments);
+}
+
+TEST(Hostile, JpegOfMoreSegmentsThanAreOfUse_IsShownAllTheSame) {
+    constexpr int kCrowd = 700'000;
+    DecodePool pool(poolOptions(1));
+    for (const int marker : {0xFE, 0xE1, 0xE2}) {
+        const QByteArray crowded =
+            jpegWithSegments(kCrowd, static_cast<std::uint8_t>(marker), QByteArrayView("\xff\xdb", 2));
+        EXPECT_EQ(QImage::fromData(pool.thumbnail(crowded)).size(), QSize(64, 48)) << marker;
+    }
+    EXPECT_EQ(pool.counts().late, 0U);
+    expectSoundPool(pool);
+}
+
+int keptSegments(const QByteArray& jpeg) {
+    return static_cast<int>(jpeg.count("\xff\xfe") + jpeg.count("\xff\xe1") + jpeg.count("\xff\xe2"));
+}
+
+TEST(Hostile, SegmentsOfAJpeg_AreKeptUpToANumber) {
+    using decode::kMostKeptSegments;
+    const QByteArrayView tables("\xff\xdb", 2);
+    const QByteArray few = jpegWithSegments(kMostKeptSegments, 0xFE, tables);
+    EXPECT_EQ(decode::withoutCrowd(few).constData(), few.constData()) << "nothing is copied";
+    for (const QByteArrayView where : {tables, QByteArrayView("\xff\xd9", 2)}) {
+        const QByteArray many = jpegWithSegments(kMostKeptSegments + 5, 0xE1, where);
+        const QByteArray thinned = decode::withoutCrowd(many);
+        EXPECT_EQ(keptSegments(thinned), kMostKeptSegments);
+        EXPECT_EQ(thinned.size(), many.size());
+    }
+    // Every beginning of one, down to nothing.
+    const QByteArray whole = jpegWithSegments(3, 0xFE, tables);
+    for (qsizetype length = 0; length < whole.size(); ++length) {
+        EXPECT_EQ(decode::withoutCrowd(whole.first(length)), whole.first(length));
+    }
 }
 
 }  // namespace

@@ -13,5 +13,8 @@ trap 'rm -rf "$work"' EXIT
 cpack --config "$1/CPackConfig.cmake" -B "$work" >"$work/log" 2>&1 || { cat "$work/log"; exit 1; }
 package=$(find "$work" -maxdepth 1 -name 'vantor-recovery_*.deb')
 dpkg-deb --info "$package"
+dpkg-deb --extract "$package" "$work/extracted"
+# shellcheck disable=SC2046 # the package's own names
+"$(dirname "$0")/hardened.sh" $(find "$work/extracted/usr/bin" "$work/extracted/usr/libexec" -type f)
 # Lint asks not to be run as root; it only reads.
 lintian --allow-root --fail-on error,warning --tag-display-limit 0 "$package"
