@@ -41,35 +41,38 @@ bool isBlockDevice(int fd) {
     return ::fstat(fd, &info) == 0 && S_ISBLK(info.st_mode);
 }
 
-bool isMedium(const MediumIdentity& wanted, const BlockDeviceFacts& facts) {
-    const auto same = [](std::uint64_t a, std::uint64_t b) { return a == 0 || b == 0 || a == b; };
-    return facts.sectors != 0 && same(wanted.diskSequence, facts.diskSequence) &&
-           same(wanted.sectors, facts.sectors);
-}
-
-std::unique_ptr<BlockSource> openDevice(const QString& path, const OpenTerms& terms) {
+std::optional<OpenedNode> openDevice(const QString& path, const OpenTerms& terms) {
     FileDescriptor descriptor = openNode(path);
     if (!descriptor && (errno == EACCES || errno == EPERM) && terms.askForDescriptor) {
         descriptor = terms.askForDescriptor(path, terms.stop);
     }
     if (!descriptor || !isBlockDevice(descriptor.get())) {
-        return nullptr;
+        return std::nullopt;
     }
     const auto facts = blockDeviceFacts(descriptor.get());
-    if (!facts || !isMedium(terms.identity, *facts)) {
-        return nullptr;
+    if (!facts) {
+        return std::nullopt;
     }
-    return std::make_unique<BlockDevice>(std::move(descriptor), *facts);
+    return OpenedNode{std::make_unique<BlockDevice>(std::move(descriptor), *facts), *facts};
 }
 
 std::unique_ptr<BlockSource> openSource(const QString& path, OpenTerms terms) {
     switch (kindOf(path)) {
         case Kind::Image:
             return ImageFile::open(imageParts(path));
+        case Kind::Missing:
+            if (!terms.memory) {
+                return nullptr;
+            }
+            [[fallthrough]];
         case Kind::Device: {
             StopRequest stop = terms.stop;
             return AbandonableSource::start(
-                [path, terms = std::move(terms)] { return openDevice(path, terms); }, std::move(stop));
+                [path, terms = std::move(terms)] {
+                    return openSameMedium({path, terms.identity, terms.memory}, terms.present,
+                                          [&terms](const QString& node) { return openDevice(node, terms); });
+                },
+                std::move(stop));
         }
         default:
             return nullptr;

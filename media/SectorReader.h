@@ -65,6 +65,9 @@ class SectorReader {
     // Sectors of the medium as it was opened; 0 when that is not known.
     virtual std::uint64_t mediumSectors() const { return 0; }
 
+    // True when the medium went away for good: a refusal then says nothing of the sector.
+    virtual bool isGone() { return false; }
+
   protected:
     // Called when nothing is fetched ahead: calls handOver() with the sector at position() and as many
     // behind it as there are.

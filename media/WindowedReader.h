@@ -38,6 +38,7 @@ class WindowedReader : public SectorReader {
     ~WindowedReader() override;
 
     std::uint64_t mediumSectors() const override { return m_source->sectors(); }
+    bool isGone() override { return noteWhetherGone(); }
     void setScreen(std::shared_ptr<const SectorScreen> screen) override;
 
   protected:
