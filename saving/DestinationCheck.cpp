@@ -1,10 +1,12 @@
-// Compares the whole disks behind a folder and a medium by their device numbers.
+// Compares the whole disks behind a folder and a medium by their device numbers, and tries the folder.
 #include "saving/DestinationCheck.h"
 
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
 
 #include <QFile>
+#include <QFileInfo>
+#include <QTemporaryFile>
 #include <optional>
 
 #include "saving/FreeSpace.h"
@@ -64,6 +66,28 @@ bool destinationIsOnMedium(const QString& folder, const QString& mediumPath) {
         return true;
     }
     return wholeDisksOf(medium->st_rdev).intersects(wholeDisksOf(under));
+}
+
+std::optional<QString> refuseDestination(const QString& folder) {
+    const QFileInfo info(folder);
+    if (!info.exists()) {
+        return QStringLiteral("The folder %1 is not there.").arg(folder);
+    }
+    if (!info.isDir()) {
+        return QStringLiteral("%1 is not a folder.").arg(folder);
+    }
+    // Rights say little of a disk that is read-only or full.
+    QTemporaryFile trial(folder + QStringLiteral("/.vantor-XXXXXX"));
+    if (!trial.open() || trial.write("x", 1) != 1 || !trial.flush()) {
+        return QStringLiteral("Nothing can be written into the folder %1: %2.")
+            .arg(folder, trial.errorString());
+    }
+    return std::nullopt;
+}
+
+std::optional<std::uint64_t> fileSystemOf(const QString& folder) {
+    const auto info = statOf(folder);
+    return info ? std::optional<std::uint64_t>(info->st_dev) : std::nullopt;
 }
 
 }  // namespace vantor

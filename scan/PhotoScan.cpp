@@ -12,6 +12,13 @@
 
 namespace vantor {
 
+namespace {
+
+// Of photos with failed reads, all together.
+constexpr std::uint64_t kMostHeldBytes = std::uint64_t{64} * 1024 * 1024;
+
+}  // namespace
+
 // The working state of one pass.
 struct ScanSession::PhotoPass {
     PhotoPass(const QString& passName, const QStringList& records, PhotoMemory& memory)
@@ -45,6 +52,7 @@ struct ScanSession::PhotoPass {
 bool ScanSession::Photo_Recovey_Mode(const QString& passName) {
     if (passName == kGeneralPass) {
         clearItems();
+        m_heldBytes = 0;
         m_view.resetPhotoBrowser();
     }
     if (!beginPass(ControlSet::Photo, passName, Ext_Array, Adv_Ext_Array)) {
@@ -114,6 +122,8 @@ void ScanSession::collectPhotoSector(PhotoPass& pass) {
         pass.item.append(pFile_Disk->current());
         if (pass.lastReadSucceeded || pass.carved.runs.empty()) {
             pass.carved.add(pass.lastGoodSector);
+        } else {
+            pass.carved.addRepeat(pass.item.size() / kSectorBytes - 1);
         }
         return;
     }
@@ -157,6 +167,11 @@ void ScanSession::handOverPhoto(PhotoPass& pass) {
     m_handOver = {
         pass.name,  pass.itemType, pass.itemFirstSector, pass.item.size(), pass.item.overflowSha256(),
         pass.carved};
+    const auto size = static_cast<std::uint64_t>(pass.item.bytes().size());
+    if (pass.carved.readFailed && m_heldBytes + size <= kMostHeldBytes) {
+        m_heldBytes += size;
+        m_handOver.heldBytes = pass.item.bytes();
+    }
     addImageWithData(pass.item.bytes(), pass.itemName, pass.itemUid);
     m_handOver = {};
     pass.item.clear();

@@ -169,6 +169,9 @@ class ScanSession : public HexText {
         std::uint64_t bytes = 0;        // photo items: carved bytes, also those beyond what is kept in memory
         QByteArray sha256;              // of a photo item that outgrew the memory, else empty
         CarvedRun carved;
+        // Of a photo with failed reads the bytes as published, where memory allows: the medium may not give
+        // them again.
+        QByteArray heldBytes = {};
     };
 
   protected:
@@ -224,6 +227,7 @@ class ScanSession : public HexText {
     MediumOpener m_openMedium;
     Thumbnailer m_thumbnailer;
     HandOver m_handOver;
+    std::uint64_t m_heldBytes = 0;  // of all listed photos
     PhotoMemory m_photoMemory;
     QString m_placeholderPath;
     PassOutcome m_lastOutcome = PassOutcome::NotRun;
