@@ -107,8 +107,10 @@ std::unique_ptr<AbandonableSource> AbandonableSource::start(Open open, StopReque
     if (!shared->buffer) {
         return nullptr;
     }
-    std::thread([shared, open = std::move(open)] {
+    std::thread([shared, open = std::move(open)]() mutable {
         std::unique_ptr<BlockSource> source = open();
+        // This thread may outlast the program's own end; what opening took is let go while somebody waits.
+        open = nullptr;
         if (source) {
             shared->serve(std::move(source));
             return;

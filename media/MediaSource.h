@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "media/MediumTargets.h"
+#include "media/RawDevice.h"
 #include "media/SectorReader.h"
 
 namespace vantor {

@@ -7,20 +7,22 @@
 #include <optional>
 #include <utility>
 
-#include "media/RawDevice.h"
+#include "media/SameMedium.h"
 
 namespace vantor {
-
-struct MediumTarget {
-    QString path;  // device node, or an image file
-    MediumIdentity identity;
-};
 
 // The targets of the last listing by device identifier. Any thread.
 class MediumTargets {
   public:
+    // A device that is listed as it was before keeps what is remembered of it.
     void replace(QHash<QString, MediumTarget> targets) {
         const std::lock_guard lock(m_mutex);
+        for (auto target = targets.begin(); target != targets.end(); ++target) {
+            const MediumTarget before = m_targets.value(target.key());
+            if (target->memory && isSameStay(before, *target)) {
+                target->memory = before.memory;
+            }
+        }
         m_targets = std::move(targets);
     }
 
@@ -36,6 +38,11 @@ class MediumTargets {
     }
 
   private:
+    static bool isSameStay(const MediumTarget& a, const MediumTarget& b) {
+        return a.memory && a.path == b.path && a.identity.diskSequence != 0 &&
+               a.identity.diskSequence == b.identity.diskSequence;
+    }
+
     mutable std::mutex m_mutex;
     QHash<QString, MediumTarget> m_targets;
 };

@@ -28,6 +28,14 @@ std::unique_ptr<MediaSource> makePlatformMediaSource() {
     return std::make_unique<ImageShelf>(std::move(machine));
 }
 
+QList<MediumTarget> mediaPresent() {
+#ifdef Q_OS_MACOS
+    return {};
+#else
+    return presentTargets();
+#endif
+}
+
 std::function<std::unique_ptr<SectorReader>(const QString& devicePath)> makeMediumOpener(
     const MediaSource& source, StopRequest stop, std::shared_ptr<LastRefusal> refusal) {
     return [targets = source.targets(), request = source.descriptorRequest(), stop = std::move(stop),
@@ -37,7 +45,9 @@ std::function<std::unique_ptr<SectorReader>(const QString& devicePath)> makeMedi
             return nullptr;
         }
         const auto target = targets->find(devicePath.sliced(prefix.size()));
-        return target ? openMedium(target->path, {stop, request, target->identity, refusal}) : nullptr;
+        return target ? openMedium(target->path,
+                                   {stop, request, target->identity, refusal, target->memory, mediaPresent})
+                      : nullptr;
     };
 }
 

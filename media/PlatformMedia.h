@@ -14,9 +14,12 @@ namespace vantor {
 // both, a shelf of opened images. Needs an application object; main thread.
 std::unique_ptr<MediaSource> makePlatformMediaSource();
 
+// The media in the machine's slots at the moment, as they are compared with those listed before. Any thread.
+QList<MediumTarget> mediaPresent();
+
 // Opens "/dev/r" + identifier: the node or image that the source listed last under that identifier, and only
-// while the same medium is in the slot. Any thread but the main one, since asking the user for consent may
-// take minutes; `stop` ends that wait as it ends any other; `refusal` is told how it
+// the same medium, which may have been taken out and put back. Any thread but the main one, since asking the
+// user for consent may take minutes; `stop` ends that wait as it ends any other; `refusal` is told how it
 // went. Lives on without the source.
 std::function<std::unique_ptr<SectorReader>(const QString& devicePath)> makeMediumOpener(
     const MediaSource& source, StopRequest stop = {}, std::shared_ptr<LastRefusal> refusal = {});

@@ -41,11 +41,6 @@ bool isBlockDevice(int fd) {
     return ::fstat(fd, &info) == 0 && S_ISBLK(info.st_mode);
 }
 
-bool isMedium(const MediumIdentity& wanted, const BlockDeviceFacts& facts) {
-    const auto same = [](std::uint64_t a, std::uint64_t b) { return a == 0 || b == 0 || a == b; };
-    return same(wanted.diskSequence, facts.diskSequence) && same(wanted.sectors, facts.sectors);
-}
-
 void note(const OpenTerms& terms, OpenRefusal refusal) {
     if (terms.refusal) {
         terms.refusal->note(refusal);
@@ -56,7 +51,7 @@ bool isForbidden(int error) {
     return error == EACCES || error == EPERM;
 }
 
-std::unique_ptr<BlockSource> openDevice(const QString& path, const OpenTerms& terms) {
+std::optional<OpenedNode> openDevice(const QString& path, const OpenTerms& terms) {
     FileDescriptor descriptor = openNode(path);
     if (!descriptor) {
         const int error = errno;
@@ -70,18 +65,14 @@ std::unique_ptr<BlockSource> openDevice(const QString& path, const OpenTerms& te
         }
     }
     if (!descriptor || !isBlockDevice(descriptor.get())) {
-        return nullptr;
+        return std::nullopt;
     }
     const auto facts = blockDeviceFacts(descriptor.get());
     if (!facts || facts->sectors == 0) {
         note(terms, OpenRefusal::NotThere);
-        return nullptr;
+        return std::nullopt;
     }
-    if (!isMedium(terms.identity, *facts)) {
-        note(terms, OpenRefusal::AnotherMedium);
-        return nullptr;
-    }
-    return std::make_unique<BlockDevice>(std::move(descriptor), *facts);
+    return OpenedNode{std::make_unique<BlockDevice>(std::move(descriptor), *facts), *facts};
 }
 
 std::unique_ptr<BlockSource> openSource(const QString& path, OpenTerms terms) {
@@ -97,14 +88,30 @@ std::unique_ptr<BlockSource> openSource(const QString& path, OpenTerms terms) {
             }
             return image;
         }
+        case Kind::Missing:
+            if (!terms.memory) {
+                note(terms, OpenRefusal::NotThere);
+                return nullptr;
+            }
+            [[fallthrough]];
         case Kind::Device: {
             StopRequest stop = terms.stop;
             return AbandonableSource::start(
-                [path, terms = std::move(terms)] { return openDevice(path, terms); }, std::move(stop));
+                [path, terms = std::move(terms)] {
+                    bool another = false;
+                    auto same = openSameMedium({path, terms.identity, terms.memory}, terms.present,
+                                               [&](const QString& node) {
+                                                   auto opened = openDevice(node, terms);
+                                                   another = another || opened.has_value();
+                                                   return opened;
+                                               });
+                    if (!same && another) {
+                        note(terms, OpenRefusal::AnotherMedium);
+                    }
+                    return same;
+                },
+                std::move(stop));
         }
-        case Kind::Missing:
-            note(terms, OpenRefusal::NotThere);
-            return nullptr;
         case Kind::Other:
             break;
     }

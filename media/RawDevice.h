@@ -10,6 +10,7 @@
 #include "media/AbandonableSource.h"
 #include "media/FileDescriptor.h"
 #include "media/OpenRefusal.h"
+#include "media/SameMedium.h"
 #include "media/SectorReader.h"
 
 namespace vantor {
@@ -24,12 +25,6 @@ struct MediumFacts {
 // for the user, when it is neither or cannot be opened for reading.
 std::optional<MediumFacts> probeMedium(const QString& path, QString* why = nullptr);
 
-// What was in the slot when the medium was listed; zeros are not compared.
-struct MediumIdentity {
-    std::uint64_t diskSequence = 0;
-    std::uint64_t sectors = 0;
-};
-
 // Gets a read-only descriptor of a device node that the user may not open, by asking the user for consent; an
 // empty one when that is refused. May take minutes and is to return soon after a stop request. Any thread.
 using DescriptorRequest = std::function<FileDescriptor(const QString& node, const StopRequest& stop)>;
@@ -39,6 +34,8 @@ struct OpenTerms {
     DescriptorRequest askForDescriptor;         // absent: without permission the medium cannot be opened
     MediumIdentity identity;                    // another medium in the slot counts as one that is gone
     std::shared_ptr<LastRefusal> refusal = {};  // is told how the opening went; absent: nobody asks
+    std::shared_ptr<MediumMemory> memory = {};  // absent: a medium that left its slot is gone for good
+    PresentMedia present = {};                  // where one that was put back is looked for
 };
 
 // A reader at sector 0, or null when the medium cannot be opened. Opens read-only, whatever the permissions,

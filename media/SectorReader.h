@@ -62,11 +62,11 @@ class SectorReader {
     // Has sectors screened from here on, where the reader fetches ahead; null ends it.
     virtual void setScreen(std::shared_ptr<const SectorScreen>) {}
 
-    // True when the medium was found to have been taken out, or no longer to answer.
-    virtual bool isGone() const { return false; }
-
     // Sectors of the medium as it was opened; 0 when that is not known.
     virtual std::uint64_t mediumSectors() const { return 0; }
+
+    // True when the medium went away for good: a refusal then says nothing of the sector.
+    virtual bool isGone() { return false; }
 
   protected:
     // Called when nothing is fetched ahead: calls handOver() with the sector at position() and as many

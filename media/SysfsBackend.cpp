@@ -61,6 +61,14 @@ QList<SysfsDisk> readSysfsDisks(const QString& root) {
     return disks;
 }
 
+QList<MediumTarget> presentTargets(const QString& root) {
+    QList<MediumTarget> targets;
+    for (const MediumRecord& record : sysfsMedia(readSysfsDisks(root), {})) {
+        targets << record.target;
+    }
+    return targets;
+}
+
 SysfsBackend::SysfsBackend(QString root) : m_root(std::move(root)) {
     m_watch.setInterval(kWatchMs);
     connect(&m_watch, &QTimer::timeout, this, &SysfsBackend::look);

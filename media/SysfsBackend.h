@@ -14,6 +14,9 @@ namespace vantor {
 // The texts below `root`: sys/block, run/udev/data. Files that are missing give empty texts.
 QList<SysfsDisk> readSysfsDisks(const QString& root);
 
+// Where the media of sysfsMedia() are at the moment. Any thread.
+QList<MediumTarget> presentTargets(const QString& root = {});
+
 // `root` is "" but in tests. Looks for changes every two seconds once it was asked for a list.
 class SysfsBackend : public QObject, public MediaBackend {
     Q_OBJECT

@@ -2,6 +2,7 @@
 #include "media/SysfsMedia.h"
 
 #include <QHash>
+#include <algorithm>
 
 #include "media/FileSystemName.h"
 #include "media/MediumOrder.h"
@@ -111,6 +112,12 @@ QString busName(const SysfsDisk& disk) {
     return isOnUsb(disk) ? QStringLiteral("USB") : QString();
 }
 
+// "1" of sdb1 on sdb, of mmcblk0p1 on mmcblk0.
+QString partitionOf(const QString& volume, const QString& disk) {
+    const QString number = volume.sliced(std::min(disk.size(), volume.size()));
+    return number.startsWith(u'p') ? number.sliced(1) : number;
+}
+
 class Lister {
   public:
     explicit Lister(const QString& mountInfo) : m_mounts(mountsIn(mountInfo)) {}
@@ -140,8 +147,12 @@ class Lister {
         if (isOptical(disk)) {
             record.facts[QStringLiteral("OpticalDeviceType")] = QStringLiteral("CD-ROM");
         }
-        record.target = {QStringLiteral("/dev/") + device.name,
-                         {disk.diskSequence.trimmed().toULongLong(), sectors}};
+        MediumIdentity identity{disk.diskSequence.trimmed().toULongLong(), sectors};
+        identity.serial = udevValue(disk.disk, u"ID_SERIAL");
+        identity.label = udevValue(device, u"ID_FS_LABEL");
+        identity.fileSystemId = udevValue(device, u"ID_FS_UUID");
+        identity.partition = partitionOf(device.name, disk.disk.name);
+        record.target = {QStringLiteral("/dev/") + device.name, identity, std::make_shared<MediumMemory>()};
         record.path = mount.path.isEmpty() ? record.target.path : mount.path;
         m_media << record;
     }

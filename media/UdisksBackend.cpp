@@ -5,6 +5,7 @@
 #include <QDBusObjectPath>
 
 #include "media/DiskSequence.h"
+#include "media/SysfsBackend.h"
 
 namespace vantor {
 
@@ -19,7 +20,9 @@ constexpr auto kRetryTime = 5s;
 }  // namespace
 
 UdisksBackend::UdisksBackend(const QString& busAddress, const QString& root)
-    : m_root(root), m_bus(std::make_shared<UdisksBus>(busAddress)) {
+    : m_root(root),
+      m_bus(std::make_unique<UdisksBus>(busAddress)),
+      m_desk(std::make_shared<DescriptorDesk>(*m_bus)) {
     qRegisterMetaType<QDBusObjectPath>();
     m_settle.setSingleShot(true);
     m_settle.setInterval(kSettleTime);
@@ -28,7 +31,11 @@ UdisksBackend::UdisksBackend(const QString& busAddress, const QString& root)
     connect(&m_retry, &QTimer::timeout, this, &UdisksBackend::onRetry);
 }
 
-UdisksBackend::~UdisksBackend() = default;
+// The bus goes here and nowhere else: a thread that is left behind in a device must not take it down while
+// the program ends.
+UdisksBackend::~UdisksBackend() {
+    m_desk->close();
+}
 
 std::optional<QList<MediumRecord>> UdisksBackend::list() {
     const auto answer = answerWithinPatience();
@@ -37,8 +44,17 @@ std::optional<QList<MediumRecord>> UdisksBackend::list() {
         return std::nullopt;
     }
     QList<MediumRecord> media = udisksMedia(*objects);
+    // A card that is put back is looked for by the kernel's texts, so it is known by them from the start.
+    const QList<MediumTarget> present = presentTargets(m_root);
     for (MediumRecord& record : media) {
-        record.target.identity.diskSequence =
+        MediumTarget& target = record.target;
+        target.memory = std::make_shared<MediumMemory>();
+        for (const MediumTarget& known : present) {
+            if (known.path == target.path) {
+                target.identity = known.identity;
+            }
+        }
+        target.identity.diskSequence =
             diskSequenceOf(record.facts.value(QStringLiteral("DeviceIdentifier")).toString(), m_root);
     }
     return media;
@@ -94,8 +110,9 @@ void UdisksBackend::listen() {
 }
 
 DescriptorRequest UdisksBackend::descriptorRequest() const {
-    return
-        [bus = m_bus](const QString& node, const StopRequest& stop) { return bus->openDevice(node, stop); };
+    return [desk = m_desk](const QString& node, const StopRequest& stop) {
+        return desk->openDevice(node, stop);
+    };
 }
 
 void UdisksBackend::onSignal() {

@@ -36,7 +36,8 @@ class UdisksBackend : public QObject, public MediaBackend {
     void tell();
 
     const QString m_root;
-    std::shared_ptr<UdisksBus> m_bus;                 // shared with those who ask for descriptors
+    std::unique_ptr<UdisksBus> m_bus;
+    std::shared_ptr<DescriptorDesk> m_desk;           // shared with those who ask for descriptors
     QString m_listeningOn;                            // name of the connection whose signals arrive
     std::unique_ptr<QDBusPendingCallWatcher> m_late;  // a call that is still waited for
     QTimer m_settle;                                  // many signals, one change

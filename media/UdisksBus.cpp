@@ -81,10 +81,15 @@ UdisksInterfaces readInterfaces(const QDBusArgument& argument) {
 }  // namespace
 
 struct UdisksBus::Attempt {
-    std::atomic<bool> finished{false};
+    // Shared with the thread that connects, which may outlast everything else.
+    std::shared_ptr<std::atomic<bool>> finished = std::make_shared<std::atomic<bool>>(false);
     QString name;  // of the connection, whether or not it came to be
 
-    ~Attempt() { QDBusConnection::disconnectFromBus(name); }
+    ~Attempt() {
+        if (*finished) {
+            QDBusConnection::disconnectFromBus(name);
+        }
+    }
 };
 
 UdisksBus::UdisksBus(QString address) : m_address(std::move(address)) {}
@@ -93,7 +98,7 @@ UdisksBus::~UdisksBus() = default;
 
 bool UdisksBus::ensureConnected(std::chrono::milliseconds wait) {
     if (const auto last = this->attempt()) {
-        if (!last->finished) {
+        if (!*last->finished) {
             return false;  // it has had its time
         }
         if (connectionOf(last).isConnected()) {
@@ -107,15 +112,15 @@ bool UdisksBus::ensureConnected(std::chrono::milliseconds wait) {
         m_attempt = attempt;
     }
     // On a thread of its own: greeting a bus that does not answer takes its own long time.
-    std::thread([attempt, address = m_address] {
+    std::thread([finished = attempt->finished, name = attempt->name, address = m_address] {
         if (address.isEmpty()) {
-            QDBusConnection::connectToBus(QDBusConnection::SystemBus, attempt->name);
+            QDBusConnection::connectToBus(QDBusConnection::SystemBus, name);
         } else {
-            QDBusConnection::connectToBus(address, attempt->name);
+            QDBusConnection::connectToBus(address, name);
         }
-        attempt->finished = true;
+        *finished = true;
     }).detach();
-    return lookOften([&] { return attempt->finished.load(); }, wait, {}) &&
+    return lookOften([&] { return attempt->finished->load(); }, wait, {}) &&
            connectionOf(attempt).isConnected();
 }
 
@@ -175,6 +180,27 @@ FileDescriptor UdisksBus::openDevice(const QString& node, const StopRequest& sto
     // The answer's own descriptor closes with the answer.
     return descriptor.isValid() ? FileDescriptor(::fcntl(descriptor.fileDescriptor(), F_DUPFD_CLOEXEC, 0))
                                 : FileDescriptor();
+}
+
+FileDescriptor DescriptorDesk::openDevice(const QString& node, const StopRequest& stop) {
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_closed) {
+            return {};
+        }
+        ++m_inside;
+    }
+    FileDescriptor descriptor = m_bus.openDevice(node, [&] { return m_closed || (stop && stop()); });
+    const std::lock_guard lock(m_mutex);
+    --m_inside;
+    m_left.notify_all();
+    return descriptor;
+}
+
+void DescriptorDesk::close() {
+    std::unique_lock lock(m_mutex);
+    m_closed = true;
+    m_left.wait(lock, [this] { return m_inside == 0; });
 }
 
 bool waitForAnswer(const QDBusPendingCall& call, std::chrono::milliseconds wait, const StopRequest& stop) {

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QString>
+#include <atomic>
 #include <chrono>
+#include <condition_variable>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -48,7 +50,25 @@ class UdisksBus {
 
     const QString m_address;
     mutable std::mutex m_mutex;
-    std::shared_ptr<Attempt> m_attempt;  // guarded by m_mutex; shared with the thread that connects
+    std::shared_ptr<Attempt> m_attempt;  // guarded by m_mutex; shared with those who wait on it
+};
+
+// Where threads that may outlast the bus ask it for descriptors. Any thread.
+class DescriptorDesk {
+  public:
+    explicit DescriptorDesk(const UdisksBus& bus) : m_bus(bus) {}
+
+    // As UdisksBus::openDevice(); empty once the desk is closed.
+    FileDescriptor openDevice(const QString& node, const StopRequest& stop);
+    // Ends what is being waited for, within a moment, and returns when nobody uses the bus any more.
+    void close();
+
+  private:
+    const UdisksBus& m_bus;
+    std::mutex m_mutex;
+    std::condition_variable m_left;
+    int m_inside = 0;
+    std::atomic<bool> m_closed{false};
 };
 
 // Waits for an answer, looking for it often; false when `wait` went by or a stop was asked for.

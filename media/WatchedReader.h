@@ -12,7 +12,8 @@ namespace vantor {
 // Shared between the reading thread and whoever watches it.
 struct ReadWatch {
     std::atomic<std::uint64_t> sectorsRead{0};
-    std::atomic<bool> ended{false};  // every read from now on is refused
+    std::atomic<std::uint64_t> sectorsRefused{0};  // by the medium
+    std::atomic<bool> ended{false};                // every read from now on is refused
 };
 
 // Reads a borrowed medium; both outlive it. After `most` reads everything is refused, as after `ended`.
@@ -23,6 +24,7 @@ class WatchedReader final : public SectorReader {
         : m_medium(medium), m_watch(watch), m_left(most) {}
 
     std::uint64_t mediumSectors() const override { return m_medium.mediumSectors(); }
+    bool isGone() override { return m_medium.isGone(); }
     // True when reads were refused that the medium was not asked for.
     bool wasEnded() const { return m_left == 0 || m_watch.ended; }
 
@@ -45,7 +47,10 @@ class WatchedReader final : public SectorReader {
     bool moveTo(std::uint64_t sector) override { return !wasEnded() && m_medium.seek(sector); }
 
   private:
-    bool refused() { return false; }
+    bool refused() {
+        ++m_watch.sectorsRefused;
+        return false;
+    }
 
     SectorReader& m_medium;
     ReadWatch& m_watch;

@@ -40,7 +40,7 @@ class WindowedReader : public SectorReader {
     ~WindowedReader() override;
 
     std::uint64_t mediumSectors() const override { return m_source->sectors(); }
-    bool isGone() const override { return m_gone; }
+    bool isGone() override { return noteWhetherGone(); }
     void setScreen(std::shared_ptr<const SectorScreen> screen) override;
 
   protected:

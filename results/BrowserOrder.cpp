@@ -15,6 +15,9 @@ bool isSmall(const Soundness& soundness, const BrowserWish& wish) {
 }
 
 bool isShown(const ItemFacts& facts, const BrowserWish& wish) {
+    if (!wish.type.isEmpty() && facts.type != wish.type) {
+        return false;
+    }
     const auto& soundness = facts.soundness;
     const auto is = [&](Verdict verdict) {
         return soundness && !soundness->notOfItsType && soundness->verdict == verdict;

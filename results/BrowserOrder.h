@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QList>
+#include <QString>
 #include <functional>
 #include <optional>
 
@@ -21,6 +22,7 @@ struct ItemFacts {
     std::optional<Soundness> soundness;
     bool readFailed = false;  // while it was searched for
     bool saved = false;
+    QString type = {};  // as the results count it; only where a type is asked for
 };
 
 struct BrowserWish {
@@ -28,8 +30,9 @@ struct BrowserWish {
     SortItems sort = SortItems::AsFound;
     std::uint32_t smallPixels = kSmallPixels;
     std::uint64_t smallBytes = kSmallBytes;
+    QString type = {};  // empty: every type
 
-    bool isPlain() const { return show == ShowItems::All && sort == SortItems::AsFound; }
+    bool isPlain() const { return show == ShowItems::All && sort == SortItems::AsFound && type.isEmpty(); }
     // Whether it takes the soundness of all items to grant it.
     bool needsSoundness() const;
 };

@@ -17,14 +17,11 @@ struct SectorRun {
 struct CarvedRun {
     std::vector<SectorRun> runs;  // in the order of the item's bytes
     bool readFailed = false;      // a read failed between the item's first sector and its last
+    // Which of the item's published sectors, from 0, only repeat the one before, since their read failed.
+    std::vector<SectorRun> repeats = {};
 
-    void add(std::uint64_t sector) {
-        if (!runs.empty() && runs.back().end == sector) {
-            ++runs.back().end;
-        } else {
-            runs.push_back({sector, sector + 1});
-        }
-    }
+    void add(std::uint64_t sector) { append(runs, sector); }
+    void addRepeat(std::uint64_t published) { append(repeats, published); }
 
     std::uint64_t sectors() const {
         std::uint64_t sum = 0;
@@ -32,6 +29,15 @@ struct CarvedRun {
             sum += run.end - run.first;
         }
         return sum;
+    }
+
+  private:
+    static void append(std::vector<SectorRun>& to, std::uint64_t sector) {
+        if (!to.empty() && to.back().end == sector) {
+            ++to.back().end;
+        } else {
+            to.push_back({sector, sector + 1});
+        }
     }
 };
 

@@ -2,7 +2,6 @@
 #include "results/MediumBytes.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cstring>
 
 namespace vantor {
@@ -33,20 +32,69 @@ MediumBytes::MediumBytes(const ItemSource& source, std::vector<std::uint8_t>& ke
     : m_source(source),
       m_runs(source.asPublished ? source.carved.runs : withGapsClosed(source.carved.runs)),
       m_carvedBytes(sectorsOf(m_runs) * kSectorBytes),
-      m_kept(kept),
-      m_keptStart(static_cast<std::uint64_t>(source.firstBytes.size())),
-      m_keptEnd(m_keptStart) {
+      m_kept(kept) {
+    holdFirstBytes();
     if (!m_runs.empty() && !source.asPublished) {
         m_runs.back().end = std::max(m_runs.back().end, source.mediumSectors);
     }
     m_wholeSize = std::max(sectorsOf(m_runs) * kSectorBytes, m_keptStart);
     m_carvedBytes = std::max(m_carvedBytes, m_keptStart);
     m_size = m_wholeSize;
+    m_expected = m_carvedBytes;
     m_kept.reserve(kMostKept);  // growing must not move what others look at
+}
+
+// The published bytes of an item in which a read failed repeat sectors; without these they are the runs' own.
+void MediumBytes::holdFirstBytes() {
+    const CarvedRun& carved = m_source.carved;
+    const auto bytes = static_cast<std::uint64_t>(m_source.firstBytes.size());
+    if (m_source.asPublished || !carved.readFailed || carved.runs.empty()) {
+        m_keptStart = m_keptEnd = bytes;
+        return;
+    }
+    const auto* const published = reinterpret_cast<const std::uint8_t*>(m_source.firstBytes.data());
+    const std::uint64_t end = bytes / kSectorBytes;
+    auto repeat = carved.repeats.begin();
+    std::uint64_t at = 0;  // published sector
+    for (const SectorRun& run : carved.runs) {
+        for (std::uint64_t sector = run.first; sector < run.end && at < end;) {
+            if (repeat != carved.repeats.end() && at >= repeat->first) {
+                at = repeat->end;
+                ++repeat;
+                continue;
+            }
+            const std::uint64_t stop = repeat == carved.repeats.end() ? end : std::min(end, repeat->first);
+            const std::uint64_t count = std::min(stop - at, run.end - sector);
+            m_held[sector] = {sector + count, published + at * kSectorBytes};
+            sector += count;
+            at += count;
+        }
+    }
+    if (const auto first = m_held.find(carved.runs.front().first); first != m_held.end()) {
+        m_keptStart = m_keptEnd = (first->second.end - first->first) * kSectorBytes;
+    }
+}
+
+// Null when the medium has to be asked.
+const std::uint8_t* MediumBytes::heldSector(std::uint64_t onMedium) const {
+    const auto after = m_held.upper_bound(onMedium);
+    if (after == m_held.begin()) {
+        return nullptr;
+    }
+    const auto& [first, held] = *std::prev(after);
+    return onMedium < held.end ? held.bytes + (onMedium - first) * kSectorBytes : nullptr;
+}
+
+bool MediumBytes::holdsAnyFrom(std::uint64_t sector) const {
+    return !m_held.empty() && onMedium(sector) < std::prev(m_held.end())->second.end;
 }
 
 void MediumBytes::limitTo(std::uint64_t bytes) {
     m_size = std::min(m_size, std::max(bytes, m_carvedBytes));
+}
+
+void MediumBytes::expect(std::uint64_t bytes) {
+    m_expected = std::max(m_carvedBytes, bytes);
 }
 
 std::size_t MediumBytes::read(std::uint64_t offset, std::span<std::uint8_t> into) {
@@ -130,26 +178,16 @@ std::span<const std::uint8_t> MediumBytes::blockAt(std::uint64_t offset) {
 
 // Bytes that arrived, from the item's sector on.
 std::size_t MediumBytes::readSectors(std::uint64_t first, std::span<std::uint8_t> into) {
-    using Clock = std::chrono::steady_clock;
     SectorReader* const medium = m_source.medium ? m_source.medium() : nullptr;
-    if (medium == nullptr) {
-        m_readableSectors = std::min(m_readableSectors, first);
-        return 0;
-    }
     for (std::size_t done = 0; done < into.size(); done += kSectorBytes) {
         const std::uint64_t sector = first + done / kSectorBytes;
+        if (sector < m_readableSectors && !readSector(medium, sector, into.data() + done)) {
+            std::memset(into.data() + done, 0, kSectorBytes);
+            m_unreadable.add(sector);
+        }
         if (sector >= m_readableSectors) {
             return static_cast<std::size_t>(std::max(m_readableSectors, first) - first) * kSectorBytes;
         }
-        std::uint8_t* const place = into.data() + done;
-        const std::uint64_t at = onMedium(sector);
-        const auto asked = Clock::now();
-        if ((medium->position() == at || medium->seek(at)) && medium->read()) {
-            std::memcpy(place, medium->current(), kSectorBytes);
-            continue;
-        }
-        std::memset(place, 0, kSectorBytes);
-        noteRefusal(sector, std::chrono::duration<double>(Clock::now() - asked).count());
     }
     if (first * kSectorBytes + into.size() > m_carvedBytes) {
         m_bytesReadBeyond += into.size();
@@ -157,15 +195,75 @@ std::size_t MediumBytes::readSectors(std::uint64_t first, std::span<std::uint8_t
     return into.size();
 }
 
-void MediumBytes::noteRefusal(std::uint64_t sector, double seconds) {
-    m_unreadable.add(sector);
-    m_secondsRefused += seconds;
+bool MediumBytes::readSector(SectorReader* medium, std::uint64_t sector, std::uint8_t* place) {
+    const std::uint64_t at = onMedium(sector);
+    if (const std::uint8_t* const held = heldSector(at)) {
+        std::memcpy(place, held, kSectorBytes);
+        return true;
+    }
+    if (medium == nullptr || m_mediumIsGone) {
+        m_mediumIsGone = true;
+        if (!holdsAnyFrom(sector)) {
+            m_readableSectors = std::min(m_readableSectors, sector);
+        }
+        return false;
+    }
+    if (m_unreadable.contains(sector)) {
+        return false;
+    }
+    if ((medium->position() == at || medium->seek(at)) && medium->read()) {
+        std::memcpy(place, medium->current(), kSectorBytes);
+        return true;
+    }
+    noteRefusal(*medium, sector);
+    return false;
+}
+
+void MediumBytes::noteRefusal(SectorReader& medium, std::uint64_t sector) {
+    if (medium.isGone()) {
+        m_mediumIsGone = true;
+        if (!holdsAnyFrom(sector)) {
+            m_readableSectors = std::min(m_readableSectors, sector);
+        }
+        return;
+    }
     m_refusedInRow = sector == m_lastRefused + 1 ? m_refusedInRow + 1 : 1;
     m_lastRefused = sector;
-    if (m_secondsRefused > kPatienceSeconds) {
-        m_readableSectors = std::min(m_readableSectors, sector + 1);
-    } else if (m_refusedInRow == kHopelessSectors && sector * kSectorBytes >= m_carvedBytes) {
+    if (sector * kSectorBytes < m_expected) {
+        if (m_refusedInRow == kZoneRefusals) {
+            passOverZone(medium, sector + 1);
+        }
+    } else if (m_refusedInRow == kHopelessSectors) {
         m_readableSectors = std::min(m_readableSectors, sector + 1 - kHopelessSectors);
+    }
+}
+
+// Steps forward, ever further, to a sector that can be read, and halves the last step to where the good ones
+// begin. Each refusal may take the medium seconds, and a zone may hold many thousands.
+void MediumBytes::passOverZone(SectorReader& medium, std::uint64_t sector) {
+    const std::uint64_t end = std::min((m_expected + kSectorBytes - 1) / kSectorBytes, m_readableSectors);
+    const auto isGood = [&](std::uint64_t probed) {
+        const std::uint64_t at = onMedium(probed);
+        return heldSector(at) != nullptr || (medium.seek(at) && medium.read());
+    };
+    std::uint64_t bad = sector - 1;
+    std::uint64_t good = end;
+    for (std::uint64_t step = kZoneRefusals; bad + step < end && good == end && !medium.isGone();
+         step = std::min(2 * step, kMostZoneStep)) {
+        (isGood(bad + step) ? good : bad) = bad + step;
+    }
+    while (good - bad > 1 && !medium.isGone()) {
+        const std::uint64_t middle = bad + (good - bad) / 2;
+        (isGood(middle) ? good : bad) = middle;
+    }
+    const std::uint64_t carved = m_carvedBytes / kSectorBytes;
+    if (good == end && end > carved) {
+        // Nothing more of the file is there.
+        m_readableSectors = std::min(m_readableSectors, std::max(sector - kZoneRefusals, carved));
+        return;
+    }
+    for (; sector < good; ++sector) {
+        m_unreadable.add(sector);
     }
 }
 
@@ -187,6 +285,10 @@ std::uint64_t MediumBytes::sectorsUnreadable(std::uint64_t bytes) const {
         ++count;
     }
     return count;
+}
+
+bool MediumBytes::nothingReadable(std::uint64_t bytes) const {
+    return bytes != 0 && sectorsUnreadable(bytes) == (bytes + kSectorBytes - 1) / kSectorBytes;
 }
 
 }  // namespace vantor

@@ -4,6 +4,7 @@
 #include <QByteArrayView>
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <span>
 #include <vector>
 
@@ -17,7 +18,7 @@ namespace vantor {
 // Where an item's bytes come from.
 struct ItemSource {
     CarvedRun carved;
-    QByteArrayView firstBytes = {};  // the carved bytes, where they are at hand; borrowed
+    QByteArrayView firstBytes = {};  // the carved bytes as published, where they are at hand; borrowed
     // The medium, when bytes beyond firstBytes are wanted; null when it cannot be opened.
     std::function<SectorReader*()> medium;
     std::uint64_t mediumSectors = 0;  // 0: nothing is read beyond the carved run
@@ -28,14 +29,17 @@ struct ItemSource {
 // sector that was refused: it belongs to the item, and what is behind it keeps its place.
 //
 // The first bytes, up to kMostKept, stay in memory as they are read, so that what was walked is not read
-// again to be written. A sector that cannot be read becomes zeros. Reading ends early (a short read) before a
-// long unreadable stretch behind the carved run, and when the medium took kPatienceSeconds for refusals. One
-// thread.
+// again to be written. A sector that cannot be read becomes zeros. A zone of the file that refuses many
+// sectors in a row is passed over: its end is looked for in growing steps, and what lies behind it is read.
+// Reading ends early (a short read) when the medium has gone, and before a long unreadable stretch where no
+// more of the file is expected. One thread.
 class MediumBytes final : public ByteSource {
   public:
     static constexpr std::uint64_t kMostKept = std::uint64_t{64} * 1024 * 1024;
     static constexpr std::uint64_t kHopelessSectors = 64;
-    static constexpr int kPatienceSeconds = 30;
+    // So many refusals in a row make a bad zone, whose end is looked for in steps of kMostZoneStep at most.
+    static constexpr std::uint64_t kZoneRefusals = 16;
+    static constexpr std::uint64_t kMostZoneStep = 1024;
 
     // `kept` is the memory for the bytes that are kept, lent so that it serves many items.
     MediumBytes(const ItemSource& source, std::vector<std::uint8_t>& kept);
@@ -52,15 +56,20 @@ class MediumBytes final : public ByteSource {
     std::uint64_t carvedBytes() const { return m_carvedBytes; }
     // Narrows the view, never below the carved run.
     void limitTo(std::uint64_t bytes);
+    // So long is the file: bad zones up to there are passed over, as they are within the carved run.
+    void expect(std::uint64_t bytes);
     // Whether the view ends where the medium does.
     bool endsWithMedium() const { return m_size == m_wholeSize; }
 
     // Of the sectors read so far among the first `bytes` bytes.
     std::uint64_t sectorsUnreadable(std::uint64_t bytes) const;
+    // Whether of the first `bytes` bytes, which were read, not one sector was good.
+    bool nothingReadable(std::uint64_t bytes) const;
     // Whether the byte stands in a sector that was read in vain.
     bool isUnreadable(std::uint64_t offset) const { return m_unreadable.contains(offset / kSectorBytes); }
     // True when reading ended early; the rest of the medium is as good as unreadable.
     bool gaveUp() const { return m_readableSectors != kNoLimit; }
+    bool mediumIsGone() const { return m_mediumIsGone; }
     // How much was asked of the medium behind the carved run.
     std::uint64_t bytesReadBeyond() const { return m_bytesReadBeyond; }
 
@@ -71,18 +80,30 @@ class MediumBytes final : public ByteSource {
     void keepUpTo(std::uint64_t end);
     std::span<const std::uint8_t> blockAt(std::uint64_t offset);
     std::size_t readSectors(std::uint64_t first, std::span<std::uint8_t> into);
+    bool readSector(SectorReader* medium, std::uint64_t sector, std::uint8_t* place);
     std::uint64_t onMedium(std::uint64_t sector) const;
-    void noteRefusal(std::uint64_t sector, double seconds);
+    void noteRefusal(SectorReader& medium, std::uint64_t sector);
+    void passOverZone(SectorReader& medium, std::uint64_t sector);
+    void holdFirstBytes();
+    const std::uint8_t* heldSector(std::uint64_t onMedium) const;
+    bool holdsAnyFrom(std::uint64_t sector) const;
+
+    // Sectors of the medium, one behind the other.
+    struct Held {
+        std::uint64_t end = 0;  // sector of the medium
+        const std::uint8_t* bytes = nullptr;
+    };
 
     const ItemSource& m_source;
-    std::vector<SectorRun> m_runs;  // the last one reaches to the medium's end
+    std::map<std::uint64_t, Held> m_held;  // of the first bytes, by sector of the medium
+    std::vector<SectorRun> m_runs;         // the last one reaches to the medium's end
     std::uint64_t m_carvedBytes = 0;
     std::uint64_t m_wholeSize = 0;
     std::uint64_t m_size = 0;
 
     std::vector<std::uint8_t>& m_kept;  // bytes [m_keptStart, m_keptEnd)
-    const std::uint64_t m_keptStart;
-    std::uint64_t m_keptEnd;
+    std::uint64_t m_keptStart = 0;
+    std::uint64_t m_keptEnd = 0;
     std::vector<std::uint8_t> m_block;  // one place away from the kept bytes
     std::uint64_t m_blockStart = 0;
     std::size_t m_blockFill = 0;
@@ -92,7 +113,8 @@ class MediumBytes final : public ByteSource {
     std::uint64_t m_refusedInRow = 0;
     std::uint64_t m_lastRefused = kNoLimit;
     std::uint64_t m_readableSectors = kNoLimit;
-    double m_secondsRefused = 0;
+    std::uint64_t m_expected = 0;  // bytes of the file
+    bool m_mediumIsGone = false;
     std::uint64_t m_bytesReadBeyond = 0;
 };
 

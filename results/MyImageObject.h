@@ -63,6 +63,9 @@ class MyImageObject {
     const CarvedRun& carved() const { return m_carved; }
     // As the scan published them; after a failed read they are not the ones really read.
     const SectorRun& publishedSectors() const { return m_published; }
+    // The carved bytes as published, of a few items that the medium may not give again; empty of all others.
+    const QByteArray& heldBytes() const { return m_heldBytes; }
+    void setHeldBytes(const QByteArray& bytes) { m_heldBytes = bytes; }
     void setOrigin(const QString& type, CarvedRun carved, SectorRun published) {
         m_type = type;
         m_carved = std::move(carved);
@@ -83,6 +86,7 @@ class MyImageObject {
     QString m_type;
     CarvedRun m_carved;
     SectorRun m_published;
+    QByteArray m_heldBytes;
 };
 
 }  // namespace vantor

@@ -1,9 +1,11 @@
-// Compares what lies below a folder with what a medium is made of.
+// Compares what lies below a folder with what a medium is made of, and tries the folder.
 #include "saving/DestinationCheck.h"
 
 #include <sys/stat.h>
 
 #include <QFile>
+#include <QFileInfo>
+#include <QTemporaryFile>
 
 #include "saving/FreeSpace.h"
 #include "saving/StorageBelow.h"
@@ -16,6 +18,31 @@ bool destinationIsOnMedium(const QString& folder, const QString& mediumPath) {
         return false;
     }
     return storageBelow(place.st_dev).sharesWith(storageOfMedium(mediumPath));
+}
+
+std::optional<QString> refuseDestination(const QString& folder) {
+    const QFileInfo info(folder);
+    if (!info.exists()) {
+        return QStringLiteral("The folder %1 is not there.").arg(folder);
+    }
+    if (!info.isDir()) {
+        return QStringLiteral("%1 is not a folder.").arg(folder);
+    }
+    // Rights say little of a disk that is read-only or full.
+    QTemporaryFile trial(folder + QStringLiteral("/.vantor-XXXXXX"));
+    if (!trial.open() || trial.write("x", 1) != 1 || !trial.flush()) {
+        return QStringLiteral("Nothing can be written into the folder %1: %2.")
+            .arg(folder, trial.errorString());
+    }
+    return std::nullopt;
+}
+
+std::optional<std::uint64_t> fileSystemOf(const QString& folder) {
+    struct stat place {};
+    if (::stat(QFile::encodeName(folder).constData(), &place) != 0) {
+        return std::nullopt;
+    }
+    return place.st_dev;
 }
 
 }  // namespace vantor

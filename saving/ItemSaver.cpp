@@ -76,6 +76,10 @@ struct ItemSaver::Writing {
     SavingFolder folder;
     QString name;
     Likeness likeness;  // empty where duplicates do not matter
+
+    SoughtFile sought(bool allRead) const {
+        return {item.type, folder.path() + u'/' + name, firstSectorOf(item), allRead};
+    }
 };
 
 // Every frame of a stream may look like a file's beginning to the catalogues; such parts are saved as they
@@ -120,10 +124,6 @@ SaveOutcome ItemSaver::save(const FoundItem& item) const {
     }
     ItemSource source = item.source;
     source.asPublished = m_policy.asPublished;
-    // The published bytes of an item with failed reads repeat the sector before; its places tell better.
-    if (!m_policy.asPublished && source.carved.readFailed && !source.carved.runs.empty()) {
-        source.firstBytes = {};
-    }
     MediumBytes bytes(source, m_state->kept);
     const bool chosen = decideLength(item, bytes, outcome);
     if (isUnwanted(item)) {
@@ -136,10 +136,6 @@ SaveOutcome ItemSaver::save(const FoundItem& item) const {
 
 // A destination that was pulled out leaves a folder of its name on another disk.
 std::optional<SavingFolder> ItemSaver::openDestination(SaveOutcome& outcome) const {
-    if (!m_state->device && !QDir().mkpath(m_destination)) {
-        outcome.error = QStringLiteral("The folder %1 cannot be created").arg(m_destination);
-        return std::nullopt;
-    }
     auto folder = SavingFolder::open(m_destination);
     const auto device = folder ? folder->device() : std::nullopt;
     if (!device || m_state->device.value_or(*device) != *device) {
@@ -178,8 +174,11 @@ bool ItemSaver::decideLength(const FoundItem& item, MediumBytes& bytes, SaveOutc
     outcome.taken = facts.taken;
     outcome.width = facts.width;
     outcome.height = facts.height;
+    bytes.expect(length.bytes);
     const std::uint32_t longerSide = std::max(facts.width, facts.height);
-    if (length.bytes < m_policy.minBytes || (longerSide != 0 && longerSide < m_policy.minPixels)) {
+    if (bytes.isUnreadable(0) || bytes.mediumIsGone()) {
+        // What could not be looked at is not judged.
+    } else if (length.bytes < m_policy.minBytes || (longerSide != 0 && longerSide < m_policy.minPixels)) {
         outcome.leftOut = LeftOut::TooSmall;
     } else if (m_policy.skipUnsound && isCertainlyUnsound(item.type, length.extent)) {
         outcome.leftOut = LeftOut::Unsound;
@@ -203,6 +202,7 @@ void ItemSaver::saveBytes(const FoundItem& item, const SavingFolder& destination
     }
     Writing writing{item, *folder, name.file, {}};
     if (m_policy.skipDuplicates) {
+        m_state->saved.lookInto(m_destination + u'/' + safePathComponent(item.type), item.type);
         writing.likeness = {outcome.bytes, sumOfHead(bytes, outcome.bytes)};
         if (settleBeforeWriting(writing, bytes, outcome)) {
             return;
@@ -210,7 +210,8 @@ void ItemSaver::saveBytes(const FoundItem& item, const SavingFolder& destination
     }
     if (writeFile(writing, bytes, outcome)) {
         writing.likeness.bytes = outcome.bytes;
-        m_state->saved.add(writing.likeness, {outcome.path, item.type, outcome.sha256, firstSectorOf(item)});
+        m_state->saved.add(writing.likeness, {outcome.path, item.type, outcome.sha256, firstSectorOf(item),
+                                              outcome.sectorsUnreadable == 0});
     }
 }
 
@@ -226,11 +227,14 @@ bool ItemSaver::settleBeforeWriting(const Writing& writing, MediumBytes& bytes, 
         }
     }
     const auto atHand = bytes.keptFrom(0);
-    if (atHand.size() < outcome.bytes || !saved.hasLike(writing.likeness)) {
+    if (atHand.size() < outcome.bytes || bytes.nothingReadable(outcome.bytes) ||
+        !saved.hasLike(writing.likeness)) {
         return false;
     }
     outcome.sha256 = Sha256::of(asView(atHand.first(static_cast<std::size_t>(outcome.bytes))));
-    const SavedFile* const same = saved.withChecksum(writing.likeness, outcome.sha256, item.type);
+    const bool allRead = bytes.sectorsUnreadable(outcome.bytes) == 0;
+    const SavedFile* const same =
+        saved.withChecksum(writing.likeness, outcome.sha256, writing.sought(allRead));
     return same != nullptr && settleAs(*same, writing, outcome);
 }
 
@@ -245,8 +249,8 @@ bool ItemSaver::settleAs(const SavedFile& earlier, const Writing& writing, SaveO
     outcome.sha256 = earlier.sha256;
     outcome.saved = outcome.duplicate = true;
     if (!sameType) {
-        m_state->saved.add(writing.likeness,
-                           {*path, writing.item.type, earlier.sha256, firstSectorOf(writing.item)});
+        m_state->saved.add(writing.likeness, {*path, writing.item.type, earlier.sha256,
+                                              firstSectorOf(writing.item), earlier.allRead});
     }
     return true;
 }
@@ -268,12 +272,10 @@ bool ItemSaver::writeFile(const Writing& writing, MediumBytes& bytes, SaveOutcom
         outcome.error = cancelledText();
         return false;
     }
-    outcome.sectorsUnreadable = bytes.sectorsUnreadable(done);
+    if (file.isGood() && !readEnough(bytes, done, outcome)) {
+        return false;
+    }
     if (file.isGood() && done < outcome.bytes) {
-        if (done == 0) {
-            outcome.error = QStringLiteral("The medium cannot be read any more");
-            return false;
-        }
         outcome.bytes = done;
         outcome.verdict = Verdict::CutOff;
     } else if (outcome.sectorsUnreadable != 0 && outcome.verdict == Verdict::Complete) {
@@ -281,8 +283,8 @@ bool ItemSaver::writeFile(const Writing& writing, MediumBytes& bytes, SaveOutcom
     }
     if (likeAnother && summing && file.isGood()) {
         const Likeness asWritten{outcome.bytes, writing.likeness.head};
-        const SavedFile* const same =
-            m_state->saved.withChecksum(asWritten, outcome.sha256, writing.item.type);
+        const SavedFile* const same = m_state->saved.withChecksum(
+            asWritten, outcome.sha256, writing.sought(outcome.sectorsUnreadable == 0));
         if (same != nullptr && settleAs(*same, writing, outcome)) {
             return false;
         }
@@ -297,6 +299,18 @@ bool ItemSaver::writeFile(const Writing& writing, MediumBytes& bytes, SaveOutcom
     }
     outcome.saved = true;
     outcome.path = *path;
+    return true;
+}
+
+// False when there is nothing that is worth a file.
+bool ItemSaver::readEnough(const MediumBytes& bytes, std::uint64_t done, SaveOutcome& outcome) {
+    outcome.sectorsUnreadable = bytes.sectorsUnreadable(done);
+    outcome.mediumGone = bytes.mediumIsGone() && (done < outcome.bytes || outcome.sectorsUnreadable != 0);
+    if (outcome.bytes != 0 && (done == 0 || bytes.nothingReadable(done))) {
+        outcome.error = outcome.mediumGone ? QStringLiteral("The medium cannot be read any more")
+                                           : QStringLiteral("None of its sectors could be read");
+        return false;
+    }
     return true;
 }
 

@@ -35,6 +35,7 @@ struct SaveOutcome {
     QString error;                        // a sentence for the user when saving failed
     std::uint64_t bytes = 0;              // of the file
     std::uint64_t sectorsUnreadable = 0;  // written as zeros
+    bool mediumGone = false;              // before all of it was read: another time may give more
     // Of the file as saved: Complete only when all of its sectors could be read.
     Verdict verdict = Verdict::Unknown;
     bool exactLength = true;         // false: the format does not mark its end to the byte
@@ -55,13 +56,15 @@ struct FoundItem {
     const std::atomic<bool>* unwanted = nullptr;
 };
 
-// One medium and one destination. An item becomes `<destination>/<type>/<name>`, whole or not at all; nothing
-// is ever overwritten, and no type or name leads out of the destination. What does not fit is told and left
-// out; a smaller item behind it may still fit. Any one thread.
+// One medium and one destination, which has to be there. An item becomes `<destination>/<type>/<name>`, whole
+// or not at all; nothing is ever overwritten, and no type or name leads out of the destination. What does not
+// fit is told and left out; a smaller item behind it may still fit. An item of which nothing could be read
+// fails. Any one thread.
 //
 // The same bytes are saved once: again under the same type they are left out, under another type (a header
 // that several types share) the file gets a second name there, or is written again where the file system has
-// no second names.
+// no second names. Files that lie in the type's folder from earlier are known by their bytes too. Zeros in
+// place of what could not be read count for nothing here.
 class ItemSaver {
   public:
     // Asked before each file with the destination: whether it lies on the medium by now, for somebody may
@@ -92,6 +95,7 @@ class ItemSaver {
     void saveBytes(const FoundItem& item, const SavingFolder& destination, MediumBytes& bytes,
                    SaveOutcome& outcome) const;
     bool settleBeforeWriting(const Writing& writing, MediumBytes& bytes, SaveOutcome& outcome) const;
+    static bool readEnough(const MediumBytes& bytes, std::uint64_t done, SaveOutcome& outcome);
     bool settleAs(const SavedFile& earlier, const Writing& writing, SaveOutcome& outcome) const;
     std::uint64_t copyBytes(const FoundItem& item, std::uint64_t length, MediumBytes& bytes, WholeFile& file,
                             bool summing) const;

@@ -20,7 +20,16 @@ SaveJob::SaveJob(SaveRequest request) : m_request(std::move(request)) {
 }
 
 void SaveJob::cancel() {
+    const std::lock_guard lock(m_lock);
+    m_cancelled = true;
     m_watch.ended = true;
+}
+
+void SaveJob::skip(std::size_t place) {
+    const std::lock_guard lock(m_lock);
+    if (m_progress.done == place) {
+        m_watch.ended = true;
+    }
 }
 
 SaveProgress SaveJob::progress() const {
@@ -28,37 +37,51 @@ SaveProgress SaveJob::progress() const {
     SaveProgress progress = m_progress;
     // An item may be longer or shorter than it was found.
     progress.share += std::min(m_watch.sectorsRead.load(), m_sectorsOfCurrent.load());
+    progress.refused = m_watch.sectorsRefused;
     return progress;
 }
 
 void SaveJob::run() {
     const std::unique_ptr<SectorReader> medium = m_request.openMedium ? m_request.openMedium() : nullptr;
     m_report.mediumOpened = medium != nullptr;
-    if (medium) {
-        saveAll(*medium);
+    const auto held = [](const ChosenItem& chosen) { return !chosen.item->heldBytes().isEmpty(); };
+    if (medium || std::any_of(m_request.items.begin(), m_request.items.end(), held)) {
+        saveAll(medium.get());
         m_request.saver->flush();
         writeTheReport();
     }
     m_finished = true;
 }
 
-void SaveJob::saveAll(SectorReader& medium) {
+void SaveJob::begin(const MyImageObject& item) {
+    const std::lock_guard lock(m_lock);
+    m_progress.current = item.imageTitle();
+    m_sectorsOfCurrent = foundSectors(item);
+    m_watch.sectorsRead = 0;
+    m_watch.sectorsRefused = 0;
+    m_watch.ended = m_cancelled.load();
+}
+
+void SaveJob::saveAll(SectorReader* medium) {
     for (const ChosenItem& chosen : m_request.items) {
         const MyImageObject& item = *chosen.item;
-        {
-            const std::lock_guard lock(m_lock);
-            m_progress.current = item.imageTitle();
-            m_sectorsOfCurrent = foundSectors(item);
-            m_watch.sectorsRead = 0;
+        begin(item);
+        std::optional<WatchedReader> watched;
+        if (medium != nullptr) {
+            watched.emplace(*medium, m_watch);
         }
-        WatchedReader watched(medium, m_watch);
-        FoundItem found{item.fileType(),
-                        item.imageTitle(),
-                        {item.carved(), {}, [&watched] { return &watched; }, medium.mediumSectors()},
-                        &m_watch.ended};
+        FoundItem found{
+            item.fileType(),
+            item.imageTitle(),
+            {item.carved(), item.heldBytes(), [&watched] { return watched ? &*watched : nullptr; },
+             medium != nullptr ? medium->mediumSectors() : 0},
+            &m_watch.ended};
         SaveOutcome outcome = m_request.saver->save(found);
-        if (m_watch.ended && !outcome.saved) {
+        if (m_cancelled && !outcome.saved) {
             return;
+        }
+        if (m_watch.ended && !outcome.saved) {
+            outcome.error = QStringLiteral("Skipped");
         }
         m_report.tally.add(item.imageTitle(), outcome);
         m_report.indexes.push_back(chosen.index);

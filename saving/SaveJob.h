@@ -35,7 +35,7 @@ struct SaveRequest {
 
 // What became of the items, in the order of the request; those behind a cancel are absent.
 struct SaveReport {
-    bool mediumOpened = false;
+    bool mediumOpened = false;  // else only what memory holds was saved
     SaveTally tally;
     std::vector<std::size_t> indexes;
     std::vector<ReportedItem> items;
@@ -44,9 +44,10 @@ struct SaveReport {
 
 // How far a job is.
 struct SaveProgress {
-    std::size_t done = 0;     // items
-    QString current;          // name of the item at hand
-    std::uint64_t share = 0;  // of total(), in sectors of the items as they were found
+    std::size_t done = 0;       // items
+    QString current;            // name of the item at hand
+    std::uint64_t share = 0;    // of total(), in sectors of the items as they were found
+    std::uint64_t refused = 0;  // sectors of the item at hand that the medium could not read
 };
 
 // run() belongs to one thread; everything else may be used by any other meanwhile.
@@ -58,7 +59,10 @@ class SaveJob {
 
     // The item at hand is given up at once, unless the medium keeps it waiting; nothing of it stays behind.
     void cancel();
-    bool isCancelled() const { return m_watch.ended; }
+    bool isCancelled() const { return m_cancelled; }
+    // Gives up the item of that place in the request as cancel() does, and goes on with the next; no effect
+    // when another is at hand.
+    void skip(std::size_t place);
     bool isFinished() const { return m_finished; }
 
     std::size_t count() const { return m_request.items.size(); }
@@ -69,13 +73,15 @@ class SaveJob {
     const SaveReport& report() const { return m_report; }
 
   private:
-    void saveAll(SectorReader& medium);
+    void saveAll(SectorReader* medium);
+    void begin(const MyImageObject& item);
     void writeTheReport();
 
     SaveRequest m_request;
     SaveReport m_report;
     std::uint64_t m_total = 0;
     ReadWatch m_watch;
+    std::atomic<bool> m_cancelled{false};
     std::atomic<bool> m_finished{false};
     std::atomic<std::uint64_t> m_sectorsOfCurrent{0};
 

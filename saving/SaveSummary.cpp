@@ -71,6 +71,9 @@ QString summaryDetails(const SaveSummary& summary) {
     if (tally.failed > 0) {
         lines << failureLines(tally);
     }
+    if (summary.mediumGone) {
+        lines << QObject::tr("The storage medium went away meanwhile. Put it back in and save again.");
+    }
     if (summary.cancelled) {
         lines << QObject::tr("The rest was not saved because you cancelled.");
     }

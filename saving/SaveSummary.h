@@ -13,6 +13,7 @@ struct SaveSummary {
     bool cancelled = false;
     bool reportWritten = false;
     QString reportError;
+    bool mediumGone = false;  // before all was read
 };
 
 // "12 files were saved."

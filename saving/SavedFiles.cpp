@@ -2,8 +2,10 @@
 // both agree.
 #include "saving/SavedFiles.h"
 
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <optional>
 
 #include "saving/Sha256.h"
 
@@ -12,6 +14,14 @@ namespace vantor {
 namespace {
 
 constexpr qint64 kChunkBytes = 1024 * 1024;
+
+std::optional<QByteArray> checksumOfHead(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return std::nullopt;
+    }
+    return Sha256::of(file.read(static_cast<qint64>(Likeness::kHeadBytes)));
+}
 
 // Empty when the file cannot be read.
 QByteArray checksumOfFile(const QString& path) {
@@ -38,12 +48,39 @@ const SavedFile* better(const SavedFile* best, const SavedFile& candidate, std::
 
 }  // namespace
 
+void SavedFiles::lookInto(const QString& folder, const QString& type) {
+    if (!m_folders.insert(folder).second) {
+        return;
+    }
+    QDirIterator files(folder, QDir::Files | QDir::NoSymLinks, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString path = files.next();
+        m_fromEarlier.emplace(static_cast<std::uint64_t>(files.fileInfo().size()),
+                              SavedFile{path, type, {}, SavedFile::kNoPlace, true});
+    }
+}
+
+void SavedFiles::lookAtFilesOf(std::uint64_t bytes) {
+    const auto [begin, end] = m_fromEarlier.equal_range(bytes);
+    for (auto file = begin; file != end; ++file) {
+        if (const auto head = checksumOfHead(file->second.path)) {
+            add({bytes, *head}, std::move(file->second));
+        }
+    }
+    m_fromEarlier.erase(begin, end);
+}
+
+bool SavedFiles::hasLike(const Likeness& likeness) {
+    lookAtFilesOf(likeness.bytes);
+    return m_files.contains(likeness);
+}
+
 const SavedFile* SavedFiles::fromPlace(std::uint64_t bytes, std::uint64_t firstSector,
                                        const QString& type) const {
     const SavedFile* best = nullptr;
     for (auto file = m_files.lower_bound({bytes, {}}); file != m_files.end() && file->first.bytes == bytes;
          ++file) {
-        if (file->second.firstSector == firstSector) {
+        if (file->second.firstSector == firstSector && file->second.allRead) {
             best = better(best, file->second, bytes, type);
         }
     }
@@ -51,16 +88,24 @@ const SavedFile* SavedFiles::fromPlace(std::uint64_t bytes, std::uint64_t firstS
 }
 
 const SavedFile* SavedFiles::withChecksum(const Likeness& likeness, const QByteArray& sha256,
-                                          const QString& type) {
+                                          const SoughtFile& sought) {
+    lookAtFilesOf(likeness.bytes);
+    const auto mayBeSame = [&sought](const SavedFile& file) {
+        return (file.allRead && sought.allRead) || file.firstSector == sought.firstSector ||
+               file.path == sought.path;
+    };
     const SavedFile* best = nullptr;
     const auto [begin, end] = m_files.equal_range(likeness);
     for (auto file = begin; file != end; ++file) {
         SavedFile& candidate = file->second;
+        if (!mayBeSame(candidate)) {
+            continue;
+        }
         if (candidate.sha256.isEmpty()) {
             candidate.sha256 = checksumOfFile(candidate.path);
         }
         if (candidate.sha256 == sha256) {
-            best = better(best, candidate, likeness.bytes, type);
+            best = better(best, candidate, likeness.bytes, sought.type);
         }
     }
     return best;

@@ -1,10 +1,13 @@
-// What one destination has received so far, told by its bytes, so that the same bytes are saved once.
+// What one destination holds, from now and from earlier, told by its bytes, so that the same bytes are saved
+// once.
 #pragma once
 
 #include <QByteArray>
 #include <QString>
 #include <cstdint>
+#include <limits>
 #include <map>
+#include <set>
 #include <tuple>
 #include <utility>
 
@@ -26,23 +29,43 @@ struct SavedFile {
     QString path;
     QString type;
     QByteArray sha256;              // raw; empty until it is asked for
-    std::uint64_t firstSector = 0;  // on the medium
+    std::uint64_t firstSector = 0;  // on the medium; kNoPlace of a file from earlier
+    bool allRead = true;            // no zeros stand in it for sectors that could not be read
+
+    static constexpr std::uint64_t kNoPlace = std::numeric_limits<std::uint64_t>::max();
+};
+
+// What is about to be saved.
+struct SoughtFile {
+    QString type;
+    QString path;
+    std::uint64_t firstSector = 0;
+    bool allRead = true;
 };
 
 // Any one thread.
 class SavedFiles {
   public:
     void add(const Likeness& likeness, SavedFile file) { m_files.emplace(likeness, std::move(file)); }
-    bool hasLike(const Likeness& likeness) const { return m_files.contains(likeness); }
+    // Takes note of the files of a type that lie in and below its folder already; once a folder.
+    void lookInto(const QString& folder, const QString& type);
+    bool hasLike(const Likeness& likeness);
 
-    // The file of so many bytes that was read from that place of the medium, or the one alike that has that
-    // checksum; one of the given type where there is a choice. Null when there is none, or when it is no
+    // The file of so many bytes that was read whole from that place of the medium, or the one alike that has
+    // that checksum; one of the given type where there is a choice. Bytes that could not all be read are only
+    // those of a file from the same place or under the same name. Null when there is none, or when it is no
     // longer there as it was saved. Valid until the next add().
     const SavedFile* fromPlace(std::uint64_t bytes, std::uint64_t firstSector, const QString& type) const;
-    const SavedFile* withChecksum(const Likeness& likeness, const QByteArray& sha256, const QString& type);
+    const SavedFile* withChecksum(const Likeness& likeness, const QByteArray& sha256,
+                                  const SoughtFile& sought);
 
   private:
+    void lookAtFilesOf(std::uint64_t bytes);
+
     std::multimap<Likeness, SavedFile> m_files;
+    std::set<QString> m_folders;  // that were looked into
+    // Files from earlier by their size; nothing of them is read before another of that size comes.
+    std::multimap<std::uint64_t, SavedFile> m_fromEarlier;
 };
 
 }  // namespace vantor

@@ -12,7 +12,7 @@ namespace vantor {
 class SavedMarks {
   public:
     void note(std::size_t index, const SaveOutcome& outcome) {
-        if (outcome.saved) {
+        if (outcome.saved && !outcome.mediumGone) {
             m_saved.insert(index);
             m_leftOut.erase(index);
         } else if (outcome.leftOut != LeftOut::No && !m_saved.contains(index)) {

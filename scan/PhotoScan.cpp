@@ -14,6 +14,13 @@
 
 namespace vantor {
 
+namespace {
+
+// Of photos with failed reads, all together.
+constexpr std::uint64_t kMostHeldBytes = std::uint64_t{64} * 1024 * 1024;
+
+}  // namespace
+
 // The working state of one pass.
 struct ScanSession::PhotoPass {
     PhotoPass(const QString& passName, PhotoMemory& memory) : name(passName), item(memory) {}
@@ -49,6 +56,7 @@ struct ScanSession::PhotoPass {
 bool ScanSession::Photo_Recovey_Mode(const QString& passName) {
     if (passName == kGeneralPass) {
         clearItems();
+        m_heldBytes = 0;
         m_view.resetPhotoBrowser();
     }
     if (!beginPass(ControlSet::Photo, passName)) {
@@ -126,6 +134,8 @@ void ScanSession::collectPhotoSector(PhotoPass& pass) {
         pass.item.append(pFile_Disk->current());
         if (pass.lastReadSucceeded || pass.carved.runs.empty()) {
             pass.carved.add(pass.lastGoodSector);
+        } else {
+            pass.carved.addRepeat(pass.item.size() / kSectorBytes - 1);
         }
         return;
     }
@@ -169,6 +179,11 @@ void ScanSession::handOverPhoto(PhotoPass& pass) {
     m_handOver = {
         pass.name,  pass.itemType, pass.itemFirstSector, pass.item.size(), pass.item.overflowSha256(),
         pass.carved};
+    const auto size = static_cast<std::uint64_t>(pass.item.bytes().size());
+    if (pass.carved.readFailed && m_heldBytes + size <= kMostHeldBytes) {
+        m_heldBytes += size;
+        m_handOver.heldBytes = pass.item.bytes();
+    }
     addImageWithData(pass.item.bytes(), pass.itemName, pass.itemUid);
     m_handOver = {};
     pass.item.clear();

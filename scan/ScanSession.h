@@ -172,6 +172,9 @@ class ScanSession : public HexText {
         std::uint64_t bytes = 0;        // photo items: carved bytes, also those beyond what is kept in memory
         QByteArray sha256;              // of a photo item that outgrew the memory, else empty
         CarvedRun carved;
+        // Of a photo with failed reads the bytes as published, where memory allows: the medium may not give
+        // them again.
+        QByteArray heldBytes = {};
     };
 
   protected:
@@ -230,6 +233,7 @@ class ScanSession : public HexText {
     MediumOpener m_openMedium;
     Thumbnailer m_thumbnailer;
     HandOver m_handOver;
+    std::uint64_t m_heldBytes = 0;  // of all listed photos
     PhotoMemory m_photoMemory;
     QString m_placeholderPath;
     ReadFailures m_readFailures;  // of the pass

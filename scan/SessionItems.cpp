@@ -47,6 +47,7 @@ void ScanSession::addThumbnail(const QByteArray& thumbnail, const QString& image
     auto item = MyImageObject::initWithImage_data(thumbnail.isEmpty() ? Null_Image_Data : thumbnail,
                                                   imageName, image_UID);
     item->setOrigin(from.type, from.carved, {from.firstSector, from.firstSector + from.bytes / kSectorBytes});
+    item->setHeldBytes(from.heldBytes);
     appendItem(std::move(item));
     pacePhotoBrowser();
 }

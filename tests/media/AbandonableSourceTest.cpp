@@ -118,6 +118,15 @@ TEST(AbandonableSource, MediumThatCannotBeOpened_GivesNothing) {
     EXPECT_EQ(AbandonableSource::start([] { return nullptr; }, {}), nullptr);
 }
 
+TEST(AbandonableSource, WhatOpeningTook_IsLetGoBeforeItIsRead) {
+    ScriptedDrive medium;
+    const auto taken = std::make_shared<int>(0);
+    const auto source =
+        AbandonableSource::start([&medium, taken] { return std::make_unique<ScriptedSource>(medium); }, {});
+    ASSERT_NE(source, nullptr);
+    EXPECT_EQ(taken.use_count(), 1);
+}
+
 TEST(AbandonableSource, StopDuringAHangingRead_FailsReadAndSeekAndClosesWhenItReturns) {
     auto state = std::make_shared<Hanging>();
     state->hangsFrom = kWindow;

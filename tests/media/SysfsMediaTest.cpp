@@ -61,6 +61,23 @@ TEST(SysfsMedia, UsbStick_OffersDiskAndVolumeWithTheirFacts) {
     EXPECT_EQ(media[1].target.path, QStringLiteral("/dev/sdb1"));
     EXPECT_EQ(media[1].target.identity.diskSequence, 17U);
     EXPECT_EQ(media[1].target.identity.sectors, 62331904U);
+    EXPECT_EQ(media[1].target.identity.label, QStringLiteral("CANON_DC"));
+    EXPECT_EQ(media[1].target.identity.partition, QStringLiteral("1"));
+    EXPECT_EQ(media[0].target.identity.partition, QString());
+}
+
+TEST(SysfsMedia, IdentityIsThatOfTheCardAndItsFileSystem) {
+    SysfsDisk card = plain("mmcblk0", "0\n", "124735488\n");
+    card.cardType = QStringLiteral("SD\n");
+    card.disk.udevDatabase = QStringLiteral("E:ID_SERIAL=0x1a2b3c4d\n");
+    card.volumes << SysfsDevice{QStringLiteral("mmcblk0p2"), QStringLiteral("1000\n"),
+                                QStringLiteral("179:2\n"),
+                                QStringLiteral("E:ID_SERIAL=of-the-volume\nE:ID_FS_UUID=1234-ABCD\n")};
+    const auto media = sysfsMedia({card}, {});
+    ASSERT_EQ(media.size(), 2);
+    EXPECT_EQ(media[1].target.identity.serial, QStringLiteral("0x1a2b3c4d"));
+    EXPECT_EQ(media[1].target.identity.fileSystemId, QStringLiteral("1234-ABCD"));
+    EXPECT_EQ(media[1].target.identity.partition, QStringLiteral("2"));
 }
 
 TEST(SysfsMedia, MountTableGivesTheFileSystemWhereUdevIsSilent) {

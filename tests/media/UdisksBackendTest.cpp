@@ -266,5 +266,25 @@ TEST_F(DescriptorTest, ServiceThatDiesMeanwhile_GivesNone) {
     killer.join();
 }
 
+// A thread that waits for the user may outlast the source, which the program's end takes down.
+TEST_F(DescriptorTest, TheSourcesEnd_EndsWhatIsAskedForAndLaterRequestsGetNone) {
+    service->silent = true;
+    std::atomic<bool> answered{false};
+    std::thread asking([&] {
+        EXPECT_FALSE(ask());
+        answered = true;
+    });
+    while (service->openings == 0) {
+        std::this_thread::yield();
+    }
+    source.reset();
+    EXPECT_TRUE(eventually([&] { return answered.load(); }));
+    asking.join();
+    service->silent = false;
+    service->handedOut = file.fileName();
+    EXPECT_FALSE(ask());
+    EXPECT_EQ(service->openings, 1) << "the bus is not asked any more";
+}
+
 }  // namespace
 }  // namespace vantor::test

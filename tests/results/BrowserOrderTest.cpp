@@ -39,6 +39,19 @@ TEST_F(BrowserOrder, AskedFor_ShowsOnlyWhatIsKnownToBe) {
     EXPECT_EQ(order(ShowItems::UnknownLength), (QList<int>{5}));
 }
 
+TEST_F(BrowserOrder, AType_LeavesOutAllOthers) {
+    items[1].type = items[4].type = QStringLiteral("JPG");
+    items[3].type = QStringLiteral("PDF");
+    BrowserWish wish;
+    wish.type = QStringLiteral("JPG");
+    EXPECT_FALSE(wish.isPlain());
+    EXPECT_FALSE(wish.needsSoundness());
+    const auto factsOf = [this](int place) { return items[static_cast<std::size_t>(place)]; };
+    EXPECT_EQ(browserOrder(6, wish, factsOf), (QList<int>{1, 4}));
+    wish.show = ShowItems::NotSmall;
+    EXPECT_EQ(browserOrder(6, wish, factsOf), QList<int>{4});
+}
+
 TEST_F(BrowserOrder, LeftOut_KeepsWhatIsNotKnown) {
     EXPECT_EQ(order(ShowItems::NotSmall), (QList<int>{2, 3, 4, 5}));
     items[5].soundness->notOfItsType = true;

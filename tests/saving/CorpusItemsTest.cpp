@@ -99,6 +99,10 @@ TEST_F(CorpusItems, BrokenFilesAndMediaAreSavedWithinTheMedium) {
             const QTemporaryDir folder;
             const SaveOutcome outcome =
                 ItemSaver(folder.path()).saveRuns(typeOf(file), "x", {{{1, 1 + carved}}, false}, reader);
+            if (medium.badForEver.contains(1) && carved == 1) {
+                EXPECT_FALSE(outcome.saved) << "not one sector";
+                continue;
+            }
             ASSERT_TRUE(outcome.saved) << outcome.error.toStdString();
             ASSERT_LE(outcome.bytes, sectors * 512);
             ASSERT_EQ(contentsOf(outcome.path).size(), static_cast<qsizetype>(outcome.bytes));

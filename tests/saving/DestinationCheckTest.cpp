@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <cstdlib>
 #include <cstring>
@@ -69,6 +70,26 @@ TEST(DestinationCheck, FoldersOfAMountedCardAreSeenThroughLinks) {
     EXPECT_TRUE(destinationIsOnMedium(folder.filePath("card"), image)) << "what is mounted is the image";
     EXPECT_FALSE(destinationIsOnMedium(folder.path(), image));
     ::umount2(place.constData(), MNT_DETACH);
+}
+
+TEST(RefuseDestination, OnlyAFolderThatTakesFilesWillDo) {
+    const QTemporaryDir folder;
+    EXPECT_FALSE(refuseDestination(folder.path()));
+    EXPECT_TRUE(QDir(folder.path()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot))
+        << "the trial leaves nothing behind";
+    const auto absent = refuseDestination(folder.filePath(QStringLiteral("gone")));
+    ASSERT_TRUE(absent);
+    EXPECT_TRUE(absent->contains(QStringLiteral("is not there")));
+    EXPECT_FALSE(QFileInfo::exists(folder.filePath(QStringLiteral("gone"))));
+    QFile file(folder.filePath(QStringLiteral("file")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    EXPECT_TRUE(refuseDestination(file.fileName())->contains(QStringLiteral("is not a folder")));
+    const auto readOnly = refuseDestination(QStringLiteral("/proc/self"));
+    ASSERT_TRUE(readOnly) << "nobody writes there, whatever their rights";
+    EXPECT_TRUE(readOnly->contains(QStringLiteral("Nothing can be written")));
+    EXPECT_EQ(fileSystemOf(folder.path()), fileSystemOf(file.fileName()));
+    EXPECT_NE(fileSystemOf(folder.path()), fileSystemOf(QStringLiteral("/proc")));
+    EXPECT_FALSE(fileSystemOf(folder.filePath(QStringLiteral("gone"))));
 }
 
 }  // namespace vantor

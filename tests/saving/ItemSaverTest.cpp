@@ -251,6 +251,7 @@ TEST_P(SameBytes, AreSavedOnce) {
 
     SavePolicy keep;
     keep.skipDuplicates = false;
+    ASSERT_TRUE(QDir(folder.path()).mkdir("all"));
     const ItemSaver keeper(folder.filePath("all"), keep);
     EXPECT_TRUE(keeper.saveRuns("WAV", "a.WAV", run(10, 60), reader).saved);
     EXPECT_FALSE(keeper.saveRuns("WAV", "b.WAV", run(300, 600), reader).duplicate);
@@ -303,15 +304,18 @@ TEST(ItemSaver, DateTakenIsTheFilesTimeAndOnRequestItsName) {
     EXPECT_EQ(plain.height, 48U);
     SavePolicy policy;
     policy.byDate = true;
-    const SaveOutcome dated = ItemSaver(folder.path(), policy).saveRuns("TIF", "G1.TIF", run(5, 60), reader);
-    EXPECT_EQ(dated.path, folder.filePath("TIF/2026-05-17/2026-05-17 14.03.22 G1.TIF"));
+    const QTemporaryDir other;
+    const SaveOutcome dated = ItemSaver(other.path(), policy).saveRuns("TIF", "G1.TIF", run(5, 60), reader);
+    EXPECT_EQ(dated.path, other.filePath("TIF/2026-05-17/2026-05-17 14.03.22 G1.TIF"));
+    const SaveOutcome again = ItemSaver(other.path()).saveRuns("TIF", "G1.TIF", run(5, 60), reader);
+    EXPECT_EQ(again.path, dated.path) << "there already, by date";
 }
 
 TEST(ItemSaver, SmallOnesAreLeftOutOnRequest) {
     ScriptedMedium medium = mediumWith(tiffFile(64, 48, "2026:05:17 14:03:22"), 5, 60);
     ScriptedReader reader(medium);
-    const QTemporaryDir folder;
     const auto save = [&](const SavePolicy& policy) {
+        const QTemporaryDir folder;
         return ItemSaver(folder.path(), policy).saveRuns("TIF", "G1.TIF", run(5, 60), reader);
     };
     SavePolicy policy;
@@ -324,7 +328,6 @@ TEST(ItemSaver, SmallOnesAreLeftOutOnRequest) {
     EXPECT_TRUE(save(policy).saved);
     policy.minBytes = 10'000;
     EXPECT_EQ(save(policy).leftOut, LeftOut::TooSmall);
-    EXPECT_EQ(filesUnder(folder.path()).size(), 2);
 }
 
 TEST(ItemSaver, DestinationThatWentAwayIsNotMadeAgain) {
@@ -333,6 +336,9 @@ TEST(ItemSaver, DestinationThatWentAwayIsNotMadeAgain) {
     ScriptedReader reader(medium);
     const QString destination = folder.filePath("card/out");
     const ItemSaver saver(destination);
+    EXPECT_FALSE(saver.saveRuns("T", "a", run(0, 2), reader).saved) << "nor made by itself";
+    EXPECT_FALSE(QFileInfo::exists(destination));
+    ASSERT_TRUE(QDir().mkpath(destination));
     ASSERT_TRUE(saver.saveRuns("T", "a", run(0, 2), reader).saved);
     ASSERT_TRUE(QDir(destination).removeRecursively());
     const SaveOutcome outcome = saver.saveRuns("T", "b", run(0, 2), reader);
@@ -372,6 +378,165 @@ TEST(ItemSaver, PartsOfAStreamGoNoFurtherThanTheyWereCarved) {
     const SaveOutcome part = saver.saveRuns("AC3", "b.AC3", run(20, 22), reader);
     ASSERT_TRUE(part.saved);
     EXPECT_EQ(part.bytes, 2 * 512U);
+}
+
+// One reader that loses its medium at the given sector.
+class VanishingReader : public ScriptedReader {
+  public:
+    VanishingReader(ScriptedMedium& medium, std::uint64_t goneFrom)
+        : ScriptedReader(medium), m_goneFrom(goneFrom) {}
+    bool isGone() override { return m_gone; }
+
+  protected:
+    bool fetch() override {
+        m_gone = m_gone || position() >= m_goneFrom;
+        return !m_gone && ScriptedReader::fetch();
+    }
+
+  private:
+    const std::uint64_t m_goneFrom;
+    bool m_gone = false;
+};
+
+TEST(ItemSaver, ItemOfWhichNothingCanBeRead_FailsAndIsNoDuplicate) {
+    ScriptedMedium medium = letters(24);
+    for (std::uint64_t sector = 4; sector < 16; ++sector) {
+        medium.badForEver.insert(sector);
+    }
+    ScriptedReader reader(medium);
+    const QTemporaryDir folder;
+    const ItemSaver saver(folder.path());
+    for (const std::uint64_t first : {4U, 8U, 12U}) {
+        const SaveOutcome outcome = saver.saveRuns("T", "x", run(first, first + 4), reader);
+        EXPECT_FALSE(outcome.saved || outcome.duplicate);
+        EXPECT_EQ(outcome.error, QStringLiteral("None of its sectors could be read"));
+    }
+    EXPECT_TRUE(filesUnder(folder.path()).isEmpty());
+    SavePolicy picky;
+    picky.skipUnsound = true;
+    picky.minBytes = 1 << 20;
+    const SaveOutcome unseen = ItemSaver(folder.path(), picky).saveRuns("JPG", "x", run(4, 8), reader);
+    EXPECT_EQ(unseen.leftOut, LeftOut::No) << "nobody looked at it";
+    EXPECT_FALSE(unseen.error.isEmpty());
+}
+
+TEST(ItemSaver, ZerosInPlaceOfUnreadableSectorsMakeNoDuplicate) {
+    ScriptedMedium medium = letters(24);
+    medium.bytes[14] = medium.bytes[4];
+    medium.badForEver = {5, 6, 7, 15, 16, 17};
+    ScriptedReader reader(medium);
+    const QTemporaryDir folder;
+    const ItemSaver saver(folder.path());
+    ASSERT_TRUE(saver.saveRuns("T", "a", run(4, 8), reader).saved);
+    const SaveOutcome other = saver.saveRuns("T", "b", run(14, 18), reader);
+    EXPECT_TRUE(other.saved);
+    EXPECT_FALSE(other.duplicate) << "only their first sectors were read";
+    const SaveOutcome again = saver.saveRuns("T", "a", run(4, 8), reader);
+    EXPECT_TRUE(again.duplicate) << "the same place, as badly read";
+    EXPECT_EQ(filesUnder(folder.path()), QStringList({"T/a", "T/b"}));
+    medium.badForEver.clear();
+    EXPECT_FALSE(saver.saveRuns("T", "a", run(4, 8), reader).duplicate) << "all of it can be read now";
+    EXPECT_EQ(filesUnder(folder.path()), QStringList({"T/a", "T/a (2)", "T/b"}));
+}
+
+TEST(ItemSaver, MediumThatGoesAway_LeavesWhatWasReadAndFailsTheRest) {
+    ScriptedMedium medium = letters(20);
+    VanishingReader reader(medium, 6);
+    const QTemporaryDir folder;
+    const ItemSaver saver(folder.path());
+    const SaveOutcome first = saver.saveRuns("T", "a", run(4, 8), reader);
+    ASSERT_TRUE(first.saved);
+    EXPECT_TRUE(first.mediumGone);
+    EXPECT_EQ(first.verdict, Verdict::CutOff);
+    EXPECT_EQ(contentsOf(first.path), QByteArray(512, 'e') + QByteArray(512, 'f'));
+    const SaveOutcome second = saver.saveRuns("T", "b", run(10, 14), reader);
+    EXPECT_FALSE(second.saved);
+    EXPECT_EQ(second.error, QStringLiteral("The medium cannot be read any more"));
+}
+
+// As the photo in progress when a card is pulled out: two sectors, one refused, one more, then nothing.
+TEST(ItemSaver, BytesInMemoryOutliveTheMedium) {
+    const QByteArray published = QByteArray(512, 'a') + QByteArray(512, 'b') + QByteArray(512, 'b') +
+                                 QByteArray(512, 'd') + QByteArray(3 * 512, 'd');
+    const CarvedRun carved{{{4, 6}, {7, 8}}, true, {{2, 3}, {4, 7}}};
+    const QByteArray expected =
+        QByteArray(512, 'a') + QByteArray(512, 'b') + QByteArray(512, '\0') + QByteArray(512, 'd');
+    ScriptedMedium medium = letters(20);
+    VanishingReader pulled(medium, 0);
+    for (const bool opens : {false, true}) {
+        const QTemporaryDir folder;
+        const auto open = [&]() -> SectorReader* { return opens ? &pulled : nullptr; };
+        const SaveOutcome outcome =
+            ItemSaver(folder.path()).save({"T", "x", {carved, published, open, opens ? 20U : 0U}});
+        ASSERT_TRUE(outcome.saved) << outcome.error.toStdString();
+        EXPECT_EQ(contentsOf(outcome.path), expected);
+        EXPECT_EQ(outcome.sectorsUnreadable, 1U);
+    }
+    ScriptedReader whole(medium);
+    const QTemporaryDir folder;
+    const SaveOutcome outcome =
+        ItemSaver(folder.path()).save({"T", "x", {carved, published, [&] { return &whole; }, 8}});
+    EXPECT_EQ(contentsOf(outcome.path),
+              QByteArray(512, 'a') + QByteArray(512, 'b') + QByteArray(512, 'g') + QByteArray(512, 'd'));
+    EXPECT_EQ(medium.reads, 1U) << "only what memory does not hold";
+}
+
+TEST(ItemSaver, BadZoneIsPassedOverAndWhatLiesBehindIsRead) {
+    constexpr std::uint64_t kFirst = 10, kZone = 1000, kZoneEnd = 6000, kEnd = 9010;
+    const QByteArray wav = wavFile(static_cast<qsizetype>((kEnd - kFirst) * 512));
+    ScriptedMedium medium = mediumWith(wav, kFirst, 9100);
+    for (std::uint64_t sector = kZone; sector < kZoneEnd; ++sector) {
+        medium.badForEver.insert(sector);
+    }
+    QByteArray expected = wav;
+    const auto at = static_cast<qsizetype>((kZone - kFirst) * 512);
+    const auto count = static_cast<qsizetype>((kZoneEnd - kZone) * 512);
+    expected.replace(at, count, QByteArray(count, '\0'));
+    for (const std::uint64_t carvedEnd : {kEnd, kFirst + 20}) {
+        const QTemporaryDir folder;
+        ScriptedReader reader(medium);
+        medium.reads = 0;
+        const SaveOutcome outcome =
+            ItemSaver(folder.path()).saveRuns("WAV", "a.WAV", run(kFirst, carvedEnd), reader);
+        ASSERT_TRUE(outcome.saved);
+        EXPECT_TRUE(contentsOf(outcome.path) == expected);
+        EXPECT_EQ(outcome.sectorsUnreadable, kZoneEnd - kZone);
+        EXPECT_LT(medium.reads, 9100 - kFirst - (kZoneEnd - kZone) + 60) << "few refusals";
+    }
+}
+
+TEST(ItemSaver, FilesFromAnEarlierRecoveryAreKnownByTheirBytes) {
+    const QByteArray wav = wavFile(kWavBytes);
+    const QByteArray other = wavFile(kWavBytes, 2);
+    ScriptedMedium medium = mediumWith(wav, 10, 1000);
+    std::memcpy(medium.bytes.at(300).data(), other.data(), static_cast<std::size_t>(other.size()));
+    medium.badForEver = {710};
+    ScriptedReader reader(medium);
+    const QTemporaryDir folder;
+    const auto saveAll = [&] {
+        const ItemSaver saver(folder.path());
+        int duplicates = 0;
+        for (const auto& [name, at] : {std::pair{"a.WAV", 10}, {"b.WAV", 300}}) {
+            const auto first = static_cast<std::uint64_t>(at);
+            const SaveOutcome outcome = saver.saveRuns("WAV", name, run(first, first + 2), reader);
+            EXPECT_TRUE(outcome.saved) << outcome.error.toStdString();
+            duplicates += outcome.duplicate ? 1 : 0;
+        }
+        const SaveOutcome partly = saver.saveRuns("T", "c", run(705, 715), reader);
+        EXPECT_TRUE(partly.saved);
+        return duplicates + (partly.duplicate ? 1 : 0);
+    };
+    EXPECT_EQ(saveAll(), 0);
+    const QStringList files{"T/c", "WAV/a.WAV", "WAV/b.WAV"};
+    EXPECT_EQ(filesUnder(folder.path()), files);
+    EXPECT_EQ(saveAll(), 3);
+    EXPECT_EQ(filesUnder(folder.path()), files) << "no second copies";
+    // Another file of that name and size is no reason to lose this one.
+    QFile changed(folder.filePath("WAV/b.WAV"));
+    ASSERT_TRUE(changed.open(QIODevice::ReadWrite) && changed.seek(kWavBytes - 1) && changed.putChar('!'));
+    changed.close();
+    EXPECT_EQ(saveAll(), 2);
+    EXPECT_EQ(filesUnder(folder.path()), QStringList({"T/c", "WAV/a.WAV", "WAV/b (2).WAV", "WAV/b.WAV"}));
 }
 
 }  // namespace vantor

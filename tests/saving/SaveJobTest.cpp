@@ -90,6 +90,27 @@ TEST_F(SaveJobTest, Cancel_GivesUpTheItemAtHandAndLeavesNothingOfIt) {
     EXPECT_LT(medium.reads, 65U);
 }
 
+TEST_F(SaveJobTest, Skip_GivesUpTheItemAtHandOnly) {
+    SaveJob job(
+        request({{0, item("a.WAV", {10, 50})}, {1, item("b.QQQ", {60, 80})}, {2, item("c.QQQ", {80, 90})}}));
+    medium.badForEver = {62};
+    std::uint64_t refused = 0;
+    medium.beforeRead = [&](std::uint64_t read) {
+        if (read == 45) {
+            refused = job.progress().refused;
+            job.skip(0);  // is saved already
+            job.skip(1);
+        }
+    };
+    job.run();
+    EXPECT_FALSE(job.isCancelled());
+    EXPECT_EQ(refused, 1U);
+    EXPECT_EQ(job.report().tally.saved, 2U);
+    EXPECT_EQ(job.report().tally.failures, QStringList{"b.QQQ: Skipped"});
+    EXPECT_EQ(job.report().items.size(), 3U);
+    EXPECT_EQ(files("QQQ"), QStringList{"c.QQQ"});
+}
+
 TEST_F(SaveJobTest, WithoutAMedium_NothingIsSaid) {
     SaveRequest wish = request({{0, item("a.WAV", {10, 50})}});
     wish.openMedium = [] { return nullptr; };
@@ -130,6 +151,10 @@ TEST(SavedMarks, SavedAndLeftOutNeedNoWorry_FailedDo) {
     EXPECT_EQ(marks.settled(), 2U);
     EXPECT_TRUE(marks.isSaved(0));
     EXPECT_FALSE(marks.isSaved(1));
+    SaveOutcome inPart = saved;
+    inPart.mediumGone = true;
+    marks.note(3, inPart);
+    EXPECT_FALSE(marks.isSaved(3)) << "put back in, the medium gives the rest";
     marks.clear();
     EXPECT_EQ(marks.settled(), 0U);
 }

@@ -1,8 +1,10 @@
 // The photo scan over scripted media: items, limits, faults, ends.
 #include <gtest/gtest.h>
 
+#include <random>
 #include <stdexcept>
 
+#include "results/MyImageObject.h"
 #include "scan/PhotoItemBuffer.h"
 #include "scan/PlatformException.h"
 #include "tests/support/TestSession.h"
@@ -264,6 +266,48 @@ TEST(PhotoScan, ItemKnowsTheSectorsReallyRead) {
     EXPECT_EQ(items[0].carved.runs[0].first, 2U);
     EXPECT_EQ(items[0].carved.runs[0].end, 9U) << "one sector behind the counter after the failed read";
     EXPECT_EQ(items[0].end, 10U);
+}
+
+// So that what memory holds can stand in for a medium that is gone.
+TEST(PhotoScan, PublishedBytesWithoutTheirRepeatsAreTheSectorsReallyRead) {
+    std::mt19937 random(5);
+    int repeats = 0;
+    for (int turn = 0; turn < 200; ++turn) {
+        ScriptedMedium medium(60);
+        for (std::size_t i = 0; i < 60; ++i) {
+            medium.fill(i, static_cast<std::uint8_t>(1 + i));
+        }
+        medium.put(3, "\xFF\xD8").put(20 + random() % 20, "\xFF\xD8");
+        for (int bad = 0; bad < 6; ++bad) {
+            const std::uint64_t sector = 4 + random() % 56;
+            bad % 2 == 0 ? medium.badTimes[sector] = 1 : medium.badForEver.insert(sector).second;
+        }
+        TestSession session(medium);
+        session.Ext_Array = kJpegAndPng;
+        session.Photo_Recovey_Mode("GEN");
+        const auto items = nonEmpty(session);
+        ASSERT_EQ(items.size(), session.itemCount());
+        for (std::size_t item = 0; item < items.size(); ++item) {
+            const CarvedRun& carved = items[item].carved;
+            QByteArray read, expected;
+            std::uint64_t at = 0;
+            for (const SectorRun& repeat : carved.repeats) {
+                read += items[item].data.mid(static_cast<qsizetype>(at) * 512,
+                                             static_cast<qsizetype>(repeat.first - at) * 512);
+                repeats += static_cast<int>(repeat.end - repeat.first);
+                at = repeat.end;
+            }
+            read += items[item].data.mid(static_cast<qsizetype>(at) * 512);
+            for (const SectorRun& run : carved.runs) {
+                for (std::uint64_t sector = run.first; sector < run.end; ++sector) {
+                    expected.append(reinterpret_cast<const char*>(medium.bytes[sector].data()), 512);
+                }
+            }
+            ASSERT_EQ(read, expected) << turn;
+            ASSERT_EQ(session.itemAt(item)->heldBytes(), carved.readFailed ? items[item].data : QByteArray());
+        }
+    }
+    EXPECT_GT(repeats, 300);
 }
 
 TEST(PhotoScan, RepeatThatCannotBePassedOverIsNotSearched) {

@@ -15,7 +15,7 @@ const QStringList kPdf = recordsOf({{"PDF", "25504446"}});
 class VanishingReader : public ScriptedReader {
   public:
     explicit VanishingReader(ScriptedMedium& medium) : ScriptedReader(medium) {}
-    bool isGone() const override { return true; }
+    bool isGone() override { return true; }
 };
 
 class SearchEndTest : public testing::Test {

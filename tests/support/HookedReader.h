@@ -36,7 +36,7 @@ class HookedReader : public SectorReader {
             m_inner->setScreen(std::move(screen));
         }
     }
-    bool isGone() const override { return m_inner->isGone(); }
+    bool isGone() override { return m_inner->isGone(); }
     std::uint64_t mediumSectors() const override { return m_inner->mediumSectors(); }
 
     // Sectors so far that the inner reader's screen passed over, of all readers of the process.
