@@ -122,7 +122,10 @@ void MyTableController::showItemCounts() {
         const QString count = countOfItems(static_cast<std::uint64_t>(found));
         return m_looks->isPlain() ? count : tr("%1 of %2").arg(numberOf(shown), count);
     };
-    photoCountLabel->setText(words(imageBrowser));
+    const QString obstacle = obstacleFor({});
+    photoCountLabel->setText(obstacle.isEmpty() ? words(imageBrowser)
+                                                : tr("%1, without thumbnails").arg(words(imageBrowser)));
+    photoCountLabel->setToolTip(obstacle);
     rawCountLabel->setText(words(imageBrowser_2));
     saveSelectedButton->setEnabled(imageBrowser->selectionModel()->hasSelection());
     saveSelectedButton_Sig->setEnabled(imageBrowser_2->selectionModel()->hasSelection());

@@ -358,6 +358,7 @@ class MyTableController : public QObject,
     void runBeside(const std::function<void()>& work);
     std::unique_ptr<Movie> openBeside(const MovieLoader& loader, const QString& file);
     void showPicture(const QPixmap& picture, const QString& title);
+    QString obstacleFor(const QString& file) const;
     void showPreviewFacts();
     // window/Saving.cpp
     void saveItems(const QList<qsizetype>& indexes);
@@ -377,7 +378,8 @@ class MyTableController : public QObject,
     QList<QCheckBox*> m_groupBoxes;  // by FileKind
     QString m_previewFolder;
     PreviewFolderHold m_previewHold;
-    FileTypeIcons m_icons;                           // prepared before a scan, read by it
+    QString m_obstacle;     // why the item on preview has no picture; empty where nothing stands in the way
+    FileTypeIcons m_icons;  // prepared before a scan, read by it
     QList<QMetaObject::Connection> m_notifications;  // gone after a refused exit
     int m_clickedColumn = -1;                        // of the last click in a table
     bool m_ending = false;                           // the exit was confirmed

@@ -105,9 +105,10 @@ void MyTableController::showPreviewFacts() {
     }
     const Movie* const sound = soundControls->movie();
     const QString size = sizeForPeople(static_cast<std::uint64_t>(file.size()));
-    previewFacts->setText(sound != nullptr && sound->durationMs() > 0
+    const QString facts = sound != nullptr && sound->durationMs() > 0
                               ? tr("%1, %2").arg(size, timeText(sound->durationMs()))
-                              : size);
+                              : size;
+    previewFacts->setText(m_obstacle.isEmpty() ? facts : facts + u'\n' + m_obstacle);
 }
 
 // Null as well when the program ends meanwhile.
@@ -130,6 +131,7 @@ void MyTableController::setQuickLook_View_File(const QString& file, const QStrin
         return;
     }
     _QuickLook_View_Box->setTitle(file_Name);
+    m_obstacle.clear();
     std::unique_ptr<Movie> movie = openBeside(m_parts.movie, file);
     if (m_ending) {
         return;
@@ -158,6 +160,7 @@ void MyTableController::Image_Preview(const QString& file, const QString& file_N
     if (m_ending) {
         return;
     }
+    m_obstacle = picture->isNull() ? obstacleFor(file) : QString();
     if (!picture->isNull()) {
         showPicture(QPixmap::fromImage(framedAsDocument(*picture, kPreviewSize)), file_Name);
         return;
@@ -169,6 +172,10 @@ void MyTableController::Image_Preview(const QString& file, const QString& file_N
         icon = icon.scaled(kPreviewSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     }
     showPicture(icon, file_Name);
+}
+
+QString MyTableController::obstacleFor(const QString& file) const {
+    return m_parts.obstacle ? m_parts.obstacle(file) : QString();
 }
 
 void MyTableController::showPicture(const QPixmap& picture, const QString& title) {

@@ -11,6 +11,7 @@
 #include "scan/ScanSession.h"
 #include "window/preview/FilePreviewer.h"
 #include "window/preview/Movie.h"
+#include "window/preview/PreviewObstacle.h"
 
 namespace vantor {
 
@@ -23,6 +24,7 @@ struct ProgramParts {
     MediumOpener openBeside;
     Thumbnailer thumbnailer;
     PicturePreviewer picture;  // none: every preview is an icon
+    PreviewObstacle obstacle;  // none: nothing is said where a picture is missing
     MovieLoader movie;         // none: every preview is a picture
     MovieLoader sound;         // what sounds of a file that is shown as a picture; none: nothing does
     QString resourcesFolder;

@@ -41,7 +41,9 @@ ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTable
     parts.thumbnailer = [pool](const QByteArray& encoded, const QString& extension) {
         return pool->thumbnail(encoded, extension);
     };
-    parts.picture = makeFilePreviewer(pool, std::make_shared<const DesktopThumbnailers>());
+    const auto desktop = std::make_shared<const DesktopThumbnailers>();
+    parts.picture = makeFilePreviewer(pool, desktop);
+    parts.obstacle = makePreviewObstacle(pool, desktop);
     const HelperMovieOptions playing{makeDesktopSoundDevice, {}};
     parts.sound = [playing](const QString& file) { return SoundMovie::open(file, {}, playing); };
     parts.movie = [playing](const QString& file) { return openMovieOrSound(file, kLargestFrame, playing); };

@@ -1,14 +1,14 @@
 // One picture of any file: by the helpers, the desktop's thumbnail programs, or as a page of text.
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <poll.h>
 #include <signal.h>
-#include <sys/stat.h>
+#include <sys/shm.h>
 #include <unistd.h>
 
 #include <QBuffer>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <atomic>
 #include <chrono>
@@ -19,6 +19,7 @@
 
 #include "tests/support/CorpusFolder.h"
 #include "window/preview/FilePreviewer.h"
+#include "window/preview/PreviewObstacle.h"
 #include "window/preview/TextPicture.h"
 
 namespace vantor {
@@ -56,14 +57,23 @@ class FilePreviewer : public testing::Test {
         EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
         return path;
     }
-    // A thumbnail program for PDF documents that runs the shell with these words; $1 is the file, $2 where
-    // the picture goes, $3 its size.
+    // A thumbnail program for PDF documents that runs the system's shell with these words, which may hold no
+    // double quote; $1 is the file, $2 where the picture goes, $3 its size.
     void installThumbnailer(const QByteArray& words) {
-        const QString script = written(QStringLiteral("thumbnailers/run.sh"), "#!/bin/sh\n" + words + "\n");
-        QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         written(QStringLiteral("thumbnailers/pdf.thumbnailer"),
-                "[Thumbnailer Entry]\nTryExec=" + script.toUtf8() + "\nExec=" + script.toUtf8() +
-                    " %i %o %s\nMimeType=application/pdf;image/png;\n");
+                "[Thumbnailer Entry]\nTryExec=sh\nExec=sh -c \"" + words.simplified() +
+                    "\" sh %i %o %s\nMimeType=application/pdf;image/png;\n");
+    }
+    // Programs run in no other way, so there is nothing to see of them where that is not to be had.
+    static bool canShutIn() {
+        return QProcess::execute(QStringLiteral("bwrap"),
+                                 {QStringLiteral("--unshare-all"), QStringLiteral("--unshare-user"),
+                                  QStringLiteral("--disable-userns"), QStringLiteral("--ro-bind"),
+                                  QStringLiteral("/"), QStringLiteral("/"), QStringLiteral("true")}) == 0;
+    }
+    // A document with a picture in it, for programs that can do no more than copy.
+    QString documentHolding(const QByteArray& picture) {
+        return written(QStringLiteral("dprv.PDF"), "%PDF" + picture);
     }
     QString thumbnailers() const { return m_folder.filePath(QStringLiteral("thumbnailers")); }
     QByteArray png(QSize size) const {
@@ -84,53 +94,135 @@ TEST_F(FilePreviewer, APicture_IsDecodedByTheHelper) {
     EXPECT_EQ(preview(written(QStringLiteral("dprv.PNG"), png({400, 100}))).size(), QSize(200, 50));
 }
 
+#define SKIP_WITHOUT_CAGE()                                                                      \
+    if (!canShutIn()) {                                                                          \
+        GTEST_SKIP() << "bubblewrap is not installed or may not make namespaces on this system"; \
+    }
+
 TEST_F(FilePreviewer, ADocument_IsShownByTheDesktopsProgram) {
-    const QString made = written(QStringLiteral("made.png"), png({300, 400}));
-    installThumbnailer("test \"$3\" = 200 && grep -q PDF \"$1\" && cp " + made.toUtf8() + " \"$2\"");
-    const QImage shown = preview(written(QStringLiteral("dprv.PDF"), "%PDF-1.4"));
+    SKIP_WITHOUT_CAGE();
+    installThumbnailer("test $3 = 200 && grep -q PDF $1 && tail -c +5 $1 > $2");
+    const QImage shown = preview(documentHolding(png({300, 400})));
     EXPECT_EQ(shown.size(), QSize(150, 200)) << "no larger than what was asked for";
     EXPECT_TRUE(preview(written(QStringLiteral("dprv.DOC"), "\xd0\xcf\x11\xe0")).isNull());
 }
 
 TEST_F(FilePreviewer, AProgramThatFailsOrMakesJunk_GivesNoPicture) {
-    const QString file = written(QStringLiteral("dprv.PDF"), "%PDF-1.4");
-    installThumbnailer("exit 1");
-    EXPECT_TRUE(preview(file).isNull());
-    installThumbnailer("echo junk > \"$2\"");
-    EXPECT_TRUE(preview(file).isNull());
-    installThumbnailer("mkfifo \"$2\"");
-    EXPECT_TRUE(preview(file).isNull());
-    installThumbnailer("kill -SEGV $$");
-    EXPECT_TRUE(preview(file).isNull());
+    SKIP_WITHOUT_CAGE();
+    const QString file = documentHolding(png({30, 40}));
+    for (const char* words : {"exit 1", "echo junk > $2", "mkfifo $2", "kill -SEGV $$",
+                              "tail -c +5 $1 > /out/other; ln -s other $2"}) {
+        installThumbnailer(words);
+        EXPECT_TRUE(preview(file).isNull()) << words;
+    }
+    installThumbnailer("tail -c +5 $1 > $2");
+    EXPECT_FALSE(preview(file).isNull()) << "but for that it would be shown";
+}
+
+// Somebody has taken the program over by the document, and looks around.
+TEST_F(FilePreviewer, AProgram_SeesTheSystemAndTheOneFile) {
+    SKIP_WITHOUT_CAGE();
+    qputenv("VANTOR_SECRET", "told");
+    const int shared = shmget(IPC_PRIVATE, 1, 0600);
+    ASSERT_GE(shared, 0);
+    const QByteArray home = written(QStringLiteral("private"), "of the home folder").toUtf8();
+    const QByteArray own = QByteArray::number(getpid());
+    const QString file = documentHolding(png({30, 40}));
+    const std::vector<std::pair<QByteArray, const char*>> looks{
+        {"test -e " + home, "a file of the user's"},
+        {"test x$VANTOR_SECRET != x", "a word of the environment"},
+        {"test x$LC_ALL != x", "any word of the environment"},
+        {"grep -q VANTOR /proc/1/environ", "the environment of what shut it in"},
+        {"test -e /proc/" + own, "our process"},
+        {"kill -0 " + own, "a way to our process"},
+        {"test $(wc -l < /proc/net/dev) -gt 3", "a network"},
+        {"test -e /run", "the sockets of the session"},
+        {"test -e /home", "home folders"},
+        {"test -e /etc/passwd", "the users"},
+        {"test $(wc -l < /proc/sysvipc/shm) -gt 1", "shared memory"},
+        {"touch /usr/here", "a way to write into the system"},
+        {"echo more >> $1", "a way to write into the file"},
+        {"unshare -U true", "namespaces to open"},
+        {"grep -q 'CapEff:.*[1-9a-f]' /proc/self/status", "capabilities"},
+        {"test $(ls /in | wc -l) -ne 1", "other files"},
+    };
+    for (const auto& [look, what] : looks) {
+        installThumbnailer(look + " && exit 1; tail -c +5 $1 > $2");
+        EXPECT_FALSE(preview(file).isNull()) << what;
+    }
+    shmctl(shared, IPC_RMID, nullptr);
+    qunsetenv("VANTOR_SECRET");
+}
+
+TEST_F(FilePreviewer, WithoutACage_NoProgramRuns) {
+    installThumbnailer("tail -c +5 $1 > $2");
+    const QString file = documentHolding(png({30, 40}));
+    for (const char* bubblewrap : {"", "/nonexistent/bwrap", "/bin/false"}) {
+        const auto desktop = std::make_shared<const DesktopThumbnailers>(QStringList{thumbnailers()},
+                                                                         QLatin1String(bubblewrap));
+        EXPECT_TRUE(desktop->thumbnail(file, 200).isEmpty());
+        EXPECT_TRUE(desktop->lacksCageFor(file));
+        EXPECT_FALSE(desktop->lacksCageFor(written(QStringLiteral("dprv.DOC"), "x")))
+            << "nobody would show it";
+        const PreviewObstacle obstacle = makePreviewObstacle(m_pool, desktop);
+        EXPECT_TRUE(obstacle(file).contains(QStringLiteral("bubblewrap")));
+        EXPECT_TRUE(obstacle({}).isEmpty()) << "pictures are shown all the same";
+    }
+}
+
+TEST_F(FilePreviewer, WithoutAHelper_TheReasonIsTold) {
+    DecodePoolOptions options;
+    options.helper = QStringLiteral("/nonexistent/helper");
+    const auto pool = std::make_shared<DecodePool>(options);
+    EXPECT_TRUE(pool->picture(png({40, 40}), kLargest).image.isNull());
+    const auto desktop = std::make_shared<const DesktopThumbnailers>(QStringList{});
+    EXPECT_TRUE(makePreviewObstacle(pool, desktop)({}).contains(QStringLiteral("does not start")));
+}
+
+// Processes anywhere in the system that were started with this word.
+int processesCalled(const QByteArray& word) {
+    int count = 0;
+    for (const QString& entry : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs)) {
+        QFile file(QStringLiteral("/proc/%1/cmdline").arg(entry));
+        count += file.open(QIODevice::ReadOnly) && file.readAll().split('\0').contains(word);
+    }
+    return count;
 }
 
 TEST_F(FilePreviewer, AProgramThatHangs_IsEndedWithAllItStarted) {
-    // Whoever holds the pipe is still there.
-    const QByteArray pipe = m_folder.filePath(QStringLiteral("pipe")).toUtf8();
-    ASSERT_EQ(mkfifo(pipe.constData(), 0600), 0);
-    const int held = open(pipe.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    ASSERT_GE(held, 0);
-    installThumbnailer("exec 3> " + pipe + "; echo >&3; sleep 1000 & sleep 1000");
+    SKIP_WITHOUT_CAGE();
+    // A number of seconds that nobody else sleeps.
+    const QByteArray word =
+        "1000." + QByteArray::number(getpid()) + QByteArray::number(std::random_device{}());
+    installThumbnailer("sleep " + word + " & sleep " + word);
     const DesktopThumbnailers desktop(QStringList{thumbnailers()});
-    const QString file = written(QStringLiteral("dprv.PDF"), "%PDF-1.4");
-    char word = 0;
+    const QString file = documentHolding(png({30, 40}));
+    std::atomic<bool> seen{false};
+    std::atomic<bool> over{false};
+    std::thread watch([&] {
+        while (!seen && !over) {
+            seen = processesCalled(word) == 2;
+        }
+    });
     // A deadline that a busy machine lets pass before the program has begun is no use.
-    for (std::chrono::milliseconds deadline{300}; word == 0 && deadline < kPatience; deadline *= 2) {
+    for (std::chrono::milliseconds deadline{300}; !seen && deadline < kPatience; deadline *= 2) {
         EXPECT_TRUE(desktop.thumbnail(file, 200, deadline).isEmpty());
-        EXPECT_GE(read(held, &word, 1), -1);
     }
-    ASSERT_EQ(word, '\n');
-    pollfd gone{held, POLLIN, 0};
-    EXPECT_EQ(poll(&gone, 1, static_cast<int>(std::chrono::milliseconds(kPatience).count())), 1);
-    EXPECT_EQ(read(held, &word, 1), 0) << "nobody holds it";
-    close(held);
+    over = true;
+    watch.join();
+    EXPECT_TRUE(seen) << "they ran";
+    QElapsedTimer waiting;
+    waiting.start();
+    while (processesCalled(word) > 0 && !waiting.hasExpired(std::chrono::milliseconds(kPatience).count())) {
+        std::this_thread::yield();
+    }
+    EXPECT_EQ(processesCalled(word), 0);
 }
 
 TEST_F(FilePreviewer, PicturesThatOurHelpersRefuse_GoNowhereElse) {
-    const QString made = written(QStringLiteral("made.png"), png({30, 40}));
-    installThumbnailer("cp " + made.toUtf8() + " \"$2\"");
+    installThumbnailer("tail -c +5 $1 > $2");
     EXPECT_TRUE(DesktopThumbnailers(QStringList{thumbnailers()}).knows(QStringLiteral("image/png")));
-    EXPECT_TRUE(preview(written(QStringLiteral("dprv.PNG"), "no picture")).isNull());
+    EXPECT_TRUE(preview(written(QStringLiteral("dprv.PNG"), "%PDF" + png({30, 40}))).isNull());
 }
 
 TEST_F(FilePreviewer, AProgramThatIsNotInstalled_IsNotKnown) {

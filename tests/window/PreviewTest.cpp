@@ -214,6 +214,25 @@ TEST_F(Preview, ExitDuringACopyThatHangs_IsPossible) {
     EXPECT_FALSE(QFileInfo::exists(folder.filePath(QStringLiteral("dprv.PDF"))));
 }
 
+TEST_F(Preview, WhereTheSystemKeepsPicturesBack_TheReasonIsTold) {
+    bool pictures = false;
+    parts.picture = [&](const QString&, QSize) {
+        return pictures ? QImage(40, 40, QImage::Format_RGB32) : QImage();
+    };
+    parts.obstacle = [](const QString& file) {
+        return file.isEmpty() ? QStringLiteral("no cage")
+                              : QStringLiteral("no cage for ") + QFileInfo(file).fileName();
+    };
+    openResults({{"A.PDF", 24, 27}, {"B.PDF", 28, 29}});
+    select(0);
+    EXPECT_TRUE(controller->previewFacts->text().endsWith(QStringLiteral("\nno cage for dprv.PDF")));
+    pictures = true;
+    select(1);
+    EXPECT_FALSE(controller->previewFacts->text().contains(QStringLiteral("cage"))) << "there is a picture";
+    EXPECT_TRUE(controller->photoCountLabel->text().endsWith(QStringLiteral("without thumbnails")));
+    EXPECT_EQ(controller->photoCountLabel->toolTip(), QStringLiteral("no cage"));
+}
+
 TEST_F(Preview, ASoundFile_TellsHowLongItIsAndCanBeHeard) {
     MovieLog log;
     parts.sound = [&log](const QString& file) {

@@ -1,9 +1,12 @@
 // Finding the program for a type and running it where it can do no harm.
 #include "window/preview/DesktopThumbnailers.h"
 
+#include <fcntl.h>
+#include <linux/close_range.h>
 #include <signal.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <QDir>
@@ -14,6 +17,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QUrl>
+#include <utility>
 
 namespace vantor {
 
@@ -32,6 +36,7 @@ void limit(__rlimit_resource resource, rlim_t most) {
 // Runs between fork and exec: system calls only.
 void shutIn() {
     setpgid(0, 0);
+    close_range(STDERR_FILENO + 1, ~0U, CLOSE_RANGE_CLOEXEC);
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
     limit(RLIMIT_CORE, 0);
@@ -40,20 +45,50 @@ void shutIn() {
     limit(RLIMIT_FSIZE, kWrittenBytes);
 }
 
-// No network, nothing to write to but the picture's folder, and it dies with us.
-QStringList sandboxed(const QStringList& command, const QString& outputFolder) {
-    static const QString bwrap = QStandardPaths::findExecutable(QStringLiteral("bwrap"));
-    if (bwrap.isEmpty()) {
-        return command;
+// Folders of programs and libraries that lie in /usr and have names beside it, or are still folders of their
+// own.
+QStringList systemFolders() {
+    QStringList arguments{QStringLiteral("--ro-bind"), QStringLiteral("/usr"), QStringLiteral("/usr")};
+    for (const char* name : {"/bin", "/sbin", "/lib", "/lib32", "/lib64", "/libx32"}) {
+        const QFileInfo folder{QLatin1String(name)};
+        if (folder.isSymLink()) {
+            arguments << QStringLiteral("--symlink") << folder.symLinkTarget() << QLatin1String(name);
+        } else if (folder.isDir()) {
+            arguments << QStringLiteral("--ro-bind") << QLatin1String(name) << QLatin1String(name);
+        }
     }
-    QStringList wrapped{bwrap};
-    for (const char* argument : {"--ro-bind", "/", "/", "--dev", "/dev", "--proc", "/proc", "--unshare-all",
-                                 "--die-with-parent", "--new-session"}) {
-        wrapped.append(QLatin1String(argument));
+    return arguments;
+}
+
+// Namespaces of its own for everything, no environment, no capabilities; of the files only the system's
+// programs and fonts, and it dies with us.
+QStringList cage(const QString& bubblewrap) {
+    QStringList arguments{bubblewrap};
+    for (const char* argument : {"--unshare-all", "--unshare-user", "--disable-userns", "--die-with-parent",
+                                 "--new-session", "--clearenv", "--cap-drop", "ALL"}) {
+        arguments.append(QLatin1String(argument));
     }
-    wrapped << QStringLiteral("--bind") << outputFolder << outputFolder << QStringLiteral("--setenv")
-            << QStringLiteral("TMPDIR") << outputFolder;
-    return wrapped + command;
+    arguments += systemFolders();
+    for (const char* fonts : {"/etc/fonts", "/var/cache/fontconfig"}) {
+        arguments << QStringLiteral("--ro-bind-try") << QLatin1String(fonts) << QLatin1String(fonts);
+    }
+    for (const char* argument : {"--proc", "/proc", "--dev", "/dev", "--tmpfs", "/tmp", "--chdir", "/"}) {
+        arguments.append(QLatin1String(argument));
+    }
+    return arguments;
+}
+
+// What a program leaves may be anything, a pipe or a link included.
+QByteArray pictureLeftAt(const QString& path) {
+    const int descriptor =
+        open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
+    QFile made;
+    if (descriptor < 0 || !made.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        return {};
+    }
+    struct stat facts {};
+    return fstat(descriptor, &facts) == 0 && S_ISREG(facts.st_mode) ? made.read(kMostPictureBytes)
+                                                                    : QByteArray();
 }
 
 QStringList filledIn(const QString& command, const QString& file, const QString& output, int side) {
@@ -89,6 +124,10 @@ QStringList filledIn(const QString& command, const QString& file, const QString&
 
 bool runToEnd(const QStringList& command, std::chrono::milliseconds deadline) {
     QProcess process;
+    // Nothing of ours, in the cage's own process either.
+    QProcessEnvironment environment;
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+    process.setProcessEnvironment(environment);
     process.setProgram(command.constFirst());
     process.setArguments(command.sliced(1));
     process.setStandardInputFile(QProcess::nullDevice());
@@ -109,12 +148,17 @@ bool runToEnd(const QStringList& command, std::chrono::milliseconds deadline) {
 
 }  // namespace
 
+QString DesktopThumbnailers::standardBubblewrap() {
+    return QStandardPaths::findExecutable(QStringLiteral("bwrap"));
+}
+
 QStringList DesktopThumbnailers::standardFolders() {
     return QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, QStringLiteral("thumbnailers"),
                                      QStandardPaths::LocateDirectory);
 }
 
-DesktopThumbnailers::DesktopThumbnailers(const QStringList& folders) {
+DesktopThumbnailers::DesktopThumbnailers(const QStringList& folders, QString bubblewrap)
+    : m_bubblewrap(std::move(bubblewrap)) {
     for (const QString& folder : folders) {
         for (const QString& name : QDir(folder).entryList({QStringLiteral("*.thumbnailer")}, QDir::Files)) {
             readEntry(folder + u'/' + name);
@@ -162,24 +206,39 @@ QString DesktopThumbnailers::commandFor(const QString& file) const {
     return {};
 }
 
+bool DesktopThumbnailers::canShutIn() const {
+    std::call_once(m_tried, [this] {
+        m_canShutIn = !m_bubblewrap.isEmpty() &&
+                      runToEnd(cage(m_bubblewrap) << QStringLiteral("true"), std::chrono::seconds{6});
+    });
+    return m_canShutIn;
+}
+
+bool DesktopThumbnailers::lacksCageFor(const QString& file) const {
+    return !commandFor(file).isEmpty() && !canShutIn();
+}
+
 QByteArray DesktopThumbnailers::thumbnail(const QString& file, int side,
                                           std::chrono::milliseconds deadline) const {
     const QString command = commandFor(file);
     const QTemporaryDir folder;
-    if (command.isEmpty() || !folder.isValid()) {
+    if (command.isEmpty() || !folder.isValid() || !canShutIn()) {
         return {};
     }
-    const QString input = QFileInfo(file).absoluteFilePath();
-    const QString output = folder.filePath(QStringLiteral("thumbnail.png"));
-    if (!runToEnd(sandboxed(filledIn(command, input, output, side), folder.path()), deadline)) {
+    // The one file, and the one folder to write to, under names of the cage's own.
+    const QFileInfo input(file);
+    const QString inside = QStringLiteral("/in/") + input.fileName();
+    const QString outside = folder.filePath(QStringLiteral("thumbnail.png"));
+    const QString output = QStringLiteral("/out/thumbnail.png");
+    QStringList words = filledIn(command, inside, output, side);
+    words.first() = QStandardPaths::findExecutable(words.constFirst());
+    QStringList caged = cage(m_bubblewrap);
+    caged << QStringLiteral("--ro-bind") << input.absoluteFilePath() << inside << QStringLiteral("--bind")
+          << folder.path() << QStringLiteral("/out") << QStringLiteral("--");
+    if (!runToEnd(caged + words, deadline)) {
         return {};
     }
-    QFile made(output);
-    // What it left may be anything, a pipe included.
-    if (!QFileInfo(output).isFile() || QFileInfo(output).isSymLink() || !made.open(QIODevice::ReadOnly)) {
-        return {};
-    }
-    return made.read(kMostPictureBytes);
+    return pictureLeftAt(outside);
 }
 
 }  // namespace vantor

@@ -3,6 +3,8 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <QDir>
 #include <QFile>
@@ -31,6 +33,15 @@ void removeIfDeletable(const QString& path) {
     }
 }
 
+constexpr QFile::Permissions kForTheOwner = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+
+// A folder of this user's that nobody else can look into.
+bool isPrivate(const QString& folder) {
+    struct stat facts {};
+    return lstat(QFile::encodeName(folder).constData(), &facts) == 0 && S_ISDIR(facts.st_mode) &&
+           facts.st_uid == geteuid() && (facts.st_mode & (S_IRWXG | S_IRWXO)) == 0;
+}
+
 }  // namespace
 
 bool makePreviewFile(const PreviewFileRequest& request, const std::atomic<int>& stop_now) {
@@ -39,8 +50,11 @@ bool makePreviewFile(const PreviewFileRequest& request, const std::atomic<int>& 
         return false;
     }
     removeIfDeletable(request.previousFile);
+    // Somebody else's file or link of that name is not written into: what stood there goes, and the new file
+    // is for its owner's eyes from the first moment.
+    QFile::remove(request.newFile);
     QFile file(request.newFile);
-    if (file.open(QIODevice::ReadWrite | QIODevice::Truncate)) {
+    if (file.open(QIODevice::ReadWrite | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner)) {
         copyPreviewSectors(*medium, request.start, request.end, stop_now, [&](const std::uint8_t* sector) {
             return file.write(reinterpret_cast<const char*>(sector), kSectorBytes) == kSectorBytes;
         });
@@ -54,16 +68,18 @@ QString previewFilePath(const QString& folder, const QString& itemPath) {
 }
 
 QString previewFolder(const QString& resourcesFolder) {
-    if (QFileInfo(resourcesFolder).isDir() && QFileInfo(resourcesFolder).isWritable()) {
+    const bool ofABuild = QFileInfo::exists(resourcesFolder + QStringLiteral("/../../CMakeCache.txt"));
+    if (QFileInfo(resourcesFolder).isWritable() && (ofABuild || isPrivate(resourcesFolder))) {
         return resourcesFolder;
     }
     const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
     const QString own = runtime + QStringLiteral("/vantor-recovery");
-    if (runtime.isEmpty() || !QDir().mkpath(own)) {
+    if (runtime.isEmpty()) {
         return resourcesFolder;
     }
-    QFile::setPermissions(own, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    return own;
+    QDir().mkdir(own, kForTheOwner);
+    QFile::setPermissions(own, kForTheOwner);
+    return isPrivate(own) ? own : resourcesFolder;
 }
 
 // The lock goes with the process, however that ends; the folder itself bears it, so that nothing is left.

@@ -28,8 +28,9 @@ bool makePreviewFile(const PreviewFileRequest& request, const std::atomic<int>& 
 // Where preview files of the item are kept: `folder`/dprv.ext; without an extension, `folder`/dprv.
 QString previewFilePath(const QString& folder, const QString& itemPath);
 
-// The resources folder when it can be written to, else a folder of the user's own for the running session
-// (0700); the resources folder when even that cannot be had.
+// The resources folder when it can be written to and is a build's or nobody else's to look into; else, as for
+// every installed program, a folder of the user's own for the running session (0700). The resources folder as
+// well when even that cannot be had: the file itself is its owner's alone (0600) in any case.
 QString previewFolder(const QString& resourcesFolder);
 
 // Says that this process keeps its preview files in the folder, as long as it lives. Where no other live one
