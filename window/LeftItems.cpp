@@ -53,6 +53,7 @@ void MyTableController::showLeftItems() {
     showHelpInfo(endHelp());
     hideScanProgress();
     showResultControls(set);
+    showDestination();
     enableAfterScan();
     showWhereWeAre();
 }

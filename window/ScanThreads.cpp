@@ -22,6 +22,9 @@ void MyTableController::startScan(void (ScanSession::*driver)()) {
         m_thumbnails->resume();
     }
     m_desk->forget();
+    idSigTableView->clearSelection();
+    showChosenType();
+    showDestination();
     m_looks->begin(m_parts.openBeside
                        ? [open = m_parts.openBeside, device = devicePath()] { return open(device); }
                        : SoundnessBoard::Open());
@@ -134,6 +137,7 @@ void MyTableController::flushViews() {
     }
     if (m_resultRowsDirty.exchange(false)) {
         m_resultTable->refreshData();
+        keepChosenType();
         if (foundTypesOnly->isChecked()) {
             filterResultRows();
         }

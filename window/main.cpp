@@ -3,6 +3,7 @@
 #include <QDesktopServices>
 #include <QScreen>
 #include <QUrl>
+#include <algorithm>
 #include <atomic>
 #include <cstdlib>
 
@@ -46,7 +47,9 @@ ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTable
     parts.resourcesFolder = resourcesFolder();
     parts.isOnMedium = [targets = parts.media->targets()](const QString& folder, const QString& devicePath) {
         const auto target = targets->find(devicePath.mid(QStringLiteral("/dev/r").size()));
-        return target && destinationIsOnMedium(folder, target->path);
+        const QStringList nodes = target ? nodesOf(*target, mediaPresent) : QStringList();
+        return std::any_of(nodes.begin(), nodes.end(),
+                           [&folder](const QString& node) { return destinationIsOnMedium(folder, node); });
     };
     parts.openDocument = [](const QString& path) {
         return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
