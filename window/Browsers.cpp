@@ -110,6 +110,27 @@ void MyTableController::filterResultRows() {
     showEmptyResults();
 }
 
+// A table that has become longer has lost its selection.
+void MyTableController::keepChosenType() {
+    const QList<ResultRow> rows = resultRows();
+    for (int row = 0; row < rows.size() && !idSigTableView->selectionModel()->hasSelection(); ++row) {
+        if (!m_looks->shownType().isEmpty() &&
+            rows.at(row).value(QStringLiteral("FileTypes")) == m_looks->shownType()) {
+            idSigTableView->selectRow(row);
+        }
+    }
+}
+
+// The type that is selected in the table, or all.
+void MyTableController::showChosenType() {
+    const QModelIndexList chosen = idSigTableView->selectionModel()->selectedRows();
+    const QList<ResultRow> rows = resultRows();
+    const int row = chosen.isEmpty() ? -1 : chosen.constFirst().row();
+    m_looks->showType(row >= 0 && row < rows.size() ? rows.at(row).value(QStringLiteral("FileTypes"))
+                                                    : QString());
+    allTypesButton->setEnabled(!m_looks->shownType().isEmpty());
+}
+
 // Counts in words, and the buttons that need something to work on.
 void MyTableController::showItemCounts() {
     const qsizetype found = static_cast<qsizetype>(itemCount());
@@ -129,12 +150,14 @@ void MyTableController::showItemCounts() {
     rawCountLabel->setText(words(imageBrowser_2));
     saveSelectedButton->setEnabled(imageBrowser->selectionModel()->hasSelection());
     saveSelectedButton_Sig->setEnabled(imageBrowser_2->selectionModel()->hasSelection());
+    const qsizetype shown = m_looks->isPlain() ? found : browserOf(activeSet())->shownCount();
     for (QPushButton* button : {saveAllButton, saveAllButton_Sig}) {
-        button->setEnabled(found > 0);
+        button->setEnabled(shown > 0);
+        button->setText(m_looks->isPlain() ? tr("Save &All…")
+                                           : tr("Save &All Shown (%1)…").arg(QLocale().toString(shown)));
+        button->setAccessibleName(m_looks->isPlain() ? tr("Save all found items")
+                                                     : tr("Save all items that are shown"));
     }
-    const bool haveFolder = !pathInView()->text().isEmpty();
-    _open_folder->setEnabled(haveFolder);
-    _open_folder_Sig->setEnabled(haveFolder);
     const auto savedCount = static_cast<qsizetype>(m_desk->marks().saved());
     const QString saved =
         savedCount == 0 ? QString() : tr("%1 of %2 saved").arg(numberOf(savedCount), numberOf(found));

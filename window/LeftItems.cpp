@@ -52,6 +52,7 @@ void MyTableController::showLeftItems() {
     showHelpInfo(endHelp());
     hideScanProgress();
     showResultControls(set);
+    showDestination();
     enableAfterScan();
     showWhereWeAre();
 }

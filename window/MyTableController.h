@@ -31,6 +31,7 @@
 #include <array>
 #include <atomic>
 #include <memory>
+#include <optional>
 #include <thread>
 
 #include "decode/ThumbnailQueue.h"
@@ -315,7 +316,10 @@ class MyTableController : public QObject,
     // window/PanelActions.cpp
     void browseForDestination();
     QString askDestination();
+    QString chooseDestination();
     bool acceptDestination(const QString& folder);
+    bool destinationStillThere();
+    void showDestination();
     void openDestination();
     QLineEdit* pathInView() const;
     QString devicePath() const;
@@ -352,6 +356,8 @@ class MyTableController : public QObject,
     // window/Browsers.cpp
     ImageBrowserView* browserOf(ControlSet set) const;
     void filterResultRows();
+    void showChosenType();
+    void keepChosenType();
     void showItemCounts();
     LookedAtItems lookedAtItems();
     // window/Preview.cpp
@@ -406,6 +412,10 @@ class MyTableController : public QObject,
     bool m_draining = false;
     bool m_searchEnded = false;   // and its results are in view
     QList<ResultRow> m_leftRows;  // only when it fell back to the screen before
+
+    // Set when the user chooses the destination.
+    QString m_chosenFolder;
+    std::optional<std::uint64_t> m_chosenFileSystem;
 
     // Begin anew with every scan; the first to go, since they ask the others.
     std::unique_ptr<BrowserLooks> m_looks;

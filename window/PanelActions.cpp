@@ -1,7 +1,8 @@
 // The destination folder and the help window.
-
 #include <QFileInfo>
 
+#include "results/SizeForPeople.h"
+#include "saving/DestinationCheck.h"
 #include "window/MyTableController.h"
 #include "window/widgets/Alerts.h"
 
@@ -64,7 +65,8 @@ QLineEdit* MyTableController::pathInView() const {
     return activeSet() == ControlSet::Photo ? _path : _path_Sig;
 }
 
-// Both path fields get the folder, unless it lies on the medium that is to be recovered.
+// Both path fields get the folder, unless it lies on the medium that is to be recovered or nothing can be
+// written into it.
 bool MyTableController::acceptDestination(const QString& folder) {
     if (m_parts.isOnMedium && m_parts.isOnMedium(folder, devicePath())) {
         runAlert({QStringLiteral("\n") + tr("This folder cannot be the destination."),
@@ -73,16 +75,57 @@ bool MyTableController::acceptDestination(const QString& folder) {
                  window);
         return false;
     }
+    if (const auto refusal = refuseDestination(folder)) {
+        runAlert({QStringLiteral("\n") + tr("This folder cannot be the destination."),
+                  *refusal + u' ' + tr("Choose another folder.")},
+                 window);
+        return false;
+    }
     _path->setText(folder);
     _path_Sig->setText(folder);
+    m_chosenFolder = folder;
+    m_chosenFileSystem = fileSystemOf(folder);
+    showDestination();
     return true;
+}
+
+// False, with a word to the user, when another disk lies where the chosen folder was.
+bool MyTableController::destinationStillThere() {
+    const QString folder = pathInView()->text();
+    if (folder != m_chosenFolder || fileSystemOf(folder) == m_chosenFileSystem) {
+        return acceptDestination(folder);
+    }
+    runAlert({QStringLiteral("\n") + tr("The destination is no longer there."),
+              tr("The disk that held %1 was taken out. Put it back in, or change the folder.").arg(folder)},
+             window);
+    return false;
+}
+
+// Where saved files go, and how much room is there.
+void MyTableController::showDestination() {
+    const QString folder = pathInView()->text();
+    const auto free = m_parts.freeBytes ? m_parts.freeBytes(folder) : std::nullopt;
+    QString text = tr("No folder for saved files is chosen yet");
+    if (!folder.isEmpty()) {
+        text = !QFileInfo(folder).isDir() ? tr("Saved files go to %1, which is not there").arg(folder)
+               : free ? tr("Saved files go to %1 (%2 free)").arg(folder, sizeForPeople(*free))
+                      : tr("Saved files go to %1").arg(folder);
+    }
+    for (QLabel* label : {destinationLabel, destinationLabel_Sig}) {
+        label->setText(text);
+        label->setToolTip(text);
+    }
+    for (QPushButton* button : {_open_folder, _open_folder_Sig}) {
+        button->setEnabled(!folder.isEmpty());
+    }
 }
 
 // Asks for a destination at once; "" when the user did not choose one.
 QString MyTableController::askDestination() {
-    if (runModalForWindow(BrowseInfo_Window) != kButtonPressed) {
-        return {};
-    }
+    return runModalForWindow(BrowseInfo_Window) == kButtonPressed ? chooseDestination() : QString();
+}
+
+QString MyTableController::chooseDestination() {
     FolderChooser chooser(window, pathInView()->text());
     if (chooser.exec() != QDialog::Accepted || chooser.selectedFiles().isEmpty()) {
         return {};

@@ -27,6 +27,7 @@ SavingParts MyTableController::savingParts() {
     parts.reportHead = [this] { return reportHead(); };
     parts.examined = [this](std::size_t index, const Soundness& found) { m_looks->note(index, found); };
     parts.openFolder = [this] { openDestination(); };
+    parts.chooseFolder = [this] { return chooseDestination(); };
     parts.ending = [this] { return m_ending; };
     return parts;
 }
@@ -39,7 +40,12 @@ void MyTableController::saveSelected() {
     saveItems(browserOf(activeSet())->selectionIndexes());
 }
 
+// All that the browser shows; the button says so when that is not all there is.
 void MyTableController::saveAll() {
+    if (!m_looks->isPlain()) {
+        saveItems(browserOf(activeSet())->shownIndexes());
+        return;
+    }
     QList<qsizetype> all(static_cast<qsizetype>(itemCount()));
     std::iota(all.begin(), all.end(), 0);
     saveItems(all);
@@ -63,11 +69,11 @@ void MyTableController::saveItems(const QList<qsizetype>& indexes) {
             window);
         return;
     }
-    const QString destination = pathInView()->text().isEmpty() ? askDestination() : pathInView()->text();
-    if (destination.isEmpty() || !acceptDestination(destination)) {
+    if (pathInView()->text().isEmpty() ? askDestination().isEmpty() : !destinationStillThere()) {
         return;
     }
-    m_desk->save(indexes, destination);
+    m_desk->save(indexes, pathInView()->text());
+    showDestination();
 }
 
 ReportHead MyTableController::reportHead() const {

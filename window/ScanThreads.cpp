@@ -24,6 +24,9 @@ void MyTableController::startScan(void (ScanSession::*driver)()) {
         m_thumbnails->resume();
     }
     m_desk->forget();
+    idSigTableView->clearSelection();
+    showChosenType();
+    showDestination();
     m_looks->begin(m_parts.openBeside
                        ? [open = m_parts.openBeside, device = devicePath()] { return open(device); }
                        : SoundnessBoard::Open());
@@ -136,6 +139,7 @@ void MyTableController::flushViews() {
     }
     if (m_resultRowsDirty.exchange(false)) {
         m_resultTable->refreshData();
+        keepChosenType();
         if (foundTypesOnly->isChecked()) {
             filterResultRows();
         }

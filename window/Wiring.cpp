@@ -46,6 +46,9 @@ void MyTableController::wire() {
     connect(idTableView, &QTableView::doubleClicked, this, [this] { nextButton->click(); });
     connect(typeSearchField, &QLineEdit::textChanged, this, &MyTableController::filterFileTypes);
     connect(foundTypesOnly, &QCheckBox::toggled, this, &MyTableController::filterResultRows);
+    connect(idSigTableView->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &MyTableController::showChosenType);
+    connect(allTypesButton, &QPushButton::clicked, idSigTableView, &QTableView::clearSelection);
     connect(_zoom_slider, &QSlider::valueChanged, this, [this] { zoomSliderDidChange(_zoom_slider); });
     for (ImageBrowserView* browser : {imageBrowser, imageBrowser_2}) {
         connect(browser, &ImageBrowserView::selectionDidChange, this, [this, browser] {
@@ -99,6 +102,9 @@ void MyTableController::wireButtons() {
     connect(showItemsButton, &QPushButton::clicked, this, &MyTableController::showLeftItems);
     for (QPushButton* button : {_open_folder, _open_folder_Sig}) {
         connect(button, &QPushButton::clicked, this, &MyTableController::openDestination);
+    }
+    for (QPushButton* button : {changeFolderButton, changeFolderButton_Sig}) {
+        connect(button, &QPushButton::clicked, this, &MyTableController::chooseDestination);
     }
     for (QPushButton* button : {saveSelectedButton, saveSelectedButton_Sig}) {
         connect(button, &QPushButton::clicked, this, &MyTableController::saveSelected);

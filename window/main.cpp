@@ -1,6 +1,7 @@
 // The program with its window.
 #include <QApplication>
 #include <QScreen>
+#include <algorithm>
 #include <atomic>
 #include <cstdlib>
 
@@ -50,7 +51,9 @@ ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTable
     parts.resourcesFolder = resourcesFolder();
     parts.isOnMedium = [targets = parts.media->targets()](const QString& folder, const QString& devicePath) {
         const auto target = targets->find(devicePath.mid(QStringLiteral("/dev/r").size()));
-        return target && destinationIsOnMedium(folder, target->path);
+        const QStringList nodes = target ? nodesOf(*target, mediaPresent) : QStringList();
+        return std::any_of(nodes.begin(), nodes.end(),
+                           [&folder](const QString& node) { return destinationIsOnMedium(folder, node); });
     };
     parts.openDocument = [](const QString& path) { return openInDesktop(path); };
     parts.terminate = [] { QCoreApplication::exit(0); };

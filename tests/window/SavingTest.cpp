@@ -7,7 +7,9 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QTableView>
 
+#include "results/MyImageObject.h"
 #include "results/RecoveryMode.h"
 #include "tests/window/Gate.h"
 #include "tests/window/WindowTest.h"
@@ -296,6 +298,170 @@ TEST_F(Saving, TheFolderOfAnEarlierSearch_IsNotTakenUnseen) {
     click(controller->saveAllButton_Sig);
     EXPECT_TRUE(savedFiles().isEmpty());
     EXPECT_TRUE(QFileInfo::exists(other.filePath(QStringLiteral("PDF/PDF00001.PDF"))));
+}
+
+TEST_F(Saving, TheDestinationIsShownWithItsRoomAndCanBeChanged) {
+    QTemporaryDir other;
+    parts.freeBytes = [](const QString&) { return std::optional<std::uint64_t>(12'300'000'000); };
+    openPhotoResults();
+    EXPECT_EQ(controller->destinationLabel->text(),
+              QStringLiteral("No folder for saved files is chosen yet"));
+    for (const QString& wanted : {destination.path(), other.path()}) {
+        answers.then([&](QDialog* chooser) { chooseFolder(chooser, wanted); });
+        click(controller->changeFolderButton);
+        EXPECT_EQ(controller->_path->text(), wanted);
+        EXPECT_EQ(controller->_path_Sig->text(), wanted);
+        EXPECT_EQ(controller->destinationLabel->text(),
+                  QStringLiteral("Saved files go to %1 (12.3 GB free)").arg(wanted));
+        EXPECT_EQ(controller->destinationLabel_Sig->text(), controller->destinationLabel->text());
+        EXPECT_TRUE(controller->_open_folder->isEnabled());
+    }
+    answers.press(QStringLiteral("OK"));
+    click(controller->saveAllButton);
+    EXPECT_TRUE(savedFiles().isEmpty());
+    EXPECT_TRUE(QFileInfo::exists(other.filePath(QStringLiteral("JPG/GND00001.JPG"))));
+}
+
+TEST_F(Saving, AFolderThatTakesNoFiles_IsRefusedWhenItIsChosen) {
+    openPhotoResults();
+    answers.then([](QDialog* chooser) { chooseFolder(chooser, QStringLiteral("/proc/self")); });
+    answers.press(QStringLiteral("OK"));
+    click(controller->changeFolderButton);
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\nThis folder cannot be the destination."));
+    EXPECT_TRUE(answers.seen().back().informative.contains(QStringLiteral("Nothing can be written")));
+    EXPECT_EQ(controller->_path->text(), QString());
+}
+
+TEST_F(Saving, ADestinationThatHasVanished_IsNotMadeAnew) {
+    openPhotoResults();
+    const QString gone = destination.filePath(QStringLiteral("stick"));
+    destinationIs(gone);
+    answers.press(QStringLiteral("OK"));
+    click(controller->saveAllButton);
+    EXPECT_TRUE(answers.seen().back().informative.contains(QStringLiteral("is not there")));
+    EXPECT_FALSE(QFileInfo::exists(gone));
+    EXPECT_TRUE(controller->hasUnsavedItems());
+}
+
+TEST_F(Saving, WhatFailed_CanBeSavedElsewhereAtOnce) {
+    QTemporaryDir other;
+    openPhotoResults();
+    QFile blocked(destination.filePath(QStringLiteral("JPG")));
+    ASSERT_TRUE(blocked.open(QIODevice::WriteOnly));
+    destinationIs(destination.path());
+    answers.press(QStringLiteral("Change Folder…"));
+    answers.then([&](QDialog* chooser) { chooseFolder(chooser, other.path()); });
+    answers.press(QStringLiteral("OK"));
+    click(controller->saveAllButton);
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\n2 files were saved."));
+    EXPECT_TRUE(QFileInfo::exists(other.filePath(QStringLiteral("JPG/GND00002.JPG"))));
+    EXPECT_FALSE(QFileInfo::exists(other.filePath(QStringLiteral("GIF")))) << "saved before";
+    EXPECT_FALSE(controller->hasUnsavedItems());
+}
+
+TEST_F(Saving, WithoutRoom_AnotherFolderCanBeChosen) {
+    QTemporaryDir other;
+    parts.freeBytes = [&](const QString& path) {
+        return std::optional<std::uint64_t>(path == other.path() ? 1'000'000'000 : 1000);
+    };
+    openPhotoResults();
+    destinationIs(destination.path());
+    answers.press(QStringLiteral("Change Folder…"));
+    answers.then([&](QDialog* chooser) { chooseFolder(chooser, other.path()); });
+    answers.press(QStringLiteral("OK"));
+    click(controller->saveAllButton);
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\n3 files were saved."));
+    EXPECT_TRUE(savedFiles().isEmpty());
+    EXPECT_TRUE(QFileInfo::exists(other.filePath(QStringLiteral("GIF/THD00001.GIF"))));
+}
+
+TEST_F(Saving, SaveAll_SavesWhatTheFilterShowsAndSaysSo) {
+    openPhotoResults();
+    destinationIs(destination.path());
+    EXPECT_EQ(controller->saveAllButton->text(), QStringLiteral("Save &All…"));
+    controller->imageBrowser->setCurrentIndex(controller->imageBrowser->model()->index(0, 0));
+    answers.press(QStringLiteral("OK"));
+    click(controller->saveSelectedButton);
+    controller->showBox->setCurrentText(QStringLiteral("Not saved yet"));
+    EXPECT_EQ(controller->saveAllButton->text(), QStringLiteral("Save &All Shown (2)…"));
+    changeOptions([](QDialog* panel) { tick(panel, "keepDuplicatesBox"); });
+    saveAllAndAnswer();
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\n2 files were saved."));
+    EXPECT_EQ(savedFiles().size(), 3) << "the one that is not shown is not saved again";
+    EXPECT_TRUE(waitFor([this] { return !controller->saveAllButton->isEnabled(); })) << "nothing is shown";
+    controller->showBox->setCurrentIndex(0);
+    EXPECT_EQ(controller->saveAllButton->text(), QStringLiteral("Save &All…"));
+    EXPECT_TRUE(controller->saveAllButton->isEnabled());
+}
+
+TEST_F(Saving, ATypeInTheTable_ShowsThatTypeAlone) {
+    openWithCard();
+    toFileTypes(kRawFileMode);
+    scanToEnd();
+    destinationIs(destination.path());
+    const int all = controller->imageBrowser_2->shownCount();
+    EXPECT_FALSE(controller->allTypesButton->isEnabled());
+    QTableView* table = controller->idSigTableView;
+    int row = 0;
+    while (row < table->model()->rowCount() &&
+           table->model()->index(row, 0).data().toString() != QStringLiteral("PDF")) {
+        ++row;
+    }
+    ASSERT_LT(row, table->model()->rowCount());
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, {},
+                      table->visualRect(table->model()->index(row, 0)).center());
+    const int shown = controller->imageBrowser_2->shownCount();
+    EXPECT_EQ(shown, table->model()->index(row, 1).data().toInt());
+    EXPECT_LT(shown, all);
+    for (int place = 0; place < shown; ++place) {
+        EXPECT_TRUE(
+            controller->imageBrowser_2->itemOfRow(place)->imageTitle().endsWith(QStringLiteral(".PDF")));
+    }
+    EXPECT_EQ(controller->saveAllButton_Sig->text(), QStringLiteral("Save &All Shown (%1)…").arg(shown));
+    answers.press(QStringLiteral("OK"));
+    click(controller->saveAllButton_Sig);
+    EXPECT_EQ(savedFiles(), QStringList{QStringLiteral("PDF/PDF00001.PDF")});
+    ASSERT_TRUE(controller->allTypesButton->isEnabled());
+    click(controller->allTypesButton);
+    EXPECT_EQ(controller->imageBrowser_2->shownCount(), all);
+    EXPECT_FALSE(controller->allTypesButton->isEnabled());
+}
+
+TEST_F(Saving, AFileThatTakesLong_IsExplainedAndCanBeSkipped) {
+    openPhotoResults();
+    destinationIs(destination.path());
+    card.badForEver = {12};
+    Gate gate;
+    // The first was followed to the card's end: in the midst of the second.
+    card.beforeRead = gate.atRead(card.reads + 70);
+    QString trouble;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            if (widget->objectName() != u"saveProgress" || !widget->isVisible() || !gate.someoneWaits() ||
+                widget->findChild<QLabel*>(QStringLiteral("saveHeading"))->text() !=
+                    QStringLiteral("Saving 2 of 3")) {
+                continue;
+            }
+            auto* skip = widget->findChild<QPushButton*>(QStringLiteral("skipButton"));
+            auto* says = widget->findChild<QLabel*>(QStringLiteral("saveTroubleLabel"));
+            if (!skip->isEnabled() || !says->isVisible()) {
+                continue;
+            }
+            trouble = says->text();
+            QTest::mouseClick(skip, Qt::LeftButton);
+            EXPECT_FALSE(skip->isEnabled());
+            gate.open();
+        }
+    });
+    look.start(5);
+    answers.press(QStringLiteral("OK"));
+    click(controller->saveAllButton);
+    EXPECT_TRUE(trouble.contains(QStringLiteral("refuses sectors of this file: 1 so far")))
+        << trouble.toStdString();
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\n2 files were saved."));
+    EXPECT_TRUE(answers.seen().back().informative.contains(QStringLiteral("GND00002.JPG: Skipped")));
+    EXPECT_TRUE(controller->hasUnsavedItems());
 }
 
 TEST_F(Saving, RawItemsAreSavedTheSameWay) {

@@ -7,6 +7,7 @@
 
 #include "results/MyImageObject.h"
 #include "results/RecoveryMode.h"
+#include "results/ResultRow.h"
 #include "window/browser/ImageBrowserView.h"
 
 namespace vantor {
@@ -120,6 +121,14 @@ void BrowserLooks::choose() {
     look();
 }
 
+void BrowserLooks::showType(const QString& type) {
+    if (m_wish.type != type) {
+        m_wish.type = type;
+        putInOrder();
+        look();
+    }
+}
+
 void BrowserLooks::putInOrder() {
     ImageBrowserView* browser = screen().browser;
     m_orderedCount = static_cast<int>(m_items.count());
@@ -140,6 +149,10 @@ void BrowserLooks::putInOrder() {
                 facts.readFailed = item && item->carved().readFailed;
             } else if (m_wish.show == ShowItems::NotSaved) {
                 facts.saved = m_items.isSaved(at);
+            }
+            if (!m_wish.type.isEmpty()) {
+                const auto item = m_items.at(at);
+                facts.type = item ? pathExtension(item->imageTitle()) : QString();
             }
             return facts;
         }));

@@ -52,6 +52,9 @@ class BrowserLooks : public QObject {
     ItemFacts factsOf(std::size_t index) const;
     // What saving found out.
     void note(std::size_t index, const Soundness& soundness) { m_board.note(index, soundness); }
+    // Leaves out all other types; an empty text shows every type again.
+    void showType(const QString& type);
+    QString shownType() const { return m_wish.type; }
     // All items, in the order in which they were found.
     bool isPlain() const { return m_wish.isPlain(); }
 

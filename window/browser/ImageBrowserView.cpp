@@ -135,6 +135,14 @@ std::vector<std::size_t> ImageBrowserView::indexesInView() const {
     return indexes;
 }
 
+QList<qsizetype> ImageBrowserView::shownIndexes() const {
+    QList<qsizetype> indexes;
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        indexes.append(m_model->indexOfRow(row));
+    }
+    return indexes;
+}
+
 int ImageBrowserView::shownCount() const {
     return m_model->rowCount();
 }

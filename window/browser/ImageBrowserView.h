@@ -37,6 +37,7 @@ class ImageBrowserView : public QListView {
     qsizetype selectedCount() const;
     std::vector<std::size_t> indexesInView() const;
     int shownCount() const;
+    QList<qsizetype> shownIndexes() const;  // in the order in which they are shown
 
     // Of a row.
     std::shared_ptr<MyImageObject> itemOfRow(int row) const;

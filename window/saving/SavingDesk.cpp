@@ -1,7 +1,9 @@
 // One job at a time, on a thread of its own, under a sheet.
 #include "window/saving/SavingDesk.h"
 
+#include <algorithm>
 #include <map>
+#include <utility>
 
 #include "results/MyImageObject.h"
 #include "results/SizeForPeople.h"
@@ -43,7 +45,15 @@ void SavingDesk::join() {
     }
 }
 
-void SavingDesk::save(const QList<qsizetype>& indexes, const QString& destination) {
+void SavingDesk::save(QList<qsizetype> indexes, QString destination) {
+    while (auto next = saveOnce(indexes, destination)) {
+        indexes = std::move(next->indexes);
+        destination = std::move(next->destination);
+    }
+}
+
+std::optional<SavingDesk::Next> SavingDesk::saveOnce(const QList<qsizetype>& indexes,
+                                                     const QString& destination) {
     SaveRequest request;
     for (const qsizetype index : indexes) {
         const auto at = static_cast<std::size_t>(index);
@@ -51,8 +61,10 @@ void SavingDesk::save(const QList<qsizetype>& indexes, const QString& destinatio
             request.items.push_back({at, std::move(item)});
         }
     }
-    if (!mayFill(destination, bytesNeeded(request.items))) {
-        return;
+    const Room room = askForRoom(destination, bytesNeeded(request.items));
+    if (room != Room::Enough) {
+        const QString other = room == Room::Elsewhere ? m_parts.chooseFolder() : QString();
+        return other.isEmpty() ? std::nullopt : std::optional(Next{indexes, other});
     }
     request.saver = saverFor(destination);
     request.openMedium = m_parts.medium();
@@ -62,9 +74,7 @@ void SavingDesk::save(const QList<qsizetype>& indexes, const QString& destinatio
         request.report = m_parts.reportHead();
     }
     const auto job = std::make_shared<SaveJob>(std::move(request));
-    if (watch(job)) {
-        tell(*job, destination);
-    }
+    return watch(job) ? tell(*job, destination) : std::nullopt;
 }
 
 void SavingDesk::forget() {
@@ -84,19 +94,21 @@ std::shared_ptr<const ItemSaver> SavingDesk::saverFor(const QString& destination
 }
 
 // The need is that of the items as they were found; a file may turn out longer or shorter.
-bool SavingDesk::mayFill(const QString& destination, std::uint64_t bytes) const {
+SavingDesk::Room SavingDesk::askForRoom(const QString& destination, std::uint64_t bytes) const {
     const auto free = m_parts.freeBytes ? m_parts.freeBytes(destination) : std::nullopt;
     if (!free || *free >= bytes) {
-        return true;
+        return Room::Enough;
     }
-    return runAlert(
-               {QStringLiteral("\n") + tr("There may not be enough room in the destination."),
-                tr("Some %1 are needed and %2 are free in %3. What fits is saved whole; the rest is left "
-                   "out and stays in the list.")
-                    .arg(sizeForPeople(bytes), sizeForPeople(*free), destination),
-                {tr("Save What Fits"), tr("Cancel")},
-                1},
-               m_parts.window) == 0;
+    const qsizetype answer =
+        runAlert({QStringLiteral("\n") + tr("There may not be enough room in the destination."),
+                  tr("Some %1 are needed and %2 are free in %3. What fits is saved whole; the rest is left "
+                     "out and stays "
+                     "in the list.")
+                      .arg(sizeForPeople(bytes), sizeForPeople(*free), destination),
+                  {tr("Save What Fits"), tr("Change Folder…"), tr("Cancel")},
+                  2},
+                 m_parts.window);
+    return answer == 0 ? Room::Enough : answer == 1 ? Room::Elsewhere : Room::Cancelled;
 }
 
 // Runs the job beside the window under a sheet; false when the program ends meanwhile or the medium does not
@@ -112,7 +124,7 @@ bool SavingDesk::watch(const std::shared_ptr<SaveJob>& job) {
     return job->isFinished() && !m_parts.ending();
 }
 
-void SavingDesk::tell(const SaveJob& job, const QString& destination) {
+void SavingDesk::note(const SaveJob& job) {
     const SaveReport& report = job.report();
     for (std::size_t i = 0; i < report.items.size(); ++i) {
         const SaveOutcome& outcome = report.items[i].outcome;
@@ -122,25 +134,50 @@ void SavingDesk::tell(const SaveJob& job, const QString& destination) {
         }
     }
     emit marksChanged();
-    if (!report.mediumOpened) {
+}
+
+std::optional<SavingDesk::Next> SavingDesk::tell(const SaveJob& job, const QString& destination) {
+    note(job);
+    const SaveReport& report = job.report();
+    const bool somethingThere = report.tally.saved + report.tally.duplicates > 0;
+    if (!report.mediumOpened && !somethingThere) {
         runAlert({QStringLiteral("\n") + tr("Nothing was saved."),
                   tr("The storage medium cannot be read any more. Put it back in and try again.")},
                  m_parts.window);
-        return;
+        return std::nullopt;
     }
-    const SaveSummary summary{report.tally, destination, job.isCancelled(),
-                              !report.written.html.isEmpty() && report.written.error.isEmpty(),
-                              report.written.error};
-    Alert alert{QStringLiteral("\n") + summaryHeadline(summary), summaryDetails(summary)};
-    const bool somethingThere = report.tally.saved + report.tally.duplicates > 0;
+    const bool mediumGone = std::any_of(report.items.begin(), report.items.end(),
+                                        [](const ReportedItem& item) { return item.outcome.mediumGone; });
+    const SaveSummary summary{
+        report.tally,         destination,
+        job.isCancelled(),    !report.written.html.isEmpty() && report.written.error.isEmpty(),
+        report.written.error, mediumGone};
+    Alert alert{QStringLiteral("\n") + summaryHeadline(summary), summaryDetails(summary), {}};
     if (somethingThere) {
-        alert.buttons = {tr("Open Folder"), QStringLiteral("OK")};
-        alert.defaultButton = 1;
+        alert.buttons << tr("Open Folder");
         alert.picture = report.tally.failed > 0 ? QStringLiteral("info") : QStringLiteral("ok");
     }
-    if (runAlert(alert, m_parts.window) == 0 && somethingThere) {
+    if (report.tally.failed > 0) {
+        alert.buttons << tr("Change Folder…");
+    }
+    alert.buttons << QStringLiteral("OK");
+    alert.defaultButton = alert.buttons.size() - 1;
+    const QString answer = alert.buttons.value(runAlert(alert, m_parts.window));
+    if (answer == tr("Open Folder")) {
         m_parts.openFolder();
     }
+    const QString other = answer == tr("Change Folder…") ? m_parts.chooseFolder() : QString();
+    if (other.isEmpty()) {
+        return std::nullopt;
+    }
+    Next rest{{}, other};
+    for (std::size_t i = 0; i < report.items.size(); ++i) {
+        const SaveOutcome& outcome = report.items[i].outcome;
+        if (!outcome.saved && outcome.leftOut == LeftOut::No) {
+            rest.indexes.append(static_cast<qsizetype>(report.indexes[i]));
+        }
+    }
+    return rest;
 }
 
 }  // namespace vantor

@@ -36,7 +36,8 @@ struct SavingParts {
     std::function<ReportHead()> reportHead;
     std::function<void(std::size_t, const Soundness&)> examined;  // found out while an item was saved
     std::function<void()> openFolder;
-    std::function<bool()> ending;  // the program ends: nothing is waited for
+    std::function<QString()> chooseFolder;  // another destination; "" when the user chose none
+    std::function<bool()> ending;           // the program ends: nothing is waited for
 };
 
 // Interface thread.
@@ -47,8 +48,9 @@ class SavingDesk : public QObject {
     explicit SavingDesk(SavingParts parts) : m_parts(std::move(parts)) {}
     ~SavingDesk() override;
 
-    // Items by their places in the list. Returns when they are saved or the user cancelled.
-    void save(const QList<qsizetype>& indexes, const QString& destination);
+    // Items by their places in the list. Returns when they are saved or the user cancelled; where the
+    // destination failed them the user may choose another on the way.
+    void save(QList<qsizetype> indexes, QString destination);
 
     // After a cancel a medium that does not answer may hold a job up; nothing is saved meanwhile.
     bool isRunning() const { return m_running; }
@@ -66,10 +68,19 @@ class SavingDesk : public QObject {
     void marksChanged();
 
   private:
-    bool mayFill(const QString& destination, std::uint64_t bytes) const;
+    // Where to go on, and with what.
+    struct Next {
+        QList<qsizetype> indexes;
+        QString destination;
+    };
+
+    std::optional<Next> saveOnce(const QList<qsizetype>& indexes, const QString& destination);
+    enum class Room { Enough, Elsewhere, Cancelled };
+    Room askForRoom(const QString& destination, std::uint64_t bytes) const;
     std::shared_ptr<const ItemSaver> saverFor(const QString& destination);
     bool watch(const std::shared_ptr<SaveJob>& job);
-    void tell(const SaveJob& job, const QString& destination);
+    void note(const SaveJob& job);
+    std::optional<Next> tell(const SaveJob& job, const QString& destination);
 
     const SavingParts m_parts;
     SavingChoices m_choices;  // kept while the program runs

@@ -29,6 +29,7 @@ SavingSheet::SavingSheet(QWidget* over, std::shared_ptr<SaveJob> job)
     setCommonBackground(m_dialog.get());
     m_ui->saveBar->setMaximum(kBarSteps);
     connect(m_ui->cancelButton, &QPushButton::clicked, this, &SavingSheet::cancel);
+    connect(m_ui->skipButton, &QPushButton::clicked, this, &SavingSheet::skip);
     m_dialog->installEventFilter(this);
     m_meter.begin(m_job->total());
     m_clock.start();
@@ -71,13 +72,36 @@ void SavingSheet::cancel() {
         m_sinceCancel.start();
     }
     m_ui->cancelButton->setEnabled(false);
+    m_ui->skipButton->setEnabled(false);
     showProgress();
+}
+
+// The file that the sheet names, not one that came to hand meanwhile.
+void SavingSheet::skip() {
+    m_job->skip(m_shown);
+    m_ui->skipButton->setEnabled(false);
+}
+
+// What holds a file up, and the way past it.
+void SavingSheet::showTrouble(const SaveProgress& progress) {
+    if (m_shown != progress.done) {
+        m_shown = progress.done;
+        m_ui->skipButton->setEnabled(!m_job->isCancelled());
+    }
+    const bool trouble = progress.refused > 0;
+    m_ui->saveTroubleLabel->setText(
+        trouble ? tr("The medium refuses sectors of this file: %1 so far. Each may take seconds. What lies "
+                     "behind them is read all the same.")
+                      .arg(numberForPeople(progress.refused))
+                : QString());
+    m_ui->saveTroubleLabel->setVisible(trouble);
 }
 
 void SavingSheet::showProgress() {
     const SaveProgress progress = m_job->progress();
     m_meter.update(m_clock.elapsed(), progress.share);
     const std::size_t at = std::min(progress.done + 1, m_job->count());
+    showTrouble(progress);
     m_ui->saveHeading->setText(
         tr("Saving %1 of %2").arg(numberForPeople(at), numberForPeople(m_job->count())));
     m_ui->saveFileLabel->setText(m_ui->saveFileLabel->fontMetrics().elidedText(

@@ -19,6 +19,7 @@ class SavingProgress;
 namespace vantor {
 
 class SaveJob;
+struct SaveProgress;
 
 // Interface thread only; the job runs elsewhere.
 class SavingSheet : public QObject {
@@ -36,12 +37,15 @@ class SavingSheet : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showProgress();
     void cancel();
+    void skip();
+    void showTrouble(const SaveProgress& progress);
 
     std::shared_ptr<SaveJob> m_job;
     std::unique_ptr<QDialog> m_dialog;
     std::unique_ptr<Ui::SavingProgress> m_ui;
     QTimer m_poll;
     QElapsedTimer m_clock, m_sinceCancel;
+    std::size_t m_shown = 0;  // place of the item that the sheet shows
     ScanMeter m_meter;
 };
 
