@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QJsonArray>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QThread>
 
@@ -257,7 +258,7 @@ TEST(Command, TableHasTheUnitsAndSeparatorsOfTheWindow) {
     const CommandRun run = runCommand(
         {"--no-thorough", "--catalogue", writeCatalogues(folder, record("JPG", "FFD8FFE0")), image});
     EXPECT_TRUE(run.out.contains("sectors 4 to 40  18.4 kB\n")) << run.out.constData();
-    EXPECT_TRUE(run.out.contains("sectors 40 to 4,000  2.0 MB\n")) << run.out.constData();
+    EXPECT_TRUE(run.out.contains("sectors 40 to 1,993  999.9 kB\n")) << run.out.constData();
     EXPECT_TRUE(run.out.contains("2 found: 2 JPG\n")) << run.out.constData();
 }
 
@@ -307,7 +308,8 @@ TEST_P(CommandStopped, PublishesAndSavesWhatWasFound) {
     ASSERT_EQ(lines.size(), 3);
     EXPECT_EQ(lines.last()["end"], "stopped");
     EXPECT_TRUE(run.err.contains("The search was stopped at ")) << run.err.constData();
-    EXPECT_TRUE(run.err.contains("To go on from there: --range 40:8589934592\n")) << run.err.constData();
+    const QRegularExpression rest(QStringLiteral("To go on from there: --range [0-9]+:8589934592\n"));
+    EXPECT_TRUE(rest.match(QString::fromUtf8(run.err)).hasMatch()) << run.err.constData();
     EXPECT_EQ(filesUnder(folder.filePath("out")), QStringList({"JPG/GND00001.JPG", "JPG/GND00002.JPG"}));
 }
 

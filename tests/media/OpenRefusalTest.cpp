@@ -55,7 +55,7 @@ TEST_F(OpenRefusalTest, WithoutConsentACardMayNotBeRead) {
         GTEST_SKIP() << "no device here";
     }
     const Nobody nobody;
-    if (::access("/dev/loop0", R_OK) == 0 || ::eaccess("/dev/loop0", R_OK) == 0) {
+    if (::eaccess("/dev/loop0", R_OK) == 0) {
         GTEST_SKIP() << "everybody may read it";
     }
     EXPECT_EQ(refusalOf(node), OpenRefusal::MayNotReadDevice) << "nobody to ask";
