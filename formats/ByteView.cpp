@@ -190,6 +190,17 @@ Extent damagedAt(const ByteView& view, std::uint64_t end, const Facts& facts) {
     return {Verdict::Damaged, std::min(end, view.size()), true, facts};
 }
 
+Extent withContent(Extent extent) {
+    extent.checked = true;
+    return extent;
+}
+
+Extent spoiltUpTo(const ByteView& view, std::uint64_t end, const Facts& facts) {
+    Extent extent = damagedAt(view, end, facts);
+    extent.endFound = true;
+    return extent;
+}
+
 Extent inexact(Extent extent) {
     extent.exactEnd = false;
     return extent;

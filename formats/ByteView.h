@@ -125,6 +125,9 @@ Extent completeAt(const ByteView& view, std::uint64_t end,
                   const Facts& facts = {});  // CutOff if end lies beyond
 Extent cutOffAt(const ByteView& view, std::uint64_t end, const Facts& facts = {});
 Extent damagedAt(const ByteView& view, std::uint64_t end, const Facts& facts = {});
-Extent inexact(Extent extent);  // the same with exactEnd false
+Extent spoiltUpTo(const ByteView& view, std::uint64_t end,
+                  const Facts& facts = {});  // damaged inside, its end found
+Extent inexact(Extent extent);               // the same with exactEnd false
+Extent withContent(Extent extent);           // the same, its content checked
 
 }  // namespace vantor

@@ -46,6 +46,15 @@ struct Extent {
     bool exactEnd = true;
 
     Facts facts;
+
+    // Of a complete file: whether its content was looked at up to the end, by sums, syntax or frames (of a
+    // long movie: at many places). False where only lengths were followed: the file ends where it says, and
+    // whatever stands between may be another's. Never true where the end is not exact.
+    bool checked = false;
+
+    // Of a damaged file: whether its own end was found all the same, behind what is spoilt. `end` is then the
+    // file's length; else what follows a break may still be the file's.
+    bool endFound = false;
 };
 
 }  // namespace vantor

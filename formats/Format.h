@@ -31,6 +31,9 @@ struct Format {
     // Whether it is a row of frames, packets or lines without a beginning of their own: what begins inside
     // such a file is a part of it, however whole it looks.
     bool frameStream = false;
+    // Whether every file that the walk calls complete was checked (see Extent). Walks that check some files
+    // and not others leave this and say it of each.
+    bool checksContent = false;
     // Whether the walk recognises files whose end it cannot tell, so that Unknown proves nothing.
     bool mayNotTellEnd = false;
 };

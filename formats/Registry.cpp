@@ -32,19 +32,26 @@ const Format* formatFor(std::string_view extension) {
     return hit != std::end(kFormats) ? *hit : nullptr;
 }
 
+Extent walkAs(const Format& format, ByteView& view) {
+    Extent extent = format.walk(view);
+    extent.checked =
+        extent.verdict == Verdict::Complete && extent.exactEnd && (extent.checked || format.checksContent);
+    return extent;
+}
+
 Extent walk(std::string_view extension, ByteSource& source) {
     ByteView view(source);
     const Format* own = formatFor(extension);
     Extent extent;
     if (own != nullptr)
-        extent = own->walk(view);
+        extent = walkAs(*own, view);
     for (const Format* format : kFormats) {
         if (extent.verdict != Verdict::Unknown)
             break;
         if (format == own || !format->strongMagic)
             continue;
         // Facts stay when only the end could not be told.
-        Extent other = format->walk(view);
+        Extent other = walkAs(*format, view);
         if (other.verdict != Verdict::Unknown || other.facts.width != 0 || other.facts.taken)
             extent = other;
     }

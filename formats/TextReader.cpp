@@ -14,6 +14,13 @@ std::uint64_t behindLineEnd(ByteView& view, std::uint64_t at) {
     return at;
 }
 
+std::uint64_t behindBlanks(ByteView& view, std::uint64_t at) {
+    at = behindLineEnd(view, at);
+    while (!isSectorStart(at) && isTextSpace(view.u8(at).value_or(0)))
+        ++at;
+    return at;
+}
+
 std::uint64_t behindByteOrderMark(ByteView& view) {
     return view.matches(0, "\xEF\xBB\xBF") ? 3 : 0;
 }

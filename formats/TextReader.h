@@ -47,6 +47,9 @@ inline bool isTextSpace(int byte) {
 
 // Position behind one line end of any kind at `at`, else `at`.
 std::uint64_t behindLineEnd(ByteView& view, std::uint64_t at);
+// The same behind all blanks and line ends, which editors leave behind the last mark, but not in the next
+// sector.
+std::uint64_t behindBlanks(ByteView& view, std::uint64_t at);
 // Position behind a UTF-8 byte order mark at the beginning.
 std::uint64_t behindByteOrderMark(ByteView& view);
 // Whether `lower` stands at `at` in letters of either case.

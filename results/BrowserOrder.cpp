@@ -57,7 +57,9 @@ SortKey keyOf(const ItemFacts& facts, SortItems sort) {
             return {0, 0};
         case SortItems::Soundness: {
             static constexpr int kRank[] = {3, 0, 1, 2};  // by Verdict
-            return {soundness.notOfItsType ? 4 : kRank[static_cast<int>(soundness.verdict)], 0};
+            // Of complete ones those whose content was checked come first.
+            return {soundness.notOfItsType ? 4 : kRank[static_cast<int>(soundness.verdict)],
+                    soundness.checked ? 0 : 1};
         }
         case SortItems::Size:
             return {0, -static_cast<std::int64_t>(soundness.bytes)};

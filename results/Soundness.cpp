@@ -13,7 +13,8 @@ namespace vantor {
 namespace {
 
 QString words(const Soundness& soundness) {
-    return soundness.notOfItsType ? QObject::tr("no file of its type") : soundnessWords(soundness.verdict);
+    return soundness.notOfItsType ? QObject::tr("no file of its type")
+                                  : soundnessWords(soundness.verdict, soundness.checked);
 }
 
 }  // namespace
@@ -39,6 +40,7 @@ std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, S
     if (soundness.unreadable && soundness.verdict == Verdict::Complete) {
         soundness.verdict = Verdict::Damaged;
     }
+    soundness.checked = soundness.verdict == Verdict::Complete && length.extent.checked;
     soundness.notOfItsType = !soundness.unreadable && isCertainlyUnsound(type, length.extent);
     soundness.bytes = length.bytes;
     soundness.width = facts.width;
@@ -61,8 +63,12 @@ QString soundnessText(Verdict verdict) {
     return QStringLiteral("unknown");
 }
 
-QString soundnessWords(Verdict verdict) {
-    return verdict == Verdict::Unknown ? QStringLiteral("of unknown length") : soundnessText(verdict);
+QString soundnessWords(Verdict verdict, bool checked) {
+    if (verdict == Verdict::Unknown) {
+        return QObject::tr("of unknown length");
+    }
+    return verdict == Verdict::Complete && !checked ? QObject::tr("ends where it says, content not checked")
+                                                    : soundnessText(verdict);
 }
 
 QString describe(const Soundness& soundness) {

@@ -20,6 +20,7 @@ struct Soundness {
     std::uint32_t width = 0;    // pixels; 0: not told
     std::uint32_t height = 0;
     std::optional<CivilTime> taken;
+    bool checked = false;  // complete, and its content was looked at; else it only ends where it says
 };
 
 // Follows the item's own structure on the medium as saving does, without saving. A file that takes more than
@@ -32,8 +33,9 @@ std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, S
 
 // "complete", "cut off", "damaged" or "unknown", for machines.
 QString soundnessText(Verdict verdict);
-// The same for people: what is unknown is the length.
-QString soundnessWords(Verdict verdict);
+// The same for people: what is unknown is the length, and a file of which only lengths were followed "ends
+// where it says, content not checked".
+QString soundnessWords(Verdict verdict, bool checked);
 
 // "complete, 4.2 MB, 4000 × 3000 pixels, taken 2026-05-17".
 QString describe(const Soundness& soundness);

@@ -1,6 +1,7 @@
 // The one place that decides how long a saved file is, with the reasons.
 //
 // - Complete: the file's own end, before or behind the end of the carved run.
+// - Damaged inside, its end found: that end.
 // - Damaged, cut off: the carved run, or up to where the structure still held if that is further. What
 //   follows a break may be the rest of the file (one unreadable sector breaks a photo in its middle), so
 //   nothing that was carved is given up. Behind the carved run a broken file is believed only up to the
@@ -45,6 +46,9 @@ std::uint64_t bytesToKeep(const Extent& extent, const LengthLimits& limits) {
             }
             break;
         case Verdict::Damaged:
+            if (extent.endFound && end != 0) {
+                return end;
+            }
             break;
         case Verdict::Unknown:
             return limits.carved;

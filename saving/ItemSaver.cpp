@@ -170,6 +170,7 @@ bool ItemSaver::decideLength(const FoundItem& item, MediumBytes& bytes, SaveOutc
     const Facts& facts = length.extent.facts;
     outcome.bytes = length.bytes;
     outcome.verdict = length.extent.verdict;
+    outcome.checked = length.extent.checked;
     outcome.exactLength = length.extent.verdict == Verdict::Complete && length.extent.exactEnd;
     outcome.taken = facts.taken;
     outcome.width = facts.width;
@@ -281,6 +282,7 @@ bool ItemSaver::writeFile(const Writing& writing, MediumBytes& bytes, SaveOutcom
     } else if (outcome.sectorsUnreadable != 0 && outcome.verdict == Verdict::Complete) {
         outcome.verdict = Verdict::Damaged;
     }
+    outcome.checked = outcome.checked && outcome.verdict == Verdict::Complete;
     if (likeAnother && summing && file.isGood()) {
         const Likeness asWritten{outcome.bytes, writing.likeness.head};
         const SavedFile* const same = m_state->saved.withChecksum(
@@ -351,7 +353,8 @@ std::optional<Soundness> soundnessOf(const SaveOutcome& outcome) {
                      outcome.bytes,
                      outcome.width,
                      outcome.height,
-                     outcome.taken};
+                     outcome.taken,
+                     outcome.checked};
 }
 
 }  // namespace vantor

@@ -38,6 +38,7 @@ struct SaveOutcome {
     bool mediumGone = false;              // before all of it was read: another time may give more
     // Of the file as saved: Complete only when all of its sectors could be read.
     Verdict verdict = Verdict::Unknown;
+    bool checked = false;            // complete, and its content was looked at
     bool exactLength = true;         // false: the format does not mark its end to the byte
     std::optional<CivilTime> taken;  // also the file's modification time
     std::uint32_t width = 0;         // pixels; 0: not told

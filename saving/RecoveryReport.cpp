@@ -62,7 +62,7 @@ QString relativePath(const QString& folder, const QString& path) {
 }
 
 QString stateText(const SaveOutcome& outcome) {
-    QString text = soundnessText(outcome.verdict);
+    QString text = soundnessWords(outcome.verdict, outcome.checked);
     if (outcome.verdict == Verdict::Complete && !outcome.exactLength) {
         text += QStringLiteral(", length estimated");
     }
@@ -86,19 +86,21 @@ QString totals(const std::vector<ReportedItem>& items) {
     for (const ReportedItem& item : items) {
         types[item.type].add(item.name, item.outcome);
     }
-    QString text = QStringLiteral("<h2>Totals</h2>\n<table>\n") +
-                   row({QStringLiteral("Type"), QStringLiteral("Saved"), QStringLiteral("Size"),
-                        QStringLiteral("Complete"), QStringLiteral("Cut off"), QStringLiteral("Damaged"),
-                        QStringLiteral("Length unknown"), QStringLiteral("Duplicates"),
-                        QStringLiteral("Left out"), QStringLiteral("Failed")},
-                       "th");
+    QString text =
+        QStringLiteral("<h2>Totals</h2>\n<table>\n") +
+        row({QStringLiteral("Type"), QStringLiteral("Saved"), QStringLiteral("Size"),
+             QStringLiteral("Complete"), QStringLiteral("Ends where it says"), QStringLiteral("Cut off"),
+             QStringLiteral("Damaged"), QStringLiteral("Length unknown"), QStringLiteral("Duplicates"),
+             QStringLiteral("Left out"), QStringLiteral("Failed")},
+            "th");
     for (auto type = types.cbegin(); type != types.cend(); ++type) {
         const SaveTally& t = type.value();
-        text += row({type.key().toHtmlEscaped(), numberForPeople(t.saved), sizeForPeople(t.bytes),
-                     numberForPeople(t.complete), numberForPeople(t.cutOff), numberForPeople(t.damaged),
-                     numberForPeople(t.unknownLength), numberForPeople(t.duplicates),
-                     numberForPeople(t.tooSmall + t.unsound), numberForPeople(t.failed)},
-                    "td");
+        text +=
+            row({type.key().toHtmlEscaped(), numberForPeople(t.saved), sizeForPeople(t.bytes),
+                 numberForPeople(t.complete), numberForPeople(t.unchecked), numberForPeople(t.cutOff),
+                 numberForPeople(t.damaged), numberForPeople(t.unknownLength), numberForPeople(t.duplicates),
+                 numberForPeople(t.tooSmall + t.unsound), numberForPeople(t.failed)},
+                "td");
     }
     return text + QStringLiteral("</table>\n");
 }
@@ -124,10 +126,11 @@ QString itemRow(const ReportedItem& item, const QString& folder, const ReportThu
                              .arg(QLatin1String(kind), QString::fromLatin1(bytes.toBase64())));
     }
     static const char* const kClasses[] = {"unknown", "complete", "cut", "damaged"};
+    const bool unchecked = outcome.verdict == Verdict::Complete && !outcome.checked;
     const QString soundness =
         outcome.saved
             ? QStringLiteral("<span class=\"%1\">%2</span>")
-                  .arg(QLatin1String(kClasses[static_cast<int>(outcome.verdict)]),
+                  .arg(QLatin1String(unchecked ? "unchecked" : kClasses[static_cast<int>(outcome.verdict)]),
                        stateText(outcome).toHtmlEscaped())
             : QStringLiteral("<span class=\"failed\">%1</span>")
                   .arg((resultText(outcome) + QStringLiteral(": ") + reasonText(outcome)).toHtmlEscaped());
@@ -196,7 +199,7 @@ void htmlTo(const Pieces& add, const ReportHead& head, const std::vector<Reporte
 void csvTo(const Pieces& add, const ReportHead& head, const std::vector<ReportedItem>& items,
            const QString& folder) {
     add("name,type,medium,first_sector,end_sector,bytes,sha256,soundness,exact_length,unreadable_sectors,"
-        "taken,width,height,result,path_or_reason\r\n");
+        "taken,width,height,result,path_or_reason,content_checked\r\n");
     for (const ReportedItem& item : items) {
         const SaveOutcome& o = item.outcome;
         const QStringList fields{quoted(item.name),
@@ -213,7 +216,8 @@ void csvTo(const Pieces& add, const ReportHead& head, const std::vector<Reported
                                  QString::number(o.width),
                                  QString::number(o.height),
                                  resultText(o),
-                                 quoted(o.saved ? relativePath(folder, o.path) : reasonText(o))};
+                                 quoted(o.saved ? relativePath(folder, o.path) : reasonText(o)),
+                                 o.checked ? QStringLiteral("yes") : QStringLiteral("no")};
         add(fields.join(u',').toUtf8() + "\r\n");
     }
 }

@@ -26,7 +26,7 @@ void SaveTally::add(const QString& name, const SaveOutcome& outcome) {
     withUnreadableSectors += outcome.sectorsUnreadable != 0 ? 1 : 0;
     switch (outcome.verdict) {
         case Verdict::Complete:
-            ++complete;
+            ++(outcome.checked ? complete : unchecked);
             break;
         case Verdict::CutOff:
             ++cutOff;
@@ -41,14 +41,16 @@ void SaveTally::add(const QString& name, const SaveOutcome& outcome) {
 }
 
 QStringList SaveTally::bySoundness() const {
-    const std::pair<std::uint64_t, Verdict> counts[] = {{complete, Verdict::Complete},
-                                                        {cutOff, Verdict::CutOff},
-                                                        {damaged, Verdict::Damaged},
-                                                        {unknownLength, Verdict::Unknown}};
+    const std::pair<std::uint64_t, QString> counts[] = {
+        {complete, soundnessWords(Verdict::Complete, true)},
+        {unchecked, QObject::tr("ending where they say (content not checked)")},
+        {cutOff, soundnessWords(Verdict::CutOff, false)},
+        {damaged, soundnessWords(Verdict::Damaged, false)},
+        {unknownLength, soundnessWords(Verdict::Unknown, false)}};
     QStringList kinds;
-    for (const auto& [count, verdict] : counts) {
+    for (const auto& [count, words] : counts) {
         if (count != 0) {
-            kinds.append(QStringLiteral("%1 %2").arg(numberForPeople(count), soundnessWords(verdict)));
+            kinds.append(QStringLiteral("%1 %2").arg(numberForPeople(count), words));
         }
     }
     return kinds;

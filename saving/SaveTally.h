@@ -15,7 +15,8 @@ struct SaveTally {
     // Files that were written, by their soundness.
     std::uint64_t saved = 0;
     std::uint64_t bytes = 0;
-    std::uint64_t complete = 0;
+    std::uint64_t complete = 0;   // their content checked
+    std::uint64_t unchecked = 0;  // complete by their lengths only
     std::uint64_t cutOff = 0;
     std::uint64_t damaged = 0;
     std::uint64_t unknownLength = 0;

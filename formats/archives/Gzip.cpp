@@ -62,6 +62,7 @@ extern constexpr Format kGzip = {
     .walk = walkGzip,
     .extensions = " GZ TGZ SVGZ EMZ BAM ",
     .large = true,
+    .checksContent = true,
 };
 
 }  // namespace vantor

@@ -62,6 +62,7 @@ class ZipWalk {
     std::uint64_t m_at = 0;
     std::uint64_t m_entries = 0;
     std::uint64_t m_proved = 0;
+    bool m_allProved = true;
     std::uint64_t m_firstSpoilt = 0;  // behind the first entry whose content is bad; 0 = none
 };
 
@@ -105,15 +106,19 @@ std::optional<LocalEntry> ZipWalk::readLocal() {
 
 // Unpacks a content of known length; a bad one is remembered, the walk goes on by the lengths.
 void ZipWalk::prove(const LocalEntry& entry) {
-    if (entry.encrypted() || entry.unpacked > kMostProved || m_proved > kMostProvedInAll)
+    const bool packed = entry.method == 8, stored = entry.method == 0 && !entry.sizesFollow();
+    if (entry.encrypted() || entry.unpacked > kMostProved || entry.packed > kMostProved ||
+        m_proved > kMostProvedInAll || (!packed && !stored)) {
+        m_allProved = m_allProved && entry.packed == 0;
         return;
+    }
     bool good = true;
-    if (entry.method == 8) {
+    if (packed) {
         const auto result = inflate(m_view, entry.data, entry.unpacked);
         m_proved += result.produced;
         good = result.outcome == InflateOutcome::Done && result.end == entry.data + entry.packed &&
                (entry.sizesFollow() || result.crc == entry.crc);
-    } else if (entry.method == 0 && !entry.sizesFollow() && entry.packed <= kMostProved) {
+    } else {
         m_proved += entry.packed;
         good = crc32(m_view, entry.data, entry.data + entry.packed, good) == entry.crc;
     }
@@ -138,6 +143,7 @@ bool ZipWalk::skipDescriptor(const LocalEntry& entry) {
 // Stored data of unknown length: the descriptor that tells just the length so far.
 ZipWalk::Step ZipWalk::searchDescriptor(const LocalEntry& entry) {
     const auto limit = std::min(m_view.size(), entry.data + kMostStoredScan);
+    m_allProved = false;
     auto sign = m_view.find('P', entry.data, limit);
     for (; sign.found(); sign = m_view.find('P', sign.at + 1, limit)) {
         if (m_view.le32(sign.at) != kDescriptor ||
@@ -224,8 +230,8 @@ Extent ZipWalk::directory() {
                         records >= m_entries;
     Extent extent = completeAt(m_view, in.at() + comment);
     if (extent.verdict == Verdict::Complete && (!agrees || m_firstSpoilt != 0))
-        extent.verdict = Verdict::Damaged;  // all bytes are there to save; some are not what they were
-    return extent;
+        return spoiltUpTo(m_view, extent.end);  // all bytes are there to save; some are not what they were
+    return m_allProved ? withContent(extent) : extent;
 }
 
 Extent ZipWalk::stop(Step step) {

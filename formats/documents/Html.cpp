@@ -19,7 +19,7 @@ Extent walkHtml(ByteView& view) {
     const auto end = textEnd(view, at);
     for (auto tag = view.find('<', at, end); tag.found(); tag = view.find('<', tag.at + 1, end)) {
         if (matchesAnyCase(view, tag.at, kClose))
-            return completeAt(view, behindLineEnd(view, tag.at + kClose.size()));
+            return completeAt(view, behindBlanks(view, tag.at + kClose.size()));
     }
     return inexact(end == view.size() ? cutOffAt(view, end) : completeAt(view, end));
 }

@@ -55,6 +55,7 @@ extern constexpr Format kRtf = {
     .group = Group::Documents,
     .walk = walkRtf,
     .extensions = " RTF ",
+    .checksContent = true,
 };
 
 }  // namespace vantor

@@ -1,10 +1,83 @@
 // Plain text: anything until the first byte that is none.
 #include "formats/documents/Text.h"
 
+#include <algorithm>
+#include <array>
+#include <optional>
+
 #include "formats/Format.h"
 #include "formats/TextReader.h"
 
 namespace vantor {
+
+namespace {
+
+// How far back the last whole line is looked for, and how much of the text before it tells its encoding.
+constexpr std::uint64_t kLastLine = 64;
+constexpr std::uint64_t kTold = 1024;
+// Foreign bytes seldom begin with more letters than that.
+constexpr std::uint64_t kFewLetters = 3;
+
+// Where UTF-8 ends in [from, to), or else `to`; a letter that began before `from` is passed over.
+std::uint64_t endOfUtf8(ByteView& view, std::uint64_t from, std::uint64_t to) {
+    const auto isRest = [&](std::uint64_t at) { return at < to && (view.u8(at).value_or(0) & 0xC0) == 0x80; };
+    while (from < to && isRest(from))
+        ++from;
+    for (std::uint64_t at = from; at < to;) {
+        const auto lead = view.u8(at).value_or(0xFF);
+        const int rest = lead < 0x80                   ? 0
+                         : lead >= 0xC2 && lead < 0xE0 ? 1
+                         : lead >= 0xE0 && lead < 0xF0 ? 2
+                         : lead >= 0xF0 && lead < 0xF5 ? 3
+                                                       : -1;
+        for (int i = 1; i <= rest; ++i) {
+            if (!isRest(at + static_cast<std::uint64_t>(i)))
+                return at;
+        }
+        if (rest < 0)
+            return at;
+        at += 1 + static_cast<std::uint64_t>(rest);
+    }
+    return to;
+}
+
+// Where a text ends that runs into foreign bytes at `end`: they may begin with some that pass for letters.
+std::uint64_t withoutForeignLetters(ByteView& view, std::uint64_t end) {
+    const auto least = end - std::min(end, kLastLine);
+    std::uint64_t line = end;
+    while (line > least && view.u8(line - 1) != '\n' && view.u8(line - 1) != '\r')
+        --line;
+    if (line == least)
+        return end;
+    const auto told = line - std::min(line, kTold);
+    const auto letters = endOfUtf8(view, told, line) == line ? endOfUtf8(view, line, end) : end;
+    return letters - line <= kFewLetters ? line : letters;
+}
+
+// Texts that say where they end: by a last line behind which nothing comes.
+std::optional<std::uint64_t> behindLastLine(ByteView& view, std::uint64_t end) {
+    struct Marked {
+        std::string_view first, last;
+    };
+    static constexpr std::array<Marked, 4> kMarked = {Marked{"ISO-10303-21;", "END-ISO-10303-21;"},
+                                                      Marked{"  0\r\nSECTION", "EOF"},
+                                                      Marked{"  0\nSECTION", "EOF"}, Marked{"999", "EOF"}};
+    for (const auto& [first, last] : kMarked) {
+        if (!view.matches(0, first))
+            continue;
+        auto sign = view.find(static_cast<std::uint8_t>(last[0]), first.size(), end);
+        for (; sign.found(); sign = view.find(static_cast<std::uint8_t>(last[0]), sign.at + 1, end)) {
+            const auto before = view.u8(sign.at - 1), behind = view.u8(sign.at + last.size());
+            const bool line = before == '\n' || before == '\r';
+            if (line && view.matches(sign.at, last) &&
+                (last.back() == ';' || behind == '\n' || behind == '\r'))
+                return behindLineEnd(view, sign.at + last.size());
+        }
+    }
+    return std::nullopt;
+}
+
+}  // namespace
 
 Extent walkText(ByteView& view) {
     constexpr std::uint64_t kLeast = 4;
@@ -19,7 +92,11 @@ Extent walkText(ByteView& view) {
         }
         return at >= kLeast ? inexact(completeAt(view, at)) : unknownExtent();
     }
-    const auto end = textEnd(view, 0);
+    auto end = textEnd(view, 0);
+    if (const auto marked = behindLastLine(view, end))
+        return inexact(completeAt(view, *marked));
+    if (view.u8(end).value_or(0) != 0)
+        end = withoutForeignLetters(view, end);
     return end >= kLeast ? inexact(completeAt(view, end)) : unknownExtent();
 }
 
@@ -32,7 +109,7 @@ extern constexpr Format kText = {
         "PLS NFO PHP PL JAVA TSV YAML YML AFM CCD CUBE CUE DIFF GCODE GPL IMY IPYNB LDIF OBJ OFX "
         "ORG PEM PGN PO QIF RIS SGF URL USDA VTT ASC ASPX BAS BIB CIF DESKTOP ENW FASTA FRM GBR "
         "GFF HQX IGS INF JDX JSP LRC LWS LY MIF MOL2 MSF NB NMEA PBXPROJ PCB PFA PPD PPK RB REG "
-        "RPP SFD SHAR SLK SLN SMI STEP UU VBP VNT WRL X_T ",
+        "RPP SFD SHAR SLK SLN SMI STEP STP IFC UU VBP VNT WRL X_T ",
     .strongMagic = false,
     .frameStream = true,
 };

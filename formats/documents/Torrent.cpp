@@ -52,6 +52,7 @@ extern constexpr Format kTorrent = {
     .walk = walkTorrent,
     .extensions = " TORRENT ",
     .strongMagic = false,
+    .checksContent = true,
 };
 
 }  // namespace vantor

@@ -112,7 +112,7 @@ Extent XmlWalk::behindRoot() {
     constexpr std::uint64_t kMostBlanks = 8192;  // writers leave room for growth
     for (;;) {
         const auto end = m_in.at();
-        const auto whole = [&] { return completeAt(m_view, behindLineEnd(m_view, end)); };
+        const auto whole = [&] { return completeAt(m_view, behindBlanks(m_view, end)); };
         while (m_in.at() - end < kMostBlanks && isTextSpace(m_view.u8(m_in.at()).value_or(0)))
             m_in.skip(1);
         const bool instruction = follows("<?") && !follows("<?xml");
@@ -177,6 +177,7 @@ extern constexpr Format kXml = {
         "DRAWIO ENEX FCPXML FDX FODT GML GRAPHML JMX KDENLIVE MM MPD MUSICXML MZML NZB OPML OSM "
         "QGS QRC SBML TCX TTML UI X3D XLF XSPF ASX AUP BRD JNLP ",
     .strongMagic = false,
+    .checksContent = true,
 };
 
 }  // namespace vantor

@@ -21,11 +21,13 @@ constexpr std::array<std::string_view, 4> kIndexes = {
     std::string_view("\xD0\x3F\xB7\x3C\x4A\x0C\x03\x48\x95\x3D\xED\xF7\xB6\x22\x8F\x0C", 16)};
 
 constexpr std::uint64_t kObjectHead = 24;  // identifier and size
+constexpr std::uint64_t kDataHead = 50;    // of the data object
 constexpr int kMostObjects = 512;
 
 struct Properties {
     std::uint64_t fileBytes = 0;
-    bool broadcast = false;  // sizes were not filled in
+    std::uint64_t packetBytes = 0;  // of every packet; 0 = they differ
+    bool broadcast = false;         // sizes were not filled in
 };
 
 Properties readHeader(ByteView& view, std::uint64_t end, Facts& facts) {
@@ -39,6 +41,8 @@ Properties readHeader(ByteView& view, std::uint64_t end, Facts& facts) {
             Cursor in(view, at + 40, Endian::Little);
             properties.fileBytes = in.u64();
             facts.taken = dateFromTicksSince1601(in.u64());
+            const auto least = view.le32(at + 92), most = view.le32(at + 96);
+            properties.packetBytes = least == most ? least.value_or(0) : 0;
             properties.broadcast = (view.le32(at + 88).value_or(0) & 1) != 0;
         } else if (view.matches(at, kStream) && view.matches(at + kObjectHead, kVideo)) {
             facts.width = view.le32(at + 78).value_or(0);
@@ -55,6 +59,30 @@ bool isIndex(ByteView& view, std::uint64_t at) {
             return true;
     }
     return false;
+}
+
+// Whether packets stand where they should, all beginning as the first does: at up to so many places, spread
+// evenly. Nothing where that cannot be told. `firstBad` is where the first stretch without a packet may
+// begin.
+std::optional<bool> arePackets(ByteView& view, const Properties& properties, std::uint64_t from,
+                               std::uint64_t to, std::uint64_t& firstBad) {
+    constexpr std::uint64_t kPlaces = 256, kFewPackets = 4;
+    const auto count = properties.packetBytes == 0 ? 0 : (to - std::min(from, to)) / properties.packetBytes;
+    const auto first = view.number(from, 3, Endian::Big);
+    // Error correction of two bytes that are zero leads every packet that writers make.
+    if (count < kFewPackets || first != 0x820000U)
+        return std::nullopt;
+    const auto places = std::min(count, kPlaces);
+    std::uint64_t good = from;
+    for (std::uint64_t place = 0; place < places; ++place) {
+        const auto at = from + place * count / places * properties.packetBytes;
+        if (view.number(at, 3, Endian::Big) != first) {
+            firstBad = good;
+            return false;
+        }
+        good = at + properties.packetBytes;
+    }
+    return true;
 }
 
 Extent walkAsf(ByteView& view) {
@@ -75,7 +103,14 @@ Extent walkAsf(ByteView& view) {
         extent.facts = facts;
         return extent;
     }
+    const auto packets = addClamped(at, kDataHead);
     at = addClamped(at, dataBytes);
+    std::uint64_t firstBad = 0;
+    const auto sound = properties.broadcast
+                           ? std::nullopt
+                           : arePackets(view, properties, packets, std::min(at, view.size()), firstBad);
+    if (sound == false)
+        return damagedAt(view, firstBad, facts);
     for (int i = 0; i < kMostObjects && at < view.size(); ++i) {
         const auto bytes = view.le64(at + 16).value_or(0);
         const auto end = addClamped(at, bytes);
@@ -88,7 +123,8 @@ Extent walkAsf(ByteView& view) {
     // Without its index, of which the told length knows.
     if (!properties.broadcast && properties.fileBytes > view.size() && at <= view.size())
         return cutOffAt(view, view.size(), facts);
-    return completeAt(view, at, facts);
+    const Extent whole = completeAt(view, at, facts);
+    return sound == true ? withContent(whole) : whole;
 }
 
 }  // namespace

@@ -2,25 +2,30 @@
 // is none. Sources: ISO/IEC 14496-12, QuickTime File Format.
 #include <algorithm>
 #include <array>
+#include <vector>
 
 #include "formats/Among.h"
 #include "formats/Format.h"
 #include "formats/IsoBox.h"
+#include "formats/IsoSamples.h"
 
 namespace vantor {
 
 namespace {
 
-constexpr std::array<std::string_view, 27> kTopLevelNames = {
-    "ftyp", "moov", "mdat", "free", "skip", "wide", "pnot", "PICT", "uuid",
-    "moof", "mfra", "sidx", "ssix", "styp", "meta", "prft", "emsg", "pdin",
-    "udta", "junk", "meco", "imda", "idat", "thum", "mfro", "bloc", "prev"};
+constexpr std::array<std::string_view, 29> kTopLevelNames = {
+    "ftyp", "moov", "mdat", "free", "skip", "wide", "pnot", "PICT", "uuid", "moof",
+    "mfra", "sidx", "ssix", "styp", "meta", "prft", "emsg", "pdin", "udta", "junk",
+    "meco", "imda", "idat", "thum", "mfro", "bloc", "prev", "sefd", "mpvd"};  // trailers of phones: their
+                                                                              // notes, a movie behind a
+                                                                              // picture
 
 // Boxes that can stand first in a file of this family.
 constexpr std::array<std::string_view, 7> kFirstNames = {"ftyp", "moov", "mdat", "wide",
                                                          "free", "skip", "pnot"};
 
 constexpr std::uint32_t kMostBoxes = 1 << 20;
+constexpr std::size_t kMostData = 1024;  // media data boxes of a file whose content is checked
 
 bool isNameLike(std::string_view name) {
     return std::all_of(name.begin(), name.end(), [](char c) {
@@ -35,7 +40,7 @@ struct Seen {
     bool data = false;
     bool fragment = false;
     bool type = false;
-    std::uint64_t dataEnd = 0;  // how far a picture's items reach
+    std::uint64_t dataEnd = 0;  // how far a picture's items reach; 0 = nowhere outside their index
 
     bool whole(std::uint64_t end) const { return index && (data || !movieIndex) && end >= dataEnd; }
 };
@@ -45,6 +50,8 @@ struct IsoWalk {
     Seen seen;
     bool openEnded = false;  // the last box claims the rest of the medium
     bool cut = false;
+    std::optional<IsoBox> movie, pictures;
+    std::vector<DataPlace> data;
     Facts facts;
 };
 
@@ -62,6 +69,13 @@ IsoWalk walkBoxes(ByteView& view, std::uint64_t start, bool wantFacts) {
             return walk;
         if (name == "ftyp" && walk.at != start)
             return walk;  // the next file
+        // "To the end of the file": of a picture, its items tell where that is.
+        if (box->toEnd && name == "mdat" && walk.seen.dataEnd > box->body) {
+            walk.seen.data = true;
+            walk.cut = walk.seen.dataEnd > view.size();
+            walk.at = std::min(walk.seen.dataEnd, view.size());
+            return walk;
+        }
         if (box->toEnd) {
             walk.openEnded = name == "mdat" || walk.at == start;
             return walk;
@@ -73,6 +87,12 @@ IsoWalk walkBoxes(ByteView& view, std::uint64_t start, bool wantFacts) {
         walk.seen.fragment = walk.seen.fragment || name == "moof";
         if (wantFacts && (name == "moov" || name == "meta"))
             walk.seen.dataEnd = std::max(walk.seen.dataEnd, addIsoFacts(view, *box, walk.facts));
+        if (name == "moov")
+            walk.movie = box;
+        else if (name == "meta")
+            walk.pictures = box;
+        else if (name == "mdat" && walk.data.size() < kMostData)
+            walk.data.push_back({box->body, box->end});
         if (box->end > view.size()) {
             walk.cut = true;
             return walk;
@@ -80,6 +100,13 @@ IsoWalk walkBoxes(ByteView& view, std::uint64_t start, bool wantFacts) {
         walk.at = box->end;
     }
     return walk;
+}
+
+// Of the movie or of the pictures. A movie in fragments keeps its tables elsewhere.
+ContentCheck checkContent(ByteView& view, const IsoWalk& walk) {
+    if (walk.movie && !walk.seen.fragment && walk.data.size() < kMostData)
+        return checkSamples(view, *walk.movie, walk.data);
+    return walk.pictures && !walk.movie ? checkItems(view, *walk.pictures) : ContentCheck{};
 }
 
 Extent walkIsoMedia(ByteView& view) {
@@ -93,10 +120,20 @@ Extent walkIsoMedia(ByteView& view) {
         return walk.seen.type || walk.at != 0 ? cutOffAt(view, view.size(), walk.facts) : unknownExtent();
     if (walk.at == 0 || (!walk.seen.type && !walk.seen.index && !walk.seen.data))
         return unknownExtent();
-    if (!walk.seen.whole(walk.at))
-        return walk.at == view.size() ? cutOffAt(view, walk.at, walk.facts)
-                                      : damagedAt(view, walk.at, walk.facts);
-    return completeAt(view, walk.at, walk.facts);
+    if (!walk.seen.whole(walk.at)) {
+        if (walk.at == view.size())
+            return cutOffAt(view, walk.at, walk.facts);
+        // An index alone, as programs leave it behind. What took the place of a lost rest would begin at a
+        // sector's start.
+        return walk.seen.index && walk.seen.dataEnd == 0 && !isSectorStart(walk.at)
+                   ? spoiltUpTo(view, walk.at, walk.facts)
+                   : damagedAt(view, walk.at, walk.facts);
+    }
+    const ContentCheck check = checkContent(view, walk);
+    if (check.outcome == ContentCheck::Outcome::Broken)
+        return spoiltUpTo(view, walk.at, walk.facts);
+    const Extent extent = completeAt(view, walk.at, walk.facts);
+    return check.outcome == ContentCheck::Outcome::Sound ? withContent(extent) : extent;
 }
 
 }  // namespace

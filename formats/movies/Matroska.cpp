@@ -4,6 +4,7 @@
 #include <array>
 
 #include "formats/Among.h"
+#include "formats/Crc.h"
 #include "formats/Dates.h"
 #include "formats/Format.h"
 
@@ -26,6 +27,13 @@ constexpr std::array<std::uint32_t, 9> kInCluster = {0xE7, 0x5854, 0xA7, 0xAB, 0
 constexpr std::uint32_t kLeastLongId = 0x200000;  // three bytes and more
 constexpr int kMostStrangers = 16;
 constexpr int kMostFactElements = 512;
+
+// A file of up to so much is looked at block by block; in a longer one so many clusters, spread evenly, and
+// so many blocks of each. Sums are taken of elements up to the first size.
+constexpr std::uint64_t kSmallFile = 4 * 1024 * 1024;
+constexpr std::uint64_t kClustersLookedAt = 48;
+constexpr int kBlocksLookedAt = 16;
+constexpr int kMostBlocks = 1 << 16;
 
 struct Element {
     std::uint32_t id = 0;
@@ -94,10 +102,15 @@ class MatroskaWalk {
   private:
     Extent segment(const Element& segment);
     void openCluster();
+    void lookInto(const Element& element, std::uint64_t segmentBytes);
+    bool isRowOfBlocks(const Element& cluster, bool all);
 
     ByteView& m_view;
     std::uint64_t m_at = 0;
     bool m_sawCluster = false;
+    bool m_sound = true;  // whatever was looked into
+    std::uint64_t m_nextLook = 0;
+    std::uint64_t m_widest = 0;  // of the blocks
     Facts m_facts;
 };
 
@@ -110,6 +123,41 @@ void MatroskaWalk::openCluster() {
             return;
         m_at = element->end();
     }
+}
+
+// Whether a cluster's children fill it, or its first ones are such.
+bool MatroskaWalk::isRowOfBlocks(const Element& cluster, bool all) {
+    int strangers = 0;
+    std::uint64_t at = cluster.body;
+    for (int i = 0; i < (all ? kMostBlocks : kBlocksLookedAt) && at < cluster.end(); ++i) {
+        const auto element = readElement(m_view, at);
+        if (!element || element->unknownSize || element->end() > cluster.end())
+            return false;
+        if (!isAmong(kInCluster, element->id) && ++strangers > kMostStrangers)
+            return false;
+        m_widest = std::max(m_widest, element->bytes);
+        at = element->end();
+    }
+    return true;
+}
+
+// The sum that an element tells of itself in its first child, and the blocks of a cluster.
+void MatroskaWalk::lookInto(const Element& element, std::uint64_t segmentBytes) {
+    constexpr std::uint64_t kSumBytes = 4;
+    const bool all = segmentBytes <= kSmallFile;
+    if (!isAmong(kInSegment, element.id) || (!all && element.body < m_nextLook))
+        return;
+    if (element.id == kCluster) {
+        m_sound = m_sound && isRowOfBlocks(element, all);
+        m_nextLook = addClamped(element.body, segmentBytes / kClustersLookedAt);
+    }
+    const auto sum = readElement(m_view, element.body);
+    if (!sum || sum->id != kCrc || sum->bytes != kSumBytes || element.bytes > kSmallFile || !all ||
+        element.id == kVoid)
+        return;
+    bool readable = true;
+    const auto crc = crc32(m_view, sum->end(), element.end(), readable);
+    m_sound = m_sound && readable && m_view.le32(sum->body) == crc;
 }
 
 Extent MatroskaWalk::segment(const Element& segment) {
@@ -140,11 +188,18 @@ Extent MatroskaWalk::segment(const Element& segment) {
             break;
         if (element->end() > m_view.size())
             return cutOffAt(m_view, m_view.size(), m_facts);
+        lookInto(*element, limit - segment.body);
         m_at = element->end();
     }
     if (segment.unknownSize)
         return m_sawCluster ? inexact(completeAt(m_view, m_at, m_facts)) : damagedAt(m_view, m_at, m_facts);
-    return m_at == limit ? completeAt(m_view, m_at, m_facts) : damagedAt(m_view, m_at, m_facts);
+    if (m_at != limit)
+        return damagedAt(m_view, m_at, m_facts);
+    if (!m_sound)
+        return spoiltUpTo(m_view, m_at, m_facts);
+    const Extent whole = completeAt(m_view, m_at, m_facts);
+    // One block that is most of the file says little of it.
+    return m_sawCluster && m_widest <= segment.bytes / 4 ? withContent(whole) : whole;
 }
 
 Extent MatroskaWalk::walk() {

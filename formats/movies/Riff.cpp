@@ -13,6 +13,11 @@ namespace {
 
 constexpr std::uint64_t kHead = 12;  // outer name, size, form
 constexpr std::uint32_t kMostChunks = 1 << 16;
+// Of a movie's data up to so much is followed chunk by chunk; of more the first chunks, and so many of its
+// index, spread evenly.
+constexpr std::uint64_t kSmallMovie = 4 * 1024 * 1024;
+constexpr int kFirstChunks = 64;
+constexpr std::uint64_t kIndexEntries = 64;
 constexpr std::uint32_t kUnsetSize = 0xFFFFFFFF;
 
 bool isChunkName(std::string_view name) {
@@ -48,8 +53,12 @@ class RiffWalk {
   private:
     enum class Step { Done, Cut, Broken, Unbounded };
 
+    Extent ended() const;
+
     Step outer();
     Step inner(std::uint64_t told);
+    void movieData(const Chunk& list);
+    void index(const Chunk& index);
 
     ByteView& m_view;
     const Endian m_endian;
@@ -58,8 +67,59 @@ class RiffWalk {
     std::uint64_t m_wideOuter = 0;  // 64-bit sizes of an RF64 file
     std::uint64_t m_wideData = 0;
     bool m_sawPayload = false;
+    std::uint64_t m_movie = 0;  // where the list of a movie's data has its name
+    bool m_sound = true;        // so far as it was looked at
+    bool m_looked = false;
+    bool m_small = false;  // its data was followed to the end
     Facts m_facts;
 };
+
+// Whether the chunks of a movie's data fill their list, or its first ones are such.
+void RiffWalk::movieData(const Chunk& list) {
+    m_movie = m_movie == 0 ? list.body : m_movie;
+    const bool all = list.bytes <= kSmallMovie;
+    std::uint64_t widest = 0;
+    std::uint64_t at = list.body + 4;
+    for (int i = 0; (all || i < kFirstChunks) && addClamped(at, 8) <= list.end(); ++i) {
+        const auto chunk = readChunk(m_view, at, m_endian);
+        if (!chunk || chunk->end() > list.end()) {
+            m_sound = false;
+            return;
+        }
+        // Records group chunks that are to be read together.
+        const bool record = chunk->text() == "LIST" && m_view.matches(chunk->body, "rec ");
+        widest = std::max(widest, record ? 0 : chunk->bytes);
+        at = record ? chunk->body + 4 : std::min(addClamped(chunk->end(), chunk->bytes % 2), list.end());
+    }
+    // One chunk that is most of the movie says little of it.
+    m_small = all;
+    m_looked = all && widest <= list.bytes / 4;
+}
+
+// Whether the index of a movie points at its chunks, from the list's name on or from the file's first byte.
+void RiffWalk::index(const Chunk& index) {
+    constexpr std::uint64_t kEntry = 16;
+    const auto entries = index.bytes / kEntry;
+    const auto isThere = [&](std::uint64_t entry, std::uint64_t base) {
+        std::array<char, 4> name{};
+        const auto at = index.body + entry * kEntry;
+        const auto offset = m_view.le32(at + 8), bytes = m_view.le32(at + 12);
+        if (!offset || !bytes ||
+            !m_view.copy(at, {reinterpret_cast<std::uint8_t*>(name.data()), name.size()}))
+            return false;
+        const auto chunk = addClamped(base, *offset);
+        return m_view.matches(chunk, {name.data(), name.size()}) && m_view.le32(chunk + 4) == *bytes;
+    };
+    if (m_movie == 0 || entries == 0)
+        return;
+    const bool fromList = isThere(0, m_movie);
+    if (!fromList && !isThere(0, 0))
+        return;  // counted in another way
+    const auto picks = std::min(entries, kIndexEntries);
+    for (std::uint64_t pick = 0; pick < picks; ++pick)
+        m_sound = m_sound && isThere(pick * entries / picks, fromList ? m_movie : 0);
+    m_looked = m_looked || !m_small;
+}
 
 // The chunks of one outer chunk that should end at `told`; m_at moves behind the last.
 RiffWalk::Step RiffWalk::inner(std::uint64_t told) {
@@ -86,6 +146,10 @@ RiffWalk::Step RiffWalk::inner(std::uint64_t told) {
         m_sawPayload = m_sawPayload || list || chunk->text() != "LIST";
         if (end > m_view.size())
             return Step::Cut;
+        if (list)
+            movieData(*chunk);
+        else if (chunk->text() == "idx1")
+            index(*chunk);
         const std::uint64_t padded = end + (end - chunk->body) % 2;
         // The padding byte behind the last odd chunk is often left out of the count, and then of the file.
         m_at = padded == told + 1 ? end : padded;
@@ -107,6 +171,16 @@ RiffWalk::Step RiffWalk::outer() {
     return inner(start + 8 + size);
 }
 
+// All chunks were passed.
+Extent RiffWalk::ended() const {
+    if (!m_sawPayload)
+        return damagedAt(m_view, m_at, m_facts);
+    const Extent whole = completeAt(m_view, m_at, m_facts);
+    if (whole.verdict == Verdict::Complete && !m_sound)
+        return spoiltUpTo(m_view, m_at, m_facts);
+    return m_looked ? withContent(whole) : whole;
+}
+
 Extent RiffWalk::walk() {
     Step step = outer();
     // An AVI beyond its first gigabyte goes on in further outer chunks.
@@ -118,7 +192,7 @@ Extent RiffWalk::walk() {
     }
     switch (step) {
         case Step::Done:
-            return m_sawPayload ? completeAt(m_view, m_at, m_facts) : damagedAt(m_view, m_at, m_facts);
+            return ended();
         case Step::Cut:
             return cutOffAt(m_view, m_view.exhausted() ? m_at : m_view.size(), m_facts);
         case Step::Broken:

@@ -85,6 +85,7 @@ extern constexpr Format kGif = {
     .group = Group::Pictures,
     .walk = walkGif,
     .extensions = " GIF ",
+    .checksContent = true,
 };
 
 }  // namespace vantor

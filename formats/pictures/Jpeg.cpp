@@ -5,6 +5,7 @@
 #include "formats/Format.h"
 #include "formats/IsoBox.h"
 #include "formats/TiffDirectory.h"
+#include "formats/pictures/JpegScan.h"
 
 namespace vantor {
 
@@ -37,6 +38,8 @@ class JpegWalk {
     Step scan();
     void application(std::uint8_t marker, std::uint64_t at, std::uint64_t length);
     Extent furtherPictures();
+    Extent picturesDirectlyBehind(Extent extent);
+    void judgeScan(std::uint64_t head, std::uint64_t from);
     std::optional<Extent> motionPhoto();
 
     ByteView& m_view;
@@ -47,6 +50,9 @@ class JpegWalk {
     bool m_sawFrame = false;
     bool m_sawScan = false;
     bool m_sawMotionNote = false;
+    JpegScan m_scan;
+    bool m_scansSound = true;   // so far as they could be judged
+    bool m_scansJudged = true;  // all of them
     Facts m_facts;
 };
 
@@ -116,6 +122,12 @@ JpegWalk::Step JpegWalk::segment() {
         m_facts.height = m_view.be16(body + 1).value_or(0);
         m_facts.width = m_view.be16(body + 3).value_or(0);
     }
+    if (isFrame(*marker))
+        m_scan.frame(m_view, *marker, body);
+    else if (*marker == 0xC4)
+        m_scan.huffmanTables(m_view, body, *length - 2U);
+    else if (*marker == 0xDD)
+        m_scan.restartInterval(m_view.be16(body).value_or(0));
     if (*marker >= 0xE0 && *marker <= 0xEF)
         application(*marker, body, *length - 2U);
     if (end > m_view.size())
@@ -126,7 +138,17 @@ JpegWalk::Step JpegWalk::segment() {
     if (!m_sawFrame)
         return Step::Broken;
     m_sawScan = true;
-    return scan();
+    const Step step = scan();
+    if (step == Step::Next)
+        judgeScan(body, end);
+    return step;
+}
+
+// The codes of a scan that ended at a marker, m_at.
+void JpegWalk::judgeScan(std::uint64_t head, std::uint64_t from) {
+    const auto outcome = m_scan.judge(m_view, head, from, m_at);
+    m_scansSound = m_scansSound && outcome != JpegScan::Outcome::Broken;
+    m_scansJudged = m_scansJudged && outcome != JpegScan::Outcome::NotJudged;
 }
 
 // From the first entropy-coded byte to the marker that ends the scan.
@@ -172,7 +194,7 @@ JpegWalk::Step JpegWalk::scan() {
 Extent JpegWalk::furtherPictures() {
     constexpr std::uint16_t kTagEntries = 0xB002;
     constexpr std::uint64_t kEntryBytes = 16;
-    Extent extent = completeAt(m_view, m_at, m_facts);
+    Extent extent = withContent(completeAt(m_view, m_at, m_facts));
     const auto header = readTiffHeader(m_view, m_multiPicture);
     if (!header)
         return extent;
@@ -192,6 +214,8 @@ Extent JpegWalk::furtherPictures() {
             const Extent further = JpegWalk(m_view, at).walkPicture();
             extent.verdict = further.verdict;
             extent.end = further.end;
+            extent.checked = extent.checked && further.checked;
+            extent.endFound = further.endFound;
             if (further.verdict != Verdict::Complete)
                 return extent;
         }
@@ -230,23 +254,52 @@ Extent JpegWalk::walkPicture() {
     Step step = Step::Next;
     while (step == Step::Next)
         step = segment();
-    if (step == Step::End)
-        return completeAt(m_view, m_at, m_facts);
+    if (step == Step::End && !m_scansSound)
+        return spoiltUpTo(m_view, m_at, m_facts);
+    if (step == Step::End) {
+        const Extent whole = completeAt(m_view, m_at, m_facts);
+        return m_scansJudged || m_suspect == 0 ? withContent(whole) : whole;
+    }
     if (m_suspect != 0)
         return damagedAt(m_view, m_suspect, m_facts);
     return step == Step::Cut ? cutOffAt(m_view, m_at, m_facts) : damagedAt(m_view, m_at, m_facts);
+}
+
+// Pictures that follow at once, as maps of brightness or depth do, belong to the file though no index lists
+// them. What begins at a sector's start is the next file.
+Extent JpegWalk::picturesDirectlyBehind(Extent extent) {
+    for (std::uint64_t i = 0; i < kMostPictures && extent.verdict == Verdict::Complete; ++i) {
+        if (isSectorStart(extent.end) || !m_view.matches(extent.end, "\xFF\xD8\xFF"))
+            break;
+        const Extent further = JpegWalk(m_view, extent.end).walkPicture();
+        if (further.verdict == Verdict::Unknown)
+            break;
+        extent.verdict = further.verdict;
+        extent.end = further.end;
+        extent.checked = extent.checked && further.checked;
+        extent.endFound = further.endFound;
+    }
+    return extent;
 }
 
 Extent JpegWalk::walkFile() {
     const Extent first = walkPicture();
     if (first.verdict != Verdict::Complete)
         return first;
+    Extent all = first;
     if (m_multiPicture != 0) {
-        const Extent all = furtherPictures();
-        if (all.end != first.end)
-            return all;
+        all = furtherPictures();
+        all.checked = all.checked && first.checked;
     }
-    return motionPhoto().value_or(first);
+    all = picturesDirectlyBehind(all);
+    if (all.verdict != Verdict::Complete)
+        return all;
+    m_at = all.end;
+    if (auto motion = motionPhoto()) {
+        motion->checked = all.checked;
+        return *motion;
+    }
+    return all;
 }
 
 Extent walkJpeg(ByteView& view) {

@@ -71,7 +71,7 @@ Extent walkPng(ByteView& view) {
         sawData = sawData || name == chunkName("IDAT") || name == chunkName("JDAT") || mng;
         at = end;
         if (name == last)
-            return sound && sawData ? completeAt(view, at, facts) : damagedAt(view, at, facts);
+            return sound && sawData ? completeAt(view, at, facts) : spoiltUpTo(view, at, facts);
     }
 }
 
@@ -82,6 +82,7 @@ extern constexpr Format kPng = {
     .group = Group::Pictures,
     .walk = walkPng,
     .extensions = " PNG APNG MNG JNG ",
+    .checksContent = true,
 };
 
 }  // namespace vantor

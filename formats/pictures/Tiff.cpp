@@ -83,7 +83,8 @@ class TiffWalk {
     std::size_t m_known = 0;
     std::uint64_t m_end = 0;
     bool m_broken = false;
-    bool m_padded = false;  // to four bytes, as the writer of Photoshop's own tag does
+    bool m_padsPieces = false;  // to even lengths, the last one as those before it
+    bool m_padded = false;      // to four bytes, as the writer of Photoshop's own tag does
     Facts m_facts;
 };
 
@@ -204,6 +205,7 @@ void TiffWalk::pieces(const Pieces& pieces, const Found& found) {
     std::array<std::uint64_t, kRun> offsets{};
     const auto count = std::min(pieces.offsets->count, kMostPieces);
     const std::uint64_t lengths = pieces.bytes ? pieces.bytes->count : 0;
+    std::uint64_t before = 0;  // where the last piece ended
     for (std::uint64_t first = 0; first < count; first += kRun) {
         const auto run = std::min(kRun, count - first);
         for (std::uint64_t i = 0; i < run; ++i) {
@@ -221,8 +223,12 @@ void TiffWalk::pieces(const Pieces& pieces, const Found& found) {
                 bytes =
                     mulClamped(mulClamped(found.width, found.height), mulClamped(found.bits, found.samples)) /
                     8;
-            if (bytes != 0 && offsets[i] != kNoOffset)
-                reach(addClamped(addClamped(m_header.base, offsets[i]), bytes));
+            if (bytes == 0 || offsets[i] == kNoOffset)
+                continue;
+            const auto end = addClamped(offsets[i], bytes);
+            m_padsPieces = m_padsPieces || (before % 2 != 0 && offsets[i] == before + 1);
+            before = end;
+            reach(addClamped(m_header.base, end));
         }
     }
 }
@@ -292,6 +298,8 @@ Extent TiffWalk::walk() {
     }
     if (repeatsItsLastBytes())
         m_end += kRepeated;
+    else if (m_padsPieces && m_end % 2 != 0 && m_view.u8(m_end) == 0)
+        ++m_end;
     return inexact(completeAt(m_view, m_end, m_facts));
 }
 

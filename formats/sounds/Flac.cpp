@@ -257,6 +257,7 @@ extern constexpr Format kFlac = {
     .walk = walkFlac,
     .extensions = " FLAC FLA ",
     .large = true,
+    .checksContent = true,
 };
 
 }  // namespace vantor

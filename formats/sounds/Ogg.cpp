@@ -112,6 +112,7 @@ extern constexpr Format kOgg = {
     .walk = walkOgg,
     .extensions = " OGG OGA OGV OGX OPUS SPX OGM ",
     .large = true,
+    .checksContent = true,
 };
 
 }  // namespace vantor

@@ -34,8 +34,10 @@ void walkAs(const Format& format, std::span<const std::uint8_t> data) {
     constexpr std::uint64_t kAllowance = 32 * 1024 * 1024;
     CountingSource source(data);
     ByteView view(source);
-    const Extent extent = format.walk(view);
+    const Extent extent = walkAs(format, view);
     const bool bounded = extent.end <= data.size() && source.bytesRead() <= 3 * data.size() + kAllowance;
+    if (extent.checked && (extent.verdict != Verdict::Complete || !extent.exactEnd))
+        std::abort();
     if (!bounded || (extent.verdict == Verdict::Unknown && extent.end != 0))
         std::abort();
 }

@@ -62,6 +62,21 @@ Bytes noise(std::size_t count, std::uint32_t seed) {
     return bytes;
 }
 
+Bytes withPart(Bytes file, std::size_t from, const Bytes& foreign) {
+    std::copy(foreign.begin(), foreign.end(), file.begin() + static_cast<std::ptrdiff_t>(from));
+    return file;
+}
+
+std::vector<SpoiltPart> spoiltParts(const Bytes& file) {
+    const std::size_t half = file.size() / 2, third = file.size() / 3;
+    std::vector<SpoiltPart> parts{{half, file.size(), noise(file.size() - half, 11)},
+                                  {third, 2 * third, noise(third, 13)},
+                                  {third, 2 * third, Bytes(third, 0)}};
+    std::erase_if(parts,
+                  [&](const SpoiltPart& part) { return withPart(file, part.from, part.foreign) == file; });
+    return parts;
+}
+
 std::size_t JoinedSource::read(std::uint64_t offset, std::span<std::uint8_t> into) {
     ++m_reads;
     std::size_t done = 0;

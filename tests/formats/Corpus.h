@@ -33,6 +33,15 @@ Bytes readFile(const std::filesystem::path& path);
 // `count` bytes of seeded noise, the same on every machine.
 Bytes noise(std::size_t count, std::uint32_t seed);
 
+// A large part of a file with what may have taken its place.
+struct SpoiltPart {
+    std::size_t from, to;
+    Bytes foreign;
+};
+// The second half as noise, the middle third as noise and as zeros; without those that are so already.
+std::vector<SpoiltPart> spoiltParts(const Bytes& file);
+Bytes withPart(Bytes file, std::size_t from, const Bytes& foreign);
+
 // Two borrowed stretches of bytes one after the other, counting the reading.
 class JoinedSource final : public ByteSource {
   public:

@@ -43,19 +43,23 @@ class CorpusTest : public testing::Test {
                 m_files.push_back(file);
         }
         ASSERT_GT(m_files.size(), 200U);
+        m_photo = readFile(m_folder / "photos/jpg/digicam_corpus__HP__C200__DSC00002.JPG");
+        ASSERT_FALSE(m_photo.empty());
     }
 
     // What may follow a file on a medium.
     std::vector<Bytes> tailsFor(const Bytes& file) const {
-        Bytes again((kSector - file.size() % kSector) % kSector,
-                    0);  // the sector's rest, then a file like it
+        // The sector's rest, then a file like it, or a photo.
+        const Bytes rest((kSector - file.size() % kSector) % kSector, 0);
+        Bytes again = rest, photo = rest;
         again.insert(again.end(), file.begin(), file.end());
-        return {noise(200'000, 7), Bytes(200'000, 0),
-                readFile(m_folder / "photos/jpg/digicam_corpus__HP_C200__DSC00002.JPG"), again, Bytes()};
+        photo.insert(photo.end(), m_photo.begin(), m_photo.end());
+        return {noise(200'000, 7), Bytes(200'000, 0), photo, again, Bytes()};
     }
 
     std::filesystem::path m_folder;
     std::vector<CorpusFile> m_files;
+    Bytes m_photo;
 };
 
 Extent walkBefore(const CorpusFile& file, const Bytes& bytes, const Bytes& tail) {
@@ -170,6 +174,25 @@ TEST_F(CorpusTest, CutFiles_AreNeverSaidToBeWhole) {
         }
     }
     printTable(tallies);
+}
+
+TEST_F(CorpusTest, SpoiltFiles_AreNeverSaidToBeChecked) {
+    int files = 0, checked = 0, spoilt = 0, damaged = 0;
+    for (const auto& file : m_files) {
+        const Bytes bytes = readFile(m_folder / file.path);
+        ++files;
+        checked += walkBefore(file, bytes, {}).checked ? 1 : 0;
+        for (const auto& [from, to, foreign] : spoiltParts(bytes)) {
+            SCOPED_TRACE(file.path + " from " + std::to_string(from) + " to " + std::to_string(to));
+            const Extent extent = walkBefore(file, withPart(bytes, from, foreign), {});
+            EXPECT_FALSE(extent.checked && extent.end > from);
+            ++spoilt;
+            damaged += extent.verdict == Verdict::Complete ? 0 : 1;
+        }
+    }
+    std::printf("%d files, %d checked; %d spoilt ones, %d seen to be broken\n", files, checked, spoilt,
+                damaged);
+    EXPECT_GT(checked, 80);
 }
 
 }  // namespace

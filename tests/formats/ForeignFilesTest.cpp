@@ -67,6 +67,26 @@ TEST(ForeignFiles, CutOnes_AreNeverSurelyWhole) {
     }
 }
 
+// Files of which a large part is another's are said to be broken, or to end where they say at best.
+TEST(ForeignFiles, SpoiltOnes_AreNeverSaidToBeChecked) {
+    constexpr std::size_t kLeast = 128;
+    std::set<std::string_view> checked;
+    for (const auto& name : listedFiles()) {
+        SCOPED_TRACE(name);
+        const Bytes file = readFile(foreignFolder() / name);
+        const std::string type = typeByName(name);
+        if (file.size() < kLeast)
+            continue;
+        if (walkBytes(type, file).checked)
+            checked.insert(formatFor(type)->name);
+        for (const auto& [from, to, foreign] : spoiltParts(file)) {
+            const Extent extent = walkBytes(type, withPart(file, from, foreign));
+            EXPECT_FALSE(extent.checked && extent.end > from) << from << " to " << to;
+        }
+    }
+    EXPECT_GT(checked.size(), 10U);
+}
+
 TEST(ForeignFiles, TableAndFolder_NameTheSame) {
     std::set<std::string> present;
     for (const auto& entry : std::filesystem::directory_iterator(foreignFolder()))

@@ -75,6 +75,8 @@ TEST_F(BrowserOrder, SortedBySoundnessSizeAndDate_UnknownLast) {
     items[3].soundness->taken = CivilTime{2025, 12, 31, 23, 59, 59, true};
     EXPECT_EQ(order(ShowItems::All, SortItems::DateTaken), (QList<int>{3, 0, 4, 1, 5, 2}));
     EXPECT_EQ(order(ShowItems::Complete, SortItems::Size), (QList<int>{4, 1}));
+    items[4].soundness->checked = true;
+    EXPECT_EQ(order(ShowItems::All, SortItems::Soundness), (QList<int>{4, 1, 0, 3, 5, 2}));
 }
 
 TEST(BrowserWish, KnowsWhatItTakes) {

@@ -163,10 +163,31 @@ TEST_F(SoundnessBoardTest, TheEnd_DoesNotWaitForAnItem) {
 }
 
 TEST(Soundness, IsSaidInWords) {
-    const Soundness photo{Verdict::Complete, false, false, 4'200'000, 4000, 3000, CivilTime{2026, 5, 17}};
+    Soundness photo{Verdict::Complete, false, false, 4'200'000, 4000, 3000, CivilTime{2026, 5, 17}, true};
     EXPECT_EQ(describe(photo), QStringLiteral("complete, 4.2 MB, 4000 × 3000 pixels, taken 2026-05-17"));
+    photo.checked = false;
+    EXPECT_EQ(describe(photo),
+              QStringLiteral("ends where it says, content not checked, 4.2 MB, 4000 × 3000 pixels, "
+                             "taken 2026-05-17"));
+    EXPECT_EQ(soundnessText(photo.verdict), QStringLiteral("complete"));
     const Soundness torn{Verdict::CutOff, true, false, 1000, 0, 0, {}};
     EXPECT_EQ(describe(torn), QStringLiteral("cut off, not all of its sectors could be read, 1.0 kB"));
+}
+
+TEST(Soundness, OnlyWhatWasLookedInto_IsChecked) {
+    const auto found = [](const char* type, const QByteArray& file) {
+        ScriptedMedium medium = mediumWith(file, 0, 60);
+        ScriptedReader reader(medium);
+        ReadWatch watch;
+        std::vector<std::uint8_t> kept;
+        return examine(QString::fromLatin1(type), {{{0, 40}}, false}, reader, watch, kept).value();
+    };
+    const Soundness sound = found("WAV", wavFile(kWavBytes));
+    EXPECT_EQ(sound.verdict, Verdict::Complete);
+    EXPECT_FALSE(sound.checked);
+    const Soundness page = found("XML", "<page>" + QByteArray(5000, 'x') + "</page>\n");
+    EXPECT_EQ(page.verdict, Verdict::Complete);
+    EXPECT_TRUE(page.checked);
 }
 
 TEST(Soundness, NothingIsKnownWhenTheWatchEnds) {

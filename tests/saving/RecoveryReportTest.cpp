@@ -25,6 +25,7 @@ class RecoveryReport : public testing::Test {
         saved.outcome.path = folder.filePath("JPG/a b:100%.JPG");
         saved.outcome.bytes = 18432;
         saved.outcome.verdict = Verdict::Complete;
+        saved.outcome.checked = contentChecked;
         saved.outcome.taken = CivilTime{2026, 5, 17, 14, 3, 22, true};
         saved.outcome.width = 64;
         saved.outcome.height = 48;
@@ -38,6 +39,7 @@ class RecoveryReport : public testing::Test {
     }
     QByteArray table() const { return contentsOf(writeReport(folder.path(), head(), items()).csv); }
 
+    bool contentChecked = true;
     const QTemporaryDir folder;
 };
 
@@ -49,8 +51,17 @@ TEST_F(RecoveryReport, TableForMachines) {
     EXPECT_TRUE(lines[0].startsWith("name,type,medium,first_sector,end_sector,bytes,sha256,soundness,"));
     EXPECT_EQ(lines[1], "\"a,\"\"b\"\".JPG\",\"JPG\",\"/dev/sdb <1> & \"\"more\"\"\",4,40,18432," +
                             QByteArray("ab").repeated(32) +
-                            ",complete,yes,0,2026-05-17 14:03:22 UTC,64,48,saved,\"JPG/a b:100%.JPG\"\r");
-    EXPECT_TRUE(lines[2].endsWith(",failed,\"No <room>\"\r"));
+                            ",complete,yes,0,2026-05-17 14:03:22 UTC,64,48,saved,\"JPG/a b:100%.JPG\",yes\r");
+    EXPECT_TRUE(lines[2].endsWith(",failed,\"No <room>\",no\r"));
+}
+
+TEST_F(RecoveryReport, FilesOfWhichOnlyLengthsWereFollowed_AreSaidToEndWhereTheySay) {
+    EXPECT_TRUE(page().contains("<span class=\"complete\">complete</span>"));
+    EXPECT_FALSE(page().contains("content not checked"));
+    contentChecked = false;
+    EXPECT_TRUE(page().contains("<span class=\"unchecked\">ends where it says, content not checked</span>"));
+    EXPECT_TRUE(table().split('\n')[1].endsWith(",no\r"));
+    EXPECT_TRUE(table().contains(",complete,yes,"));  // the words for machines stay
 }
 
 TEST_F(RecoveryReport, PageEscapesEverything) {

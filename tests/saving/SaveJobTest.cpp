@@ -50,7 +50,7 @@ TEST_F(SaveJobTest, CountsAndReportsAsTheCommandDoes) {
     EXPECT_TRUE(job.isFinished());
     EXPECT_TRUE(report.mediumOpened);
     EXPECT_EQ(report.tally.saved, 2U);
-    EXPECT_EQ(report.tally.complete, 1U);
+    EXPECT_EQ(report.tally.unchecked, 1U);
     EXPECT_EQ(report.tally.unknownLength, 1U);
     EXPECT_EQ(report.tally.duplicates, 1U);
     EXPECT_EQ(report.indexes, (std::vector<std::size_t>{4, 2, 9}));

@@ -20,6 +20,9 @@ TEST(SaveTally, SaysWhatBecameOfEach) {
     SaveTally tally;
     tally.add("a", savedAs(Verdict::Complete));
     tally.add("b", savedAs(Verdict::Complete));
+    SaveOutcome checked = savedAs(Verdict::Complete);
+    checked.checked = true;
+    tally.add("b2", checked);
     tally.add("c", savedAs(Verdict::CutOff));
     tally.add("d", savedAs(Verdict::Unknown));
     SaveOutcome outcome = savedAs(Verdict::Damaged);
@@ -35,7 +38,8 @@ TEST(SaveTally, SaysWhatBecameOfEach) {
     outcome.error = "No room";
     tally.add("h", outcome);
     EXPECT_EQ(tally.lines("/out"),
-              QStringList({"5 saved in /out (5.0 kB): 2 complete, 1 cut off, 1 damaged, 1 of unknown length",
+              QStringList({"6 saved in /out (6.0 kB): 1 complete, 2 ending where they say (content not "
+                           "checked), 1 cut off, 1 damaged, 1 of unknown length",
                            "1 of them have sectors that could not be read",
                            "1 not written again: the same bytes are saved already",
                            "1 left out: smaller than asked for"}));

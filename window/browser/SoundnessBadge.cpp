@@ -57,12 +57,13 @@ QPainterPath exclamationMark() {
     return path;
 }
 
-void paintSign(QPainter* painter, const QRectF& box, const QPainterPath& sign) {
+void paintSign(QPainter* painter, const QRectF& box, const QPainterPath& sign,
+               const QColor& colour = Qt::white) {
     painter->save();
     painter->translate(box.topLeft());
     painter->scale(box.width(), box.height());
     painter->setBrush(Qt::NoBrush);
-    painter->setPen(QPen(Qt::white, 0.12, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->setPen(QPen(colour, 0.12, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter->drawPath(sign);
     painter->restore();
 }
@@ -72,6 +73,14 @@ void paintDisc(QPainter* painter, const QRectF& box, const QColor& colour, const
     painter->setBrush(colour);
     painter->drawEllipse(box);
     paintSign(painter, box, sign);
+}
+
+// What is not known for certain: only the outline.
+void paintRing(QPainter* painter, const QRectF& box, const QColor& colour, const QPainterPath& sign) {
+    painter->setPen(QPen(colour, 1.5));
+    painter->setBrush(Qt::white);
+    painter->drawEllipse(box);
+    paintSign(painter, box, sign, colour);
 }
 
 void paintWarning(QPainter* painter, const QRectF& box) {
@@ -102,7 +111,11 @@ void paintBadges(QPainter* painter, const QRect& place, const ItemFacts& facts) 
     }
     switch (soundness->verdict) {
         case Verdict::Complete:
-            paintDisc(painter, corner, theme::kDone, checkMark());
+            if (soundness->checked) {
+                paintDisc(painter, corner, theme::kDone, checkMark());
+            } else {
+                paintRing(painter, corner, theme::kDone, checkMark());
+            }
             break;
         case Verdict::CutOff:
             paintDisc(painter, corner, kCutOffColor, brokenLine());
