@@ -55,6 +55,9 @@
 
 namespace vantor {
 
+class WholePreview;
+struct PreviewFileRequest;
+
 // Members with given names keep them letter for letter; a message `first:second:` is `first(a, second)`.
 // Where an outlet already bears the first word, as `imageBrowser` does, the words of the message are joined
 // instead.
@@ -284,6 +287,7 @@ class MyTableController : public QObject,
     void pressDefault();
     // window/Exit.cpp
     void deletePreviews();
+    void endWholePreviews();
     bool mayLeaveUnsaved(const QString& consequence, const QString& leave);
     // window/ScreenFlow.cpp
     ControlSet activeSet() const;
@@ -346,11 +350,19 @@ class MyTableController : public QObject,
     void filterResultRows();
     void showItemCounts();
     LookedAtItems lookedAtItems();
+    void selectionMoved(ImageBrowserView* browser);
+    void startDuePreview();
     // window/Preview.cpp
     void runBeside(const std::function<void()>& work);
     std::unique_ptr<Movie> openBeside(const MovieLoader& loader, const QString& file);
     void showPicture(const QPixmap& picture, const QString& title);
     void showPreviewFacts();
+    std::shared_ptr<WholePreview> wholePreviewOf(PreviewFileRequest& copy);
+    void takeWholePreview(std::shared_ptr<WholePreview> whole);
+    void fillWholePreview();
+    QString shownFileOf(const QString& file) const;
+    void showThatTheMediumIsGone();
+    void emptyPreviewPane();
     // window/Saving.cpp
     void saveItems(const QList<qsizetype>& indexes);
     SavingParts savingParts();
@@ -368,6 +380,7 @@ class MyTableController : public QObject,
     TableAdapter* m_resultTable = nullptr;
     QList<QCheckBox*> m_groupBoxes;  // by FileKind
     QString m_previewFolder;
+    QString m_wholeFolder;                           // of the previews of true length
     FileTypeIcons m_icons;                           // prepared before a scan, read by it
     QList<QMetaObject::Connection> m_notifications;  // gone after a refused exit
     int m_clickedColumn = -1;                        // of the last click in a table
@@ -382,6 +395,13 @@ class MyTableController : public QObject,
     std::atomic<bool> m_driverRunning{false};
     std::atomic<bool> m_timerRunning{false};
     std::atomic<bool> m_besideRunning{false};
+
+    // Set by every preview.
+    QTimer m_previewDue;                        // runs while a selection was not looked at yet
+    QString m_previewedName;                    // of the item that the preview file was copied from
+    std::shared_ptr<WholePreview> m_whole;      // of what is on preview
+    std::shared_ptr<WholePreview> m_nextWhole;  // of what is being copied
+    std::atomic<int> m_filling{0};              // threads that fill one
 
     // Set by every scan.
     ScanInputs m_inputs;

@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QScreen>
+#include <QStandardPaths>
 #include <QUrl>
 #include <atomic>
 #include <cstdlib>
@@ -44,6 +45,8 @@ ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTable
     parts.sound = [playing](const QString& file) { return SoundMovie::open(file, {}, playing); };
     parts.movie = [playing](const QString& file) { return openMovieOrSound(file, kLargestFrame, playing); };
     parts.resourcesFolder = resourcesFolder();
+    // On a disk: what is looked at may be as long as a movie.
+    parts.privateFolder = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
     parts.isOnMedium = [targets = parts.media->targets()](const QString& folder, const QString& devicePath) {
         const auto target = targets->find(devicePath.mid(QStringLiteral("/dev/r").size()));
         return target && destinationIsOnMedium(folder, target->path);

@@ -31,16 +31,22 @@ void removeIfDeletable(const QString& path) {
 }  // namespace
 
 bool makePreviewFile(const PreviewFileRequest& request, const std::atomic<int>& stop_now) {
-    const std::unique_ptr<SectorReader> medium = request.openMedium ? request.openMedium() : nullptr;
+    std::unique_ptr<SectorReader> medium = request.openMedium ? request.openMedium() : nullptr;
     if (!medium) {
         return false;
     }
     removeIfDeletable(request.previousFile);
     QFile file(request.newFile);
-    if (file.open(QIODevice::ReadWrite | QIODevice::Truncate)) {
-        copyPreviewSectors(*medium, request.start, request.end, stop_now, [&](const std::uint8_t* sector) {
-            return file.write(reinterpret_cast<const char*>(sector), kSectorBytes) == kSectorBytes;
-        });
+    if (!file.open(QIODevice::ReadWrite | QIODevice::Truncate)) {
+        return true;
+    }
+    const auto write = [&](const std::uint8_t* sector) {
+        return file.write(reinterpret_cast<const char*>(sector), kSectorBytes) == kSectorBytes;
+    };
+    const bool faithful = copyPreviewSectors(*medium, request.start, request.end, stop_now, write);
+    file.close();
+    if (request.behind && stop_now != 1) {
+        request.behind(std::move(medium), faithful);
     }
     return true;
 }
