@@ -146,9 +146,9 @@ QByteArray bmpClaiming(int side) {
 }
 
 // Within the limit, so that it is by their claims alone that the others fail.
-constexpr int kLargeSide = 16400;
+constexpr int kLargeSide = 14200;
 // Of these the first would still fit the memory that a helper may have.
-constexpr std::array kTooLargeSides{18000, 65000};
+constexpr std::array kTooLargeSides{15000, 65000};
 
 TEST(Hostile, HugeClaims_AreRefusedForTheirSize) {
     // With time to fill all that is claimed, so that it is not the deadline that refuses.
