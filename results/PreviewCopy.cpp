@@ -6,21 +6,21 @@ namespace vantor {
 bool copyPreviewSectors(SectorReader& medium, std::uint64_t start, std::uint64_t end,
                         const std::atomic<int>& stop_now,
                         const std::function<bool(const std::uint8_t* sector)>& write) {
-    bool allRead = true;
-    if (start != 0) {
-        medium.seek(start);
-    }
-    for (std::uint64_t sector = start; sector < end && stop_now != 1; ++sector) {
+    bool faithful = start == 0 || medium.seek(start);
+    for (std::uint64_t sector = start; sector < end; ++sector) {
+        if (stop_now == 1) {
+            return false;
+        }
         if (!medium.read()) {
+            faithful = false;
             // Where this fails too, the bytes at hand are written all the same.
             medium.seek(sector);
-            allRead = false;
         }
         if (!write(medium.current())) {
-            break;
+            return false;
         }
     }
-    return allRead;
+    return faithful;
 }
 
 }  // namespace vantor

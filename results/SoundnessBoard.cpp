@@ -66,8 +66,7 @@ void SoundnessBoard::wantAll(std::size_t count) {
 
 // With the first wish, not with the window; the lock is held.
 void SoundnessBoard::startThread() {
-    const bool wished = !m_inView.empty() || m_all > 0;
-    if (!m_thread.joinable() && m_open && wished && !m_ending) {
+    if (!m_thread.joinable() && isWished() && !m_ending) {
         m_running = true;
         m_thread = std::thread([this] {
             run();
@@ -83,6 +82,15 @@ void SoundnessBoard::setMediumBusy(bool busy) {
         m_busy = busy;
         m_wake.notify_all();
     }
+}
+
+void SoundnessBoard::rest(bool resting) {
+    const std::lock_guard lock(m_mutex);
+    m_resting = resting;
+    if (resting) {
+        m_watch.ended = true;
+    }
+    m_wake.notify_all();
 }
 
 void SoundnessBoard::note(std::size_t index, const Soundness& soundness) {
@@ -128,7 +136,7 @@ void SoundnessBoard::requestEnd() {
 
 // What is to be examined now; the lock is held.
 std::optional<std::size_t> SoundnessBoard::next() {
-    if (!m_open || m_gone) {
+    if (!m_open || m_gone || m_resting) {
         return std::nullopt;
     }
     for (const std::size_t index : m_inView) {
@@ -147,9 +155,16 @@ void SoundnessBoard::run() {
     std::unique_lock lock(m_mutex);
     for (;;) {
         std::optional<std::size_t> index;
-        m_wake.wait(lock, [&] { return m_ending || (index = next()).has_value(); });
+        const auto isLeft = [&] { return turn.medium && (turn.generation != m_generation || !isWished()); };
+        m_wake.wait(lock, [&] { return m_ending || isLeft() || (index = next()).has_value(); });
         if (m_ending) {
             return;
+        }
+        if (isLeft()) {
+            lock.unlock();
+            turn.medium.reset();
+            lock.lock();
+            continue;
         }
         if (turn.generation != m_generation) {
             turn = Turn{m_generation, {}, {}, 0, std::move(turn.kept)};
@@ -174,7 +189,8 @@ void SoundnessBoard::run() {
         const auto worked = std::chrono::steady_clock::now() - begun;
 
         lock.lock();
-        if (turn.generation != m_generation || m_ending) {
+        const bool givenUp = !found && m_watch.ended;
+        if (turn.generation != m_generation || m_ending || givenUp) {
             continue;
         }
         if (found) {

@@ -20,7 +20,8 @@ class MyImageObject;
 
 // Reads the medium on a thread and through a reader of its own, one item at a time, and only what was asked
 // for. While others work on the medium it takes a fifth of the time for what is in view, leaves alone items
-// in which a read failed, and does nothing else. When the medium goes it stops until it begins anew.
+// in which a read failed, and does nothing else. When the medium goes it stops until it begins anew. The
+// medium is closed when nothing is asked for any more.
 //
 // Items by their place in the list. Any thread may call anything.
 class SoundnessBoard {
@@ -42,6 +43,8 @@ class SoundnessBoard {
     // Behind those in view, the first `count` items of the list.
     void wantAll(std::size_t count);
     void setMediumBusy(bool busy);
+    // While somebody waits for the medium: the look under way is given up and nothing is read.
+    void rest(bool resting);
     // What another found out.
     void note(std::size_t index, const Soundness& soundness);
 
@@ -61,6 +64,7 @@ class SoundnessBoard {
     struct Turn;
 
     void startThread();
+    bool isWished() const { return m_open && (!m_inView.empty() || m_all > 0); }
     void run();
     std::optional<std::size_t> next();
     bool isKnown(std::size_t index) const { return index < m_known.size() && m_known[index]; }
@@ -78,6 +82,7 @@ class SoundnessBoard {
     std::vector<std::size_t> m_inView;
     std::size_t m_all = 0, m_cursor = 0;
     bool m_busy = false;
+    bool m_resting = false;
     bool m_gone = false;
     bool m_ending = false;
 

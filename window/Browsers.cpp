@@ -1,4 +1,6 @@
 // Data source and delegate of both browsers.
+#include <QApplication>
+
 #include "results/SizeForPeople.h"
 #include "saving/SaveSummary.h"
 #include "window/MyTableController.h"
@@ -10,6 +12,8 @@ namespace {
 QString numberOf(qsizetype count) {
     return numberForPeople(static_cast<std::uint64_t>(count));
 }
+// How often a preview that has to wait looks whether it still has to.
+constexpr int kDueMilliseconds = 20;
 
 }  // namespace
 
@@ -51,7 +55,7 @@ LookedAtItems MyTableController::lookedAtItems() {
     items.at = [this](std::size_t index) { return itemAt(index); };
     items.count = [this] { return itemCount(); };
     items.isSaved = [this](std::size_t index) { return m_desk->marks().isSaved(index); };
-    items.mediumBusy = [this] { return scanRunning() || m_desk->isRunning(); };
+    items.mediumBusy = [this] { return scanRunning() || m_desk->isRunning() || m_filling > 0; };
     items.policy = [this] { return m_desk->choices().policy; };
     return items;
 }
@@ -96,9 +100,31 @@ void MyTableController::imageBrowserSelectionDidChange(ImageBrowserView* view) {
     _QuickLook_View->clear();
     closemovie_Win();
     soundControls->setMovie(nullptr);
+    previewFacts->clear();
     CreateFile_QuickLook_View({item->valueForKey(QStringLiteral("path")),
                                item->valueForKey(QStringLiteral("File_Start_Sector")),
                                item->valueForKey(QStringLiteral("File_End_Sector"))});
+}
+
+void MyTableController::selectionMoved(ImageBrowserView* browser) {
+    showItemCounts();
+    if (browser == imageBrowser_2) {
+        m_previewDue.start(0);
+    }
+}
+
+// Not from within the click or the keys that move the selection, and not before they are over: the sheet
+// would swallow their end.
+void MyTableController::startDuePreview() {
+    if (m_ending || !imageBrowser_2->isVisible()) {
+        return;
+    }
+    if (session || QGuiApplication::mouseButtons() != Qt::NoButton ||
+        QApplication::activeModalWidget() != nullptr) {
+        m_previewDue.start(kDueMilliseconds);
+        return;
+    }
+    imageBrowserSelectionDidChange(imageBrowser_2);
 }
 
 // Types without items can be left out of the table.

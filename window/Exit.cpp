@@ -4,6 +4,7 @@
 #include "window/MyTableController.h"
 #include "window/ProgramTitle.h"
 #include "window/preview/PreviewFile.h"
+#include "window/preview/WholePreview.h"
 #include "window/widgets/Alerts.h"
 
 namespace vantor {
@@ -31,6 +32,7 @@ void MyTableController::Exit_App() {
         return;
     }
     m_ending = true;
+    endWholePreviews();
     if (m_besideRunning) {
         stop_now = 1;
         const auto until = std::chrono::steady_clock::now() + kCopyPatience;
@@ -58,6 +60,14 @@ void MyTableController::deletePreviews() {
     deletePreviewFiles(m_previewFolder);
 }
 
+void MyTableController::endWholePreviews() {
+    for (const auto& whole : {m_whole, m_nextWhole}) {
+        if (whole) {
+            whole->cancel();
+        }
+    }
+}
+
 bool MyTableController::mayLeaveUnsaved(const QString& consequence, const QString& leave) {
     return runAlert({QStringLiteral("\n") + tr("Some of the found items have not been saved."),
                      consequence,
@@ -74,7 +84,8 @@ bool MyTableController::shutDown(std::chrono::milliseconds patience) {
     }
     const auto until = std::chrono::steady_clock::now() + patience;
     m_looks->shutDown();
-    while (scanRunning() || m_besideRunning || m_desk->isRunning() || !m_looks->hasEnded()) {
+    endWholePreviews();
+    while (m_filling > 0 || scanRunning() || m_besideRunning || m_desk->isRunning() || !m_looks->hasEnded()) {
         // The scan clears the word when it honours it, so it is said until everyone has heard.
         stop_now = 1;
         if (mSetLabelTimer) {

@@ -5,6 +5,7 @@
 #include "results/RecoveryMode.h"
 #include "window/MyTableController.h"
 #include "window/preview/PreviewFile.h"
+#include "window/preview/WholePreview.h"
 
 namespace vantor {
 
@@ -34,6 +35,8 @@ MyTableController::MyTableController(ProgramParts parts)
     if (m_parts.thumbnailer) {
         m_thumbnails = std::make_unique<ThumbnailQueue>(m_parts.thumbnailer, thumbnailQueueOptions());
     }
+    m_wholeFolder = m_parts.privateFolder.isEmpty() ? m_previewFolder : m_parts.privateFolder;
+    WholePreview::clearLeftovers(m_wholeFolder);
     loadInterface();
     wire();
 }

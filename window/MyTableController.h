@@ -58,6 +58,9 @@
 
 namespace vantor {
 
+class WholePreview;
+struct PreviewFileRequest;
+
 // Members with given names keep them letter for letter; a message `first:second:` is `first(a, second)`.
 // Where an outlet already bears the first word, as `imageBrowser` does, the words of the message are joined
 // instead.
@@ -287,6 +290,7 @@ class MyTableController : public QObject,
     void pressDefault();
     // window/Exit.cpp
     void deletePreviews();
+    void endWholePreviews();
     bool mayLeaveUnsaved(const QString& consequence, const QString& leave);
     // window/ScreenFlow.cpp
     ControlSet activeSet() const;
@@ -360,12 +364,20 @@ class MyTableController : public QObject,
     void keepChosenType();
     void showItemCounts();
     LookedAtItems lookedAtItems();
+    void selectionMoved(ImageBrowserView* browser);
+    void startDuePreview();
     // window/Preview.cpp
     void runBeside(const std::function<void()>& work);
     std::unique_ptr<Movie> openBeside(const MovieLoader& loader, const QString& file);
     void showPicture(const QPixmap& picture, const QString& title);
     QString obstacleFor(const QString& file) const;
     void showPreviewFacts();
+    std::shared_ptr<WholePreview> wholePreviewOf(PreviewFileRequest& copy);
+    void takeWholePreview(std::shared_ptr<WholePreview> whole);
+    void fillWholePreview();
+    QString shownFileOf(const QString& file) const;
+    void showThatTheMediumIsGone();
+    void emptyPreviewPane();
     // window/Saving.cpp
     void saveItems(const QList<qsizetype>& indexes);
     SavingParts savingParts();
@@ -383,6 +395,7 @@ class MyTableController : public QObject,
     TableAdapter* m_resultTable = nullptr;
     QList<QCheckBox*> m_groupBoxes;  // by FileKind
     QString m_previewFolder;
+    QString m_wholeFolder;  // of the previews of true length
     PreviewFolderHold m_previewHold;
     QString m_obstacle;     // why the item on preview has no picture; empty where nothing stands in the way
     FileTypeIcons m_icons;  // prepared before a scan, read by it
@@ -399,6 +412,13 @@ class MyTableController : public QObject,
     std::atomic<bool> m_driverRunning{false};
     std::atomic<bool> m_timerRunning{false};
     std::atomic<bool> m_besideRunning{false};
+
+    // Set by every preview.
+    QTimer m_previewDue;                        // runs while a selection was not looked at yet
+    QString m_previewedName;                    // of the item that the preview file was copied from
+    std::shared_ptr<WholePreview> m_whole;      // of what is on preview
+    std::shared_ptr<WholePreview> m_nextWhole;  // of what is being copied
+    std::atomic<int> m_filling{0};              // threads that fill one
 
     // Set by every scan.
     ScanInputs m_inputs;

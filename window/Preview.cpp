@@ -6,10 +6,12 @@
 #include "catalogue/NumberText.h"
 #include "results/RecoveryMode.h"
 #include "results/SizeForPeople.h"
+#include "saving/FreeSpace.h"
 #include "window/MyTableController.h"
 #include "window/preview/DocumentFrame.h"
 #include "window/preview/MovieControls.h"
 #include "window/preview/PreviewFile.h"
+#include "window/preview/WholePreview.h"
 #include "window/widgets/Sheet.h"
 
 namespace vantor {
@@ -62,25 +64,122 @@ void MyTableController::CreateFile_QuickLook_View(const QVariantList& item) {
     request->newFile = previewFilePath(m_previewFolder, path);
     request->start = sectorThroughText(item.at(1));
     request->end = sectorThroughText(item.at(2));
+    m_nextWhole = wholePreviewOf(*request);
     const auto mediumOpened = std::make_shared<bool>(false);
 
     session = true;
     {
         const SheetSession sheet(ClearPreview_Window, controlPanel, exitButton);
+        m_looks->rest(true);
         runBeside([this, request, mediumOpened] { *mediumOpened = makePreviewFile(*request, stop_now); });
         if (m_ending) {
             return;
         }
+        m_looks->rest(false);
         if (*mediumOpened) {
             Preview_Temp_File = request->newFile;
+            takeWholePreview(m_nextWhole);
         }
+        m_nextWhole.reset();
         QuickLook_Preview_Thread(path);
+        if (m_ending) {
+            return;
+        }
+        if (*mediumOpened) {
+            m_previewedName = lastComponent(path);
+            fillWholePreview();
+        } else {
+            showThatTheMediumIsGone();
+        }
     }
     session = false;
     // A scan that still runs shows its end itself, once it has let the medium go.
     if (stop_now == 1 && stop_screen_already_show == 0 && !scanRunning()) {
         Final_or_Stop_Screen();
     }
+}
+
+// The true bytes of the item on preview, as the file behind the prescribed copy.
+std::shared_ptr<WholePreview> MyTableController::wholePreviewOf(PreviewFileRequest& copy) {
+    WholePreviewRequest request;
+    if (const auto item = itemAt(Prev_Index); item && item->File_Start_Sector() == copy.start) {
+        request.type = item->fileType();
+        request.carved = item->carved();
+    }
+    request.start = copy.start;
+    request.previewFile = copy.newFile;
+    request.folder = m_wholeFolder;
+    request.freeBytes = freeBytesAt;
+    auto whole = std::make_shared<WholePreview>();
+    // What a scan is told to stop is no word for those who read on.
+    copy.behind = [request, whole, open = m_parts.openBeside, device = devicePath()](
+                      std::unique_ptr<SectorReader> medium, bool faithful) mutable {
+        request.faithful = faithful;
+        if (open) {
+            medium = open(device);
+        }
+        whole->begin(request, std::move(medium));
+    };
+    return whole;
+}
+
+void MyTableController::takeWholePreview(std::shared_ptr<WholePreview> whole) {
+    if (m_whole) {
+        m_whole->cancel();
+    }
+    m_whole = std::move(whole);
+}
+
+// The rest of a long file comes while its beginning is looked at; what needed the rest for its picture is
+// shown once more.
+void MyTableController::fillWholePreview() {
+    if (!m_whole->isToBeFilled()) {
+        return;
+    }
+    ++m_filling;
+    const PicturePreviewer read = mMovieView->movie() == nullptr ? m_parts.picture : nullptr;
+    const auto work = [this, whole = m_whole, name = m_previewedName, read]() mutable {
+        QImage picture;
+        if (whole->fill() && read) {
+            picture = read(whole->path(), kPreviewSize);
+        }
+        QMetaObject::invokeMethod(
+            this,
+            [this, picture, name, shown = std::weak_ptr(whole)] {
+                if (!m_ending && !picture.isNull() && m_whole && shown.lock() == m_whole &&
+                    mMovieView->movie() == nullptr) {
+                    showPicture(QPixmap::fromImage(framedAsDocument(picture, kPreviewSize)), name);
+                }
+            },
+            Qt::QueuedConnection);
+        whole.reset();
+        --m_filling;
+    };
+    // A medium that hangs keeps it; the end of the program sees to it.
+    std::thread(work).detach();
+}
+
+QString MyTableController::shownFileOf(const QString& file) const {
+    const QString whole = m_whole && file == Preview_Temp_File ? m_whole->path() : QString();
+    return whole.isEmpty() ? file : whole;
+}
+
+// Beside what stays in the pane of the item before.
+void MyTableController::showThatTheMediumIsGone() {
+    const QString gone = tr("The storage medium cannot be read.");
+    previewFacts->setText(m_previewedName.isEmpty()
+                              ? gone
+                              : gone + u' ' + tr("This is still the preview of %1.").arg(m_previewedName));
+}
+
+// Nothing is on preview any more.
+void MyTableController::emptyPreviewPane() {
+    closemovie_Win();
+    soundControls->setMovie(nullptr);
+    _QuickLook_View->setText(tr("Select an item to preview it."));
+    _QuickLook_View->setAccessibleName({});
+    previewFacts->clear();
+    takeWholePreview(nullptr);
 }
 
 void MyTableController::QuickLook_Preview_Thread(const QString& itemPath) {
@@ -90,7 +189,7 @@ void MyTableController::QuickLook_Preview_Thread(const QString& itemPath) {
     }
 }
 
-// The size of the copied file; sound beside its picture can be heard, and tells how long it is.
+// The size that saving would give the file; sound beside its picture can be heard, and tells how long it is.
 void MyTableController::showPreviewFacts() {
     const QFileInfo file(Preview_Temp_File);
     if (!file.isFile()) {
@@ -98,13 +197,17 @@ void MyTableController::showPreviewFacts() {
         return;
     }
     if (Recovery_MODE != kVideoMode && kindOfExtension(pathExtension(file.fileName())) == FileKind::Sound) {
-        soundControls->setMovie(openBeside(m_parts.sound, file.filePath()));
+        soundControls->setMovie(openBeside(m_parts.sound, shownFileOf(Preview_Temp_File)));
     }
     if (m_ending) {
         return;
     }
     const Movie* const sound = soundControls->movie();
-    const QString size = sizeForPeople(static_cast<std::uint64_t>(file.size()));
+    const auto bytes = m_whole ? m_whole->bytes() : std::nullopt;
+    QString size = sizeForPeople(bytes.value_or(static_cast<std::uint64_t>(file.size())));
+    if (bytes && !m_whole->lengthIsKnown()) {
+        size = tr("more than %1").arg(size);
+    }
     const QString facts = sound != nullptr && sound->durationMs() > 0
                               ? tr("%1, %2").arg(size, timeText(sound->durationMs()))
                               : size;
@@ -132,7 +235,7 @@ void MyTableController::setQuickLook_View_File(const QString& file, const QStrin
     }
     _QuickLook_View_Box->setTitle(file_Name);
     m_obstacle.clear();
-    std::unique_ptr<Movie> movie = openBeside(m_parts.movie, file);
+    std::unique_ptr<Movie> movie = openBeside(m_parts.movie, shownFileOf(file));
     if (m_ending) {
         return;
     }
@@ -155,7 +258,9 @@ void MyTableController::Image_Preview(const QString& file, const QString& file_N
     }
     const auto picture = std::make_shared<QImage>();
     if (m_parts.picture && QFileInfo(file).isFile()) {
-        runBeside([read = m_parts.picture, file, picture] { *picture = read(file, kPreviewSize); });
+        runBeside([read = m_parts.picture, shown = shownFileOf(file), picture] {
+            *picture = read(shown, kPreviewSize);
+        });
     }
     if (m_ending) {
         return;

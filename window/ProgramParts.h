@@ -28,6 +28,8 @@ struct ProgramParts {
     MovieLoader movie;         // none: every preview is a picture
     MovieLoader sound;         // what sounds of a file that is shown as a picture; none: nothing does
     QString resourcesFolder;
+    // Where previews of true length may lie; none: where the other preview files do.
+    QString privateFolder;
 
     // True when files written into the folder would land on the medium behind "/dev/r" + identifier.
     std::function<bool(const QString& folder, const QString& devicePath)> isOnMedium;

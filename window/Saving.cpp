@@ -11,6 +11,10 @@ SavingParts MyTableController::savingParts() {
     SavingParts parts;
     parts.window = window;
     parts.itemAt = [this](std::size_t index) { return itemAt(index); };
+    parts.bytesToWrite = [this](std::size_t index) -> std::optional<std::uint64_t> {
+        const auto soundness = m_looks->factsOf(index).soundness;
+        return soundness ? std::optional(soundness->bytes) : std::nullopt;
+    };
     parts.medium = [this] {
         return [open = m_parts.openMedium, device = devicePath()] { return open ? open(device) : nullptr; };
     };

@@ -140,7 +140,11 @@ QIcon MyTableController::iconForFileType(const QString& extension) {
 }
 
 void MyTableController::clearPreviewTitle() {
-    later([this] { _QuickLook_View_Box->setTitle(QStringLiteral("No file is selected to preview")); });
+    later([this] {
+        emptyPreviewPane();
+        Prev_Index = kNoPreview;
+        _QuickLook_View_Box->setTitle(QStringLiteral("No file is selected to preview"));
+    });
 }
 
 void MyTableController::resultRowsChanged() {

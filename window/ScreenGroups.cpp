@@ -64,14 +64,7 @@ void MyTableController::showPreviewPane(bool hide) {
     const bool video = Recovery_MODE == kVideoMode;
     mMovieView->setHidden(hide || !video);
     _QuickLook_View->setHidden(hide || video);
-    if (video) {
-        closemovie_Win();
-    } else {
-        _QuickLook_View->setText(tr("Select an item to preview it."));
-        _QuickLook_View->setAccessibleName({});
-    }
-    soundControls->setMovie(nullptr);
-    previewFacts->clear();
+    emptyPreviewPane();
 }
 
 void MyTableController::hideOpenFolderButtons() {

@@ -51,11 +51,13 @@ void MyTableController::wire() {
     connect(allTypesButton, &QPushButton::clicked, idSigTableView, &QTableView::clearSelection);
     connect(_zoom_slider, &QSlider::valueChanged, this, [this] { zoomSliderDidChange(_zoom_slider); });
     for (ImageBrowserView* browser : {imageBrowser, imageBrowser_2}) {
-        connect(browser, &ImageBrowserView::selectionDidChange, this, [this, browser] {
-            showItemCounts();
-            imageBrowserSelectionDidChange(browser);
-        });
+        connect(browser, &ImageBrowserView::selectionDidChange, this,
+                [this, browser] { selectionMoved(browser); });
     }
+    // What is selected already may be wanted again, where the pane was emptied meanwhile.
+    connect(imageBrowser_2, &QAbstractItemView::clicked, this, [this] { m_previewDue.start(0); });
+    m_previewDue.setSingleShot(true);
+    connect(&m_previewDue, &QTimer::timeout, this, &MyTableController::startDuePreview);
     // In a window too small for the screen, what has the keyboard is in view.
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
         if (now != nullptr && body->isAncestorOf(now)) {

@@ -1,6 +1,7 @@
 // The program with its window.
 #include <QApplication>
 #include <QScreen>
+#include <QStandardPaths>
 #include <algorithm>
 #include <atomic>
 #include <cstdlib>
@@ -49,6 +50,8 @@ ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTable
     parts.sound = [playing](const QString& file) { return SoundMovie::open(file, {}, playing); };
     parts.movie = [playing](const QString& file) { return openMovieOrSound(file, kLargestFrame, playing); };
     parts.resourcesFolder = resourcesFolder();
+    // On a disk: what is looked at may be as long as a movie.
+    parts.privateFolder = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
     parts.isOnMedium = [targets = parts.media->targets()](const QString& folder, const QString& devicePath) {
         const auto target = targets->find(devicePath.mid(QStringLiteral("/dev/r").size()));
         const QStringList nodes = target ? nodesOf(*target, mediaPresent) : QStringList();

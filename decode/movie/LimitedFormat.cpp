@@ -4,6 +4,8 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
+#include <thread>
 
 #include "decode/helper/PictureLimits.h"
 
@@ -15,6 +17,7 @@ using Clock = std::chrono::steady_clock;
 
 // Opening, and every step to a frame, ends after this.
 constexpr auto kStepLimit = std::chrono::seconds{2};
+constexpr auto kHoleWait = std::chrono::milliseconds{5};
 constexpr int kReadBufferBytes = 64 * 1024;
 constexpr std::int64_t kMostProbeBytes = 8 * 1024 * 1024;
 constexpr int kMostStreams = 64;
@@ -34,12 +37,35 @@ LimitedFormat::~LimitedFormat() {
 
 int LimitedFormat::readSome(void* format, std::uint8_t* target, int wanted) {
     auto& self = *static_cast<LimitedFormat*>(format);
-    const ssize_t got = pread(self.m_descriptor, target, static_cast<std::size_t>(wanted), self.m_position);
+    const auto there = self.bytesThere(wanted);
+    if (there < 0) {
+        return AVERROR(EIO);
+    }
+    const ssize_t got = pread(self.m_descriptor, target, static_cast<std::size_t>(there), self.m_position);
     if (got <= 0) {
         return got == 0 ? AVERROR_EOF : AVERROR(EIO);
     }
     self.m_position += got;
     return static_cast<int>(got);
+}
+
+// How much of what is wanted stands in the file. A hole is what is still being filled in: waits for it as
+// long as the step may take, below 0 in vain.
+int LimitedFormat::bytesThere(int wanted) const {
+    for (;;) {
+        const off_t data = lseek(m_descriptor, m_position, SEEK_DATA);
+        // The end, or a file system that knows no holes.
+        const bool isHole = data > m_position ||
+                            (data < 0 && errno == ENXIO && m_position < lseek(m_descriptor, 0, SEEK_END));
+        if (!isHole) {
+            const off_t hole = lseek(m_descriptor, m_position, SEEK_HOLE);
+            return hole > m_position ? static_cast<int>(std::min<off_t>(wanted, hole - m_position)) : wanted;
+        }
+        if (isOver()) {
+            return -1;
+        }
+        std::this_thread::sleep_for(kHoleWait);
+    }
 }
 
 std::int64_t LimitedFormat::seekTo(void* format, std::int64_t offset, int whence) {
@@ -102,7 +128,7 @@ bool LimitedFormat::openCodec(AVMediaType kind, int threads) {
         return false;
     }
     m_codec->pkt_timebase = stream().time_base;
-    m_codec->max_pixels = static_cast<std::int64_t>(kMostPicturePixels);
+    m_codec->max_pixels = static_cast<std::int64_t>(kMostFramePixels);
     m_codec->thread_count = threads;
     return avcodec_open2(m_codec.get(), decoder, nullptr) >= 0;
 }

@@ -62,6 +62,7 @@ class LimitedFormat {
 
   private:
     bool seek(int stream, std::int64_t stamp, int flags);
+    int bytesThere(int wanted) const;
     static int readSome(void* format, std::uint8_t* target, int wanted);
     static std::int64_t seekTo(void* format, std::int64_t offset, int whence);
     static int askWhetherOver(void* format);

@@ -147,9 +147,9 @@ QByteArray bmpClaiming(int side) {
 }
 
 // Within the limit, so that it is by their claims alone that the others fail.
-constexpr int kLargeSide = 9000;
+constexpr int kLargeSide = 14200;
 // Of these the first would still fit the memory that a helper may have.
-constexpr std::array kTooLargeSides{13000, 65000};
+constexpr std::array kTooLargeSides{15000, 65000};
 
 TEST(Hostile, HugeClaims_AreRefusedForTheirSize) {
     // With time to fill all that is claimed, so that it is not the deadline that refuses.

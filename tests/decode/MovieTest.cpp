@@ -215,5 +215,50 @@ TEST_F(Movie, MutatedFiles_AreShownOrNot) {
     EXPECT_LT(shown, kMutations);
 }
 
+// A file with everything but its middle, which is a hole.
+QString writtenWithoutMiddle(const QByteArray& bytes, qsizetype from, qsizetype end, const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.resize(bytes.size()));
+    EXPECT_EQ(file.write(bytes.first(from)), from);
+    EXPECT_TRUE(file.seek(end));
+    EXPECT_EQ(file.write(bytes.sliced(end)), bytes.size() - end);
+    return path;
+}
+
+TEST_F(Movie, AFileStillBeingFilled_OpensAtOnce_AndWhatIsMissingIsWaitedForInsteadOfShownAsRubbish) {
+    const QByteArray bytes = bytesOfFile(movie("mov/digicam_corpus__Apple__iPhone_XR__IMG_3589.mov"));
+    constexpr qsizetype kFrom = 768 * 1024, kEnd = 2048 * 1024;
+    ASSERT_GT(bytes.size(), kEnd);
+    const QString path =
+        writtenWithoutMiddle(bytes, kFrom, kEnd, m_folder.filePath(QStringLiteral("dprv.mov")));
+    const auto whole =
+        MovieReader::open(written(bytes, QStringLiteral("whole.mov")), {200, 200}, movieOptions());
+    const auto reader = MovieReader::open(path, {200, 200}, movieOptions());
+    ASSERT_TRUE(whole && reader);
+    EXPECT_EQ(reader->durationMs(), whole->durationMs());
+    // As far as it is there, frame by frame the same; then nothing rather than something else.
+    int same = 0;
+    for (;;) {
+        const auto frame = reader->next();
+        if (!frame) {
+            break;
+        }
+        const auto expected = whole->next();
+        ASSERT_TRUE(expected);
+        ASSERT_EQ(frame->timeMs, expected->timeMs);
+        ASSERT_EQ(frame->image, expected->image) << frame->timeMs;
+        ++same;
+    }
+    EXPECT_GT(same, 5);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.seek(kFrom));
+    ASSERT_EQ(file.write(bytes.sliced(kFrom, kEnd - kFrom)), kEnd - kFrom);
+    file.close();
+    EXPECT_FALSE(reader->isOver());
+    const auto later = reader->seek(2000), expected = whole->seek(2000);
+    ASSERT_TRUE(later && expected);
+    EXPECT_EQ(later->image, expected->image);
+}
+
 }  // namespace
 }  // namespace vantor

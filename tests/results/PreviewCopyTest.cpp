@@ -32,6 +32,50 @@ TEST(PreviewCopy, CopiesUpToTheEndSector) {
     EXPECT_EQ(copied(medium, 7, 4), "");
 }
 
+namespace {
+
+// Notes where it is positioned.
+class SeekingReader : public ScriptedReader {
+  public:
+    using ScriptedReader::ScriptedReader;
+    std::vector<std::uint64_t> seeks;
+
+  protected:
+    bool moveTo(std::uint64_t sector) override {
+        seeks.push_back(sector);
+        return ScriptedReader::moveTo(sector);
+    }
+};
+
+}  // namespace
+
+TEST(PreviewCopy, OnlyAnItemBehindTheBeginning_IsSought) {
+    ScriptedMedium medium = letters(10);
+    const std::atomic<int> stop{0};
+    const auto nothing = [](const std::uint8_t*) { return true; };
+    SeekingReader fromBeginning(medium), fromBehind(medium);
+    copyPreviewSectors(fromBeginning, 0, 3, stop, nothing);
+    EXPECT_EQ(fromBeginning.seeks, std::vector<std::uint64_t>());
+    copyPreviewSectors(fromBehind, 4, 6, stop, nothing);
+    EXPECT_EQ(fromBehind.seeks, std::vector<std::uint64_t>{4});
+}
+
+TEST(PreviewCopy, SaysWhetherItHoldsWhatStandsThere) {
+    ScriptedMedium medium = letters(10);
+    std::atomic<int> stop{0};
+    const auto copy = [&](bool written) {
+        ScriptedReader reader(medium);
+        return copyPreviewSectors(reader, 2, 6, stop, [&](const std::uint8_t*) { return written; });
+    };
+    EXPECT_TRUE(copy(true));
+    EXPECT_FALSE(copy(false));
+    stop = 1;
+    EXPECT_FALSE(copy(true));
+    stop = 0;
+    medium.badTimes[5] = 1;
+    EXPECT_FALSE(copy(true)) << "the last sector is one behind";
+}
+
 TEST(PreviewCopy, UnreadableSectorRepeatsTheLastGoodBytes) {
     ScriptedMedium medium = letters(10);
     medium.badForEver = {3};

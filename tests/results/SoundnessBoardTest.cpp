@@ -6,6 +6,7 @@
 #include "results/MyImageObject.h"
 #include "results/SoundnessBoard.h"
 #include "tests/support/SmallFiles.h"
+#include "tests/window/Gate.h"
 
 namespace vantor {
 namespace {
@@ -47,6 +48,7 @@ class SoundnessBoardTest : public ::testing::Test {
     std::vector<std::shared_ptr<MyImageObject>> items;
     ScriptedMedium medium = mediumWith(wavFile(kWavBytes), 10, 100);
     std::atomic<int> opened{0};
+    std::atomic<int> readers{0};  // open ones of those that are counted
     std::atomic<bool> refuseOpen{false};
     std::mutex lock;
     std::vector<std::size_t> asked;
@@ -211,6 +213,70 @@ TEST(Soundness, AFileOfTooMuchReading_IsOfUnknownLength) {
     EXPECT_EQ(examined(kSectorBytes).verdict, Verdict::Unknown);
     EXPECT_EQ(examined(kSectorBytes).bytes, 40 * kSectorBytes) << "as it was carved";
     EXPECT_EQ(examined(kMostExaminedBytes).verdict, Verdict::Complete);
+}
+
+// A reader that is counted while it is open.
+class CountedReader : public ScriptedReader {
+  public:
+    CountedReader(ScriptedMedium& medium, std::atomic<int>& open) : ScriptedReader(medium), m_open(open) {
+        ++m_open;
+    }
+    ~CountedReader() override { --m_open; }
+
+  private:
+    std::atomic<int>& m_open;
+};
+
+TEST_F(SoundnessBoardTest, TheMediumIsClosed_WhenTheListIsLeft) {
+    board.begin([&] { return std::make_unique<CountedReader>(medium, readers); });
+    board.want({0});
+    ASSERT_TRUE(until([this] { return board.known() == 1; }));
+    EXPECT_EQ(readers, 1) << "as long as items are in view";
+    board.begin({});
+    EXPECT_TRUE(until([&] { return readers == 0; }));
+}
+
+TEST_F(SoundnessBoardTest, TheMediumIsClosed_WhenNothingIsInView) {
+    board.begin([&] { return std::make_unique<CountedReader>(medium, readers); });
+    board.want({0});
+    ASSERT_TRUE(until([this] { return board.known() == 1; }));
+    board.want({});
+    EXPECT_TRUE(until([&] { return readers == 0; }));
+    board.want({0, 1});
+    EXPECT_TRUE(until([this] { return board.known() == 2; })) << "and opened again";
+}
+
+TEST_F(SoundnessBoardTest, AtRest_TheLookUnderWayIsGivenUp_AndMadeLater) {
+    Gate gate;
+    medium.beforeRead = gate.atEveryRead();
+    board.begin([&] { return std::make_unique<CountedReader>(medium, readers); });
+    board.want({0});
+    ASSERT_TRUE(until([&] { return gate.someoneWaits(); }));
+    board.rest(true);
+    board.wantAll(2);
+    board.want({});
+    board.wantAll(0);
+    gate.open();
+    ASSERT_TRUE(until([&] { return readers == 0; })) << "the look is over";
+    EXPECT_EQ(medium.reads, 1U);
+    EXPECT_EQ(board.known(), 0U);
+    board.want({1});
+    board.rest(false);
+    board.want({1, 0});
+    EXPECT_TRUE(until([this] { return board.known() == 2; }));
+    EXPECT_EQ(board.find(0)->verdict, Verdict::Complete);
+}
+
+TEST_F(SoundnessBoardTest, AtRest_NoItemOfAllIsLeftOut) {
+    Gate gate;
+    medium.beforeRead = gate.atEveryRead();
+    board.begin(opener());
+    board.wantAll(2);
+    ASSERT_TRUE(until([&] { return gate.someoneWaits(); }));
+    board.rest(true);
+    board.rest(false);
+    gate.open();
+    EXPECT_TRUE(until([this] { return board.known() == 2; }));
 }
 
 }  // namespace

@@ -34,6 +34,15 @@ inline QByteArray wavFile(qsizetype bytes, unsigned seed = 1) {
            noise(bytes - 44, seed);
 }
 
+// The same of many megabytes, made in a moment.
+inline QByteArray longWavFile(qsizetype bytes) {
+    constexpr qsizetype kPeriod = 65'521;
+    const auto n = static_cast<quint32>(bytes);
+    QByteArray file = wavFile(44) + noise(kPeriod, 1).repeated(bytes / kPeriod + 1);
+    file.truncate(bytes);
+    return file.replace(4, 4, littleEndian(n - 8)).replace(40, 4, littleEndian(n - 44));
+}
+
 // A whole grey TIFF picture with a date such as "2026:05:17 14:03:22".
 inline QByteArray tiffFile(quint32 width, quint32 height, const QByteArray& date) {
     constexpr quint16 kTags = 8;
@@ -48,7 +57,14 @@ inline QByteArray tiffFile(quint32 width, quint32 height, const QByteArray& date
            littleEndian(quint32{0}) + date + '\0' + noise(qsizetype{width} * height, 3);
 }
 
-// A medium of noise with a file at a sector.
+// A medium with a file at a sector.
+inline ScriptedMedium emptyMediumWith(const QByteArray& file, std::size_t atSector, std::size_t sectors) {
+    ScriptedMedium medium(sectors);
+    std::memcpy(medium.bytes.at(atSector).data(), file.data(), static_cast<std::size_t>(file.size()));
+    return medium;
+}
+
+// The same in noise.
 inline ScriptedMedium mediumWith(const QByteArray& file, std::size_t atSector, std::size_t sectors) {
     ScriptedMedium medium(sectors);
     const QByteArray foreign = noise(static_cast<qsizetype>(sectors * kSectorBytes), 99);

@@ -77,6 +77,7 @@ TEST_F(Accessible, TextsAreReadOutAsTheyStand) {
     }
     EXPECT_EQ(name(controller->_QuickLook_View_Box), QStringLiteral("No file is selected to preview"));
     controller->imageBrowser_2->setCurrentIndex(controller->imageBrowser_2->model()->index(0, 0));
+    settle();
     EXPECT_EQ(name(controller->_QuickLook_View),
               QStringLiteral("Preview of ") + controller->_QuickLook_View_Box->title());
 }

@@ -179,6 +179,7 @@ class Clicking : public WindowTest {
         const QModelIndex index = browser->model()->index(row, 0);
         browser->scrollTo(index);
         QTest::mouseClick(browser->viewport(), Qt::LeftButton, {}, browser->visualRect(index).center());
+        settle();
     }
 
     // One picture or one movie under the item's name, and no sound but the movie's.

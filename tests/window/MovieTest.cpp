@@ -31,6 +31,7 @@ class MoviePreview : public WindowTest {
         ImageBrowserView* browser = controller->imageBrowser_2;
         QTest::mouseClick(browser->viewport(), Qt::LeftButton, {},
                           browser->visualRect(browser->model()->index(row, 0)).center());
+        settle();  // the preview begins when the click is over
     }
 
     ScriptedMovie& shownMovie() { return dynamic_cast<ScriptedMovie&>(*controller->mMovieView->movie()); }

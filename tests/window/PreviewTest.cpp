@@ -47,6 +47,7 @@ TEST_F(Preview, TheFirstOfSeveralSelectedItemsIsShown) {
     openResults({{"A.PDF", 24, 27}, {"B.PDF", 28, 29}, {"C.PDF", 30, 31}});
     select(1);
     QTest::keyClick(controller->imageBrowser_2, Qt::Key_A, Qt::ControlModifier);
+    settle();
     EXPECT_EQ(title(), QStringLiteral("A.PDF"));
 }
 

@@ -31,6 +31,7 @@ class Preview : public WindowTest {
         ImageBrowserView* browser = controller->imageBrowser_2;
         QTest::mouseClick(browser->viewport(), Qt::LeftButton, {},
                           browser->visualRect(browser->model()->index(row, 0)).center());
+        settle();  // the preview begins when the click is over
     }
     QByteArray previewBytes(const char* name) const {
         QFile file(folder.filePath(QString::fromLatin1(name)));

@@ -50,6 +50,8 @@ class BrowserLooks : public QObject {
     bool hasEnded() const { return m_board.hasEnded(); }
 
     ItemFacts factsOf(std::size_t index) const;
+    // While somebody waits for the medium.
+    void rest(bool resting) { m_board.rest(resting); }
     // What saving found out.
     void note(std::size_t index, const Soundness& soundness) { m_board.note(index, soundness); }
     // Leaves out all other types; an empty text shows every type again.

@@ -104,6 +104,7 @@ void ImageBrowserView::setOrder(std::optional<QList<int>> order) {
     const QList<qsizetype> selected = selectionIndexes();
     const int current = currentIndex().isValid() ? m_model->indexOfRow(currentIndex().row()) : -1;
     const int scrolled = verticalScrollBar()->value();
+    m_reordering = true;
     // Quietly, and first: to compare what was selected with what will be takes long.
     selectionModel()->reset();
     m_model->setOrder(std::move(order));
@@ -113,7 +114,7 @@ void ImageBrowserView::setOrder(std::optional<QList<int>> order) {
         selectionModel()->setCurrentIndex(m_model->index(row), QItemSelectionModel::NoUpdate);
     }
     verticalScrollBar()->setValue(scrolled);
-    emit selectionDidChange();
+    m_reordering = false;
 }
 
 // Cells stand in a grid, so the first and the last in view tell the rest.
@@ -185,7 +186,9 @@ void ImageBrowserView::paintEvent(QPaintEvent* event) {
 
 void ImageBrowserView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
     QListView::selectionChanged(selected, deselected);
-    emit selectionDidChange();
+    if (!m_reordering) {
+        emit selectionDidChange();
+    }
 }
 
 }  // namespace vantor

@@ -46,6 +46,7 @@ class ImageBrowserView : public QListView {
     void setEmptyState(const QIcon& picture, const QString& title, const QString& advice);
 
   signals:
+    // By the user; what another order hides or brings back does not count.
     void selectionDidChange();
 
   protected:
@@ -60,6 +61,7 @@ class ImageBrowserView : public QListView {
 
     ImageBrowserModel* m_model;
     float m_zoom = 0;
+    bool m_reordering = false;
     QIcon m_emptyPicture;
     QString m_emptyTitle, m_emptyAdvice;
 };

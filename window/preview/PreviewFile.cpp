@@ -45,7 +45,7 @@ bool isPrivate(const QString& folder) {
 }  // namespace
 
 bool makePreviewFile(const PreviewFileRequest& request, const std::atomic<int>& stop_now) {
-    const std::unique_ptr<SectorReader> medium = request.openMedium ? request.openMedium() : nullptr;
+    std::unique_ptr<SectorReader> medium = request.openMedium ? request.openMedium() : nullptr;
     if (!medium) {
         return false;
     }
@@ -54,10 +54,16 @@ bool makePreviewFile(const PreviewFileRequest& request, const std::atomic<int>& 
     // is for its owner's eyes from the first moment.
     QFile::remove(request.newFile);
     QFile file(request.newFile);
-    if (file.open(QIODevice::ReadWrite | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner)) {
-        copyPreviewSectors(*medium, request.start, request.end, stop_now, [&](const std::uint8_t* sector) {
-            return file.write(reinterpret_cast<const char*>(sector), kSectorBytes) == kSectorBytes;
-        });
+    if (!file.open(QIODevice::ReadWrite | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner)) {
+        return true;
+    }
+    const auto write = [&](const std::uint8_t* sector) {
+        return file.write(reinterpret_cast<const char*>(sector), kSectorBytes) == kSectorBytes;
+    };
+    const bool faithful = copyPreviewSectors(*medium, request.start, request.end, stop_now, write);
+    file.close();
+    if (request.behind && stop_now != 1) {
+        request.behind(std::move(medium), faithful);
     }
     return true;
 }

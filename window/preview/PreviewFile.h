@@ -18,6 +18,9 @@ struct PreviewFileRequest {
     QString newFile;
     std::uint64_t start = 0;  // sectors [start, end)
     std::uint64_t end = 0;
+    // Called with the medium behind a copy that was not ended; `faithful` when the file holds what stands
+    // there.
+    std::function<void(std::unique_ptr<SectorReader> medium, bool faithful)> behind;
 };
 
 // Deletes the previous preview file and copies the sectors into the new one; false when the medium cannot be

@@ -14,27 +14,6 @@
 
 namespace vantor {
 
-namespace {
-
-// Types that share a header find the same sectors; they are saved once.
-std::uint64_t bytesNeeded(const std::vector<ChosenItem>& items) {
-    std::map<std::uint64_t, std::uint64_t> sectorsAt;
-    for (const ChosenItem& chosen : items) {
-        const CarvedRun& carved = chosen.item->carved();
-        if (!carved.runs.empty()) {
-            std::uint64_t& most = sectorsAt[carved.runs.front().first];
-            most = std::max(most, carved.sectors());
-        }
-    }
-    std::uint64_t sectors = 0;
-    for (const auto& place : sectorsAt) {
-        sectors += place.second;
-    }
-    return sectors * kSectorBytes;
-}
-
-}  // namespace
-
 SavingDesk::~SavingDesk() {
     join();
 }
@@ -93,7 +72,26 @@ std::shared_ptr<const ItemSaver> SavingDesk::saverFor(const QString& destination
     return m_saver;
 }
 
-// The need is that of the items as they were found; a file may turn out longer or shorter.
+// As far as it was found out how long the files are, else as long as they were found. Types that share a
+// header find the same sectors; they are saved once.
+std::uint64_t SavingDesk::bytesNeeded(const std::vector<ChosenItem>& items) const {
+    std::map<std::uint64_t, std::uint64_t> bytesAt;
+    for (const ChosenItem& chosen : items) {
+        const CarvedRun& carved = chosen.item->carved();
+        if (!carved.runs.empty()) {
+            const auto known = m_parts.bytesToWrite ? m_parts.bytesToWrite(chosen.index) : std::nullopt;
+            std::uint64_t& most = bytesAt[carved.runs.front().first];
+            most = std::max(most, known.value_or(carved.sectors() * kSectorBytes));
+        }
+    }
+    std::uint64_t bytes = 0;
+    for (const auto& place : bytesAt) {
+        bytes += place.second;
+    }
+    return bytes;
+}
+
+// The need is as far as it is known; a file may turn out longer or shorter.
 SavingDesk::Room SavingDesk::askForRoom(const QString& destination, std::uint64_t bytes) const {
     const auto free = m_parts.freeBytes ? m_parts.freeBytes(destination) : std::nullopt;
     if (!free || *free >= bytes) {

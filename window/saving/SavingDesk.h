@@ -21,12 +21,16 @@ namespace vantor {
 
 class MyImageObject;
 class SaveJob;
+struct ChosenItem;
+struct ChosenItem;
 struct SaveRequest;
 
 // What saving needs of the program around it; everything is called on the interface thread.
 struct SavingParts {
     QWidget* window = nullptr;  // the alerts and the sheet are over it
     std::function<std::shared_ptr<MyImageObject>(std::size_t)> itemAt;
+    // What saving would write of the item; nothing as long as that was not found out.
+    std::function<std::optional<std::uint64_t>(std::size_t)> bytesToWrite;
     // Gives what opens the medium of the moment, which is called on the thread of the job.
     std::function<std::function<std::unique_ptr<SectorReader>()>()> medium;
     // Gives what tells whether a folder lies on the medium of the moment; asked on the thread of the job.
@@ -77,6 +81,7 @@ class SavingDesk : public QObject {
     std::optional<Next> saveOnce(const QList<qsizetype>& indexes, const QString& destination);
     enum class Room { Enough, Elsewhere, Cancelled };
     Room askForRoom(const QString& destination, std::uint64_t bytes) const;
+    std::uint64_t bytesNeeded(const std::vector<ChosenItem>& items) const;
     std::shared_ptr<const ItemSaver> saverFor(const QString& destination);
     bool watch(const std::shared_ptr<SaveJob>& job);
     void note(const SaveJob& job);

@@ -4,9 +4,70 @@
 #include <QApplication>
 #include <QDialog>
 #include <QEvent>
+#include <QMouseEvent>
 #include <QShortcut>
 
 namespace vantor {
+
+namespace {
+
+bool movesInAList(int key) {
+    switch (key) {
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+        case Qt::Key_Left:
+        case Qt::Key_Right:
+        case Qt::Key_PageUp:
+        case Qt::Key_PageDown:
+        case Qt::Key_Home:
+        case Qt::Key_End:
+            return true;
+        default:
+            return false;
+    }
+}
+
+// Takes the moves and the release of a button away whose press nobody has seen.
+class RestOfAPress : public QObject {
+  public:
+    explicit RestOfAPress(QWidget* over) : QObject(over), m_over(over) { qApp->installEventFilter(this); }
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const auto* const widget = qobject_cast<const QWidget*>(watched);
+        if (widget == nullptr || widget->window() != m_over->window()) {
+            return false;
+        }
+        switch (event->type()) {
+            case QEvent::MouseMove:
+                if (static_cast<QMouseEvent*>(event)->buttons() != Qt::NoButton) {
+                    return true;
+                }
+                break;
+            case QEvent::MouseButtonRelease:
+                end();
+                return true;
+            case QEvent::MouseButtonPress:
+            case QEvent::MouseButtonDblClick:
+                break;
+            default:
+                return false;
+        }
+        // Let go where nobody told us.
+        end();
+        return false;
+    }
+
+  private:
+    void end() {
+        qApp->removeEventFilter(this);
+        deleteLater();
+    }
+
+    QWidget* m_over;
+};
+
+}  // namespace
 
 SheetSession::SheetSession(QDialog* sheet, QWidget* over, QWidget* exempt)
     : m_sheet(sheet), m_over(over), m_exempt(exempt) {
@@ -22,6 +83,14 @@ SheetSession::SheetSession(QDialog* sheet, QWidget* over, QWidget* exempt)
 SheetSession::~SheetSession() {
     qApp->removeEventFilter(this);
     m_sheet->hide();
+    if (m_buttonHeld) {
+        new RestOfAPress(m_over);
+    }
+    for (auto& [widget, key] : m_keys) {
+        if (widget) {
+            QCoreApplication::postEvent(widget, key.release());
+        }
+    }
 }
 
 bool SheetSession::eventFilter(QObject* watched, QEvent* event) {
@@ -29,6 +98,7 @@ bool SheetSession::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonRelease:
         case QEvent::MouseButtonDblClick:
+        case QEvent::MouseMove:
         case QEvent::KeyPress:
         case QEvent::KeyRelease:
         case QEvent::Shortcut:
@@ -39,12 +109,37 @@ bool SheetSession::eventFilter(QObject* watched, QEvent* event) {
             return false;
     }
     // A shortcut stands for the widget that it belongs to.
-    const QObject* target = qobject_cast<QShortcut*>(watched) != nullptr ? watched->parent() : watched;
-    const auto* widget = qobject_cast<const QWidget*>(target);
+    QObject* const target = qobject_cast<QShortcut*>(watched) != nullptr ? watched->parent() : watched;
+    auto* const widget = qobject_cast<QWidget*>(target);
     if (widget == nullptr || widget->window() != m_over->window()) {
         return false;
     }
-    return widget != m_exempt && !m_exempt->isAncestorOf(widget);
+    if (widget == m_exempt || m_exempt->isAncestorOf(widget)) {
+        return false;
+    }
+    switch (event->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+            m_buttonHeld = true;
+            return true;
+        case QEvent::MouseButtonRelease:
+            m_buttonHeld = false;
+            return true;
+        case QEvent::MouseMove:
+            return static_cast<QMouseEvent*>(event)->buttons() != Qt::NoButton;
+        case QEvent::KeyPress:
+            keep(widget, *static_cast<QKeyEvent*>(event));
+            return true;
+        default:
+            return true;
+    }
+}
+
+// What a key that is held down repeats comes again as long as it is held.
+void SheetSession::keep(QWidget* widget, const QKeyEvent& key) {
+    if (movesInAList(key.key()) && !key.isAutoRepeat()) {
+        m_keys.emplace_back(widget, key.clone());
+    }
 }
 
 }  // namespace vantor

@@ -1,15 +1,22 @@
 // A small window without buttons that hangs over another while something takes its time.
 #pragma once
 
+#include <QKeyEvent>
 #include <QObject>
+#include <QPointer>
+#include <QWidget>
+#include <memory>
+#include <utility>
+#include <vector>
 
 class QDialog;
-class QWidget;
 
 namespace vantor {
 
 // While it lives the sheet is shown and the window beneath takes no input, but for the widgets that `exempt`
-// contains: leaving the program stays possible. The window can be closed, moved and repainted.
+// contains: leaving the program stays possible. The window can be closed, moved and repainted. Keys that move
+// in a list reach it afterwards; a mouse button that went down meanwhile counts as never pressed, also when
+// it is let go later.
 class SheetSession : public QObject {
   public:
     SheetSession(QDialog* sheet, QWidget* over, QWidget* exempt);
@@ -19,9 +26,13 @@ class SheetSession : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    void keep(QWidget* widget, const QKeyEvent& key);
+
     QDialog* m_sheet;
     QWidget* m_over;
     QWidget* m_exempt;
+    bool m_buttonHeld = false;  // by a press that was taken away
+    std::vector<std::pair<QPointer<QWidget>, std::unique_ptr<QKeyEvent>>> m_keys;
 };
 
 }  // namespace vantor

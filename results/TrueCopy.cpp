@@ -1,0 +1,104 @@
+// Measuring with the walkers that saving uses, then copying stretch by stretch.
+#include "results/TrueCopy.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "results/MediumBytes.h"
+#include "results/TrueLength.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr std::uint64_t kStretchBytes = std::uint64_t{1} << 20;
+
+}  // namespace
+
+// One look at the item; what it reads while it measures is counted.
+class TrueCopy::Reading {
+  public:
+    Reading(const CarvedRun& carved, QByteArrayView firstBytes, SectorReader& medium, ReadWatch& watch)
+        : m_limited(medium, watch, kMostWalkedBytes / kSectorBytes),
+          m_unlimited(medium, watch),
+          m_source{carved, firstBytes,
+                   [this]() -> SectorReader* { return m_measuring ? &m_limited : &m_unlimited; },
+                   medium.mediumSectors()},
+          m_bytes(m_source, m_kept) {}
+
+    MediumBytes& bytes() { return m_bytes; }
+    // False when that took too much, or was ended: what was read then is not to be used.
+    bool endMeasuring() {
+        m_measuring = false;
+        return !m_limited.wasEnded();
+    }
+
+  private:
+    bool m_measuring = true;
+    WatchedReader m_limited, m_unlimited;
+    const ItemSource m_source;
+    std::vector<std::uint8_t> m_kept;
+    MediumBytes m_bytes;
+};
+
+TrueCopy::TrueCopy(QString type, CarvedRun carved, std::unique_ptr<SectorReader> medium, ReadWatch& watch)
+    : m_type(std::move(type)), m_carved(std::move(carved)), m_medium(std::move(medium)), m_watch(watch) {}
+
+TrueCopy::~TrueCopy() = default;
+
+bool TrueCopy::measure(QByteArrayView firstBytes) {
+    m_reading = std::make_unique<Reading>(m_carved, firstBytes, *m_medium, m_watch);
+    const std::uint64_t most = m_reading->bytes().size();
+    const std::uint64_t carved = m_reading->bytes().carvedBytes();
+    m_bytes = trueLengthOf(m_type, m_reading->bytes(), true).bytes;
+    m_lengthKnown = m_reading->endMeasuring();
+    if (!m_lengthKnown) {
+        // Up to there its structure held.
+        m_bytes = std::max(carved, std::min(kMostWalkedBytes, most));
+        m_reading = std::make_unique<Reading>(m_carved, firstBytes, *m_medium, m_watch);
+        m_reading->endMeasuring();
+    }
+    return !m_watch.ended;
+}
+
+std::uint64_t TrueCopy::tailStart() const {
+    return isSmall() ? std::min(kHeadBytes, m_bytes)
+                     : (m_bytes - kTailBytes + kStretchBytes - 1) / kStretchBytes * kStretchBytes;
+}
+
+bool TrueCopy::writeEnds(const Write& write) {
+    const bool whole = copy(*m_reading, 0, std::min(kHeadBytes, m_bytes), write) &&
+                       copy(*m_reading, tailStart(), m_bytes, write);
+    m_reading.reset();
+    return whole;
+}
+
+bool TrueCopy::writeRest(const Write& write) {
+    bool whole = true;
+    if (!isSmall()) {
+        Reading reading(m_carved, {}, *m_medium, m_watch);
+        reading.endMeasuring();
+        whole = copy(reading, kHeadBytes, tailStart(), write);
+    }
+    m_medium.reset();
+    return whole;
+}
+
+bool TrueCopy::copy(Reading& reading, std::uint64_t from, std::uint64_t end, const Write& write) {
+    std::vector<std::uint8_t> stretch(kStretchBytes);
+    for (std::uint64_t at = from; at < end;) {
+        auto bytes = reading.bytes().keptFrom(at);
+        if (bytes.empty()) {
+            bytes = std::span(stretch).first(reading.bytes().readPast(at, stretch));
+        }
+        const std::uint64_t count = std::min<std::uint64_t>(bytes.size(), end - at);
+        // Behind an end of the watch there are only zeros.
+        if (count == 0 || m_watch.ended || !write(at, bytes.first(static_cast<std::size_t>(count)))) {
+            return false;
+        }
+        at += count;
+    }
+    return true;
+}
+
+}  // namespace vantor
