@@ -18,4 +18,15 @@ inline void assertParameter(bool holds, const char* condition) {
     }
 }
 
+// What the call gives; nothing of the kind when it raised a PlatformException. Whatever else it throws
+// passes.
+template <class Call>
+auto guarded(Call call) -> decltype(call()) {
+    try {
+        return call();
+    } catch (const PlatformException&) {
+        return decltype(call())();
+    }
+}
+
 }  // namespace vantor

@@ -179,6 +179,7 @@ void MyTableController::returnFromScanScreen(ControlSet set) {
             show_hide_3_screen_RawFile(false);
         }
         _open_folder->hide();
+        homeOfScreen()->setFocus();
     });
 }
 
