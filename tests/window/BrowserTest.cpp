@@ -164,6 +164,28 @@ TEST_F(Browser, HomeAndEnd_ShowFirstAndLastWhicheverItemIsTheCurrentOne) {
     EXPECT_EQ(browser->currentIndex().row(), 59) << "also when there was no current item";
 }
 
+// A fast search adds many at a time, and says where to scroll before the last of them.
+TEST_F(Browser, WhoIsAtTheEnd_FollowsWholeBatches) {
+    open();
+    showPhotoScreen();
+    ImageBrowserView* const browser = controller->imageBrowser;
+    Source many;
+    browser->setDataSource(&many);
+    const auto inView = [browser](int row) {
+        return browser->viewport()->rect().contains(browser->visualRect(browser->model()->index(row, 0)));
+    };
+    many.count = 100;
+    browser->reloadData();
+    browser->followIndex(60);
+    EXPECT_TRUE(inView(60));
+    ASSERT_FALSE(atEnd(browser));
+    many.count = 200;
+    browser->reloadData();
+    browser->followIndex(150);
+    EXPECT_TRUE(inView(150));
+    browser->setDataSource(controller.get());
+}
+
 TEST_F(Browser, ANewListIsFollowedAgain) {
     open();
     showPhotoScreen();

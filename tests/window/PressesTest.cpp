@@ -65,6 +65,29 @@ TEST_F(FirstScreen, ReturnThatIsHeld_GoesOneStep) {
     }
 }
 
+// A display server repeats a key by letting it go and pressing it anew, which the toolkit may take for two
+// presses.
+TEST_F(FirstScreen, ReturnThatTheServerRepeats_IsHeldToo) {
+    openWithCard();
+    const auto send = [](QWidget* widget, QEvent::Type type, quint64 time) {
+        QKeyEvent event(type, Qt::Key_Return, {});
+        event.setTimestamp(time);
+        QCoreApplication::sendEvent(widget, &event);
+        return event.isAccepted();
+    };
+    answers.then([&](QDialog* alert) {
+        send(alert, QEvent::KeyRelease, 1000);
+        EXPECT_TRUE(send(alert, QEvent::ShortcutOverride, 1001)) << "no shortcut is looked for";
+        send(alert, QEvent::KeyPress, 1001);
+        EXPECT_TRUE(alert->isVisible());
+        send(alert, QEvent::KeyRelease, 1030);
+        EXPECT_FALSE(send(alert, QEvent::ShortcutOverride, 1100));
+        send(alert, QEvent::KeyPress, 1100);
+        EXPECT_FALSE(alert->isVisible());
+    });
+    click(controller->nextButton);  // without a medium
+}
+
 TEST_F(FirstScreen, AShortcutThatIsHeld_GoesOneStepToo) {
     openWithCard();
     selectMedium();

@@ -75,6 +75,7 @@ void ImageBrowserView::scrollIndexToVisible(qsizetype index) {
 void ImageBrowserView::followIndex(qsizetype index) {
     if (m_atEnd) {
         scrollIndexToVisible(index);
+        m_atEnd = true;  // with some more behind it, perhaps
     }
 }
 

@@ -11,13 +11,19 @@ namespace vantor {
 
 namespace {
 
-// These lead on, to where they would lead on again.
-bool leadsOnWhenHeld(const QKeyEvent& key) {
-    return key.isAutoRepeat() && (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter ||
-                                  key.modifiers().testFlag(Qt::AltModifier));
-}
+// Nobody lets a key go and presses it again within so many milliseconds.
+constexpr quint64 kRepeatMilliseconds = 5;
 
 }  // namespace
+
+// These lead on, to where they would lead on again. A display server repeats a key by letting it go and
+// pressing it; the toolkit does not always see that the two belong together.
+bool PressGuard::leadsOnWhenHeld(const QKeyEvent& key) const {
+    const bool repeated = key.isAutoRepeat() || (key.key() == m_letGo && key.timestamp() != 0 &&
+                                                 key.timestamp() - m_letGoTime <= kRepeatMilliseconds);
+    return repeated && (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter ||
+                        key.modifiers().testFlag(Qt::AltModifier));
+}
 
 PressGuard::PressGuard(std::function<int()> screen, QObject* parent)
     : QObject(parent), m_screen(std::move(screen)) {
@@ -38,6 +44,10 @@ bool PressGuard::eventFilter(QObject* watched, QEvent* event) {
             }
             return held;
         }
+        case QEvent::KeyRelease:
+            m_letGo = static_cast<QKeyEvent*>(event)->key();
+            m_letGoTime = static_cast<QKeyEvent*>(event)->timestamp();
+            return false;
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
             return watched->isWidgetType() && pressed(*static_cast<QMouseEvent*>(event));

@@ -5,6 +5,7 @@
 #include <QPoint>
 #include <functional>
 
+class QKeyEvent;
 class QMouseEvent;
 class QWidget;
 
@@ -31,11 +32,14 @@ class PressGuard : public QObject {
 
     Place here() const;
     bool pressed(const QMouseEvent& event);
+    bool leadsOnWhenHeld(const QKeyEvent& key) const;
 
     std::function<int()> m_screen;
     Place m_began;  // where the burst of clicks did
     QPoint m_lastSpot;
     quint64 m_lastTime = 0;  // milliseconds
+    int m_letGo = 0;         // the key
+    quint64 m_letGoTime = 0;
 };
 
 }  // namespace vantor
