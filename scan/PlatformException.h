@@ -29,4 +29,15 @@ bool withoutPlatformException(const Step& step) {
     return true;
 }
 
+// What the call gives; nothing of the kind when it raised a PlatformException. Whatever else it throws
+// passes.
+template <class Call>
+auto guarded(Call call) -> decltype(call()) {
+    try {
+        return call();
+    } catch (const PlatformException&) {
+        return decltype(call())();
+    }
+}
+
 }  // namespace vantor

@@ -6,6 +6,7 @@
 #include "window/preview/PreviewFile.h"
 #include "window/preview/WholePreview.h"
 #include "window/widgets/Alerts.h"
+#include "window/widgets/AskingTurn.h"
 
 namespace vantor {
 
@@ -17,8 +18,13 @@ constexpr std::chrono::milliseconds kCopyPatience{200};
 }  // namespace
 
 void MyTableController::Exit_App() {
-    if (hasUnsavedItems() && !mayLeaveUnsaved(tr("When the program ends, the list of found items is gone."),
-                                              tr("Exit Without Saving"))) {
+    const AskingTurn turn;
+    const auto mayLoseItems = [this] {
+        return mayLeaveUnsaved(tr("When the program ends, the list of found items is gone."),
+                               tr("Exit Without Saving"));
+    };
+    const bool asked = hasUnsavedItems();
+    if (asked && !mayLoseItems()) {
         return;
     }
     const QString question =
@@ -29,6 +35,10 @@ void MyTableController::Exit_App() {
             disconnect(subscription);
         }
         m_notifications.clear();
+        return;
+    }
+    // A search that went on may have found the first of them while the question stood.
+    if (!asked && hasUnsavedItems() && !mayLoseItems()) {
         return;
     }
     m_ending = true;

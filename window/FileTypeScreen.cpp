@@ -49,10 +49,15 @@ FileKind kindOf(const FileTypeRow& row) {
 
 }  // namespace
 
+// Whom the search field hides is left as it is.
 void MyTableController::Select_Unselect_Check_btn(QObject*) {
-    // A click on the box when only some are ticked ticks them all.
     const bool on = _select_unselect_Chk->isChecked();
-    setAllFileTypes(on);
+    if (typeSearchField->text().trimmed().isEmpty()) {
+        setAllFileTypes(on);
+    } else {
+        tickShown(on, [](const FileTypeRow&) { return true; });
+    }
+    showSelectAllState();
     showTypeCounts();
 }
 
@@ -60,8 +65,7 @@ void MyTableController::clickTable(QObject* sender) {
     if (sender != idCheckTableView || m_typeTable->identifier(m_clickedColumn) != kState) {
         return;
     }
-    _select_unselect_Chk->setChecked(
-        std::all_of(nsCheckedListDataObject.cbegin(), nsCheckedListDataObject.cend(), isTicked));
+    showSelectAllState();
     showTypeCounts();
 }
 
@@ -77,30 +81,46 @@ void MyTableController::buildGroupBoxes() {
     delete typeGroups->layout();
     auto* line = new WrapLayout(typeGroups, 2 * theme::kUnit);
     for (const FileKind kind : kKinds) {
-        const auto inKind = std::count_if(nsCheckedListDataObject.cbegin(), nsCheckedListDataObject.cend(),
-                                          [kind](const FileTypeRow& row) { return kindOf(row) == kind; });
+        const bool known = std::any_of(nsCheckedListDataObject.cbegin(), nsCheckedListDataObject.cend(),
+                                       [kind](const FileTypeRow& row) { return kindOf(row) == kind; });
         auto* box = new QCheckBox(typeGroups);
         box->setObjectName(QStringLiteral("typeGroup") + kindName(kind));
-        box->setText(tr("%1 (%2)").arg(kindName(kind), numberForPeople(static_cast<std::uint64_t>(inKind))));
         box->setAccessibleName(tr("All types of the group %1").arg(kindName(kind)));
-        connect(box, &QCheckBox::clicked, this,
-                [this, kind](bool on) { tickGroup(static_cast<int>(kind), on); });
+        connect(box, &QCheckBox::clicked, this, [this, kind](bool on) {
+            tickShown(on, [kind](const FileTypeRow& row) { return kindOf(row) == kind; });
+            showSelectAllState();
+            showTypeCounts();
+        });
         line->addWidget(box);
-        box->setVisible(inKind > 0);
+        box->setVisible(known);
         m_groupBoxes.append(box);
     }
     showTypeCounts();
 }
 
-void MyTableController::tickGroup(int kind, bool ticked) {
-    for (FileTypeRow& row : nsCheckedListDataObject) {
-        if (static_cast<int>(kindOf(row)) == kind) {
-            row[kState] = ticked;
+bool MyTableController::isTypeShown(qsizetype row) const {
+    return !idCheckTableView->isRowHidden(static_cast<int>(row));
+}
+
+void MyTableController::tickShown(bool ticked, const std::function<bool(const FileTypeRow&)>& belongs) {
+    for (qsizetype row = 0; row < nsCheckedListDataObject.size(); ++row) {
+        if (isTypeShown(row) && belongs(nsCheckedListDataObject.at(row))) {
+            nsCheckedListDataObject[row][kState] = ticked;
         }
     }
     fileTypeRowsChanged();
-    m_clickedColumn = 0;
-    clickTable(idCheckTableView);
+}
+
+// On when all are ticked, also when there are none; off and mixed when some are.
+void MyTableController::showSelectAllState() {
+    qsizetype shown = 0, ticked = 0;
+    for (qsizetype row = 0; row < nsCheckedListDataObject.size(); ++row) {
+        shown += isTypeShown(row) ? 1 : 0;
+        ticked += isTypeShown(row) && isTicked(nsCheckedListDataObject.at(row)) ? 1 : 0;
+    }
+    _select_unselect_Chk->setChecked(ticked == shown);
+    _select_unselect_Chk->setMixed(ticked > 0 && ticked < shown);
+    _select_unselect_Chk->setEnabled(shown > 0 || nsCheckedListDataObject.isEmpty());
 }
 
 void MyTableController::filterFileTypes(const QString& text) {
@@ -111,6 +131,9 @@ void MyTableController::filterFileTypes(const QString& text) {
                            type.value(kDescription).toString().contains(wanted, Qt::CaseInsensitive);
         idCheckTableView->setRowHidden(row, !found);
     }
+    _select_unselect_Chk->setText(wanted.isEmpty() ? tr("Select &all") : tr("Select &all shown"));
+    showSelectAllState();
+    showTypeCounts();
     showEmptyTypes(wanted);
 }
 
@@ -125,13 +148,13 @@ void MyTableController::showEmptyTypes(const QString& filter) {
 void MyTableController::showTypeCounts() {
     qsizetype ticked = 0;
     QList<qsizetype> ofKind(std::size(kKinds), 0), tickedOfKind(std::size(kKinds), 0);
-    for (const FileTypeRow& row : std::as_const(nsCheckedListDataObject)) {
+    for (qsizetype at = 0; at < nsCheckedListDataObject.size(); ++at) {
+        const FileTypeRow& row = nsCheckedListDataObject.at(at);
         const auto kind = static_cast<qsizetype>(kindOf(row));
-        ++ofKind[kind];
-        if (isTicked(row)) {
-            ++ticked;
-            ++tickedOfKind[kind];
-        }
+        const int shown = isTypeShown(at) ? 1 : 0;
+        ofKind[kind] += shown;
+        tickedOfKind[kind] += isTicked(row) ? shown : 0;
+        ticked += isTicked(row) ? 1 : 0;
     }
     typeCountLabel->setText(
         tr("%1 of %2 selected")
@@ -139,7 +162,10 @@ void MyTableController::showTypeCounts() {
                  numberForPeople(static_cast<std::uint64_t>(nsCheckedListDataObject.size()))));
     for (qsizetype kind = 0; kind < m_groupBoxes.size(); ++kind) {
         QCheckBox* box = m_groupBoxes.at(kind);
-        const bool all = tickedOfKind.at(kind) == ofKind.at(kind);
+        box->setText(tr("%1 (%2)").arg(kindName(static_cast<FileKind>(kind)),
+                                       numberForPeople(static_cast<std::uint64_t>(ofKind.at(kind)))));
+        box->setEnabled(ofKind.at(kind) > 0);
+        const bool all = ofKind.at(kind) > 0 && tickedOfKind.at(kind) == ofKind.at(kind);
         const bool some = !all && tickedOfKind.at(kind) > 0;
         box->setTristate(some);
         box->setCheckState(some ? Qt::PartiallyChecked : all ? Qt::Checked : Qt::Unchecked);

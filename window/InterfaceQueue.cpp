@@ -64,6 +64,11 @@ bool InterfaceQueue::isEmpty() const {
     return m_entries.empty();
 }
 
+bool InterfaceQueue::nextIsAwaited() const {
+    const std::lock_guard lock(m_lock);
+    return !m_entries.empty() && m_entries.front().ran;
+}
+
 void InterfaceQueue::close() {
     const std::lock_guard lock(m_lock);
     m_closed = true;

@@ -30,6 +30,8 @@ class InterfaceQueue {
     bool runOne();
 
     bool isEmpty() const;
+    // True when somebody waits for the oldest step, as those do who show or ask something.
+    bool nextIsAwaited() const;
 
     // Drops what is queued and releases everyone who waits; later steps are dropped too.
     void close();

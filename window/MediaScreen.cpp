@@ -49,18 +49,22 @@ void MyTableController::mediaChanged() {
 }
 
 void MyTableController::reloadMediaKeepingSelection() {
-    const QModelIndexList selected = idTableView->selectionModel()->selectedRows();
-    const QString identifier =
-        selected.isEmpty() ? QString()
-                           : nsMutaryOfDataObject.at(selected.constFirst().row())->nsStrDiskIdentifier;
+    const std::shared_ptr<MyDataObject> selected = selectedMedium();
+    const QString identifier = selected ? selected->nsStrDiskIdentifier : QString();
     rebuild();
     m_mediaTable->reloadData();
     selectMedium(identifier);
 }
 
+std::shared_ptr<MyDataObject> MyTableController::selectedMedium() const {
+    const QModelIndexList rows = idTableView->selectionModel()->selectedRows();
+    return rows.isEmpty() ? nullptr : nsMutaryOfDataObject.at(rows.constFirst().row());
+}
+
 void MyTableController::selectMedium(const QString& identifier) {
     for (qsizetype row = 0; row < nsMutaryOfDataObject.size() && !identifier.isEmpty(); ++row) {
-        if (nsMutaryOfDataObject.at(row)->nsStrDiskIdentifier == identifier) {
+        const std::shared_ptr<MyDataObject>& medium = nsMutaryOfDataObject.at(row);
+        if (medium && medium->nsStrDiskIdentifier == identifier) {
             idTableView->selectRow(static_cast<int>(row));
             return;
         }
@@ -89,7 +93,7 @@ void MyTableController::openImages(const QStringList& files) {
 }
 
 QIcon MyTableController::iconOfMedium(qsizetype row) const {
-    if (row < 0 || row >= nsMutaryOfDataObject.size()) {
+    if (row < 0 || row >= nsMutaryOfDataObject.size() || !nsMutaryOfDataObject.at(row)) {
         return {};
     }
     switch (kindOfMedium(nsMutaryOfDataObject.at(row)->nsStrDiskIdentifier)) {

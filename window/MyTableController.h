@@ -306,6 +306,8 @@ class MyTableController : public QObject,
     void showRangeHelp();
     void showFileTypeHelp();
     void showWhereWeAre();
+    QWidget* homeOfScreen() const;
+    void keyboardWentTo(const QWidget* from, QWidget* to);
     void bringIntoView(QWidget* widget);
     void emptyBrowsers();
     void emptyBrowserViews();
@@ -330,6 +332,7 @@ class MyTableController : public QObject,
     // window/MediaScreen.cpp
     void mediaChanged();
     void reloadMediaKeepingSelection();
+    std::shared_ptr<MyDataObject> selectedMedium() const;  // null as well for a row without a record
     void selectMedium(const QString& identifier);
     QIcon iconOfMedium(qsizetype row) const;
     // window/RangeScreen.cpp
@@ -340,7 +343,9 @@ class MyTableController : public QObject,
     void buildGroupBoxes();
     void filterFileTypes(const QString& text);
     void showEmptyTypes(const QString& filter);
-    void tickGroup(int kind, bool ticked);
+    bool isTypeShown(qsizetype row) const;
+    void tickShown(bool ticked, const std::function<bool(const FileTypeRow&)>& belongs);
+    void showSelectAllState();
     void showTypeCounts();
     // window/SearchEndBar.cpp
     void showSearchEnd();

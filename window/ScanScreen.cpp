@@ -183,6 +183,7 @@ void MyTableController::returnFromScanScreen(ControlSet set) {
         }
         _open_folder->hide();
         showSearchEnd();  // the alert says only that it failed
+        homeOfScreen()->setFocus();
     });
 }
 

@@ -4,6 +4,7 @@
 #include "catalogue/SignatureRecord.h"
 #include "results/RecoveryMode.h"
 #include "window/MyTableController.h"
+#include "window/widgets/AskingTurn.h"
 
 namespace vantor {
 
@@ -82,10 +83,12 @@ void MyTableController::drainQueue() {
         return;
     }
     m_draining = true;
-    while (!session && !m_ending && m_queue.runOne()) {
+    // What the search shows or asks waits until whatever the user has before him is closed.
+    while (!session && !m_ending && !(AskingTurn::isTaken() && m_queue.nextIsAwaited()) && m_queue.runOne()) {
     }
     m_draining = false;
-    if (!session && !m_ending && !scanRunning() && m_queue.isEmpty() && m_pump.isActive()) {
+    if (!session && !m_ending && !AskingTurn::isTaken() && !scanRunning() && m_queue.isEmpty() &&
+        m_pump.isActive()) {
         scanThreadsEnded();
     }
 }
@@ -134,7 +137,7 @@ void MyTableController::flushViews() {
         }
         const qint64 index = pending.scrollTo.exchange(-1);
         if (index >= 0) {
-            browserOf(set)->scrollIndexToVisible(index);
+            browserOf(set)->followIndex(index);
         }
     }
     if (m_resultRowsDirty.exchange(false)) {

@@ -81,12 +81,11 @@ void MyTableController::Next_btn(QObject*) {
 }
 
 void MyTableController::nextFromMedia() {
-    const QModelIndexList selected = idTableView->selectionModel()->selectedRows();
-    if (selected.isEmpty()) {
+    const std::shared_ptr<MyDataObject> medium = selectedMedium();
+    if (!medium) {
         runAlert({QStringLiteral("\nPlease select a storage media from list.")}, window);
         return;
     }
-    const std::shared_ptr<MyDataObject> medium = nsMutaryOfDataObject.at(selected.constFirst().row());
     screen_counter = 1;
     activeRange().fill(*medium);
     showEntireDiskHelp();
@@ -98,7 +97,7 @@ void MyTableController::nextFromMedia() {
     backButton->setEnabled(true);
     show_hide_1_screen(true);
     show_hide_2_screen(false);
-    activeRange().outlets().entireDisk->setFocus();
+    homeOfScreen()->setFocus();
 }
 
 void MyTableController::nextFromRange() {
@@ -119,7 +118,7 @@ void MyTableController::nextFromRange() {
     stop_now = 0;
     if (Recovery_MODE == kPhotoMode) {
         show_hide_3_screen_Photo(false);
-        _stop_scan->setFocus();
+        homeOfScreen()->setFocus();
         startScan(&ScanSession::Photo_Rec_Thread);
         return;
     }
@@ -128,7 +127,7 @@ void MyTableController::nextFromRange() {
     show_hide_3_screen_RawFile(false);
     typeSearchField->clear();
     buildGroupBoxes();
-    idCheckTableView->setFocus();
+    homeOfScreen()->setFocus();
 }
 
 void MyTableController::nextFromFileTypes() {
@@ -145,7 +144,7 @@ void MyTableController::nextFromFileTypes() {
     screen_counter = 3;
     show_hide_3_screen_RawFile(true);
     show_hide_4_screen_RawFile(false);
-    _stop_scan->setFocus();
+    homeOfScreen()->setFocus();
     startScan(&ScanSession::Raw_File_Rec_Thread);
 }
 
@@ -189,7 +188,7 @@ void MyTableController::backToMedia() {
     }
     setMode(kPhotoMode);
     Reload_Drive_list_Function();
-    idTableView->setFocus();
+    homeOfScreen()->setFocus();
 }
 
 void MyTableController::backToRange() {
@@ -206,6 +205,7 @@ void MyTableController::backToRange() {
     show_hide_2_screen(false);
     hideOpenFolderButtons();
     stop_now = 0;
+    homeOfScreen()->setFocus();
 }
 
 void MyTableController::backToFileTypes() {
@@ -220,7 +220,7 @@ void MyTableController::backToFileTypes() {
     stop_now = 0;
     m_desk->forget();
     m_looks->end();
-    idCheckTableView->setFocus();
+    homeOfScreen()->setFocus();
 }
 
 void MyTableController::showMediaHelp() {
@@ -274,6 +274,38 @@ void MyTableController::showWhereWeAre() {
             bringIntoView(window->focusWidget());
         }
     });
+}
+
+// Where the keyboard begins on the screen: never with a button that ends something.
+QWidget* MyTableController::homeOfScreen() const {
+    const bool photo = Recovery_MODE == kPhotoMode;
+    switch (screen_counter) {
+        case 0:
+            return idTableView;
+        case 1: {
+            const RangeOutlets& range = m_range[static_cast<std::size_t>(activeSet())]->outlets();
+            return range.sectorRange->isChecked() ? range.sectorRange : range.entireDisk;
+        }
+        case 2:
+            return photo ? static_cast<QWidget*>(imageBrowser) : idCheckTableView;
+        default:
+            return imageBrowser_2;
+    }
+}
+
+// In a window too small for the screen, what has the keyboard is in view. When what had it is no longer
+// there, the toolkit hands it to whatever comes next: a Return that was on its way would press it.
+void MyTableController::keyboardWentTo(const QWidget* from, QWidget* to) {
+    if (m_ending || to == nullptr || to->window() != window) {
+        return;
+    }
+    const bool leftBehind =
+        from != nullptr && from->window() == window && !(from->isEnabled() && from->isVisible());
+    if (leftBehind && homeOfScreen()->isVisible()) {
+        homeOfScreen()->setFocus();
+    } else if (body->isAncestorOf(to)) {
+        bringIntoView(to);
+    }
 }
 
 // Lists have scroll bars of their own and stay where they are.

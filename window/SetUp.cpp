@@ -90,6 +90,7 @@ void MyTableController::dressRangeSets() {
                            _End_Slider};
     photo.start = {_Start_slider_val, _Start_Slider, _Start_Sec_Min_val, _Start_Sec_Max_val};
     photo.end = {_End_slider_val, _End_Slider, _End_Sec_Min_val, _End_Sec_Max_val};
+    photo.reachHint = sliderReachHint;
     photo.path = _path;
     photo.diskIdentifier = _disk_identifier;
     photo.sectors = _sectors_val;
@@ -118,6 +119,7 @@ void MyTableController::dressRangeSets() {
                          _End_slider_val_Sig,    _End_Slider_Sig};
     sig.start = {_Start_slider_val_Sig, _Start_Slider_Sig, _Start_Sec_Min_val_Sig, _Start_Sec_Max_val_Sig};
     sig.end = {_End_slider_val_Sig, _End_Slider_Sig, _End_Sec_Min_val_Sig, _End_Sec_Max_val_Sig};
+    sig.reachHint = sliderReachHint_Sig;
     sig.path = _path_Sig;
     m_range[static_cast<std::size_t>(ControlSet::Sig)] = std::make_unique<RangePanel>(sig);
 }

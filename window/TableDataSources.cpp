@@ -56,7 +56,8 @@ qsizetype MyTableController::numberOfRowsInTableView(const QTableView* table) {
 
 QVariant MyTableController::tableView(const QTableView* table, const QString& objectValueForTableColumn,
                                       qsizetype row) {
-    try {
+    // A row that is gone meanwhile shows nothing.
+    return guarded([&]() -> QVariant {
         if (table == idTableView) {
             const auto& medium = rowAt(nsMutaryOfDataObject, row);
             return medium ? mediumCell(*medium, objectValueForTableColumn) : QVariant();
@@ -73,10 +74,8 @@ QVariant MyTableController::tableView(const QTableView* table, const QString& ob
                        ? QVariant(found.value(objectValueForTableColumn))
                        : QVariant();
         }
-    } catch (const PlatformException&) {
-        // A row that is gone meanwhile shows nothing.
-    }
-    return {};
+        return {};
+    });
 }
 
 void MyTableController::tableView(const QTableView* table, const QVariant& setObjectValue,
@@ -84,13 +83,12 @@ void MyTableController::tableView(const QTableView* table, const QVariant& setOb
     if (table != idCheckTableView) {
         return;
     }
-    try {
+    // The edit of a row that is gone is dropped.
+    guarded([&] {
         assertParameter(row >= 0 && row < nsCheckedListDataObject.size(),
                         "pRowIndex >= 0 && pRowIndex < [nsCheckedListDataObject count]");
         nsCheckedListDataObject[row][forTableColumn] = setObjectValue;
-    } catch (const PlatformException&) {
-        // The edit of a row that is gone is dropped.
-    }
+    });
 }
 
 }  // namespace vantor

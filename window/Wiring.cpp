@@ -7,6 +7,7 @@
 #include <QUrl>
 
 #include "window/MyTableController.h"
+#include "window/widgets/PressGuard.h"
 #include "window/widgets/Theme.h"
 
 namespace vantor {
@@ -26,6 +27,7 @@ QStringList localFiles(const QMimeData* data) {
 }  // namespace
 
 void MyTableController::wire() {
+    new PressGuard([this] { return screen_counter.load(); }, window);
     wireButtons();
     wireRangeSet(ControlSet::Photo);
     wireRangeSet(ControlSet::Sig);
@@ -58,12 +60,7 @@ void MyTableController::wire() {
     connect(imageBrowser_2, &QAbstractItemView::clicked, this, [this] { m_previewDue.start(0); });
     m_previewDue.setSingleShot(true);
     connect(&m_previewDue, &QTimer::timeout, this, &MyTableController::startDuePreview);
-    // In a window too small for the screen, what has the keyboard is in view.
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-        if (now != nullptr && body->isAncestorOf(now)) {
-            bringIntoView(now);
-        }
-    });
+    connect(qApp, &QApplication::focusChanged, this, &MyTableController::keyboardWentTo);
     constexpr int kPumpMilliseconds = 50;  // views follow a scan at most 20 times a second
     m_pump.setInterval(kPumpMilliseconds);
     connect(&m_pump, &QTimer::timeout, this, &MyTableController::pump);
@@ -131,14 +128,19 @@ void MyTableController::wireRangeSet(ControlSet set) {
     });
     for (QLineEdit* field : {outlets.start.value, outlets.end.value}) {
         m_notifications.append(
-            connect(field, &QLineEdit::textEdited, this, [this, field] { controlTextDidChange(field); }));
+            connect(field, &QLineEdit::textChanged, this, [this, field] { controlTextDidChange(field); }));
     }
 }
 
 void MyTableController::wireShortcuts() {
-    const auto press = [this](const QKeySequence& keys, QAbstractButton* button) {
+    const auto shortcut = [](const QKeySequence& keys, QWidget* owner) {
+        auto* made = new QShortcut(keys, owner);
+        made->setAutoRepeat(false);
+        return made;
+    };
+    const auto press = [&](const QKeySequence& keys, QAbstractButton* button) {
         // The shortcut of a button that is out of view or disabled is so too.
-        connect(new QShortcut(keys, button), &QShortcut::activated, button, &QAbstractButton::click);
+        connect(shortcut(keys, button), &QShortcut::activated, button, &QAbstractButton::click);
     };
     press(Qt::CTRL | Qt::Key_Q, exitButton);
     press(Qt::ALT | Qt::Key_Left, backButton);
@@ -147,12 +149,12 @@ void MyTableController::wireShortcuts() {
     press(Qt::Key_F5, refreshButton);
     press(Qt::CTRL | Qt::Key_O, openImageButton);
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
-        connect(new QShortcut(key, window), &QShortcut::activated, this, &MyTableController::pressDefault);
+        connect(shortcut(key, window), &QShortcut::activated, this, &MyTableController::pressDefault);
     }
     connect(new QShortcut(Qt::Key_Escape, typeSearchField, nullptr, nullptr, Qt::WidgetShortcut),
             &QShortcut::activated, typeSearchField, &QLineEdit::clear);
-    const auto save = [this](const QKeySequence& keys, QPushButton* photo, QPushButton* raw) {
-        connect(new QShortcut(keys, window), &QShortcut::activated, this, [photo, raw] {
+    const auto save = [&](const QKeySequence& keys, QPushButton* photo, QPushButton* raw) {
+        connect(shortcut(keys, window), &QShortcut::activated, this, [photo, raw] {
             QPushButton* button = photo->isVisible() ? photo : raw;
             if (button->isVisible()) {
                 button->click();
@@ -163,8 +165,12 @@ void MyTableController::wireShortcuts() {
     save(Qt::CTRL | Qt::SHIFT | Qt::Key_S, saveAllButton, saveAllButton_Sig);
 }
 
-// Return presses the button that has the keyboard, else Next.
+// Return presses the button that has the keyboard, else Next; from the search for types it leads to them.
 void MyTableController::pressDefault() {
+    if (window->focusWidget() == typeSearchField) {
+        idCheckTableView->takeKeyboard();
+        return;
+    }
     auto* focused = qobject_cast<QPushButton*>(window->focusWidget());
     (focused != nullptr && focused->isVisible() ? focused : nextButton)->click();
 }

@@ -4,6 +4,7 @@
 #include <QAbstractSlider>
 #include <QAccessible>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QFile>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -23,7 +24,7 @@ class Accessible : public WindowTest {
             const bool isControl =
                 qobject_cast<QAbstractButton*>(widget) || qobject_cast<QAbstractSlider*>(widget) ||
                 qobject_cast<QLineEdit*>(widget) || qobject_cast<QAbstractItemView*>(widget) ||
-                qobject_cast<QProgressBar*>(widget);
+                qobject_cast<QProgressBar*>(widget) || qobject_cast<QComboBox*>(widget);
             const bool isInner = widget->objectName().startsWith(QLatin1String("qt_")) ||
                                  widget->inherits("QScrollBar") || widget->inherits("QHeaderView") ||
                                  widget->inherits("QTableCornerButton") ||
@@ -117,6 +118,31 @@ TEST_F(Accessible, AnActionDoesWhatAClickDoes) {
     auto* documents = controller->window->findChild<QCheckBox*>(QStringLiteral("typeGroupDocuments"));
     toggle(documents);
     EXPECT_EQ(controller->typeCountLabel->text(), QStringLiteral("3 of 4 selected"));
+}
+
+TEST_F(Accessible, ABoxOfChoicesIsCalledByWhatIsChosen_AndSaysWhatIs) {
+    openWithCard();
+    controller->show_hide_1_screen(true);
+    controller->show_hide_3_screen_Photo(false);
+    QAccessibleInterface* box = QAccessible::queryAccessibleInterface(controller->sortBox);
+    EXPECT_EQ(box->role(), QAccessible::ComboBox);
+    EXPECT_EQ(box->text(QAccessible::Name), QStringLiteral("How the items are sorted"));
+    EXPECT_EQ(box->text(QAccessible::Value), QStringLiteral("As found"));
+    controller->sortBox->setCurrentIndex(1);
+    EXPECT_EQ(box->text(QAccessible::Name), QStringLiteral("How the items are sorted"));
+    EXPECT_EQ(box->text(QAccessible::Value), controller->sortBox->itemText(1));
+    ASSERT_EQ(box->childCount(), 1);
+    EXPECT_EQ(box->indexOfChild(box->child(0)), 0);
+    EXPECT_EQ(box->child(0)->object(), controller->sortBox->view());
+    EXPECT_FALSE(box->state().expanded);
+    box->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+    EXPECT_TRUE(controller->sortBox->view()->isVisible());
+    EXPECT_TRUE(box->state().expanded);
+    box->actionInterface()->doAction(QAccessibleActionInterface::showMenuAction());
+    EXPECT_FALSE(controller->sortBox->view()->isVisible());
+    // Without a name of its own the label beside it names it.
+    controller->sortBox->setAccessibleName({});
+    EXPECT_EQ(box->text(QAccessible::Name), QStringLiteral("Sort"));
 }
 
 TEST_F(Accessible, RolesAndStatesFollowTheControls) {

@@ -1,4 +1,5 @@
 // The way out: question, preview files, and what a refusal costs.
+#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -136,6 +137,81 @@ TEST_F(Exit, DuringAScanToo_AsksAboutUnsavedItemsFirst) {
     gate.open();
     EXPECT_TRUE(scanEnds());
 }
+
+// Nothing was found when the question came up, and a photo while it stood.
+TEST_F(Exit, ItemsFoundWhileTheQuestionStands_AreAskedForAtTheAnswer) {
+    Gate gate;
+    openWithCard();
+    toRange(kPhotoMode);
+    card.beforeRead = gate.atRead(3);
+    click(controller->nextButton);
+    ASSERT_TRUE(waitFor([&] { return gate.someoneWaits(); }));
+    ASSERT_EQ(controller->itemCount(), 0u);
+    answers.then([&](QDialog* question) {
+        gate.open();
+        EXPECT_TRUE(waitFor([this] { return controller->itemCount() > 0; }));
+        pressButton(question, QStringLiteral("Yes"));
+    });
+    answers.press(QStringLiteral("Stay"));
+    answers.press(QStringLiteral("OK"));
+    click(controller->exitButton);
+    ASSERT_GE(answers.seen().size(), 2u);
+    EXPECT_EQ(answers.seen()[0].text, kQuestion);
+    EXPECT_EQ(answers.seen()[1].text, QStringLiteral("\nSome of the found items have not been saved."));
+    EXPECT_EQ(terminations, 0);
+    ASSERT_TRUE(scanEnds());
+    EXPECT_EQ(controller->itemCount(), 3u);
+}
+
+// Counts how often the window looks at what its threads have for it.
+class Looks : public QObject {
+  public:
+    explicit Looks(QObject* window) : m_window(window) { qApp->installEventFilter(this); }
+    int count = 0;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        count += watched == m_window && event->type() == QEvent::MetaCall;
+        return false;
+    }
+
+  private:
+    QObject* m_window;
+};
+
+class EndPanel : public Exit, public ::testing::WithParamInterface<bool> {};
+
+TEST_P(EndPanel, WaitsUntilWhatStandsOverTheWindowIsClosed) {
+    const bool help = GetParam();
+    Gate gate;
+    openWithCard();
+    toRange(kPhotoMode);
+    click(controller->_Thro_Mode_Chk);
+    card.beforeRead = gate.atRead(60);
+    click(controller->nextButton);
+    ASSERT_TRUE(waitFor([&] { return gate.someoneWaits() && controller->itemCount() == 1; }));
+    QPointer<QDialog> standing;
+    answers.then([&](QDialog* over) {
+        standing = over;
+        gate.open();
+        EXPECT_TRUE(waitFor([this] { return controller->for_index == controller->end_sector; }));
+        const Looks looks(controller.get());
+        EXPECT_TRUE(waitFor([&] { return looks.count > 5; }));
+        EXPECT_EQ(QApplication::activeModalWidget(), over);
+        EXPECT_TRUE(controller->scanRunning()) << "it waits to show its end";
+        pressButton(over, help ? QStringLiteral("Continue") : QStringLiteral("Stay"));
+    });
+    answers.then([&](QDialog* panel) {
+        EXPECT_EQ(panel, controller->SaveFile_Info_Window);
+        EXPECT_TRUE(standing == nullptr || !standing->isVisible());
+        pressButton(panel, QStringLiteral("OK"));
+    });
+    click(help ? controller->helpButton : controller->exitButton);
+    ASSERT_TRUE(scanEnds());
+    EXPECT_TRUE(controller->backButton->isEnabled());
+}
+
+INSTANTIATE_TEST_SUITE_P(HelpAndQuestion, EndPanel, ::testing::Bool());
 
 TEST_F(Exit, AfterStay_TheScanGoesOnAndNotificationsArrive) {
     Gate gate;

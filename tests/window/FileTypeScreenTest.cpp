@@ -1,4 +1,6 @@
 // The file-type list: its rows, its ticks, and what they make of the catalogues.
+#include <QAccessible>
+#include <QCheckBox>
 #include <QHeaderView>
 #include <QLineEdit>
 
@@ -207,6 +209,95 @@ TEST_F(FileTypes, SearchHidesRowsAndKeepsTheirTicks) {
     controller->typeSearchField->clear();
     EXPECT_FALSE(controller->idCheckTableView->isRowHidden(0));
     EXPECT_EQ(controller->typeCountLabel->text(), QStringLiteral("4 of 4 selected"));
+}
+
+TEST_F(FileTypes, ReturnInTheSearchField_LeadsToTheListAndStartsNothing) {
+    openWithCard();
+    toFileTypes(kRawFileMode);
+    click(controller->typeSearchField);
+    QTest::keyClicks(controller->typeSearchField, QStringLiteral("archive"));
+    QTest::keyClick(controller->typeSearchField, Qt::Key_Return);
+    EXPECT_EQ(controller->screen_counter, 2);
+    EXPECT_EQ(controller->window->focusWidget(), controller->idCheckTableView);
+    QTest::keyClick(controller->idCheckTableView, Qt::Key_Space);
+    EXPECT_FALSE(ticked("ZIP")) << "a row that is in view is at hand";
+    controller->typeSearchField->setFocus();
+    controller->typeSearchField->setText(QStringLiteral("no such type"));
+    QTest::keyClick(controller->typeSearchField, Qt::Key_Enter);
+    EXPECT_EQ(controller->screen_counter, 2);
+    EXPECT_EQ(controller->window->focusWidget(), controller->typeSearchField) << "there is no row to go to";
+}
+
+TEST_F(FileTypes, SelectAll_ActsOnWhatTheSearchFieldShows) {
+    openWithCard();
+    toFileTypes(kRawFileMode);
+    QCheckBox* const all = controller->_select_unselect_Chk;
+    QTest::keyClicks(controller->typeSearchField, QStringLiteral("document"));
+    ASSERT_TRUE(all->isChecked());
+    const QStringList before = extensions();
+    click(all);
+    EXPECT_FALSE(ticked("PDF"));
+    EXPECT_FALSE(ticked("doc"));
+    EXPECT_TRUE(ticked("ZIP"));
+    EXPECT_TRUE(ticked("TXT"));
+    EXPECT_EQ(extensions(), before);
+    EXPECT_FALSE(all->isChecked());
+    EXPECT_EQ(controller->typeCountLabel->text(), QStringLiteral("2 of 4 selected"));
+    controller->typeSearchField->setText(QStringLiteral("archive"));
+    EXPECT_TRUE(all->isChecked()) << "what is shown is ticked";
+    controller->typeSearchField->setText(QStringLiteral("no such type"));
+    EXPECT_FALSE(all->isEnabled());
+    controller->typeSearchField->clear();
+    EXPECT_TRUE(all->isEnabled());
+    EXPECT_FALSE(all->isChecked());
+    click(all);
+    EXPECT_EQ(controller->typeCountLabel->text(), QStringLiteral("4 of 4 selected"));
+}
+
+TEST_F(FileTypes, AGroup_ActsOnWhatTheSearchFieldShows) {
+    openWithCard();
+    toFileTypes(kRawFileMode);
+    auto* documents = controller->window->findChild<QCheckBox*>(QStringLiteral("typeGroupDocuments"));
+    auto* archives = controller->window->findChild<QCheckBox*>(QStringLiteral("typeGroupArchives"));
+    QTest::keyClicks(controller->typeSearchField, QStringLiteral("pdf"));
+    EXPECT_EQ(documents->text(), QStringLiteral("Documents (1)"));
+    EXPECT_FALSE(archives->isEnabled());
+    click(documents);
+    EXPECT_FALSE(ticked("PDF"));
+    EXPECT_TRUE(ticked("doc"));
+    EXPECT_TRUE(ticked("TXT"));
+    EXPECT_EQ(documents->checkState(), Qt::Unchecked);
+    controller->typeSearchField->clear();
+    EXPECT_EQ(documents->text(), QStringLiteral("Documents (3)"));
+    EXPECT_EQ(documents->checkState(), Qt::PartiallyChecked);
+    EXPECT_TRUE(archives->isEnabled());
+}
+
+// Off, as it is whenever a type is not ticked, and yet seen and told apart from none.
+TEST_F(FileTypes, SelectAll_ShowsThatSomeAreTicked) {
+    openWithCard();
+    toFileTypes(kRawFileMode);
+    QCheckBox* const all = controller->_select_unselect_Chk;
+    const auto face = [all] { return QAccessible::queryAccessibleInterface(all)->state(); };
+    const auto look = [all] { return all->grab().toImage(); };
+    all->clearFocus();
+    click(all);
+    controller->idCheckTableView->setFocus();
+    const QImage none = look();
+    EXPECT_FALSE(face().checkStateMixed);
+    clickCell(0, 0);
+    controller->idCheckTableView->setFocus();
+    EXPECT_FALSE(all->isChecked());
+    EXPECT_TRUE(face().checkStateMixed);
+    EXPECT_FALSE(face().checked);
+    EXPECT_NE(look(), none);
+    click(all);
+    EXPECT_TRUE(all->isChecked()) << "a click ticks the rest";
+    EXPECT_FALSE(face().checkStateMixed);
+    EXPECT_EQ(controller->typeCountLabel->text(), QStringLiteral("4 of 4 selected"));
+    click(all);
+    controller->idCheckTableView->setFocus();
+    EXPECT_EQ(look(), none);
 }
 
 TEST_F(FileTypes, AGroupIsTickedAtOnce) {

@@ -246,6 +246,63 @@ TEST_F(Flow, Back_WhenNothingWasFound_AsksNothing) {
     EXPECT_EQ(controller->screen_counter, 1);
 }
 
+TEST_F(Flow, Back_FromTheResults_PutsZoomsBackAsAtTheStart) {
+    openWithCard();
+    toRange(kPhotoMode);
+    scanToEnd();
+    controller->_zoom_slider->setValue(controller->_zoom_slider->maximum());
+    controller->imageBrowser_2->setZoomValue(0.9F);
+    ASSERT_FLOAT_EQ(controller->imageBrowser->zoomValue(), 1.0F);
+    answers.press(QStringLiteral("Go Back Without Saving"));
+    click(controller->backButton);
+    EXPECT_EQ(controller->_zoom_slider->value() * 2, controller->_zoom_slider->maximum());
+    EXPECT_FLOAT_EQ(controller->imageBrowser->zoomValue(), 0.55F) << "the slider's place does not decide";
+    EXPECT_FLOAT_EQ(controller->imageBrowser_2->zoomValue(), 0.05F);
+}
+
+TEST_F(Flow, Back_FromTheFileTypes_PutsZoomsBackToo) {
+    openWithCard();
+    toFileTypes(kRawFileMode);
+    controller->_zoom_slider->setValue(controller->_zoom_slider->maximum());
+    controller->imageBrowser_2->setZoomValue(0.9F);
+    click(controller->backButton);
+    EXPECT_EQ(controller->_zoom_slider->value() * 2, controller->_zoom_slider->maximum());
+    EXPECT_FLOAT_EQ(controller->imageBrowser->zoomValue(), 0.55F);
+    EXPECT_FLOAT_EQ(controller->imageBrowser_2->zoomValue(), 0.05F);
+}
+
+TEST_F(Flow, Next_OnTheFirstScreen_SwitchesThoroughSearchOn) {
+    openWithCard();
+    toRange(kPhotoMode);
+    click(controller->_Thro_Mode_Chk);
+    ASSERT_FALSE(controller->_Thro_Mode_Chk->isChecked());
+    click(controller->backButton);
+    toRange(kPhotoMode);
+    EXPECT_TRUE(controller->_Thro_Mode_Chk->isChecked());
+}
+
+TEST_F(Flow, Next_OnTheRangeScreen_SwitchesTheBoxesOfTheFileTypesOn) {
+    openWithCard();
+    toFileTypes(kRawFileMode);
+    click(controller->_Thro_Mode_Chk_SIG);
+    click(controller->_select_unselect_Chk);
+    ASSERT_FALSE(controller->_Thro_Mode_Chk_SIG->isChecked());
+    ASSERT_FALSE(controller->_select_unselect_Chk->isChecked());
+    click(controller->backButton);
+    click(controller->nextButton);
+    EXPECT_TRUE(controller->_Thro_Mode_Chk_SIG->isChecked());
+    EXPECT_TRUE(controller->_select_unselect_Chk->isChecked());
+    // In photo mode too, where the boxes are not in view.
+    click(controller->_Thro_Mode_Chk_SIG);
+    click(controller->_select_unselect_Chk);
+    click(controller->backButton);
+    click(controller->backButton);
+    toRange(kPhotoMode);
+    scanToEnd();
+    EXPECT_TRUE(controller->_Thro_Mode_Chk_SIG->isChecked());
+    EXPECT_TRUE(controller->_select_unselect_Chk->isChecked());
+}
+
 TEST_F(Flow, TheWizardIsDrivenByKeyboardAlone) {
     openWithCard();
     controller->idTableView->setFocus();

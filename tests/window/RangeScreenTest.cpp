@@ -1,4 +1,5 @@
 // The search range: sliders, fields and the checks behind Next, for both sets of controls.
+#include <QAccessible>
 #include <QLineEdit>
 
 #include "results/RecoveryMode.h"
@@ -30,6 +31,32 @@ class RangeScreen : public WindowTest, public ::testing::WithParamInterface<int>
         return photo() ? controller->_Start_Slider : controller->_Start_Slider_Sig;
     }
     SectorSlider* endSlider() { return photo() ? controller->_End_Slider : controller->_End_Slider_Sig; }
+    QLabel* hint() { return photo() ? controller->sliderReachHint : controller->sliderReachHint_Sig; }
+    QLineEdit* path() { return photo() ? controller->_path : controller->_path_Sig; }
+    QLabel* label(const char* name) {
+        return controller->window->findChild<QLabel*>(QLatin1String(name) +
+                                                      QLatin1String(photo() ? "" : "_Sig"));
+    }
+    QLabel* startMin() { return label("_Start_Sec_Min_val"); }
+    QLabel* startMax() { return label("_Start_Sec_Max_val"); }
+    QLabel* endMin() { return label("_End_Sec_Min_val"); }
+    QLabel* endMax() { return label("_End_Sec_Max_val"); }
+    QList<QLabel*> captions() {
+        return {label("_disk"),
+                label("_vol_name"),
+                label("_file_system"),
+                label("_size"),
+                label("_start_sector_entire"),
+                label("_end_sector_entire")};
+    }
+    QList<QLabel*> facts() {
+        return {label("_disk_val"),
+                label("_vol_name_val"),
+                label("_file_system_val"),
+                label("_size_val"),
+                label("_start_sector_entire_val"),
+                label("_end_sector_entire_val")};
+    }
     QLabel* volume() { return photo() ? controller->_vol_name_val : controller->_vol_name_val_Sig; }
 
     static void type(QLineEdit* field, const QString& text) {
@@ -130,6 +157,143 @@ TEST_P(RangeScreen, TypedTextMovesTheSliderAndStaysAsTyped) {
     startField()->setText(QStringLiteral("abc"));
     controller->controlTextDidChange(startField());
     EXPECT_EQ(startSlider()->value(), 50) << "text that is no number does not move the slider";
+}
+
+TEST_P(RangeScreen, AnEndBeyondTheMedium_LeavesTheSliderWhereItWas) {
+    openRange(1000);
+    choose(range());
+    type(endField(), QStringLiteral("700"));
+    ASSERT_EQ(endSlider()->value(), 700);
+    type(endField(), QStringLiteral("1000"));
+    EXPECT_EQ(endSlider()->value(), 1000) << "one past the last sector is allowed";
+    for (const char* beyond : {"1001", "99999999999999999999"}) {
+        type(endField(), QStringLiteral("700"));
+        endField()->setText(QString::fromLatin1(beyond));
+        EXPECT_EQ(endSlider()->value(), 700) << beyond;
+        EXPECT_EQ(endField()->text(), QString::fromLatin1(beyond));
+    }
+    EXPECT_EQ(startSlider()->value(), 0);
+}
+
+// A screen reader sets values without a key or a mouse.
+TEST_P(RangeScreen, WhatAssistiveTechnologySets_IsFollowedLikeWhatIsTyped) {
+    openRange(1000);
+    choose(range());
+    const auto face = [](QWidget* widget) { return QAccessible::queryAccessibleInterface(widget); };
+    face(startSlider())->valueInterface()->setCurrentValue(40);
+    EXPECT_EQ(startField()->text(), QStringLiteral("40"));
+    EXPECT_EQ(endField()->text(), QStringLiteral("1000"));
+    face(endSlider())->valueInterface()->setCurrentValue(900);
+    EXPECT_EQ(endField()->text(), QStringLiteral("900"));
+    face(startField())->setText(QAccessible::Value, QStringLiteral("0050"));
+    EXPECT_EQ(startSlider()->value(), 50);
+    EXPECT_EQ(startField()->text(), QStringLiteral("0050")) << "the slider that follows writes nothing";
+    face(endField())->setText(QAccessible::Value, QStringLiteral("800"));
+    EXPECT_EQ(endSlider()->value(), 800);
+    EXPECT_EQ(startSlider()->value(), 50);
+}
+
+TEST_P(RangeScreen, WhereTheSlidersDoNotReach_TheScreenSaysSo) {
+    openRange(2'147'483'648);
+    EXPECT_FALSE(hint()->isVisible()) << "there are no sliders while the entire disk is chosen";
+    choose(range());
+    EXPECT_TRUE(hint()->isVisible());
+    EXPECT_TRUE(hint()->text().contains(QStringLiteral("type the sector"))) << hint()->text().toStdString();
+    settle();
+    EXPECT_GE(hint()->height(), hint()->heightForWidth(hint()->width()));
+    choose(entire());
+    EXPECT_FALSE(hint()->isVisible());
+}
+
+TEST_P(RangeScreen, WhereTheSlidersReachAll_NothingIsSaid) {
+    openRange(2'147'483'647);
+    choose(range());
+    EXPECT_FALSE(hint()->isVisible());
+}
+
+TEST_P(RangeScreen, TheTextsBesideTheSlidersAreThoseOfTheMedium) {
+    openRange(1000);
+    const auto expectTexts = [this] {
+        EXPECT_EQ(startMin()->text(), QStringLiteral("0"));
+        EXPECT_EQ(startMax()->text(), QStringLiteral("1000"));
+        EXPECT_EQ(endMin()->text(), QStringLiteral("0"));
+        EXPECT_EQ(endMax()->text(), QStringLiteral("1000"));
+        EXPECT_EQ(startField()->text(), QStringLiteral("0"));
+        EXPECT_EQ(endField()->text(), QStringLiteral("1000"));
+        EXPECT_EQ(startSlider()->minimum(), 0);
+        EXPECT_EQ(startSlider()->maximum(), 1000);
+        EXPECT_EQ(startSlider()->value(), 0);
+        EXPECT_EQ(endSlider()->minimum(), 0);
+        EXPECT_EQ(endSlider()->maximum(), 1000);
+        EXPECT_EQ(endSlider()->value(), 1000);
+    };
+    expectTexts();
+    for (QLabel* label : {startMin(), startMax(), endMin(), endMax()}) {
+        label->setText(QStringLiteral("odd"));
+    }
+    choose(range());
+    expectTexts();
+    type(startField(), QStringLiteral("5"));
+    type(endField(), QStringLiteral("6"));
+    for (QLabel* label : {startMin(), startMax(), endMin(), endMax()}) {
+        label->setText(QStringLiteral("odd"));
+    }
+    click(controller->backButton);
+    toRange(GetParam());
+    expectTexts();
+}
+
+TEST_P(RangeScreen, CaptionsAndFactsAreThereForTheEntireDiskOnly_TheOthersForTheRange) {
+    openRange(1000);
+    const auto expectFacts = [this](bool shown) {
+        for (const QLabel* label : captions() + facts()) {
+            EXPECT_EQ(label->isVisible(), shown) << label->objectName().toStdString();
+        }
+        for (const QWidget* control :
+             std::initializer_list<const QWidget*>{startField(), endField(), startSlider(), endSlider(),
+                                                   startMin(), startMax(), endMin(), endMax()}) {
+            EXPECT_EQ(control->isVisible(), !shown) << control->objectName().toStdString();
+        }
+    };
+    expectFacts(true);
+    choose(range());
+    expectFacts(false);
+    choose(entire());
+    expectFacts(true);
+}
+
+TEST_P(RangeScreen, AMediumThatIsChosen_EmptiesTheDestination) {
+    openRange(1000);
+    path()->setText(QStringLiteral("/some/where"));
+    click(controller->backButton);
+    EXPECT_EQ(path()->text(), QStringLiteral("/some/where"));
+    toRange(GetParam());
+    EXPECT_EQ(path()->text(), QString());
+}
+
+// No click makes the radio buttons both on or both off; nothing is made of it when they are.
+TEST_P(RangeScreen, BothRadiosAlike_ChooseNothing) {
+    openRange(64);
+    for (QRadioButton* radio : {entire(), range()}) {
+        radio->setAutoExclusive(false);
+    }
+    for (const bool on : {true, false}) {
+        entire()->setChecked(on);
+        range()->setChecked(on);
+        startField()->setText(QStringLiteral("no number"));
+        if (photo()) {
+            answers.press(QStringLiteral("OK"));  // to the alert that nothing was read
+            scanToEnd();
+            EXPECT_EQ(controller->end_sector, 0u) << "neither the disk nor a range is searched";
+        } else {
+            click(controller->nextButton);
+        }
+        ASSERT_EQ(controller->screen_counter, 2) << "there is no range to refuse";
+        controller->_help_info->setText(QStringLiteral("as it was"));
+        click(controller->backButton);
+        ASSERT_EQ(controller->screen_counter, 1);
+        EXPECT_EQ(controller->_help_info->text(), QStringLiteral("as it was"));
+    }
 }
 
 TEST_P(RangeScreen, OtherFieldsMoveNoSlider) {

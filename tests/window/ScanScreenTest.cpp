@@ -49,6 +49,30 @@ TEST_F(ScanScreen, WhileAScanRuns_TheScreenSaysSoAndTheWizardStands) {
     EXPECT_TRUE(scanEnds());
 }
 
+// The search may end between two ticks.
+TEST_F(ScanScreen, TheLastTickShowsThatAllWasSearched) {
+    openWithCard();
+    toRange(kPhotoMode);
+    click(controller->_Thro_Mode_Chk);
+    scanToEnd();
+    EXPECT_EQ(controller->_sector_label->text(), QStringLiteral("Sectors 64 of 64   ( Completed 100% )"));
+    EXPECT_EQ(controller->_Progress_Horz->value(), controller->_Progress_Horz->maximum());
+}
+
+TEST_F(ScanScreen, WhileTheEndPanelStands_TheWordToStopDoes) {
+    openWithCard();
+    toFileTypes(kRawFileMode);
+    int stop = -1;
+    answers.then([&](QDialog* panel) {
+        stop = controller->stop_now;
+        pressButton(panel, QStringLiteral("OK"));
+    });
+    click(controller->nextButton);
+    ASSERT_TRUE(scanEnds());
+    EXPECT_EQ(stop, 1) << "whatever still runs ends";
+    EXPECT_EQ(controller->stop_now, 0);
+}
+
 class StoppedScan : public ScanScreen, public ::testing::WithParamInterface<int> {};
 
 TEST_P(StoppedScan, Stop_EndsItOnceWithWhatWasFound) {

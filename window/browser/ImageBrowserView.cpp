@@ -1,6 +1,7 @@
 // Set-up, zoom and selection of the browsers.
 #include "window/browser/ImageBrowserView.h"
 
+#include <QKeyEvent>
 #include <QScrollBar>
 #include <algorithm>
 
@@ -31,6 +32,18 @@ ImageBrowserView::ImageBrowserView(QWidget* parent)
     setItemDelegate(new ImageCell(this));
     setModel(m_model);
     setZoomValue(0);
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &ImageBrowserView::seeWhetherAtEnd);
+    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, [this](int least, int most) {
+        // Items that are added lead nobody away from the end.
+        if (least == most) {
+            m_atEnd = true;
+        }
+    });
+}
+
+void ImageBrowserView::seeWhetherAtEnd() {
+    const QScrollBar& bar = *verticalScrollBar();
+    m_atEnd = bar.maximum() - bar.value() < gridSize().height() / 2;
 }
 
 void ImageBrowserView::setDataSource(ImageBrowserDataSource* source) {
@@ -56,6 +69,13 @@ void ImageBrowserView::scrollIndexToVisible(qsizetype index) {
     const int row = m_model->rowOfIndex(static_cast<int>(index));
     if (row >= 0) {
         scrollTo(m_model->index(row));
+    }
+}
+
+void ImageBrowserView::followIndex(qsizetype index) {
+    if (m_atEnd) {
+        scrollIndexToVisible(index);
+        m_atEnd = true;  // with some more behind it, perhaps
     }
 }
 
@@ -175,6 +195,23 @@ void ImageBrowserView::focusInEvent(QFocusEvent* event) {
     if (!currentIndex().isValid() && m_model->rowCount() > 0) {
         selectionModel()->setCurrentIndex(m_model->index(0, 0), QItemSelectionModel::NoUpdate);
     }
+}
+
+// Also for whom the list followed a search while the current item stayed where it was.
+void ImageBrowserView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Home) {
+        scrollToTop();
+    } else if (event->key() == Qt::Key_End) {
+        scrollToBottom();
+    }
+    QListView::keyPressEvent(event);
+}
+
+QModelIndex ImageBrowserView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    if (action == MoveEnd && m_model->rowCount() > 0) {
+        return m_model->index(m_model->rowCount() - 1);  // without a current item too
+    }
+    return QListView::moveCursor(action, modifiers);
 }
 
 void ImageBrowserView::paintEvent(QPaintEvent* event) {

@@ -33,6 +33,8 @@ class ImageBrowserView : public QListView {
 
     // Items by their places in the list, whatever the order.
     void scrollIndexToVisible(qsizetype index);
+    // The same for whom the end of the list is in view; who has looked back is left there.
+    void followIndex(qsizetype index);
     QList<qsizetype> selectionIndexes() const;  // ascending
     qsizetype selectedCount() const;
     std::vector<std::size_t> indexesInView() const;
@@ -51,6 +53,8 @@ class ImageBrowserView : public QListView {
 
   protected:
     void focusInEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void paintEvent(QPaintEvent* event) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
     void startDrag(Qt::DropActions) override {}
@@ -58,10 +62,12 @@ class ImageBrowserView : public QListView {
   private:
     QItemSelection rangesOf(const QList<qsizetype>& indexes) const;
     void describeState();
+    void seeWhetherAtEnd();
 
     ImageBrowserModel* m_model;
     float m_zoom = 0;
     bool m_reordering = false;
+    bool m_atEnd = true;
     QIcon m_emptyPicture;
     QString m_emptyTitle, m_emptyAdvice;
 };

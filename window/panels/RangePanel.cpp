@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QSignalBlocker>
 
 #include "catalogue/NumberText.h"
 #include "media/MyDataObject.h"
@@ -14,6 +15,12 @@ namespace vantor {
 namespace {
 
 const QString kFirstSector = QStringLiteral("0");
+
+// The slider stands there already and does not follow.
+void setText(const RangeEnd& end, const QString& sector) {
+    const QSignalBlocker quiet(end.value);
+    end.value->setText(sector);
+}
 
 template <class Widgets>
 void setHidden(const Widgets& widgets, bool hidden) {
@@ -62,9 +69,9 @@ void RangePanel::resetBounds(const QString& sectors) {
         end.maximum->setText(sectors);
     }
     m_outlets.start.slider->setDoubleValue(0);
-    m_outlets.start.value->setText(kFirstSector);
+    setText(m_outlets.start, kFirstSector);
     m_outlets.end.slider->setDoubleValue(count);
-    m_outlets.end.value->setText(sectors);
+    setText(m_outlets.end, sectors);
 }
 
 void RangePanel::chooseEntireDisk() {
@@ -89,6 +96,7 @@ void RangePanel::showChosen() {
     }
     setHidden(m_outlets.captions, !entire);
     setHidden(m_outlets.values, !entire);
+    m_outlets.reachHint->setVisible(!entire && !m_outlets.start.slider->reachesAll());
     if (!entire) {
         setHidden(m_outlets.rangeControls, false);
     }
@@ -103,7 +111,7 @@ bool RangePanel::sectorRangeOn() const {
 }
 
 void RangePanel::copySliderToText(const RangeEnd& end) {
-    end.value->setText(QString::number(end.slider->intValue()));
+    setText(end, QString::number(end.slider->intValue()));
 }
 
 bool RangePanel::textDidChange(const QLineEdit* field) {

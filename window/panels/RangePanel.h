@@ -35,6 +35,7 @@ struct RangeOutlets {
     QList<QLabel*> values;          // in the same order
     QList<QWidget*> rangeControls;  // explanation and both groups with all they hold
     RangeEnd start, end;
+    QLabel* reachHint = nullptr;  // of a medium with more sectors than the sliders reach
     QLineEdit* path = nullptr;
     QLabel* diskIdentifier = nullptr;  // shared by both sets
     QLabel* sectors = nullptr;         // shared by both sets
@@ -62,8 +63,8 @@ class RangePanel {
 
     // A slider was moved: its sector goes into the field beside it.
     void copySliderToText(const RangeEnd& end);
-    // A text was typed: the slider follows unless the number is beyond the medium. False when the field is
-    // not ours.
+    // A text was typed or set by assistive technology: the slider follows unless the number is beyond the
+    // medium. False when the field is not ours.
     bool textDidChange(const QLineEdit* field);
 
     // What the controls say, for the scan.

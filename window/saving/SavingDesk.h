@@ -22,7 +22,6 @@ namespace vantor {
 class MyImageObject;
 class SaveJob;
 struct ChosenItem;
-struct ChosenItem;
 struct SaveRequest;
 
 // What saving needs of the program around it; everything is called on the interface thread.

@@ -83,6 +83,14 @@ bool ListTable::currentRowInView() const {
     return currentIndex().isValid() && !isRowHidden(currentIndex().row());
 }
 
+void ListTable::takeKeyboard() {
+    const int row = currentRowInView() ? currentIndex().row() : firstRowInView();
+    if (row >= 0) {
+        selectRow(row);
+        setFocus();
+    }
+}
+
 void ListTable::paintEvent(QPaintEvent* event) {
     QTableView::paintEvent(event);
     if (firstRowInView() < 0) {

@@ -17,6 +17,9 @@ class ListTable : public QTableView {
     // Shown in the middle of the table while no row is in view; also read out then.
     void setEmptyState(const QIcon& picture, const QString& title, const QString& advice);
 
+    // Gets the keyboard with a row at hand; stays without while no row is in view.
+    void takeKeyboard();
+
   signals:
     // Space was pressed; the tick box of the row has changed already.
     void tickedByKeyboard();
