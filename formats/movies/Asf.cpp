@@ -61,28 +61,29 @@ bool isIndex(ByteView& view, std::uint64_t at) {
     return false;
 }
 
+enum class Packets { Untold, Missing, Found };
+
 // Whether packets stand where they should, all beginning as the first does: at up to so many places, spread
-// evenly. Nothing where that cannot be told. `firstBad` is where the first stretch without a packet may
-// begin.
-std::optional<bool> arePackets(ByteView& view, const Properties& properties, std::uint64_t from,
-                               std::uint64_t to, std::uint64_t& firstBad) {
+// evenly. `firstBad` is where the first stretch without a packet may begin.
+Packets lookAtPackets(ByteView& view, const Properties& properties, std::uint64_t from, std::uint64_t to,
+                      std::uint64_t& firstBad) {
     constexpr std::uint64_t kPlaces = 256, kFewPackets = 4;
     const auto count = properties.packetBytes == 0 ? 0 : (to - std::min(from, to)) / properties.packetBytes;
     const auto first = view.number(from, 3, Endian::Big);
     // Error correction of two bytes that are zero leads every packet that writers make.
     if (count < kFewPackets || first != 0x820000U)
-        return std::nullopt;
+        return Packets::Untold;
     const auto places = std::min(count, kPlaces);
     std::uint64_t good = from;
     for (std::uint64_t place = 0; place < places; ++place) {
         const auto at = from + place * count / places * properties.packetBytes;
         if (view.number(at, 3, Endian::Big) != first) {
             firstBad = good;
-            return false;
+            return Packets::Missing;
         }
         good = at + properties.packetBytes;
     }
-    return true;
+    return Packets::Found;
 }
 
 Extent walkAsf(ByteView& view) {
@@ -106,10 +107,10 @@ Extent walkAsf(ByteView& view) {
     const auto packets = addClamped(at, kDataHead);
     at = addClamped(at, dataBytes);
     std::uint64_t firstBad = 0;
-    const auto sound = properties.broadcast
-                           ? std::nullopt
-                           : arePackets(view, properties, packets, std::min(at, view.size()), firstBad);
-    if (sound == false)
+    const Packets found = properties.broadcast
+                              ? Packets::Untold
+                              : lookAtPackets(view, properties, packets, std::min(at, view.size()), firstBad);
+    if (found == Packets::Missing)
         return damagedAt(view, firstBad, facts);
     for (int i = 0; i < kMostObjects && at < view.size(); ++i) {
         const auto bytes = view.le64(at + 16).value_or(0);
@@ -124,7 +125,7 @@ Extent walkAsf(ByteView& view) {
     if (!properties.broadcast && properties.fileBytes > view.size() && at <= view.size())
         return cutOffAt(view, view.size(), facts);
     const Extent whole = completeAt(view, at, facts);
-    return sound == true ? withContent(whole) : whole;
+    return found == Packets::Found ? withContent(whole) : whole;
 }
 
 }  // namespace
