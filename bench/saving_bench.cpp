@@ -3,8 +3,8 @@
 // A card of 2 GiB holds 600 photos of 1 to 6 MB with random bytes between them; the second card has the files
 // of the sample card beside them, and is searched for files of all types. Card and destination lie in memory
 // (/dev/shm). Every figure is a ratio of the medians of this run.
-#include <QGuiApplication>
 #include <QFile>
+#include <QGuiApplication>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <chrono>

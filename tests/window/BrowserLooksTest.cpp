@@ -74,8 +74,10 @@ TEST_F(BrowserLooks, ItemsInViewAreExamined_ThroughAReaderOfTheirOwn) {
     EXPECT_EQ(opened, 2) << "each pass of the search had the medium for itself";
     EXPECT_EQ(openedBeside, 1);
     const QModelIndex first = controller->imageBrowser_2->model()->index(0, 0);
-    EXPECT_EQ(first.data(Qt::ToolTipRole).toString(), whole + QStringLiteral("\ncomplete, 5.0 kB"));
-    EXPECT_EQ(first.data(Qt::AccessibleTextRole).toString(), whole + QStringLiteral(", complete, 5.0 kB"));
+    EXPECT_EQ(first.data(Qt::ToolTipRole).toString(),
+              whole + QStringLiteral("\nends where it says, content not checked, 5.0 kB"));
+    EXPECT_EQ(first.data(Qt::AccessibleTextRole).toString(),
+              whole + QStringLiteral(", ends where it says, content not checked, 5.0 kB"));
 }
 
 TEST_F(BrowserLooks, ABadgeIsDrawnOnceItIsKnown) {

@@ -47,9 +47,10 @@ EmptyWords nothingFound(const SearchWish& wish, const SearchEnd& end) {
         words.advice = QObject::tr("All of it was searched for all types. Try another medium.");
     } else {
         const QString last = steps.takeLast();
-        words.advice = steps.isEmpty()
-                           ? QObject::tr("You can go back and %1.").arg(last)
-                           : QObject::tr("You can go back and %1, or %2.").arg(steps.join(QStringLiteral(", ")), last);
+        words.advice =
+            steps.isEmpty()
+                ? QObject::tr("You can go back and %1.").arg(last)
+                : QObject::tr("You can go back and %1, or %2.").arg(steps.join(QStringLiteral(", ")), last);
     }
     return words;
 }
