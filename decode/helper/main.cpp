@@ -1,5 +1,6 @@
 // vantor-decode: decodes carved pictures in the program's place. Started by the program only, with its
 // process id as the argument and a socket as descriptor 3.
+#include <malloc.h>
 #include <time.h>
 #include <unistd.h>
 
@@ -20,6 +21,11 @@ int main(int argc, char** argv) {
         return EXIT_FAILURE;
     }
     silenceErrors();
+    // Each thread of a decoder would else set room aside for itself, out of the room that is limited; and
+    // what was large and is free again goes back at once.
+    constexpr int kLargeBytes = 1024 * 1024;
+    mallopt(M_ARENA_MAX, 1);
+    mallopt(M_MMAP_THRESHOLD, kLargeBytes);
     // Reads the time zone before the cage shuts its files away.
     tzset();
     QCoreApplication application(argc, argv);
