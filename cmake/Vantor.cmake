@@ -26,9 +26,13 @@ add_compile_options($<$<CONFIG:RelWithDebInfo>:-g1>)
 # Most of a test's code runs once, so compiling it well costs more than it brings; checks that need an optimizing
 # compiler go with that. Programs and libraries share parsed headers, so both are compiled as libraries are.
 add_library(vantor_test_options INTERFACE)
-target_compile_options(vantor_test_options INTERFACE $<$<CONFIG:RelWithDebInfo>:-U_FORTIFY_SOURCE> -fPIC
-    # Under a sanitizer what runs costs more than what compiles.
-    $<$<CONFIG:RelWithDebInfo>:$<IF:$<BOOL:${VANTOR_SANITIZE}>,-O1,-O0>>)
+set(vantor_test_level -O0)
+if(VANTOR_SANITIZE)
+    # There what runs costs more than what compiles.
+    set(vantor_test_level -O1)
+endif()
+target_compile_options(vantor_test_options INTERFACE -fPIC
+    $<$<CONFIG:RelWithDebInfo>:-U_FORTIFY_SOURCE> $<$<CONFIG:RelWithDebInfo>:${vantor_test_level}>)
 if(VANTOR_BUILD_FUZZ)
     # Every engine library carries the coverage counters that the harnesses steer by.
     add_compile_options(-fsanitize=fuzzer-no-link)
