@@ -4,13 +4,9 @@
 #include <cstdint>
 #include <vector>
 
-namespace vantor {
+#include "media/SectorRun.h"
 
-// Sectors [first, end) of the medium.
-struct SectorRun {
-    std::uint64_t first = 0;
-    std::uint64_t end = 0;
-};
+namespace vantor {
 
 // The item as it lies on the medium. After a failed read the published sector numbers and the places really
 // read drift apart; saving uses these runs.

@@ -13,12 +13,20 @@ namespace {
 // The rooms of a tree, a floor a line from the ground up; what stands on one floor knows nothing of its
 // neighbours. A folder within a room is a room of its own where it is named here.
 const QStringList kFloors{
-    "formats",       "catalogue",
-    "media",         "decode",
-    "decode/helper", "decode/movie decode/plugins",
-    "results",       "saving",
-    "scan",          "cli window/widgets",
-    "window/panels", "window/browser window/preview window/saving",
+    "formats",
+    "catalogue",
+    "media",
+    "filesystem",
+    "decode",
+    "decode/helper",
+    "decode/movie decode/plugins",
+    "results",
+    "repair",
+    "saving",
+    "scan",
+    "cli window/widgets",
+    "window/panels",
+    "window/browser window/preview window/saving",
     "window",
 };
 // These stand beside the house: they may include nobody, and nobody them.

@@ -1,0 +1,46 @@
+// A file as a card's own directory tells of it.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "media/SectorRun.h"
+
+namespace vantor {
+
+// What the directory says has become of the file.
+enum class FileState {
+    Live,     // still there
+    Deleted,  // its entry is marked as deleted
+    Lost,     // its folder or the file system it lived on is gone; the entry itself stands
+};
+
+// How the file's runs are known, the surest first.
+enum class RunsKnownBy {
+    Record,     // the file's own record lists its runs (NTFS)
+    Chain,      // the allocation table still leads through them
+    Flag,       // the entry itself says that the file is in one piece (exFAT)
+    Guess,      // one piece from the first cluster on is taken for granted
+    StartOnly,  // a candidate for the beginning and no more
+};
+
+// One file of the table that the readers of file systems make. Everything has been checked: runs lie on the
+// medium and do not repeat, names hold nothing that a path may not hold.
+struct CardFile {
+    QString folder;  // as on the card, parts joined by '/'; without one at either end; "" for the root
+    QString name;    // with its extension; "" when only the place is known
+    bool nameIsWhole = true;  // false where the first letter was lost with the deletion ('_' stands for it)
+    FileState state = FileState::Live;
+    std::uint64_t bytes = 0;       // as the directory says
+    std::uint64_t validBytes = 0;  // of these were written (exFAT, NTFS); else as `bytes`
+    // Seconds since 1970. Directories without a time zone are taken as local time.
+    std::optional<std::int64_t> modified;
+    std::optional<std::int64_t> created;
+    std::vector<SectorRun> runs;  // in the order of the file's bytes; whole clusters
+    RunsKnownBy runsKnownBy = RunsKnownBy::Guess;
+    std::uint32_t clusterSectors = 0;  // of the file system it lived on
+};
+
+}  // namespace vantor
