@@ -40,6 +40,8 @@ struct CardFile {
     std::optional<std::int64_t> created;
     std::vector<SectorRun> runs;  // in the order of the file's bytes; whole clusters
     RunsKnownBy runsKnownBy = RunsKnownBy::Guess;
+    // Where the file began there is something now that a current file system still holds as there.
+    bool beginningIsInUse = false;
     std::uint32_t clusterSectors = 0;  // of the file system it lived on
 };
 
