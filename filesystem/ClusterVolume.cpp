@@ -65,6 +65,11 @@ void ClusterVolume::append(CardDirectory directory, const std::vector<std::uint8
         const std::size_t tail = std::min(bytes.size(), kMostRowsOfEntry * kRowBytes);
         directory.openEnd.assign(bytes.end() - static_cast<std::ptrdiff_t>(tail), bytes.end());
     }
+    m_keepsUpperHalf = m_keepsUpperHalf ||
+                       std::any_of(directory.rows.entries.begin(), directory.rows.entries.end(),
+                                   [](const DirectoryEntry& entry) {
+                                       return entry.isDeleted && entry.cluster > 0xFFFF && !entry.isFolder;
+                                   });
     if (directory.cluster != 0) {
         m_byCluster.emplace(directory.cluster, m_directories.size());
     }

@@ -103,6 +103,7 @@ class ClusterVolume {
                        const FoundStarts& found, CardTable& table);
     void placeLive(const DirectoryEntry& entry, CardFile& file);
     void placeGone(const DirectoryEntry& entry, const FoundStarts& found, CardFile& file);
+    std::optional<std::uint32_t> beginningOf(const DirectoryEntry& entry, const FoundStarts& found);
 
     SectorSource& m_card;
     const VolumeShape m_shape;
@@ -114,6 +115,8 @@ class ClusterVolume {
     std::vector<bool> m_claimed;                                 // by directories; one a cluster
     std::vector<bool> m_live;                                    // by what is there; one a cluster
     std::vector<SectorRun> m_liveRuns;
+    // A deleted entry has its upper half (FAT32): who deletes here leaves it.
+    bool m_keepsUpperHalf = false;
     // Clusters that may still be gone through: on a sound card each is a file's once.
     std::uint64_t m_liveStepsLeft = 0;
     std::uint64_t m_goneStepsLeft = 0;

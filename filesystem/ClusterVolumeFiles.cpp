@@ -1,8 +1,10 @@
 // From the rows of directories to files and where their bytes lie.
 #include <algorithm>
+#include <array>
 
 #include "filesystem/CleanName.h"
 #include "filesystem/ClusterVolume.h"
+#include "filesystem/FileBeginning.h"
 
 namespace vantor {
 
@@ -94,21 +96,36 @@ void ClusterVolume::placeGone(const DirectoryEntry& entry, const FoundStarts& fo
             return;
         }
     }
-    std::uint32_t cluster = entry.cluster;
-    file.runsKnownBy = RunsKnownBy::Guess;
-    if (entry.isHalfCluster && m_shape.holds(0x10000)) {
-        // The upper half of the number may have been cleared with the deletion: it is the one under which a
-        // file of that kind was found, if that is one alone.
-        int hits = 0;
-        for (std::uint64_t candidate = cluster; m_shape.holds(candidate) && m_goneStepsLeft > 0;
-             candidate += 0x10000, --m_goneStepsLeft) {
-            if (found.isAt(m_shape.sectorOf(candidate), file.name)) {
-                cluster = hits++ == 0 ? static_cast<std::uint32_t>(candidate) : cluster;
-            }
-        }
-        file.runsKnownBy = hits == 1 ? RunsKnownBy::Guess : RunsKnownBy::StartOnly;
+    const std::optional<std::uint32_t> cluster = beginningOf(entry, found);
+    file.runsKnownBy = cluster ? RunsKnownBy::Guess : RunsKnownBy::StartOnly;
+    file.runs = {onePiece(cluster.value_or(entry.cluster), cluster ? clusters : 1)};
+}
+
+// Some systems clear the upper half of the number with the deletion. Then the file begins under the number,
+// of those with the same lower half, under which one of its kind was found, if that is one alone; nothing
+// where that cannot be told.
+std::optional<std::uint32_t> ClusterVolume::beginningOf(const DirectoryEntry& entry,
+                                                        const FoundStarts& found) {
+    std::array<std::uint8_t, 512> sector;
+    if (!entry.isHalfCluster || m_keepsUpperHalf || !m_shape.holds(0x10000 + m_shape.firstNumber())) {
+        return entry.cluster;
     }
-    file.runs = {onePiece(cluster, file.runsKnownBy == RunsKnownBy::StartOnly ? 1 : clusters)};
+    const std::uint64_t own = m_shape.sectorOf(entry.cluster);
+    if (found.isAt(own, entry.name) ||
+        (m_card.readAt(own, sector) && beginsLike(entry.name, sector).value_or(false))) {
+        return entry.cluster;
+    }
+    std::optional<std::uint32_t> hit;
+    for (std::uint64_t at = entry.cluster; m_shape.holds(at) && m_goneStepsLeft > 0;
+         at += 0x10000, --m_goneStepsLeft) {
+        if (found.isAt(m_shape.sectorOf(at), entry.name)) {
+            if (hit) {
+                return std::nullopt;
+            }
+            hit = static_cast<std::uint32_t>(at);
+        }
+    }
+    return hit;
 }
 
 }  // namespace vantor

@@ -123,7 +123,7 @@ bool looksLikeExfatRows(const std::uint8_t* sector) {
         }
         switch (row[0] | kInUse) {
             case kFile: {
-                const bool followed = at + kRowBytes == 512 || (row[kRowBytes] | kInUse) == kStream;
+                const bool followed = at + kRowBytes == 512 || (sector[at + kRowBytes] | kInUse) == kStream;
                 if (ended || row[1] < 2 || row[1] > 18 || (le16(row, 4) & 0xFFC8) != 0 || !followed) {
                     return false;
                 }

@@ -146,7 +146,7 @@ std::optional<LongName> longNameBefore(Row rows, std::size_t at, bool deleted) {
             break;
         }
         found.sum = row[13];
-        found.name.prepend(*part);
+        found.name += *part;
         ended = endsHere || (!deleted && (row[0] & 0x40) != 0);
         ++count;
         --at;
