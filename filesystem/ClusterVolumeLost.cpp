@@ -66,15 +66,16 @@ void ClusterVolume::linkLost() {
         }
     }
     joinParts();
-    // A FAT directory knows where its parent begins, if not what it is called.
+    // What one folder held stays together. A FAT directory knows where its parent begins, if not what it is
+    // called itself.
     for (std::size_t at = 0; at < m_directories.size(); ++at) {
         CardDirectory& directory = m_directories[at];
-        if (directory.isRoot || directory.parent || !directory.rows.self) {
+        if (directory.isRoot || directory.parent || directory.partOf || directory.cluster == 0) {
             continue;
         }
         directory.name = QStringLiteral("folder-%1").arg(directory.cluster);
         const auto parent = m_byCluster.find(directory.rows.parent.value_or(0));
-        if (parent != m_byCluster.end() && parent->second != at) {
+        if (directory.rows.parent && parent != m_byCluster.end() && parent->second != at) {
             directory.parent = parent->second;
         }
     }
