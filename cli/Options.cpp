@@ -71,7 +71,12 @@ ParsedOptions parseOptions(const QStringList& arguments) {
         QStringLiteral("list-media"),
         QStringLiteral("Print the storage media of this machine (with --list-json as "
                        "JSON) and search nothing."));
-    parser.addOptions({help, version, mode, types, range, noThorough, catalogue, listJson, listMedia});
+    const QCommandLineOption listFiles(
+        QStringLiteral("list-files"),
+        QStringLiteral("Print what the medium's own directories tell of its files, those that "
+                       "are there and those that were, as one JSON object each, and search nothing."));
+    parser.addOptions(
+        {help, version, mode, types, range, noThorough, catalogue, listJson, listMedia, listFiles});
     saving.addTo(parser);
     parser.addPositionalArgument(
         QStringLiteral("MEDIUM"),
@@ -119,6 +124,7 @@ ParsedOptions parseOptions(const QStringList& arguments) {
     }
     options.listJson = parser.isSet(listJson);
     options.listMedia = parser.isSet(listMedia);
+    options.listFiles = parser.isSet(listFiles);
     const QStringList media = parser.positionalArguments();
     if (options.listMedia) {
         return media.isEmpty() ? parsed : badUsage(QStringLiteral("--list-media takes no medium."));

@@ -21,6 +21,7 @@ struct CliOptions {
     bool report = false;  // beside the saved files
     bool listJson = false;
     bool listMedia = false;  // nothing is searched
+    bool listFiles = false;  // only what the medium's directories tell
     QString medium;
 };
 

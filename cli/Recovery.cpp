@@ -20,6 +20,7 @@
 #include "catalogue/TextHelpers.h"
 #include "cli/CliMedium.h"
 #include "cli/CliSession.h"
+#include "cli/ListFiles.h"
 #include "cli/ListMedia.h"
 #include "cli/ProgressLine.h"
 #include "media/PlatformMedia.h"
@@ -285,6 +286,13 @@ int recover(const CliOptions& options) {
     const CliMedium medium = findMedium(options.medium, *source, [&walkAway] { return walkAway.load(); });
     if (!medium.complaint.isEmpty()) {
         complain(medium.complaint);
+    }
+    if (options.listFiles) {
+        std::atomic<int> stopNow{0};
+        const StopOnInterrupt interrupt(stopNow, walkAway);
+        int code = kExitCannotOpen;
+        runBesideEvents([&] { code = listFiles(medium, [&stopNow] { return stopNow != 0; }); });
+        return code;
     }
     if (medium.sectors != 0 && rangeRefused(options, medium.sectors)) {
         return kExitBadUsage;

@@ -35,6 +35,8 @@ enum class RequestKind : std::uint32_t {
     OpenSound = 4,  // open the file, decode the first piece of its sound
     NextSound = 5,  // what follows the last piece, or the piece around timeMs when that is not negative
     OpenCover = 6,  // as OpenMovie; a sound file's cover does as well
+    ReadCard = 7,   // read the file systems of the card that the input tells of (CardExchange.h)
+    MoreOfCard = 8,  // the input is what the last answer asked for
 };
 
 // Which descriptors ride with a request, in this order.

@@ -52,6 +52,8 @@ class MovieJobDecoder : public JobDecoder {
             case RequestKind::NextSound:
                 return nextSound(job, AnswerStatus::EndOfMovie);
             case RequestKind::Picture:
+            case RequestKind::ReadCard:
+            case RequestKind::MoreOfCard:
                 break;
         }
         return {};
