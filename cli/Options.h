@@ -22,6 +22,7 @@ struct CliOptions {
     bool listJson = false;
     bool listMedia = false;  // nothing is searched
     QString medium;
+    QString map;  // of an image; empty: the one beside it
 };
 
 // The exit codes, which --help lists.
