@@ -20,7 +20,8 @@ struct CliMedium {
 };
 
 // Finds the medium by path or identifier. `stop` ends waits for a device that hangs and for the user's
-// consent. The source is asked only for what is no file; main thread.
-CliMedium findMedium(const QString& name, MediaSource& source, StopRequest stop);
+// consent. The source is asked only for what is no file. `map` is the path of an image's map; empty: the one
+// beside it, if there is one. Main thread.
+CliMedium findMedium(const QString& name, MediaSource& source, StopRequest stop, const QString& map = {});
 
 }  // namespace vantor

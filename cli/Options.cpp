@@ -4,6 +4,7 @@
 #include <QCommandLineParser>
 
 #include "catalogue/ResourcesFolder.h"
+#include "cli/CopyOptions.h"
 #include "cli/SaveOptions.h"
 #include "cli/Version.h"
 
@@ -64,6 +65,7 @@ ParsedOptions parseOptions(const QStringList& arguments) {
                                        QStringLiteral("Folder of the six signature catalogues."),
                                        QStringLiteral("DIR"), resourcesFolder());
     const SaveOptions saving;
+    const CopyOptions copying;
     const QCommandLineOption listJson(
         QStringLiteral("list-json"),
         QStringLiteral("Print one JSON object a found item, and one for the end."));
@@ -78,6 +80,7 @@ ParsedOptions parseOptions(const QStringList& arguments) {
     parser.addOptions(
         {help, version, mode, types, range, noThorough, catalogue, listJson, listMedia, listFiles});
     saving.addTo(parser);
+    copying.addTo(parser);
     parser.addPositionalArgument(
         QStringLiteral("MEDIUM"),
         QStringLiteral("An image file, a device's identifier (sdb1) or its path (/dev/sdb1)."));
@@ -119,8 +122,10 @@ ParsedOptions parseOptions(const QStringList& arguments) {
     }
     options.thorough = !parser.isSet(noThorough);
     options.catalogueFolder = parser.value(catalogue);
-    if (const auto complaint = saving.read(parser, options)) {
-        return badUsage(*complaint);
+    for (const auto& complaint : {saving.read(parser, options), copying.read(parser, options)}) {
+        if (complaint) {
+            return badUsage(*complaint);
+        }
     }
     options.listJson = parser.isSet(listJson);
     options.listMedia = parser.isSet(listMedia);

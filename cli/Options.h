@@ -23,6 +23,7 @@ struct CliOptions {
     bool listMedia = false;  // nothing is searched
     bool listFiles = false;  // only what the medium's directories tell
     QString medium;
+    QString map;  // of an image; empty: the one beside it
 };
 
 // The exit codes, which --help lists.

@@ -283,7 +283,8 @@ int recover(const CliOptions& options) {
         return listMedia(*source, options.listJson);
     }
     std::atomic<bool> walkAway{false};
-    const CliMedium medium = findMedium(options.medium, *source, [&walkAway] { return walkAway.load(); });
+    const CliMedium medium = findMedium(
+        options.medium, *source, [&walkAway] { return walkAway.load(); }, options.map);
     if (!medium.complaint.isEmpty()) {
         complain(medium.complaint);
     }

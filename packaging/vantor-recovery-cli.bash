@@ -20,7 +20,9 @@ _vantor_recovery_cli() {
     if [[ $cur == -* ]]; then
         COMPREPLY=($(compgen -W '--help --version --mode --types --range --no-thorough --catalogue
             --save --as-published --report --by-date --min-bytes --min-pixels --keep-duplicates
-            --skip-unsound --list-json --list-media --list-files' -- "$cur"))
+            --skip-unsound
+            --map
+            --list-json --list-media --list-files' -- "$cur"))
         return
     fi
 
