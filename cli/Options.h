@@ -22,7 +22,9 @@ struct CliOptions {
     bool listJson = false;
     bool listMedia = false;  // nothing is searched
     QString medium;
-    QString map;  // of an image; empty: the one beside it
+    QString map;          // of an image; empty: the one beside it
+    QString image;        // where the medium is copied to; empty: it is not
+    bool scrape = false;  // the copy leaves nothing out
 };
 
 // The exit codes, which --help lists.

@@ -20,7 +20,7 @@ _vantor_recovery_cli() {
     if [[ $cur == -* ]]; then
         COMPREPLY=($(compgen -W '--help --version --mode --types --range --no-thorough --catalogue
             --save --as-published --report --by-date --min-bytes --min-pixels --keep-duplicates
-            --skip-unsound --map --list-json --list-media' -- "$cur"))
+            --skip-unsound --image --scrape --map --list-json --list-media' -- "$cur"))
         return
     fi
 
