@@ -25,6 +25,8 @@ QString outcomeText(PassOutcome outcome) {
     return QStringLiteral("read-error");
 }
 
+}  // namespace
+
 RangeControls controlsFor(const CliOptions& options, std::uint64_t mediumSectors) {
     RangeControls controls;
     controls.diskIdentifier = options.medium;
@@ -37,8 +39,6 @@ RangeControls controlsFor(const CliOptions& options, std::uint64_t mediumSectors
     }
     return controls;
 }
-
-}  // namespace
 
 CliView::CliView(const CliOptions& options, std::uint64_t mediumSectors)
     : m_range(controlsFor(options, mediumSectors)),

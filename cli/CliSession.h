@@ -28,6 +28,9 @@ struct PublishedItem {
     QByteArray sha256;        // raw; of raw items only once they were checksummed, empty where that failed
 };
 
+// What the range controls of a window would say.
+RangeControls controlsFor(const CliOptions& options, std::uint64_t mediumSectors);
+
 // The view of a scan that nobody watches: it answers from the options and keeps the alerts.
 class CliView : public ScanView {
   public:

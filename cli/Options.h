@@ -23,7 +23,9 @@ struct CliOptions {
     bool listMedia = false;  // nothing is searched
     bool listFiles = false;  // only what the medium's directories tell
     QString medium;
-    QString map;  // of an image; empty: the one beside it
+    QString map;          // of an image; empty: the one beside it
+    QString image;        // where the medium is copied to; empty: it is not
+    bool scrape = false;  // the copy leaves nothing out
 };
 
 // The exit codes, which --help lists.

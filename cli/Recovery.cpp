@@ -25,6 +25,8 @@
 #include "cli/ProgressLine.h"
 #include "media/PlatformMedia.h"
 #include "results/SizeForPeople.h"
+#include "saving/CopyPlace.h"
+#include "saving/CopyWords.h"
 #include "saving/DestinationCheck.h"
 
 namespace vantor {
@@ -99,6 +101,34 @@ bool prepareDestination(const CliOptions& options, const QString& mediumPath) {
         return false;
     }
     return true;
+}
+
+// The copy that was asked for, which will read the medium for all others; null after saying why not.
+std::shared_ptr<MediumCopy> beginCopy(const CliOptions& options, const CliMedium& medium) {
+    if (medium.sectors == 0) {
+        complain(QStringLiteral("%1 cannot be copied: its size is not known.").arg(options.medium));
+        return nullptr;
+    }
+    if (const auto refusal = refuseCopyPlace(options.image, medium.path)) {
+        complain(*refusal);
+        return nullptr;
+    }
+    for (const QString& warning : warnOfCopyPlace(options.image, medium.sectors)) {
+        complain(warning);
+    }
+    QString why;
+    auto file = CopyFile::open(options.image, medium.sectors, &why);
+    if (!file) {
+        complain(why);
+        return nullptr;
+    }
+    auto copy = MediumCopy::make(std::move(file), medium.openSource);
+    if (options.scrape) {
+        copy->scrapeAll();
+    }
+    const SectorRange range = rangeFromControls(controlsFor(options, medium.sectors));
+    copy->copy(copyGoals({range.start, range.end}, medium.sectors));
+    return copy;
 }
 
 bool rangeRefused(const CliOptions& options, std::uint64_t mediumSectors) {
@@ -275,6 +305,16 @@ int tell(CliSession& session, const CliOptions& options, const CliMedium& medium
     return code;
 }
 
+// False after saying that the copy could not be written to its end.
+bool tellCopy(const MediumCopy& copy, const CliOptions& options) {
+    const CopyProgress progress = copy.progress();
+    std::fprintf(options.listJson ? stderr : stdout, "Copy: %s\n", qPrintable(copyEndWords(progress)));
+    if (!progress.trouble.isEmpty()) {
+        complain(progress.trouble);
+    }
+    return progress.trouble.isEmpty();
+}
+
 }  // namespace
 
 int recover(const CliOptions& options) {
@@ -283,6 +323,7 @@ int recover(const CliOptions& options) {
         return listMedia(*source, options.listJson);
     }
     std::atomic<bool> walkAway{false};
+    const StopRequest stop = [&walkAway] { return walkAway.load(); };
     const CliMedium medium = findMedium(
         options.medium, *source, [&walkAway] { return walkAway.load(); }, options.map);
     if (!medium.complaint.isEmpty()) {
@@ -303,7 +344,6 @@ int recover(const CliOptions& options) {
     head.sectors = medium.sectors;
     head.begun = QDateTime::currentDateTime();
     CliSession session(options, medium.sectors);
-    session.setMediumOpener(medium.open);
     session.setLiesOnMedium([path = medium.path](const QString& destination) {
         return destinationIsOnMedium(destination, path);
     });
@@ -314,15 +354,22 @@ int recover(const CliOptions& options) {
     if (!prepareDestination(options, medium.path)) {
         return kExitDestinationTrouble;
     }
+    std::shared_ptr<MediumCopy> copy;
+    if (!options.image.isEmpty() && !(copy = beginCopy(options, medium))) {
+        return kExitDestinationTrouble;
+    }
+    session.setMediumOpener(copy ? [copy, stop](const QString&) { return copy->openReader(stop); }
+                                 : medium.open);
     {
         const StopOnInterrupt interrupt(session.stop_now, walkAway);
         std::optional<ProgressLine> line;
         if (::isatty(STDERR_FILENO) == 1) {
-            line.emplace(session);
+            line.emplace(session, copy);
         }
         runBesideEvents([&session] { session.run(); });
     }
-    return tell(session, options, medium, head);
+    const int code = tell(session, options, medium, head);
+    return !copy || tellCopy(*copy, options) || code != kExitCompleted ? code : kExitDestinationTrouble;
 }
 
 }  // namespace vantor

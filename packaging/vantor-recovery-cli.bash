@@ -22,6 +22,7 @@ _vantor_recovery_cli() {
             --save --as-published --report --by-date --min-bytes --min-pixels --keep-duplicates
             --skip-unsound
             --map
+            --image --scrape
             --list-json --list-media --list-files' -- "$cur"))
         return
     fi
