@@ -188,7 +188,7 @@ AskOutcome HelperProcess::exchange(Request& request, int file, std::chrono::mill
         return AskOutcome::NotPossible;
     }
     request.serial = ++m_serial;
-    const bool withInput = file < 0 && request.kind == RequestKind::Picture && !m_inputSent;
+    const bool withInput = file < 0 && request.inputBytes != 0 && !m_inputSent;
     const auto until = Clock::now() + deadline;
     if (!send(request, file, withInput, !m_outputSent)) {
         return AskOutcome::NotTaken;

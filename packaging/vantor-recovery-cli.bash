@@ -12,6 +12,10 @@ _vantor_recovery_cli() {
             _filedir -d
             return
             ;;
+        --reference)
+            _filedir
+            return
+            ;;
         --types | --range | --min-bytes | --min-pixels)
             return
             ;;
@@ -20,7 +24,7 @@ _vantor_recovery_cli() {
     if [[ $cur == -* ]]; then
         COMPREPLY=($(compgen -W '--help --version --mode --types --range --no-thorough --catalogue
             --save --as-published --report --by-date --min-bytes --min-pixels --keep-duplicates
-            --skip-unsound --list-json --list-media' -- "$cur"))
+            --skip-unsound --repair-movies --reference --list-json --list-media' -- "$cur"))
         return
     fi
 
