@@ -19,6 +19,8 @@ struct CliOptions {
     QString saveFolder;  // empty: nothing is saved
     SavePolicy savePolicy;
     bool report = false;  // beside the saved files
+    bool repairMovies = false;
+    QString reference;  // a whole movie of the same camera; empty: one of those found
     bool listJson = false;
     bool listMedia = false;  // nothing is searched
     bool listFiles = false;  // only what the medium's directories tell

@@ -226,6 +226,12 @@ void tellSaving(const CliSession& session, const CliOptions& options) {
     }
 }
 
+void tellMending(const CliSession& session, const CliOptions& options) {
+    for (const QString& line : session.mendingLines()) {
+        std::fprintf(options.listJson ? stderr : stdout, "%s\n", qPrintable(line));
+    }
+}
+
 // False after saying why the report could not be written.
 bool writeReportOf(const CliSession& session, const CliOptions& options, ReportHead head) {
     head.mode = wordsForMode(options.mode);
@@ -242,7 +248,7 @@ bool writeReportOf(const CliSession& session, const CliOptions& options, ReportH
 }
 
 int exitCodeOf(const CliSession& session) {
-    if (session.saveTally().failed != 0) {
+    if (session.saveTally().failed != 0 || session.mendingFailed()) {
         return kExitDestinationTrouble;
     }
     switch (session.lastOutcome()) {
@@ -288,6 +294,7 @@ int tell(CliSession& session, const CliOptions& options, const CliMedium& medium
     }
     if (!options.saveFolder.isEmpty()) {
         tellSaving(session, options);
+        tellMending(session, options);
     }
     if (options.report && !writeReportOf(session, options, head)) {
         return kExitDestinationTrouble;
@@ -366,7 +373,12 @@ int recover(const CliOptions& options) {
         if (::isatty(STDERR_FILENO) == 1) {
             line.emplace(session, copy);
         }
-        runBesideEvents([&session] { session.run(); });
+        runBesideEvents([&] {
+            session.run();
+            if (options.repairMovies) {
+                session.mendMovies();
+            }
+        });
     }
     const int code = tell(session, options, medium, head);
     return !copy || tellCopy(*copy, options) || code != kExitCompleted ? code : kExitDestinationTrouble;

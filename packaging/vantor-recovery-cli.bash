@@ -12,6 +12,10 @@ _vantor_recovery_cli() {
             _filedir -d
             return
             ;;
+        --reference)
+            _filedir
+            return
+            ;;
         --types | --range | --min-bytes | --min-pixels)
             return
             ;;
@@ -23,6 +27,7 @@ _vantor_recovery_cli() {
             --skip-unsound
             --map
             --image --scrape
+            --repair-movies --reference
             --list-json --list-media --list-files' -- "$cur"))
         return
     fi
