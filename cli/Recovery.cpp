@@ -12,6 +12,8 @@
 #include <array>
 #include <csignal>
 #include <cstdio>
+#include <memory>
+#include <optional>
 #include <thread>
 #include <utility>
 
@@ -23,6 +25,7 @@
 #include "cli/ListFiles.h"
 #include "cli/ListMedia.h"
 #include "cli/ProgressLine.h"
+#include "decode/ErasedCardCheck.h"
 #include "media/PlatformMedia.h"
 #include "results/SizeForPeople.h"
 #include "saving/CopyPlace.h"
@@ -247,6 +250,23 @@ bool writeReportOf(const CliSession& session, const CliOptions& options, ReportH
     return true;
 }
 
+// Looks at a medium before a search of all of it, and hands what came of opening it to whoever opens it next,
+// so that nobody is asked for his consent twice.
+MediumOpener openerAfterALook(const CliMedium& medium) {
+    auto opened = std::make_shared<std::optional<std::unique_ptr<SectorReader>>>(medium.open(QString()));
+    SectorReader* reader = opened->value().get();
+    if (reader && looksErased(*reader, medium.sectors)) {
+        complain(QString::fromLatin1(kErasedCardWords) + QStringLiteral(" Searched all the same."));
+    }
+    if (reader && !reader->seek(0)) {
+        opened->reset();
+    }
+    return [opened, open = medium.open](const QString& path) {
+        auto first = std::exchange(*opened, std::nullopt);
+        return first ? std::move(*first) : open(path);
+    };
+}
+
 int exitCodeOf(const CliSession& session) {
     if (session.saveTally().failed != 0 || session.mendingFailed()) {
         return kExitDestinationTrouble;
@@ -374,6 +394,9 @@ int recover(const CliOptions& options) {
             line.emplace(session, copy);
         }
         runBesideEvents([&] {
+            if (!options.range && medium.sectors != 0) {
+                session.setMediumOpener(openerAfterALook(medium));
+            }
             session.run();
             if (options.repairMovies) {
                 session.mendMovies();

@@ -373,6 +373,23 @@ TEST(Command, ListsMedia) {
     EXPECT_EQ(runCommand({"--list-media", "card.img"}).exitCode, 2);
 }
 
+TEST(Command, ErasedCard_IsToldAndSearchedAllTheSame) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("erased.img");
+    QFile image(path);
+    ASSERT_TRUE(image.open(QIODevice::WriteOnly) && image.resize(8 << 20));
+    const CommandRun erased = runCommand({path});
+    EXPECT_EQ(erased.exitCode, 0);
+    EXPECT_TRUE(erased.err.contains("reads as erased")) << erased.err.constData();
+    EXPECT_TRUE(erased.out.contains("0 found")) << erased.out.constData();
+    for (qint64 at = 0; at < image.size(); at += 512) {
+        ASSERT_TRUE(image.seek(at) && image.putChar('y'));
+    }
+    image.close();
+    EXPECT_FALSE(runCommand({path}).err.contains("erased"));
+    EXPECT_FALSE(runCommand({"--range", "0:100", path}).err.contains("erased"));
+}
+
 TEST(Command, ListsWhatTheDirectoriesOfTheSampleCardTell) {
     const CommandRun run = runCommand({"--list-files", VANTOR_SAMPLE_CARD});
     EXPECT_EQ(run.exitCode, 0) << run.err.constData();
