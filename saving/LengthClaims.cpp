@@ -33,15 +33,16 @@ LengthClaims::Answer LengthClaims::ask(const QString& type, const MediumBytes& b
     if (bytes.ranOut() && mayWait) {
         return Answer::Later;
     }
+    // Also of one that has to wait, since its parts come before it, and not of the parts.
+    if (const std::uint64_t first = bytes.firstSector();
+        complete && isFrameStream(type) && mayGoBeyond(type, first)) {
+        std::uint64_t& end = m_streams[first];
+        end = std::max(end, first + length.bytes / kSectorBytes);
+    }
     const SectorRun stretch = bytes.stretchBeyond(length.bytes);
     const bool far = !length.extent.checked && length.bytes > 2 * bytes.carvedBytes();
     if ((far && mayWait) || !take(stretch, length)) {
         return mayWait ? Answer::Later : Answer::Refused;
-    }
-    if (complete && isFrameStream(type)) {
-        const std::uint64_t first = bytes.firstSector();
-        std::uint64_t& end = m_streams[first];
-        end = std::max(end, first + length.bytes / kSectorBytes);
     }
     return Answer::Granted;
 }

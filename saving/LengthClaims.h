@@ -2,6 +2,8 @@
 // room, the time or the ground of the files among them.
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <vector>
@@ -51,15 +53,17 @@ class LengthClaims {
     std::map<std::uint64_t, std::uint64_t> m_streams;  // sectors [first, end) of whole frame streams
 };
 
-// Items that wait for the second round: whole ones first, among them the modest ones.
+// Items that wait for the second round: whole ones first, among them those that claim least for what was
+// carved of them, since junk is short and claims much.
 class WaitingClaims {
   public:
     // More than these do not wait.
     static constexpr std::size_t kMost = 100'000;
 
     bool isFull() const { return m_waiting.size() >= kMost; }
-    void add(std::size_t place, std::uint64_t bytes, bool complete) {
-        m_waiting.push_back({!complete, bytes, place});
+    void add(std::size_t place, std::uint64_t claimedBytes, std::uint64_t carvedSectors, bool complete) {
+        m_waiting.push_back(
+            {!complete, claimedBytes / std::max<std::uint64_t>(1, carvedSectors), claimedBytes, place});
     }
     // The places in the order of the second round; none wait any more.
     std::vector<std::size_t> take();
@@ -67,6 +71,7 @@ class WaitingClaims {
   private:
     struct Waiting {
         bool broken;
+        std::uint64_t bytesPerSector;
         std::uint64_t bytes;
         std::size_t place;
         auto operator<=>(const Waiting&) const = default;

@@ -157,14 +157,57 @@ TEST(LengthClaims, AnotherRoundOfTheSameItemsIsGrantedAsMuch) {
     }
 }
 
-TEST(WaitingClaims, WholeAndModestOnesComeFirst) {
+TEST(LengthClaims, PartsOfAStreamTakeNothingFromTheWhole) {
+    // AC-3 frames of 128 bytes, so that each fourth begins a sector and may look like a file's beginning.
+    QByteArray stream;
+    for (int frame = 0; frame < 8000; ++frame) {
+        stream += QByteArray("\x0B\x77\0\0\0\x40\x40\0", 8) + QByteArray(120, 'x');
+    }
+    ScriptedMedium medium = mediumWith(stream, 10, 2200);
+    const QTemporaryDir folder;
+    SaveQueue queue(
+        folder.path(), {}, [&] { return std::make_unique<ScriptedReader>(medium); },
+        [&](const SaveTask& task, const SaveOutcome& outcome) {
+            EXPECT_EQ(outcome.bytes, task.place == 0 ? static_cast<std::uint64_t>(stream.size()) : 100 * 512U)
+                << task.place;
+        });
+    for (std::uint64_t part = 0; part < 20; ++part) {
+        const SectorRun run{10 + part * 100, 10 + (part + 1) * 100};
+        queue.add({QStringLiteral("AC3"), QStringLiteral("%1.AC3").arg(part), {{run}, false}, {}});
+    }
+    queue.finish();
+    EXPECT_TRUE(contentsOf(folder.filePath("AC3/0.AC3")) == stream);
+}
+
+TEST(LengthClaims, FilesOfWhichMuchWasCarvedComeBeforeJunk) {
+    const QTemporaryDir folder;
+    constexpr std::uint64_t kFileAt = 2000;
+    const QByteArray good = longWavFile(10'000'000);
+    ScriptedMedium medium = emptyMediumWith(good, kFileAt, kSectors);
+    std::vector<SectorRun> runs;
+    for (std::uint64_t i = 0; i < kJunk; ++i) {
+        std::memcpy(medium.bytes.at(i).data(), junkHeader().constData(), 512);
+        runs.push_back({i, i + 1});
+    }
+    runs.push_back({kFileAt, kFileAt + 1000});
+    SaveQueue queue(
+        folder.path(), {}, [&] { return std::make_unique<ScriptedReader>(medium); },
+        [](const SaveTask&, const SaveOutcome&) {});
+    for (const SectorRun& run : runs) {
+        queue.add({QStringLiteral("WAV"), QStringLiteral("%1.WAV").arg(run.first), {{run}, false}, {}});
+    }
+    queue.finish();
+    EXPECT_TRUE(contentsOf(folder.filePath("WAV/2000.WAV")) == good);
+}
+
+TEST(WaitingClaims, WholeOnesComeFirst_AmongThemThoseOfWhichMuchWasCarved) {
     WaitingClaims waiting;
-    waiting.add(1, 500, false);
-    waiting.add(2, 900, true);
-    waiting.add(3, 100, true);
-    waiting.add(4, 100, true);
-    waiting.add(5, 10, false);
-    EXPECT_EQ(waiting.take(), (std::vector<std::size_t>{3, 4, 2, 5, 1}));
+    waiting.add(1, 5'000, 10, false);
+    waiting.add(2, 900'000, 1'000, true);
+    waiting.add(3, 100'000, 10, true);
+    waiting.add(4, 100'000, 10, true);
+    waiting.add(5, 10'000, 1'000, false);
+    EXPECT_EQ(waiting.take(), (std::vector<std::size_t>{2, 3, 4, 5, 1}));
     EXPECT_TRUE(waiting.take().empty());
 }
 
