@@ -2,6 +2,7 @@
 #include "cli/CliSession.h"
 
 #include <QJsonArray>
+#include <algorithm>
 
 #include "cli/MovieMending.h"
 #include "results/PreviewCopy.h"
@@ -86,7 +87,7 @@ void CliSession::run() {
         m_queue = std::make_unique<SaveQueue>(
             m_options.saveFolder, m_options.savePolicy, [this] { return openMedium(); },
             [this](SaveTask& task, const SaveOutcome& outcome) {
-                m_outcomes.push_back(outcome);
+                noteOutcome(task, outcome);
                 giveBackPhotoBytes(std::move(task.firstBytes));
             },
             m_liesOnMedium);
@@ -99,48 +100,58 @@ void CliSession::run() {
     finishSaving();
 }
 
+void CliSession::noteOutcome(const SaveTask& task, const SaveOutcome& outcome) {
+    m_tally.add(task.name, outcome);
+    if (m_options.report) {
+        m_outcomes.resize(std::max(m_outcomes.size(), task.place + 1));
+        m_outcomes[task.place] = outcome;
+    }
+}
+
 void CliSession::finishSaving() {
     if (!m_queue) {
         return;
     }
     m_queue.reset();
-    for (std::size_t i = 0; i < m_outcomes.size(); ++i) {
-        const PublishedItem& item = m_published[i];
-        m_tally.add(item.name, m_outcomes[i]);
+    for (std::size_t i = 0; !m_outcomes.empty(); ++i) {
+        const PublishedItem item = published(i);
         m_reported.push_back(
-            {item.name, item.type, item.firstSector, item.endSector, std::move(m_outcomes[i])});
+            {item.name, item.type, item.firstSector, item.endSector, std::move(m_outcomes.front())});
+        m_outcomes.pop_front();
     }
-    m_outcomes.clear();
 }
 
 // Called for every item that is published, just before it is.
-void CliSession::save(const PublishedItem& item, const QByteArray& firstBytes) {
+void CliSession::save(const QString& name, const QByteArray& firstBytes) {
     if (m_queue) {
-        m_queue->add({item.type, item.name, handOver().carved, firstBytes});
+        m_queue->add({handOver().type, name, handOver().carved, firstBytes});
     }
 }
 
-void CliSession::publish(PublishedItem item) {
-    m_published.push_back(std::move(item));
-    m_publishedCount = m_published.size();
+// Called for every item behind its entry in the list of found ones.
+void CliSession::publish(const QByteArray& sha256) {
+    if (m_options.listJson && m_options.mode == kPhotoMode) {
+        std::array<char, 32> sum{};
+        std::copy_n(sha256.data(), std::min<std::size_t>(sum.size(), static_cast<std::size_t>(sha256.size())),
+                    sum.data());
+        m_sums.push_back(sum);
+    }
+    m_publishedCount = itemCount();
+    if (handOver().pass == kGeneralPass) {
+        m_firstThorough = m_publishedCount;
+    }
 }
 
 void CliSession::addImageWithData(const QByteArray& data, const QString& imageName,
                                   const QString& image_UID) {
-    if (!data.isEmpty()) {
-        const HandOver& carve = handOver();
-        PublishedItem item{carve.pass,        carve.type,
-                           imageName,         image_UID,
-                           carve.firstSector, carve.firstSector + carve.bytes / kSectorBytes,
-                           carve.bytes,       carve.carved.readFailed,
-                           carve.sha256,      carve.carved};
-        if (m_options.listJson && item.sha256.isEmpty()) {
-            item.sha256 = Sha256::of(data);
-        }
-        save(item, data);
-        publish(std::move(item));
+    if (data.isEmpty()) {
+        return;
     }
+    const bool wanted = m_options.listJson && handOver().sha256.isEmpty();
+    const QByteArray sha256 = wanted ? Sha256::of(data) : handOver().sha256;
+    save(imageName, data);
     ScanSession::addImageWithData(data, imageName, image_UID);
+    publish(sha256);
 }
 
 void CliSession::addImageWithData_2(const QByteArray& data, const QString& imageName,
@@ -148,21 +159,10 @@ void CliSession::addImageWithData_2(const QByteArray& data, const QString& image
                                     std::uint64_t File_End_Sec) {
     const std::size_t before = itemCount();
     ScanSession::addImageWithData_2(data, imageName, image_UID, File_Start_Sec, File_End_Sec);
-    if (itemCount() == before) {
-        return;
+    if (itemCount() != before) {
+        save(itemAt(before)->imageTitle(), {});
+        publish({});
     }
-    PublishedItem item{handOver().pass,
-                       handOver().type,
-                       itemAt(before)->imageTitle(),
-                       image_UID,
-                       File_Start_Sec,
-                       File_End_Sec,
-                       (File_End_Sec - File_Start_Sec) * kSectorBytes,
-                       handOver().carved.readFailed,
-                       {},
-                       handOver().carved};
-    save(item, {});
-    publish(std::move(item));
 }
 
 void CliSession::mendMovies() {
@@ -180,62 +180,78 @@ void CliSession::mendMovies() {
         }
     }
     std::vector<MendableItem> items;
-    for (const PublishedItem& item : m_published) {
-        items.push_back({item.type, item.name, item.carved});
+    for (std::size_t i = 0; i < m_publishedCount; ++i) {
+        const auto item = itemAt(i);
+        if (item && MovieMending::mayMend(item->type())) {
+            items.push_back({item->type(), item->imageTitle(), item->carved()});
+        }
     }
     mending.run(items, m_options.saveFolder);
     m_mendingLines = mending.lines();
     m_mendingFailed = mending.failed();
 }
 
-bool CliSession::checksumRawItems() {
-    if (m_options.mode == kPhotoMode) {
-        return true;
+PublishedItem CliSession::published(std::size_t index) const {
+    const auto item = itemAt(index);
+    if (!item) {
+        return {};
     }
-    bool all = true;
+    const QStringView pass = index < m_firstThorough ? kGeneralPass : kThoroughPass;
+    return {pass.toString(),
+            item->type(),
+            item->imageTitle(),
+            item->imageUID(),
+            item->publishedSectors().first,
+            item->publishedSectors().end,
+            item->carved().readFailed};
+}
+
+// Empty where it could not be read once more.
+QByteArray CliSession::checksumOf(const PublishedItem& item) const {
     const std::atomic<int> neverStop{0};
-    for (PublishedItem& item : m_published) {
-        Sha256 hash;
-        const auto medium = openMedium();
-        const bool read =
-            medium &&
-            copyPreviewSectors(
-                *medium, item.firstSector, item.endSector, neverStop, [&](const std::uint8_t* sector) {
-                    hash.add(QByteArrayView(reinterpret_cast<const char*>(sector), kSectorBytes));
-                    return true;
-                });
-        // Bytes that were repeated while they were searched repeat here; what fails only now is not the item.
-        if (read || (medium && item.readFailed)) {
-            item.sha256 = hash.result();
-        } else {
-            all = false;
-        }
+    Sha256 hash;
+    const auto medium = openMedium();
+    const bool read =
+        medium && copyPreviewSectors(
+                      *medium, item.firstSector, item.endSector, neverStop, [&](const std::uint8_t* sector) {
+                          hash.add(QByteArrayView(reinterpret_cast<const char*>(sector), kSectorBytes));
+                          return true;
+                      });
+    // Bytes that were repeated while they were searched repeat here; what fails only now is not the item.
+    return read || (medium && item.readFailed) ? hash.result() : QByteArray();
+}
+
+bool CliSession::forEachJsonLine(const std::function<void(const QJsonObject&)>& take) const {
+    const auto number = [](std::uint64_t value) { return QJsonValue(static_cast<qint64>(value)); };
+    bool all = true;
+    for (std::size_t i = 0; i < m_publishedCount; ++i) {
+        const PublishedItem item = published(i);
+        const QByteArray sha256 = m_options.mode == kPhotoMode
+                                      ? QByteArray(m_sums[i].data(), static_cast<qsizetype>(m_sums[i].size()))
+                                      : checksumOf(item);
+        all = all && !sha256.isEmpty();
+        take({{QStringLiteral("pass"), item.pass},
+              {QStringLiteral("name"), item.name},
+              {QStringLiteral("uid"), item.uid},
+              {QStringLiteral("first_sector"), number(item.firstSector)},
+              {QStringLiteral("end_sector"), number(item.endSector)},
+              {QStringLiteral("bytes"), number(item.bytes())},
+              {QStringLiteral("sha256"),
+               sha256.isEmpty() ? QJsonValue() : QString::fromLatin1(sha256.toHex())}});
     }
+    take(endLine());
     return all;
 }
 
-std::vector<QJsonObject> CliSession::jsonLines() const {
-    const auto number = [](std::uint64_t value) { return QJsonValue(static_cast<qint64>(value)); };
-    std::vector<QJsonObject> lines;
-    for (const PublishedItem& item : m_published) {
-        lines.push_back({{QStringLiteral("pass"), item.pass},
-                         {QStringLiteral("name"), item.name},
-                         {QStringLiteral("uid"), item.uid},
-                         {QStringLiteral("first_sector"), number(item.firstSector)},
-                         {QStringLiteral("end_sector"), number(item.endSector)},
-                         {QStringLiteral("bytes"), number(item.bytes)},
-                         {QStringLiteral("sha256"),
-                          item.sha256.isEmpty() ? QJsonValue() : QString::fromLatin1(item.sha256.toHex())}});
-    }
+QJsonObject CliSession::endLine() const {
     QJsonArray rows;
     for (const ResultRow& row : resultRows()) {
         rows.append(QJsonObject{{QStringLiteral("type"), row.value(QStringLiteral("FileTypes"))},
                                 {QStringLiteral("count"), static_cast<qint64>(countOf(row))}});
     }
-    lines.push_back({{QStringLiteral("end"), outcomeText(lastOutcome())},
-                     {QStringLiteral("alerts"), QJsonArray::fromStringList(alerts())},
-                     {QStringLiteral("rows"), rows}});
-    return lines;
+    return {{QStringLiteral("end"), outcomeText(lastOutcome())},
+            {QStringLiteral("alerts"), QJsonArray::fromStringList(alerts())},
+            {QStringLiteral("rows"), rows}};
 }
 
 }  // namespace vantor

@@ -41,6 +41,10 @@ QString seconds(double value) {
 
 }  // namespace
 
+bool MovieMending::mayMend(const QString& type) {
+    return isMovieOfBoxes(type);
+}
+
 QString MovieMending::useReference(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {

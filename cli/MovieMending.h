@@ -27,6 +27,8 @@ class MovieMending {
     // Both outlive the object; a stop that is not 0 ends it soon.
     MovieMending(SectorReader& medium, const std::atomic<int>& stop) : m_medium(medium), m_stop(stop) {}
 
+    // Whether items of the type (`Ext_Name`) are worth handing over.
+    static bool mayMend(const QString& type);
     // A movie of the user's choice in place of those that were found; a sentence for the user when it is of
     // no use.
     QString useReference(const QString& path);

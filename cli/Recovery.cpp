@@ -26,6 +26,7 @@
 #include "cli/ListMedia.h"
 #include "cli/ProgressLine.h"
 #include "decode/ErasedCardCheck.h"
+#include "media/PathArgument.h"
 #include "media/PlatformMedia.h"
 #include "results/SizeForPeople.h"
 #include "saving/CopyPlace.h"
@@ -84,11 +85,11 @@ void runBesideEvents(const std::function<void()>& work) {
 }
 
 void complain(const QString& text) {
-    std::fprintf(stderr, "vantor-recovery-cli: %s\n", qPrintable(Trim_Str(text)));
+    std::fprintf(stderr, "vantor-recovery-cli: %s\n", qPrintable(withShownPaths(Trim_Str(text))));
 }
 
 // The destination, made ready; false after saying why not.
-bool prepareDestination(const CliOptions& options, const QString& mediumPath) {
+bool prepareDestination(CliOptions& options, const QString& mediumPath) {
     if (options.saveFolder.isEmpty()) {
         return true;
     }
@@ -99,7 +100,7 @@ bool prepareDestination(const CliOptions& options, const QString& mediumPath) {
                      .arg(options.saveFolder));
         return false;
     }
-    if (!QDir().mkpath(options.saveFolder) || !QFileInfo(options.saveFolder).isWritable()) {
+    if (!makeFolder(options.saveFolder) || !QFileInfo(options.saveFolder).isWritable()) {
         complain(QStringLiteral("The folder %1 cannot be written to.").arg(options.saveFolder));
         return false;
     }
@@ -188,27 +189,26 @@ bool typesRefused(CliSession& session, const CliOptions& options) {
 }
 
 // False when not all items could be read for their checksums.
-bool printJson(CliSession& session) {
-    const bool all = session.checksumRawItems();
-    for (const QJsonObject& line : session.jsonLines()) {
+bool printJson(const CliSession& session) {
+    return session.forEachJsonLine([](const QJsonObject& line) {
         std::printf("%s\n", QJsonDocument(line).toJson(QJsonDocument::Compact).constData());
-    }
-    return all;
+    });
 }
 
 void printTable(const CliSession& session) {
     QMap<QString, std::uint64_t> perType;
-    for (const PublishedItem& item : session.published()) {
+    for (std::size_t i = 0; i < session.publishedCount(); ++i) {
+        const PublishedItem item = session.published(i);
         ++perType[item.type];
         std::printf("%s  %-20s  sectors %s to %s  %s\n", qPrintable(item.pass), qPrintable(item.name),
                     qPrintable(numberForPeople(item.firstSector)),
-                    qPrintable(numberForPeople(item.endSector)), qPrintable(sizeForPeople(item.bytes)));
+                    qPrintable(numberForPeople(item.endSector)), qPrintable(sizeForPeople(item.bytes())));
     }
     QStringList counts;
     for (auto type = perType.cbegin(); type != perType.cend(); ++type) {
         counts.append(QStringLiteral("%1 %2").arg(numberForPeople(type.value()), type.key()));
     }
-    std::printf("%s found%s%s\n", qPrintable(numberForPeople(session.published().size())),
+    std::printf("%s found%s%s\n", qPrintable(numberForPeople(session.publishedCount())),
                 counts.isEmpty() ? "" : ": ", qPrintable(counts.join(QStringLiteral(", "))));
 }
 
@@ -216,7 +216,7 @@ void tellSaving(const CliSession& session, const CliOptions& options) {
     const SaveTally& tally = session.saveTally();
     FILE* out = options.listJson ? stderr : stdout;
     for (const QString& line : tally.lines(QDir(options.saveFolder).absolutePath())) {
-        std::fprintf(out, "%s\n", qPrintable(line));
+        std::fprintf(out, "%s\n", qPrintable(withShownPaths(line)));
     }
     if (tally.failed != 0) {
         complain(QStringLiteral("%1 could not be saved:").arg(numberForPeople(tally.failed)));
@@ -246,7 +246,8 @@ bool writeReportOf(const CliSession& session, const CliOptions& options, ReportH
         complain(written.error);
         return false;
     }
-    std::fprintf(options.listJson ? stderr : stdout, "Report: %s\n", qPrintable(written.html));
+    std::fprintf(options.listJson ? stderr : stdout, "Report: %s\n",
+                 qPrintable(withShownPaths(written.html)));
     return true;
 }
 
@@ -344,7 +345,7 @@ bool tellCopy(const MediumCopy& copy, const CliOptions& options) {
 
 }  // namespace
 
-int recover(const CliOptions& options) {
+int recover(CliOptions options) {
     const std::unique_ptr<MediaSource> source = makePlatformMediaSource();
     if (options.listMedia) {
         return listMedia(*source, options.listJson);
@@ -367,12 +368,16 @@ int recover(const CliOptions& options) {
         return kExitBadUsage;
     }
     ReportHead head;
-    head.medium = options.medium;
+    head.medium = withShownPaths(options.medium);
     head.sectors = medium.sectors;
     head.begun = QDateTime::currentDateTime();
     CliSession session(options, medium.sectors);
     session.setLiesOnMedium([path = medium.path](const QString& destination) {
         return destinationIsOnMedium(destination, path);
+    });
+    session.setSpillFolder([path = medium.path] {
+        const QString folder = QDir::tempPath();
+        return destinationIsOnMedium(folder, path) ? QString() : folder;
     });
     session.loadCatalogues(options.catalogueFolder);
     if (cataloguesRefused(options) || typesRefused(session, options)) {
@@ -381,6 +386,7 @@ int recover(const CliOptions& options) {
     if (!prepareDestination(options, medium.path)) {
         return kExitDestinationTrouble;
     }
+    session.setDestination(options.saveFolder);
     std::shared_ptr<MediumCopy> copy;
     if (!options.image.isEmpty() && !(copy = beginCopy(options, medium))) {
         return kExitDestinationTrouble;

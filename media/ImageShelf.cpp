@@ -36,7 +36,9 @@ MediaFacts ImageShelf::diskInfo(const QString& path) {
 }
 
 OpenedImage ImageShelf::addImage(const QString& path) {
-    const QString canonical = QFileInfo(path).canonicalFilePath();
+    // What is named by a descriptor has no other name in text.
+    const QString real = QFileInfo(path).canonicalFilePath();
+    const QString canonical = QFileInfo::exists(real) ? real : path;
     const QString first = imageParts(canonical).constFirst();
     for (const Image& image : m_images) {
         if (image.path == first) {

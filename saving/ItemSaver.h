@@ -20,6 +20,8 @@
 namespace vantor {
 
 struct SavedFile;
+struct TrueLength;
+class LengthClaims;
 class SavingFolder;
 class WholeFile;
 
@@ -31,6 +33,7 @@ struct SaveOutcome {
     bool duplicate = false;  // saved, as bytes that were saved before: `path` is the earlier file or a second
                              // name of it
     LeftOut leftOut = LeftOut::No;
+    bool later = false;  // nothing was decided: the item has its turn in the second round
     QString path;
     QString error;                        // a sentence for the user when saving failed
     std::uint64_t bytes = 0;              // of the file
@@ -55,6 +58,8 @@ struct FoundItem {
     ItemSource source;
     // Set by anybody once the item is no longer wanted: it then fails, and nothing of it stays behind.
     const std::atomic<bool>* unwanted = nullptr;
+    // Whether it may be told to come again in a second round, when all others had their turn.
+    bool mayWait = false;
 };
 
 // One medium and one destination, which has to be there. An item becomes `<destination>/<type>/<name>`, whole
@@ -66,6 +71,8 @@ struct FoundItem {
 // that several types share) the file gets a second name there, or is written again where the file system has
 // no second names. Files that lie in the type's folder from earlier are known by their bytes too. Zeros in
 // place of what could not be read count for nothing here.
+//
+// An item that claims far more than was carved of it waits for the others, where it may; see LengthClaims.
 class ItemSaver {
   public:
     // Asked before each file with the destination: whether it lies on the medium by now, for somebody may
@@ -80,6 +87,10 @@ class ItemSaver {
 
     SaveOutcome save(const FoundItem& item) const;
 
+    // Before the first item of a choice and before those of it that were told to come again.
+    void beginRound() const;
+    void beginSecondRound() const;
+
     // To be called behind the last item: the names of all files survive a loss of power from here on.
     void flush() const;
 
@@ -92,7 +103,9 @@ class ItemSaver {
     struct Writing;
 
     std::optional<SavingFolder> openDestination(SaveOutcome& outcome) const;
+    LengthClaims& claimsOn(std::uint64_t mediumSectors) const;
     bool decideLength(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const;
+    TrueLength lengthOf(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const;
     void saveBytes(const FoundItem& item, const SavingFolder& destination, MediumBytes& bytes,
                    SaveOutcome& outcome) const;
     bool settleBeforeWriting(const Writing& writing, MediumBytes& bytes, SaveOutcome& outcome) const;

@@ -48,6 +48,13 @@ const SavedFile* better(const SavedFile* best, const SavedFile& candidate, std::
 
 }  // namespace
 
+void SavedFiles::add(const Likeness& likeness, SavedFile file) {
+    const auto added = m_files.emplace(likeness, std::move(file));
+    if (added->second.allRead && added->second.firstSector != SavedFile::kNoPlace) {
+        m_byPlace.emplace(added->second.firstSector, added);
+    }
+}
+
 void SavedFiles::lookInto(const QString& folder, const QString& type) {
     if (!m_folders.insert(folder).second) {
         return;
@@ -78,10 +85,11 @@ bool SavedFiles::hasLike(const Likeness& likeness) {
 const SavedFile* SavedFiles::fromPlace(std::uint64_t bytes, std::uint64_t firstSector,
                                        const QString& type) const {
     const SavedFile* best = nullptr;
-    for (auto file = m_files.lower_bound({bytes, {}}); file != m_files.end() && file->first.bytes == bytes;
-         ++file) {
-        if (file->second.firstSector == firstSector && file->second.allRead) {
-            best = better(best, file->second, bytes, type);
+    const auto [begin, end] = m_byPlace.equal_range(firstSector);
+    for (auto place = begin; place != end; ++place) {
+        const auto& [likeness, file] = *place->second;
+        if (likeness.bytes == bytes) {
+            best = better(best, file, bytes, type);
         }
     }
     return best;

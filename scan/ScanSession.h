@@ -26,6 +26,7 @@
 #include "catalogue/FileTypeList.h"
 #include "catalogue/NumberText.h"
 #include "media/SectorReader.h"
+#include "results/FoundItems.h"
 #include "results/MyImageObject.h"
 #include "results/RecoveryMode.h"
 #include "results/ResultRow.h"
@@ -60,6 +61,8 @@ class ScanSession : public HexText {
     virtual ~ScanSession();
 
     void setMediumOpener(MediumOpener opener) { m_openMedium = std::move(opener); }
+    // Where the list of very many items may be kept; see ByteSpool. It must not lie on the medium.
+    void setSpillFolder(ByteSpool::Folder folder) { images.setSpillFolder(std::move(folder)); }
     void setThumbnailer(Thumbnailer thumbnailer) { m_thumbnailer = std::move(thumbnailer); }
 
     // --- Catalogue and file types (SessionCatalogue.cpp) ---
@@ -194,15 +197,15 @@ class ScanSession : public HexText {
     // For whoever held a photo's bytes longest.
     void giveBackPhotoBytes(QByteArray bytes) { m_photoMemory.giveBack(std::move(bytes)); }
 
-    std::vector<std::shared_ptr<MyImageObject>> images;
+    FoundItems images;
     QList<ResultRow> nsSIGFileInfoDataObject;
 
   private:
     struct PhotoPass;
     struct RawPass;
 
-    void appendItem(std::shared_ptr<MyImageObject> item);
-    void addRawItem(std::unique_ptr<MyImageObject> item, const QString& name, const QString& path);
+    void appendItem(const MyImageObject& item);
+    void addRawItem(MyImageObject& item, const QString& name, const QString& path);
     void pacePhotoBrowser();
     void paceBrowser(ControlSet set, std::uint64_t step);
     void prepareRange(ControlSet set, const QString& passName);

@@ -1,4 +1,5 @@
 // Start, ticks, stop and end of the two threads of a scan.
+#include <QDir>
 
 #include "catalogue/FileKind.h"
 #include "catalogue/SignatureRecord.h"
@@ -31,6 +32,10 @@ void MyTableController::startScan(void (ScanSession::*driver)()) {
     m_looks->begin(m_parts.openBeside
                        ? [open = m_parts.openBeside, device = devicePath()] { return open(device); }
                        : SoundnessBoard::Open());
+    setSpillFolder([asked = m_parts.isOnMedium, device = devicePath()] {
+        const QString folder = QDir::tempPath();
+        return asked && asked(folder, device) ? QString() : folder;
+    });
     resetAddedItemCount();
     m_clock.start();
     m_scanBegun = QDateTime::currentDateTime();

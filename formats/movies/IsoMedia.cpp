@@ -25,7 +25,8 @@ constexpr std::array<std::string_view, 10> kFirstNames = {"ftyp", "moov", "mdat"
                                                           "skip", "pnot", "styp", "sidx", "moof"};
 
 constexpr std::uint32_t kMostBoxes = 1 << 20;
-constexpr std::size_t kMostData = 1024;  // media data boxes of a file whose content is checked
+constexpr std::uint32_t kMostFillers = 64;  // in front of anything else
+constexpr std::size_t kMostData = 1024;     // media data boxes of a file whose content is checked
 
 bool isNameLike(std::string_view name) {
     return std::all_of(name.begin(), name.end(), [](char c) {
@@ -43,6 +44,7 @@ struct Seen {
     bool type = false;
     std::uint64_t dataEnd = 0;  // how far a picture's items reach; 0 = nowhere outside their index
 
+    bool any() const { return type || index || data || fragment; }
     bool whole(std::uint64_t end) const {
         const bool movie = movieIndex ? data || (opensFragments && !isSectorStart(end)) : index;
         return (movie || (fragment && data)) && end >= dataEnd;
@@ -95,6 +97,8 @@ IsoWalk walkBoxes(ByteView& view, std::uint64_t start, bool wantFacts) {
             walk.openEnded = name == "mdat" || walk.at == start;
             return walk;
         }
+        if (boxes == kMostFillers && !walk.seen.any())
+            return walk;
         walk.seen.type = walk.seen.type || name == "ftyp";
         walk.seen.movieIndex = walk.seen.movieIndex || name == "moov";
         walk.seen.index = walk.seen.index || name == "moov" || name == "meta";

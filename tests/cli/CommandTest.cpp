@@ -301,7 +301,7 @@ TEST_P(CommandStopped, PublishesAndSavesWhatWasFound) {
     ASSERT_EQ(::truncate(image.toLocal8Bit().constData(), off_t{1} << 42), 0);
     QProcess process;
     process.start(VANTOR_CLI, {"--catalogue", writeCatalogues(folder, record("JPG", "FFD8FFE0")),
-                               "--list-json", "--save", folder.filePath("out"), image});
+                               "--list-json", "--save", folder.filePath("out"), "--report", image});
     ASSERT_TRUE(process.waitForStarted());
     while (!QFile::exists(folder.filePath("out/JPG/GND00001.JPG")) && !process.waitForFinished(5)) {
     }
@@ -319,7 +319,11 @@ TEST_P(CommandStopped, PublishesAndSavesWhatWasFound) {
     EXPECT_TRUE(run.err.contains("The search was stopped at ")) << run.err.constData();
     const QRegularExpression rest(QStringLiteral("To go on from there: --range [0-9]+:8589934592\n"));
     EXPECT_TRUE(rest.match(QString::fromUtf8(run.err)).hasMatch()) << run.err.constData();
-    EXPECT_EQ(filesUnder(folder.filePath("out")), QStringList({"JPG/GND00001.JPG", "JPG/GND00002.JPG"}));
+    EXPECT_EQ(
+        filesUnder(folder.filePath("out")),
+        QStringList({"JPG/GND00001.JPG", "JPG/GND00002.JPG", "Recovery report.csv", "Recovery report.html"}));
+    const QByteArray page = contentsOf(folder.filePath("out/Recovery report.html"));
+    EXPECT_TRUE(page.contains("The search was stopped at ")) << page.constData();
 }
 
 TEST(Command, MediumIsNeverWritten) {

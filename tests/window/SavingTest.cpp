@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTableView>
+#include <QThread>
 
 #include "results/MyImageObject.h"
 #include "results/RecoveryMode.h"
@@ -114,6 +115,33 @@ TEST_F(Saving, ADestinationOnTheScannedMedium_IsRefused) {
     EXPECT_TRUE(
         answers.seen().back().informative.contains(QStringLiteral("storage medium you are recovering from")));
     EXPECT_TRUE(savedFiles().isEmpty());
+}
+
+// As when somebody mounts another folder of the card there meanwhile.
+TEST_F(Saving, ADestinationThatComesToLieOnTheMedium_IsNotWrittenInto) {
+    parts.isOnMedium = [](const QString&, const QString& device) {
+        return device == QStringLiteral("/dev/rsdb1") && QThread::currentThread() != qApp->thread();
+    };
+    openPhotoResults();
+    destinationIs(destination.path());
+    answers.press(QStringLiteral("OK"));
+    click(controller->saveAllButton);
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\nNothing was saved."));
+    EXPECT_TRUE(answers.seen().back().informative.contains(QStringLiteral("lies on the medium")))
+        << answers.seen().back().informative.toStdString();
+    EXPECT_TRUE(savedFiles().isEmpty());
+}
+
+TEST_F(Saving, TheReportSaysHowTheSearchEnded) {
+    openWithCard();
+    card.badForEver = {60};
+    toRange(kPhotoMode);
+    scanToEnd();
+    destinationIs(destination.path());
+    saveAllAndAnswer();
+    QFile html(destination.filePath(QStringLiteral("Recovery report.html")));
+    ASSERT_TRUE(html.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(html.readAll().contains("but 1 sector could not be read"));
 }
 
 TEST_F(Saving, AMediumThatIsGone_IsReportedAndNothingCountsAsSaved) {
