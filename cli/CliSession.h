@@ -104,6 +104,10 @@ class CliSession : private CliView, public ScanSession {
                           const QString& image_UID) override;
     void addImageWithData_2(const QByteArray& data, const QString& imageName, const QString& image_UID,
                             std::uint64_t File_Start_Sec, std::uint64_t File_End_Sec) override;
+    // Checksums and saving need all of a photo, a list nothing but its name.
+    PhotoBytes photoBytesNeeded() const override {
+        return m_options.listJson || !m_options.saveFolder.isEmpty() ? PhotoBytes::All : PhotoBytes::First;
+    }
     void publish(PublishedItem item);
     void save(const PublishedItem& item, const QByteArray& firstBytes);
     void finishSaving();

@@ -60,6 +60,9 @@ ParsedOptions parseOptions(const QStringList& arguments) {
                                    QStringLiteral("START:END"));
     const QCommandLineOption noThorough(QStringLiteral("no-thorough"),
                                         QStringLiteral("Leave out the thorough pass of photo mode."));
+    const QCommandLineOption retryBad(
+        QStringLiteral("retry-bad"),
+        QStringLiteral("Ask the medium again for bad sectors in the thorough pass and for saving."));
     const QCommandLineOption catalogue(QStringLiteral("catalogue"),
                                        QStringLiteral("Folder of the six signature catalogues."),
                                        QStringLiteral("DIR"), resourcesFolder());
@@ -71,7 +74,8 @@ ParsedOptions parseOptions(const QStringList& arguments) {
         QStringLiteral("list-media"),
         QStringLiteral("Print the storage media of this machine (with --list-json as "
                        "JSON) and search nothing."));
-    parser.addOptions({help, version, mode, types, range, noThorough, catalogue, listJson, listMedia});
+    parser.addOptions(
+        {help, version, mode, types, range, noThorough, retryBad, catalogue, listJson, listMedia});
     saving.addTo(parser);
     parser.addPositionalArgument(
         QStringLiteral("MEDIUM"),
@@ -113,6 +117,7 @@ ParsedOptions parseOptions(const QStringList& arguments) {
         options.range = {text.left(colon), text.mid(colon + 1)};
     }
     options.thorough = !parser.isSet(noThorough);
+    options.retryBad = parser.isSet(retryBad);
     options.catalogueFolder = parser.value(catalogue);
     if (const auto complaint = saving.read(parser, options)) {
         return badUsage(*complaint);

@@ -15,6 +15,8 @@ struct CliOptions {
     std::optional<QStringList> types;                  // none: all
     std::optional<std::pair<QString, QString>> range;  // start and end sector as typed
     bool thorough = true;
+    bool retryBad =
+        false;  // sectors that were refused twice are asked for again by the later pass and saving
     QString catalogueFolder;
     QString saveFolder;  // empty: nothing is saved
     SavePolicy savePolicy;

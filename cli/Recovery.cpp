@@ -294,7 +294,8 @@ int recover(const CliOptions& options) {
     head.sectors = medium.sectors;
     head.begun = QDateTime::currentDateTime();
     CliSession session(options, medium.sectors);
-    session.setMediumOpener(medium.open);
+    session.setMediumOpener(medium.open, options.retryBad ? ScanSession::RefusedSectorsAre::AskedForAgain
+                                                          : ScanSession::RefusedSectorsAre::KnownToAll);
     session.setLiesOnMedium([path = medium.path](const QString& destination) {
         return destinationIsOnMedium(destination, path);
     });

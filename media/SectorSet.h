@@ -9,11 +9,13 @@
 
 namespace vantor {
 
-// Neighbours share one entry, so that a dead stretch costs one. At most kMaxRuns entries are kept; beyond
+// Neighbours share one entry, so that a dead stretch costs one. At most `maxRuns` entries are kept; beyond
 // them the lowest run is forgotten.
 class SectorSet {
   public:
     static constexpr std::size_t kMaxRuns = 4096;
+
+    explicit SectorSet(std::size_t maxRuns = kMaxRuns) : m_maxRuns(maxRuns) {}
 
     bool contains(std::uint64_t sector) const {
         const auto after = m_runs.upper_bound(sector);
@@ -36,7 +38,7 @@ class SectorSet {
         } else {
             m_runs.emplace(sector, end);
         }
-        if (m_runs.size() > kMaxRuns) {
+        if (m_runs.size() > m_maxRuns) {
             m_runs.erase(m_runs.begin());
         }
     }
@@ -61,6 +63,7 @@ class SectorSet {
     std::size_t runs() const { return m_runs.size(); }
 
   private:
+    std::size_t m_maxRuns;
     std::map<std::uint64_t, std::uint64_t> m_runs;  // first sector -> one past the last
 };
 

@@ -18,8 +18,8 @@ _vantor_recovery_cli() {
     esac
 
     if [[ $cur == -* ]]; then
-        COMPREPLY=($(compgen -W '--help --version --mode --types --range --no-thorough --catalogue
-            --save --as-published --report --by-date --min-bytes --min-pixels --keep-duplicates
+        COMPREPLY=($(compgen -W '--help --version --mode --types --range --no-thorough --retry-bad
+            --catalogue --save --as-published --report --by-date --min-bytes --min-pixels --keep-duplicates
             --skip-unsound --list-json --list-media' -- "$cur"))
         return
     fi

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "catalogue/SignatureRecord.h"
+#include "scan/PassMemory.h"
 #include "scan/ProgressText.h"
 
 namespace vantor {
@@ -13,6 +14,19 @@ ScanSession::ScanSession(ScanView& view) : m_view(view) {}
 
 ScanSession::~ScanSession() = default;
 
+MediumOpener ScanSession::knowingRefusals(MediumOpener opener) const {
+    if (!opener) {
+        return {};
+    }
+    return [opener = std::move(opener), refusals = m_refusals](const QString& devicePath) {
+        auto medium = opener(devicePath);
+        if (medium) {
+            medium->shareRefusals(refusals);
+        }
+        return medium;
+    };
+}
+
 // What both scans begin with, from the mode text to the help; false when the medium cannot be opened.
 bool ScanSession::beginPass(ControlSet set, const QString& passName) {
     m_view.showModeLabel(
@@ -20,9 +34,13 @@ bool ScanSession::beginPass(ControlSet set, const QString& passName) {
             ? QStringLiteral("( Currently performing Search based on: Vantor General Recovery Procedure )")
             : QStringLiteral("( Currently performing Search based on: Vantor Thorough Scanning Alogrithm )"));
     pFile_Disk.reset();
-    prepareRange(set, passName);
+    prepareRange(set);
     m_readFailures = {};
     const bool thorough = passName == kThoroughPass;
+    if (passName == kGeneralPass) {
+        m_refusals->forget();
+        m_memory.reset();
+    }
     // A thorough pass over no signatures meets none of them again.
     const std::uint64_t unreadableBefore = thorough ? m_end.unreadable : 0;
     m_end = {};
@@ -52,6 +70,25 @@ bool ScanSession::anotherPassFollows(ControlSet set, const QString& passName) co
                                     : !CheckListHeader_Adv_Array.isEmpty();
 }
 
+// What the general pass reads is screened for the thorough one too, which then need not read it again.
+ScanSession::PassReading ScanSession::beginReading(ControlSet set, const QString& passName,
+                                                   const std::shared_ptr<const HeaderMatcher>& matcher) {
+    if (anotherPassFollows(set, passName)) {
+        m_memory =
+            std::make_shared<PassMemory>(set == ControlSet::Photo ? Adv_Ext_Array : CheckListHeader_Adv_Array,
+                                         pFile_Disk->mediumSectors());
+        pFile_Disk->setScreen(m_memory->screenBeside(matcher));
+        return {m_memory.get(), false};
+    }
+    pFile_Disk->setScreen(matcher);
+    const auto memory = std::exchange(m_memory, nullptr);
+    if (!memory || !memory->isFor(REC_PROC_Array, pFile_Disk->mediumSectors())) {
+        return {};
+    }
+    pFile_Disk->setRecall(memory);
+    return {nullptr, true};
+}
+
 // To the first sector of the pass, with the records that it searches for.
 void ScanSession::prepareRecords(const QString& passName, const QStringList& general,
                                  const QStringList& thorough) {
@@ -70,11 +107,10 @@ void ScanSession::prepareRecords(const QString& passName, const QStringList& gen
 }
 
 // Range, progress bar, counter and text.
-void ScanSession::prepareRange(ControlSet set, const QString& passName) {
+void ScanSession::prepareRange(ControlSet set) {
     start_sector = 0;
     end_sector = 0;
     const SectorRange range = rangeFromControls(m_view.rangeControls(set));
-    m_laterSectors = anotherPassFollows(set, passName) ? range.end - range.start : 0;
     for_index = range.start;  // first, so that no tick in between sees less than nothing done
     start_sector = range.start;
     end_sector = range.end;

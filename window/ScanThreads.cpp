@@ -28,9 +28,7 @@ void MyTableController::startScan(void (ScanSession::*driver)()) {
     idSigTableView->clearSelection();
     showChosenType();
     showDestination();
-    m_looks->begin(m_parts.openBeside
-                       ? [open = m_parts.openBeside, device = devicePath()] { return open(device); }
-                       : SoundnessBoard::Open());
+    beginLooks();
     resetAddedItemCount();
     m_clock.start();
     m_scanBegun = QDateTime::currentDateTime();
@@ -47,6 +45,12 @@ void MyTableController::startScan(void (ScanSession::*driver)()) {
         m_timerRunning = false;
     });
     m_pump.start();
+}
+
+void MyTableController::beginLooks() {
+    m_looks->begin(m_parts.openBeside
+                       ? [open = m_parts.openBeside, device = devicePath()] { return open(device); }
+                       : SoundnessBoard::Open());
 }
 
 void MyTableController::startTimerThread() {

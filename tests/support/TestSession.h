@@ -151,6 +151,10 @@ class TestSession : public RecordingView, public ScanSession {
         return list;
     }
 
+    using ScanSession::PhotoBytes;
+    PhotoBytes photoBytes = PhotoBytes::All;
+    PhotoBytes photoBytesNeeded() const override { return photoBytes; }
+
     using ScanSession::images;
     using ScanSession::nsSIGFileInfoDataObject;
 
