@@ -63,6 +63,14 @@ ParsedOptions parseOptions(const QStringList& arguments) {
     const QCommandLineOption retryBad(
         QStringLiteral("retry-bad"),
         QStringLiteral("Ask the medium again for bad sectors in the thorough pass and for saving."));
+    const QCommandLineOption sessionFile(
+        QStringLiteral("session"),
+        QStringLiteral("Keep the search in FILE, so that --resume can go on with it."),
+        QStringLiteral("FILE"));
+    const QCommandLineOption resume(
+        QStringLiteral("resume"),
+        QStringLiteral("Go on with the search kept in FILE; MEDIUM may be left out."),
+        QStringLiteral("FILE"));
     const QCommandLineOption catalogue(QStringLiteral("catalogue"),
                                        QStringLiteral("Folder of the six signature catalogues."),
                                        QStringLiteral("DIR"), resourcesFolder());
@@ -74,8 +82,8 @@ ParsedOptions parseOptions(const QStringList& arguments) {
         QStringLiteral("list-media"),
         QStringLiteral("Print the storage media of this machine (with --list-json as "
                        "JSON) and search nothing."));
-    parser.addOptions(
-        {help, version, mode, types, range, noThorough, retryBad, catalogue, listJson, listMedia});
+    parser.addOptions({help, version, mode, types, range, noThorough, retryBad, sessionFile, resume,
+                       catalogue, listJson, listMedia});
     saving.addTo(parser);
     parser.addPositionalArgument(
         QStringLiteral("MEDIUM"),
@@ -101,6 +109,15 @@ ParsedOptions parseOptions(const QStringList& arguments) {
     }
     CliOptions& options = parsed.options;
     options.mode = *chosenMode;
+    options.resume = parser.isSet(resume);
+    if (options.resume && (parser.isSet(mode) || parser.isSet(types) || parser.isSet(range) ||
+                           parser.isSet(noThorough) || parser.isSet(sessionFile))) {
+        return badUsage(QStringLiteral("What to search for stands in the file of --resume."));
+    }
+    options.sessionFile = parser.value(options.resume ? resume : sessionFile);
+    if (options.sessionFile.isEmpty() && (options.resume || parser.isSet(sessionFile))) {
+        return badUsage(QStringLiteral("No file given to keep the search in."));
+    }
     if (parser.isSet(types)) {
         if (options.mode == kPhotoMode) {
             return badUsage(
@@ -127,6 +144,9 @@ ParsedOptions parseOptions(const QStringList& arguments) {
     const QStringList media = parser.positionalArguments();
     if (options.listMedia) {
         return media.isEmpty() ? parsed : badUsage(QStringLiteral("--list-media takes no medium."));
+    }
+    if (options.resume && media.isEmpty()) {
+        return parsed;
     }
     if (media.size() != 1) {
         return badUsage(media.isEmpty() ? QStringLiteral("No medium given.")

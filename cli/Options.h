@@ -23,7 +23,9 @@ struct CliOptions {
     bool report = false;  // beside the saved files
     bool listJson = false;
     bool listMedia = false;  // nothing is searched
-    QString medium;
+    QString sessionFile;     // where the search is kept; empty: nowhere
+    bool resume = false;     // goes on with the search of the session file, whose wishes count
+    QString medium;          // empty only with `resume`: the one that was searched
 };
 
 // The exit codes, which --help lists.

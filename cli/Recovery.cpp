@@ -20,6 +20,7 @@
 #include "catalogue/TextHelpers.h"
 #include "cli/CliMedium.h"
 #include "cli/CliSession.h"
+#include "cli/KeptSearch.h"
 #include "cli/ListMedia.h"
 #include "cli/ProgressLine.h"
 #include "media/PlatformMedia.h"
@@ -229,7 +230,7 @@ int exitCodeOf(const CliSession& session) {
 }
 
 // Why the search did not get to its end, and how to get there.
-void tellEnd(const SearchEnd& end, const CliMedium& medium) {
+void tellEnd(const SearchEnd& end, const CliOptions& options, const CliMedium& medium) {
     if (end.isFlawless()) {
         return;
     }
@@ -238,7 +239,9 @@ void tellEnd(const SearchEnd& end, const CliMedium& medium) {
     if (end.outcome == PassOutcome::OpenError && !why.isEmpty()) {
         complain(why);
     }
-    if (end.canGoOn()) {
+    if (end.canGoOn() && !options.sessionFile.isEmpty()) {
+        complain(QStringLiteral("To go on from there: --resume %1").arg(options.sessionFile));
+    } else if (end.canGoOn()) {
         complain(QStringLiteral("To go on from there: --range %1:%2").arg(end.goOnAt).arg(end.end));
     }
 }
@@ -248,7 +251,7 @@ int tell(CliSession& session, const CliOptions& options, const CliMedium& medium
     for (const QString& alert : session.alerts()) {
         complain(alert);
     }
-    tellEnd(session.searchEnd(), medium);
+    tellEnd(session.searchEnd(), options, medium);
     bool allRead = true;
     if (options.listJson) {
         allRead = printJson(session);
@@ -276,7 +279,18 @@ int tell(CliSession& session, const CliOptions& options, const CliMedium& medium
 
 }  // namespace
 
-int recover(const CliOptions& options) {
+int recover(const CliOptions& asked) {
+    CliOptions options = asked;
+    std::optional<SearchRecord> kept;
+    QString why;
+    if (options.resume) {
+        kept = readKeptSearch(options.sessionFile, &why);
+        if (!kept) {
+            complain(QStringLiteral("%1: %2").arg(options.sessionFile, why));
+            return kExitBadUsage;
+        }
+        takeWishes(*kept, options);
+    }
     const std::unique_ptr<MediaSource> source = makePlatformMediaSource();
     if (options.listMedia) {
         return listMedia(*source, options.listJson);
@@ -306,6 +320,18 @@ int recover(const CliOptions& options) {
     if (!prepareDestination(options, medium.path)) {
         return kExitDestinationTrouble;
     }
+    if (!options.sessionFile.isEmpty() &&
+        destinationIsOnMedium(QFileInfo(options.sessionFile).absolutePath(), medium.path)) {
+        complain(QStringLiteral("%1 lies on the medium that is to be searched.").arg(options.sessionFile));
+        return kExitDestinationTrouble;
+    }
+    std::shared_ptr<SearchKeeper> keeper;
+    runBesideEvents([&] { keeper = keeperFor(options, session, medium, kept, &why); });
+    if (!why.isEmpty()) {
+        complain(QStringLiteral("The search cannot go on. ") + why);
+        return kExitCannotOpen;
+    }
+    session.keepSearch(keeper);
     {
         const StopOnInterrupt interrupt(session.stop_now, walkAway);
         std::optional<ProgressLine> line;
@@ -313,6 +339,10 @@ int recover(const CliOptions& options) {
             line.emplace(session);
         }
         runBesideEvents([&session] { session.run(); });
+    }
+    if (keeper && !keeper->error().isEmpty()) {
+        complain(QStringLiteral("The search could not be kept in %1: %2")
+                     .arg(options.sessionFile, keeper->error()));
     }
     return tell(session, options, medium, head);
 }

@@ -5,7 +5,9 @@
 #include <cstdint>
 #include <limits>
 #include <mutex>
+#include <vector>
 
+#include "media/SectorRun.h"
 #include "media/SectorSet.h"
 
 namespace vantor {
@@ -20,6 +22,15 @@ class RefusedSectors {
         const std::lock_guard lock(m_mutex);
         m_sectors.add(sector);
         m_any = true;
+    }
+    void add(const SectorRun& run) {
+        const std::lock_guard lock(m_mutex);
+        m_sectors.add(run);
+        m_any = true;
+    }
+    std::vector<SectorRun> runs() const {
+        const std::lock_guard lock(m_mutex);
+        return m_sectors.all();
     }
     bool contains(std::uint64_t sector) const { return firstFrom(sector) == sector; }
     // The first of them at or behind the sector; the largest number there is when none follows.

@@ -6,6 +6,9 @@
 #include <iterator>
 #include <limits>
 #include <map>
+#include <vector>
+
+#include "media/SectorRun.h"
 
 namespace vantor {
 
@@ -41,6 +44,25 @@ class SectorSet {
         if (m_runs.size() > m_maxRuns) {
             m_runs.erase(m_runs.begin());
         }
+    }
+
+    // A row that lies apart from all others; one that does not is left out.
+    void add(const SectorRun& run) {
+        const auto after = m_runs.lower_bound(run.first);
+        const bool apart = (after == m_runs.end() || after->first > run.end) &&
+                           (after == m_runs.begin() || std::prev(after)->second < run.first);
+        if (apart && m_runs.size() < m_maxRuns) {
+            m_runs.emplace(run.first, run.end);
+        }
+    }
+
+    // Ascending.
+    std::vector<SectorRun> all() const {
+        std::vector<SectorRun> runs;
+        for (const auto& [first, end] : m_runs) {
+            runs.push_back({first, end});
+        }
+        return runs;
     }
 
     // The first sector of the set at or behind `sector`; the largest number there is when none follows.

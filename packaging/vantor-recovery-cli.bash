@@ -12,6 +12,10 @@ _vantor_recovery_cli() {
             _filedir -d
             return
             ;;
+        --session | --resume)
+            _filedir
+            return
+            ;;
         --types | --range | --min-bytes | --min-pixels)
             return
             ;;
@@ -19,7 +23,7 @@ _vantor_recovery_cli() {
 
     if [[ $cur == -* ]]; then
         COMPREPLY=($(compgen -W '--help --version --mode --types --range --no-thorough --retry-bad
-            --catalogue --save --as-published --report --by-date --min-bytes --min-pixels --keep-duplicates
+            --session --resume --catalogue --save --as-published --report --by-date --min-bytes --min-pixels --keep-duplicates
             --skip-unsound --list-json --list-media' -- "$cur"))
         return
     fi

@@ -7,7 +7,7 @@
 #include "catalogue/NumberText.h"
 #include "catalogue/SignatureRecord.h"
 #include "scan/HeaderMatcher.h"
-#include "scan/PassMemory.h"
+#include "scan/PassReading.h"
 #include "scan/PhotoItemBuffer.h"
 #include "scan/PhotoPicture.h"
 #include "scan/PlatformException.h"
@@ -99,7 +99,7 @@ bool ScanSession::Photo_Recovey_Mode(const QString& passName) {
 
 void ScanSession::runPhotoLoop(PhotoPass& pass) {
     SectorReader& medium = *pFile_Disk;
-    PassMemory* const memory = pass.reading.forLater;
+    const bool remembers = pass.reading.remembers();
     const std::uint64_t end = end_sector;
     const bool haveRecords = !REC_PROC_Array.isEmpty();
     const std::uint64_t limitWithoutMatch = pass.limits.empty() ? 0 : pass.limits.back();
@@ -117,11 +117,11 @@ void ScanSession::runPhotoLoop(PhotoPass& pass) {
         }
         const bool readBefore = pass.lastReadSucceeded;
         pass.lastReadSucceeded = medium.read();
+        if (remembers) {
+            pass.reading.note(medium, pass.lastReadSucceeded, *m_refusals);
+        }
         if (pass.lastReadSucceeded) {
             pass.lastGoodSector = medium.position() - 1;
-            if (memory != nullptr) {
-                memory->note(pass.lastGoodSector, medium.looks());
-            }
         } else {
             m_readFailures.note(medium.position(), readBefore);
             pass.carved.readFailed = true;

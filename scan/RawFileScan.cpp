@@ -8,7 +8,7 @@
 #include "catalogue/SignatureRecord.h"
 #include "catalogue/TextHelpers.h"
 #include "scan/HeaderMatcher.h"
-#include "scan/PassMemory.h"
+#include "scan/PassReading.h"
 #include "scan/PlatformException.h"
 #include "scan/ReferenceSector.h"
 #include "scan/ScanSession.h"
@@ -124,7 +124,7 @@ bool ScanSession::Raw_File_Recovey_Mode(const QString& passName) {
 // False when the user stopped.
 bool ScanSession::runRawLoop(RawPass& pass) {
     SectorReader& medium = *pFile_Disk;
-    PassMemory* const memory = pass.reading.forLater;
+    const bool remembers = pass.reading.remembers();
     const std::uint64_t end = end_sector;
     std::uint64_t index = for_index;
     if (index < end && REC_PROC_Array.isEmpty()) {
@@ -137,11 +137,11 @@ bool ScanSession::runRawLoop(RawPass& pass) {
         }
         const bool readBefore = pass.lastReadSucceeded;
         pass.lastReadSucceeded = medium.read();
+        if (remembers) {
+            pass.reading.note(medium, pass.lastReadSucceeded, *m_refusals);
+        }
         if (pass.lastReadSucceeded) {
             pass.lastGoodSector = medium.position() - 1;
-            if (memory != nullptr) {
-                memory->note(pass.lastGoodSector, medium.looks());
-            }
         } else {
             m_readFailures.note(medium.position(), readBefore);
             if (!medium.seek(index)) {

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "catalogue/SignatureRecord.h"
-#include "scan/PassMemory.h"
+#include "scan/PassReading.h"
 #include "scan/ProgressText.h"
 
 namespace vantor {
@@ -39,6 +39,9 @@ bool ScanSession::beginPass(ControlSet set, const QString& passName) {
     const bool thorough = passName == kThoroughPass;
     if (passName == kGeneralPass) {
         m_refusals->forget();
+        if (m_keeper) {
+            m_keeper->tellRefusals(*m_refusals);
+        }
         m_memory.reset();
     }
     // A thorough pass over no signatures meets none of them again.
@@ -71,22 +74,32 @@ bool ScanSession::anotherPassFollows(ControlSet set, const QString& passName) co
 }
 
 // What the general pass reads is screened for the thorough one too, which then need not read it again.
-ScanSession::PassReading ScanSession::beginReading(ControlSet set, const QString& passName,
-                                                   const std::shared_ptr<const HeaderMatcher>& matcher) {
+PassReading ScanSession::beginReading(ControlSet set, const QString& passName,
+                                      const std::shared_ptr<const HeaderMatcher>& matcher) {
+    PassReading reading;
+    if (m_keeper && passName == kGeneralPass) {
+        reading.keeper = m_keeper.get();
+        reading.recalls = m_keeper->goesOn();
+    }
+    if (reading.recalls) {
+        pFile_Disk->setRecall(m_keeper->recall());
+    }
     if (anotherPassFollows(set, passName)) {
         m_memory =
             std::make_shared<PassMemory>(set == ControlSet::Photo ? Adv_Ext_Array : CheckListHeader_Adv_Array,
                                          pFile_Disk->mediumSectors());
         pFile_Disk->setScreen(m_memory->screenBeside(matcher));
-        return {m_memory.get(), false};
+        reading.forLater = m_memory.get();
+        return reading;
     }
     pFile_Disk->setScreen(matcher);
     const auto memory = std::exchange(m_memory, nullptr);
     if (!memory || !memory->isFor(REC_PROC_Array, pFile_Disk->mediumSectors())) {
-        return {};
+        return reading;
     }
     pFile_Disk->setRecall(memory);
-    return {nullptr, true};
+    reading.recalls = true;
+    return reading;
 }
 
 // To the first sector of the pass, with the records that it searches for.
@@ -161,6 +174,9 @@ void ScanSession::openFailed(ControlSet set) {
 
 // Before the medium is closed, which knows how it fared.
 void ScanSession::passEnds(PassOutcome outcome, std::optional<std::uint64_t> openItemAt) {
+    if (m_keeper && outcome != PassOutcome::OpenError) {
+        m_keeper->write(*m_refusals);
+    }
     m_end.outcome = outcome;
     m_end.start = start_sector;
     m_end.end = end_sector;

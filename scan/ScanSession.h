@@ -38,6 +38,8 @@ namespace vantor {
 
 class HeaderMatcher;
 class PassMemory;
+struct PassReading;
+class SearchKeeper;
 
 // The names of the passes.
 inline constexpr QStringView kGeneralPass = u"GEN";
@@ -76,7 +78,14 @@ class ScanSession : public HexText {
     void forgetRefusals() { m_refusals->forget(); }
     void setThumbnailer(Thumbnailer thumbnailer) { m_thumbnailer = std::move(thumbnailer); }
 
+    // The next search is kept in the keeper's file, and goes on with the one that the keeper knows. Null: it
+    // is not kept.
+    void keepSearch(std::shared_ptr<SearchKeeper> keeper) { m_keeper = std::move(keeper); }
+
     // --- Catalogue and file types (SessionCatalogue.cpp) ---
+
+    // Of all records that a search of the mode looks for, as they are chosen now.
+    QByteArray catalogueSum() const;
 
     // Fills the six catalogue arrays from the files in the folder; an unreadable file leaves its array empty.
     void loadCatalogues(const QString& folder);
@@ -195,6 +204,7 @@ class ScanSession : public HexText {
     // empty. Any one thread at a time.
     void addThumbnail(const QByteArray& thumbnail, const QString& imageName, const QString& image_UID,
                       const HandOver& from);
+    const RefusedSectors& refusals() const { return *m_refusals; }
     // How much of a photo addImageWithData() has to be given where it would have to be read again: the first
     // sector, as far as its picture reaches, or everything.
     enum class PhotoBytes { First, Picture, All };
@@ -216,13 +226,6 @@ class ScanSession : public HexText {
   private:
     struct PhotoPass;
     struct RawPass;
-
-    // How a pass reads: filling the memory for the one behind it, by what the one before it remembered, or
-    // neither.
-    struct PassReading {
-        PassMemory* forLater = nullptr;
-        bool recalls = false;
-    };
 
     void appendItem(std::shared_ptr<MyImageObject> item);
     void addRawItem(std::unique_ptr<MyImageObject> item, const QString& name, const QString& path);
@@ -258,6 +261,7 @@ class ScanSession : public HexText {
     ScanView& m_view;
     MediumOpener m_openMedium;
     const std::shared_ptr<RefusedSectors> m_refusals = std::make_shared<RefusedSectors>();
+    std::shared_ptr<SearchKeeper> m_keeper;
     std::shared_ptr<PassMemory> m_memory;  // of the general pass, for the thorough one
     Thumbnailer m_thumbnailer;
     HandOver m_handOver;

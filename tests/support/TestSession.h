@@ -156,6 +156,7 @@ class TestSession : public RecordingView, public ScanSession {
     PhotoBytes photoBytesNeeded() const override { return photoBytes; }
 
     using ScanSession::images;
+    using ScanSession::refusals;
     using ScanSession::nsSIGFileInfoDataObject;
 
     std::vector<HandedOver> handedOver;
