@@ -117,6 +117,10 @@ class CliSession : private CliView, public ScanSession {
                           const QString& image_UID) override;
     void addImageWithData_2(const QByteArray& data, const QString& imageName, const QString& image_UID,
                             std::uint64_t File_Start_Sec, std::uint64_t File_End_Sec) override;
+    // Checksums and saving need all of a photo, a list nothing but its name.
+    PhotoBytes photoBytesNeeded() const override {
+        return m_options.listJson || !m_options.saveFolder.isEmpty() ? PhotoBytes::All : PhotoBytes::First;
+    }
     void publish(const QByteArray& sha256);
     void save(const QString& name, const QByteArray& firstBytes);
     void noteOutcome(const SaveTask& task, const SaveOutcome& outcome);

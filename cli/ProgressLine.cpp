@@ -40,7 +40,7 @@ void ProgressLine::draw() {
     }
     if (const std::uint64_t total = m_session.total_sector; total != m_total || index - start < m_done) {
         m_total = total;
-        m_meter.begin(total, m_session.sectorsOfLaterPasses());  // another pass began
+        m_meter.begin(total);  // another pass began
     }
     m_done = index - start;
     const auto now = std::chrono::steady_clock::now() - m_begun;

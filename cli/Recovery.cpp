@@ -22,6 +22,7 @@
 #include "catalogue/TextHelpers.h"
 #include "cli/CliMedium.h"
 #include "cli/CliSession.h"
+#include "cli/KeptSearch.h"
 #include "cli/ListFiles.h"
 #include "cli/ListMedia.h"
 #include "cli/ProgressLine.h"
@@ -287,7 +288,7 @@ int exitCodeOf(const CliSession& session) {
 }
 
 // Why the search did not get to its end, and how to get there.
-void tellEnd(const SearchEnd& end, const CliMedium& medium) {
+void tellEnd(const SearchEnd& end, const CliOptions& options, const CliMedium& medium) {
     if (end.isFlawless()) {
         return;
     }
@@ -296,7 +297,9 @@ void tellEnd(const SearchEnd& end, const CliMedium& medium) {
     if (end.outcome == PassOutcome::OpenError && !why.isEmpty()) {
         complain(why);
     }
-    if (end.canGoOn()) {
+    if (end.canGoOn() && !options.sessionFile.isEmpty()) {
+        complain(QStringLiteral("To go on from there: --resume %1").arg(options.sessionFile));
+    } else if (end.canGoOn()) {
         complain(QStringLiteral("To go on from there: --range %1:%2").arg(end.goOnAt).arg(end.end));
     }
 }
@@ -306,7 +309,7 @@ int tell(CliSession& session, const CliOptions& options, const CliMedium& medium
     for (const QString& alert : session.alerts()) {
         complain(alert);
     }
-    tellEnd(session.searchEnd(), medium);
+    tellEnd(session.searchEnd(), options, medium);
     bool allRead = true;
     if (options.listJson) {
         allRead = printJson(session);
@@ -346,6 +349,16 @@ bool tellCopy(const MediumCopy& copy, const CliOptions& options) {
 }  // namespace
 
 int recover(CliOptions options) {
+    std::optional<SearchRecord> kept;
+    QString why;
+    if (options.resume) {
+        kept = readKeptSearch(options.sessionFile, &why);
+        if (!kept) {
+            complain(QStringLiteral("%1: %2").arg(options.sessionFile, why));
+            return kExitBadUsage;
+        }
+        takeWishes(*kept, options);
+    }
     const std::unique_ptr<MediaSource> source = makePlatformMediaSource();
     if (options.listMedia) {
         return listMedia(*source, options.listJson);
@@ -391,8 +404,22 @@ int recover(CliOptions options) {
     if (!options.image.isEmpty() && !(copy = beginCopy(options, medium))) {
         return kExitDestinationTrouble;
     }
-    session.setMediumOpener(copy ? [copy, stop](const QString&) { return copy->openReader(stop); }
-                                 : medium.open);
+    const MediumOpener open = copy ? [copy, stop](const QString&) { return copy->openReader(stop); } : medium.open;
+    const auto refused = options.retryBad ? ScanSession::RefusedSectorsAre::AskedForAgain
+                                          : ScanSession::RefusedSectorsAre::KnownToAll;
+    session.setMediumOpener(open, refused);
+    if (!options.sessionFile.isEmpty() &&
+        destinationIsOnMedium(QFileInfo(options.sessionFile).absolutePath(), medium.path)) {
+        complain(QStringLiteral("%1 lies on the medium that is to be searched.").arg(options.sessionFile));
+        return kExitDestinationTrouble;
+    }
+    std::shared_ptr<SearchKeeper> keeper;
+    runBesideEvents([&] { keeper = keeperFor(options, session, medium, kept, &why); });
+    if (!why.isEmpty()) {
+        complain(QStringLiteral("The search cannot go on. ") + why);
+        return kExitCannotOpen;
+    }
+    session.keepSearch(keeper);
     {
         const StopOnInterrupt interrupt(session.stop_now, walkAway);
         std::optional<ProgressLine> line;
@@ -400,14 +427,19 @@ int recover(CliOptions options) {
             line.emplace(session, copy);
         }
         runBesideEvents([&] {
-            if (!options.range && medium.sectors != 0) {
-                session.setMediumOpener(openerAfterALook(medium));
+            // A copy is read in its own order, and who goes on has looked before.
+            if (!options.range && medium.sectors != 0 && !copy && !kept) {
+                session.setMediumOpener(openerAfterALook(medium), refused);
             }
             session.run();
             if (options.repairMovies) {
                 session.mendMovies();
             }
         });
+    }
+    if (keeper && !keeper->error().isEmpty()) {
+        complain(QStringLiteral("The search could not be kept in %1: %2")
+                     .arg(options.sessionFile, keeper->error()));
     }
     const int code = tell(session, options, medium, head);
     return !copy || tellCopy(*copy, options) || code != kExitCompleted ? code : kExitDestinationTrouble;

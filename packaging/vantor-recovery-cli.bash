@@ -12,7 +12,7 @@ _vantor_recovery_cli() {
             _filedir -d
             return
             ;;
-        --reference)
+        --reference | --session | --resume)
             _filedir
             return
             ;;
@@ -25,6 +25,8 @@ _vantor_recovery_cli() {
         COMPREPLY=($(compgen -W '--help --version --mode --types --range --no-thorough --catalogue
             --save --as-published --report --by-date --min-bytes --min-pixels --keep-duplicates
             --skip-unsound
+            --retry-bad
+            --session --resume
             --map
             --image --scrape
             --repair-movies --reference

@@ -29,9 +29,7 @@ void MyTableController::startScan(void (ScanSession::*driver)()) {
     idSigTableView->clearSelection();
     showChosenType();
     showDestination();
-    m_looks->begin(m_parts.openBeside
-                       ? [open = m_parts.openBeside, device = devicePath()] { return open(device); }
-                       : SoundnessBoard::Open());
+    beginLooks();
     setSpillFolder([asked = m_parts.isOnMedium, device = devicePath()] {
         const QString folder = QDir::tempPath();
         return asked && asked(folder, device) ? QString() : folder;
@@ -52,6 +50,12 @@ void MyTableController::startScan(void (ScanSession::*driver)()) {
         m_timerRunning = false;
     });
     m_pump.start();
+}
+
+void MyTableController::beginLooks() {
+    m_looks->begin(m_parts.openBeside
+                       ? [open = m_parts.openBeside, device = devicePath()] { return open(device); }
+                       : SoundnessBoard::Open());
 }
 
 void MyTableController::startTimerThread() {

@@ -18,7 +18,15 @@ void MyTableController::showSearchEnd() {
     const QString picture = end.isFlawless() ? QStringLiteral("ok") : QStringLiteral("info");
     const int edge = searchEndIcon->minimumWidth();
     searchEndIcon->setPixmap(ownIcon(picture).pixmap(edge, edge));
+    tryBadSectorsButton->setVisible(end.unreadable != 0);
     searchEndBar->setVisible(!sentences.isEmpty());
+}
+
+// From now on previews, badges and saving ask the medium for them as if for the first time.
+void MyTableController::tryBadSectorsAgain() {
+    forgetRefusals();
+    beginLooks();
+    tryBadSectorsButton->hide();
 }
 
 PanelWords MyTableController::endPanelWords(const PanelWords& drawn) const {

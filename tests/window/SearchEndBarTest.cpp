@@ -67,6 +67,21 @@ TEST_F(SearchEndBar, ACompletedSearch_HasTheTick) {
     EXPECT_FALSE(controller->searchEndBar->isVisible());
 }
 
+TEST_F(SearchEndBar, OnlyBadSectors_CanBeTriedAgain) {
+    openWithCard();
+    toRange(kPhotoMode);
+    runToEnd();
+    EXPECT_FALSE(controller->tryBadSectorsButton->isVisible());
+    answers.press(QStringLiteral("Go Back Without Saving"));
+    click(controller->backButton);
+    card.badForEver = {20};
+    runToEnd();
+    EXPECT_TRUE(controller->tryBadSectorsButton->isVisible());
+    click(controller->tryBadSectorsButton);
+    EXPECT_FALSE(controller->tryBadSectorsButton->isVisible());
+    EXPECT_TRUE(controller->searchEndBar->isVisible());
+}
+
 TEST_F(SearchEndBar, AStoppedSearch_SaysWhereAndHowToGoOn) {
     openWithCard();
     toFileTypes(kRawFileMode);
