@@ -64,7 +64,8 @@ struct ItemSaver::State {
     std::array<std::vector<std::uint8_t>, 2> chunks;
     BackgroundSha256 sum;
     SavedFiles saved;
-    std::map<std::uint64_t, std::uint64_t> streams;  // sectors [first, end) of whole frame streams
+    // Sectors [first, end) of whole frame streams, by type: nothing of another kind is a part of one.
+    std::map<QString, std::map<std::uint64_t, std::uint64_t>> streams;
     std::uint64_t bytesReadInVain = 0;
     std::optional<dev_t> device;  // that the destination was on first
     std::set<QString> folders;    // below it, that were written into
@@ -89,15 +90,19 @@ bool ItemSaver::State::mayGoBeyond(const FoundItem& item) const {
         return false;
     }
     const std::uint64_t first = firstSectorOf(item);
-    const auto after = streams.lower_bound(first);
-    return !isFrameStream(item.type) || after == streams.begin() || std::prev(after)->second <= first;
+    const auto known = streams.find(item.type);
+    if (known == streams.end()) {
+        return true;
+    }
+    const auto after = known->second.lower_bound(first);
+    return after == known->second.begin() || std::prev(after)->second <= first;
 }
 
 void ItemSaver::State::noteLength(const FoundItem& item, const TrueLength& length, std::uint64_t readBeyond) {
     if (length.extent.verdict != Verdict::Complete) {
         bytesReadInVain += readBeyond;
     } else if (isFrameStream(item.type)) {
-        std::uint64_t& end = streams[firstSectorOf(item)];
+        std::uint64_t& end = streams[item.type][firstSectorOf(item)];
         end = std::max(end, firstSectorOf(item) + length.bytes / kSectorBytes);
     }
 }
