@@ -20,8 +20,12 @@ constexpr std::uint64_t kTimesBroken = 1;
 // Every frame of a stream may look like a file's beginning to the catalogues; such parts are saved as they
 // were carved, or saving would cost the square of the file.
 bool LengthClaims::mayGoBeyond(const QString& type, std::uint64_t firstSector) const {
-    const auto after = m_streams.lower_bound(firstSector);
-    return after == m_streams.begin() || std::prev(after)->second <= firstSector || !isFrameStream(type);
+    const auto known = m_streams.find(type);
+    if (known == m_streams.end()) {
+        return true;
+    }
+    const auto after = known->second.lower_bound(firstSector);
+    return after == known->second.begin() || std::prev(after)->second <= firstSector;
 }
 
 LengthClaims::Answer LengthClaims::ask(const QString& type, const MediumBytes& bytes,
@@ -36,7 +40,7 @@ LengthClaims::Answer LengthClaims::ask(const QString& type, const MediumBytes& b
     // Also of one that has to wait, since its parts come before it, and not of the parts.
     if (const std::uint64_t first = bytes.firstSector();
         complete && isFrameStream(type) && mayGoBeyond(type, first)) {
-        std::uint64_t& end = m_streams[first];
+        std::uint64_t& end = m_streams[type][first];
         end = std::max(end, first + length.bytes / kSectorBytes);
     }
     const SectorRun stretch = bytes.stretchBeyond(length.bytes);

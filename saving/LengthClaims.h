@@ -35,7 +35,7 @@ class LengthClaims {
 
     // For the view that looks for the length of an item: what was read in vain before.
     const PlaceBudget& readInVain() const { return m_vain; }
-    // False for parts of a frame stream that was found whole.
+    // False for parts of a frame stream of the same type that was found whole.
     bool mayGoBeyond(const QString& type, std::uint64_t firstSector) const;
 
     // `mayWait`: whether the item can come again. To be asked once a turn, behind trueLengthOf().
@@ -49,8 +49,9 @@ class LengthClaims {
 
     const std::uint64_t m_mediumSectors;
     PlaceBudget m_vain, m_unchecked, m_checked;
-    SectorRun m_lastTaken;                             // types that share a header share the item
-    std::map<std::uint64_t, std::uint64_t> m_streams;  // sectors [first, end) of whole frame streams
+    SectorRun m_lastTaken;  // types that share a header share the item
+    // Sectors [first, end) of whole frame streams, by type: nothing of another kind is a part of one.
+    std::map<QString, std::map<std::uint64_t, std::uint64_t>> m_streams;
 };
 
 // Items that wait for the second round: whole ones first, among them those that claim least for what was

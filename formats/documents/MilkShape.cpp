@@ -50,8 +50,10 @@ bool MilkShapeWalk::parts() {
         m_at += members * 2 + 1;
     }
     const auto materials = count16();
-    m_at += materials * 361 + 12;  // and the animation's speed, time and frames
+    m_at += materials * 361 + 12;                // and the animation's speed, time and frames
+    constexpr std::uint64_t kMostJoints = 1024;  // the program allows 128
     m_joints = count16();
+    m_ok = m_ok && m_joints <= kMostJoints;
     for (auto joints = m_joints; m_ok && joints != 0; --joints) {
         m_at += 89;
         const auto turns = count16(), moves = count16();

@@ -1,5 +1,7 @@
 // Columns of data (PARQUET): the same mark at both ends, and before the last one the length of a footer.
 // Source: Apache Parquet file format.
+#include <algorithm>
+
 #include "formats/Format.h"
 
 namespace vantor {
@@ -16,8 +18,12 @@ Extent walkParquet(ByteView& view) {
     constexpr std::uint64_t kMark = 4, kLength = 4, kLeastFooter = 8;
     if (!view.matches(0, "PAR1"))
         return unknownExtent();
-    auto mark = view.find('P', kMark + kLength, view.size());
-    for (; mark.found(); mark = view.find('P', mark.at + 1, view.size())) {
+    // Columns that are packed, or hold anything, have every byte now and then; an empty medium has not.
+    constexpr std::uint64_t kMostSilence = 4 * 1024 * 1024;
+    const auto next = [&](std::uint64_t from) {
+        return view.find('P', from, std::min(view.size(), from + kMostSilence));
+    };
+    for (auto mark = next(kMark + kLength); mark.found(); mark = next(mark.at + 1)) {
         if (!view.matches(mark.at, "PAR1"))
             continue;
         const std::uint64_t footer = view.le32(mark.at - kLength).value_or(0);

@@ -57,8 +57,9 @@ Bytes oktalyzer() {
     return out.text("SLEN").be32(2).be16(1).text("SBOD").be32(12).fill(12, 7);
 }
 
+// Of version 2, which can tell sizes as small as 32 bytes.
 Bytes cartridge() {
-    return Build().text("NES\x1A").u8(1).u8(1).u8(4).fill(9).fill(512 + 16384 + 8192, 3);
+    return Build().text("NES\x1A").u8(20).u8(0).u8(4).u8(8).u8(0).u8(15).fill(6).fill(512 + 32, 3);
 }
 
 Bytes ace() {

@@ -302,5 +302,10 @@ TEST(LzhHabits, ArchiveOfCpm_FillsItsRecord_AndTheOldestHasNoMark) {
     expectEnd("LZH", Build().add(member("-lz4-")).fill(900, 0), member("-lz4-").size());
 }
 
+TEST(CartridgeHabits, OldHeaderCountsBanks) {
+    const Bytes file = Build().text("NES\x1A").u8(2).u8(1).fill(10).fill(2 * 16384 + 8192, 3);
+    expectEnd("NES", Build().add(file).fill(900, 0), file.size());
+}
+
 }  // namespace
 }  // namespace vantor::test

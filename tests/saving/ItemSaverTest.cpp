@@ -378,6 +378,9 @@ TEST(ItemSaver, PartsOfAStreamGoNoFurtherThanTheyWereCarved) {
     const SaveOutcome part = saver.saveRuns("AC3", "b.AC3", run(20, 22), reader);
     ASSERT_TRUE(part.saved);
     EXPECT_EQ(part.bytes, 2 * 512U);
+    // What is of another kind is no part of it, however far the first was believed to reach.
+    const SaveOutcome other = saver.saveRuns("EAC3", "c.EAC3", run(20, 22), reader);
+    EXPECT_EQ(other.bytes, static_cast<std::uint64_t>(stream.size()) - 10 * 512U);
 }
 
 // One reader that loses its medium at the given sector.
