@@ -59,12 +59,6 @@ std::unique_ptr<CopyFile> CopyFile::open(const QString& imagePath, std::uint64_t
     if (info.exists() && !info.isFile()) {
         return refuse(QStringLiteral("“%1” is no file.").arg(name));
     }
-    if (info.exists() && map.isEmpty()) {
-        return refuse(
-            QStringLiteral("“%1” is there already, and no map beside it says that it is a copy to go on "
-                           "with. Please choose another name.")
-                .arg(name));
-    }
     if (!info.exists() && !map.isEmpty()) {
         return refuse(QStringLiteral("The map “%1” belongs to another copy. Please choose another name.")
                           .arg(QFileInfo(map).fileName()));
@@ -84,7 +78,7 @@ std::unique_ptr<CopyFile> CopyFile::open(const QString& imagePath, std::uint64_t
                     .arg(name));
         }
     }
-    const int flags = O_RDWR | O_CLOEXEC | O_NONBLOCK | O_NOCTTY | (map.isEmpty() ? O_CREAT | O_EXCL : 0);
+    const int flags = O_RDWR | O_CLOEXEC | O_NONBLOCK | O_NOCTTY | (map.isEmpty() ? O_CREAT : 0);
     copy->m_image = FileDescriptor(::open(QFile::encodeName(copy->m_imagePath).constData(), flags, 0666));
     struct stat image {};
     if (!copy->m_image || ::fstat(copy->m_image.get(), &image) != 0) {
@@ -92,6 +86,13 @@ std::unique_ptr<CopyFile> CopyFile::open(const QString& imagePath, std::uint64_t
     }
     if (::flock(copy->m_image.get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
         return refuse(QStringLiteral("“%1” is being written by another search.").arg(name));
+    }
+    // An empty one is what a program leaves that is killed before it has written the map.
+    if (map.isEmpty() && image.st_size != 0) {
+        return refuse(
+            QStringLiteral("“%1” is there already, and no map beside it says that it is a copy to go on "
+                           "with. Please choose another name.")
+                .arg(name));
     }
     copy->m_length = static_cast<std::uint64_t>(image.st_size);
     // No image without a map, from the first moment on.

@@ -48,6 +48,8 @@ std::optional<double> writingSpeed(const QString& folder) {
     return written && taken > 0 ? std::optional(kTrialBytes * 1e9 / taken) : std::nullopt;
 }
 
+constexpr std::uint64_t kMinutesWorthTelling = 5;
+
 }  // namespace
 
 std::optional<QString> refuseCopyPlace(const QString& imagePath, const QString& mediumPath) {
@@ -93,6 +95,9 @@ std::optional<QString> warnOfCopySpeed(double bytesPerSecond, std::uint64_t byte
         return std::nullopt;
     }
     const auto minutes = static_cast<std::uint64_t>(static_cast<double>(bytes) / bytesPerSecond / 60) + 1;
+    if (minutes < kMinutesWorthTelling) {
+        return std::nullopt;
+    }
     return QStringLiteral("The disk of the copy takes only %1 a second: a whole copy takes about %2 minutes.")
         .arg(sizeForPeople(static_cast<std::uint64_t>(bytesPerSecond)), numberForPeople(minutes));
 }

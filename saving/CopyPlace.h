@@ -16,7 +16,8 @@ std::optional<QString> refuseCopyPlace(const QString& imagePath, const QString& 
 // copy then ends early or late. Tries how fast a few megabytes can be written, which may take seconds.
 QStringList warnOfCopyPlace(const QString& imagePath, std::uint64_t sectors);
 
-// The sentence about the time; nothing when that is no more than a usual card takes to be read.
+// The sentence about the time; nothing when it is a few minutes, or no more than a slow card takes to
+// be read.
 std::optional<QString> warnOfCopySpeed(double bytesPerSecond, std::uint64_t bytes);
 
 }  // namespace vantor

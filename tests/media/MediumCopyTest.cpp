@@ -350,6 +350,9 @@ TEST_F(MediumCopies, NothingIsWrittenOverAndNoTwoWriteTheSame) {
     EXPECT_TRUE(why.contains("belongs to another copy")) << why.toStdString();
     QFile::remove(m_folder.filePath("card.map"));
 
+    // As a program leaves it that is killed at its very beginning.
+    ASSERT_TRUE(mine.open(QIODevice::WriteOnly));
+    mine.close();
     const auto first = CopyFile::open(m_image, 100, &why);
     ASSERT_TRUE(first) << why.toStdString();
     EXPECT_EQ(CopyFile::open(m_image, 100, &why), nullptr);

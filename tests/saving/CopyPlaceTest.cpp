@@ -27,6 +27,7 @@ TEST(CopyPlace, TooLittleRoomAndTooSlowADiskAreTold) {
     ASSERT_EQ(told.size(), 1);
     EXPECT_TRUE(told.first().startsWith("There is not enough room")) << told.first().toStdString();
     EXPECT_FALSE(warnOfCopySpeed(40e6, 64'000'000'000));
+    EXPECT_FALSE(warnOfCopySpeed(5e6, 1'000'000'000));
     EXPECT_EQ(warnOfCopySpeed(5e6, 63'900'000'000),
               "The disk of the copy takes only 5.0 MB a second: a whole copy takes about 214 minutes.");
 }
