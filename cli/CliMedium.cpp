@@ -9,6 +9,7 @@
 #include "media/MediaList.h"
 #include "media/MediumTargets.h"
 #include "media/PlatformMedia.h"
+#include "results/SizeForPeople.h"
 
 namespace vantor {
 
@@ -20,11 +21,11 @@ QString nodeOf(const QString& name) {
 }
 
 // `name` is the path as it was typed.
-CliMedium byPath(const QString& name, const QString& path, StopRequest stop) {
+CliMedium byPath(const QString& name, const QString& path, StopRequest stop, const QString& map) {
     CliMedium medium;
     medium.path = path;
     QString why;
-    if (const auto facts = probeMedium(path, &why)) {
+    if (const auto facts = probeMedium(path, &why, map)) {
         medium.sectors = facts->sectors;
         if (facts->isImage && facts->sectors == 0) {
             medium.complaint = QStringLiteral("“%1” is empty: it holds no whole sector.").arg(name);
@@ -32,6 +33,10 @@ CliMedium byPath(const QString& name, const QString& path, StopRequest stop) {
             medium.complaint =
                 *packed +
                 QStringLiteral(" Searched all the same; only what is stored unpacked can be found.");
+        } else if (facts->notRead != 0) {
+            medium.complaint =
+                QStringLiteral("Of %1 sectors of “%2” %3 were not read, says its map.")
+                    .arg(numberForPeople(facts->sectors), name, numberForPeople(facts->notRead));
         }
     } else if (!QFileInfo::exists(path)) {
         medium.complaint =
@@ -39,18 +44,24 @@ CliMedium byPath(const QString& name, const QString& path, StopRequest stop) {
     } else {
         medium.complaint = QStringLiteral("%1: %2").arg(name, why);
     }
-    medium.open = [path, stop = std::move(stop)](const QString&) {
-        return openMedium(path, {stop, {}, {}, {}});
+    OpenTerms terms;
+    terms.stop = std::move(stop);
+    terms.map = map;
+    medium.open = [path, terms](const QString&) { return openMedium(path, terms); };
+    medium.openSource = [path, terms](StopRequest also) {
+        OpenTerms both = terms;
+        both.stop = eitherStop(terms.stop, std::move(also));
+        return openMediumSource(path, std::move(both));
     };
     return medium;
 }
 
 }  // namespace
 
-CliMedium findMedium(const QString& name, MediaSource& source, StopRequest stop) {
+CliMedium findMedium(const QString& name, MediaSource& source, StopRequest stop, const QString& map) {
     const QString node = nodeOf(name);
     if (QFileInfo(node).isFile()) {
-        return byPath(name, node, std::move(stop));
+        return byPath(name, node, std::move(stop), map);
     }
     const QString canonicalNode = QFileInfo(node).canonicalFilePath();
     for (const auto& record : listedMedia(source)) {
@@ -65,11 +76,15 @@ CliMedium findMedium(const QString& name, MediaSource& source, StopRequest stop)
         medium.sectors = static_cast<std::uint64_t>(textToInt64(record->nsStrSectors));
         const auto refusal = std::make_shared<LastRefusal>();
         medium.refusal = refusal;
-        medium.open = [opener = makeMediumOpener(source, std::move(stop), refusal),
-                       identifier](const QString&) { return opener(QStringLiteral("/dev/r") + identifier); };
+        const QString devicePath = QStringLiteral("/dev/r") + identifier;
+        medium.open = [opener = makeMediumOpener(source, stop, refusal), devicePath](const QString&) {
+            return opener(devicePath);
+        };
+        medium.openSource = [opener = makeSourceOpener(source, std::move(stop), refusal),
+                             devicePath](StopRequest also) { return opener(devicePath, std::move(also)); };
         return medium;
     }
-    return byPath(name, node, std::move(stop));
+    return byPath(name, node, std::move(stop), {});
 }
 
 }  // namespace vantor

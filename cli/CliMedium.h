@@ -6,21 +6,24 @@
 #include <memory>
 
 #include "media/MediaSource.h"
+#include "media/MediumCopy.h"
 #include "scan/ScanSession.h"
 
 namespace vantor {
 
 struct CliMedium {
     std::uint64_t sectors = 0;
-    QString path;       // of the image or the device's node
-    MediumOpener open;  // for every pass and copy; also when the medium cannot be opened
-    QString complaint;  // a sentence for the user; empty when all is well
+    QString path;                       // of the image or the device's node
+    MediumOpener open;                  // for every pass and copy; also when the medium cannot be opened
+    MediumCopy::OpenMedium openSource;  // the medium itself, for whoever copies it
+    QString complaint;                  // a sentence for the user; empty when all is well
     // How the last opening went; null where the complaint says it.
     std::shared_ptr<const LastRefusal> refusal;
 };
 
 // Finds the medium by path or identifier. `stop` ends waits for a device that hangs and for the user's
-// consent. The source is asked only for what is no file; main thread.
-CliMedium findMedium(const QString& name, MediaSource& source, StopRequest stop);
+// consent. The source is asked only for what is no file. `map` is the path of an image's map; empty: the one
+// beside it, if there is one. Main thread.
+CliMedium findMedium(const QString& name, MediaSource& source, StopRequest stop, const QString& map = {});
 
 }  // namespace vantor

@@ -3,6 +3,7 @@
 
 #include <QJsonArray>
 
+#include "cli/MovieMending.h"
 #include "results/PreviewCopy.h"
 #include "saving/Sha256.h"
 
@@ -25,6 +26,8 @@ QString outcomeText(PassOutcome outcome) {
     return QStringLiteral("read-error");
 }
 
+}  // namespace
+
 RangeControls controlsFor(const CliOptions& options, std::uint64_t mediumSectors) {
     RangeControls controls;
     controls.diskIdentifier = options.medium;
@@ -37,8 +40,6 @@ RangeControls controlsFor(const CliOptions& options, std::uint64_t mediumSectors
     }
     return controls;
 }
-
-}  // namespace
 
 CliView::CliView(const CliOptions& options, std::uint64_t mediumSectors)
     : m_range(controlsFor(options, mediumSectors)),
@@ -132,7 +133,7 @@ void CliSession::addImageWithData(const QByteArray& data, const QString& imageNa
                            imageName,         image_UID,
                            carve.firstSector, carve.firstSector + carve.bytes / kSectorBytes,
                            carve.bytes,       carve.carved.readFailed,
-                           carve.sha256};
+                           carve.sha256,      carve.carved};
         if (m_options.listJson && item.sha256.isEmpty()) {
             item.sha256 = Sha256::of(data);
         }
@@ -158,9 +159,33 @@ void CliSession::addImageWithData_2(const QByteArray& data, const QString& image
                        File_End_Sec,
                        (File_End_Sec - File_Start_Sec) * kSectorBytes,
                        handOver().carved.readFailed,
-                       {}};
+                       {},
+                       handOver().carved};
     save(item, {});
     publish(std::move(item));
+}
+
+void CliSession::mendMovies() {
+    const auto medium = openMedium();
+    if (!medium || stop_now != 0) {
+        return;
+    }
+    MovieMending mending(*medium, stop_now);
+    if (!m_options.reference.isEmpty()) {
+        const QString complaint = mending.useReference(m_options.reference);
+        if (!complaint.isEmpty()) {
+            m_mendingFailed = true;
+            m_mendingLines.append(complaint);
+            return;
+        }
+    }
+    std::vector<MendableItem> items;
+    for (const PublishedItem& item : m_published) {
+        items.push_back({item.type, item.name, item.carved});
+    }
+    mending.run(items, m_options.saveFolder);
+    m_mendingLines = mending.lines();
+    m_mendingFailed = mending.failed();
 }
 
 bool CliSession::checksumRawItems() {

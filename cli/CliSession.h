@@ -26,7 +26,11 @@ struct PublishedItem {
     std::uint64_t bytes = 0;
     bool readFailed = false;  // while it was searched
     QByteArray sha256;        // raw; of raw items only once they were checksummed, empty where that failed
+    CarvedRun carved = {};
 };
+
+// What the range controls of a window would say.
+RangeControls controlsFor(const CliOptions& options, std::uint64_t mediumSectors);
 
 // The view of a scan that nobody watches: it answers from the options and keeps the alerts.
 class CliView : public ScanView {
@@ -87,6 +91,12 @@ class CliSession : private CliView, public ScanSession {
     // the scan goes on.
     void run();
 
+    // Behind run(): writes a playable twin of each movie without an index beside what was saved.
+    void mendMovies();
+    // What became of that, for the user; and whether something could not be written.
+    const QStringList& mendingLines() const { return m_mendingLines; }
+    bool mendingFailed() const { return m_mendingFailed; }
+
     // Checksums of raw items, from a copy of their sectors as the preview makes it.
     bool checksumRawItems();
 
@@ -120,6 +130,8 @@ class CliSession : private CliView, public ScanSession {
     std::unique_ptr<SaveQueue> m_queue;  // while a scan runs that saves
     std::vector<ReportedItem> m_reported;
     SaveTally m_tally;
+    QStringList m_mendingLines;
+    bool m_mendingFailed = false;
 };
 
 }  // namespace vantor

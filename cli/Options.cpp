@@ -4,6 +4,7 @@
 #include <QCommandLineParser>
 
 #include "catalogue/ResourcesFolder.h"
+#include "cli/CopyOptions.h"
 #include "cli/SaveOptions.h"
 #include "cli/Version.h"
 
@@ -75,6 +76,7 @@ ParsedOptions parseOptions(const QStringList& arguments) {
                                        QStringLiteral("Folder of the six signature catalogues."),
                                        QStringLiteral("DIR"), resourcesFolder());
     const SaveOptions saving;
+    const CopyOptions copying;
     const QCommandLineOption listJson(
         QStringLiteral("list-json"),
         QStringLiteral("Print one JSON object a found item, and one for the end."));
@@ -82,9 +84,14 @@ ParsedOptions parseOptions(const QStringList& arguments) {
         QStringLiteral("list-media"),
         QStringLiteral("Print the storage media of this machine (with --list-json as "
                        "JSON) and search nothing."));
+    const QCommandLineOption listFiles(
+        QStringLiteral("list-files"),
+        QStringLiteral("Print what the medium's own directories tell of its files, those that "
+                       "are there and those that were, as one JSON object each, and search nothing."));
     parser.addOptions({help, version, mode, types, range, noThorough, retryBad, sessionFile, resume,
-                       catalogue, listJson, listMedia});
+                       catalogue, listJson, listMedia, listFiles});
     saving.addTo(parser);
+    copying.addTo(parser);
     parser.addPositionalArgument(
         QStringLiteral("MEDIUM"),
         QStringLiteral("An image file, a device's identifier (sdb1) or its path (/dev/sdb1)."));
@@ -136,11 +143,14 @@ ParsedOptions parseOptions(const QStringList& arguments) {
     options.thorough = !parser.isSet(noThorough);
     options.retryBad = parser.isSet(retryBad);
     options.catalogueFolder = parser.value(catalogue);
-    if (const auto complaint = saving.read(parser, options)) {
-        return badUsage(*complaint);
+    for (const auto& complaint : {saving.read(parser, options), copying.read(parser, options)}) {
+        if (complaint) {
+            return badUsage(*complaint);
+        }
     }
     options.listJson = parser.isSet(listJson);
     options.listMedia = parser.isSet(listMedia);
+    options.listFiles = parser.isSet(listFiles);
     const QStringList media = parser.positionalArguments();
     if (options.listMedia) {
         return media.isEmpty() ? parsed : badUsage(QStringLiteral("--list-media takes no medium."));

@@ -21,10 +21,13 @@
 #include "cli/CliMedium.h"
 #include "cli/CliSession.h"
 #include "cli/KeptSearch.h"
+#include "cli/ListFiles.h"
 #include "cli/ListMedia.h"
 #include "cli/ProgressLine.h"
 #include "media/PlatformMedia.h"
 #include "results/SizeForPeople.h"
+#include "saving/CopyPlace.h"
+#include "saving/CopyWords.h"
 #include "saving/DestinationCheck.h"
 
 namespace vantor {
@@ -99,6 +102,34 @@ bool prepareDestination(const CliOptions& options, const QString& mediumPath) {
         return false;
     }
     return true;
+}
+
+// The copy that was asked for, which will read the medium for all others; null after saying why not.
+std::shared_ptr<MediumCopy> beginCopy(const CliOptions& options, const CliMedium& medium) {
+    if (medium.sectors == 0) {
+        complain(QStringLiteral("%1 cannot be copied: its size is not known.").arg(options.medium));
+        return nullptr;
+    }
+    if (const auto refusal = refuseCopyPlace(options.image, medium.path)) {
+        complain(*refusal);
+        return nullptr;
+    }
+    for (const QString& warning : warnOfCopyPlace(options.image, medium.sectors)) {
+        complain(warning);
+    }
+    QString why;
+    auto file = CopyFile::open(options.image, medium.sectors, &why);
+    if (!file) {
+        complain(why);
+        return nullptr;
+    }
+    auto copy = MediumCopy::make(std::move(file), medium.openSource);
+    if (options.scrape) {
+        copy->scrapeAll();
+    }
+    const SectorRange range = rangeFromControls(controlsFor(options, medium.sectors));
+    copy->copy(copyGoals({range.start, range.end}, medium.sectors));
+    return copy;
 }
 
 bool rangeRefused(const CliOptions& options, std::uint64_t mediumSectors) {
@@ -196,6 +227,12 @@ void tellSaving(const CliSession& session, const CliOptions& options) {
     }
 }
 
+void tellMending(const CliSession& session, const CliOptions& options) {
+    for (const QString& line : session.mendingLines()) {
+        std::fprintf(options.listJson ? stderr : stdout, "%s\n", qPrintable(line));
+    }
+}
+
 // False after saying why the report could not be written.
 bool writeReportOf(const CliSession& session, const CliOptions& options, ReportHead head) {
     head.mode = wordsForMode(options.mode);
@@ -212,7 +249,7 @@ bool writeReportOf(const CliSession& session, const CliOptions& options, ReportH
 }
 
 int exitCodeOf(const CliSession& session) {
-    if (session.saveTally().failed != 0) {
+    if (session.saveTally().failed != 0 || session.mendingFailed()) {
         return kExitDestinationTrouble;
     }
     switch (session.lastOutcome()) {
@@ -260,6 +297,7 @@ int tell(CliSession& session, const CliOptions& options, const CliMedium& medium
     }
     if (!options.saveFolder.isEmpty()) {
         tellSaving(session, options);
+        tellMending(session, options);
     }
     if (options.report && !writeReportOf(session, options, head)) {
         return kExitDestinationTrouble;
@@ -275,6 +313,16 @@ int tell(CliSession& session, const CliOptions& options, const CliMedium& medium
         return code == kExitCompleted ? kExitReadError : code;
     }
     return code;
+}
+
+// False after saying that the copy could not be written to its end.
+bool tellCopy(const MediumCopy& copy, const CliOptions& options) {
+    const CopyProgress progress = copy.progress();
+    std::fprintf(options.listJson ? stderr : stdout, "Copy: %s\n", qPrintable(copyEndWords(progress)));
+    if (!progress.trouble.isEmpty()) {
+        complain(progress.trouble);
+    }
+    return progress.trouble.isEmpty();
 }
 
 }  // namespace
@@ -296,9 +344,18 @@ int recover(const CliOptions& asked) {
         return listMedia(*source, options.listJson);
     }
     std::atomic<bool> walkAway{false};
-    const CliMedium medium = findMedium(options.medium, *source, [&walkAway] { return walkAway.load(); });
+    const StopRequest stop = [&walkAway] { return walkAway.load(); };
+    const CliMedium medium = findMedium(
+        options.medium, *source, [&walkAway] { return walkAway.load(); }, options.map);
     if (!medium.complaint.isEmpty()) {
         complain(medium.complaint);
+    }
+    if (options.listFiles) {
+        std::atomic<int> stopNow{0};
+        const StopOnInterrupt interrupt(stopNow, walkAway);
+        int code = kExitCannotOpen;
+        runBesideEvents([&] { code = listFiles(medium, [&stopNow] { return stopNow != 0; }); });
+        return code;
     }
     if (medium.sectors != 0 && rangeRefused(options, medium.sectors)) {
         return kExitBadUsage;
@@ -308,8 +365,6 @@ int recover(const CliOptions& asked) {
     head.sectors = medium.sectors;
     head.begun = QDateTime::currentDateTime();
     CliSession session(options, medium.sectors);
-    session.setMediumOpener(medium.open, options.retryBad ? ScanSession::RefusedSectorsAre::AskedForAgain
-                                                          : ScanSession::RefusedSectorsAre::KnownToAll);
     session.setLiesOnMedium([path = medium.path](const QString& destination) {
         return destinationIsOnMedium(destination, path);
     });
@@ -332,19 +387,34 @@ int recover(const CliOptions& asked) {
         return kExitCannotOpen;
     }
     session.keepSearch(keeper);
+    std::shared_ptr<MediumCopy> copy;
+    if (!options.image.isEmpty() && !(copy = beginCopy(options, medium))) {
+        return kExitDestinationTrouble;
+    }
+    // A copy knows what was refused, and may come back to it.
+    session.setMediumOpener(
+        copy ? [copy, stop](const QString&) { return copy->openReader(stop); } : medium.open,
+        copy || options.retryBad ? ScanSession::RefusedSectorsAre::AskedForAgain
+                                 : ScanSession::RefusedSectorsAre::KnownToAll);
     {
         const StopOnInterrupt interrupt(session.stop_now, walkAway);
         std::optional<ProgressLine> line;
         if (::isatty(STDERR_FILENO) == 1) {
-            line.emplace(session);
+            line.emplace(session, copy);
         }
-        runBesideEvents([&session] { session.run(); });
+        runBesideEvents([&] {
+            session.run();
+            if (options.repairMovies) {
+                session.mendMovies();
+            }
+        });
     }
     if (keeper && !keeper->error().isEmpty()) {
         complain(QStringLiteral("The search could not be kept in %1: %2")
                      .arg(options.sessionFile, keeper->error()));
     }
-    return tell(session, options, medium, head);
+    const int code = tell(session, options, medium, head);
+    return !copy || tellCopy(*copy, options) || code != kExitCompleted ? code : kExitDestinationTrouble;
 }
 
 }  // namespace vantor

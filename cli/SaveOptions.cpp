@@ -40,10 +40,18 @@ SaveOptions::SaveOptions()
       minBytes(option("min-bytes", "Do not save files of fewer bytes.", "N")),
       minPixels(option("min-pixels", "Do not save pictures whose longer side has fewer pixels.", "N")),
       keepDuplicates(option("keep-duplicates", "Save the same bytes again when they are found again.")),
-      skipUnsound(option("skip-unsound", "Do not save what is certainly no file of its type.")) {}
+      skipUnsound(option("skip-unsound", "Do not save what is certainly no file of its type.")),
+      repairMovies(
+          option("repair-movies",
+                 "Write a playable twin, \"... repaired.MP4\", of each MP4 or QuickTime movie whose "
+                 "index was never written; a whole movie of the same camera has to be found as well.")),
+      reference(option(
+          "reference",
+          "A whole movie of the camera, in place of those that are found (with --repair-movies).", "FILE")) {}
 
 void SaveOptions::addTo(QCommandLineParser& parser) const {
-    parser.addOptions({save, asPublished, report, byDate, minBytes, minPixels, keepDuplicates, skipUnsound});
+    parser.addOptions({save, asPublished, report, byDate, minBytes, minPixels, keepDuplicates, skipUnsound,
+                       repairMovies, reference});
 }
 
 std::optional<QString> SaveOptions::read(const QCommandLineParser& parser, CliOptions& options) const {
@@ -51,8 +59,8 @@ std::optional<QString> SaveOptions::read(const QCommandLineParser& parser, CliOp
     if (parser.isSet(save) && options.saveFolder.isEmpty()) {
         return QStringLiteral("--save takes a folder.");
     }
-    for (const auto* other :
-         {&asPublished, &report, &byDate, &minBytes, &minPixels, &keepDuplicates, &skipUnsound}) {
+    for (const auto* other : {&asPublished, &report, &byDate, &minBytes, &minPixels, &keepDuplicates,
+                              &skipUnsound, &repairMovies}) {
         if (parser.isSet(*other) && !parser.isSet(save)) {
             return QStringLiteral("--%1 goes with --save.").arg(other->names().constFirst());
         }
@@ -61,6 +69,9 @@ std::optional<QString> SaveOptions::read(const QCommandLineParser& parser, CliOp
         (parser.isSet(byDate) || parser.isSet(minPixels) || parser.isSet(skipUnsound))) {
         return QStringLiteral(
             "--as-published looks into no file, so it knows neither dates nor pixels nor soundness.");
+    }
+    if (parser.isSet(reference) && !parser.isSet(repairMovies)) {
+        return QStringLiteral("--reference goes with --repair-movies.");
     }
     const auto leastBytes = numberOf(parser, minBytes);
     const auto leastPixels = numberOf(parser, minPixels);
@@ -76,6 +87,8 @@ std::optional<QString> SaveOptions::read(const QCommandLineParser& parser, CliOp
     constexpr quint64 kMostPixels = std::numeric_limits<std::uint32_t>::max();
     policy.minPixels = static_cast<std::uint32_t>(std::min(*leastPixels, kMostPixels));
     options.report = parser.isSet(report);
+    options.repairMovies = parser.isSet(repairMovies);
+    options.reference = parser.value(reference);
     policy.checksums = options.report;
     return std::nullopt;
 }

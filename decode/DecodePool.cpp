@@ -150,16 +150,22 @@ std::vector<pid_t> DecodePool::helperPids() const {
     return m_live;
 }
 
-// A helper that was dead already, or that somebody else ended, says nothing against the picture: another one
-// tries, once.
+// A helper that was dead already has not seen the picture: the next one is asked, and there may be as many of
+// them as the pool holds. One that somebody else ended meanwhile says nothing against the picture either:
+// another one tries, once.
 DecodedPicture DecodePool::decode(const Ask& ask) {
     DecodedPicture picture;
-    bool killedFromOutside = false;
+    int dead = 0;
+    bool again = false;
+    bool mayTryAnother = true;
     enter();
-    const AskOutcome outcome = askOnce(ask, picture, killedFromOutside);
-    if (outcome == AskOutcome::NotTaken || (outcome == AskOutcome::Died && killedFromOutside)) {
-        askOnce(ask, picture, killedFromOutside);
-    }
+    do {
+        bool killedFromOutside = false;
+        const AskOutcome outcome = askOnce(ask, picture, killedFromOutside);
+        const bool wasKilled = outcome == AskOutcome::Died && killedFromOutside;
+        again = (outcome == AskOutcome::NotTaken && dead++ <= m_wanted) || (wasKilled && mayTryAnother);
+        mayTryAnother = mayTryAnother && !wasKilled;
+    } while (again);
     leave();
     return picture;
 }

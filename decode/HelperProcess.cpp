@@ -35,7 +35,7 @@ constexpr std::uint64_t kLargestKeptBuffer = std::uint64_t{64} << 20;
 std::vector<std::string> helperEnvironment() {
     std::vector<std::string> environment{"OMP_NUM_THREADS=1", "LC_ALL=C.UTF-8"};
     for (const char* name :
-         {"LD_LIBRARY_PATH", "QT_PLUGIN_PATH", "ASAN_OPTIONS", "UBSAN_OPTIONS", "TSAN_OPTIONS"}) {
+         {"LD_LIBRARY_PATH", "QT_PLUGIN_PATH", "TZ", "ASAN_OPTIONS", "UBSAN_OPTIONS", "TSAN_OPTIONS"}) {
         if (const char* value = getenv(name)) {
             environment.push_back(std::string(name) + "=" + value);
         }
@@ -188,7 +188,7 @@ AskOutcome HelperProcess::exchange(Request& request, int file, std::chrono::mill
         return AskOutcome::NotPossible;
     }
     request.serial = ++m_serial;
-    const bool withInput = file < 0 && request.kind == RequestKind::Picture && !m_inputSent;
+    const bool withInput = file < 0 && request.inputBytes != 0 && !m_inputSent;
     const auto until = Clock::now() + deadline;
     if (!send(request, file, withInput, !m_outputSent)) {
         return AskOutcome::NotTaken;

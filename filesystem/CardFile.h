@@ -29,8 +29,10 @@ enum class RunsKnownBy {
 // One file of the table that the readers of file systems make. Everything has been checked: runs lie on the
 // medium and do not repeat, names hold nothing that a path may not hold.
 struct CardFile {
-    QString folder;  // as on the card, parts joined by '/'; without one at either end; "" for the root
-    QString name;    // with its extension; "" when only the place is known
+    // As on the card, parts joined by '/'; without one at either end; "" for the root. A folder whose own
+    // name is gone is "folder-" and the number of the cluster that it began in.
+    QString folder;
+    QString name;             // with its extension; "" when only the place is known
     bool nameIsWhole = true;  // false where the first letter was lost with the deletion ('_' stands for it)
     FileState state = FileState::Live;
     std::uint64_t bytes = 0;       // as the directory says
@@ -40,6 +42,8 @@ struct CardFile {
     std::optional<std::int64_t> created;
     std::vector<SectorRun> runs;  // in the order of the file's bytes; whole clusters
     RunsKnownBy runsKnownBy = RunsKnownBy::Guess;
+    // Where the file began there is something now that a current file system still holds as there.
+    bool beginningIsInUse = false;
     std::uint32_t clusterSectors = 0;  // of the file system it lived on
 };
 

@@ -36,7 +36,6 @@ MediaFacts ImageShelf::diskInfo(const QString& path) {
 }
 
 OpenedImage ImageShelf::addImage(const QString& path) {
-    const QString name = QFileInfo(path).fileName();
     const QString canonical = QFileInfo(path).canonicalFilePath();
     const QString first = imageParts(canonical).constFirst();
     for (const Image& image : m_images) {
@@ -44,19 +43,19 @@ OpenedImage ImageShelf::addImage(const QString& path) {
             return {image.identifier, {}};
         }
     }
-    if (const auto refusal = refusePackedImage(first)) {
+    if (const auto refusal = refusePackedImage(canonical == first ? path : first)) {
         return {{}, *refusal};
     }
     QString why;
     const auto facts = probeMedium(first, &why);
     if (!facts || !facts->isImage) {
         return {{},
-                facts ? QStringLiteral("“%1” is no image file.").arg(name)
-                      : QStringLiteral("“%1” cannot be opened: %2.").arg(name, why)};
+                facts ? QStringLiteral("“%1” is no image file.").arg(path)
+                      : QStringLiteral("“%1” cannot be opened: %2.").arg(path, why)};
     }
     if (facts->sectors == 0) {
         return {{},
-                QStringLiteral("“%1” is empty. Please choose an image file of a storage medium.").arg(name)};
+                QStringLiteral("“%1” is empty. Please choose an image file of a storage medium.").arg(path)};
     }
     m_images << Image{QStringLiteral("image%1").arg(m_images.size() + 1), first};
     updateTargets();

@@ -10,7 +10,9 @@
 #include <utility>
 
 #include "media/BlockDevice.h"
+#include "media/CopyMapFile.h"
 #include "media/ImageFile.h"
+#include "media/MappedImage.h"
 #include "media/WindowedReader.h"
 
 namespace vantor {
@@ -75,6 +77,26 @@ std::optional<OpenedNode> openDevice(const QString& path, const OpenTerms& terms
     return OpenedNode{std::make_unique<BlockDevice>(std::move(descriptor), *facts), *facts};
 }
 
+// `map` as in OpenTerms. Null when the map cannot be used, with a sentence for the user.
+std::unique_ptr<BlockSource> withMap(std::unique_ptr<BlockSource> image, const QString& path, QString map,
+                                     std::uint64_t* notRead = nullptr, QString* why = nullptr) {
+    if (map.isEmpty()) {
+        map = mapBeside(path);
+    }
+    if (map.isEmpty()) {
+        return image;
+    }
+    const auto read = loadCopyMap(map, why);
+    if (!read) {
+        return nullptr;
+    }
+    if (notRead != nullptr) {
+        const CopyMap sectors = read->ofWholeSectors();
+        *notRead = (sectors.bytes() - sectors.bytesIn(CopyState::Copied)) / kSectorBytes;
+    }
+    return std::make_unique<MappedImage>(std::move(image), *read);
+}
+
 std::unique_ptr<BlockSource> openSource(const QString& path, OpenTerms terms) {
     switch (kindOf(path)) {
         case Kind::Image: {
@@ -82,11 +104,11 @@ std::unique_ptr<BlockSource> openSource(const QString& path, OpenTerms terms) {
                 errno = ENOENT;
                 return nullptr;
             }
-            auto image = ImageFile::open(imageParts(path));
+            std::unique_ptr<BlockSource> image = ImageFile::open(imageParts(path));
             if (!image && isForbidden(errno)) {
                 note(terms, OpenRefusal::MayNotReadImage);
             }
-            return image;
+            return image ? withMap(std::move(image), path, terms.map) : nullptr;
         }
         case Kind::Missing:
             if (!terms.memory) {
@@ -118,9 +140,17 @@ std::unique_ptr<BlockSource> openSource(const QString& path, OpenTerms terms) {
     return nullptr;
 }
 
-std::optional<MediumFacts> imageFacts(const QString& path) {
-    const auto image = ImageFile::open(imageParts(path));
-    return image ? std::optional(MediumFacts{true, image->sectors()}) : std::nullopt;
+std::optional<MediumFacts> imageFacts(const QString& path, const QString& map, QString* wrongMap) {
+    std::unique_ptr<BlockSource> image = ImageFile::open(imageParts(path));
+    MediumFacts facts{true, 0, 0};
+    if (image) {
+        image = withMap(std::move(image), path, map, &facts.notRead, wrongMap);
+    }
+    if (!image) {
+        return std::nullopt;
+    }
+    facts.sectors = image->sectors();
+    return facts;
 }
 
 std::optional<MediumFacts> deviceFacts(const QString& path) {
@@ -129,12 +159,12 @@ std::optional<MediumFacts> deviceFacts(const QString& path) {
         return std::nullopt;
     }
     const auto facts = blockDeviceFacts(descriptor.get());
-    return facts ? std::optional(MediumFacts{false, facts->sectors}) : std::nullopt;
+    return facts ? std::optional(MediumFacts{false, facts->sectors, 0}) : std::nullopt;
 }
 
 }  // namespace
 
-std::optional<MediumFacts> probeMedium(const QString& path, QString* why) {
+std::optional<MediumFacts> probeMedium(const QString& path, QString* why, const QString& map) {
     const auto refuse = [why](const QString& sentence) {
         if (why != nullptr) {
             *why = sentence;
@@ -155,24 +185,33 @@ std::optional<MediumFacts> probeMedium(const QString& path, QString* why) {
     }
     errno = 0;
     std::optional<MediumFacts> facts;
+    QString wrongMap;
     if (kind != Kind::Missing) {
-        facts = kind == Kind::Image ? imageFacts(path) : deviceFacts(path);
+        facts = kind == Kind::Image ? imageFacts(path, map, &wrongMap) : deviceFacts(path);
     } else {
         errno = ENOENT;
+    }
+    if (!wrongMap.isEmpty()) {
+        return refuse(wrongMap);
     }
     return facts ? facts : refuse(QString::fromLocal8Bit(std::strerror(errno)));
 }
 
-std::unique_ptr<SectorReader> openMedium(const QString& path, OpenTerms terms) {
-    // A device has its reading thread already, and is slower than any search.
-    const auto fetching =
-        kindOf(path) == Kind::Image ? WindowedReader::Fetching::Ahead : WindowedReader::Fetching::WhenAsked;
+std::unique_ptr<BlockSource> openMediumSource(const QString& path, OpenTerms terms) {
     note(terms, OpenRefusal::Unknown);
     const auto refusal = terms.refusal;
     auto source = openSource(path, std::move(terms));
     if (source && refusal) {
         refusal->note(OpenRefusal::None);
     }
+    return source;
+}
+
+std::unique_ptr<SectorReader> openMedium(const QString& path, OpenTerms terms) {
+    // A device has its reading thread already, and is slower than any search.
+    const auto fetching =
+        kindOf(path) == Kind::Image ? WindowedReader::Fetching::Ahead : WindowedReader::Fetching::WhenAsked;
+    auto source = openMediumSource(path, std::move(terms));
     return source ? std::make_unique<WindowedReader>(std::move(source), fetching) : nullptr;
 }
 

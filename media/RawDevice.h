@@ -19,24 +19,30 @@ namespace vantor {
 struct MediumFacts {
     bool isImage = false;       // a regular file rather than a device
     std::uint64_t sectors = 0;  // whole 512-byte sectors; a trailing partial one is dropped
+    std::uint64_t notRead = 0;  // of an image with a map: sectors that its medium did not give
 };
 
 // The facts of the device or image at `path`, all parts of a split image together; nothing, and a sentence
-// for the user, when it is neither or cannot be opened for reading.
-std::optional<MediumFacts> probeMedium(const QString& path, QString* why = nullptr);
+// for the user, when it is neither or cannot be opened for reading. `map` is the path of an image's map;
+// empty: the one that lies beside it, if there is one. A map that cannot be read is a reason to refuse.
+std::optional<MediumFacts> probeMedium(const QString& path, QString* why = nullptr, const QString& map = {});
 
 // Gets a read-only descriptor of a device node that the user may not open, by asking the user for consent; an
 // empty one when that is refused. May take minutes and is to return soon after a stop request. Any thread.
 using DescriptorRequest = std::function<FileDescriptor(const QString& node, const StopRequest& stop)>;
 
 struct OpenTerms {
-    StopRequest stop;                           // ends waits for a device that hangs
-    DescriptorRequest askForDescriptor;         // absent: without permission the medium cannot be opened
-    MediumIdentity identity;                    // another medium in the slot counts as one that is gone
+    StopRequest stop = {};                      // ends waits for a device that hangs
+    DescriptorRequest askForDescriptor = {};    // absent: without permission the medium cannot be opened
+    MediumIdentity identity = {};               // another medium in the slot counts as one that is gone
     std::shared_ptr<LastRefusal> refusal = {};  // is told how the opening went; absent: nobody asks
     std::shared_ptr<MediumMemory> memory = {};  // absent: a medium that left its slot is gone for good
     PresentMedia present = {};                  // where one that was put back is looked for
+    QString map = {};                           // of an image; empty: the one beside it, if there is one
 };
+
+// The medium itself, below any reader; null when it cannot be opened. As openMedium().
+std::unique_ptr<BlockSource> openMediumSource(const QString& path, OpenTerms terms = {});
 
 // A reader at sector 0, or null when the medium cannot be opened. Opens read-only, whatever the permissions,
 // and never hands the descriptor to a child process. Any thread; on a device it may wait for minutes unless

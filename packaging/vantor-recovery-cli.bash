@@ -12,7 +12,7 @@ _vantor_recovery_cli() {
             _filedir -d
             return
             ;;
-        --session | --resume)
+        --session | --resume | --reference)
             _filedir
             return
             ;;
@@ -23,8 +23,13 @@ _vantor_recovery_cli() {
 
     if [[ $cur == -* ]]; then
         COMPREPLY=($(compgen -W '--help --version --mode --types --range --no-thorough --retry-bad
-            --session --resume --catalogue --save --as-published --report --by-date --min-bytes --min-pixels --keep-duplicates
-            --skip-unsound --list-json --list-media' -- "$cur"))
+            --session --resume --catalogue
+            --save --as-published --report --by-date --min-bytes --min-pixels --keep-duplicates
+            --skip-unsound
+            --map
+            --image --scrape
+            --repair-movies --reference
+            --list-json --list-media --list-files' -- "$cur"))
         return
     fi
 

@@ -327,6 +327,7 @@ class MyTableController : public QObject,
     QString askDestination();
     QString chooseDestination();
     bool acceptDestination(const QString& folder);
+    bool isStillThere(const QString& folder) const;
     bool destinationStillThere();
     void showDestination();
     void openDestination();

@@ -61,7 +61,7 @@ void MyTableController::showEmptyResults() {
     const std::size_t found = itemCount();
     EmptyWords words;
     if (found > 0 && browser->shownCount() == 0) {
-        words = nothingShown(found);
+        words = nothingShown(found, {!m_looks->showsEveryKind(), !m_looks->shownType().isEmpty()});
     } else if (m_searchEnded) {
         words = nothingFound(searchWish(), searchEnd());
     } else {

@@ -54,11 +54,14 @@ class Channel {
     // Serves until the other end closes; false after a request that no program of ours sends.
     bool serve(JobDecoder& decoder);
 
-  private:
+    // The steps of that, for helpers whose answers are questions.
     enum class Received { Job, Closed, Malformed };
     Received receive(Job& job);
-    bool takeDescriptors(const Request& request, std::span<const int> descriptors, Job& job);
+    // False when the other end is gone.
     bool answer(const Answer& answer);
+
+  private:
+    bool takeDescriptors(const Request& request, std::span<const int> descriptors, Job& job);
 
     int m_socket;
     Mapping m_input;

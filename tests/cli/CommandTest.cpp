@@ -373,6 +373,21 @@ TEST(Command, ListsMedia) {
     EXPECT_EQ(runCommand({"--list-media", "card.img"}).exitCode, 2);
 }
 
+TEST(Command, ListsWhatTheDirectoriesOfTheSampleCardTell) {
+    const CommandRun run = runCommand({"--list-files", VANTOR_SAMPLE_CARD});
+    EXPECT_EQ(run.exitCode, 0) << run.err.constData();
+    qsizetype systems = 0;
+    qsizetype files = 0;
+    for (const QJsonObject& line : run.json()) {
+        systems += line.contains("file_system") ? 1 : 0;
+        files += line["path"].toString().isEmpty() || line["bytes"].toInteger() == 0 ? 0 : 1;
+    }
+    EXPECT_EQ(systems, 1);
+    EXPECT_GT(files, 5);
+    EXPECT_EQ(runCommand({"--list-files"}).exitCode, 2);
+    EXPECT_EQ(runCommand({"--list-files", "/nowhere.img"}).exitCode, 5);
+}
+
 TEST(Command, RecoversTheSampleCard) {
     const CommandRun photos = runCommand({"--list-json", VANTOR_SAMPLE_CARD});
     EXPECT_EQ(photos.exitCode, 0);

@@ -1,6 +1,7 @@
 // The pool: thumbnails, pictures, and what happens when helpers are missing, killed or late.
 #include <gtest/gtest.h>
 #include <signal.h>
+#include <sys/wait.h>
 
 #include <QCoreApplication>
 #include <QTemporaryDir>
@@ -196,6 +197,20 @@ TEST(DecodePool, IdleHelpersKilled_AreReplacedAndThePictureIsStillShown) {
         kill(pids.back(), SIGKILL);
         EXPECT_FALSE(pool.thumbnail(picture).isEmpty());
     }
+}
+
+TEST(DecodePool, AllIdleHelpersKilled_StillCostNoPicture) {
+    DecodePool pool(poolOptions(3));
+    const QByteArray picture = encoded(twoColours({64, 64}), "png");
+    while (pool.helperPids().size() < 3) {
+        std::this_thread::yield();
+    }
+    for (const pid_t pid : pool.helperPids()) {
+        kill(pid, SIGKILL);
+        siginfo_t end;
+        ASSERT_EQ(waitid(P_PID, static_cast<id_t>(pid), &end, WEXITED | WNOWAIT), 0);
+    }
+    EXPECT_FALSE(pool.thumbnail(picture).isEmpty());
 }
 
 TEST(DecodePool, DecoderThatCrashes_CostsItsPictureOnly) {

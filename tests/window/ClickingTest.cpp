@@ -22,7 +22,8 @@
 namespace vantor {
 namespace {
 
-constexpr int kItems = 1000;
+// Clicked through in each mode; VANTOR_CLICKS says more where the time is there.
+const int kItems = std::max(250, qEnvironmentVariableIntValue("VANTOR_CLICKS"));
 
 // The helpers that this process started and that still run.
 std::vector<pid_t> runningHelpers(const char* name) {
@@ -272,7 +273,7 @@ TEST_F(Clicking, BrokenPhotos_AllHaveAPictureOrThePlaceholder) {
     EXPECT_EQ(opened, 0) << "photos are shown as they are";
     EXPECT_GT(pictures, kItems / 4);
     EXPECT_LT(pictures, kItems);
-    EXPECT_GT(kills, 5);
+    EXPECT_GT(kills, 3);
 }
 
 TEST_F(Clicking, BrokenMovies_AreShownOneAtATime) {

@@ -1,0 +1,131 @@
+// Puts the readers to work: the present file systems first, then what is left of those before them.
+#include "filesystem/CardReader.h"
+
+#include <algorithm>
+#include <array>
+#include <memory>
+
+#include "filesystem/BootSector.h"
+#include "filesystem/ClusterVolume.h"
+#include "filesystem/FoundStarts.h"
+#include "filesystem/LostDirectories.h"
+#include "filesystem/PartitionTable.h"
+
+namespace vantor {
+
+namespace {
+
+using Sector = std::array<std::uint8_t, 512>;
+
+class Reader {
+  public:
+    Reader(SectorSource& card, const CardTraces& traces, const std::vector<FoundStart>& found)
+        : m_card(card), m_traces(traces), m_found(found) {}
+
+    CardTable read() {
+        for (const VolumeShape& shape : presentShapes()) {
+            m_volumes.push_back(std::make_unique<ClusterVolume>(m_card, shape, true));
+            m_volumes.back()->readFromRoot();
+        }
+        LostDirectories(m_card, m_found, m_volumes).read(m_traces.directories, formerShapes());
+        for (const auto& volume : m_volumes) {
+            volume->linkLost();
+            volume->tell(m_found, m_table);
+            const VolumeShape& shape = volume->shape();
+            m_table.fileSystems.push_back({shape.kind, volume->isCurrent(), shape.first, shape.sectors,
+                                           shape.firstCluster, shape.clusterSectors, volume->label()});
+        }
+        finish();
+        return std::move(m_table);
+    }
+
+  private:
+    std::optional<VolumeShape> shapeAt(std::uint64_t sector, std::uint64_t first) {
+        Sector bytes;
+        if (sector >= m_card.sectors() || !m_card.readAt(sector, bytes)) {
+            return std::nullopt;
+        }
+        return shapeFromBootSector(bytes, first, m_card.sectors());
+    }
+
+    // The whole card is one file system, or its tables name several. Where a first sector is gone, the places
+    // of its copies are asked: six and twelve sectors behind it, and the last one.
+    std::vector<VolumeShape> presentShapes() {
+        std::vector<VolumeShape> shapes;
+        if (const auto whole = shapeAt(0, 0)) {
+            return {*whole};
+        }
+        for (const SectorRun& partition : partitionsOf(m_card)) {
+            for (const std::uint64_t at :
+                 {partition.first, partition.first + 6, partition.first + 12, partition.end - 1}) {
+                if (const auto shape = shapeAt(at, partition.first)) {
+                    shapes.push_back(*shape);
+                    break;
+                }
+            }
+        }
+        for (const std::uint64_t copy : {6, 12}) {
+            const auto shape = shapes.empty() ? shapeAt(copy, 0) : std::nullopt;
+            if (shape) {
+                shapes.push_back(*shape);
+            }
+        }
+        std::erase_if(shapes, [](const VolumeShape& shape) { return shape.kind == FileSystemKind::Ntfs; });
+        return shapes;
+    }
+
+    // Those whose first sector or its copy was passed by.
+    std::vector<VolumeShape> formerShapes() {
+        constexpr std::size_t kMost = 64;
+        std::vector<VolumeShape> shapes;
+        for (const std::uint64_t at : m_traces.bootSectors) {
+            Sector bytes;
+            if (at >= m_card.sectors() || shapes.size() >= kMost || !m_card.readAt(at, bytes)) {
+                continue;
+            }
+            for (const std::uint64_t first : possibleBeginnings(bytes, at)) {
+                const auto shape = shapeFromBootSector(bytes, first, m_card.sectors());
+                if (shape && shape->kind != FileSystemKind::Ntfs) {
+                    shapes.push_back(*shape);
+                }
+            }
+        }
+        return shapes;
+    }
+
+    void finish() {
+        joinRuns(m_table.inUse);
+        for (CardFile& file : m_table.files) {
+            file.beginningIsInUse = file.state != FileState::Live && !file.runs.empty() &&
+                                    m_table.isInUse(file.runs.front().first);
+        }
+        const auto key = [](const CardFile& file) {
+            return std::tie(file.state, file.folder, file.name, file.bytes, file.modified);
+        };
+        const auto beginning = [](const CardFile& file) {
+            return file.runs.empty() ? 0 : file.runs.front().first;
+        };
+        std::stable_sort(m_table.files.begin(), m_table.files.end(),
+                         [&](const CardFile& a, const CardFile& b) { return key(a) < key(b); });
+        // A row may stand in several places: a directory that was moved, or written again.
+        const auto same = [&](const CardFile& a, const CardFile& b) {
+            return key(a) == key(b) && beginning(a) == beginning(b);
+        };
+        m_table.files.erase(std::unique(m_table.files.begin(), m_table.files.end(), same),
+                            m_table.files.end());
+    }
+
+    SectorSource& m_card;
+    const CardTraces& m_traces;
+    const FoundStarts m_found;
+    std::vector<std::unique_ptr<ClusterVolume>> m_volumes;
+    CardTable m_table;
+};
+
+}  // namespace
+
+CardTable readCard(SectorSource& card, const CardTraces& traces, const std::vector<FoundStart>& found) {
+    return Reader(card, traces, found).read();
+}
+
+}  // namespace vantor

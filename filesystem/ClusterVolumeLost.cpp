@@ -1,0 +1,120 @@
+// Finding the folders that lost directories lie in.
+#include <QRegularExpression>
+#include <algorithm>
+
+#include "filesystem/CleanName.h"
+#include "filesystem/ClusterVolume.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr std::size_t kMostJoins = 1'000'000;
+
+// Whether an entry begins in the last rows of one part and ends in the first rows of the other.
+bool goesOn(const std::vector<std::uint8_t>& last, const std::vector<std::uint8_t>& first, bool isExfat) {
+    std::vector<std::uint8_t> both = last;
+    both.insert(both.end(), first.begin(), first.end());
+    const auto wholeNames = [isExfat](const std::vector<std::uint8_t>& bytes) {
+        const DirectoryRows rows = isExfat ? readExfatRows(bytes) : readFatRows(bytes, true);
+        return std::count_if(rows.entries.begin(), rows.entries.end(),
+                             [isExfat](const DirectoryEntry& entry) {
+                                 return isExfat || (entry.nameIsWhole && entry.name.size() > 12);
+                             });
+    };
+    return wholeNames(both) > wholeNames(last) + wholeNames(first);
+}
+
+}  // namespace
+
+// Parts that a directory goes on in: an entry that lies across the seam proves it.
+void ClusterVolume::joinParts() {
+    std::size_t left = kMostJoins;
+    for (std::size_t part = 0; part < m_directories.size(); ++part) {
+        if (m_directories[part].firstRows.empty() || m_directories[part].parent) {
+            continue;
+        }
+        for (std::size_t before = 0; before < m_directories.size() && left > 0; ++before) {
+            if (before == part || m_directories[before].openEnd.empty()) {
+                continue;
+            }
+            --left;
+            if (goesOn(m_directories[before].openEnd, m_directories[part].firstRows, isExfat())) {
+                m_directories[part].partOf = before;
+                m_directories[before].openEnd.clear();
+                break;
+            }
+        }
+    }
+}
+
+void ClusterVolume::linkLost() {
+    for (std::size_t at = 0; at < m_directories.size(); ++at) {
+        for (const DirectoryEntry& entry : m_directories[at].rows.entries) {
+            const auto known = entry.isFolder ? m_byCluster.find(entry.cluster) : m_byCluster.end();
+            if (known == m_byCluster.end() || known->second == at) {
+                continue;
+            }
+            CardDirectory& child = m_directories[known->second];
+            const std::uint32_t own = m_directories[at].isRoot ? 0 : m_directories[at].cluster;
+            const bool disagrees = child.rows.parent && *child.rows.parent != own;
+            if (!child.isRoot && !child.isNamed && !disagrees) {
+                child.parent = at;
+                child.name = cleanName(entry.name);
+                child.isNamed = true;
+            }
+        }
+    }
+    joinParts();
+    // What one folder held stays together. A FAT directory knows where its parent begins, if not what it is
+    // called itself.
+    for (std::size_t at = 0; at < m_directories.size(); ++at) {
+        CardDirectory& directory = m_directories[at];
+        if (directory.isRoot || directory.parent || directory.partOf || directory.cluster == 0) {
+            continue;
+        }
+        directory.name = QStringLiteral("folder-%1").arg(directory.cluster);
+        const auto parent = m_byCluster.find(directory.rows.parent.value_or(0));
+        if (directory.rows.parent && parent != m_byCluster.end() && parent->second != at) {
+            directory.parent = parent->second;
+        }
+    }
+    nameFromStandard();
+}
+
+// The standard of cameras (DCF) names the folder that holds theirs: three digits and five characters.
+void ClusterVolume::nameFromStandard() {
+    static const QRegularExpression camera(QStringLiteral("^[1-9][0-9]{2}[A-Z0-9_]{5}$"));
+    for (CardDirectory& directory : m_directories) {
+        if (directory.isRoot || directory.isNamed || directory.rows.parent.value_or(1) != 0) {
+            continue;
+        }
+        const auto& entries = directory.rows.entries;
+        if (std::any_of(entries.begin(), entries.end(), [](const DirectoryEntry& entry) {
+                return entry.isFolder && camera.match(entry.name).hasMatch();
+            })) {
+            directory.name = QStringLiteral("DCIM");
+            directory.isNamed = true;
+        }
+    }
+}
+
+QString ClusterVolume::folderOf(std::size_t directory) const {
+    constexpr int kDeepest = 64;
+    QString path;
+    std::optional<std::size_t> at = directory;
+    for (int depth = 0; at && depth < kDeepest; ++depth) {
+        const CardDirectory& one = m_directories[*at];
+        if (one.partOf) {
+            at = one.partOf;
+            continue;
+        }
+        if (!one.isRoot && !one.name.isEmpty()) {
+            path = path.isEmpty() ? one.name : one.name + u'/' + path;
+        }
+        at = one.parent;
+    }
+    return path;
+}
+
+}  // namespace vantor

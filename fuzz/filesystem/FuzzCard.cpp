@@ -1,0 +1,60 @@
+// Any bytes as a card: the readers come to an end, read within bounds and tell nothing that cannot be. The
+// harness of one kind brings that kind's boot sector along, so that all that the input changes is behind it.
+#include <cstdlib>
+#include <cstring>
+
+#include "filesystem/CleanName.h"
+#include "tests/filesystem/CardImage.h"
+
+namespace {
+
+constexpr std::size_t kSectors = 2048;
+
+void hold(bool promise) {
+    if (!promise) {
+        std::abort();
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace vantor;
+    MemoryCard card(kSectors);
+    std::size_t at = 0;
+#if defined(VANTOR_FUZZ_FAT)
+    FatPlaces fat;
+    fat.bits = size > 0 && data[0] % 2 ? 32 : 16;
+    fat.clusterSectors = 1;
+    fat.clusters = fat.bits == 32 ? 1500 : 1900;
+    formatFat(card, fat);
+    at = fat.table() * 512;
+#elif defined(VANTOR_FUZZ_EXFAT)
+    ExfatPlaces exfat;
+    exfat.clusterSectors = 1;
+    exfat.clusters = 1900;
+    formatExfat(card, exfat);
+    at = exfat.table() * 512;
+#endif
+    std::memcpy(card.bytes.data() + at, data, std::min(size, card.bytes.size() - at));
+    std::vector<FoundStart> found;
+    for (std::size_t i = 0; i + 1 < std::min<std::size_t>(size, 32); i += 2) {
+        found.push_back({data[i] * 8U, data[i + 1] % 2 ? QStringLiteral("jpg") : QStringLiteral("mp4")});
+    }
+    const CardTable table = tableOf(card, found);
+    hold(card.sectorsRead < 200 * kSectors + 100'000);
+    for (const CardFile& file : table.files) {
+        hold(cleanName(file.name) == file.name && file.bytes <= kSectors * 512);
+        std::uint64_t sectors = 0;
+        for (const SectorRun& run : file.runs) {
+            hold(run.first < run.end && run.end <= kSectors);
+            sectors += run.end - run.first;
+        }
+        hold(sectors <= kSectors && file.clusterSectors != 0);
+    }
+    for (std::size_t i = 0; i < table.inUse.size(); ++i) {
+        hold(table.inUse[i].first < table.inUse[i].end && table.inUse[i].end <= kSectors);
+        hold(i == 0 || table.inUse[i - 1].end < table.inUse[i].first);
+    }
+    return 0;
+}

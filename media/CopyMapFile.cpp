@@ -1,0 +1,78 @@
+// Finding, reading and replacing maps.
+#include "media/CopyMapFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include "media/CopyMapText.h"
+
+namespace vantor {
+
+namespace {
+
+// A million runs take 30 MB.
+constexpr qint64 kMostBytes = 64 * 1024 * 1024;
+constexpr qint64 kClaimBytes = 32;
+
+bool isMap(const QString& path) {
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
+        return false;
+    }
+    return !path.endsWith(QStringLiteral(".log")) || claimsToBeCopyMap(file.read(kClaimBytes));
+}
+
+}  // namespace
+
+QString mapBeside(const QString& imagePath) {
+    const QFileInfo image(imagePath);
+    const QString stem = image.path() + u'/' + image.completeBaseName();
+    for (const char* const suffix : {".map", ".mapfile", ".log"}) {
+        for (const QString& base : {imagePath, stem}) {
+            const QString path = base + QLatin1String(suffix);
+            if (QFileInfo(path) != image && isMap(path)) {
+                return path;
+            }
+        }
+    }
+    return {};
+}
+
+QString newMapBeside(const QString& imagePath) {
+    return imagePath + QStringLiteral(".map");
+}
+
+std::optional<CopyMap> loadCopyMap(const QString& path, QString* why) {
+    const auto refuse = [&](const QString& words) {
+        if (why != nullptr) {
+            *why = QStringLiteral("The map “%1” cannot be used: %2").arg(QFileInfo(path).fileName(), words);
+        }
+        return std::nullopt;
+    };
+    QFile file(path);
+    if (!QFileInfo(path).isFile()) {
+        return refuse(QFileInfo::exists(path) ? QStringLiteral("it is no file")
+                                              : QStringLiteral("it is not there"));
+    }
+    if (!file.open(QIODevice::ReadOnly)) {
+        return refuse(file.errorString());
+    }
+    if (file.size() > kMostBytes) {
+        return refuse(QStringLiteral("it is too large for a map"));
+    }
+    QString wrong;
+    auto map = readCopyMap(file.read(kMostBytes), &wrong);
+    return map ? map : refuse(wrong);
+}
+
+std::optional<QString> storeCopyMap(const QString& path, const CopyMap& map) {
+    QSaveFile file(path);
+    const QByteArray text = writeCopyMap(map);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit()) {
+        return QStringLiteral("The map “%1” cannot be written: %2").arg(path, file.errorString());
+    }
+    return std::nullopt;
+}
+
+}  // namespace vantor

@@ -1,0 +1,175 @@
+// A card's directories read in a helper, and what is believed of one that is somebody else's.
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "decode/CardExchange.h"
+#include "decode/CardHelper.h"
+#include "tests/filesystem/CardImage.h"
+#include "tests/support/ScriptedMedium.h"
+
+namespace vantor {
+namespace {
+
+using decode::TableReader;
+using decode::TableWriter;
+
+CardTable someTable() {
+    CardTable table;
+    table.fileSystems = {{FileSystemKind::Exfat, true, 8, 2000, 100, 8, QStringLiteral("CARD")}};
+    table.inUse = {{8, 100}, {300, 400}};
+    for (int i = 0; i < 20'000; ++i) {
+        CardFile file;
+        file.folder = QStringLiteral("DCIM/100CANON");
+        file.name = QStringLiteral("IMG_%1.JPG").arg(i);
+        file.state = static_cast<FileState>(i % 3);
+        file.bytes = 1000;
+        file.validBytes = 900;
+        file.modified = 1'700'000'000 + i;
+        file.runs = {{200, 216}, {100, 108}};
+        file.runsKnownBy = static_cast<RunsKnownBy>(i % 5);
+        file.clusterSectors = 8;
+        table.files.push_back(file);
+    }
+    return table;
+}
+
+TEST(CardExchange, TableOfManyBlocks_ArrivesWhole) {
+    const CardTable table = someTable();
+    TableWriter writer(table);
+    TableReader reader(2000);
+    int blocks = 0;
+    for (auto block = writer.next(); !block.empty(); block = writer.next(), ++blocks) {
+        ASSERT_LE(block.size(), decode::kBlockBytes);
+        ASSERT_TRUE(reader.take(block));
+    }
+    EXPECT_GT(blocks, 3);
+    ASSERT_TRUE(reader.isWhole());
+    const CardTable got = reader.table();
+    EXPECT_EQ(pathsOf(got), pathsOf(table));
+    EXPECT_EQ(got.inUse, table.inUse);
+    EXPECT_EQ(got.fileSystems.front().label, QStringLiteral("CARD"));
+    const CardFile& one = got.files[7];
+    EXPECT_EQ(one.runs, table.files[7].runs);
+    EXPECT_EQ(one.modified, table.files[7].modified);
+    EXPECT_FALSE(one.created);
+    EXPECT_EQ(one.runsKnownBy, table.files[7].runsKnownBy);
+}
+
+bool isTaken(const CardFile& file) {
+    CardTable table;
+    table.files = {file};
+    TableWriter writer(table);
+    return TableReader(2000).take(writer.next());
+}
+
+TEST(CardExchange, WhatCannotBe_IsNotTaken) {
+    const CardFile good = someTable().files.front();
+    ASSERT_TRUE(isTaken(good));
+    CardFile bad = good;
+    bad.name = QStringLiteral("../x");
+    EXPECT_FALSE(isTaken(bad));
+    bad = good;
+    bad.folder = QStringLiteral("a/../b");
+    EXPECT_FALSE(isTaken(bad));
+    bad = good;
+    bad.folder = QStringLiteral("/etc");
+    EXPECT_FALSE(isTaken(bad));
+    bad = good;
+    bad.runs = {{5, 5}};
+    EXPECT_FALSE(isTaken(bad));
+    bad.runs = {{2000, 2001}};
+    EXPECT_FALSE(isTaken(bad));
+    bad.runs = {{0, 1500}, {0, 1500}};
+    EXPECT_FALSE(isTaken(bad));
+    bad = good;
+    bad.bytes = 2001 * 512;
+    EXPECT_FALSE(isTaken(bad));
+    bad = good;
+    bad.state = static_cast<FileState>(3);
+    EXPECT_FALSE(isTaken(bad));
+    bad = good;
+    bad.clusterSectors = 0;
+    EXPECT_FALSE(isTaken(bad));
+}
+
+TEST(CardExchange, DamagedBlocks_BringNothingThatIsOutOfItsRange) {
+    std::mt19937 random(3);
+    const CardTable table = someTable();
+    TableWriter writer(table);
+    std::vector<std::vector<std::uint8_t>> blocks;
+    for (auto block = writer.next(); !block.empty(); block = writer.next()) {
+        block.resize(std::min<std::size_t>(block.size(), 4000));
+        blocks.push_back(std::move(block));
+    }
+    int taken = 0;
+    for (int i = 0; i < 20'000; ++i) {
+        std::vector<std::uint8_t> block = blocks[random() % blocks.size()];
+        put(block, 4, 10, 4);
+        block[random() % block.size()] = static_cast<std::uint8_t>(random());
+        TableReader reader(2000);
+        taken += reader.take(block) ? 1 : 0;
+        for (const CardFile& file : reader.table().files) {
+            ASSERT_FALSE(file.name.contains(u'/'));
+            for (const SectorRun& run : file.runs) {
+                ASSERT_LT(run.first, run.end);
+                ASSERT_LE(run.end, 2000u);
+            }
+        }
+    }
+    EXPECT_GT(taken, 0);
+}
+
+TEST(CardExchange, QuestionsForWhatIsNotThere_AreNone) {
+    using decode::CardQuestion;
+    EXPECT_TRUE(decode::questionOf(decode::bytesOf(CardQuestion{1990, 10}), 2000));
+    EXPECT_FALSE(decode::questionOf(decode::bytesOf(CardQuestion{1991, 10}), 2000));
+    EXPECT_FALSE(decode::questionOf(decode::bytesOf(CardQuestion{~std::uint64_t{0}, 2}), 2000));
+    EXPECT_FALSE(decode::questionOf(decode::bytesOf(CardQuestion{0, 0}), 2000));
+    EXPECT_FALSE(decode::questionOf(decode::bytesOf(CardQuestion{0, 513}), 2000));
+}
+
+class CardHelper : public testing::Test {
+  protected:
+    CardHelper() {
+        MemoryCard card(m_exfat.end());
+        formatExfat(card, m_exfat);
+        putBytes(card, m_exfat.sectorOf(5), exfatSet({"IMG_0412.JPG", 20, 9000}));
+        for (std::size_t sector = 0; sector < card.sectors(); ++sector) {
+            std::memcpy(m_medium.bytes[sector].data(), card.bytes.data() + sector * 512, 512);
+        }
+    }
+
+    std::optional<CardTable> read(const QString& helper = VANTOR_CARD_HELPER) {
+        ScriptedReader reader(m_medium);
+        CardHelperOptions options;
+        options.helper = helper;
+        return readCardInHelper(reader, m_medium.bytes.size(), {}, {}, options);
+    }
+
+    ExfatPlaces m_exfat;
+    ScriptedMedium m_medium{m_exfat.end()};
+};
+
+TEST_F(CardHelper, TellsTheTable) {
+    const auto table = read();
+    ASSERT_TRUE(table);
+    EXPECT_EQ(pathsOf(*table), "IMG_0412.JPG");
+    EXPECT_EQ(table->files.front().runs.front().first, m_exfat.sectorOf(20));
+    EXPECT_EQ(table->fileSystems.size(), 1u);
+}
+
+TEST_F(CardHelper, BadSectorBesideADirectory_CostsThatAlone) {
+    m_medium.badForEver = {m_exfat.sectorOf(5) + 1, m_exfat.first + 3};
+    const auto table = read();
+    ASSERT_TRUE(table);
+    EXPECT_EQ(pathsOf(*table), "IMG_0412.JPG");
+}
+
+TEST_F(CardHelper, LyingOrMissing_GivesNoTable) {
+    EXPECT_FALSE(read(QStringLiteral("/nowhere/helper")));
+    EXPECT_FALSE(read(VANTOR_LYING_HELPER));
+}
+
+}  // namespace
+}  // namespace vantor

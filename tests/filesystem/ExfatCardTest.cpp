@@ -1,0 +1,130 @@
+// Files of exFAT: there, deleted, and left by a format.
+#include <gtest/gtest.h>
+
+#include <QDateTime>
+
+#include "tests/filesystem/CardImage.h"
+
+namespace vantor {
+namespace {
+
+class ExfatCard : public testing::Test {
+  protected:
+    ExfatCard() {
+        formatExfat(m_card, m_exfat);
+        putRoot(exfatSet({"DCIM", 10, 4096, true, true}));
+        putBytes(m_card, m_exfat.sectorOf(10), exfatSet({"100CANON", 11, 8192, true, true}));
+    }
+
+    void putRoot(const Bytes& rows) { putBytes(m_card, m_exfat.sectorOf(5), rows); }
+    void putPhotos(const Bytes& rows) { putBytes(m_card, m_exfat.sectorOf(11), rows); }
+    std::vector<SectorRun> piece(std::uint32_t first, std::uint32_t end) const {
+        return {{m_exfat.sectorOf(first), m_exfat.sectorOf(end)}};
+    }
+
+    ExfatPlaces m_exfat;
+    MemoryCard m_card{18000};
+};
+
+TEST_F(ExfatCard, LiveFileInOnePiece_IsProvedByItsFlag) {
+    putPhotos(exfatSet({"IMG_0412.JPG", 20, 9000}));
+    const CardTable table = tableOf(m_card);
+    ASSERT_EQ(pathsOf(table), "DCIM/100CANON/IMG_0412.JPG");
+    const CardFile& file = table.files.front();
+    EXPECT_EQ(file.state, FileState::Live);
+    EXPECT_EQ(file.bytes, 9000u);
+    EXPECT_EQ(file.runs, piece(20, 23));
+    EXPECT_EQ(file.runsKnownBy, RunsKnownBy::Flag);
+    // The row says that its time is an hour ahead.
+    EXPECT_EQ(file.modified, QDateTime(QDate(2026, 3, 22), QTime(7, 2, 18), Qt::UTC).toSecsSinceEpoch());
+    EXPECT_TRUE(table.isInUse(m_exfat.sectorOf(22)));
+    EXPECT_FALSE(table.isInUse(m_exfat.sectorOf(23)));
+}
+
+TEST_F(ExfatCard, DeletedFileInPieces_ComesFromTheChainThatIsLeft) {
+    putPhotos(exfatSet({"IMG_0412.JPG", 20, 4 * 4096, false, false, true}));
+    chainExfat(m_card, m_exfat, {20, 21, 30, 29});
+    const CardTable table = tableOf(m_card);
+    ASSERT_EQ(pathsOf(table), "DCIM/100CANON/IMG_0412.JPG");
+    EXPECT_EQ(table.files.front().state, FileState::Deleted);
+    EXPECT_EQ(table.files.front().runsKnownBy, RunsKnownBy::Chain);
+    const std::vector<SectorRun> runs{piece(20, 22)[0], piece(30, 31)[0], piece(29, 30)[0]};
+    EXPECT_EQ(table.files.front().runs, runs);
+}
+
+TEST_F(ExfatCard, ChainThatLeadsIntoALiveFile_IsNoChain) {
+    putPhotos(exfatSet({"NEW.JPG", 21, 2 * 4096, false}) +
+              exfatSet({"OLD.JPG", 20, 3 * 4096, false, false, true}));
+    chainExfat(m_card, m_exfat, {20, 21, 30});
+    EXPECT_EQ(fileNamed(tableOf(m_card), "OLD.JPG").runsKnownBy, RunsKnownBy::Guess);
+}
+
+TEST_F(ExfatCard, SetWithAWrongChecksum_IsNoFile) {
+    Bytes rows =
+        exfatSet({"IMG_0412.JPG", 20, 9000, true, false, true}) + exfatSet({"IMG_0413.JPG", 30, 9000});
+    rows[52] ^= 1;
+    putPhotos(rows);
+    EXPECT_EQ(pathsOf(tableOf(m_card)), "DCIM/100CANON/IMG_0413.JPG");
+}
+
+TEST_F(ExfatCard, QuickFormat_FoldersAreFoundAndNamedByEachOther) {
+    putPhotos(exfatSet({"IMG_0412.JPG", 20, 9000}) + exfatSet({"IMG_0413.JPG", 25, 9000, true, false, true}));
+    formatExfat(m_card, m_exfat);
+    put(m_card.bytes, m_exfat.sectorOf(20) * 512, "\xFF\xD8\xFF");
+    const CardTable table = tableOf(m_card);
+    EXPECT_EQ(pathsOf(table), "folder-10/100CANON/IMG_0412.JPG\nfolder-10/100CANON/IMG_0413.JPG");
+    EXPECT_EQ(fileNamed(table, "IMG_0412.JPG").state, FileState::Lost);
+    EXPECT_EQ(fileNamed(table, "IMG_0413.JPG").state, FileState::Deleted);
+    EXPECT_EQ(fileNamed(table, "IMG_0412.JPG").runs, piece(20, 23));
+}
+
+TEST_F(ExfatCard, FormatWithOtherClusters_FoundPhotosTellWhereTheOldOnesLay) {
+    Bytes rows;
+    std::vector<FoundStart> found;
+    for (std::uint32_t i = 0; i < 12; ++i) {
+        const std::uint32_t cluster = 20 + i * i + i;
+        rows = rows + exfatSet({QString("IMG_%1.JPG").arg(i), cluster, 9000});
+        found.push_back({m_exfat.sectorOf(cluster), "jpg"});
+    }
+    putPhotos(rows);
+    ExfatPlaces other = m_exfat;
+    other.clusterSectors = 32;
+    other.clusters = 400;
+    formatExfat(m_card, other);
+    // The new root lies elsewhere than it would by the other clusters' size alone.
+    putPhotos(rows);
+    const CardTable table = tableOf(m_card, found);
+    EXPECT_EQ(fileNamed(table, "IMG_7.JPG").runs, piece(76, 79));
+    EXPECT_EQ(fileNamed(table, "IMG_7.JPG").state, FileState::Lost);
+}
+
+TEST_F(ExfatCard, DirectoryInTwoPieces_IsPutTogetherByTheSetAcrossTheSeam) {
+    Bytes rows;
+    for (int i = 0; rows.size() <= 4096; ++i) {
+        rows = rows + exfatSet({QString("A name of some length %1.JPG").arg(i, 4), 100u + 2 * i, 5000});
+    }
+    // Deleted rows in front shift the sets, so that one lies across.
+    Bytes shift(32, 'x');
+    shift[0] = 0x41;
+    shift[1] = 0;
+    const Bytes all = shift + rows;
+    putPhotos(Bytes(all.begin(), all.begin() + 4096));
+    putBytes(m_card, m_exfat.sectorOf(40), Bytes(all.begin() + 4096, all.end()));
+    putBytes(m_card, m_exfat.sectorOf(10), exfatSet({"100CANON", 11, 8192, false, true}));
+    formatExfat(m_card, m_exfat);
+    put(m_card.bytes, m_exfat.sectorOf(100) * 512, "\xFF\xD8\xFF");
+    const CardTable table = tableOf(m_card);
+    ASSERT_FALSE(table.files.empty());
+    for (const CardFile& file : table.files) {
+        EXPECT_EQ(file.folder, "folder-10/100CANON") << file.name.toStdString();
+    }
+}
+
+TEST_F(ExfatCard, FirstSectorGone_TheCopyServes) {
+    putPhotos(exfatSet({"IMG_0412.JPG", 20, 9000}));
+    std::fill(m_card.bytes.begin(), m_card.bytes.begin() + 512, 0);
+    EXPECT_EQ(pathsOf(tableOf(m_card)), "DCIM/100CANON/IMG_0412.JPG");
+}
+
+}  // namespace
+}  // namespace vantor

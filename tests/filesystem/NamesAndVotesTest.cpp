@@ -1,0 +1,117 @@
+// The small parts: names, votes, tables of partitions, what the collector notes.
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "filesystem/CleanName.h"
+#include "filesystem/ClusterVote.h"
+#include "filesystem/PartitionTable.h"
+#include "tests/filesystem/CardImage.h"
+
+namespace vantor {
+namespace {
+
+TEST(CleanName, HoldsNothingThatAPathMayNot) {
+    EXPECT_EQ(cleanName(QStringLiteral("IMG_0412.JPG")), QStringLiteral("IMG_0412.JPG"));
+    EXPECT_EQ(cleanName(QStringLiteral("照片 – Größe 😀.jpg")), QStringLiteral("照片 – Größe 😀.jpg"));
+    EXPECT_EQ(cleanName(QStringLiteral("../a\\b\nc")), QStringLiteral(".._a_b_c"));
+    EXPECT_EQ(cleanName(QStringLiteral("photo\u202Egpj.exe")), QStringLiteral("photo_gpj.exe"));
+    EXPECT_EQ(cleanName(QString(QChar(0xD83D)) + u'x'), QStringLiteral("_x"));
+    EXPECT_EQ(cleanName(QString(QChar(u'\0'))), QStringLiteral("_"));
+    EXPECT_EQ(cleanName(QStringLiteral("..")), QStringLiteral("__"));
+    EXPECT_EQ(cleanName(QString()), QStringLiteral("_"));
+}
+
+TEST(ClusterVote, TruthAmongStraySightings_Wins) {
+    std::mt19937 random(7);
+    std::vector<ClusterSighting> sightings;
+    for (std::uint32_t i = 0; i < 20; ++i) {
+        const std::uint32_t cluster = 100 + i * i;
+        sightings.push_back({cluster, 8192 + std::uint64_t{cluster - 2} * 64});
+        for (int stray = 0; stray < 50; ++stray) {
+            sightings.push_back({cluster, random() % 5'000'000});
+        }
+    }
+    const auto places = voteForClusters(sightings, 3);
+    ASSERT_TRUE(places);
+    EXPECT_EQ(places->clusterSectors, 64u);
+    EXPECT_EQ(places->firstCluster, 8192u);
+    EXPECT_EQ(places->votes, 20u);
+}
+
+TEST(ClusterVote, NoAgreement_NoAnswer) {
+    EXPECT_FALSE(voteForClusters({}, 2));
+    EXPECT_FALSE(voteForClusters({{10, 1000}}, 2));
+    EXPECT_FALSE(voteForClusters({{10, 1000}, {10, 2000}, {11, 1007}}, 2));
+    // Two pairs, each with an answer of its own.
+    EXPECT_FALSE(voteForClusters({{10, 1000}, {11, 1008}, {20, 9000}, {21, 9016}}, 2));
+}
+
+Bytes partitionRow(std::uint8_t type, std::uint32_t first, std::uint32_t sectors) {
+    Bytes row(16);
+    row[4] = type;
+    put(row, 8, first, 4);
+    put(row, 12, sectors, 4);
+    return row;
+}
+
+TEST(PartitionTable, RecordWithAnExtendedPartition_NamesAll) {
+    MemoryCard card(10000);
+    put(card.bytes, 510, 0xAA55, 2);
+    const Bytes rows = partitionRow(0x0C, 100, 900) + partitionRow(0x05, 1000, 9000);
+    std::copy(rows.begin(), rows.end(), card.bytes.begin() + 446);
+    const Bytes inner = partitionRow(0x07, 10, 500) + partitionRow(0x05, 2000, 3000);
+    std::copy(inner.begin(), inner.end(), card.bytes.begin() + 1000 * 512 + 446);
+    put(card.bytes, 1000 * 512 + 510, 0xAA55, 2);
+    // This one leads back to the first.
+    const Bytes last = partitionRow(0x07, 20, 20000) + partitionRow(0x05, 0, 0);
+    std::copy(last.begin(), last.end(), card.bytes.begin() + 3000 * 512 + 446);
+    put(card.bytes, 3000 * 512 + 510, 0xAA55, 2);
+    std::vector<SectorRun> partitions = partitionsOf(card);
+    joinRuns(partitions);
+    EXPECT_EQ(partitions, (std::vector<SectorRun>{{100, 1000}, {1010, 1510}, {3020, 10000}}));
+}
+
+TEST(PartitionTable, GuidTable_AlsoItsCopyAtTheEnd) {
+    for (const std::uint64_t header : {1, 9999}) {
+        MemoryCard card(10000);
+        put(card.bytes, header * 512, "EFI PART");
+        put(card.bytes, header * 512 + 72, header == 1 ? 2 : 9967, 8);
+        put(card.bytes, header * 512 + 80, 128, 4);
+        put(card.bytes, header * 512 + 84, 128, 4);
+        const std::size_t row = (header == 1 ? 2 : 9967) * 512 + 128 * 5;
+        put(card.bytes, row, 1, 8);
+        put(card.bytes, row + 32, 2048, 8);
+        put(card.bytes, row + 40, 4095, 8);
+        EXPECT_EQ(partitionsOf(card), (std::vector<SectorRun>{{2048, 4096}})) << header;
+    }
+}
+
+TEST(CardCollector, RandomSectors_LookLikeNoDirectory) {
+    std::mt19937_64 random(11);
+    MemoryCard card(200'000);
+    for (std::size_t at = 0; at < card.bytes.size(); at += 8) {
+        put(card.bytes, at, random(), 8);
+    }
+    CardCollector collector;
+    collector.look(0, card.bytes.data(), card.sectors());
+    EXPECT_TRUE(collector.traces().directories.empty());
+    EXPECT_TRUE(collector.traces().bootSectors.empty());
+}
+
+TEST(CardCollector, WindowsInAnyOrder_GiveTheSameTraces) {
+    MemoryCard card(64);
+    for (std::size_t sector = 10; sector < 20; ++sector) {
+        putBytes(card, sector, fatRow("IMG_0001JPG", 5, 100));
+    }
+    CardCollector once;
+    once.look(0, card.bytes.data(), 64);
+    CardCollector twice;
+    twice.look(16, card.bytes.data() + 16 * 512, 48);
+    twice.look(0, card.bytes.data(), 16);
+    EXPECT_EQ(once.traces().directories, (std::vector<SectorRun>{{10, 20}}));
+    EXPECT_EQ(twice.traces().directories, once.traces().directories);
+}
+
+}  // namespace
+}  // namespace vantor
