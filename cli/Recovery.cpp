@@ -404,9 +404,11 @@ int recover(CliOptions options) {
     if (!options.image.isEmpty() && !(copy = beginCopy(options, medium))) {
         return kExitDestinationTrouble;
     }
-    const MediumOpener open = copy ? [copy, stop](const QString&) { return copy->openReader(stop); } : medium.open;
-    const auto refused = options.retryBad ? ScanSession::RefusedSectorsAre::AskedForAgain
-                                          : ScanSession::RefusedSectorsAre::KnownToAll;
+    const MediumOpener open =
+        copy ? [copy, stop](const QString&) { return copy->openReader(stop); } : medium.open;
+    // A copy knows what was refused, and may come back to it.
+    const auto refused = copy || options.retryBad ? ScanSession::RefusedSectorsAre::AskedForAgain
+                                                  : ScanSession::RefusedSectorsAre::KnownToAll;
     session.setMediumOpener(open, refused);
     if (!options.sessionFile.isEmpty() &&
         destinationIsOnMedium(QFileInfo(options.sessionFile).absolutePath(), medium.path)) {
