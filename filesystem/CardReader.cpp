@@ -9,6 +9,7 @@
 #include "filesystem/ClusterVolume.h"
 #include "filesystem/FoundStarts.h"
 #include "filesystem/LostDirectories.h"
+#include "filesystem/NtfsVolume.h"
 #include "filesystem/PartitionTable.h"
 
 namespace vantor {
@@ -24,6 +25,10 @@ class Reader {
 
     CardTable read() {
         for (const VolumeShape& shape : presentShapes()) {
+            if (shape.kind == FileSystemKind::Ntfs) {
+                tellNtfs(shape, true);
+                continue;
+            }
             m_volumes.push_back(std::make_unique<ClusterVolume>(m_card, shape, true));
             m_volumes.back()->readFromRoot();
         }
@@ -31,15 +36,30 @@ class Reader {
         for (const auto& volume : m_volumes) {
             volume->linkLost();
             volume->tell(m_found, m_table);
-            const VolumeShape& shape = volume->shape();
-            m_table.fileSystems.push_back({shape.kind, volume->isCurrent(), shape.first, shape.sectors,
-                                           shape.firstCluster, shape.clusterSectors, volume->label()});
+            note(volume->shape(), volume->isCurrent(), volume->label());
         }
         finish();
         return std::move(m_table);
     }
 
   private:
+    void note(const VolumeShape& shape, bool isCurrent, const QString& label) {
+        m_table.fileSystems.push_back({shape.kind, isCurrent, shape.first, shape.sectors, shape.firstCluster,
+                                       shape.clusterSectors, label});
+    }
+
+    // Once, however many copies of its first sector there are.
+    void tellNtfs(const VolumeShape& shape, bool isCurrent) {
+        const auto isSame = [&](const CardFileSystem& known) {
+            return known.kind == shape.kind && known.firstSector == shape.first &&
+                   known.clusterSectors == shape.clusterSectors;
+        };
+        if (std::none_of(m_table.fileSystems.begin(), m_table.fileSystems.end(), isSame) &&
+            NtfsVolume(m_card, shape, isCurrent).tell(m_table)) {
+            note(shape, isCurrent, {});
+        }
+    }
+
     std::optional<VolumeShape> shapeAt(std::uint64_t sector, std::uint64_t first) {
         Sector bytes;
         if (sector >= m_card.sectors() || !m_card.readAt(sector, bytes)) {
@@ -70,7 +90,6 @@ class Reader {
                 shapes.push_back(*shape);
             }
         }
-        std::erase_if(shapes, [](const VolumeShape& shape) { return shape.kind == FileSystemKind::Ntfs; });
         return shapes;
     }
 
@@ -85,7 +104,9 @@ class Reader {
             }
             for (const std::uint64_t first : possibleBeginnings(bytes, at)) {
                 const auto shape = shapeFromBootSector(bytes, first, m_card.sectors());
-                if (shape && shape->kind != FileSystemKind::Ntfs) {
+                if (shape && shape->kind == FileSystemKind::Ntfs) {
+                    tellNtfs(*shape, false);
+                } else if (shape) {
                     shapes.push_back(*shape);
                 }
             }
@@ -95,6 +116,8 @@ class Reader {
 
     void finish() {
         joinRuns(m_table.inUse);
+        std::stable_partition(m_table.fileSystems.begin(), m_table.fileSystems.end(),
+                              [](const CardFileSystem& system) { return system.isCurrent; });
         for (CardFile& file : m_table.files) {
             file.beginningIsInUse = file.state != FileState::Live && !file.runs.empty() &&
                                     m_table.isInUse(file.runs.front().first);

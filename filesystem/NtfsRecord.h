@@ -1,0 +1,48 @@
+// One file record of NTFS.
+#pragma once
+
+#include <QString>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace vantor {
+
+// Clusters [first, first + count) of the volume.
+struct NtfsRun {
+    std::uint64_t first = 0;
+    std::uint64_t count = 0;
+};
+
+// The number of a record, and which use of it is meant.
+struct NtfsReference {
+    std::uint64_t record = 0;
+    std::uint16_t use = 0;
+};
+
+struct NtfsRecord {
+    bool isInUse = false;
+    bool isFolder = false;
+    std::uint16_t use = 0;  // grows each time that the record is given to another file
+    NtfsReference base;     // of a record that goes on another; else record 0
+    NtfsReference parent;
+    QString name;                          // "" where it has none
+    std::optional<std::int64_t> modified;  // seconds since 1970
+    std::optional<std::int64_t> created;
+    // Its contents: the attribute without a name, or a part of it.
+    bool hasData = false;
+    bool isResident = false;  // they lie in the record itself
+    bool isPlain = true;      // neither compressed nor encrypted nor with holes
+    std::uint64_t bytes = 0;  // told by the first part alone
+    std::uint64_t validBytes = 0;
+    std::uint64_t firstCluster = 0;  // of the contents, with which this part begins
+    std::vector<NtfsRun> runs;
+};
+
+// A record's bytes (of a size that is a power of two, 512 or more), with the sectors' last bytes put back;
+// nothing when they are no whole record. Public description: "NTFS documentation", file records and
+// attributes.
+std::optional<NtfsRecord> readNtfsRecord(std::span<const std::uint8_t> bytes);
+
+}  // namespace vantor

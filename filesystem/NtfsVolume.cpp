@@ -1,0 +1,179 @@
+// Source: public descriptions of NTFS: the master file table and its records.
+#include "filesystem/NtfsVolume.h"
+
+#include <algorithm>
+#include <ranges>
+
+#include "filesystem/CleanName.h"
+
+namespace vantor {
+
+namespace {
+
+// The first records are the file system's own files; the fifth is the root.
+constexpr std::uint64_t kFirstOfUsers = 24;
+constexpr std::uint64_t kRoot = 5;
+constexpr std::size_t kMostRecords = 2'000'000;
+constexpr std::uint64_t kMostRuns = 16'000'000;
+
+}  // namespace
+
+// Cut to the volume; a run outside it ends the list.
+std::vector<SectorRun> NtfsVolume::sectorsOf(const std::vector<NtfsRun>& runs) const {
+    std::vector<SectorRun> sectors;
+    for (const NtfsRun& run : runs) {
+        if (!m_shape.holds(run.first) || run.count == 0 || run.count > m_shape.clusters - run.first) {
+            break;
+        }
+        const std::uint64_t first = m_shape.sectorOf(run.first);
+        sectors.push_back({first, first + run.count * m_shape.clusterSectors});
+    }
+    return sectors;
+}
+
+bool NtfsVolume::tell(CardTable& table) {
+    std::vector<std::uint8_t> bytes(m_shape.recordBytes);
+    const std::uint64_t at = m_shape.sectorOf(m_shape.rootCluster);
+    if (at + bytes.size() / 512 > m_card.sectors() || !m_card.readAt(at, bytes)) {
+        return false;
+    }
+    const auto own = readNtfsRecord(bytes);
+    if (!own || own->runs.empty()) {
+        return false;
+    }
+    readRecords(sectorsOf(own->runs), own->bytes / m_shape.recordBytes);
+    joinParts();
+    for (const auto& [number, record] : m_records) {
+        if (m_isCurrent && record.isInUse) {
+            const std::vector<SectorRun> runs = sectorsOf(record.runs);
+            table.inUse.insert(table.inUse.end(), runs.begin(), runs.end());
+        }
+        if (number >= kFirstOfUsers && !record.isFolder && !record.name.isEmpty()) {
+            tellFile(record, table);
+        }
+    }
+    return true;
+}
+
+void NtfsVolume::readRecords(const std::vector<SectorRun>& places, std::uint64_t records) {
+    constexpr std::uint64_t kPieceSectors = 256;
+    const std::uint64_t recordSectors = m_shape.recordBytes / 512;
+    std::uint64_t number = 0;
+    std::vector<std::uint8_t> bytes;
+    for (const SectorRun& place : places) {
+        for (std::uint64_t at = place.first; at + recordSectors <= place.end && number < records;) {
+            const std::uint64_t sectors =
+                std::min(kPieceSectors, (place.end - at) / recordSectors * recordSectors);
+            bytes.resize(sectors * 512);
+            m_card.readAt(at, bytes);
+            for (std::uint64_t in = 0; in < sectors && number < records; in += recordSectors, ++number) {
+                if (auto record = readNtfsRecord(std::span(bytes).subspan(in * 512, m_shape.recordBytes))) {
+                    keep(number, std::move(*record));
+                }
+            }
+            at += sectors;
+        }
+    }
+}
+
+void NtfsVolume::keep(std::uint64_t number, NtfsRecord record) {
+    m_runsKept += record.runs.size();
+    if (m_records.size() >= kMostRecords || m_runsKept > kMostRuns) {
+        return;
+    }
+    if (record.base.record == 0) {
+        m_records.emplace(number, std::move(record));
+    } else if (record.hasData) {
+        m_parts[record.base.record].emplace(record.firstCluster, std::move(record));
+    }
+}
+
+// A file of many pieces has more records than one; each part begins where the one before ends.
+void NtfsVolume::joinParts() {
+    for (auto& [number, parts] : m_parts) {
+        const auto base = m_records.find(number);
+        if (base == m_records.end()) {
+            continue;
+        }
+        NtfsRecord& file = base->second;
+        for (NtfsRecord& part : parts | std::views::values) {
+            std::uint64_t clusters = 0;
+            for (const NtfsRun& run : file.runs) {
+                clusters += run.count;
+            }
+            if (part.base.use != file.use || part.isInUse != file.isInUse || part.firstCluster != clusters) {
+                continue;
+            }
+            if (part.firstCluster == 0) {
+                file.bytes = part.bytes;
+                file.validBytes = part.validBytes;
+            }
+            file.hasData = true;
+            file.isPlain = file.isPlain && part.isPlain;
+            file.runs.insert(file.runs.end(), part.runs.begin(), part.runs.end());
+        }
+    }
+}
+
+// "" where a folder on the way has become another.
+std::optional<QString> NtfsVolume::folderOf(const NtfsReference& parent) const {
+    constexpr int kDeepest = 64;
+    QString path;
+    NtfsReference at = parent;
+    for (int depth = 0; at.record != kRoot && depth < kDeepest; ++depth) {
+        if (at.record < kFirstOfUsers) {
+            return std::nullopt;
+        }
+        const auto folder = m_records.find(at.record);
+        if (folder == m_records.end()) {
+            return QString();
+        }
+        const NtfsRecord& record = folder->second;
+        // A record that is given back counts its next use already.
+        const bool isMeant =
+            record.use == at.use || (!record.isInUse && record.use == static_cast<std::uint16_t>(at.use + 1));
+        if (!record.isFolder || record.name.isEmpty() || !isMeant) {
+            return QString();
+        }
+        const QString name = cleanName(record.name);
+        path = path.isEmpty() ? name : name + u'/' + path;
+        at = record.parent;
+    }
+    return path;
+}
+
+void NtfsVolume::tellFile(const NtfsRecord& record, CardTable& table) const {
+    const std::uint64_t clusterBytes = std::uint64_t{m_shape.clusterSectors} * 512;
+    const std::uint64_t clusters = record.bytes / clusterBytes + (record.bytes % clusterBytes != 0 ? 1 : 0);
+    const std::optional<QString> folder = folderOf(record.parent);
+    if (!folder || clusters > m_shape.clusters) {
+        return;
+    }
+    CardFile file;
+    file.state = !m_isCurrent ? FileState::Lost : record.isInUse ? FileState::Live : FileState::Deleted;
+    file.folder = *folder;
+    file.name = cleanName(record.name);
+    file.bytes = record.bytes;
+    file.validBytes = record.validBytes;
+    file.modified = record.modified;
+    file.created = record.created;
+    file.runsKnownBy = RunsKnownBy::Record;
+    file.clusterSectors = m_shape.clusterSectors;
+    std::uint64_t left = clusters * m_shape.clusterSectors;
+    for (SectorRun run :
+         record.isPlain && !record.isResident ? sectorsOf(record.runs) : std::vector<SectorRun>{}) {
+        if (left == 0) {
+            break;
+        }
+        run.end = std::min(run.end, run.first + left);
+        left -= run.end - run.first;
+        file.runs.push_back(run);
+    }
+    if (left != 0 && !file.runs.empty()) {
+        // Not all of its runs are known.
+        file.runsKnownBy = RunsKnownBy::Guess;
+    }
+    table.files.push_back(std::move(file));
+}
+
+}  // namespace vantor

@@ -1,0 +1,45 @@
+// One NTFS file system, as its file records tell it.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <unordered_map>
+#include <vector>
+
+#include "filesystem/CardTable.h"
+#include "filesystem/NtfsRecord.h"
+#include "filesystem/SectorSource.h"
+#include "filesystem/VolumeShape.h"
+
+namespace vantor {
+
+class NtfsVolume {
+  public:
+    // The card outlives it.
+    NtfsVolume(SectorSource& card, const VolumeShape& shape, bool isCurrent)
+        : m_card(card), m_shape(shape), m_isCurrent(isCurrent) {}
+
+    // Reads all records and appends the files and, for a current file system, what it holds as in use. False
+    // when there are no records where the boot sector says.
+    bool tell(CardTable& table);
+
+  private:
+    std::vector<SectorRun> sectorsOf(const std::vector<NtfsRun>& runs) const;
+    void readRecords(const std::vector<SectorRun>& places, std::uint64_t records);
+    void keep(std::uint64_t number, NtfsRecord record);
+    void joinParts();
+    // Nothing for a folder of the file system's own.
+    std::optional<QString> folderOf(const NtfsReference& parent) const;
+    void tellFile(const NtfsRecord& record, CardTable& table) const;
+
+    SectorSource& m_card;
+    const VolumeShape m_shape;
+    const bool m_isCurrent;
+    std::map<std::uint64_t, NtfsRecord> m_records;
+    // Further parts of a file's contents, by the record that they go on, in the order of its clusters.
+    std::unordered_map<std::uint64_t, std::map<std::uint64_t, NtfsRecord>> m_parts;
+    std::uint64_t m_runsKept = 0;
+};
+
+}  // namespace vantor

@@ -1,0 +1,159 @@
+// Files of NTFS, from records written down here.
+#include <gtest/gtest.h>
+
+#include "filesystem/NtfsRecord.h"
+#include "tests/filesystem/CardImage.h"
+
+namespace vantor {
+namespace {
+
+constexpr std::size_t kRecord = 1024;
+
+Bytes attribute(std::uint32_t type, const Bytes& value) {
+    Bytes made(24 + (value.size() + 7) / 8 * 8);
+    put(made, 0, type, 4);
+    put(made, 4, made.size(), 4);
+    put(made, 16, value.size(), 4);
+    put(made, 20, 24, 2);
+    std::copy(value.begin(), value.end(), made.begin() + 24);
+    return made;
+}
+
+Bytes nameAttribute(const QString& name, std::uint64_t parent, std::uint16_t use) {
+    Bytes value(66 + 2 * static_cast<std::size_t>(name.size()));
+    put(value, 0, parent, 6);
+    put(value, 6, use, 2);
+    value[64] = static_cast<std::uint8_t>(name.size());
+    value[65] = 1;
+    for (qsizetype i = 0; i < name.size(); ++i) {
+        put(value, 66 + 2 * static_cast<std::size_t>(i), name[i].unicode(), 2);
+    }
+    return attribute(0x30, value);
+}
+
+Bytes timesAttribute() {
+    Bytes value(48);
+    put(value, 0, (11'644'473'600ULL + 1'700'000'000) * 10'000'000, 8);
+    put(value, 8, (11'644'473'600ULL + 1'700'000'100) * 10'000'000, 8);
+    return attribute(0x10, value);
+}
+
+Bytes dataAttribute(std::uint64_t bytes, const Bytes& runs, std::uint64_t firstCluster = 0) {
+    Bytes made(64 + (runs.size() + 8) / 8 * 8);
+    put(made, 0, 0x80, 4);
+    put(made, 4, made.size(), 4);
+    made[8] = 1;
+    put(made, 16, firstCluster, 8);
+    put(made, 32, 64, 2);
+    put(made, 48, bytes, 8);
+    put(made, 56, bytes, 8);
+    std::copy(runs.begin(), runs.end(), made.begin() + 64);
+    return made;
+}
+
+enum Flags { kGone = 0, kThere = 1, kGoneFolder = 2, kThereFolder = 3 };
+
+Bytes record(Flags flags, std::uint16_t use, const Bytes& attributes, std::uint64_t base = 0) {
+    Bytes made(kRecord);
+    put(made, 0, "FILE");
+    put(made, 4, 48, 2);
+    put(made, 6, 3, 2);
+    put(made, 16, use, 2);
+    put(made, 20, 56, 2);
+    put(made, 22, flags, 2);
+    put(made, 32, base, 6);
+    put(made, 38, base != 0 ? 1 : 0, 2);
+    std::copy(attributes.begin(), attributes.end(), made.begin() + 56);
+    put(made, 56 + attributes.size(), 0xFFFFFFFF, 4);
+    // The marks, and what they stand for.
+    put(made, 48, 0x1234, 2);
+    for (const std::size_t sector : {1, 2}) {
+        std::copy_n(made.begin() + static_cast<std::ptrdiff_t>(sector * 512 - 2), 2,
+                    made.begin() + static_cast<std::ptrdiff_t>(48 + 2 * sector));
+        put(made, sector * 512 - 2, 0x1234, 2);
+    }
+    return made;
+}
+
+class NtfsCard : public testing::Test {
+  protected:
+    // Clusters of 4 KiB; the records begin in cluster 10 and are 40.
+    NtfsCard() {
+        Bytes boot(512);
+        put(boot, 0, "\xEB\x52\x90NTFS    ");
+        put(boot, 11, 512, 2);
+        boot[13] = 8;
+        put(boot, 40, 7999, 8);
+        put(boot, 48, 10, 8);
+        boot[64] = 0xF6;
+        put(boot, 510, 0xAA55, 2);
+        putBytes(m_card, 0, boot);
+        putBytes(m_card, 7999, boot);
+        putRecord(
+            0, record(kThere, 1, nameAttribute("$MFT", 5, 5) + dataAttribute(40 * kRecord, {0x11, 10, 10})));
+        putRecord(24, record(kThereFolder, 3, nameAttribute("Fotos", 5, 5)));
+        putRecord(25, record(kGoneFolder, 8, nameAttribute("Alt", 24, 3)));
+    }
+    void putRecord(std::size_t number, const Bytes& bytes) { putBytes(m_card, 80 + 2 * number, bytes); }
+
+    MemoryCard m_card{8000};
+};
+
+TEST_F(NtfsCard, FilesThereAndGone_KeepTheirRuns) {
+    // 3 clusters from 100 on, then 2 from 90 on: a step backwards.
+    const Bytes runs{0x11, 3, 100, 0x11, 2, 0xF6, 0};
+    const Bytes more = timesAttribute() + dataAttribute(5 * 4096 - 7, runs);
+    putRecord(26, record(kThere, 1, nameAttribute("IMG_1.JPG", 24, 3) + more));
+    putRecord(27, record(kGone, 2, nameAttribute("IMG_2.JPG", 25, 7) + more));
+    const CardTable table = tableOf(m_card);
+    EXPECT_EQ(pathsOf(table), "Fotos/Alt/IMG_2.JPG\nFotos/IMG_1.JPG");
+    const CardFile live = fileNamed(table, "IMG_1.JPG");
+    EXPECT_EQ(live.state, FileState::Live);
+    EXPECT_EQ(live.bytes, 5 * 4096u - 7);
+    EXPECT_EQ(live.runs, (std::vector<SectorRun>{{800, 824}, {720, 736}}));
+    EXPECT_EQ(live.runsKnownBy, RunsKnownBy::Record);
+    EXPECT_EQ(live.created, 1'700'000'000);
+    EXPECT_EQ(live.modified, 1'700'000'100);
+    const CardFile gone = fileNamed(table, "IMG_2.JPG");
+    EXPECT_EQ(gone.state, FileState::Deleted);
+    EXPECT_TRUE(gone.beginningIsInUse);
+    EXPECT_TRUE(table.isInUse(735));
+    EXPECT_FALSE(table.isInUse(736));
+    ASSERT_EQ(table.fileSystems.size(), 1u);
+}
+
+TEST_F(NtfsCard, FolderThatHasBecomeAnother_NamesNothing) {
+    putRecord(26,
+              record(kGone, 2, nameAttribute("IMG_1.JPG", 24, 2) + dataAttribute(4096, {0x11, 1, 100, 0})));
+    EXPECT_EQ(pathsOf(tableOf(m_card)), "IMG_1.JPG");
+}
+
+TEST_F(NtfsCard, RunsBeyondTheCardAndFoldersInALoop_AreCut) {
+    putRecord(25, record(kThereFolder, 8, nameAttribute("A", 28, 1)));
+    putRecord(28, record(kThereFolder, 1, nameAttribute("B", 25, 8)));
+    putRecord(26, record(kThere, 1,
+                         nameAttribute("X.JPG", 25, 8) +
+                             dataAttribute(9 * 4096, {0x11, 1, 100, 0x13, 8, 0xFF, 0xFF, 0x7F, 0})));
+    const CardFile file = fileNamed(tableOf(m_card), "X.JPG");
+    EXPECT_EQ(file.runs, (std::vector<SectorRun>{{800, 808}}));
+    EXPECT_EQ(file.runsKnownBy, RunsKnownBy::Guess);
+}
+
+TEST_F(NtfsCard, FirstSectorGone_TheCopyAtTheEndTells) {
+    putRecord(26,
+              record(kThere, 1, nameAttribute("IMG_1.JPG", 24, 3) + dataAttribute(4096, {0x11, 1, 100, 0})));
+    std::fill(m_card.bytes.begin(), m_card.bytes.begin() + 512, 0);
+    const CardTable table = tableOf(m_card);
+    EXPECT_EQ(pathsOf(table), "Fotos/IMG_1.JPG");
+    EXPECT_EQ(table.files.front().state, FileState::Lost);
+}
+
+TEST(NtfsRecordBytes, WithATornSector_AreNoRecord) {
+    Bytes bytes = record(kThere, 1, nameAttribute("IMG_1.JPG", 5, 5));
+    ASSERT_TRUE(readNtfsRecord(bytes));
+    bytes[510] ^= 1;
+    EXPECT_FALSE(readNtfsRecord(bytes));
+}
+
+}  // namespace
+}  // namespace vantor
