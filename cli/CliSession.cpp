@@ -1,9 +1,11 @@
 // Publishing, saving and checksumming without a window.
 #include "cli/CliSession.h"
 
+#include <QHash>
 #include <QJsonArray>
 
 #include "results/PreviewCopy.h"
+#include "results/ToldFiles.h"
 #include "saving/Sha256.h"
 
 namespace vantor {
@@ -102,7 +104,8 @@ void CliSession::finishSaving() {
     if (!m_queue) {
         return;
     }
-    m_queue.reset();
+    m_queue->finish();
+    nameWhatTheCardTellsNow();
     for (std::size_t i = 0; i < m_outcomes.size(); ++i) {
         const PublishedItem& item = m_published[i];
         m_tally.add(item.name, m_outcomes[i]);
@@ -110,12 +113,68 @@ void CliSession::finishSaving() {
             {item.name, item.type, item.firstSector, item.endSector, std::move(m_outcomes[i])});
     }
     m_outcomes.clear();
+    saveToldFiles();
+    m_queue.reset();
+}
+
+void CliSession::saveToldFiles() {
+    SectorReader* const medium = m_options.savePolicy.asPublished ? nullptr : m_queue->medium();
+    if (medium == nullptr) {
+        return;
+    }
+    for (const auto& file : toldFiles()) {
+        const QString extension = pathExtension(file->name).toUpper();
+        FoundItem item{extension.isEmpty() ? QStringLiteral("FILE") : extension,
+                       file->name,
+                       {runsOf(*file), {}, [medium] { return medium; }, medium->mediumSectors()}};
+        item.source.hints = {{}, card(), file};
+        SaveOutcome outcome = m_queue->saver().save(item);
+        if (outcome.leftOut == LeftOut::Unsound) {
+            continue;
+        }
+        m_tally.add(item.name, outcome);
+        m_told += outcome.saved ? 1 : 0;
+        const SectorRun& first = item.source.carved.runs.front();
+        m_reported.push_back({item.name, item.type, first.first, first.end, std::move(outcome)});
+    }
+    m_queue->saver().flush();
+}
+
+// The folders of a card that was formatted are known only when all of it was read.
+void CliSession::nameWhatTheCardTellsNow() {
+    const auto known = card();
+    if (!known) {
+        return;
+    }
+    QHash<QString, QString> moved;  // from, to
+    for (std::size_t i = 0; i < m_outcomes.size(); ++i) {
+        const auto listed = itemAt(i);
+        SaveOutcome& outcome = m_outcomes[i];
+        if (!listed || !outcome.saved) {
+            continue;
+        }
+        const QString before = outcome.path;
+        FoundItem item{m_published[i].type,
+                       m_published[i].name,
+                       {listed->carved(), listed->heldBytes(), [this] { return m_queue->medium(); }}};
+        SectorReader* const medium = m_queue->medium();
+        item.source.mediumSectors = medium != nullptr ? medium->mediumSectors() : 0;
+        item.source.hints.card = known;
+        m_queue->saver().saveAsOnCard(item, outcome);
+        if (outcome.path != before && !outcome.duplicate) {
+            moved.insert(before, outcome.path);
+        }
+    }
+    for (SaveOutcome& outcome : m_outcomes) {
+        outcome.path = moved.value(outcome.path, outcome.path);
+    }
+    m_queue->saver().flush();
 }
 
 // Called for every item that is published, just before it is.
 void CliSession::save(const PublishedItem& item, const QByteArray& firstBytes) {
     if (m_queue) {
-        m_queue->add({item.type, item.name, handOver().carved, firstBytes});
+        m_queue->add({item.type, item.name, handOver().carved, firstBytes, {{}, card()}});
     }
 }
 

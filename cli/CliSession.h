@@ -96,6 +96,8 @@ class CliSession : private CliView, public ScanSession {
     const SaveTally& saveTally() const { return m_tally; }
     // Every published item with what became of it; without a destination none.
     const std::vector<ReportedItem>& reportedItems() const { return m_reported; }
+    // Files that only the card's directories tell of and that were saved all the same.
+    std::size_t toldCount() const { return m_told; }
     using CliView::alerts;
     std::size_t publishedCount() const { return m_publishedCount; }  // any thread
 
@@ -107,6 +109,8 @@ class CliSession : private CliView, public ScanSession {
     void publish(PublishedItem item);
     void save(const PublishedItem& item, const QByteArray& firstBytes);
     void finishSaving();
+    void nameWhatTheCardTellsNow();
+    void saveToldFiles();
 
     CliOptions m_options;
     std::vector<PublishedItem> m_published;
@@ -116,6 +120,7 @@ class CliSession : private CliView, public ScanSession {
     std::unique_ptr<SaveQueue> m_queue;  // while a scan runs that saves
     std::vector<ReportedItem> m_reported;
     SaveTally m_tally;
+    std::size_t m_told = 0;
 };
 
 }  // namespace vantor

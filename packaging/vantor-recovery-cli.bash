@@ -12,6 +12,14 @@ _vantor_recovery_cli() {
             _filedir -d
             return
             ;;
+        --names)
+            COMPREPLY=($(compgen -W 'original found' -- "$cur"))
+            return
+            ;;
+        --folders)
+            COMPREPLY=($(compgen -W 'card type date' -- "$cur"))
+            return
+            ;;
         --types | --range | --min-bytes | --min-pixels)
             return
             ;;
@@ -19,7 +27,7 @@ _vantor_recovery_cli() {
 
     if [[ $cur == -* ]]; then
         COMPREPLY=($(compgen -W '--help --version --mode --types --range --no-thorough --catalogue
-            --save --as-published --report --by-date --min-bytes --min-pixels --keep-duplicates
+            --save --as-published --report --names --folders --lost-only --by-date --min-bytes --min-pixels --keep-duplicates
             --skip-unsound
             --map
             --list-json --list-media --list-files' -- "$cur"))

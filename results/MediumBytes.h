@@ -5,15 +5,28 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <memory>
 #include <span>
 #include <vector>
 
 #include "formats/ByteSource.h"
 #include "media/SectorReader.h"
 #include "media/SectorSet.h"
+#include "results/Assembly.h"
 #include "results/CarvedRun.h"
 
 namespace vantor {
+
+class CardIndex;
+struct CardFile;
+
+// What is known of an item beside the run that it was carved from.
+struct ItemHints {
+    std::vector<Assembly> assemblies = {};            // where else its bytes may lie, the best first
+    std::shared_ptr<const CardIndex> card = nullptr;  // what the card's directories tell; null: nothing
+    // Nothing was found there: the item is this file of the card's, or none.
+    std::shared_ptr<const CardFile> told = nullptr;
+};
 
 // Where an item's bytes come from.
 struct ItemSource {
@@ -23,6 +36,7 @@ struct ItemSource {
     std::function<SectorReader*()> medium;
     std::uint64_t mediumSectors = 0;  // 0: nothing is read beyond the carved run
     bool asPublished = false;         // exactly the carved sectors, one behind the other
+    ItemHints hints = {};
 };
 
 // The carved run, and behind it the medium up to its end. A gap between two runs that follow each other is a

@@ -12,6 +12,7 @@
 #include "formats/Extent.h"
 #include "media/SectorReader.h"
 #include "results/CarvedRun.h"
+#include "results/ItemBytes.h"
 #include "results/MediumBytes.h"
 #include "results/Soundness.h"
 #include "saving/SavePolicy.h"
@@ -24,7 +25,7 @@ class SavingFolder;
 class WholeFile;
 
 // Why an item was not written although nothing failed.
-enum class LeftOut { No, TooSmall, Unsound };
+enum class LeftOut { No, TooSmall, Unsound, StillThere };
 
 struct SaveOutcome {
     bool saved = false;      // its bytes lie at `path`
@@ -43,7 +44,9 @@ struct SaveOutcome {
     std::optional<CivilTime> taken;  // also the file's modification time
     std::uint32_t width = 0;         // pixels; 0: not told
     std::uint32_t height = 0;
-    QByteArray sha256;  // raw; may be empty where the policy asks for none
+    QByteArray sha256;                         // raw; may be empty where the policy asks for none
+    std::shared_ptr<const CardFile> original;  // null where the card does not tell
+    std::size_t pieces = 1;                    // on the medium, as the bytes were put together
 };
 
 // What saving found out; nothing when it did not come that far.
@@ -57,10 +60,10 @@ struct FoundItem {
     const std::atomic<bool>* unwanted = nullptr;
 };
 
-// One medium and one destination, which has to be there. An item becomes `<destination>/<type>/<name>`, whole
-// or not at all; nothing is ever overwritten, and no type or name leads out of the destination. What does not
-// fit is told and left out; a smaller item behind it may still fit. An item of which nothing could be read
-// fails. Any one thread.
+// One medium and one destination, which has to be there. An item becomes `<destination>/<type>/<name>`, or
+// takes the folder and name that the card tells, as the policy says; whole or not at all. Nothing is ever
+// overwritten, and no type or name leads out of the destination. What does not fit is told and left out; a
+// smaller item behind it may still fit. An item of which nothing could be read fails. Any one thread.
 //
 // The same bytes are saved once: again under the same type they are left out, under another type (a header
 // that several types share) the file gets a second name there, or is written again where the file system has
@@ -80,6 +83,10 @@ class ItemSaver {
 
     SaveOutcome save(const FoundItem& item) const;
 
+    // An item that was saved before the card told anything of it, with what the card tells now: the file gets
+    // its name and folder, or is saved anew where it lies in other pieces, and the one saved first goes.
+    void saveAsOnCard(const FoundItem& item, SaveOutcome& outcome) const;
+
     // To be called behind the last item: the names of all files survive a loss of power from here on.
     void flush() const;
 
@@ -92,9 +99,14 @@ class ItemSaver {
     struct Writing;
 
     std::optional<SavingFolder> openDestination(SaveOutcome& outcome) const;
-    bool decideLength(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const;
-    void saveBytes(const FoundItem& item, const SavingFolder& destination, MediumBytes& bytes,
+    bool moveAsOnCard(const FoundItem& item, const CardFile& file, SaveOutcome& outcome) const;
+    void remove(const QString& path) const;
+    bool isStillThere(const FoundItem& item) const;
+    bool decideLength(const FoundItem& item, ItemBytes& bytes, SaveOutcome& outcome) const;
+    void saveBytes(const FoundItem& item, const SavingFolder& destination, ItemBytes& bytes,
                    SaveOutcome& outcome) const;
+    std::optional<SavingFolder> folderFor(const FoundItem& item, const SavingFolder& destination,
+                                          SavedName& name, SaveOutcome& outcome) const;
     bool settleBeforeWriting(const Writing& writing, MediumBytes& bytes, SaveOutcome& outcome) const;
     static bool readEnough(const MediumBytes& bytes, std::uint64_t done, SaveOutcome& outcome);
     bool settleAs(const SavedFile& earlier, const Writing& writing, SaveOutcome& outcome) const;

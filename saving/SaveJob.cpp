@@ -70,12 +70,15 @@ void SaveJob::saveAll(SectorReader* medium) {
         if (medium != nullptr) {
             watched.emplace(*medium, m_watch);
         }
-        FoundItem found{
-            item.fileType(),
-            item.imageTitle(),
-            {item.carved(), item.heldBytes(), [&watched] { return watched ? &*watched : nullptr; },
-             medium != nullptr ? medium->mediumSectors() : 0},
-            &m_watch.ended};
+        FoundItem found{item.fileType(),
+                        item.imageTitle(),
+                        {item.carved(),
+                         item.heldBytes(),
+                         [&watched] { return watched ? &*watched : nullptr; },
+                         medium != nullptr ? medium->mediumSectors() : 0,
+                         false,
+                         {{}, m_request.card}},
+                        &m_watch.ended};
         SaveOutcome outcome = m_request.saver->save(found);
         if (m_cancelled && !outcome.saved) {
             return;

@@ -70,12 +70,18 @@ void SaveQueue::run() {
     }
 }
 
-void SaveQueue::save(SaveTask& task) {
+SectorReader* SaveQueue::medium() {
     if (!m_medium) {
         m_medium = m_open();
     }
+    return m_medium.get();
+}
+
+void SaveQueue::save(SaveTask& task) {
+    medium();
     FoundItem item{task.type, task.name, {task.carved, task.firstBytes, [this] { return m_medium.get(); }}};
     item.source.mediumSectors = m_medium ? m_medium->mediumSectors() : 0;
+    item.source.hints = task.hints;
     m_done(task, m_saver.save(item));
 }
 

@@ -22,6 +22,7 @@ struct SaveTask {
     QString name;
     CarvedRun carved;
     QByteArray firstBytes;  // the carved bytes, where they are at hand
+    ItemHints hints = {};
 };
 
 // Items are saved in the order in which they were added. The bytes that wait are capped: a destination that
@@ -45,6 +46,9 @@ class SaveQueue {
     void add(SaveTask task);
     // Returns when all that was added is saved; nothing may be added behind it.
     void finish();
+    // Once finished: who saved, and from where; null when the medium was never opened or cannot be.
+    const ItemSaver& saver() const { return m_saver; }
+    SectorReader* medium();
 
   private:
     void run();

@@ -2,11 +2,14 @@
 // both agree.
 #include "saving/SavedFiles.h"
 
+#include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <optional>
 
+#include "results/ResultRow.h"
 #include "saving/Sha256.h"
 
 namespace vantor {
@@ -38,15 +41,46 @@ QByteArray checksumOfFile(const QString& path) {
     return sum.result();
 }
 
-// The candidate when the file is still there; the best so far otherwise. One of the type is the best.
+// Whether the path is the other one with a number, "IMG_0412 (2).JPG".
+bool isNumbered(const QString& path, const QString& plain) {
+    const qsizetype slash = plain.lastIndexOf(u'/');
+    const qsizetype dot = plain.lastIndexOf(u'.');
+    const qsizetype cut = dot > slash + 1 ? dot : plain.size();
+    static const QRegularExpression kNumber(QStringLiteral("^ \\([0-9]+\\)$"));
+    const QStringView end = QStringView(plain).mid(cut);
+    return path.size() > plain.size() && path.startsWith(QStringView(plain).left(cut)) &&
+           path.endsWith(end) && kNumber.match(path.mid(cut, path.size() - plain.size())).hasMatch();
+}
+
+// The candidate when the file is still there; the best so far otherwise. One that serves is the best.
 const SavedFile* better(const SavedFile* best, const SavedFile& candidate, std::uint64_t bytes,
-                        const QString& type) {
-    const bool wanted = best == nullptr || (best->type != type && candidate.type == type);
+                        const SoughtFile& sought) {
+    const bool wanted = best == nullptr || (!sought.isServedBy(*best) && sought.isServedBy(candidate));
     const bool there = wanted && QFileInfo(candidate.path).size() == static_cast<qint64>(bytes);
     return there ? &candidate : best;
 }
 
 }  // namespace
+
+bool SoughtFile::isServedBy(const SavedFile& file) const {
+    if (!byPath) {
+        return file.type == type;
+    }
+    return file.path == path || isNumbered(file.path, path);
+}
+
+void SavedFiles::lookIntoCardFolder(const QString& folder) {
+    if (!m_folders.insert(folder).second) {
+        return;
+    }
+    const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks);
+    for (const QFileInfo& file : files) {
+        m_fromEarlier.emplace(
+            static_cast<std::uint64_t>(file.size()),
+            SavedFile{
+                file.filePath(), pathExtension(file.fileName()).toUpper(), {}, SavedFile::kNoPlace, true});
+    }
+}
 
 void SavedFiles::lookInto(const QString& folder, const QString& type) {
     if (!m_folders.insert(folder).second) {
@@ -75,16 +109,38 @@ bool SavedFiles::hasLike(const Likeness& likeness) {
     return m_files.contains(likeness);
 }
 
-const SavedFile* SavedFiles::fromPlace(std::uint64_t bytes, std::uint64_t firstSector,
-                                       const QString& type) const {
+const SavedFile* SavedFiles::fromPlace(std::uint64_t bytes, const SoughtFile& sought) const {
     const SavedFile* best = nullptr;
     for (auto file = m_files.lower_bound({bytes, {}}); file != m_files.end() && file->first.bytes == bytes;
          ++file) {
-        if (file->second.firstSector == firstSector && file->second.allRead) {
-            best = better(best, file->second, bytes, type);
+        if (file->second.firstSector == sought.firstSector && file->second.allRead) {
+            best = better(best, file->second, bytes, sought);
         }
     }
     return best;
+}
+
+const SavedFile* SavedFiles::servingCopyOf(const SavedFile& same, const Likeness& likeness,
+                                           const SoughtFile& sought) {
+    lookAtFilesOf(likeness.bytes);
+    QByteArray sum = same.sha256;
+    const auto [begin, end] = m_files.equal_range(likeness);
+    for (auto file = begin; file != end; ++file) {
+        SavedFile& candidate = file->second;
+        if (!sought.isServedBy(candidate) || better(nullptr, candidate, likeness.bytes, sought) == nullptr) {
+            continue;
+        }
+        if (sum.isEmpty()) {
+            sum = checksumOfFile(same.path);
+        }
+        if (candidate.sha256.isEmpty()) {
+            candidate.sha256 = checksumOfFile(candidate.path);
+        }
+        if (candidate.sha256 == sum) {
+            return &candidate;
+        }
+    }
+    return nullptr;
 }
 
 const SavedFile* SavedFiles::withChecksum(const Likeness& likeness, const QByteArray& sha256,
@@ -105,7 +161,7 @@ const SavedFile* SavedFiles::withChecksum(const Likeness& likeness, const QByteA
             candidate.sha256 = checksumOfFile(candidate.path);
         }
         if (candidate.sha256 == sha256) {
-            best = better(best, candidate, likeness.bytes, sought.type);
+            best = better(best, candidate, likeness.bytes, sought);
         }
     }
     return best;

@@ -68,7 +68,7 @@ bool ScanSession::Photo_Recovey_Mode(const QString& passName) {
     withoutPlatformException([&] {
         prepareRecords(passName, Ext_Array, Adv_Ext_Array);
         pass.searchFor(REC_PROC_Array);
-        pFile_Disk->setScreen(pass.matcher);
+        pFile_Disk->setScreen(screenFor(pass.matcher));
         runPhotoLoop(pass);
     });
     const auto openItemAt = pass.itemOpen ? std::optional(pass.itemFirstSector) : std::nullopt;
@@ -100,6 +100,7 @@ void ScanSession::runPhotoLoop(PhotoPass& pass) {
         pass.lastReadSucceeded = medium.read();
         if (pass.lastReadSucceeded) {
             pass.lastGoodSector = medium.position() - 1;
+            noteTrace(medium, pass.lastGoodSector);
         } else {
             m_readFailures.note(medium.position(), readBefore);
             pass.carved.readFailed = true;

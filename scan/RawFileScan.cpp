@@ -95,7 +95,7 @@ bool ScanSession::Raw_File_Recovey_Mode(const QString& passName) {
     prepareRecords(passName, CheckListHeader_Array, CheckListHeader_Adv_Array);
 
     RawPass pass(passName, REC_PROC_Array, m_view.destinationFolder());
-    pFile_Disk->setScreen(pass.matcher);
+    pFile_Disk->setScreen(screenFor(pass.matcher));
     bool stopped = false;
     if (!withoutPlatformException([&] { stopped = !runRawLoop(pass); })) {
         // Open items are not published then, in a later pass neither.
@@ -136,6 +136,7 @@ bool ScanSession::runRawLoop(RawPass& pass) {
         pass.lastReadSucceeded = medium.read();
         if (pass.lastReadSucceeded) {
             pass.lastGoodSector = medium.position() - 1;
+            noteTrace(medium, pass.lastGoodSector);
         } else {
             m_readFailures.note(medium.position(), readBefore);
             if (!medium.seek(index)) {

@@ -33,6 +33,10 @@ bool ScanSession::beginPass(ControlSet set, const QString& passName) {
         openFailed(set);
         return false;
     }
+    if (!thorough) {
+        forgetCard();
+        learnOfCard();
+    }
     m_view.setScanOptionsEnabled(false);
     if (set == ControlSet::Sig) {
         m_view.clearPreviewTitle();
@@ -136,6 +140,9 @@ void ScanSession::passEnds(PassOutcome outcome, std::optional<std::uint64_t> ope
     if (pFile_Disk) {
         // After a failed read the stream is behind the counter.
         m_end.goOnAt = std::min(m_end.goOnAt, pFile_Disk->position());
+    }
+    if (outcome != PassOutcome::OpenError && !m_end.mediumGone) {
+        learnOfCard();
     }
 }
 

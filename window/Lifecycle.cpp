@@ -31,6 +31,7 @@ MyTableController::MyTableController(ProgramParts parts)
     m_previewFolder = previewFolder(m_parts.resourcesFolder);
     m_previewHold = PreviewFolderHold(m_previewFolder);
     setMediumOpener(m_parts.openMedium);
+    setAskCard(m_parts.askCard);
     setThumbnailer(m_parts.thumbnailer);
     if (m_parts.thumbnailer) {
         m_thumbnails = std::make_unique<ThumbnailQueue>(m_parts.thumbnailer, thumbnailQueueOptions());
