@@ -1,11 +1,13 @@
 // Publishing, saving and checksumming without a window.
 #include "cli/CliSession.h"
 
+#include <QHash>
 #include <QJsonArray>
 #include <algorithm>
 
 #include "cli/MovieMending.h"
 #include "results/PreviewCopy.h"
+#include "results/ToldFiles.h"
 #include "saving/Sha256.h"
 
 namespace vantor {
@@ -102,7 +104,8 @@ void CliSession::run() {
 
 void CliSession::noteOutcome(const SaveTask& task, const SaveOutcome& outcome) {
     m_tally.add(task.name, outcome);
-    if (m_options.report) {
+    // What is saved before the card was read to its end may get its name from it yet.
+    if (m_options.report || !m_options.savePolicy.asPublished) {
         m_outcomes.resize(std::max(m_outcomes.size(), task.place + 1));
         m_outcomes[task.place] = outcome;
     }
@@ -112,19 +115,82 @@ void CliSession::finishSaving() {
     if (!m_queue) {
         return;
     }
-    m_queue.reset();
-    for (std::size_t i = 0; !m_outcomes.empty(); ++i) {
+    m_queue->finish();
+    nameWhatTheCardTellsNow();
+    for (std::size_t i = 0; m_options.report && !m_outcomes.empty(); ++i) {
         const PublishedItem item = published(i);
         m_reported.push_back(
             {item.name, item.type, item.firstSector, item.endSector, std::move(m_outcomes.front())});
         m_outcomes.pop_front();
     }
+    m_outcomes.clear();
+    saveToldFiles();
+    m_queue.reset();
+}
+
+void CliSession::saveToldFiles() {
+    SectorReader* const medium = m_options.savePolicy.asPublished ? nullptr : m_queue->medium();
+    if (medium == nullptr) {
+        return;
+    }
+    for (const auto& file : toldFiles()) {
+        const QString extension = pathExtension(file->name).toUpper();
+        FoundItem item{extension.isEmpty() ? QStringLiteral("FILE") : extension,
+                       file->name,
+                       {runsOf(*file), {}, [medium] { return medium; }, medium->mediumSectors()}};
+        item.source.hints = {card(), file};
+        SaveOutcome outcome = m_queue->saver().save(item);
+        if (outcome.leftOut == LeftOut::Unsound) {
+            continue;
+        }
+        m_tally.add(item.name, outcome);
+        m_told += outcome.saved ? 1 : 0;
+        const SectorRun& first = item.source.carved.runs.front();
+        if (!m_options.report) {
+            continue;
+        }
+        m_reported.push_back({item.name, item.type, first.first, first.end, std::move(outcome)});
+    }
+    m_queue->saver().flush();
+}
+
+// The folders of a card that was formatted are known only when all of it was read.
+void CliSession::nameWhatTheCardTellsNow() {
+    const auto known = card();
+    if (!known) {
+        return;
+    }
+    QHash<QString, QString> moved;  // from, to
+    for (std::size_t i = 0; i < m_outcomes.size(); ++i) {
+        const auto listed = m_outcomes[i].saved ? itemAt(i) : nullptr;
+        SaveOutcome& outcome = m_outcomes[i];
+        if (!listed) {
+            continue;
+        }
+        const QString before = outcome.path;
+        FoundItem item{listed->type(), listed->imageTitle(), {listed->carved(), listed->heldBytes(), [this] {
+                                                                  return m_queue->medium();
+                                                              }}};
+        SectorReader* const medium = m_queue->medium();
+        item.source.mediumSectors = medium != nullptr ? medium->mediumSectors() : 0;
+        item.source.hints.card = known;
+        const bool named = outcome.original != nullptr;
+        m_queue->saver().saveAsOnCard(item, outcome);
+        m_tally.named += !named && outcome.original ? 1 : 0;
+        if (outcome.path != before && !outcome.duplicate) {
+            moved.insert(before, outcome.path);
+        }
+    }
+    for (SaveOutcome& outcome : m_outcomes) {
+        outcome.path = moved.value(outcome.path, outcome.path);
+    }
+    m_queue->saver().flush();
 }
 
 // Called for every item that is published, just before it is.
 void CliSession::save(const QString& name, const QByteArray& firstBytes) {
     if (m_queue) {
-        m_queue->add({handOver().type, name, handOver().carved, firstBytes});
+        m_queue->add({handOver().type, name, handOver().carved, firstBytes, {card()}});
     }
 }
 

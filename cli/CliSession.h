@@ -109,6 +109,8 @@ class CliSession : private CliView, public ScanSession {
     const SaveTally& saveTally() const { return m_tally; }
     // Every published item with what became of it; none unless a report is wanted.
     const std::vector<ReportedItem>& reportedItems() const { return m_reported; }
+    // Files that only the card's directories tell of and that were saved all the same.
+    std::size_t toldCount() const { return m_told; }
     using CliView::alerts;
     std::size_t publishedCount() const { return m_publishedCount; }  // any thread
 
@@ -125,6 +127,8 @@ class CliSession : private CliView, public ScanSession {
     void save(const QString& name, const QByteArray& firstBytes);
     void noteOutcome(const SaveTask& task, const SaveOutcome& outcome);
     void finishSaving();
+    void nameWhatTheCardTellsNow();
+    void saveToldFiles();
     QByteArray checksumOf(const PublishedItem& item) const;
     QJsonObject endLine() const;
 
@@ -137,6 +141,7 @@ class CliSession : private CliView, public ScanSession {
     std::unique_ptr<SaveQueue> m_queue;  // while a scan runs that saves
     std::vector<ReportedItem> m_reported;
     SaveTally m_tally;  // the saving thread's until it ends
+    std::size_t m_told = 0;
     QStringList m_mendingLines;
     bool m_mendingFailed = false;
 };

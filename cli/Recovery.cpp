@@ -216,6 +216,10 @@ void printTable(const CliSession& session) {
 void tellSaving(const CliSession& session, const CliOptions& options) {
     const SaveTally& tally = session.saveTally();
     FILE* out = options.listJson ? stderr : stdout;
+    if (session.toldCount() != 0) {
+        std::fprintf(out, "%s more files that only the card's directory tells of\n",
+                     qPrintable(numberForPeople(session.toldCount())));
+    }
     for (const QString& line : tally.lines(QDir(options.saveFolder).absolutePath())) {
         std::fprintf(out, "%s\n", qPrintable(withShownPaths(line)));
     }
@@ -385,6 +389,7 @@ int recover(CliOptions options) {
     head.sectors = medium.sectors;
     head.begun = QDateTime::currentDateTime();
     CliSession session(options, medium.sectors);
+    session.setAskCard(!options.saveFolder.isEmpty());
     session.setLiesOnMedium([path = medium.path](const QString& destination) {
         return destinationIsOnMedium(destination, path);
     });

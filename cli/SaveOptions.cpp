@@ -3,7 +3,9 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <initializer_list>
 #include <limits>
+#include <utility>
 
 namespace vantor {
 
@@ -23,6 +25,22 @@ std::optional<quint64> numberOf(const QCommandLineParser& parser, const QCommand
     return ok ? std::optional(number) : std::nullopt;
 }
 
+// The first of the choices when the option is not given; nothing for a word that is none of them.
+template <typename Choice>
+std::optional<Choice> choiceOf(const QCommandLineParser& parser, const QCommandLineOption& option,
+                               std::initializer_list<std::pair<const char*, Choice>> choices) {
+    if (!parser.isSet(option)) {
+        return choices.begin()->second;
+    }
+    const QString word = parser.value(option);
+    for (const auto& [name, choice] : choices) {
+        if (word == QLatin1String(name)) {
+            return choice;
+        }
+    }
+    return std::nullopt;
+}
+
 }  // namespace
 
 SaveOptions::SaveOptions()
@@ -34,9 +52,17 @@ SaveOptions::SaveOptions()
                          "Save the sectors of each found item as they are listed, no more and no fewer.")),
       report(option("report",
                     "Write \"Recovery report.html\" and \"Recovery report.csv\" beside the saved files.")),
-      byDate(option("by-date",
-                    "Save as DIR/<type>/<date>/<date and time> <name> where a file tells when it was "
-                    "taken.")),
+      names(option("names",
+                   "original (default): save under the names that the card's directory still tells, where it "
+                   "does; found: under the listed names.",
+                   "WHICH")),
+      folders(option("folders",
+                     "card (default): save in the folders that the card's directory still tells, and what "
+                     "it does not tell in DIR/<type>; type: all in DIR/<type>; date: as "
+                     "DIR/<type>/<date>/<date and time> <name> where a date is known.",
+                     "WHICH")),
+      lostOnly(option("lost-only", "Do not save what the card still holds as a file.")),
+      byDate(option("by-date", "The same as --folders date.")),
       minBytes(option("min-bytes", "Do not save files of fewer bytes.", "N")),
       minPixels(option("min-pixels", "Do not save pictures whose longer side has fewer pixels.", "N")),
       keepDuplicates(option("keep-duplicates", "Save the same bytes again when they are found again.")),
@@ -50,8 +76,8 @@ SaveOptions::SaveOptions()
           "A whole movie of the camera, in place of those that are found (with --repair-movies).", "FILE")) {}
 
 void SaveOptions::addTo(QCommandLineParser& parser) const {
-    parser.addOptions({save, asPublished, report, byDate, minBytes, minPixels, keepDuplicates, skipUnsound,
-                       repairMovies, reference});
+    parser.addOptions({save, asPublished, report, names, folders, lostOnly, byDate, minBytes, minPixels,
+                       keepDuplicates, skipUnsound, repairMovies, reference});
 }
 
 std::optional<QString> SaveOptions::read(const QCommandLineParser& parser, CliOptions& options) const {
@@ -59,16 +85,31 @@ std::optional<QString> SaveOptions::read(const QCommandLineParser& parser, CliOp
     if (parser.isSet(save) && options.saveFolder.isEmpty()) {
         return QStringLiteral("--save takes a folder.");
     }
-    for (const auto* other : {&asPublished, &report, &byDate, &minBytes, &minPixels, &keepDuplicates,
-                              &skipUnsound, &repairMovies}) {
+    for (const auto* other : {&asPublished, &report, &names, &folders, &lostOnly, &byDate, &minBytes,
+                              &minPixels, &keepDuplicates, &skipUnsound, &repairMovies}) {
         if (parser.isSet(*other) && !parser.isSet(save)) {
             return QStringLiteral("--%1 goes with --save.").arg(other->names().constFirst());
         }
     }
-    if (parser.isSet(asPublished) &&
-        (parser.isSet(byDate) || parser.isSet(minPixels) || parser.isSet(skipUnsound))) {
+    if (parser.isSet(asPublished) && (parser.isSet(byDate) || parser.isSet(names) || parser.isSet(folders) ||
+                                      parser.isSet(minPixels) || parser.isSet(skipUnsound))) {
         return QStringLiteral(
-            "--as-published looks into no file, so it knows neither dates nor pixels nor soundness.");
+            "--as-published looks into no file, so it knows neither names nor dates nor pixels nor "
+            "soundness.");
+    }
+    const auto nameChoice =
+        choiceOf<SaveNames>(parser, names, {{"original", SaveNames::Original}, {"found", SaveNames::Found}});
+    if (!nameChoice) {
+        return QStringLiteral("--names takes original or found.");
+    }
+    const auto folderChoice = choiceOf<SaveFolders>(
+        parser, folders,
+        {{"card", SaveFolders::Card}, {"type", SaveFolders::Type}, {"date", SaveFolders::Date}});
+    if (!folderChoice) {
+        return QStringLiteral("--folders takes card, type or date.");
+    }
+    if (parser.isSet(byDate) && parser.isSet(folders) && *folderChoice != SaveFolders::Date) {
+        return QStringLiteral("--by-date is --folders date.");
     }
     if (parser.isSet(reference) && !parser.isSet(repairMovies)) {
         return QStringLiteral("--reference goes with --repair-movies.");
@@ -80,7 +121,9 @@ std::optional<QString> SaveOptions::read(const QCommandLineParser& parser, CliOp
     }
     SavePolicy& policy = options.savePolicy;
     policy.asPublished = parser.isSet(asPublished);
-    policy.byDate = parser.isSet(byDate);
+    policy.names = *nameChoice;
+    policy.folders = parser.isSet(byDate) ? SaveFolders::Date : *folderChoice;
+    policy.lostOnly = parser.isSet(lostOnly);
     policy.skipDuplicates = !parser.isSet(keepDuplicates) && !policy.asPublished;
     policy.skipUnsound = parser.isSet(skipUnsound);
     policy.minBytes = *leastBytes;

@@ -17,8 +17,8 @@ struct SaveOptions {
     // Fills in what was given; a sentence when it makes no sense.
     std::optional<QString> read(const QCommandLineParser& parser, CliOptions& options) const;
 
-    QCommandLineOption save, asPublished, report, byDate, minBytes, minPixels, keepDuplicates, skipUnsound,
-        repairMovies, reference;
+    QCommandLineOption save, asPublished, report, names, folders, lostOnly, byDate, minBytes, minPixels,
+        keepDuplicates, skipUnsound, repairMovies, reference;
 };
 
 }  // namespace vantor

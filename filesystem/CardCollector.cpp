@@ -43,6 +43,11 @@ bool isDirectory(const std::uint8_t* sector) {
 
 }  // namespace
 
+bool CardCollector::isTrace(const std::uint8_t* sector) {
+    return sector[0] != 0 &&
+           (isDirectory(sector) || ((sector[0] == 0xEB || sector[0] == 0xE9) && looksLikeBootSector(sector)));
+}
+
 void CardCollector::look(std::uint64_t firstSector, const std::uint8_t* bytes, std::size_t sectors) {
     SectorRun run;
     for (std::size_t i = 0; i < sectors; ++i) {

@@ -16,6 +16,9 @@ class CardCollector {
     // Notes what there is in `sectors` sectors at `bytes`, the first of which is `firstSector` of the medium.
     void look(std::uint64_t firstSector, const std::uint8_t* bytes, std::size_t sectors);
 
+    // Whether look() would note the sector; any thread.
+    static bool isTrace(const std::uint8_t* sector);
+
     // All that was noted, in the order of the medium.
     CardTraces traces() const;
 

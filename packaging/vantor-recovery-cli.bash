@@ -16,6 +16,14 @@ _vantor_recovery_cli() {
             _filedir
             return
             ;;
+        --names)
+            COMPREPLY=($(compgen -W 'original found' -- "$cur"))
+            return
+            ;;
+        --folders)
+            COMPREPLY=($(compgen -W 'card type date' -- "$cur"))
+            return
+            ;;
         --types | --range | --min-bytes | --min-pixels)
             return
             ;;
@@ -23,7 +31,7 @@ _vantor_recovery_cli() {
 
     if [[ $cur == -* ]]; then
         COMPREPLY=($(compgen -W '--help --version --mode --types --range --no-thorough --catalogue
-            --save --as-published --report --by-date --min-bytes --min-pixels --keep-duplicates
+            --save --as-published --report --names --folders --lost-only --by-date --min-bytes --min-pixels --keep-duplicates
             --skip-unsound
             --retry-bad
             --session --resume

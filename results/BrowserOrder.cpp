@@ -5,6 +5,8 @@
 #include <tuple>
 #include <vector>
 
+#include "results/CardIndex.h"
+
 namespace vantor {
 
 namespace {
@@ -39,35 +41,43 @@ bool isShown(const ItemFacts& facts, const BrowserWish& wish) {
             return !soundness || !isSmall(*soundness, wish);
         case ShowItems::OfItsType:
             return !soundness || !soundness->notOfItsType;
+        case ShowItems::Lost:
+            return !facts.stillThere;
     }
     return true;
 }
 
 // Sorts ascending; what is best comes first, what is not known last.
-using SortKey = std::tuple<int, std::int64_t>;
+using SortKey = std::tuple<int, std::int64_t, QString>;
 constexpr int kNotKnown = 100;
 
 SortKey keyOf(const ItemFacts& facts, SortItems sort) {
+    if (sort == SortItems::OriginalName && facts.original) {
+        return {0, 0, originalPath(*facts.original).toCaseFolded()};
+    }
     if (!facts.soundness) {
-        return {kNotKnown, 0};
+        return {kNotKnown, 0, {}};
     }
     const Soundness& soundness = *facts.soundness;
     switch (sort) {
         case SortItems::AsFound:
-            return {0, 0};
+            return {0, 0, {}};
         case SortItems::Soundness: {
             static constexpr int kRank[] = {3, 0, 1, 2};  // by Verdict
             // Of complete ones those whose content was checked come first.
             return {soundness.notOfItsType ? 4 : kRank[static_cast<int>(soundness.verdict)],
-                    soundness.checked ? 0 : 1};
+                    soundness.checked ? 0 : 1,
+                    {}};
         }
         case SortItems::Size:
-            return {0, -static_cast<std::int64_t>(soundness.bytes)};
+            return {0, -static_cast<std::int64_t>(soundness.bytes), {}};
+        case SortItems::OriginalName:
+            return {kNotKnown - 1, 0, {}};
         case SortItems::DateTaken:
             break;
     }
     if (!soundness.taken) {
-        return {kNotKnown - 1, 0};
+        return {kNotKnown - 1, 0, {}};
     }
     const CivilTime& taken = *soundness.taken;
     std::int64_t moment = taken.year;
@@ -76,14 +86,14 @@ SortKey keyOf(const ItemFacts& facts, SortItems sort) {
           std::pair{taken.minute, 61}, std::pair{taken.second, 62}}) {
         moment = moment * size + part;
     }
-    return {0, moment};
+    return {0, moment, {}};
 }
 
 }  // namespace
 
 bool BrowserWish::needsSoundness() const {
     const bool sorted = sort != SortItems::AsFound;
-    return sorted || (show != ShowItems::All && show != ShowItems::NotSaved);
+    return sorted || (show != ShowItems::All && show != ShowItems::NotSaved && show != ShowItems::Lost);
 }
 
 QList<int> browserOrder(int count, const BrowserWish& wish, const std::function<ItemFacts(int)>& factsOf) {

@@ -10,8 +10,18 @@
 
 namespace vantor {
 
-enum class ShowItems { All, Complete, Broken, UnknownLength, Unreadable, NotSaved, NotSmall, OfItsType };
-enum class SortItems { AsFound, Soundness, Size, DateTaken };
+enum class ShowItems {
+    All,
+    Complete,
+    Broken,
+    UnknownLength,
+    Unreadable,
+    NotSaved,
+    NotSmall,
+    OfItsType,
+    Lost
+};
+enum class SortItems { AsFound, Soundness, Size, DateTaken, OriginalName };
 
 // Below these an item counts as small in the browser: what cameras and documents embed, not what people make.
 inline constexpr std::uint32_t kSmallPixels = 320;
@@ -22,7 +32,9 @@ struct ItemFacts {
     std::optional<Soundness> soundness;
     bool readFailed = false;  // while it was searched for
     bool saved = false;
-    QString type = {};  // as the results count it; only where a type is asked for
+    QString type = {};                              // as the results count it; only where a type is asked for
+    std::shared_ptr<const CardFile> original = {};  // what the card tells of it
+    bool stillThere = false;                        // it lies in a file that the card still holds
 };
 
 struct BrowserWish {

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <memory>
 #include <span>
 #include <vector>
 
@@ -16,6 +17,16 @@
 
 namespace vantor {
 
+class CardIndex;
+struct CardFile;
+
+// What is known of an item beside the run that it was carved from.
+struct ItemHints {
+    std::shared_ptr<const CardIndex> card = nullptr;  // what the card's directories tell; null: nothing
+    // Nothing was found there: the item is this file of the card's, or none.
+    std::shared_ptr<const CardFile> told = nullptr;
+};
+
 // Where an item's bytes come from.
 struct ItemSource {
     CarvedRun carved;
@@ -26,6 +37,7 @@ struct ItemSource {
     bool asPublished = false;         // exactly the carved sectors, one behind the other
     // What was read behind carved runs in vain, place by place; null where nobody counts.
     const PlaceBudget* readInVain = nullptr;
+    ItemHints hints = {};
 };
 
 // How often each place may be read in vain to find out where files end that begin in front of it: all places

@@ -4,7 +4,7 @@
 #include <QObject>
 #include <QStringList>
 
-#include "results/MediumBytes.h"
+#include "results/ItemBytes.h"
 #include "results/SizeForPeople.h"
 #include "results/TrueLength.h"
 
@@ -20,14 +20,18 @@ QString words(const Soundness& soundness) {
 }  // namespace
 
 std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, SectorReader& medium,
-                                 ReadWatch& watch, std::vector<std::uint8_t>& kept, std::uint64_t mostBytes) {
+                                 ReadWatch& watch, std::vector<std::uint8_t>& kept, std::uint64_t mostBytes,
+                                 const ItemHints& hints) {
     WatchedReader watched(medium, watch, mostBytes / kSectorBytes);
-    const ItemSource source{carved, {}, [&watched] { return &watched; }, medium.mediumSectors()};
-    MediumBytes bytes(source, kept);
-    const TrueLength length = trueLengthOf(type, bytes, true);
+    const ItemSource source{carved, {},   [&watched] { return &watched; }, medium.mediumSectors(),
+                            false,  nullptr, hints};
+    ItemBytes found(source, kept);
     Soundness soundness;
     soundness.unreadable = carved.readFailed;
-    soundness.bytes = bytes.carvedBytes();
+    soundness.bytes = found.bytes().carvedBytes();
+    const ItemTruth& truth = found.measure(type, true);
+    const TrueLength& length = truth.length;
+    const MediumBytes& bytes = found.bytes();
     if (watch.ended) {
         return std::nullopt;
     }
@@ -36,7 +40,9 @@ std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, S
     }
     const Facts& facts = length.extent.facts;
     soundness.unreadable = soundness.unreadable || bytes.sectorsUnreadable(length.bytes) != 0;
-    soundness.verdict = length.extent.verdict;
+    soundness.verdict = verdictOf(truth);
+    soundness.original = truth.file;
+    soundness.pieces = truth.assembly ? truth.assembly->runs.size() : 1;
     if (soundness.unreadable && soundness.verdict == Verdict::Complete) {
         soundness.verdict = Verdict::Damaged;
     }
@@ -73,6 +79,9 @@ QString soundnessWords(Verdict verdict, bool checked) {
 
 QString describe(const Soundness& soundness) {
     QStringList parts{words(soundness)};
+    if (soundness.pieces > 1) {
+        parts << QObject::tr("put together from %1 pieces").arg(soundness.pieces);
+    }
     if (soundness.unreadable) {
         parts << QObject::tr("not all of its sectors could be read");
     }

@@ -3,12 +3,15 @@
 
 #include <QString>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <vector>
 
+#include "filesystem/CardFile.h"
 #include "formats/Extent.h"
 #include "media/WatchedReader.h"
 #include "results/CarvedRun.h"
+#include "results/MediumBytes.h"
 
 namespace vantor {
 
@@ -21,6 +24,8 @@ struct Soundness {
     std::uint32_t height = 0;
     std::optional<CivilTime> taken;
     bool checked = false;  // complete, and its content was looked at; else it only ends where it says
+    std::shared_ptr<const CardFile> original = {};  // what the card tells of it; null: nothing certain
+    std::size_t pieces = 1;                         // on the medium
 };
 
 // Follows the item's own structure on the medium as saving does, without saving. A file that takes more than
@@ -29,7 +34,7 @@ struct Soundness {
 inline constexpr std::uint64_t kMostExaminedBytes = std::uint64_t{256} << 20;
 std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, SectorReader& medium,
                                  ReadWatch& watch, std::vector<std::uint8_t>& kept,
-                                 std::uint64_t mostBytes = kMostExaminedBytes);
+                                 std::uint64_t mostBytes = kMostExaminedBytes, const ItemHints& hints = {});
 
 // "complete", "cut off", "damaged" or "unknown", for machines.
 QString soundnessText(Verdict verdict);

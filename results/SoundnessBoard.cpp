@@ -28,7 +28,8 @@ struct SoundnessBoard::Turn {
     std::vector<std::uint8_t> kept;
 };
 
-SoundnessBoard::SoundnessBoard(ItemAt itemAt) : m_itemAt(std::move(itemAt)) {}
+SoundnessBoard::SoundnessBoard(ItemAt itemAt, HintsOf hintsOf)
+    : m_itemAt(std::move(itemAt)), m_hintsOf(std::move(hintsOf)) {}
 
 SoundnessBoard::~SoundnessBoard() {
     requestEnd();
@@ -46,6 +47,16 @@ void SoundnessBoard::begin(Open open) {
     m_inView.clear();
     m_all = m_cursor = 0;
     m_gone = false;
+    m_watch.ended = true;
+    ++m_changes;
+    m_wake.notify_all();
+}
+
+void SoundnessBoard::beginAgain() {
+    const std::lock_guard lock(m_mutex);
+    m_known.clear();
+    m_knownCount = 0;
+    m_cursor = 0;
     m_watch.ended = true;
     ++m_changes;
     m_wake.notify_all();
@@ -221,7 +232,8 @@ std::optional<Soundness> SoundnessBoard::look(const MyImageObject& item, Turn& t
         return Soundness{};
     }
     const std::uint64_t readBefore = m_watch.sectorsRead;
-    const auto found = examine(item.fileType(), item.carved(), *turn.medium, m_watch, turn.kept);
+    const auto found = examine(item.fileType(), item.carved(), *turn.medium, m_watch, turn.kept,
+                               kMostExaminedBytes, m_hintsOf ? m_hintsOf(item) : ItemHints{});
     if (turn.kept.capacity() > kMostKeptMemory) {
         turn.kept = {};
     }

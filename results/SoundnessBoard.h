@@ -29,8 +29,10 @@ class SoundnessBoard {
     // Both are called on the board's thread. Null: the medium cannot be opened; no such item.
     using Open = std::function<std::unique_ptr<SectorReader>()>;
     using ItemAt = std::function<std::shared_ptr<const MyImageObject>(std::size_t)>;
+    // What else is known of where an item lies.
+    using HintsOf = std::function<ItemHints(const MyImageObject&)>;
 
-    explicit SoundnessBoard(ItemAt itemAt);
+    explicit SoundnessBoard(ItemAt itemAt, HintsOf hintsOf = {});
     SoundnessBoard(const SoundnessBoard&) = delete;
     SoundnessBoard& operator=(const SoundnessBoard&) = delete;
     ~SoundnessBoard();
@@ -38,6 +40,8 @@ class SoundnessBoard {
     // Forgets everything: the list begins anew, on the medium that `open` opens. Without it nothing is
     // examined.
     void begin(Open open);
+    // The same list, of which more is known now: all is found out anew.
+    void beginAgain();
     // The items in view, in place of those of the last call.
     void want(std::vector<std::size_t> inView);
     // Behind those in view, the first `count` items of the list.
@@ -74,6 +78,7 @@ class SoundnessBoard {
     std::optional<Soundness> look(const MyImageObject& item, Turn& turn);
 
     const ItemAt m_itemAt;
+    const HintsOf m_hintsOf;
 
     mutable std::mutex m_mutex;
     std::condition_variable m_wake;

@@ -4,8 +4,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "results/MediumBytes.h"
-#include "results/TrueLength.h"
+#include "results/ItemBytes.h"
 
 namespace vantor {
 
@@ -18,15 +17,11 @@ constexpr std::uint64_t kStretchBytes = std::uint64_t{1} << 20;
 // One look at the item; what it reads while it measures is counted.
 class TrueCopy::Reading {
   public:
-    Reading(const CarvedRun& carved, QByteArrayView firstBytes, SectorReader& medium, ReadWatch& watch)
-        : m_limited(medium, watch, kMostWalkedBytes / kSectorBytes),
-          m_unlimited(medium, watch),
-          m_source{carved, firstBytes,
-                   [this]() -> SectorReader* { return m_measuring ? &m_limited : &m_unlimited; },
-                   medium.mediumSectors()},
-          m_bytes(m_source, m_kept) {}
+    Reading(const TrueCopy& copy, QByteArrayView firstBytes)
+        : Reading(copy.m_carved, firstBytes, *copy.m_medium, copy.m_watch, copy.m_hints, copy.m_truth) {}
 
-    MediumBytes& bytes() { return m_bytes; }
+    ItemBytes& item() { return m_bytes; }
+    MediumBytes& bytes() { return m_bytes.bytes(); }
     // False when that took too much, or was ended: what was read then is not to be used.
     bool endMeasuring() {
         m_measuring = false;
@@ -34,28 +29,49 @@ class TrueCopy::Reading {
     }
 
   private:
+    Reading(const CarvedRun& carved, QByteArrayView firstBytes, SectorReader& medium, ReadWatch& watch,
+            const ItemHints& hints, const ItemTruth& truth)
+        : m_limited(medium, watch, kMostWalkedBytes / kSectorBytes),
+          m_unlimited(medium, watch),
+          m_source{carved,
+                   firstBytes,
+                   [this]() -> SectorReader* { return m_measuring ? &m_limited : &m_unlimited; },
+                   medium.mediumSectors(),
+                   false,
+                   nullptr,
+                   hints},
+          m_bytes(m_source, m_kept, truth) {}
+
     bool m_measuring = true;
     WatchedReader m_limited, m_unlimited;
     const ItemSource m_source;
     std::vector<std::uint8_t> m_kept;
-    MediumBytes m_bytes;
+    ItemBytes m_bytes;
 };
 
-TrueCopy::TrueCopy(QString type, CarvedRun carved, std::unique_ptr<SectorReader> medium, ReadWatch& watch)
-    : m_type(std::move(type)), m_carved(std::move(carved)), m_medium(std::move(medium)), m_watch(watch) {}
+TrueCopy::TrueCopy(QString type, CarvedRun carved, std::unique_ptr<SectorReader> medium, ReadWatch& watch,
+                   ItemHints hints)
+    : m_type(std::move(type)),
+      m_carved(std::move(carved)),
+      m_hints(std::move(hints)),
+      m_medium(std::move(medium)),
+      m_watch(watch) {}
 
 TrueCopy::~TrueCopy() = default;
 
 bool TrueCopy::measure(QByteArrayView firstBytes) {
-    m_reading = std::make_unique<Reading>(m_carved, firstBytes, *m_medium, m_watch);
+    m_reading = std::make_unique<Reading>(*this, firstBytes);
     const std::uint64_t most = m_reading->bytes().size();
     const std::uint64_t carved = m_reading->bytes().carvedBytes();
-    m_bytes = trueLengthOf(m_type, m_reading->bytes(), true).bytes;
+    const ItemTruth truth = m_reading->item().measure(m_type, true);
     m_lengthKnown = m_reading->endMeasuring();
-    if (!m_lengthKnown) {
+    if (m_lengthKnown) {
+        m_truth = truth;
+        m_bytes = truth.length.bytes;
+    } else {
         // Up to there its structure held.
         m_bytes = std::max(carved, std::min(kMostWalkedBytes, most));
-        m_reading = std::make_unique<Reading>(m_carved, firstBytes, *m_medium, m_watch);
+        m_reading = std::make_unique<Reading>(*this, firstBytes);
         m_reading->endMeasuring();
     }
     return !m_watch.ended;
@@ -76,7 +92,7 @@ bool TrueCopy::writeEnds(const Write& write) {
 bool TrueCopy::writeRest(const Write& write) {
     bool whole = true;
     if (!isSmall()) {
-        Reading reading(m_carved, {}, *m_medium, m_watch);
+        Reading reading(*this, {});
         reading.endMeasuring();
         whole = copy(reading, kHeadBytes, tailStart(), write);
     }

@@ -11,6 +11,7 @@
 
 #include "media/WatchedReader.h"
 #include "results/CarvedRun.h"
+#include "results/ItemBytes.h"
 
 namespace vantor {
 
@@ -28,7 +29,8 @@ class TrueCopy {
     using Write = std::function<bool(std::uint64_t offset, std::span<const std::uint8_t> bytes)>;
 
     // `watch` outlives the copy.
-    TrueCopy(QString type, CarvedRun carved, std::unique_ptr<SectorReader> medium, ReadWatch& watch);
+    TrueCopy(QString type, CarvedRun carved, std::unique_ptr<SectorReader> medium, ReadWatch& watch,
+             ItemHints hints = {});
     ~TrueCopy();
 
     // First: finds out how long the item is. `firstBytes`: whole sectors of the carved run as far as they
@@ -53,8 +55,10 @@ class TrueCopy {
 
     const QString m_type;
     const CarvedRun m_carved;
+    const ItemHints m_hints;
     std::unique_ptr<SectorReader> m_medium;
     ReadWatch& m_watch;
+    ItemTruth m_truth;
     std::unique_ptr<Reading> m_reading;  // from measure() to writeEnds(): what was read once is kept
     std::uint64_t m_bytes = 0;
     bool m_lengthKnown = false;

@@ -3,6 +3,7 @@
 #include "saving/ItemSaver.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <QDir>
 #include <QFile>
@@ -51,6 +52,22 @@ std::uint64_t firstSectorOf(const FoundItem& item) {
     return item.source.carved.runs.empty() ? 0 : item.source.carved.runs.front().first;
 }
 
+// As the directory has it, else as the file tells itself.
+std::optional<std::int64_t> timeOf(const SaveOutcome& outcome) {
+    if (outcome.original && outcome.original->modified) {
+        return outcome.original->modified;
+    }
+    return outcome.taken ? secondsOf(*outcome.taken) : std::nullopt;
+}
+
+bool areOneFile(const QString& a, const QString& b) {
+    struct stat first {
+    }, second{};
+    return ::lstat(QFile::encodeName(a).constData(), &first) == 0 &&
+           ::lstat(QFile::encodeName(b).constData(), &second) == 0 && first.st_dev == second.st_dev &&
+           first.st_ino == second.st_ino;
+}
+
 }  // namespace
 
 struct ItemSaver::State {
@@ -68,10 +85,13 @@ struct ItemSaver::Writing {
     const FoundItem& item;
     SavingFolder folder;
     QString name;
+    bool byPath = false;  // the card tells its place
+    // On the medium; the bytes of an item in pieces are not those that follow its first sector.
+    std::uint64_t place = 0;
     Likeness likeness;  // empty where duplicates do not matter
 
-    SoughtFile sought(bool allRead) const {
-        return {item.type, folder.path() + u'/' + name, firstSectorOf(item), allRead};
+    SoughtFile sought(bool allRead = true) const {
+        return {item.type, folder.path() + u'/' + name, place, allRead, byPath};
     }
 };
 
@@ -95,10 +115,14 @@ SaveOutcome ItemSaver::save(const FoundItem& item) const {
     if (!destination) {
         return outcome;
     }
+    if (isStillThere(item)) {
+        outcome.leftOut = LeftOut::StillThere;
+        return outcome;
+    }
     ItemSource source = item.source;
     source.asPublished = m_policy.asPublished;
     source.readInVain = &claimsOn(source.mediumSectors).readInVain();
-    MediumBytes bytes(source, m_state->kept);
+    ItemBytes bytes(source, m_state->kept);
     const bool chosen = decideLength(item, bytes, outcome);
     if (isUnwanted(item)) {
         outcome.later = false;
@@ -152,10 +176,80 @@ void ItemSaver::flush() const {
     }
 }
 
-TrueLength ItemSaver::lengthOf(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const {
-    if (m_policy.asPublished) {
-        return {bytes.carvedBytes(), {}};
+bool ItemSaver::isStillThere(const FoundItem& item) const {
+    return m_policy.lostOnly && item.source.hints.card && !item.source.carved.runs.empty() &&
+           item.source.hints.card->isLiveAt(firstSectorOf(item));
+}
+
+void ItemSaver::saveAsOnCard(const FoundItem& item, SaveOutcome& outcome) const {
+    const auto& card = item.source.hints.card;
+    if (!outcome.saved || outcome.original || m_policy.asPublished || !card ||
+        item.source.carved.runs.empty() || !card->tellsOf(firstSectorOf(item))) {
+        return;
     }
+    const TrueLength length{outcome.bytes,
+                            {outcome.verdict, outcome.bytes, outcome.exactLength, {}, outcome.checked}};
+    const CardIndex::Match match = card->match(firstSectorOf(item), item.type, &length);
+    const bool asSaved = match.fit == CardFit::Yes && match.file->state != FileState::Live &&
+                         dataBytesOf(*match.file) == outcome.bytes && outcome.checked;
+    if (asSaved && !outcome.duplicate && moveAsOnCard(item, *match.file, outcome)) {
+        return;
+    }
+    SaveOutcome again = save(item);
+    if (!again.saved || again.path == outcome.path || (!again.original && again.pieces == 1)) {
+        return;
+    }
+    if (!outcome.duplicate) {
+        // A second name of what was saved here takes the place of the first; what was there before stays
+        // alone.
+        again.duplicate = again.duplicate && !areOneFile(again.path, outcome.path);
+        remove(outcome.path);
+    }
+    outcome = std::move(again);
+}
+
+// By a second name in place of the first; false where the file system knows none.
+bool ItemSaver::moveAsOnCard(const FoundItem& item, const CardFile& file, SaveOutcome& outcome) const {
+    SaveOutcome unused;
+    const auto destination = openDestination(unused);
+    SavedName name = savedNameOf(item.type, item.name, m_policy, outcome.taken, &file);
+    const auto folder = destination ? folderFor(item, *destination, name, unused) : std::nullopt;
+    if (!folder) {
+        return false;
+    }
+    QString path = folder->path() + u'/' + name.file;
+    if (path != outcome.path) {
+        if (QFileInfo::exists(path)) {
+            return false;  // perhaps the same bytes
+        }
+        const auto linked = linkAs(outcome.path, *folder, name.file);
+        if (!linked) {
+            return false;
+        }
+        path = *linked;
+        remove(outcome.path);
+    }
+    if (file.modified) {
+        setModificationTime(*folder, path.section(u'/', -1), *file.modified);
+    }
+    outcome.path = path;
+    outcome.original = {item.source.hints.card, &file};
+    return true;
+}
+
+// A file that was saved here; no link is followed on the way to it.
+void ItemSaver::remove(const QString& path) const {
+    const auto destination = SavingFolder::open(m_destination);
+    const QString folder = path.section(u'/', 0, -2);
+    if (!destination || !folder.startsWith(m_destination)) {
+        return;
+    }
+    if (const auto from = destination->below(folder.mid(m_destination.size()))) {
+        ::unlinkat(from->descriptor(), QFile::encodeName(path.section(u'/', -1)).constData(), 0);
+    }
+}
+
+TrueLength ItemSaver::lengthOf(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const {
     LengthClaims& claims = claimsOn(item.source.mediumSectors);
     TrueLength length = trueLengthOf(item.type, bytes, claims.mayGoBeyond(item.type, firstSectorOf(item)));
     const auto answer = claims.ask(item.type, bytes, length, item.mayWait);
@@ -171,15 +265,22 @@ TrueLength ItemSaver::lengthOf(const FoundItem& item, MediumBytes& bytes, SaveOu
 }
 
 // False when nothing of the item is written now.
-bool ItemSaver::decideLength(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const {
-    const TrueLength length = lengthOf(item, bytes, outcome);
+bool ItemSaver::decideLength(const FoundItem& item, ItemBytes& found, SaveOutcome& outcome) const {
+    const ItemTruth& truth = item.source.hints.told || m_policy.asPublished
+                                 ? found.measure(item.type, false)
+                                 : found.measureFrom(item.type, lengthOf(item, found.bytes(), outcome));
+    const TrueLength& length = truth.length;
+    MediumBytes& bytes = found.bytes();
     bytes.endMeasuring();
     const Facts& facts = length.extent.facts;
     outcome.bytes = length.bytes;
-    outcome.verdict = length.extent.verdict;
+    outcome.verdict = verdictOf(truth);
     outcome.checked = length.extent.checked;
-    outcome.exactLength = length.extent.verdict == Verdict::Complete && length.extent.exactEnd;
+    outcome.exactLength =
+        truth.lengthIsTold || (length.extent.verdict == Verdict::Complete && length.extent.exactEnd);
     outcome.taken = facts.taken;
+    outcome.pieces = truth.assembly ? truth.assembly->runs.size() : 1;
+    outcome.original = truth.file;
     outcome.width = facts.width;
     outcome.height = facts.height;
     bytes.expect(length.bytes);
@@ -191,29 +292,54 @@ bool ItemSaver::decideLength(const FoundItem& item, MediumBytes& bytes, SaveOutc
         // What could not be looked at is not judged.
     } else if (length.bytes < m_policy.minBytes || (longerSide != 0 && longerSide < m_policy.minPixels)) {
         outcome.leftOut = LeftOut::TooSmall;
+    } else if (item.source.hints.told && !truth.file) {
+        outcome.leftOut = LeftOut::Unsound;
     } else if (m_policy.skipUnsound && isCertainlyUnsound(item.type, length.extent)) {
         outcome.leftOut = LeftOut::Unsound;
     }
     return outcome.leftOut == LeftOut::No;
 }
 
-void ItemSaver::saveBytes(const FoundItem& item, const SavingFolder& destination, MediumBytes& bytes,
-                          SaveOutcome& outcome) const {
-    const SavedName name = savedNameOf(item.type, item.name, m_policy.byDate ? outcome.taken : std::nullopt);
-    const auto folder = destination.below(name.folder);
+// The folder of the name, made where it is absent. Where something else bears the name of a folder of the
+// card's the item goes to its type's.
+std::optional<SavingFolder> ItemSaver::folderFor(const FoundItem& item, const SavingFolder& destination,
+                                                 SavedName& name, SaveOutcome& outcome) const {
+    auto folder = destination.below(name.folder);
+    if (!folder && name.asOnCard) {
+        name.folder = safePathComponent(item.type);
+        name.asOnCard = false;
+        folder = destination.below(name.folder);
+    }
     if (!folder) {
         const bool leadsAway = errno == ELOOP || errno == ENOTDIR || errno == EXDEV;
         outcome.error = (leadsAway ? QStringLiteral("The folder %1/%2 leads elsewhere")
                                    : QStringLiteral("The folder %1/%2 cannot be created"))
                             .arg(m_destination, name.folder);
-        return;
+        return std::nullopt;
     }
     if (m_state->folders.insert(name.folder).second) {
         removeLeftovers(*folder);
     }
-    Writing writing{item, *folder, name.file, {}};
+    return folder;
+}
+
+void ItemSaver::saveBytes(const FoundItem& item, const SavingFolder& destination, ItemBytes& found,
+                          SaveOutcome& outcome) const {
+    const CardFile* const original = found.truth().file.get();
+    MediumBytes& bytes = found.bytes();
+    SavedName name = savedNameOf(item.type, item.name, m_policy, outcome.taken, original);
+    const auto folder = folderFor(item, destination, name, outcome);
+    if (!folder) {
+        return;
+    }
+    const std::uint64_t place = outcome.pieces > 1 ? ~firstSectorOf(item) : firstSectorOf(item);
+    Writing writing{item, *folder, name.file, name.asOnCard, place, {}};
     if (m_policy.skipDuplicates) {
-        m_state->saved.lookInto(m_destination + u'/' + safePathComponent(item.type), item.type);
+        if (name.asOnCard) {
+            m_state->saved.lookIntoCardFolder(folder->path());
+        } else {
+            m_state->saved.lookInto(m_destination + u'/' + safePathComponent(item.type), item.type);
+        }
         writing.likeness = {outcome.bytes, sumOfHead(bytes, outcome.bytes)};
         if (settleBeforeWriting(writing, bytes, outcome)) {
             return;
@@ -221,8 +347,8 @@ void ItemSaver::saveBytes(const FoundItem& item, const SavingFolder& destination
     }
     if (writeFile(writing, bytes, outcome)) {
         writing.likeness.bytes = outcome.bytes;
-        m_state->saved.add(writing.likeness, {outcome.path, item.type, outcome.sha256, firstSectorOf(item),
-                                              outcome.sectorsUnreadable == 0});
+        m_state->saved.add(writing.likeness,
+                           {outcome.path, item.type, outcome.sha256, place, outcome.sectorsUnreadable == 0});
     }
 }
 
@@ -232,9 +358,10 @@ bool ItemSaver::settleBeforeWriting(const Writing& writing, MediumBytes& bytes, 
     const FoundItem& item = writing.item;
     // Types that share a header share the item.
     if (!item.source.carved.readFailed) {
-        const SavedFile* const same = saved.fromPlace(outcome.bytes, firstSectorOf(item), item.type);
+        const SavedFile* const same = saved.fromPlace(outcome.bytes, writing.sought());
         if (same != nullptr) {
-            return settleAs(*same, writing, outcome);
+            const SavedFile* const there = saved.servingCopyOf(*same, writing.likeness, writing.sought());
+            return settleAs(there != nullptr ? *there : *same, writing, outcome);
         }
     }
     const auto atHand = bytes.keptFrom(0);
@@ -251,17 +378,17 @@ bool ItemSaver::settleBeforeWriting(const Writing& writing, MediumBytes& bytes, 
 
 // False when the bytes have to be written again all the same.
 bool ItemSaver::settleAs(const SavedFile& earlier, const Writing& writing, SaveOutcome& outcome) const {
-    const bool sameType = earlier.type == writing.item.type;
-    const auto path = sameType ? earlier.path : linkAs(earlier.path, writing.folder, writing.name);
+    const bool serves = writing.sought().isServedBy(earlier);
+    const auto path = serves ? earlier.path : linkAs(earlier.path, writing.folder, writing.name);
     if (!path) {
         return false;
     }
     outcome.path = *path;
     outcome.sha256 = earlier.sha256;
     outcome.saved = outcome.duplicate = true;
-    if (!sameType) {
-        m_state->saved.add(writing.likeness, {*path, writing.item.type, earlier.sha256,
-                                              firstSectorOf(writing.item), earlier.allRead});
+    if (!serves) {
+        m_state->saved.add(writing.likeness,
+                           {*path, writing.item.type, earlier.sha256, writing.place, earlier.allRead});
     }
     return true;
 }
@@ -301,7 +428,7 @@ bool ItemSaver::writeFile(const Writing& writing, MediumBytes& bytes, SaveOutcom
             return false;
         }
     }
-    if (const auto seconds = outcome.taken ? secondsOf(*outcome.taken) : std::nullopt) {
+    if (const auto seconds = timeOf(outcome)) {
         file.setModificationTime(*seconds);
     }
     const auto path = file.commit(writing.name);
@@ -353,7 +480,8 @@ std::uint64_t ItemSaver::copyBytes(const FoundItem& item, std::uint64_t length, 
 }
 
 std::optional<Soundness> soundnessOf(const SaveOutcome& outcome) {
-    const bool known = outcome.saved || outcome.leftOut != LeftOut::No;
+    const bool known =
+        outcome.saved || outcome.leftOut == LeftOut::TooSmall || outcome.leftOut == LeftOut::Unsound;
     if (!known) {
         return std::nullopt;
     }
@@ -364,7 +492,9 @@ std::optional<Soundness> soundnessOf(const SaveOutcome& outcome) {
                      outcome.width,
                      outcome.height,
                      outcome.taken,
-                     outcome.checked};
+                     outcome.checked,
+                     outcome.original,
+                     outcome.pieces};
 }
 
 }  // namespace vantor

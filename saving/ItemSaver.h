@@ -12,6 +12,7 @@
 #include "formats/Extent.h"
 #include "media/SectorReader.h"
 #include "results/CarvedRun.h"
+#include "results/ItemBytes.h"
 #include "results/MediumBytes.h"
 #include "results/Soundness.h"
 #include "saving/SavePolicy.h"
@@ -26,7 +27,7 @@ class SavingFolder;
 class WholeFile;
 
 // Why an item was not written although nothing failed.
-enum class LeftOut { No, TooSmall, Unsound };
+enum class LeftOut { No, TooSmall, Unsound, StillThere };
 
 struct SaveOutcome {
     bool saved = false;      // its bytes lie at `path`
@@ -46,7 +47,9 @@ struct SaveOutcome {
     std::optional<CivilTime> taken;  // also the file's modification time
     std::uint32_t width = 0;         // pixels; 0: not told
     std::uint32_t height = 0;
-    QByteArray sha256;  // raw; may be empty where the policy asks for none
+    QByteArray sha256;                         // raw; may be empty where the policy asks for none
+    std::shared_ptr<const CardFile> original;  // null where the card does not tell
+    std::size_t pieces = 1;                    // on the medium, as the bytes were put together
 };
 
 // What saving found out; nothing when it did not come that far.
@@ -62,10 +65,10 @@ struct FoundItem {
     bool mayWait = false;
 };
 
-// One medium and one destination, which has to be there. An item becomes `<destination>/<type>/<name>`, whole
-// or not at all; nothing is ever overwritten, and no type or name leads out of the destination. What does not
-// fit is told and left out; a smaller item behind it may still fit. An item of which nothing could be read
-// fails. Any one thread.
+// One medium and one destination, which has to be there. An item becomes `<destination>/<type>/<name>`, or
+// takes the folder and name that the card tells, as the policy says; whole or not at all. Nothing is ever
+// overwritten, and no type or name leads out of the destination. What does not fit is told and left out; a
+// smaller item behind it may still fit. An item of which nothing could be read fails. Any one thread.
 //
 // The same bytes are saved once: again under the same type they are left out, under another type (a header
 // that several types share) the file gets a second name there, or is written again where the file system has
@@ -87,6 +90,9 @@ class ItemSaver {
 
     SaveOutcome save(const FoundItem& item) const;
 
+    // An item that was saved before the card told anything of it, with what the card tells now: the file gets
+    // its name and folder, or is saved anew where it lies in other pieces, and the one saved first goes.
+    void saveAsOnCard(const FoundItem& item, SaveOutcome& outcome) const;
     // Before the first item of a choice and before those of it that were told to come again.
     void beginRound() const;
     void beginSecondRound() const;
@@ -104,10 +110,15 @@ class ItemSaver {
 
     std::optional<SavingFolder> openDestination(SaveOutcome& outcome) const;
     LengthClaims& claimsOn(std::uint64_t mediumSectors) const;
-    bool decideLength(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const;
+    bool moveAsOnCard(const FoundItem& item, const CardFile& file, SaveOutcome& outcome) const;
+    void remove(const QString& path) const;
+    bool isStillThere(const FoundItem& item) const;
+    bool decideLength(const FoundItem& item, ItemBytes& bytes, SaveOutcome& outcome) const;
     TrueLength lengthOf(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const;
-    void saveBytes(const FoundItem& item, const SavingFolder& destination, MediumBytes& bytes,
+    void saveBytes(const FoundItem& item, const SavingFolder& destination, ItemBytes& bytes,
                    SaveOutcome& outcome) const;
+    std::optional<SavingFolder> folderFor(const FoundItem& item, const SavingFolder& destination,
+                                          SavedName& name, SaveOutcome& outcome) const;
     bool settleBeforeWriting(const Writing& writing, MediumBytes& bytes, SaveOutcome& outcome) const;
     static bool readEnough(const MediumBytes& bytes, std::uint64_t done, SaveOutcome& outcome);
     bool settleAs(const SavedFile& earlier, const Writing& writing, SaveOutcome& outcome) const;

@@ -38,6 +38,38 @@ QString dateText(const std::optional<CivilTime>& taken) {
         .arg(taken->utc ? QStringLiteral(" UTC") : QString());
 }
 
+QString dateText(std::int64_t seconds) {
+    return QDateTime::fromSecsSinceEpoch(seconds).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+}
+
+// For machines.
+QString stateOf(const CardFile& original) {
+    switch (original.state) {
+        case FileState::Live:
+            return QStringLiteral("there");
+        case FileState::Deleted:
+            return QStringLiteral("deleted");
+        case FileState::Lost:
+            break;
+    }
+    return QStringLiteral("lost");
+}
+
+// For people: the path as on the card, what became of it and when it was changed last.
+QString originalText(const std::shared_ptr<const CardFile>& original) {
+    if (!original) {
+        return {};
+    }
+    QString text = originalPath(*original) + QStringLiteral(" (") +
+                   (original->state == FileState::Live      ? QStringLiteral("still there")
+                    : original->state == FileState::Deleted ? QStringLiteral("deleted")
+                                                            : QStringLiteral("its folder lost"));
+    if (original->modified) {
+        text += QStringLiteral(", changed ") + dateText(*original->modified);
+    }
+    return text + u')';
+}
+
 // One word for machines, which the page shows too.
 QString resultText(const SaveOutcome& outcome) {
     if (outcome.leftOut != LeftOut::No) {
@@ -51,8 +83,9 @@ QString resultText(const SaveOutcome& outcome) {
 
 QString reasonText(const SaveOutcome& outcome) {
     if (outcome.leftOut != LeftOut::No) {
-        return outcome.leftOut == LeftOut::TooSmall ? QStringLiteral("smaller than asked for")
-                                                    : QStringLiteral("no file of its type");
+        return outcome.leftOut == LeftOut::TooSmall  ? QStringLiteral("smaller than asked for")
+               : outcome.leftOut == LeftOut::Unsound ? QStringLiteral("no file of its type")
+                                                     : QStringLiteral("still there as a file");
     }
     return outcome.error;
 }
@@ -65,6 +98,9 @@ QString stateText(const SaveOutcome& outcome) {
     QString text = soundnessWords(outcome.verdict, outcome.checked);
     if (outcome.verdict == Verdict::Complete && !outcome.exactLength) {
         text += QStringLiteral(", length estimated");
+    }
+    if (outcome.pieces > 1) {
+        text += QStringLiteral(", put together from %1 pieces").arg(numberForPeople(outcome.pieces));
     }
     if (outcome.sectorsUnreadable != 0) {
         text += QStringLiteral(", %1 sectors unreadable").arg(numberForPeople(outcome.sectorsUnreadable));
@@ -99,7 +135,7 @@ QString totals(const std::vector<ReportedItem>& items) {
             row({type.key().toHtmlEscaped(), numberForPeople(t.saved), sizeForPeople(t.bytes),
                  numberForPeople(t.complete), numberForPeople(t.unchecked), numberForPeople(t.cutOff),
                  numberForPeople(t.damaged), numberForPeople(t.unknownLength), numberForPeople(t.duplicates),
-                 numberForPeople(t.tooSmall + t.unsound), numberForPeople(t.failed)},
+                 numberForPeople(t.tooSmall + t.unsound + t.stillThere), numberForPeople(t.failed)},
                 "td");
     }
     return text + QStringLiteral("</table>\n");
@@ -139,6 +175,7 @@ QString itemRow(const ReportedItem& item, const QString& folder, const ReportThu
         item.type.toHtmlEscaped(),
         outcome.saved ? sizeForPeople(outcome.bytes) : QString(),
         outcome.duplicate ? QStringLiteral("same bytes as an earlier file; ") + soundness : soundness,
+        originalText(outcome.original).toHtmlEscaped(),
         dateText(outcome.taken),
         outcome.width != 0 ? QStringLiteral("%1 × %2").arg(outcome.width).arg(outcome.height) : QString(),
         QStringLiteral("%1 to %2").arg(numberForPeople(item.firstSector), numberForPeople(item.endSector)),
@@ -178,13 +215,10 @@ void htmlTo(const Pieces& add, const ReportHead& head, const std::vector<Reporte
                        "<h1>Recovery report</h1>\n")
                        .arg(QLatin1String(kStyle));
     text += headText(head) + totals(items) + QStringLiteral("<h2>Files</h2>\n<table>\n");
-    QStringList columns{QStringLiteral("File"),
-                        QStringLiteral("Type"),
-                        QStringLiteral("Size"),
-                        QStringLiteral("State"),
-                        QStringLiteral("Taken"),
-                        QStringLiteral("Pixels"),
-                        QStringLiteral("Found in sectors"),
+    QStringList columns{QStringLiteral("File"),        QStringLiteral("Type"),
+                        QStringLiteral("Size"),        QStringLiteral("State"),
+                        QStringLiteral("On the card"), QStringLiteral("Taken"),
+                        QStringLiteral("Pixels"),      QStringLiteral("Found in sectors"),
                         QStringLiteral("SHA-256")};
     if (thumbnail) {
         columns.prepend(QString());
@@ -199,25 +233,31 @@ void htmlTo(const Pieces& add, const ReportHead& head, const std::vector<Reporte
 void csvTo(const Pieces& add, const ReportHead& head, const std::vector<ReportedItem>& items,
            const QString& folder) {
     add("name,type,medium,first_sector,end_sector,bytes,sha256,soundness,exact_length,unreadable_sectors,"
-        "taken,width,height,result,path_or_reason,content_checked\r\n");
+        "taken,width,height,result,path_or_reason,content_checked,"
+        "original_path,original_state,modified,pieces\r\n");
     for (const ReportedItem& item : items) {
         const SaveOutcome& o = item.outcome;
-        const QStringList fields{quoted(item.name),
-                                 quoted(item.type),
-                                 quoted(head.medium),
-                                 QString::number(item.firstSector),
-                                 QString::number(item.endSector),
-                                 QString::number(o.bytes),
-                                 QString::fromLatin1(o.sha256.toHex()),
-                                 soundnessText(o.verdict),
-                                 o.exactLength ? QStringLiteral("yes") : QStringLiteral("no"),
-                                 QString::number(o.sectorsUnreadable),
-                                 dateText(o.taken),
-                                 QString::number(o.width),
-                                 QString::number(o.height),
-                                 resultText(o),
-                                 quoted(o.saved ? relativePath(folder, o.path) : reasonText(o)),
-                                 o.checked ? QStringLiteral("yes") : QStringLiteral("no")};
+        const QStringList fields{
+            quoted(item.name),
+            quoted(item.type),
+            quoted(head.medium),
+            QString::number(item.firstSector),
+            QString::number(item.endSector),
+            QString::number(o.bytes),
+            QString::fromLatin1(o.sha256.toHex()),
+            soundnessText(o.verdict),
+            o.exactLength ? QStringLiteral("yes") : QStringLiteral("no"),
+            QString::number(o.sectorsUnreadable),
+            dateText(o.taken),
+            QString::number(o.width),
+            QString::number(o.height),
+            resultText(o),
+            quoted(o.saved ? relativePath(folder, o.path) : reasonText(o)),
+            o.checked ? QStringLiteral("yes") : QStringLiteral("no"),
+            o.original ? quoted(originalPath(*o.original)) : QString(),
+            o.original ? stateOf(*o.original) : QString(),
+            o.original && o.original->modified ? dateText(*o.original->modified) : QString(),
+            QString::number(o.pieces)};
         add(fields.join(u',').toUtf8() + "\r\n");
     }
 }

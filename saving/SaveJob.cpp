@@ -88,13 +88,17 @@ bool SaveJob::saveItem(std::size_t place, SectorReader* medium, WaitingClaims* l
     if (medium != nullptr) {
         watched.emplace(*medium, m_watch);
     }
-    SaveOutcome outcome = m_request.saver->save(
-        {item.fileType(),
-         item.imageTitle(),
-         {item.carved(), item.heldBytes(), [&watched] { return watched ? &*watched : nullptr; },
-          medium != nullptr ? medium->mediumSectors() : 0},
-         &m_watch.ended,
-         later != nullptr});
+    SaveOutcome outcome = m_request.saver->save({item.fileType(),
+                                                 item.imageTitle(),
+                                                 {item.carved(),
+                                                  item.heldBytes(),
+                                                  [&watched] { return watched ? &*watched : nullptr; },
+                                                  medium != nullptr ? medium->mediumSectors() : 0,
+                                                  false,
+                                                  nullptr,
+                                                  {m_request.card}},
+                                                 &m_watch.ended,
+                                                 later != nullptr});
     if (m_cancelled && !outcome.saved) {
         return false;
     }

@@ -27,6 +27,7 @@ struct ChosenItem {
 struct SaveRequest {
     std::vector<ChosenItem> items;
     std::shared_ptr<const ItemSaver> saver;
+    std::shared_ptr<const CardIndex> card;  // null: nothing is known
     std::function<std::unique_ptr<SectorReader>()> openMedium;
     // Written behind the last item; none when absent.
     std::optional<ReportHead> report;

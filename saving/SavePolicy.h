@@ -5,9 +5,24 @@
 
 namespace vantor {
 
+// What a saved file is called, where the card tells its name.
+enum class SaveNames {
+    Original,  // "IMG_0412.JPG"
+    Found,     // "GND00012.JPG", as it is listed
+};
+
+// The folder below the destination.
+enum class SaveFolders {
+    Card,  // "DCIM/100CANON" where the card tells it, else as by type
+    Type,  // "JPG"
+    Date,  // "JPG/2026-05-17" and the time before the name, for files that tell a date; else as by type
+};
+
 struct SavePolicy {
-    bool asPublished = false;     // the carved sectors as they are, instead of the file's own length
-    bool byDate = false;          // <type>/2026-05-17/2026-05-17 14.03.22 <name> for files that tell a date
+    bool asPublished = false;  // the carved sectors as they are, instead of the file's own length
+    SaveNames names = SaveNames::Original;
+    SaveFolders folders = SaveFolders::Card;
+    bool lostOnly = false;        // what the card's file system still holds as a file is left out
     bool skipDuplicates = true;   // bytes that were saved before are not written again
     std::uint64_t minBytes = 0;   // smaller files are left out
     std::uint32_t minPixels = 0;  // pictures whose longer side has fewer pixels are left out

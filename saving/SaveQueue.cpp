@@ -73,12 +73,18 @@ void SaveQueue::run() {
     }
 }
 
-SaveOutcome SaveQueue::attempt(const SaveTask& task, bool mayWait) {
+SectorReader* SaveQueue::medium() {
     if (!m_medium) {
         m_medium = m_open();
     }
+    return m_medium.get();
+}
+
+SaveOutcome SaveQueue::attempt(const SaveTask& task, bool mayWait) {
+    medium();
     FoundItem item{task.type, task.name, {task.carved, task.firstBytes, [this] { return m_medium.get(); }}};
     item.source.mediumSectors = m_medium ? m_medium->mediumSectors() : 0;
+    item.source.hints = task.hints;
     item.mayWait = mayWait;
     return m_saver.save(item);
 }
@@ -91,7 +97,7 @@ void SaveQueue::save(SaveTask& task) {
         return;
     }
     m_later.add(task.place, outcome.bytes, task.carved.sectors(), outcome.verdict == Verdict::Complete);
-    m_laterTasks[task.place] = {task.type, task.name, task.carved, {}, task.place};
+    m_laterTasks[task.place] = {task.type, task.name, task.carved, {}, task.hints, task.place};
 }
 
 void SaveQueue::saveWaiting() {

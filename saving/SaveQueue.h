@@ -24,6 +24,7 @@ struct SaveTask {
     QString name;
     CarvedRun carved;
     QByteArray firstBytes;  // the carved bytes, where they are at hand
+    ItemHints hints = {};
     std::size_t place = 0;  // among all that were added; given by the queue
 };
 
@@ -49,6 +50,9 @@ class SaveQueue {
     void add(SaveTask task);
     // Returns when all that was added is saved; nothing may be added behind it.
     void finish();
+    // Once finished: who saved, and from where; null when the medium was never opened or cannot be.
+    const ItemSaver& saver() const { return m_saver; }
+    SectorReader* medium();
 
   private:
     void run();

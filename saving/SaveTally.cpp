@@ -8,7 +8,9 @@ namespace vantor {
 
 void SaveTally::add(const QString& name, const SaveOutcome& outcome) {
     if (outcome.leftOut != LeftOut::No) {
-        ++(outcome.leftOut == LeftOut::TooSmall ? tooSmall : unsound);
+        ++(outcome.leftOut == LeftOut::TooSmall  ? tooSmall
+           : outcome.leftOut == LeftOut::Unsound ? unsound
+                                                 : stillThere);
         return;
     }
     if (!outcome.saved) {
@@ -22,6 +24,7 @@ void SaveTally::add(const QString& name, const SaveOutcome& outcome) {
         return;
     }
     ++saved;
+    named += outcome.original ? 1 : 0;
     bytes += outcome.bytes;
     withUnreadableSectors += outcome.sectorsUnreadable != 0 ? 1 : 0;
     switch (outcome.verdict) {
@@ -69,10 +72,12 @@ QStringList SaveTally::lines(const QString& destination) const {
             lines.append(QStringLiteral("%1 %2").arg(numberForPeople(count), QLatin1String(text)));
         }
     };
+    line(named, "under the names that the card still tells");
     line(withUnreadableSectors, "of them have sectors that could not be read");
     line(duplicates, "not written again: the same bytes are saved already");
     line(tooSmall, "left out: smaller than asked for");
     line(unsound, "left out: no files of their type");
+    line(stillThere, "left out: still there as files on the card");
     return lines;
 }
 

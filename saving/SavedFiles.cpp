@@ -2,11 +2,14 @@
 // both agree.
 #include "saving/SavedFiles.h"
 
+#include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <optional>
 
+#include "results/ResultRow.h"
 #include "saving/Sha256.h"
 
 namespace vantor {
@@ -38,15 +41,46 @@ QByteArray checksumOfFile(const QString& path) {
     return sum.result();
 }
 
-// The candidate when the file is still there; the best so far otherwise. One of the type is the best.
+// Whether the path is the other one with a number, "IMG_0412 (2).JPG".
+bool isNumbered(const QString& path, const QString& plain) {
+    const qsizetype slash = plain.lastIndexOf(u'/');
+    const qsizetype dot = plain.lastIndexOf(u'.');
+    const qsizetype cut = dot > slash + 1 ? dot : plain.size();
+    static const QRegularExpression kNumber(QStringLiteral("^ \\([0-9]+\\)$"));
+    const QStringView end = QStringView(plain).mid(cut);
+    return path.size() > plain.size() && path.startsWith(QStringView(plain).left(cut)) &&
+           path.endsWith(end) && kNumber.match(path.mid(cut, path.size() - plain.size())).hasMatch();
+}
+
+// The candidate when the file is still there; the best so far otherwise. One that serves is the best.
 const SavedFile* better(const SavedFile* best, const SavedFile& candidate, std::uint64_t bytes,
-                        const QString& type) {
-    const bool wanted = best == nullptr || (best->type != type && candidate.type == type);
+                        const SoughtFile& sought) {
+    const bool wanted = best == nullptr || (!sought.isServedBy(*best) && sought.isServedBy(candidate));
     const bool there = wanted && QFileInfo(candidate.path).size() == static_cast<qint64>(bytes);
     return there ? &candidate : best;
 }
 
 }  // namespace
+
+bool SoughtFile::isServedBy(const SavedFile& file) const {
+    if (!byPath) {
+        return file.type == type;
+    }
+    return file.path == path || isNumbered(file.path, path);
+}
+
+void SavedFiles::lookIntoCardFolder(const QString& folder) {
+    if (!m_folders.insert(folder).second) {
+        return;
+    }
+    const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks);
+    for (const QFileInfo& file : files) {
+        m_fromEarlier.emplace(
+            static_cast<std::uint64_t>(file.size()),
+            SavedFile{
+                file.filePath(), pathExtension(file.fileName()).toUpper(), {}, SavedFile::kNoPlace, true});
+    }
+}
 
 void SavedFiles::add(const Likeness& likeness, SavedFile file) {
     const auto added = m_files.emplace(likeness, std::move(file));
@@ -82,17 +116,39 @@ bool SavedFiles::hasLike(const Likeness& likeness) {
     return m_files.contains(likeness);
 }
 
-const SavedFile* SavedFiles::fromPlace(std::uint64_t bytes, std::uint64_t firstSector,
-                                       const QString& type) const {
+const SavedFile* SavedFiles::fromPlace(std::uint64_t bytes, const SoughtFile& sought) const {
     const SavedFile* best = nullptr;
-    const auto [begin, end] = m_byPlace.equal_range(firstSector);
+    const auto [begin, end] = m_byPlace.equal_range(sought.firstSector);
     for (auto place = begin; place != end; ++place) {
         const auto& [likeness, file] = *place->second;
         if (likeness.bytes == bytes) {
-            best = better(best, file, bytes, type);
+            best = better(best, file, bytes, sought);
         }
     }
     return best;
+}
+
+const SavedFile* SavedFiles::servingCopyOf(const SavedFile& same, const Likeness& likeness,
+                                           const SoughtFile& sought) {
+    lookAtFilesOf(likeness.bytes);
+    QByteArray sum = same.sha256;
+    const auto [begin, end] = m_files.equal_range(likeness);
+    for (auto file = begin; file != end; ++file) {
+        SavedFile& candidate = file->second;
+        if (!sought.isServedBy(candidate) || better(nullptr, candidate, likeness.bytes, sought) == nullptr) {
+            continue;
+        }
+        if (sum.isEmpty()) {
+            sum = checksumOfFile(same.path);
+        }
+        if (candidate.sha256.isEmpty()) {
+            candidate.sha256 = checksumOfFile(candidate.path);
+        }
+        if (candidate.sha256 == sum) {
+            return &candidate;
+        }
+    }
+    return nullptr;
 }
 
 const SavedFile* SavedFiles::withChecksum(const Likeness& likeness, const QByteArray& sha256,
@@ -113,7 +169,7 @@ const SavedFile* SavedFiles::withChecksum(const Likeness& likeness, const QByteA
             candidate.sha256 = checksumOfFile(candidate.path);
         }
         if (candidate.sha256 == sha256) {
-            best = better(best, candidate, likeness.bytes, sought.type);
+            best = better(best, candidate, likeness.bytes, sought);
         }
     }
     return best;

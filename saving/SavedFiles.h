@@ -42,23 +42,33 @@ struct SoughtFile {
     QString path;
     std::uint64_t firstSector = 0;
     bool allRead = true;
+    bool byPath = false;  // only a file at that path will do, not any of the type
+
+    // Whether the saved file is what would be saved, not only the same bytes under another type or name.
+    bool isServedBy(const SavedFile& file) const;
 };
 
 // Any one thread.
 class SavedFiles {
   public:
     void add(const Likeness& likeness, SavedFile file);
-    // Takes note of the files of a type that lie in and below its folder already; once a folder.
+    // Takes note of the files of a type that lie in and below its folder already, or of any that lie in a
+    // folder of the card's; once a folder.
     void lookInto(const QString& folder, const QString& type);
+    void lookIntoCardFolder(const QString& folder);
     bool hasLike(const Likeness& likeness);
 
     // The file of so many bytes that was read whole from that place of the medium, or the one alike that has
-    // that checksum; one of the given type where there is a choice. Bytes that could not all be read are only
-    // those of a file from the same place or under the same name. Null when there is none, or when it is no
-    // longer there as it was saved. Valid until the next add().
-    const SavedFile* fromPlace(std::uint64_t bytes, std::uint64_t firstSector, const QString& type) const;
+    // that checksum; one that serves as the sought one where there is a choice. Bytes that could not all be
+    // read are only those of a file from the same place or under the same name. Null when there is none, or
+    // when it is no longer there as it was saved. Valid until the next add().
+    const SavedFile* fromPlace(std::uint64_t bytes, const SoughtFile& sought) const;
     const SavedFile* withChecksum(const Likeness& likeness, const QByteArray& sha256,
                                   const SoughtFile& sought);
+
+    // Of the files with the same bytes as that one the one that serves as the sought one; null when there is
+    // none.
+    const SavedFile* servingCopyOf(const SavedFile& same, const Likeness& likeness, const SoughtFile& sought);
 
   private:
     using Files = std::multimap<Likeness, SavedFile>;

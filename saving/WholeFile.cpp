@@ -123,6 +123,11 @@ bool WholeFile::write(QByteArrayView bytes) {
     return isGood();
 }
 
+void setModificationTime(const SavingFolder& folder, const QString& name, std::int64_t seconds) {
+    const struct timespec times[] = {{0, UTIME_OMIT}, {static_cast<time_t>(seconds), 0}};
+    ::utimensat(folder.descriptor(), QFile::encodeName(name).constData(), times, AT_SYMLINK_NOFOLLOW);
+}
+
 bool WholeFile::setModificationTime(std::int64_t seconds) {
     const struct timespec times[] = {{0, UTIME_OMIT}, {static_cast<time_t>(seconds), 0}};
     return isGood() && ::futimens(m_fd, times) == 0;

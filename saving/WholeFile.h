@@ -46,6 +46,9 @@ class WholeFile {
     int m_error = 0;
 };
 
+// The same of a file of the folder; a link is not followed.
+void setModificationTime(const SavingFolder& folder, const QString& name, std::int64_t seconds);
+
 // Gives a file a second name in a folder of the same file system, numbered like those of WholeFile; nothing
 // where the file system has no second names.
 std::optional<QString> linkAs(const QString& existing, const SavingFolder& folder, const QString& name);

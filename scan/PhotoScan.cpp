@@ -122,6 +122,7 @@ void ScanSession::runPhotoLoop(PhotoPass& pass) {
         }
         if (pass.lastReadSucceeded) {
             pass.lastGoodSector = medium.position() - 1;
+            noteTrace(medium, pass.lastGoodSector);
         } else {
             m_readFailures.note(medium.position(), readBefore);
             pass.carved.readFailed = true;

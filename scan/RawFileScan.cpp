@@ -142,6 +142,7 @@ bool ScanSession::runRawLoop(RawPass& pass) {
         }
         if (pass.lastReadSucceeded) {
             pass.lastGoodSector = medium.position() - 1;
+            noteTrace(medium, pass.lastGoodSector);
         } else {
             m_readFailures.note(medium.position(), readBefore);
             if (!medium.seek(index)) {

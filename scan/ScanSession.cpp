@@ -54,6 +54,10 @@ bool ScanSession::beginPass(ControlSet set, const QString& passName) {
         openFailed(set);
         return false;
     }
+    if (!thorough) {
+        forgetCard();
+        learnOfCard();
+    }
     m_view.setScanOptionsEnabled(false);
     if (set == ControlSet::Sig) {
         m_view.clearPreviewTitle();
@@ -88,11 +92,11 @@ PassReading ScanSession::beginReading(ControlSet set, const QString& passName,
         m_memory =
             std::make_shared<PassMemory>(set == ControlSet::Photo ? Adv_Ext_Array : CheckListHeader_Adv_Array,
                                          pFile_Disk->mediumSectors());
-        pFile_Disk->setScreen(m_memory->screenBeside(matcher));
+        pFile_Disk->setScreen(screenFor(m_memory->screenBeside(matcher)));
         reading.forLater = m_memory.get();
         return reading;
     }
-    pFile_Disk->setScreen(matcher);
+    pFile_Disk->setScreen(screenFor(matcher));
     const auto memory = std::exchange(m_memory, nullptr);
     if (!memory || !memory->isFor(REC_PROC_Array, pFile_Disk->mediumSectors())) {
         return reading;
@@ -188,6 +192,9 @@ void ScanSession::passEnds(PassOutcome outcome, std::optional<std::uint64_t> ope
     if (pFile_Disk) {
         // After a failed read the stream is behind the counter.
         m_end.goOnAt = std::min(m_end.goOnAt, pFile_Disk->position());
+    }
+    if (outcome != PassOutcome::OpenError && !m_end.mediumGone) {
+        learnOfCard();
     }
 }
 

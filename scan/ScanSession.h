@@ -4,6 +4,7 @@
 // Contents, in the order of the declarations below, each under the file that holds the bodies:
 //   Catalogue and file types    scan/SessionCatalogue.cpp
 //   Found items and rows        scan/SessionItems.cpp
+//   The card's directories      scan/CardKnowledge.cpp
 //   Naming                      scan/Naming.cpp
 //   Photo scan                  scan/PhotoScan.cpp
 //   Raw file scan               scan/RawFileScan.cpp
@@ -25,8 +26,11 @@
 
 #include "catalogue/FileTypeList.h"
 #include "catalogue/NumberText.h"
+#include "filesystem/CardCollector.h"
 #include "media/RefusedSectors.h"
 #include "media/SectorReader.h"
+#include "media/WatchedReader.h"
+#include "results/CardIndex.h"
 #include "results/FoundItems.h"
 #include "results/MyImageObject.h"
 #include "results/RecoveryMode.h"
@@ -121,6 +125,15 @@ class ScanSession : public HexText {
     std::shared_ptr<MyImageObject> itemAt(std::size_t index) const;  // null beyond the end
     void clearItems();
     QList<ResultRow> resultRows() const;  // a snapshot
+
+    // --- The card's directories (CardKnowledge.cpp) ---
+
+    // Whether searches also read the card's own directories, as they begin and again as they end.
+    void setAskCard(bool ask) { m_askCard = ask; }
+    // What they told, of the last search; null as long as that is not known. Any thread.
+    std::shared_ptr<const CardIndex> card() const;
+    // Files in the searched range that no item is and that only the directories tell of.
+    std::vector<std::shared_ptr<const CardFile>> toldFiles() const;
 
     // --- Naming (Naming.cpp) ---
 
@@ -244,6 +257,15 @@ class ScanSession : public HexText {
     void prepareRecords(const QString& passName, const QStringList& general, const QStringList& thorough);
     void openFailed(ControlSet set);
     // An item that is still open begins at the sector.
+    void learnOfCard();
+    std::shared_ptr<const SectorScreen> screenFor(std::shared_ptr<const SectorScreen> headers) const;
+    // Of the sector that was read last.
+    void noteTrace(const SectorReader& medium, std::uint64_t sector) {
+        if (m_traces && medium.worthALook()) {
+            m_traces->look(sector, medium.current(), 1);
+        }
+    }
+    void forgetCard();
     void passEnds(PassOutcome outcome, std::optional<std::uint64_t> openItemAt = std::nullopt);
     bool endOfRange(bool lastReadSucceeded, std::optional<std::uint64_t> openItemAt = std::nullopt);
     const QStringList& generalCatalogueOfMode() const;
@@ -262,6 +284,10 @@ class ScanSession : public HexText {
     void closeRawItems(RawPass& pass);
 
     ScanView& m_view;
+    bool m_askCard = false;
+    std::unique_ptr<CardCollector> m_traces;  // in the passes of a search that asks the card
+    ReadWatch m_cardWatch;
+    std::shared_ptr<const CardIndex> m_card;  // guarded by listLock()
     MediumOpener m_openMedium;
     const std::shared_ptr<RefusedSectors> m_refusals = std::make_shared<RefusedSectors>();
     std::shared_ptr<SearchKeeper> m_keeper;

@@ -56,6 +56,7 @@ LookedAtItems MyTableController::lookedAtItems() {
     items.count = [this] { return itemCount(); };
     items.isSaved = [this](std::size_t index) { return m_desk->marks().isSaved(index); };
     items.mediumBusy = [this] { return scanRunning() || m_desk->isRunning() || m_filling > 0; };
+    items.card = [this] { return card(); };
     items.policy = [this] { return m_desk->choices().policy; };
     return items;
 }

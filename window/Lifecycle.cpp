@@ -31,6 +31,7 @@ MyTableController::MyTableController(ProgramParts parts)
     m_previewFolder = previewFolder(m_parts.resourcesFolder);
     m_previewHold = PreviewFolderHold(m_previewFolder);
     setMediumOpener(m_parts.openMedium);
+    setAskCard(m_parts.askCard);
     m_parts.openMedium = knowingRefusals(std::move(m_parts.openMedium));
     m_parts.openBeside = knowingRefusals(std::move(m_parts.openBeside));
     setThumbnailer(m_parts.thumbnailer);

@@ -106,6 +106,7 @@ std::shared_ptr<WholePreview> MyTableController::wholePreviewOf(PreviewFileReque
     if (const auto item = itemAt(Prev_Index); item && item->File_Start_Sector() == copy.start) {
         request.type = item->fileType();
         request.carved = item->carved();
+        request.hints.card = card();
     }
     request.start = copy.start;
     request.previewFile = copy.newFile;

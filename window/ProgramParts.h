@@ -37,6 +37,8 @@ struct ProgramParts {
     std::function<std::optional<std::uint64_t>(const QString& folder)> freeBytes = freeBytesAt;
     // Shows a document or a folder in its default application; false when there is none.
     std::function<bool(const QString& path)> openDocument;
+    // Whether searches read the card's own directories too.
+    bool askCard = false;
     // Ends the program.
     std::function<void()> terminate;
 };

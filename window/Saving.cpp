@@ -18,6 +18,7 @@ SavingParts MyTableController::savingParts() {
     parts.medium = [this] {
         return [open = m_parts.openMedium, device = devicePath()] { return open ? open(device) : nullptr; };
     };
+    parts.card = [this] { return card(); };
     parts.liesOnMedium = [this]() -> ItemSaver::LiesOnMedium {
         if (!m_parts.isOnMedium) {
             return {};

@@ -51,6 +51,7 @@ ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTable
     parts.sound = [playing](const QString& file) { return SoundMovie::open(file, {}, playing); };
     parts.movie = [playing](const QString& file) { return openMovieOrSound(file, kLargestFrame, playing); };
     parts.resourcesFolder = resourcesFolder();
+    parts.askCard = true;
     // On a disk: what is looked at may be as long as a movie.
     parts.privateFolder = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
     parts.isOnMedium = [targets = parts.media->targets()](const QString& folder, const QString& devicePath) {

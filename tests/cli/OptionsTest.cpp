@@ -32,6 +32,27 @@ TEST(Options, EverythingCanBeChosen) {
     EXPECT_TRUE(parsed.options.listJson);
 }
 
+TEST(Options, NamesAndFoldersAreTheCardsUnlessTheUserSaysOtherwise) {
+    const SavePolicy plain = parseOptions({"--save", "s", "x"}).options.savePolicy;
+    EXPECT_EQ(plain.names, SaveNames::Original);
+    EXPECT_EQ(plain.folders, SaveFolders::Card);
+    EXPECT_FALSE(plain.lostOnly);
+    const SavePolicy other =
+        parseOptions({"--save", "s", "--names", "found", "--folders", "type", "--lost-only", "x"})
+            .options.savePolicy;
+    EXPECT_EQ(other.names, SaveNames::Found);
+    EXPECT_EQ(other.folders, SaveFolders::Type);
+    EXPECT_TRUE(other.lostOnly);
+    EXPECT_EQ(parseOptions({"--save", "s", "--by-date", "x"}).options.savePolicy.folders, SaveFolders::Date);
+    for (const QStringList& wrong : {QStringList{"--save", "s", "--names", "mine", "x"},
+                                     QStringList{"--save", "s", "--folders", "mine", "x"},
+                                     QStringList{"--save", "s", "--by-date", "--folders", "card", "x"},
+                                     QStringList{"--save", "s", "--as-published", "--names", "found", "x"},
+                                     QStringList{"--lost-only", "x"}}) {
+        EXPECT_EQ(parseOptions(wrong).exitCode, kExitBadUsage) << wrong.join(' ').toStdString();
+    }
+}
+
 TEST(Options, EmptySaveFolderIsRefused) {
     EXPECT_EQ(parseOptions({"--save", "", "x"}).exitCode, kExitBadUsage);
 }

@@ -303,7 +303,7 @@ TEST(ItemSaver, DateTakenIsTheFilesTimeAndOnRequestItsName) {
     EXPECT_EQ(plain.width, 64U);
     EXPECT_EQ(plain.height, 48U);
     SavePolicy policy;
-    policy.byDate = true;
+    policy.folders = SaveFolders::Date;
     const QTemporaryDir other;
     const SaveOutcome dated = ItemSaver(other.path(), policy).saveRuns("TIF", "G1.TIF", run(5, 60), reader);
     EXPECT_EQ(dated.path, other.filePath("TIF/2026-05-17/2026-05-17 14.03.22 G1.TIF"));

@@ -49,10 +49,29 @@ TEST_F(RecoveryReport, TableForMachines) {
     const QList<QByteArray> lines = table().split('\n');
     ASSERT_EQ(lines.size(), 4);
     EXPECT_TRUE(lines[0].startsWith("name,type,medium,first_sector,end_sector,bytes,sha256,soundness,"));
-    EXPECT_EQ(lines[1], "\"a,\"\"b\"\".JPG\",\"JPG\",\"/dev/sdb <1> & \"\"more\"\"\",4,40,18432," +
-                            QByteArray("ab").repeated(32) +
-                            ",complete,yes,0,2026-05-17 14:03:22 UTC,64,48,saved,\"JPG/a b:100%.JPG\",yes\r");
-    EXPECT_TRUE(lines[2].endsWith(",failed,\"No <room>\",no\r"));
+    EXPECT_EQ(lines[1],
+              "\"a,\"\"b\"\".JPG\",\"JPG\",\"/dev/sdb <1> & \"\"more\"\"\",4,40,18432," +
+                  QByteArray("ab").repeated(32) +
+                  ",complete,yes,0,2026-05-17 14:03:22 UTC,64,48,saved,\"JPG/a b:100%.JPG\",yes,,,,1\r");
+    EXPECT_TRUE(lines[2].endsWith(",failed,\"No <room>\",no,,,,1\r"));
+}
+
+TEST_F(RecoveryReport, TellsWhatTheCardTold) {
+    CardFile file;
+    file.folder = "DCIM/1<b>";
+    file.name = "IMG_0412.JPG";
+    file.state = FileState::Deleted;
+    file.modified = QDateTime(QDate(2026, 5, 17), QTime(14, 3, 22)).toSecsSinceEpoch();
+    std::vector<ReportedItem> told = items();
+    told[0].outcome.original = std::make_shared<const CardFile>(file);
+    told[0].outcome.pieces = 3;
+    const WrittenReport written = writeReport(folder.path(), head(), told);
+    EXPECT_TRUE(contentsOf(written.csv)
+                    .split('\n')[1]
+                    .endsWith(",\"DCIM/1<b>/IMG_0412.JPG\",deleted,2026-05-17 14:03:22,3\r"));
+    const QByteArray html = contentsOf(written.html);
+    EXPECT_TRUE(html.contains("DCIM/1&lt;b&gt;/IMG_0412.JPG (deleted, changed 2026-05-17 14:03:22)"));
+    EXPECT_TRUE(html.contains("put together from 3 pieces"));
 }
 
 TEST_F(RecoveryReport, FilesOfWhichOnlyLengthsWereFollowed_AreSaidToEndWhereTheySay) {
@@ -60,7 +79,7 @@ TEST_F(RecoveryReport, FilesOfWhichOnlyLengthsWereFollowed_AreSaidToEndWhereThey
     EXPECT_FALSE(page().contains("content not checked"));
     contentChecked = false;
     EXPECT_TRUE(page().contains("<span class=\"unchecked\">ends where it says, content not checked</span>"));
-    EXPECT_TRUE(table().split('\n')[1].endsWith(",no\r"));
+    EXPECT_TRUE(table().split('\n')[1].endsWith(",no,,,,1\r"));
     EXPECT_TRUE(table().contains(",complete,yes,"));  // the words for machines stay
 }
 

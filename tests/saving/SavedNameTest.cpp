@@ -28,13 +28,75 @@ TEST(SavedName, DatesWithoutZoneAreLocalTime) {
 
 TEST(SavedName, DateComesBeforeTheGivenName) {
     const CivilTime taken{2026, 5, 17, 14, 3, 22, false};
-    const SavedName dated = savedNameOf("JPG", "GND00012.JPG", taken);
+    const SavePolicy byDate{.folders = SaveFolders::Date};
+    const SavedName dated = savedNameOf("JPG", "GND00012.JPG", byDate, taken, nullptr);
     EXPECT_EQ(dated.folder, "JPG/2026-05-17");
     EXPECT_EQ(dated.file, "2026-05-17 14.03.22 GND00012.JPG");
-    const SavedName plain = savedNameOf("J/PG", "GND00012.JPG", std::nullopt);
+    const SavedName plain = savedNameOf("J/PG", "GND00012.JPG", byDate, std::nullopt, nullptr);
     EXPECT_EQ(plain.folder, "J_PG");
     EXPECT_EQ(plain.file, "GND00012.JPG");
-    EXPECT_LE(savedNameOf("JPG", QString(500, u'x') + ".JPG", taken).file.size(), 80);
+    EXPECT_LE(savedNameOf("JPG", QString(500, u'x') + ".JPG", byDate, taken, nullptr).file.size(), 80);
+}
+
+TEST(SavedName, NamesFromACardLeadNowhereElse) {
+    EXPECT_EQ(safeCardName("IMG_0412.JPG"), "IMG_0412.JPG");
+    EXPECT_EQ(safeCardName("Größe – 1.jpg"), "Größe – 1.jpg");
+    EXPECT_EQ(safeCardName(".."), "_");
+    EXPECT_EQ(safeCardName(""), "_");
+    EXPECT_EQ(safeCardName("../x"), "_.._x");
+    EXPECT_EQ(safeCardName("a/b\\c"), "a_b_c");
+    EXPECT_EQ(safeCardName("a\n\x1b.JPG"), "a__.JPG");
+    EXPECT_EQ(safeCardName(".bashrc"), "_.bashrc") << "no hidden file in the user's own folder";
+    EXPECT_EQ(safeCardName("con.txt"), "_con.txt");
+    EXPECT_EQ(safeCardName("COM1"), "_COM1");
+    EXPECT_EQ(safeCardName("CONTACTS.TXT"), "CONTACTS.TXT");
+    EXPECT_EQ(safeCardName(QStringLiteral("gpj") + QChar(0x202E) + QStringLiteral(".exe")), "gpj_.exe");
+    EXPECT_EQ(safeCardName(QString(QChar(0xD800)) + QStringLiteral("x")), "_x");
+    EXPECT_EQ(safeCardName("name. "), "name");
+}
+
+TEST(SavedName, LongNamesKeepTheirExtensionAndWholeCharacters) {
+    const QString name = safeCardName(QString(255, QChar(0x00E4)) + ".JPEG");
+    EXPECT_TRUE(name.endsWith(".JPEG"));
+    EXPECT_LE(name.toUtf8().size(), 240);
+    EXPECT_GE(name.toUtf8().size(), 238);
+    QString faces;
+    for (int i = 0; i < 120; ++i) {
+        faces += QString::fromUcs4(U"\U0001F600", 1);
+    }
+    const QString cut = safeCardName(faces);
+    EXPECT_LE(cut.toUtf8().size(), 240);
+    EXPECT_EQ(QString::fromUtf8(cut.toUtf8()), cut);
+}
+
+TEST(SavedName, FoldersOfACardStayBelowTheDestination) {
+    EXPECT_EQ(safeCardFolder("DCIM/100CANON"), "DCIM/100CANON");
+    EXPECT_EQ(safeCardFolder(""), "");
+    EXPECT_EQ(safeCardFolder("/../.config//autostart"), "_/_.config/autostart");
+    EXPECT_EQ(safeCardFolder(QString("x/").repeated(2000)), std::nullopt);
+}
+
+TEST(SavedName, NameAndFolderAreTheCardsWhereTheUserWantsThem) {
+    CardFile file;
+    file.folder = "DCIM/100CANON";
+    file.name = "IMG_0412.JPG";
+    const auto placeOf = [&file](SaveNames names, SaveFolders folders) {
+        const SavedName saved =
+            savedNameOf("JPG", "GND00012.JPG", {.names = names, .folders = folders}, std::nullopt, &file);
+        return saved.folder + '/' + saved.file;
+    };
+    EXPECT_EQ(placeOf(SaveNames::Original, SaveFolders::Card), "DCIM/100CANON/IMG_0412.JPG");
+    EXPECT_EQ(placeOf(SaveNames::Found, SaveFolders::Card), "DCIM/100CANON/GND00012.JPG");
+    EXPECT_EQ(placeOf(SaveNames::Original, SaveFolders::Type), "JPG/IMG_0412.JPG");
+    EXPECT_EQ(placeOf(SaveNames::Found, SaveFolders::Date), "JPG/GND00012.JPG") << "nothing tells a date";
+    file.modified = QDateTime(QDate(2026, 5, 17), QTime(14, 3, 22)).toSecsSinceEpoch();
+    EXPECT_EQ(placeOf(SaveNames::Original, SaveFolders::Date),
+              "JPG/2026-05-17/2026-05-17 14.03.22 IMG_0412.JPG");
+    file.folder.clear();
+    EXPECT_EQ(placeOf(SaveNames::Original, SaveFolders::Card), "/IMG_0412.JPG");
+    file.name = "JPG";
+    EXPECT_EQ(placeOf(SaveNames::Original, SaveFolders::Card), "JPG/JPG")
+        << "a file in the root does not take the place of a type's folder";
 }
 
 }  // namespace vantor

@@ -1,6 +1,7 @@
 // Saving from the results screens: destination, progress, summary, and what stays unsaved.
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
@@ -43,6 +44,10 @@ class Saving : public WindowTest {
     }
     static void tick(QDialog* panel, const char* box) {
         panel->findChild<QCheckBox*>(QLatin1String(box))->click();
+    }
+    static void chooseFolders(QDialog* panel, SaveFolders folders) {
+        auto* box = panel->findChild<QComboBox*>(QStringLiteral("foldersBox"));
+        box->setCurrentIndex(box->findData(static_cast<int>(folders)));
     }
     QStringList savedFiles() const {
         QStringList files;
@@ -207,7 +212,7 @@ TEST_F(Saving, TheOptionsAreKeptAndCounted) {
         EXPECT_FALSE(pixels->isEnabled());
         EXPECT_EQ(panel->findChild<QSpinBox*>(QStringLiteral("minBytesField"))->text(),
                   QStringLiteral("10 kB"));
-        tick(panel, "byDateBox");
+        chooseFolders(panel, SaveFolders::Date);
         tick(panel, "minPixelsBox");
         EXPECT_TRUE(pixels->isEnabled());
         pixels->setValue(500);
@@ -215,9 +220,11 @@ TEST_F(Saving, TheOptionsAreKeptAndCounted) {
     EXPECT_EQ(controller->savingOptionsButton->text(), QStringLiteral("O&ptions (2)…"));
     EXPECT_EQ(controller->savingOptionsButton_Sig->text(), QStringLiteral("O&ptions (2)…"));
     answers.then([](QDialog* panel) {
-        EXPECT_TRUE(panel->findChild<QCheckBox*>(QStringLiteral("byDateBox"))->isChecked());
+        EXPECT_EQ(panel->findChild<QComboBox*>(QStringLiteral("foldersBox"))->currentText(),
+                  QStringLiteral("By type and date"));
         EXPECT_EQ(panel->findChild<QSpinBox*>(QStringLiteral("minPixelsField"))->value(), 500);
-        tick(panel, "byDateBox");
+        chooseFolders(panel, SaveFolders::Card);
+        tick(panel, "namesBox");
         pressButton(panel, QStringLiteral("Cancel"));
     });
     click(controller->savingOptionsButton);

@@ -21,7 +21,11 @@ constexpr int kListMargins = 24;
 }  // namespace
 
 BrowserLooks::BrowserLooks(const std::array<BrowserScreen, 2>& screens, LookedAtItems items)
-    : m_screens(screens), m_items(std::move(items)), m_board(m_items.at) {
+    : m_screens(screens),
+      m_items(std::move(items)),
+      m_board(m_items.at, [card = m_items.card](const MyImageObject&) {
+          return ItemHints{card ? card() : nullptr};
+      }) {
     fillBoxes();
     m_look.setInterval(kLookMilliseconds);
     connect(&m_look, &QTimer::timeout, this, &BrowserLooks::look);
@@ -41,12 +45,14 @@ void BrowserLooks::fillBoxes() {
         {tr("Not saved yet"), ShowItems::NotSaved},
         {tr("Without small ones"), ShowItems::NotSmall},
         {tr("Without false finds"), ShowItems::OfItsType},
+        {tr("Only what is lost"), ShowItems::Lost},
     };
     const std::pair<QString, SortItems> sorts[] = {
         {tr("As found"), SortItems::AsFound},
         {tr("By soundness"), SortItems::Soundness},
         {tr("By size"), SortItems::Size},
         {tr("By date taken"), SortItems::DateTaken},
+        {tr("By name on the card"), SortItems::OriginalName},
     };
     for (const BrowserScreen& screen : m_screens) {
         for (const auto& [text, value] : shows) {
@@ -90,12 +96,46 @@ void BrowserLooks::shutDown() {
 
 ItemFacts BrowserLooks::factsOf(std::size_t index) const {
     const auto item = m_items.at(index);
-    return {m_board.find(index), item && item->carved().readFailed, m_items.isSaved(index)};
+    ItemFacts facts{m_board.find(index), item && item->carved().readFailed, m_items.isSaved(index)};
+    if (item) {
+        addCard(facts, *item);
+    }
+    return facts;
+}
+
+// Before an item was looked at only what is still there has its name: of all else the bytes may be another's.
+void BrowserLooks::addCard(ItemFacts& facts, const MyImageObject& item) const {
+    if (facts.soundness) {
+        facts.original = facts.soundness->original;
+    }
+    if (!m_card || item.carved().runs.empty()) {
+        return;
+    }
+    const std::uint64_t first = item.carved().runs.front().first;
+    facts.stillThere = m_card->isLiveAt(first);
+    if (!facts.original && facts.stillThere) {
+        const CardIndex::Match match = m_card->match(first, item.fileType());
+        facts.original = {m_card, match.fit == CardFit::Yes ? match.file : nullptr};
+    }
+}
+
+// What the card tells is known when the search begins, and more of it when it has ended.
+void BrowserLooks::takeCard() {
+    const auto card = m_items.card ? m_items.card() : nullptr;
+    if (card == m_card) {
+        return;
+    }
+    m_card = card;
+    m_board.beginAgain();
+    for (const BrowserScreen& each : m_screens) {
+        each.browser->setOriginalsShown(m_card && !m_card->table().files.empty());
+    }
 }
 
 // A few times a second while found items are in view.
 void BrowserLooks::look() {
     ImageBrowserView* browser = screen().browser;
+    takeCard();
     m_board.setMediumBusy(m_items.mediumBusy());
     m_board.want(browser->indexesInView());
     m_board.wantAll(m_wish.needsSoundness() ? m_items.count() : 0);
@@ -143,6 +183,11 @@ void BrowserLooks::putInOrder() {
             ItemFacts facts;
             if (at < known.size()) {
                 facts.soundness = known[at];
+            }
+            if (m_wish.show == ShowItems::Lost || m_wish.sort == SortItems::OriginalName) {
+                if (const auto item = m_items.at(at)) {
+                    addCard(facts, *item);
+                }
             }
             if (m_wish.show == ShowItems::Unreadable) {
                 const auto item = m_items.at(at);

@@ -8,6 +8,7 @@
 #include <functional>
 
 #include "results/BrowserOrder.h"
+#include "results/CardIndex.h"
 #include "results/SoundnessBoard.h"
 #include "saving/SavePolicy.h"
 
@@ -16,6 +17,7 @@ class QComboBox;
 namespace vantor {
 
 class ImageBrowserView;
+class MyImageObject;
 
 // A browser with the boxes in which the user chooses.
 struct BrowserScreen {
@@ -31,6 +33,8 @@ struct LookedAtItems {
     std::function<bool(std::size_t)> isSaved;
     std::function<bool()> mediumBusy;    // somebody else reads it
     std::function<SavePolicy()> policy;  // says what counts as small
+    // What the card's directories tell, null as long as nothing is known; any thread.
+    std::function<std::shared_ptr<const CardIndex>()> card;
 };
 
 // Lives on the interface thread. The screens are that of photo mode and that of the other modes, of which the
@@ -74,10 +78,13 @@ class BrowserLooks : public QObject {
     void look();
     void choose();
     void putInOrder();
+    void takeCard();
+    void addCard(ItemFacts& facts, const MyImageObject& item) const;
 
     const std::array<BrowserScreen, 2> m_screens;
     const LookedAtItems m_items;
     BrowserWish m_wish;
+    std::shared_ptr<const CardIndex> m_card;
     SoundnessBoard m_board;
     QTimer m_look;
     QElapsedTimer m_sinceOrder;

@@ -1,8 +1,10 @@
 // The adapter between the item list and the toolkit's list view.
 #include "window/browser/ImageBrowserModel.h"
 
+#include <QTextDocument>
 #include <limits>
 
+#include "results/CardIndex.h"
 #include "results/MyImageObject.h"
 #include "window/browser/ImageBrowserView.h"
 
@@ -97,9 +99,20 @@ QVariant ImageBrowserModel::data(const QModelIndex& index, int role) const {
     if (!found || role == Qt::DisplayRole) {
         return found ? QVariant(found->imageTitle()) : QVariant();
     }
-    const auto soundness = facts(place).soundness;
-    const QString between = role == Qt::ToolTipRole ? QStringLiteral("\n") : QStringLiteral(", ");
-    return soundness ? found->imageTitle() + between + describe(*soundness) : found->imageTitle();
+    const ItemFacts known = facts(place);
+    QStringList words{found->imageTitle()};
+    if (known.original) {
+        words << originalPath(*known.original);
+    }
+    if (known.soundness) {
+        words << describe(*known.soundness);
+    }
+    if (role != Qt::ToolTipRole) {
+        return words.join(QStringLiteral(", "));
+    }
+    // A name from a card is text, whatever stands in it.
+    const QString tip = words.join(u'\n');
+    return Qt::mightBeRichText(tip) ? Qt::convertFromPlainText(tip) : tip;
 }
 
 Qt::ItemFlags ImageBrowserModel::flags(const QModelIndex& index) const {

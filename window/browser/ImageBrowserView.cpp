@@ -62,7 +62,15 @@ void ImageBrowserView::setZoomValue(float zoom) {
     const int edge =
         kSmallestPicture + static_cast<int>(bounded * (kLargestPicture - kSmallestPicture) + 0.5F);
     setIconSize({edge, edge});
-    setGridSize(ImageCell::cellSize(edge, font()));
+    setGridSize(ImageCell::cellSize(edge, font(), m_originalsShown ? 2 : 1));
+}
+
+void ImageBrowserView::setOriginalsShown(bool shown) {
+    if (m_originalsShown != shown) {
+        m_originalsShown = shown;
+        setZoomValue(m_zoom);
+        scheduleDelayedItemsLayout();
+    }
 }
 
 void ImageBrowserView::scrollIndexToVisible(qsizetype index) {

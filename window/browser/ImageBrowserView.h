@@ -26,6 +26,9 @@ class ImageBrowserView : public QListView {
     // 0 (smallest cells) to 1.
     void setZoomValue(float zoom);
     float zoomValue() const { return m_zoom; }
+    // A line below each title for the name that the item had on the card.
+    void setOriginalsShown(bool shown);
+    bool originalsShown() const { return m_originalsShown; }
 
     // Shows these items of the list in this order; the selection stays with its items, as far as they are
     // shown.
@@ -68,6 +71,7 @@ class ImageBrowserView : public QListView {
 
     ImageBrowserModel* m_model;
     float m_zoom = 0;
+    bool m_originalsShown = false;
     bool m_reordering = false;
     bool m_atEnd = true;
     QIcon m_emptyPicture;

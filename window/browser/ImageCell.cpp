@@ -26,13 +26,13 @@ ImageCell::ImageCell(ImageBrowserView* view)
     setParent(view);
 }
 
-QSize ImageCell::cellSize(int edge, const QFont& font) {
+QSize ImageCell::cellSize(int edge, const QFont& font, int lines) {
     const QFontMetrics metrics(font);
-    return {std::max(edge + 2 * kPadding, kNarrowestCell), edge + metrics.height() + 3 * kPadding};
+    return {std::max(edge + 2 * kPadding, kNarrowestCell), edge + lines * metrics.height() + 3 * kPadding};
 }
 
 QSize ImageCell::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
-    return cellSize(m_view->iconSize().width(), option.font);
+    return cellSize(m_view->iconSize().width(), option.font, m_view->originalsShown() ? 2 : 1);
 }
 
 QPixmap ImageCell::decoded(const QByteArray& bytes) const {
@@ -77,13 +77,21 @@ void ImageCell::paint(QPainter* painter, const QStyleOptionViewItem& option, con
     } else {
         picture.value<QIcon>().paint(painter, place);
     }
-    paintBadges(painter, place, m_view->factsOfRow(index.row()));
+    const ItemFacts facts = m_view->factsOfRow(index.row());
+    paintBadges(painter, place, facts);
     QRect words = cell.adjusted(4, 0, -4, 0);
     words.setTop(place.bottom() + kPadding / 2);
     painter->setFont(option.font);
     painter->setPen(theme::kInk);
     const QString title = option.fontMetrics.elidedText(item->imageTitle(), Qt::ElideMiddle, words.width());
     painter->drawText(words, Qt::AlignHCenter | Qt::AlignTop | Qt::TextSingleLine, title);
+    if (facts.original) {
+        words.setTop(words.top() + option.fontMetrics.height());
+        painter->setPen(theme::kQuietInk);
+        const QString name =
+            option.fontMetrics.elidedText(facts.original->name, Qt::ElideMiddle, words.width());
+        painter->drawText(words, Qt::AlignHCenter | Qt::AlignTop | Qt::TextSingleLine, name);
+    }
     painter->restore();
 }
 

@@ -16,8 +16,8 @@ class ImageCell : public QStyledItemDelegate {
   public:
     explicit ImageCell(ImageBrowserView* view);
 
-    // The cell for a picture of `edge` pixels.
-    static QSize cellSize(int edge, const QFont& font);
+    // The cell for a picture of `edge` pixels with so many lines of words below it.
+    static QSize cellSize(int edge, const QFont& font, int lines);
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;

@@ -61,7 +61,8 @@ void WholePreview::begin(WholePreviewRequest request, std::unique_ptr<SectorRead
             firstBytes = QByteArrayView(mapped, static_cast<qsizetype>(size));
         }
     }
-    m_copy = std::make_unique<TrueCopy>(m_request.type, m_request.carved, std::move(medium), m_watch);
+    m_copy = std::make_unique<TrueCopy>(m_request.type, m_request.carved, std::move(medium), m_watch,
+                                         m_request.hints);
     if (!m_copy->measure(firstBytes)) {
         m_copy.reset();
         return;

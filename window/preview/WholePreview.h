@@ -11,6 +11,7 @@
 
 #include "media/WatchedReader.h"
 #include "results/CarvedRun.h"
+#include "results/MediumBytes.h"
 
 namespace vantor {
 
@@ -19,6 +20,7 @@ class TrueCopy;
 struct WholePreviewRequest {
     QString type;             // of the item
     CarvedRun carved;         // none: nothing more is known than the preview file says
+    ItemHints hints;          // what else is known of it
     std::uint64_t start = 0;  // sector that the preview file begins with
     QString previewFile;
     bool faithful = false;  // the preview file holds what stands on the medium

@@ -47,6 +47,7 @@ std::optional<SavingDesk::Next> SavingDesk::saveOnce(const QList<qsizetype>& ind
     }
     request.saver = saverFor(destination);
     request.openMedium = m_parts.medium();
+    request.card = m_parts.card ? m_parts.card() : nullptr;
     request.destination = destination;
     request.placeholder = m_parts.placeholder();
     if (m_choices.report) {

@@ -13,13 +13,19 @@ constexpr std::uint64_t kKilobyte = 1000;
 
 int changedChoices(const SavingChoices& choices) {
     const SavePolicy& policy = choices.policy;
-    return int{policy.byDate} + int{policy.minPixels != 0} + int{policy.minBytes != 0} +
-           int{policy.skipUnsound} + int{!policy.skipDuplicates} + int{!choices.report};
+    return int{policy.folders != SaveFolders::Card} + int{policy.names != SaveNames::Original} +
+           int{policy.minPixels != 0} + int{policy.minBytes != 0} + int{policy.skipUnsound} +
+           int{!policy.skipDuplicates} + int{!choices.report};
 }
 
 SavingOptions::SavingOptions(QWidget* parent) : Panel(parent), m_ui(std::make_unique<Ui::SavingOptions>()) {
     m_ui->setupUi(window);
     window->setObjectName(QStringLiteral("savingOptions"));
+    for (const auto& [text, value] :
+         {std::pair{tr("As on the card"), SaveFolders::Card}, std::pair{tr("By type"), SaveFolders::Type},
+          std::pair{tr("By type and date"), SaveFolders::Date}}) {
+        m_ui->foldersBox->addItem(text, static_cast<int>(value));
+    }
     connect(m_ui->minPixelsBox, &QCheckBox::toggled, m_ui->minPixelsField, &QWidget::setEnabled);
     connect(m_ui->minBytesBox, &QCheckBox::toggled, m_ui->minBytesField, &QWidget::setEnabled);
     connect(m_ui->okButton, &QPushButton::clicked, this, [this] { stopModalWithCode(kButtonPressed); });
@@ -31,7 +37,7 @@ SavingOptions::~SavingOptions() = default;
 
 bool SavingOptions::ask(SavingChoices& choices) {
     show(choices);
-    m_ui->byDateBox->setFocus();
+    m_ui->foldersBox->setFocus();
     if (runModalForWindow(window) != kButtonPressed) {
         return false;
     }
@@ -41,7 +47,8 @@ bool SavingOptions::ask(SavingChoices& choices) {
 
 void SavingOptions::show(const SavingChoices& choices) {
     const SavePolicy& policy = choices.policy;
-    m_ui->byDateBox->setChecked(policy.byDate);
+    m_ui->foldersBox->setCurrentIndex(m_ui->foldersBox->findData(static_cast<int>(policy.folders)));
+    m_ui->namesBox->setChecked(policy.names == SaveNames::Original);
     m_ui->minPixelsBox->setChecked(policy.minPixels != 0);
     if (policy.minPixels != 0) {
         m_ui->minPixelsField->setValue(static_cast<int>(policy.minPixels));
@@ -58,7 +65,8 @@ void SavingOptions::show(const SavingChoices& choices) {
 SavingChoices SavingOptions::chosen() const {
     SavingChoices choices;
     SavePolicy& policy = choices.policy;
-    policy.byDate = m_ui->byDateBox->isChecked();
+    policy.folders = static_cast<SaveFolders>(m_ui->foldersBox->currentData().toInt());
+    policy.names = m_ui->namesBox->isChecked() ? SaveNames::Original : SaveNames::Found;
     policy.minPixels =
         m_ui->minPixelsBox->isChecked() ? static_cast<std::uint32_t>(m_ui->minPixelsField->value()) : 0;
     policy.minBytes = m_ui->minBytesBox->isChecked()

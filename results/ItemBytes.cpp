@@ -1,0 +1,166 @@
+// Where an item's own structure and the card's directory agree, the directory's word is taken; where they do
+// not, the structure's.
+#include "results/ItemBytes.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace vantor {
+
+namespace {
+
+bool isComplete(const TrueLength& length) {
+    return length.extent.verdict == Verdict::Complete;
+}
+
+// Whether the structure, followed through the pieces, shows that they belong together.
+bool proves(const TrueLength& length, const Assembly& pieces, bool placesAreKnown) {
+    if (length.extent.verdict == Verdict::Unknown) {
+        return placesAreKnown;
+    }
+    if (!isComplete(length)) {
+        return false;
+    }
+    const bool sameEnd = length.bytes == pieces.bytes;
+    return placesAreKnown ? sameEnd || !length.extent.exactEnd : sameEnd && length.extent.checked;
+}
+
+ItemSource sourceOf(const ItemSource& source, const Assembly& assembly) {
+    ItemSource pieces{{assembly.runs, source.carved.readFailed}, {}, source.medium, source.mediumSectors};
+    pieces.asPublished = true;
+    return pieces;
+}
+
+}  // namespace
+
+Verdict verdictOf(const ItemTruth& truth) {
+    const Verdict verdict = truth.length.extent.verdict;
+    return truth.lengthIsTold && verdict == Verdict::Unknown ? Verdict::Complete : verdict;
+}
+
+ItemBytes::Pieces::Pieces(const ItemSource& from, const Assembly& assembly, std::vector<std::uint8_t>& kept)
+    : source(sourceOf(from, assembly)), bytes(source, kept) {}
+
+ItemBytes::ItemBytes(const ItemSource& source, std::vector<std::uint8_t>& kept)
+    : m_source(source), m_carved(source, kept) {}
+
+ItemBytes::ItemBytes(const ItemSource& source, std::vector<std::uint8_t>& kept, const ItemTruth& truth)
+    : ItemBytes(source, kept) {
+    m_truth = truth;
+    if (truth.assembly) {
+        m_pieces = std::make_unique<Pieces>(m_source, *truth.assembly, m_keptOfPieces);
+    }
+}
+
+const ItemTruth& ItemBytes::measure(const QString& type, bool mayGoBeyond) {
+    m_truth.length = {m_carved.carvedBytes(), {}};
+    if (m_source.asPublished) {
+        return m_truth;
+    }
+    if (m_source.hints.told) {
+        measureTold(type);
+        return m_truth;
+    }
+    return measureFrom(type, trueLengthOf(type, m_carved, mayGoBeyond));
+}
+
+const ItemTruth& ItemBytes::measureFrom(const QString& type, const TrueLength& carved) {
+    m_truth.length = carved;
+    if (!m_source.carved.runs.empty()) {
+        askCard(type);
+    }
+    return m_truth;
+}
+
+// Its bytes are as the directory says. Where their place is only guessed, a structure that has another end
+// makes them another's.
+void ItemBytes::measureTold(const QString& type) {
+    const CardFile& file = *m_source.hints.told;
+    const Assembly pieces{m_source.carved.runs, dataBytesOf(file), AssemblyProof::Likely, true};
+    const bool certain = file.state == FileState::Live || file.runsKnownBy < RunsKnownBy::Guess;
+    if (tryPieces(type, pieces, true, certain)) {
+        m_truth.file = m_source.hints.told;
+    }
+}
+
+bool ItemBytes::tryPieces(const QString& type, const Assembly& assembly, bool placesAreKnown, bool believed) {
+    auto pieces = std::make_unique<Pieces>(m_source, assembly, m_keptOfPieces);
+    const TrueLength length = trueLengthOf(type, pieces->bytes, false);
+    const bool proved = proves(length, assembly, placesAreKnown);
+    if (!proved && !believed) {
+        return false;
+    }
+    m_pieces = std::move(pieces);
+    m_truth.length = {assembly.bytes, length.extent};
+    m_truth.lengthIsTold = !isComplete(length) || length.bytes != assembly.bytes;
+    m_truth.assembly = assembly;
+    m_truth.assembly->proof = AssemblyProof::Proved;
+    return true;
+}
+
+// Whether the carved view holds the same sectors.
+bool ItemBytes::lieAsCarved(const Assembly& assembly) const {
+    return assembly.runs.size() == 1 && assembly.runs.front().first == m_source.carved.runs.front().first &&
+           std::is_sorted(m_source.carved.runs.begin(), m_source.carved.runs.end(),
+                          [](const SectorRun& a, const SectorRun& b) { return a.first < b.first; }) &&
+           assembly.bytes <= m_carved.size();
+}
+
+void ItemBytes::askCard(const QString& type) {
+    const auto& card = m_source.hints.card;
+    if (!card) {
+        return;
+    }
+    const std::uint64_t first = m_source.carved.runs.front().first;
+    for (const auto& candidate : card->candidates(first, m_source.mediumSectors)) {
+        const bool live = candidate.file->state == FileState::Live;
+        const bool known = live || candidate.file->runsKnownBy < RunsKnownBy::Guess;
+        if (lieAsCarved(candidate.assembly)) {
+            if (live) {
+                break;
+            }
+            continue;
+        }
+        // What is whole where it was carved is not looked for elsewhere.
+        const bool settled = (isComplete(m_truth.length) && (m_truth.length.extent.checked || !known));
+        if ((live || !settled) && tryPieces(type, candidate.assembly, known, live)) {
+            take(candidate.file);
+            return;
+        }
+    }
+    const CardIndex::Match match = card->match(first, type, &m_truth.length);
+    if (match.fit == CardFit::Maybe) {
+        // Cut off or damaged. The name is its own where nobody else lays claim to the place, and so is the
+        // length where the directory tells one piece, or where a stream is followed no further.
+        if (!card->isDisputed(*match.file)) {
+            take(match.file);
+            if (card->isInOneFreePiece(*match.file) &&
+                (match.file->runsKnownBy < RunsKnownBy::Guess || isFrameStream(type))) {
+                takeLength(dataBytesOf(*match.file));
+            }
+        }
+        return;
+    }
+    if (match.fit != CardFit::Yes) {
+        return;
+    }
+    if (takeLength(dataBytesOf(*match.file))) {
+        take(match.file);
+    }
+}
+
+// False when the carved view ends before.
+bool ItemBytes::takeLength(std::uint64_t bytes) {
+    if (bytes > m_carved.size()) {
+        return false;
+    }
+    m_truth.lengthIsTold = m_truth.lengthIsTold || bytes != m_truth.length.bytes;
+    m_truth.length.bytes = bytes;
+    return true;
+}
+
+void ItemBytes::take(const CardFile* file) {
+    m_truth.file = {m_source.hints.card, file};
+}
+
+}  // namespace vantor

@@ -1,0 +1,64 @@
+// One pass over the table, with the found starts beside it.
+#include "results/ToldFiles.h"
+
+#include <algorithm>
+
+#include "media/SectorReader.h"
+
+namespace vantor {
+
+namespace {
+
+bool holdsAnyOf(const CardFile& file, const std::vector<std::uint64_t>& starts) {
+    return std::any_of(file.runs.begin(), file.runs.end(), [&](const SectorRun& run) {
+        const auto next = std::lower_bound(starts.begin(), starts.end(), run.first);
+        return next != starts.end() && *next < run.end;
+    });
+}
+
+// Whether its bytes are where the directory says, as far as can be told without looking at them.
+bool hasItsPlace(const CardFile& file, const CardIndex& card, const std::vector<std::uint64_t>& starts) {
+    if (file.state == FileState::Live) {
+        return true;
+    }
+    if (card.isWrittenOver(file) || card.isDisputed(file) || holdsAnyOf(file, starts)) {
+        return false;
+    }
+    return file.runsKnownBy < RunsKnownBy::Guess || card.isInOneFreePiece(file);
+}
+
+}  // namespace
+
+std::vector<std::shared_ptr<const CardFile>> toldOnly(const std::shared_ptr<const CardIndex>& card,
+                                                      const std::vector<std::uint64_t>& foundStarts,
+                                                      const ToldWish& wish) {
+    std::vector<std::shared_ptr<const CardFile>> told;
+    for (const CardFile& file : card->table().files) {
+        if (file.name.isEmpty() || file.runs.empty() || dataBytesOf(file) == 0) {
+            continue;
+        }
+        const std::uint64_t first = file.runs.front().first;
+        const bool searched = first >= wish.searched.first && first < wish.searched.end;
+        if (searched && !std::binary_search(foundStarts.begin(), foundStarts.end(), first) &&
+            wish.isWanted(file.name) && hasItsPlace(file, *card, foundStarts)) {
+            told.emplace_back(card, &file);
+        }
+    }
+    return told;
+}
+
+CarvedRun runsOf(const CardFile& file) {
+    CarvedRun carved;
+    const std::uint64_t bytes = dataBytesOf(file);
+    std::uint64_t left = bytes / kSectorBytes + (bytes % kSectorBytes != 0 ? 1 : 0);
+    for (const SectorRun& run : file.runs) {
+        const std::uint64_t count = std::min(left, run.end - run.first);
+        if (count > 0) {
+            carved.runs.push_back({run.first, run.first + count});
+        }
+        left -= count;
+    }
+    return carved;
+}
+
+}  // namespace vantor

@@ -1,0 +1,190 @@
+// Items that come back under the names, in the folders and at the times that the card's directory tells.
+#include <gtest/gtest.h>
+
+#include <QDateTime>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include "results/ResultRow.h"
+#include "results/ToldFiles.h"
+#include "saving/ItemSaver.h"
+#include "tests/support/SmallFiles.h"
+
+namespace vantor {
+namespace {
+
+constexpr std::int64_t kChanged = 1'780'000'000;
+
+CardFile cardFile(const QString& folder, const QString& name, std::uint64_t bytes, SectorRun run,
+                  FileState state = FileState::Deleted) {
+    CardFile file;
+    file.folder = folder;
+    file.name = name;
+    file.bytes = file.validBytes = bytes;
+    file.runs = {run};
+    file.state = state;
+    file.modified = kChanged;
+    file.clusterSectors = 8;
+    return file;
+}
+
+std::shared_ptr<const CardIndex> indexOf(std::vector<CardFile> files) {
+    CardTable table;
+    table.files = std::move(files);
+    return std::make_shared<const CardIndex>(std::move(table));
+}
+
+class CardSaving : public ::testing::Test {
+  protected:
+    FoundItem item(const QString& type, const QString& name, SectorRun run,
+                   std::shared_ptr<const CardIndex> card) {
+        FoundItem found{
+            type, name, {{{run}, false}, {}, [this] { return &m_reader; }, m_medium.bytes.size()}};
+        found.source.hints.card = std::move(card);
+        return found;
+    }
+    QString path(const QString& relative) const { return m_folder.filePath(relative); }
+
+    const QByteArray m_wav = wavFile(20'000);
+    const QTemporaryDir m_folder;
+    ScriptedMedium m_medium = mediumWith(m_wav, 80, 1000);
+    ScriptedReader m_reader{m_medium};
+};
+
+}  // namespace
+
+TEST_F(CardSaving, NamedItemLiesInItsFolderWithItsTime) {
+    const ItemSaver saver(m_folder.path());
+    const auto card = indexOf({cardFile("MUSIC/2026", "SONG.WAV", 20'000, {80, 120})});
+    const SaveOutcome outcome = saver.save(item("WAV", "WAV00001.WAV", {80, 300}, card));
+    ASSERT_TRUE(outcome.saved) << outcome.error.toStdString();
+    EXPECT_EQ(outcome.path, path("MUSIC/2026/SONG.WAV"));
+    EXPECT_EQ(contentsOf(outcome.path), m_wav);
+    EXPECT_EQ(QFileInfo(outcome.path).lastModified().toSecsSinceEpoch(), kChanged);
+    ASSERT_NE(outcome.original, nullptr);
+    EXPECT_EQ(originalPath(*outcome.original), "MUSIC/2026/SONG.WAV");
+}
+
+TEST_F(CardSaving, UnnamedItemLiesInTheFolderOfItsType) {
+    const ItemSaver saver(m_folder.path());
+    const auto card = indexOf({cardFile("MUSIC", "OLD.WAV", 19'000, {80, 120})});
+    EXPECT_EQ(saver.save(item("WAV", "WAV00001.WAV", {80, 300}, card)).path, path("WAV/WAV00001.WAV"));
+}
+
+TEST_F(CardSaving, SameNamesOfDifferentFilesAreNumbered) {
+    const QByteArray other = wavFile(10'000, 2);
+    m_medium.put(400, {other.constData(), 512});
+    for (int sector = 0; sector < 20; ++sector) {
+        const QByteArray bytes = other.mid(sector * 512, 512);
+        m_medium.put(static_cast<std::size_t>(400 + sector),
+                     {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    }
+    const ItemSaver saver(m_folder.path());
+    const auto card = indexOf({cardFile("MUSIC", "SONG.WAV", 20'000, {80, 120}),
+                               cardFile("MUSIC", "SONG.WAV", 10'000, {400, 424})});
+    EXPECT_EQ(saver.save(item("WAV", "a.WAV", {80, 300}, card)).path, path("MUSIC/SONG.WAV"));
+    EXPECT_EQ(saver.save(item("WAV", "b.WAV", {400, 500}, card)).path, path("MUSIC/SONG (2).WAV"));
+}
+
+TEST_F(CardSaving, TypesThatShareAHeaderGiveOneFileOfThatName) {
+    const ItemSaver saver(m_folder.path());
+    const auto card = indexOf({cardFile("MUSIC", "SONG.WAV", 20'000, {80, 120})});
+    EXPECT_TRUE(saver.save(item("WAV", "a.WAV", {80, 300}, card)).saved);
+    const SaveOutcome again = saver.save(item("AVI", "a.AVI", {80, 300}, card));
+    EXPECT_TRUE(again.duplicate);
+    EXPECT_EQ(filesUnder(m_folder.path()), QStringList{"MUSIC/SONG.WAV"});
+}
+
+TEST_F(CardSaving, SavedAgainLaterIsKnownByItsPlace) {
+    const auto card = indexOf({cardFile("MUSIC", "SONG.WAV", 20'000, {80, 120})});
+    EXPECT_FALSE(ItemSaver(m_folder.path()).save(item("WAV", "a.WAV", {80, 300}, card)).duplicate);
+    EXPECT_TRUE(ItemSaver(m_folder.path()).save(item("WAV", "a.WAV", {80, 300}, card)).duplicate);
+    EXPECT_EQ(filesUnder(m_folder.path()), QStringList{"MUSIC/SONG.WAV"});
+}
+
+TEST_F(CardSaving, FileInTheWayOfACardsFolderSendsTheItemToItsType) {
+    QFile inTheWay(path("MUSIC"));
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    const auto card = indexOf({cardFile("MUSIC", "SONG.WAV", 20'000, {80, 120})});
+    EXPECT_EQ(ItemSaver(m_folder.path()).save(item("WAV", "a.WAV", {80, 300}, card)).path,
+              path("WAV/SONG.WAV"));
+}
+
+TEST_F(CardSaving, FolderOfTheCardThatIsALinkIsNotFollowed) {
+    const QTemporaryDir elsewhere;
+    ASSERT_TRUE(QFile::link(elsewhere.path(), path("MUSIC")));
+    const auto card = indexOf({cardFile("MUSIC", "SONG.WAV", 20'000, {80, 120})});
+    EXPECT_EQ(ItemSaver(m_folder.path()).save(item("WAV", "a.WAV", {80, 300}, card)).path,
+              path("WAV/SONG.WAV"));
+    EXPECT_TRUE(filesUnder(elsewhere.path()).isEmpty());
+}
+
+TEST_F(CardSaving, OnlyWhatIsLostLeavesOutWhatIsStillThere) {
+    SavePolicy policy;
+    policy.lostOnly = true;
+    const ItemSaver saver(m_folder.path(), policy);
+    const auto card = indexOf({cardFile("MUSIC", "SONG.WAV", 20'000, {80, 120}, FileState::Live)});
+    EXPECT_EQ(saver.save(item("WAV", "a.WAV", {80, 300}, card)).leftOut, LeftOut::StillThere);
+    EXPECT_EQ(saver.save(item("WAV", "inside.WAV", {88, 300}, card)).leftOut, LeftOut::StillThere)
+        << "what begins within such a file is a part of it";
+    EXPECT_TRUE(saver.save(item("WAV", "b.WAV", {120, 300}, card)).saved);
+}
+
+TEST_F(CardSaving, WhatTheCardTellsLaterIsGivenToWhatIsSavedAlready) {
+    const ItemSaver saver(m_folder.path());
+    SaveOutcome outcome = saver.save(item("WAV", "a.WAV", {80, 300}, nullptr));
+    ASSERT_EQ(outcome.path, path("WAV/a.WAV"));
+    const auto card = indexOf({cardFile("MUSIC", "SONG.WAV", 20'000, {80, 120})});
+    saver.saveAsOnCard(item("WAV", "a.WAV", {80, 300}, card), outcome);
+    EXPECT_EQ(outcome.path, path("MUSIC/SONG.WAV"));
+    EXPECT_FALSE(outcome.duplicate);
+    EXPECT_EQ(filesUnder(m_folder.path()), QStringList{"MUSIC/SONG.WAV"});
+    EXPECT_EQ(contentsOf(outcome.path), m_wav);
+}
+
+TEST_F(CardSaving, WhatLiesInItsPlaceFromEarlierIsNotDoubledLater) {
+    const auto card = indexOf({cardFile("MUSIC", "SONG.WAV", 20'000, {80, 120})});
+    ASSERT_TRUE(ItemSaver(m_folder.path()).save(item("WAV", "a.WAV", {80, 300}, card)).saved);
+    const ItemSaver saver(m_folder.path());
+    SaveOutcome outcome = saver.save(item("WAV", "a.WAV", {80, 300}, nullptr));
+    saver.saveAsOnCard(item("WAV", "a.WAV", {80, 300}, card), outcome);
+    EXPECT_TRUE(outcome.duplicate);
+    EXPECT_EQ(filesUnder(m_folder.path()), QStringList{"MUSIC/SONG.WAV"});
+}
+
+TEST_F(CardSaving, WhatOnlyTheDirectoryTellsIsSavedAsItSays) {
+    const ItemSaver saver(m_folder.path());
+    const auto card = indexOf(
+        {cardFile("NOTES", "a.txt", 700, {400, 408}), cardFile("MUSIC", "OTHER.WAV", 5'000, {80, 90})});
+    const auto told = [&](std::size_t index) {
+        const std::shared_ptr<const CardFile> file(card, &card->table().files[index]);
+        FoundItem found = item("TXT", file->name, {}, card);
+        found.type = pathExtension(file->name).toUpper();
+        found.source.carved = runsOf(*file);
+        found.source.hints.told = file;
+        return saver.save(found);
+    };
+    const SaveOutcome text = told(0);
+    EXPECT_EQ(text.path, path("NOTES/a.txt"));
+    EXPECT_EQ(QFileInfo(text.path).size(), 700);
+    EXPECT_EQ(told(1).leftOut, LeftOut::Unsound) << "a longer file begins there";
+}
+
+TEST_F(CardSaving, PiecesThatTheCardTellsLaterReplaceWhatWasSaved) {
+    // The second half lies elsewhere.
+    for (std::size_t sector = 0; sector < 20; ++sector) {
+        std::swap(m_medium.bytes[100 + sector], m_medium.bytes[500 + sector]);
+    }
+    const ItemSaver saver(m_folder.path());
+    SaveOutcome outcome = saver.save(item("WAV", "a.WAV", {80, 300}, nullptr));
+    ASSERT_TRUE(outcome.saved);
+    CardFile file = cardFile("MUSIC", "SONG.WAV", 20'000, {80, 100});
+    file.runs.push_back({500, 520});
+    file.runsKnownBy = RunsKnownBy::Chain;
+    saver.saveAsOnCard(item("WAV", "a.WAV", {80, 300}, indexOf({file})), outcome);
+    EXPECT_EQ(filesUnder(m_folder.path()), QStringList{"MUSIC/SONG.WAV"});
+    EXPECT_EQ(contentsOf(outcome.path), m_wav);
+    EXPECT_EQ(outcome.pieces, 2U);
+}
+
+}  // namespace vantor
