@@ -19,12 +19,12 @@ void SaveTally::add(const QString& name, const SaveOutcome& outcome) {
         }
         return;
     }
-    named += outcome.original ? 1 : 0;
     if (outcome.duplicate) {
         ++duplicates;
         return;
     }
     ++saved;
+    named += outcome.original ? 1 : 0;
     bytes += outcome.bytes;
     withUnreadableSectors += outcome.sectorsUnreadable != 0 ? 1 : 0;
     switch (outcome.verdict) {
