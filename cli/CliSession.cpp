@@ -180,10 +180,17 @@ void CliSession::mendMovies() {
         }
     }
     std::vector<MendableItem> items;
-    for (const PublishedItem& item : m_published) {
-        items.push_back({item.type, item.name, item.carved});
+    for (std::size_t i = 0; i < m_published.size(); ++i) {
+        const SaveOutcome& outcome = m_reported[i].outcome;
+        items.push_back({m_published[i].type, m_published[i].name, m_published[i].carved,
+                         outcome.verdict == Verdict::Complete, outcome.bytes});
     }
-    mending.run(items, m_options.saveFolder);
+    if (m_options.complete) {
+        mending.complete(items, m_options.saveFolder);
+    }
+    if (m_options.repairMovies) {
+        mending.repair(items, m_options.saveFolder);
+    }
     m_mendingLines = mending.lines();
     m_mendingFailed = mending.failed();
 }

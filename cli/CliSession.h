@@ -88,7 +88,7 @@ class CliSession : private CliView, public ScanSession {
     // the scan goes on.
     void run();
 
-    // Behind run(): writes a playable twin of each movie without an index beside what was saved.
+    // Behind run(): completes and repairs broken movies as the options say, beside what was saved.
     void mendMovies();
     // What became of that, for the user; and whether something could not be written.
     const QStringList& mendingLines() const { return m_mendingLines; }

@@ -320,7 +320,7 @@ int recover(const CliOptions& options) {
         }
         runBesideEvents([&] {
             session.run();
-            if (options.repairMovies) {
+            if (options.complete || options.repairMovies) {
                 session.mendMovies();
             }
         });

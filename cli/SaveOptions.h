@@ -18,7 +18,7 @@ struct SaveOptions {
     std::optional<QString> read(const QCommandLineParser& parser, CliOptions& options) const;
 
     QCommandLineOption save, asPublished, report, byDate, minBytes, minPixels, keepDuplicates, skipUnsound,
-        repairMovies, reference;
+        complete, repairMovies, reference;
 };
 
 }  // namespace vantor

@@ -24,7 +24,7 @@ _vantor_recovery_cli() {
     if [[ $cur == -* ]]; then
         COMPREPLY=($(compgen -W '--help --version --mode --types --range --no-thorough --catalogue
             --save --as-published --report --by-date --min-bytes --min-pixels --keep-duplicates
-            --skip-unsound --repair-movies --reference --list-json --list-media' -- "$cur"))
+            --skip-unsound --complete --repair-movies --reference --list-json --list-media' -- "$cur"))
         return
     fi
 
