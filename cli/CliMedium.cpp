@@ -47,7 +47,12 @@ CliMedium byPath(const QString& name, const QString& path, StopRequest stop, con
     OpenTerms terms;
     terms.stop = std::move(stop);
     terms.map = map;
-    medium.open = [path, terms = std::move(terms)](const QString&) { return openMedium(path, terms); };
+    medium.open = [path, terms](const QString&) { return openMedium(path, terms); };
+    medium.openSource = [path, terms](StopRequest also) {
+        OpenTerms both = terms;
+        both.stop = eitherStop(terms.stop, std::move(also));
+        return openMediumSource(path, std::move(both));
+    };
     return medium;
 }
 
@@ -71,8 +76,12 @@ CliMedium findMedium(const QString& name, MediaSource& source, StopRequest stop,
         medium.sectors = static_cast<std::uint64_t>(textToInt64(record->nsStrSectors));
         const auto refusal = std::make_shared<LastRefusal>();
         medium.refusal = refusal;
-        medium.open = [opener = makeMediumOpener(source, std::move(stop), refusal),
-                       identifier](const QString&) { return opener(QStringLiteral("/dev/r") + identifier); };
+        const QString devicePath = QStringLiteral("/dev/r") + identifier;
+        medium.open = [opener = makeMediumOpener(source, stop, refusal), devicePath](const QString&) {
+            return opener(devicePath);
+        };
+        medium.openSource = [opener = makeSourceOpener(source, std::move(stop), refusal),
+                             devicePath](StopRequest also) { return opener(devicePath, std::move(also)); };
         return medium;
     }
     return byPath(name, node, std::move(stop), {});

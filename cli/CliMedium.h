@@ -6,15 +6,17 @@
 #include <memory>
 
 #include "media/MediaSource.h"
+#include "media/MediumCopy.h"
 #include "scan/ScanSession.h"
 
 namespace vantor {
 
 struct CliMedium {
     std::uint64_t sectors = 0;
-    QString path;       // of the image or the device's node
-    MediumOpener open;  // for every pass and copy; also when the medium cannot be opened
-    QString complaint;  // a sentence for the user; empty when all is well
+    QString path;                       // of the image or the device's node
+    MediumOpener open;                  // for every pass and copy; also when the medium cannot be opened
+    MediumCopy::OpenMedium openSource;  // the medium itself, for whoever copies it
+    QString complaint;                  // a sentence for the user; empty when all is well
     // How the last opening went; null where the complaint says it.
     std::shared_ptr<const LastRefusal> refusal;
 };

@@ -3,7 +3,9 @@
 
 #include <QHash>
 #include <QJsonArray>
+#include <algorithm>
 
+#include "cli/MovieMending.h"
 #include "results/PreviewCopy.h"
 #include "results/ToldFiles.h"
 #include "saving/Sha256.h"
@@ -27,6 +29,8 @@ QString outcomeText(PassOutcome outcome) {
     return QStringLiteral("read-error");
 }
 
+}  // namespace
+
 RangeControls controlsFor(const CliOptions& options, std::uint64_t mediumSectors) {
     RangeControls controls;
     controls.diskIdentifier = options.medium;
@@ -39,8 +43,6 @@ RangeControls controlsFor(const CliOptions& options, std::uint64_t mediumSectors
     }
     return controls;
 }
-
-}  // namespace
 
 CliView::CliView(const CliOptions& options, std::uint64_t mediumSectors)
     : m_range(controlsFor(options, mediumSectors)),
@@ -87,7 +89,7 @@ void CliSession::run() {
         m_queue = std::make_unique<SaveQueue>(
             m_options.saveFolder, m_options.savePolicy, [this] { return openMedium(); },
             [this](SaveTask& task, const SaveOutcome& outcome) {
-                m_outcomes.push_back(outcome);
+                noteOutcome(task, outcome);
                 giveBackPhotoBytes(std::move(task.firstBytes));
             },
             m_liesOnMedium);
@@ -100,17 +102,26 @@ void CliSession::run() {
     finishSaving();
 }
 
+void CliSession::noteOutcome(const SaveTask& task, const SaveOutcome& outcome) {
+    m_tally.add(task.name, outcome);
+    // What is saved before the card was read to its end may get its name from it yet.
+    if (m_options.report || !m_options.savePolicy.asPublished) {
+        m_outcomes.resize(std::max(m_outcomes.size(), task.place + 1));
+        m_outcomes[task.place] = outcome;
+    }
+}
+
 void CliSession::finishSaving() {
     if (!m_queue) {
         return;
     }
     m_queue->finish();
     nameWhatTheCardTellsNow();
-    for (std::size_t i = 0; i < m_outcomes.size(); ++i) {
-        const PublishedItem& item = m_published[i];
-        m_tally.add(item.name, m_outcomes[i]);
+    for (std::size_t i = 0; m_options.report && !m_outcomes.empty(); ++i) {
+        const PublishedItem item = published(i);
         m_reported.push_back(
-            {item.name, item.type, item.firstSector, item.endSector, std::move(m_outcomes[i])});
+            {item.name, item.type, item.firstSector, item.endSector, std::move(m_outcomes.front())});
+        m_outcomes.pop_front();
     }
     m_outcomes.clear();
     saveToldFiles();
@@ -127,7 +138,7 @@ void CliSession::saveToldFiles() {
         FoundItem item{extension.isEmpty() ? QStringLiteral("FILE") : extension,
                        file->name,
                        {runsOf(*file), {}, [medium] { return medium; }, medium->mediumSectors()}};
-        item.source.hints = {{}, card(), file};
+        item.source.hints = {card(), file};
         SaveOutcome outcome = m_queue->saver().save(item);
         if (outcome.leftOut == LeftOut::Unsound) {
             continue;
@@ -135,6 +146,9 @@ void CliSession::saveToldFiles() {
         m_tally.add(item.name, outcome);
         m_told += outcome.saved ? 1 : 0;
         const SectorRun& first = item.source.carved.runs.front();
+        if (!m_options.report) {
+            continue;
+        }
         m_reported.push_back({item.name, item.type, first.first, first.end, std::move(outcome)});
     }
     m_queue->saver().flush();
@@ -148,19 +162,21 @@ void CliSession::nameWhatTheCardTellsNow() {
     }
     QHash<QString, QString> moved;  // from, to
     for (std::size_t i = 0; i < m_outcomes.size(); ++i) {
-        const auto listed = itemAt(i);
+        const auto listed = m_outcomes[i].saved ? itemAt(i) : nullptr;
         SaveOutcome& outcome = m_outcomes[i];
-        if (!listed || !outcome.saved) {
+        if (!listed) {
             continue;
         }
         const QString before = outcome.path;
-        FoundItem item{m_published[i].type,
-                       m_published[i].name,
-                       {listed->carved(), listed->heldBytes(), [this] { return m_queue->medium(); }}};
+        FoundItem item{listed->type(), listed->imageTitle(), {listed->carved(), listed->heldBytes(), [this] {
+                                                                  return m_queue->medium();
+                                                              }}};
         SectorReader* const medium = m_queue->medium();
         item.source.mediumSectors = medium != nullptr ? medium->mediumSectors() : 0;
         item.source.hints.card = known;
+        const bool named = outcome.original != nullptr;
         m_queue->saver().saveAsOnCard(item, outcome);
+        m_tally.named += !named && outcome.original ? 1 : 0;
         if (outcome.path != before && !outcome.duplicate) {
             moved.insert(before, outcome.path);
         }
@@ -172,33 +188,36 @@ void CliSession::nameWhatTheCardTellsNow() {
 }
 
 // Called for every item that is published, just before it is.
-void CliSession::save(const PublishedItem& item, const QByteArray& firstBytes) {
+void CliSession::save(const QString& name, const QByteArray& firstBytes) {
     if (m_queue) {
-        m_queue->add({item.type, item.name, handOver().carved, firstBytes, {{}, card()}});
+        m_queue->add({handOver().type, name, handOver().carved, firstBytes, {card()}});
     }
 }
 
-void CliSession::publish(PublishedItem item) {
-    m_published.push_back(std::move(item));
-    m_publishedCount = m_published.size();
+// Called for every item behind its entry in the list of found ones.
+void CliSession::publish(const QByteArray& sha256) {
+    if (m_options.listJson && m_options.mode == kPhotoMode) {
+        std::array<char, 32> sum{};
+        std::copy_n(sha256.data(), std::min<std::size_t>(sum.size(), static_cast<std::size_t>(sha256.size())),
+                    sum.data());
+        m_sums.push_back(sum);
+    }
+    m_publishedCount = itemCount();
+    if (handOver().pass == kGeneralPass) {
+        m_firstThorough = m_publishedCount;
+    }
 }
 
 void CliSession::addImageWithData(const QByteArray& data, const QString& imageName,
                                   const QString& image_UID) {
-    if (!data.isEmpty()) {
-        const HandOver& carve = handOver();
-        PublishedItem item{carve.pass,        carve.type,
-                           imageName,         image_UID,
-                           carve.firstSector, carve.firstSector + carve.bytes / kSectorBytes,
-                           carve.bytes,       carve.carved.readFailed,
-                           carve.sha256};
-        if (m_options.listJson && item.sha256.isEmpty()) {
-            item.sha256 = Sha256::of(data);
-        }
-        save(item, data);
-        publish(std::move(item));
+    if (data.isEmpty()) {
+        return;
     }
+    const bool wanted = m_options.listJson && handOver().sha256.isEmpty();
+    const QByteArray sha256 = wanted ? Sha256::of(data) : handOver().sha256;
+    save(imageName, data);
     ScanSession::addImageWithData(data, imageName, image_UID);
+    publish(sha256);
 }
 
 void CliSession::addImageWithData_2(const QByteArray& data, const QString& imageName,
@@ -206,70 +225,99 @@ void CliSession::addImageWithData_2(const QByteArray& data, const QString& image
                                     std::uint64_t File_End_Sec) {
     const std::size_t before = itemCount();
     ScanSession::addImageWithData_2(data, imageName, image_UID, File_Start_Sec, File_End_Sec);
-    if (itemCount() == before) {
-        return;
+    if (itemCount() != before) {
+        save(itemAt(before)->imageTitle(), {});
+        publish({});
     }
-    PublishedItem item{handOver().pass,
-                       handOver().type,
-                       itemAt(before)->imageTitle(),
-                       image_UID,
-                       File_Start_Sec,
-                       File_End_Sec,
-                       (File_End_Sec - File_Start_Sec) * kSectorBytes,
-                       handOver().carved.readFailed,
-                       {}};
-    save(item, {});
-    publish(std::move(item));
 }
 
-bool CliSession::checksumRawItems() {
-    if (m_options.mode == kPhotoMode) {
-        return true;
+void CliSession::mendMovies() {
+    const auto medium = openMedium();
+    if (!medium || stop_now != 0) {
+        return;
     }
-    bool all = true;
-    const std::atomic<int> neverStop{0};
-    for (PublishedItem& item : m_published) {
-        Sha256 hash;
-        const auto medium = openMedium();
-        const bool read =
-            medium &&
-            copyPreviewSectors(
-                *medium, item.firstSector, item.endSector, neverStop, [&](const std::uint8_t* sector) {
-                    hash.add(QByteArrayView(reinterpret_cast<const char*>(sector), kSectorBytes));
-                    return true;
-                });
-        // Bytes that were repeated while they were searched repeat here; what fails only now is not the item.
-        if (read || (medium && item.readFailed)) {
-            item.sha256 = hash.result();
-        } else {
-            all = false;
+    MovieMending mending(*medium, stop_now);
+    if (!m_options.reference.isEmpty()) {
+        const QString complaint = mending.useReference(m_options.reference);
+        if (!complaint.isEmpty()) {
+            m_mendingFailed = true;
+            m_mendingLines.append(complaint);
+            return;
         }
     }
+    std::vector<MendableItem> items;
+    for (std::size_t i = 0; i < m_publishedCount; ++i) {
+        const auto item = itemAt(i);
+        if (item && MovieMending::mayMend(item->type())) {
+            items.push_back({item->type(), item->imageTitle(), item->carved()});
+        }
+    }
+    mending.run(items, m_options.saveFolder);
+    m_mendingLines = mending.lines();
+    m_mendingFailed = mending.failed();
+}
+
+PublishedItem CliSession::published(std::size_t index) const {
+    const auto item = itemAt(index);
+    if (!item) {
+        return {};
+    }
+    const QStringView pass = index < m_firstThorough ? kGeneralPass : kThoroughPass;
+    return {pass.toString(),
+            item->type(),
+            item->imageTitle(),
+            item->imageUID(),
+            item->publishedSectors().first,
+            item->publishedSectors().end,
+            item->carved().readFailed};
+}
+
+// Empty where it could not be read once more.
+QByteArray CliSession::checksumOf(const PublishedItem& item) const {
+    const std::atomic<int> neverStop{0};
+    Sha256 hash;
+    const auto medium = openMedium();
+    const bool read =
+        medium && copyPreviewSectors(
+                      *medium, item.firstSector, item.endSector, neverStop, [&](const std::uint8_t* sector) {
+                          hash.add(QByteArrayView(reinterpret_cast<const char*>(sector), kSectorBytes));
+                          return true;
+                      });
+    // Bytes that were repeated while they were searched repeat here; what fails only now is not the item.
+    return read || (medium && item.readFailed) ? hash.result() : QByteArray();
+}
+
+bool CliSession::forEachJsonLine(const std::function<void(const QJsonObject&)>& take) const {
+    const auto number = [](std::uint64_t value) { return QJsonValue(static_cast<qint64>(value)); };
+    bool all = true;
+    for (std::size_t i = 0; i < m_publishedCount; ++i) {
+        const PublishedItem item = published(i);
+        const QByteArray sha256 = m_options.mode == kPhotoMode
+                                      ? QByteArray(m_sums[i].data(), static_cast<qsizetype>(m_sums[i].size()))
+                                      : checksumOf(item);
+        all = all && !sha256.isEmpty();
+        take({{QStringLiteral("pass"), item.pass},
+              {QStringLiteral("name"), item.name},
+              {QStringLiteral("uid"), item.uid},
+              {QStringLiteral("first_sector"), number(item.firstSector)},
+              {QStringLiteral("end_sector"), number(item.endSector)},
+              {QStringLiteral("bytes"), number(item.bytes())},
+              {QStringLiteral("sha256"),
+               sha256.isEmpty() ? QJsonValue() : QString::fromLatin1(sha256.toHex())}});
+    }
+    take(endLine());
     return all;
 }
 
-std::vector<QJsonObject> CliSession::jsonLines() const {
-    const auto number = [](std::uint64_t value) { return QJsonValue(static_cast<qint64>(value)); };
-    std::vector<QJsonObject> lines;
-    for (const PublishedItem& item : m_published) {
-        lines.push_back({{QStringLiteral("pass"), item.pass},
-                         {QStringLiteral("name"), item.name},
-                         {QStringLiteral("uid"), item.uid},
-                         {QStringLiteral("first_sector"), number(item.firstSector)},
-                         {QStringLiteral("end_sector"), number(item.endSector)},
-                         {QStringLiteral("bytes"), number(item.bytes)},
-                         {QStringLiteral("sha256"),
-                          item.sha256.isEmpty() ? QJsonValue() : QString::fromLatin1(item.sha256.toHex())}});
-    }
+QJsonObject CliSession::endLine() const {
     QJsonArray rows;
     for (const ResultRow& row : resultRows()) {
         rows.append(QJsonObject{{QStringLiteral("type"), row.value(QStringLiteral("FileTypes"))},
                                 {QStringLiteral("count"), static_cast<qint64>(countOf(row))}});
     }
-    lines.push_back({{QStringLiteral("end"), outcomeText(lastOutcome())},
-                     {QStringLiteral("alerts"), QJsonArray::fromStringList(alerts())},
-                     {QStringLiteral("rows"), rows}});
-    return lines;
+    return {{QStringLiteral("end"), outcomeText(lastOutcome())},
+            {QStringLiteral("alerts"), QJsonArray::fromStringList(alerts())},
+            {QStringLiteral("rows"), rows}};
 }
 
 }  // namespace vantor

@@ -4,6 +4,9 @@
 #include <QJsonObject>
 #include <QList>
 #include <QStringList>
+#include <array>
+#include <deque>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -23,10 +26,13 @@ struct PublishedItem {
     QString uid;
     std::uint64_t firstSector = 0;
     std::uint64_t endSector = 0;  // exclusive
-    std::uint64_t bytes = 0;
-    bool readFailed = false;  // while it was searched
-    QByteArray sha256;        // raw; of raw items only once they were checksummed, empty where that failed
+    bool readFailed = false;      // while it was searched
+
+    std::uint64_t bytes() const { return (endSector - firstSector) * kSectorBytes; }
 };
+
+// What the range controls of a window would say.
+RangeControls controlsFor(const CliOptions& options, std::uint64_t mediumSectors);
 
 // The view of a scan that nobody watches: it answers from the options and keeps the alerts.
 class CliView : public ScanView {
@@ -76,6 +82,8 @@ class CliSession : private CliView, public ScanSession {
     CliSession(const CliOptions& options, std::uint64_t mediumSectors);
     ~CliSession() override;
 
+    // Where to save, in place of the folder that the options name.
+    void setDestination(const QString& folder) { m_options.saveFolder = folder; }
     // Asked before each file is saved.
     void setLiesOnMedium(ItemSaver::LiesOnMedium asked) { m_liesOnMedium = std::move(asked); }
 
@@ -87,14 +95,19 @@ class CliSession : private CliView, public ScanSession {
     // the scan goes on.
     void run();
 
-    // Checksums of raw items, from a copy of their sectors as the preview makes it.
-    bool checksumRawItems();
+    // Behind run(): writes a playable twin of each movie without an index beside what was saved.
+    void mendMovies();
+    // What became of that, for the user; and whether something could not be written.
+    const QStringList& mendingLines() const { return m_mendingLines; }
+    bool mendingFailed() const { return m_mendingFailed; }
 
-    std::vector<QJsonObject> jsonLines() const;
+    // An object for each item, and one for the end. Raw items get their checksums from a copy of their
+    // sectors as the preview makes it; false when not all could be read.
+    bool forEachJsonLine(const std::function<void(const QJsonObject&)>& take) const;
 
-    const std::vector<PublishedItem>& published() const { return m_published; }
+    PublishedItem published(std::size_t index) const;
     const SaveTally& saveTally() const { return m_tally; }
-    // Every published item with what became of it; without a destination none.
+    // Every published item with what became of it; none unless a report is wanted.
     const std::vector<ReportedItem>& reportedItems() const { return m_reported; }
     // Files that only the card's directories tell of and that were saved all the same.
     std::size_t toldCount() const { return m_told; }
@@ -106,21 +119,31 @@ class CliSession : private CliView, public ScanSession {
                           const QString& image_UID) override;
     void addImageWithData_2(const QByteArray& data, const QString& imageName, const QString& image_UID,
                             std::uint64_t File_Start_Sec, std::uint64_t File_End_Sec) override;
-    void publish(PublishedItem item);
-    void save(const PublishedItem& item, const QByteArray& firstBytes);
+    // Checksums and saving need all of a photo, a list nothing but its name.
+    PhotoBytes photoBytesNeeded() const override {
+        return m_options.listJson || !m_options.saveFolder.isEmpty() ? PhotoBytes::All : PhotoBytes::First;
+    }
+    void publish(const QByteArray& sha256);
+    void save(const QString& name, const QByteArray& firstBytes);
+    void noteOutcome(const SaveTask& task, const SaveOutcome& outcome);
     void finishSaving();
     void nameWhatTheCardTellsNow();
     void saveToldFiles();
+    QByteArray checksumOf(const PublishedItem& item) const;
+    QJsonObject endLine() const;
 
     CliOptions m_options;
-    std::vector<PublishedItem> m_published;
     std::atomic<std::size_t> m_publishedCount{0};
-    std::vector<SaveOutcome> m_outcomes;  // in the order of m_published; the saving thread's until it ends
+    std::size_t m_firstThorough = 0;          // items before it are of the general pass
+    std::deque<std::array<char, 32>> m_sums;  // of photos, where they are listed
+    std::deque<SaveOutcome> m_outcomes;       // where a report is wanted; the saving thread's until it ends
     ItemSaver::LiesOnMedium m_liesOnMedium;
     std::unique_ptr<SaveQueue> m_queue;  // while a scan runs that saves
     std::vector<ReportedItem> m_reported;
-    SaveTally m_tally;
+    SaveTally m_tally;  // the saving thread's until it ends
     std::size_t m_told = 0;
+    QStringList m_mendingLines;
+    bool m_mendingFailed = false;
 };
 
 }  // namespace vantor

@@ -17,7 +17,7 @@ struct CopyOptions {
     // Fills in what was given; a sentence when it makes no sense.
     std::optional<QString> read(const QCommandLineParser& parser, CliOptions& options) const;
 
-    QCommandLineOption map;
+    QCommandLineOption image, scrape, map;
 };
 
 }  // namespace vantor

@@ -8,6 +8,7 @@
 
 #include "catalogue/NumberText.h"
 #include "cli/Options.h"
+#include "media/LabelText.h"
 #include "media/MediaList.h"
 
 namespace vantor {
@@ -28,23 +29,12 @@ void printJson(const Records& records) {
     }
 }
 
-// A volume's label is whatever somebody wrote on the card: nothing in it speaks to the terminal.
-QString harmless(const QString& text) {
-    QString shown;
-    for (const QChar c : text) {
-        const bool invisible = c.category() == QChar::Other_Control || c.category() == QChar::Other_Format ||
-                               c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
-        shown += invisible ? QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0')) : QString(c);
-    }
-    return shown;
-}
-
 void printTable(const Records& records) {
     QList<QStringList> rows{{QStringLiteral("Medium"), QStringLiteral("Name"), QStringLiteral("File system"),
                              QStringLiteral("Size"), QStringLiteral("Disk"), QStringLiteral("Sectors")}};
     for (const auto& record : records) {
-        rows.append({record->nsStrDiskIdentifier, harmless(record->nsStrVolName),
-                     harmless(record->nsStrFileSystem), record->nsStrSize.simplified(),
+        rows.append({record->nsStrDiskIdentifier, shownLabel(record->nsStrVolName),
+                     shownLabel(record->nsStrFileSystem), record->nsStrSize.simplified(),
                      record->nsStrParentDisk, record->nsStrSectors});
     }
     QList<qsizetype> widths(rows.first().size(), 0);

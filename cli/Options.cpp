@@ -61,6 +61,17 @@ ParsedOptions parseOptions(const QStringList& arguments) {
                                    QStringLiteral("START:END"));
     const QCommandLineOption noThorough(QStringLiteral("no-thorough"),
                                         QStringLiteral("Leave out the thorough pass of photo mode."));
+    const QCommandLineOption retryBad(
+        QStringLiteral("retry-bad"),
+        QStringLiteral("Ask the medium again for bad sectors in the thorough pass and for saving."));
+    const QCommandLineOption sessionFile(
+        QStringLiteral("session"),
+        QStringLiteral("Keep the search in FILE, so that --resume can go on with it."),
+        QStringLiteral("FILE"));
+    const QCommandLineOption resume(
+        QStringLiteral("resume"),
+        QStringLiteral("Go on with the search kept in FILE; MEDIUM may be left out."),
+        QStringLiteral("FILE"));
     const QCommandLineOption catalogue(QStringLiteral("catalogue"),
                                        QStringLiteral("Folder of the six signature catalogues."),
                                        QStringLiteral("DIR"), resourcesFolder());
@@ -77,8 +88,8 @@ ParsedOptions parseOptions(const QStringList& arguments) {
         QStringLiteral("list-files"),
         QStringLiteral("Print what the medium's own directories tell of its files, those that "
                        "are there and those that were, as one JSON object each, and search nothing."));
-    parser.addOptions(
-        {help, version, mode, types, range, noThorough, catalogue, listJson, listMedia, listFiles});
+    parser.addOptions({help, version, mode, types, range, noThorough, retryBad, sessionFile, resume,
+                       catalogue, listJson, listMedia, listFiles});
     saving.addTo(parser);
     copying.addTo(parser);
     parser.addPositionalArgument(
@@ -105,6 +116,15 @@ ParsedOptions parseOptions(const QStringList& arguments) {
     }
     CliOptions& options = parsed.options;
     options.mode = *chosenMode;
+    options.resume = parser.isSet(resume);
+    if (options.resume && (parser.isSet(mode) || parser.isSet(types) || parser.isSet(range) ||
+                           parser.isSet(noThorough) || parser.isSet(sessionFile))) {
+        return badUsage(QStringLiteral("What to search for stands in the file of --resume."));
+    }
+    options.sessionFile = parser.value(options.resume ? resume : sessionFile);
+    if (options.sessionFile.isEmpty() && (options.resume || parser.isSet(sessionFile))) {
+        return badUsage(QStringLiteral("No file given to keep the search in."));
+    }
     if (parser.isSet(types)) {
         if (options.mode == kPhotoMode) {
             return badUsage(
@@ -121,6 +141,7 @@ ParsedOptions parseOptions(const QStringList& arguments) {
         options.range = {text.left(colon), text.mid(colon + 1)};
     }
     options.thorough = !parser.isSet(noThorough);
+    options.retryBad = parser.isSet(retryBad);
     options.catalogueFolder = parser.value(catalogue);
     for (const auto& complaint : {saving.read(parser, options), copying.read(parser, options)}) {
         if (complaint) {
@@ -133,6 +154,9 @@ ParsedOptions parseOptions(const QStringList& arguments) {
     const QStringList media = parser.positionalArguments();
     if (options.listMedia) {
         return media.isEmpty() ? parsed : badUsage(QStringLiteral("--list-media takes no medium."));
+    }
+    if (options.resume && media.isEmpty()) {
+        return parsed;
     }
     if (media.size() != 1) {
         return badUsage(media.isEmpty() ? QStringLiteral("No medium given.")

@@ -15,15 +15,23 @@ struct CliOptions {
     std::optional<QStringList> types;                  // none: all
     std::optional<std::pair<QString, QString>> range;  // start and end sector as typed
     bool thorough = true;
+    bool retryBad =
+        false;  // sectors that were refused twice are asked for again by the later pass and saving
     QString catalogueFolder;
     QString saveFolder;  // empty: nothing is saved
     SavePolicy savePolicy;
     bool report = false;  // beside the saved files
+    bool repairMovies = false;
+    QString reference;  // a whole movie of the same camera; empty: one of those found
     bool listJson = false;
     bool listMedia = false;  // nothing is searched
     bool listFiles = false;  // only what the medium's directories tell
-    QString medium;
-    QString map;  // of an image; empty: the one beside it
+    QString sessionFile;     // where the search is kept; empty: nowhere
+    bool resume = false;     // goes on with the search of the session file, whose wishes count
+    QString medium;          // empty only with `resume`: the one that was searched
+    QString map;             // of an image; empty: the one beside it
+    QString image;           // where the medium is copied to; empty: it is not
+    bool scrape = false;     // the copy leaves nothing out
 };
 
 // The exit codes, which --help lists.

@@ -6,6 +6,7 @@
 #include <mutex>
 
 #include "cli/CliSession.h"
+#include "saving/CopyWords.h"
 #include "scan/ProgressText.h"
 
 namespace vantor {
@@ -16,8 +17,8 @@ constexpr auto kTick = std::chrono::milliseconds(500);
 
 }  // namespace
 
-ProgressLine::ProgressLine(const CliSession& session)
-    : m_session(session), m_thread([this](const std::stop_token& stop) {
+ProgressLine::ProgressLine(const CliSession& session, std::shared_ptr<const MediumCopy> copy)
+    : m_session(session), m_copy(std::move(copy)), m_thread([this](const std::stop_token& stop) {
           std::mutex mutex;
           std::condition_variable_any wake;
           std::unique_lock lock(mutex);
@@ -39,14 +40,17 @@ void ProgressLine::draw() {
     }
     if (const std::uint64_t total = m_session.total_sector; total != m_total || index - start < m_done) {
         m_total = total;
-        m_meter.begin(total, m_session.sectorsOfLaterPasses());  // another pass began
+        m_meter.begin(total);  // another pass began
     }
     m_done = index - start;
     const auto now = std::chrono::steady_clock::now() - m_begun;
     m_meter.update(std::chrono::duration_cast<std::chrono::milliseconds>(now).count(), m_done);
-    const QString text = QStringLiteral("%1%   %2")
-                             .arg(percentDone(index, start, m_session.total_sector), 3)
-                             .arg(m_meter.text(m_session.publishedCount()));
+    QString text = QStringLiteral("%1%   %2")
+                       .arg(percentDone(index, start, m_session.total_sector), 3)
+                       .arg(m_meter.text(m_session.publishedCount()));
+    if (m_copy) {
+        text += QStringLiteral("  ·  ") + copyWords(m_copy->progress());
+    }
     std::fprintf(stderr, "\r\033[K%s", qPrintable(text));
     std::fflush(stderr);
 }

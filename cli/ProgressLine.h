@@ -3,8 +3,10 @@
 
 #include <chrono>
 #include <cstdint>
+#include <memory>
 #include <thread>
 
+#include "media/MediumCopy.h"
 #include "scan/ScanMeter.h"
 
 namespace vantor {
@@ -14,13 +16,15 @@ class CliSession;
 // Draws on standard error twice a second from its own thread until it is destroyed, and then wipes the line.
 class ProgressLine {
   public:
-    explicit ProgressLine(const CliSession& session);
+    // `copy` is absent where none is made.
+    ProgressLine(const CliSession& session, std::shared_ptr<const MediumCopy> copy);
     ~ProgressLine();
 
   private:
     void draw();
 
     const CliSession& m_session;
+    const std::shared_ptr<const MediumCopy> m_copy;
     const std::chrono::steady_clock::time_point m_begun = std::chrono::steady_clock::now();
     ScanMeter m_meter;
     std::uint64_t m_total = 0;

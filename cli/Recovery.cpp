@@ -12,6 +12,8 @@
 #include <array>
 #include <csignal>
 #include <cstdio>
+#include <memory>
+#include <optional>
 #include <thread>
 #include <utility>
 
@@ -20,11 +22,16 @@
 #include "catalogue/TextHelpers.h"
 #include "cli/CliMedium.h"
 #include "cli/CliSession.h"
+#include "cli/KeptSearch.h"
 #include "cli/ListFiles.h"
 #include "cli/ListMedia.h"
 #include "cli/ProgressLine.h"
+#include "decode/ErasedCardCheck.h"
+#include "media/PathArgument.h"
 #include "media/PlatformMedia.h"
 #include "results/SizeForPeople.h"
+#include "saving/CopyPlace.h"
+#include "saving/CopyWords.h"
 #include "saving/DestinationCheck.h"
 
 namespace vantor {
@@ -79,11 +86,11 @@ void runBesideEvents(const std::function<void()>& work) {
 }
 
 void complain(const QString& text) {
-    std::fprintf(stderr, "vantor-recovery-cli: %s\n", qPrintable(Trim_Str(text)));
+    std::fprintf(stderr, "vantor-recovery-cli: %s\n", qPrintable(withShownPaths(Trim_Str(text))));
 }
 
 // The destination, made ready; false after saying why not.
-bool prepareDestination(const CliOptions& options, const QString& mediumPath) {
+bool prepareDestination(CliOptions& options, const QString& mediumPath) {
     if (options.saveFolder.isEmpty()) {
         return true;
     }
@@ -94,11 +101,39 @@ bool prepareDestination(const CliOptions& options, const QString& mediumPath) {
                      .arg(options.saveFolder));
         return false;
     }
-    if (!QDir().mkpath(options.saveFolder) || !QFileInfo(options.saveFolder).isWritable()) {
+    if (!makeFolder(options.saveFolder) || !QFileInfo(options.saveFolder).isWritable()) {
         complain(QStringLiteral("The folder %1 cannot be written to.").arg(options.saveFolder));
         return false;
     }
     return true;
+}
+
+// The copy that was asked for, which will read the medium for all others; null after saying why not.
+std::shared_ptr<MediumCopy> beginCopy(const CliOptions& options, const CliMedium& medium) {
+    if (medium.sectors == 0) {
+        complain(QStringLiteral("%1 cannot be copied: its size is not known.").arg(options.medium));
+        return nullptr;
+    }
+    if (const auto refusal = refuseCopyPlace(options.image, medium.path)) {
+        complain(*refusal);
+        return nullptr;
+    }
+    for (const QString& warning : warnOfCopyPlace(options.image, medium.sectors)) {
+        complain(warning);
+    }
+    QString why;
+    auto file = CopyFile::open(options.image, medium.sectors, &why);
+    if (!file) {
+        complain(why);
+        return nullptr;
+    }
+    auto copy = MediumCopy::make(std::move(file), medium.openSource);
+    if (options.scrape) {
+        copy->scrapeAll();
+    }
+    const SectorRange range = rangeFromControls(controlsFor(options, medium.sectors));
+    copy->copy(copyGoals({range.start, range.end}, medium.sectors));
+    return copy;
 }
 
 bool rangeRefused(const CliOptions& options, std::uint64_t mediumSectors) {
@@ -155,27 +190,26 @@ bool typesRefused(CliSession& session, const CliOptions& options) {
 }
 
 // False when not all items could be read for their checksums.
-bool printJson(CliSession& session) {
-    const bool all = session.checksumRawItems();
-    for (const QJsonObject& line : session.jsonLines()) {
+bool printJson(const CliSession& session) {
+    return session.forEachJsonLine([](const QJsonObject& line) {
         std::printf("%s\n", QJsonDocument(line).toJson(QJsonDocument::Compact).constData());
-    }
-    return all;
+    });
 }
 
 void printTable(const CliSession& session) {
     QMap<QString, std::uint64_t> perType;
-    for (const PublishedItem& item : session.published()) {
+    for (std::size_t i = 0; i < session.publishedCount(); ++i) {
+        const PublishedItem item = session.published(i);
         ++perType[item.type];
         std::printf("%s  %-20s  sectors %s to %s  %s\n", qPrintable(item.pass), qPrintable(item.name),
                     qPrintable(numberForPeople(item.firstSector)),
-                    qPrintable(numberForPeople(item.endSector)), qPrintable(sizeForPeople(item.bytes)));
+                    qPrintable(numberForPeople(item.endSector)), qPrintable(sizeForPeople(item.bytes())));
     }
     QStringList counts;
     for (auto type = perType.cbegin(); type != perType.cend(); ++type) {
         counts.append(QStringLiteral("%1 %2").arg(numberForPeople(type.value()), type.key()));
     }
-    std::printf("%s found%s%s\n", qPrintable(numberForPeople(session.published().size())),
+    std::printf("%s found%s%s\n", qPrintable(numberForPeople(session.publishedCount())),
                 counts.isEmpty() ? "" : ": ", qPrintable(counts.join(QStringLiteral(", "))));
 }
 
@@ -187,7 +221,7 @@ void tellSaving(const CliSession& session, const CliOptions& options) {
                      qPrintable(numberForPeople(session.toldCount())));
     }
     for (const QString& line : tally.lines(QDir(options.saveFolder).absolutePath())) {
-        std::fprintf(out, "%s\n", qPrintable(line));
+        std::fprintf(out, "%s\n", qPrintable(withShownPaths(line)));
     }
     if (tally.failed != 0) {
         complain(QStringLiteral("%1 could not be saved:").arg(numberForPeople(tally.failed)));
@@ -197,6 +231,12 @@ void tellSaving(const CliSession& session, const CliOptions& options) {
         if (static_cast<std::uint64_t>(tally.failures.size()) < tally.failed) {
             complain(QStringLiteral("  and others"));
         }
+    }
+}
+
+void tellMending(const CliSession& session, const CliOptions& options) {
+    for (const QString& line : session.mendingLines()) {
+        std::fprintf(options.listJson ? stderr : stdout, "%s\n", qPrintable(line));
     }
 }
 
@@ -211,12 +251,30 @@ bool writeReportOf(const CliSession& session, const CliOptions& options, ReportH
         complain(written.error);
         return false;
     }
-    std::fprintf(options.listJson ? stderr : stdout, "Report: %s\n", qPrintable(written.html));
+    std::fprintf(options.listJson ? stderr : stdout, "Report: %s\n",
+                 qPrintable(withShownPaths(written.html)));
     return true;
 }
 
+// Looks at a medium before a search of all of it, and hands what came of opening it to whoever opens it next,
+// so that nobody is asked for his consent twice.
+MediumOpener openerAfterALook(const CliMedium& medium) {
+    auto opened = std::make_shared<std::optional<std::unique_ptr<SectorReader>>>(medium.open(QString()));
+    SectorReader* reader = opened->value().get();
+    if (reader && looksErased(*reader, medium.sectors)) {
+        complain(QString::fromLatin1(kErasedCardWords) + QStringLiteral(" Searched all the same."));
+    }
+    if (reader && !reader->seek(0)) {
+        opened->reset();
+    }
+    return [opened, open = medium.open](const QString& path) {
+        auto first = std::exchange(*opened, std::nullopt);
+        return first ? std::move(*first) : open(path);
+    };
+}
+
 int exitCodeOf(const CliSession& session) {
-    if (session.saveTally().failed != 0) {
+    if (session.saveTally().failed != 0 || session.mendingFailed()) {
         return kExitDestinationTrouble;
     }
     switch (session.lastOutcome()) {
@@ -234,7 +292,7 @@ int exitCodeOf(const CliSession& session) {
 }
 
 // Why the search did not get to its end, and how to get there.
-void tellEnd(const SearchEnd& end, const CliMedium& medium) {
+void tellEnd(const SearchEnd& end, const CliOptions& options, const CliMedium& medium) {
     if (end.isFlawless()) {
         return;
     }
@@ -243,7 +301,9 @@ void tellEnd(const SearchEnd& end, const CliMedium& medium) {
     if (end.outcome == PassOutcome::OpenError && !why.isEmpty()) {
         complain(why);
     }
-    if (end.canGoOn()) {
+    if (end.canGoOn() && !options.sessionFile.isEmpty()) {
+        complain(QStringLiteral("To go on from there: --resume %1").arg(options.sessionFile));
+    } else if (end.canGoOn()) {
         complain(QStringLiteral("To go on from there: --range %1:%2").arg(end.goOnAt).arg(end.end));
     }
 }
@@ -253,7 +313,7 @@ int tell(CliSession& session, const CliOptions& options, const CliMedium& medium
     for (const QString& alert : session.alerts()) {
         complain(alert);
     }
-    tellEnd(session.searchEnd(), medium);
+    tellEnd(session.searchEnd(), options, medium);
     bool allRead = true;
     if (options.listJson) {
         allRead = printJson(session);
@@ -262,6 +322,7 @@ int tell(CliSession& session, const CliOptions& options, const CliMedium& medium
     }
     if (!options.saveFolder.isEmpty()) {
         tellSaving(session, options);
+        tellMending(session, options);
     }
     if (options.report && !writeReportOf(session, options, head)) {
         return kExitDestinationTrouble;
@@ -279,14 +340,35 @@ int tell(CliSession& session, const CliOptions& options, const CliMedium& medium
     return code;
 }
 
+// False after saying that the copy could not be written to its end.
+bool tellCopy(const MediumCopy& copy, const CliOptions& options) {
+    const CopyProgress progress = copy.progress();
+    std::fprintf(options.listJson ? stderr : stdout, "Copy: %s\n", qPrintable(copyEndWords(progress)));
+    if (!progress.trouble.isEmpty()) {
+        complain(progress.trouble);
+    }
+    return progress.trouble.isEmpty();
+}
+
 }  // namespace
 
-int recover(const CliOptions& options) {
+int recover(CliOptions options) {
+    std::optional<SearchRecord> kept;
+    QString why;
+    if (options.resume) {
+        kept = readKeptSearch(options.sessionFile, &why);
+        if (!kept) {
+            complain(QStringLiteral("%1: %2").arg(options.sessionFile, why));
+            return kExitBadUsage;
+        }
+        takeWishes(*kept, options);
+    }
     const std::unique_ptr<MediaSource> source = makePlatformMediaSource();
     if (options.listMedia) {
         return listMedia(*source, options.listJson);
     }
     std::atomic<bool> walkAway{false};
+    const StopRequest stop = [&walkAway] { return walkAway.load(); };
     const CliMedium medium = findMedium(
         options.medium, *source, [&walkAway] { return walkAway.load(); }, options.map);
     if (!medium.complaint.isEmpty()) {
@@ -303,14 +385,17 @@ int recover(const CliOptions& options) {
         return kExitBadUsage;
     }
     ReportHead head;
-    head.medium = options.medium;
+    head.medium = withShownPaths(options.medium);
     head.sectors = medium.sectors;
     head.begun = QDateTime::currentDateTime();
     CliSession session(options, medium.sectors);
-    session.setMediumOpener(medium.open);
     session.setAskCard(!options.saveFolder.isEmpty());
     session.setLiesOnMedium([path = medium.path](const QString& destination) {
         return destinationIsOnMedium(destination, path);
+    });
+    session.setSpillFolder([path = medium.path] {
+        const QString folder = QDir::tempPath();
+        return destinationIsOnMedium(folder, path) ? QString() : folder;
     });
     session.loadCatalogues(options.catalogueFolder);
     if (cataloguesRefused(options) || typesRefused(session, options)) {
@@ -319,15 +404,50 @@ int recover(const CliOptions& options) {
     if (!prepareDestination(options, medium.path)) {
         return kExitDestinationTrouble;
     }
+    session.setDestination(options.saveFolder);
+    std::shared_ptr<MediumCopy> copy;
+    if (!options.image.isEmpty() && !(copy = beginCopy(options, medium))) {
+        return kExitDestinationTrouble;
+    }
+    const MediumOpener open = copy ? [copy, stop](const QString&) { return copy->openReader(stop); } : medium.open;
+    const auto refused = options.retryBad ? ScanSession::RefusedSectorsAre::AskedForAgain
+                                          : ScanSession::RefusedSectorsAre::KnownToAll;
+    session.setMediumOpener(open, refused);
+    if (!options.sessionFile.isEmpty() &&
+        destinationIsOnMedium(QFileInfo(options.sessionFile).absolutePath(), medium.path)) {
+        complain(QStringLiteral("%1 lies on the medium that is to be searched.").arg(options.sessionFile));
+        return kExitDestinationTrouble;
+    }
+    std::shared_ptr<SearchKeeper> keeper;
+    runBesideEvents([&] { keeper = keeperFor(options, session, medium, kept, &why); });
+    if (!why.isEmpty()) {
+        complain(QStringLiteral("The search cannot go on. ") + why);
+        return kExitCannotOpen;
+    }
+    session.keepSearch(keeper);
     {
         const StopOnInterrupt interrupt(session.stop_now, walkAway);
         std::optional<ProgressLine> line;
         if (::isatty(STDERR_FILENO) == 1) {
-            line.emplace(session);
+            line.emplace(session, copy);
         }
-        runBesideEvents([&session] { session.run(); });
+        runBesideEvents([&] {
+            // A copy is read in its own order, and who goes on has looked before.
+            if (!options.range && medium.sectors != 0 && !copy && !kept) {
+                session.setMediumOpener(openerAfterALook(medium), refused);
+            }
+            session.run();
+            if (options.repairMovies) {
+                session.mendMovies();
+            }
+        });
     }
-    return tell(session, options, medium, head);
+    if (keeper && !keeper->error().isEmpty()) {
+        complain(QStringLiteral("The search could not be kept in %1: %2")
+                     .arg(options.sessionFile, keeper->error()));
+    }
+    const int code = tell(session, options, medium, head);
+    return !copy || tellCopy(*copy, options) || code != kExitCompleted ? code : kExitDestinationTrouble;
 }
 
 }  // namespace vantor

@@ -6,6 +6,6 @@
 namespace vantor {
 
 // Searches, saves and prints as asked; the exit code is the program's.
-int recover(const CliOptions& options);
+int recover(CliOptions options);
 
 }  // namespace vantor

@@ -66,11 +66,18 @@ SaveOptions::SaveOptions()
       minBytes(option("min-bytes", "Do not save files of fewer bytes.", "N")),
       minPixels(option("min-pixels", "Do not save pictures whose longer side has fewer pixels.", "N")),
       keepDuplicates(option("keep-duplicates", "Save the same bytes again when they are found again.")),
-      skipUnsound(option("skip-unsound", "Do not save what is certainly no file of its type.")) {}
+      skipUnsound(option("skip-unsound", "Do not save what is certainly no file of its type.")),
+      repairMovies(
+          option("repair-movies",
+                 "Write a playable twin, \"... repaired.MP4\", of each MP4 or QuickTime movie whose "
+                 "index was never written; a whole movie of the same camera has to be found as well.")),
+      reference(option(
+          "reference",
+          "A whole movie of the camera, in place of those that are found (with --repair-movies).", "FILE")) {}
 
 void SaveOptions::addTo(QCommandLineParser& parser) const {
     parser.addOptions({save, asPublished, report, names, folders, lostOnly, byDate, minBytes, minPixels,
-                       keepDuplicates, skipUnsound});
+                       keepDuplicates, skipUnsound, repairMovies, reference});
 }
 
 std::optional<QString> SaveOptions::read(const QCommandLineParser& parser, CliOptions& options) const {
@@ -79,7 +86,7 @@ std::optional<QString> SaveOptions::read(const QCommandLineParser& parser, CliOp
         return QStringLiteral("--save takes a folder.");
     }
     for (const auto* other : {&asPublished, &report, &names, &folders, &lostOnly, &byDate, &minBytes,
-                              &minPixels, &keepDuplicates, &skipUnsound}) {
+                              &minPixels, &keepDuplicates, &skipUnsound, &repairMovies}) {
         if (parser.isSet(*other) && !parser.isSet(save)) {
             return QStringLiteral("--%1 goes with --save.").arg(other->names().constFirst());
         }
@@ -104,6 +111,9 @@ std::optional<QString> SaveOptions::read(const QCommandLineParser& parser, CliOp
     if (parser.isSet(byDate) && parser.isSet(folders) && *folderChoice != SaveFolders::Date) {
         return QStringLiteral("--by-date is --folders date.");
     }
+    if (parser.isSet(reference) && !parser.isSet(repairMovies)) {
+        return QStringLiteral("--reference goes with --repair-movies.");
+    }
     const auto leastBytes = numberOf(parser, minBytes);
     const auto leastPixels = numberOf(parser, minPixels);
     if (!leastBytes || !leastPixels) {
@@ -120,6 +130,8 @@ std::optional<QString> SaveOptions::read(const QCommandLineParser& parser, CliOp
     constexpr quint64 kMostPixels = std::numeric_limits<std::uint32_t>::max();
     policy.minPixels = static_cast<std::uint32_t>(std::min(*leastPixels, kMostPixels));
     options.report = parser.isSet(report);
+    options.repairMovies = parser.isSet(repairMovies);
+    options.reference = parser.value(reference);
     policy.checksums = options.report;
     return std::nullopt;
 }

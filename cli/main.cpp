@@ -4,13 +4,14 @@
 
 #include "cli/Options.h"
 #include "cli/Recovery.h"
+#include "media/PathArgument.h"
 
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
-    const vantor::ParsedOptions parsed = vantor::parseOptions(QCoreApplication::arguments().mid(1));
+    const vantor::ParsedOptions parsed = vantor::parseOptions(vantor::argumentsFromBytes(argc, argv));
     if (parsed.exitCode) {
         std::fprintf(*parsed.exitCode == vantor::kExitCompleted ? stdout : stderr, "%s\n",
-                     qPrintable(parsed.message));
+                     qPrintable(vantor::withShownPaths(parsed.message)));
         return *parsed.exitCode;
     }
     return vantor::recover(parsed.options);

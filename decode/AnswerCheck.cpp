@@ -7,8 +7,10 @@ namespace vantor::decode {
 
 namespace {
 
-bool isSound(RequestKind kind) {
-    return kind == RequestKind::OpenSound || kind == RequestKind::NextSound;
+// Sound and counts come as one row.
+bool isOneRow(RequestKind kind) {
+    return kind == RequestKind::OpenSound || kind == RequestKind::NextSound ||
+           kind == RequestKind::SplitSound || kind == RequestKind::TryMovie;
 }
 
 }  // namespace
@@ -23,7 +25,7 @@ std::optional<Answer> believed(const Request& request, const Answer& answer) {
     if (answer.status == AnswerStatus::NotDecodable || answer.status == AnswerStatus::EndOfMovie) {
         return clean;  // and nothing else is said then
     }
-    const std::uint32_t mostHeight = isSound(request.kind) ? 1 : request.maxHeight;
+    const std::uint32_t mostHeight = isOneRow(request.kind) ? 1 : request.maxHeight;
     if (answer.status != AnswerStatus::Ok || answer.width == 0 || answer.width > request.maxWidth ||
         answer.height == 0 || answer.height > mostHeight) {
         return std::nullopt;

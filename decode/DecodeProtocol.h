@@ -35,9 +35,27 @@ enum class RequestKind : std::uint32_t {
     OpenSound = 4,  // open the file, decode the first piece of its sound
     NextSound = 5,  // what follows the last piece, or the piece around timeMs when that is not negative
     OpenCover = 6,  // as OpenMovie; a sound file's cover does as well
-    ReadCard = 7,   // read the file systems of the card that the input tells of (CardExchange.h)
-    MoreOfCard = 8,  // the input is what the last answer asked for
+    SplitSound = 7,   // the input is a SoundToSplit and what it tells; gives the lengths of its packets
+    TryMovie = 8,     // open the file, decode its beginning; gives a MovieTrialCounts
+    ReadCard = 9,     // read the file systems of the card that the input tells of (CardExchange.h)
+    MoreOfCard = 10,  // the input is what the last answer asked for
 };
+
+// What the input of SplitSound begins with; the decoder's configuration and the sound follow. The answer's
+// pixels are the lengths in bytes of as many packets as follow each other from the first byte on, 32 bits
+// each, and its width is their count.
+struct SoundToSplit {
+    char coding[4] = {};  // name of the sample entry
+    std::uint32_t configurationBytes = 0;
+};
+
+// The answer's pixels for TryMovie; its width is the count of these numbers.
+struct MovieTrialCounts {
+    std::uint32_t pictures = 0;
+    std::uint32_t soundFrames = 0;
+    std::uint32_t errors = 0;
+};
+constexpr std::uint32_t kMovieTrialWords = sizeof(MovieTrialCounts) / kBytesPerPixel;
 
 // Which descriptors ride with a request, in this order.
 enum RequestDescriptors : std::uint32_t {

@@ -188,9 +188,7 @@ AskOutcome HelperProcess::exchange(Request& request, int file, std::chrono::mill
         return AskOutcome::NotPossible;
     }
     request.serial = ++m_serial;
-    const bool hasInput = request.kind == RequestKind::Picture || request.kind == RequestKind::ReadCard ||
-                          request.kind == RequestKind::MoreOfCard;
-    const bool withInput = file < 0 && hasInput && !m_inputSent;
+    const bool withInput = file < 0 && request.inputBytes != 0 && !m_inputSent;
     const auto until = Clock::now() + deadline;
     if (!send(request, file, withInput, !m_outputSent)) {
         return AskOutcome::NotTaken;

@@ -8,19 +8,22 @@
 
 namespace vantor::decode {
 
+QString movieHelperOf(const MovieReaderOptions& options) {
+    return options.helper.isEmpty() ? DecodePool::helperPath(QStringLiteral("vantor-decode-movie"))
+                                    : options.helper;
+}
+
 MovieHelper::MovieHelper(std::unique_ptr<HelperProcess> process, QSize bound, MovieReaderOptions options)
     : m_process(std::move(process)), m_bound(bound), m_options(std::move(options)) {}
 
 std::unique_ptr<MovieHelper> MovieHelper::open(RequestKind kind, const QString& path, QSize bound,
                                                MovieReaderOptions options, Answer& answer) {
-    if (options.helper.isEmpty()) {
-        options.helper = DecodePool::helperPath(QStringLiteral("vantor-decode-movie"));
-    }
     const RegularFile file(path);
     if (bound.isEmpty() || !file.isOpen()) {
         return nullptr;
     }
-    auto process = HelperProcess::start(options.helper, options.startDeadline, options.cancelDescriptor());
+    auto process =
+        HelperProcess::start(movieHelperOf(options), options.startDeadline, options.cancelDescriptor());
     if (!process) {
         return nullptr;
     }

@@ -25,6 +25,9 @@ struct MovieReaderOptions {
 
 namespace decode {
 
+// Path of the helper that the options name.
+QString movieHelperOf(const MovieReaderOptions& options);
+
 // Made, used and destroyed on one thread, which must outlive it: the system ends the helper with that thread.
 class MovieHelper {
   public:

@@ -1,15 +1,16 @@
-// The sample tables of a movie's tracks. Source: ISO/IEC 14496-12, 8.5 to 8.7.
+// A movie's samples, looked at where its tables say they are.
 #include "formats/IsoSamples.h"
 
 #include <algorithm>
 #include <array>
 #include <optional>
 
+#include "formats/IsoTracks.h"
+
 namespace vantor {
 
 namespace {
 
-constexpr int kMostChildren = 256;
 constexpr int kMostTracks = 32;
 constexpr std::uint64_t kMostRuns = 1 << 16;  // of chunks that hold equally many samples
 
@@ -20,110 +21,9 @@ constexpr std::uint64_t kFewSamples = 4096;
 constexpr std::uint64_t kChunksLookedAt = 48;
 constexpr std::size_t kSamplesLookedAt = 4;
 
-// A table of a box: where its entries stand and how many.
-struct Table {
-    std::uint64_t at = 0;
-    std::uint64_t count = 0;
-    unsigned bits = 32;  // of an entry
-
-    std::optional<std::uint64_t> entry(ByteView& view, std::uint64_t index) const {
-        if (index >= count)
-            return std::nullopt;
-        if (bits >= 8)
-            return view.number(at + index * (bits / 8), bits / 8, Endian::Big);
-        const auto pair = view.u8(at + index / 2);
-        return pair ? std::optional<std::uint64_t>(index % 2 == 0 ? *pair >> 4 : *pair & 15) : std::nullopt;
-    }
-};
-
-struct Track {
-    bool video = false;
-    bool elsewhere = false;  // its data lies in another file
-    Coding coding = Coding::Unknown;
-    unsigned lengthBytes = 4;
-    std::uint64_t sampleBytes = 0;  // of each; 0: the table tells
-    Table sizes, chunks, runs;
-};
-
-template <typename Visit>
-void forBoxes(ByteView& view, std::uint64_t from, std::uint64_t to, Visit visit) {
-    for (int i = 0; i < kMostChildren && from < to; ++i) {
-        const auto box = readIsoBox(view, from);
-        if (!box || box->toEnd || box->end > to)
-            return;
-        visit(*box);
-        from = box->end;
-    }
-}
-
-void readDescription(ByteView& view, const IsoBox& box, Track& track) {
-    constexpr std::uint64_t kVisualHead = 78;
-    const auto entry = readIsoBox(view, box.body + 8);
-    // Where several kinds of samples are mixed the first says nothing of the others.
-    if (!entry || entry->end > box.end || view.be32(box.body + 4) != 1U)
-        return;
-    track.coding = codingOf(entry->text());
-    track.lengthBytes = lengthBytesIn(view, entry->body + kVisualHead, entry->end);
-}
-
-void readTable(ByteView& view, const IsoBox& box, Track& track) {
-    const auto name = box.text();
-    const auto counted = [&](std::uint64_t countAt, unsigned bits) {
-        const std::uint64_t count = view.be32(countAt).value_or(0);
-        const auto at = countAt + 4;
-        return Table{at, std::min(count, (box.end - std::min(at, box.end)) * 8 / bits), bits};
-    };
-    if (name == "stsd")
-        readDescription(view, box, track);
-    else if (name == "stsz") {
-        track.sampleBytes = view.be32(box.body + 4).value_or(0);
-        track.sizes = counted(box.body + 8, 32);
-    } else if (name == "stz2") {
-        const auto bits = view.u8(box.body + 7).value_or(0);
-        if (bits == 4 || bits == 8 || bits == 16)
-            track.sizes = counted(box.body + 8, bits);
-    } else if (name == "stsc")
-        track.runs = counted(box.body + 4, 96);
-    else if (name == "stco")
-        track.chunks = counted(box.body + 4, 32);
-    else if (name == "co64")
-        track.chunks = counted(box.body + 4, 64);
-}
-
-// The data references of a track: the first of their flags means "in this file".
-bool pointsElsewhere(ByteView& view, const IsoBox& references) {
-    const auto entry = readIsoBox(view, references.body + 8);
-    return entry && (view.be32(entry->body).value_or(1) & 1) == 0;
-}
-
-Track readTrack(ByteView& view, const IsoBox& box) {
-    Track track;
-    forBoxes(view, box.body, box.end, [&](const IsoBox& media) {
-        if (media.text() != "mdia")
-            return;
-        forBoxes(view, media.body, media.end, [&](const IsoBox& part) {
-            if (part.text() == "hdlr")
-                track.video = view.matches(part.body + 8, "vide");
-            if (part.text() != "minf")
-                return;
-            forBoxes(view, part.body, part.end, [&](const IsoBox& inner) {
-                if (inner.text() == "dinf")
-                    forBoxes(view, inner.body, inner.end, [&](const IsoBox& references) {
-                        track.elsewhere = track.elsewhere ||
-                                          (references.text() == "dref" && pointsElsewhere(view, references));
-                    });
-                if (inner.text() == "stbl")
-                    forBoxes(view, inner.body, inner.end,
-                             [&](const IsoBox& table) { readTable(view, table, track); });
-            });
-        });
-    });
-    return track;
-}
-
 class TrackCheck {
   public:
-    TrackCheck(ByteView& view, const Track& track, std::span<const DataPlace> data, bool all,
+    TrackCheck(ByteView& view, const IsoTrack& track, std::span<const DataPlace> data, bool all,
                std::uint64_t dataBytes)
         : m_view(view), m_track(track), m_data(data), m_all(all), m_dataBytes(dataBytes) {}
 
@@ -135,7 +35,7 @@ class TrackCheck {
     void look(std::uint64_t at, std::uint64_t bytes);
 
     ByteView& m_view;
-    const Track& m_track;
+    const IsoTrack& m_track;
     const std::span<const DataPlace> m_data;
     const bool m_all;
     const std::uint64_t m_dataBytes;
@@ -230,16 +130,16 @@ ContentCheck checkSamples(ByteView& view, const IsoBox& movie, std::span<const D
     ContentCheck all;
     bool everyVideo = true;
     int tracks = 0;
-    forBoxes(view, movie.body, movie.end, [&](const IsoBox& box) {
+    forIsoBoxes(view, movie.body, movie.end, [&](const IsoBox& box) {
         if (box.text() != "trak" || ++tracks > kMostTracks)
             return;
-        const Track track = readTrack(view, box);
+        const IsoTrack track = readIsoTrack(view, box);
         if (track.elsewhere || track.chunks.count == 0 || all.outcome == ContentCheck::Outcome::Broken)
             return;
         const bool whole =
             bytes <= kSmallMovie && std::max(track.sizes.count, track.chunks.count) <= kFewSamples;
         const ContentCheck check = TrackCheck(view, track, data, whole, bytes).check();
-        everyVideo = everyVideo && (!track.video || check.outcome != ContentCheck::Outcome::Silent);
+        everyVideo = everyVideo && (!track.isVideo() || check.outcome != ContentCheck::Outcome::Silent);
         if (check.outcome == ContentCheck::Outcome::Broken || all.outcome == ContentCheck::Outcome::Silent)
             all = check;
     });

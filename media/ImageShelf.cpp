@@ -36,27 +36,28 @@ MediaFacts ImageShelf::diskInfo(const QString& path) {
 }
 
 OpenedImage ImageShelf::addImage(const QString& path) {
-    const QString name = QFileInfo(path).fileName();
-    const QString canonical = QFileInfo(path).canonicalFilePath();
+    // What is named by a descriptor has no other name in text.
+    const QString real = QFileInfo(path).canonicalFilePath();
+    const QString canonical = QFileInfo::exists(real) ? real : path;
     const QString first = imageParts(canonical).constFirst();
     for (const Image& image : m_images) {
         if (image.path == first) {
             return {image.identifier, {}};
         }
     }
-    if (const auto refusal = refusePackedImage(first)) {
+    if (const auto refusal = refusePackedImage(canonical == first ? path : first)) {
         return {{}, *refusal};
     }
     QString why;
     const auto facts = probeMedium(first, &why);
     if (!facts || !facts->isImage) {
         return {{},
-                facts ? QStringLiteral("“%1” is no image file.").arg(name)
-                      : QStringLiteral("“%1” cannot be opened: %2.").arg(name, why)};
+                facts ? QStringLiteral("“%1” is no image file.").arg(path)
+                      : QStringLiteral("“%1” cannot be opened: %2.").arg(path, why)};
     }
     if (facts->sectors == 0) {
         return {{},
-                QStringLiteral("“%1” is empty. Please choose an image file of a storage medium.").arg(name)};
+                QStringLiteral("“%1” is empty. Please choose an image file of a storage medium.").arg(path)};
     }
     m_images << Image{QStringLiteral("image%1").arg(m_images.size() + 1), first};
     updateTargets();

@@ -77,7 +77,7 @@ QString advice(Packing packing) {
 
 QString sentence(const QString& path, const QString& format, Packing packing) {
     return QStringLiteral("“%1” is packed (%2) and cannot be searched as it stands. %3")
-        .arg(QFileInfo(path).fileName(), format, advice(packing));
+        .arg(path, format, advice(packing));
 }
 
 }  // namespace

@@ -36,19 +36,54 @@ QList<MediumTarget> mediaPresent() {
 #endif
 }
 
-std::function<std::unique_ptr<SectorReader>(const QString& devicePath)> makeMediumOpener(
-    const MediaSource& source, StopRequest stop, std::shared_ptr<LastRefusal> refusal) {
+namespace {
+
+using Terms = std::function<std::optional<std::pair<QString, OpenTerms>>(const QString& devicePath)>;
+
+// The path of what was listed last under "/dev/r" + identifier, and how it is opened; nothing for others.
+Terms makeTerms(const MediaSource& source, StopRequest stop, std::shared_ptr<LastRefusal> refusal) {
     return [targets = source.targets(), request = source.descriptorRequest(), stop = std::move(stop),
-            refusal = std::move(refusal)](const QString& devicePath) -> std::unique_ptr<SectorReader> {
+            refusal = std::move(refusal)](
+               const QString& devicePath) -> std::optional<std::pair<QString, OpenTerms>> {
         const QString prefix = QStringLiteral("/dev/r");
         if (!targets || !devicePath.startsWith(prefix)) {
-            return nullptr;
+            return std::nullopt;
         }
         const auto target = targets->find(devicePath.sliced(prefix.size()));
-        return target ? openMedium(target->path,
-                                   {stop, request, target->identity, refusal, target->memory, mediaPresent})
-                      : nullptr;
+        if (!target) {
+            return std::nullopt;
+        }
+        return std::pair{target->path, OpenTerms{stop, request, target->identity, refusal, target->memory,
+                                                 mediaPresent, QString()}};
     };
+}
+
+}  // namespace
+
+std::function<std::unique_ptr<SectorReader>(const QString& devicePath)> makeMediumOpener(
+    const MediaSource& source, StopRequest stop, std::shared_ptr<LastRefusal> refusal) {
+    return [terms = makeTerms(source, std::move(stop), std::move(refusal))](
+               const QString& devicePath) -> std::unique_ptr<SectorReader> {
+        auto found = terms(devicePath);
+        return found ? openMedium(found->first, std::move(found->second)) : nullptr;
+    };
+}
+
+std::function<std::unique_ptr<BlockSource>(const QString& devicePath, StopRequest also)> makeSourceOpener(
+    const MediaSource& source, StopRequest stop, std::shared_ptr<LastRefusal> refusal) {
+    return [terms = makeTerms(source, std::move(stop), std::move(refusal))](
+               const QString& devicePath, StopRequest also) -> std::unique_ptr<BlockSource> {
+        auto found = terms(devicePath);
+        if (!found) {
+            return nullptr;
+        }
+        found->second.stop = eitherStop(std::move(found->second.stop), std::move(also));
+        return openMediumSource(found->first, std::move(found->second));
+    };
+}
+
+StopRequest eitherStop(StopRequest one, StopRequest other) {
+    return [one = std::move(one), other = std::move(other)] { return (one && one()) || (other && other()); };
 }
 
 }  // namespace vantor

@@ -24,4 +24,11 @@ QList<MediumTarget> mediaPresent();
 std::function<std::unique_ptr<SectorReader>(const QString& devicePath)> makeMediumOpener(
     const MediaSource& source, StopRequest stop = {}, std::shared_ptr<LastRefusal> refusal = {});
 
+// As makeMediumOpener(), for whoever reads the medium itself: `also` ends the waits beside `stop`.
+std::function<std::unique_ptr<BlockSource>(const QString& devicePath, StopRequest also)> makeSourceOpener(
+    const MediaSource& source, StopRequest stop = {}, std::shared_ptr<LastRefusal> refusal = {});
+
+// True when one of the two is; either may be absent.
+StopRequest eitherStop(StopRequest one, StopRequest other);
+
 }  // namespace vantor

@@ -5,9 +5,12 @@
 #include <cstdint>
 #include <memory>
 
+#include "media/SectorRecall.h"
 #include "media/SectorScreen.h"
 
 namespace vantor {
+
+class RefusedSectors;
 
 inline constexpr std::size_t kSectorBytes = 512;
 
@@ -24,9 +27,9 @@ class SectorReader {
 
     // Reads the sector at position(). True: current() holds it and the position is one further.
     bool read() {
-        if (m_next != m_windowEnd) {
-            m_current = m_next;
-            m_next += kSectorBytes;
+        if (m_left != 0) {
+            --m_left;
+            m_current += m_stride;
             ++m_position;
             return true;
         }
@@ -44,7 +47,7 @@ class SectorReader {
             return false;
         }
         m_position = sector;
-        m_next = m_windowEnd = nullptr;
+        m_left = 0;
         return true;
     }
 
@@ -54,13 +57,28 @@ class SectorReader {
     // The 512 bytes of the last sector read; zeros before the first. Valid until the next successful read.
     const std::uint8_t* current() const { return m_current; }
 
-    // False only when the screen has seen the bytes of current() and found them not worth a look.
-    bool worthALook() const {
-        return m_looks == nullptr || m_looks[(m_current - m_windowBegin) / std::ptrdiff_t{kSectorBytes}] != 0;
+    // What the screen said of the bytes of current(), a bit a search; all bits where it did not see them.
+    std::uint8_t looks() const {
+        return m_looks == nullptr ? kAllLooks
+                                  : m_looks[(m_current - m_windowBegin) / std::ptrdiff_t{kSectorBytes}];
     }
+    // False only when the screen has seen the bytes of current() and found them not worth a look.
+    bool worthALook() const { return (looks() & kLookNow) != 0; }
 
-    // Has sectors screened from here on, where the reader fetches ahead; null ends it.
+    // Has sectors screened from here on, where the reader fetches many at once; null ends it.
     virtual void setScreen(std::shared_ptr<const SectorScreen>) {}
+
+    // Sectors that the recall calls quiet may be read from here on without asking the medium; null ends it.
+    // They are not worth a look, and current() is zeros.
+    virtual void setRecall(std::shared_ptr<const SectorRecall>) {}
+    // Whether the bytes of quiet sectors are wanted too, from the next read on; false until it is called.
+    virtual void wantBytes(bool) {}
+    // Puts the bytes of current() in place where it is zeros for its quietness; they stay zeros where the
+    // medium no longer gives them.
+    virtual void bringCurrent() {}
+
+    // What this reader and others know to be refused they learn from each other from here on.
+    virtual void shareRefusals(std::shared_ptr<RefusedSectors>) {}
 
     // Sectors of the medium as it was opened; 0 when that is not known.
     virtual std::uint64_t mediumSectors() const { return 0; }
@@ -81,18 +99,31 @@ class SectorReader {
     void handOver(const std::uint8_t* bytes, std::size_t sectors, const std::uint8_t* looks = nullptr) {
         m_windowBegin = m_current = bytes;
         m_looks = looks;
-        m_next = bytes + kSectorBytes;
-        m_windowEnd = bytes + sectors * kSectorBytes;
+        m_stride = kSectorBytes;
+        m_left = sectors - 1;
     }
+
+    // Gives as many reads the same 512 bytes, not worth a look.
+    void handOverQuiet(const std::uint8_t* bytes, std::uint64_t sectors) {
+        static constexpr std::uint8_t kNoLook = 0;
+        m_windowBegin = m_current = bytes;
+        m_looks = &kNoLook;
+        m_stride = 0;
+        m_left = sectors - 1;
+    }
+
+    // Sectors handed over that nobody has read yet.
+    std::uint64_t sectorsLeft() const { return m_left; }
+    void dropSectorsLeft() { m_left = 0; }
 
   private:
     static constexpr std::uint8_t kZeros[kSectorBytes] = {};
 
     const std::uint8_t* m_current = kZeros;
-    const std::uint8_t* m_next = nullptr;
-    const std::uint8_t* m_windowEnd = nullptr;
     const std::uint8_t* m_windowBegin = kZeros;
     const std::uint8_t* m_looks = nullptr;  // one a sector from m_windowBegin on
+    std::size_t m_stride = 0;               // bytes from a sector to the next
+    std::uint64_t m_left = 0;               // sectors
     std::uint64_t m_position = 0;
 };
 

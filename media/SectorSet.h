@@ -6,14 +6,19 @@
 #include <iterator>
 #include <limits>
 #include <map>
+#include <vector>
+
+#include "media/SectorRun.h"
 
 namespace vantor {
 
-// Neighbours share one entry, so that a dead stretch costs one. At most kMaxRuns entries are kept; beyond
+// Neighbours share one entry, so that a dead stretch costs one. At most `maxRuns` entries are kept; beyond
 // them the lowest run is forgotten.
 class SectorSet {
   public:
     static constexpr std::size_t kMaxRuns = 4096;
+
+    explicit SectorSet(std::size_t maxRuns = kMaxRuns) : m_maxRuns(maxRuns) {}
 
     bool contains(std::uint64_t sector) const {
         const auto after = m_runs.upper_bound(sector);
@@ -36,9 +41,28 @@ class SectorSet {
         } else {
             m_runs.emplace(sector, end);
         }
-        if (m_runs.size() > kMaxRuns) {
+        if (m_runs.size() > m_maxRuns) {
             m_runs.erase(m_runs.begin());
         }
+    }
+
+    // A row that lies apart from all others; one that does not is left out.
+    void add(const SectorRun& run) {
+        const auto after = m_runs.lower_bound(run.first);
+        const bool apart = (after == m_runs.end() || after->first > run.end) &&
+                           (after == m_runs.begin() || std::prev(after)->second < run.first);
+        if (apart && m_runs.size() < m_maxRuns) {
+            m_runs.emplace(run.first, run.end);
+        }
+    }
+
+    // Ascending.
+    std::vector<SectorRun> all() const {
+        std::vector<SectorRun> runs;
+        for (const auto& [first, end] : m_runs) {
+            runs.push_back({first, end});
+        }
+        return runs;
     }
 
     // The first sector of the set at or behind `sector`; the largest number there is when none follows.
@@ -61,6 +85,7 @@ class SectorSet {
     std::size_t runs() const { return m_runs.size(); }
 
   private:
+    std::size_t m_maxRuns;
     std::map<std::uint64_t, std::uint64_t> m_runs;  // first sector -> one past the last
 };
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <limits>
 #include <utility>
 
 namespace vantor {
@@ -38,13 +39,66 @@ bool WindowedReader::fetch() {
     if (m_gone) {
         return false;
     }
+    if (fetchQuiet()) {
+        return true;
+    }
     if (position() < m_singleUntil) {
         return fetchSingle();
     }
     m_attemptedFrom = m_attemptedUntil = 0;
-    const auto wanted = static_cast<std::size_t>(
-        std::min<std::uint64_t>(m_windowSectors, m_refused.firstFrom(position()) - position()));
-    return wanted != 0 && fetchWindow(wanted);
+    const std::size_t wanted = sectorsToFetch();
+    return wanted == 0 ? fetchSingle() : fetchWindow(wanted);
+}
+
+bool WindowedReader::fetchQuiet() {
+    if (!m_recall || m_bytesWanted) {
+        return false;
+    }
+    const std::uint64_t end = m_recall->quietUntil(position());
+    if (end <= position()) {
+        return false;
+    }
+    m_quiet.fill(0);
+    m_quietBrought = false;
+    m_quietEnd = end;
+    handOverQuiet(m_quiet.data(), end - position());
+    return true;
+}
+
+// Up to the first sector that is known to be refused, and to the first whose bytes are not wanted.
+std::size_t WindowedReader::sectorsToFetch() const {
+    const std::uint64_t forAll =
+        m_refusedForAll ? m_refusedForAll->firstFrom(position()) : std::numeric_limits<std::uint64_t>::max();
+    const auto most = static_cast<std::size_t>(std::min<std::uint64_t>(
+        m_windowSectors, std::min(m_refused.firstFrom(position()), forAll) - position()));
+    if (!m_recall || m_bytesWanted) {
+        return most;
+    }
+    std::size_t wanted = std::min<std::size_t>(most, 1);
+    while (wanted < most && m_recall->quietUntil(position() + wanted) == position() + wanted) {
+        ++wanted;
+    }
+    return wanted;
+}
+
+void WindowedReader::wantBytes(bool wanted) {
+    m_bytesWanted = wanted;
+    if (wanted && current() == m_quiet.data() && sectorsLeft() != 0) {
+        m_quietEnd = position();
+        dropSectorsLeft();
+    }
+}
+
+// The sector that was read last, wherever a seek went since.
+void WindowedReader::bringCurrent() {
+    if (current() != m_quiet.data() || std::exchange(m_quietBrought, true)) {
+        return;
+    }
+    const std::uint64_t sector = (sectorsLeft() != 0 ? position() : m_quietEnd) - 1;
+    stopReadingAhead();
+    if (!noteWhetherGone() && !m_refused.contains(sector) && !isRefusedForAll(sector) && readSingle(sector)) {
+        std::copy_n(m_back, kSectorBytes, m_quiet.begin());
+    }
 }
 
 bool WindowedReader::fetchWindow(std::size_t wanted) {
@@ -71,13 +125,23 @@ bool WindowedReader::fetchWindow(std::size_t wanted) {
     // One window alone is read by many a copy; the second in a row is the sign of a scan. Refusals end the
     // reading ahead, which knows nothing of them.
     const bool sequential = std::exchange(m_windowEnd, position() + sectors) == position();
-    if (m_ahead && sequential && sectors == m_windowSectors && m_refused.runs() == 0 &&
+    const bool nothingRefused = m_refused.runs() == 0 && (!m_refusedForAll || m_refusedForAll->isEmpty());
+    if (m_ahead && sequential && sectors == m_windowSectors && nothingRefused &&
         !m_ahead->isAt(m_windowEnd)) {
         stopReadingAhead();
         m_ahead->start(m_windowEnd, m_screen);
     }
-    handOver(window.bytes, sectors, window.looks);
+    handOver(window.bytes, sectors, window.looks != nullptr ? window.looks : screened(window.bytes, sectors));
     return true;
+}
+
+const std::uint8_t* WindowedReader::screened(const std::uint8_t* bytes, std::size_t sectors) {
+    if (!m_screen) {
+        return nullptr;
+    }
+    m_looks.resize(m_windowSectors);
+    m_screen->screen(bytes, sectors, m_looks.data());
+    return m_looks.data();
 }
 
 bool WindowedReader::fetchSingle() {
@@ -86,13 +150,17 @@ bool WindowedReader::fetchSingle() {
         return false;
     }
     std::swap(m_front, m_back);
-    handOver(m_front, 1);
+    handOver(m_front, 1, screened(m_front, 1));
     return true;
 }
 
 // Reads into the window behind, in two attempts.
 bool WindowedReader::readSingleOrRefuse(std::uint64_t sector) {
     if (m_refused.contains(sector)) {
+        return false;
+    }
+    if (isRefusedForAll(sector)) {
+        noteRefused(sector, sector + 1);
         return false;
     }
     if (readSingle(sector)) {
@@ -110,11 +178,19 @@ bool WindowedReader::readSingleOrRefuse(std::uint64_t sector) {
 void WindowedReader::refuseRestOfBlock(std::uint64_t sector) {
     const std::uint64_t block = m_source->blockSectors();
     const std::uint64_t end = sector - sector % block + block;
-    for (std::uint64_t s = sector; s < end; ++s) {
+    noteRefused(sector, end);
+    // What a medium that is gone refuses says nothing of its sectors.
+    for (std::uint64_t s = sector; s < end && m_refusedForAll && !noteWhetherGone(); ++s) {
+        m_refusedForAll->add(s);
+    }
+    goSingle(end - 1);
+}
+
+void WindowedReader::noteRefused(std::uint64_t first, std::uint64_t end) {
+    for (std::uint64_t s = first; s < end; ++s) {
         m_refused.add(s);
         ++m_refusals;
     }
-    goSingle(end - 1);
 }
 
 void WindowedReader::setScreen(std::shared_ptr<const SectorScreen> screen) {

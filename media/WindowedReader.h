@@ -1,12 +1,16 @@
 // Reads a medium in large windows while every failure still surfaces at its own sector.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <utility>
+#include <vector>
 
 #include "media/BlockSource.h"
 #include "media/ReadAhead.h"
+#include "media/RefusedSectors.h"
 #include "media/SectorReader.h"
 #include "media/SectorSet.h"
 
@@ -17,7 +21,8 @@ namespace vantor {
 //
 // A refused sector is asked for once more and no further: the refused window and the single read behind it
 // are the two attempts; a sector first met alone is repeated alone. What was refused twice stays refused for
-// this reader, without another word to the medium, and so does the rest of its block.
+// this reader and those it shares its refusals with, without another word to the medium, and so does the rest
+// of its block.
 //
 // Positioning succeeds on bad sectors, as in any stream, so a scan looks once more at the sector that it read
 // last. On a medium that stays in its slot but no longer reads that would never end: where kDeadStretch
@@ -42,16 +47,29 @@ class WindowedReader : public SectorReader {
     std::uint64_t mediumSectors() const override { return m_source->sectors(); }
     bool isGone() override { return noteWhetherGone(); }
     void setScreen(std::shared_ptr<const SectorScreen> screen) override;
+    void setRecall(std::shared_ptr<const SectorRecall> recall) override { m_recall = std::move(recall); }
+    void wantBytes(bool wanted) override;
+    void bringCurrent() override;
+    void shareRefusals(std::shared_ptr<RefusedSectors> refusals) override {
+        m_refusedForAll = std::move(refusals);
+    }
 
   protected:
     bool fetch() override;
     bool moveTo(std::uint64_t sector) override;
 
   private:
+    bool fetchQuiet();
+    std::size_t sectorsToFetch() const;
     bool fetchWindow(std::size_t wanted);
     bool fetchSingle();
+    const std::uint8_t* screened(const std::uint8_t* bytes, std::size_t sectors);
     bool readSingleOrRefuse(std::uint64_t sector);
     void refuseRestOfBlock(std::uint64_t sector);
+    void noteRefused(std::uint64_t first, std::uint64_t end);
+    bool isRefusedForAll(std::uint64_t sector) const {
+        return m_refusedForAll && m_refusedForAll->contains(sector);
+    }
     bool isInDeadStretch(std::uint64_t sector) const;
     void stopReadingAhead();
     bool readSingle(std::uint64_t sector);
@@ -62,6 +80,12 @@ class WindowedReader : public SectorReader {
     const std::size_t m_windowSectors;
     std::unique_ptr<ReadAhead> m_ahead;  // absent when nothing is fetched ahead
     std::shared_ptr<const SectorScreen> m_screen;
+    std::vector<std::uint8_t> m_looks;  // of a window that was not read ahead
+    std::shared_ptr<const SectorRecall> m_recall;
+    bool m_bytesWanted = false;
+    std::array<std::uint8_t, kSectorBytes> m_quiet{};  // current() while that is a quiet sector
+    bool m_quietBrought = false;
+    std::uint64_t m_quietEnd = 0;   // sector behind the last quiet one that was read
     std::uint64_t m_windowEnd = 0;  // sector behind the last full window
     // Two windows: a fetch that fails must leave the bytes of the last good sector in place.
     std::unique_ptr<std::uint8_t[]> m_storage;
@@ -73,6 +97,7 @@ class WindowedReader : public SectorReader {
     std::uint64_t m_attemptedUntil = 0;
     SectorSet m_refused;
     std::uint64_t m_refusals = 0;  // sectors
+    std::shared_ptr<RefusedSectors> m_refusedForAll;
     bool m_gone = false;
 };
 

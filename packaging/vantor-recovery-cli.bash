@@ -12,6 +12,10 @@ _vantor_recovery_cli() {
             _filedir -d
             return
             ;;
+        --reference | --session | --resume)
+            _filedir
+            return
+            ;;
         --names)
             COMPREPLY=($(compgen -W 'original found' -- "$cur"))
             return
@@ -29,7 +33,11 @@ _vantor_recovery_cli() {
         COMPREPLY=($(compgen -W '--help --version --mode --types --range --no-thorough --catalogue
             --save --as-published --report --names --folders --lost-only --by-date --min-bytes --min-pixels --keep-duplicates
             --skip-unsound
+            --retry-bad
+            --session --resume
             --map
+            --image --scrape
+            --repair-movies --reference
             --list-json --list-media --list-files' -- "$cur"))
         return
     fi

@@ -61,9 +61,12 @@ const ItemTruth& ItemBytes::measure(const QString& type, bool mayGoBeyond) {
         measureTold(type);
         return m_truth;
     }
-    m_truth.length = trueLengthOf(type, m_carved, mayGoBeyond);
+    return measureFrom(type, trueLengthOf(type, m_carved, mayGoBeyond));
+}
+
+const ItemTruth& ItemBytes::measureFrom(const QString& type, const TrueLength& carved) {
+    m_truth.length = carved;
     if (!m_source.carved.runs.empty()) {
-        tryAssemblies(type);
         askCard(type);
     }
     return m_truth;
@@ -95,19 +98,6 @@ bool ItemBytes::tryPieces(const QString& type, const Assembly& assembly, bool pl
     return true;
 }
 
-void ItemBytes::tryAssemblies(const QString& type) {
-    if (isComplete(m_truth.length)) {
-        return;
-    }
-    for (const Assembly& assembly : m_source.hints.assemblies) {
-        const AssemblyProof proof = assembly.proof;
-        if (tryPieces(type, assembly, true, proof == AssemblyProof::Proved)) {
-            m_truth.assembly->proof = proof;
-            return;
-        }
-    }
-}
-
 // Whether the carved view holds the same sectors.
 bool ItemBytes::lieAsCarved(const Assembly& assembly) const {
     return assembly.runs.size() == 1 && assembly.runs.front().first == m_source.carved.runs.front().first &&
@@ -122,7 +112,6 @@ void ItemBytes::askCard(const QString& type) {
         return;
     }
     const std::uint64_t first = m_source.carved.runs.front().first;
-    const bool assembled = m_truth.assembly.has_value();
     for (const auto& candidate : card->candidates(first, m_source.mediumSectors)) {
         const bool live = candidate.file->state == FileState::Live;
         const bool known = live || candidate.file->runsKnownBy < RunsKnownBy::Guess;
@@ -132,9 +121,8 @@ void ItemBytes::askCard(const QString& type) {
             }
             continue;
         }
-        // What is whole where it was carved, or is put together already, is not looked for elsewhere.
-        const bool settled =
-            assembled || (isComplete(m_truth.length) && (m_truth.length.extent.checked || !known));
+        // What is whole where it was carved is not looked for elsewhere.
+        const bool settled = (isComplete(m_truth.length) && (m_truth.length.extent.checked || !known));
         if ((live || !settled) && tryPieces(type, candidate.assembly, known, live)) {
             take(candidate.file);
             return;
@@ -156,7 +144,7 @@ void ItemBytes::askCard(const QString& type) {
     if (match.fit != CardFit::Yes) {
         return;
     }
-    if (m_truth.assembly || takeLength(dataBytesOf(*match.file))) {
+    if (takeLength(dataBytesOf(*match.file))) {
         take(match.file);
     }
 }

@@ -39,11 +39,12 @@ class ItemBytes {
     // source's assemblies and the card's directory say that it lies. `mayGoBeyond` as for trueLengthOf().
     const ItemTruth& measure(const QString& type, bool mayGoBeyond);
 
+    // The same where the length as it was carved is known already.
+    const ItemTruth& measureFrom(const QString& type, const TrueLength& carved);
+
     const ItemTruth& truth() const { return m_truth; }
     // As measure() found them.
     MediumBytes& bytes() { return m_pieces ? m_pieces->bytes : m_carved; }
-    // How much was asked of the medium behind the carved run.
-    std::uint64_t bytesReadBeyond() const { return m_carved.bytesReadBeyond(); }
 
   private:
     struct Pieces {
@@ -56,7 +57,6 @@ class ItemBytes {
     void askCard(const QString& type);
     bool lieAsCarved(const Assembly& assembly) const;
     void measureTold(const QString& type);
-    void tryAssemblies(const QString& type);
     bool tryPieces(const QString& type, const Assembly& assembly, bool placesAreKnown, bool believed);
     void take(const CardFile* file);
     bool takeLength(std::uint64_t bytes);

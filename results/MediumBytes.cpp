@@ -28,6 +28,12 @@ std::uint64_t sectorsOf(const std::vector<SectorRun>& runs) {
 
 }  // namespace
 
+std::uint64_t mostVainReads(std::uint64_t mediumSectors) {
+    constexpr std::uint64_t kBytes = std::uint64_t{4} << 30;
+    return std::clamp<std::uint64_t>(kBytes / kSectorBytes / std::max<std::uint64_t>(1, mediumSectors), 2,
+                                     16);
+}
+
 MediumBytes::MediumBytes(const ItemSource& source, std::vector<std::uint8_t>& kept)
     : m_source(source),
       m_runs(source.asPublished ? source.carved.runs : withGapsClosed(source.carved.runs)),
@@ -181,6 +187,9 @@ std::size_t MediumBytes::readSectors(std::uint64_t first, std::span<std::uint8_t
     SectorReader* const medium = m_source.medium ? m_source.medium() : nullptr;
     for (std::size_t done = 0; done < into.size(); done += kSectorBytes) {
         const std::uint64_t sector = first + done / kSectorBytes;
+        if (!mayReadOn(sector)) {
+            return done;
+        }
         if (sector < m_readableSectors && !readSector(medium, sector, into.data() + done)) {
             std::memset(into.data() + done, 0, kSectorBytes);
             m_unreadable.add(sector);
@@ -189,10 +198,42 @@ std::size_t MediumBytes::readSectors(std::uint64_t first, std::span<std::uint8_t
             return static_cast<std::size_t>(std::max(m_readableSectors, first) - first) * kSectorBytes;
         }
     }
-    if (first * kSectorBytes + into.size() > m_carvedBytes) {
-        m_bytesReadBeyond += into.size();
-    }
     return into.size();
+}
+
+// Counts what is read behind the carved run; false at a place that was read in vain too often.
+bool MediumBytes::mayReadOn(std::uint64_t sector) {
+    if (!m_measuring || m_source.readInVain == nullptr || sector * kSectorBytes < m_carvedBytes) {
+        return true;
+    }
+    const std::uint64_t at = onMedium(sector);
+    if (m_source.readInVain->isSpent(at, mostVainReads(m_source.mediumSectors))) {
+        m_ranOut = true;
+        return false;
+    }
+    ++m_readBeyond[at / PlaceBudget::kPlaceSectors];
+    return true;
+}
+
+void MediumBytes::spendReading(PlaceBudget& budget) const {
+    for (const auto& [place, sectors] : m_readBeyond) {
+        // Read several times over is spent several times over.
+        for (std::uint64_t left = sectors; left > 0;) {
+            const std::uint64_t once = std::min(left, PlaceBudget::kPlaceSectors);
+            budget.spend({place * PlaceBudget::kPlaceSectors, place * PlaceBudget::kPlaceSectors + once});
+            left -= once;
+        }
+    }
+}
+
+SectorRun MediumBytes::stretchBeyond(std::uint64_t bytes) const {
+    const std::uint64_t end = (std::min(bytes, m_wholeSize) + kSectorBytes - 1) / kSectorBytes;
+    const std::uint64_t carved = m_carvedBytes / kSectorBytes;
+    if (m_runs.empty() || end <= carved) {
+        return {};
+    }
+    const std::uint64_t first = onMedium(carved);
+    return {first, first + (end - carved)};
 }
 
 bool MediumBytes::readSector(SectorReader* medium, std::uint64_t sector, std::uint8_t* place) {

@@ -12,8 +12,8 @@
 #include "formats/ByteSource.h"
 #include "media/SectorReader.h"
 #include "media/SectorSet.h"
-#include "results/Assembly.h"
 #include "results/CarvedRun.h"
+#include "results/PlaceBudget.h"
 
 namespace vantor {
 
@@ -22,7 +22,6 @@ struct CardFile;
 
 // What is known of an item beside the run that it was carved from.
 struct ItemHints {
-    std::vector<Assembly> assemblies = {};            // where else its bytes may lie, the best first
     std::shared_ptr<const CardIndex> card = nullptr;  // what the card's directories tell; null: nothing
     // Nothing was found there: the item is this file of the card's, or none.
     std::shared_ptr<const CardFile> told = nullptr;
@@ -36,8 +35,14 @@ struct ItemSource {
     std::function<SectorReader*()> medium;
     std::uint64_t mediumSectors = 0;  // 0: nothing is read beyond the carved run
     bool asPublished = false;         // exactly the carved sectors, one behind the other
+    // What was read behind carved runs in vain, place by place; null where nobody counts.
+    const PlaceBudget* readInVain = nullptr;
     ItemHints hints = {};
 };
+
+// How often each place may be read in vain to find out where files end that begin in front of it: all places
+// together so often that it takes about four gigabytes of reading, and twice on larger media.
+std::uint64_t mostVainReads(std::uint64_t mediumSectors);
 
 // The carved run, and behind it the medium up to its end. A gap between two runs that follow each other is a
 // sector that was refused: it belongs to the item, and what is behind it keeps its place.
@@ -68,6 +73,8 @@ class MediumBytes final : public ByteSource {
     std::size_t readPast(std::uint64_t offset, std::span<std::uint8_t> into);
 
     std::uint64_t carvedBytes() const { return m_carvedBytes; }
+    // Of the medium; 0 where there is none.
+    std::uint64_t firstSector() const { return m_runs.empty() ? 0 : m_runs.front().first; }
     // Narrows the view, never below the carved run.
     void limitTo(std::uint64_t bytes);
     // So long is the file: bad zones up to there are passed over, as they are within the carved run.
@@ -84,8 +91,14 @@ class MediumBytes final : public ByteSource {
     // True when reading ended early; the rest of the medium is as good as unreadable.
     bool gaveUp() const { return m_readableSectors != kNoLimit; }
     bool mediumIsGone() const { return m_mediumIsGone; }
-    // How much was asked of the medium behind the carved run.
-    std::uint64_t bytesReadBeyond() const { return m_bytesReadBeyond; }
+    // From here on the length is known, and what is read is not read in vain.
+    void endMeasuring() { m_measuring = false; }
+    // Whether the view ended at a place that was read in vain too often, while the length was looked for.
+    bool ranOut() const { return m_ranOut; }
+    // Adds what was asked of the medium behind the carved run meanwhile.
+    void spendReading(PlaceBudget& budget) const;
+    // Where the bytes [carvedBytes(), bytes) lie.
+    SectorRun stretchBeyond(std::uint64_t bytes) const;
 
   private:
     static constexpr std::uint64_t kNoLimit = ~std::uint64_t{0};
@@ -101,6 +114,7 @@ class MediumBytes final : public ByteSource {
     void holdFirstBytes();
     const std::uint8_t* heldSector(std::uint64_t onMedium) const;
     bool holdsAnyFrom(std::uint64_t sector) const;
+    bool mayReadOn(std::uint64_t sector);
 
     // Sectors of the medium, one behind the other.
     struct Held {
@@ -129,7 +143,9 @@ class MediumBytes final : public ByteSource {
     std::uint64_t m_readableSectors = kNoLimit;
     std::uint64_t m_expected = 0;  // bytes of the file
     bool m_mediumIsGone = false;
-    std::uint64_t m_bytesReadBeyond = 0;
+    bool m_measuring = true;
+    bool m_ranOut = false;
+    std::map<std::uint64_t, std::uint64_t> m_readBeyond;  // place of the medium -> sectors
 };
 
 }  // namespace vantor

@@ -16,7 +16,7 @@ namespace vantor {
 // What a browser is given to draw an item from.
 enum class RepresentationType { Picture, EncodedData };
 
-// An item never changes once it is listed, but for setPath(); so it may be read from any thread.
+// An item as it was listed; the list hands out a copy to everyone who asks. It may be read from any thread.
 class MyImageObject {
   public:
     static std::unique_ptr<MyImageObject> initWithImage(const QIcon& image, const QString& image_Name,
@@ -73,6 +73,8 @@ class MyImageObject {
     }
 
   private:
+    friend class FoundItems;
+
     MyImageObject(const QString& image_Name, const QString& image_UID)
         : m_image_Name(image_Name), m_image_UID(image_UID) {}
 

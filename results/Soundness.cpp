@@ -24,7 +24,7 @@ std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, S
                                  const ItemHints& hints) {
     WatchedReader watched(medium, watch, mostBytes / kSectorBytes);
     const ItemSource source{carved, {},   [&watched] { return &watched; }, medium.mediumSectors(),
-                            false,  hints};
+                            false,  nullptr, hints};
     ItemBytes found(source, kept);
     Soundness soundness;
     soundness.unreadable = carved.readFailed;

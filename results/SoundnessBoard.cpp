@@ -138,6 +138,12 @@ bool SoundnessBoard::mediumIsGone() const {
     return m_gone;
 }
 
+void SoundnessBoard::tryAgain() {
+    const std::lock_guard lock(m_mutex);
+    m_gone = false;
+    m_wake.notify_all();
+}
+
 void SoundnessBoard::requestEnd() {
     const std::lock_guard lock(m_mutex);
     m_ending = true;

@@ -59,6 +59,8 @@ class SoundnessBoard {
     // Grows whenever something new is known.
     std::uint64_t changes() const { return m_changes; }
     bool mediumIsGone() const;
+    // Somebody else could open the medium, or it was put back in.
+    void tryAgain();
 
     // Ends the thread; hasEnded() is false as long as a medium that hangs holds it.
     void requestEnd();

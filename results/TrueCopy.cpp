@@ -38,6 +38,7 @@ class TrueCopy::Reading {
                    [this]() -> SectorReader* { return m_measuring ? &m_limited : &m_unlimited; },
                    medium.mediumSectors(),
                    false,
+                   nullptr,
                    hints},
           m_bytes(m_source, m_kept, truth) {}
 

@@ -11,13 +11,13 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <map>
 #include <set>
 #include <utility>
 #include <vector>
 
 #include "results/TrueLength.h"
 #include "saving/FreeSpace.h"
+#include "saving/LengthClaims.h"
 #include "saving/SavedFiles.h"
 #include "saving/SavingFolder.h"
 #include "saving/Sha256.h"
@@ -28,9 +28,6 @@ namespace vantor {
 namespace {
 
 constexpr std::size_t kChunkBytes = 1024 * 1024;
-// Reading behind carved runs that found no whole file may cost as much as one pass over the medium, and on
-// small media so much.
-constexpr std::uint64_t kLeastVainReading = std::uint64_t{4} << 30;
 
 QByteArrayView asView(std::span<const std::uint8_t> bytes) {
     return {bytes.data(), static_cast<qsizetype>(bytes.size())};
@@ -74,17 +71,13 @@ bool areOneFile(const QString& a, const QString& b) {
 }  // namespace
 
 struct ItemSaver::State {
-    bool mayGoBeyond(const FoundItem& item) const;
-    void noteLength(const FoundItem& item, const TrueLength& length, std::uint64_t readBeyond);
-
     std::vector<std::uint8_t> kept;
     std::array<std::vector<std::uint8_t>, 2> chunks;
     BackgroundSha256 sum;
     SavedFiles saved;
-    std::map<std::uint64_t, std::uint64_t> streams;  // sectors [first, end) of whole frame streams
-    std::uint64_t bytesReadInVain = 0;
-    std::optional<dev_t> device;  // that the destination was on first
-    std::set<QString> folders;    // below it, that were written into
+    std::optional<LengthClaims> claims;  // of the choice at hand
+    std::optional<dev_t> device;         // that the destination was on first
+    std::set<QString> folders;           // below it, that were written into
 };
 
 // What is being written, and where to.
@@ -101,26 +94,6 @@ struct ItemSaver::Writing {
         return {item.type, folder.path() + u'/' + name, place, allRead, byPath};
     }
 };
-
-// Every frame of a stream may look like a file's beginning to the catalogues; such parts are saved as they
-// were carved, or saving would cost the square of the file.
-bool ItemSaver::State::mayGoBeyond(const FoundItem& item) const {
-    if (bytesReadInVain > std::max(kLeastVainReading, item.source.mediumSectors * kSectorBytes)) {
-        return false;
-    }
-    const std::uint64_t first = firstSectorOf(item);
-    const auto after = streams.lower_bound(first);
-    return !isFrameStream(item.type) || after == streams.begin() || std::prev(after)->second <= first;
-}
-
-void ItemSaver::State::noteLength(const FoundItem& item, const TrueLength& length, std::uint64_t readBeyond) {
-    if (length.extent.verdict != Verdict::Complete) {
-        bytesReadInVain += readBeyond;
-    } else if (isFrameStream(item.type)) {
-        std::uint64_t& end = streams[firstSectorOf(item)];
-        end = std::max(end, firstSectorOf(item) + length.bytes / kSectorBytes);
-    }
-}
 
 ItemSaver::ItemSaver(const QString& destination, const SavePolicy& policy, LiesOnMedium liesOnMedium)
     : m_destination(destination),
@@ -148,14 +121,33 @@ SaveOutcome ItemSaver::save(const FoundItem& item) const {
     }
     ItemSource source = item.source;
     source.asPublished = m_policy.asPublished;
+    source.readInVain = &claimsOn(source.mediumSectors).readInVain();
     ItemBytes bytes(source, m_state->kept);
     const bool chosen = decideLength(item, bytes, outcome);
     if (isUnwanted(item)) {
+        outcome.later = false;
         outcome.error = cancelledText();
     } else if (chosen) {
         saveBytes(item, *destination, bytes, outcome);
     }
     return outcome;
+}
+
+void ItemSaver::beginRound() const {
+    m_state->claims.reset();
+}
+
+void ItemSaver::beginSecondRound() const {
+    if (m_state->claims) {
+        m_state->claims->beginSecondRound();
+    }
+}
+
+LengthClaims& ItemSaver::claimsOn(std::uint64_t mediumSectors) const {
+    if (!m_state->claims) {
+        m_state->claims.emplace(mediumSectors);
+    }
+    return *m_state->claims;
 }
 
 // A destination that was pulled out leaves a folder of its name on another disk.
@@ -257,13 +249,29 @@ void ItemSaver::remove(const QString& path) const {
     }
 }
 
-// False when the item is left out.
-bool ItemSaver::decideLength(const FoundItem& item, ItemBytes& found, SaveOutcome& outcome) const {
-    const ItemTruth& truth = found.measure(item.type, m_state->mayGoBeyond(item));
-    const TrueLength& length = truth.length;
-    if (!m_policy.asPublished) {
-        m_state->noteLength(item, length, found.bytesReadBeyond());
+TrueLength ItemSaver::lengthOf(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const {
+    LengthClaims& claims = claimsOn(item.source.mediumSectors);
+    TrueLength length = trueLengthOf(item.type, bytes, claims.mayGoBeyond(item.type, firstSectorOf(item)));
+    const auto answer = claims.ask(item.type, bytes, length, item.mayWait);
+    outcome.later = answer == LengthClaims::Answer::Later;
+    if (answer == LengthClaims::Answer::Refused) {
+        length.bytes = bytes.carvedBytes();
+        length.extent.checked = false;
+        if (length.extent.verdict == Verdict::Complete) {
+            length.extent.verdict = Verdict::Unknown;
+        }
     }
+    return length;
+}
+
+// False when nothing of the item is written now.
+bool ItemSaver::decideLength(const FoundItem& item, ItemBytes& found, SaveOutcome& outcome) const {
+    const ItemTruth& truth = item.source.hints.told || m_policy.asPublished
+                                 ? found.measure(item.type, false)
+                                 : found.measureFrom(item.type, lengthOf(item, found.bytes(), outcome));
+    const TrueLength& length = truth.length;
+    MediumBytes& bytes = found.bytes();
+    bytes.endMeasuring();
     const Facts& facts = length.extent.facts;
     outcome.bytes = length.bytes;
     outcome.verdict = verdictOf(truth);
@@ -273,10 +281,12 @@ bool ItemSaver::decideLength(const FoundItem& item, ItemBytes& found, SaveOutcom
     outcome.taken = facts.taken;
     outcome.pieces = truth.assembly ? truth.assembly->runs.size() : 1;
     outcome.original = truth.file;
-    MediumBytes& bytes = found.bytes();
     outcome.width = facts.width;
     outcome.height = facts.height;
     bytes.expect(length.bytes);
+    if (outcome.later) {
+        return false;
+    }
     const std::uint32_t longerSide = std::max(facts.width, facts.height);
     if (bytes.isUnreadable(0) || bytes.mediumIsGone()) {
         // What could not be looked at is not judged.

@@ -21,6 +21,8 @@
 namespace vantor {
 
 struct SavedFile;
+struct TrueLength;
+class LengthClaims;
 class SavingFolder;
 class WholeFile;
 
@@ -32,6 +34,7 @@ struct SaveOutcome {
     bool duplicate = false;  // saved, as bytes that were saved before: `path` is the earlier file or a second
                              // name of it
     LeftOut leftOut = LeftOut::No;
+    bool later = false;  // nothing was decided: the item has its turn in the second round
     QString path;
     QString error;                        // a sentence for the user when saving failed
     std::uint64_t bytes = 0;              // of the file
@@ -58,6 +61,8 @@ struct FoundItem {
     ItemSource source;
     // Set by anybody once the item is no longer wanted: it then fails, and nothing of it stays behind.
     const std::atomic<bool>* unwanted = nullptr;
+    // Whether it may be told to come again in a second round, when all others had their turn.
+    bool mayWait = false;
 };
 
 // One medium and one destination, which has to be there. An item becomes `<destination>/<type>/<name>`, or
@@ -69,6 +74,8 @@ struct FoundItem {
 // that several types share) the file gets a second name there, or is written again where the file system has
 // no second names. Files that lie in the type's folder from earlier are known by their bytes too. Zeros in
 // place of what could not be read count for nothing here.
+//
+// An item that claims far more than was carved of it waits for the others, where it may; see LengthClaims.
 class ItemSaver {
   public:
     // Asked before each file with the destination: whether it lies on the medium by now, for somebody may
@@ -86,6 +93,9 @@ class ItemSaver {
     // An item that was saved before the card told anything of it, with what the card tells now: the file gets
     // its name and folder, or is saved anew where it lies in other pieces, and the one saved first goes.
     void saveAsOnCard(const FoundItem& item, SaveOutcome& outcome) const;
+    // Before the first item of a choice and before those of it that were told to come again.
+    void beginRound() const;
+    void beginSecondRound() const;
 
     // To be called behind the last item: the names of all files survive a loss of power from here on.
     void flush() const;
@@ -99,10 +109,12 @@ class ItemSaver {
     struct Writing;
 
     std::optional<SavingFolder> openDestination(SaveOutcome& outcome) const;
+    LengthClaims& claimsOn(std::uint64_t mediumSectors) const;
     bool moveAsOnCard(const FoundItem& item, const CardFile& file, SaveOutcome& outcome) const;
     void remove(const QString& path) const;
     bool isStillThere(const FoundItem& item) const;
     bool decideLength(const FoundItem& item, ItemBytes& bytes, SaveOutcome& outcome) const;
+    TrueLength lengthOf(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const;
     void saveBytes(const FoundItem& item, const SavingFolder& destination, ItemBytes& bytes,
                    SaveOutcome& outcome) const;
     std::optional<SavingFolder> folderFor(const FoundItem& item, const SavingFolder& destination,

@@ -262,6 +262,19 @@ void csvTo(const Pieces& add, const ReportHead& head, const std::vector<Reported
     }
 }
 
+const QString kPage = QStringLiteral(".html");
+const QString kTable = QStringLiteral(".csv");
+
+// Of both files, without the ending. Reports of a day are told apart by their time, not by a number.
+QString reportName(const QString& folder, const ReportHead& head) {
+    const QString name = QStringLiteral("Recovery report");
+    const QDir there(folder);
+    if (!head.ended.isValid() || !(there.exists(name + kPage) || there.exists(name + kTable))) {
+        return name;
+    }
+    return name + head.ended.toString(QStringLiteral(" yyyy-MM-dd HH.mm.ss"));
+}
+
 }  // namespace
 
 QString wordsForMode(int mode) {
@@ -278,19 +291,19 @@ QString wordsForMode(int mode) {
 WrittenReport writeReport(const QString& folder, const ReportHead& head,
                           const std::vector<ReportedItem>& items, const ReportThumbnail& thumbnail) {
     WrittenReport written;
-    const auto write = [&](const char* name, const std::function<void(const Pieces&)>& text) {
+    const QString name = reportName(folder, head);
+    const auto write = [&](const QString& ending, const std::function<void(const Pieces&)>& text) {
         WholeFile file(folder);
         text([&file](const QByteArray& piece) { file.write(piece); });
-        const auto path = file.commit(QLatin1String(name));
+        const auto path = file.commit(name + ending);
         if (!path) {
             written.error =
                 QStringLiteral("The report cannot be written into %1: %2").arg(folder, file.error());
         }
         return path.value_or(QString());
     };
-    written.html = write("Recovery report.html",
-                         [&](const Pieces& add) { htmlTo(add, head, items, folder, thumbnail); });
-    written.csv = write("Recovery report.csv", [&](const Pieces& add) { csvTo(add, head, items, folder); });
+    written.html = write(kPage, [&](const Pieces& add) { htmlTo(add, head, items, folder, thumbnail); });
+    written.csv = write(kTable, [&](const Pieces& add) { csvTo(add, head, items, folder); });
     return written;
 }
 

@@ -42,7 +42,8 @@ struct WrittenReport {
 };
 
 // Writes "Recovery report.html" and "Recovery report.csv" (RFC 4180, UTF-8, with a line of column names) into
-// the folder; replaces nothing.
+// the folder; replaces nothing. Where one lies there already, the names tell when the saving ended:
+// "Recovery report 2026-11-22 14.05.33.html".
 WrittenReport writeReport(const QString& folder, const ReportHead& head,
                           const std::vector<ReportedItem>& items, const ReportThumbnail& thumbnail = {});
 

@@ -25,9 +25,9 @@ void SaveJob::cancel() {
     m_watch.ended = true;
 }
 
-void SaveJob::skip(std::size_t place) {
+void SaveJob::skip(std::size_t turn) {
     const std::lock_guard lock(m_lock);
-    if (m_progress.done == place) {
+    if (m_progress.turn == turn) {
         m_watch.ended = true;
     }
 }
@@ -47,6 +47,7 @@ void SaveJob::run() {
     const auto held = [](const ChosenItem& chosen) { return !chosen.item->heldBytes().isEmpty(); };
     if (medium || std::any_of(m_request.items.begin(), m_request.items.end(), held)) {
         saveAll(medium.get());
+        compileReport();
         m_request.saver->flush();
         writeTheReport();
     }
@@ -63,37 +64,73 @@ void SaveJob::begin(const MyImageObject& item) {
 }
 
 void SaveJob::saveAll(SectorReader* medium) {
-    for (const ChosenItem& chosen : m_request.items) {
-        const MyImageObject& item = *chosen.item;
-        begin(item);
-        std::optional<WatchedReader> watched;
-        if (medium != nullptr) {
-            watched.emplace(*medium, m_watch);
-        }
-        FoundItem found{item.fileType(),
-                        item.imageTitle(),
-                        {item.carved(),
-                         item.heldBytes(),
-                         [&watched] { return watched ? &*watched : nullptr; },
-                         medium != nullptr ? medium->mediumSectors() : 0,
-                         false,
-                         {{}, m_request.card}},
-                        &m_watch.ended};
-        SaveOutcome outcome = m_request.saver->save(found);
-        if (m_cancelled && !outcome.saved) {
+    m_outcomes.resize(m_request.items.size());
+    m_request.saver->beginRound();
+    WaitingClaims later;
+    for (std::size_t place = 0; place < m_outcomes.size(); ++place) {
+        if (!saveItem(place, medium, later.isFull() ? nullptr : &later)) {
             return;
         }
-        if (m_watch.ended && !outcome.saved) {
-            outcome.error = QStringLiteral("Skipped");
-        }
-        m_report.tally.add(item.imageTitle(), outcome);
-        m_report.indexes.push_back(chosen.index);
-        m_report.items.push_back({item.imageTitle(), found.type, item.publishedSectors().first,
-                                  item.publishedSectors().end, std::move(outcome)});
-        const std::lock_guard lock(m_lock);
-        ++m_progress.done;
-        m_progress.share += m_sectorsOfCurrent.exchange(0);
     }
+    m_request.saver->beginSecondRound();
+    for (const std::size_t place : later.take()) {
+        if (!saveItem(place, medium, nullptr)) {
+            return;
+        }
+    }
+}
+
+// False when all is cancelled. `later` takes the item where it has to come again.
+bool SaveJob::saveItem(std::size_t place, SectorReader* medium, WaitingClaims* later) {
+    const MyImageObject& item = *m_request.items[place].item;
+    begin(item);
+    std::optional<WatchedReader> watched;
+    if (medium != nullptr) {
+        watched.emplace(*medium, m_watch);
+    }
+    SaveOutcome outcome = m_request.saver->save({item.fileType(),
+                                                 item.imageTitle(),
+                                                 {item.carved(),
+                                                  item.heldBytes(),
+                                                  [&watched] { return watched ? &*watched : nullptr; },
+                                                  medium != nullptr ? medium->mediumSectors() : 0,
+                                                  false,
+                                                  nullptr,
+                                                  {m_request.card}},
+                                                 &m_watch.ended,
+                                                 later != nullptr});
+    if (m_cancelled && !outcome.saved) {
+        return false;
+    }
+    const std::lock_guard lock(m_lock);
+    ++m_progress.turn;
+    if (outcome.later) {
+        later->add(place, outcome.bytes, foundSectors(item), outcome.verdict == Verdict::Complete);
+        m_sectorsOfCurrent = 0;
+        return true;
+    }
+    if (m_watch.ended && !outcome.saved) {
+        outcome.error = QStringLiteral("Skipped");
+    }
+    m_outcomes[place] = std::move(outcome);
+    ++m_progress.done;
+    m_progress.share += m_sectorsOfCurrent.exchange(0);
+    return true;
+}
+
+void SaveJob::compileReport() {
+    for (std::size_t place = 0; place < m_outcomes.size(); ++place) {
+        if (!m_outcomes[place]) {
+            continue;
+        }
+        const MyImageObject& item = *m_request.items[place].item;
+        m_report.tally.add(item.imageTitle(), *m_outcomes[place]);
+        m_report.indexes.push_back(m_request.items[place].index);
+        m_reportedPlaces.push_back(place);
+        m_report.items.push_back({item.imageTitle(), item.fileType(), item.publishedSectors().first,
+                                  item.publishedSectors().end, std::move(*m_outcomes[place])});
+    }
+    m_outcomes.clear();
 }
 
 void SaveJob::writeTheReport() {
@@ -101,10 +138,9 @@ void SaveJob::writeTheReport() {
         return;
     }
     m_request.report->ended = QDateTime::currentDateTime();
-    // The report's items are the first of the request's.
     const auto pictureOf = [this](const ReportedItem& reported) {
-        const auto place = static_cast<std::size_t>(&reported - m_report.items.data());
-        const QByteArray& picture = m_request.items[place].item->imageData();
+        const auto at = static_cast<std::size_t>(&reported - m_report.items.data());
+        const QByteArray& picture = m_request.items[m_reportedPlaces[at]].item->imageData();
         return picture == m_request.placeholder ? QByteArray() : picture;
     };
     const bool pictures =

@@ -11,6 +11,7 @@
 
 #include "media/SectorReader.h"
 #include "media/WatchedReader.h"
+#include "saving/LengthClaims.h"
 #include "saving/RecoveryReport.h"
 #include "saving/SaveTally.h"
 
@@ -34,7 +35,7 @@ struct SaveRequest {
     QByteArray placeholder;  // the picture of items without a thumbnail, which the report leaves out
 };
 
-// What became of the items, in the order of the request; those behind a cancel are absent.
+// What became of the items, in the order of the request; those that a cancel came before are absent.
 struct SaveReport {
     bool mediumOpened = false;  // else only what memory holds was saved
     SaveTally tally;
@@ -46,6 +47,7 @@ struct SaveReport {
 // How far a job is.
 struct SaveProgress {
     std::size_t done = 0;       // items
+    std::size_t turn = 0;       // of the item at hand; one that comes again has another then
     QString current;            // name of the item at hand
     std::uint64_t share = 0;    // of total(), in sectors of the items as they were found
     std::uint64_t refused = 0;  // sectors of the item at hand that the medium could not read
@@ -61,9 +63,9 @@ class SaveJob {
     // The item at hand is given up at once, unless the medium keeps it waiting; nothing of it stays behind.
     void cancel();
     bool isCancelled() const { return m_cancelled; }
-    // Gives up the item of that place in the request as cancel() does, and goes on with the next; no effect
-    // when another is at hand.
-    void skip(std::size_t place);
+    // Gives up the item of that turn (see SaveProgress) as cancel() does, and goes on with the next; no
+    // effect when another is at hand.
+    void skip(std::size_t turn);
     bool isFinished() const { return m_finished; }
 
     std::size_t count() const { return m_request.items.size(); }
@@ -75,12 +77,16 @@ class SaveJob {
 
   private:
     void saveAll(SectorReader* medium);
+    bool saveItem(std::size_t place, SectorReader* medium, WaitingClaims* later);
     void begin(const MyImageObject& item);
+    void compileReport();
     void writeTheReport();
 
     SaveRequest m_request;
     SaveReport m_report;
     std::uint64_t m_total = 0;
+    std::vector<std::optional<SaveOutcome>> m_outcomes;  // by place in the request
+    std::vector<std::size_t> m_reportedPlaces;           // of the report's items
     ReadWatch m_watch;
     std::atomic<bool> m_cancelled{false};
     std::atomic<bool> m_finished{false};

@@ -35,6 +35,7 @@ void SaveQueue::add(SaveTask task) {
     std::unique_lock lock(m_mutex);
     m_taken.wait(lock, [&] { return m_waitingBytes == 0 || m_waitingBytes + cost <= kMostWaitingBytes; });
     m_waitingBytes += cost;
+    task.place = m_places++;
     m_waiting.push_back(std::move(task));
     m_added.notify_one();
 }
@@ -55,6 +56,8 @@ void SaveQueue::run() {
     for (;;) {
         m_added.wait(lock, [this] { return m_finishing || !m_waiting.empty(); });
         if (m_waiting.empty()) {
+            lock.unlock();
+            saveWaiting();
             m_saver.flush();
             return;
         }
@@ -77,12 +80,32 @@ SectorReader* SaveQueue::medium() {
     return m_medium.get();
 }
 
-void SaveQueue::save(SaveTask& task) {
+SaveOutcome SaveQueue::attempt(const SaveTask& task, bool mayWait) {
     medium();
     FoundItem item{task.type, task.name, {task.carved, task.firstBytes, [this] { return m_medium.get(); }}};
     item.source.mediumSectors = m_medium ? m_medium->mediumSectors() : 0;
     item.source.hints = task.hints;
-    m_done(task, m_saver.save(item));
+    item.mayWait = mayWait;
+    return m_saver.save(item);
+}
+
+// What could not be read may only stand in the bytes at hand, and those are not kept.
+void SaveQueue::save(SaveTask& task) {
+    const SaveOutcome outcome = attempt(task, !m_later.isFull() && !task.carved.readFailed);
+    if (!outcome.later) {
+        m_done(task, outcome);
+        return;
+    }
+    m_later.add(task.place, outcome.bytes, task.carved.sectors(), outcome.verdict == Verdict::Complete);
+    m_laterTasks[task.place] = {task.type, task.name, task.carved, {}, task.hints, task.place};
+}
+
+void SaveQueue::saveWaiting() {
+    m_saver.beginSecondRound();
+    for (const std::size_t place : m_later.take()) {
+        auto task = m_laterTasks.extract(place);
+        m_done(task.mapped(), attempt(task.mapped(), false));
+    }
 }
 
 }  // namespace vantor

@@ -1,6 +1,7 @@
 // Counts in words.
 #include "saving/SaveSummary.h"
 
+#include <QFileInfo>
 #include <QObject>
 #include <QStringList>
 
@@ -78,8 +79,9 @@ QString summaryDetails(const SaveSummary& summary) {
     if (summary.cancelled) {
         lines << QObject::tr("The rest was not saved because you cancelled.");
     }
-    if (summary.reportWritten) {
-        lines << QObject::tr("The Recovery report beside them tells more of each file.");
+    if (!summary.report.isEmpty()) {
+        lines << QObject::tr("“%1” in the destination folder tells more of each file.")
+                     .arg(QFileInfo(summary.report).fileName());
     } else if (!summary.reportError.isEmpty()) {
         lines << summary.reportError;
     }

@@ -11,7 +11,7 @@ struct SaveSummary {
     SaveTally tally;
     QString destination;
     bool cancelled = false;
-    bool reportWritten = false;
+    QString report;  // path; "" when none was written
     QString reportError;
     bool mediumGone = false;  // before all was read
 };

@@ -82,6 +82,13 @@ void SavedFiles::lookIntoCardFolder(const QString& folder) {
     }
 }
 
+void SavedFiles::add(const Likeness& likeness, SavedFile file) {
+    const auto added = m_files.emplace(likeness, std::move(file));
+    if (added->second.allRead && added->second.firstSector != SavedFile::kNoPlace) {
+        m_byPlace.emplace(added->second.firstSector, added);
+    }
+}
+
 void SavedFiles::lookInto(const QString& folder, const QString& type) {
     if (!m_folders.insert(folder).second) {
         return;
@@ -111,10 +118,11 @@ bool SavedFiles::hasLike(const Likeness& likeness) {
 
 const SavedFile* SavedFiles::fromPlace(std::uint64_t bytes, const SoughtFile& sought) const {
     const SavedFile* best = nullptr;
-    for (auto file = m_files.lower_bound({bytes, {}}); file != m_files.end() && file->first.bytes == bytes;
-         ++file) {
-        if (file->second.firstSector == sought.firstSector && file->second.allRead) {
-            best = better(best, file->second, bytes, sought);
+    const auto [begin, end] = m_byPlace.equal_range(sought.firstSector);
+    for (auto place = begin; place != end; ++place) {
+        const auto& [likeness, file] = *place->second;
+        if (likeness.bytes == bytes) {
+            best = better(best, file, bytes, sought);
         }
     }
     return best;

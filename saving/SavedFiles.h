@@ -9,6 +9,7 @@
 #include <map>
 #include <set>
 #include <tuple>
+#include <unordered_map>
 #include <utility>
 
 namespace vantor {
@@ -50,7 +51,7 @@ struct SoughtFile {
 // Any one thread.
 class SavedFiles {
   public:
-    void add(const Likeness& likeness, SavedFile file) { m_files.emplace(likeness, std::move(file)); }
+    void add(const Likeness& likeness, SavedFile file);
     // Takes note of the files of a type that lie in and below its folder already, or of any that lie in a
     // folder of the card's; once a folder.
     void lookInto(const QString& folder, const QString& type);
@@ -70,9 +71,13 @@ class SavedFiles {
     const SavedFile* servingCopyOf(const SavedFile& same, const Likeness& likeness, const SoughtFile& sought);
 
   private:
+    using Files = std::multimap<Likeness, SavedFile>;
+
     void lookAtFilesOf(std::uint64_t bytes);
 
-    std::multimap<Likeness, SavedFile> m_files;
+    Files m_files;
+    // Of files that were read whole, by their places: a card may hold millions of one size.
+    std::unordered_multimap<std::uint64_t, Files::const_iterator> m_byPlace;
     std::set<QString> m_folders;  // that were looked into
     // Files from earlier by their size; nothing of them is read before another of that size comes.
     std::multimap<std::uint64_t, SavedFile> m_fromEarlier;

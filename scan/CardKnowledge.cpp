@@ -47,12 +47,10 @@ std::vector<std::shared_ptr<const CardFile>> ScanSession::toldFiles() const {
         return {};
     }
     std::vector<std::uint64_t> starts;
-    {
-        const std::lock_guard lock(m_listLock);
-        for (const auto& item : images) {
-            if (!item->carved().runs.empty()) {
-                starts.push_back(item->carved().runs.front().first);
-            }
+    for (std::size_t i = 0; i < itemCount(); ++i) {
+        const auto item = itemAt(i);
+        if (item && !item->carved().runs.empty()) {
+            starts.push_back(item->carved().runs.front().first);
         }
     }
     std::sort(starts.begin(), starts.end());
@@ -92,12 +90,10 @@ void ScanSession::learnOfCard() {
         return;
     }
     std::vector<FoundStart> found;
-    {
-        const std::lock_guard lock(m_listLock);
-        for (const auto& item : images) {
-            if (!item->carved().runs.empty()) {
-                found.push_back({item->carved().runs.front().first, item->fileType()});
-            }
+    for (std::size_t i = 0; i < itemCount(); ++i) {
+        const auto item = itemAt(i);
+        if (item && !item->carved().runs.empty()) {
+            found.push_back({item->carved().runs.front().first, item->fileType()});
         }
     }
     WatchedReader watched(*medium, m_cardWatch, kMostCardSectors);

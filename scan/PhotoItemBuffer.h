@@ -34,13 +34,16 @@ class PhotoItemBuffer {
         std::memcpy(m_data + (m_size - kSectorBytes), sector, kSectorBytes);
     }
 
+    // Takes a sector into account without its bytes; none can be appended behind it.
+    void passOver() { m_passedOver += kSectorBytes; }
+
     // Room for the largest item so far is asked for at once, since growing step by step copies each
     // item once more. The old bytes are left to whoever still holds them, who may give their memory back.
     void clear() {
         m_room = std::max(m_room, heldBytes());
         m_memory.giveBack(std::exchange(m_bytes, {}));
         m_bytes = m_memory.take(m_room);
-        m_size = 0;
+        m_size = m_passedOver = 0;
         m_overflow.reset();
     }
 
@@ -51,7 +54,8 @@ class PhotoItemBuffer {
         }
         return m_bytes;
     }
-    std::uint64_t size() const { return m_size; }
+    // With what was passed over.
+    std::uint64_t size() const { return m_size + m_passedOver; }
     // Checksum of an item that outgrew the memory; empty for all others.
     QByteArray overflowSha256() const { return m_overflow ? m_overflow->result() : QByteArray(); }
 
@@ -80,6 +84,7 @@ class PhotoItemBuffer {
     char* m_data = nullptr;  // of m_bytes
     qsizetype m_room = 0;    // bytes
     std::uint64_t m_size = 0;
+    std::uint64_t m_passedOver = 0;  // bytes
     std::optional<QCryptographicHash> m_overflow;
 };
 

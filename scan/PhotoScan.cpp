@@ -7,7 +7,9 @@
 #include "catalogue/NumberText.h"
 #include "catalogue/SignatureRecord.h"
 #include "scan/HeaderMatcher.h"
+#include "scan/PassReading.h"
 #include "scan/PhotoItemBuffer.h"
+#include "scan/PhotoPicture.h"
 #include "scan/PlatformException.h"
 #include "scan/ReferenceSector.h"
 #include "scan/ScanSession.h"
@@ -38,6 +40,12 @@ struct ScanSession::PhotoPass {
     PhotoItemBuffer item;
     std::shared_ptr<const HeaderMatcher> matcher;
     std::vector<std::uint64_t> limits;  // bytes, a record each
+    PassReading reading;
+    bool keepsBytes = true;  // of an item; else its first sector alone
+    // Where they are needed for its picture all the same: a reader beside the scan's, opened when first used.
+    bool readsPictures = false;
+    std::unique_ptr<SectorReader> beside;
+    std::vector<std::uint8_t> pictureMemory;
 
     ReferenceSector reference;
     CarvedRun carved;
@@ -68,7 +76,11 @@ bool ScanSession::Photo_Recovey_Mode(const QString& passName) {
     withoutPlatformException([&] {
         prepareRecords(passName, Ext_Array, Adv_Ext_Array);
         pass.searchFor(REC_PROC_Array);
-        pFile_Disk->setScreen(screenFor(pass.matcher));
+        pass.reading = beginReading(ControlSet::Photo, passName, pass.matcher);
+        const PhotoBytes needed = photoBytesNeeded();
+        pass.keepsBytes =
+            needed == PhotoBytes::All || (needed == PhotoBytes::Picture && !pass.reading.recalls);
+        pass.readsPictures = needed == PhotoBytes::Picture && !pass.keepsBytes;
         runPhotoLoop(pass);
     });
     const auto openItemAt = pass.itemOpen ? std::optional(pass.itemFirstSector) : std::nullopt;
@@ -87,17 +99,27 @@ bool ScanSession::Photo_Recovey_Mode(const QString& passName) {
 
 void ScanSession::runPhotoLoop(PhotoPass& pass) {
     SectorReader& medium = *pFile_Disk;
+    const bool remembers = pass.reading.remembers();
     const std::uint64_t end = end_sector;
     const bool haveRecords = !REC_PROC_Array.isEmpty();
     const std::uint64_t limitWithoutMatch = pass.limits.empty() ? 0 : pass.limits.back();
     std::uint64_t index = for_index;
+    bool bytesWanted = false;
     while (index < end && haveRecords) {
         if (stop_now.load(std::memory_order_relaxed) == 1) {
             pass.stopped = true;
             return;
         }
+        // A sector without a match matters as long as it changes the limit.
+        const bool limitIsOpen = pass.itemOpen && pass.itemLimit != limitWithoutMatch;
+        if (const bool want = limitIsOpen || (pass.itemOpen && pass.keepsBytes); want != bytesWanted) {
+            medium.wantBytes(bytesWanted = want);
+        }
         const bool readBefore = pass.lastReadSucceeded;
         pass.lastReadSucceeded = medium.read();
+        if (remembers) {
+            pass.reading.note(medium, pass.lastReadSucceeded, *m_refusals);
+        }
         if (pass.lastReadSucceeded) {
             pass.lastGoodSector = medium.position() - 1;
             noteTrace(medium, pass.lastGoodSector);
@@ -106,13 +128,12 @@ void ScanSession::runPhotoLoop(PhotoPass& pass) {
             pass.carved.readFailed = true;
             if (!medium.seek(index)) {
                 // Bytes that can be neither renewed nor passed over count as a repeat.
+                medium.bringCurrent();
                 pass.reference.become(medium.current());
             }
         }
         for_index.store(++index, std::memory_order_relaxed);
-        // A sector without a match matters as long as it changes the limit.
-        if ((medium.worthALook() || pass.itemLimit != limitWithoutMatch) &&
-            !pass.reference.equals(medium.current())) {
+        if ((medium.worthALook() || limitIsOpen) && !pass.reference.equals(medium.current())) {
             const auto match = pass.matcher->firstMatch(medium.current());
             if (!pass.limits.empty()) {
                 pass.itemLimit = match ? pass.limits[static_cast<std::size_t>(*match)] : limitWithoutMatch;
@@ -132,7 +153,11 @@ void ScanSession::runPhotoLoop(PhotoPass& pass) {
 void ScanSession::collectPhotoSector(PhotoPass& pass) {
     pass.itemSize += kSectorBytes;
     if (pass.itemSize < pass.itemLimit) {
-        pass.item.append(pFile_Disk->current());
+        if (pass.keepsBytes || pass.item.size() == 0) {
+            pass.item.append(pFile_Disk->current());
+        } else {
+            pass.item.passOver();
+        }
         if (pass.lastReadSucceeded || pass.carved.runs.empty()) {
             pass.carved.add(pass.lastGoodSector);
         } else {
@@ -175,17 +200,30 @@ void ScanSession::startPhotoItem(PhotoPass& pass, int record) {
     pass.carved = CarvedRun{{}, !pass.lastReadSucceeded};
 }
 
+// Nobody waits for the medium once more when the user has stopped.
+QByteArray ScanSession::photoBytes(PhotoPass& pass) const {
+    if (!pass.readsPictures || pass.stopped || pass.item.size() == 0) {
+        return pass.item.bytes();
+    }
+    if (!pass.beside) {
+        pass.beside = openMedium();
+    }
+    return pass.beside
+               ? pictureBytes(pass.itemType, pass.carved, pass.item.bytes(), *pass.beside, pass.pictureMemory)
+               : pass.item.bytes();
+}
+
 // Hands the item over as it stands, empty ones included, which the adder drops.
 void ScanSession::handOverPhoto(PhotoPass& pass) {
     m_handOver = {
         pass.name,  pass.itemType, pass.itemFirstSector, pass.item.size(), pass.item.overflowSha256(),
         pass.carved};
     const auto size = static_cast<std::uint64_t>(pass.item.bytes().size());
-    if (pass.carved.readFailed && m_heldBytes + size <= kMostHeldBytes) {
+    if (pass.keepsBytes && pass.carved.readFailed && m_heldBytes + size <= kMostHeldBytes) {
         m_heldBytes += size;
         m_handOver.heldBytes = pass.item.bytes();
     }
-    addImageWithData(pass.item.bytes(), pass.itemName, pass.itemUid);
+    addImageWithData(photoBytes(pass), pass.itemName, pass.itemUid);
     m_handOver = {};
     pass.item.clear();
     pass.carved = {};

@@ -8,6 +8,7 @@
 #include "catalogue/SignatureRecord.h"
 #include "catalogue/TextHelpers.h"
 #include "scan/HeaderMatcher.h"
+#include "scan/PassReading.h"
 #include "scan/PlatformException.h"
 #include "scan/ReferenceSector.h"
 #include "scan/ScanSession.h"
@@ -71,6 +72,7 @@ struct ScanSession::RawPass {
     std::shared_ptr<const HeaderMatcher> matcher;
     Companions companions;
     QString destination;
+    PassReading reading;
 
     ReferenceSector reference;
     CarvedRun carved;
@@ -95,7 +97,7 @@ bool ScanSession::Raw_File_Recovey_Mode(const QString& passName) {
     prepareRecords(passName, CheckListHeader_Array, CheckListHeader_Adv_Array);
 
     RawPass pass(passName, REC_PROC_Array, m_view.destinationFolder());
-    pFile_Disk->setScreen(screenFor(pass.matcher));
+    pass.reading = beginReading(ControlSet::Sig, passName, pass.matcher);
     bool stopped = false;
     if (!withoutPlatformException([&] { stopped = !runRawLoop(pass); })) {
         // Open items are not published then, in a later pass neither.
@@ -122,6 +124,7 @@ bool ScanSession::Raw_File_Recovey_Mode(const QString& passName) {
 // False when the user stopped.
 bool ScanSession::runRawLoop(RawPass& pass) {
     SectorReader& medium = *pFile_Disk;
+    const bool remembers = pass.reading.remembers();
     const std::uint64_t end = end_sector;
     std::uint64_t index = for_index;
     if (index < end && REC_PROC_Array.isEmpty()) {
@@ -134,12 +137,16 @@ bool ScanSession::runRawLoop(RawPass& pass) {
         }
         const bool readBefore = pass.lastReadSucceeded;
         pass.lastReadSucceeded = medium.read();
+        if (remembers) {
+            pass.reading.note(medium, pass.lastReadSucceeded, *m_refusals);
+        }
         if (pass.lastReadSucceeded) {
             pass.lastGoodSector = medium.position() - 1;
             noteTrace(medium, pass.lastGoodSector);
         } else {
             m_readFailures.note(medium.position(), readBefore);
             if (!medium.seek(index)) {
+                medium.bringCurrent();
                 pass.reference.become(medium.current());
             }
         }

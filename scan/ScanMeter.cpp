@@ -31,10 +31,9 @@ QString timeLeft(double seconds) {
 
 }  // namespace
 
-void ScanMeter::begin(std::uint64_t sectors, std::uint64_t later) {
+void ScanMeter::begin(std::uint64_t sectors) {
     *this = ScanMeter();
     m_sectors = sectors;
-    m_later = later;
 }
 
 void ScanMeter::update(std::int64_t milliseconds, std::uint64_t done) {
@@ -55,7 +54,7 @@ std::optional<double> ScanMeter::secondsLeft() const {
     if (!bytesPerSecond() || m_done > m_sectors) {
         return std::nullopt;
     }
-    return m_speed.secondsFor(m_sectors - m_done + m_later);
+    return m_speed.secondsFor(m_sectors - m_done);
 }
 
 QString ScanMeter::speedAndTimeLeft() const {

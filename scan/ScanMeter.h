@@ -11,14 +11,14 @@ namespace vantor {
 
 class ScanMeter {
   public:
-    // Work over `sectors` sectors begins, such as a pass; the passes behind it have `later` more.
-    void begin(std::uint64_t sectors, std::uint64_t later = 0);
+    // Work over `sectors` sectors begins, such as a pass.
+    void begin(std::uint64_t sectors);
     // `done` sectors were worked through `milliseconds` after some fixed moment.
     void update(std::int64_t milliseconds, std::uint64_t done);
 
     // Bytes a second over the last minute; nothing before the first half second.
     std::optional<double> bytesPerSecond() const;
-    std::optional<double> secondsLeft() const;  // to the end of the last pass
+    std::optional<double> secondsLeft() const;
 
     // "84 MB/s  ·  about 3 min left".
     QString speedAndTimeLeft() const;
@@ -27,7 +27,6 @@ class ScanMeter {
 
   private:
     std::uint64_t m_sectors = 0;
-    std::uint64_t m_later = 0;
     std::uint64_t m_done = 0;
     std::int64_t m_since = -1;
     SpeedMeter m_speed;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "catalogue/SignatureRecord.h"
+#include "scan/PassReading.h"
 #include "scan/ProgressText.h"
 
 namespace vantor {
@@ -13,6 +14,19 @@ ScanSession::ScanSession(ScanView& view) : m_view(view) {}
 
 ScanSession::~ScanSession() = default;
 
+MediumOpener ScanSession::knowingRefusals(MediumOpener opener) const {
+    if (!opener) {
+        return {};
+    }
+    return [opener = std::move(opener), refusals = m_refusals](const QString& devicePath) {
+        auto medium = opener(devicePath);
+        if (medium) {
+            medium->shareRefusals(refusals);
+        }
+        return medium;
+    };
+}
+
 // What both scans begin with, from the mode text to the help; false when the medium cannot be opened.
 bool ScanSession::beginPass(ControlSet set, const QString& passName) {
     m_view.showModeLabel(
@@ -20,9 +34,16 @@ bool ScanSession::beginPass(ControlSet set, const QString& passName) {
             ? QStringLiteral("( Currently performing Search based on: Vantor General Recovery Procedure )")
             : QStringLiteral("( Currently performing Search based on: Vantor Thorough Scanning Alogrithm )"));
     pFile_Disk.reset();
-    prepareRange(set, passName);
+    prepareRange(set);
     m_readFailures = {};
     const bool thorough = passName == kThoroughPass;
+    if (passName == kGeneralPass) {
+        m_refusals->forget();
+        if (m_keeper) {
+            m_keeper->tellRefusals(*m_refusals);
+        }
+        m_memory.reset();
+    }
     // A thorough pass over no signatures meets none of them again.
     const std::uint64_t unreadableBefore = thorough ? m_end.unreadable : 0;
     m_end = {};
@@ -56,6 +77,35 @@ bool ScanSession::anotherPassFollows(ControlSet set, const QString& passName) co
                                     : !CheckListHeader_Adv_Array.isEmpty();
 }
 
+// What the general pass reads is screened for the thorough one too, which then need not read it again.
+PassReading ScanSession::beginReading(ControlSet set, const QString& passName,
+                                      const std::shared_ptr<const HeaderMatcher>& matcher) {
+    PassReading reading;
+    if (m_keeper && passName == kGeneralPass) {
+        reading.keeper = m_keeper.get();
+        reading.recalls = m_keeper->goesOn();
+    }
+    if (reading.recalls) {
+        pFile_Disk->setRecall(m_keeper->recall());
+    }
+    if (anotherPassFollows(set, passName)) {
+        m_memory =
+            std::make_shared<PassMemory>(set == ControlSet::Photo ? Adv_Ext_Array : CheckListHeader_Adv_Array,
+                                         pFile_Disk->mediumSectors());
+        pFile_Disk->setScreen(screenFor(m_memory->screenBeside(matcher)));
+        reading.forLater = m_memory.get();
+        return reading;
+    }
+    pFile_Disk->setScreen(screenFor(matcher));
+    const auto memory = std::exchange(m_memory, nullptr);
+    if (!memory || !memory->isFor(REC_PROC_Array, pFile_Disk->mediumSectors())) {
+        return reading;
+    }
+    pFile_Disk->setRecall(memory);
+    reading.recalls = true;
+    return reading;
+}
+
 // To the first sector of the pass, with the records that it searches for.
 void ScanSession::prepareRecords(const QString& passName, const QStringList& general,
                                  const QStringList& thorough) {
@@ -74,11 +124,10 @@ void ScanSession::prepareRecords(const QString& passName, const QStringList& gen
 }
 
 // Range, progress bar, counter and text.
-void ScanSession::prepareRange(ControlSet set, const QString& passName) {
+void ScanSession::prepareRange(ControlSet set) {
     start_sector = 0;
     end_sector = 0;
     const SectorRange range = rangeFromControls(m_view.rangeControls(set));
-    m_laterSectors = anotherPassFollows(set, passName) ? range.end - range.start : 0;
     for_index = range.start;  // first, so that no tick in between sees less than nothing done
     start_sector = range.start;
     end_sector = range.end;
@@ -129,6 +178,9 @@ void ScanSession::openFailed(ControlSet set) {
 
 // Before the medium is closed, which knows how it fared.
 void ScanSession::passEnds(PassOutcome outcome, std::optional<std::uint64_t> openItemAt) {
+    if (m_keeper && outcome != PassOutcome::OpenError) {
+        m_keeper->write(*m_refusals);
+    }
     m_end.outcome = outcome;
     m_end.start = start_sector;
     m_end.end = end_sector;

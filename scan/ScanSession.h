@@ -27,9 +27,11 @@
 #include "catalogue/FileTypeList.h"
 #include "catalogue/NumberText.h"
 #include "filesystem/CardCollector.h"
+#include "media/RefusedSectors.h"
 #include "media/SectorReader.h"
 #include "media/WatchedReader.h"
 #include "results/CardIndex.h"
+#include "results/FoundItems.h"
 #include "results/MyImageObject.h"
 #include "results/RecoveryMode.h"
 #include "results/ResultRow.h"
@@ -38,6 +40,11 @@
 #include "scan/SearchEnd.h"
 
 namespace vantor {
+
+class HeaderMatcher;
+class PassMemory;
+struct PassReading;
+class SearchKeeper;
 
 // The names of the passes.
 inline constexpr QStringView kGeneralPass = u"GEN";
@@ -63,10 +70,29 @@ class ScanSession : public HexText {
     ScanSession& operator=(const ScanSession&) = delete;
     virtual ~ScanSession();
 
-    void setMediumOpener(MediumOpener opener) { m_openMedium = std::move(opener); }
+    // Where the list of very many items may be kept; see ByteSpool. It must not lie on the medium.
+    void setSpillFolder(ByteSpool::Folder folder) { images.setSpillFolder(std::move(folder)); }
+    // Whether a sector that was refused twice in a search is asked for again by its later pass and by saving.
+    enum class RefusedSectorsAre { KnownToAll, AskedForAgain };
+    void setMediumOpener(MediumOpener opener, RefusedSectorsAre refused = RefusedSectorsAre::KnownToAll) {
+        m_openMedium =
+            refused == RefusedSectorsAre::KnownToAll ? knowingRefusals(std::move(opener)) : std::move(opener);
+    }
+    // The same for others who read the searched medium, such as previews and badges. It may be called on any
+    // thread, also when the session has ended.
+    MediumOpener knowingRefusals(MediumOpener opener) const;
+    // Sectors that were refused in this search may be asked for again. Any thread.
+    void forgetRefusals() { m_refusals->forget(); }
     void setThumbnailer(Thumbnailer thumbnailer) { m_thumbnailer = std::move(thumbnailer); }
 
+    // The next search is kept in the keeper's file, and goes on with the one that the keeper knows. Null: it
+    // is not kept.
+    void keepSearch(std::shared_ptr<SearchKeeper> keeper) { m_keeper = std::move(keeper); }
+
     // --- Catalogue and file types (SessionCatalogue.cpp) ---
+
+    // Of all records that a search of the mode looks for, as they are chosen now.
+    QByteArray catalogueSum() const;
 
     // Fills the six catalogue arrays from the files in the folder; an unreadable file leaves its array empty.
     void loadCatalogues(const QString& folder);
@@ -135,8 +161,6 @@ class ScanSession : public HexText {
     // How the last pass ended; not while one runs.
     const SearchEnd& searchEnd() const { return m_end; }
     PassOutcome lastOutcome() const { return m_end.outcome; }
-    // Sectors that the passes behind the one that runs will read. Any thread.
-    std::uint64_t sectorsOfLaterPasses() const { return m_laterSectors; }
 
     // --- Fields ---
 
@@ -196,6 +220,11 @@ class ScanSession : public HexText {
     // empty. Any one thread at a time.
     void addThumbnail(const QByteArray& thumbnail, const QString& imageName, const QString& image_UID,
                       const HandOver& from);
+    const RefusedSectors& refusals() const { return *m_refusals; }
+    // How much of a photo addImageWithData() has to be given where it would have to be read again: the first
+    // sector, as far as its picture reaches, or everything.
+    enum class PhotoBytes { First, Picture, All };
+    virtual PhotoBytes photoBytesNeeded() const { return PhotoBytes::All; }
     // Gives the listed item of the place and UID its thumbnail; nothing when it is no longer there. Any
     // thread.
     void replaceThumbnail(std::size_t index, const QString& image_UID, const QByteArray& thumbnail);
@@ -207,22 +236,24 @@ class ScanSession : public HexText {
     // For whoever held a photo's bytes longest.
     void giveBackPhotoBytes(QByteArray bytes) { m_photoMemory.giveBack(std::move(bytes)); }
 
-    std::vector<std::shared_ptr<MyImageObject>> images;
+    FoundItems images;
     QList<ResultRow> nsSIGFileInfoDataObject;
 
   private:
     struct PhotoPass;
     struct RawPass;
 
-    void appendItem(std::shared_ptr<MyImageObject> item);
-    void addRawItem(std::unique_ptr<MyImageObject> item, const QString& name, const QString& path);
+    void appendItem(const MyImageObject& item);
+    void addRawItem(MyImageObject& item, const QString& name, const QString& path);
     void pacePhotoBrowser();
     void paceBrowser(ControlSet set, std::uint64_t step);
-    void prepareRange(ControlSet set, const QString& passName);
+    void prepareRange(ControlSet set);
     void showProgressText();
     void fillTypeCounters();
     bool beginPass(ControlSet set, const QString& passName);
     bool anotherPassFollows(ControlSet set, const QString& passName) const;
+    PassReading beginReading(ControlSet set, const QString& passName,
+                             const std::shared_ptr<const HeaderMatcher>& matcher);
     void prepareRecords(const QString& passName, const QStringList& general, const QStringList& thorough);
     void openFailed(ControlSet set);
     // An item that is still open begins at the sector.
@@ -244,6 +275,7 @@ class ScanSession : public HexText {
     void runPhotoLoop(PhotoPass& pass);
     void collectPhotoSector(PhotoPass& pass);
     void startPhotoItem(PhotoPass& pass, int record);
+    QByteArray photoBytes(PhotoPass& pass) const;
     void handOverPhoto(PhotoPass& pass);
 
     bool runRawLoop(RawPass& pass);
@@ -257,6 +289,9 @@ class ScanSession : public HexText {
     ReadWatch m_cardWatch;
     std::shared_ptr<const CardIndex> m_card;  // guarded by listLock()
     MediumOpener m_openMedium;
+    const std::shared_ptr<RefusedSectors> m_refusals = std::make_shared<RefusedSectors>();
+    std::shared_ptr<SearchKeeper> m_keeper;
+    std::shared_ptr<PassMemory> m_memory;  // of the general pass, for the thorough one
     Thumbnailer m_thumbnailer;
     HandOver m_handOver;
     std::uint64_t m_heldBytes = 0;  // of all listed photos
@@ -264,7 +299,6 @@ class ScanSession : public HexText {
     QString m_placeholderPath;
     ReadFailures m_readFailures;  // of the pass
     SearchEnd m_end;
-    std::atomic<std::uint64_t> m_laterSectors{0};
     std::atomic<std::uint64_t> m_addedItems{0};
     mutable std::mutex m_listLock;
 };

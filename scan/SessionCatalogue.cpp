@@ -1,4 +1,6 @@
 // Loading of the six catalogues, and the file-type selection made from them.
+#include <QCryptographicHash>
+
 #include "catalogue/CatalogueFile.h"
 #include "scan/ScanSession.h"
 
@@ -21,6 +23,17 @@ const QStringList& ScanSession::generalCatalogueOfMode() const {
 
 const QStringList& ScanSession::thoroughCatalogueOfMode() const {
     return Recovery_MODE == kVideoMode ? Adv_Video_Array : Adv_RawFile_Array;
+}
+
+QByteArray ScanSession::catalogueSum() const {
+    const bool photo = Recovery_MODE == kPhotoMode;
+    QCryptographicHash sum(QCryptographicHash::Sha256);
+    for (const QStringList* const records :
+         {photo ? &Ext_Array : &CheckListHeader_Array, photo ? &Adv_Ext_Array : &CheckListHeader_Adv_Array}) {
+        sum.addData(records->join(u'\n').toUtf8());
+        sum.addData(QByteArrayView("\n\n"));
+    }
+    return sum.result();
 }
 
 void ScanSession::buildFileTypeList() {

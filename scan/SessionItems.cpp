@@ -48,14 +48,15 @@ void ScanSession::addThumbnail(const QByteArray& thumbnail, const QString& image
                                                   imageName, image_UID);
     item->setOrigin(from.type, from.carved, {from.firstSector, from.firstSector + from.bytes / kSectorBytes});
     item->setHeldBytes(from.heldBytes);
-    appendItem(std::move(item));
+    appendItem(*item);
     pacePhotoBrowser();
 }
 
 void ScanSession::replaceThumbnail(std::size_t index, const QString& image_UID, const QByteArray& thumbnail) {
     const std::lock_guard lock(m_listLock);
-    if (index < images.size() && images[index]->imageUID() == image_UID && !thumbnail.isEmpty()) {
-        images[index] = images[index]->withImageData(thumbnail);
+    const auto item = thumbnail.isEmpty() ? nullptr : images.at(index);
+    if (item && item->imageUID() == image_UID) {
+        images.setPicture(index, thumbnail);
     }
 }
 
@@ -68,12 +69,12 @@ void ScanSession::addImageWithPath(const QString& path, const QString& imageName
         Recovery_MODE == kVideoMode ||
         (m_thumbnailer && !m_thumbnailer(bytesOf(trimmed), pathExtension(trimmed)).isEmpty());
     if (shownFromPath) {
-        appendItem(MyImageObject::initWithImage_Path(trimmed, imageName, image_UID));
+        appendItem(*MyImageObject::initWithImage_Path(trimmed, imageName, image_UID));
     } else {
         noprevfile = m_placeholderPath;
         auto item = MyImageObject::initWithImage_data(Null_Image_Data, imageName, image_UID);
         item->setPath(noprevfile);
-        appendItem(std::move(item));
+        appendItem(*item);
     }
     pacePhotoBrowser();
 }
@@ -87,7 +88,7 @@ void ScanSession::addImageWithData_2(const QByteArray&, const QString& imageName
     auto item = MyImageObject::initWithImage(m_view.iconForFileType(pathExtension(name)), name, image_UID,
                                              File_Start_Sec, File_End_Sec);
     item->setOrigin(m_handOver.type, m_handOver.carved, {File_Start_Sec, File_End_Sec});
-    addRawItem(std::move(item), name, name);
+    addRawItem(*item, name, name);
 }
 
 void ScanSession::addImageWithPath_2(const QString& path, const QString& imageName,
@@ -96,15 +97,15 @@ void ScanSession::addImageWithPath_2(const QString& path, const QString& imageNa
     if (trimmed.isEmpty()) {
         return;
     }
-    addRawItem(MyImageObject::initWithImage(m_view.iconForFileType(pathExtension(trimmed)), imageName,
-                                            image_UID, 0, 0),
-               imageName, trimmed);
+    const auto item = MyImageObject::initWithImage(m_view.iconForFileType(pathExtension(trimmed)), imageName,
+                                                   image_UID, 0, 0);
+    addRawItem(*item, imageName, trimmed);
 }
 
 // Lists a raw item, counts it in its type's row and lets the browser follow.
-void ScanSession::addRawItem(std::unique_ptr<MyImageObject> item, const QString& name, const QString& path) {
-    item->setPath(path);
-    appendItem(std::move(item));
+void ScanSession::addRawItem(MyImageObject& item, const QString& name, const QString& path) {
+    item.setPath(path);
+    appendItem(item);
     {
         const std::lock_guard lock(m_listLock);
         countItem(nsSIGFileInfoDataObject, pathExtension(path), name, path);
@@ -134,9 +135,10 @@ void ScanSession::createSignatureListTableRecord(const QString& type, std::uint6
     m_view.resultRowsChanged();
 }
 
-void ScanSession::appendItem(std::shared_ptr<MyImageObject> item) {
+void ScanSession::appendItem(const MyImageObject& item) {
     const std::lock_guard lock(m_listLock);
-    images.push_back(std::move(item));
+    images.setPlaceholder(Null_Image_Data);
+    images.append(item);
 }
 
 std::size_t ScanSession::itemCount() const {
@@ -146,7 +148,7 @@ std::size_t ScanSession::itemCount() const {
 
 std::shared_ptr<MyImageObject> ScanSession::itemAt(std::size_t index) const {
     const std::lock_guard lock(m_listLock);
-    return index < images.size() ? images[index] : nullptr;
+    return images.at(index);
 }
 
 void ScanSession::clearItems() {

@@ -181,7 +181,7 @@ void MyTableController::showItemCounts() {
     for (QPushButton* button : {saveAllButton, saveAllButton_Sig}) {
         button->setEnabled(shown > 0);
         button->setText(m_looks->isPlain() ? tr("Save &All…")
-                                           : tr("Save &All Shown (%1)…").arg(QLocale().toString(shown)));
+                                           : tr("Save &All Shown (%1)…").arg(numberOf(shown)));
         button->setAccessibleName(m_looks->isPlain() ? tr("Save all found items")
                                                      : tr("Save all items that are shown"));
     }

@@ -32,6 +32,8 @@ MyTableController::MyTableController(ProgramParts parts)
     m_previewHold = PreviewFolderHold(m_previewFolder);
     setMediumOpener(m_parts.openMedium);
     setAskCard(m_parts.askCard);
+    m_parts.openMedium = knowingRefusals(std::move(m_parts.openMedium));
+    m_parts.openBeside = knowingRefusals(std::move(m_parts.openBeside));
     setThumbnailer(m_parts.thumbnailer);
     if (m_parts.thumbnailer) {
         m_thumbnails = std::make_unique<ThumbnailQueue>(m_parts.thumbnailer, thumbnailQueueOptions());

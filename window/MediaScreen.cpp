@@ -1,6 +1,7 @@
 // The first screen's list of storage media.
 
 #include "media/SizeText.h"
+#include "results/SizeForPeople.h"
 #include "window/MyTableController.h"
 #include "window/widgets/Alerts.h"
 #include "window/widgets/Sheet.h"
@@ -43,6 +44,7 @@ QString MyTableController::getMPSize(const QString& bytes) const {
 
 // Something was put in or pulled out: the list follows while it is in view.
 void MyTableController::mediaChanged() {
+    m_looks->tryAgain();
     if (screen_counter == 0 && !session) {
         reloadMediaKeepingSelection();
     }
@@ -88,7 +90,11 @@ void MyTableController::openImages(const QStringList& files) {
     reloadMediaKeepingSelection();
     selectMedium(lastOpened);
     if (!refusals.isEmpty()) {
-        runAlert({QStringLiteral("\n") + tr("The image could not be opened."), refusals.join(u'\n')}, window);
+        const QString what = refusals.size() == 1
+                                 ? tr("The image could not be opened.")
+                                 : tr("%1 images could not be opened.")
+                                       .arg(numberForPeople(static_cast<std::uint64_t>(refusals.size())));
+        runAlert({QStringLiteral("\n") + what, refusals.join(u'\n')}, window);
     }
 }
 

@@ -180,6 +180,9 @@ class MyTableController : public QObject,
     // carving.
     void addImageWithData(const QByteArray& data, const QString& imageName,
                           const QString& image_UID) override;
+    PhotoBytes photoBytesNeeded() const override {
+        return m_parts.thumbnailer ? PhotoBytes::Picture : PhotoBytes::First;
+    }
     qsizetype numberOfItemsInImageBrowser(const ImageBrowserView* view) override;
     std::shared_ptr<MyImageObject> imageBrowser_itemAtIndex(const ImageBrowserView* view,
                                                             qsizetype index) override;
@@ -324,6 +327,7 @@ class MyTableController : public QObject,
     QString askDestination();
     QString chooseDestination();
     bool acceptDestination(const QString& folder);
+    bool isStillThere(const QString& folder) const;
     bool destinationStillThere();
     void showDestination();
     void openDestination();
@@ -349,6 +353,9 @@ class MyTableController : public QObject,
     void showTypeCounts();
     // window/SearchEndBar.cpp
     void showSearchEnd();
+    void tryBadSectorsAgain();
+    // The badges of the list begin anew.
+    void beginLooks();
     PanelWords endPanelWords(const PanelWords& drawn) const;
     SearchWish searchWish() const;
     void showEmptyResults();

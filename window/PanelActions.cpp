@@ -89,15 +89,24 @@ bool MyTableController::acceptDestination(const QString& folder) {
     return true;
 }
 
-// False, with a word to the user, when another disk lies where the chosen folder was.
+// Another disk may lie where that of the chosen folder was.
+bool MyTableController::isStillThere(const QString& folder) const {
+    return QFileInfo(folder).isDir() &&
+           (folder != m_chosenFolder || fileSystemOf(folder) == m_chosenFileSystem);
+}
+
+// False, with a word to the user, when the destination has vanished or cannot be written any more.
 bool MyTableController::destinationStillThere() {
     const QString folder = pathInView()->text();
-    if (folder != m_chosenFolder || fileSystemOf(folder) == m_chosenFileSystem) {
+    if (folder != m_chosenFolder || isStillThere(folder)) {
         return acceptDestination(folder);
     }
-    runAlert({QStringLiteral("\n") + tr("The destination is no longer there."),
-              tr("The disk that held %1 was taken out. Put it back in, or change the folder.").arg(folder)},
-             window);
+    showDestination();
+    const QString why = QFileInfo(folder).isDir()
+                            ? tr("The disk that held %1 was taken out. Put it back in, or change the folder.")
+                            : tr("%1 was deleted or renamed, or its disk was taken out. Bring it back, or "
+                                 "change the folder.");
+    runAlert({QStringLiteral("\n") + tr("The destination is no longer there."), why.arg(folder)}, window);
     return false;
 }
 
@@ -107,9 +116,9 @@ void MyTableController::showDestination() {
     const auto free = m_parts.freeBytes ? m_parts.freeBytes(folder) : std::nullopt;
     QString text = tr("No folder for saved files is chosen yet");
     if (!folder.isEmpty()) {
-        text = !QFileInfo(folder).isDir() ? tr("Saved files go to %1, which is not there").arg(folder)
-               : free ? tr("Saved files go to %1 (%2 free)").arg(folder, sizeForPeople(*free))
-                      : tr("Saved files go to %1").arg(folder);
+        text = !isStillThere(folder) ? tr("Saved files go to %1, which is not there").arg(folder)
+               : free                ? tr("Saved files go to %1 (%2 free)").arg(folder, sizeForPeople(*free))
+                                     : tr("Saved files go to %1").arg(folder);
     }
     for (QLabel* label : {destinationLabel, destinationLabel_Sig}) {
         label->setText(text);

@@ -77,6 +77,7 @@ void MyTableController::CreateFile_QuickLook_View(const QVariantList& item) {
         }
         m_looks->rest(false);
         if (*mediumOpened) {
+            m_looks->tryAgain();
             Preview_Temp_File = request->newFile;
             takeWholePreview(m_nextWhole);
         }

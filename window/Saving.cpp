@@ -78,6 +78,7 @@ void MyTableController::saveItems(const QList<qsizetype>& indexes) {
         return;
     }
     m_desk->save(indexes, pathInView()->text());
+    m_looks->tryAgain();
     showDestination();
 }
 

@@ -80,7 +80,7 @@ void MyTableController::showHelpInfo(const QString& text) {
 void MyTableController::setProgressRange(std::uint64_t sectors) {
     later([this, sectors] {
         m_progressSectors = static_cast<double>(sectors);
-        m_meter.begin(sectors, sectorsOfLaterPasses());
+        m_meter.begin(sectors);
     });
 }
 

@@ -1,4 +1,5 @@
 // Start, ticks, stop and end of the two threads of a scan.
+#include <QDir>
 
 #include "catalogue/FileKind.h"
 #include "catalogue/SignatureRecord.h"
@@ -28,9 +29,11 @@ void MyTableController::startScan(void (ScanSession::*driver)()) {
     idSigTableView->clearSelection();
     showChosenType();
     showDestination();
-    m_looks->begin(m_parts.openBeside
-                       ? [open = m_parts.openBeside, device = devicePath()] { return open(device); }
-                       : SoundnessBoard::Open());
+    beginLooks();
+    setSpillFolder([asked = m_parts.isOnMedium, device = devicePath()] {
+        const QString folder = QDir::tempPath();
+        return asked && asked(folder, device) ? QString() : folder;
+    });
     resetAddedItemCount();
     m_clock.start();
     m_scanBegun = QDateTime::currentDateTime();
@@ -47,6 +50,12 @@ void MyTableController::startScan(void (ScanSession::*driver)()) {
         m_timerRunning = false;
     });
     m_pump.start();
+}
+
+void MyTableController::beginLooks() {
+    m_looks->begin(m_parts.openBeside
+                       ? [open = m_parts.openBeside, device = devicePath()] { return open(device); }
+                       : SoundnessBoard::Open());
 }
 
 void MyTableController::startTimerThread() {

@@ -18,7 +18,15 @@ void MyTableController::showSearchEnd() {
     const QString picture = end.isFlawless() ? QStringLiteral("ok") : QStringLiteral("info");
     const int edge = searchEndIcon->minimumWidth();
     searchEndIcon->setPixmap(ownIcon(picture).pixmap(edge, edge));
+    tryBadSectorsButton->setVisible(end.unreadable != 0);
     searchEndBar->setVisible(!sentences.isEmpty());
+}
+
+// From now on previews, badges and saving ask the medium for them as if for the first time.
+void MyTableController::tryBadSectorsAgain() {
+    forgetRefusals();
+    beginLooks();
+    tryBadSectorsButton->hide();
 }
 
 PanelWords MyTableController::endPanelWords(const PanelWords& drawn) const {
@@ -53,7 +61,7 @@ void MyTableController::showEmptyResults() {
     const std::size_t found = itemCount();
     EmptyWords words;
     if (found > 0 && browser->shownCount() == 0) {
-        words = nothingShown(found);
+        words = nothingShown(found, {!m_looks->showsEveryKind(), !m_looks->shownType().isEmpty()});
     } else if (m_searchEnded) {
         words = nothingFound(searchWish(), searchEnd());
     } else {

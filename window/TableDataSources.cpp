@@ -1,5 +1,6 @@
 // One set of data-source operations serves the three tables.
 
+#include "media/LabelText.h"
 #include "media/MyDataObject.h"
 #include "scan/PlatformException.h"
 #include "window/MyTableController.h"
@@ -13,10 +14,10 @@ QVariant mediumCell(const MyDataObject& medium, const QString& column) {
         return medium.nsStrDiskIdentifier;
     }
     if (column == u"Collumn2") {
-        return medium.nsStrVolName;
+        return shownLabel(medium.nsStrVolName);
     }
     if (column == u"Collumn3") {
-        return medium.nsStrFileSystem;
+        return shownLabel(medium.nsStrFileSystem);
     }
     if (column == u"Collumn4") {
         return medium.nsStrSize;

@@ -98,6 +98,7 @@ void MyTableController::wireButtons() {
         openImages(files);
     });
     connect(_stop_scan, &QPushButton::clicked, this, &MyTableController::clearWaitingThumbnails);
+    connect(tryBadSectorsButton, &QPushButton::clicked, this, &MyTableController::tryBadSectorsAgain);
     connect(showItemsButton, &QPushButton::clicked, this, &MyTableController::showLeftItems);
     for (QPushButton* button : {_open_folder, _open_folder_Sig}) {
         connect(button, &QPushButton::clicked, this, &MyTableController::openDestination);

@@ -8,6 +8,7 @@
 
 #include "catalogue/ResourcesFolder.h"
 #include "decode/DecodePool.h"
+#include "media/PathArgument.h"
 #include "media/PlatformMedia.h"
 #include "saving/DestinationCheck.h"
 #include "window/MyTableController.h"
@@ -98,7 +99,7 @@ int main(int argc, char** argv) {
     running->store(controller.get());
     fitToScreen(controller->window);
     controller->awakeFromNib();
-    controller->openImages(QApplication::arguments().mid(1));
+    controller->openImages(argumentsFromBytes(argc, argv));
     const int code = QApplication::exec();
     leaveTheScreen();
     *leaving = true;

@@ -6,13 +6,17 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <exception>
+#include <vector>
 
 #include "decode/Sanitized.h"
 #include "decode/helper/Cage.h"
 #include "decode/helper/Channel.h"
 #include "decode/helper/PixelCopy.h"
 #include "decode/movie/MovieFile.h"
+#include "decode/movie/MovieTrial.h"
+#include "decode/movie/PacketSplit.h"
 #include "decode/movie/SoundFile.h"
 
 extern "C" {
@@ -51,6 +55,10 @@ class MovieJobDecoder : public JobDecoder {
                 return nextSound(job, AnswerStatus::NotDecodable);
             case RequestKind::NextSound:
                 return nextSound(job, AnswerStatus::EndOfMovie);
+            case RequestKind::SplitSound:
+                return numbers(job, packetLengths(job.encoded));
+            case RequestKind::TryMovie:
+                return numbers(job, job.file < 0 ? std::vector<std::uint32_t>() : tryMovie(dup(job.file)));
             case RequestKind::Picture:
             case RequestKind::ReadCard:
             case RequestKind::MoreOfCard:
@@ -99,6 +107,20 @@ class MovieJobDecoder : public JobDecoder {
         answer.timeMs = piece->timeMs;
         answer.durationMs = m_sound->durationMs();
         answer.flags |= kHasSound;
+        return answer;
+    }
+
+    static Answer numbers(const Job& job, const std::vector<std::uint32_t>& values) {
+        Answer answer;
+        const std::size_t count = std::min(
+            {values.size(), std::size_t{job.request.maxWidth}, job.pixels.size() / sizeof values[0]});
+        if (count == 0) {
+            return answer;
+        }
+        std::memcpy(job.pixels.data(), values.data(), count * sizeof values[0]);
+        answer.status = AnswerStatus::Ok;
+        answer.width = static_cast<std::uint32_t>(count);
+        answer.height = 1;
         return answer;
     }
 

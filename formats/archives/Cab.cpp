@@ -14,9 +14,15 @@ Extent walkCab(ByteView& view) {
     const std::uint64_t files = in.u32();
     in.skip(4);
     const auto minor = in.u8(), major = in.u8();
+    in.skip(4);
+    const auto flags = in.u16();
     if (!in.ok() || major != 1 || minor > 3 || files >= bytes || bytes < 36)
         return unknownExtent();
-    return completeAt(view, bytes);
+    // A signature stands behind what the header counts, where its reserved bytes say.
+    constexpr std::uint16_t kReserved = 4, kSignatureNote = 20;
+    const std::uint64_t at = view.le32(44).value_or(0), signature = view.le32(48).value_or(0);
+    const bool isSigned = (flags & kReserved) != 0 && view.le16(36) == kSignatureNote && at == bytes;
+    return completeAt(view, bytes + (isSigned ? signature : 0));
 }
 
 }  // namespace

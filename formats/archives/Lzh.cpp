@@ -7,10 +7,13 @@ namespace {
 
 bool isLzhHeader(ByteView& view, std::uint64_t at) {
     const auto method = view.window(at, 21);
-    if (method.size() < 21 || method[2] != '-' || method[3] != 'l' ||
-        (method[4] != 'h' && method[4] != 'z') || method[6] != '-' || method[20] > 3)
+    if (method.size() < 21 || method[2] != '-' || method[6] != '-' || method[20] > 3)
         return false;
-    return (method[5] >= '0' && method[5] <= '9') || method[5] == 'd' || method[5] == 's';
+    const bool family = (method[3] == 'l' && (method[4] == 'h' || method[4] == 'z')) ||
+                        (method[3] == 'p' && method[4] == 'm');
+    const auto kind = method[5];
+    return family &&
+           ((kind >= '0' && kind <= '9') || (kind >= 'a' && kind <= 'e') || kind == 's' || kind == 'x');
 }
 
 Extent walkLzh(ByteView& view) {
@@ -32,8 +35,11 @@ Extent walkLzh(ByteView& view) {
             return cutOffAt(view, view.size());
     }
     const auto next = view.u8(at);
-    if (next == 0)
-        return completeAt(view, at + 1);
+    // CP/M, where one of the kinds comes from, counts a file in records of 128 bytes.
+    constexpr std::uint64_t kRecord = 128;
+    // The oldest of its writers closes without a mark.
+    if (next == 0 && !view.matches(3, "lz"))
+        return completeAt(view, view.u8(3) == 'p' ? (at + kRecord) / kRecord * kRecord : at + 1);
     return next ? inexact(completeAt(view, at)) : cutOffAt(view, at);  // some writers leave the end mark out
 }
 
@@ -43,7 +49,7 @@ extern constexpr Format kLzh = {
     .name = "LZH",
     .group = Group::Archives,
     .walk = walkLzh,
-    .extensions = " LZH LHA ",
+    .extensions = " LZH LHA LZS PMA ",
 };
 
 }  // namespace vantor

@@ -9,6 +9,7 @@ namespace vantor {
 namespace {
 
 constexpr std::uint32_t kFree = 0xFFFFFFFF;
+constexpr std::uint32_t kTable = 0xFFFFFFFD;  // the table's mark for its own sectors
 constexpr std::uint32_t kMostRegular = 0xFFFFFFFA;
 constexpr std::uint64_t kInHeader = 109;  // table sectors listed in the header itself
 
@@ -20,11 +21,13 @@ class CompoundWalk {
 
   private:
     std::uint64_t position(std::uint32_t sector) const { return (std::uint64_t{sector} + 1) << m_shift; }
+    std::uint64_t headerEnd() const { return std::uint64_t{1} << m_shift; }
     bool tableSector(std::uint32_t sector);
 
     ByteView& m_view;
     const unsigned m_shift;
     std::uint64_t m_tables = 0;
+    std::uint64_t m_marked = 0;  // sectors that the table says are its own
     std::uint64_t m_lastUsed = 0;
 };
 
@@ -37,12 +40,13 @@ bool CompoundWalk::tableSector(std::uint32_t sector) {
     const auto bytes = m_view.window(at, entries * 4);
     if (bytes.size() < entries * 4)
         return false;
-    for (std::uint64_t i = entries; i-- > 0;) {
-        const auto entry = bytes.data() + i * 4;
-        if (entry[0] == 0xFF && entry[1] == 0xFF && entry[2] == 0xFF && entry[3] == 0xFF)
-            continue;
-        m_lastUsed = std::max(m_lastUsed, first + i);
-        break;
+    for (std::uint64_t i = 0; i < entries; ++i) {
+        const auto* const entry = bytes.data() + i * 4;
+        const auto next = static_cast<std::uint32_t>(entry[0] | entry[1] << 8 | entry[2] << 16) |
+                          static_cast<std::uint32_t>(entry[3]) << 24;
+        m_marked += next == kTable ? 1 : 0;
+        if (next != kFree)
+            m_lastUsed = std::max(m_lastUsed, first + i);
     }
     return true;
 }
@@ -53,7 +57,7 @@ Extent CompoundWalk::walk() {
     const std::uint64_t lists = m_view.le32(72).value_or(0);
     const std::uint64_t most = (m_view.size() >> m_shift) + 1;
     if (tables == 0 || (std::uint64_t{1} << m_shift) * tables > (std::uint64_t{1} << 40))
-        return damagedAt(m_view, std::uint64_t{1} << m_shift);
+        return damagedAt(m_view, headerEnd());
     bool inside = true;
     for (std::uint64_t i = 0; inside && i < std::min(tables, kInHeader); ++i)
         inside = tableSector(m_view.le32(76 + i * 4).value_or(kFree));
@@ -69,7 +73,10 @@ Extent CompoundWalk::walk() {
     const auto end = (m_lastUsed + 2) << m_shift;
     if (!inside)
         return end > m_view.size() && m_lastUsed < kMostRegular ? cutOffAt(m_view, m_view.size())
-                                                                : damagedAt(m_view, m_view.size());
+                                                                : damagedAt(m_view, headerEnd());
+    // What the header calls the table is none: nothing that it says of the length counts.
+    if (m_marked < m_tables)
+        return damagedAt(m_view, headerEnd());
     if (m_tables < tables)
         return damagedAt(m_view, end);
     // Free sectors behind the last one in use may have belonged to the file; they hold nothing.

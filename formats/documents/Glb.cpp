@@ -1,4 +1,4 @@
-// Scenes in binary glTF. Source: glTF 2.0 (Khronos).
+// Scenes in binary glTF. Source: glTF 2.0 (Khronos) and its forerunner, KHR_binary_glTF.
 #include "formats/ToldLength.h"
 
 namespace vantor {
@@ -6,6 +6,7 @@ namespace vantor {
 namespace {
 
 constexpr ToldLength kForms[] = {
+    {{0, "glTF\1\0\0\0"_b}, {}, 8, 4, Endian::Little, 20},
     {{0, "glTF\2\0\0\0"_b}, {}, 8, 4, Endian::Little, 20},
 };
 

@@ -1,4 +1,4 @@
-// BDF, DXF, IDX and OFF files where they are text.
+// BDF, DXF, IDX, OFF and X files where they are text.
 #include "formats/Format.h"
 #include "formats/documents/Text.h"
 
@@ -9,7 +9,9 @@ namespace {
 // Types that are text in one form and something else in another: text only where it begins as such.
 Extent walkMarkedText(ByteView& view) {
     static constexpr std::string_view kBeginnings[] = {
-        "STARTFONT ", "# VobSub index", "  0\r\nSECTION", "  0\nSECTION", "999\r\n", "999\n", "OFF\n"};
+        "STARTFONT ",   "# VobSub index", "  0\r\nSECTION", "  0\nSECTION",  "999\r\n",
+        "999\n",        "OFF\n",          " 0\nSECTION",    " 0\r\nSECTION", "0\nSECTION",
+        "0\r\nSECTION", "xof 0302txt",    "xof 0303txt"};
     for (const auto beginning : kBeginnings) {
         if (view.matches(0, beginning))
             return walkText(view);
@@ -23,7 +25,7 @@ extern constexpr Format kMarkedText = {
     .name = "Marked text",
     .group = Group::Documents,
     .walk = walkMarkedText,
-    .extensions = " BDF DXF IDX OFF ",
+    .extensions = " BDF DXF IDX OFF X ",
     .strongMagic = false,
 };
 

@@ -18,6 +18,19 @@ std::uint64_t endOfLines(ByteView& view, std::uint64_t from) {
     return lines > from ? lines : end;
 }
 
+// Whether the text that ends at `end` goes on in bytes: of a picture, a font, a preview.
+bool announcesBytes(ByteView& view, std::uint64_t end) {
+    constexpr std::uint64_t kSaid = 512;
+    const auto from = end - std::min(end, kSaid);
+    const auto bytes = view.window(from, static_cast<std::size_t>(end - from));
+    const std::string_view said(reinterpret_cast<const char*>(bytes.data()),
+                                std::min<std::size_t>(bytes.size(), static_cast<std::size_t>(end - from)));
+    constexpr std::string_view kWords[] = {"mage\n", "mage\r",     "BeginBinary",   "BeginData",
+                                           "eexec",  "readstring", "BeginPhotoshop"};
+    return std::any_of(std::begin(kWords), std::end(kWords),
+                       [&](std::string_view word) { return said.find(word) != said.npos; });
+}
+
 // Text from "%!PS" to the end comment that is not one of an embedded document.
 Extent walkPostScriptText(ByteView& view) {
     constexpr std::uint64_t kMostSilence = 64 * 1024 * 1024;  // without any comment line
@@ -25,13 +38,21 @@ Extent walkPostScriptText(ByteView& view) {
     std::uint64_t sign = 0;
     // Many writers leave the end comment out: behind the trailer comes only text.
     std::optional<std::uint64_t> lines;
+    // Bytes that nothing announced are another's, unless a comment follows soon.
+    constexpr std::uint64_t kFewBytes = 4096;
+    const auto text = textEnd(view, 0);
+    const bool foreign = view.u8(text) && !announcesBytes(view, text);
+    const auto reach = foreign ? std::min(view.size(), text + kFewBytes) : view.size();
     for (std::uint64_t at = 0;;) {
-        const auto limit = lines.value_or(std::min(view.size(), addClamped(sign, kMostSilence)));
+        const auto silence = addClamped(sign, kMostSilence);
+        const auto limit = lines.value_or(std::min(std::max(reach, sign), silence));
         const auto comment = view.find('%', at, limit);
         if (lines && !comment.found())
             return inexact(completeAt(view, *lines));
         if (comment.stopped())
             return cutOffAt(view, comment.at);
+        if (!comment.found() && foreign && sign <= text)
+            return inexact(completeAt(view, endOfLines(view, 0)));
         if (!comment.found())
             return comment.at < view.size() ? damagedAt(view, sign) : cutOffAt(view, view.size());
         at = comment.at;
@@ -49,7 +70,10 @@ Extent walkPostScriptText(ByteView& view) {
         else if (view.matches(at, "%%EndDocument") && embedded != 0)
             --embedded;
         else if (view.matches(at, "%%EOF") && embedded == 0) {
-            return completeAt(view, behindLineEnd(view, at + 5));
+            const auto end = behindLineEnd(view, at + 5);
+            // A drawing program keeps its own form of the drawing behind the one for others.
+            if (!view.matches(end, "%AI9_PrintingDataEnd"))
+                return completeAt(view, end);
         }
         at += 2;
     }

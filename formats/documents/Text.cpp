@@ -44,14 +44,18 @@ std::uint64_t endOfUtf8(ByteView& view, std::uint64_t from, std::uint64_t to) {
 // Where a text ends that runs into foreign bytes at `end`: they may begin with some that pass for letters.
 std::uint64_t withoutForeignLetters(ByteView& view, std::uint64_t end) {
     const auto least = end - std::min(end, kLastLine);
+    // What is no letter in an encoding that held until shortly before is the first foreign byte.
+    const auto letters = least >= kTold ? endOfUtf8(view, least - kTold, end) : 0;
+    if (letters > least)
+        end = letters;
     std::uint64_t line = end;
     while (line > least && view.u8(line - 1) != '\n' && view.u8(line - 1) != '\r')
         --line;
     if (line == least)
         return end;
     const auto told = line - std::min(line, kTold);
-    const auto letters = endOfUtf8(view, told, line) == line ? endOfUtf8(view, line, end) : end;
-    return letters - line <= kFewLetters ? line : letters;
+    const auto last = endOfUtf8(view, told, line) == line ? endOfUtf8(view, line, end) : end;
+    return last - line <= kFewLetters ? line : last;
 }
 
 // Texts that say where they end: by a last line behind which nothing comes.
@@ -59,9 +63,14 @@ std::optional<std::uint64_t> behindLastLine(ByteView& view, std::uint64_t end) {
     struct Marked {
         std::string_view first, last;
     };
-    static constexpr std::array<Marked, 4> kMarked = {Marked{"ISO-10303-21;", "END-ISO-10303-21;"},
+    static constexpr std::array<Marked, 8> kMarked = {Marked{"ISO-10303-21;", "END-ISO-10303-21;"},
                                                       Marked{"  0\r\nSECTION", "EOF"},
-                                                      Marked{"  0\nSECTION", "EOF"}, Marked{"999", "EOF"}};
+                                                      Marked{"  0\nSECTION", "EOF"},
+                                                      Marked{"999", "EOF"},
+                                                      Marked{"0\nSECTION", "EOF"},
+                                                      Marked{"0\r\nSECTION", "EOF"},
+                                                      Marked{" 0\nSECTION", "EOF"},
+                                                      Marked{" 0\r\nSECTION", "EOF"}};
     for (const auto& [first, last] : kMarked) {
         if (!view.matches(0, first))
             continue;
@@ -107,7 +116,7 @@ extern constexpr Format kText = {
     .extensions =
         " TXT EML MBOX CSV LOG INI JSON MD C H CPP HPP PY SH BAT JS CSS SQL TEX SRT SUB ASS M3U "
         "PLS NFO PHP PL JAVA TSV YAML YML AFM CCD CUBE CUE DIFF GCODE GPL IMY IPYNB LDIF OBJ OFX "
-        "ORG PEM PGN PO QIF RIS SGF URL USDA VTT ASC ASPX BAS BIB CIF DESKTOP ENW FASTA FRM GBR "
+        "ORG PEM PGN PO QIF RIS SGF URL USDA VTT ASC ASPX BAS BIB CIF DESKTOP ENW FASTA FRM "
         "GFF HQX IGS INF JDX JSP LRC LWS LY MIF MOL2 MSF NB NMEA PBXPROJ PCB PFA PPD PPK RB REG "
         "RPP SFD SHAR SLK SLN SMI STEP STP IFC UU VBP VNT WRL X_T ",
     .strongMagic = false,

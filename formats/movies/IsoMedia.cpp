@@ -21,11 +21,12 @@ constexpr std::array<std::string_view, 29> kTopLevelNames = {
                                                                               // picture
 
 // Boxes that can stand first in a file of this family.
-constexpr std::array<std::string_view, 7> kFirstNames = {"ftyp", "moov", "mdat", "wide",
-                                                         "free", "skip", "pnot"};
+constexpr std::array<std::string_view, 10> kFirstNames = {"ftyp", "moov", "mdat", "wide", "free",
+                                                          "skip", "pnot", "styp", "sidx", "moof"};
 
 constexpr std::uint32_t kMostBoxes = 1 << 20;
-constexpr std::size_t kMostData = 1024;  // media data boxes of a file whose content is checked
+constexpr std::uint32_t kMostFillers = 64;  // in front of anything else
+constexpr std::size_t kMostData = 1024;     // media data boxes of a file whose content is checked
 
 bool isNameLike(std::string_view name) {
     return std::all_of(name.begin(), name.end(), [](char c) {
@@ -39,10 +40,15 @@ struct Seen {
     bool movieIndex = false;
     bool data = false;
     bool fragment = false;
+    bool opensFragments = false;  // the movie leaves its data to fragments, perhaps of other files
     bool type = false;
     std::uint64_t dataEnd = 0;  // how far a picture's items reach; 0 = nowhere outside their index
 
-    bool whole(std::uint64_t end) const { return index && (data || !movieIndex) && end >= dataEnd; }
+    bool any() const { return type || index || data || fragment; }
+    bool whole(std::uint64_t end) const {
+        const bool movie = movieIndex ? data || (opensFragments && !isSectorStart(end)) : index;
+        return (movie || (fragment && data)) && end >= dataEnd;
+    }
 };
 
 struct IsoWalk {
@@ -54,6 +60,16 @@ struct IsoWalk {
     std::vector<DataPlace> data;
     Facts facts;
 };
+
+// Whether a box of that name stands right inside `outer`.
+bool holdsBox(ByteView& view, const IsoBox& outer, std::string_view name) {
+    for (auto inner = readIsoBox(view, outer.body);
+         inner && inner->end > inner->at && inner->end <= outer.end; inner = readIsoBox(view, inner->end)) {
+        if (inner->text() == name)
+            return true;
+    }
+    return false;
+}
 
 IsoWalk walkBoxes(ByteView& view, std::uint64_t start, bool wantFacts) {
     IsoWalk walk;
@@ -67,7 +83,8 @@ IsoWalk walkBoxes(ByteView& view, std::uint64_t start, bool wantFacts) {
         // A box of a maker's own is believed while the file still lacks something, not behind a whole one.
         if (!known && (walk.at == start || walk.seen.whole(walk.at) || !isNameLike(name)))
             return walk;
-        if (name == "ftyp" && walk.at != start)
+        const bool another = name == "ftyp" || (name == "styp" && isSectorStart(walk.at));
+        if (another && walk.at != start)
             return walk;  // the next file
         // "To the end of the file": of a picture, its items tell where that is.
         if (box->toEnd && name == "mdat" && walk.seen.dataEnd > box->body) {
@@ -80,6 +97,8 @@ IsoWalk walkBoxes(ByteView& view, std::uint64_t start, bool wantFacts) {
             walk.openEnded = name == "mdat" || walk.at == start;
             return walk;
         }
+        if (boxes == kMostFillers && !walk.seen.any())
+            return walk;
         walk.seen.type = walk.seen.type || name == "ftyp";
         walk.seen.movieIndex = walk.seen.movieIndex || name == "moov";
         walk.seen.index = walk.seen.index || name == "moov" || name == "meta";
@@ -87,9 +106,11 @@ IsoWalk walkBoxes(ByteView& view, std::uint64_t start, bool wantFacts) {
         walk.seen.fragment = walk.seen.fragment || name == "moof";
         if (wantFacts && (name == "moov" || name == "meta"))
             walk.seen.dataEnd = std::max(walk.seen.dataEnd, addIsoFacts(view, *box, walk.facts));
-        if (name == "moov")
+        if (name == "moov") {
             walk.movie = box;
-        else if (name == "meta")
+            walk.seen.opensFragments = holdsBox(view, *box, "mvex");
+        }
+        if (name == "meta")
             walk.pictures = box;
         else if (name == "mdat" && walk.data.size() < kMostData)
             walk.data.push_back({box->body, box->end});
@@ -129,6 +150,8 @@ Extent walkIsoMedia(ByteView& view) {
                    ? spoiltUpTo(view, walk.at, walk.facts)
                    : damagedAt(view, walk.at, walk.facts);
     }
+    if (!walk.seen.data && walk.seen.opensFragments)  // what fragments elsewhere go on from
+        return inexact(completeAt(view, walk.at, walk.facts));
     const ContentCheck check = checkContent(view, walk);
     if (check.outcome == ContentCheck::Outcome::Broken)
         return spoiltUpTo(view, walk.at, walk.facts);

@@ -151,8 +151,10 @@ RiffWalk::Step RiffWalk::inner(std::uint64_t told) {
         else if (chunk->text() == "idx1")
             index(*chunk);
         const std::uint64_t padded = end + (end - chunk->body) % 2;
-        // The padding byte behind the last odd chunk is often left out of the count, and then of the file.
-        m_at = padded == told + 1 ? end : padded;
+        // The padding byte behind the last odd chunk is often left out of the count, and then of the file;
+        // of IFF seldom of the file.
+        const bool leftOut = padded == told + 1 && (m_endian == Endian::Little || m_view.u8(end) != 0);
+        m_at = leftOut ? end : padded;
     }
     return Step::Broken;
 }

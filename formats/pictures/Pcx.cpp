@@ -1,4 +1,6 @@
 // PCX pictures. Source: ZSoft PCX manual.
+#include "formats/pictures/Pcx.h"
+
 #include "formats/Format.h"
 
 namespace vantor {
@@ -7,16 +9,18 @@ namespace {
 
 constexpr std::uint64_t kMostPixels = 1 << 28;  // beyond all pictures of this kind
 
-Extent walkPcx(ByteView& view) {
+}  // namespace
+
+Extent walkPcxAt(ByteView& view, std::uint64_t base) {
     constexpr std::uint64_t kHead = 128;
-    Cursor in(view, 0, Endian::Little);
+    Cursor in(view, base, Endian::Little);
     const auto maker = in.u8(), version = in.u8(), encoding = in.u8(), bits = in.u8();
     const auto left = in.u16(), top = in.u16(), right = in.u16(), bottom = in.u16();
     in.skip(53);
     const auto planes = in.u8();
     const auto rowBytes = in.u16();
     const bool sized = right >= left && bottom >= top;
-    if (!in.ok() || maker != 10 || version > 5 || encoding != 1 ||
+    if (!in.ok() || maker != 10 || version > 5 || encoding > 1 ||
         (bits != 1 && bits != 2 && bits != 4 && bits != 8) || planes == 0 || planes > 4 || !sized ||
         rowBytes == 0 || std::uint64_t{rowBytes} * 8 < (right - left + 1U) * bits)
         return unknownExtent();
@@ -27,8 +31,8 @@ Extent walkPcx(ByteView& view) {
     const std::uint64_t wanted = std::uint64_t{rowBytes} * planes * facts.height;
     if (wanted > kMostPixels)
         return unknownExtent();
-    std::uint64_t at = kHead;
-    for (std::uint64_t done = 0; done < wanted;) {
+    std::uint64_t at = base + kHead + (encoding == 0 ? wanted : 0);
+    for (std::uint64_t done = encoding == 0 ? wanted : 0; done < wanted;) {
         const auto byte = view.u8(at);
         if (!byte)
             return cutOffAt(view, at, facts);
@@ -48,6 +52,12 @@ Extent walkPcx(ByteView& view) {
     if (bits == 8 && view.matches(at, std::string_view("\x0C\0\0\0\0\0\0\0", 8)))
         return completeAt(view, at + kPalette, facts);
     return completeAt(view, at, facts);
+}
+
+namespace {
+
+Extent walkPcx(ByteView& view) {
+    return walkPcxAt(view, 0);
 }
 
 }  // namespace

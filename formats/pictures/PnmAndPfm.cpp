@@ -1,5 +1,7 @@
-// Portable any maps in bytes (PBM, PGM, PPM) and float maps (PFM). Sources: ppm(5), pgm(5), pbm(5), pfm(5).
+// Portable any maps in bytes and in digits (PBM, PGM, PPM) and float maps (PFM). Sources: ppm(5), pgm(5),
+// pbm(5), pfm(5).
 #include "formats/Format.h"
+#include "formats/TextReader.h"
 
 namespace vantor {
 
@@ -46,13 +48,36 @@ class MapHead {
     std::uint64_t m_at = 2;
 };
 
+// Behind so many numbers in digits, or so many single digits, and one line end.
+Extent behindDigits(ByteView& view, std::uint64_t at, std::uint64_t count, bool single, const Facts& facts) {
+    TextReader in(view, at);
+    bool within = false;
+    for (;;) {
+        const int byte = in.next();
+        const bool digit = byte >= '0' && byte <= '9';
+        if (within && !digit)
+            --count;
+        if (byte < 0)
+            return count == 0 ? completeAt(view, in.at(), facts) : cutOffAt(view, in.at(), facts);
+        within = digit && !single;
+        if (digit && single && --count == 0)
+            return completeAt(view, behindBlanks(view, in.at()), facts);
+        if (count == 0)
+            return inexact(completeAt(view, behindBlanks(view, in.at() - 1), facts));
+        if (byte == '#')
+            in.skip(view.find('\n', in.at(), view.size()).at - in.at());
+        else if (!digit && !isTextSpace(byte))
+            return damagedAt(view, in.at() - 1, facts);
+    }
+}
+
 Extent walkAnyMap(ByteView& view) {
     const auto kind = view.u8(1).value_or(0);
-    if (view.u8(0) != 'P' || kind < '4' || kind > '6')
-        return unknownExtent();  // maps written in digits end where text does
+    if (view.u8(0) != 'P' || kind < '1' || kind > '6')
+        return unknownExtent();
     MapHead head(view);
     const auto width = head.number(), height = head.number();
-    const auto most = kind == '4' ? 1 : head.number();
+    const auto most = kind == '4' || kind == '1' ? 1 : head.number();
     const auto start = head.end();
     if (!start || width == 0 || height == 0 || width > kMostSide || height > kMostSide || most == 0 ||
         most > 65535)
@@ -60,6 +85,8 @@ Extent walkAnyMap(ByteView& view) {
     Facts facts;
     facts.width = static_cast<std::uint32_t>(width);
     facts.height = static_cast<std::uint32_t>(height);
+    if (kind <= '3')
+        return behindDigits(view, *start, width * height * (kind == '3' ? 3 : 1), kind == '1', facts);
     const std::uint64_t samples = kind == '6' ? 3 : 1;
     const std::uint64_t row = kind == '4' ? (width + 7) / 8 : width * samples * (most > 255 ? 2 : 1);
     return completeAt(view, *start + mulClamped(row, height), facts);

@@ -43,6 +43,10 @@ constexpr std::uint16_t kPanasonicMagic = 0x55;
 constexpr std::size_t kMostDirectories = 512;
 constexpr std::uint64_t kMostPieces = 1 << 21;  // strips and tiles of one directory
 constexpr std::uint64_t kMostValueBytes = 1 << 30;
+// No directory tells what lies between: makers keep previews and data of their own there. More than this is
+// another file's.
+constexpr std::uint64_t kMostGap = std::uint64_t{64} << 20;
+constexpr std::size_t kMostStretches = 64;
 
 // TIFF, BigTIFF, the makers' own (Panasonic; Olympus two, one of them in either order of bytes), and JPEG XR.
 bool isKnownMagic(std::uint16_t magic) {
@@ -75,12 +79,19 @@ class TiffWalk {
     void pieces(const Pieces& pieces, const Found& found);
     void sizes(const Found& found);
     void reach(std::uint64_t end);
+    void cover(std::uint64_t from, std::uint64_t end);
+    std::uint64_t coveredEnd() const;
     bool repeatsItsLastBytes();
 
     ByteView& m_view;
     const TiffHeader m_header;
     std::array<std::uint64_t, kMostDirectories> m_directories{};  // absolute; visited ones first
     std::size_t m_known = 0;
+    struct Stretch {
+        std::uint64_t from, end;
+    };
+    std::array<Stretch, kMostStretches> m_stretches{};  // further apart than kMostGap; the first from 0
+    std::size_t m_stretchCount = 1;
     std::uint64_t m_end = 0;
     bool m_broken = false;
     bool m_padsPieces = false;  // to even lengths, the last one as those before it
@@ -90,6 +101,32 @@ class TiffWalk {
 
 void TiffWalk::reach(std::uint64_t end) {
     m_end = std::max(m_end, end);
+}
+
+// Reaches to the end, and takes note of what lies between.
+void TiffWalk::cover(std::uint64_t from, std::uint64_t end) {
+    reach(end);
+    const auto last = m_stretches.begin() + static_cast<std::ptrdiff_t>(m_stretchCount);
+    const auto isNear = [&](const Stretch& one) {
+        return from <= addClamped(one.end, kMostGap) && one.from <= addClamped(end, kMostGap);
+    };
+    const auto near = std::find_if(m_stretches.begin(), last, isNear);
+    if (near != last)
+        *near = {std::min(near->from, from), std::max(near->end, end)};
+    else if (m_stretchCount < kMostStretches)
+        m_stretches[m_stretchCount++] = {from, end};
+}
+
+// Behind the last byte that hangs together with the first.
+std::uint64_t TiffWalk::coveredEnd() const {
+    std::uint64_t end = m_stretches[0].end;
+    for (std::size_t turn = 0; turn < m_stretchCount; ++turn) {
+        for (std::size_t i = 0; i < m_stretchCount; ++i) {
+            if (m_stretches[i].from <= addClamped(end, kMostGap))
+                end = std::max(end, m_stretches[i].end);
+        }
+    }
+    return end;
 }
 
 void TiffWalk::enqueue(std::uint64_t relative) {
@@ -191,8 +228,8 @@ void TiffWalk::panasonicRaw(const Found& found) {
     if (found.rawOffset == 0 || found.width > kMostSide || found.height > kMostSide)
         return;
     const std::uint64_t pixelsPerPack = found.rawBits <= 12 ? 14 : 9;
-    reach(addClamped(addClamped(m_header.base, found.rawOffset),
-                     found.width * found.height / pixelsPerPack * 16));
+    const auto at = addClamped(m_header.base, found.rawOffset);
+    cover(at, addClamped(at, found.width * found.height / pixelsPerPack * 16));
 }
 
 // Reaches to the end of every strip or tile. Offsets and lengths stand in two tables: read in runs, so that
@@ -228,7 +265,7 @@ void TiffWalk::pieces(const Pieces& pieces, const Found& found) {
             const auto end = addClamped(offsets[i], bytes);
             m_padsPieces = m_padsPieces || (before % 2 != 0 && offsets[i] == before + 1);
             before = end;
-            reach(addClamped(m_header.base, end));
+            cover(addClamped(m_header.base, offsets[i]), addClamped(m_header.base, end));
         }
     }
 }
@@ -247,10 +284,11 @@ void TiffWalk::directory(std::uint64_t at) {
     const auto directory = readTiffDirectory(m_view, m_header, at);
     if (!directory) {
         m_broken = m_broken || at < m_view.size();
-        reach(at < m_view.size() ? 0 : at + 1);
+        if (at >= m_view.size())
+            cover(at, addClamped(at, 1));
         return;
     }
-    reach(directory->end);
+    cover(directory->at, directory->end);
     Found found;
     for (std::uint64_t i = 0; i < directory->entries; ++i) {
         const auto one = readTiffEntry(m_view, m_header, *directory, i);
@@ -259,7 +297,7 @@ void TiffWalk::directory(std::uint64_t at) {
         if (one->valueBytes > kMostValueBytes)
             m_broken = true;
         else if (!one->isInline)
-            reach(addClamped(one->valueAt, one->valueBytes));
+            cover(one->valueAt, addClamped(one->valueAt, one->valueBytes));
         entry(*one, found);
         if (m_header.magic == kPanasonicMagic)
             panasonicEntry(*one, found);
@@ -289,8 +327,8 @@ Extent TiffWalk::walk() {
     if (m_known == 0 || m_end == 0)
         return damagedAt(m_view, 8);
     addTiffFacts(m_view, m_header.base, m_facts);
-    if (m_broken)
-        return inexact(damagedAt(m_view, m_end, m_facts));
+    if (m_broken || coveredEnd() < m_end)
+        return inexact(damagedAt(m_view, coveredEnd(), m_facts));
     if (m_padded) {
         const auto padding = (4 - m_end % 4) % 4;
         if (padding != 0 && m_view.number(m_end, static_cast<std::size_t>(padding), Endian::Big) == 0U)

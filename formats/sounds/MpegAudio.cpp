@@ -2,7 +2,7 @@
 #include <array>
 
 #include "formats/AudioTags.h"
-#include "formats/Format.h"
+#include "formats/Registry.h"
 #include "formats/sounds/FrameStream.h"
 
 namespace vantor {
@@ -37,6 +37,14 @@ Extent walkMpegAudio(ByteView& view) {
     const auto start = skipLeadingTag(view, 0);
     constexpr std::uint32_t kSameKind = 0xFFFE0C00;  // sync, version, layer, sampling rate
     const auto first = view.be32(start).value_or(0);
+    // The same tag stands before other sound, whose frames tell themselves apart.
+    if (start != 0 && mpegAudioFrameBytes(first) == 0) {
+        for (const Format* other : {&kAdts, &kAc3}) {
+            const Extent extent = other->walk(view);
+            if (extent.verdict != Verdict::Unknown)
+                return extent;
+        }
+    }
     return walkFrames(view, start, start != 0 ? 1 : kProofFrames, [&](std::uint64_t at) -> std::uint64_t {
         const auto head = view.be32(at).value_or(0);
         return ((head ^ first) & kSameKind) == 0 ? mpegAudioFrameBytes(head) : 0;

@@ -8,9 +8,10 @@ namespace {
 
 Extent walkTrueAudio(ByteView& view) {
     constexpr std::uint64_t kHead = 22, kMostFrames = 1 << 22;
-    if (!view.matches(0, std::string_view("TTA1\1\0", 6)))
+    const auto start = skipLeadingTag(view, 0);
+    if (!view.matches(start, std::string_view("TTA1\1\0", 6)))
         return unknownExtent();
-    Cursor in(view, 10, Endian::Little);
+    Cursor in(view, start + 10, Endian::Little);
     const std::uint64_t rate = in.u32(), samples = in.u32();
     if (!in.ok())
         return cutOffAt(view, view.size());
@@ -18,9 +19,9 @@ Extent walkTrueAudio(ByteView& view) {
     if (frame == 0 || samples == 0 || samples / frame >= kMostFrames)
         return unknownExtent();
     const auto frames = (samples + frame - 1) / frame;
-    auto end = kHead + frames * 4 + 4;
+    auto end = start + kHead + frames * 4 + 4;
     for (std::uint64_t i = 0; i < frames; ++i) {
-        const auto bytes = view.le32(kHead + i * 4);
+        const auto bytes = view.le32(start + kHead + i * 4);
         if (!bytes)
             return cutOffAt(view, view.size());
         end += *bytes;

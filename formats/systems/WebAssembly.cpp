@@ -7,9 +7,10 @@ namespace vantor {
 
 namespace {
 
+// Tags of exceptions (kind 13) stand between memories and globals.
 // Sections until what follows is none: a number, a length, and all but the first kind in a fixed order.
 Extent walkWebAssembly(ByteView& view) {
-    static constexpr std::uint8_t kOrder[] = {0, 1, 2, 3, 4, 6, 7, 8, 9, 11, 12, 10, 5};
+    static constexpr std::uint8_t kOrder[] = {0, 1, 2, 3, 4, 5, 7, 8, 9, 10, 12, 13, 11, 6};
     constexpr unsigned kMostGroups = 5;
     if (!view.matches(0, std::string_view("\0asm\1\0\0\0", 8)))
         return unknownExtent();

@@ -42,12 +42,11 @@ Listed list(std::set<std::uint64_t> badBeforehand, int goodOpens, std::set<std::
     session.chooseAllTypes();
     session.run();
     Listed listed;
-    listed.all = session.checksumRawItems();
-    for (const QJsonObject& line : session.jsonLines()) {
+    listed.all = session.forEachJsonLine([&](const QJsonObject& line) {
         if (line.contains("sha256")) {
             listed.sums << line["sha256"];
         }
-    }
+    });
     return listed;
 }
 

@@ -301,7 +301,7 @@ TEST_P(CommandStopped, PublishesAndSavesWhatWasFound) {
     ASSERT_EQ(::truncate(image.toLocal8Bit().constData(), off_t{1} << 42), 0);
     QProcess process;
     process.start(VANTOR_CLI, {"--catalogue", writeCatalogues(folder, record("JPG", "FFD8FFE0")),
-                               "--list-json", "--save", folder.filePath("out"), image});
+                               "--list-json", "--save", folder.filePath("out"), "--report", image});
     ASSERT_TRUE(process.waitForStarted());
     while (!QFile::exists(folder.filePath("out/JPG/GND00001.JPG")) && !process.waitForFinished(5)) {
     }
@@ -319,7 +319,11 @@ TEST_P(CommandStopped, PublishesAndSavesWhatWasFound) {
     EXPECT_TRUE(run.err.contains("The search was stopped at ")) << run.err.constData();
     const QRegularExpression rest(QStringLiteral("To go on from there: --range [0-9]+:8589934592\n"));
     EXPECT_TRUE(rest.match(QString::fromUtf8(run.err)).hasMatch()) << run.err.constData();
-    EXPECT_EQ(filesUnder(folder.filePath("out")), QStringList({"JPG/GND00001.JPG", "JPG/GND00002.JPG"}));
+    EXPECT_EQ(
+        filesUnder(folder.filePath("out")),
+        QStringList({"JPG/GND00001.JPG", "JPG/GND00002.JPG", "Recovery report.csv", "Recovery report.html"}));
+    const QByteArray page = contentsOf(folder.filePath("out/Recovery report.html"));
+    EXPECT_TRUE(page.contains("The search was stopped at ")) << page.constData();
 }
 
 TEST(Command, MediumIsNeverWritten) {
@@ -371,6 +375,23 @@ TEST(Command, ListsMedia) {
         EXPECT_FALSE(medium["identifier"].toString().isEmpty());
     }
     EXPECT_EQ(runCommand({"--list-media", "card.img"}).exitCode, 2);
+}
+
+TEST(Command, ErasedCard_IsToldAndSearchedAllTheSame) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("erased.img");
+    QFile image(path);
+    ASSERT_TRUE(image.open(QIODevice::WriteOnly) && image.resize(8 << 20));
+    const CommandRun erased = runCommand({path});
+    EXPECT_EQ(erased.exitCode, 0);
+    EXPECT_TRUE(erased.err.contains("reads as erased")) << erased.err.constData();
+    EXPECT_TRUE(erased.out.contains("0 found")) << erased.out.constData();
+    for (qint64 at = 0; at < image.size(); at += 512) {
+        ASSERT_TRUE(image.seek(at) && image.putChar('y'));
+    }
+    image.close();
+    EXPECT_FALSE(runCommand({path}).err.contains("erased"));
+    EXPECT_FALSE(runCommand({"--range", "0:100", path}).err.contains("erased"));
 }
 
 TEST(Command, ListsWhatTheDirectoriesOfTheSampleCardTell) {

@@ -29,5 +29,14 @@ TEST(ListMedia, LabelsDoNotSpeakToTheTerminal) {
     EXPECT_NE(shown.find(QString(QChar(0x152)).toStdString()), std::string::npos) << "letters stay";
 }
 
+TEST(ListMedia, ALabelOfAMillionLettersIsCut) {
+    LabelledMedium source(QString(1'000'000, u'x'));
+    testing::internal::CaptureStdout();
+    listMedia(source, false);
+    const std::string shown = testing::internal::GetCapturedStdout();
+    EXPECT_NE(shown.find(std::string(200, 'x') + "…"), std::string::npos);
+    EXPECT_LT(shown.size(), 2000U);
+}
+
 }  // namespace
 }  // namespace vantor

@@ -198,6 +198,8 @@ TEST(SavingCommand, OptionsThatMakeNoSenseAreRefused) {
                                          {"--min-bytes", "5", "x"},
                                          {"--save", "/tmp", "--min-bytes", "many", "x"},
                                          {"--skip-unsound", "x"},
+                                         {"--repair-movies", "x"},
+                                         {"--save", "/tmp", "--reference", "y", "x"},
                                          {"--save", "/tmp", "--as-published", "--skip-unsound", "x"},
                                          {"--save", "/tmp", "--as-published", "--by-date", "x"}}) {
         EXPECT_EQ(runCommand(arguments).exitCode, 2) << arguments.join(' ').toStdString();

@@ -54,6 +54,18 @@ TEST(IsoMedia, Fragments_AreAllTaken) {
     EXPECT_EQ(walkBytes("MP4", Build().add(whole).fill(100, 0xEE)).end, whole.size());
 }
 
+TEST(IsoMedia, NothingButFillers_IsNotFollowed) {
+    Build fillers;
+    for (int i = 0; i < 7000; ++i)
+        fillers.be32(512).text("free").fill(504);
+    const Bytes whole = fillers;
+    static const Bytes kNothing;
+    JoinedSource source(whole, kNothing);
+    ByteView view(source);
+    EXPECT_EQ(kIsoMedia.walk(view).verdict, Verdict::Unknown);
+    EXPECT_LT(source.bytesRead(), whole.size() / 8);
+}
+
 TEST(IsoMedia, LongMovie_CostsOnlyItsHeaders) {
     Build whole;
     whole.add(kType).add(isoBox("mdat", Bytes(8'000'000, 3))).add(kIndex);

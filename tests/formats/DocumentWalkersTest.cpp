@@ -207,5 +207,14 @@ TEST(CompoundFile, TableBeyondTheMedium_IsCutOff) {
     EXPECT_EQ(walkBytes("XLS", out).verdict, Verdict::CutOff);
 }
 
+TEST(CompoundFile, TableThatDoesNotKnowItsOwnSectors_TellsNoLength) {
+    Build out;
+    out.add(compoundHead()).le32(1).to(68);
+    out.le32(0xFFFFFFFE).le32(0).le32(100).to(512 * 102);
+    const Bytes sparse = out.to(512 * 200);
+    EXPECT_EQ(walkBytes("XLS", sparse).verdict, Verdict::Damaged);
+    EXPECT_EQ(walkBytes("XLS", sparse).end, 512U);
+}
+
 }  // namespace
 }  // namespace vantor::test

@@ -189,6 +189,42 @@ TEST(Tiff, StripBeyondTheMedium_IsCutOff) {
     EXPECT_EQ(walkBytes("DNG", cut).verdict, Verdict::CutOff);
 }
 
+// Some bytes, and zeros up to the end of a large medium.
+class SparseSource final : public ByteSource {
+  public:
+    SparseSource(Bytes bytes, std::uint64_t size) : m_bytes(std::move(bytes)), m_size(size) {}
+
+    std::uint64_t size() const override { return m_size; }
+    std::size_t read(std::uint64_t offset, std::span<std::uint8_t> into) override {
+        for (std::size_t i = 0; i < into.size(); ++i)
+            into[i] = offset + i < m_bytes.size() ? m_bytes[static_cast<std::size_t>(offset + i)] : 0;
+        return static_cast<std::size_t>(std::min<std::uint64_t>(into.size(), m_size - offset));
+    }
+
+  private:
+    const Bytes m_bytes;
+    const std::uint64_t m_size;
+};
+
+TEST(Tiff, StripFarBehindNothing_IsNotTheFiles) {
+    const auto tag = [](std::uint16_t id, std::uint64_t value) {
+        return Build().le16(id).le16(4).le32(1).le32(value).bytes();
+    };
+    constexpr std::uint64_t kFar = std::uint64_t{500} << 20;
+    const Bytes head = Build()
+                           .text(std::string_view("II*\0", 4))
+                           .le32(8)
+                           .le16(2)
+                           .add(tag(273, kFar))
+                           .add(tag(279, 4096))
+                           .le32(0);
+    SparseSource source(head, kFar + 8192);
+    ByteView view(source);
+    const Extent extent = kTiff.walk(view);
+    EXPECT_EQ(extent.verdict, Verdict::Damaged);
+    EXPECT_EQ(extent.end, head.size());
+}
+
 TEST(Bmp, LengthField_IsBelievedOnlyNearThePixels) {
     Build bmp;
     bmp.text("BM").le32(1'000'000).le32(0).le32(54).le32(40).le32(2).le32(2).le16(1).le16(24).fill(24).fill(

@@ -31,6 +31,8 @@ std::vector<Sample> rasterSamples();
 std::vector<Sample> recordSamples();
 std::vector<Sample> toldLengthSamples();
 std::vector<Sample> drawingSamples();
+std::vector<Sample> modelSamples();
+std::vector<Sample> moduleSamples();
 std::vector<Sample> allSamples();
 
 // Building blocks that single tests use as well.

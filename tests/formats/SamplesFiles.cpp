@@ -363,9 +363,9 @@ std::vector<Sample> documentSamples() {
 
 std::vector<Sample> allSamples() {
     std::vector<Sample> all;
-    for (const auto& part :
-         {pictureSamples(), movieSamples(), soundSamples(), archiveSamples(), documentSamples(),
-          rasterSamples(), recordSamples(), toldLengthSamples(), drawingSamples()})
+    for (const auto& part : {pictureSamples(), movieSamples(), soundSamples(), archiveSamples(),
+                             documentSamples(), rasterSamples(), recordSamples(), toldLengthSamples(),
+                             drawingSamples(), modelSamples(), moduleSamples()})
         all.insert(all.end(), part.begin(), part.end());
     return all;
 }

@@ -193,5 +193,114 @@ TEST(TiffHabits, LastBytesWrittenTwice_AreKeptWhereTheFileSaysSo) {
     expectEnd("TIF", Build().add(plain).add(last).add(noise(3000, 6)), plain.size());
 }
 
+TEST(SoundHabits, TagThatMp3Bears_StandsBeforeOtherSoundToo) {
+    const Bytes tag = Build().text("ID3\4").u8(0).u8(0).be32(20).fill(20, 0);
+    for (const auto& sample : allSamples()) {
+        if (sample.extension != "AAC" && sample.extension != "TTA" && sample.extension != "APE")
+            continue;
+        const Bytes file = Build().add(tag).add(sample.bytes);
+        for (const Bytes& tail : {Bytes(3000, 0), Bytes()})
+            expectEnd("MP3", Build().add(file).add(tail), file.size());
+    }
+}
+
+TEST(IffHabits, PaddingBehindTheLastChunk_IsOfTheFile) {
+    const Bytes odd = Build()
+                          .text("FORM")
+                          .be32(4 + 8 + 18 + 8 + 3)
+                          .text("AIFFCOMM")
+                          .be32(18)
+                          .fill(18, 1)
+                          .text("SSND")
+                          .be32(3)
+                          .fill(3, 2);
+    expectEnd("AIFF", Build().add(odd).u8(0).fill(900, 7), odd.size() + 1);
+    expectEnd("AIFF", Build().add(odd).fill(900, 7), odd.size());
+}
+
+TEST(WebAssemblyHabits, DataBehindCode_AndTagsBehindMemories_AreSections) {
+    const Bytes file =
+        Build().text(std::string("\0asm\1\0\0\0", 8)).add({1, 1,  0, 5, 1,  0, 13, 1,  0, 6, 1,
+                                                           0, 12, 1, 0, 10, 1, 0,  11, 2, 0, 0});
+    expectEnd("WASM", Build().add(file).fill(900, 0xEE), file.size());
+    // The kinds stand in one order.
+    expectEnd("WASM", Build().add(file).add({10, 1, 0}), file.size());
+}
+
+TEST(EventLogHabits, LogThatWasNotClosed_HoldsMoreThanItCounts) {
+    Build log;
+    log.text(std::string("ElfFile\0", 8)).to(32).le32(128).to(42).le16(1).to(4096);
+    for (int chunk = 0; chunk < 3; ++chunk)
+        log.text(std::string("ElfChnk\0", 8)).fill(65536 - 8, 3);
+    expectEnd("EVTX", Build().add(log).fill(900, 0), log.size());
+}
+
+TEST(CabinetHabits, SignatureBehind_BelongsToTheFile) {
+    Build file;
+    file.text(std::string("MSCF\0\0\0\0", 8)).le32(100).le32(0).le32(60).le32(0).u8(3).u8(1);
+    file.le16(1)
+        .le16(1)
+        .le16(4)
+        .le16(7)
+        .le16(0)
+        .le16(20)
+        .le16(0)
+        .le32(0x100000)
+        .le32(100)
+        .le32(50)
+        .to(100)
+        .fill(50, 9);
+    expectEnd("CAB", Build().add(file).fill(900, 0), file.size());
+}
+
+TEST(SegmentHabits, PieceOfAMovieAlone_IsAWholeFile) {
+    const Bytes piece = Build()
+                            .add(isoBox("styp", Build().text("msdh").be32(0).text("msdhmsix")))
+                            .add(isoBox("moof", Build().fill(40, 1)))
+                            .add(isoBox("mdat", Build().fill(60, 2)));
+    expectEnd("MP4", Build().add(piece).fill(900, 0), piece.size());
+    // Pieces may be joined, but one that begins at a sector is the next file.
+    Bytes filled = piece;
+    filled.resize(512);
+    expectEnd("MP4", Build().add(piece).add(piece), 2 * piece.size());
+    expectEnd("MP4", Build().add(filled).add(piece), piece.size());
+    // The head of a movie in pieces has no data.
+    const Bytes head = Build()
+                           .add(isoBox("ftyp", Build().text("iso5").be32(0)))
+                           .add(isoBox("moov", isoBox("mvex", Build().fill(16))));
+    expectEnd("MP4", Build().add(head).fill(900, 0), head.size());
+    EXPECT_FALSE(walkBytes("MP4", Build().add(head).fill(900, 0)).exactEnd);
+}
+
+TEST(PostScriptHabits, NoCommentBehindForeignBytes_EndsBeforeThem) {
+    const Bytes file = Build().text("%!PS-Adobe-3.0 EPSF-3.0\n%%Page: 1 1\nshowpage\n");
+    const Bytes later = Build().text("\n%%EOF\n");
+    expectEnd("EPS", Build().add(file).fill(9000, 1).add(later), file.size());
+    const Bytes announced =
+        Build().text("%!PS-Adobe-3.0 EPSF-3.0\n%%BeginBinary: 9000\nimage\n").fill(9000, 1);
+    expectEnd("EPS", Build().add(announced).add(later), announced.size() + later.size());
+}
+
+TEST(LzhHabits, ArchiveOfCpm_FillsItsRecord_AndTheOldestHasNoMark) {
+    const auto member = [](std::string_view method) {
+        return Build()
+            .u8(23)
+            .u8(0)
+            .text(method)
+            .le32(10)
+            .le32(10)
+            .le32(0)
+            .u8(0x20)
+            .u8(0)
+            .u8(1)
+            .text("a")
+            .le16(0)
+            .fill(10, 5);
+    };
+    expectEnd("LZH", Build().add(member("-pm0-")).fill(900, 0), 128);
+    expectEnd("LZH", Build().add(member("-lh0-")).fill(900, 0), member("-lh0-").size() + 1);
+    expectEnd("LZH", Build().add(member("-lz4-")).fill(900, 0), member("-lz4-").size());
+}
+
 }  // namespace
 }  // namespace vantor::test

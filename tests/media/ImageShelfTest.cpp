@@ -90,7 +90,7 @@ TEST_F(ImageShelfTest, WhatIsNoImage_IsRefusedInASentence) {
         const OpenedImage opened = source->addImage(path);
         EXPECT_EQ(opened.identifier, QString()) << path.toStdString();
         EXPECT_TRUE(opened.refusal.endsWith(u'.')) << opened.refusal.toStdString();
-        EXPECT_TRUE(opened.refusal.startsWith(u'“')) << opened.refusal.toStdString();
+        EXPECT_TRUE(opened.refusal.startsWith(u'“' + path + u'”')) << opened.refusal.toStdString();
     }
     EXPECT_EQ(rows().size(), 1);
 }

@@ -139,10 +139,9 @@ int replay(QStringList arguments) {
     }
     session.run();
     opener.scanIsOver();
-    session.checksumRawItems();
-    for (const QJsonObject& line : session.jsonLines()) {
+    session.forEachJsonLine([](const QJsonObject& line) {
         std::printf("%s\n", QJsonDocument(line).toJson(QJsonDocument::Compact).constData());
-    }
+    });
     return 0;
 }
 

@@ -5,8 +5,8 @@
 
 #include "results/MyImageObject.h"
 #include "results/SoundnessBoard.h"
+#include "tests/support/Gate.h"
 #include "tests/support/SmallFiles.h"
-#include "tests/window/Gate.h"
 
 namespace vantor {
 namespace {
@@ -132,6 +132,18 @@ TEST_F(SoundnessBoardTest, AMediumThatGoes_StopsIt_AndNothingIsSaidOfItsItems) {
     board.begin(opener());
     board.want({2});
     EXPECT_TRUE(until([this] { return board.known() == 1; })) << "a new list begins anew";
+}
+
+TEST_F(SoundnessBoardTest, AMediumThatIsPutBackIn_IsExaminedFurther) {
+    refuseOpen = true;
+    board.begin(opener());
+    board.wantAll(2);
+    ASSERT_TRUE(until([this] { return board.mediumIsGone(); }));
+    board.tryAgain();
+    ASSERT_TRUE(until([this] { return opened == 2 && board.mediumIsGone(); })) << "it was not";
+    refuseOpen = false;
+    board.tryAgain();
+    EXPECT_TRUE(until([this] { return board.known() == 2; }));
 }
 
 TEST_F(SoundnessBoardTest, WhatOthersFoundOut_IsNotExamined) {

@@ -107,9 +107,25 @@ TEST_F(RecoveryReport, ReplacesNothing) {
     const WrittenReport second = writeReport(folder.path(), head(), {});
     EXPECT_EQ(first.html, folder.filePath("Recovery report.html"));
     EXPECT_EQ(first.csv, folder.filePath("Recovery report.csv"));
-    EXPECT_EQ(second.html, folder.filePath("Recovery report (2).html"));
+    EXPECT_EQ(second.html, folder.filePath("Recovery report (2).html")) << "nobody knows when";
     EXPECT_EQ(contentsOf(first.csv), table());
     EXPECT_FALSE(writeReport("/nowhere/at/all", head(), {}).error.isEmpty());
+}
+
+TEST_F(RecoveryReport, BesideAnother_ItsNameTellsWhen) {
+    ReportHead when = head();
+    when.ended = QDateTime({2026, 11, 22}, {14, 5, 33});
+    EXPECT_EQ(writeReport(folder.path(), when, {}).html, folder.filePath("Recovery report.html"));
+    const QString dated = folder.filePath("Recovery report 2026-11-22 14.05.33");
+    const WrittenReport second = writeReport(folder.path(), when, {});
+    EXPECT_EQ(second.html, dated + ".html");
+    EXPECT_EQ(second.csv, dated + ".csv");
+    EXPECT_EQ(writeReport(folder.path(), when, {}).html, dated + " (2).html") << "in the same second";
+    ASSERT_TRUE(QFile::remove(folder.filePath("Recovery report.html")));
+    when.ended = when.ended.addSecs(1);
+    EXPECT_EQ(writeReport(folder.path(), when, {}).html,
+              folder.filePath("Recovery report 2026-11-22 14.05.34.html"))
+        << "while either of the two is there";
 }
 
 }  // namespace vantor

@@ -169,17 +169,18 @@ TEST(SaveSummary, SaysEverythingOnce) {
     summary.tally.duplicates = 1;
     summary.tally.failed = 7;
     summary.tally.failures = {"a: full", "b: full", "c: full", "d: full", "e: full", "f: full", "g: full"};
-    summary.reportWritten = true;
+    summary.report = QStringLiteral("/out/Recovery report (2).html");
     EXPECT_EQ(summaryHeadline(summary), QStringLiteral("1,204 files were saved."));
-    EXPECT_EQ(summaryDetails(summary),
-              QStringLiteral("Of these: 1,200 complete, 3 cut off, 1 of unknown length.\n"
-                             "They are in /out, in a folder for each type.\n"
-                             "Not written again: 1 item, the same contents are saved already.\n"
-                             "7 items could not be saved:\n   a: full\n   b: full\n   c: full\n   d: full\n"
-                             "   e: full\n   and 2 more\n"
-                             "The Recovery report beside them tells more of each file."));
+    EXPECT_EQ(
+        summaryDetails(summary),
+        QStringLiteral("Of these: 1,200 complete, 3 cut off, 1 of unknown length.\n"
+                       "They are in /out, in a folder for each type.\n"
+                       "Not written again: 1 item, the same contents are saved already.\n"
+                       "7 items could not be saved:\n   a: full\n   b: full\n   c: full\n   d: full\n"
+                       "   e: full\n   and 2 more\n"
+                       "“Recovery report (2).html” in the destination folder tells more of each file."));
     summary.tally = {};
-    summary.reportWritten = false;
+    summary.report.clear();
     summary.cancelled = true;
     EXPECT_EQ(summaryHeadline(summary), QStringLiteral("Nothing was saved."));
     EXPECT_EQ(summaryDetails(summary), QStringLiteral("The rest was not saved because you cancelled."));

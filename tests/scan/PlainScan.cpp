@@ -180,6 +180,7 @@ Result photoPass(ScriptedMedium medium, const Pass& pass, std::uint64_t itemsNum
     handOver();
     result.returned = !result.stopped && lastRead != 0;
     result.forIndex = index;
+    result.badTimesLeft = medium.badTimes;
     return result;
 }
 
@@ -274,6 +275,7 @@ Result rawPass(ScriptedMedium medium, const Pass& pass, std::map<QString, std::u
     }
     result.returned = !result.stopped && lastRead != 0;
     result.forIndex = index;
+    result.badTimesLeft = medium.badTimes;
     return result;
 }
 

@@ -30,6 +30,7 @@ struct Result {
     bool returned = false;
     bool stopped = false;
     std::uint64_t forIndex = 0;
+    std::map<std::uint64_t, int> badTimesLeft;  // of the medium, for the pass behind this one
 };
 
 // One pass over [start, end). `stopAt`: the stop request stands when the pass is about to read that sector.

@@ -36,6 +36,16 @@ class HookedReader : public SectorReader {
             m_inner->setScreen(std::move(screen));
         }
     }
+    void setRecall(std::shared_ptr<const SectorRecall> recall) override {
+        if (m_screen == Screen::PassedOn) {
+            m_inner->setRecall(std::move(recall));
+        }
+    }
+    void wantBytes(bool wanted) override { m_inner->wantBytes(wanted); }
+    void bringCurrent() override { m_inner->bringCurrent(); }
+    void shareRefusals(std::shared_ptr<RefusedSectors> refusals) override {
+        m_inner->shareRefusals(std::move(refusals));
+    }
     bool isGone() override { return m_inner->isGone(); }
     std::uint64_t mediumSectors() const override { return m_inner->mediumSectors(); }
 
@@ -76,8 +86,8 @@ class HookedReader : public SectorReader {
             !m_inner->read()) {
             return false;
         }
-        m_look = m_inner->worthALook() ? 1 : 0;
-        passedOver() += m_look == 0 ? 1 : 0;
+        m_look = m_inner->looks();
+        passedOver() += m_inner->worthALook() ? 0 : 1;
         handOver(m_inner->current(), 1, &m_look);
         return true;
     }

@@ -57,20 +57,23 @@ class ScriptedBytes : public BlockSource {
 
 // Sectors that are bad for ever surface from below, where windows meet them; the other faults are the hook's,
 // since a stream knows no others.
-inline std::unique_ptr<HookedReader> openReadAhead(std::unique_ptr<BlockSource> source, ReadFaults faults) {
+inline std::unique_ptr<HookedReader> openReadAhead(
+    std::unique_ptr<BlockSource> source, ReadFaults faults,
+    WindowedReader::Fetching fetching = WindowedReader::Fetching::Ahead) {
     const auto* const bad = std::exchange(faults.always, nullptr);
     auto spoilt =
         std::make_unique<SpoiltBlocks>(std::move(source), bad != nullptr ? *bad : std::set<std::uint64_t>());
     return std::make_unique<HookedReader>(
-        std::make_unique<WindowedReader>(std::move(spoilt), WindowedReader::Fetching::Ahead,
-                                         kSmallWindowSectors),
-        faults, HookedReader::Screen::PassedOn);
+        std::make_unique<WindowedReader>(std::move(spoilt), fetching, kSmallWindowSectors), faults,
+        HookedReader::Screen::PassedOn);
 }
 
 // The scripted medium with all its faults and its look at every read. The medium outlives the reader.
-inline std::unique_ptr<SectorReader> openReadAhead(ScriptedMedium& medium) {
-    auto reader = openReadAhead(std::make_unique<ScriptedBytes>(medium),
-                                {&medium.badForEver, &medium.badTimes, medium.seekAfterFailureFails});
+inline std::unique_ptr<SectorReader> openReadAhead(
+    ScriptedMedium& medium, WindowedReader::Fetching fetching = WindowedReader::Fetching::Ahead) {
+    auto reader =
+        openReadAhead(std::make_unique<ScriptedBytes>(medium),
+                      {&medium.badForEver, &medium.badTimes, medium.seekAfterFailureFails}, fetching);
     reader->beforeRead([&medium](std::uint64_t) {
         if (medium.beforeRead) {
             medium.beforeRead(medium.reads);

@@ -151,7 +151,12 @@ class TestSession : public RecordingView, public ScanSession {
         return list;
     }
 
+    using ScanSession::PhotoBytes;
+    PhotoBytes photoBytes = PhotoBytes::All;
+    PhotoBytes photoBytesNeeded() const override { return photoBytes; }
+
     using ScanSession::images;
+    using ScanSession::refusals;
     using ScanSession::nsSIGFileInfoDataObject;
 
     std::vector<HandedOver> handedOver;

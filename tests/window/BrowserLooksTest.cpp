@@ -3,8 +3,8 @@
 
 #include "results/MyImageObject.h"
 #include "results/RecoveryMode.h"
+#include "tests/support/Gate.h"
 #include "tests/support/SmallFiles.h"
-#include "tests/window/Gate.h"
 #include "tests/window/WindowTest.h"
 
 namespace vantor {

@@ -164,6 +164,60 @@ TEST_F(Browser, HomeAndEnd_ShowFirstAndLastWhicheverItemIsTheCurrentOne) {
     EXPECT_EQ(browser->currentIndex().row(), 59) << "also when there was no current item";
 }
 
+TEST_F(Browser, TheFirstKeyChoosesTheItemAtHand) {
+    open();
+    showPhotoScreen();
+    addPhotos(60);
+    settle();
+    ImageBrowserView* const browser = controller->imageBrowser;
+    const auto chosenBy = [browser](Qt::Key key) {
+        QTest::keyClick(browser, key);
+        return browser->selectionIndexes();
+    };
+    browser->verticalScrollBar()->setValue(0);
+    browser->setFocus();
+    ASSERT_EQ(browser->currentIndex().row(), 0);
+    EXPECT_EQ(chosenBy(Qt::Key_Right), QList<qsizetype>{0}) << "it is not passed over";
+    EXPECT_EQ(chosenBy(Qt::Key_Right), QList<qsizetype>{1});
+    for (const int key : {Qt::Key_Home, Qt::Key_End, Qt::Key_Home}) {
+        const QList<qsizetype> wanted{key == Qt::Key_Home ? 0 : 59};
+        EXPECT_EQ(chosenBy(static_cast<Qt::Key>(key)), wanted);
+        browser->clearSelection();
+        EXPECT_EQ(chosenBy(static_cast<Qt::Key>(key)), wanted) << "where it was the current one";
+    }
+    // Who has followed a search to its end goes on from what is seen.
+    browser->clearSelection();
+    browser->scrollToBottom();
+    const int scrolled = browser->verticalScrollBar()->value();
+    ASSERT_GT(scrolled, 0);
+    const QList<qsizetype> seen = chosenBy(Qt::Key_Down);
+    ASSERT_EQ(seen.size(), 1);
+    EXPECT_TRUE(browser->viewport()->rect().contains(
+        browser->visualRect(browser->model()->index(static_cast<int>(seen.constFirst()), 0))));
+    EXPECT_EQ(browser->verticalScrollBar()->value(), scrolled);
+}
+
+// Beside the results of a search it is told how it ended.
+TEST_F(Browser, WhoSeesTheLastItems_SeesThemInLessRoomToo) {
+    open();
+    showPhotoScreen();
+    addPhotos(60);
+    settle();
+    ImageBrowserView* const browser = controller->imageBrowser;
+    browser->scrollToBottom();
+    const int height = browser->viewport()->height();
+    controller->searchEndBar->show();
+    settle();
+    ASSERT_LT(browser->viewport()->height(), height);
+    EXPECT_TRUE(atEnd(browser));
+    browser->verticalScrollBar()->setValue(10);
+    controller->searchEndBar->hide();
+    settle();
+    controller->searchEndBar->show();
+    settle();
+    EXPECT_EQ(browser->verticalScrollBar()->value(), 10) << "who looks elsewhere";
+}
+
 // A fast search adds many at a time, and says where to scroll before the last of them.
 TEST_F(Browser, WhoIsAtTheEnd_FollowsWholeBatches) {
     open();

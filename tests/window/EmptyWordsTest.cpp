@@ -60,9 +60,16 @@ TEST(EmptyWords, FileTypesAreAdvisedWhereSomeWereLeftOut) {
 }
 
 TEST(EmptyWords, WhereTheChoiceHidesThemAll_NoSearchIsAdvised) {
-    const EmptyWords words = nothingShown(1234);
-    EXPECT_EQ(words.title, "None of the found items is of this kind");
-    EXPECT_EQ(words.advice, "Choose “All items” above to see all that was found: 1,234 items.");
+    const EmptyWords kind = nothingShown(1234, {true, false});
+    EXPECT_EQ(kind.title, "None of the found items is of this kind");
+    EXPECT_EQ(kind.advice, "Choose “All items” above to see all that was found: 1,234 items.");
+    const EmptyWords type = nothingShown(1234, {false, true});
+    EXPECT_EQ(type.title, "None of the found items is of this type");
+    EXPECT_EQ(type.advice, "Press “Show All Types” to see all that was found: 1,234 items.");
+    const EmptyWords both = nothingShown(1234, {true, true});
+    EXPECT_EQ(both.title, "None of the found items is of this type and kind");
+    EXPECT_EQ(both.advice,
+              "Press “Show All Types” and choose “All items” above to see all that was found: 1,234 items.");
 }
 
 }  // namespace

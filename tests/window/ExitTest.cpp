@@ -4,7 +4,7 @@
 #include <QFileInfo>
 
 #include "results/RecoveryMode.h"
-#include "tests/window/Gate.h"
+#include "tests/support/Gate.h"
 #include "tests/window/WindowTest.h"
 
 namespace vantor {

@@ -128,6 +128,10 @@ TEST_F(MediaScreen, AFileThatIsNoImage_IsRefusedWithTheReason) {
     controller->openImages({QStringLiteral("/tmp/letter.txt")});
     EXPECT_EQ(answers.seen().at(0).text, QStringLiteral("\nThe image could not be opened."));
     EXPECT_EQ(answers.seen().at(0).informative, QStringLiteral("“/tmp/letter.txt” is no image."));
+    EXPECT_EQ(answers.seen().at(0).text, QStringLiteral("\nThe image could not be opened."));
+    answers.press(QStringLiteral("OK"));
+    controller->openImages({QStringLiteral("a.txt"), QStringLiteral("b.txt")});
+    EXPECT_EQ(answers.seen().at(1).text, QStringLiteral("\n2 images could not be opened."));
     EXPECT_EQ(controller->idTableView->model()->rowCount(), 1);
 }
 

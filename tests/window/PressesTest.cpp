@@ -3,7 +3,7 @@
 #include <QPushButton>
 
 #include "results/RecoveryMode.h"
-#include "tests/window/Gate.h"
+#include "tests/support/Gate.h"
 #include "tests/window/WindowTest.h"
 
 namespace vantor {
@@ -103,6 +103,26 @@ TEST_F(FirstScreen, AShortcutThatIsHeld_GoesOneStepToo) {
         hasKeyboardAgain();
         selectMedium();
     }
+}
+
+// The toolkit leads back to the card that had the keyboard last, which need not be the chosen one.
+TEST_F(FirstScreen, TabLeadsToTheChosenMode) {
+    openWithCard();
+    toRange(kRawFileMode);
+    click(controller->backButton);
+    hasKeyboardAgain();
+    ASSERT_TRUE(controller->_rec_mode_Photo->isChecked());
+    controller->idTableView->setFocus();
+    QTest::keyClick(keyboardAt(), Qt::Key_Tab);
+    EXPECT_EQ(keyboardAt(), controller->_rec_mode_Photo);
+    QTest::keyClick(keyboardAt(), Qt::Key_Right);
+    EXPECT_EQ(keyboardAt(), controller->_rec_mode_Video);
+    EXPECT_EQ(Recovery_MODE, kVideoMode);
+    // And from behind, before any of the cards had the keyboard.
+    controller->Photo_Mode_Radio(nullptr);
+    controller->refreshButton->setFocus();
+    QTest::keyClick(keyboardAt(), Qt::Key_Backtab);
+    EXPECT_EQ(keyboardAt(), controller->_rec_mode_Photo);
 }
 
 TEST_F(FirstScreen, QuickClicksOnNext_GoOneStep) {

@@ -2,7 +2,7 @@
 #include <QFile>
 #include <limits>
 
-#include "tests/window/Gate.h"
+#include "tests/support/Gate.h"
 #include "tests/window/PreviewWindow.h"
 #include "tests/window/ScriptedMovie.h"
 

@@ -4,7 +4,7 @@
 #include <QToolButton>
 
 #include "results/RecoveryMode.h"
-#include "tests/window/Gate.h"
+#include "tests/support/Gate.h"
 #include "tests/window/PreviewWindow.h"
 #include "tests/window/ScriptedMovie.h"
 #include "window/preview/MovieControls.h"

@@ -5,8 +5,8 @@
 #include <mutex>
 
 #include "results/RecoveryMode.h"
+#include "tests/support/Gate.h"
 #include "tests/support/SmallFiles.h"
-#include "tests/window/Gate.h"
 #include "tests/window/PreviewWindow.h"
 #include "tests/window/ScriptedMovie.h"
 

@@ -314,6 +314,8 @@ TEST_P(RangeScreen, BeyondTheToolkitsNumbers_TypedValuesWorkAndTheCopyIsBounded)
     EXPECT_NEAR(startSlider()->doubleValue(), 4e9, 4);
     QTest::keyClick(startSlider(), Qt::Key_End);
     EXPECT_EQ(startField()->text(), QStringLiteral("2147483647"));
+    EXPECT_TRUE(hint()->isVisible());
+    EXPECT_TRUE(hint()->text().contains(QStringLiteral(" 2,147,483,647.")));
 }
 
 TEST_P(RangeScreen, TheNineRefusals) {

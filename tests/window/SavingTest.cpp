@@ -9,10 +9,11 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTableView>
+#include <QThread>
 
 #include "results/MyImageObject.h"
 #include "results/RecoveryMode.h"
-#include "tests/window/Gate.h"
+#include "tests/support/Gate.h"
 #include "tests/window/WindowTest.h"
 
 namespace vantor {
@@ -121,6 +122,33 @@ TEST_F(Saving, ADestinationOnTheScannedMedium_IsRefused) {
     EXPECT_TRUE(savedFiles().isEmpty());
 }
 
+// As when somebody mounts another folder of the card there meanwhile.
+TEST_F(Saving, ADestinationThatComesToLieOnTheMedium_IsNotWrittenInto) {
+    parts.isOnMedium = [](const QString&, const QString& device) {
+        return device == QStringLiteral("/dev/rsdb1") && QThread::currentThread() != qApp->thread();
+    };
+    openPhotoResults();
+    destinationIs(destination.path());
+    answers.press(QStringLiteral("OK"));
+    click(controller->saveAllButton);
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\nNothing was saved."));
+    EXPECT_TRUE(answers.seen().back().informative.contains(QStringLiteral("lies on the medium")))
+        << answers.seen().back().informative.toStdString();
+    EXPECT_TRUE(savedFiles().isEmpty());
+}
+
+TEST_F(Saving, TheReportSaysHowTheSearchEnded) {
+    openWithCard();
+    card.badForEver = {60};
+    toRange(kPhotoMode);
+    scanToEnd();
+    destinationIs(destination.path());
+    saveAllAndAnswer();
+    QFile html(destination.filePath(QStringLiteral("Recovery report.html")));
+    ASSERT_TRUE(html.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(html.readAll().contains("but 1 sector could not be read"));
+}
+
 TEST_F(Saving, AMediumThatIsGone_IsReportedAndNothingCountsAsSaved) {
     openPhotoResults();
     destinationIs(destination.path());
@@ -168,7 +196,8 @@ TEST_F(Saving, TheReportLiesBesideTheFiles_UnlessNotWanted) {
     EXPECT_TRUE(page.contains("CANON_DC (sdb1)"));
     EXPECT_TRUE(page.contains("JPG/GND00001.JPG"));
     EXPECT_TRUE(page.contains("completed")) << "the search";
-    EXPECT_TRUE(answers.seen().back().informative.contains(QStringLiteral("Recovery report")));
+    EXPECT_TRUE(answers.seen().back().informative.contains(
+        QStringLiteral("“Recovery report.html” in the destination folder")));
     changeOptions([](QDialog* panel) { tick(panel, "reportBox"); });
     saveAllAndAnswer();
     EXPECT_EQ(QDir(destination.path()).entryList(QDir::Files), reports);
@@ -181,6 +210,8 @@ TEST_F(Saving, TheOptionsAreKeptAndCounted) {
     changeOptions([](QDialog* panel) {
         auto* pixels = panel->findChild<QSpinBox*>(QStringLiteral("minPixelsField"));
         EXPECT_FALSE(pixels->isEnabled());
+        EXPECT_EQ(panel->findChild<QSpinBox*>(QStringLiteral("minBytesField"))->text(),
+                  QStringLiteral("10 kB"));
         chooseFolders(panel, SaveFolders::Date);
         tick(panel, "minPixelsBox");
         EXPECT_TRUE(pixels->isEnabled());
@@ -244,6 +275,28 @@ TEST_F(Saving, WithoutRoom_TheUserIsAskedFirst) {
     answers.press(QStringLiteral("Save What Fits"));
     saveAllAndAnswer();
     EXPECT_EQ(savedFiles().size(), 3);
+}
+
+TEST_F(Saving, TheRoomThatFilesNeed_IsToldAsFarAsItIsKnown) {
+    parts.freeBytes = [](const QString&) { return std::optional<std::uint64_t>(1); };
+    bool mayBeExamined = false;
+    parts.openBeside = [&](const QString&) -> std::unique_ptr<SectorReader> {
+        return mayBeExamined ? std::make_unique<ScriptedReader>(card) : nullptr;
+    };
+    openPhotoResults();
+    destinationIs(destination.path());
+    const auto told = [this] {
+        saveAllAndAnswer(QStringLiteral("Cancel"));
+        return answers.seen().back().informative;
+    };
+    EXPECT_TRUE(told().startsWith(QStringLiteral("As they were found, the files need some ")));
+    mayBeExamined = true;
+    source->changed();  // it was put back in
+    ASSERT_TRUE(waitFor([this] {
+        return controller->factsOfItem(0).soundness && controller->factsOfItem(1).soundness &&
+               controller->factsOfItem(2).soundness;
+    })) << "and is examined";
+    EXPECT_TRUE(told().startsWith(QStringLiteral("Some ")));
 }
 
 TEST_F(Saving, TheSheetSaysHowFarItIs_AndCancelEndsIt) {
@@ -348,6 +401,32 @@ TEST_F(Saving, ADestinationThatHasVanished_IsNotMadeAnew) {
     EXPECT_TRUE(answers.seen().back().informative.contains(QStringLiteral("is not there")));
     EXPECT_FALSE(QFileInfo::exists(gone));
     EXPECT_TRUE(controller->hasUnsavedItems());
+}
+
+TEST_F(Saving, AChosenDestinationThatHasVanished_IsToldAndShownAsGone) {
+    openPhotoResults();
+    const QString gone = destination.filePath(QStringLiteral("stick"));
+    ASSERT_TRUE(QDir().mkpath(gone));
+    answers.then([&](QDialog* chooser) { chooseFolder(chooser, gone); });
+    click(controller->changeFolderButton);
+    ASSERT_EQ(controller->_path->text(), gone);
+    const auto whySaveAllIsRefused = [this] {
+        saveAllAndAnswer();
+        EXPECT_EQ(answers.seen().back().text, QStringLiteral("\nThe destination is no longer there."));
+        EXPECT_TRUE(controller->destinationLabel->text().endsWith(QStringLiteral("which is not there")))
+            << controller->destinationLabel->text().toStdString();
+        return answers.seen().back().informative;
+    };
+    ASSERT_TRUE(QDir().rmdir(gone));
+    EXPECT_TRUE(whySaveAllIsRefused().contains(QStringLiteral("was deleted or renamed, or its disk")));
+    // Another file system where the chosen one was.
+    ASSERT_TRUE(QFile::link(QStringLiteral("/proc"), gone));
+    EXPECT_TRUE(whySaveAllIsRefused().contains(QStringLiteral("The disk that held")));
+    ASSERT_TRUE(QFile::remove(gone));
+    ASSERT_TRUE(QDir().mkpath(gone));
+    saveAllAndAnswer();
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\n3 files were saved.")) << "brought back";
+    EXPECT_FALSE(controller->destinationLabel->text().contains(QStringLiteral("not there")));
 }
 
 TEST_F(Saving, WhatFailed_CanBeSavedElsewhereAtOnce) {

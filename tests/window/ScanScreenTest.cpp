@@ -1,6 +1,6 @@
 // The scan screens while a scan runs, is stopped, fails and ends.
 #include "results/RecoveryMode.h"
-#include "tests/window/Gate.h"
+#include "tests/support/Gate.h"
 #include "tests/window/WindowTest.h"
 
 namespace vantor {

@@ -2,7 +2,7 @@
 #include <QDir>
 
 #include "results/RecoveryMode.h"
-#include "tests/window/Gate.h"
+#include "tests/support/Gate.h"
 #include "tests/window/WindowTest.h"
 
 namespace vantor {

@@ -2,7 +2,7 @@
 #include <QLabel>
 
 #include "results/RecoveryMode.h"
-#include "tests/window/Gate.h"
+#include "tests/support/Gate.h"
 #include "tests/window/WindowTest.h"
 #include "window/widgets/Theme.h"
 
@@ -65,6 +65,21 @@ TEST_F(SearchEndBar, ACompletedSearch_HasTheTick) {
     answers.press(QStringLiteral("Go Back Without Saving"));
     click(controller->backButton);
     EXPECT_FALSE(controller->searchEndBar->isVisible());
+}
+
+TEST_F(SearchEndBar, OnlyBadSectors_CanBeTriedAgain) {
+    openWithCard();
+    toRange(kPhotoMode);
+    runToEnd();
+    EXPECT_FALSE(controller->tryBadSectorsButton->isVisible());
+    answers.press(QStringLiteral("Go Back Without Saving"));
+    click(controller->backButton);
+    card.badForEver = {20};
+    runToEnd();
+    EXPECT_TRUE(controller->tryBadSectorsButton->isVisible());
+    click(controller->tryBadSectorsButton);
+    EXPECT_FALSE(controller->tryBadSectorsButton->isVisible());
+    EXPECT_TRUE(controller->searchEndBar->isVisible());
 }
 
 TEST_F(SearchEndBar, AStoppedSearch_SaysWhereAndHowToGoOn) {
@@ -169,6 +184,28 @@ TEST_F(SearchEndBar, WhereTheChoiceHidesAll_TheWayToThemIsTold) {
     EXPECT_EQ(emptyWordsOf(controller->imageBrowser),
               "None of the found items is of this kind Choose “All items” above to see all that was found: 3 "
               "items.");
+}
+
+TEST_F(SearchEndBar, WhereATypeOfTheTableHidesAll_TheWayToAllTypesIsTold) {
+    openWithCard();
+    toFileTypes(kRawFileMode);
+    card.bytes.at(12).fill(0);
+    runToEnd();
+    const auto rows = controller->resultRows();
+    ASSERT_GT(controller->itemCount(), 0u);
+    const auto none = std::find_if(rows.begin(), rows.end(), [](const ResultRow& row) {
+        return row.value(QStringLiteral("NoOfFile")) == QStringLiteral("0");
+    });
+    ASSERT_NE(none, rows.end()) << "a type of which nothing was found";
+    controller->idSigTableView->selectRow(static_cast<int>(none - rows.begin()));
+    ASSERT_EQ(controller->imageBrowser_2->shownCount(), 0);
+    EXPECT_TRUE(emptyWordsOf(controller->imageBrowser_2)
+                    .startsWith("None of the found items is of this type Press “Show All Types”"))
+        << emptyWordsOf(controller->imageBrowser_2).toStdString();
+    controller->showBox_Sig->setCurrentIndex(
+        controller->showBox_Sig->findData(static_cast<int>(ShowItems::Unreadable)));
+    EXPECT_TRUE(emptyWordsOf(controller->imageBrowser_2).contains("and choose “All items” above"))
+        << emptyWordsOf(controller->imageBrowser_2).toStdString();
 }
 
 TEST_F(SearchEndBar, ATypeListThatIsOnlyFiltered_BlamesNoCatalogue) {

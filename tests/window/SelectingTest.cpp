@@ -5,7 +5,7 @@
 #include <QStyle>
 #include <QWindow>
 
-#include "tests/window/Gate.h"
+#include "tests/support/Gate.h"
 #include "tests/window/PreviewWindow.h"
 #include "window/preview/PreviewFile.h"
 

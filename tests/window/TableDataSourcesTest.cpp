@@ -1,6 +1,7 @@
 // What the tables are given for rows that are not what they should be, and when they look again.
 #include <stdexcept>
 
+#include "media/MyDataObject.h"
 #include "results/RecoveryMode.h"
 #include "scan/PlatformException.h"
 #include "tests/window/WindowTest.h"
@@ -42,6 +43,25 @@ TEST_F(TableDataSources, AMediaColumnThatIsNotKnown_IsEmpty) {
     EXPECT_TRUE(controller->tableView(controller->idTableView, QStringLiteral("Collumn1"), 0).isValid());
     EXPECT_FALSE(controller->tableView(controller->idTableView, QStringLiteral("Collumn7"), 0).isValid());
     EXPECT_FALSE(controller->tableView(controller->idTableView, QStringLiteral("Column1"), 0).isValid());
+}
+
+TEST_F(TableDataSources, ALabelTurnsNothingAroundAndHoldsNothingUp) {
+    openWithCard();
+    const auto record = std::make_shared<MyDataObject>();
+    record->nsStrVolName = QStringLiteral("A\u202EB\nC\t") + QString(1'000'000, u'x');
+    controller->addRow(record);
+    settle();
+    const QString cell =
+        controller->tableView(controller->idTableView, QStringLiteral("Collumn2"), 1).toString();
+    EXPECT_TRUE(cell.startsWith(QStringLiteral("A\\u202eB\\u000aC\\u0009xxx")))
+        << cell.left(40).toStdString();
+    EXPECT_LT(cell.size(), 300);
+    selectMedium(1);
+    choose(controller->_rec_mode_Photo);
+    click(controller->nextButton);
+    settle();
+    EXPECT_EQ(controller->_vol_name_val->text(), cell);
+    EXPECT_EQ(record->nsStrVolName.size(), 1'000'006) << "the record stays as it was read";
 }
 
 TEST_F(TableDataSources, ANewResultsRow_IsInTheTableAtOnce) {

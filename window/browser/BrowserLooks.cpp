@@ -24,7 +24,7 @@ BrowserLooks::BrowserLooks(const std::array<BrowserScreen, 2>& screens, LookedAt
     : m_screens(screens),
       m_items(std::move(items)),
       m_board(m_items.at, [card = m_items.card](const MyImageObject&) {
-          return ItemHints{{}, card ? card() : nullptr};
+          return ItemHints{card ? card() : nullptr};
       }) {
     fillBoxes();
     m_look.setInterval(kLookMilliseconds);

@@ -56,11 +56,15 @@ class BrowserLooks : public QObject {
     ItemFacts factsOf(std::size_t index) const;
     // While somebody waits for the medium.
     void rest(bool resting) { m_board.rest(resting); }
+    // The medium may be there again.
+    void tryAgain() { m_board.tryAgain(); }
     // What saving found out.
     void note(std::size_t index, const Soundness& soundness) { m_board.note(index, soundness); }
     // Leaves out all other types; an empty text shows every type again.
     void showType(const QString& type);
     QString shownType() const { return m_wish.type; }
+    // No kind is left out.
+    bool showsEveryKind() const { return m_wish.show == ShowItems::All; }
     // All items, in the order in which they were found.
     bool isPlain() const { return m_wish.isPlain(); }
 

@@ -55,9 +55,19 @@ EmptyWords nothingFound(const SearchWish& wish, const SearchEnd& end) {
     return words;
 }
 
-EmptyWords nothingShown(std::size_t found) {
-    return {QObject::tr("None of the found items is of this kind"),
-            QObject::tr("Choose “All items” above to see all that was found: %1.").arg(countOfItems(found))};
+EmptyWords nothingShown(std::size_t found, const ShownChoice& choice) {
+    const QString all = countOfItems(found);
+    if (!choice.oneType) {
+        return {QObject::tr("None of the found items is of this kind"),
+                QObject::tr("Choose “All items” above to see all that was found: %1.").arg(all)};
+    }
+    if (!choice.someKind) {
+        return {QObject::tr("None of the found items is of this type"),
+                QObject::tr("Press “Show All Types” to see all that was found: %1.").arg(all)};
+    }
+    return {QObject::tr("None of the found items is of this type and kind"),
+            QObject::tr("Press “Show All Types” and choose “All items” above to see all that was found: %1.")
+                .arg(all)};
 }
 
 }  // namespace vantor

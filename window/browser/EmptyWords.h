@@ -25,7 +25,12 @@ struct SearchWish {
 EmptyWords nothingYet(bool photo);
 // Nothing was found by the search that has ended; never advises what was just done.
 EmptyWords nothingFound(const SearchWish& wish, const SearchEnd& end);
+// What the user chose to see of what was found.
+struct ShownChoice {
+    bool someKind = false;  // something else than all items in the box above the list
+    bool oneType = false;   // in the table of types
+};
 // There are items, but none is of the kind that was chosen to be shown.
-EmptyWords nothingShown(std::size_t found);
+EmptyWords nothingShown(std::size_t found, const ShownChoice& choice);
 
 }  // namespace vantor

@@ -205,14 +205,52 @@ void ImageBrowserView::focusInEvent(QFocusEvent* event) {
     }
 }
 
-// Also for whom the list followed a search while the current item stayed where it was.
+// The item that a key chooses where none is selected: the current one, or where the list has moved on, the
+// first in view.
+QModelIndex ImageBrowserView::itemAtHand() const {
+    const QModelIndex current = currentIndex();
+    const QRect view = viewport()->rect();
+    if (current.isValid() && view.intersects(visualRect(current))) {
+        return current;
+    }
+    for (int row = 0; row < m_model->rowCount(); ++row) {
+        if (view.contains(visualRect(m_model->index(row)))) {
+            return m_model->index(row);
+        }
+    }
+    return current;
+}
+
 void ImageBrowserView::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Home) {
+    const int key = event->key();
+    const bool noneChosen = !selectionModel()->hasSelection() && event->modifiers() == Qt::NoModifier;
+    const bool steps =
+        key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
+    if (const QModelIndex item = itemAtHand(); noneChosen && steps && item.isValid()) {
+        setCurrentIndex(item);
+        return;
+    }
+    // Also for whom the list followed a search while the current item stayed where it was.
+    if (key == Qt::Key_Home) {
         scrollToTop();
-    } else if (event->key() == Qt::Key_End) {
+    } else if (key == Qt::Key_End) {
         scrollToBottom();
     }
     QListView::keyPressEvent(event);
+    // The current item is chosen too, which the toolkit passes over where it was the current one before.
+    if (noneChosen && (key == Qt::Key_Home || key == Qt::Key_End)) {
+        setCurrentIndex(currentIndex());
+    }
+}
+
+// Who sees the last items goes on seeing them when something else takes room from the list.
+void ImageBrowserView::resizeEvent(QResizeEvent* event) {
+    const QScrollBar& bar = *verticalScrollBar();
+    const bool atBottom = bar.maximum() > 0 && bar.value() == bar.maximum();
+    QListView::resizeEvent(event);
+    if (atBottom) {
+        scrollToBottom();
+    }
 }
 
 QModelIndex ImageBrowserView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {

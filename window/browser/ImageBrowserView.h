@@ -57,12 +57,14 @@ class ImageBrowserView : public QListView {
   protected:
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void paintEvent(QPaintEvent* event) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
     void startDrag(Qt::DropActions) override {}
 
   private:
+    QModelIndex itemAtHand() const;
     QItemSelection rangesOf(const QList<qsizetype>& indexes) const;
     void describeState();
     void seeWhetherAtEnd();

@@ -7,6 +7,7 @@
 #include <QSignalBlocker>
 
 #include "catalogue/NumberText.h"
+#include "media/LabelText.h"
 #include "media/MyDataObject.h"
 #include "window/widgets/SectorSlider.h"
 
@@ -43,8 +44,12 @@ void RangePanel::setCaptions() {
 void RangePanel::fill(const MyDataObject& medium) {
     m_outlets.diskIdentifier->setText(medium.nsStrDiskIdentifier);
     m_outlets.sectors->setText(medium.nsStrSectors);
-    const QStringList facts = {medium.nsStrDiskIdentifier, medium.nsStrVolName, medium.nsStrFileSystem,
-                               medium.nsStrSize,           kFirstSector,        medium.nsStrSectors};
+    const QStringList facts = {medium.nsStrDiskIdentifier,
+                               shownLabel(medium.nsStrVolName),
+                               shownLabel(medium.nsStrFileSystem),
+                               medium.nsStrSize,
+                               kFirstSector,
+                               medium.nsStrSectors};
     for (qsizetype i = 0; i < facts.size(); ++i) {
         m_outlets.values.at(i)->setText(facts.at(i));
     }

@@ -40,7 +40,7 @@ std::optional<SavingDesk::Next> SavingDesk::saveOnce(const QList<qsizetype>& ind
             request.items.push_back({at, std::move(item)});
         }
     }
-    const Room room = askForRoom(destination, bytesNeeded(request.items));
+    const Room room = askForRoom(destination, roomNeeded(request.items));
     if (room != Room::Enough) {
         const QString other = room == Room::Elsewhere ? m_parts.chooseFolder() : QString();
         return other.isEmpty() ? std::nullopt : std::optional(Next{indexes, other});
@@ -75,35 +75,38 @@ std::shared_ptr<const ItemSaver> SavingDesk::saverFor(const QString& destination
 
 // As far as it was found out how long the files are, else as long as they were found. Types that share a
 // header find the same sectors; they are saved once.
-std::uint64_t SavingDesk::bytesNeeded(const std::vector<ChosenItem>& items) const {
+SavingDesk::Need SavingDesk::roomNeeded(const std::vector<ChosenItem>& items) const {
+    Need need;
     std::map<std::uint64_t, std::uint64_t> bytesAt;
     for (const ChosenItem& chosen : items) {
         const CarvedRun& carved = chosen.item->carved();
         if (!carved.runs.empty()) {
             const auto known = m_parts.bytesToWrite ? m_parts.bytesToWrite(chosen.index) : std::nullopt;
             std::uint64_t& most = bytesAt[carved.runs.front().first];
+            need.isKnown = need.isKnown && known;
             most = std::max(most, known.value_or(carved.sectors() * kSectorBytes));
         }
     }
-    std::uint64_t bytes = 0;
     for (const auto& place : bytesAt) {
-        bytes += place.second;
+        need.bytes += place.second;
     }
-    return bytes;
+    return need;
 }
 
-// The need is as far as it is known; a file may turn out longer or shorter.
-SavingDesk::Room SavingDesk::askForRoom(const QString& destination, std::uint64_t bytes) const {
+SavingDesk::Room SavingDesk::askForRoom(const QString& destination, const Need& need) const {
     const auto free = m_parts.freeBytes ? m_parts.freeBytes(destination) : std::nullopt;
-    if (!free || *free >= bytes) {
+    if (!free || *free >= need.bytes) {
         return Room::Enough;
     }
+    const QString facts =
+        need.isKnown
+            ? tr("Some %1 are needed and %2 are free in %3.")
+            : tr("As they were found, the files need some %1; once they are examined, they often turn out "
+                 "shorter. %2 are free in %3.");
     const qsizetype answer =
         runAlert({QStringLiteral("\n") + tr("There may not be enough room in the destination."),
-                  tr("Some %1 are needed and %2 are free in %3. What fits is saved whole; the rest is left "
-                     "out and stays "
-                     "in the list.")
-                      .arg(sizeForPeople(bytes), sizeForPeople(*free), destination),
+                  facts.arg(sizeForPeople(need.bytes), sizeForPeople(*free), destination) + u' ' +
+                      tr("What fits is saved whole; the rest is left out and stays in the list."),
                   {tr("Save What Fits"), tr("Change Folder…"), tr("Cancel")},
                   2},
                  m_parts.window);
@@ -149,7 +152,7 @@ std::optional<SavingDesk::Next> SavingDesk::tell(const SaveJob& job, const QStri
                                         [](const ReportedItem& item) { return item.outcome.mediumGone; });
     const SaveSummary summary{
         report.tally,         destination,
-        job.isCancelled(),    !report.written.html.isEmpty() && report.written.error.isEmpty(),
+        job.isCancelled(),    report.written.error.isEmpty() ? report.written.html : QString(),
         report.written.error, mediumGone};
     Alert alert{QStringLiteral("\n") + summaryHeadline(summary), summaryDetails(summary), {}};
     if (somethingThere) {

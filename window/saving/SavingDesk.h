@@ -80,8 +80,13 @@ class SavingDesk : public QObject {
 
     std::optional<Next> saveOnce(const QList<qsizetype>& indexes, const QString& destination);
     enum class Room { Enough, Elsewhere, Cancelled };
-    Room askForRoom(const QString& destination, std::uint64_t bytes) const;
-    std::uint64_t bytesNeeded(const std::vector<ChosenItem>& items) const;
+    // Bytes; `isKnown` when every file has been examined.
+    struct Need {
+        std::uint64_t bytes = 0;
+        bool isKnown = true;
+    };
+    Room askForRoom(const QString& destination, const Need& need) const;
+    Need roomNeeded(const std::vector<ChosenItem>& items) const;
     std::shared_ptr<const ItemSaver> saverFor(const QString& destination);
     bool watch(const std::shared_ptr<SaveJob>& job);
     void note(const SaveJob& job);

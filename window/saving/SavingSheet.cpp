@@ -84,8 +84,8 @@ void SavingSheet::skip() {
 
 // What holds a file up, and the way past it.
 void SavingSheet::showTrouble(const SaveProgress& progress) {
-    if (m_shown != progress.done) {
-        m_shown = progress.done;
+    if (m_shown != progress.turn) {
+        m_shown = progress.turn;
         m_ui->skipButton->setEnabled(!m_job->isCancelled());
     }
     const bool trouble = progress.refused > 0;

@@ -45,7 +45,7 @@ class SavingSheet : public QObject {
     std::unique_ptr<Ui::SavingProgress> m_ui;
     QTimer m_poll;
     QElapsedTimer m_clock, m_sinceCancel;
-    std::size_t m_shown = 0;  // place of the item that the sheet shows
+    std::size_t m_shown = 0;  // turn of the item that the sheet shows
     ScanMeter m_meter;
 };
 

@@ -31,6 +31,9 @@ ChoiceCard::ChoiceCard(QWidget* parent) : QRadioButton(parent) {
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
+    const auto followTab = [this](bool on) { setFocusPolicy(on ? Qt::StrongFocus : Qt::ClickFocus); };
+    followTab(false);
+    connect(this, &QAbstractButton::toggled, this, followTab);
 }
 
 void ChoiceCard::setExplanation(const QString& explanation) {

@@ -5,6 +5,8 @@
 
 namespace vantor {
 
+// Tab leads to the card of its group that is chosen, also when the program chose it; the toolkit alone would
+// lead back to the one that had the keyboard last.
 class ChoiceCard : public QRadioButton {
     Q_OBJECT
     Q_PROPERTY(QString explanation READ explanation WRITE setExplanation)

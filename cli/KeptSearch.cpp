@@ -1,0 +1,84 @@
+// From options to the wishes of a search, and back.
+#include "cli/KeptSearch.h"
+
+#include <QFile>
+#include <tuple>
+#include <utility>
+
+#include "cli/CliMedium.h"
+#include "cli/CliSession.h"
+
+namespace vantor {
+
+namespace {
+
+// A terabyte's worth is some 50 MB.
+constexpr qint64 kMostFileBytes = qint64{512} << 20;
+
+SearchWishes wishesOf(const CliOptions& options, const CliSession& session) {
+    SearchWishes wishes;
+    wishes.mode = options.mode;
+    wishes.types = options.types.value_or(QStringList());
+    wishes.thorough = options.thorough;
+    wishes.entire = !options.range;
+    if (options.range) {
+        std::tie(wishes.start, wishes.end) = *options.range;
+    }
+    wishes.catalogueSum = session.catalogueSum();
+    return wishes;
+}
+
+}  // namespace
+
+std::optional<SearchRecord> readKeptSearch(const QString& path, QString* why) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        *why = file.errorString();
+        return std::nullopt;
+    }
+    if (file.size() > kMostFileBytes) {
+        *why = QStringLiteral("It is not a search that this program has kept.");
+        return std::nullopt;
+    }
+    return recordOf(file.readAll(), why);
+}
+
+void takeWishes(const SearchRecord& kept, CliOptions& options) {
+    const SearchWishes& wishes = kept.wishes;
+    options.mode = static_cast<RecoveryMode>(wishes.mode);
+    options.types = wishes.types.isEmpty() ? std::nullopt : std::optional(wishes.types);
+    options.thorough = wishes.thorough;
+    options.range = wishes.entire ? std::nullopt : std::optional(std::pair(wishes.start, wishes.end));
+    if (options.medium.isEmpty()) {
+        options.medium = kept.medium;
+    }
+}
+
+std::shared_ptr<SearchKeeper> keeperFor(const CliOptions& options, const CliSession& session,
+                                        const CliMedium& medium, const std::optional<SearchRecord>& kept,
+                                        QString* why) {
+    if (options.sessionFile.isEmpty()) {
+        return nullptr;
+    }
+    SearchRecord record = kept.value_or(SearchRecord());
+    record.medium = options.medium;
+    const SearchWishes wishes = wishesOf(options, session);
+    if (kept) {
+        const auto reader = medium.open({});
+        if (wishes != record.wishes) {
+            *why = QStringLiteral("The signature catalogues are not those that it was begun with.");
+        } else if (!reader) {
+            *why = QStringLiteral("The medium %1 cannot be opened.").arg(options.medium);
+        } else if (medium.sectors != record.sectors || !holdsSamples(*reader, record.samples)) {
+            *why = QStringLiteral("%1 is not the medium that was searched.").arg(options.medium);
+        }
+        if (!why->isEmpty()) {
+            return nullptr;
+        }
+    }
+    record.wishes = wishes;
+    record.sectors = medium.sectors;
+    return std::make_shared<SearchKeeper>(options.sessionFile, std::move(record));
+}
+
+}  // namespace vantor

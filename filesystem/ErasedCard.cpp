@@ -1,0 +1,42 @@
+#include "filesystem/ErasedCard.h"
+
+#include <algorithm>
+#include <array>
+
+namespace vantor {
+
+namespace {
+
+// A file system's own areas and a few files left on it take no more of the places.
+constexpr std::size_t kMostWritten = 32;
+constexpr std::uint64_t kSmallest = 16 * kLooksForErasure;  // sectors
+
+bool isBlank(const std::array<std::uint8_t, 512>& sector) {
+    return (sector[0] == 0x00 || sector[0] == 0xFF) &&
+           std::all_of(sector.begin(), sector.end(), [&](std::uint8_t byte) { return byte == sector[0]; });
+}
+
+}  // namespace
+
+std::vector<std::uint64_t> writtenPlaces(SectorSource& card) {
+    std::vector<std::uint64_t> written;
+    for (std::uint64_t i = 0; i < kLooksForErasure && written.size() <= kMostWritten; ++i) {
+        // In steps that come by every place, far apart: files lie at the beginning of most cards.
+        const std::uint64_t place = i * 97 % kLooksForErasure;
+        const std::uint64_t sector =
+            card.sectors() / kLooksForErasure * place + card.sectors() / (2 * kLooksForErasure);
+        std::array<std::uint8_t, 512> bytes;
+        if (sector < card.sectors() && (!card.readAt(sector, bytes) || !isBlank(bytes))) {
+            written.push_back(sector);
+        }
+    }
+    return written;
+}
+
+bool isErased(const SectorSource& card, const std::vector<std::uint64_t>& written, const CardTable& table) {
+    return card.sectors() >= kSmallest && written.size() <= kMostWritten &&
+           std::all_of(written.begin(), written.end(),
+                       [&](std::uint64_t sector) { return table.isInUse(sector); });
+}
+
+}  // namespace vantor

@@ -1,0 +1,24 @@
+// Whether there is anything on a card that a search could find.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "filesystem/CardTable.h"
+#include "filesystem/SectorSource.h"
+
+namespace vantor {
+
+// Spread over the card, so many sectors are looked at.
+inline constexpr std::uint64_t kLooksForErasure = 256;
+
+// The places among them that hold anything but one byte, 00 or FF, over and over, or that cannot be read.
+// Ends early where there are so many that the card is not erased.
+std::vector<std::uint64_t> writtenPlaces(SectorSource& card);
+
+// Whether the card reads as erased, given what of those places its own file systems hold: some cameras and
+// programs erase all of a card when they format it. Never for a card that has hardly more sectors than are
+// looked at.
+bool isErased(const SectorSource& card, const std::vector<std::uint64_t>& written, const CardTable& table);
+
+}  // namespace vantor

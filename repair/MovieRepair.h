@@ -1,0 +1,42 @@
+// A movie whose index was never written, made playable.
+#pragma once
+
+#include <QByteArray>
+#include <atomic>
+#include <cstdint>
+#include <optional>
+
+#include "decode/SoundSplitter.h"
+#include "formats/ByteSource.h"
+#include "formats/IsoSamples.h"
+#include "repair/MovieWalk.h"
+#include "repair/ReferenceMovie.h"
+
+namespace vantor {
+
+// The twin of a movie is `head`, the movie's own bytes [data.from, data.to), and `index`.
+struct RepairedMovie {
+    QByteArray head;
+    DataPlace data;
+    QByteArray index;
+    std::size_t pictures = 0;
+    unsigned slices = 0;  // of the first picture
+    double pictureSeconds = 0;
+    double soundSeconds = 0;
+    std::uint64_t unexplainedBytes = 0;  // between the samples
+
+    std::uint64_t bytes() const {
+        return static_cast<std::uint64_t>(head.size() + index.size()) + (data.to - data.from);
+    }
+};
+
+// Where the data of a movie lies that has no index; nothing where it has one, or is no movie. `to` is where
+// the movie itself says that it ends, or the end of the source.
+std::optional<DataPlace> dataWithoutIndex(ByteSource& movie);
+
+// The movie's pictures and sound, found with what the reference tells of the camera. Nothing where no picture
+// is found. The sound needs a helper; without one the movie is silent.
+std::optional<RepairedMovie> repairMovie(ByteSource& movie, DataPlace data, const ReferenceMovie& reference,
+                                         SoundSplitter& splitter, const WalkLimits& limits = {});
+
+}  // namespace vantor

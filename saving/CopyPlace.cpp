@@ -1,0 +1,100 @@
+// Asks the file system below the copy.
+#include "saving/CopyPlace.h"
+
+#include <linux/magic.h>
+#include <sys/stat.h>
+#include <sys/vfs.h>
+#include <unistd.h>
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryFile>
+
+#include "media/SectorReader.h"
+#include "results/SizeForPeople.h"
+#include "saving/DestinationCheck.h"
+#include "saving/FreeSpace.h"
+#include "saving/StorageBelow.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr std::uint64_t kMostOnFat = 0xFFFFFFFF;  // bytes of one file
+constexpr qsizetype kTrialBytes = 4 * 1024 * 1024;
+constexpr double kUsualSpeed = 20e6;  // bytes a second, of a slow card
+
+QString folderOf(const QString& imagePath) {
+    return QFileInfo(imagePath).absolutePath();
+}
+
+bool isOnFat(const QString& folder) {
+    struct statfs info {};
+    return ::statfs(QFile::encodeName(folder).constData(), &info) == 0 && info.f_type == MSDOS_SUPER_MAGIC;
+}
+
+// Bytes a second; nothing when that cannot be tried.
+std::optional<double> writingSpeed(const QString& folder) {
+    QTemporaryFile trial(folder + QStringLiteral("/.vantor-XXXXXX"));
+    if (!trial.open()) {
+        return std::nullopt;
+    }
+    QElapsedTimer clock;
+    clock.start();
+    const bool written = trial.write(QByteArray(kTrialBytes, 'v')) == kTrialBytes && trial.flush() &&
+                         ::fdatasync(trial.handle()) == 0;
+    const auto taken = static_cast<double>(clock.nsecsElapsed());
+    return written && taken > 0 ? std::optional(kTrialBytes * 1e9 / taken) : std::nullopt;
+}
+
+}  // namespace
+
+std::optional<QString> refuseCopyPlace(const QString& imagePath, const QString& mediumPath) {
+    const QString folder = folderOf(imagePath);
+    struct stat image {};
+    const bool isMedium = ::stat(QFile::encodeName(imagePath).constData(), &image) == 0 &&
+                          storageOfMedium(mediumPath).files.contains({image.st_dev, image.st_ino});
+    if (isMedium || destinationIsOnMedium(folder, mediumPath)) {
+        return QStringLiteral(
+                   "“%1” lies on the medium that is to be copied; writing there would overwrite what is "
+                   "still "
+                   "to be found. Choose a place on another disk.")
+            .arg(imagePath);
+    }
+    return refuseDestination(folder);
+}
+
+QStringList warnOfCopyPlace(const QString& imagePath, std::uint64_t sectors) {
+    const QString folder = folderOf(imagePath);
+    struct stat image {};
+    const bool begun = ::stat(QFile::encodeName(imagePath).constData(), &image) == 0;
+    const std::uint64_t held = begun ? static_cast<std::uint64_t>(image.st_blocks) * 512 : 0;
+    const std::uint64_t bytes = sectors * kSectorBytes;
+    const std::uint64_t needed = bytes - std::min(bytes, held);
+    QStringList warnings;
+    if (const auto space = refuseForSpace(folder, needed)) {
+        warnings << *space + QStringLiteral(". The copy will end there; the search goes on from the medium.");
+    }
+    if (bytes > kMostOnFat && isOnFat(folder)) {
+        warnings << QStringLiteral(
+            "Files on this disk can have 4 GB at most. The copy will end there; the search goes on from the "
+            "medium.");
+    }
+    const auto speed = warnings.isEmpty() ? writingSpeed(folder) : std::nullopt;
+    if (const auto slow = speed ? warnOfCopySpeed(*speed, needed) : std::nullopt) {
+        warnings << *slow;
+    }
+    return warnings;
+}
+
+std::optional<QString> warnOfCopySpeed(double bytesPerSecond, std::uint64_t bytes) {
+    if (bytesPerSecond >= kUsualSpeed || bytesPerSecond <= 0) {
+        return std::nullopt;
+    }
+    const auto minutes = static_cast<std::uint64_t>(static_cast<double>(bytes) / bytesPerSecond / 60) + 1;
+    return QStringLiteral("The disk of the copy takes only %1 a second: a whole copy takes about %2 minutes.")
+        .arg(sizeForPeople(static_cast<std::uint64_t>(bytesPerSecond)), numberForPeople(minutes));
+}
+
+}  // namespace vantor

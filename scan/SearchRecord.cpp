@@ -1,0 +1,212 @@
+// A line that names the format, numbers with the lowest byte first, texts with their lengths, and a checksum.
+#include "scan/SearchRecord.h"
+
+#include <QCryptographicHash>
+#include <QObject>
+#include <algorithm>
+#include <utility>
+
+namespace vantor {
+
+namespace {
+
+const QByteArray kMagic = QByteArrayLiteral("Vantor Recovery search 1\n");
+constexpr qsizetype kSumBytes = 32;
+constexpr auto kSum = QCryptographicHash::Sha256;
+
+class Writer {
+  public:
+    explicit Writer(QByteArray& bytes) : m_bytes(bytes) {}
+
+    // Seven bits a byte, the lowest first; a set high bit says that more follow.
+    void number(std::uint64_t value) {
+        for (; value >= 0x80; value >>= 7) {
+            m_bytes.append(static_cast<char>(value | 0x80));
+        }
+        m_bytes.append(static_cast<char>(value));
+    }
+    void bytes(const QByteArray& value) {
+        number(static_cast<std::uint64_t>(value.size()));
+        m_bytes.append(value);
+    }
+    void text(const QString& value) { bytes(value.toUtf8()); }
+    void runs(const std::vector<SectorRun>& runs) {
+        number(runs.size());
+        std::uint64_t at = 0;
+        for (const SectorRun& run : runs) {
+            number(run.first - at);
+            number(run.end - run.first);
+            at = run.end;
+        }
+    }
+
+  private:
+    QByteArray& m_bytes;
+};
+
+// Fails for good at the first thing that cannot be.
+class Reader {
+  public:
+    explicit Reader(QByteArrayView bytes) : m_rest(bytes) {}
+
+    bool failed() const { return m_failed; }
+    bool atEnd() const { return m_rest.isEmpty(); }
+
+    std::uint64_t number() {
+        std::uint64_t value = 0;
+        for (int shift = 0; shift < 64; shift += 7) {
+            if (m_rest.isEmpty()) {
+                break;
+            }
+            const auto byte = static_cast<std::uint8_t>(m_rest.front());
+            m_rest = m_rest.sliced(1);
+            if (shift == 63 && byte > 1) {
+                break;
+            }
+            value |= std::uint64_t{byte & 0x7FU} << shift;
+            if (byte < 0x80) {
+                return value;
+            }
+        }
+        return fail();
+    }
+    // Of things that take at least a byte each.
+    std::uint64_t count() {
+        const std::uint64_t n = number();
+        return n <= static_cast<std::uint64_t>(m_rest.size()) ? n : fail();
+    }
+    QByteArray bytes() {
+        const auto size = static_cast<qsizetype>(count());
+        const QByteArray value = m_rest.first(size).toByteArray();
+        m_rest = m_rest.sliced(size);
+        return value;
+    }
+    QString text() { return QString::fromUtf8(bytes()); }
+    std::vector<SectorRun> runs() {
+        std::vector<SectorRun> runs;
+        std::uint64_t at = 0;
+        for (std::uint64_t n = count(); n > 0 && !m_failed; --n) {
+            const std::uint64_t first = sum(at, number());
+            at = sum(first, number());
+            if (at <= first) {
+                fail();
+                break;
+            }
+            runs.push_back({first, at});
+        }
+        return runs;
+    }
+    // Without overflow.
+    std::uint64_t sum(std::uint64_t a, std::uint64_t b) { return b <= ~a ? a + b : fail(); }
+
+  private:
+    std::uint64_t fail() {
+        m_failed = true;
+        m_rest = {};
+        return 0;
+    }
+
+    QByteArrayView m_rest;
+    bool m_failed = false;
+};
+
+void writeBits(Writer& writer, const SectorBits& bits) {
+    writer.number(bits.count());
+    std::uint64_t at = 0;
+    for (std::uint64_t sector = bits.firstFrom(0); sector != SectorBits::kNone; sector = bits.firstFrom(at)) {
+        writer.number(sector - at);
+        at = sector + 1;
+    }
+}
+
+SectorBits readBits(Reader& reader) {
+    SectorBits bits;
+    std::uint64_t at = 0;
+    for (std::uint64_t n = reader.count(); n > 0 && !reader.failed(); --n) {
+        const std::uint64_t sector = reader.sum(at, reader.number());
+        at = reader.sum(sector, 1);
+        if (!reader.failed()) {
+            bits.append(sector);
+        }
+    }
+    return bits;
+}
+
+}  // namespace
+
+QByteArray recordBytes(const SearchRecord& record) {
+    QByteArray bytes = kMagic;
+    Writer writer(bytes);
+    writer.number(static_cast<std::uint64_t>(record.wishes.mode));
+    writer.number(static_cast<std::uint64_t>(record.wishes.types.size()));
+    for (const QString& type : record.wishes.types) {
+        writer.text(type);
+    }
+    writer.number(record.wishes.thorough ? 1 : 0);
+    writer.number(record.wishes.entire ? 1 : 0);
+    writer.text(record.wishes.start);
+    writer.text(record.wishes.end);
+    writer.bytes(record.wishes.catalogueSum);
+    writer.text(record.medium);
+    writer.number(record.sectors);
+    writer.number(record.samples.size());
+    for (const SectorSample& sample : record.samples) {
+        writer.number(sample.sector);
+        writer.bytes(sample.sum);
+    }
+    writer.runs(record.read);
+    writer.runs(record.refused);
+    writeBits(writer, record.worthALook);
+    return bytes + QCryptographicHash::hash(bytes, kSum);
+}
+
+std::optional<SearchRecord> recordOf(const QByteArray& bytes, QString* why) {
+    const auto refuse = [why](const QString& sentence) {
+        if (why != nullptr) {
+            *why = sentence;
+        }
+        return std::nullopt;
+    };
+    if (!bytes.startsWith(kMagic)) {
+        return refuse(QObject::tr("It is not a search that this program has kept."));
+    }
+    const QByteArrayView body =
+        QByteArrayView(bytes).first(std::max(kMagic.size(), bytes.size() - kSumBytes));
+    auto record = QCryptographicHash::hash(body, kSum) == QByteArrayView(bytes).sliced(body.size())
+                      ? uncheckedRecordOf(body)
+                      : std::nullopt;
+    return record ? std::move(record) : refuse(QObject::tr("The file is damaged."));
+}
+
+std::optional<SearchRecord> uncheckedRecordOf(QByteArrayView body) {
+    if (!body.startsWith(kMagic)) {
+        return std::nullopt;
+    }
+    Reader reader(body.sliced(kMagic.size()));
+    SearchRecord record;
+    const std::uint64_t mode = reader.number();
+    record.wishes.mode = static_cast<int>(std::min<std::uint64_t>(mode, 3));
+    for (std::uint64_t n = reader.count(); n > 0 && !reader.failed(); --n) {
+        record.wishes.types.append(reader.text());
+    }
+    record.wishes.thorough = reader.number() != 0;
+    record.wishes.entire = reader.number() != 0;
+    record.wishes.start = reader.text();
+    record.wishes.end = reader.text();
+    record.wishes.catalogueSum = reader.bytes();
+    record.medium = reader.text();
+    record.sectors = reader.number();
+    for (std::uint64_t n = reader.count(); n > 0 && !reader.failed(); --n) {
+        const std::uint64_t sector = reader.number();
+        record.samples.push_back({sector, reader.bytes()});
+    }
+    record.read = reader.runs();
+    record.refused = reader.runs();
+    record.worthALook = readBits(reader);
+    if (reader.failed() || !reader.atEnd() || record.wishes.mode > 2) {
+        return std::nullopt;
+    }
+    return record;
+}
+
+}  // namespace vantor

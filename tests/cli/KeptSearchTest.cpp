@@ -1,0 +1,132 @@
+// Searches that are kept in a file: gone on with, and refused where the file or the medium is another.
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <random>
+
+#include "tests/cli/CommandRun.h"
+
+namespace vantor {
+namespace {
+
+void write(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_EQ(file.write(bytes), bytes.size());
+}
+
+QByteArray read(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+}
+
+QByteArray record(const QByteArray& extension, const QByteArray& header) {
+    return "E: " + extension + "\nS: 1000000\nHeader : " + header + "\nO: 1\nR: 0\nD: x\n";
+}
+
+class KeptSearch : public testing::Test {
+  protected:
+    void SetUp() override {
+        QDir(folder.path()).mkpath("catalogue");
+        write(folder.filePath("catalogue/ZelExt2.dll"), record("JPG", "FFD8FFE0"));
+        write(folder.filePath("catalogue/ZelExt2Adv.dll"), record("TIF", "49492A00"));
+        write(folder.filePath("catalogue/ZelRaw.dll"), record("PDF", "25504446"));
+        QByteArray card(2000 * 512, 'z');
+        for (qsizetype at : {4, 40, 900}) {
+            card.replace(at * 512, 4, "\xFF\xD8\xFF\xE0");
+            card.replace((at + 10) * 512, 4, QByteArray("II*\0", 4));
+            card.replace((at + 20) * 512, 8, "%PDF-1.4");
+        }
+        write(image, card);
+    }
+
+    CommandRun run(const QStringList& arguments) const {
+        return runCommand(QStringList{"--catalogue", folder.filePath("catalogue")} + arguments);
+    }
+
+    const QTemporaryDir folder;
+    const QString image = folder.filePath("card.img");
+    const QString kept = folder.filePath("kept search");
+};
+
+}  // namespace
+
+TEST_F(KeptSearch, IsGoneOnWithByItsFileAlone) {
+    const CommandRun plain = run({"--mode", "rawfile", "--range", "10:1500", "--list-json", image});
+    ASSERT_EQ(plain.exitCode, 0);
+    ASSERT_EQ(plain.json().size(), 4) << plain.out.toStdString();
+    const CommandRun keeping =
+        run({"--mode", "rawfile", "--range", "10:1500", "--list-json", "--session", kept, image});
+    EXPECT_EQ(keeping.exitCode, 0);
+    EXPECT_EQ(keeping.out, plain.out);
+    const CommandRun resumed = run({"--list-json", "--resume", kept});
+    EXPECT_EQ(resumed.exitCode, 0) << resumed.err.toStdString();
+    EXPECT_EQ(resumed.out, plain.out);
+}
+
+TEST_F(KeptSearch, SavesWhatItFinds_AlsoWhenGoneOnWith) {
+    ASSERT_EQ(run({"--session", kept, image}).exitCode, 0);
+    const QString out = folder.filePath("out");
+    const CommandRun resumed = run({"--resume", kept, "--save", out, "--as-published"});
+    EXPECT_EQ(resumed.exitCode, 0) << resumed.err.toStdString();
+    EXPECT_TRUE(resumed.out.contains("6 found")) << resumed.out.toStdString();
+    const QByteArray saved = read(out + "/JPG/GND00001.JPG");
+    EXPECT_EQ(saved, read(image).sliced(4 * 512, saved.size()));
+    EXPECT_EQ(saved.size(), 36 * 512);
+}
+
+TEST_F(KeptSearch, AnotherMedium_IsRefused) {
+    ASSERT_EQ(run({"--session", kept, image}).exitCode, 0);
+    std::mt19937 random(1);
+    QByteArray another(2000 * 512, 0);
+    for (char& byte : another) {
+        byte = static_cast<char>(random());
+    }
+    write(image, another);
+    const CommandRun resumed = run({"--resume", kept});
+    EXPECT_EQ(resumed.exitCode, 5);
+    EXPECT_TRUE(resumed.err.contains("is not the medium that was searched")) << resumed.err.toStdString();
+    write(image, another.first(512));
+    EXPECT_EQ(run({"--resume", kept}).exitCode, 5);
+}
+
+TEST_F(KeptSearch, OtherCatalogues_AreRefused) {
+    ASSERT_EQ(run({"--session", kept, image}).exitCode, 0);
+    write(folder.filePath("catalogue/ZelExt2Adv.dll"), record("TIF", "4D4D002A"));
+    const CommandRun resumed = run({"--resume", kept});
+    EXPECT_EQ(resumed.exitCode, 5);
+    EXPECT_TRUE(resumed.err.contains("signature catalogues")) << resumed.err.toStdString();
+}
+
+TEST_F(KeptSearch, AFileThatIsNone_IsRefusedByName) {
+    ASSERT_EQ(run({"--session", kept, image}).exitCode, 0);
+    const QByteArray whole = read(kept);
+    write(kept, whole.chopped(1));
+    const CommandRun cut = run({"--resume", kept});
+    EXPECT_EQ(cut.exitCode, 2);
+    EXPECT_TRUE(cut.err.contains("kept search: The file is damaged.")) << cut.err.toStdString();
+    const CommandRun none = run({"--resume", image});
+    EXPECT_EQ(none.exitCode, 2);
+    EXPECT_TRUE(none.err.contains("It is not a search that this program has kept."))
+        << none.err.toStdString();
+    EXPECT_EQ(run({"--resume", folder.filePath("nowhere")}).exitCode, 2);
+}
+
+TEST_F(KeptSearch, WhatToSearchFor_StandsInTheFile) {
+    ASSERT_EQ(run({"--session", kept, image}).exitCode, 0);
+    for (const QStringList& wish :
+         {QStringList{"--mode", "video"}, QStringList{"--range", "0:10"}, QStringList{"--no-thorough"}}) {
+        EXPECT_EQ(run(wish + QStringList{"--resume", kept}).exitCode, 2) << wish.first().toStdString();
+    }
+}
+
+TEST_F(KeptSearch, AFileThatCannotBeWritten_IsTold) {
+    const CommandRun keeping = run({"--session", folder.filePath("no/such/folder"), image});
+    EXPECT_EQ(keeping.exitCode, 0);
+    EXPECT_TRUE(keeping.err.contains("could not be kept")) << keeping.err.toStdString();
+}
+
+}  // namespace vantor

@@ -1,0 +1,61 @@
+// Movies without an index, repaired by the command.
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "repair/MovieRepair.h"
+#include "tests/cli/CommandRun.h"
+#include "tests/cli/Saved.h"
+#include "tests/repair/Movies.h"
+
+namespace vantor {
+namespace {
+
+void write(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+}
+
+}  // namespace
+
+TEST(RepairCommand, MovieWithoutIndex_GetsATwinBesideIt) {
+    const QTemporaryDir folder;
+    const test::MadeMovie whole = test::makeMovie(test::plainPictures(30), true, 1);
+    const test::MadeMovie other = test::makeMovie(test::plainPictures(50), true, 2);
+    const QByteArray broken = other.withoutIndex();
+    const QString card = folder.filePath("card.img");
+    write(card, QByteArray(64 * 512, '\0') + broken + QByteArray(64 * 512 - broken.size() % 512, '\0'));
+    write(folder.filePath("whole.mp4"), whole.bytes);
+    const QString saved = folder.filePath("saved");
+    const CommandRun run = runCommand({"--mode", "video", "--save", saved, "--repair-movies", "--reference",
+                                       folder.filePath("whole.mp4"), card});
+    ASSERT_EQ(run.exitCode, 0) << run.err.constData();
+    EXPECT_TRUE(run.out.contains("1 of 1 movies without an index repaired")) << run.out.constData();
+    EXPECT_TRUE(QFile::exists(saved + "/MP4/MP400001.MP4")) << "the movie as it is";
+    const QByteArray twin = contentsOf(saved + "/MP4/MP400001 repaired.MP4");
+    ASSERT_FALSE(twin.isEmpty()) << run.out.constData();
+    SpanSource source(test::asSpan(twin));
+    EXPECT_FALSE(dataWithoutIndex(source));
+    const auto readAgain = readReference(source);
+    ASSERT_TRUE(readAgain) << "the pictures are where the new index says";
+    EXPECT_TRUE(readAgain->sound);
+    for (const IsoSample& picture : other.pictures) {
+        const QByteArray bytes =
+            broken.mid(static_cast<qsizetype>(picture.at), static_cast<qsizetype>(picture.bytes));
+        EXPECT_TRUE(twin.contains(bytes));
+    }
+}
+
+TEST(RepairCommand, ReferenceThatIsNone_IsRefused) {
+    const QTemporaryDir folder;
+    write(folder.filePath("card.img"), QByteArray(64 * 512, '\0'));
+    write(folder.filePath("text"), "no movie");
+    const CommandRun run =
+        runCommand({"--mode", "video", "--save", folder.filePath("saved"), "--repair-movies", "--reference",
+                    folder.filePath("text"), folder.filePath("card.img")});
+    EXPECT_EQ(run.exitCode, 6);
+    EXPECT_TRUE(run.out.contains("is no whole MP4")) << run.out.constData();
+}
+
+}  // namespace vantor
