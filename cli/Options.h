@@ -20,8 +20,7 @@ struct CliOptions {
     QString catalogueFolder;
     QString saveFolder;  // empty: nothing is saved
     SavePolicy savePolicy;
-    bool report = false;    // beside the saved files
-    bool complete = false;  // broken movies, from their pieces
+    bool report = false;  // beside the saved files
     bool repairMovies = false;
     QString reference;  // a whole movie of the same camera; empty: one of those found
     bool listJson = false;

@@ -439,7 +439,7 @@ int recover(CliOptions options) {
                 session.setMediumOpener(openerAfterALook(medium), refused);
             }
             session.run();
-            if (options.complete || options.repairMovies) {
+            if (options.repairMovies) {
                 session.mendMovies();
             }
         });

@@ -37,7 +37,6 @@ _vantor_recovery_cli() {
             --session --resume
             --map
             --image --scrape
-            --complete
             --repair-movies --reference
             --list-json --list-media --list-files' -- "$cur"))
         return

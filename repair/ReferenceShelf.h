@@ -39,4 +39,7 @@ class ReferenceShelf {
     std::vector<Kept> m_kept;
 };
 
+// Whether a repaired movie's pictures decode without an error; of a long one its beginning.
+bool playsWithoutErrors(ByteSource& movie, const RepairedMovie& repaired, const MovieReaderOptions& options);
+
 }  // namespace vantor

@@ -3,7 +3,6 @@
 
 #include <array>
 #include <atomic>
-#include <chrono>
 #include <cstdarg>
 
 #include "decode/DecodeProtocol.h"
@@ -84,7 +83,7 @@ class TriedStream {
 
 }  // namespace
 
-std::vector<std::uint32_t> tryMovie(int descriptor, std::int64_t mostMs) {
+std::vector<std::uint32_t> tryMovie(int descriptor) {
     LimitedFormat file(descriptor);
     if (!file.open()) {
         return {};
@@ -94,7 +93,6 @@ std::vector<std::uint32_t> tryMovie(int descriptor, std::int64_t mostMs) {
     TriedStream pictures(format, AVMEDIA_TYPE_VIDEO);
     TriedStream sound(format, AVMEDIA_TYPE_AUDIO);
     const Packet packet(av_packet_alloc());
-    const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(mostMs);
     file.startStep();
     while (!file.isOver() && av_read_frame(&format, packet.get()) >= 0) {
         for (TriedStream* const stream : {&pictures, &sound}) {
@@ -103,9 +101,6 @@ std::vector<std::uint32_t> tryMovie(int descriptor, std::int64_t mostMs) {
             }
         }
         av_packet_unref(packet.get());
-        if (std::chrono::steady_clock::now() < end) {
-            file.startStep();
-        }
     }
     pictures.decode(nullptr);
     sound.decode(nullptr);

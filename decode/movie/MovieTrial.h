@@ -6,8 +6,7 @@
 
 namespace vantor::decode {
 
-// Takes the descriptor over. Ends after so many milliseconds, or a step's time when that is longer. The
-// numbers of a MovieTrialCounts; empty when the bytes are no movie.
-std::vector<std::uint32_t> tryMovie(int descriptor, std::int64_t mostMs);
+// Takes the descriptor over. The numbers of a MovieTrialCounts; empty when the bytes are no movie.
+std::vector<std::uint32_t> tryMovie(int descriptor);
 
 }  // namespace vantor::decode
