@@ -66,13 +66,25 @@ bool LengthClaims::take(const SectorRun& stretch, const TrueLength& length) {
     return true;
 }
 
+void WaitingClaims::add(std::size_t place, std::uint64_t claimedBytes, const CarvedRun& carved,
+                        bool complete) {
+    const std::uint64_t first = carved.runs.empty() ? 0 : carved.runs.front().first;
+    std::uint64_t& most = m_carved[first];
+    most = std::max({most, carved.sectors(), std::uint64_t{1}});
+    m_waiting.push_back({!complete, 0, claimedBytes, place, first});
+}
+
 std::vector<std::size_t> WaitingClaims::take() {
+    for (Waiting& waiting : m_waiting) {
+        waiting.bytesPerSector = waiting.bytes / m_carved.at(waiting.firstSector);
+    }
     std::sort(m_waiting.begin(), m_waiting.end());
     std::vector<std::size_t> places;
     places.reserve(m_waiting.size());
     std::transform(m_waiting.begin(), m_waiting.end(), std::back_inserter(places),
                    [](const Waiting& waiting) { return waiting.place; });
     m_waiting.clear();
+    m_carved.clear();
     return places;
 }
 

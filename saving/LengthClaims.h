@@ -8,6 +8,7 @@
 #include <map>
 #include <vector>
 
+#include "results/CarvedRun.h"
 #include "results/PlaceBudget.h"
 #include "results/TrueLength.h"
 
@@ -62,21 +63,22 @@ class WaitingClaims {
     static constexpr std::size_t kMost = 100'000;
 
     bool isFull() const { return m_waiting.size() >= kMost; }
-    void add(std::size_t place, std::uint64_t claimedBytes, std::uint64_t carvedSectors, bool complete) {
-        m_waiting.push_back(
-            {!complete, claimedBytes / std::max<std::uint64_t>(1, carvedSectors), claimedBytes, place});
-    }
-    // The places in the order of the second round; none wait any more.
+    // `carved` are the item's sectors as they were carved.
+    void add(std::size_t place, std::uint64_t claimedBytes, const CarvedRun& carved, bool complete);
+    // The places in the order of the second round; none wait any more. What was found at one place by several
+    // passes or types keeps the order of the places.
     std::vector<std::size_t> take();
 
   private:
     struct Waiting {
         bool broken;
-        std::uint64_t bytesPerSector;
+        std::uint64_t bytesPerSector;  // known once all of that beginning are there
         std::uint64_t bytes;
         std::size_t place;
+        std::uint64_t firstSector;
         auto operator<=>(const Waiting&) const = default;
     };
+    std::map<std::uint64_t, std::uint64_t> m_carved;  // the most sectors that were carved from a first one on
     std::vector<Waiting> m_waiting;
 };
 

@@ -200,15 +200,27 @@ TEST(LengthClaims, FilesOfWhichMuchWasCarvedComeBeforeJunk) {
     EXPECT_TRUE(contentsOf(folder.filePath("WAV/2000.WAV")) == good);
 }
 
+CarvedRun sectorsFrom(std::uint64_t first, std::uint64_t count) {
+    return {{{first, first + count}}};
+}
+
 TEST(WaitingClaims, WholeOnesComeFirst_AmongThemThoseOfWhichMuchWasCarved) {
     WaitingClaims waiting;
-    waiting.add(1, 5'000, 10, false);
-    waiting.add(2, 900'000, 1'000, true);
-    waiting.add(3, 100'000, 10, true);
-    waiting.add(4, 100'000, 10, true);
-    waiting.add(5, 10'000, 1'000, false);
+    waiting.add(1, 5'000, sectorsFrom(0, 10), false);
+    waiting.add(2, 900'000, sectorsFrom(5'000, 1'000), true);
+    waiting.add(3, 100'000, sectorsFrom(10'000, 10), true);
+    waiting.add(4, 100'000, sectorsFrom(20'000, 10), true);
+    waiting.add(5, 10'000, sectorsFrom(30'000, 1'000), false);
     EXPECT_EQ(waiting.take(), (std::vector<std::size_t>{2, 3, 4, 5, 1}));
     EXPECT_TRUE(waiting.take().empty());
+}
+
+TEST(WaitingClaims, WhatBeginsAtOnePlaceKeepsItsOrder) {
+    WaitingClaims waiting;
+    waiting.add(1, 40'000, sectorsFrom(24, 4), false);
+    waiting.add(2, 40'000, sectorsFrom(24, 8), false);
+    waiting.add(3, 40'000, sectorsFrom(90, 6), false);
+    EXPECT_EQ(waiting.take(), (std::vector<std::size_t>{1, 2, 3}));
 }
 
 }  // namespace vantor
