@@ -258,8 +258,8 @@ bool writeReportOf(const CliSession& session, const CliOptions& options, ReportH
 
 // Looks at a medium before a search of all of it, and hands what came of opening it to whoever opens it next,
 // so that nobody is asked for his consent twice.
-MediumOpener openerAfterALook(const CliMedium& medium) {
-    auto opened = std::make_shared<std::optional<std::unique_ptr<SectorReader>>>(medium.open(QString()));
+MediumOpener openerAfterALook(const CliMedium& medium, const MediumOpener& open) {
+    auto opened = std::make_shared<std::optional<std::unique_ptr<SectorReader>>>(open(QString()));
     SectorReader* reader = opened->value().get();
     if (reader && looksErased(*reader, medium.sectors)) {
         complain(QString::fromLatin1(kErasedCardWords) + QStringLiteral(" Searched all the same."));
@@ -267,7 +267,7 @@ MediumOpener openerAfterALook(const CliMedium& medium) {
     if (reader && !reader->seek(0)) {
         opened->reset();
     }
-    return [opened, open = medium.open](const QString& path) {
+    return [opened, open](const QString& path) {
         auto first = std::exchange(*opened, std::nullopt);
         return first ? std::move(*first) : open(path);
     };
@@ -436,7 +436,9 @@ int recover(CliOptions options) {
         runBesideEvents([&] {
             // A copy is read in its own order, and who goes on has looked before.
             if (!options.range && medium.sectors != 0 && !copy && !kept) {
-                session.setMediumOpener(openerAfterALook(medium), refused);
+                session.setMediumOpener(
+                    openerAfterALook(medium, options.retryBad ? open : session.knowingRefusals(open)),
+                    refused);
             }
             session.run();
             if (options.repairMovies) {

@@ -6,6 +6,9 @@
 namespace vantor {
 
 bool looksErased(SectorReader& medium, std::uint64_t sectors, const CardHelperOptions& options) {
+    if (sectors < kSmallestErased) {
+        return false;  // what cannot be told is not read for
+    }
     ReaderSource source(medium, sectors);
     const std::vector<std::uint64_t> written = writtenPlaces(source);
     if (medium.isGone() || written.size() > kLooksForErasure / 8) {

@@ -9,7 +9,6 @@ namespace {
 
 // A file system's own areas and a few files left on it take no more of the places.
 constexpr std::size_t kMostWritten = 32;
-constexpr std::uint64_t kSmallest = 16 * kLooksForErasure;  // sectors
 
 bool isBlank(const std::array<std::uint8_t, 512>& sector) {
     return (sector[0] == 0x00 || sector[0] == 0xFF) &&
@@ -34,7 +33,7 @@ std::vector<std::uint64_t> writtenPlaces(SectorSource& card) {
 }
 
 bool isErased(const SectorSource& card, const std::vector<std::uint64_t>& written, const CardTable& table) {
-    return card.sectors() >= kSmallest && written.size() <= kMostWritten &&
+    return card.sectors() >= kSmallestErased && written.size() <= kMostWritten &&
            std::all_of(written.begin(), written.end(),
                        [&](std::uint64_t sector) { return table.isInUse(sector); });
 }

@@ -11,6 +11,8 @@ namespace vantor {
 
 // Spread over the card, so many sectors are looked at.
 inline constexpr std::uint64_t kLooksForErasure = 256;
+// Sectors of a medium below which nothing is said of it.
+inline constexpr std::uint64_t kSmallestErased = 16 * kLooksForErasure;
 
 // The places among them that hold anything but one byte, 00 or FF, over and over, or that cannot be read.
 // Ends early where there are so many that the card is not erased.

@@ -38,7 +38,10 @@ bool ScanSession::beginPass(ControlSet set, const QString& passName) {
     m_readFailures = {};
     const bool thorough = passName == kThoroughPass;
     if (passName == kGeneralPass) {
-        m_refusals->forget();
+        // What was refused to those who looked at the medium before its first search counts for it.
+        if (std::exchange(m_hasSearched, true)) {
+            m_refusals->forget();
+        }
         if (m_keeper) {
             m_keeper->tellRefusals(*m_refusals);
         }

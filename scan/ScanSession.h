@@ -290,6 +290,7 @@ class ScanSession : public HexText {
     std::shared_ptr<const CardIndex> m_card;  // guarded by listLock()
     MediumOpener m_openMedium;
     const std::shared_ptr<RefusedSectors> m_refusals = std::make_shared<RefusedSectors>();
+    bool m_hasSearched = false;
     std::shared_ptr<SearchKeeper> m_keeper;
     std::shared_ptr<PassMemory> m_memory;  // of the general pass, for the thorough one
     Thumbnailer m_thumbnailer;
