@@ -1,7 +1,6 @@
 // What is swallowed, and what is let through without effect.
 #include "window/widgets/PressGuard.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QMouseEvent>
 #include <QStyleHints>
@@ -51,13 +50,6 @@ bool PressGuard::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
             return watched->isWidgetType() && pressed(*static_cast<QMouseEvent*>(event));
-        case QEvent::MouseButtonRelease:
-            // A button that is up takes the release for nothing.
-            if (auto* button = qobject_cast<QAbstractButton*>(watched);
-                button != nullptr && m_began != here()) {
-                button->setDown(false);
-            }
-            return false;
         default:
             return false;
     }
