@@ -145,9 +145,9 @@ std::vector<IsoSample> samplesOf(ByteView& view, const IsoTrack& track, std::siz
             if (!at)
                 return samples;
             for (std::uint64_t i = 0; i < (plain != 0 ? 1 : inChunk); ++i, ++sample) {
-                const auto bytes = plain != 0 ? std::optional(mulClamped(inChunk, plain))
+                const auto bytes = plain != 0               ? std::optional(mulClamped(inChunk, plain))
                                    : track.sampleBytes != 0 ? std::optional(track.sampleBytes)
-                                                                  : track.sizes.entry(view, sample);
+                                                            : track.sizes.entry(view, sample);
                 if (!bytes || samples.size() >= most)
                     return samples;
                 samples.push_back({*at, *bytes});

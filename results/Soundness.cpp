@@ -23,8 +23,8 @@ std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, S
                                  ReadWatch& watch, std::vector<std::uint8_t>& kept, std::uint64_t mostBytes,
                                  const ItemHints& hints) {
     WatchedReader watched(medium, watch, mostBytes / kSectorBytes);
-    const ItemSource source{carved, {},   [&watched] { return &watched; }, medium.mediumSectors(),
-                            false,  nullptr, hints};
+    const ItemSource source{carved,  {},   [&watched] { return &watched; }, medium.mediumSectors(), false,
+                            nullptr, hints};
     ItemBytes found(source, kept);
     Soundness soundness;
     soundness.unreadable = carved.readFailed;

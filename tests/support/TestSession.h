@@ -156,8 +156,8 @@ class TestSession : public RecordingView, public ScanSession {
     PhotoBytes photoBytesNeeded() const override { return photoBytes; }
 
     using ScanSession::images;
-    using ScanSession::refusals;
     using ScanSession::nsSIGFileInfoDataObject;
+    using ScanSession::refusals;
 
     std::vector<HandedOver> handedOver;
     QStringList openedPaths;

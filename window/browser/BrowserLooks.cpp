@@ -23,9 +23,8 @@ constexpr int kListMargins = 24;
 BrowserLooks::BrowserLooks(const std::array<BrowserScreen, 2>& screens, LookedAtItems items)
     : m_screens(screens),
       m_items(std::move(items)),
-      m_board(m_items.at, [card = m_items.card](const MyImageObject&) {
-          return ItemHints{card ? card() : nullptr};
-      }) {
+      m_board(m_items.at,
+              [card = m_items.card](const MyImageObject&) { return ItemHints{card ? card() : nullptr}; }) {
     fillBoxes();
     m_look.setInterval(kLookMilliseconds);
     connect(&m_look, &QTimer::timeout, this, &BrowserLooks::look);

@@ -62,7 +62,7 @@ void WholePreview::begin(WholePreviewRequest request, std::unique_ptr<SectorRead
         }
     }
     m_copy = std::make_unique<TrueCopy>(m_request.type, m_request.carved, std::move(medium), m_watch,
-                                         m_request.hints);
+                                        m_request.hints);
     if (!m_copy->measure(firstBytes)) {
         m_copy.reset();
         return;
