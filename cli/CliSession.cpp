@@ -260,7 +260,6 @@ void CliSession::mendMovies() {
     if (m_options.repairMovies) {
         mending.repair(items, m_options.saveFolder);
     }
-    }
     m_mendingLines = mending.lines();
     m_mendingFailed = mending.failed();
 }

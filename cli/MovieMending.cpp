@@ -103,7 +103,12 @@ void MovieMending::complete(const std::vector<MendableItem>& items, const QStrin
         }
         const std::uint64_t first = item.carved.runs.front().first;
         if (item.complete) {
-            whole.push_back({first, first + (item.bytes + kSectorBytes - 1) / kSectorBytes});
+            std::uint64_t left = (item.bytes + kSectorBytes - 1) / kSectorBytes;
+            for (const SectorRun& run : item.carved.runs) {
+                const std::uint64_t sectors = std::min(left, run.end - run.first);
+                whole.push_back({run.first, run.first + sectors});
+                left -= sectors;
+            }
         } else if (isMovieOfBoxes(item.type) && seen.insert(first).second) {
             broken.push_back(first);
             brokenItems.push_back(&item);

@@ -75,7 +75,7 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
             }
         }
         ClusterFile file(blocks, grids[movie.grid], movie.movie.clusters, movie.movie.bytes);
-        const bool proved = isWhole(movie.movie) &&
+        const bool proved = isWhole(movie.movie) && movie.movie.telling &&
                             (movie.movie.guessed == 0 ||
                              (movie.movie.decodable && decodesWholly(file, movie.movie.samples, m_options)));
         assemblies[i] =

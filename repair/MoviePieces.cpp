@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <set>
 
 namespace vantor {
 
@@ -75,6 +76,7 @@ std::optional<PiecedMovie> MoviePieces::assemble(std::uint64_t firstCluster) {
     movie.clusters = m_places;
     movie.bytes = m_layout.bytes;
     movie.guessed = m_guessed;
+    movie.telling = isTelling();
     ClusterFile file(m_medium, m_free, m_places, m_layout.bytes);
     ByteView view(file);
     movie.decodable = true;
@@ -87,6 +89,23 @@ std::optional<PiecedMovie> MoviePieces::assemble(std::uint64_t firstCluster) {
         }
     }
     return movie;
+}
+
+// Samples of one size lie alike in all movies of a camera, and the index of a shorter one fits a longer one
+// then. Sizes that vary, and add up to all of the data, belong to this movie alone.
+bool MoviePieces::isTelling() const {
+    std::set<std::uint64_t> sizes;
+    std::size_t looked = 0;
+    std::uint64_t sum = 0;
+    for (const PromisedSample& sample : m_samples) {
+        sum += sample.bytes;
+        if (sample.coding != Coding::Unknown) {
+            ++looked;
+            sizes.insert(sample.bytes);
+        }
+    }
+    const std::uint64_t data = m_layout.data.to - m_layout.data.from;
+    return sum >= data - data / 50 && sizes.size() >= 2 && sizes.size() >= looked / 8;
 }
 
 // Follows the boxes in the first cluster and what lies directly behind it.

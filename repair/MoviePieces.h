@@ -22,6 +22,7 @@ struct PiecedMovie {
     std::size_t samples = 0;       // that could be looked at
     std::size_t wholeSamples = 0;  // of these
     bool decodable = false;        // a decoder would notice a foreign piece in its pictures
+    bool telling = false;          // no other movie is likely to fit the index
     std::size_t guessed = 0;       // clusters for which there was more than one choice
 };
 
@@ -51,6 +52,7 @@ class MoviePieces {
     bool takeIndex(const std::vector<std::uint64_t>& clusters);
 
     bool placeSamples();
+    bool isTelling() const;
     Likeness likeness(std::uint64_t number, std::uint64_t cluster);
     bool placeAnchor(std::uint64_t number, std::uint64_t known);
     bool accept(std::uint64_t number, std::uint64_t cluster);

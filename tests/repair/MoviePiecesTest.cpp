@@ -11,6 +11,7 @@ namespace {
 using test::asSpan;
 using test::MadeMovie;
 using test::makeMovie;
+using test::picturesOfManySizes;
 using test::plainPictures;
 
 constexpr std::uint64_t kClusterSectors = 8;
@@ -88,8 +89,8 @@ std::vector<int> every(int step, int from, int count) {
 }  // namespace
 
 TEST(MoviePieces, TwoMoviesInTurn_ComeApart) {
-    const MadeMovie one = makeMovie(plainPictures(200), false, 1);
-    const MadeMovie other = makeMovie(plainPictures(200), false, 2);
+    const MadeMovie one = makeMovie(picturesOfManySizes(200, 1), false, 1);
+    const MadeMovie other = makeMovie(picturesOfManySizes(200, 2), false, 2);
     const int count = clustersOf(one.bytes);
     ASSERT_GT(count, 8);
     QByteArray medium = mediumOf(3 * count + 10);
@@ -100,7 +101,7 @@ TEST(MoviePieces, TwoMoviesInTurn_ComeApart) {
 }
 
 TEST(MoviePieces, HeadBehindTheBody_IsJoined) {
-    const MadeMovie movie = makeMovie(plainPictures(200), false, 1);
+    const MadeMovie movie = makeMovie(picturesOfManySizes(200, 1), false, 1);
     const int count = clustersOf(movie.bytes);
     QByteArray medium = mediumOf(2 * count + 10);
     std::vector<int> clusters = every(1, 2, count);
@@ -110,7 +111,7 @@ TEST(MoviePieces, HeadBehindTheBody_IsJoined) {
 }
 
 TEST(MoviePieces, IndexBeforeTheMovie_IsFound) {
-    const MadeMovie movie = makeMovie(plainPictures(200), false, 1);
+    const MadeMovie movie = makeMovie(picturesOfManySizes(200, 1), false, 1);
     const int count = clustersOf(movie.bytes);
     const int indexClusters = count - static_cast<int>(movie.indexAt / kClusterBytes);
     QByteArray medium = mediumOf(2 * count + 20);
@@ -123,7 +124,7 @@ TEST(MoviePieces, IndexBeforeTheMovie_IsFound) {
 }
 
 TEST(MoviePieces, PieceThatIsGone_GivesNoWholeMovie) {
-    const MadeMovie movie = makeMovie(plainPictures(200), false, 1);
+    const MadeMovie movie = makeMovie(picturesOfManySizes(200, 1), false, 1);
     const int count = clustersOf(movie.bytes);
     QByteArray medium = mediumOf(2 * count + 10);
     scatter(movie.bytes, every(1, 4, count), medium);
@@ -132,8 +133,8 @@ TEST(MoviePieces, PieceThatIsGone_GivesNoWholeMovie) {
 }
 
 TEST(MoviePieces, IndexOfAnotherMovie_IsNotTaken) {
-    const MadeMovie movie = makeMovie(plainPictures(200), false, 1);
-    const MadeMovie other = makeMovie(plainPictures(150), false, 2);
+    const MadeMovie movie = makeMovie(picturesOfManySizes(200, 1), false, 1);
+    const MadeMovie other = makeMovie(picturesOfManySizes(150, 2), false, 2);
     QByteArray medium = mediumOf(2 * clustersOf(movie.bytes) + 10);
     scatter(movie.bytes, every(1, 4, clustersOf(movie.bytes)), medium);
     // The index is overwritten by one that describes other data.
@@ -147,8 +148,8 @@ TEST(MoviePieces, IndexOfAnotherMovie_IsNotTaken) {
 
 TEST(MovieCompletion, EachMovieLeavesFewerPlacesForTheNext) {
     // The second goes on in a row where the first has ended.
-    const MadeMovie one = makeMovie(plainPictures(120), false, 1);
-    const MadeMovie other = makeMovie(plainPictures(300), false, 2);
+    const MadeMovie one = makeMovie(picturesOfManySizes(120, 1), false, 1);
+    const MadeMovie other = makeMovie(picturesOfManySizes(300, 2), false, 2);
     const int count = clustersOf(one.bytes);
     const int otherCount = clustersOf(other.bytes);
     QByteArray medium = mediumOf(count + otherCount + 40);
@@ -181,7 +182,7 @@ TEST(MovieCompletion, ChoiceThatNoDecoderChecked_IsNotProved) {
     // Pictures longer than a cluster leave clusters in which nothing begins.
     std::vector<test::PictureSpec> large = plainPictures(12);
     for (test::PictureSpec& spec : large) {
-        spec.bytes = 3 * static_cast<int>(kClusterBytes);
+        spec.bytes = 3 * static_cast<int>(kClusterBytes) - 40 * static_cast<int>(spec.number);
     }
     const MadeMovie movie = makeMovie(large, false, 1);
     const int count = clustersOf(movie.bytes);
@@ -197,6 +198,24 @@ TEST(MovieCompletion, ChoiceThatNoDecoderChecked_IsNotProved) {
         ASSERT_TRUE(found[0]) << step;
         EXPECT_EQ(found[0]->proof, step == 1 ? AssemblyProof::Proved : AssemblyProof::Likely);
     }
+}
+
+TEST(MovieCompletion, IndexThatOtherMoviesFit_ProvesNothing) {
+    // Two movies of the same sizes: each index fits the pieces of both.
+    const MadeMovie one = makeMovie(std::vector<test::PictureSpec>(200), false, 1);
+    const MadeMovie other = makeMovie(std::vector<test::PictureSpec>(150), false, 2);
+    QByteArray medium = mediumOf(3 * clustersOf(one.bytes) + 10);
+    scatter(one.bytes, every(2, 4, clustersOf(one.bytes)), medium);
+    scatter(other.bytes, every(2, 5, clustersOf(other.bytes)), medium);
+    MemoryReader reader(medium);
+    MovieCompletion completion(reader, kGoOn);
+    const std::vector<std::uint64_t> starts{4 * kClusterSectors, 5 * kClusterSectors};
+    std::size_t assembled = 0;
+    for (const auto& each : completion.run(starts, {})) {
+        assembled += each ? 1 : 0;
+        EXPECT_TRUE(!each || each->proof == AssemblyProof::Likely);
+    }
+    EXPECT_NE(assembled, 0U);
 }
 
 TEST(FreeClusters, GridIsWhatFilesBeginOn) {
