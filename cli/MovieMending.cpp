@@ -1,6 +1,7 @@
 #include "cli/MovieMending.h"
 
 #include <QFile>
+#include <algorithm>
 
 #include "formats/Registry.h"
 #include "repair/MovieCompletion.h"

@@ -3,6 +3,7 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <algorithm>
 
 #include "tests/cli/CommandRun.h"
 #include "tests/cli/Saved.h"
