@@ -105,7 +105,7 @@ void CliSession::run() {
 void CliSession::noteOutcome(const SaveTask& task, const SaveOutcome& outcome) {
     m_tally.add(task.name, outcome);
     // What is saved before the card was read to its end may get its name from it yet.
-    if (m_options.report || !m_options.savePolicy.asPublished) {
+    if (isReported() || !m_options.savePolicy.asPublished) {
         m_outcomes.resize(std::max(m_outcomes.size(), task.place + 1));
         m_outcomes[task.place] = outcome;
     }
@@ -117,7 +117,7 @@ void CliSession::finishSaving() {
     }
     m_queue->finish();
     nameWhatTheCardTellsNow();
-    for (std::size_t i = 0; m_options.report && !m_outcomes.empty(); ++i) {
+    for (std::size_t i = 0; isReported() && !m_outcomes.empty(); ++i) {
         const PublishedItem item = published(i);
         m_reported.push_back(
             {item.name, item.type, item.firstSector, item.endSector, std::move(m_outcomes.front())});
@@ -246,13 +246,20 @@ void CliSession::mendMovies() {
         }
     }
     std::vector<MendableItem> items;
-    for (std::size_t i = 0; i < m_publishedCount; ++i) {
+    for (std::size_t i = 0; i < m_publishedCount && i < m_reported.size(); ++i) {
         const auto item = itemAt(i);
         if (item && MovieMending::mayMend(item->type())) {
-            items.push_back({item->type(), item->imageTitle(), item->carved()});
+            const SaveOutcome& outcome = m_reported[i].outcome;
+            items.push_back({item->type(), item->imageTitle(), item->carved(),
+                             outcome.verdict == Verdict::Complete, outcome.bytes});
         }
     }
-    mending.run(items, m_options.saveFolder);
+    if (m_options.complete) {
+        mending.complete(items, m_options.saveFolder);
+    }
+    if (m_options.repairMovies) {
+        mending.repair(items, m_options.saveFolder);
+    }
     m_mendingLines = mending.lines();
     m_mendingFailed = mending.failed();
 }

@@ -95,7 +95,7 @@ class CliSession : private CliView, public ScanSession {
     // the scan goes on.
     void run();
 
-    // Behind run(): writes a playable twin of each movie without an index beside what was saved.
+    // Behind run(): completes and repairs broken movies as the options say, beside what was saved.
     void mendMovies();
     // What became of that, for the user; and whether something could not be written.
     const QStringList& mendingLines() const { return m_mendingLines; }
@@ -107,7 +107,7 @@ class CliSession : private CliView, public ScanSession {
 
     PublishedItem published(std::size_t index) const;
     const SaveTally& saveTally() const { return m_tally; }
-    // Every published item with what became of it; none unless a report is wanted.
+    // Every published item with what became of it; none unless a report or a repair is wanted.
     const std::vector<ReportedItem>& reportedItems() const { return m_reported; }
     // Files that only the card's directories tell of and that were saved all the same.
     std::size_t toldCount() const { return m_told; }
@@ -126,6 +126,8 @@ class CliSession : private CliView, public ScanSession {
     void publish(const QByteArray& sha256);
     void save(const QString& name, const QByteArray& firstBytes);
     void noteOutcome(const SaveTask& task, const SaveOutcome& outcome);
+    // Whether somebody asks what became of each item.
+    bool isReported() const { return m_options.report || m_options.complete || m_options.repairMovies; }
     void finishSaving();
     void nameWhatTheCardTellsNow();
     void saveToldFiles();

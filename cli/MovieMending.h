@@ -1,4 +1,4 @@
-// Movies without an index among what was found, repaired behind the search.
+// Broken movies among what was found: put together from their pieces, or repaired, behind the search.
 #pragma once
 
 #include <QString>
@@ -6,10 +6,12 @@
 #include <atomic>
 #include <cstdint>
 #include <memory>
+#include <set>
 #include <vector>
 
 #include "decode/SoundSplitter.h"
 #include "repair/ReferenceShelf.h"
+#include "results/Assembly.h"
 #include "results/CarvedRun.h"
 #include "results/MediumBytes.h"
 
@@ -19,9 +21,11 @@ struct MendableItem {
     QString type;
     QString name;
     CarvedRun carved;
+    bool complete = false;    // by its own format
+    std::uint64_t bytes = 0;  // of a complete one
 };
 
-// One run over the items; any one thread.
+// Any one thread.
 class MovieMending {
   public:
     // Both outlive the object; a stop that is not 0 ends it soon.
@@ -32,8 +36,10 @@ class MovieMending {
     // A movie of the user's choice in place of those that were found; a sentence for the user when it is of
     // no use.
     QString useReference(const QString& path);
+    // Writes each broken movie of which the pieces are found; repair() passes over these then.
+    void complete(const std::vector<MendableItem>& items, const QString& destination);
     // Writes a twin of each movie that has no index and fits a whole one.
-    void run(const std::vector<MendableItem>& items, const QString& destination);
+    void repair(const std::vector<MendableItem>& items, const QString& destination);
 
     // What became of it, a line each, for the user.
     const QStringList& lines() const { return m_lines; }
@@ -45,6 +51,7 @@ class MovieMending {
         DataPlace data;
     };
 
+    bool writeAssembly(const MendableItem& item, const Assembly& assembly, const QString& destination);
     ItemSource sourceOf(const MendableItem& item) const;
     std::vector<Broken> sortOut(const std::vector<MendableItem>& items);
     void mend(const Broken& broken, const QString& destination);
@@ -57,6 +64,7 @@ class MovieMending {
     SoundSplitter m_splitter;
     QStringList m_lines;
     std::size_t m_repaired = 0;
+    std::set<std::uint64_t> m_completed;  // first sectors
     bool m_failed = false;
 };
 

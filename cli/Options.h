@@ -20,7 +20,8 @@ struct CliOptions {
     QString catalogueFolder;
     QString saveFolder;  // empty: nothing is saved
     SavePolicy savePolicy;
-    bool report = false;  // beside the saved files
+    bool report = false;    // beside the saved files
+    bool complete = false;  // broken movies, from their pieces
     bool repairMovies = false;
     QString reference;  // a whole movie of the same camera; empty: one of those found
     bool listJson = false;

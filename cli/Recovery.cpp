@@ -441,7 +441,7 @@ int recover(CliOptions options) {
                     refused);
             }
             session.run();
-            if (options.repairMovies) {
+            if (options.complete || options.repairMovies) {
                 session.mendMovies();
             }
         });

@@ -67,6 +67,10 @@ SaveOptions::SaveOptions()
       minPixels(option("min-pixels", "Do not save pictures whose longer side has fewer pixels.", "N")),
       keepDuplicates(option("keep-duplicates", "Save the same bytes again when they are found again.")),
       skipUnsound(option("skip-unsound", "Do not save what is certainly no file of its type.")),
+      complete(option(
+          "complete",
+          "Put MP4 and QuickTime movies together that lie in pieces, as \"... complete.MP4\", or as "
+          "\"... put together.MP4\" where it could not be proved that all pieces are the right ones.")),
       repairMovies(
           option("repair-movies",
                  "Write a playable twin, \"... repaired.MP4\", of each MP4 or QuickTime movie whose "
@@ -77,7 +81,7 @@ SaveOptions::SaveOptions()
 
 void SaveOptions::addTo(QCommandLineParser& parser) const {
     parser.addOptions({save, asPublished, report, names, folders, lostOnly, byDate, minBytes, minPixels,
-                       keepDuplicates, skipUnsound, repairMovies, reference});
+                       keepDuplicates, skipUnsound, complete, repairMovies, reference});
 }
 
 std::optional<QString> SaveOptions::read(const QCommandLineParser& parser, CliOptions& options) const {
@@ -86,7 +90,7 @@ std::optional<QString> SaveOptions::read(const QCommandLineParser& parser, CliOp
         return QStringLiteral("--save takes a folder.");
     }
     for (const auto* other : {&asPublished, &report, &names, &folders, &lostOnly, &byDate, &minBytes,
-                              &minPixels, &keepDuplicates, &skipUnsound, &repairMovies}) {
+                              &minPixels, &keepDuplicates, &skipUnsound, &complete, &repairMovies}) {
         if (parser.isSet(*other) && !parser.isSet(save)) {
             return QStringLiteral("--%1 goes with --save.").arg(other->names().constFirst());
         }
@@ -130,6 +134,7 @@ std::optional<QString> SaveOptions::read(const QCommandLineParser& parser, CliOp
     constexpr quint64 kMostPixels = std::numeric_limits<std::uint32_t>::max();
     policy.minPixels = static_cast<std::uint32_t>(std::min(*leastPixels, kMostPixels));
     options.report = parser.isSet(report);
+    options.complete = parser.isSet(complete);
     options.repairMovies = parser.isSet(repairMovies);
     options.reference = parser.value(reference);
     policy.checksums = options.report;

@@ -36,7 +36,7 @@ enum class RequestKind : std::uint32_t {
     NextSound = 5,  // what follows the last piece, or the piece around timeMs when that is not negative
     OpenCover = 6,  // as OpenMovie; a sound file's cover does as well
     SplitSound = 7,   // the input is a SoundToSplit and what it tells; gives the lengths of its packets
-    TryMovie = 8,     // open the file, decode its beginning; gives a MovieTrialCounts
+    TryMovie = 8,     // open the file, decode it for timeMs at most; gives a MovieTrialCounts
     ReadCard = 9,     // read the file systems of the card that the input tells of (CardExchange.h)
     MoreOfCard = 10,  // the input is what the last answer asked for
 };

@@ -4,16 +4,19 @@
 
 namespace vantor {
 
-std::optional<MovieTrial> tryMovie(int descriptor, const MovieReaderOptions& options) {
+std::optional<MovieTrial> tryMovie(int descriptor, TrialLength length, const MovieReaderOptions& options) {
     const auto process = decode::HelperProcess::start(decode::movieHelperOf(options), options.startDeadline,
                                                       options.cancelDescriptor());
     decode::Request request;
     request.kind = decode::RequestKind::TryMovie;
     request.maxWidth = decode::kMovieTrialWords;
     request.maxHeight = 1;
+    const auto wanted = length == TrialLength::Whole ? kMostTrialTime : std::chrono::milliseconds(0);
+    request.timeMs = wanted.count();
     decode::Answer answer;
     if (!process ||
-        process->askFile(request, descriptor, options.openDeadline, answer) != decode::AskOutcome::Answered ||
+        process->askFile(request, descriptor, options.openDeadline + wanted, answer) !=
+            decode::AskOutcome::Answered ||
         answer.status != decode::AnswerStatus::Ok || answer.width != decode::kMovieTrialWords) {
         return std::nullopt;
     }

@@ -1,6 +1,7 @@
 // Whether a movie plays without complaint, tried by the movie helper.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 
@@ -14,8 +15,13 @@ struct MovieTrial {
     std::uint32_t errors = 0;  // complaints of the decoders
 };
 
-// Of as much of the opened file, from its beginning on, as is decoded in a step's time. Nothing when it is no
-// movie or no helper can be had. Blocks until the deadlines of the options.
-std::optional<MovieTrial> tryMovie(int descriptor, const MovieReaderOptions& options = {});
+// As much from the movie's beginning on as is decoded in a moment, or all that is decoded in kMostTrialTime.
+enum class TrialLength { Beginning, Whole };
+constexpr std::chrono::milliseconds kMostTrialTime{60000};
+
+// Of the opened file. Nothing when it is no movie or no helper can be had. Blocks until the deadlines of the
+// options, for a whole movie the trial's time longer.
+std::optional<MovieTrial> tryMovie(int descriptor, TrialLength length,
+                                   const MovieReaderOptions& options = {});
 
 }  // namespace vantor

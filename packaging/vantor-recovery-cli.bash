@@ -37,6 +37,7 @@ _vantor_recovery_cli() {
             --session --resume
             --map
             --image --scrape
+            --complete
             --repair-movies --reference
             --list-json --list-media --list-files' -- "$cur"))
         return

@@ -318,6 +318,22 @@ bool mayBeginPicture(ByteView& view, const PictureSyntax& syntax, std::uint64_t 
     }
 }
 
+bool isWholeUnitChain(ByteView& view, Coding coding, unsigned lengthBytes, std::uint64_t from,
+                      std::uint64_t to) {
+    if (to < from || !lookAtSample(view, coding, lengthBytes, from, to - from)) {
+        return false;
+    }
+    for (unsigned units = 0; units < kMostUnits && from < to; ++units) {
+        const std::uint64_t body = from + lengthBytes;
+        const std::uint64_t end = body + view.number(from, lengthBytes, Endian::Big).value_or(0);
+        if (end <= body || end > to || !isCodedAllThrough(view, body, end)) {
+            return false;
+        }
+        from = end;
+    }
+    return from == to;
+}
+
 bool follows(const PictureSyntax& syntax, const CodedPicture& last, const CodedPicture& next) {
     if (next.restartsOrder) {
         return true;

@@ -30,6 +30,10 @@ std::optional<CodedPicture> pictureAt(ByteView& view, const PictureSyntax& synta
 // Whether a picture may stand at `at`, by its first bytes alone.
 bool mayBeginPicture(ByteView& view, const PictureSyntax& syntax, std::uint64_t at);
 
+// Whether units of AVC or HEVC fill [from, to), none with bytes that a coded unit cannot hold.
+bool isWholeUnitChain(ByteView& view, Coding coding, unsigned lengthBytes, std::uint64_t from,
+                      std::uint64_t to);
+
 // Whether the numbers of `next` go on from those of `last`.
 bool follows(const PictureSyntax& syntax, const CodedPicture& last, const CodedPicture& next);
 

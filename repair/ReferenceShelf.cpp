@@ -1,14 +1,10 @@
 #include "repair/ReferenceShelf.h"
 
-#include <sys/mman.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <cmath>
 #include <tuple>
 
-#include "decode/MovieTrial.h"
-#include "media/FileDescriptor.h"
+#include "repair/MovieProof.h"
 
 namespace vantor {
 
@@ -16,39 +12,9 @@ namespace {
 
 // Enough for several groups of pictures, little enough for dozens of trials.
 constexpr std::size_t kPicturesTried = 40;
-constexpr std::uint64_t kMostTriedBytes = std::uint64_t{128} << 20;
 
 // Unexplained, for each picture.
 constexpr std::uint64_t kNoticeableBytes = 16;
-
-bool writeAll(int descriptor, const void* bytes, std::size_t count) {
-    const auto* at = static_cast<const char*>(bytes);
-    while (count != 0) {
-        const ssize_t written = write(descriptor, at, count);
-        if (written <= 0) {
-            return false;
-        }
-        at += written;
-        count -= static_cast<std::size_t>(written);
-    }
-    return true;
-}
-
-bool writeTwin(int descriptor, ByteSource& movie, const RepairedMovie& repaired) {
-    if (!writeAll(descriptor, repaired.head.constData(), static_cast<std::size_t>(repaired.head.size()))) {
-        return false;
-    }
-    std::vector<std::uint8_t> chunk(1 << 20);
-    for (std::uint64_t at = repaired.data.from; at < repaired.data.to;) {
-        const std::size_t wanted = std::min<std::uint64_t>(chunk.size(), repaired.data.to - at);
-        const std::size_t arrived = movie.read(at, std::span(chunk).first(wanted));
-        if (arrived == 0 || !writeAll(descriptor, chunk.data(), arrived)) {
-            return false;
-        }
-        at += arrived;
-    }
-    return writeAll(descriptor, repaired.index.constData(), static_cast<std::size_t>(repaired.index.size()));
-}
 
 // How badly a reference fits, in hundredths.
 int misfit(const RepairedMovie& repaired, unsigned slices, unsigned slicesFound, bool hasSound) {
@@ -66,15 +32,6 @@ int misfit(const RepairedMovie& repaired, unsigned slices, unsigned slicesFound,
 }
 
 }  // namespace
-
-bool playsWithoutErrors(ByteSource& movie, const RepairedMovie& repaired, const MovieReaderOptions& options) {
-    const FileDescriptor file(memfd_create("movie", MFD_CLOEXEC));
-    if (file.get() < 0 || repaired.bytes() > kMostTriedBytes || !writeTwin(file.get(), movie, repaired)) {
-        return false;
-    }
-    const auto trial = tryMovie(file.get(), options);
-    return trial && trial->pictures != 0 && trial->errors == 0;
-}
 
 void ReferenceShelf::add(Kept kept) {
     if (m_kept.size() < kMostKept) {

@@ -39,7 +39,4 @@ class ReferenceShelf {
     std::vector<Kept> m_kept;
 };
 
-// Whether a repaired movie's pictures decode without an error; of a long one its beginning.
-bool playsWithoutErrors(ByteSource& movie, const RepairedMovie& repaired, const MovieReaderOptions& options);
-
 }  // namespace vantor

@@ -36,10 +36,9 @@ bool copyData(const DataPlace& data, MediumBytes& movie, WholeFile& file, const 
 
 }  // namespace
 
-QString twinNameOf(const QString& name) {
+QString twinNameOf(const QString& name, const QString& mark) {
     const qsizetype dot = name.lastIndexOf(u'.');
-    const QString mark = QStringLiteral(" repaired");
-    return dot <= 0 ? name + mark : name.left(dot) + mark + name.mid(dot);
+    return dot <= 0 ? name + u' ' + mark : name.left(dot) + u' ' + mark + name.mid(dot);
 }
 
 WrittenTwin writeTwin(const QString& destination, const QString& type, const QString& name,
@@ -69,7 +68,7 @@ WrittenTwin writeTwin(const QString& destination, const QString& type, const QSt
         return written;
     }
     file.write(repaired.index);
-    const auto path = file.commit(safePathComponent(twinNameOf(name)));
+    const auto path = file.commit(safePathComponent(name));
     written.path = path.value_or(QString());
     written.error = path ? QString() : file.error();
     return written;

@@ -1,4 +1,4 @@
-// Writes the playable twin of a broken movie beside what is saved of the movie itself.
+// Writes the twin of a broken movie, made playable or put together, beside what is saved of the movie itself.
 #pragma once
 
 #include <QString>
@@ -14,11 +14,11 @@ struct WrittenTwin {
     QString error;  // a sentence for the user then
 };
 
-// "MP400002 repaired.MP4" for "MP400002.MP4".
-QString twinNameOf(const QString& name);
+// "MP400002 repaired.MP4" for "MP400002.MP4" and the mark "repaired".
+QString twinNameOf(const QString& name, const QString& mark);
 
-// Into `<destination>/<type>/`, whole or not at all. What of the movie cannot be read is written as zeros.
-// `unwanted`, when not null, may be set by anybody to end it.
+// Into `<destination>/<type>/`, under the name as it is given, whole or not at all. What of the movie cannot
+// be read is written as zeros. `unwanted`, when not null, may be set by anybody to end it.
 WrittenTwin writeTwin(const QString& destination, const QString& type, const QString& name,
                       const RepairedMovie& repaired, MediumBytes& movie, const std::atomic<int>* unwanted);
 

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <atomic>
+#include <chrono>
 #include <cstdarg>
 
 #include "decode/DecodeProtocol.h"
@@ -83,7 +84,7 @@ class TriedStream {
 
 }  // namespace
 
-std::vector<std::uint32_t> tryMovie(int descriptor) {
+std::vector<std::uint32_t> tryMovie(int descriptor, std::int64_t mostMs) {
     LimitedFormat file(descriptor);
     if (!file.open()) {
         return {};
@@ -93,6 +94,7 @@ std::vector<std::uint32_t> tryMovie(int descriptor) {
     TriedStream pictures(format, AVMEDIA_TYPE_VIDEO);
     TriedStream sound(format, AVMEDIA_TYPE_AUDIO);
     const Packet packet(av_packet_alloc());
+    const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(mostMs);
     file.startStep();
     while (!file.isOver() && av_read_frame(&format, packet.get()) >= 0) {
         for (TriedStream* const stream : {&pictures, &sound}) {
@@ -101,6 +103,9 @@ std::vector<std::uint32_t> tryMovie(int descriptor) {
             }
         }
         av_packet_unref(packet.get());
+        if (std::chrono::steady_clock::now() < end) {
+            file.startStep();
+        }
     }
     pictures.decode(nullptr);
     sound.decode(nullptr);

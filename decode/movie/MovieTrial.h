@@ -6,7 +6,8 @@
 
 namespace vantor::decode {
 
-// Takes the descriptor over. The numbers of a MovieTrialCounts; empty when the bytes are no movie.
-std::vector<std::uint32_t> tryMovie(int descriptor);
+// Takes the descriptor over. Ends after so many milliseconds, or a step's time when that is longer. The
+// numbers of a MovieTrialCounts; empty when the bytes are no movie.
+std::vector<std::uint32_t> tryMovie(int descriptor, std::int64_t mostMs);
 
 }  // namespace vantor::decode

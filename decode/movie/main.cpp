@@ -58,7 +58,10 @@ class MovieJobDecoder : public JobDecoder {
             case RequestKind::SplitSound:
                 return numbers(job, packetLengths(job.encoded));
             case RequestKind::TryMovie:
-                return numbers(job, job.file < 0 ? std::vector<std::uint32_t>() : tryMovie(dup(job.file)));
+                return numbers(job, job.file < 0
+                                        ? std::vector<std::uint32_t>()
+                                        : tryMovie(dup(job.file),
+                                                   std::clamp<std::int64_t>(job.request.timeMs, 0, kMostMs)));
             case RequestKind::Picture:
             case RequestKind::ReadCard:
             case RequestKind::MoreOfCard:

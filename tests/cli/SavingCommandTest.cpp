@@ -198,6 +198,7 @@ TEST(SavingCommand, OptionsThatMakeNoSenseAreRefused) {
                                          {"--min-bytes", "5", "x"},
                                          {"--save", "/tmp", "--min-bytes", "many", "x"},
                                          {"--skip-unsound", "x"},
+                                         {"--complete", "x"},
                                          {"--repair-movies", "x"},
                                          {"--save", "/tmp", "--reference", "y", "x"},
                                          {"--save", "/tmp", "--as-published", "--skip-unsound", "x"},

@@ -7,7 +7,7 @@
 #include <set>
 #include <utility>
 
-#include "decode/MovieTrial.h"
+#include "repair/MovieProof.h"
 #include "repair/MovieRepair.h"
 #include "repair/ReferenceShelf.h"
 #include "tests/formats/Corpus.h"

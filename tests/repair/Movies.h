@@ -187,4 +187,14 @@ inline std::vector<PictureSpec> plainPictures(int count) {
     return specs;
 }
 
+// As those, each of a size that hardly another one has.
+inline std::vector<PictureSpec> picturesOfManySizes(int count, unsigned seed) {
+    std::vector<PictureSpec> specs = plainPictures(count);
+    std::mt19937 random(seed);
+    for (PictureSpec& spec : specs) {
+        spec.bytes = 150 + static_cast<int>(random() % 1000);
+    }
+    return specs;
+}
+
 }  // namespace vantor::test

@@ -1,0 +1,80 @@
+// A movie in pieces, put together by what its index promises of every place in it.
+#pragma once
+
+#include <atomic>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "repair/ClusterFile.h"
+#include "repair/FreeClusters.h"
+#include "repair/MediumBlocks.h"
+#include "repair/MovieSamples.h"
+
+namespace vantor {
+
+// Where an index may stand on a medium: the first byte of something that begins as one.
+std::vector<std::uint64_t> indexPlaces(MediumBlocks& medium, const std::atomic<int>& stop);
+
+struct PiecedMovie {
+    std::vector<std::uint64_t> clusters;  // in the order of the file
+    std::uint64_t bytes = 0;
+    std::size_t samples = 0;       // that could be looked at
+    std::size_t wholeSamples = 0;  // of these
+    bool decodable = false;        // a decoder would notice a foreign piece in its pictures
+    bool telling = false;          // no other movie is likely to fit the index
+    std::size_t guessed = 0;       // clusters for which there was more than one choice
+};
+
+// Finds where the clusters of one movie lie. Any one thread.
+class MoviePieces {
+  public:
+    MoviePieces(MediumBlocks& medium, const FreeClusters& free, const std::vector<std::uint64_t>& indexPlaces,
+                const std::atomic<int>& stop)
+        : m_medium(medium), m_free(free), m_indexPlaces(indexPlaces), m_stop(stop) {}
+
+    // The movie that begins in the cluster; nothing where no index of it or too little of its data is found.
+    std::optional<PiecedMovie> assemble(std::uint64_t firstCluster);
+
+  private:
+    static constexpr std::uint64_t kUnplaced = ~std::uint64_t{0};
+
+    struct Layout {
+        DataPlace data;
+        IsoBox index;
+        std::uint64_t bytes = 0;
+    };
+
+    bool readHead(std::uint64_t firstCluster);
+    bool findIndexBehind();
+    bool placeIndex(std::uint64_t firstOfIndex, std::uint64_t number);
+    bool continueIndex(std::vector<std::uint64_t>& clusters, std::size_t wanted, unsigned& tries);
+    bool takeIndex(const std::vector<std::uint64_t>& clusters);
+
+    bool placeSamples();
+    bool isTelling() const;
+    Likeness likeness(std::uint64_t number, std::uint64_t cluster);
+    bool placeAnchor(std::uint64_t number, std::uint64_t known);
+    bool accept(std::uint64_t number, std::uint64_t cluster);
+    void place(std::uint64_t number, std::uint64_t cluster);
+    void fillBetween();
+    void fillRow(std::uint64_t before, std::uint64_t end);
+    bool lay(std::uint64_t before, std::uint64_t end, std::uint64_t ahead, std::uint64_t step);
+    void lift(std::uint64_t before, std::uint64_t end);
+    std::size_t brokenSamplesIn(std::uint64_t before, std::uint64_t end);
+
+    MediumBlocks& m_medium;
+    const FreeClusters& m_free;
+    const std::vector<std::uint64_t>& m_indexPlaces;
+    const std::atomic<int>& m_stop;
+
+    Layout m_layout;
+    std::vector<PromisedSample> m_samples;
+    std::vector<std::uint64_t> m_places;  // cluster of the medium for each of the file
+    std::vector<bool> m_used;             // clusters of the medium that are placed
+    std::uint64_t m_step = 1;             // free clusters from one piece to the next, where placed last
+    std::size_t m_guessed = 0;
+    unsigned m_farSearches = 0;
+};
+
+}  // namespace vantor

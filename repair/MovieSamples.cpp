@@ -1,0 +1,112 @@
+// Sources: ISO/IEC 14496-10 and -15, 23008-2, 14496-2; ITU-T T.81; SMPTE RDD 36.
+#include "repair/MovieSamples.h"
+
+#include <algorithm>
+
+#include "repair/CodedPicture.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr std::size_t kMostSamples = 4'000'000;
+
+std::uint64_t numberAt(std::span<const std::uint8_t> bytes, std::size_t at, unsigned count) {
+    std::uint64_t value = 0;
+    for (unsigned i = 0; i < count; ++i) {
+        value = value << 8 | bytes[at + i];
+    }
+    return value;
+}
+
+bool isUnitHead(Coding coding, std::uint8_t head) {
+    return (head & 0x80) == 0 &&
+           (coding == Coding::Hevc ? (head & 1) == 0 : (head & 31) != 0 && (head & 31) <= 21);
+}
+
+// Units follow each other to the sample's last byte.
+Likeness unitsBeginAs(const PromisedSample& sample, std::span<const std::uint8_t> bytes) {
+    std::uint64_t at = 0;
+    while (at + sample.lengthBytes < bytes.size() && at < sample.bytes) {
+        const std::uint64_t length = numberAt(bytes, static_cast<std::size_t>(at), sample.lengthBytes);
+        const std::uint64_t body = at + sample.lengthBytes;
+        if (length < 2 || body > sample.bytes || length > sample.bytes - body ||
+            !isUnitHead(sample.coding, bytes[static_cast<std::size_t>(body)])) {
+            return Likeness::Contradicted;
+        }
+        at = body + length;
+    }
+    return at == sample.bytes ? Likeness::Certain : Likeness::Possible;
+}
+
+}  // namespace
+
+std::optional<std::vector<PromisedSample>> promisedSamples(ByteSource& file, const IsoBox& index,
+                                                           const DataPlace& data) {
+    ByteView view(file);
+    std::vector<PromisedSample> samples;
+    std::uint64_t sum = 0;
+    bool inside = true;
+    std::uint64_t last = index.body;
+    forIsoBoxes(view, index.body, index.end, [&](const IsoBox& box) {
+        last = box.end;
+        const IsoTrack track = box.text() == "trak" ? readIsoTrack(view, box) : IsoTrack();
+        if (track.elsewhere || samples.size() >= kMostSamples) {
+            return;
+        }
+        for (const IsoSample& sample : samplesOf(view, track, kMostSamples - samples.size())) {
+            inside = inside && sample.at >= data.from && sample.at <= data.to &&
+                     sample.bytes <= data.to - sample.at;
+            samples.push_back({sample.at, sample.bytes, track.isVideo() ? track.coding : Coding::Unknown,
+                               track.lengthBytes});
+            sum = addClamped(sum, sample.bytes);
+        }
+    });
+    if (!inside || last != index.end || sum > data.to - data.from || sum < (data.to - data.from) / 2) {
+        return std::nullopt;
+    }
+    std::sort(samples.begin(), samples.end(), [](const auto& a, const auto& b) { return a.at < b.at; });
+    const auto overlap = [](const PromisedSample& a, const PromisedSample& b) {
+        return a.at + a.bytes > b.at;
+    };
+    if (std::adjacent_find(samples.begin(), samples.end(), overlap) != samples.end()) {
+        return std::nullopt;
+    }
+    return samples;
+}
+
+Likeness beginsAs(const PromisedSample& sample, std::span<const std::uint8_t> bytes) {
+    constexpr std::size_t kLeast = 8;
+    bytes = bytes.first(static_cast<std::size_t>(std::min<std::uint64_t>(bytes.size(), sample.bytes)));
+    if (bytes.size() < kLeast) {
+        return Likeness::Possible;
+    }
+    const auto whether = [](bool begins) { return begins ? Likeness::Certain : Likeness::Contradicted; };
+    switch (sample.coding) {
+        case Coding::Avc:
+        case Coding::Hevc:
+            return unitsBeginAs(sample, bytes);
+        case Coding::Jpeg:
+            return whether(numberAt(bytes, 0, 3) == 0xFFD8FF);
+        case Coding::ProRes:
+            return whether(numberAt(bytes, 0, 4) == sample.bytes && numberAt(bytes, 4, 4) == 0x69637066);
+        case Coding::Mpeg4:
+            return whether(numberAt(bytes, 0, 3) == 1 && bytes[3] >= 0xB0 && bytes[3] <= 0xB6);
+        default:
+            return Likeness::Possible;
+    }
+}
+
+bool isWholeSample(ByteView& view, const PromisedSample& sample) {
+    if (sample.coding == Coding::Avc || sample.coding == Coding::Hevc) {
+        return isWholeUnitChain(view, sample.coding, sample.lengthBytes, sample.at, sample.at + sample.bytes);
+    }
+    if (sample.coding == Coding::Jpeg || sample.coding == Coding::ProRes) {
+        PictureSyntax syntax;
+        syntax.coding = sample.coding;
+        return pictureAt(view, syntax, sample.at, sample.at + sample.bytes).has_value();
+    }
+    return lookAtSample(view, sample.coding, sample.lengthBytes, sample.at, sample.bytes).has_value();
+}
+
+}  // namespace vantor

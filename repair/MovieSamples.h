@@ -1,0 +1,36 @@
+// The samples that a movie's index promises, and whether bytes keep the promise.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "formats/ByteSource.h"
+#include "formats/IsoTracks.h"
+
+namespace vantor {
+
+struct PromisedSample {
+    std::uint64_t at = 0;  // in the file
+    std::uint64_t bytes = 0;
+    Coding coding = Coding::Unknown;
+    unsigned lengthBytes = 4;
+};
+
+// All samples of all tracks in the order of the file; nothing where the index is broken, points outside
+// `data` or tells of less than half of it.
+std::optional<std::vector<PromisedSample>> promisedSamples(ByteSource& file, const IsoBox& index,
+                                                           const DataPlace& data);
+
+enum class Likeness {
+    Contradicted,  // not the sample
+    Possible,      // nothing that could be checked
+    Certain,       // chance is out of the question
+};
+// Whether the sample may begin with these bytes; all of it is not needed.
+Likeness beginsAs(const PromisedSample& sample, std::span<const std::uint8_t> bytes);
+
+// Whether the whole sample is there, as far as its syntax tells.
+bool isWholeSample(ByteView& view, const PromisedSample& sample);
+
+}  // namespace vantor

@@ -1,0 +1,237 @@
+// Movies whose clusters lie scattered over a medium.
+#include <gtest/gtest.h>
+
+#include "repair/MovieCompletion.h"
+#include "repair/MoviePieces.h"
+#include "tests/repair/Movies.h"
+
+namespace vantor {
+namespace {
+
+using test::asSpan;
+using test::MadeMovie;
+using test::makeMovie;
+using test::picturesOfManySizes;
+using test::plainPictures;
+
+constexpr std::uint64_t kClusterSectors = 8;
+constexpr qsizetype kClusterBytes = 4096;
+const std::atomic<int> kGoOn{0};
+
+class MemoryReader final : public SectorReader {
+  public:
+    explicit MemoryReader(const QByteArray& bytes) : m_bytes(bytes) {}
+    std::uint64_t mediumSectors() const override {
+        return static_cast<std::uint64_t>(m_bytes.size()) / kSectorBytes;
+    }
+
+  protected:
+    bool fetch() override {
+        if (position() >= mediumSectors()) {
+            return false;
+        }
+        handOver(reinterpret_cast<const std::uint8_t*>(m_bytes.constData()) + position() * kSectorBytes, 1);
+        return true;
+    }
+    bool moveTo(std::uint64_t) override { return true; }
+
+  private:
+    const QByteArray& m_bytes;
+};
+
+// A medium of that many clusters, filled with noise.
+QByteArray mediumOf(int clusters) {
+    QByteArray medium(clusters * kClusterBytes, Qt::Uninitialized);
+    std::mt19937 random(9);
+    for (char& byte : medium) {
+        byte = static_cast<char>(random());
+    }
+    return medium;
+}
+
+int clustersOf(const QByteArray& file) {
+    return static_cast<int>((file.size() + kClusterBytes - 1) / kClusterBytes);
+}
+
+// The clusters of the file into these of the medium.
+void scatter(const QByteArray& file, const std::vector<int>& clusters, QByteArray& medium) {
+    ASSERT_EQ(static_cast<int>(clusters.size()), clustersOf(file));
+    for (int i = 0; i < static_cast<int>(clusters.size()); ++i) {
+        const QByteArray piece = file.mid(i * kClusterBytes, kClusterBytes);
+        medium.replace(clusters[static_cast<std::size_t>(i)] * kClusterBytes, piece.size(), piece);
+    }
+}
+
+std::optional<QByteArray> assembled(const QByteArray& medium, std::uint64_t firstCluster) {
+    MemoryReader reader(medium);
+    MediumBlocks blocks(reader);
+    const FreeClusters free({0, kClusterSectors}, reader.mediumSectors());
+    const auto indexes = indexPlaces(blocks, kGoOn);
+    MoviePieces pieces(blocks, free, indexes, kGoOn);
+    const auto movie = pieces.assemble(firstCluster);
+    if (!movie || movie->wholeSamples != movie->samples) {
+        return std::nullopt;
+    }
+    QByteArray bytes(static_cast<qsizetype>(movie->bytes), '\0');
+    ClusterFile source(blocks, free, movie->clusters, movie->bytes);
+    source.read(0, {reinterpret_cast<std::uint8_t*>(bytes.data()), static_cast<std::size_t>(bytes.size())});
+    return bytes;
+}
+
+std::vector<int> every(int step, int from, int count) {
+    std::vector<int> clusters;
+    for (int i = 0; i < count; ++i) {
+        clusters.push_back(from + i * step);
+    }
+    return clusters;
+}
+
+}  // namespace
+
+TEST(MoviePieces, TwoMoviesInTurn_ComeApart) {
+    const MadeMovie one = makeMovie(picturesOfManySizes(200, 1), false, 1);
+    const MadeMovie other = makeMovie(picturesOfManySizes(200, 2), false, 2);
+    const int count = clustersOf(one.bytes);
+    ASSERT_GT(count, 8);
+    QByteArray medium = mediumOf(3 * count + 10);
+    scatter(one.bytes, every(2, 4, count), medium);
+    scatter(other.bytes, every(2, 5, clustersOf(other.bytes)), medium);
+    EXPECT_EQ(assembled(medium, 4), one.bytes);
+    EXPECT_EQ(assembled(medium, 5), other.bytes);
+}
+
+TEST(MoviePieces, HeadBehindTheBody_IsJoined) {
+    const MadeMovie movie = makeMovie(picturesOfManySizes(200, 1), false, 1);
+    const int count = clustersOf(movie.bytes);
+    QByteArray medium = mediumOf(2 * count + 10);
+    std::vector<int> clusters = every(1, 2, count);
+    clusters.front() = count + 5;
+    scatter(movie.bytes, clusters, medium);
+    EXPECT_EQ(assembled(medium, static_cast<std::uint64_t>(count) + 5), movie.bytes);
+}
+
+TEST(MoviePieces, IndexBeforeTheMovie_IsFound) {
+    const MadeMovie movie = makeMovie(picturesOfManySizes(200, 1), false, 1);
+    const int count = clustersOf(movie.bytes);
+    const int indexClusters = count - static_cast<int>(movie.indexAt / kClusterBytes);
+    QByteArray medium = mediumOf(2 * count + 20);
+    std::vector<int> clusters = every(1, indexClusters + 6, count);
+    for (int i = 0; i < indexClusters; ++i) {
+        clusters[static_cast<std::size_t>(count - indexClusters + i)] = 1 + i;
+    }
+    scatter(movie.bytes, clusters, medium);
+    EXPECT_EQ(assembled(medium, static_cast<std::uint64_t>(indexClusters) + 6), movie.bytes);
+}
+
+TEST(MoviePieces, PieceThatIsGone_GivesNoWholeMovie) {
+    const MadeMovie movie = makeMovie(picturesOfManySizes(200, 1), false, 1);
+    const int count = clustersOf(movie.bytes);
+    QByteArray medium = mediumOf(2 * count + 10);
+    scatter(movie.bytes, every(1, 4, count), medium);
+    medium.replace(8 * kClusterBytes, kClusterBytes, QByteArray(kClusterBytes, '\0'));
+    EXPECT_EQ(assembled(medium, 4), std::nullopt);
+}
+
+TEST(MoviePieces, IndexOfAnotherMovie_IsNotTaken) {
+    const MadeMovie movie = makeMovie(picturesOfManySizes(200, 1), false, 1);
+    const MadeMovie other = makeMovie(picturesOfManySizes(150, 2), false, 2);
+    QByteArray medium = mediumOf(2 * clustersOf(movie.bytes) + 10);
+    scatter(movie.bytes, every(1, 4, clustersOf(movie.bytes)), medium);
+    // The index is overwritten by one that describes other data.
+    const qsizetype at = 4 * kClusterBytes + movie.indexAt;
+    medium.replace(at, movie.bytes.size() - movie.indexAt,
+                   QByteArray(movie.bytes.size() - movie.indexAt, '\0'));
+    const QByteArray index = other.bytes.mid(other.indexAt);
+    medium.replace(at, index.size(), index);
+    EXPECT_EQ(assembled(medium, 4), std::nullopt);
+}
+
+TEST(MovieCompletion, EachMovieLeavesFewerPlacesForTheNext) {
+    // The second goes on in a row where the first has ended.
+    const MadeMovie one = makeMovie(picturesOfManySizes(120, 1), false, 1);
+    const MadeMovie other = makeMovie(picturesOfManySizes(300, 2), false, 2);
+    const int count = clustersOf(one.bytes);
+    const int otherCount = clustersOf(other.bytes);
+    QByteArray medium = mediumOf(count + otherCount + 40);
+    scatter(one.bytes, every(2, 8, count), medium);
+    std::vector<int> clusters = every(2, 9, count);
+    while (static_cast<int>(clusters.size()) < otherCount) {
+        clusters.push_back(clusters.back() + 1);
+    }
+    scatter(other.bytes, clusters, medium);
+    MemoryReader reader(medium);
+    MovieReaderOptions noHelper;
+    noHelper.helper = QStringLiteral("/nowhere");
+    MovieCompletion completion(reader, kGoOn, noHelper);
+    const std::vector<std::uint64_t> starts{8 * kClusterSectors, 9 * kClusterSectors};
+    const auto found = completion.run(starts, {});
+    ASSERT_EQ(found.size(), 2U);
+    const MadeMovie* const movies[] = {&one, &other};
+    for (std::size_t i = 0; i < 2; ++i) {
+        ASSERT_TRUE(found[i]) << i;
+        QByteArray bytes;
+        for (const SectorRun& run : found[i]->runs) {
+            bytes += medium.mid(static_cast<qsizetype>(run.first * kSectorBytes),
+                                static_cast<qsizetype>((run.end - run.first) * kSectorBytes));
+        }
+        EXPECT_EQ(bytes.first(static_cast<qsizetype>(found[i]->bytes)), movies[i]->bytes) << i;
+    }
+}
+
+TEST(MovieCompletion, ChoiceThatNoDecoderChecked_IsNotProved) {
+    // Pictures longer than a cluster leave clusters in which nothing begins.
+    std::vector<test::PictureSpec> large = plainPictures(12);
+    for (test::PictureSpec& spec : large) {
+        spec.bytes = 3 * static_cast<int>(kClusterBytes) - 40 * static_cast<int>(spec.number);
+    }
+    const MadeMovie movie = makeMovie(large, false, 1);
+    const int count = clustersOf(movie.bytes);
+    MovieReaderOptions noHelper;
+    noHelper.helper = QStringLiteral("/nowhere");
+    const std::vector<std::uint64_t> starts{8 * kClusterSectors};
+    for (const int step : {1, 2}) {
+        QByteArray medium = mediumOf(2 * count + 40);
+        scatter(movie.bytes, every(step, 8, count), medium);
+        MemoryReader reader(medium);
+        MovieCompletion completion(reader, kGoOn, noHelper);
+        const auto found = completion.run(starts, {});
+        ASSERT_TRUE(found[0]) << step;
+        EXPECT_EQ(found[0]->proof, step == 1 ? AssemblyProof::Proved : AssemblyProof::Likely);
+    }
+}
+
+TEST(MovieCompletion, IndexThatOtherMoviesFit_ProvesNothing) {
+    // Two movies of the same sizes: each index fits the pieces of both.
+    const MadeMovie one = makeMovie(std::vector<test::PictureSpec>(200), false, 1);
+    const MadeMovie other = makeMovie(std::vector<test::PictureSpec>(150), false, 2);
+    QByteArray medium = mediumOf(3 * clustersOf(one.bytes) + 10);
+    scatter(one.bytes, every(2, 4, clustersOf(one.bytes)), medium);
+    scatter(other.bytes, every(2, 5, clustersOf(other.bytes)), medium);
+    MemoryReader reader(medium);
+    MovieCompletion completion(reader, kGoOn);
+    const std::vector<std::uint64_t> starts{4 * kClusterSectors, 5 * kClusterSectors};
+    std::size_t assembled = 0;
+    for (const auto& each : completion.run(starts, {})) {
+        assembled += each ? 1 : 0;
+        EXPECT_TRUE(!each || each->proof == AssemblyProof::Likely);
+    }
+    EXPECT_NE(assembled, 0U);
+}
+
+TEST(FreeClusters, GridIsWhatFilesBeginOn) {
+    const std::vector<std::uint64_t> starts{131, 195, 323, 1091};
+    const auto grids = gridsOf(starts);
+    ASSERT_FALSE(grids.empty());
+    EXPECT_EQ(grids.front(), (ClusterGrid{3, 64}));
+    FreeClusters free(grids.front(), 640);
+    EXPECT_EQ(free.count(), 9U);
+    EXPECT_EQ(free.beginningAt(131), 2U);
+    EXPECT_EQ(free.beginningAt(132), std::nullopt);
+    free.take({195, 260});  // a little of the next as well
+    EXPECT_EQ(free.ahead(2, 1), 5U);
+    EXPECT_EQ(free.back(5, 1), 2U);
+    EXPECT_EQ(free.stepsBetween(2, 6), 2U);
+    EXPECT_EQ(free.ahead(2, 9), std::nullopt);
+}
+
+}  // namespace vantor
