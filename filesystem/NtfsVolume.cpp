@@ -2,7 +2,6 @@
 #include "filesystem/NtfsVolume.h"
 
 #include <algorithm>
-#include <ranges>
 
 #include "filesystem/CleanName.h"
 
@@ -96,7 +95,7 @@ void NtfsVolume::joinParts() {
             continue;
         }
         NtfsRecord& file = base->second;
-        for (NtfsRecord& part : parts | std::views::values) {
+        for (auto& [first, part] : parts) {
             std::uint64_t clusters = 0;
             for (const NtfsRun& run : file.runs) {
                 clusters += run.count;

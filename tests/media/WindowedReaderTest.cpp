@@ -189,12 +189,12 @@ TEST(WindowedReader, NeighbouringFaultsOfEveryKind_CostWhatWasRefusedTwiceAndNot
 // Where the first fault is not healed by the retry, even the choice of what is given up is that of single
 // reads.
 TEST(WindowedReader, AdjacentTransientFaults_SurfaceAsWithSingleReadsAndOneRetry) {
-    for (const auto& [first, second] : {std::pair(2, 1), std::pair(2, 2), std::pair(3, 1), std::pair(3, 3)}) {
+    for (const auto& times : {std::pair(2, 1), std::pair(2, 2), std::pair(3, 1), std::pair(3, 3)}) {
         for (const std::uint64_t distance : {1U, 2U, 100U}) {
             forEveryFault(
                 Places::Telling, [&](const Shape& shape, std::uint64_t fault, ScriptedDrive& medium) {
-                    medium.refusals[fault] = first;
-                    medium.refusals[fault + distance] = second;
+                    medium.refusals[fault] = times.first;
+                    medium.refusals[fault + distance] = times.second;
                     const auto expected = plainSteps<PlainReaderWithRetry>(medium, shape.start, shape.end);
                     EXPECT_TRUE(windowedSteps(medium, shape.start, shape.end) == expected);
                 });
