@@ -237,7 +237,8 @@ TEST(ReferenceMovie, PicturesThatAreNotAsTheIndexSays_AreNoReference) {
     }
     SpanSource source(asSpan(whole.bytes));
     EXPECT_FALSE(readReference(source));
-    SpanSource none(asSpan(whole.bytes.first(whole.indexAt)));
+    const QByteArray withoutIndex = whole.bytes.first(whole.indexAt);
+    SpanSource none(asSpan(withoutIndex));
     EXPECT_FALSE(readReference(none));
 }
 
