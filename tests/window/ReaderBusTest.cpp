@@ -128,8 +128,8 @@ TEST_P(ReaderBusRecovery, FromTheMediumToSavedFiles) {
 INSTANTIATE_TEST_SUITE_P(
     Modes, ReaderBusRecovery,
     ::testing::Values(Recovery{"Photo", {"Searching criteria"}, "67 of 67 saved"},
-                      Recovery{"Video", {"Searching criteria", "File types"}, "13 of 13 saved"},
-                      Recovery{"Raw file", {"Searching criteria", "File types"}, "205 of 205 saved"}));
+                      Recovery{"Video", {"Searching criteria", "File types"}, "14 of 14 saved"},
+                      Recovery{"Raw file", {"Searching criteria", "File types"}, "206 of 206 saved"}));
 
 }  // namespace
 }  // namespace vantor
