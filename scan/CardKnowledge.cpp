@@ -66,9 +66,14 @@ std::vector<std::shared_ptr<const CardFile>> ScanSession::toldFiles() const {
         if (asked != wanted.constEnd()) {
             return *asked;
         }
+        // A type of its own is wanted only where it was chosen, however much it has in common with one that
+        // was: movies and HEIF pictures are files of one format. What has no type of its own goes with its
+        // format's.
         const auto isLike = [&name](const QString& type) { return isNamedLike(name, type); };
-        const bool is =
-            std::any_of(chosen.begin(), chosen.end(), isLike) || std::none_of(all.begin(), all.end(), isLike);
+        const bool is = all.contains(extension, Qt::CaseInsensitive)
+                            ? chosen.contains(extension, Qt::CaseInsensitive)
+                            : std::any_of(chosen.begin(), chosen.end(), isLike) ||
+                                  std::none_of(all.begin(), all.end(), isLike);
         wanted.insert(extension, is);
         return is;
     };
