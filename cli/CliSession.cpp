@@ -232,8 +232,14 @@ void CliSession::addImageWithData_2(const QByteArray& data, const QString& image
 }
 
 void CliSession::mendMovies() {
+    if (stop_now != 0) {
+        return;
+    }
     const auto medium = openMedium();
-    if (!medium || stop_now != 0) {
+    if (!medium) {
+        m_mendingFailed = true;
+        m_mendingLines.append(
+            QStringLiteral("Broken movies were left as they are: the medium cannot be opened."));
         return;
     }
     MovieMending mending(*medium, stop_now);

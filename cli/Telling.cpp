@@ -1,0 +1,168 @@
+// The list, the sum of what was saved, and why a search did not get to its end.
+#include "cli/Telling.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QJsonDocument>
+#include <QMap>
+#include <cstdio>
+
+#include "catalogue/TextHelpers.h"
+#include "media/PathArgument.h"
+#include "results/SizeForPeople.h"
+#include "saving/CopyWords.h"
+
+namespace vantor {
+
+namespace {
+
+// False when not all items could be read for their checksums.
+bool printJson(const CliSession& session) {
+    return session.forEachJsonLine([](const QJsonObject& line) {
+        std::printf("%s\n", QJsonDocument(line).toJson(QJsonDocument::Compact).constData());
+    });
+}
+
+void printTable(const CliSession& session) {
+    QMap<QString, std::uint64_t> perType;
+    for (std::size_t i = 0; i < session.publishedCount(); ++i) {
+        const PublishedItem item = session.published(i);
+        ++perType[item.type];
+        std::printf("%s  %-20s  sectors %s to %s  %s\n", qPrintable(item.pass), qPrintable(item.name),
+                    qPrintable(numberForPeople(item.firstSector)),
+                    qPrintable(numberForPeople(item.endSector)), qPrintable(sizeForPeople(item.bytes())));
+    }
+    QStringList counts;
+    for (auto type = perType.cbegin(); type != perType.cend(); ++type) {
+        counts.append(QStringLiteral("%1 %2").arg(numberForPeople(type.value()), type.key()));
+    }
+    std::printf("%s found%s%s\n", qPrintable(numberForPeople(session.publishedCount())),
+                counts.isEmpty() ? "" : ": ", qPrintable(counts.join(QStringLiteral(", "))));
+}
+
+void tellSaving(const CliSession& session, const CliOptions& options) {
+    const SaveTally& tally = session.saveTally();
+    FILE* out = options.listJson ? stderr : stdout;
+    if (session.toldCount() != 0) {
+        std::fprintf(out, "%s more files that only the card's directory tells of\n",
+                     qPrintable(numberForPeople(session.toldCount())));
+    }
+    for (const QString& line : tally.lines(QDir(options.saveFolder).absolutePath())) {
+        std::fprintf(out, "%s\n", qPrintable(withShownPaths(line)));
+    }
+    if (tally.failed != 0) {
+        complain(QStringLiteral("%1 could not be saved:").arg(numberForPeople(tally.failed)));
+        for (const QString& failure : tally.failures) {
+            complain(QStringLiteral("  ") + failure);
+        }
+        if (static_cast<std::uint64_t>(tally.failures.size()) < tally.failed) {
+            complain(QStringLiteral("  and others"));
+        }
+    }
+}
+
+void tellMending(const CliSession& session, const CliOptions& options) {
+    for (const QString& line : session.mendingLines()) {
+        std::fprintf(options.listJson ? stderr : stdout, "%s\n", qPrintable(line));
+    }
+}
+
+// False after saying why the report could not be written.
+bool writeReportOf(const CliSession& session, const CliOptions& options, ReportHead head) {
+    head.mode = wordsForMode(options.mode);
+    head.ended = QDateTime::currentDateTime();
+    head.searchEnd = searchEndHeadline(session.searchEnd());
+    const WrittenReport written =
+        writeReport(QDir(options.saveFolder).absolutePath(), head, session.reportedItems());
+    if (!written.error.isEmpty()) {
+        complain(written.error);
+        return false;
+    }
+    std::fprintf(options.listJson ? stderr : stdout, "Report: %s\n",
+                 qPrintable(withShownPaths(written.html)));
+    return true;
+}
+
+int exitCodeOf(const CliSession& session) {
+    if (session.saveTally().failed != 0 || session.mendingFailed()) {
+        return kExitDestinationTrouble;
+    }
+    switch (session.lastOutcome()) {
+        case PassOutcome::Completed:
+            return kExitCompleted;
+        case PassOutcome::Stopped:
+            return kExitStopped;
+        case PassOutcome::OpenError:
+            return kExitCannotOpen;
+        case PassOutcome::ReadError:
+        case PassOutcome::NotRun:
+            break;
+    }
+    return kExitReadError;
+}
+
+// Why the search did not get to its end, and how to get there.
+void tellEnd(const SearchEnd& end, const CliOptions& options, const CliMedium& medium) {
+    if (end.isFlawless()) {
+        return;
+    }
+    complain(searchEndHeadline(end));
+    const QString why = medium.refusal ? wordsForRefusal(medium.refusal->get()) : QString();
+    if (end.outcome == PassOutcome::OpenError && !why.isEmpty()) {
+        complain(why);
+    }
+    if (end.canGoOn() && !options.sessionFile.isEmpty()) {
+        complain(QStringLiteral("To go on from there: --resume %1").arg(options.sessionFile));
+    } else if (end.canGoOn()) {
+        complain(QStringLiteral("To go on from there: --range %1:%2").arg(end.goOnAt).arg(end.end));
+    }
+}
+
+}  // namespace
+
+void complain(const QString& text) {
+    std::fprintf(stderr, "vantor-recovery-cli: %s\n", qPrintable(withShownPaths(Trim_Str(text))));
+}
+
+int tell(const CliSession& session, const CliOptions& options, const CliMedium& medium,
+         const ReportHead& head) {
+    for (const QString& alert : session.alerts()) {
+        complain(alert);
+    }
+    tellEnd(session.searchEnd(), options, medium);
+    bool allRead = true;
+    if (options.listJson) {
+        allRead = printJson(session);
+    } else {
+        printTable(session);
+    }
+    if (!options.saveFolder.isEmpty()) {
+        tellSaving(session, options);
+        tellMending(session, options);
+    }
+    if (options.report && !writeReportOf(session, options, head)) {
+        return kExitDestinationTrouble;
+    }
+    // A list that a full disk cut short looks complete to a script.
+    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+        complain(QStringLiteral("What was found cannot be written to the standard output."));
+        return kExitDestinationTrouble;
+    }
+    const int code = exitCodeOf(session);
+    if (!allRead) {
+        complain(QStringLiteral("Not all items could be read once more; those have no checksum."));
+        return code == kExitCompleted ? kExitReadError : code;
+    }
+    return code;
+}
+
+bool tellCopy(const MediumCopy& copy, const CliOptions& options) {
+    const CopyProgress progress = copy.progress();
+    std::fprintf(options.listJson ? stderr : stdout, "Copy: %s\n", qPrintable(copyEndWords(progress)));
+    if (!progress.trouble.isEmpty()) {
+        complain(progress.trouble);
+    }
+    return progress.trouble.isEmpty();
+}
+
+}  // namespace vantor
