@@ -1,6 +1,5 @@
 // vantor-read-card: reads a card's file systems in the program's place; started like vantor-decode, and given
 // no descriptor of the medium: it asks for sectors.
-#include <time.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -11,8 +10,8 @@
 #include <vector>
 
 #include "decode/CardExchange.h"
-#include "decode/Sanitized.h"
 #include "decode/helper/Cage.h"
+#include "decode/helper/CagedStart.h"
 #include "decode/helper/Channel.h"
 #include "filesystem/CachedSource.h"
 #include "filesystem/CardReader.h"
@@ -111,16 +110,8 @@ int main(int argc, char** argv) {
         return EXIT_FAILURE;
     }
     silenceErrors();
-    tzset();
-    CageOptions options;
-    options.parent = static_cast<pid_t>(std::strtol(argv[1], nullptr, 10));
-    bool parentGone = false;
-    const bool caged = enterCage(options, parentGone);
     Channel channel(kHelperSocket);
-    // Outside the cage nothing is read; the program is told, and says why.
-    if (parentGone || !channel.sayReady(caged) || (!caged && !kSanitized)) {
-        _exit(EXIT_SUCCESS);
-    }
+    enterCageOrEnd(channel, argv[1]);
     bool done = false;
     try {
         done = readOne(channel);

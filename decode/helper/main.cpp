@@ -1,7 +1,6 @@
 // vantor-decode: decodes carved pictures in the program's place. Started by the program only, with its
 // process id as the argument and a socket as descriptor 3.
 #include <malloc.h>
-#include <time.h>
 #include <unistd.h>
 
 #include <QCoreApplication>
@@ -9,8 +8,8 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "decode/Sanitized.h"
 #include "decode/helper/Cage.h"
+#include "decode/helper/CagedStart.h"
 #include "decode/helper/Channel.h"
 #include "decode/helper/PictureDecoder.h"
 
@@ -26,20 +25,11 @@ int main(int argc, char** argv) {
     constexpr int kLargeBytes = 1024 * 1024;
     mallopt(M_ARENA_MAX, 1);
     mallopt(M_MMAP_THRESHOLD, kLargeBytes);
-    // Reads the time zone before the cage shuts its files away.
-    tzset();
     QCoreApplication application(argc, argv);
     preparePictureDecoders();
 
-    CageOptions options;
-    options.parent = static_cast<pid_t>(std::strtol(argv[1], nullptr, 10));
-    bool parentGone = false;
-    const bool caged = enterCage(options, parentGone);
     Channel channel(kHelperSocket);
-    // Outside the cage nothing is decoded; the program is told, and says why.
-    if (parentGone || !channel.sayReady(caged) || (!caged && !kSanitized)) {
-        _exit(EXIT_SUCCESS);
-    }
+    enterCageOrEnd(channel, argv[1]);
     // Pictures are decoded side by side by processes; a thread of the pool itself gets no others to help it.
     QThreadPool::globalInstance()->setMaxThreadCount(1);
     QThreadPool::globalInstance()->start([&channel] {

@@ -1,6 +1,5 @@
 // vantor-decode-movie: decodes carved movies in the program's place; started like vantor-decode, one for a
 // movie's pictures and one for its sound.
-#include <time.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -10,8 +9,8 @@
 #include <exception>
 #include <vector>
 
-#include "decode/Sanitized.h"
 #include "decode/helper/Cage.h"
+#include "decode/helper/CagedStart.h"
 #include "decode/helper/Channel.h"
 #include "decode/helper/PixelCopy.h"
 #include "decode/movie/MovieFile.h"
@@ -142,16 +141,8 @@ int main(int argc, char** argv) {
     }
     silenceErrors();
     av_log_set_level(AV_LOG_QUIET);
-    tzset();
-    CageOptions options;
-    options.parent = static_cast<pid_t>(std::strtol(argv[1], nullptr, 10));
-    bool parentGone = false;
-    const bool caged = enterCage(options, parentGone);
     Channel channel(kHelperSocket);
-    // Outside the cage nothing is decoded; the program is told, and says why.
-    if (parentGone || !channel.sayReady(caged) || (!caged && !kSanitized)) {
-        _exit(EXIT_SUCCESS);
-    }
+    enterCageOrEnd(channel, argv[1]);
     MovieJobDecoder decoder;
     // Past every clean-up that a damaged heap could trip over.
     _exit(channel.serve(decoder) ? EXIT_SUCCESS : EXIT_FAILURE);
