@@ -67,14 +67,26 @@ void ReadAhead::start(std::uint64_t sector, std::shared_ptr<const SectorScreen> 
     m_running = true;
 }
 
-void ReadAhead::pause() {
+std::vector<SectorRun> ReadAhead::pause() {
+    std::vector<SectorRun> refused;
     if (!m_running) {
-        return;
+        return refused;
     }
     m_running = false;
     std::unique_lock lock(m_mutex);
     m_go = false;
     m_arrived.wait(lock, [this] { return m_busy == 0; });
+    const std::uint64_t sectors = m_windowBytes / kSectorBytes;
+    const std::uint64_t end = m_source.sectors() != 0 ? m_source.sectors() : ~std::uint64_t{0};
+    for (std::uint64_t window = m_windowsTaken; window < m_windowsBegun; ++window) {
+        const std::int64_t length = m_slots[window % m_slots.size()].length;
+        const std::uint64_t first = m_firstSector + window * sectors;
+        const std::uint64_t good = length > 0 ? static_cast<std::uint64_t>(length) / kSectorBytes : 0;
+        if (good < sectors && first + good < end) {
+            refused.push_back({first + good, good == 0 ? std::min(first + sectors, end) : first + good + 1});
+        }
+    }
+    return refused;
 }
 
 ReadAhead::Window ReadAhead::take() {

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "media/BlockSource.h"
+#include "media/SectorRun.h"
 #include "media/SectorScreen.h"
 
 namespace vantor {
@@ -29,8 +30,10 @@ class ReadAhead {
     // look.
     void start(std::uint64_t sector, std::shared_ptr<const SectorScreen> screen);
 
-    // Ends after the windows being read and drops what was fetched.
-    void pause();
+    // Ends after the windows being read and drops what was fetched; the sectors that the medium was asked for
+    // in vain meanwhile, without the owner having heard of it: the one that was refused, or, of a window that
+    // was refused whole, all of it.
+    std::vector<SectorRun> pause();
 
     // True when the next window to be taken begins at the sector.
     bool isAt(std::uint64_t sector) const { return m_running && m_nextTaken == sector; }

@@ -65,12 +65,14 @@ bool WindowedReader::fetchQuiet() {
     return true;
 }
 
-// Up to the first sector that is known to be refused, and to the first whose bytes are not wanted.
+// Up to the first sector that is known to be refused, at one attempt or two, and to the first whose bytes are
+// not wanted.
 std::size_t WindowedReader::sectorsToFetch() const {
     const std::uint64_t forAll =
         m_refusedForAll ? m_refusedForAll->firstFrom(position()) : std::numeric_limits<std::uint64_t>::max();
-    const auto most = static_cast<std::size_t>(std::min<std::uint64_t>(
-        m_windowSectors, std::min(m_refused.firstFrom(position()), forAll) - position()));
+    const std::uint64_t end =
+        std::min({m_refused.firstFrom(position()), forAll, firstAttemptFrom(position())});
+    const auto most = static_cast<std::size_t>(std::min<std::uint64_t>(m_windowSectors, end - position()));
     if (!m_recall || m_bytesWanted) {
         return most;
     }
@@ -125,7 +127,9 @@ bool WindowedReader::fetchWindow(std::size_t wanted) {
     // One window alone is read by many a copy; the second in a row is the sign of a scan. Refusals end the
     // reading ahead, which knows nothing of them.
     const bool sequential = std::exchange(m_windowEnd, position() + sectors) == position();
-    const bool nothingRefused = m_refused.runs() == 0 && (!m_refusedForAll || m_refusedForAll->isEmpty());
+    std::erase_if(m_attemptedAhead, [this](const SectorRun& run) { return run.end <= position(); });
+    const bool nothingRefused =
+        m_refused.runs() == 0 && m_attemptedAhead.empty() && (!m_refusedForAll || m_refusedForAll->isEmpty());
     if (m_ahead && sequential && sectors == m_windowSectors && nothingRefused &&
         !m_ahead->isAt(m_windowEnd)) {
         stopReadingAhead();
@@ -166,13 +170,38 @@ bool WindowedReader::readSingleOrRefuse(std::uint64_t sector) {
     if (readSingle(sector)) {
         return true;
     }
-    const bool secondAttempt = sector >= m_attemptedFrom && sector < m_attemptedUntil;
-    m_attemptedFrom = m_attemptedUntil = 0;
+    const bool secondAttempt = takeAttempt(sector);
     if (!secondAttempt && !noteWhetherGone() && readSingle(sector)) {
         return true;
     }
     refuseRestOfBlock(sector);
     return false;
+}
+
+// Whether the sector stands in a window that was refused before; only one refusal of it is the second
+// attempt.
+bool WindowedReader::takeAttempt(std::uint64_t sector) {
+    const bool attempted = sector >= m_attemptedFrom && sector < m_attemptedUntil;
+    m_attemptedFrom = m_attemptedUntil = 0;
+    const auto ahead =
+        std::find_if(m_attemptedAhead.begin(), m_attemptedAhead.end(),
+                     [&](const SectorRun& run) { return run.first <= sector && sector < run.end; });
+    if (ahead == m_attemptedAhead.end()) {
+        return attempted;
+    }
+    m_attemptedAhead.erase(ahead);
+    return true;
+}
+
+// The sector itself where it was attempted; the largest number there is when nothing follows.
+std::uint64_t WindowedReader::firstAttemptFrom(std::uint64_t sector) const {
+    std::uint64_t first = std::numeric_limits<std::uint64_t>::max();
+    for (const SectorRun& run : m_attemptedAhead) {
+        if (sector < run.end) {
+            first = std::min(first, std::max(sector, run.first));
+        }
+    }
+    return first;
 }
 
 void WindowedReader::refuseRestOfBlock(std::uint64_t sector) {
@@ -200,7 +229,8 @@ void WindowedReader::setScreen(std::shared_ptr<const SectorScreen> screen) {
 
 void WindowedReader::stopReadingAhead() {
     if (m_ahead) {
-        m_ahead->pause();
+        const std::vector<SectorRun> attempted = m_ahead->pause();
+        m_attemptedAhead.insert(m_attemptedAhead.end(), attempted.begin(), attempted.end());
     }
 }
 

@@ -71,6 +71,8 @@ class WindowedReader : public SectorReader {
         return m_refusedForAll && m_refusedForAll->contains(sector);
     }
     bool isInDeadStretch(std::uint64_t sector) const;
+    bool takeAttempt(std::uint64_t sector);
+    std::uint64_t firstAttemptFrom(std::uint64_t sector) const;
     void stopReadingAhead();
     bool readSingle(std::uint64_t sector);
     void goSingle(std::uint64_t from);
@@ -95,6 +97,8 @@ class WindowedReader : public SectorReader {
     // The sectors for the first of which to be refused alone that is the second attempt, after their window.
     std::uint64_t m_attemptedFrom = 0;
     std::uint64_t m_attemptedUntil = 0;
+    // The same of windows that were read ahead and never taken, in their order.
+    std::vector<SectorRun> m_attemptedAhead;
     SectorSet m_refused;
     std::uint64_t m_refusals = 0;  // sectors
     std::shared_ptr<RefusedSectors> m_refusedForAll;

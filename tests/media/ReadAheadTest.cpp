@@ -1,9 +1,13 @@
 // Reading ahead shows nowhere but in its speed either.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <condition_variable>
+#include <map>
+#include <mutex>
 #include <random>
+#include <thread>
 
 #include "media/ReadAhead.h"
 #include "media/WindowedReader.h"
@@ -53,7 +57,67 @@ class SlowRefusal : public BlockSource {
     std::uint64_t m_furthest = 0;
 };
 
+// Two bad sectors in windows that follow each other; the first of these windows is answered behind the
+// second.
+class TwoRefusals : public BlockSource {
+  public:
+    static constexpr std::uint64_t kSectors = 96;
+
+    TwoRefusals(std::uint64_t first, std::uint64_t second) : m_first(first), m_second(second) {}
+
+    std::int64_t readAt(std::uint64_t sector, std::span<std::uint8_t> into) override {
+        std::unique_lock lock(m_mutex);
+        const std::uint64_t wanted = std::min<std::uint64_t>(into.size() / kSectorBytes, kSectors - sector);
+        const auto holds = [&](std::uint64_t bad) { return sector <= bad && bad < sector + wanted; };
+        if (holds(m_first)) {
+            m_answered.wait(lock, [this] { return !refusals.empty(); });
+        }
+        if (!holds(m_first) && !holds(m_second)) {
+            std::fill_n(into.data(), wanted * kSectorBytes, std::uint8_t{1});
+            return static_cast<std::int64_t>(wanted * kSectorBytes);
+        }
+        const std::uint64_t bad = holds(m_first) ? m_first : m_second;
+        ++refusals[bad];
+        m_answered.notify_all();
+        std::fill_n(into.data(), (bad - sector) * kSectorBytes, std::uint8_t{1});
+        return bad == sector ? -1 : static_cast<std::int64_t>((bad - sector) * kSectorBytes);
+    }
+    bool usable() override { return true; }
+    std::uint64_t sectors() const override { return kSectors; }
+
+    std::map<std::uint64_t, int> refusals;  // by sector
+
+  private:
+    const std::uint64_t m_first, m_second;
+    std::mutex m_mutex;
+    std::condition_variable m_answered;
+};
+
 }  // namespace
+
+TEST(ReadAhead, WhatWasRefusedInAWindowThatNobodyTook_IsAskedForOnceMoreOnly) {
+    if (std::thread::hardware_concurrency() < 2) {
+        GTEST_SKIP() << "nothing is read ahead on one processor";
+    }
+    constexpr std::size_t kShortWindow = 8;
+    // Within the next window, and as its first, of which a refusal does not say where it was.
+    for (const std::uint64_t second : {36U, 32U}) {
+        SCOPED_TRACE(second);
+        auto source = std::make_unique<TwoRefusals>(26, second);
+        const TwoRefusals& medium = *source;
+        WindowedReader reader(std::move(source), WindowedReader::Fetching::Ahead, kShortWindow);
+        std::vector<std::uint64_t> failed;
+        for (std::uint64_t sector = 0; sector < TwoRefusals::kSectors; ++sector) {
+            if (!reader.read()) {
+                failed.push_back(sector);
+                ASSERT_TRUE(reader.seek(sector + 1));
+            }
+        }
+        EXPECT_EQ(failed, (std::vector<std::uint64_t>{26, second}));
+        EXPECT_EQ(medium.refusals.at(26), 2);
+        EXPECT_EQ(medium.refusals.at(second), 2);
+    }
+}
 
 TEST(ReadAhead, WhileAWindowIsRefused_TheLastGoodSectorStaysInPlace) {
     constexpr std::uint64_t kRefused = 10 * kWindow;
