@@ -137,6 +137,8 @@ TEST_P(KeptSearch, KilledAtAnyMoment_GoesOnAsIfItHadNotBeen) {
 }
 
 TEST_P(KeptSearch, GoneOnWith_ReadsOnlyTheRestOfTheMedium) {
+    // What was read ahead and is dropped at a stop must be little of so small a medium.
+    constexpr std::size_t kSmallWindow = 64;
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("search"));
     RandomScans random(22);
@@ -145,7 +147,7 @@ TEST_P(KeptSearch, GoneOnWith_ReadsOnlyTheRestOfTheMedium) {
     Asked asked;
     const auto open = [&](const QString&) {
         return std::make_unique<WindowedReader>(std::make_unique<CountedBlocks>(search.medium, asked),
-                                                GetParam());
+                                                GetParam(), kSmallWindow);
     };
     const auto run = [&](SearchRecord record, std::uint64_t stopAt) {
         TestSession session(search.medium);
