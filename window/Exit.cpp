@@ -93,6 +93,7 @@ bool MyTableController::mayLeaveUnsaved(const QString& consequence, const QStrin
 
 bool MyTableController::shutDown(std::chrono::milliseconds patience) {
     m_ending = true;
+    *m_leaving = true;
     m_queue.close();
     m_pump.stop();
     if (m_thumbnails) {
@@ -118,6 +119,7 @@ bool MyTableController::shutDown(std::chrono::milliseconds patience) {
         }
     }
     m_desk->join();
+    m_copied.set({}, nullptr);
     return true;
 }
 
