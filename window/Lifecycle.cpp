@@ -30,9 +30,9 @@ MyTableController::MyTableController(ProgramParts parts)
     Recovery_MODE = kPhotoMode;
     m_previewFolder = previewFolder(m_parts.resourcesFolder);
     m_previewHold = PreviewFolderHold(m_previewFolder);
-    setMediumOpener(m_parts.openMedium);
-    setAskCard(m_parts.askCard);
     m_parts.openMedium = knowingRefusals(std::move(m_parts.openMedium));
+    setMediumOpener([this](const QString& device) { return openForSearch(device); });
+    setAskCard(m_parts.askCard);
     m_parts.openBeside = knowingRefusals(std::move(m_parts.openBeside));
     setThumbnailer(m_parts.thumbnailer);
     if (m_parts.thumbnailer) {

@@ -20,12 +20,15 @@ void MyTableController::startScan(void (ScanSession::*driver)()) {
     m_searchEnded = false;
     searchEndBar->hide();
     m_inputs = readInputs();
+    m_readsAsErased = false;
+    m_searchMilliseconds = 0;
+    m_mayBeErased = m_parts.askCard && m_inputs.range[static_cast<std::size_t>(activeSet())].entireDisk == 1;
     showEmptyResults();
     if (m_thumbnails) {
         m_thumbnails->cancel();
         m_thumbnails->resume();
     }
-    m_desk->forget();
+    forgetItems();
     idSigTableView->clearSelection();
     showChosenType();
     showDestination();
@@ -43,6 +46,7 @@ void MyTableController::startScan(void (ScanSession::*driver)()) {
     m_driver = std::thread([this, driver] {
         (this->*driver)();
         mSetLabelTimer->invalidate();
+        later([this, told = toldFiles()] { takeToldFiles(told); });
         m_driverRunning = false;
     });
     m_timerThread = std::thread([this] {
