@@ -4,6 +4,7 @@
 #include "catalogue/FileTypeList.h"
 #include "results/RecoveryMode.h"
 #include "window/MyTableController.h"
+#include "window/keeping/KeepingBox.h"
 #include "window/widgets/Alerts.h"
 
 namespace vantor {
@@ -186,6 +187,8 @@ void MyTableController::backToMedia() {
     if (itemCount() > 0) {
         emptyBrowsers();  // they are of the medium that is left
     }
+    m_copied.set({}, nullptr);
+    m_keepingBox->setCopyPlace({}, {});
     setMode(kPhotoMode);
     Reload_Drive_list_Function();
     homeOfScreen()->setFocus();
@@ -267,6 +270,7 @@ void MyTableController::showWhereWeAre() {
     stepTrail->setSteps(steps, screen_counter);
     contextBar->setVisible(screen_counter > 0);
     showLeftItemsBar();
+    showKeeping();
     bodyScroll->verticalScrollBar()->setValue(0);
     // Once the new screen is laid out.
     QTimer::singleShot(0, this, [this] {

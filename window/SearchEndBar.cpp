@@ -33,12 +33,16 @@ void MyTableController::showSearchEnd() {
     if (m_readsAsErased) {
         sentences << QString::fromLatin1(kErasedCardWords);
     }
+    if (m_memory->keeper() && !m_memory->keeper()->error().isEmpty()) {
+        sentences << tr("The search could not be remembered: %1.").arg(m_memory->keeper()->error());
+    }
     sentences.removeAll(QString());
     searchEndLabel->setText(sentences.join(u' '));
     const QString picture = end.isFlawless() ? QStringLiteral("ok") : QStringLiteral("info");
     const int edge = searchEndIcon->minimumWidth();
     searchEndIcon->setPixmap(ownIcon(picture).pixmap(edge, edge));
     tryBadSectorsButton->setVisible(end.unreadable != 0);
+    m_goOnButton->setVisible(end.canGoOn() && onScanScreen());
     searchEndBar->setVisible(!sentences.isEmpty());
     showSearchSum();
 }

@@ -49,6 +49,8 @@ void MyTableController::loadInterface() {
     dressRangeSets();
     setUpTables();
     setUpBrowsers();
+    setUpKeeping();
+    setUpCardStrip();
     setEmptyStates();
     buildGroupBoxes();
 
