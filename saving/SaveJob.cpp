@@ -111,7 +111,7 @@ bool SaveJob::saveItem(std::size_t place, SectorReader* medium, WaitingClaims* l
     const std::lock_guard lock(m_lock);
     ++m_progress.turn;
     if (outcome.later) {
-        later->add(place, outcome.bytes, item.carved(), outcome.verdict == Verdict::Complete);
+        later->add(place, outcome.bytes, item.carved(), outcome.comesFirst());
         m_sectorsOfCurrent = 0;
         return true;
     }

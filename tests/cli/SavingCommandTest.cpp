@@ -198,6 +198,8 @@ TEST(SavingCommand, OptionsThatMakeNoSenseAreRefused) {
                                          {"--min-bytes", "5", "x"},
                                          {"--save", "/tmp", "--min-bytes", "many", "x"},
                                          {"--skip-unsound", "x"},
+                                         {"--parts", "x"},
+                                         {"--save", "/tmp", "--as-published", "--parts", "x"},
                                          {"--complete", "x"},
                                          {"--repair-movies", "x"},
                                          {"--save", "/tmp", "--reference", "y", "x"},
