@@ -69,7 +69,7 @@ SaveOptions::SaveOptions()
       skipUnsound(option("skip-unsound", "Do not save what is certainly no file of its type.")),
       complete(option(
           "complete",
-          "Put MP4 and QuickTime movies and JPEG photos together that lie in pieces, as \"... "
+          "Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as \"... "
           "complete.MP4\", or as \"... put together.MP4\" where it could not be proved that all pieces "
           "are the right ones.")),
       repairMovies(
