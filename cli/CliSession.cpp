@@ -9,7 +9,6 @@
 #include "repair/MovieCompletion.h"
 #include "repair/PhotoCompletion.h"
 #include "results/PreviewCopy.h"
-#include "results/ToldFiles.h"
 #include "saving/Sha256.h"
 
 namespace vantor {
@@ -136,11 +135,7 @@ void CliSession::saveToldFiles() {
         return;
     }
     for (const auto& file : toldFiles()) {
-        const QString extension = pathExtension(file->name).toUpper();
-        FoundItem item{extension.isEmpty() ? QStringLiteral("FILE") : extension,
-                       file->name,
-                       {runsOf(*file), {}, [medium] { return medium; }, medium->mediumSectors()}};
-        item.source.hints = {card(), file};
+        const FoundItem item = toldItem(file, card(), *medium);
         SaveOutcome outcome = m_queue->saver().save(item);
         if (outcome.leftOut == LeftOut::Unsound) {
             continue;

@@ -67,6 +67,10 @@ SaveOptions::SaveOptions()
       minPixels(option("min-pixels", "Do not save pictures whose longer side has fewer pixels.", "N")),
       keepDuplicates(option("keep-duplicates", "Save the same bytes again when they are found again.")),
       skipUnsound(option("skip-unsound", "Do not save what is certainly no file of its type.")),
+      parts(
+          option("parts",
+                 "Save parts of files too, such as a picture's preview or a member of an archive: what lies "
+                 "wholly inside a file that was proved complete, and is left out else.")),
       complete(option(
           "complete",
           "Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as \"... "
@@ -82,7 +86,7 @@ SaveOptions::SaveOptions()
 
 void SaveOptions::addTo(QCommandLineParser& parser) const {
     parser.addOptions({save, asPublished, report, names, folders, lostOnly, byDate, minBytes, minPixels,
-                       keepDuplicates, skipUnsound, complete, repairMovies, reference});
+                       keepDuplicates, skipUnsound, parts, complete, repairMovies, reference});
 }
 
 std::optional<QString> SaveOptions::read(const QCommandLineParser& parser, CliOptions& options) const {
@@ -91,13 +95,14 @@ std::optional<QString> SaveOptions::read(const QCommandLineParser& parser, CliOp
         return QStringLiteral("--save takes a folder.");
     }
     for (const auto* other : {&asPublished, &report, &names, &folders, &lostOnly, &byDate, &minBytes,
-                              &minPixels, &keepDuplicates, &skipUnsound, &complete, &repairMovies}) {
+                              &minPixels, &keepDuplicates, &skipUnsound, &parts, &complete, &repairMovies}) {
         if (parser.isSet(*other) && !parser.isSet(save)) {
             return QStringLiteral("--%1 goes with --save.").arg(other->names().constFirst());
         }
     }
-    if (parser.isSet(asPublished) && (parser.isSet(byDate) || parser.isSet(names) || parser.isSet(folders) ||
-                                      parser.isSet(minPixels) || parser.isSet(skipUnsound))) {
+    if (parser.isSet(asPublished) &&
+        (parser.isSet(byDate) || parser.isSet(names) || parser.isSet(folders) || parser.isSet(minPixels) ||
+         parser.isSet(skipUnsound) || parser.isSet(parts))) {
         return QStringLiteral(
             "--as-published looks into no file, so it knows neither names nor dates nor pixels nor "
             "soundness.");
@@ -131,6 +136,7 @@ std::optional<QString> SaveOptions::read(const QCommandLineParser& parser, CliOp
     policy.lostOnly = parser.isSet(lostOnly);
     policy.skipDuplicates = !parser.isSet(keepDuplicates) && !policy.asPublished;
     policy.skipUnsound = parser.isSet(skipUnsound);
+    policy.parts = parser.isSet(parts);
     policy.minBytes = *leastBytes;
     constexpr quint64 kMostPixels = std::numeric_limits<std::uint32_t>::max();
     policy.minPixels = static_cast<std::uint32_t>(std::min(*leastPixels, kMostPixels));

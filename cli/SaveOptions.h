@@ -18,7 +18,7 @@ struct SaveOptions {
     std::optional<QString> read(const QCommandLineParser& parser, CliOptions& options) const;
 
     QCommandLineOption save, asPublished, report, names, folders, lostOnly, byDate, minBytes, minPixels,
-        keepDuplicates, skipUnsound, complete, repairMovies, reference;
+        keepDuplicates, skipUnsound, parts, complete, repairMovies, reference;
 };
 
 }  // namespace vantor

@@ -32,7 +32,7 @@ _vantor_recovery_cli() {
     if [[ $cur == -* ]]; then
         COMPREPLY=($(compgen -W '--help --version --mode --types --range --no-thorough --catalogue
             --save --as-published --report --names --folders --lost-only --by-date --min-bytes --min-pixels --keep-duplicates
-            --skip-unsound
+            --skip-unsound --parts
             --retry-bad
             --session --resume
             --map

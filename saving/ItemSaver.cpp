@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "results/TrueLength.h"
+#include "saving/FilesWithin.h"
 #include "saving/FreeSpace.h"
 #include "saving/LengthClaims.h"
 #include "saving/SavedFiles.h"
@@ -52,6 +53,10 @@ std::uint64_t firstSectorOf(const FoundItem& item) {
     return item.source.carved.runs.empty() ? 0 : item.source.carved.runs.front().first;
 }
 
+std::uint64_t firstByteOf(const FoundItem& item) {
+    return firstSectorOf(item) * kSectorBytes;
+}
+
 // As the directory has it, else as the file tells itself.
 std::optional<std::int64_t> timeOf(const SaveOutcome& outcome) {
     if (outcome.original && outcome.original->modified) {
@@ -75,9 +80,12 @@ struct ItemSaver::State {
     std::array<std::vector<std::uint8_t>, 2> chunks;
     BackgroundSha256 sum;
     SavedFiles saved;
+    FilesWithin within;                  // those of the choice at hand
+    FilesWithin waiting;                 // that will perhaps be
     std::optional<LengthClaims> claims;  // of the choice at hand
     std::optional<dev_t> device;         // that the destination was on first
     std::set<QString> folders;           // below it, that were written into
+    QStringList madeFolders;             // that were not there before this saver; the outer ones first
 };
 
 // What is being written, and where to.
@@ -129,12 +137,15 @@ SaveOutcome ItemSaver::save(const FoundItem& item) const {
         outcome.error = cancelledText();
     } else if (chosen) {
         saveBytes(item, *destination, bytes, outcome);
+        noteWhole(item, outcome);
     }
     return outcome;
 }
 
 void ItemSaver::beginRound() const {
     m_state->claims.reset();
+    m_state->within.clear();
+    m_state->waiting.clear();
 }
 
 void ItemSaver::beginSecondRound() const {
@@ -172,6 +183,16 @@ void ItemSaver::flush() const {
     for (const QString& folder : std::exchange(m_state->folders, {})) {
         if (const auto below = destination ? destination->below(folder) : std::nullopt) {
             below->flush();
+        }
+    }
+    if (!destination || destination->device() != m_state->device) {
+        return;
+    }
+    // Where every item failed, or went where the card had it, there is nothing for them to hold.
+    QStringList& made = m_state->madeFolders;
+    for (qsizetype i = made.size() - 1; i >= 0; --i) {
+        if (destination->removeIfEmpty(made[i])) {
+            made.removeAt(i);
         }
     }
 }
@@ -285,6 +306,9 @@ bool ItemSaver::decideLength(const FoundItem& item, ItemBytes& found, SaveOutcom
     outcome.height = facts.height;
     bytes.expect(length.bytes);
     if (outcome.later) {
+        if (outcome.verdict == Verdict::Complete) {
+            m_state->waiting.note(item.type, item.name, firstByteOf(item), outcome.bytes, outcome.checked);
+        }
         return false;
     }
     const std::uint32_t longerSide = std::max(facts.width, facts.height);
@@ -296,19 +320,48 @@ bool ItemSaver::decideLength(const FoundItem& item, ItemBytes& found, SaveOutcom
         outcome.leftOut = LeftOut::Unsound;
     } else if (m_policy.skipUnsound && isCertainlyUnsound(item.type, length.extent)) {
         outcome.leftOut = LeftOut::Unsound;
+    } else if (isPart(item, outcome)) {
+        outcome.leftOut = LeftOut::Part;
     }
-    return outcome.leftOut == LeftOut::No;
+    return outcome.leftOut == LeftOut::No && !outcome.later;
+}
+
+// What the card's directory knows, and what lies in pieces, is a file of its own. What may be a part of a
+// file that has to wait waits as well.
+bool ItemSaver::isPart(const FoundItem& item, SaveOutcome& outcome) const {
+    if (m_policy.parts || m_policy.asPublished || outcome.original || outcome.pieces > 1) {
+        return false;
+    }
+    const std::uint64_t first = firstByteOf(item);
+    if (const auto holder = m_state->within.holderOf(item.type, first, outcome.bytes)) {
+        outcome.partOf = *holder;
+        return true;
+    }
+    const auto holder = m_state->waiting.holderOf(item.type, first, outcome.bytes);
+    if (item.mayWait && holder) {
+        outcome.partOf = *holder;
+        outcome.later = true;
+    }
+    return false;
+}
+
+void ItemSaver::noteWhole(const FoundItem& item, const SaveOutcome& outcome) const {
+    if (outcome.saved && outcome.verdict == Verdict::Complete && outcome.pieces <= 1 &&
+        outcome.sectorsUnreadable == 0 && !item.source.carved.readFailed) {
+        m_state->within.note(item.type, item.name, firstByteOf(item), outcome.bytes, outcome.checked);
+    }
 }
 
 // The folder of the name, made where it is absent. Where something else bears the name of a folder of the
 // card's the item goes to its type's.
 std::optional<SavingFolder> ItemSaver::folderFor(const FoundItem& item, const SavingFolder& destination,
                                                  SavedName& name, SaveOutcome& outcome) const {
-    auto folder = destination.below(name.folder);
+    QStringList& made = m_state->madeFolders;
+    auto folder = destination.below(name.folder, &made);
     if (!folder && name.asOnCard) {
         name.folder = safePathComponent(item.type);
         name.asOnCard = false;
-        folder = destination.below(name.folder);
+        folder = destination.below(name.folder, &made);
     }
     if (!folder) {
         const bool leadsAway = errno == ELOOP || errno == ENOTDIR || errno == EXDEV;
@@ -481,7 +534,7 @@ std::uint64_t ItemSaver::copyBytes(const FoundItem& item, std::uint64_t length, 
 
 std::optional<Soundness> soundnessOf(const SaveOutcome& outcome) {
     const bool known =
-        outcome.saved || outcome.leftOut == LeftOut::TooSmall || outcome.leftOut == LeftOut::Unsound;
+        outcome.saved || (outcome.leftOut != LeftOut::No && outcome.leftOut != LeftOut::StillThere);
     if (!known) {
         return std::nullopt;
     }

@@ -27,13 +27,14 @@ class SavingFolder;
 class WholeFile;
 
 // Why an item was not written although nothing failed.
-enum class LeftOut { No, TooSmall, Unsound, StillThere };
+enum class LeftOut { No, TooSmall, Unsound, StillThere, Part };
 
 struct SaveOutcome {
     bool saved = false;      // its bytes lie at `path`
     bool duplicate = false;  // saved, as bytes that were saved before: `path` is the earlier file or a second
                              // name of it
     LeftOut leftOut = LeftOut::No;
+    QString partOf;      // the name of the file that the item was left out for as its part, or waits for
     bool later = false;  // nothing was decided: the item has its turn in the second round
     QString path;
     QString error;                        // a sentence for the user when saving failed
@@ -50,6 +51,9 @@ struct SaveOutcome {
     QByteArray sha256;                         // raw; may be empty where the policy asks for none
     std::shared_ptr<const CardFile> original;  // null where the card does not tell
     std::size_t pieces = 1;                    // on the medium, as the bytes were put together
+
+    // Among those that wait: whole files before broken ones, and before what may be their parts.
+    bool comesFirst() const { return verdict == Verdict::Complete && partOf.isEmpty(); }
 };
 
 // What saving found out; nothing when it did not come that far.
@@ -74,6 +78,9 @@ struct FoundItem {
 // that several types share) the file gets a second name there, or is written again where the file system has
 // no second names. Files that lie in the type's folder from earlier are known by their bytes too. Zeros in
 // place of what could not be read count for nothing here.
+//
+// What lies within a file of the same choice that is saved whole is left out, unless the policy or the card
+// says otherwise; see FilesWithin.
 //
 // An item that claims far more than was carved of it waits for the others, where it may; see LengthClaims.
 class ItemSaver {
@@ -113,6 +120,8 @@ class ItemSaver {
     bool moveAsOnCard(const FoundItem& item, const CardFile& file, SaveOutcome& outcome) const;
     void remove(const QString& path) const;
     bool isStillThere(const FoundItem& item) const;
+    bool isPart(const FoundItem& item, SaveOutcome& outcome) const;
+    void noteWhole(const FoundItem& item, const SaveOutcome& outcome) const;
     bool decideLength(const FoundItem& item, ItemBytes& bytes, SaveOutcome& outcome) const;
     TrueLength lengthOf(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const;
     void saveBytes(const FoundItem& item, const SavingFolder& destination, ItemBytes& bytes,

@@ -85,6 +85,7 @@ QString reasonText(const SaveOutcome& outcome) {
     if (outcome.leftOut != LeftOut::No) {
         return outcome.leftOut == LeftOut::TooSmall  ? QStringLiteral("smaller than asked for")
                : outcome.leftOut == LeftOut::Unsound ? QStringLiteral("no file of its type")
+               : outcome.leftOut == LeftOut::Part    ? QStringLiteral("part of ") + outcome.partOf
                                                      : QStringLiteral("still there as a file");
     }
     return outcome.error;

@@ -27,6 +27,7 @@ struct SavePolicy {
     std::uint64_t minBytes = 0;   // smaller files are left out
     std::uint32_t minPixels = 0;  // pictures whose longer side has fewer pixels are left out
     bool checksums = true;        // a checksum of every file, as the report tells it
+    bool parts = false;           // what is a part of a file that is saved whole is saved as well
     bool skipUnsound = false;     // what is certainly no file of its type is left out
 
     friend bool operator==(const SavePolicy&, const SavePolicy&) = default;

@@ -96,7 +96,7 @@ void SaveQueue::save(SaveTask& task) {
         m_done(task, outcome);
         return;
     }
-    m_later.add(task.place, outcome.bytes, task.carved, outcome.verdict == Verdict::Complete);
+    m_later.add(task.place, outcome.bytes, task.carved, outcome.comesFirst());
     m_laterTasks[task.place] = {task.type, task.name, task.carved, {}, task.hints, task.place};
 }
 

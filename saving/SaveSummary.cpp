@@ -70,6 +70,7 @@ QString summaryDetails(const SaveSummary& summary) {
     leftOut(tally.tooSmall, QObject::tr("smaller than you asked for"));
     leftOut(tally.unsound, QObject::tr("certainly no files of their type"));
     leftOut(tally.stillThere, QObject::tr("still there as files on the card"));
+    leftOut(tally.parts, QObject::tr("parts of files that are saved whole"));
     if (tally.failed > 0) {
         lines << failureLines(tally);
     }

@@ -10,6 +10,7 @@ void SaveTally::add(const QString& name, const SaveOutcome& outcome) {
     if (outcome.leftOut != LeftOut::No) {
         ++(outcome.leftOut == LeftOut::TooSmall  ? tooSmall
            : outcome.leftOut == LeftOut::Unsound ? unsound
+           : outcome.leftOut == LeftOut::Part    ? parts
                                                  : stillThere);
         return;
     }
@@ -78,6 +79,7 @@ QStringList SaveTally::lines(const QString& destination) const {
     line(tooSmall, "left out: smaller than asked for");
     line(unsound, "left out: no files of their type");
     line(stillThere, "left out: still there as files on the card");
+    line(parts, "left out: parts of files that are saved whole");
     return lines;
 }
 

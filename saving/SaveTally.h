@@ -26,6 +26,7 @@ struct SaveTally {
     std::uint64_t tooSmall = 0;
     std::uint64_t unsound = 0;
     std::uint64_t stillThere = 0;
+    std::uint64_t parts = 0;
     std::uint64_t named = 0;  // of those saved: the card told their names
     std::uint64_t failed = 0;
     QStringList failures;  // the first few, a sentence each

@@ -16,9 +16,10 @@
 //   Browsers                    window/Browsers.cpp
 //   Preview                     window/Preview.cpp
 //   Movie                       window/MoviePreview.cpp
-//   Saving                      window/Saving.cpp
+//   Saving                      window/Saving.cpp, window/Ticks.cpp
 //   Fields with given names
 //   What a scan shows           window/ScanScreen.cpp, window/SearchEndBar.cpp
+//   Searches gone on with       window/Keeping.cpp, window/CardCopy.cpp, window/CardState.cpp
 //   Steps behind these, file by file, and the fields of our own
 #pragma once
 
@@ -35,8 +36,10 @@
 #include <thread>
 
 #include "decode/ThumbnailQueue.h"
+#include "media/CopiedMedium.h"
 #include "media/MediaList.h"
 #include "media/SearchRange.h"
+#include "results/TickedItems.h"
 #include "scan/ScanInputs.h"
 #include "scan/ScanMeter.h"
 #include "scan/ScanSession.h"
@@ -50,6 +53,7 @@
 #include "window/browser/FileTypeIcons.h"
 #include "window/browser/ImageBrowserModel.h"
 #include "window/browser/PendingView.h"
+#include "window/keeping/SearchMemory.h"
 #include "window/panels/RangePanel.h"
 #include "window/preview/FileManager.h"
 #include "window/preview/PreviewFile.h"
@@ -58,6 +62,9 @@
 
 namespace vantor {
 
+class CardStrip;
+class KeepingBox;
+class KeptSearchBar;
 class WholePreview;
 struct PreviewFileRequest;
 
@@ -209,10 +216,17 @@ class MyTableController : public QObject,
     void closemovie_Win();
     std::unique_ptr<Movie> getAMovieFile();
 
-    // --- Saving (window/Saving.cpp) ---
+    // --- Saving (window/Saving.cpp, window/Ticks.cpp) ---
 
     void saveSelected();
     void saveAll();
+    void saveTicked();
+    // Items by their places in the list; what is beyond its end is passed over.
+    void tickItems(const QList<qsizetype>& indexes, bool ticked);
+    // Ticks all that is shown; when all of it is ticked already, unticks it.
+    void tickShown();
+    void invertTicks();
+    const TickedItems& ticks() const { return m_ticks; }
     void askSavingOptions();
     // True while something found is neither saved nor left out as the user asked.
     bool hasUnsavedItems() const;
@@ -353,12 +367,46 @@ class MyTableController : public QObject,
     void showTypeCounts();
     // window/SearchEndBar.cpp
     void showSearchEnd();
+    void showSearchSum();
+    // Opens the medium for a pass of a search; the first of them is looked at whether it was erased.
+    std::unique_ptr<SectorReader> openForSearch(const QString& device);
+    void showThatItWasErased();
     void tryBadSectorsAgain();
     // The badges of the list begin anew.
     void beginLooks();
     PanelWords endPanelWords(const PanelWords& drawn) const;
     SearchWish searchWish() const;
     void showEmptyResults();
+    // window/Keeping.cpp
+    void setUpKeeping();
+    void showKeeping();
+    void keepThisSearch();
+    void keepSearchEnd();
+    void keepMarks();
+    void writeKeptSearch();
+    void markSavedBefore();
+    void goOn();
+    void goOnWithCardPutBack();
+    void goOnWith(SearchRecord record);
+    void goOnWithKept(bool onlyLook);
+    SearchWishes wishesOfNow() const;
+    // window/CardCopy.cpp
+    bool chooseCopyPlace();
+    bool acceptCopyPlace(const QString& path);
+    bool refuseCopy(const QString& what, const QString& why);
+    bool mayKeepCopy();
+    // window/CardState.cpp
+    void setUpCardStrip();
+    void beginCardStrip();
+    void showCard();
+    void showCopy(const MediumCopy& copy);
+    void keepCopyNow();
+    bool goesOnByItself() const;
+    QString pathOfMedium(const QString& identifier) const;
+    enum class Likeness { Same, Another, CannotBeOpened };
+    Likeness likenessOf(const QString& identifier, const SearchRecord& record);
+    QStringList mediaLike(const SearchRecord& record) const;
+    bool chooseMediumOf(const SearchRecord& record);
     // window/ScanThreads.cpp
     void startScan(void (ScanSession::*driver)());
     void pump();
@@ -373,6 +421,8 @@ class MyTableController : public QObject,
     ImageBrowserView* browserOf(ControlSet set) const;
     void filterResultRows();
     void showChosenType();
+    void takeToldFiles(SavingDesk::ToldFiles files);
+    void forgetItems();
     void keepChosenType();
     void showItemCounts();
     LookedAtItems lookedAtItems();
@@ -390,8 +440,12 @@ class MyTableController : public QObject,
     QString shownFileOf(const QString& file) const;
     void showThatTheMediumIsGone();
     void emptyPreviewPane();
+    // window/Ticks.cpp
+    void wireTicks();
+    void showTicks();
+    bool allShownAreTicked() const;
     // window/Saving.cpp
-    void saveItems(const QList<qsizetype>& indexes);
+    void saveItems(const QList<qsizetype>& indexes, const SavingDesk::ToldFiles& told = {});
     SavingParts savingParts();
     ReportHead reportHead() const;
 
@@ -442,12 +496,39 @@ class MyTableController : public QObject,
     ScanMeter m_meter;
     double m_progressSectors = 0;
     bool m_draining = false;
-    bool m_searchEnded = false;   // and its results are in view
-    QList<ResultRow> m_leftRows;  // only when it fell back to the screen before
+    bool m_searchEnded = false;  // and its results are in view
+    bool m_readsAsErased = false;
+    std::atomic<bool> m_mayBeErased{false};  // nobody has looked yet
+    qint64 m_searchMilliseconds = 0;         // how long it took
+    QList<ResultRow> m_leftRows;             // only when it fell back to the screen before
+
+    // Of searches that are gone on with, and of copies.
+    CopiedMedium m_copied;
+    QString m_copyPath;  // of the copy that is kept
+    CardStrip* m_cardStrip = nullptr;
+    QLabel* m_cardWords = nullptr;
+    QPushButton* m_keepCopyButton = nullptr;
+    std::size_t m_stripItems = 0;    // that are marked in the strip
+    qint64 m_lastLookAtCard = 0;     // milliseconds of the search
+    bool m_goOnWhenStopped = false;  // the user wants a copy of what is searched
+    std::shared_ptr<std::atomic<bool>> m_leaving = std::make_shared<std::atomic<bool>>(false);
+    std::unique_ptr<SearchMemory> m_memory;
+    KeptSearchBar* m_keptBar = nullptr;
+    KeepingBox* m_keepingBox = nullptr;
+    QPushButton* m_goOnButton = nullptr;
+    std::optional<SearchRecord> m_goingOn;     // what the search that is about to begin goes on with
+    bool m_onlyLook = false;                   // and that it ends where that one did
+    std::vector<std::uint64_t> m_savedBefore;  // ascending places of items that are not listed yet
 
     // Set when the user chooses the destination.
     QString m_chosenFolder;
     std::optional<std::uint64_t> m_chosenFileSystem;
+
+    // Set by the user after a scan has found something; empty with every list.
+    TickedItems m_ticks;
+
+    // Set at the end of a scan, emptied with the next one.
+    SavingDesk::ToldFiles m_told;  // files that only the card's directory tells of
 
     // Begin anew with every scan; the first to go, since they ask the others.
     std::unique_ptr<BrowserLooks> m_looks;

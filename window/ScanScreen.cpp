@@ -197,11 +197,19 @@ void MyTableController::hideScanProgress() {
         pFile_op->flush();
         pFile_op.reset();
     }
+    // Without the time that the user takes to read that it has ended.
+    if (scanRunning()) {
+        m_searchMilliseconds = m_clock.elapsed();
+    }
     m_searchEnded = true;
     showEmptyResults();
 }
 
 void MyTableController::runEndPanel(ControlSet set) {
+    keepSearchEnd();
+    if (goesOnByItself()) {
+        return;
+    }
     if (set == ControlSet::Photo) {
         m_panels->saveFileInfo.setWords(endPanelWords(m_panels->photoEnd));
         runModalForWindow(SaveFile_Info_Window);

@@ -18,14 +18,21 @@ constexpr std::chrono::milliseconds kLastScanPatience{5000};
 void MyTableController::startScan(void (ScanSession::*driver)()) {
     prepareIcons();
     m_searchEnded = false;
+    m_goOnWhenStopped = false;
     searchEndBar->hide();
     m_inputs = readInputs();
+    m_readsAsErased = false;
+    m_searchMilliseconds = 0;
+    // A copy is read in its own order, and who goes on has looked before.
+    m_mayBeErased = m_parts.askCard && !m_goingOn && !m_copied.of(devicePath()) &&
+                    m_inputs.range[static_cast<std::size_t>(activeSet())].entireDisk == 1;
+    keepThisSearch();
     showEmptyResults();
     if (m_thumbnails) {
         m_thumbnails->cancel();
         m_thumbnails->resume();
     }
-    m_desk->forget();
+    forgetItems();
     idSigTableView->clearSelection();
     showChosenType();
     showDestination();
@@ -36,6 +43,7 @@ void MyTableController::startScan(void (ScanSession::*driver)()) {
     });
     resetAddedItemCount();
     m_clock.start();
+    beginCardStrip();
     m_scanBegun = QDateTime::currentDateTime();
     mSetLabelTimer = std::make_shared<ScanTimer>();
     m_driverRunning = true;
@@ -43,6 +51,7 @@ void MyTableController::startScan(void (ScanSession::*driver)()) {
     m_driver = std::thread([this, driver] {
         (this->*driver)();
         mSetLabelTimer->invalidate();
+        later([this, told = toldFiles()] { takeToldFiles(told); });
         m_driverRunning = false;
     });
     m_timerThread = std::thread([this] {
@@ -82,6 +91,7 @@ void MyTableController::clearWaitingThumbnails() {
 // A batch: what the scan has for the views, then its steps one by one.
 void MyTableController::pump() {
     flushViews();
+    markSavedBefore();
     showScanFacts();
     // Steps may ask the user something; the timer goes on meanwhile, the steps after them wait.
     QMetaObject::invokeMethod(this, &MyTableController::drainQueue, Qt::QueuedConnection);
@@ -126,10 +136,14 @@ void MyTableController::scanThreadsEnded() {
     m_pump.stop();
     waitForThreads();
     flushViews();
+    markSavedBefore();
+    keepSearchEnd();
     showItemCounts();
     showWhereWeAre();
     if (!onScanScreen()) {
         scanFellBack();
+    } else if (goesOnByItself()) {
+        goOn();
     } else if (stop_screen_already_show == 0) {
         // The driver leaves the end screen to a preview that was being copied; should that have ended first,
         // it is due now.
@@ -163,6 +177,7 @@ void MyTableController::showScanFacts() {
     const std::uint64_t start = start_sector;
     m_meter.update(m_clock.elapsed(), index >= start ? index - start : 0);
     scanFactsLabel->setText(m_meter.text(itemCount()));
+    showCard();
 }
 
 // Looked up here, where icons may be made; the scan only copies them.

@@ -4,6 +4,7 @@
 #include "catalogue/FileTypeList.h"
 #include "results/RecoveryMode.h"
 #include "window/MyTableController.h"
+#include "window/keeping/KeepingBox.h"
 #include "window/widgets/Alerts.h"
 
 namespace vantor {
@@ -186,6 +187,8 @@ void MyTableController::backToMedia() {
     if (itemCount() > 0) {
         emptyBrowsers();  // they are of the medium that is left
     }
+    m_copied.set({}, nullptr);
+    m_keepingBox->setCopyPlace({}, {});
     setMode(kPhotoMode);
     Reload_Drive_list_Function();
     homeOfScreen()->setFocus();
@@ -218,7 +221,7 @@ void MyTableController::backToFileTypes() {
     show_hide_4_screen_RawFile(true);
     show_hide_3_screen_RawFile(false);
     stop_now = 0;
-    m_desk->forget();
+    forgetItems();
     m_looks->end();
     homeOfScreen()->setFocus();
 }
@@ -243,7 +246,7 @@ void MyTableController::showFileTypeHelp() {
 // The items go, and the browsers stand as at the start.
 void MyTableController::emptyBrowsers() {
     clearItems();
-    m_desk->forget();
+    forgetItems();
     m_looks->end();
     emptyBrowserViews();
     showItemCounts();
@@ -267,6 +270,7 @@ void MyTableController::showWhereWeAre() {
     stepTrail->setSteps(steps, screen_counter);
     contextBar->setVisible(screen_counter > 0);
     showLeftItemsBar();
+    showKeeping();
     bodyScroll->verticalScrollBar()->setValue(0);
     // Once the new screen is laid out.
     QTimer::singleShot(0, this, [this] {

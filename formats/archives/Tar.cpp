@@ -80,6 +80,7 @@ extern constexpr Format kTar = {
     .walk = walkTar,
     .extensions = " TAR ",
     .large = true,
+    .frameStream = true,
 };
 
 }  // namespace vantor

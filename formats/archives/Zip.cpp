@@ -33,6 +33,7 @@ struct LocalEntry {
     std::uint64_t unpacked = 0;
     std::uint64_t data = 0;  // position of the packed bytes
     bool wide = false;       // 64-bit sizes
+    bool named = false;
 
     bool encrypted() const { return (flags & 1) != 0; }
     bool sizesFollow() const { return (flags & 8) != 0; }
@@ -85,6 +86,7 @@ std::optional<LocalEntry> ZipWalk::readLocal() {
     const std::uint64_t extraBytes = in.u16();
     if (!in.ok())
         return std::nullopt;
+    entry.named = nameBytes != 0;
     std::uint64_t extra = in.at() + nameBytes;
     entry.data = extra + extraBytes;
     while (extra + 4 <= entry.data) {
@@ -174,7 +176,8 @@ ZipWalk::Step ZipWalk::local() {
     const auto entry = readLocal();
     if (!entry)
         return Step::Cut;
-    ++m_entries;
+    // Builders of Android packages fill room with entries without a name, which the directory leaves out.
+    m_entries += entry->named ? 1 : 0;
     if (entry->sizesFollow() && entry->packed == 0)
         return followData(*entry);
     const auto end = addClamped(entry->data, entry->packed);

@@ -1,6 +1,7 @@
 // OLE2 compound files (DOC, XLS, PPT, MSG …): the highest sector that the allocation table holds in use.
 // Source: [MS-CFB].
 #include <algorithm>
+#include <array>
 
 #include "formats/Format.h"
 
@@ -10,6 +11,7 @@ namespace {
 
 constexpr std::uint32_t kFree = 0xFFFFFFFF;
 constexpr std::uint32_t kTable = 0xFFFFFFFD;  // the table's mark for its own sectors
+constexpr std::uint32_t kChainEnd = 0xFFFFFFFE;
 constexpr std::uint32_t kMostRegular = 0xFFFFFFFA;
 constexpr std::uint64_t kInHeader = 109;  // table sectors listed in the header itself
 
@@ -23,13 +25,19 @@ class CompoundWalk {
     std::uint64_t position(std::uint32_t sector) const { return (std::uint64_t{sector} + 1) << m_shift; }
     std::uint64_t headerEnd() const { return std::uint64_t{1} << m_shift; }
     bool tableSector(std::uint32_t sector);
+    bool isListedInHeader(std::uint64_t sector) const;
 
     ByteView& m_view;
     const unsigned m_shift;
     std::uint64_t m_tables = 0;
     std::uint64_t m_marked = 0;  // sectors that the table says are its own
+    std::array<std::uint32_t, kInHeader> m_inHeader{};
     std::uint64_t m_lastUsed = 0;
 };
+
+bool CompoundWalk::isListedInHeader(std::uint64_t sector) const {
+    return std::find(m_inHeader.begin(), m_inHeader.end(), sector) != m_inHeader.end();
+}
 
 // Takes one sector of the allocation table; false where it does not lie in the view.
 bool CompoundWalk::tableSector(std::uint32_t sector) {
@@ -44,7 +52,8 @@ bool CompoundWalk::tableSector(std::uint32_t sector) {
         const auto* const entry = bytes.data() + i * 4;
         const auto next = static_cast<std::uint32_t>(entry[0] | entry[1] << 8 | entry[2] << 16) |
                           static_cast<std::uint32_t>(entry[3]) << 24;
-        m_marked += next == kTable ? 1 : 0;
+        // Writers in Java marked the table's own sectors as the ends of chains.
+        m_marked += next == kTable || (next == kChainEnd && isListedInHeader(first + i)) ? 1 : 0;
         if (next != kFree)
             m_lastUsed = std::max(m_lastUsed, first + i);
     }
@@ -58,9 +67,12 @@ Extent CompoundWalk::walk() {
     const std::uint64_t most = (m_view.size() >> m_shift) + 1;
     if (tables == 0 || (std::uint64_t{1} << m_shift) * tables > (std::uint64_t{1} << 40))
         return damagedAt(m_view, headerEnd());
+    m_inHeader.fill(kFree);
+    for (std::uint64_t i = 0; i < std::min(tables, kInHeader); ++i)
+        m_inHeader[i] = m_view.le32(76 + i * 4).value_or(kFree);
     bool inside = true;
     for (std::uint64_t i = 0; inside && i < std::min(tables, kInHeader); ++i)
-        inside = tableSector(m_view.le32(76 + i * 4).value_or(kFree));
+        inside = tableSector(m_inHeader[i]);
     const std::uint64_t links =
         (std::uint64_t{1} << (m_shift - 2)) - 1;  // the last entry names the next list
     for (std::uint64_t i = 0; inside && i < std::min(lists, most) && list < kMostRegular; ++i) {

@@ -68,6 +68,8 @@ bool beginsUpdate(std::string_view text) {
 }
 
 constexpr std::size_t kSeam = 16;
+constexpr std::size_t kMostBlanks = 64;  // behind the end mark
+constexpr std::size_t kLeastBlanks = 3;  // fewer may be another's
 
 // The first end mark or beginning of a PDF in `text`.
 std::size_t findWord(std::string_view text) {
@@ -117,9 +119,19 @@ std::uint64_t PdfWalk::linearizedLength() {
     return 0;
 }
 
-// Behind "%%EOF" and one line end.
+// Behind "%%EOF" and one line end. Some writers leave an empty line more, or a line of blanks (sensitive to
+// being changed by who sends them).
 std::uint64_t PdfWalk::behindMark(std::uint64_t at) {
-    return behindLineEnd(m_view, at + 5);
+    const auto end = behindLineEnd(m_view, at + 5);
+    if (isSectorStart(end))
+        return end;
+    const auto text = textAt(m_view, at + 5, kMostBlanks);
+    auto blanks = text.substr(0, text.find_first_not_of(" \t\r\n"));
+    blanks = blanks.substr(0, blanks.find_last_of("\r\n") + 1);
+    const auto lineEnd = static_cast<std::size_t>(end - (at + 5));
+    const bool emptyLine =
+        lineEnd != 0 && blanks.size() == 2 * lineEnd && blanks.substr(0, lineEnd) == blanks.substr(lineEnd);
+    return emptyLine || blanks.size() >= lineEnd + kLeastBlanks ? at + 5 + blanks.size() : end;
 }
 
 // What the end mark at `at` is to this file, judged by the cross-reference position told before it.

@@ -63,14 +63,15 @@ std::optional<std::uint64_t> behindLastLine(ByteView& view, std::uint64_t end) {
     struct Marked {
         std::string_view first, last;
     };
-    static constexpr std::array<Marked, 8> kMarked = {Marked{"ISO-10303-21;", "END-ISO-10303-21;"},
+    static constexpr std::array<Marked, 9> kMarked = {Marked{"ISO-10303-21;", "END-ISO-10303-21;"},
                                                       Marked{"  0\r\nSECTION", "EOF"},
                                                       Marked{"  0\nSECTION", "EOF"},
                                                       Marked{"999", "EOF"},
                                                       Marked{"0\nSECTION", "EOF"},
                                                       Marked{"0\r\nSECTION", "EOF"},
                                                       Marked{" 0\nSECTION", "EOF"},
-                                                      Marked{" 0\r\nSECTION", "EOF"}};
+                                                      Marked{" 0\r\nSECTION", "EOF"},
+                                                      Marked{"StartFontMetrics ", "EndFontMetrics"}};
     for (const auto& [first, last] : kMarked) {
         if (!view.matches(0, first))
             continue;

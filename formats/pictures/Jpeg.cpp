@@ -6,6 +6,7 @@
 #include "formats/IsoBox.h"
 #include "formats/TiffDirectory.h"
 #include "formats/pictures/JpegScan.h"
+#include "formats/pictures/MakerTrailer.h"
 
 namespace vantor {
 
@@ -229,6 +230,8 @@ Extent JpegWalk::furtherPictures() {
 std::optional<Extent> JpegWalk::motionPhoto() {
     constexpr std::string_view kBlockName = "MotionPhoto_Data";
     std::uint64_t at = m_at;
+    if (const auto end = endOfMakerTrailer(m_view, at))
+        return completeAt(m_view, end, m_facts);
     if (m_view.matches(at + 8, kBlockName))
         at += 8 + kBlockName.size();
     else if (!m_sawMotionNote && isSectorStart(at))

@@ -198,6 +198,8 @@ TEST(SavingCommand, OptionsThatMakeNoSenseAreRefused) {
                                          {"--min-bytes", "5", "x"},
                                          {"--save", "/tmp", "--min-bytes", "many", "x"},
                                          {"--skip-unsound", "x"},
+                                         {"--parts", "x"},
+                                         {"--save", "/tmp", "--as-published", "--parts", "x"},
                                          {"--complete", "x"},
                                          {"--repair-movies", "x"},
                                          {"--save", "/tmp", "--reference", "y", "x"},
@@ -225,7 +227,7 @@ TEST(SavingCommand, KilledRunLeavesWholeFilesOnly) {
         // One that has ended by itself already is no process of ours any more.
         if (process.state() == QProcess::Running) {
             ::kill(pid, SIGKILL);
-            ASSERT_TRUE(process.waitForFinished(60000));
+            ASSERT_TRUE(process.waitForFinished(600000));
         }
         for (const QString& file : filesUnder(folder.path())) {
             ++filesSeen;

@@ -103,6 +103,30 @@ Bytes movie() {
         .add(isoBox("moov", isoBox("mvhd", Bytes(100))));
 }
 
+TEST(Jpeg, NamedBlocksBehindThePicture_BelongToAPhonesPhoto) {
+    const auto block = [](std::uint64_t kind, std::string_view name, const Bytes& data) {
+        return Build().le16(0).le16(kind).le32(name.size()).text(name).add(data).bytes();
+    };
+    const Bytes time = block(0xA01, "Image_UTC_Data", Build().text("1715949802000"));
+    const Bytes depth = block(0xAB1, "DualShot_DepthMap_1", Build().text("SEFH SEFT").fill(900, 7));
+    const auto whole = [&](std::uint64_t back) {
+        Build list;
+        list.text("SEFH").le32(107).le32(2);
+        list.le16(0).le16(0xA01).le32(back).le32(time.size());
+        list.le16(0).le16(0xAB1).le32(depth.size()).le32(depth.size());
+        return Build().add(jpeg()).add(time).add(depth).add(list).le32(list.size()).text("SEFT").bytes();
+    };
+    const Bytes photo = whole(time.size() + depth.size());
+    for (const Bytes& tail : {Bytes(), Bytes(3000, 0), noise(3000, 4), photo}) {
+        const Extent extent = walkBytes("JPG", Build().add(photo).add(tail));
+        EXPECT_EQ(extent.verdict, Verdict::Complete);
+        EXPECT_EQ(extent.end, photo.size());
+    }
+    EXPECT_EQ(walkBytes("JPG", whole(time.size() + depth.size() + 1)).end, jpeg().size()) << "another's list";
+    const Bytes cut(photo.begin(), photo.end() - 1);
+    EXPECT_EQ(walkBytes("JPG", cut).end, jpeg().size());
+}
+
 TEST(Jpeg, MovieBehindThePicture_BelongsToAMotionPhoto) {
     const Bytes note =
         Build().text("http://ns.adobe.com/xap/1.0/").u8(0).text("<x:xmpmeta GCamera:MotionPhoto=\"1\"/>");

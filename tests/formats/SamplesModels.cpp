@@ -168,6 +168,38 @@ Bytes dcx() {
     return Build().le32(0x3ADE68B1).le32(16).le32(16 + first.size()).le32(0).add(first).add(second);
 }
 
+// Two master pages, the second the later one, a page of the database, metadata.
+Bytes inDesign() {
+    const auto master = [](std::uint64_t sequence, std::uint64_t pages) {
+        return Build()
+            .be64(0x0606EDF5D81D46E5)
+            .be64(0xBD31EFE7FE74B71D)
+            .text("DOCUMENT")
+            .to(264)
+            .le64(sequence)
+            .to(280)
+            .le32(pages)
+            .to(4096)
+            .bytes();
+    };
+    Build out;
+    out.add(master(4, 900)).add(master(5, 3)).fill(4096, 7);
+    out.be64(0xDE39397951884B6C).be64(0x8E63EEF8AEE0DD38).le32(1).le32(2).le32(300).le32(0).fill(300, 'x');
+    out.be64(0xFDCEDB70F7864B4F).be64(0xA4D3C728B3417106).fill(16, 1);
+    return out.to(4 * 4096);
+}
+
+// A page without anything, the postamble, and where that is.
+Bytes texOutput() {
+    Build out;
+    out.u8(247).u8(2).be32(25400000).be32(473628672).be32(1000).u8(2).text("of");
+    out.u8(139).fill(40).be32(0xFFFFFFFF).u8(140).u8(249).be32(8).u8(2);
+    const auto postamble = out.size();
+    out.u8(248).be32(17).be32(25400000).be32(473628672).be32(1000).fill(12);
+    out.u8(249).be32(postamble).u8(2).fill(4, 223);
+    return out.fill((4 - out.size() % 4) % 4, 223);
+}
+
 }  // namespace
 
 std::vector<Sample> modelSamples() {
@@ -194,6 +226,8 @@ std::vector<Sample> modelSamples() {
         {"MIFF", miff()},
         {"PICT", pict(), false},
         {"DCX", dcx()},
+        {"INDD", inDesign()},
+        {"DVI", texOutput()},
     };
 }
 

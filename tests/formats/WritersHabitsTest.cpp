@@ -76,6 +76,69 @@ TEST(PdfHabits, UpdateNamedInAComment_BelongsToTheFile) {
     expectEnd("PDF", Build().add(alone).text("% a comment and no more\n"), alone.size());
 }
 
+TEST(PdfHabits, EmptyLineOrLineOfBlanksBehindTheEnd_BelongsToTheFile) {
+    const std::string first = "%PDF-1.4\n1 0 obj\nendobj\nxref\n0 1\nstartxref\n24\n%%EOF";
+    for (const std::string end : {"\n\n", "\r\n\r\n", "\n \t  \t \n", " \t  \t \n", "\n"}) {
+        const Bytes file = Build().text(first + end);
+        for (const Bytes& tail : {Bytes(), Bytes(3000, 0), Build().text("x ").fill(3000, 9).bytes()})
+            expectEnd("PDF", Build().add(file).add(tail), file.size());
+    }
+    // Blanks that no line end closes, or another one, may be others' bytes.
+    for (const std::string foreign : {"     x", "\r\n", " \n"}) {
+        const Bytes file = Build().text(first + "\n");
+        expectEnd("PDF", Build().add(file).text(foreign).fill(3000, 9), file.size());
+    }
+    // Those of the next sector are.
+    const Bytes full = Build()
+                           .text("%PDF-1.4\n")
+                           .fill(512 - 54, '%')
+                           .text("\n1 0 obj\nendobj\nxref\n0 1\nstartxref\n483\n%%EOF\n");
+    ASSERT_EQ(full.size(), 512U);
+    expectEnd("PDF", Build().add(full).text("\n"), full.size());
+}
+
+TEST(TextHabits, FontMetrics_EndWithTheirLastLine) {
+    const Bytes file =
+        Build().text("StartFontMetrics 2.0\nComment EndFontMetrics\nFontName A\nEndFontMetrics\n");
+    for (const Bytes& tail : {Bytes(3000, 0), Build().text("Another text follows.\n").bytes()}) {
+        const Extent extent = walkBytes("AFM", Build().add(file).add(tail));
+        EXPECT_EQ(extent.verdict, Verdict::Complete);
+        EXPECT_EQ(extent.end, file.size());
+    }
+}
+
+// Apache POI up to 3.7.
+TEST(CompoundFileHabits, TableMarkedAsEndsOfChains_IsATable) {
+    Build out;
+    out.add(compoundHead()).le32(1).le32(1);
+    out.to(68).le32(0xFFFFFFFE).le32(0).le32(2);
+    while (out.size() < 512)
+        out.le32(0xFFFFFFFF);
+    out.fill(1024, 0x44).le32(1).le32(0xFFFFFFFE).le32(0xFFFFFFFE);
+    while (out.size() < 2048)
+        out.le32(0xFFFFFFFF);
+    const Bytes file = out;
+    for (const Bytes& tail : {Bytes(), Bytes(3000, 0), noise(3000, 3)})
+        expectEnd("XLS", Build().add(file).add(tail), file.size());
+    // Ends of other chains mark no table.
+    Bytes other = file;
+    other[1536 + 2 * 4] = 0xFF;
+    EXPECT_EQ(walkBytes("XLS", other).verdict, Verdict::Damaged);
+}
+
+// zipflinger, which packs Android programs.
+TEST(ZipHabits, EntryWithoutAName_IsNotInTheDirectory) {
+    const Bytes content = Build().text("content");
+    const Bytes nameless = Build().text("PK\3\4").fill(22).le16(0).le16(14).fill(14);
+    ASSERT_EQ(nameless.size(), 44U);
+    const Bytes file = Build().add(nameless).add(zip("a", content));
+    expectEnd("APK", Build().add(file).add(noise(2000, 8)), file.size());
+    // One with a name that the directory does not know is.
+    Bytes named = Build().text("PK\3\4").fill(22).le16(1).le16(13).text("b").fill(13);
+    named.insert(named.end(), file.begin() + 44, file.end());
+    EXPECT_EQ(walkBytes("APK", named).verdict, Verdict::Damaged);
+}
+
 // Video without an end code, as many slices as a short film has.
 Bytes openVideo() {
     Build out;

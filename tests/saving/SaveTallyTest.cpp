@@ -34,6 +34,9 @@ TEST(SaveTally, SaysWhatBecameOfEach) {
     outcome = {};
     outcome.leftOut = LeftOut::TooSmall;
     tally.add("g", outcome);
+    outcome.leftOut = LeftOut::Part;
+    tally.add("g2", outcome);
+    tally.add("g3", outcome);
     outcome = {};
     outcome.error = "No room";
     tally.add("h", outcome);
@@ -42,7 +45,8 @@ TEST(SaveTally, SaysWhatBecameOfEach) {
                            "checked), 1 cut off, 1 damaged, 1 of unknown length",
                            "1 of them have sectors that could not be read",
                            "1 not written again: the same bytes are saved already",
-                           "1 left out: smaller than asked for"}));
+                           "1 left out: smaller than asked for",
+                           "2 left out: parts of files that are saved whole"}));
     EXPECT_EQ(tally.failed, 1U);
     EXPECT_EQ(tally.failures, QStringList{"h: No room"});
 }

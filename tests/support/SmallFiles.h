@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <random>
 
+#include "formats/Crc.h"
 #include "tests/support/Files.h"
 #include "tests/support/ScriptedMedium.h"
 
@@ -55,6 +56,22 @@ inline QByteArray tiffFile(quint32 width, quint32 height, const QByteArray& date
            tag(257, 4, 1, height) + tag(258, 3, 1, 8) + tag(259, 3, 1, 1) + tag(262, 3, 1, 1) +
            tag(273, 4, 1, kPixelsAt) + tag(279, 4, 1, width * height) + tag(306, 2, 20, kDateAt) +
            littleEndian(quint32{0}) + date + '\0' + noise(qsizetype{width} * height, 3);
+}
+
+// A whole ZIP archive of one member, not packed, which begins at the archive's second sector.
+inline QByteArray zipHolding(const QByteArray& member) {
+    constexpr quint16 kNameBytes = kSectorBytes - 30;
+    const auto sum = crc32(
+        0, {reinterpret_cast<const std::uint8_t*>(member.data()), static_cast<std::size_t>(member.size())});
+    const QByteArray name(kNameBytes, 'n');
+    const QByteArray sizes = littleEndian(quint32{sum}) + littleEndian(static_cast<quint32>(member.size())) +
+                             littleEndian(static_cast<quint32>(member.size())) + littleEndian(kNameBytes);
+    const QByteArray central = "PK\1\2" + littleEndian(quint16{20}) + littleEndian(quint16{20}) +
+                               QByteArray(8, '\0') + sizes + QByteArray(16, '\0') + name;
+    return "PK\3\4" + littleEndian(quint16{20}) + QByteArray(8, '\0') + sizes + littleEndian(quint16{0}) +
+           name + member + central + "PK\5\6" + littleEndian(quint32{0}) + littleEndian(quint16{1}) +
+           littleEndian(quint16{1}) + littleEndian(static_cast<quint32>(central.size())) +
+           littleEndian(static_cast<quint32>(kSectorBytes + member.size())) + littleEndian(quint16{0});
 }
 
 // A medium with a file at a sector.

@@ -15,7 +15,7 @@ int changedChoices(const SavingChoices& choices) {
     const SavePolicy& policy = choices.policy;
     return int{policy.folders != SaveFolders::Card} + int{policy.names != SaveNames::Original} +
            int{policy.minPixels != 0} + int{policy.minBytes != 0} + int{policy.skipUnsound} +
-           int{!policy.skipDuplicates} + int{!choices.report};
+           int{policy.parts} + int{!policy.skipDuplicates} + int{!choices.report};
 }
 
 SavingOptions::SavingOptions(QWidget* parent) : Panel(parent), m_ui(std::make_unique<Ui::SavingOptions>()) {
@@ -58,6 +58,7 @@ void SavingOptions::show(const SavingChoices& choices) {
         m_ui->minBytesField->setValue(static_cast<int>(policy.minBytes / kKilobyte));
     }
     m_ui->skipUnsoundBox->setChecked(policy.skipUnsound);
+    m_ui->partsBox->setChecked(policy.parts);
     m_ui->keepDuplicatesBox->setChecked(!policy.skipDuplicates);
     m_ui->reportBox->setChecked(choices.report);
 }
@@ -73,6 +74,7 @@ SavingChoices SavingOptions::chosen() const {
                           ? static_cast<std::uint64_t>(m_ui->minBytesField->value()) * kKilobyte
                           : 0;
     policy.skipUnsound = m_ui->skipUnsoundBox->isChecked();
+    policy.parts = m_ui->partsBox->isChecked();
     policy.skipDuplicates = !m_ui->keepDuplicatesBox->isChecked();
     choices.report = m_ui->reportBox->isChecked();
     policy.checksums = choices.report;

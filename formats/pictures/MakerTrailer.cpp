@@ -1,0 +1,57 @@
+// The list is looked for behind the first block, and is one when it knows that block.
+#include "formats/pictures/MakerTrailer.h"
+
+#include <algorithm>
+
+namespace vantor {
+
+namespace {
+
+constexpr std::uint64_t kMostName = 64;
+constexpr std::uint64_t kMostBlocks = 256;
+constexpr std::uint64_t kMostBytes = 256 * 1024 * 1024;  // a short movie may be among them
+constexpr std::uint64_t kListHead = 12, kListEntry = 12;
+
+bool beginsBlock(ByteView& view, std::uint64_t at) {
+    const auto nameBytes = view.le32(at + 4).value_or(0);
+    if (view.le16(at) != 0 || view.le16(at + 2).value_or(0) == 0 || nameBytes == 0 || nameBytes > kMostName)
+        return false;
+    for (std::uint64_t i = 0; i < nameBytes; ++i) {
+        const auto letter = view.u8(at + 8 + i).value_or(0);
+        if (letter <= ' ' || letter > '~')
+            return false;
+    }
+    return true;
+}
+
+// Behind the list at `list`; 0 where it is none that begins with the block at `at`.
+std::uint64_t endOfList(ByteView& view, std::uint64_t list, std::uint64_t at) {
+    const auto blocks = view.le32(list + 8).value_or(0);
+    const auto bytes = kListHead + blocks * kListEntry;
+    if (blocks == 0 || blocks > kMostBlocks || view.le32(list + bytes) != bytes ||
+        !view.matches(list + bytes + 4, "SEFT"))
+        return 0;
+    std::uint64_t furthest = 0;
+    for (std::uint64_t i = 0; i < blocks; ++i) {
+        const auto back = view.le32(list + kListHead + i * kListEntry + 4);
+        furthest = std::max<std::uint64_t>(furthest, back.value_or(0));
+    }
+    return furthest == list - at ? list + bytes + 8 : 0;
+}
+
+}  // namespace
+
+std::uint64_t endOfMakerTrailer(ByteView& view, std::uint64_t at) {
+    if (!beginsBlock(view, at))
+        return 0;
+    const auto limit = std::min(view.size(), addClamped(at, kMostBytes));
+    for (auto sign = view.find('S', at, limit); sign.found(); sign = view.find('S', sign.at + 1, limit)) {
+        if (!view.matches(sign.at, "SEFH"))
+            continue;
+        if (const auto end = endOfList(view, sign.at, at))
+            return end;
+    }
+    return 0;
+}
+
+}  // namespace vantor
