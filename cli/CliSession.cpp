@@ -265,10 +265,14 @@ std::set<std::uint64_t> CliSession::completeItems(SectorReader& medium,
     const CompletableKind movies{
         QStringLiteral("movies"), isMovieOfBoxes,
         [](const MendableItem& item) { return isMovieOfBoxes(item.type); },
-        [&](auto broken, auto whole) { return MovieCompletion(medium, stop_now).run(broken, whole); }};
+        [&](auto broken, auto whole) {
+            return MovieCompletion(medium, stop_now, m_completing).run(broken, whole);
+        }};
     const CompletableKind photos{
-        QStringLiteral("photos"), isPhotoOfBlocks, [](const MendableItem& item) { return item.checked; },
-        [&](auto broken, auto whole) { return PhotoCompletion(medium, stop_now).run(broken, whole); }};
+        QStringLiteral("photos"), isPictureWithSyntax, [](const MendableItem& item) { return item.checked; },
+        [&](auto broken, auto whole) {
+            return PhotoCompletion(medium, stop_now, m_completing).run(broken, whole);
+        }};
     std::set<std::uint64_t> firstSectors;
     std::vector<SectorRun> whole;
     const auto complete = [&](const CompletableKind& kind) {

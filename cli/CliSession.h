@@ -13,6 +13,7 @@
 
 #include "cli/Completing.h"
 #include "cli/Options.h"
+#include "repair/CompletionProgress.h"
 #include "saving/RecoveryReport.h"
 #include "saving/SaveQueue.h"
 #include "saving/SaveTally.h"
@@ -102,6 +103,7 @@ class CliSession : private CliView, public ScanSession {
     // What became of that, for the user; and whether something could not be written.
     const QStringList& mendingLines() const { return m_mendingLines; }
     bool mendingFailed() const { return m_mendingFailed; }
+    const CompletionProgress& completing() const { return m_completing; }
 
     // An object for each item, and one for the end. Raw items get their checksums from a copy of their
     // sectors as the preview makes it; false when not all could be read.
@@ -151,6 +153,7 @@ class CliSession : private CliView, public ScanSession {
     std::size_t m_told = 0;
     QStringList m_mendingLines;
     bool m_mendingFailed = false;
+    CompletionProgress m_completing;
 };
 
 }  // namespace vantor

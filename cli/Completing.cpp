@@ -116,9 +116,10 @@ Completed completeBroken(const CompletableKind& kind, const std::vector<Mendable
     return Completion(kind, medium, stop, destination).run(items, std::move(whole));
 }
 
-bool isPhotoOfBlocks(const QString& type) {
+bool isPictureWithSyntax(const QString& type) {
     static const Format* const jpeg = formatFor("JPG");
-    return isOfFormat(type, jpeg);
+    static const Format* const png = formatFor("PNG");
+    return isOfFormat(type, jpeg) || isOfFormat(type, png);
 }
 
 bool isMovieOfBoxes(const QString& type) {

@@ -50,7 +50,7 @@ Completed completeBroken(const CompletableKind& kind, const std::vector<Mendable
                          std::vector<SectorRun> whole, SectorReader& medium, const std::atomic<int>& stop,
                          const QString& destination);
 
-bool isPhotoOfBlocks(const QString& type);  // JPEG
-bool isMovieOfBoxes(const QString& type);   // MP4, QuickTime and what is built like them
+bool isPictureWithSyntax(const QString& type);  // JPEG and PNG
+bool isMovieOfBoxes(const QString& type);       // MP4, QuickTime and what is built like them
 
 }  // namespace vantor

@@ -32,6 +32,12 @@ ProgressLine::ProgressLine(const CliSession& session, std::shared_ptr<const Medi
 ProgressLine::~ProgressLine() = default;
 
 void ProgressLine::draw() {
+    if (const std::size_t of = m_session.completing().of; of != 0) {
+        std::fprintf(stderr, "\r\033[KCompleting broken files: %zu of %zu",
+                     m_session.completing().looked.load(), of);
+        std::fflush(stderr);
+        return;
+    }
     const std::uint64_t index = m_session.for_index;
     const std::uint64_t start = m_session.start_sector;
     const std::uint64_t end = m_session.end_sector;

@@ -73,7 +73,7 @@ SaveOptions::SaveOptions()
                  "wholly inside a file that was proved complete, and is left out else.")),
       complete(option(
           "complete",
-          "Put MP4 and QuickTime movies and JPEG photos together that lie in pieces, as \"... "
+          "Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as \"... "
           "complete.MP4\", or as \"... put together.MP4\" where it could not be proved that all pieces "
           "are the right ones.")),
       repairMovies(

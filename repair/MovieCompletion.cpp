@@ -34,6 +34,8 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
     if (broken.empty()) {
         return assemblies;
     }
+    m_progress.looked = 0;
+    m_progress.of = broken.size();
     MediumBlocks blocks(m_medium);
     const auto indexes = indexPlaces(blocks, m_stop);
     std::vector<std::uint64_t> starts(broken.begin(), broken.end());
@@ -68,6 +70,7 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
     for (bool again = true; again && m_stop == 0;) {
         again = false;
         for (std::size_t i = 0; i < broken.size() && m_stop == 0; ++i) {
+            m_progress.looked = std::max<std::size_t>(m_progress.looked, i + 1);
             for (std::size_t g = 0; g < grids.size() && !(found[i] && found[i]->settled) && m_stop == 0;
                  ++g) {
                 const auto first = grids[g].beginningAt(broken[i]);

@@ -8,15 +8,17 @@
 
 #include "decode/MovieHelper.h"
 #include "media/SectorReader.h"
+#include "repair/CompletionProgress.h"
 #include "results/Assembly.h"
 
 namespace vantor {
 
 class MovieCompletion {
   public:
-    // Both outlive the object; a stop that is not 0 ends it soon. Any one thread.
-    MovieCompletion(SectorReader& medium, const std::atomic<int>& stop, MovieReaderOptions options = {})
-        : m_medium(medium), m_stop(stop), m_options(std::move(options)) {}
+    // All outlive the object; a stop that is not 0 ends it soon. Any one thread.
+    MovieCompletion(SectorReader& medium, const std::atomic<int>& stop, CompletionProgress& progress,
+                    MovieReaderOptions options = {})
+        : m_medium(medium), m_stop(stop), m_progress(progress), m_options(std::move(options)) {}
 
     // For each of the first sectors of broken movies: its pieces, where they were found. `whole`: what whole
     // files explain. Proved are those of which every sample is where the index says, to its last byte, and
@@ -27,6 +29,7 @@ class MovieCompletion {
   private:
     SectorReader& m_medium;
     const std::atomic<int>& m_stop;
+    CompletionProgress& m_progress;
     const MovieReaderOptions m_options;
 };
 

@@ -1,13 +1,22 @@
 #include "repair/PhotoCompletion.h"
 
+#include <algorithm>
+
 #include "formats/Registry.h"
 #include "repair/ClusterFile.h"
 #include "repair/PhotoPieces.h"
+#include "repair/PngPieces.h"
 #include "repair/RunsOfClusters.h"
 
 namespace vantor {
 
 namespace {
+
+struct Found {
+    std::vector<std::uint64_t> clusters;
+    std::uint64_t bytes = 0;
+    bool proved = false;
+};
 
 // Whether the format itself finds the file whole: there may be more pictures behind the first.
 bool isWholeFile(MediumBlocks& medium, const FreeClusters& grid, const PiecedPhoto& photo) {
@@ -16,6 +25,17 @@ bool isWholeFile(MediumBlocks& medium, const FreeClusters& grid, const PiecedPho
     ByteView view(file);
     const Extent extent = jpeg->walk(view);
     return extent.verdict == Verdict::Complete && extent.end == photo.bytes;
+}
+
+// Of a JPEG picture whose units are not read, the marks alone were looked at: another's may stand between.
+bool isExplained(MediumBlocks& medium, const FreeClusters& grid, std::uint64_t firstCluster) {
+    std::vector<std::uint64_t> clusters;
+    for (std::uint64_t i = 0; i * grid.clusterBytes() < JpegHead::kMostBytes; ++i) {
+        clusters.push_back(firstCluster + i);
+    }
+    ClusterFile file(medium, grid, clusters, JpegHead::kMostBytes);
+    ByteView view(file);
+    return !view.matches(0, "\xFF\xD8\xFF") || readJpegHead(view);
 }
 
 }  // namespace
@@ -36,11 +56,14 @@ std::vector<std::optional<Assembly>> PhotoCompletion::run(std::span<const std::u
         FreeClusters& free = grids.emplace_back(grid, m_medium.mediumSectors());
         for (const SectorRun& run : whole) {
             // What begins within a cluster is no file but a part of one, such as a photo's thumbnail.
-            if (free.beginningAt(run.first)) {
+            const auto first = free.beginningAt(run.first);
+            if (first && isExplained(blocks, free, *first)) {
                 free.take(run);
             }
         }
     }
+    m_progress.looked = 0;
+    m_progress.of = broken.size();
     std::vector<std::uint64_t> unitsLeft(broken.size(), PhotoPieces::kMostUnits);
     // What is put together may uncover where another one was cut.
     for (FreeClusters& grid : grids) {
@@ -48,17 +71,23 @@ std::vector<std::optional<Assembly>> PhotoCompletion::run(std::span<const std::u
         for (bool again = true; again && m_stop == 0;) {
             again = false;
             for (std::size_t i = 0; i < broken.size() && m_stop == 0; ++i) {
+                m_progress.looked = std::max<std::size_t>(m_progress.looked, i + 1);
                 const auto first = assemblies[i] ? std::nullopt : grid.beginningAt(broken[i]);
                 if (!first || !grid.isFree(*first) || unitsLeft[i] == 0) {
                     continue;
                 }
-                PhotoPieces pieces(blocks, grid, kinds, m_stop);
-                const auto photo = pieces.assemble(*first, unitsLeft[i]);
-                if (!photo) {
+                std::optional<Found> found;
+                if (auto photo = PhotoPieces(blocks, grid, kinds, m_stop).assemble(*first, unitsLeft[i])) {
+                    const bool proved = photo->joinsShow && isWholeFile(blocks, grid, *photo);
+                    found = Found{std::move(photo->clusters), photo->bytes, proved};
+                } else if (auto png = PngPieces(blocks, grid, m_stop).assemble(*first)) {
+                    found = Found{std::move(png->clusters), png->bytes, true};
+                }
+                if (!found) {
                     continue;
                 }
                 again = true;
-                const auto runs = runsOfClusters(photo->clusters, photo->bytes, grid);
+                const auto runs = runsOfClusters(found->clusters, found->bytes, grid);
                 for (FreeClusters& other : grids) {
                     for (const SectorRun& run : runs) {
                         other.take(run);
@@ -67,11 +96,8 @@ std::vector<std::optional<Assembly>> PhotoCompletion::run(std::span<const std::u
                 if (runs.size() == 1) {
                     continue;  // whole as it lies
                 }
-                assemblies[i] =
-                    Assembly{runs, photo->bytes,
-                             photo->joinsShow && isWholeFile(blocks, grid, *photo) ? AssemblyProof::Proved
-                                                                                   : AssemblyProof::Likely,
-                             false};
+                assemblies[i] = Assembly{
+                    runs, found->bytes, found->proved ? AssemblyProof::Proved : AssemblyProof::Likely, false};
             }
         }
     }

@@ -7,24 +7,27 @@
 #include <vector>
 
 #include "media/SectorReader.h"
+#include "repair/CompletionProgress.h"
 #include "results/Assembly.h"
 
 namespace vantor {
 
 class PhotoCompletion {
   public:
-    // Both outlive the object; a stop that is not 0 ends it soon. Any one thread.
-    PhotoCompletion(SectorReader& medium, const std::atomic<int>& stop) : m_medium(medium), m_stop(stop) {}
+    // All outlive the object; a stop that is not 0 ends it soon. Any one thread.
+    PhotoCompletion(SectorReader& medium, const std::atomic<int>& stop, CompletionProgress& progress)
+        : m_medium(medium), m_stop(stop), m_progress(progress) {}
 
-    // For each of the first sectors of broken JPEG photos: its pieces, where they were found. `whole`: what
-    // whole files explain. Every unit of these pictures is there, and the end mark behind the last; proved
-    // are those in which a foreign piece would have shown by the row above.
+    // For each of the first sectors of broken JPEG and PNG pictures: its pieces, where they were found.
+    // `whole`: what whole files explain. Of JPEG every unit is there, and the end mark behind the last;
+    // proved are those in which a foreign piece would have shown by the row above. Of PNG every sum is right.
     std::vector<std::optional<Assembly>> run(std::span<const std::uint64_t> broken,
                                              std::span<const SectorRun> whole);
 
   private:
     SectorReader& m_medium;
     const std::atomic<int>& m_stop;
+    CompletionProgress& m_progress;
 };
 
 }  // namespace vantor

@@ -9,6 +9,7 @@
 #include "repair/MovieSamples.h"
 #include "repair/MovieWalk.h"
 #include "repair/PhotoPieces.h"
+#include "repair/PngPieces.h"
 #include "repair/ReferenceMovie.h"
 
 namespace vantor::fuzz {
@@ -40,6 +41,17 @@ class MemoryMedium final : public SectorReader {
     std::span<const std::uint8_t> m_bytes;
 };
 
+// As many as the bytes take, none of them twice.
+void checkClusters(const std::vector<std::uint64_t>& clusters, std::uint64_t bytes,
+                   const FreeClusters& grid) {
+    std::vector<bool> seen(static_cast<std::size_t>(grid.count()), false);
+    for (const std::uint64_t cluster : clusters) {
+        expect(cluster < grid.count() && !seen[static_cast<std::size_t>(cluster)]);
+        seen[static_cast<std::size_t>(cluster)] = true;
+    }
+    expect(bytes <= clusters.size() * kSectorBytes && bytes > (clusters.size() - 1) * kSectorBytes);
+}
+
 // The input as a medium with clusters of a sector, and a photo at its beginning.
 void completePhoto(std::span<const std::uint8_t> bytes) {
     MemoryMedium medium(bytes);
@@ -49,16 +61,20 @@ void completePhoto(std::span<const std::uint8_t> bytes) {
     const std::atomic<int> goOn{0};
     std::uint64_t units = 50'000;
     const auto photo = PhotoPieces(blocks, grid, kinds, goOn).assemble(0, units);
-    if (!photo) {
-        return;
+    if (photo) {
+        checkClusters(photo->clusters, photo->bytes, grid);
     }
-    std::vector<bool> seen(static_cast<std::size_t>(grid.count()), false);
-    for (const std::uint64_t cluster : photo->clusters) {
-        expect(cluster < grid.count() && !seen[static_cast<std::size_t>(cluster)]);
-        seen[static_cast<std::size_t>(cluster)] = true;
+}
+
+void completePng(std::span<const std::uint8_t> bytes) {
+    MemoryMedium medium(bytes);
+    MediumBlocks blocks(medium);
+    const FreeClusters grid({0, 1}, medium.mediumSectors());
+    const std::atomic<int> goOn{0};
+    const auto png = PngPieces(blocks, grid, goOn).assemble(0);
+    if (png) {
+        checkClusters(png->clusters, png->bytes, grid);
     }
-    expect(photo->bytes <= photo->clusters.size() * kSectorBytes &&
-           photo->bytes > (photo->clusters.size() - 1) * kSectorBytes);
 }
 
 void readSamples(std::span<const std::uint8_t> bytes) {
@@ -125,6 +141,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             break;
         case 3:
             fuzz::walk(bytes, Coding::Jpeg);
+            break;
+        case 4:
+            fuzz::completePng(bytes);
             break;
         default:
             fuzz::completePhoto(bytes);

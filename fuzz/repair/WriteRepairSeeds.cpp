@@ -26,8 +26,8 @@ int main(int argc, char** argv) {
     const auto movie = vantor::test::makeMovie(vantor::test::picturesOfManySizes(4, 1), false, 1).bytes;
     const bool written =
         write(folder, "samples", 0, movie) && write(folder, "walk", 1, movie) &&
-        write(folder, "whole", 4, photo) &&
-        write(folder, "pieces", 4,
+        write(folder, "whole", 5, photo) &&
+        write(folder, "pieces", 5,
               photo.left(cut) + QByteArray(1024, '\0') + photo.mid(cut) + QByteArray(512, '\0'));
     return written ? 0 : 1;
 }

@@ -143,7 +143,8 @@ TEST(MovieCompletion, EachMovieLeavesFewerPlacesForTheNext) {
     MemoryReader reader(medium);
     MovieReaderOptions noHelper;
     noHelper.helper = QStringLiteral("/nowhere");
-    MovieCompletion completion(reader, kGoOn, noHelper);
+    CompletionProgress progress;
+    MovieCompletion completion(reader, kGoOn, progress, noHelper);
     const std::vector<std::uint64_t> starts{8 * kClusterSectors, 9 * kClusterSectors};
     const auto found = completion.run(starts, {});
     ASSERT_EQ(found.size(), 2U);
@@ -174,7 +175,8 @@ TEST(MovieCompletion, ChoiceThatNoDecoderChecked_IsNotProved) {
         QByteArray medium = mediumOf(2 * count + 40);
         scatter(movie.bytes, every(step, 8, count), medium);
         MemoryReader reader(medium);
-        MovieCompletion completion(reader, kGoOn, noHelper);
+        CompletionProgress progress;
+        MovieCompletion completion(reader, kGoOn, progress, noHelper);
         const auto found = completion.run(starts, {});
         ASSERT_TRUE(found[0]) << step;
         EXPECT_EQ(found[0]->proof, step == 1 ? AssemblyProof::Proved : AssemblyProof::Likely);
@@ -189,7 +191,8 @@ TEST(MovieCompletion, IndexThatOtherMoviesFit_ProvesNothing) {
     scatter(one.bytes, every(2, 4, clustersOf(one.bytes)), medium);
     scatter(other.bytes, every(2, 5, clustersOf(other.bytes)), medium);
     MemoryReader reader(medium);
-    MovieCompletion completion(reader, kGoOn);
+    CompletionProgress progress;
+    MovieCompletion completion(reader, kGoOn, progress);
     const std::vector<std::uint64_t> starts{4 * kClusterSectors, 5 * kClusterSectors};
     std::size_t assembled = 0;
     for (const auto& each : completion.run(starts, {})) {

@@ -2,69 +2,24 @@
 #include <gtest/gtest.h>
 
 #include "repair/ClusterKinds.h"
-#include "repair/PhotoCompletion.h"
-#include "tests/repair/MemoryReader.h"
 #include "tests/repair/Photos.h"
+#include "tests/repair/ScatteredCard.h"
 
 namespace vantor {
 namespace {
 
+using test::clustersOf;
+using test::kClusterBytes;
+using test::kClusterSectors;
 using test::makePhoto;
 using test::MemoryReader;
-
-constexpr qsizetype kClusterBytes = 4096;
-constexpr std::uint64_t kClusterSectors = 8;
-const std::atomic<int> kGoOn{0};
-
-// Pieces of files one behind the other, each in clusters of its own, behind four empty ones.
-class Card {
-  public:
-    // Clusters [from, to) of the file; the first sector of them.
-    std::uint64_t put(const QByteArray& file, qsizetype from = 0, qsizetype to = 1'000'000) {
-        const auto first = static_cast<std::uint64_t>(m_bytes.size()) / kSectorBytes;
-        const QByteArray piece = file.mid(from * kClusterBytes, (to - from) * kClusterBytes);
-        const qsizetype clusters = (piece.size() + kClusterBytes - 1) / kClusterBytes;
-        m_bytes += piece.leftJustified(clusters * kClusterBytes, '\0');
-        return first;
-    }
-    void putNoise(int clusters) {
-        std::mt19937 random(7);
-        for (qsizetype i = 0; i < clusters * kClusterBytes; ++i) {
-            m_bytes += static_cast<char>(random());
-        }
-    }
-
-    std::optional<Assembly> completed(std::uint64_t first, const std::vector<std::uint64_t>& alsoBroken = {},
-                                      const std::vector<SectorRun>& whole = {}) const {
-        const QByteArray bytes = m_bytes + QByteArray(16 * kClusterBytes, '\0');
-        MemoryReader reader(bytes);
-        std::vector<std::uint64_t> broken = alsoBroken;
-        broken.push_back(first);
-        return PhotoCompletion(reader, kGoOn).run(broken, whole).back();
-    }
-    QByteArray contentOf(const Assembly& assembly) const {
-        QByteArray content;
-        for (const SectorRun& run : assembly.runs) {
-            content += m_bytes.mid(static_cast<qsizetype>(run.first * kSectorBytes),
-                                   static_cast<qsizetype>((run.end - run.first) * kSectorBytes));
-        }
-        return content.left(static_cast<qsizetype>(assembly.bytes));
-    }
-
-  private:
-    QByteArray m_bytes = QByteArray(4 * kClusterBytes, '\0');
-};
-
-qsizetype clustersOf(const QByteArray& file) {
-    return (file.size() + kClusterBytes - 1) / kClusterBytes;
-}
 
 }  // namespace
 
 TEST(PhotoPieces, TwoPiecesWithSomethingElseBetween_AreJoined) {
     const QByteArray photo = makePhoto(1);
     const qsizetype cut = clustersOf(photo) / 2;
-    Card card;
+    test::ScatteredCard card;
     const std::uint64_t first = card.put(photo, 0, cut);
     card.putNoise(9);
     card.put(photo, cut);
@@ -79,7 +34,7 @@ TEST(PhotoPieces, WholePhotoBetween_IsPassedOver) {
     const QByteArray photo = makePhoto(1);
     const QByteArray other = makePhoto(2);
     const qsizetype cut = clustersOf(photo) / 3;
-    Card card;
+    test::ScatteredCard card;
     const std::uint64_t first = card.put(photo, 0, cut);
     const std::uint64_t between = card.put(other);
     card.put(photo, cut);
@@ -92,7 +47,7 @@ TEST(PhotoPieces, WholePhotoBetween_IsPassedOver) {
 TEST(PhotoPieces, ThumbnailWithinThePhoto_TakesNoPlaceAway) {
     const QByteArray photo = makePhoto(1);
     const qsizetype cut = clustersOf(photo) / 2;
-    Card card;
+    test::ScatteredCard card;
     const std::uint64_t first = card.put(photo, 0, cut);
     card.putNoise(3);
     card.put(photo, cut);
@@ -108,7 +63,7 @@ TEST(PhotoPieces, ThumbnailWithinThePhoto_TakesNoPlaceAway) {
 TEST(PhotoPieces, TwoPhotosCrossed_ComeApart) {
     const QByteArray one = makePhoto(1);
     const QByteArray other = makePhoto(2);
-    Card card;
+    test::ScatteredCard card;
     const std::uint64_t firstOfOne = card.put(one, 0, clustersOf(one) / 2);
     const std::uint64_t firstOfOther = card.put(other, 0, clustersOf(other) / 2);
     card.put(one, clustersOf(one) / 2);
@@ -124,7 +79,7 @@ TEST(PhotoPieces, TwoPhotosCrossed_ComeApart) {
 TEST(PhotoPieces, ThreePiecesOutOfOrder_AreJoined) {
     const QByteArray photo = makePhoto(3);
     const qsizetype third = clustersOf(photo) / 3;
-    Card card;
+    test::ScatteredCard card;
     const std::uint64_t first = card.put(photo, 0, third);
     card.putNoise(3);
     card.put(photo, 2 * third);
@@ -139,7 +94,7 @@ TEST(PhotoPieces, ThreePiecesOutOfOrder_AreJoined) {
 TEST(PhotoPieces, ContinuationGone_NoOtherIsTaken) {
     const QByteArray photo = makePhoto(1);
     const qsizetype cut = clustersOf(photo) / 2;
-    Card card;
+    test::ScatteredCard card;
     const std::uint64_t first = card.put(photo, 0, cut);
     for (const unsigned seed : {2u, 3u, 4u, 5u}) {
         const QByteArray other = makePhoto(seed);
@@ -149,8 +104,20 @@ TEST(PhotoPieces, ContinuationGone_NoOtherIsTaken) {
 }
 
 TEST(PhotoPieces, WholePhoto_IsNotPutTogether) {
-    Card card;
+    test::ScatteredCard card;
     EXPECT_FALSE(card.completed(card.put(makePhoto(1))));
+}
+
+TEST(PhotoCompletion, EachPhoto_IsCountedOnce) {
+    const QByteArray one = makePhoto(1);
+    const QByteArray bytes = QByteArray(4 * kClusterBytes, '\0') + one.left(5 * kClusterBytes);
+    MemoryReader reader(bytes);
+    const std::atomic<int> goOn{0};
+    CompletionProgress progress;
+    const std::vector<std::uint64_t> broken = {0, 4 * kClusterSectors};
+    PhotoCompletion(reader, goOn, progress).run(broken, {});
+    EXPECT_EQ(progress.looked, 2u);
+    EXPECT_EQ(progress.of, 2u);
 }
 
 TEST(ClusterKinds, TellCodedUnitsFromOtherBytes) {
