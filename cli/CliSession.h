@@ -9,7 +9,9 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 
+#include "cli/Completing.h"
 #include "cli/Options.h"
 #include "saving/RecoveryReport.h"
 #include "saving/SaveQueue.h"
@@ -95,8 +97,8 @@ class CliSession : private CliView, public ScanSession {
     // the scan goes on.
     void run();
 
-    // Behind run(): completes and repairs broken movies as the options say, beside what was saved.
-    void mendMovies();
+    // Behind run(): completes and repairs what is broken as the options say, beside what was saved.
+    void mend();
     // What became of that, for the user; and whether something could not be written.
     const QStringList& mendingLines() const { return m_mendingLines; }
     bool mendingFailed() const { return m_mendingFailed; }
@@ -131,6 +133,9 @@ class CliSession : private CliView, public ScanSession {
     void finishSaving();
     void nameWhatTheCardTellsNow();
     void saveToldFiles();
+    std::set<std::uint64_t> completeItems(SectorReader& medium, const std::vector<MendableItem>& items);
+    void repairItems(SectorReader& medium, const std::vector<MendableItem>& items,
+                     const std::set<std::uint64_t>& completed);
     QByteArray checksumOf(const PublishedItem& item) const;
     QJsonObject endLine() const;
 

@@ -3,19 +3,12 @@
 #include <QFile>
 #include <algorithm>
 
-#include "formats/Registry.h"
-#include "repair/MovieCompletion.h"
 #include "results/SizeForPeople.h"
 #include "saving/TwinFile.h"
 
 namespace vantor {
 
 namespace {
-
-bool isMovieOfBoxes(const QString& type) {
-    static const Format* const boxes = formatFor("MP4");
-    return formatFor(type.toUpper().toStdString()) == boxes;
-}
 
 // A file of the user's.
 class FileSource final : public ByteSource {
@@ -41,10 +34,6 @@ QString seconds(double value) {
 }
 
 }  // namespace
-
-bool MovieMending::mayMend(const QString& type) {
-    return isMovieOfBoxes(type);
-}
 
 QString MovieMending::useReference(const QString& path) {
     QFile file(path);
@@ -91,70 +80,6 @@ std::vector<MovieMending::Broken> MovieMending::sortOut(const std::vector<Mendab
         }
     }
     return broken;
-}
-
-void MovieMending::complete(const std::vector<MendableItem>& items, const QString& destination) {
-    std::vector<SectorRun> whole;
-    std::vector<std::uint64_t> broken;
-    std::vector<const MendableItem*> brokenItems;
-    std::set<std::uint64_t> seen;
-    for (const MendableItem& item : items) {
-        if (item.carved.runs.empty()) {
-            continue;
-        }
-        const std::uint64_t first = item.carved.runs.front().first;
-        if (item.complete) {
-            std::uint64_t left = (item.bytes + kSectorBytes - 1) / kSectorBytes;
-            for (const SectorRun& run : item.carved.runs) {
-                const std::uint64_t sectors = std::min(left, run.end - run.first);
-                whole.push_back({run.first, run.first + sectors});
-                left -= sectors;
-            }
-        } else if (isMovieOfBoxes(item.type) && seen.insert(first).second) {
-            broken.push_back(first);
-            brokenItems.push_back(&item);
-        }
-    }
-    MovieCompletion completion(m_medium, m_stop);
-    const auto assemblies = completion.run(broken, whole);
-    std::size_t proved = 0;
-    std::size_t likely = 0;
-    for (std::size_t i = 0; i < assemblies.size() && m_stop == 0; ++i) {
-        if (!assemblies[i]) {
-            continue;
-        }
-        const bool isProved = assemblies[i]->proof == AssemblyProof::Proved;
-        if (writeAssembly(*brokenItems[i], *assemblies[i], destination)) {
-            ++(isProved ? proved : likely);
-            m_completed.insert(broken[i]);
-        }
-    }
-    m_lines.append(
-        QStringLiteral("%1 of %2 broken movies completed, %3 more put together: please look")
-            .arg(numberForPeople(proved), numberForPeople(broken.size()), numberForPeople(likely)));
-}
-
-bool MovieMending::writeAssembly(const MendableItem& item, const Assembly& assembly,
-                                 const QString& destination) {
-    const bool proved = assembly.proof == AssemblyProof::Proved;
-    ItemSource source = sourceOf(item);
-    source.carved = {assembly.runs, false};
-    source.asPublished = true;
-    MediumBytes bytes(source, m_kept);
-    RepairedMovie movie;
-    movie.data = {0, assembly.bytes};
-    const QString mark = proved ? QStringLiteral("complete") : QStringLiteral("put together");
-    const WrittenTwin twin =
-        writeTwin(destination, item.type, twinNameOf(item.name, mark), movie, bytes, &m_stop);
-    if (twin.path.isEmpty()) {
-        m_failed = true;
-        m_lines.append(QStringLiteral("%1: %2").arg(item.name, twin.error));
-        return false;
-    }
-    m_lines.append((proved ? QStringLiteral("%1: complete, from %2 pieces")
-                           : QStringLiteral("%1: put together from %2 pieces, please look"))
-                       .arg(twin.path, numberForPeople(assembly.runs.size())));
-    return true;
 }
 
 void MovieMending::repair(const std::vector<MendableItem>& items, const QString& destination) {

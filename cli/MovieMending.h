@@ -1,4 +1,4 @@
-// Broken movies among what was found: put together from their pieces, or repaired, behind the search.
+// Movies without an index among what was found: repaired, behind the search.
 #pragma once
 
 #include <QString>
@@ -9,21 +9,12 @@
 #include <set>
 #include <vector>
 
+#include "cli/Completing.h"
 #include "decode/SoundSplitter.h"
 #include "repair/ReferenceShelf.h"
-#include "results/Assembly.h"
-#include "results/CarvedRun.h"
 #include "results/MediumBytes.h"
 
 namespace vantor {
-
-struct MendableItem {
-    QString type;
-    QString name;
-    CarvedRun carved;
-    bool complete = false;    // by its own format
-    std::uint64_t bytes = 0;  // of a complete one
-};
 
 // Any one thread.
 class MovieMending {
@@ -31,13 +22,11 @@ class MovieMending {
     // Both outlive the object; a stop that is not 0 ends it soon.
     MovieMending(SectorReader& medium, const std::atomic<int>& stop) : m_medium(medium), m_stop(stop) {}
 
-    // Whether items of the type (`Ext_Name`) are worth handing over.
-    static bool mayMend(const QString& type);
     // A movie of the user's choice in place of those that were found; a sentence for the user when it is of
     // no use.
     QString useReference(const QString& path);
-    // Writes each broken movie of which the pieces are found; repair() passes over these then.
-    void complete(const std::vector<MendableItem>& items, const QString& destination);
+    // Movies that begin there need no repair.
+    void passOver(const std::set<std::uint64_t>& firstSectors) { m_completed = firstSectors; }
     // Writes a twin of each movie that has no index and fits a whole one.
     void repair(const std::vector<MendableItem>& items, const QString& destination);
 
@@ -51,7 +40,6 @@ class MovieMending {
         DataPlace data;
     };
 
-    bool writeAssembly(const MendableItem& item, const Assembly& assembly, const QString& destination);
     ItemSource sourceOf(const MendableItem& item) const;
     std::vector<Broken> sortOut(const std::vector<MendableItem>& items);
     void mend(const Broken& broken, const QString& destination);

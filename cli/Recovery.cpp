@@ -291,7 +291,7 @@ int recover(CliOptions options) {
             }
             session.run();
             if (options.complete || options.repairMovies) {
-                session.mendMovies();
+                session.mend();
             }
         });
     }

@@ -73,8 +73,9 @@ SaveOptions::SaveOptions()
                  "wholly inside a file that was proved complete, and is left out else.")),
       complete(option(
           "complete",
-          "Put MP4 and QuickTime movies together that lie in pieces, as \"... complete.MP4\", or as "
-          "\"... put together.MP4\" where it could not be proved that all pieces are the right ones.")),
+          "Put MP4 and QuickTime movies and JPEG photos together that lie in pieces, as \"... "
+          "complete.MP4\", or as \"... put together.MP4\" where it could not be proved that all pieces "
+          "are the right ones.")),
       repairMovies(
           option("repair-movies",
                  "Write a playable twin, \"... repaired.MP4\", of each MP4 or QuickTime movie whose "

@@ -4,6 +4,7 @@
 
 #include "repair/MoviePieces.h"
 #include "repair/MovieProof.h"
+#include "repair/RunsOfClusters.h"
 
 namespace vantor {
 
@@ -16,25 +17,6 @@ bool isWorthShowing(const PiecedMovie& movie) {
 
 bool isWhole(const PiecedMovie& movie) {
     return movie.samples != 0 && movie.wholeSamples == movie.samples;
-}
-
-std::vector<SectorRun> runsOf(const PiecedMovie& movie, const FreeClusters& grid) {
-    std::vector<SectorRun> runs;
-    const std::uint64_t sectors = grid.clusterBytes() / kSectorBytes;
-    for (const std::uint64_t cluster : movie.clusters) {
-        const std::uint64_t first = grid.firstSectorOf(cluster);
-        if (!runs.empty() && runs.back().end == first) {
-            runs.back().end += sectors;
-        } else {
-            runs.push_back({first, first + sectors});
-        }
-    }
-    const std::uint64_t spare =
-        movie.clusters.size() * sectors - (movie.bytes + kSectorBytes - 1) / kSectorBytes;
-    if (spare < sectors) {
-        runs.back().end -= spare;
-    }
-    return runs;
 }
 
 // The best that was found of one movie so far.
@@ -68,7 +50,8 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
     std::vector<std::optional<Found>> found(broken.size());
     const auto settle = [&](std::size_t i, Found& movie) {
         movie.settled = true;
-        const std::vector<SectorRun> runs = runsOf(movie.movie, grids[movie.grid]);
+        const std::vector<SectorRun> runs =
+            runsOfClusters(movie.movie.clusters, movie.movie.bytes, grids[movie.grid]);
         for (FreeClusters& grid : grids) {
             for (const SectorRun& run : runs) {
                 grid.take(run);

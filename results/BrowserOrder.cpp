@@ -20,6 +20,9 @@ bool isShown(const ItemFacts& facts, const BrowserWish& wish) {
     if (!wish.type.isEmpty() && facts.type != wish.type) {
         return false;
     }
+    if (!wish.name.isEmpty() && !facts.names.contains(wish.name, Qt::CaseInsensitive)) {
+        return false;
+    }
     const auto& soundness = facts.soundness;
     const auto is = [&](Verdict verdict) {
         return soundness && !soundness->notOfItsType && soundness->verdict == verdict;
@@ -96,9 +99,13 @@ bool BrowserWish::needsSoundness() const {
     return sorted || (show != ShowItems::All && show != ShowItems::NotSaved && show != ShowItems::Lost);
 }
 
-QList<int> browserOrder(int count, const BrowserWish& wish, const std::function<ItemFacts(int)>& factsOf) {
+QList<int> browserOrder(int count, const BrowserWish& wish, const std::function<ItemFacts(int)>& factsOf,
+                        const std::function<bool(int)>& admits) {
     std::vector<std::pair<SortKey, int>> chosen;
     for (int place = 0; place < count; ++place) {
+        if (admits && !admits(place)) {
+            continue;
+        }
         const ItemFacts facts = factsOf(place);
         if (isShown(facts, wish)) {
             chosen.push_back({wish.sort == SortItems::AsFound ? SortKey{} : keyOf(facts, wish.sort), place});

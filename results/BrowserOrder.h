@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 
+#include "results/FoundFacets.h"
 #include "results/Soundness.h"
 
 namespace vantor {
@@ -35,6 +36,8 @@ struct ItemFacts {
     QString type = {};                              // as the results count it; only where a type is asked for
     std::shared_ptr<const CardFile> original = {};  // what the card tells of it
     bool stillThere = false;                        // it lies in a file that the card still holds
+    bool ticked = false;                            // for saving
+    QString names = {};  // all that it is called, a line each; only where a name is asked for
 };
 
 struct BrowserWish {
@@ -43,14 +46,21 @@ struct BrowserWish {
     std::uint32_t smallPixels = kSmallPixels;
     std::uint64_t smallBytes = kSmallBytes;
     QString type = {};  // empty: every type
+    FacetChoice facets = {};
+    QString name = {};  // part of a name, in either case; empty: every name
 
-    bool isPlain() const { return show == ShowItems::All && sort == SortItems::AsFound && type.isEmpty(); }
+    bool isPlain() const {
+        return show == ShowItems::All && sort == SortItems::AsFound && type.isEmpty() && facets.isEmpty() &&
+               name.isEmpty();
+    }
     // Whether it takes the soundness of all items to grant it.
     bool needsSoundness() const;
 };
 
 // Places in the list of `count` items. Items of which too little is known are shown where something is to be
-// left out and not shown where something is asked for; they come last in any order but the found one.
-QList<int> browserOrder(int count, const BrowserWish& wish, const std::function<ItemFacts(int)>& factsOf);
+// left out and not shown where something is asked for; they come last in any order but the found one. Of the
+// wish's facets `admits` knows; without it every item has them.
+QList<int> browserOrder(int count, const BrowserWish& wish, const std::function<ItemFacts(int)>& factsOf,
+                        const std::function<bool(int)>& admits = {});
 
 }  // namespace vantor

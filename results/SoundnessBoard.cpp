@@ -43,6 +43,7 @@ void SoundnessBoard::begin(Open open) {
     ++m_generation;
     m_open = std::move(open);
     m_known.clear();
+    m_news.clear();
     m_knownCount = 0;
     m_inView.clear();
     m_all = m_cursor = 0;
@@ -55,6 +56,7 @@ void SoundnessBoard::begin(Open open) {
 void SoundnessBoard::beginAgain() {
     const std::lock_guard lock(m_mutex);
     m_known.clear();
+    m_news.clear();
     m_knownCount = 0;
     m_cursor = 0;
     m_watch.ended = true;
@@ -115,6 +117,7 @@ void SoundnessBoard::store(std::size_t index, const Soundness& soundness) {
     }
     m_knownCount += m_known[index] ? 0 : 1;
     m_known[index] = soundness;
+    m_news.push_back(index);
     ++m_changes;
 }
 
@@ -126,6 +129,11 @@ std::optional<Soundness> SoundnessBoard::find(std::size_t index) const {
 std::vector<std::optional<Soundness>> SoundnessBoard::all() const {
     const std::lock_guard lock(m_mutex);
     return m_known;
+}
+
+std::vector<std::size_t> SoundnessBoard::takeNews() {
+    const std::lock_guard lock(m_mutex);
+    return std::exchange(m_news, {});
 }
 
 std::size_t SoundnessBoard::known() const {

@@ -58,6 +58,8 @@ class SoundnessBoard {
     std::size_t known() const;
     // Grows whenever something new is known.
     std::uint64_t changes() const { return m_changes; }
+    // Items of which something was found out since the last call, some of them twice perhaps.
+    std::vector<std::size_t> takeNews();
     bool mediumIsGone() const;
     // Somebody else could open the medium, or it was put back in.
     void tryAgain();
@@ -86,6 +88,7 @@ class SoundnessBoard {
     std::uint64_t m_generation = 0;
     std::vector<std::optional<Soundness>> m_known;
     std::size_t m_knownCount = 0;
+    std::vector<std::size_t> m_news;
     std::vector<std::size_t> m_inView;
     std::size_t m_all = 0, m_cursor = 0;
     bool m_busy = false;

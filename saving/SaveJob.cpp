@@ -5,7 +5,9 @@
 #include <utility>
 
 #include "results/MyImageObject.h"
+#include "results/ToldFiles.h"
 #include "saving/ItemSaver.h"
+#include "saving/ToldItem.h"
 
 namespace vantor {
 
@@ -16,6 +18,9 @@ std::uint64_t foundSectors(const MyImageObject& item) {
 SaveJob::SaveJob(SaveRequest request) : m_request(std::move(request)) {
     for (const ChosenItem& chosen : m_request.items) {
         m_total += foundSectors(*chosen.item);
+    }
+    for (const auto& file : m_request.told) {
+        m_total += runsOf(*file).sectors();
     }
 }
 
@@ -47,6 +52,7 @@ void SaveJob::run() {
     const auto held = [](const ChosenItem& chosen) { return !chosen.item->heldBytes().isEmpty(); };
     if (medium || std::any_of(m_request.items.begin(), m_request.items.end(), held)) {
         saveAll(medium.get());
+        saveTold(medium.get());
         compileReport();
         m_request.saver->flush();
         writeTheReport();
@@ -54,10 +60,10 @@ void SaveJob::run() {
     m_finished = true;
 }
 
-void SaveJob::begin(const MyImageObject& item) {
+void SaveJob::begin(const QString& name, std::uint64_t sectors) {
     const std::lock_guard lock(m_lock);
-    m_progress.current = item.imageTitle();
-    m_sectorsOfCurrent = foundSectors(item);
+    m_progress.current = name;
+    m_sectorsOfCurrent = sectors;
     m_watch.sectorsRead = 0;
     m_watch.sectorsRefused = 0;
     m_watch.ended = m_cancelled.load();
@@ -83,7 +89,7 @@ void SaveJob::saveAll(SectorReader* medium) {
 // False when all is cancelled. `later` takes the item where it has to come again.
 bool SaveJob::saveItem(std::size_t place, SectorReader* medium, WaitingClaims* later) {
     const MyImageObject& item = *m_request.items[place].item;
-    begin(item);
+    begin(item.imageTitle(), foundSectors(item));
     std::optional<WatchedReader> watched;
     if (medium != nullptr) {
         watched.emplace(*medium, m_watch);
@@ -118,6 +124,36 @@ bool SaveJob::saveItem(std::size_t place, SectorReader* medium, WaitingClaims* l
     return true;
 }
 
+void SaveJob::saveTold(SectorReader* medium) {
+    for (const auto& file : m_request.told) {
+        if (medium == nullptr || m_cancelled) {
+            m_report.toldFailed.push_back(file);
+            continue;
+        }
+        WatchedReader watched(*medium, m_watch);
+        FoundItem item = toldItem(file, m_request.card, watched);
+        item.unwanted = &m_watch.ended;
+        const CarvedRun& carved = item.source.carved;
+        begin(item.name, carved.sectors());
+        SaveOutcome outcome = m_request.saver->save(item);
+        const std::lock_guard lock(m_lock);
+        ++m_progress.turn;
+        ++m_progress.done;
+        m_progress.share += m_sectorsOfCurrent.exchange(0);
+        if (!outcome.saved && outcome.leftOut == LeftOut::No) {
+            m_report.toldFailed.push_back(file);
+            if (m_cancelled) {
+                continue;
+            }
+            outcome.error = m_watch.ended ? QStringLiteral("Skipped") : outcome.error;
+        }
+        if (outcome.leftOut != LeftOut::Unsound) {
+            m_toldOutcomes.push_back({item.name, item.type, carved.runs.front().first,
+                                      carved.runs.front().end, std::move(outcome)});
+        }
+    }
+}
+
 void SaveJob::compileReport() {
     for (std::size_t place = 0; place < m_outcomes.size(); ++place) {
         if (!m_outcomes[place]) {
@@ -131,6 +167,11 @@ void SaveJob::compileReport() {
                                   item.publishedSectors().end, std::move(*m_outcomes[place])});
     }
     m_outcomes.clear();
+    for (ReportedItem& told : m_toldOutcomes) {
+        m_report.tally.add(told.name, told.outcome);
+        m_report.items.push_back(std::move(told));
+    }
+    m_toldOutcomes.clear();
 }
 
 void SaveJob::writeTheReport() {
@@ -140,6 +181,9 @@ void SaveJob::writeTheReport() {
     m_request.report->ended = QDateTime::currentDateTime();
     const auto pictureOf = [this](const ReportedItem& reported) {
         const auto at = static_cast<std::size_t>(&reported - m_report.items.data());
+        if (at >= m_reportedPlaces.size()) {
+            return QByteArray();
+        }
         const QByteArray& picture = m_request.items[m_reportedPlaces[at]].item->imageData();
         return picture == m_request.placeholder ? QByteArray() : picture;
     };

@@ -28,6 +28,9 @@ struct SaveRequest {
     std::vector<ChosenItem> items;
     std::shared_ptr<const ItemSaver> saver;
     std::shared_ptr<const CardIndex> card;  // null: nothing is known
+    // Files that only the card's directory tells of, saved behind the items; those that are no files of their
+    // type after all are passed over.
+    std::vector<std::shared_ptr<const CardFile>> told;
     std::function<std::unique_ptr<SectorReader>()> openMedium;
     // Written behind the last item; none when absent.
     std::optional<ReportHead> report;
@@ -35,12 +38,14 @@ struct SaveRequest {
     QByteArray placeholder;  // the picture of items without a thumbnail, which the report leaves out
 };
 
-// What became of the items, in the order of the request; those that a cancel came before are absent.
+// What became of the items, in the order of the request, and behind them of the files that only the card's
+// directory tells of; those that a cancel came before are absent.
 struct SaveReport {
     bool mediumOpened = false;  // else only what memory holds was saved
     SaveTally tally;
-    std::vector<std::size_t> indexes;
+    std::vector<std::size_t> indexes;  // of the items; of the files there is none
     std::vector<ReportedItem> items;
+    std::vector<std::shared_ptr<const CardFile>> toldFailed;  // neither saved nor left out, a cancel included
     WrittenReport written;
 };
 
@@ -68,7 +73,7 @@ class SaveJob {
     void skip(std::size_t turn);
     bool isFinished() const { return m_finished; }
 
-    std::size_t count() const { return m_request.items.size(); }
+    std::size_t count() const { return m_request.items.size() + m_request.told.size(); }
     std::uint64_t total() const { return m_total; }
     SaveProgress progress() const;
 
@@ -78,7 +83,8 @@ class SaveJob {
   private:
     void saveAll(SectorReader* medium);
     bool saveItem(std::size_t place, SectorReader* medium, WaitingClaims* later);
-    void begin(const MyImageObject& item);
+    void saveTold(SectorReader* medium);
+    void begin(const QString& name, std::uint64_t sectors);
     void compileReport();
     void writeTheReport();
 
@@ -87,6 +93,7 @@ class SaveJob {
     std::uint64_t m_total = 0;
     std::vector<std::optional<SaveOutcome>> m_outcomes;  // by place in the request
     std::vector<std::size_t> m_reportedPlaces;           // of the report's items
+    std::vector<ReportedItem> m_toldOutcomes;
     ReadWatch m_watch;
     std::atomic<bool> m_cancelled{false};
     std::atomic<bool> m_finished{false};

@@ -77,7 +77,9 @@ std::vector<std::shared_ptr<const CardFile>> ScanSession::toldFiles() const {
         wanted.insert(extension, is);
         return is;
     };
-    return toldOnly(known, starts, {{m_end.start, m_end.sector}, isWanted});
+    // A thorough pass over no signatures, which ends at once, comes after a general one that was whole.
+    const std::uint64_t searchedTo = m_end.nothingToSearch ? m_end.end : m_end.sector;
+    return toldOnly(known, starts, {{m_end.start, searchedTo}, isWanted});
 }
 
 void ScanSession::forgetCard() {

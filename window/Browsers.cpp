@@ -55,6 +55,7 @@ LookedAtItems MyTableController::lookedAtItems() {
     items.at = [this](std::size_t index) { return itemAt(index); };
     items.count = [this] { return itemCount(); };
     items.isSaved = [this](std::size_t index) { return m_desk->marks().isSaved(index); };
+    items.isTicked = [this](std::size_t index) { return m_ticks.isTicked(index); };
     items.mediumBusy = [this] { return scanRunning() || m_desk->isRunning() || m_filling > 0; };
     items.card = [this] { return card(); };
     items.policy = [this] { return m_desk->choices().policy; };
@@ -158,6 +159,19 @@ void MyTableController::showChosenType() {
     allTypesButton->setEnabled(!m_looks->shownType().isEmpty());
 }
 
+void MyTableController::takeToldFiles(SavingDesk::ToldFiles files) {
+    m_told = std::move(files);
+    m_looks->showTold(m_told);
+    showItemCounts();
+}
+
+// What is remembered of the items of a list that is no more.
+void MyTableController::forgetItems() {
+    m_desk->forget();
+    m_ticks.clear();
+    m_told.clear();
+}
+
 // Counts in words, and the buttons that need something to work on.
 void MyTableController::showItemCounts() {
     const qsizetype found = static_cast<qsizetype>(itemCount());
@@ -179,7 +193,7 @@ void MyTableController::showItemCounts() {
     saveSelectedButton_Sig->setEnabled(imageBrowser_2->selectionModel()->hasSelection());
     const qsizetype shown = m_looks->isPlain() ? found : browserOf(activeSet())->shownCount();
     for (QPushButton* button : {saveAllButton, saveAllButton_Sig}) {
-        button->setEnabled(shown > 0);
+        button->setEnabled(shown > 0 || (m_looks->isPlain() && !m_told.empty()));
         button->setText(m_looks->isPlain() ? tr("Save &All…")
                                            : tr("Save &All Shown (%1)…").arg(numberOf(shown)));
         button->setAccessibleName(m_looks->isPlain() ? tr("Save all found items")
@@ -194,6 +208,8 @@ void MyTableController::showItemCounts() {
     }
     savedLabel->setText(saved);
     savedLabel_Sig->setText(saved);
+    showTicks();
+    showSearchSum();
     showEmptyResults();
 }
 

@@ -37,7 +37,8 @@ MyTableController::MyTableController(ProgramParts parts)
         m_parts.openBeside = m_copied.through(knowingRefusals(std::move(m_parts.openBeside)),
                                               [leaving = m_leaving] { return leaving->load(); });
     }
-    setMediumOpener(m_parts.openMedium, RefusedSectorsAre::AskedForAgain);
+    setMediumOpener([this](const QString& device) { return openForSearch(device); },
+                    RefusedSectorsAre::AskedForAgain);
     setAskCard(m_parts.askCard);
     setThumbnailer(m_parts.thumbnailer);
     if (m_parts.thumbnailer) {

@@ -16,7 +16,7 @@
 //   Browsers                    window/Browsers.cpp
 //   Preview                     window/Preview.cpp
 //   Movie                       window/MoviePreview.cpp
-//   Saving                      window/Saving.cpp
+//   Saving                      window/Saving.cpp, window/Ticks.cpp
 //   Fields with given names
 //   What a scan shows           window/ScanScreen.cpp, window/SearchEndBar.cpp
 //   Searches gone on with       window/Keeping.cpp, window/CardCopy.cpp, window/CardState.cpp
@@ -39,6 +39,7 @@
 #include "media/CopiedMedium.h"
 #include "media/MediaList.h"
 #include "media/SearchRange.h"
+#include "results/TickedItems.h"
 #include "scan/ScanInputs.h"
 #include "scan/ScanMeter.h"
 #include "scan/ScanSession.h"
@@ -215,10 +216,17 @@ class MyTableController : public QObject,
     void closemovie_Win();
     std::unique_ptr<Movie> getAMovieFile();
 
-    // --- Saving (window/Saving.cpp) ---
+    // --- Saving (window/Saving.cpp, window/Ticks.cpp) ---
 
     void saveSelected();
     void saveAll();
+    void saveTicked();
+    // Items by their places in the list; what is beyond its end is passed over.
+    void tickItems(const QList<qsizetype>& indexes, bool ticked);
+    // Ticks all that is shown; when all of it is ticked already, unticks it.
+    void tickShown();
+    void invertTicks();
+    const TickedItems& ticks() const { return m_ticks; }
     void askSavingOptions();
     // True while something found is neither saved nor left out as the user asked.
     bool hasUnsavedItems() const;
@@ -359,6 +367,10 @@ class MyTableController : public QObject,
     void showTypeCounts();
     // window/SearchEndBar.cpp
     void showSearchEnd();
+    void showSearchSum();
+    // Opens the medium for a pass of a search; the first of them is looked at whether it was erased.
+    std::unique_ptr<SectorReader> openForSearch(const QString& device);
+    void showThatItWasErased();
     void tryBadSectorsAgain();
     // The badges of the list begin anew.
     void beginLooks();
@@ -409,6 +421,8 @@ class MyTableController : public QObject,
     ImageBrowserView* browserOf(ControlSet set) const;
     void filterResultRows();
     void showChosenType();
+    void takeToldFiles(SavingDesk::ToldFiles files);
+    void forgetItems();
     void keepChosenType();
     void showItemCounts();
     LookedAtItems lookedAtItems();
@@ -426,8 +440,12 @@ class MyTableController : public QObject,
     QString shownFileOf(const QString& file) const;
     void showThatTheMediumIsGone();
     void emptyPreviewPane();
+    // window/Ticks.cpp
+    void wireTicks();
+    void showTicks();
+    bool allShownAreTicked() const;
     // window/Saving.cpp
-    void saveItems(const QList<qsizetype>& indexes);
+    void saveItems(const QList<qsizetype>& indexes, const SavingDesk::ToldFiles& told = {});
     SavingParts savingParts();
     ReportHead reportHead() const;
 
@@ -478,8 +496,11 @@ class MyTableController : public QObject,
     ScanMeter m_meter;
     double m_progressSectors = 0;
     bool m_draining = false;
-    bool m_searchEnded = false;   // and its results are in view
-    QList<ResultRow> m_leftRows;  // only when it fell back to the screen before
+    bool m_searchEnded = false;  // and its results are in view
+    bool m_readsAsErased = false;
+    std::atomic<bool> m_mayBeErased{false};  // nobody has looked yet
+    qint64 m_searchMilliseconds = 0;         // how long it took
+    QList<ResultRow> m_leftRows;             // only when it fell back to the screen before
 
     // Of searches that are gone on with, and of copies.
     CopiedMedium m_copied;
@@ -502,6 +523,12 @@ class MyTableController : public QObject,
     // Set when the user chooses the destination.
     QString m_chosenFolder;
     std::optional<std::uint64_t> m_chosenFileSystem;
+
+    // Set by the user after a scan has found something; empty with every list.
+    TickedItems m_ticks;
+
+    // Set at the end of a scan, emptied with the next one.
+    SavingDesk::ToldFiles m_told;  // files that only the card's directory tells of
 
     // Begin anew with every scan; the first to go, since they ask the others.
     std::unique_ptr<BrowserLooks> m_looks;

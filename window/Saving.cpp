@@ -45,7 +45,8 @@ void MyTableController::saveSelected() {
     saveItems(browserOf(activeSet())->selectionIndexes());
 }
 
-// All that the browser shows; the button says so when that is not all there is.
+// All that the browser shows, and only where that is all there is, as the button says, also what the card
+// alone tells of.
 void MyTableController::saveAll() {
     if (!m_looks->isPlain()) {
         saveItems(browserOf(activeSet())->shownIndexes());
@@ -53,7 +54,7 @@ void MyTableController::saveAll() {
     }
     QList<qsizetype> all(static_cast<qsizetype>(itemCount()));
     std::iota(all.begin(), all.end(), 0);
-    saveItems(all);
+    saveItems(all, m_told);
 }
 
 void MyTableController::askSavingOptions() {
@@ -62,8 +63,8 @@ void MyTableController::askSavingOptions() {
     }
 }
 
-void MyTableController::saveItems(const QList<qsizetype>& indexes) {
-    if (indexes.isEmpty() || session) {
+void MyTableController::saveItems(const QList<qsizetype>& indexes, const SavingDesk::ToldFiles& told) {
+    if ((indexes.isEmpty() && told.empty()) || session) {
         return;
     }
     if (m_desk->isRunning()) {
@@ -77,7 +78,7 @@ void MyTableController::saveItems(const QList<qsizetype>& indexes) {
     if (pathInView()->text().isEmpty() ? askDestination().isEmpty() : !destinationStillThere()) {
         return;
     }
-    m_desk->save(indexes, pathInView()->text());
+    m_desk->save(indexes, pathInView()->text(), told);
     m_looks->tryAgain();
     showDestination();
 }

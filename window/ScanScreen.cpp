@@ -197,6 +197,10 @@ void MyTableController::hideScanProgress() {
         pFile_op->flush();
         pFile_op.reset();
     }
+    // Without the time that the user takes to read that it has ended.
+    if (scanRunning()) {
+        m_searchMilliseconds = m_clock.elapsed();
+    }
     m_searchEnded = true;
     showEmptyResults();
 }

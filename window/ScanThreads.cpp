@@ -21,13 +21,18 @@ void MyTableController::startScan(void (ScanSession::*driver)()) {
     m_goOnWhenStopped = false;
     searchEndBar->hide();
     m_inputs = readInputs();
+    m_readsAsErased = false;
+    m_searchMilliseconds = 0;
+    // A copy is read in its own order, and who goes on has looked before.
+    m_mayBeErased = m_parts.askCard && !m_goingOn && !m_copied.of(devicePath()) &&
+                    m_inputs.range[static_cast<std::size_t>(activeSet())].entireDisk == 1;
     keepThisSearch();
     showEmptyResults();
     if (m_thumbnails) {
         m_thumbnails->cancel();
         m_thumbnails->resume();
     }
-    m_desk->forget();
+    forgetItems();
     idSigTableView->clearSelection();
     showChosenType();
     showDestination();
@@ -46,6 +51,7 @@ void MyTableController::startScan(void (ScanSession::*driver)()) {
     m_driver = std::thread([this, driver] {
         (this->*driver)();
         mSetLabelTimer->invalidate();
+        later([this, told = toldFiles()] { takeToldFiles(told); });
         m_driverRunning = false;
     });
     m_timerThread = std::thread([this] {

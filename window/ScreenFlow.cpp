@@ -221,7 +221,7 @@ void MyTableController::backToFileTypes() {
     show_hide_4_screen_RawFile(true);
     show_hide_3_screen_RawFile(false);
     stop_now = 0;
-    m_desk->forget();
+    forgetItems();
     m_looks->end();
     homeOfScreen()->setFocus();
 }
@@ -246,7 +246,7 @@ void MyTableController::showFileTypeHelp() {
 // The items go, and the browsers stand as at the start.
 void MyTableController::emptyBrowsers() {
     clearItems();
-    m_desk->forget();
+    forgetItems();
     m_looks->end();
     emptyBrowserViews();
     showItemCounts();

@@ -1,17 +1,37 @@
 // How a search ended, beside its results, and what empty lists say.
 #include <algorithm>
 
+#include "decode/ErasedCardCheck.h"
+#include "results/SizeForPeople.h"
+#include "saving/SaveSummary.h"
 #include "window/MyTableController.h"
 #include "window/browser/EmptyWords.h"
 #include "window/widgets/Theme.h"
 
 namespace vantor {
 
+namespace {
+
+// "12 s", "3 min 20 s", "2 h 5 min".
+QString durationForPeople(qint64 seconds) {
+    constexpr qint64 kMinute = 60, kHour = 3600;
+    if (seconds < kMinute) {
+        return QObject::tr("%1 s").arg(seconds);
+    }
+    return seconds < kHour ? QObject::tr("%1 min %2 s").arg(seconds / kMinute).arg(seconds % kMinute)
+                           : QObject::tr("%1 h %2 min").arg(seconds / kHour).arg(seconds % kHour / kMinute);
+}
+
+}  // namespace
+
 void MyTableController::showSearchEnd() {
     const SearchEnd& end = searchEnd();
     QStringList sentences{searchEndHeadline(end), searchEndAdvice(end)};
     if (end.outcome == PassOutcome::OpenError && m_parts.whyNotOpened) {
         sentences << m_parts.whyNotOpened();
+    }
+    if (m_readsAsErased) {
+        sentences << QString::fromLatin1(kErasedCardWords);
     }
     if (m_memory->keeper() && !m_memory->keeper()->error().isEmpty()) {
         sentences << tr("The search could not be remembered: %1.").arg(m_memory->keeper()->error());
@@ -24,6 +44,53 @@ void MyTableController::showSearchEnd() {
     tryBadSectorsButton->setVisible(end.unreadable != 0);
     m_goOnButton->setVisible(end.canGoOn() && onScanScreen());
     searchEndBar->setVisible(!sentences.isEmpty());
+    showSearchSum();
+}
+
+// "810 photos, 875 MB, 12 s, all complete", as far as it is known.
+void MyTableController::showSearchSum() {
+    const auto found = static_cast<std::uint64_t>(itemCount());
+    QStringList parts;
+    const FoundFacets& facets = m_looks->facets();
+    if (m_searchEnded && found > 0 && facets.size() == found) {
+        parts << (activeSet() == ControlSet::Sig ? countOfItems(found)
+                  : found == 1                   ? tr("1 photo")
+                                                 : tr("%1 photos").arg(numberForPeople(found)))
+              << sizeForPeople(facets.bytes(), 0);
+        if (m_searchMilliseconds > 0) {
+            parts << durationForPeople(std::max<qint64>(1, m_searchMilliseconds / 1000));
+        }
+        if (m_looks->allComplete()) {
+            parts << tr("all complete");
+        }
+    }
+    searchSumLabel->setText(parts.join(QStringLiteral(", ")));
+}
+
+std::unique_ptr<SectorReader> MyTableController::openForSearch(const QString& device) {
+    if (!m_parts.openMedium) {
+        return nullptr;
+    }
+    auto reader = m_parts.openMedium(device);
+    if (!reader || !m_mayBeErased.exchange(false)) {
+        return reader;
+    }
+    if (looksErased(*reader, reader->mediumSectors())) {
+        later([this] { showThatItWasErased(); });
+    }
+    return reader->seek(0) ? std::move(reader) : m_parts.openMedium(device);
+}
+
+// In plain words, and nobody is held up: who likes may let it go on.
+void MyTableController::showThatItWasErased() {
+    m_readsAsErased = true;
+    searchEndLabel->setText(QString::fromLatin1(kErasedCardWords) + u' ' +
+                            tr("Press Stop, or let the search go on."));
+    const int edge = searchEndIcon->minimumWidth();
+    searchEndIcon->setPixmap(ownIcon(QStringLiteral("info")).pixmap(edge, edge));
+    tryBadSectorsButton->hide();
+    searchSumLabel->clear();
+    searchEndBar->show();
 }
 
 // From now on previews, badges and saving ask the medium for them as if for the first time.
@@ -65,7 +132,8 @@ void MyTableController::showEmptyResults() {
     const std::size_t found = itemCount();
     EmptyWords words;
     if (found > 0 && browser->shownCount() == 0) {
-        words = nothingShown(found, {!m_looks->showsEveryKind(), !m_looks->shownType().isEmpty()});
+        words = nothingShown(
+            found, {!m_looks->showsEveryKind(), !m_looks->shownType().isEmpty(), m_looks->isPicked()});
     } else if (m_searchEnded) {
         words = nothingFound(searchWish(), searchEnd());
     } else {

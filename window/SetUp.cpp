@@ -71,7 +71,13 @@ void MyTableController::dressWindow() {
     rawSplitter->setStretchFactor(0, 0);
     rawSplitter->setStretchFactor(1, 1);
     rawSplitter->setStretchFactor(2, 0);
-    rawSplitter->setSizes({190, 560, 280});
+    rawSplitter->setSizes({214, 560, 270});
+    rawLeftSplitter->setStretchFactor(0, 1);
+    rawLeftSplitter->setStretchFactor(1, 0);
+    rawLeftSplitter->setSizes({300, 200});
+    photoSplitter->setStretchFactor(0, 0);
+    photoSplitter->setStretchFactor(1, 1);
+    photoSplitter->setSizes({214, 800});
 }
 
 void MyTableController::dressRangeSets() {
@@ -163,10 +169,10 @@ void MyTableController::setUpBrowsers() {
     for (ImageBrowserView* browser : {imageBrowser, imageBrowser_2}) {
         browser->setDataSource(this);
     }
-    m_looks =
-        std::make_unique<BrowserLooks>(std::array{BrowserScreen{imageBrowser, showBox, sortBox},
-                                                  BrowserScreen{imageBrowser_2, showBox_Sig, sortBox_Sig}},
-                                       lookedAtItems());
+    m_looks = std::make_unique<BrowserLooks>(
+        std::array{BrowserScreen{imageBrowser, showBox, sortBox, foundPane},
+                   BrowserScreen{imageBrowser_2, showBox_Sig, sortBox_Sig, foundPane_Sig}},
+        lookedAtItems());
     connect(m_looks.get(), &BrowserLooks::changed, this, &MyTableController::showItemCounts);
     m_desk = std::make_unique<SavingDesk>(savingParts());
     connect(m_desk.get(), &SavingDesk::marksChanged, this, &MyTableController::showItemCounts);

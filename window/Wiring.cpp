@@ -29,6 +29,7 @@ QStringList localFiles(const QMimeData* data) {
 void MyTableController::wire() {
     new PressGuard([this] { return screen_counter.load(); }, window);
     wireButtons();
+    wireTicks();
     wireRangeSet(ControlSet::Photo);
     wireRangeSet(ControlSet::Sig);
     wireShortcuts();
@@ -166,10 +167,15 @@ void MyTableController::wireShortcuts() {
     save(Qt::CTRL | Qt::SHIFT | Qt::Key_S, saveAllButton, saveAllButton_Sig);
 }
 
-// Return presses the button that has the keyboard, else Next; from the search for types it leads to them.
+// Return presses the button that has the keyboard, else Next; from a search field it leads to what was
+// searched for.
 void MyTableController::pressDefault() {
     if (window->focusWidget() == typeSearchField) {
         idCheckTableView->takeKeyboard();
+        return;
+    }
+    if (foundPane->isSearching() || foundPane_Sig->isSearching()) {
+        browserOf(activeSet())->setFocus();
         return;
     }
     auto* focused = qobject_cast<QPushButton*>(window->focusWidget());

@@ -3,6 +3,7 @@
 
 #include "repair/MovieCompletion.h"
 #include "repair/MoviePieces.h"
+#include "tests/repair/MemoryReader.h"
 #include "tests/repair/Movies.h"
 
 namespace vantor {
@@ -11,33 +12,13 @@ namespace {
 using test::asSpan;
 using test::MadeMovie;
 using test::makeMovie;
+using test::MemoryReader;
 using test::picturesOfManySizes;
 using test::plainPictures;
 
 constexpr std::uint64_t kClusterSectors = 8;
 constexpr qsizetype kClusterBytes = 4096;
 const std::atomic<int> kGoOn{0};
-
-class MemoryReader final : public SectorReader {
-  public:
-    explicit MemoryReader(const QByteArray& bytes) : m_bytes(bytes) {}
-    std::uint64_t mediumSectors() const override {
-        return static_cast<std::uint64_t>(m_bytes.size()) / kSectorBytes;
-    }
-
-  protected:
-    bool fetch() override {
-        if (position() >= mediumSectors()) {
-            return false;
-        }
-        handOver(reinterpret_cast<const std::uint8_t*>(m_bytes.constData()) + position() * kSectorBytes, 1);
-        return true;
-    }
-    bool moveTo(std::uint64_t) override { return true; }
-
-  private:
-    const QByteArray& m_bytes;
-};
 
 // A medium of that many clusters, filled with noise.
 QByteArray mediumOf(int clusters) {

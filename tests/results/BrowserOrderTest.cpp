@@ -52,6 +52,23 @@ TEST_F(BrowserOrder, AType_LeavesOutAllOthers) {
     EXPECT_EQ(browserOrder(6, wish, factsOf), QList<int>{4});
 }
 
+TEST_F(BrowserOrder, AName_IsLookedForInAllNames) {
+    items[1].names = QStringLiteral("GND00001.JPG\nDCIM/IMG_0412.JPG");
+    items[4].names = QStringLiteral("GND00002.JPG");
+    BrowserWish wish;
+    wish.name = QStringLiteral("img_04");
+    EXPECT_FALSE(wish.isPlain());
+    EXPECT_FALSE(wish.needsSoundness());
+    const auto factsOf = [this](int place) { return items[static_cast<std::size_t>(place)]; };
+    EXPECT_EQ(browserOrder(6, wish, factsOf), QList<int>{1});
+    wish.name = QStringLiteral("gnd");
+    EXPECT_EQ(browserOrder(6, wish, factsOf), (QList<int>{1, 4}));
+    EXPECT_EQ(browserOrder(6, wish, factsOf, [](int place) { return place != 1; }), QList<int>{4});
+    BrowserWish picked;
+    picked.facets.days = {20260517};
+    EXPECT_FALSE(picked.isPlain());
+}
+
 TEST_F(BrowserOrder, LeftOut_KeepsWhatIsNotKnown) {
     EXPECT_EQ(order(ShowItems::NotSmall), (QList<int>{2, 3, 4, 5}));
     items[5].soundness->notOfItsType = true;

@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 #include <thread>
 
+#include "results/CardIndex.h"
 #include "results/MyImageObject.h"
 #include "saving/SaveJob.h"
 #include "saving/SaveSummary.h"
@@ -64,6 +65,75 @@ TEST_F(SaveJobTest, CountsAndReportsAsTheCommandDoes) {
     EXPECT_TRUE(html.contains("CANON_DC (sdb1)"));
     EXPECT_EQ(html.count("<img "), 1) << "pictures, without the one that stands for none";
     EXPECT_EQ(contentsOf(report.written.csv).count("\r\n"), 4);
+}
+
+// Two files that only a directory tells of: a text, and a sound where a shorter one lies now.
+SaveRequest withToldFiles(SaveRequest wish) {
+    CardTable table;
+    for (const auto& [name, first] : {std::pair{"NOTES.TXT", 60U}, std::pair{"VOICE.WAV", 70U}}) {
+        CardFile file;
+        file.folder = QStringLiteral("DOCS");
+        file.name = QString::fromLatin1(name);
+        file.bytes = file.validBytes = 700;
+        file.runs = {{first, first + 4}};
+        file.runsKnownBy = first == 60U ? RunsKnownBy::Chain : RunsKnownBy::Guess;
+        file.state = FileState::Deleted;
+        table.files.push_back(std::move(file));
+    }
+    wish.card = std::make_shared<const CardIndex>(std::move(table));
+    for (const CardFile& file : wish.card->table().files) {
+        wish.told.emplace_back(wish.card, &file);
+    }
+    return wish;
+}
+
+TEST_F(SaveJobTest, WhatOnlyTheCardTellsOf_IsSavedBehindTheItemsAndReported) {
+    for (std::size_t sector = 60; sector < 64; ++sector) {
+        std::fill(medium.bytes[sector].begin(), medium.bytes[sector].end(), 't');
+    }
+    const QByteArray other = wavFile(400, 3);
+    std::memcpy(medium.bytes[70].data(), other.constData(), static_cast<std::size_t>(other.size()));
+    SaveRequest wish = withToldFiles(request({{5, item("a.WAV", {10, 50}, "\x89PNGabc")}}));
+    wish.report = ReportHead{};
+    SaveJob job(std::move(wish));
+    EXPECT_EQ(job.count(), 3U);
+    EXPECT_EQ(job.total(), 40U + 2U + 2U) << "whole sectors of what the directory counts";
+    job.run();
+    const SaveReport& report = job.report();
+    EXPECT_EQ(contentsOf(folder.filePath("DOCS/NOTES.TXT")), QByteArray(700, 't'));
+    EXPECT_FALSE(QFile::exists(folder.filePath("DOCS/VOICE.WAV")));
+    EXPECT_EQ(report.indexes, std::vector<std::size_t>{5});
+    ASSERT_EQ(report.items.size(), 2U) << "what proves to be no file of its type is not spoken of";
+    EXPECT_EQ(report.items[1].name, QStringLiteral("NOTES.TXT"));
+    EXPECT_EQ(report.items[1].firstSector, 60U);
+    EXPECT_EQ(report.tally.saved, 2U);
+    EXPECT_TRUE(report.toldFailed.empty());
+    EXPECT_EQ(job.progress().done, 3U);
+    EXPECT_EQ(job.progress().share, job.total());
+    const QByteArray html = contentsOf(report.written.html);
+    EXPECT_TRUE(html.contains("NOTES.TXT"));
+    EXPECT_EQ(html.count("<img "), 1);
+}
+
+TEST_F(SaveJobTest, WhatOnlyTheCardTellsOf_ComesAgainWhereItWasCancelledOrFailed) {
+    SaveJob cancelled(withToldFiles(request({{5, item("a.WAV", {10, 50})}})));
+    medium.beforeRead = [&](std::uint64_t read) {
+        if (read == 5) {
+            cancelled.cancel();
+        }
+    };
+    cancelled.run();
+    EXPECT_EQ(cancelled.report().toldFailed.size(), 2U);
+    EXPECT_EQ(cancelled.report().tally.failed, 0U);
+    EXPECT_EQ(files("DOCS"), QStringList());
+    medium.beforeRead = nullptr;
+
+    medium.badForEver = {60, 61, 62, 63};
+    SaveJob failing(withToldFiles(request({})));
+    failing.run();
+    ASSERT_FALSE(failing.report().toldFailed.empty());
+    EXPECT_EQ(failing.report().toldFailed.front()->name, QStringLiteral("NOTES.TXT"));
+    EXPECT_EQ(failing.report().tally.failed, 1U);
 }
 
 TEST_F(SaveJobTest, WithoutAReport_NoneIsWritten) {

@@ -8,6 +8,7 @@
 #include "results/MyImageObject.h"
 #include "results/RecoveryMode.h"
 #include "results/ResultRow.h"
+#include "window/browser/FoundPane.h"
 #include "window/browser/ImageBrowserView.h"
 
 namespace vantor {
@@ -17,6 +18,9 @@ namespace {
 constexpr int kLookMilliseconds = 150;
 constexpr qint64 kReorderMilliseconds = 500;
 constexpr int kListMargins = 24;
+// What is spent at a time on getting to know items; with more to do it goes on soon.
+constexpr qint64 kFacetMilliseconds = 25;
+constexpr int kSoonMilliseconds = 5;
 
 }  // namespace
 
@@ -66,6 +70,7 @@ void BrowserLooks::fillBoxes() {
             box->view()->setMinimumWidth(box->view()->sizeHintForColumn(0) + kListMargins);
             connect(box, &QComboBox::currentIndexChanged, this, &BrowserLooks::choose);
         }
+        connect(screen.pane, &FoundPane::chosen, this, &BrowserLooks::pick);
     }
 }
 
@@ -77,8 +82,11 @@ void BrowserLooks::begin(SoundnessBoard::Open open) {
             const QSignalBlocker quiet(box);
             box->setCurrentIndex(0);
         }
+        screen.pane->begin();
         screen.browser->setOrder(std::nullopt);
     }
+    m_facets.clear();
+    m_nextFacet = 0;
     m_board.begin(std::move(open));
     m_look.start();
 }
@@ -96,6 +104,7 @@ void BrowserLooks::shutDown() {
 ItemFacts BrowserLooks::factsOf(std::size_t index) const {
     const auto item = m_items.at(index);
     ItemFacts facts{m_board.find(index), item && item->carved().readFailed, m_items.isSaved(index)};
+    facts.ticked = m_items.isTicked(index);
     if (item) {
         addCard(facts, *item);
     }
@@ -125,10 +134,47 @@ void BrowserLooks::takeCard() {
         return;
     }
     m_card = card;
+    m_nextFacet = 0;
     m_board.beginAgain();
     for (const BrowserScreen& each : m_screens) {
         each.browser->setOriginalsShown(m_card && !m_card->table().files.empty());
     }
+}
+
+ItemTraits BrowserLooks::traitsOf(std::size_t index) const {
+    ItemTraits traits;
+    const auto item = m_items.at(index);
+    if (!item) {
+        return traits;
+    }
+    ItemFacts facts;
+    facts.soundness = m_board.find(index);
+    addCard(facts, *item);
+    const Soundness* soundness = facts.soundness ? &*facts.soundness : nullptr;
+    traits.type = pathExtension(item->imageTitle());
+    traits.day = dayOf(soundness, facts.original.get());
+    traits.complete =
+        soundness != nullptr && soundness->verdict == Verdict::Complete && !soundness->notOfItsType;
+    traits.bytes = soundness != nullptr ? soundness->bytes : item->carved().sectors() * kSectorBytes;
+    return traits;
+}
+
+// Gets to know items that are new or of which something was found out; false while there are more of them.
+bool BrowserLooks::takeFacets() {
+    const std::size_t count = m_items.count();
+    QElapsedTimer since;
+    since.start();
+    for (const std::size_t index : m_board.takeNews()) {
+        // Those further on have their turn anyhow.
+        if (index < m_nextFacet) {
+            m_facets.set(index, traitsOf(index));
+        }
+    }
+    while (m_nextFacet < count && since.elapsed() < kFacetMilliseconds) {
+        m_facets.set(m_nextFacet, traitsOf(m_nextFacet));
+        ++m_nextFacet;
+    }
+    return m_nextFacet >= count;
 }
 
 // A few times a second while found items are in view.
@@ -137,9 +183,17 @@ void BrowserLooks::look() {
     takeCard();
     m_board.setMediumBusy(m_items.mediumBusy());
     m_board.want(browser->indexesInView());
-    m_board.wantAll(m_wish.needsSoundness() ? m_items.count() : 0);
+    m_board.wantAll(m_wish.needsSoundness() || screen().pane->wantsDetails() ? m_items.count() : 0);
+    const bool allTaken = takeFacets();
+    m_look.setInterval(allTaken ? kLookMilliseconds : kSoonMilliseconds);
+    if (m_facets.changes() != m_shownFacets && allTaken) {
+        m_shownFacets = m_facets.changes();
+        screen().pane->showFacets(m_facets, m_items.count());
+        emit changed();
+    }
     const std::uint64_t changes = m_board.changes();
-    if (changes == m_seenChanges && static_cast<int>(m_items.count()) == m_orderedCount) {
+    const bool pickedAnew = !m_wish.facets.isEmpty() && m_facets.changes() != m_pickedFacets;
+    if (changes == m_seenChanges && static_cast<int>(m_items.count()) == m_orderedCount && !pickedAnew) {
         return;
     }
     browser->viewport()->update();
@@ -160,6 +214,18 @@ void BrowserLooks::choose() {
     look();
 }
 
+void BrowserLooks::showTold(const std::vector<std::shared_ptr<const CardFile>>& files) {
+    screen().pane->showTold(files);
+}
+
+// The user picked something of what was found, or typed a name.
+void BrowserLooks::pick() {
+    m_wish.facets = screen().pane->choice();
+    m_wish.name = screen().pane->name();
+    putInOrder();
+    look();
+}
+
 void BrowserLooks::showType(const QString& type) {
     if (m_wish.type != type) {
         m_wish.type = type;
@@ -175,31 +241,45 @@ void BrowserLooks::putInOrder() {
     if (m_wish.isPlain()) {
         browser->setOrder(std::nullopt);
     } else {
-        const auto known = m_board.all();
+        const auto known = m_wish.needsSoundness() || !m_wish.name.isEmpty()
+                               ? m_board.all()
+                               : std::vector<std::optional<Soundness>>();
+        const FoundFacets::Filter picked(m_facets, m_wish.facets);
+        m_pickedFacets = m_facets.changes();
         browser->reloadData();
-        browser->setOrder(browserOrder(m_orderedCount, m_wish, [&](int index) {
-            const auto at = static_cast<std::size_t>(index);
-            ItemFacts facts;
-            if (at < known.size()) {
-                facts.soundness = known[at];
-            }
-            if (m_wish.show == ShowItems::Lost || m_wish.sort == SortItems::OriginalName) {
-                if (const auto item = m_items.at(at)) {
-                    addCard(facts, *item);
+        browser->setOrder(browserOrder(
+            m_orderedCount, m_wish,
+            [&](int index) {
+                const auto at = static_cast<std::size_t>(index);
+                ItemFacts facts;
+                if (at < known.size()) {
+                    facts.soundness = known[at];
                 }
-            }
-            if (m_wish.show == ShowItems::Unreadable) {
-                const auto item = m_items.at(at);
-                facts.readFailed = item && item->carved().readFailed;
-            } else if (m_wish.show == ShowItems::NotSaved) {
-                facts.saved = m_items.isSaved(at);
-            }
-            if (!m_wish.type.isEmpty()) {
-                const auto item = m_items.at(at);
-                facts.type = item ? pathExtension(item->imageTitle()) : QString();
-            }
-            return facts;
-        }));
+                if (m_wish.show == ShowItems::Lost || m_wish.sort == SortItems::OriginalName) {
+                    if (const auto item = m_items.at(at)) {
+                        addCard(facts, *item);
+                    }
+                }
+                if (m_wish.show == ShowItems::Unreadable) {
+                    const auto item = m_items.at(at);
+                    facts.readFailed = item && item->carved().readFailed;
+                } else if (m_wish.show == ShowItems::NotSaved) {
+                    facts.saved = m_items.isSaved(at);
+                }
+                if (!m_wish.type.isEmpty()) {
+                    const auto item = m_items.at(at);
+                    facts.type = item ? pathExtension(item->imageTitle()) : QString();
+                }
+                if (!m_wish.name.isEmpty()) {
+                    if (const auto item = m_items.at(at)) {
+                        addCard(facts, *item);
+                        facts.names = item->imageTitle();
+                        facts.names += facts.original ? u'\n' + originalPath(*facts.original) : QString();
+                    }
+                }
+                return facts;
+            },
+            [&picked](int index) { return picked.admits(static_cast<std::size_t>(index)); }));
     }
     emit changed();
 }

@@ -9,6 +9,7 @@
 
 #include "results/BrowserOrder.h"
 #include "results/CardIndex.h"
+#include "results/FoundFacets.h"
 #include "results/SoundnessBoard.h"
 #include "saving/SavePolicy.h"
 
@@ -16,6 +17,7 @@ class QComboBox;
 
 namespace vantor {
 
+class FoundPane;
 class ImageBrowserView;
 class MyImageObject;
 
@@ -24,6 +26,7 @@ struct BrowserScreen {
     ImageBrowserView* browser = nullptr;
     QComboBox* show = nullptr;
     QComboBox* sort = nullptr;
+    FoundPane* pane = nullptr;
 };
 
 // Who knows the items; all are asked on the interface thread but the first, which any thread may ask.
@@ -31,6 +34,7 @@ struct LookedAtItems {
     SoundnessBoard::ItemAt at;
     std::function<std::size_t()> count;
     std::function<bool(std::size_t)> isSaved;
+    std::function<bool(std::size_t)> isTicked;
     std::function<bool()> mediumBusy;    // somebody else reads it
     std::function<SavePolicy()> policy;  // says what counts as small
     // What the card's directories tell, null as long as nothing is known; any thread.
@@ -63,6 +67,14 @@ class BrowserLooks : public QObject {
     // Leaves out all other types; an empty text shows every type again.
     void showType(const QString& type);
     QString shownType() const { return m_wish.type; }
+    // Files that only the card's directory tells of, of the list of the moment.
+    void showTold(const std::vector<std::shared_ptr<const CardFile>>& files);
+    // Types, days and the like of all items, as far as they are known.
+    const FoundFacets& facets() const { return m_facets; }
+    // Every item was looked at and is whole.
+    bool allComplete() const { return m_facets.size() > 0 && m_facets.complete() == m_items.count(); }
+    // Something of it is picked, or a name is searched for.
+    bool isPicked() const { return !m_wish.facets.isEmpty() || !m_wish.name.isEmpty(); }
     // No kind is left out.
     bool showsEveryKind() const { return m_wish.show == ShowItems::All; }
     // All items, in the order in which they were found.
@@ -77,8 +89,11 @@ class BrowserLooks : public QObject {
     void fillBoxes();
     void look();
     void choose();
+    void pick();
     void putInOrder();
     void takeCard();
+    bool takeFacets();
+    ItemTraits traitsOf(std::size_t index) const;
     void addCard(ItemFacts& facts, const MyImageObject& item) const;
 
     const std::array<BrowserScreen, 2> m_screens;
@@ -86,6 +101,10 @@ class BrowserLooks : public QObject {
     BrowserWish m_wish;
     std::shared_ptr<const CardIndex> m_card;
     SoundnessBoard m_board;
+    FoundFacets m_facets;
+    std::size_t m_nextFacet = 0;       // up to which all are as well known as they can be
+    std::uint64_t m_shownFacets = 0;   // changes that the pane shows
+    std::uint64_t m_pickedFacets = 0;  // changes that the order knows of
     QTimer m_look;
     QElapsedTimer m_sinceOrder;
     std::uint64_t m_seenChanges = 0;

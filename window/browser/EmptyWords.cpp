@@ -57,6 +57,12 @@ EmptyWords nothingFound(const SearchWish& wish, const SearchEnd& end) {
 
 EmptyWords nothingShown(std::size_t found, const ShownChoice& choice) {
     const QString all = countOfItems(found);
+    if (choice.picked) {
+        return {QObject::tr("None of the found items is like that"),
+                QObject::tr("Click “All items” on the left and clear the search field to see all that was "
+                            "found: %1.")
+                    .arg(all)};
+    }
     if (!choice.oneType) {
         return {QObject::tr("None of the found items is of this kind"),
                 QObject::tr("Choose “All items” above to see all that was found: %1.").arg(all)};

@@ -29,6 +29,7 @@ EmptyWords nothingFound(const SearchWish& wish, const SearchEnd& end);
 struct ShownChoice {
     bool someKind = false;  // something else than all items in the box above the list
     bool oneType = false;   // in the table of types
+    bool picked = false;    // a type, a day or the like, or a name, in the pane beside the list
 };
 // There are items, but none is of the kind that was chosen to be shown.
 EmptyWords nothingShown(std::size_t found, const ShownChoice& choice);

@@ -91,6 +91,9 @@ int ImageBrowserModel::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant ImageBrowserModel::data(const QModelIndex& index, int role) const {
+    if (role == Qt::CheckStateRole) {
+        return facts(indexOfRow(index.row())).ticked ? Qt::Checked : Qt::Unchecked;
+    }
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole && role != Qt::AccessibleTextRole) {
         return {};
     }
@@ -106,6 +109,12 @@ QVariant ImageBrowserModel::data(const QModelIndex& index, int role) const {
     }
     if (known.soundness) {
         words << describe(*known.soundness);
+    }
+    if (known.saved) {
+        words << tr("saved");
+    }
+    if (known.ticked && role == Qt::AccessibleTextRole) {
+        words << tr("ticked");
     }
     if (role != Qt::ToolTipRole) {
         return words.join(QStringLiteral(", "));

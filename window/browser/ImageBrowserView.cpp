@@ -2,8 +2,10 @@
 #include "window/browser/ImageBrowserView.h"
 
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QScrollBar>
 #include <algorithm>
+#include <utility>
 
 #include "window/browser/ImageBrowserModel.h"
 #include "window/browser/ImageCell.h"
@@ -19,15 +21,9 @@ constexpr int kLargestPicture = 208;
 
 }  // namespace
 
-ImageBrowserView::ImageBrowserView(QWidget* parent)
-    : QListView(parent), m_model(new ImageBrowserModel(this)) {
-    setViewMode(IconMode);
-    setMovement(Static);
-    setResizeMode(Adjust);
-    setUniformItemSizes(true);
+ImageBrowserView::ImageBrowserView(QWidget* parent) : GridView(parent), m_model(new ImageBrowserModel(this)) {
     setSelectionMode(ExtendedSelection);
     setDragEnabled(false);
-    setVerticalScrollMode(ScrollPerPixel);
     setWordWrap(false);
     setItemDelegate(new ImageCell(this));
     setModel(m_model);
@@ -145,20 +141,10 @@ void ImageBrowserView::setOrder(std::optional<QList<int>> order) {
     m_reordering = false;
 }
 
-// Cells stand in a grid, so the first and the last in view tell the rest.
 std::vector<std::size_t> ImageBrowserView::indexesInView() const {
-    const int rows = m_model->rowCount();
-    const QSize cell = gridSize();
-    if (rows == 0 || cell.isEmpty() || !isVisible()) {
-        return {};
-    }
-    const int columns = std::max(1, viewport()->width() / cell.width());
-    const int firstLine = std::max(0, verticalOffset() / cell.height());
-    const int lines = viewport()->height() / cell.height() + 2;
-    const int first = std::min(rows, firstLine * columns);
-    const int end = std::min(rows, first + lines * columns);
     std::vector<std::size_t> indexes;
-    for (int row = first; row < end; ++row) {
+    const Rows rows = isVisible() ? rowsIn(viewport()->rect()) : Rows();
+    for (int row = rows.first; row < rows.end; ++row) {
         indexes.push_back(static_cast<std::size_t>(m_model->indexOfRow(row)));
     }
     return indexes;
@@ -199,7 +185,7 @@ void ImageBrowserView::describeState() {
 
 // Keys that move find a place to move from.
 void ImageBrowserView::focusInEvent(QFocusEvent* event) {
-    QListView::focusInEvent(event);
+    GridView::focusInEvent(event);
     if (!currentIndex().isValid() && m_model->rowCount() > 0) {
         selectionModel()->setCurrentIndex(m_model->index(0, 0), QItemSelectionModel::NoUpdate);
     }
@@ -213,7 +199,8 @@ QModelIndex ImageBrowserView::itemAtHand() const {
     if (current.isValid() && view.intersects(visualRect(current))) {
         return current;
     }
-    for (int row = 0; row < m_model->rowCount(); ++row) {
+    const Rows rows = rowsIn(view);
+    for (int row = rows.first; row < rows.end; ++row) {
         if (view.contains(visualRect(m_model->index(row)))) {
             return m_model->index(row);
         }
@@ -221,8 +208,63 @@ QModelIndex ImageBrowserView::itemAtHand() const {
     return current;
 }
 
+// The item whose tick box lies there.
+QModelIndex ImageBrowserView::tickAt(const QPoint& place) const {
+    const QModelIndex item = indexAt(place);
+    return item.isValid() && ImageCell::tickPlace(visualRect(item)).contains(place) ? item : QModelIndex();
+}
+
+// A press on a tick box is for the tick alone: what is selected stays selected.
+bool ImageBrowserView::tickByMouse(const QMouseEvent& event) {
+    const QModelIndex item =
+        event.button() == Qt::LeftButton ? tickAt(event.position().toPoint()) : QModelIndex();
+    if (!item.isValid()) {
+        return false;
+    }
+    m_ticking = true;
+    emit ticksWanted({m_model->indexOfRow(item.row())}, !factsOfRow(item.row()).ticked);
+    return true;
+}
+
+void ImageBrowserView::mousePressEvent(QMouseEvent* event) {
+    if (!tickByMouse(*event)) {
+        GridView::mousePressEvent(event);
+    }
+}
+
+void ImageBrowserView::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (!tickByMouse(*event)) {
+        GridView::mouseDoubleClickEvent(event);
+    }
+}
+
+void ImageBrowserView::mouseReleaseEvent(QMouseEvent* event) {
+    if (std::exchange(m_ticking, false)) {
+        return;
+    }
+    GridView::mouseReleaseEvent(event);
+}
+
+// Insert ticks and Delete unticks what is selected, or else the item that the keyboard is at.
+bool ImageBrowserView::tickByKey(int key) {
+    if (key != Qt::Key_Insert && key != Qt::Key_Delete) {
+        return false;
+    }
+    QList<qsizetype> indexes = selectionIndexes();
+    if (const QModelIndex item = itemAtHand(); indexes.isEmpty() && item.isValid()) {
+        indexes.append(m_model->indexOfRow(item.row()));
+    }
+    if (!indexes.isEmpty()) {
+        emit ticksWanted(indexes, key == Qt::Key_Insert);
+    }
+    return true;
+}
+
 void ImageBrowserView::keyPressEvent(QKeyEvent* event) {
     const int key = event->key();
+    if (tickByKey(key)) {
+        return;
+    }
     const bool noneChosen = !selectionModel()->hasSelection() && event->modifiers() == Qt::NoModifier;
     const bool steps =
         key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
@@ -236,7 +278,7 @@ void ImageBrowserView::keyPressEvent(QKeyEvent* event) {
     } else if (key == Qt::Key_End) {
         scrollToBottom();
     }
-    QListView::keyPressEvent(event);
+    GridView::keyPressEvent(event);
     // The current item is chosen too, which the toolkit passes over where it was the current one before.
     if (noneChosen && (key == Qt::Key_Home || key == Qt::Key_End)) {
         setCurrentIndex(currentIndex());
@@ -247,28 +289,21 @@ void ImageBrowserView::keyPressEvent(QKeyEvent* event) {
 void ImageBrowserView::resizeEvent(QResizeEvent* event) {
     const QScrollBar& bar = *verticalScrollBar();
     const bool atBottom = bar.maximum() > 0 && bar.value() == bar.maximum();
-    QListView::resizeEvent(event);
+    GridView::resizeEvent(event);
     if (atBottom) {
         scrollToBottom();
     }
 }
 
-QModelIndex ImageBrowserView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
-    if (action == MoveEnd && m_model->rowCount() > 0) {
-        return m_model->index(m_model->rowCount() - 1);  // without a current item too
-    }
-    return QListView::moveCursor(action, modifiers);
-}
-
 void ImageBrowserView::paintEvent(QPaintEvent* event) {
-    QListView::paintEvent(event);
+    GridView::paintEvent(event);
     if (m_model->rowCount() == 0) {
         paintEmptyState(viewport(), m_emptyPicture, m_emptyTitle, m_emptyAdvice);
     }
 }
 
 void ImageBrowserView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
-    QListView::selectionChanged(selected, deselected);
+    GridView::selectionChanged(selected, deselected);
     if (!m_reordering) {
         emit selectionDidChange();
     }

@@ -2,11 +2,11 @@
 #pragma once
 
 #include <QIcon>
-#include <QListView>
 #include <memory>
 #include <optional>
 
 #include "results/BrowserOrder.h"
+#include "window/browser/GridView.h"
 
 namespace vantor {
 
@@ -14,7 +14,7 @@ class ImageBrowserDataSource;
 class ImageBrowserModel;
 class MyImageObject;
 
-class ImageBrowserView : public QListView {
+class ImageBrowserView : public GridView {
     Q_OBJECT
 
   public:
@@ -53,18 +53,25 @@ class ImageBrowserView : public QListView {
   signals:
     // By the user; what another order hides or brings back does not count.
     void selectionDidChange();
+    // By mouse or keys: items, by their places in the list, are to be ticked for saving or no longer.
+    void ticksWanted(const QList<qsizetype>& indexes, bool ticked);
 
   protected:
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void paintEvent(QPaintEvent* event) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
     void startDrag(Qt::DropActions) override {}
 
   private:
     QModelIndex itemAtHand() const;
+    QModelIndex tickAt(const QPoint& place) const;
+    bool tickByMouse(const QMouseEvent& event);
+    bool tickByKey(int key);
     QItemSelection rangesOf(const QList<qsizetype>& indexes) const;
     void describeState();
     void seeWhetherAtEnd();
@@ -74,6 +81,7 @@ class ImageBrowserView : public QListView {
     bool m_originalsShown = false;
     bool m_reordering = false;
     bool m_atEnd = true;
+    bool m_ticking = false;  // the mouse was pressed on a tick and is not released yet
     QIcon m_emptyPicture;
     QString m_emptyTitle, m_emptyAdvice;
 };

@@ -18,6 +18,23 @@ constexpr int kPadding = theme::kUnit;
 constexpr int kNarrowestCell = 136;
 constexpr int kDecodedPictures = 600;
 constexpr qreal kRadius = 6;
+constexpr int kTickEdge = 16;
+constexpr int kTickReach = 24;  // what can be clicked is larger than what is drawn
+
+void paintTick(QPainter* painter, const QRect& reach, bool ticked, bool pointedAt) {
+    QRectF box(0, 0, kTickEdge, kTickEdge);
+    box.moveCenter(QRectF(reach).center());
+    painter->setPen(QPen(ticked || pointedAt ? theme::kAccent : theme::kDisabledInk, 1.2));
+    painter->setBrush(ticked ? theme::kAccent : theme::kCard);
+    painter->drawRoundedRect(box, 3, 3);
+    if (ticked) {
+        painter->setPen(QPen(Qt::white, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        const auto at = [&box](qreal x, qreal y) {
+            return QPointF(box.left() + x * box.width(), box.top() + y * box.height());
+        };
+        painter->drawPolyline(QPolygonF{at(0.24, 0.52), at(0.43, 0.71), at(0.77, 0.31)});
+    }
+}
 
 }  // namespace
 
@@ -29,6 +46,10 @@ ImageCell::ImageCell(ImageBrowserView* view)
 QSize ImageCell::cellSize(int edge, const QFont& font, int lines) {
     const QFontMetrics metrics(font);
     return {std::max(edge + 2 * kPadding, kNarrowestCell), edge + lines * metrics.height() + 3 * kPadding};
+}
+
+QRect ImageCell::tickPlace(const QRect& cell) {
+    return {cell.left() + 3, cell.top() + 3, kTickReach, kTickReach};
 }
 
 QSize ImageCell::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
@@ -79,6 +100,7 @@ void ImageCell::paint(QPainter* painter, const QStyleOptionViewItem& option, con
     }
     const ItemFacts facts = m_view->factsOfRow(index.row());
     paintBadges(painter, place, facts);
+    paintTick(painter, tickPlace(option.rect), facts.ticked, (option.state & QStyle::State_MouseOver) != 0);
     QRect words = cell.adjusted(4, 0, -4, 0);
     words.setTop(place.bottom() + kPadding / 2);
     painter->setFont(option.font);

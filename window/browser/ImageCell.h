@@ -19,6 +19,9 @@ class ImageCell : public QStyledItemDelegate {
     // The cell for a picture of `edge` pixels with so many lines of words below it.
     static QSize cellSize(int edge, const QFont& font, int lines);
 
+    // Where the tick box of a cell that takes this place can be clicked.
+    static QRect tickPlace(const QRect& cell);
+
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;

@@ -57,6 +57,14 @@ QPainterPath exclamationMark() {
     return path;
 }
 
+// Something that was put down.
+QPainterPath arrowDown() {
+    QPainterPath path = polyline({{0.5, 0.24}, {0.5, 0.6}});
+    path.addPath(polyline({{0.34, 0.46}, {0.5, 0.62}, {0.66, 0.46}}));
+    path.addPath(polyline({{0.3, 0.77}, {0.7, 0.77}}));
+    return path;
+}
+
 void paintSign(QPainter* painter, const QRectF& box, const QPainterPath& sign,
                const QColor& colour = Qt::white) {
     painter->save();
@@ -101,6 +109,9 @@ void paintBadges(QPainter* painter, const QRect& place, const ItemFacts& facts) 
     const auto& soundness = facts.soundness;
     if (facts.readFailed || (soundness && soundness->unreadable)) {
         paintWarning(painter, corner.translated(0, -place.height() + edge));
+    }
+    if (facts.saved) {
+        paintDisc(painter, corner.translated(edge - place.width() - 4, 0), theme::kAccent, arrowDown());
     }
     if (!soundness) {
         return;

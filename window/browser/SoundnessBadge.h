@@ -10,7 +10,8 @@ class QPainter;
 namespace vantor {
 
 // In the corners of the picture's place: bottom right the verdict, top right a warning when not all sectors
-// could be read. Nothing for what is not known yet. Each differs by its shape, not only by its colour.
+// could be read, bottom left that it is saved. Nothing for what is not known yet. Each differs by its shape,
+// not only by its colour.
 void paintBadges(QPainter* painter, const QRect& place, const ItemFacts& facts);
 
 }  // namespace vantor

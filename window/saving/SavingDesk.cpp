@@ -5,6 +5,7 @@
 #include <map>
 #include <utility>
 
+#include "results/CardIndex.h"
 #include "results/MyImageObject.h"
 #include "results/SizeForPeople.h"
 #include "saving/SaveJob.h"
@@ -24,26 +25,29 @@ void SavingDesk::join() {
     }
 }
 
-void SavingDesk::save(QList<qsizetype> indexes, QString destination) {
-    while (auto next = saveOnce(indexes, destination)) {
-        indexes = std::move(next->indexes);
-        destination = std::move(next->destination);
+void SavingDesk::save(QList<qsizetype> indexes, QString destination, ToldFiles told) {
+    std::optional<Next> wish = Next{std::move(indexes), std::move(told), std::move(destination)};
+    while (wish) {
+        wish = saveOnce(*wish);
     }
 }
 
-std::optional<SavingDesk::Next> SavingDesk::saveOnce(const QList<qsizetype>& indexes,
-                                                     const QString& destination) {
+std::optional<SavingDesk::Next> SavingDesk::saveOnce(const Next& wish) {
+    const QString& destination = wish.destination;
     SaveRequest request;
-    for (const qsizetype index : indexes) {
+    for (const qsizetype index : wish.indexes) {
         const auto at = static_cast<std::size_t>(index);
         if (auto item = m_parts.itemAt(at)) {
             request.items.push_back({at, std::move(item)});
         }
     }
-    const Room room = askForRoom(destination, roomNeeded(request.items));
+    if (!m_choices.policy.asPublished) {
+        request.told = wish.told;
+    }
+    const Room room = askForRoom(destination, roomNeeded(request));
     if (room != Room::Enough) {
         const QString other = room == Room::Elsewhere ? m_parts.chooseFolder() : QString();
-        return other.isEmpty() ? std::nullopt : std::optional(Next{indexes, other});
+        return other.isEmpty() ? std::nullopt : std::optional(Next{wish.indexes, wish.told, other});
     }
     request.saver = saverFor(destination);
     request.openMedium = m_parts.medium();
@@ -82,10 +86,10 @@ std::shared_ptr<const ItemSaver> SavingDesk::saverFor(const QString& destination
 
 // As far as it was found out how long the files are, else as long as they were found. Types that share a
 // header find the same sectors; they are saved once.
-SavingDesk::Need SavingDesk::roomNeeded(const std::vector<ChosenItem>& items) const {
+SavingDesk::Need SavingDesk::roomNeeded(const SaveRequest& request) const {
     Need need;
     std::map<std::uint64_t, std::uint64_t> bytesAt;
-    for (const ChosenItem& chosen : items) {
+    for (const ChosenItem& chosen : request.items) {
         const CarvedRun& carved = chosen.item->carved();
         if (!carved.runs.empty()) {
             const auto known = m_parts.bytesToWrite ? m_parts.bytesToWrite(chosen.index) : std::nullopt;
@@ -96,6 +100,9 @@ SavingDesk::Need SavingDesk::roomNeeded(const std::vector<ChosenItem>& items) co
     }
     for (const auto& place : bytesAt) {
         need.bytes += place.second;
+    }
+    for (const auto& file : request.told) {
+        need.bytes += dataBytesOf(*file);
     }
     return need;
 }
@@ -135,7 +142,7 @@ bool SavingDesk::watch(const std::shared_ptr<SaveJob>& job) {
 
 void SavingDesk::note(const SaveJob& job) {
     const SaveReport& report = job.report();
-    for (std::size_t i = 0; i < report.items.size(); ++i) {
+    for (std::size_t i = 0; i < report.indexes.size(); ++i) {
         const SaveOutcome& outcome = report.items[i].outcome;
         m_marks.note(report.indexes[i], outcome);
         if (const auto soundness = soundnessOf(outcome)) {
@@ -179,8 +186,8 @@ std::optional<SavingDesk::Next> SavingDesk::tell(const SaveJob& job, const QStri
     if (other.isEmpty()) {
         return std::nullopt;
     }
-    Next rest{{}, other};
-    for (std::size_t i = 0; i < report.items.size(); ++i) {
+    Next rest{{}, report.toldFailed, other};
+    for (std::size_t i = 0; i < report.indexes.size(); ++i) {
         const SaveOutcome& outcome = report.items[i].outcome;
         if (!outcome.saved && outcome.leftOut == LeftOut::No) {
             rest.indexes.append(static_cast<qsizetype>(report.indexes[i]));

@@ -21,7 +21,7 @@ namespace vantor {
 
 class MyImageObject;
 class SaveJob;
-struct ChosenItem;
+struct CardFile;
 struct SaveRequest;
 
 // What saving needs of the program around it; everything is called on the interface thread.
@@ -52,9 +52,11 @@ class SavingDesk : public QObject {
     explicit SavingDesk(SavingParts parts) : m_parts(std::move(parts)) {}
     ~SavingDesk() override;
 
-    // Items by their places in the list. Returns when they are saved or the user cancelled; where the
-    // destination failed them the user may choose another on the way.
-    void save(QList<qsizetype> indexes, QString destination);
+    // Files that only the card's directory tells of.
+    using ToldFiles = std::vector<std::shared_ptr<const CardFile>>;
+    // Items by their places in the list, and such files. Returns when they are saved or the user cancelled;
+    // where the destination failed them the user may choose another on the way.
+    void save(QList<qsizetype> indexes, QString destination, ToldFiles told = {});
 
     // After a cancel a medium that does not answer may hold a job up; nothing is saved meanwhile.
     bool isRunning() const { return m_running; }
@@ -77,10 +79,11 @@ class SavingDesk : public QObject {
     // Where to go on, and with what.
     struct Next {
         QList<qsizetype> indexes;
+        ToldFiles told;
         QString destination;
     };
 
-    std::optional<Next> saveOnce(const QList<qsizetype>& indexes, const QString& destination);
+    std::optional<Next> saveOnce(const Next& wish);
     enum class Room { Enough, Elsewhere, Cancelled };
     // Bytes; `isKnown` when every file has been examined.
     struct Need {
@@ -88,7 +91,7 @@ class SavingDesk : public QObject {
         bool isKnown = true;
     };
     Room askForRoom(const QString& destination, const Need& need) const;
-    Need roomNeeded(const std::vector<ChosenItem>& items) const;
+    Need roomNeeded(const SaveRequest& request) const;
     std::shared_ptr<const ItemSaver> saverFor(const QString& destination);
     bool watch(const std::shared_ptr<SaveJob>& job);
     void note(const SaveJob& job);

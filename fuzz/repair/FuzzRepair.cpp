@@ -1,0 +1,133 @@
+// Hands an input to one of the readers that put broken files together; its first byte tells which.
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <span>
+#include <vector>
+
+#include "formats/IsoBox.h"
+#include "repair/MovieSamples.h"
+#include "repair/MovieWalk.h"
+#include "repair/PhotoPieces.h"
+#include "repair/ReferenceMovie.h"
+
+namespace vantor::fuzz {
+
+namespace {
+
+void expect(bool holds) {
+    if (!holds) {
+        std::abort();
+    }
+}
+
+class MemoryMedium final : public SectorReader {
+  public:
+    explicit MemoryMedium(std::span<const std::uint8_t> bytes) : m_bytes(bytes) {}
+    std::uint64_t mediumSectors() const override { return m_bytes.size() / kSectorBytes; }
+
+  protected:
+    bool fetch() override {
+        if (position() >= mediumSectors()) {
+            return false;
+        }
+        handOver(m_bytes.data() + position() * kSectorBytes, 1);
+        return true;
+    }
+    bool moveTo(std::uint64_t) override { return true; }
+
+  private:
+    std::span<const std::uint8_t> m_bytes;
+};
+
+// The input as a medium with clusters of a sector, and a photo at its beginning.
+void completePhoto(std::span<const std::uint8_t> bytes) {
+    MemoryMedium medium(bytes);
+    MediumBlocks blocks(medium);
+    const FreeClusters grid({0, 1}, medium.mediumSectors());
+    ClusterKinds kinds(blocks, grid);
+    const std::atomic<int> goOn{0};
+    std::uint64_t units = 50'000;
+    const auto photo = PhotoPieces(blocks, grid, kinds, goOn).assemble(0, units);
+    if (!photo) {
+        return;
+    }
+    std::vector<bool> seen(static_cast<std::size_t>(grid.count()), false);
+    for (const std::uint64_t cluster : photo->clusters) {
+        expect(cluster < grid.count() && !seen[static_cast<std::size_t>(cluster)]);
+        seen[static_cast<std::size_t>(cluster)] = true;
+    }
+    expect(photo->bytes <= photo->clusters.size() * kSectorBytes &&
+           photo->bytes > (photo->clusters.size() - 1) * kSectorBytes);
+}
+
+void readSamples(std::span<const std::uint8_t> bytes) {
+    SpanSource source(bytes);
+    ByteView view(source);
+    for (std::uint64_t at = 0;;) {
+        const auto box = readIsoBox(view, at);
+        if (!box || box->end <= at) {
+            return;
+        }
+        if (box->text() == "moov") {
+            const auto samples = promisedSamples(source, *box, {0, bytes.size()});
+            for (const PromisedSample& sample : samples.value_or(std::vector<PromisedSample>())) {
+                expect(sample.at <= bytes.size() && sample.bytes <= bytes.size() - sample.at);
+                beginsAs(sample, bytes.subspan(static_cast<std::size_t>(sample.at)));
+                isWholeSample(view, sample);
+            }
+        }
+        at = box->end;
+    }
+}
+
+// A movie walked with what it tells itself, or as plain pictures of a kind where it tells nothing.
+void walk(std::span<const std::uint8_t> bytes, Coding coding) {
+    SpanSource source(bytes);
+    ByteView view(source);
+    auto reference = readReference(source);
+    if (!reference) {
+        reference.emplace();
+        reference->syntax.coding = coding;
+        reference->syntax.heads.set();
+        reference->syntax.sets.set();
+        reference->widestGap = 256;
+        reference->slices = 1;
+    }
+    const DataPlace data{0, bytes.size()};
+    const MovieWalk walk = walkMovie(view, *reference, data, {}, {.pictures = 1000});
+    std::uint64_t before = 0;
+    for (const CodedPicture& picture : walk.pictures) {
+        expect(picture.at >= before && picture.end > picture.at && picture.end <= bytes.size());
+        before = picture.end;
+    }
+}
+
+}  // namespace
+
+}  // namespace vantor::fuzz
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace vantor;
+    if (size == 0) {
+        return 0;
+    }
+    const std::span<const std::uint8_t> bytes(data + 1, size - 1);
+    switch (data[0] % 6) {
+        case 0:
+            fuzz::readSamples(bytes);
+            break;
+        case 1:
+            fuzz::walk(bytes, Coding::Avc);
+            break;
+        case 2:
+            fuzz::walk(bytes, Coding::Hevc);
+            break;
+        case 3:
+            fuzz::walk(bytes, Coding::Jpeg);
+            break;
+        default:
+            fuzz::completePhoto(bytes);
+    }
+    return 0;
+}

@@ -1,0 +1,33 @@
+// Writes inputs for fuzz_repair into a folder: photos in two pieces of sectors, and movies.
+#include <QFile>
+#include <cstdio>
+
+#include "tests/repair/Movies.h"
+#include "tests/repair/Photos.h"
+
+namespace {
+
+bool write(const QString& folder, const char* name, char reader, const QByteArray& bytes) {
+    QFile file(folder + u'/' + QLatin1String(name));
+    const QByteArray content = reader + bytes;
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::fputs("fuzz_repair_seeds FOLDER\n", stderr);
+        return 2;
+    }
+    const QString folder = QString::fromLocal8Bit(argv[1]);
+    const QByteArray photo = vantor::test::makePhoto(1, 96, 96);
+    const qsizetype cut = photo.size() / 1024 * 512;
+    const auto movie = vantor::test::makeMovie(vantor::test::picturesOfManySizes(4, 1), false, 1).bytes;
+    const bool written =
+        write(folder, "samples", 0, movie) && write(folder, "walk", 1, movie) &&
+        write(folder, "whole", 4, photo) &&
+        write(folder, "pieces", 4,
+              photo.left(cut) + QByteArray(1024, '\0') + photo.mid(cut) + QByteArray(512, '\0'));
+    return written ? 0 : 1;
+}

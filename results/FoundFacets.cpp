@@ -1,0 +1,174 @@
+// Counts that follow the items, so that nobody goes through all of them to show a number.
+#include "results/FoundFacets.h"
+
+#include <QDateTime>
+#include <QObject>
+#include <QTimeZone>
+#include <algorithm>
+#include <limits>
+
+namespace vantor {
+
+namespace {
+
+constexpr std::uint64_t kBounds[] = {100'000, 1'000'000, 10'000'000, 100'000'000, 1'000'000'000};
+// More types or cameras than this are counted as one; a card may be written so that there are.
+constexpr std::size_t kMostNames = 4000;
+constexpr unsigned kCameraBits = 0x7FFF;
+
+std::int32_t dayNumber(const QDate& date) {
+    return date.isValid() && date.year() > 0 && date.year() < 10'000
+               ? date.year() * 10'000 + date.month() * 100 + date.day()
+               : 0;
+}
+
+}  // namespace
+
+SizeClass sizeClassOf(std::uint64_t bytes) {
+    return static_cast<SizeClass>(std::upper_bound(std::begin(kBounds), std::end(kBounds), bytes) -
+                                  std::begin(kBounds));
+}
+
+QString wordsForSize(SizeClass size) {
+    switch (size) {
+        case SizeClass::Under100kB:
+            return QObject::tr("Under 100 kB");
+        case SizeClass::Under1MB:
+            return QObject::tr("100 kB to 1 MB");
+        case SizeClass::Under10MB:
+            return QObject::tr("1 MB to 10 MB");
+        case SizeClass::Under100MB:
+            return QObject::tr("10 MB to 100 MB");
+        case SizeClass::Under1GB:
+            return QObject::tr("100 MB to 1 GB");
+        case SizeClass::Larger:
+            break;
+    }
+    return QObject::tr("Over 1 GB");
+}
+
+std::int32_t dayNumber(const CivilTime& time) {
+    const QDate date(time.year, time.month, time.day);
+    if (!time.utc) {
+        return dayNumber(date);
+    }
+    return dayNumber(
+        QDateTime(date, QTime(time.hour, time.minute, std::min<int>(time.second, 59)), QTimeZone::utc())
+            .toLocalTime()
+            .date());
+}
+
+std::int32_t dayNumber(std::int64_t seconds) {
+    constexpr std::int64_t kMost = std::numeric_limits<std::int64_t>::max() / 1000;
+    return seconds > -kMost && seconds < kMost ? dayNumber(QDateTime::fromSecsSinceEpoch(seconds).date()) : 0;
+}
+
+std::int32_t dayOf(const Soundness* soundness, const CardFile* file) {
+    const std::int32_t own = soundness != nullptr && soundness->taken ? dayNumber(*soundness->taken) : 0;
+    return own == 0 && file != nullptr && file->modified ? dayNumber(*file->modified) : own;
+}
+
+void FoundFacets::clear() {
+    const std::uint64_t changes = m_changes + 1;
+    *this = FoundFacets();
+    m_changes = changes;
+}
+
+std::uint16_t FoundFacets::numberOfType(const QString& type) {
+    const auto known = m_typeNumbers.constFind(type);
+    if (known != m_typeNumbers.constEnd()) {
+        return *known;
+    }
+    if (m_types.size() >= kMostNames) {
+        return static_cast<std::uint16_t>(m_types.size() - 1);
+    }
+    m_types.push_back({type, groupOfType(type), 0});
+    return m_typeNumbers[type] = static_cast<std::uint16_t>(m_types.size() - 1);
+}
+
+std::uint16_t FoundFacets::numberOfCamera(const QString& camera) {
+    if (m_cameras.empty()) {
+        m_cameras.emplace_back();
+    }
+    if (camera.isEmpty()) {
+        return 0;
+    }
+    const auto known = m_cameraNumbers.constFind(camera);
+    if (known != m_cameraNumbers.constEnd()) {
+        return *known;
+    }
+    if (m_cameras.size() >= kMostNames) {
+        return 0;
+    }
+    m_cameras.emplace_back(camera, 0);
+    return m_cameraNumbers[camera] = static_cast<std::uint16_t>(m_cameras.size() - 1);
+}
+
+void FoundFacets::count(const Packed& item, int by) {
+    const auto add = [by](std::size_t& count) { by > 0 ? ++count : --count; };
+    add(m_types[item.type].count);
+    add(m_cameras[item.camera].second);
+    add(m_sizes[static_cast<std::size_t>(sizeClassOf(item.bytes))]);
+    m_bytes = by > 0 ? m_bytes + item.bytes : m_bytes - item.bytes;
+    if (item.complete) {
+        add(m_complete);
+    }
+    std::size_t& ofDay = m_days[item.day];
+    add(ofDay);
+    if (ofDay == 0) {
+        m_days.erase(item.day);
+    }
+}
+
+void FoundFacets::set(std::size_t index, const ItemTraits& traits) {
+    const Packed item{traits.bytes, traits.day, numberOfType(traits.type),
+                      static_cast<std::uint16_t>(numberOfCamera(traits.camera) & kCameraBits),
+                      traits.complete};
+    if (index < m_items.size()) {
+        count(m_items[index], -1);
+        m_items[index] = item;
+    } else {
+        m_items.push_back(item);
+    }
+    count(item, 1);
+    ++m_changes;
+}
+
+std::map<QString, std::size_t> FoundFacets::cameras() const {
+    std::map<QString, std::size_t> counts;
+    for (const auto& [camera, count] : m_cameras) {
+        if (count != 0) {
+            counts[camera] = count;
+        }
+    }
+    return counts;
+}
+
+FoundFacets::Filter::Filter(const FoundFacets& facets, const FacetChoice& choice)
+    : m_facets(facets), m_choice(choice) {
+    for (const TypeCount& each : facets.m_types) {
+        m_types.push_back((choice.groups.empty() && choice.types.empty()) ||
+                          choice.groups.contains(each.group) || choice.types.contains(each.type));
+    }
+    for (const auto& each : facets.m_cameras) {
+        m_cameras.push_back(choice.cameras.empty() || choice.cameras.contains(each.first));
+    }
+    for (int size = 0; size < kSizeClasses; ++size) {
+        m_sizes[size] = choice.sizes.empty() || choice.sizes.contains(static_cast<SizeClass>(size));
+    }
+}
+
+bool FoundFacets::Filter::admits(std::size_t index) const {
+    if (m_choice.isEmpty()) {
+        return true;
+    }
+    if (index >= m_facets.m_items.size()) {
+        return false;
+    }
+    const Packed& item = m_facets.m_items[index];
+    return m_types[item.type] && m_cameras[item.camera] &&
+           m_sizes[static_cast<std::size_t>(sizeClassOf(item.bytes))] &&
+           (m_choice.days.empty() || m_choice.days.contains(item.day));
+}
+
+}  // namespace vantor

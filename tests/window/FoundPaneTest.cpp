@@ -1,0 +1,230 @@
+// The pane of what was found: rows and counts, picking, searching, and ticks for saving beside it.
+#include <QDir>
+#include <QLineEdit>
+#include <QTreeWidget>
+
+#include "results/MyImageObject.h"
+#include "results/RecoveryMode.h"
+#include "tests/support/SmallFiles.h"
+#include "tests/window/WindowTest.h"
+#include "window/browser/FoundPane.h"
+#include "window/browser/ImageCell.h"
+
+namespace vantor {
+namespace {
+
+class FoundPaneTest : public WindowTest {
+  protected:
+    void scan() {
+        parts.openBeside = [this](const QString&) -> std::unique_ptr<SectorReader> {
+            return std::make_unique<ScriptedReader>(cardBeside);
+        };
+        source->add(QStringLiteral("sdb1"), QStringLiteral("CANON_DC"), card.bytes.size());
+        writeCatalogue("ZelRaw.dll", record("WAV", "52494646", "Sound") +
+                                         record("PNG", "89504E47", "Picture") +
+                                         record("AIFF", "464F524D", "Sound"));
+        const auto put = [this](const QByteArray& file, std::size_t sector) {
+            std::memcpy(
+                card.bytes.at(sector).data(), file.data(),
+                std::min(static_cast<std::size_t>(file.size()), (card.bytes.size() - sector) * kSectorBytes));
+        };
+        put(wavFile(5000), 4);
+        put(QByteArray("\x89PNG is no picture"), 20);
+        put(QByteArray("FORM that is no sound"), 30);
+        put(wavFile(50'000, 2), 40);
+        open();
+        toFileTypes(kRawFileMode);
+        cardBeside = card;
+        scanToEnd();
+        ASSERT_EQ(controller->itemCount(), 4U);
+        ASSERT_TRUE(waitFor([this] { return textOf(row({tr("All items")}), 1) == QLatin1String("4"); }));
+    }
+    static QString tr(const char* text) { return QString::fromLatin1(text); }
+    QTreeWidget* tree() const { return controller->foundPane_Sig->findChild<QTreeWidget*>(); }
+    QLineEdit* search() const { return controller->foundPane_Sig->findChild<QLineEdit*>(); }
+    // The visible row below these headings.
+    QTreeWidgetItem* row(const QStringList& path) const {
+        QTreeWidgetItem* at = tree()->invisibleRootItem();
+        for (const QString& step : path) {
+            QTreeWidgetItem* next = nullptr;
+            for (int i = 0; i < at->childCount(); ++i) {
+                next = at->child(i)->text(0) == step && !at->child(i)->isHidden() ? at->child(i) : next;
+            }
+            if (next == nullptr) {
+                return nullptr;
+            }
+            at = next;
+        }
+        return at;
+    }
+    static QString textOf(const QTreeWidgetItem* row, int column) {
+        return row != nullptr ? row->text(column) : QStringLiteral("no such row");
+    }
+    void clickRow(QTreeWidgetItem* row, Qt::KeyboardModifiers keys = Qt::NoModifier) {
+        ASSERT_NE(row, nullptr);
+        if (row->parent() != nullptr) {
+            row->parent()->setExpanded(true);
+        }
+        tree()->scrollToItem(row);
+        settle();
+        QTest::mouseClick(tree()->viewport(), Qt::LeftButton, keys, tree()->visualItemRect(row).center());
+    }
+    QStringList shown() const {
+        const QAbstractItemModel* model = controller->imageBrowser_2->model();
+        QStringList names;
+        for (int each = 0; each < model->rowCount(); ++each) {
+            names << model->index(each, 0).data().toString();
+        }
+        return names;
+    }
+    void clickTick(int row, Qt::KeyboardModifiers keys = Qt::NoModifier) {
+        ImageBrowserView* const browser = controller->imageBrowser_2;
+        browser->scrollTo(browser->model()->index(row, 0));
+        const QRect cell = browser->visualRect(browser->model()->index(row, 0));
+        QTest::mouseClick(browser->viewport(), Qt::LeftButton, keys, ImageCell::tickPlace(cell).center());
+    }
+
+    ScriptedMedium cardBeside{64};
+    const QString wav = QStringLiteral("WAV00001.WAV"), png = QStringLiteral("PNG00001.PNG"),
+                  aiff = QStringLiteral("AIFF00001.AIFF"), torn = QStringLiteral("WAV00002.WAV");
+};
+
+TEST_F(FoundPaneTest, GroupsAndTypesHaveCounts_AndNothingElseIsShown) {
+    scan();
+    EXPECT_EQ(textOf(row({tr("Photos")}), 1), QStringLiteral("1"));
+    EXPECT_EQ(textOf(row({tr("Sound")}), 1), QStringLiteral("3"));
+    EXPECT_EQ(textOf(row({tr("Sound"), tr("WAV")}), 1), QStringLiteral("2"));
+    EXPECT_EQ(textOf(row({tr("Sound"), tr("AIFF")}), 1), QStringLiteral("1"));
+    EXPECT_EQ(row({tr("Photos"), tr("PNG")}), nullptr) << "a group of one type needs no row below it";
+    EXPECT_EQ(row({tr("Movies")}), nullptr);
+    EXPECT_EQ(row({tr("Archives")}), nullptr);
+}
+
+TEST_F(FoundPaneTest, ARowShowsItsItems_CtrlAddsOthers_AndAllItemsShowsAllAgain) {
+    scan();
+    clickRow(row({tr("Photos")}));
+    EXPECT_EQ(shown(), QStringList{png});
+    EXPECT_EQ(controller->rawCountLabel->text(), QStringLiteral("1 of 4 items"));
+    EXPECT_EQ(controller->saveAllButton_Sig->text(), QStringLiteral("Save &All Shown (1)…"));
+    clickRow(row({tr("Sound"), tr("WAV")}), Qt::ControlModifier);
+    EXPECT_EQ(shown(), (QStringList{wav, png, torn}));
+    clickRow(row({tr("All items")}), Qt::ControlModifier);
+    EXPECT_EQ(shown(), (QStringList{wav, png, aiff, torn}));
+    clickRow(row({tr("Sound")}));
+    EXPECT_EQ(shown(), (QStringList{wav, aiff, torn}));
+    clickRow(row({tr("All items")}));
+    EXPECT_EQ(shown(), (QStringList{wav, png, aiff, torn}));
+    EXPECT_EQ(controller->rawCountLabel->text(), QStringLiteral("4 items"));
+}
+
+TEST_F(FoundPaneTest, AnOpenedHeadingHasEveryItemLookedAt_AndRowsOfDifferentHeadingsNarrowEachOther) {
+    scan();
+    row({tr("By size")})->setExpanded(true);
+    ASSERT_TRUE(waitFor([this] {
+        return textOf(row({tr("By size"), tr("Under 100 kB")}), 1) == QLatin1String("4") &&
+               controller->factsOfItem(0).soundness && controller->factsOfItem(3).soundness;
+    }));
+    clickRow(row({tr("By size"), tr("Under 100 kB")}));
+    EXPECT_EQ(shown().size(), 4);
+    clickRow(row({tr("Photos")}), Qt::ControlModifier);
+    EXPECT_EQ(shown(), QStringList{png});
+    EXPECT_EQ(textOf(row({tr("By day"), tr("Date not known")}), 1), QStringLiteral("4"));
+}
+
+TEST_F(FoundPaneTest, ANameIsSearchedForAsItIsTyped_AndReturnLeadsToTheList) {
+    scan();
+    controller->window->activateWindow();
+    ASSERT_TRUE(waitFor([this] { return controller->window->isActiveWindow(); }));
+    click(search());
+    QTest::keyClicks(search(), QStringLiteral("wav"));
+    EXPECT_EQ(shown(), (QStringList{wav, torn}));
+    QTest::keyClicks(search(), QStringLiteral("00002"));
+    EXPECT_EQ(shown(), QStringList{torn});
+    QTest::keyClicks(search(), QStringLiteral("xyz"));
+    EXPECT_EQ(shown(), QStringList());
+    EXPECT_TRUE(controller->imageBrowser_2->accessibleDescription().contains(
+        QStringLiteral("None of the found items is like that")));
+    QTest::keyClick(search(), Qt::Key_Escape);
+    EXPECT_EQ(shown().size(), 4);
+    QTest::keyClick(search(), Qt::Key_Return);
+    EXPECT_EQ(controller->window->focusWidget(), controller->imageBrowser_2);
+}
+
+TEST_F(FoundPaneTest, TicksStayWithTheirItems_AndSelectNothing) {
+    scan();
+    EXPECT_FALSE(controller->saveTickedButton_Sig->isVisible());
+    clickTick(3);
+    EXPECT_EQ(controller->ticks().all(), QList<qsizetype>{3});
+    EXPECT_TRUE(controller->imageBrowser_2->selectionIndexes().isEmpty());
+    search()->setText(QStringLiteral("00002"));
+    ASSERT_EQ(shown(), QStringList{torn});
+    EXPECT_EQ(controller->imageBrowser_2->model()->index(0, 0).data(Qt::CheckStateRole), Qt::Checked);
+    search()->setText(QStringLiteral("PNG"));
+    EXPECT_EQ(controller->imageBrowser_2->model()->index(0, 0).data(Qt::CheckStateRole), Qt::Unchecked);
+    click(controller->tickShownButton_Sig);
+    EXPECT_EQ(controller->ticks().all(), (QList<qsizetype>{1, 3}));
+    EXPECT_TRUE(controller->ticksLabel_Sig->text().startsWith(QStringLiteral("2 of 4 ticked, ")));
+    EXPECT_EQ(controller->saveTickedButton_Sig->text(), QStringLiteral("Sa&ve Ticked (2)…"));
+    EXPECT_TRUE(controller->saveTickedButton_Sig->isVisible());
+    click(controller->tickShownButton_Sig);
+    EXPECT_EQ(controller->ticks().all(), QList<qsizetype>{3}) << "all shown ones were ticked";
+    search()->clear();
+    click(controller->invertTicksButton_Sig);
+    EXPECT_EQ(controller->ticks().all(), (QList<qsizetype>{0, 1, 2}));
+    controller->tickItems({-1, 4, 4'000'000'000}, true);
+    EXPECT_EQ(controller->ticks().count(), 3U) << "there are no such items";
+}
+
+TEST_F(FoundPaneTest, InsertTicksAndDeleteUnticksWhatIsSelected) {
+    scan();
+    ImageBrowserView* const browser = controller->imageBrowser_2;
+    browser->setFocus();
+    QTest::keyClick(browser, Qt::Key_Insert);
+    EXPECT_EQ(controller->ticks().all(), QList<qsizetype>{0}) << "the item that the keyboard is at";
+    browser->selectAll();
+    QTest::keyClick(browser, Qt::Key_Insert);
+    EXPECT_EQ(controller->ticks().count(), 4U);
+    browser->clearSelection();
+    browser->selectionModel()->select(browser->model()->index(2, 0), QItemSelectionModel::Select);
+    QTest::keyClick(browser, Qt::Key_Delete);
+    EXPECT_EQ(controller->ticks().all(), (QList<qsizetype>{0, 1, 3}));
+}
+
+TEST_F(FoundPaneTest, SaveTickedSavesTheTicked_WhateverIsShownOrSelected_AndTheyBearAMark) {
+    scan();
+    const QTemporaryDir destination;
+    controller->_path_Sig->setText(destination.path());
+    clickTick(0);
+    search()->setText(QStringLiteral("AIFF"));
+    controller->imageBrowser_2->selectAll();
+    answers.press(QStringLiteral("OK"));
+    click(controller->saveTickedButton_Sig);
+    EXPECT_EQ(QDir(destination.filePath(QStringLiteral("WAV"))).entryList(QDir::Files), QStringList{wav});
+    EXPECT_FALSE(QDir(destination.filePath(QStringLiteral("AIFF"))).exists());
+    EXPECT_TRUE(controller->factsOfItem(0).saved);
+    EXPECT_FALSE(controller->factsOfItem(2).saved);
+    search()->clear();
+    EXPECT_TRUE(controller->imageBrowser_2->model()
+                    ->index(0, 0)
+                    .data(Qt::AccessibleTextRole)
+                    .toString()
+                    .endsWith(QStringLiteral("saved, ticked")));
+}
+
+TEST_F(FoundPaneTest, BackForgetsPicksAndTicks) {
+    scan();
+    clickTick(0);
+    clickRow(row({tr("Photos")}));
+    search()->setText(QStringLiteral("PNG"));
+    answers.press(QStringLiteral("Go Back Without Saving"));
+    click(controller->backButton);
+    EXPECT_EQ(controller->ticks().count(), 0U);
+    scanToEnd();
+    ASSERT_TRUE(waitFor([this] { return textOf(row({tr("All items")}), 1) == QLatin1String("4"); }));
+    EXPECT_EQ(shown().size(), 4);
+    EXPECT_EQ(search()->text(), QString());
+    EXPECT_TRUE(controller->foundPane_Sig->choice().isEmpty());
+}
+
+}  // namespace
+}  // namespace vantor
