@@ -2,6 +2,8 @@
 // remembered.
 #include <QCheckBox>
 #include <QFileInfo>
+#include <QFrame>
+#include <QVBoxLayout>
 #include <algorithm>
 
 #include "media/MediumTargets.h"
@@ -21,8 +23,18 @@ void MyTableController::setUpKeeping() {
     m_keptBar = new KeptSearchBar(body);
     bodyLayout->insertWidget(bodyLayout->indexOf(mediaScreen), m_keptBar);
     m_keptBar->hide();
-    m_keepingBox = new KeepingBox(body);
-    bodyLayout->insertWidget(bodyLayout->indexOf(thoroughBox) + 1, m_keepingBox);
+    // One card with a line for each thing that may be wanted of a search.
+    m_searchOptions = new QFrame(body);
+    m_searchOptions->setObjectName(QStringLiteral("searchOptions"));
+    m_searchOptions->setProperty("role", QStringLiteral("card"));
+    bodyLayout->insertWidget(bodyLayout->indexOf(thoroughBox), m_searchOptions);
+    m_keepingBox = new KeepingBox(m_searchOptions);
+    auto* const options = new QVBoxLayout(m_searchOptions);
+    options->setContentsMargins(0, 0, 0, 0);
+    options->setSpacing(0);
+    options->addWidget(thoroughBox);
+    options->addWidget(m_keepingBox);
+    thoroughBox->setProperty("role", QVariant());
     m_keepingBox->hide();
     m_goOnButton = new QPushButton(tr("&Go On"), searchEndBar);
     m_goOnButton->setObjectName(QStringLiteral("goOnButton"));
@@ -61,6 +73,7 @@ void MyTableController::setUpKeeping() {
 void MyTableController::showKeeping() {
     const bool onRange = screen_counter == 1;
     m_keepingBox->offer(onRange && m_memory->hasFolder(), onRange && m_parts.openSource);
+    m_searchOptions->setVisible(!thoroughBox->isHidden() || !m_keepingBox->isHidden());
     if (screen_counter != 0) {
         m_memory->letGo();
     }

@@ -514,6 +514,7 @@ class MyTableController : public QObject,
     std::shared_ptr<std::atomic<bool>> m_leaving = std::make_shared<std::atomic<bool>>(false);
     std::unique_ptr<SearchMemory> m_memory;
     KeptSearchBar* m_keptBar = nullptr;
+    QFrame* m_searchOptions = nullptr;
     KeepingBox* m_keepingBox = nullptr;
     QPushButton* m_goOnButton = nullptr;
     std::optional<SearchRecord> m_goingOn;     // what the search that is about to begin goes on with

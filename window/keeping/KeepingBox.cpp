@@ -11,7 +11,7 @@ namespace vantor {
 namespace {
 
 constexpr int kSideMargin = 16;
-constexpr int kTopMargin = 8;
+constexpr int kTopMargin = 4;
 constexpr int kSpacing = 12;
 
 QLabel* explanation(const char* name, QWidget* parent) {
@@ -27,7 +27,6 @@ QLabel* explanation(const char* name, QWidget* parent) {
 
 KeepingBox::KeepingBox(QWidget* parent) : QFrame(parent) {
     setObjectName(QStringLiteral("keepingBox"));
-    setProperty("role", QStringLiteral("card"));
     auto* const grid = new QGridLayout(this);
     grid->setContentsMargins(kSideMargin, kTopMargin, kSideMargin, kTopMargin);
     grid->setHorizontalSpacing(kSpacing);
@@ -48,6 +47,7 @@ KeepingBox::KeepingBox(QWidget* parent) : QFrame(parent) {
     m_copyExplanation = explanation("copyExplanation", this);
     copyPlaceButton = new QPushButton(tr("Choo&se…"), this);
     copyPlaceButton->setObjectName(QStringLiteral("copyPlaceButton"));
+    copyPlaceButton->setProperty("role", QStringLiteral("link"));
     copyPlaceButton->setAccessibleName(tr("Choose where the copy is kept"));
     grid->addWidget(copyBox, 1, 0);
     grid->addWidget(m_copyExplanation, 1, 1);
