@@ -5,6 +5,7 @@
 #include <QJsonArray>
 #include <algorithm>
 
+#include "catalogue/TypePresets.h"
 #include "cli/MovieMending.h"
 #include "results/PreviewCopy.h"
 #include "results/ToldFiles.h"
@@ -69,7 +70,9 @@ QStringList CliSession::chooseTypes(const QStringList& types) {
         const auto tick = [&](Qt::CaseSensitivity sensitivity) {
             bool found = false;
             for (FileTypeRow& row : nsCheckedListDataObject) {
-                if (row[QStringLiteral("Extension")].toString().compare(type, sensitivity) == 0) {
+                const QString extension = row[QStringLiteral("Extension")].toString();
+                if (type.startsWith(u'@') ? isInPreset(type.mid(1), extension)
+                                          : extension.compare(type, sensitivity) == 0) {
                     row[QStringLiteral("State")] = true;
                     found = true;
                 }
