@@ -1,6 +1,7 @@
 // How a search ended, beside its results, and what empty lists say.
 #include <algorithm>
 
+#include "saving/SaveSummary.h"
 #include "window/MyTableController.h"
 #include "window/browser/EmptyWords.h"
 #include "window/widgets/Theme.h"
@@ -27,6 +28,13 @@ void MyTableController::tryBadSectorsAgain() {
     forgetRefusals();
     beginLooks();
     tryBadSectorsButton->hide();
+}
+
+// A search that took long has an end that somebody waits for elsewhere.
+void MyTableController::tellWhoLooksElsewhere() {
+    if (m_parts.notify && !window->isActiveWindow() && m_clock.elapsed() >= m_parts.longSearch.count()) {
+        m_parts.notify(searchEndHeadline(searchEnd()), countOfItems(itemCount()));
+    }
 }
 
 PanelWords MyTableController::endPanelWords(const PanelWords& drawn) const {

@@ -43,6 +43,11 @@ class ImageBrowserView : public QListView {
     std::vector<std::size_t> indexesInView() const;
     int shownCount() const;
     QList<qsizetype> shownIndexes() const;  // in the order in which they are shown
+    int rowOfIndex(qsizetype index) const;  // -1: not shown
+    qsizetype indexOfRow(int row) const;
+    // Makes it the selected one, in view.
+    void chooseIndex(qsizetype index);
+    void selectIndexes(const QList<qsizetype>& indexes);
 
     // Of a row.
     std::shared_ptr<MyImageObject> itemOfRow(int row) const;
@@ -53,8 +58,14 @@ class ImageBrowserView : public QListView {
   signals:
     // By the user; what another order hides or brings back does not count.
     void selectionDidChange();
+    // Somebody wants to see an item of the list large: a double click, Return or Space.
+    void openWanted(qsizetype index);
+    // The menu of an item, there on the screen.
+    void menuWanted(qsizetype index, const QPoint& place);
 
   protected:
+    bool event(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -65,6 +76,7 @@ class ImageBrowserView : public QListView {
 
   private:
     QModelIndex itemAtHand() const;
+    bool opensItem(const QKeyEvent& key) const;
     QItemSelection rangesOf(const QList<qsizetype>& indexes) const;
     void describeState();
     void seeWhetherAtEnd();
