@@ -69,17 +69,19 @@ QPalette paletteOfLook() {
     return palette;
 }
 
+QString textOf(const QString& resource) {
+    QFile file(resource);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
 QString styleSheet(const QApplication& application) {
-    QFile sheet(QStringLiteral(":/style.qss"));
-    if (!sheet.open(QIODevice::ReadOnly)) {
-        return {};
-    }
     const double base = application.font().pointSizeF();
-    QString text = QString::fromUtf8(sheet.readAll());
+    QString text = textOf(QStringLiteral(":/style.qss"));
     text.replace(QStringLiteral("@heading@"), QString::number(base * kHeadingScale));
     text.replace(QStringLiteral("@title@"),
                  QString::number(QFontMetrics(application.font()).height() + theme::kUnit));
-    return sheetInLook(text, currentLook());
+    text = sheetInLook(text, currentLook());
+    return currentLook() == Look::Dark ? text + textOf(QStringLiteral(":/dark.qss")) : text;
 }
 
 void giveBackground(QWidget* window) {
