@@ -1,7 +1,6 @@
 // From options to the wishes of a search, and back.
 #include "cli/KeptSearch.h"
 
-#include <QFile>
 #include <tuple>
 #include <utility>
 
@@ -11,9 +10,6 @@
 namespace vantor {
 
 namespace {
-
-// A terabyte's worth is some 50 MB.
-constexpr qint64 kMostFileBytes = qint64{512} << 20;
 
 SearchWishes wishesOf(const CliOptions& options, const CliSession& session) {
     SearchWishes wishes;
@@ -29,19 +25,6 @@ SearchWishes wishesOf(const CliOptions& options, const CliSession& session) {
 }
 
 }  // namespace
-
-std::optional<SearchRecord> readKeptSearch(const QString& path, QString* why) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        *why = file.errorString();
-        return std::nullopt;
-    }
-    if (file.size() > kMostFileBytes) {
-        *why = QStringLiteral("It is not a search that this program has kept.");
-        return std::nullopt;
-    }
-    return recordOf(file.readAll(), why);
-}
 
 void takeWishes(const SearchRecord& kept, CliOptions& options) {
     const SearchWishes& wishes = kept.wishes;

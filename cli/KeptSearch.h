@@ -14,9 +14,6 @@ namespace vantor {
 class CliSession;
 struct CliMedium;
 
-// The search kept in the file, or nothing and a sentence for the user.
-std::optional<SearchRecord> readKeptSearch(const QString& path, QString* why);
-
 // Makes the options those of the kept search; a medium that was named stays.
 void takeWishes(const SearchRecord& kept, CliOptions& options);
 

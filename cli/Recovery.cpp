@@ -206,7 +206,7 @@ int recover(CliOptions options) {
     std::optional<SearchRecord> kept;
     QString why;
     if (options.resume) {
-        kept = readKeptSearch(options.sessionFile, &why);
+        kept = readSearchRecord(options.sessionFile, &why);
         if (!kept) {
             complain(QStringLiteral("%1: %2").arg(options.sessionFile, why));
             return kExitBadUsage;

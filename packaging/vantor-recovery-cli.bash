@@ -1,7 +1,7 @@
 # Completion of vantor-recovery-cli's options, their values, and the media of this machine.
 _vantor_recovery_cli() {
     local cur prev words cword
-    _init_completion || return
+    _init_completion -n @ || return
 
     case $prev in
         --mode)
@@ -33,6 +33,10 @@ _vantor_recovery_cli() {
             [[ $cur == *,* ]] && chosen=${cur%,*},
             types=$("$1" --mode "$mode" --list-types 2>/dev/null | sed 's/ .*//')
             COMPREPLY=($(compgen -P "$chosen" -W "$types" -- "${cur##*,}"))
+            # The shell takes what stands behind an @ for a word of its own.
+            if [[ $cur == *@* && $COMP_WORDBREAKS == *@* ]]; then
+                COMPREPLY=("${COMPREPLY[@]#"${cur%"${cur##*@}"}"}")
+            fi
             compopt -o nospace
             return
             ;;

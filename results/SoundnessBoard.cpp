@@ -241,7 +241,6 @@ std::optional<Soundness> SoundnessBoard::look(const MyImageObject& item, Turn& t
         return std::nullopt;
     }
     if (m_watch.sectorsRead != readBefore) {
-        turn.silentItems = 0;
         turn.goodSector = item.carved().runs.front().first;
         return found;
     }

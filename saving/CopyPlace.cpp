@@ -67,13 +67,18 @@ std::optional<QString> refuseCopyPlace(const QString& imagePath, const QString& 
     return refuseDestination(folder);
 }
 
-QStringList warnOfCopyPlace(const QString& imagePath, std::uint64_t sectors) {
-    const QString folder = folderOf(imagePath);
+std::uint64_t bytesForCopy(const QString& imagePath, std::uint64_t sectors) {
     struct stat image {};
     const bool begun = ::stat(QFile::encodeName(imagePath).constData(), &image) == 0;
     const std::uint64_t held = begun ? static_cast<std::uint64_t>(image.st_blocks) * 512 : 0;
     const std::uint64_t bytes = sectors * kSectorBytes;
-    const std::uint64_t needed = bytes - std::min(bytes, held);
+    return bytes - std::min(bytes, held);
+}
+
+QStringList warnOfCopyPlace(const QString& imagePath, std::uint64_t sectors) {
+    const QString folder = folderOf(imagePath);
+    const std::uint64_t bytes = sectors * kSectorBytes;
+    const std::uint64_t needed = bytesForCopy(imagePath, sectors);
     QStringList warnings;
     if (const auto space = refuseForSpace(folder, needed)) {
         warnings << *space + QStringLiteral(". The copy will end there; the search goes on from the medium.");

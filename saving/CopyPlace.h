@@ -12,6 +12,9 @@ namespace vantor {
 // when it is the medium, or when its folder is not there.
 std::optional<QString> refuseCopyPlace(const QString& imagePath, const QString& mediumPath);
 
+// What a whole copy of so many sectors still needs there, beside what of it is there already.
+std::uint64_t bytesForCopy(const QString& imagePath, std::uint64_t sectors);
+
 // Sentences about a place that is too small, cannot hold a file of that size or takes it too slowly; the
 // copy then ends early or late. Tries how fast a few megabytes can be written, which may take seconds.
 QStringList warnOfCopyPlace(const QString& imagePath, std::uint64_t sectors);

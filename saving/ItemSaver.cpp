@@ -78,6 +78,7 @@ struct ItemSaver::State {
     std::optional<LengthClaims> claims;  // of the choice at hand
     std::optional<dev_t> device;         // that the destination was on first
     std::set<QString> folders;           // below it, that were written into
+    QStringList madeFolders;             // that were not there before this saver; the outer ones first
 };
 
 // What is being written, and where to.
@@ -172,6 +173,16 @@ void ItemSaver::flush() const {
     for (const QString& folder : std::exchange(m_state->folders, {})) {
         if (const auto below = destination ? destination->below(folder) : std::nullopt) {
             below->flush();
+        }
+    }
+    if (!destination || destination->device() != m_state->device) {
+        return;
+    }
+    // Where every item failed, or went where the card had it, there is nothing for them to hold.
+    QStringList& made = m_state->madeFolders;
+    for (qsizetype i = made.size() - 1; i >= 0; --i) {
+        if (destination->removeIfEmpty(made[i])) {
+            made.removeAt(i);
         }
     }
 }
@@ -304,11 +315,12 @@ bool ItemSaver::decideLength(const FoundItem& item, ItemBytes& found, SaveOutcom
 // card's the item goes to its type's.
 std::optional<SavingFolder> ItemSaver::folderFor(const FoundItem& item, const SavingFolder& destination,
                                                  SavedName& name, SaveOutcome& outcome) const {
-    auto folder = destination.below(name.folder);
+    QStringList& made = m_state->madeFolders;
+    auto folder = destination.below(name.folder, &made);
     if (!folder && name.asOnCard) {
         name.folder = safePathComponent(item.type);
         name.asOnCard = false;
-        folder = destination.below(name.folder);
+        folder = destination.below(name.folder, &made);
     }
     if (!folder) {
         const bool leadsAway = errno == ELOOP || errno == ENOTDIR || errno == EXDEV;

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <set>
+#include <vector>
 
 #include "saving/ItemSaver.h"
 
@@ -13,11 +15,14 @@ class SavedMarks {
   public:
     void note(std::size_t index, const SaveOutcome& outcome) {
         if (outcome.saved && !outcome.mediumGone) {
-            m_saved.insert(index);
-            m_leftOut.erase(index);
+            noteSaved(index);
         } else if (outcome.leftOut != LeftOut::No && !m_saved.contains(index)) {
             m_leftOut.insert(index);
         }
+    }
+    void noteSaved(std::size_t index) {
+        m_saved.insert(index);
+        m_leftOut.erase(index);
     }
     void clear() {
         m_saved.clear();
@@ -26,6 +31,8 @@ class SavedMarks {
 
     bool isSaved(std::size_t index) const { return m_saved.contains(index); }
     std::size_t saved() const { return m_saved.size(); }
+    // Ascending.
+    std::vector<std::uint64_t> savedPlaces() const { return {m_saved.begin(), m_saved.end()}; }
     // Saved, or left out because the user asked for that.
     std::size_t settled() const { return m_saved.size() + m_leftOut.size(); }
 

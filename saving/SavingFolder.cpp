@@ -3,6 +3,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <QFile>
 #include <QStringList>
@@ -28,8 +29,9 @@ std::optional<SavingFolder> SavingFolder::open(const QString& path) {
     return SavingFolder(std::move(folder), path);
 }
 
-std::optional<SavingFolder> SavingFolder::below(const QString& relative) const {
+std::optional<SavingFolder> SavingFolder::below(const QString& relative, QStringList* made) const {
     const auto home = device();
+    QString way;
     SavingFolder at = *this;
     for (const QString& part : relative.split(u'/', Qt::SkipEmptyParts)) {
         const QByteArray name = QFile::encodeName(part);
@@ -37,7 +39,12 @@ std::optional<SavingFolder> SavingFolder::below(const QString& relative) const {
             errno = ELOOP;
             return std::nullopt;
         }
-        if (::mkdirat(at.descriptor(), name.constData(), kFolderMode) != 0 && errno != EEXIST) {
+        way += way.isEmpty() ? part : u'/' + part;
+        if (::mkdirat(at.descriptor(), name.constData(), kFolderMode) == 0) {
+            if (made != nullptr) {
+                made->append(way);
+            }
+        } else if (errno != EEXIST) {
             return std::nullopt;
         }
         FileDescriptor next(
@@ -52,6 +59,12 @@ std::optional<SavingFolder> SavingFolder::below(const QString& relative) const {
         }
     }
     return at;
+}
+
+bool SavingFolder::removeIfEmpty(const QString& relative) const {
+    const auto parent = below(relative.section(u'/', 0, -2));
+    const QByteArray name = QFile::encodeName(relative.section(u'/', -1));
+    return parent && ::unlinkat(parent->descriptor(), name.constData(), AT_REMOVEDIR) == 0;
 }
 
 std::optional<dev_t> SavingFolder::device() const {

@@ -4,6 +4,7 @@
 #include <sys/types.h>
 
 #include <QString>
+#include <QStringList>
 #include <memory>
 #include <optional>
 
@@ -18,8 +19,12 @@ class SavingFolder {
     static std::optional<SavingFolder> open(const QString& path);
 
     // A folder below this one, such as "JPG/2026-05-17", made where it is absent. No part of the way may be a
-    // link (ELOOP or ENOTDIR) or lead to another file system (EXDEV): somebody may have planted it.
-    std::optional<SavingFolder> below(const QString& relative) const;
+    // link (ELOOP or ENOTDIR) or lead to another file system (EXDEV): somebody may have planted it. `made`
+    // gets those that were absent, the outer ones first.
+    std::optional<SavingFolder> below(const QString& relative, QStringList* made = nullptr) const;
+    // Removes a folder below this one if there is nothing in it; no link is followed on the way to it. True
+    // when it was removed.
+    bool removeIfEmpty(const QString& relative) const;
 
     int descriptor() const { return m_folder->get(); }
     const QString& path() const { return m_path; }

@@ -9,9 +9,10 @@
 namespace vantor {
 
 struct PassReading {
-    PassMemory* forLater = nullptr;  // for the pass behind this one
-    SearchKeeper* keeper = nullptr;  // for another run of the program
-    bool recalls = false;            // sectors that were read before are not read again
+    PassMemory* forLater = nullptr;                // for the pass behind this one
+    SearchKeeper* keeper = nullptr;                // for another run of the program
+    bool recalls = false;                          // sectors that were read before are not read again
+    std::uint64_t stopBefore = SectorBits::kNone;  // sector
 
     bool remembers() const { return forLater != nullptr || keeper != nullptr; }
 
@@ -23,6 +24,8 @@ struct PassReading {
         if (keeper != nullptr) {
             if (succeeded) {
                 keeper->note(medium.position() - 1, medium.looks(), medium.current());
+            } else {
+                keeper->noteFailure(medium.position());
             }
             keeper->tick(!succeeded, refusals);
         }

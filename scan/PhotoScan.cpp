@@ -100,13 +100,14 @@ bool ScanSession::Photo_Recovey_Mode(const QString& passName) {
 void ScanSession::runPhotoLoop(PhotoPass& pass) {
     SectorReader& medium = *pFile_Disk;
     const bool remembers = pass.reading.remembers();
+    const std::uint64_t stopBefore = pass.reading.stopBefore;
     const std::uint64_t end = end_sector;
     const bool haveRecords = !REC_PROC_Array.isEmpty();
     const std::uint64_t limitWithoutMatch = pass.limits.empty() ? 0 : pass.limits.back();
     std::uint64_t index = for_index;
     bool bytesWanted = false;
     while (index < end && haveRecords) {
-        if (stop_now.load(std::memory_order_relaxed) == 1) {
+        if (stop_now.load(std::memory_order_relaxed) == 1 || medium.position() >= stopBefore) {
             pass.stopped = true;
             return;
         }

@@ -125,6 +125,7 @@ bool ScanSession::Raw_File_Recovey_Mode(const QString& passName) {
 bool ScanSession::runRawLoop(RawPass& pass) {
     SectorReader& medium = *pFile_Disk;
     const bool remembers = pass.reading.remembers();
+    const std::uint64_t stopBefore = pass.reading.stopBefore;
     const std::uint64_t end = end_sector;
     std::uint64_t index = for_index;
     if (index < end && REC_PROC_Array.isEmpty()) {
@@ -132,7 +133,7 @@ bool ScanSession::runRawLoop(RawPass& pass) {
         return true;
     }
     while (index < end) {
-        if (stop_now.load(std::memory_order_relaxed) == 1) {
+        if (stop_now.load(std::memory_order_relaxed) == 1 || medium.position() >= stopBefore) {
             return false;
         }
         const bool readBefore = pass.lastReadSucceeded;

@@ -84,6 +84,9 @@ bool ScanSession::anotherPassFollows(ControlSet set, const QString& passName) co
 PassReading ScanSession::beginReading(ControlSet set, const QString& passName,
                                       const std::shared_ptr<const HeaderMatcher>& matcher) {
     PassReading reading;
+    if (passName == kGeneralPass) {
+        reading.stopBefore = m_stopBefore.value_or(reading.stopBefore);
+    }
     if (m_keeper && passName == kGeneralPass) {
         reading.keeper = m_keeper.get();
         reading.recalls = m_keeper->goesOn();

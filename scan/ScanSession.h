@@ -88,6 +88,8 @@ class ScanSession : public HexText {
     // The next search is kept in the keeper's file, and goes on with the one that the keeper knows. Null: it
     // is not kept.
     void keepSearch(std::shared_ptr<SearchKeeper> keeper) { m_keeper = std::move(keeper); }
+    // The general pass of the next searches ends before the sector as if it had been told to stop there.
+    void stopBefore(std::optional<std::uint64_t> sector) { m_stopBefore = sector; }
 
     // --- Catalogue and file types (SessionCatalogue.cpp) ---
 
@@ -292,6 +294,7 @@ class ScanSession : public HexText {
     const std::shared_ptr<RefusedSectors> m_refusals = std::make_shared<RefusedSectors>();
     bool m_hasSearched = false;
     std::shared_ptr<SearchKeeper> m_keeper;
+    std::optional<std::uint64_t> m_stopBefore;
     std::shared_ptr<PassMemory> m_memory;  // of the general pass, for the thorough one
     Thumbnailer m_thumbnailer;
     HandOver m_handOver;

@@ -22,7 +22,8 @@ SearchKeeper::SearchKeeper(QString path, SearchRecord record)
     : m_path(std::move(path)),
       m_begun(std::move(record)),
       m_goesOn(!m_begun.read.empty() || !m_begun.refused.empty()),
-      m_read(std::make_shared<ReadSectors>(m_begun.read, m_begun.worthALook)) {
+      m_read(std::make_shared<ReadSectors>(m_begun.read, m_begun.worthALook)),
+      m_reached(m_begun.reached) {
     for (const SectorSample& known : m_begun.samples) {
         m_samples[known.sector] = known.sum;
     }
@@ -35,6 +36,7 @@ void SearchKeeper::tellRefusals(RefusedSectors& refusals) const {
 }
 
 void SearchKeeper::note(std::uint64_t sector, std::uint8_t looks, const std::uint8_t* bytes) {
+    m_reached = std::max(m_reached, sector + 1);
     if (m_read->worthALook().count() < kMostLooks && m_read->add(sector, looks != 0)) {
         sample(sector, bytes);
     }
@@ -60,6 +62,9 @@ void SearchKeeper::writeWhenDue(const RefusedSectors& refusals) {
 }
 
 void SearchKeeper::write(const RefusedSectors& refusals) {
+    if (m_path.isEmpty()) {
+        return;
+    }
     QSaveFile file(m_path);
     const QByteArray bytes = recordBytes(record(refusals));
     const bool written =
@@ -76,9 +81,11 @@ SearchRecord SearchKeeper::record(const RefusedSectors& refusals) const {
     for (const auto& [sector, sum] : m_samples) {
         record.samples.push_back({sector, sum});
     }
+    record.reached = m_reached;
     record.read = m_read->runs();
     record.refused = refusals.runs();
     record.worthALook = m_read->worthALook();
+    record.notes = m_notes ? m_notes() : m_begun.notes;
     return record;
 }
 

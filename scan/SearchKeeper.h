@@ -2,11 +2,14 @@
 #pragma once
 
 #include <QString>
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <memory>
+#include <utility>
 
 #include "media/SectorReader.h"
 #include "scan/ReadSectors.h"
@@ -25,8 +28,12 @@ class SearchKeeper {
     // What lies behind so many sectors worth a look is read again: they cost a byte or two each in the file.
     static constexpr std::uint64_t kMostLooks = std::uint64_t{16} << 20;
 
-    // `record`: the wishes and the medium; of a search that goes on also what it knows.
+    // `record`: the wishes and the medium; of a search that goes on also what it knows. Without a path it is
+    // kept in memory alone.
     SearchKeeper(QString path, SearchRecord record);
+
+    // What is asked for the notes at every writing, on the thread that writes; without it they stay.
+    void setNotes(std::function<SearchNotes()> notes) { m_notes = std::move(notes); }
 
     // Whether it goes on with an earlier search; recall() then answers for what that one read.
     bool goesOn() const { return m_goesOn; }
@@ -36,6 +43,8 @@ class SearchKeeper {
 
     // For every sector that the first pass read; `bytes` are its own unless it is quiet.
     void note(std::uint64_t sector, std::uint8_t looks, const std::uint8_t* bytes);
+    // For every sector that it could not read.
+    void noteFailure(std::uint64_t sector) { m_reached = std::max(m_reached, sector + 1); }
     // Often, mostly for nothing: after a read, which may have taken long where it failed.
     void tick(bool readFailed, const RefusedSectors& refusals) {
         if (readFailed || ++m_ticks % kTicksPerLook == 0) {
@@ -58,8 +67,10 @@ class SearchKeeper {
     const QString m_path;
     const SearchRecord m_begun;
     const bool m_goesOn;
+    std::function<SearchNotes()> m_notes;
     const std::shared_ptr<ReadSectors> m_read;
     std::map<std::uint64_t, QByteArray> m_samples;
+    std::uint64_t m_reached;
     std::uint64_t m_stride = 1;  // only multiples of it are sampled
     std::uint32_t m_ticks = 0;
     Clock::time_point m_written = Clock::now();

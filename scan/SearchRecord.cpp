@@ -2,6 +2,7 @@
 #include "scan/SearchRecord.h"
 
 #include <QCryptographicHash>
+#include <QFile>
 #include <QObject>
 #include <algorithm>
 #include <utility>
@@ -13,6 +14,8 @@ namespace {
 const QByteArray kMagic = QByteArrayLiteral("Vantor Recovery search 1\n");
 constexpr qsizetype kSumBytes = 32;
 constexpr auto kSum = QCryptographicHash::Sha256;
+// A terabyte's worth is some 50 MB.
+constexpr qint64 kMostFileBytes = qint64{512} << 20;
 
 class Writer {
   public:
@@ -37,6 +40,15 @@ class Writer {
             number(run.first - at);
             number(run.end - run.first);
             at = run.end;
+        }
+    }
+
+    void places(const std::vector<std::uint64_t>& places) {
+        number(places.size());
+        std::uint64_t at = 0;
+        for (const std::uint64_t place : places) {
+            number(place - at);
+            at = place + 1;
         }
     }
 
@@ -96,6 +108,16 @@ class Reader {
         }
         return runs;
     }
+    std::vector<std::uint64_t> places() {
+        std::vector<std::uint64_t> places;
+        std::uint64_t at = 0;
+        for (std::uint64_t n = count(); n > 0 && !m_failed; --n) {
+            const std::uint64_t place = sum(at, number());
+            at = sum(place, 1);
+            places.push_back(place);
+        }
+        return places;
+    }
     // Without overflow.
     std::uint64_t sum(std::uint64_t a, std::uint64_t b) { return b <= ~a ? a + b : fail(); }
 
@@ -154,9 +176,17 @@ QByteArray recordBytes(const SearchRecord& record) {
         writer.number(sample.sector);
         writer.bytes(sample.sum);
     }
+    writer.number(record.reached);
     writer.runs(record.read);
     writer.runs(record.refused);
     writeBits(writer, record.worthALook);
+    writer.text(record.notes.name);
+    writer.number(record.notes.found);
+    writer.number(record.notes.ended ? 1 : 0);
+    writer.number(record.notes.generalNumber);
+    writer.number(record.notes.thoroughNumber);
+    writer.text(record.notes.copy);
+    writer.places(record.notes.saved);
     return bytes + QCryptographicHash::hash(bytes, kSum);
 }
 
@@ -200,13 +230,32 @@ std::optional<SearchRecord> uncheckedRecordOf(QByteArrayView body) {
         const std::uint64_t sector = reader.number();
         record.samples.push_back({sector, reader.bytes()});
     }
+    record.reached = reader.number();
     record.read = reader.runs();
     record.refused = reader.runs();
     record.worthALook = readBits(reader);
+    record.notes.name = reader.text();
+    record.notes.found = reader.number();
+    record.notes.ended = reader.number() != 0;
+    record.notes.generalNumber = reader.number();
+    record.notes.thoroughNumber = reader.number();
+    record.notes.copy = reader.text();
+    record.notes.saved = reader.places();
     if (reader.failed() || !reader.atEnd() || record.wishes.mode > 2) {
         return std::nullopt;
     }
     return record;
+}
+
+std::optional<SearchRecord> readSearchRecord(const QString& path, QString* why) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        if (why != nullptr) {
+            *why = file.errorString();
+        }
+        return std::nullopt;
+    }
+    return recordOf(file.size() > kMostFileBytes ? QByteArray() : file.readAll(), why);
 }
 
 }  // namespace vantor

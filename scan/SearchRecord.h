@@ -33,6 +33,20 @@ struct SectorSample {
     bool operator==(const SectorSample&) const = default;
 };
 
+// What a search came to, for whoever offers to go on with it.
+struct SearchNotes {
+    QString name;             // of the medium, for people
+    std::uint64_t found = 0;  // items
+    bool ended = false;       // nothing of it is left to search
+    // The numbers that items had got before the search began, by its two passes.
+    std::uint64_t generalNumber = 0, thoroughNumber = 0;
+    QString copy;  // image that the medium is copied to; empty where it is not
+    // Places in the list of found items, ascending.
+    std::vector<std::uint64_t> saved;
+
+    bool operator==(const SearchNotes&) const = default;
+};
+
 // What is found need not be kept: going on is searching from the beginning, where whatever was read and is
 // not worth a look is answered from here and only the rest is read. So names, numbers and order are those of
 // a search that nobody disturbed.
@@ -41,10 +55,15 @@ struct SearchRecord {
     QString medium;             // as the user named it
     std::uint64_t sectors = 0;  // of the medium
     std::vector<SectorSample> samples;
+    std::uint64_t reached = 0;       // the first pass has been to all sectors of its range before this one
     std::vector<SectorRun> read;     // ascending
     std::vector<SectorRun> refused;  // ascending
     SectorBits worthALook;           // for any of the passes, of those read
+    SearchNotes notes;
 };
+
+// The record in a file; nothing, and a sentence for the user, when it holds none.
+std::optional<SearchRecord> readSearchRecord(const QString& path, QString* why = nullptr);
 
 // The file's bytes, with a checksum at their end.
 QByteArray recordBytes(const SearchRecord& record);

@@ -1,6 +1,8 @@
 // The one way out, its question, and the end of the threads.
 #include <QCoreApplication>
+#include <algorithm>
 
+#include "results/SizeForPeople.h"
 #include "window/MyTableController.h"
 #include "window/ProgramTitle.h"
 #include "window/preview/PreviewFile.h"
@@ -83,14 +85,19 @@ void MyTableController::endWholePreviews() {
 }
 
 bool MyTableController::mayLeaveUnsaved(const QString& consequence, const QString& leave) {
-    return runAlert({QStringLiteral("\n") + tr("Some of the found items have not been saved."),
-                     consequence,
-                     {leave, tr("Stay")},
-                     1}) == 0;
+    const std::size_t found = itemCount();
+    const std::size_t unsaved = found - std::min(found, m_desk->marks().settled());
+    const QString how = unsaved < found ? tr("%1 of the %2 found items have not been saved.")
+                                              .arg(numberForPeople(unsaved), numberForPeople(found))
+                        : found == 1
+                            ? tr("The item that was found has not been saved.")
+                            : tr("None of the %1 found items has been saved.").arg(numberForPeople(found));
+    return runAlert({QStringLiteral("\n") + how, consequence, {leave, tr("Stay")}, 1}) == 0;
 }
 
 bool MyTableController::shutDown(std::chrono::milliseconds patience) {
     m_ending = true;
+    *m_leaving = true;
     m_queue.close();
     m_pump.stop();
     if (m_thumbnails) {
@@ -117,6 +124,7 @@ bool MyTableController::shutDown(std::chrono::milliseconds patience) {
         }
     }
     m_desk->join();
+    m_copied.set({}, nullptr);
     return true;
 }
 

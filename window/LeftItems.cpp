@@ -66,8 +66,9 @@ bool MyTableController::mayBeginScan() {
                  window);
         return false;
     }
-    return !hasUnsavedItems() ||
-           mayLeaveUnsaved(tr("A new search empties the list of found items."), tr("Search Without Saving"));
+    return (!hasUnsavedItems() || mayLeaveUnsaved(tr("A new search empties the list of found items."),
+                                                  tr("Search Without Saving"))) &&
+           mayKeepCopy();
 }
 
 }  // namespace vantor

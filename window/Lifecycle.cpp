@@ -35,10 +35,15 @@ MyTableController::MyTableController(ProgramParts parts)
     }
     m_previewFolder = previewFolder(m_parts.resourcesFolder);
     m_previewHold = PreviewFolderHold(m_previewFolder);
-    setMediumOpener(m_parts.openMedium);
+    // A copy knows what was refused, and may come back to it.
+    m_parts.openMedium = m_copied.through(knowingRefusals(std::move(m_parts.openMedium)),
+                                          [this] { return stop_now == 1 || *m_leaving; });
+    if (m_parts.openBeside) {
+        m_parts.openBeside = m_copied.through(knowingRefusals(std::move(m_parts.openBeside)),
+                                              [leaving = m_leaving] { return leaving->load(); });
+    }
+    setMediumOpener(m_parts.openMedium, RefusedSectorsAre::AskedForAgain);
     setAskCard(m_parts.askCard);
-    m_parts.openMedium = knowingRefusals(std::move(m_parts.openMedium));
-    m_parts.openBeside = knowingRefusals(std::move(m_parts.openBeside));
     setThumbnailer(m_parts.thumbnailer);
     if (m_parts.thumbnailer) {
         m_thumbnails = std::make_unique<ThumbnailQueue>(m_parts.thumbnailer, thumbnailQueueOptions());

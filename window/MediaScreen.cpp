@@ -48,6 +48,7 @@ void MyTableController::mediaChanged() {
     if (screen_counter == 0 && !session) {
         reloadMediaKeepingSelection();
     }
+    goOnWithCardPutBack();
 }
 
 void MyTableController::reloadMediaKeepingSelection() {

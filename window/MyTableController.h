@@ -21,6 +21,7 @@
 //   Saving                      window/Saving.cpp
 //   Fields with given names
 //   What a scan shows           window/ScanScreen.cpp, window/SearchEndBar.cpp
+//   Searches gone on with       window/Keeping.cpp, window/CardCopy.cpp, window/CardState.cpp
 //   Steps behind these, file by file, and the fields of our own
 #pragma once
 
@@ -37,6 +38,7 @@
 #include <thread>
 
 #include "decode/ThumbnailQueue.h"
+#include "media/CopiedMedium.h"
 #include "media/MediaList.h"
 #include "media/SearchRange.h"
 #include "scan/ScanInputs.h"
@@ -52,6 +54,7 @@
 #include "window/browser/FileTypeIcons.h"
 #include "window/browser/ImageBrowserModel.h"
 #include "window/browser/PendingView.h"
+#include "window/keeping/SearchMemory.h"
 #include "window/panels/RangePanel.h"
 #include "window/preview/FileManager.h"
 #include "window/preview/PreviewFile.h"
@@ -63,6 +66,9 @@ class QSettings;
 namespace vantor {
 
 class ViewerDesk;
+class CardStrip;
+class KeepingBox;
+class KeptSearchBar;
 class WholePreview;
 struct ViewOrder;
 struct PreviewFileRequest;
@@ -388,6 +394,36 @@ class MyTableController : public QObject,
     PanelWords endPanelWords(const PanelWords& drawn) const;
     SearchWish searchWish() const;
     void showEmptyResults();
+    // window/Keeping.cpp
+    void setUpKeeping();
+    void showKeeping();
+    void keepThisSearch();
+    void keepSearchEnd();
+    void keepMarks();
+    void writeKeptSearch();
+    void markSavedBefore();
+    void goOn();
+    void goOnWithCardPutBack();
+    void goOnWith(SearchRecord record);
+    void goOnWithKept(bool onlyLook);
+    SearchWishes wishesOfNow() const;
+    // window/CardCopy.cpp
+    bool chooseCopyPlace();
+    bool acceptCopyPlace(const QString& path);
+    bool refuseCopy(const QString& what, const QString& why);
+    bool mayKeepCopy();
+    // window/CardState.cpp
+    void setUpCardStrip();
+    void beginCardStrip();
+    void showCard();
+    void showCopy(const MediumCopy& copy);
+    void keepCopyNow();
+    bool goesOnByItself() const;
+    QString pathOfMedium(const QString& identifier) const;
+    enum class Likeness { Same, Another, CannotBeOpened };
+    Likeness likenessOf(const QString& identifier, const SearchRecord& record);
+    QStringList mediaLike(const SearchRecord& record) const;
+    bool chooseMediumOf(const SearchRecord& record);
     // window/ScanThreads.cpp
     void startScan(void (ScanSession::*driver)());
     void pump();
@@ -440,7 +476,7 @@ class MyTableController : public QObject,
     TableAdapter* m_mediaTable = nullptr;
     TableAdapter* m_typeTable = nullptr;
     TableAdapter* m_resultTable = nullptr;
-    QList<QCheckBox*> m_groupBoxes;  // by FileKind
+    QList<QCheckBox*> m_groupBoxes;         // by FileKind
     std::unique_ptr<QSettings> m_settings;  // null where nothing is remembered
     QString m_previewFolder;
     QString m_wholeFolder;  // of the previews of true length
@@ -480,6 +516,24 @@ class MyTableController : public QObject,
     bool m_draining = false;
     bool m_searchEnded = false;   // and its results are in view
     QList<ResultRow> m_leftRows;  // only when it fell back to the screen before
+
+    // Of searches that are gone on with, and of copies.
+    CopiedMedium m_copied;
+    QString m_copyPath;  // of the copy that is kept
+    CardStrip* m_cardStrip = nullptr;
+    QLabel* m_cardWords = nullptr;
+    QPushButton* m_keepCopyButton = nullptr;
+    std::size_t m_stripItems = 0;    // that are marked in the strip
+    qint64 m_lastLookAtCard = 0;     // milliseconds of the search
+    bool m_goOnWhenStopped = false;  // the user wants a copy of what is searched
+    std::shared_ptr<std::atomic<bool>> m_leaving = std::make_shared<std::atomic<bool>>(false);
+    std::unique_ptr<SearchMemory> m_memory;
+    KeptSearchBar* m_keptBar = nullptr;
+    KeepingBox* m_keepingBox = nullptr;
+    QPushButton* m_goOnButton = nullptr;
+    std::optional<SearchRecord> m_goingOn;     // what the search that is about to begin goes on with
+    bool m_onlyLook = false;                   // and that it ends where that one did
+    std::vector<std::uint64_t> m_savedBefore;  // ascending places of items that are not listed yet
 
     // Set when the user chooses the destination.
     QString m_chosenFolder;

@@ -20,6 +20,9 @@ namespace vantor {
 struct ProgramParts {
     std::shared_ptr<MediaSource> media;
     MediumOpener openMedium;
+    // The medium itself, for a copy of it; `also` ends the waits beside what ends those of openMedium. None:
+    // media cannot be copied.
+    std::function<std::unique_ptr<BlockSource>(const QString& devicePath, StopRequest also)> openSource;
     // Why it could not open the medium when it was last asked, and what helps; "" when that is not known.
     std::function<QString()> whyNotOpened;
     // To examine found items while others read the medium; none: nothing is examined.
@@ -36,6 +39,8 @@ struct ProgramParts {
 
     // Where the program keeps what it remembers from one run to the next; none: it remembers nothing.
     QString settingsFile;
+    // Where a search that is to be remembered is kept; none: no search can be.
+    QString stateFolder;
 
     // True when files written into the folder would land on the medium behind "/dev/r" + identifier.
     std::function<bool(const QString& folder, const QString& devicePath)> isOnMedium;

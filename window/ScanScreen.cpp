@@ -206,6 +206,10 @@ void MyTableController::hideScanProgress() {
 }
 
 void MyTableController::runEndPanel(ControlSet set) {
+    keepSearchEnd();
+    if (goesOnByItself()) {
+        return;
+    }
     tellWhoLooksElsewhere();
     if (set == ControlSet::Photo) {
         m_panels->saveFileInfo.setWords(endPanelWords(m_panels->photoEnd));

@@ -18,8 +18,10 @@ constexpr std::chrono::milliseconds kLastScanPatience{5000};
 void MyTableController::startScan(void (ScanSession::*driver)()) {
     prepareIcons();
     m_searchEnded = false;
+    m_goOnWhenStopped = false;
     searchEndBar->hide();
     m_inputs = readInputs();
+    keepThisSearch();
     showEmptyResults();
     if (m_thumbnails) {
         m_thumbnails->cancel();
@@ -36,6 +38,7 @@ void MyTableController::startScan(void (ScanSession::*driver)()) {
     });
     resetAddedItemCount();
     m_clock.start();
+    beginCardStrip();
     m_scanBegun = QDateTime::currentDateTime();
     mSetLabelTimer = std::make_shared<ScanTimer>();
     m_driverRunning = true;
@@ -82,6 +85,7 @@ void MyTableController::clearWaitingThumbnails() {
 // A batch: what the scan has for the views, then its steps one by one.
 void MyTableController::pump() {
     flushViews();
+    markSavedBefore();
     showScanFacts();
     // Steps may ask the user something; the timer goes on meanwhile, the steps after them wait.
     QMetaObject::invokeMethod(this, &MyTableController::drainQueue, Qt::QueuedConnection);
@@ -129,10 +133,14 @@ void MyTableController::scanThreadsEnded() {
     }
     waitForThreads();
     flushViews();
+    markSavedBefore();
+    keepSearchEnd();
     showItemCounts();
     showWhereWeAre();
     if (!onScanScreen()) {
         scanFellBack();
+    } else if (goesOnByItself()) {
+        goOn();
     } else if (stop_screen_already_show == 0) {
         // The driver leaves the end screen to a preview that was being copied; should that have ended first,
         // it is due now.
@@ -166,6 +174,7 @@ void MyTableController::showScanFacts() {
     const std::uint64_t start = start_sector;
     m_meter.update(m_clock.elapsed(), index >= start ? index - start : 0);
     scanFactsLabel->setText(m_meter.text(itemCount()));
+    showCard();
 }
 
 // Looked up here, where icons may be made; the scan only copies them.

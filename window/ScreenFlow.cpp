@@ -4,6 +4,7 @@
 #include "catalogue/FileTypeList.h"
 #include "results/RecoveryMode.h"
 #include "window/MyTableController.h"
+#include "window/keeping/KeepingBox.h"
 #include "window/preview/ViewerDesk.h"
 #include "window/widgets/Alerts.h"
 
@@ -187,6 +188,8 @@ void MyTableController::backToMedia() {
     if (itemCount() > 0) {
         emptyBrowsers();  // they are of the medium that is left
     }
+    m_copied.set({}, nullptr);
+    m_keepingBox->setCopyPlace({}, {});
     setMode(kPhotoMode);
     Reload_Drive_list_Function();
     homeOfScreen()->setFocus();
@@ -272,6 +275,7 @@ void MyTableController::showWhereWeAre() {
     if (!onScanScreen()) {
         m_viewer->leave();
     }
+    showKeeping();
     bodyScroll->verticalScrollBar()->setValue(0);
     // Once the new screen is laid out.
     QTimer::singleShot(0, this, [this] {

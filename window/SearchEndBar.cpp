@@ -14,12 +14,16 @@ void MyTableController::showSearchEnd() {
     if (end.outcome == PassOutcome::OpenError && m_parts.whyNotOpened) {
         sentences << m_parts.whyNotOpened();
     }
+    if (m_memory->keeper() && !m_memory->keeper()->error().isEmpty()) {
+        sentences << tr("The search could not be remembered: %1.").arg(m_memory->keeper()->error());
+    }
     sentences.removeAll(QString());
     searchEndLabel->setText(sentences.join(u' '));
     const QString picture = end.isFlawless() ? QStringLiteral("ok") : QStringLiteral("info");
     const int edge = searchEndIcon->minimumWidth();
     searchEndIcon->setPixmap(ownIcon(picture).pixmap(edge, edge));
     tryBadSectorsButton->setVisible(end.unreadable != 0);
+    m_goOnButton->setVisible(end.canGoOn() && onScanScreen());
     searchEndBar->setVisible(!sentences.isEmpty());
 }
 

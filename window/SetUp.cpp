@@ -50,6 +50,8 @@ void MyTableController::loadInterface() {
     dressRangeSets();
     setUpTables();
     setUpBrowsers();
+    setUpKeeping();
+    setUpCardStrip();
     setEmptyStates();
     buildGroupBoxes();
 

@@ -13,6 +13,7 @@
 #include "saving/DestinationCheck.h"
 #include "window/MyTableController.h"
 #include "window/ProgramTitle.h"
+#include "window/keeping/SearchMemory.h"
 #include "window/preview/FilePreviewer.h"
 #include "window/preview/SoundMovie.h"
 #include "window/widgets/DesktopLook.h"
@@ -40,6 +41,7 @@ ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTable
         return running != nullptr && running->stop_now == 1;
     };
     parts.openMedium = makeMediumOpener(*parts.media, stopped, refusal);
+    parts.openSource = makeSourceOpener(*parts.media, {}, refusal);
     parts.whyNotOpened = [refusal] { return wordsForRefusal(refusal->get()); };
     // What a scan is told to stop is no word for those who read beside it.
     parts.openBeside = makeMediumOpener(*parts.media, [leaving] { return leaving->load(); });
@@ -62,6 +64,7 @@ ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTable
     parts.privateFolder = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
     parts.settingsFile = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
                          QStringLiteral("/vantor-recovery.conf");
+    parts.stateFolder = stateFolder();
     parts.isOnMedium = [targets = parts.media->targets()](const QString& folder, const QString& devicePath) {
         const auto target = targets->find(devicePath.mid(QStringLiteral("/dev/r").size()));
         const QStringList nodes = target ? nodesOf(*target, mediaPresent) : QStringList();

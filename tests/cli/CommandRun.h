@@ -31,7 +31,7 @@ inline CommandRun runCommand(const QStringList& arguments,
     QProcess process;
     process.start(program, arguments);
     CommandRun run;
-    if (process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit) {
+    if (process.waitForFinished(600000) && process.exitStatus() == QProcess::NormalExit) {
         run.exitCode = process.exitCode();
     }
     run.out = process.readAllStandardOutput();

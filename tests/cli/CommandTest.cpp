@@ -288,7 +288,7 @@ TEST(Command, ListThatCannotBeWrittenIsNoSuccess) {
     process.setStandardOutputFile("/dev/full");
     process.start(VANTOR_CLI,
                   {"--list-json", "--catalogue", writeCatalogues(folder, record("JPG", "FFD8FFE0")), image});
-    ASSERT_TRUE(process.waitForFinished(60000));
+    ASSERT_TRUE(process.waitForFinished(600000));
     EXPECT_EQ(process.exitCode(), 6);
     EXPECT_TRUE(process.readAllStandardError().contains("standard output"));
 }
@@ -365,7 +365,7 @@ TEST_P(CommandStopped, PublishesAndSavesWhatWasFound) {
     }
     ASSERT_EQ(process.state(), QProcess::Running) << process.readAllStandardError().constData();
     ::kill(static_cast<pid_t>(process.processId()), GetParam());
-    ASSERT_TRUE(process.waitForFinished(60000));
+    ASSERT_TRUE(process.waitForFinished(600000));
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(process.exitCode(), 3);
     CommandRun run;

@@ -225,7 +225,7 @@ TEST(SavingCommand, KilledRunLeavesWholeFilesOnly) {
         // One that has ended by itself already is no process of ours any more.
         if (process.state() == QProcess::Running) {
             ::kill(pid, SIGKILL);
-            ASSERT_TRUE(process.waitForFinished(60000));
+            ASSERT_TRUE(process.waitForFinished(600000));
         }
         for (const QString& file : filesUnder(folder.path())) {
             ++filesSeen;

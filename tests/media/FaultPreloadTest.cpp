@@ -58,7 +58,7 @@ class FaultPreloadTest : public testing::Test {
                       {QStringLiteral("--mode"), QStringLiteral("rawfile"), QStringLiteral("--no-thorough"),
                        QStringLiteral("--catalogue"), folder.filePath(QStringLiteral("catalogue")),
                        QStringLiteral("--list-json"), card});
-        EXPECT_TRUE(process.waitForFinished(60000));
+        EXPECT_TRUE(process.waitForFinished(600000));
         exitCode = process.exitCode();
         errors = process.readAllStandardError();
         QList<QJsonObject> lines;

@@ -81,6 +81,20 @@ TEST_F(ImageShelfTest, AnyPartOfASplitImage_OpensTheWhole) {
     EXPECT_EQ(rows().last(), QStringLiteral("image1 a.001 2"));
 }
 
+TEST_F(ImageShelfTest, AnImageWithAMapBesideIt_HasWhatWasNotReadAsUnreadable) {
+    const QString path = write(QStringLiteral("a.img"), QByteArray(8 * 512, 'i'));
+    write(QStringLiteral("a.map"), "0x0 + 1\n0x0 0x400 +\n0x400 0x200 -\n0x600 0xA00 +\n");
+    const OpenedImage opened = source->addImage(path);
+    ASSERT_EQ(opened.refusal, QString());
+    EXPECT_EQ(rows().last(), QStringLiteral("image1 a.img 8"));
+    const auto medium = makeMediumOpener(*source)(QStringLiteral("/dev/rimage1"));
+    ASSERT_NE(medium, nullptr);
+    for (std::uint64_t sector = 0; sector < 8; ++sector) {
+        ASSERT_TRUE(medium->seek(sector));
+        EXPECT_EQ(medium->read(), sector != 2) << sector;
+    }
+}
+
 TEST_F(ImageShelfTest, WhatIsNoImage_IsRefusedInASentence) {
     const QStringList paths{
         write(QStringLiteral("a.gz"), QByteArray::fromHex("1f8b0808") + QByteArray(600, 'x')),

@@ -5,6 +5,7 @@
 
 #include "results/MyImageObject.h"
 #include "results/SoundnessBoard.h"
+#include "tests/support/CountedReader.h"
 #include "tests/support/Gate.h"
 #include "tests/support/SmallFiles.h"
 
@@ -134,6 +135,45 @@ TEST_F(SoundnessBoardTest, AMediumThatGoes_StopsIt_AndNothingIsSaidOfItsItems) {
     EXPECT_TRUE(until([this] { return board.known() == 1; })) << "a new list begins anew";
 }
 
+TEST_F(SoundnessBoardTest, AMediumThatGaveNothingYet_IsGoneAtTheThirdSilentItem) {
+    for (std::uint64_t sector = 0; sector < 100; ++sector) {
+        medium.badForEver.insert(sector);
+    }
+    board.begin(opener());
+    board.want({0, 1});
+    ASSERT_TRUE(until([this] { return board.known() == 2; })) << "these may be two bad places";
+    EXPECT_FALSE(board.mediumIsGone());
+    board.want({2});
+    EXPECT_TRUE(until([this] { return board.mediumIsGone(); }));
+    EXPECT_EQ(board.known(), 2U);
+}
+
+TEST_F(SoundnessBoardTest, TheSameListAgain_IsExaminedFromItsBeginning) {
+    board.begin(opener());
+    board.wantAll(4);
+    ASSERT_TRUE(until([this] { return board.known() == 4; }));
+    board.beginAgain();
+    EXPECT_TRUE(until([this] { return board.known() == 4; }));
+    const std::lock_guard guard(lock);
+    EXPECT_EQ(asked, (std::vector<std::size_t>{0, 1, 2, 3, 0, 1, 2, 3}));
+}
+
+TEST_F(SoundnessBoardTest, AListThatBeginsDuringALook_GetsNothingOfIt) {
+    std::atomic<bool> changed{false};
+    items.push_back(MyImageObject::initWithImage_data({}, "F", "F"));  // of no sectors
+    SoundnessBoard other([&](std::size_t index) -> std::shared_ptr<const MyImageObject> {
+        if (!changed.exchange(true)) {
+            other.begin(opener());
+            other.want({0});
+        }
+        return items[index];
+    });
+    other.begin(opener());
+    other.want({4});
+    ASSERT_TRUE(until([&] { return other.find(0).has_value(); }));
+    EXPECT_FALSE(other.find(4));
+}
+
 TEST_F(SoundnessBoardTest, AMediumThatIsPutBackIn_IsExaminedFurther) {
     refuseOpen = true;
     board.begin(opener());
@@ -150,7 +190,9 @@ TEST_F(SoundnessBoardTest, WhatOthersFoundOut_IsNotExamined) {
     board.note(0, Soundness{Verdict::CutOff, true, false, 7, 0, 0, {}});
     board.begin(opener());
     EXPECT_FALSE(board.find(0)) << "a new list";
+    board.note(0, Soundness{Verdict::Complete, false, false, 9, 0, 0, {}});
     board.note(0, Soundness{Verdict::CutOff, true, false, 7, 0, 0, {}});
+    EXPECT_EQ(board.known(), 1U) << "one item, told twice";
     const std::uint64_t changes = board.changes();
     board.want({0, 1});
     ASSERT_TRUE(until([this] { return board.known() == 2; }));
@@ -227,18 +269,6 @@ TEST(Soundness, AFileOfTooMuchReading_IsOfUnknownLength) {
     EXPECT_EQ(examined(kMostExaminedBytes).verdict, Verdict::Complete);
 }
 
-// A reader that is counted while it is open.
-class CountedReader : public ScriptedReader {
-  public:
-    CountedReader(ScriptedMedium& medium, std::atomic<int>& open) : ScriptedReader(medium), m_open(open) {
-        ++m_open;
-    }
-    ~CountedReader() override { --m_open; }
-
-  private:
-    std::atomic<int>& m_open;
-};
-
 TEST_F(SoundnessBoardTest, TheMediumIsClosed_WhenTheListIsLeft) {
     board.begin([&] { return std::make_unique<CountedReader>(medium, readers); });
     board.want({0});
@@ -277,6 +307,16 @@ TEST_F(SoundnessBoardTest, AtRest_TheLookUnderWayIsGivenUp_AndMadeLater) {
     board.want({1, 0});
     EXPECT_TRUE(until([this] { return board.known() == 2; }));
     EXPECT_EQ(board.find(0)->verdict, Verdict::Complete);
+}
+
+TEST_F(SoundnessBoardTest, AtRest_NothingIsBegun) {
+    board.begin(opener());
+    board.rest(true);
+    board.want({0});
+    std::this_thread::sleep_for(20ms);
+    EXPECT_EQ(opened, 0);
+    board.rest(false);
+    EXPECT_TRUE(until([this] { return board.known() == 1; }));
 }
 
 TEST_F(SoundnessBoardTest, AtRest_NoItemOfAllIsLeftOut) {

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "results/TrueCopy.h"
+#include "tests/support/CountedReader.h"
 #include "tests/support/SmallFiles.h"
 
 namespace vantor {
@@ -45,6 +46,17 @@ TEST_F(TrueCopyTest, AShorterItemEndsWhereItsFileDoes) {
     EXPECT_EQ(written, file);
     EXPECT_TRUE(copy.writeRest(writer()));
     EXPECT_EQ(count, 5000U) << "nothing twice";
+}
+
+TEST_F(TrueCopyTest, TheMediumIsClosed_WhenAllIsCopied) {
+    medium = mediumWith(wavFile(5000), kAt, 100);
+    std::atomic<int> open{0};
+    TrueCopy copy(QStringLiteral("WAV"), {{{kAt, 60}}, false}, std::make_unique<CountedReader>(medium, open),
+                  watch);
+    ASSERT_TRUE(copy.measure() && copy.writeEnds(writer()));
+    EXPECT_EQ(open, 1);
+    ASSERT_TRUE(copy.writeRest(writer()));
+    EXPECT_EQ(open, 0);
 }
 
 TEST_F(TrueCopyTest, AnItemThatWasCutShort_GoesOnToItsEnd) {

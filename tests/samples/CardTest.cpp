@@ -148,7 +148,7 @@ TEST(SampleCardProgram, OutputThatCannotBeWritten_ExitsWith1AndLeavesNothing) {
     QProcess program;
     program.start(QStringLiteral(SAMPLE_CARD_PROGRAM),
                   {image, QStringLiteral("--list"), folder.filePath(QStringLiteral("none/card.tsv"))});
-    ASSERT_TRUE(program.waitForFinished(100000));
+    ASSERT_TRUE(program.waitForFinished(600000));
     EXPECT_EQ(program.exitCode(), 1);
     EXPECT_TRUE(program.readAllStandardError().contains("card.tsv"));
     EXPECT_FALSE(QFile::exists(image));
@@ -157,7 +157,7 @@ TEST(SampleCardProgram, OutputThatCannotBeWritten_ExitsWith1AndLeavesNothing) {
 TEST(SampleCardProgram, WrongUse_ExitsWith2) {
     QProcess program;
     program.start(QStringLiteral(SAMPLE_CARD_PROGRAM), {QStringLiteral("a"), QStringLiteral("b")});
-    ASSERT_TRUE(program.waitForFinished(100000));
+    ASSERT_TRUE(program.waitForFinished(600000));
     EXPECT_EQ(program.exitCode(), 2);
     EXPECT_TRUE(program.readAllStandardError().contains("usage"));
 }

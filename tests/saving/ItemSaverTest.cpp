@@ -104,6 +104,23 @@ TEST(ItemSaver, FilesAndTheirNamesAreFlushed) {
     EXPECT_EQ(test::flushesSoFar() - before, 3 + 2);
 }
 
+TEST(ItemSaver, FoldersThatItMadeAndThatHoldNothingGo_AndNoOthers) {
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QDir(folder.path()).mkpath("OLD"));
+    const ItemSaver saver(folder.path());
+    ScriptedMedium medium = letters(6);
+    medium.badForEver = {0, 1};
+    ScriptedReader reader(medium);
+    for (const char* type : {"NEW", "OLD", "GOOD"}) {
+        EXPECT_FALSE(saver.saveRuns(type, "a", run(0, 2), reader).saved);
+    }
+    ASSERT_TRUE(saver.saveRuns("GOOD", "b", run(2, 4), reader).saved);
+    saver.flush();
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList({"GOOD", "OLD"}));
+    medium.badForEver.clear();
+    EXPECT_TRUE(saver.saveRuns("NEW", "c", run(0, 2), reader).saved) << "made again";
+}
+
 TEST(ItemSaver, LeftoversOfAKilledRunGoWhereTheNextOneWrites) {
     const QTemporaryDir folder;
     ASSERT_TRUE(QDir(folder.path()).mkpath("T"));

@@ -26,6 +26,25 @@ TEST(SavingFolder, MakesWhatIsAbsentAndOpensWhatIsThere) {
     EXPECT_FALSE(SavingFolder::open(home.filePath("absent")));
 }
 
+TEST(SavingFolder, TellsWhichItMadeAndRemovesEmptyOnesAlone) {
+    const QTemporaryDir home, elsewhere;
+    const auto folder = SavingFolder::open(home.path());
+    ASSERT_TRUE(folder);
+    QStringList made;
+    ASSERT_TRUE(folder->below("DCIM/100CANON", &made));
+    ASSERT_TRUE(folder->below("DCIM/101CANON", &made));
+    EXPECT_EQ(made, QStringList({"DCIM", "DCIM/100CANON", "DCIM/101CANON"}));
+    EXPECT_FALSE(folder->removeIfEmpty("DCIM"));
+    EXPECT_TRUE(QDir(home.filePath("DCIM/100CANON")).exists());
+    EXPECT_TRUE(folder->removeIfEmpty("DCIM/100CANON"));
+    EXPECT_EQ(QDir(home.filePath("DCIM")).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
+              QStringList("101CANON"));
+    ASSERT_TRUE(QDir(elsewhere.path()).mkpath("empty"));
+    ASSERT_TRUE(QFile::link(elsewhere.path(), home.filePath("link")));
+    EXPECT_FALSE(folder->removeIfEmpty("link/empty"));
+    EXPECT_TRUE(QDir(elsewhere.filePath("empty")).exists());
+}
+
 TEST(SavingFolder, TheDestinationItselfMayBeALink) {
     const QTemporaryDir home;
     ASSERT_TRUE(QDir(home.path()).mkpath("real"));

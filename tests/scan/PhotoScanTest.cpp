@@ -417,6 +417,11 @@ TEST(PhotoScan, StopHandsTheOpenItemOverAndShowsTheEndOnce) {
     TestSession session(medium);
     session.Ext_Array = session.Adv_Ext_Array = kJpegAndPng;
     session.stopBeforeRead(6);
+    session.onNote = [&](const QString& line) {
+        if (line == u"timer invalidated") {
+            EXPECT_EQ(session.stop_now, 0) << "the word was heard";
+        }
+    };
     session.Photo_Rec_Thread();
     ASSERT_EQ(nonEmpty(session).size(), 1U);
     EXPECT_EQ(nonEmpty(session)[0].data.size(), 5 * 512);

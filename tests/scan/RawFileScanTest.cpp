@@ -120,7 +120,14 @@ TEST(RawScan, StopPublishesOpenItemsAndKeepsThemUntilTheNextGeneralPass) {
     TestSession session(medium);
     session.choose(recordsOf({{"PDF", "25504446"}}), recordsOf({{"TIF", "49492A00"}}));
     session.stopBeforeRead(7);
+    QStringList words;  // to stop, when these things are done
+    session.onNote = [&](const QString& line) {
+        if (line == u"timer invalidated" || line == u"raw end panel") {
+            words << QStringLiteral("%1: %2").arg(line).arg(session.stop_now);
+        }
+    };
     session.Raw_File_Rec_Thread();
+    EXPECT_EQ(words, QStringList({"timer invalidated: 0", "raw end panel: 1"}));
     EXPECT_EQ(published(session), QStringList({"PDF00001.PDF 2-8"}));
     EXPECT_EQ(session.MultiHeader_Array.size(), 7);
     EXPECT_EQ(session.MultiHeader_Array,
@@ -131,8 +138,10 @@ TEST(RawScan, StopPublishesOpenItemsAndKeepsThemUntilTheNextGeneralPass) {
     EXPECT_EQ(session.openedPaths.size(), 1) << "no thorough pass after a stop";
     EXPECT_EQ(session.lastOutcome(), PassOutcome::Stopped);
     medium.beforeRead = nullptr;
+    session.handedOver.clear();
     session.Raw_File_Recovey_Mode("GEN");
     EXPECT_TRUE(session.MultiHeader_Array.isEmpty());
+    EXPECT_EQ(published(session), QStringList({"PDF00002.PDF 2-20"})) << "and nothing of the item left open";
 }
 
 TEST(RawScan, ThoroughPassSearchesItsOwnRecordsOnlyAndKeepsTheResults) {

@@ -17,10 +17,13 @@ SearchRecord someRecord() {
     record.sectors = 123456789;
     record.samples = {{0, QByteArray(32, 'a')}, {4096, QByteArray(32, 'b')}};
     record.read = {{10, 400}, {401, 2000}, {std::uint64_t{1} << 40, (std::uint64_t{1} << 40) + 1}};
+    record.reached = 2345;
     record.refused = {{400, 401}};
     for (const std::uint64_t sector : {10U, 11U, 300U, 70000U}) {
         record.worthALook.append(sector);
     }
+    record.notes = {
+        QStringLiteral("CANON"), 412, true, 3, 9, QStringLiteral("/a/b.img"), {0, 1, 7, std::uint64_t{1} << 33}};
     return record;
 }
 
@@ -37,9 +40,11 @@ void expectSame(const SearchRecord& a, const SearchRecord& b) {
     EXPECT_EQ(a.medium, b.medium);
     EXPECT_EQ(a.sectors, b.sectors);
     EXPECT_TRUE(a.samples == b.samples);
+    EXPECT_EQ(a.reached, b.reached);
     EXPECT_TRUE(a.read == b.read);
     EXPECT_TRUE(a.refused == b.refused);
     EXPECT_EQ(membersOf(a.worthALook), membersOf(b.worthALook));
+    EXPECT_TRUE(a.notes == b.notes);
 }
 
 }  // namespace
@@ -182,6 +187,32 @@ TEST_P(KeptSearch, GoneOnWith_ReadsOnlyTheRestOfTheMedium) {
     const std::uint64_t before = asked.sectors;
     EXPECT_EQ(run(kept(), 1000000), all);
     EXPECT_LE(static_cast<double>(asked.sectors - before), 0.05 * 20000) << "a search that had ended";
+}
+
+TEST_P(KeptSearch, ToldToStopBeforeASector_EndsThere_AndKnowsAllBeforeIt) {
+    const QTemporaryDir folder;
+    RandomScans random(24);
+    for (const bool photo : {true, false}) {
+        Search search = longSearch(random, 3000);
+        search.medium.badForEver = {100, 101, 700};
+        const auto run = [&](std::optional<std::uint64_t> stopBefore, SearchRecord record) {
+            TestSession session(search.medium);
+            const auto keeper = std::make_shared<SearchKeeper>(QString(), std::move(record));
+            keeper->setNotes([] { return SearchNotes{QStringLiteral("x"), 7, false, 0, 0, {}, {}}; });
+            session.keepSearch(keeper);
+            session.stopBefore(stopBefore);
+            session.setMediumOpener([&](const QString&) { return openReadAhead(search.medium, GetParam()); });
+            runBoth(session, search, photo);
+            return std::pair(session.searchEnd(), keeper->record(session.refusals()));
+        };
+        const auto [end, record] = run(1234, {});
+        EXPECT_EQ(end.outcome, PassOutcome::Stopped);
+        EXPECT_EQ(end.sector, 1234U);
+        EXPECT_EQ(record.reached, 1234U);
+        EXPECT_EQ(record.notes.found, 7U);
+        EXPECT_EQ(run(record.reached, record).first.sector, 1234U);
+        EXPECT_EQ(run({}, record).first.outcome, PassOutcome::Completed);
+    }
 }
 
 TEST(SearchKeeper, AnotherMedium_DoesNotHoldTheSamples) {

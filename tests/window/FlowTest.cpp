@@ -229,7 +229,7 @@ TEST_F(Flow, Back_WithUnsavedItems_AsksFirstAndStaysWhenTold) {
     scanToEnd();
     answers.press(QStringLiteral("Stay"));
     click(controller->backButton);
-    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\nSome of the found items have not been saved."));
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\nNone of the 3 found items has been saved."));
     EXPECT_EQ(answers.seen().back().defaultButton, QStringLiteral("Stay"));
     EXPECT_EQ(controller->screen_counter, 2);
     EXPECT_EQ(controller->itemCount(), 3u);

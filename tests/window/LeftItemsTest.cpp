@@ -5,8 +5,6 @@
 namespace vantor {
 namespace {
 
-const QString kUnsaved = QStringLiteral("\nSome of the found items have not been saved.");
-
 class LeftItems : public WindowTest, public ::testing::WithParamInterface<int> {
   protected:
     bool photo() const { return GetParam() == kPhotoMode; }
@@ -30,6 +28,10 @@ class LeftItems : public WindowTest, public ::testing::WithParamInterface<int> {
         ASSERT_GE(found, 2u);
         card.beforeRead = nullptr;
         refuseOpen = false;
+    }
+
+    QString unsaved() const {
+        return QStringLiteral("\nNone of the %1 found items has been saved.").arg(found);
     }
 
     std::size_t found = 0;
@@ -90,7 +92,7 @@ TEST_P(LeftItems, AnotherScan_AsksBeforeItTakesTheirPlace_Once) {
     scanThatFallsBack();
     answers.press(QStringLiteral("Stay"));
     click(controller->nextButton);
-    EXPECT_EQ(answers.seen().back().text, kUnsaved);
+    EXPECT_EQ(answers.seen().back().text, unsaved());
     EXPECT_EQ(answers.seen().back().defaultButton, QStringLiteral("Stay"));
     EXPECT_EQ(controller->screen_counter, screenBefore());
     EXPECT_EQ(controller->itemCount(), found);
@@ -106,7 +108,7 @@ TEST_P(LeftItems, Back_AsksBeforeItEmptiesTheList_Once) {
     scanThatFallsBack();
     answers.press(QStringLiteral("Stay"));
     click(controller->backButton);
-    EXPECT_EQ(answers.seen().back().text, kUnsaved);
+    EXPECT_EQ(answers.seen().back().text, unsaved());
     EXPECT_EQ(controller->screen_counter, screenBefore());
     EXPECT_EQ(controller->itemCount(), found);
 
@@ -140,7 +142,7 @@ TEST_P(LeftItems, ARefusedNext_LeavesThemAsTheyWere) {
         click(controller->nextButton);
     }
     EXPECT_TRUE(answers.allGiven());
-    EXPECT_NE(answers.seen().back().text, kUnsaved) << "nothing is at stake";
+    EXPECT_NE(answers.seen().back().text, unsaved()) << "nothing is at stake";
     click(controller->showItemsButton);
     EXPECT_EQ(controller->itemCount(), found);
     EXPECT_EQ(controller->resultRows(), rows);

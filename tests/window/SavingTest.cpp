@@ -92,6 +92,9 @@ TEST_F(Saving, SaveSelected_WritesTheSelectionOnly) {
     EXPECT_EQ(savedFiles(), QStringList{QStringLiteral("JPG/GND00002.JPG")});
     EXPECT_EQ(documentsOpened, QStringList{destination.path()});
     EXPECT_TRUE(controller->hasUnsavedItems());
+    answers.press(QStringLiteral("Stay"));
+    click(controller->backButton);
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\n2 of the 3 found items have not been saved."));
 }
 
 TEST_F(Saving, WithoutADestination_OneIsAskedFor) {

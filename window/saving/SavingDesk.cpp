@@ -62,6 +62,13 @@ void SavingDesk::forget() {
     m_saver.reset();
 }
 
+void SavingDesk::markSaved(const std::vector<std::uint64_t>& places) {
+    for (const std::uint64_t place : places) {
+        m_marks.noteSaved(static_cast<std::size_t>(place));
+    }
+    emit marksChanged();
+}
+
 // One saver as long as it writes the same way into the same folder, so that what was saved before is known.
 std::shared_ptr<const ItemSaver> SavingDesk::saverFor(const QString& destination) {
     if (!m_saver || m_saverDestination != destination || m_saverPolicy != m_choices.policy) {

@@ -64,6 +64,8 @@ class SavingDesk : public QObject {
     // The items are no longer the ones that are listed.
     void forget();
     const SavedMarks& marks() const { return m_marks; }
+    // They were saved in an earlier run of the program.
+    void markSaved(const std::vector<std::uint64_t>& places);
 
     SavingChoices& choices() { return m_choices; }
     const SavingChoices& choices() const { return m_choices; }

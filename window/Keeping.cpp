@@ -1,0 +1,343 @@
+// Searches that are gone on with: after a stop, and at the next start of the program where they are
+// remembered.
+#include <QCheckBox>
+#include <QFileInfo>
+#include <algorithm>
+
+#include "media/MediumTargets.h"
+#include "results/RecoveryMode.h"
+#include "results/SizeForPeople.h"
+#include "window/MyTableController.h"
+#include "window/keeping/KeepingBox.h"
+#include "window/keeping/KeptSearchBar.h"
+#include "window/widgets/Alerts.h"
+#include "window/widgets/AskingTurn.h"
+#include "window/widgets/Sheet.h"
+
+namespace vantor {
+
+void MyTableController::setUpKeeping() {
+    m_memory = std::make_unique<SearchMemory>(m_parts.stateFolder);
+    m_keptBar = new KeptSearchBar(body);
+    bodyLayout->insertWidget(bodyLayout->indexOf(mediaScreen), m_keptBar);
+    m_keptBar->hide();
+    m_keepingBox = new KeepingBox(body);
+    bodyLayout->insertWidget(bodyLayout->indexOf(thoroughBox) + 1, m_keepingBox);
+    m_keepingBox->hide();
+    m_goOnButton = new QPushButton(tr("&Go On"), searchEndBar);
+    m_goOnButton->setObjectName(QStringLiteral("goOnButton"));
+    m_goOnButton->setAccessibleName(tr("Go on with the search"));
+    m_goOnButton->setToolTip(tr("Search the rest of the medium; what was read is not searched again"));
+    searchEndLayout->addWidget(m_goOnButton);
+    const std::pair<QWidget*, QWidget*> order[] = {
+        {openImageButton, m_keptBar->goOnButton},
+        {m_keptBar->goOnButton, m_keptBar->lookButton},
+        {m_keptBar->lookButton, m_keptBar->forgetButton},
+        {_Thro_Mode_Chk, m_keepingBox->rememberBox},
+        {m_keepingBox->rememberBox, m_keepingBox->copyBox},
+        {m_keepingBox->copyBox, m_keepingBox->copyPlaceButton},
+        {tryBadSectorsButton, m_goOnButton},
+    };
+    for (const auto& [first, second] : order) {
+        QWidget::setTabOrder(first, second);
+    }
+    connect(m_goOnButton, &QPushButton::clicked, this, &MyTableController::goOn);
+    connect(m_keptBar->goOnButton, &QPushButton::clicked, this, [this] { goOnWithKept(false); });
+    connect(m_keptBar->lookButton, &QPushButton::clicked, this, [this] { goOnWithKept(true); });
+    connect(m_keptBar->forgetButton, &QPushButton::clicked, this, [this] {
+        m_memory->forgetLast();
+        showKeeping();
+        homeOfScreen()->setFocus();
+    });
+    connect(m_keepingBox->copyPlaceButton, &QPushButton::clicked, this, &MyTableController::chooseCopyPlace);
+    connect(m_keepingBox->copyBox, &QCheckBox::clicked, this, [this](bool wanted) {
+        m_keepingBox->copyBox->setChecked(wanted &&
+                                          (!m_keepingBox->copyPath().isEmpty() || chooseCopyPlace()));
+    });
+    connect(m_desk.get(), &SavingDesk::marksChanged, this, &MyTableController::keepMarks);
+}
+
+// The offer on the first screen, the boxes on the one of the range.
+void MyTableController::showKeeping() {
+    const bool onRange = screen_counter == 1;
+    m_keepingBox->offer(onRange && m_memory->hasFolder(), onRange && m_parts.openSource);
+    if (screen_counter != 0) {
+        m_memory->letGo();
+    }
+    const SearchRecord* const last = screen_counter == 0 ? m_memory->last() : nullptr;
+    m_keptBar->setVisible(last != nullptr);
+    if (last != nullptr) {
+        m_keptBar->offer(*last);
+    }
+}
+
+SearchWishes MyTableController::wishesOfNow() const {
+    const auto set = static_cast<std::size_t>(activeSet());
+    const RangeControls& range = m_inputs.range[set];
+    SearchWishes wishes;
+    wishes.mode = Recovery_MODE;
+    wishes.thorough = m_inputs.thorough[set];
+    wishes.entire = range.entireDisk == 1;
+    if (!wishes.entire) {
+        wishes.start = range.startText;
+        wishes.end = range.endText;
+    }
+    if (wishes.mode != kPhotoMode) {
+        QStringList left;
+        for (const FileTypeRow& row : nsCheckedListDataObject) {
+            (isTicked(row) ? wishes.types : left) << row[QStringLiteral("Extension")].toString();
+        }
+        for (const QString& type : left) {
+            wishes.types.removeAll(type);
+        }
+        wishes.types.removeDuplicates();
+        if (left.isEmpty()) {
+            wishes.types.clear();  // all there are
+        }
+    }
+    wishes.catalogueSum = catalogueSum();
+    return wishes;
+}
+
+QString MyTableController::pathOfMedium(const QString& identifier) const {
+    const auto targets = m_parts.media->targets();
+    const auto target = targets ? targets->find(identifier) : std::nullopt;
+    return target ? target->path : identifier;
+}
+
+// Before every search.
+void MyTableController::keepThisSearch() {
+    const bool goesOn = m_goingOn.has_value();
+    SearchRecord record = std::exchange(m_goingOn, std::nullopt).value_or(SearchRecord());
+    const SearchWishes wishes = wishesOfNow();
+    stopBefore(goesOn && m_onlyLook ? std::optional(record.reached) : std::nullopt);
+    if (goesOn && record.wishes != wishes) {
+        runAlert({QStringLiteral("\n") + tr("The search begins anew."),
+                  tr("It was begun with other lists of signatures than this version of the program has.")},
+                 window);
+        record = SearchRecord();
+    }
+    bool remember = m_keepingBox->rememberBox->isChecked();
+    if (remember && m_parts.isOnMedium && m_parts.isOnMedium(m_memory->folder(), devicePath())) {
+        runAlert(
+            {QStringLiteral("\n") + tr("This search is not remembered."),
+             tr("Your home folder lies on the medium that is to be searched; writing there would overwrite "
+                "what is still to be found.")},
+            window);
+        remember = false;
+    }
+    const RangeControls& range = m_inputs.range[static_cast<std::size_t>(activeSet())];
+    record.wishes = wishes;
+    record.medium = pathOfMedium(range.diskIdentifier);
+    record.sectors = _sectors_val->text().toULongLong();
+    const QString name = (Recovery_MODE == kPhotoMode ? _vol_name_val : _vol_name_val_Sig)->text();
+    record.notes.name = name.isEmpty() ? range.diskIdentifier : name;
+    record.notes.copy = m_copyPath;
+    if (goesOn) {
+        // Numbers run on from search to search, and this is the one before.
+        GND_Image_number = record.notes.generalNumber;
+        THD_Image_number = record.notes.thoroughNumber;
+    }
+    record.notes.generalNumber = GND_Image_number;
+    record.notes.thoroughNumber = THD_Image_number;
+    m_savedBefore = record.notes.saved;
+    keepSearch(m_memory->begin(std::move(record), remember, [this] { return itemCount(); }));
+}
+
+// What was saved in the search that is gone on with is known again as soon as it is listed again.
+void MyTableController::markSavedBefore() {
+    const auto listed = std::find_if(m_savedBefore.begin(), m_savedBefore.end(),
+                                     [count = itemCount()](std::uint64_t place) { return place >= count; });
+    if (listed == m_savedBefore.begin()) {
+        return;
+    }
+    const std::vector<std::uint64_t> places(m_savedBefore.begin(), listed);
+    m_savedBefore.erase(m_savedBefore.begin(), listed);
+    m_desk->markSaved(places);
+}
+
+void MyTableController::keepMarks() {
+    std::vector<std::uint64_t> saved = m_desk->marks().savedPlaces();
+    saved.insert(saved.end(), m_savedBefore.begin(), m_savedBefore.end());
+    std::sort(saved.begin(), saved.end());
+    m_memory->setSaved(std::move(saved));
+    writeKeptSearch();
+}
+
+// While a search runs, it does so itself.
+void MyTableController::writeKeptSearch() {
+    if (m_memory->keeper() && !scanRunning()) {
+        m_memory->keeper()->write(refusals());
+    }
+}
+
+// At the end of a search, whose thread waits for the user or is gone.
+void MyTableController::keepSearchEnd() {
+    m_memory->setEnded(searchEnd().outcome == PassOutcome::Completed && !searchEnd().brokenOff());
+    m_memory->keeper()->write(refusals());
+}
+
+// Begins anew, with what is known: names, numbers and order are those of a search that nobody stopped.
+void MyTableController::goOn() {
+    if (scanShown() || session || !m_memory->keeper()) {
+        return;
+    }
+    SearchRecord record = m_memory->keeper()->record(refusals());
+    // The list is emptied only when there is something to go on with.
+    const Likeness likeness = likenessOf(_disk_identifier->text(), record);
+    if (m_ending) {
+        return;
+    }
+    if (likeness != Likeness::Same) {
+        runAlert({QStringLiteral("\n") + tr("The search cannot go on."),
+                  likeness == Likeness::Another
+                      ? tr("This is not the medium that was searched. Put the right one in "
+                           "and try again.")
+                      : tr("The medium cannot be opened. Put it back in and try again.")},
+                 window);
+        return;
+    }
+    goOnWith(std::move(record));
+}
+
+// The card is back that was taken out in the middle of a search: it goes on by itself, and nothing is said of
+// any other card.
+void MyTableController::goOnWithCardPutBack() {
+    const bool waits = onScanScreen() && searchEnd().mediumGone && searchEnd().canGoOn();
+    if (!waits || scanShown() || session || m_desk->isRunning() || AskingTurn::isTaken() ||
+        !m_memory->keeper()) {
+        return;
+    }
+    SearchRecord record = m_memory->keeper()->record(refusals());
+    if (likenessOf(_disk_identifier->text(), record) == Likeness::Same && !m_ending) {
+        goOnWith(std::move(record));
+    }
+}
+
+void MyTableController::goOnWith(SearchRecord record) {
+    m_goingOn = std::move(record);
+    m_onlyLook = false;
+    if (Recovery_MODE == kPhotoMode) {
+        backToRange();
+        nextFromRange();
+    } else {
+        backToFileTypes();
+        nextFromFileTypes();
+    }
+    m_goingOn.reset();
+    showWhereWeAre();
+}
+
+void MyTableController::goOnWithKept(bool onlyLook) {
+    if (m_memory->last() == nullptr) {
+        showKeeping();
+        return;
+    }
+    const SearchRecord kept = *m_memory->last();
+    if (!chooseMediumOf(kept)) {
+        return;
+    }
+    const SearchWishes& wishes = kept.wishes;
+    m_keepingBox->rememberBox->setChecked(true);
+    m_goingOn = kept;
+    m_onlyLook = onlyLook && !kept.notes.ended && !isReadToItsEnd(kept);
+    setMode(wishes.mode);
+    nextFromMedia();
+    if (!wishes.entire) {
+        RangePanel& panel = activeRange();
+        panel.chooseSectorRange();
+        panel.field(RangeField::Start)->setText(wishes.start);
+        panel.field(RangeField::End)->setText(wishes.end);
+    }
+    if (wishes.mode == kPhotoMode) {
+        _Thro_Mode_Chk->setChecked(wishes.thorough);
+    }
+    const QString& copy = kept.notes.copy;
+    const QString medium = pathOfMedium(_disk_identifier->text());
+    const bool copyWanted = !copy.isEmpty() && m_parts.openSource &&
+                            QFileInfo(copy).canonicalFilePath() != QFileInfo(medium).canonicalFilePath();
+    if (copyWanted && !acceptCopyPlace(copy)) {
+        m_goingOn.reset();  // without its copy only if the user wants that
+        showWhereWeAre();
+        return;
+    }
+    nextFromRange();
+    if (wishes.mode != kPhotoMode && screen_counter == 2) {
+        _Thro_Mode_Chk_SIG->setChecked(wishes.thorough);
+        for (FileTypeRow& row : nsCheckedListDataObject) {
+            row[QStringLiteral("State")] =
+                wishes.types.isEmpty() || wishes.types.contains(row[QStringLiteral("Extension")].toString());
+        }
+        fileTypeRowsChanged();
+        nextFromFileTypes();
+    }
+    m_goingOn.reset();
+    showWhereWeAre();
+}
+
+// Whether the medium behind the row is the one of the search. Reads some of its sectors.
+MyTableController::Likeness MyTableController::likenessOf(const QString& identifier,
+                                                          const SearchRecord& record) {
+    const auto found = std::make_shared<Likeness>(Likeness::CannotBeOpened);
+    session = true;
+    {
+        const SheetSession sheet(LoadDisk_Window, controlPanel, exitButton);
+        runBeside([found, open = m_parts.openMedium, identifier, samples = record.samples] {
+            const auto medium = open ? open(QStringLiteral("/dev/r") + identifier) : nullptr;
+            if (medium) {
+                *found = holdsSamples(*medium, samples) ? Likeness::Same : Likeness::Another;
+            }
+        });
+    }
+    session = false;
+    return m_ending ? Likeness::CannotBeOpened : *found;
+}
+
+// The identifiers of the listed media of its size, where it was first.
+QStringList MyTableController::mediaLike(const SearchRecord& record) const {
+    QStringList candidates;
+    for (const auto& medium : nsMutaryOfDataObject) {
+        if (medium && medium->nsStrSectors.toULongLong() == record.sectors) {
+            const QString& identifier = medium->nsStrDiskIdentifier;
+            candidates.insert(pathOfMedium(identifier) == record.medium ? 0 : candidates.size(), identifier);
+        }
+    }
+    return candidates;
+}
+
+// Selects the medium in the list; false after saying why it cannot be had.
+bool MyTableController::chooseMediumOf(const SearchRecord& record) {
+    const QString what =
+        QStringLiteral("“%1”, %2").arg(record.notes.name, sizeForPeople(record.sectors * kSectorBytes));
+    if (QFileInfo(record.medium).isFile()) {
+        openImages({record.medium});
+    }
+    QStringList candidates = mediaLike(record);
+    if (candidates.isEmpty() && QFileInfo(record.notes.copy).isFile()) {
+        openImages({record.notes.copy});
+        candidates = mediaLike(record);
+    }
+    QString trouble = tr("The medium of this search is not there.");
+    QString advice = tr("It was %1. Put it in, or open its image, and try again.").arg(what);
+    for (const QString& identifier : candidates) {
+        const Likeness likeness = likenessOf(identifier, record);
+        if (m_ending) {
+            return false;
+        }
+        if (likeness == Likeness::Same) {
+            selectMedium(identifier);
+            return true;
+        }
+        if (likeness == Likeness::Another) {
+            trouble = tr("This is not the medium that was searched.");
+            advice = tr("It holds something else than %1 did. Put the right one in and try again.").arg(what);
+        } else {
+            trouble = tr("The medium of this search cannot be opened.");
+            advice = m_parts.whyNotOpened ? m_parts.whyNotOpened() : QString();
+        }
+    }
+    runAlert({QStringLiteral("\n") + trouble, advice}, window);
+    return false;
+}
+
+}  // namespace vantor
