@@ -5,6 +5,7 @@
 #include <QJsonArray>
 #include <algorithm>
 
+#include "catalogue/TypePresets.h"
 #include "cli/MovieMending.h"
 #include "repair/MovieCompletion.h"
 #include "repair/PhotoCompletion.h"
@@ -71,7 +72,9 @@ QStringList CliSession::chooseTypes(const QStringList& types) {
         const auto tick = [&](Qt::CaseSensitivity sensitivity) {
             bool found = false;
             for (FileTypeRow& row : nsCheckedListDataObject) {
-                if (row[QStringLiteral("Extension")].toString().compare(type, sensitivity) == 0) {
+                const QString extension = row[QStringLiteral("Extension")].toString();
+                if (type.startsWith(u'@') ? isInPreset(type.mid(1), extension)
+                                          : extension.compare(type, sensitivity) == 0) {
                     row[QStringLiteral("State")] = true;
                     found = true;
                 }

@@ -54,7 +54,8 @@ ParsedOptions parseOptions(const QStringList& arguments) {
                                   QStringLiteral("MODE"), QStringLiteral("photo"));
     const QCommandLineOption types(
         QStringLiteral("types"),
-        QStringLiteral("Only these file types, comma-separated (video and rawfile modes)."),
+        QStringLiteral("Only these file types, comma-separated (video and rawfile modes): extensions, or "
+                       "@photos, @office, @phone, @recorder, @everything."),
         QStringLiteral("EXT,..."));
     const QCommandLineOption range(QStringLiteral("range"),
                                    QStringLiteral("Only the sectors from START up to, not including, END."),
@@ -88,8 +89,13 @@ ParsedOptions parseOptions(const QStringList& arguments) {
         QStringLiteral("list-files"),
         QStringLiteral("Print what the medium's own directories tell of its files, those that "
                        "are there and those that were, as one JSON object each, and search nothing."));
+    const QCommandLineOption listTypes(
+        QStringLiteral("list-types"),
+        QStringLiteral("Print what --types can choose from in this mode, and search nothing."));
+    const QCommandLineOption quiet({QStringLiteral("q"), QStringLiteral("quiet")},
+                                   QStringLiteral("Say nothing but what went wrong, and no progress."));
     parser.addOptions({help, version, mode, types, range, noThorough, retryBad, sessionFile, resume,
-                       catalogue, listJson, listMedia, listFiles});
+                       catalogue, listJson, listMedia, listFiles, listTypes, quiet});
     saving.addTo(parser);
     copying.addTo(parser);
     parser.addPositionalArgument(
@@ -151,7 +157,16 @@ ParsedOptions parseOptions(const QStringList& arguments) {
     options.listJson = parser.isSet(listJson);
     options.listMedia = parser.isSet(listMedia);
     options.listFiles = parser.isSet(listFiles);
+    options.listTypes = parser.isSet(listTypes);
+    options.quiet = parser.isSet(quiet);
     const QStringList media = parser.positionalArguments();
+    if (options.listTypes) {
+        if (options.mode == kPhotoMode) {
+            return badUsage(QStringLiteral(
+                "Photo mode searches for all its types; --list-types goes with video or rawfile."));
+        }
+        return media.isEmpty() ? parsed : badUsage(QStringLiteral("--list-types takes no medium."));
+    }
     if (options.listMedia) {
         return media.isEmpty() ? parsed : badUsage(QStringLiteral("--list-media takes no medium."));
     }

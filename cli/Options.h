@@ -27,6 +27,8 @@ struct CliOptions {
     bool listJson = false;
     bool listMedia = false;  // nothing is searched
     bool listFiles = false;  // only what the medium's directories tell
+    bool listTypes = false;  // only what can be searched for in this mode
+    bool quiet = false;      // only what went wrong is said
     QString sessionFile;     // where the search is kept; empty: nowhere
     bool resume = false;     // goes on with the search of the session file, whose wishes count
     QString medium;          // empty only with `resume`: the one that was searched

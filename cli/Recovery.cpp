@@ -23,6 +23,7 @@
 #include "cli/KeptSearch.h"
 #include "cli/ListFiles.h"
 #include "cli/ListMedia.h"
+#include "cli/ListTypes.h"
 #include "cli/ProgressLine.h"
 #include "cli/Telling.h"
 #include "decode/ErasedCardCheck.h"
@@ -212,6 +213,9 @@ int recover(CliOptions options) {
         }
         takeWishes(*kept, options);
     }
+    if (options.listTypes) {
+        return cataloguesRefused(options) ? kExitBadUsage : listTypes(options);
+    }
     const std::unique_ptr<MediaSource> source = makePlatformMediaSource();
     if (options.listMedia) {
         return listMedia(*source, options.listJson);
@@ -279,7 +283,7 @@ int recover(CliOptions options) {
     {
         const StopOnInterrupt interrupt(session.stop_now, walkAway);
         std::optional<ProgressLine> line;
-        if (::isatty(STDERR_FILENO) == 1) {
+        if (!options.quiet && ::isatty(STDERR_FILENO) == 1) {
             line.emplace(session, copy);
         }
         runBesideEvents([&] {

@@ -16,6 +16,14 @@ namespace vantor {
 
 namespace {
 
+// What the user has not asked for in words of his own; beside a list for machines it goes to the standard
+// error.
+void say(const CliOptions& options, const QString& line) {
+    if (!options.quiet) {
+        std::fprintf(options.listJson ? stderr : stdout, "%s\n", qPrintable(line));
+    }
+}
+
 // False when not all items could be read for their checksums.
 bool printJson(const CliSession& session) {
     return session.forEachJsonLine([](const QJsonObject& line) {
@@ -42,13 +50,12 @@ void printTable(const CliSession& session) {
 
 void tellSaving(const CliSession& session, const CliOptions& options) {
     const SaveTally& tally = session.saveTally();
-    FILE* out = options.listJson ? stderr : stdout;
     if (session.toldCount() != 0) {
-        std::fprintf(out, "%s more files that only the card's directory tells of\n",
-                     qPrintable(numberForPeople(session.toldCount())));
+        say(options, QStringLiteral("%1 more files that only the card's directory tells of")
+                         .arg(numberForPeople(session.toldCount())));
     }
     for (const QString& line : tally.lines(QDir(options.saveFolder).absolutePath())) {
-        std::fprintf(out, "%s\n", qPrintable(withShownPaths(line)));
+        say(options, withShownPaths(line));
     }
     if (tally.failed != 0) {
         complain(QStringLiteral("%1 could not be saved:").arg(numberForPeople(tally.failed)));
@@ -63,7 +70,7 @@ void tellSaving(const CliSession& session, const CliOptions& options) {
 
 void tellMending(const CliSession& session, const CliOptions& options) {
     for (const QString& line : session.mendingLines()) {
-        std::fprintf(options.listJson ? stderr : stdout, "%s\n", qPrintable(line));
+        say(options, line);
     }
 }
 
@@ -78,8 +85,7 @@ bool writeReportOf(const CliSession& session, const CliOptions& options, ReportH
         complain(written.error);
         return false;
     }
-    std::fprintf(options.listJson ? stderr : stdout, "Report: %s\n",
-                 qPrintable(withShownPaths(written.html)));
+    say(options, QStringLiteral("Report: ") + withShownPaths(written.html));
     return true;
 }
 
@@ -133,7 +139,7 @@ int tell(const CliSession& session, const CliOptions& options, const CliMedium& 
     bool allRead = true;
     if (options.listJson) {
         allRead = printJson(session);
-    } else {
+    } else if (!options.quiet) {
         printTable(session);
     }
     if (!options.saveFolder.isEmpty()) {
@@ -158,7 +164,7 @@ int tell(const CliSession& session, const CliOptions& options, const CliMedium& 
 
 bool tellCopy(const MediumCopy& copy, const CliOptions& options) {
     const CopyProgress progress = copy.progress();
-    std::fprintf(options.listJson ? stderr : stdout, "Copy: %s\n", qPrintable(copyEndWords(progress)));
+    say(options, QStringLiteral("Copy: ") + copyEndWords(progress));
     if (!progress.trouble.isEmpty()) {
         complain(progress.trouble);
     }

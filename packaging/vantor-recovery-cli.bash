@@ -1,7 +1,7 @@
 # Completion of vantor-recovery-cli's options, their values, and the media of this machine.
 _vantor_recovery_cli() {
     local cur prev words cword
-    _init_completion || return
+    _init_completion -n @ || return
 
     case $prev in
         --mode)
@@ -24,7 +24,23 @@ _vantor_recovery_cli() {
             COMPREPLY=($(compgen -W 'card type date' -- "$cur"))
             return
             ;;
-        --types | --range | --min-bytes | --min-pixels)
+        --types)
+            # The last of a list; what stands before it stays.
+            local mode=rawfile chosen= i types
+            for ((i = 1; i < cword; i++)); do
+                [[ ${words[i]} == --mode ]] && mode=${words[i + 1]}
+            done
+            [[ $cur == *,* ]] && chosen=${cur%,*},
+            types=$("$1" --mode "$mode" --list-types 2>/dev/null | sed 's/ .*//')
+            COMPREPLY=($(compgen -P "$chosen" -W "$types" -- "${cur##*,}"))
+            # The shell takes what stands behind an @ for a word of its own.
+            if [[ $cur == *@* && $COMP_WORDBREAKS == *@* ]]; then
+                COMPREPLY=("${COMPREPLY[@]#"${cur%"${cur##*@}"}"}")
+            fi
+            compopt -o nospace
+            return
+            ;;
+        --range | --min-bytes | --min-pixels)
             return
             ;;
     esac
@@ -39,7 +55,8 @@ _vantor_recovery_cli() {
             --image --scrape
             --complete
             --repair-movies --reference
-            --list-json --list-media --list-files' -- "$cur"))
+            --list-json --list-media --list-files --list-types
+            --quiet' -- "$cur"))
         return
     fi
 

@@ -4,6 +4,7 @@
 #include "results/SizeForPeople.h"
 #include "saving/SaveSummary.h"
 #include "window/MyTableController.h"
+#include "window/preview/ViewerDesk.h"
 
 namespace vantor {
 
@@ -56,7 +57,9 @@ LookedAtItems MyTableController::lookedAtItems() {
     items.count = [this] { return itemCount(); };
     items.isSaved = [this](std::size_t index) { return m_desk->marks().isSaved(index); };
     items.isTicked = [this](std::size_t index) { return m_ticks.isTicked(index); };
-    items.mediumBusy = [this] { return scanRunning() || m_desk->isRunning() || m_filling > 0; };
+    items.mediumBusy = [this] {
+        return scanRunning() || m_desk->isRunning() || m_filling > 0 || m_viewer->isBusy();
+    };
     items.card = [this] { return card(); };
     items.policy = [this] { return m_desk->choices().policy; };
     return items;
@@ -118,11 +121,11 @@ void MyTableController::selectionMoved(ImageBrowserView* browser) {
 // Not from within the click or the keys that move the selection, and not before they are over: the sheet
 // would swallow their end.
 void MyTableController::startDuePreview() {
-    if (m_ending || !imageBrowser_2->isVisible()) {
+    if (m_ending || !imageBrowser_2->isVisible() || m_viewer->isOpen()) {
         return;
     }
     if (session || QGuiApplication::mouseButtons() != Qt::NoButton ||
-        QApplication::activeModalWidget() != nullptr) {
+        QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr) {
         m_previewDue.start(kDueMilliseconds);
         return;
     }

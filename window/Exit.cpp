@@ -6,6 +6,7 @@
 #include "window/MyTableController.h"
 #include "window/ProgramTitle.h"
 #include "window/preview/PreviewFile.h"
+#include "window/preview/ViewerDesk.h"
 #include "window/preview/WholePreview.h"
 #include "window/widgets/Alerts.h"
 #include "window/widgets/AskingTurn.h"
@@ -44,6 +45,8 @@ void MyTableController::Exit_App() {
         return;
     }
     m_ending = true;
+    m_viewer->leave();
+    remember();
     endWholePreviews();
     if (m_besideRunning) {
         stop_now = 1;
@@ -78,6 +81,7 @@ void MyTableController::endWholePreviews() {
             whole->cancel();
         }
     }
+    m_viewer->requestEnd();
 }
 
 bool MyTableController::mayLeaveUnsaved(const QString& consequence, const QString& leave) {
@@ -102,7 +106,8 @@ bool MyTableController::shutDown(std::chrono::milliseconds patience) {
     const auto until = std::chrono::steady_clock::now() + patience;
     m_looks->shutDown();
     endWholePreviews();
-    while (m_filling > 0 || scanRunning() || m_besideRunning || m_desk->isRunning() || !m_looks->hasEnded()) {
+    while (m_filling > 0 || scanRunning() || m_besideRunning || m_desk->isRunning() || !m_looks->hasEnded() ||
+           !m_viewer->hasEnded()) {
         // The scan clears the word when it honours it, so it is said until everyone has heard.
         stop_now = 1;
         if (mSetLabelTimer) {

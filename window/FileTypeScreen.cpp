@@ -95,6 +95,7 @@ void MyTableController::buildGroupBoxes() {
         box->setVisible(known);
         m_groupBoxes.append(box);
     }
+    buildPresetMenu();
     showTypeCounts();
 }
 

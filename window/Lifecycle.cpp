@@ -1,10 +1,12 @@
 // Creation with the initial state, and teardown.
 
+#include <QSettings>
 #include <QThread>
 
 #include "results/RecoveryMode.h"
 #include "window/MyTableController.h"
 #include "window/preview/PreviewFile.h"
+#include "window/preview/ViewerDesk.h"
 #include "window/preview/WholePreview.h"
 
 namespace vantor {
@@ -28,6 +30,9 @@ ThumbnailQueueOptions thumbnailQueueOptions() {
 MyTableController::MyTableController(ProgramParts parts)
     : MediaList(*parts.media), ScanSession(static_cast<ScanView&>(*this)), m_parts(std::move(parts)) {
     Recovery_MODE = kPhotoMode;
+    if (!m_parts.settingsFile.isEmpty()) {
+        m_settings = std::make_unique<QSettings>(m_parts.settingsFile, QSettings::IniFormat);
+    }
     m_previewFolder = previewFolder(m_parts.resourcesFolder);
     m_previewHold = PreviewFolderHold(m_previewFolder);
     // A copy knows what was refused, and may come back to it.
@@ -48,6 +53,7 @@ MyTableController::MyTableController(ProgramParts parts)
     WholePreview::clearLeftovers(m_wholeFolder);
     loadInterface();
     wire();
+    recall();
 }
 
 MyTableController::~MyTableController() {

@@ -11,11 +11,13 @@
 //   Panels and help             window/PanelActions.cpp
 //   Media list                  window/MediaScreen.cpp
 //   Search range                window/RangeScreen.cpp
-//   File types                  window/FileTypeScreen.cpp
+//   What is remembered          window/Remembering.cpp
+//   File types                  window/FileTypeScreen.cpp, window/TypePresets.cpp
 //   Scan threads                window/ScanThreads.cpp
-//   Browsers                    window/Browsers.cpp
+//   Browsers                    window/Browsers.cpp, window/ItemMenu.cpp
 //   Preview                     window/Preview.cpp
 //   Movie                       window/MoviePreview.cpp
+//   Viewer                      window/Viewer.cpp
 //   Saving                      window/Saving.cpp, window/Ticks.cpp
 //   Fields with given names
 //   What a scan shows           window/ScanScreen.cpp, window/SearchEndBar.cpp
@@ -60,12 +62,16 @@
 #include "window/saving/SavingDesk.h"
 #include "window/widgets/TableAdapter.h"
 
+class QSettings;
+
 namespace vantor {
 
+class ViewerDesk;
 class CardStrip;
 class KeepingBox;
 class KeptSearchBar;
 class WholePreview;
+struct ViewOrder;
 struct PreviewFileRequest;
 
 // Members with given names keep them letter for letter; a message `first:second:` is `first(a, second)`.
@@ -167,6 +173,13 @@ class MyTableController : public QObject,
     void DO_End_slider_Sig(QObject* sender);
     void controlTextDidChange(QLineEdit* field);
 
+    // --- What is remembered (window/Remembering.cpp) ---
+
+    // Until the program is started again: sizes of the window, the saving options, and the folders of images
+    // and saved files. What every search begins with anew is not among it.
+    void remember();
+    void forgetRemembered();
+
     // --- File types (window/FileTypeScreen.cpp) ---
 
     void Select_Unselect_Check_btn(QObject* sender);
@@ -215,6 +228,12 @@ class MyTableController : public QObject,
     void stopPlayingMovie(Movie* movie) const;
     void closemovie_Win();
     std::unique_ptr<Movie> getAMovieFile();
+
+    // --- Viewer (window/Viewer.cpp) ---
+
+    // Shows an item of the list over the whole window.
+    void openInViewer(qsizetype index);
+    const ViewerDesk& viewer() const { return *m_viewer; }
 
     // --- Saving (window/Saving.cpp, window/Ticks.cpp) ---
 
@@ -340,6 +359,7 @@ class MyTableController : public QObject,
     void browseForDestination();
     QString askDestination();
     QString chooseDestination();
+    QString folderToBeginWith() const;
     bool acceptDestination(const QString& folder);
     bool isStillThere(const QString& folder) const;
     bool destinationStillThere();
@@ -357,9 +377,17 @@ class MyTableController : public QObject,
     RangePanel& rangeOf(ControlSet set);
     void showEntireDiskHelp();
     void showSectorRangeHelp();
+    // window/Remembering.cpp
+    void recall();
+    QString rememberedFolder(const QString& key) const;
+    void rememberFolder(const QString& key, const QString& folder);
     // window/FileTypeScreen.cpp
     void buildGroupBoxes();
     void filterFileTypes(const QString& text);
+    // window/TypePresets.cpp
+    void buildPresetMenu();
+    void choosePreset(const std::function<bool(const FileTypeRow&)>& belongs);
+    // window/FileTypeScreen.cpp
     void showEmptyTypes(const QString& filter);
     bool isTypeShown(qsizetype row) const;
     void tickShown(bool ticked, const std::function<bool(const FileTypeRow&)>& belongs);
@@ -374,6 +402,7 @@ class MyTableController : public QObject,
     void tryBadSectorsAgain();
     // The badges of the list begin anew.
     void beginLooks();
+    void tellWhoLooksElsewhere();
     PanelWords endPanelWords(const PanelWords& drawn) const;
     SearchWish searchWish() const;
     void showEmptyResults();
@@ -428,6 +457,9 @@ class MyTableController : public QObject,
     LookedAtItems lookedAtItems();
     void selectionMoved(ImageBrowserView* browser);
     void startDuePreview();
+    // window/ItemMenu.cpp
+    void showItemMenu(ImageBrowserView* browser, qsizetype index, const QPoint& place);
+    void selectLike(ImageBrowserView* browser, const std::function<bool(qsizetype)>& isLike) const;
     // window/Preview.cpp
     void runBeside(const std::function<void()>& work);
     std::unique_ptr<Movie> openBeside(const MovieLoader& loader, const QString& file);
@@ -444,6 +476,9 @@ class MyTableController : public QObject,
     void wireTicks();
     void showTicks();
     bool allShownAreTicked() const;
+    // window/Viewer.cpp
+    void setUpViewer();
+    ViewOrder viewOrderOf(const MyImageObject& item) const;
     // window/Saving.cpp
     void saveItems(const QList<qsizetype>& indexes, const SavingDesk::ToldFiles& told = {});
     SavingParts savingParts();
@@ -459,7 +494,8 @@ class MyTableController : public QObject,
     TableAdapter* m_mediaTable = nullptr;
     TableAdapter* m_typeTable = nullptr;
     TableAdapter* m_resultTable = nullptr;
-    QList<QCheckBox*> m_groupBoxes;  // by FileKind
+    QList<QCheckBox*> m_groupBoxes;         // by FileKind
+    std::unique_ptr<QSettings> m_settings;  // null where nothing is remembered
     QString m_previewFolder;
     QString m_wholeFolder;  // of the previews of true length
     PreviewFolderHold m_previewHold;
@@ -534,6 +570,7 @@ class MyTableController : public QObject,
     // Begin anew with every scan; the first to go, since they ask the others.
     std::unique_ptr<BrowserLooks> m_looks;
     std::unique_ptr<SavingDesk> m_desk;
+    std::unique_ptr<ViewerDesk> m_viewer;
 };
 
 }  // namespace vantor

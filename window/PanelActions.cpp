@@ -12,6 +12,7 @@ namespace {
 
 // The code of a folder chooser that was ended by its OK button.
 constexpr int kChosen = 1;
+const QString kLastDestination = QStringLiteral("folders/destination");
 
 class FolderChooser : public QFileDialog {
   public:
@@ -42,7 +43,7 @@ void MyTableController::browseForDestination() {
     if (runModalForWindow(BrowseInfo_Window) != kButtonPressed) {
         return;
     }
-    auto* chooser = new FolderChooser(window, pathInView()->text());
+    auto* chooser = new FolderChooser(window, folderToBeginWith());
     chooser->setAttribute(Qt::WA_DeleteOnClose);
     connect(chooser, &QDialog::finished, this, [this, chooser](int result) {
         if (result == QDialog::Accepted && !chooser->selectedFiles().isEmpty()) {
@@ -57,6 +58,12 @@ void MyTableController::openPanelDidEnd(QFileDialog* panel, int returnCode, void
     if (returnCode == kChosen && !panel->selectedFiles().isEmpty()) {
         acceptDestination(panel->selectedFiles().constFirst());
     }
+}
+
+// That of the screen, or else the one chosen in an earlier run.
+QString MyTableController::folderToBeginWith() const {
+    const QString folder = pathInView()->text();
+    return folder.isEmpty() ? rememberedFolder(kLastDestination) : folder;
 }
 
 // The folder that the user sees on the screens of the mode; the other field may hold that of an earlier
@@ -85,6 +92,7 @@ bool MyTableController::acceptDestination(const QString& folder) {
     _path_Sig->setText(folder);
     m_chosenFolder = folder;
     m_chosenFileSystem = fileSystemOf(folder);
+    rememberFolder(kLastDestination, folder);
     showDestination();
     return true;
 }
@@ -135,7 +143,7 @@ QString MyTableController::askDestination() {
 }
 
 QString MyTableController::chooseDestination() {
-    FolderChooser chooser(window, pathInView()->text());
+    FolderChooser chooser(window, folderToBeginWith());
     if (chooser.exec() != QDialog::Accepted || chooser.selectedFiles().isEmpty()) {
         return {};
     }

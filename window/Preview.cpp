@@ -67,6 +67,7 @@ void MyTableController::CreateFile_QuickLook_View(const QVariantList& item) {
     m_nextWhole = wholePreviewOf(*request);
     const auto mediumOpened = std::make_shared<bool>(false);
 
+    bool wantedLarge = false;
     session = true;
     {
         const SheetSession sheet(ClearPreview_Window, controlPanel, exitButton);
@@ -92,8 +93,13 @@ void MyTableController::CreateFile_QuickLook_View(const QVariantList& item) {
         } else {
             showThatTheMediumIsGone();
         }
+        // The copy began with the first of two clicks.
+        wantedLarge = sheet.wasDoubleClicked(imageBrowser_2->viewport());
     }
     session = false;
+    if (wantedLarge) {
+        openInViewer(Prev_Index);
+    }
     // A scan that still runs shows its end itself, once it has let the medium go.
     if (stop_now == 1 && stop_screen_already_show == 0 && !scanRunning()) {
         Final_or_Stop_Screen();

@@ -2,9 +2,11 @@
 #pragma once
 
 #include <QString>
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "media/MediaSource.h"
 #include "saving/FreeSpace.h"
@@ -29,11 +31,14 @@ struct ProgramParts {
     PicturePreviewer picture;  // none: every preview is an icon
     PreviewObstacle obstacle;  // none: nothing is said where a picture is missing
     MovieLoader movie;         // none: every preview is a picture
+    MovieLoader largeMovie;    // for the whole window; none: `movie` does
     MovieLoader sound;         // what sounds of a file that is shown as a picture; none: nothing does
     QString resourcesFolder;
     // Where previews of true length may lie; none: where the other preview files do.
     QString privateFolder;
 
+    // Where the program keeps what it remembers from one run to the next; none: it remembers nothing.
+    QString settingsFile;
     // Where a search that is to be remembered is kept; none: no search can be.
     QString stateFolder;
 
@@ -43,6 +48,11 @@ struct ProgramParts {
     std::function<std::optional<std::uint64_t>(const QString& folder)> freeBytes = freeBytesAt;
     // Shows a document or a folder in its default application; false when there is none.
     std::function<bool(const QString& path)> openDocument;
+    // A word to a user who looks at something else while a long search ends; none: nothing is said.
+    std::function<void(const QString& title, const QString& text)> notify;
+    std::chrono::milliseconds longSearch{30'000};
+    // How far a search is, from 0 to 1, for the desktop's task bar; nothing when none runs. None: not shown.
+    std::function<void(std::optional<double> share)> showTaskProgress;
     // Whether searches read the card's own directories too.
     bool askCard = false;
     // Ends the program.

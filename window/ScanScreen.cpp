@@ -94,7 +94,11 @@ void MyTableController::startProgress() {
 void MyTableController::setProgress(double sectors) {
     later([this, sectors] {
         const double share = m_progressSectors > 0 ? sectors / m_progressSectors : 0;
-        _Progress_Horz->setValue(static_cast<int>(share * kBarSteps));
+        const int step = static_cast<int>(share * kBarSteps);
+        if (m_parts.showTaskProgress && step != _Progress_Horz->value()) {
+            m_parts.showTaskProgress(share);
+        }
+        _Progress_Horz->setValue(step);
     });
 }
 
@@ -210,6 +214,7 @@ void MyTableController::runEndPanel(ControlSet set) {
     if (goesOnByItself()) {
         return;
     }
+    tellWhoLooksElsewhere();
     if (set == ControlSet::Photo) {
         m_panels->saveFileInfo.setWords(endPanelWords(m_panels->photoEnd));
         runModalForWindow(SaveFile_Info_Window);

@@ -134,6 +134,9 @@ bool MyTableController::waitForThreads() {
 
 void MyTableController::scanThreadsEnded() {
     m_pump.stop();
+    if (m_parts.showTaskProgress) {
+        m_parts.showTaskProgress(std::nullopt);
+    }
     waitForThreads();
     flushViews();
     markSavedBefore();

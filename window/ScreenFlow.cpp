@@ -5,6 +5,7 @@
 #include "results/RecoveryMode.h"
 #include "window/MyTableController.h"
 #include "window/keeping/KeepingBox.h"
+#include "window/preview/ViewerDesk.h"
 #include "window/widgets/Alerts.h"
 
 namespace vantor {
@@ -253,6 +254,7 @@ void MyTableController::emptyBrowsers() {
 }
 
 void MyTableController::emptyBrowserViews() {
+    m_viewer->leave();
     _zoom_slider->setValue(_zoom_slider->maximum() / 2);
     imageBrowser->setZoomValue(kPhotoZoom);
     imageBrowser_2->setZoomValue(kRawZoom);
@@ -270,6 +272,9 @@ void MyTableController::showWhereWeAre() {
     stepTrail->setSteps(steps, screen_counter);
     contextBar->setVisible(screen_counter > 0);
     showLeftItemsBar();
+    if (!onScanScreen()) {
+        m_viewer->leave();
+    }
     showKeeping();
     bodyScroll->verticalScrollBar()->setValue(0);
     // Once the new screen is laid out.

@@ -100,6 +100,13 @@ void MyTableController::tryBadSectorsAgain() {
     tryBadSectorsButton->hide();
 }
 
+// A search that took long has an end that somebody waits for elsewhere.
+void MyTableController::tellWhoLooksElsewhere() {
+    if (m_parts.notify && !window->isActiveWindow() && m_clock.elapsed() >= m_parts.longSearch.count()) {
+        m_parts.notify(searchEndHeadline(searchEnd()), countOfItems(itemCount()));
+    }
+}
+
 PanelWords MyTableController::endPanelWords(const PanelWords& drawn) const {
     const SearchEnd& end = searchEnd();
     PanelWords words;

@@ -43,6 +43,7 @@ void MyTableController::loadInterface() {
     m_window = std::make_unique<QMainWindow>();
     window = m_window.get();
     loadInto(window);
+    dressIcons(window);
     // The keyboard goes from what the screen holds to the buttons below it, and then to what stands above.
     QWidget::setTabOrder(nextButton, helpButton);
     dressWindow();
@@ -176,6 +177,7 @@ void MyTableController::setUpBrowsers() {
     connect(m_looks.get(), &BrowserLooks::changed, this, &MyTableController::showItemCounts);
     m_desk = std::make_unique<SavingDesk>(savingParts());
     connect(m_desk.get(), &SavingDesk::marksChanged, this, &MyTableController::showItemCounts);
+    setUpViewer();
 }
 
 void MyTableController::setEmptyStates() {

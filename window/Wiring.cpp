@@ -1,6 +1,7 @@
 // Every connection from a control to its action, in one place.
 #include <QApplication>
 #include <QDropEvent>
+#include <QFileInfo>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QShortcut>
@@ -13,6 +14,8 @@
 namespace vantor {
 
 namespace {
+
+const QString kLastImages = QStringLiteral("folders/images");
 
 QStringList localFiles(const QMimeData* data) {
     QStringList files;
@@ -56,6 +59,10 @@ void MyTableController::wire() {
     for (ImageBrowserView* browser : {imageBrowser, imageBrowser_2}) {
         connect(browser, &ImageBrowserView::selectionDidChange, this,
                 [this, browser] { selectionMoved(browser); });
+        connect(browser, &ImageBrowserView::openWanted, this, &MyTableController::openInViewer);
+        connect(
+            browser, &ImageBrowserView::menuWanted, this,
+            [this, browser](qsizetype index, const QPoint& place) { showItemMenu(browser, index, place); });
     }
     // What is selected already may be wanted again, where the pane was emptied meanwhile.
     connect(imageBrowser_2, &QAbstractItemView::clicked, this, [this] { m_previewDue.start(0); });
@@ -94,10 +101,14 @@ void MyTableController::wireButtons() {
     }
     connect(openImageButton, &QPushButton::clicked, this, [this] {
         const QStringList files = QFileDialog::getOpenFileNames(
-            window, tr("Open an image file of a medium"), {},
+            window, tr("Open an image file of a medium"), rememberedFolder(kLastImages),
             tr("Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima);;All files (*)"));
+        if (!files.isEmpty()) {
+            rememberFolder(kLastImages, QFileInfo(files.constFirst()).absolutePath());
+        }
         openImages(files);
     });
+    connect(m_panels->help.forgetButton, &QPushButton::clicked, this, &MyTableController::forgetRemembered);
     connect(_stop_scan, &QPushButton::clicked, this, &MyTableController::clearWaitingThumbnails);
     connect(tryBadSectorsButton, &QPushButton::clicked, this, &MyTableController::tryBadSectorsAgain);
     connect(showItemsButton, &QPushButton::clicked, this, &MyTableController::showLeftItems);

@@ -16,6 +16,8 @@
 #include "window/keeping/SearchMemory.h"
 #include "window/preview/FilePreviewer.h"
 #include "window/preview/SoundMovie.h"
+#include "window/widgets/DesktopLook.h"
+#include "window/widgets/DesktopTelling.h"
 #include "window/widgets/OpenDocument.h"
 #include "window/widgets/Theme.h"
 
@@ -27,6 +29,7 @@ using namespace vantor;
 constexpr std::chrono::milliseconds kLastPatience{500};
 // Frames larger than this are scaled down where they are decoded.
 constexpr QSize kLargestFrame{960, 540};
+constexpr QSize kLargestViewedFrame{1920, 1080};
 
 ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTableController*>>& controller,
                            const std::shared_ptr<const std::atomic<bool>>& leaving) {
@@ -52,10 +55,15 @@ ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTable
     const HelperMovieOptions playing{makeDesktopSoundDevice, {}};
     parts.sound = [playing](const QString& file) { return SoundMovie::open(file, {}, playing); };
     parts.movie = [playing](const QString& file) { return openMovieOrSound(file, kLargestFrame, playing); };
+    parts.largeMovie = [playing](const QString& file) {
+        return openMovieOrSound(file, kLargestViewedFrame, playing);
+    };
     parts.resourcesFolder = resourcesFolder();
     parts.askCard = true;
     // On a disk: what is looked at may be as long as a movie.
     parts.privateFolder = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
+    parts.settingsFile = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                         QStringLiteral("/vantor-recovery.conf");
     parts.stateFolder = stateFolder();
     parts.isOnMedium = [targets = parts.media->targets()](const QString& folder, const QString& devicePath) {
         const auto target = targets->find(devicePath.mid(QStringLiteral("/dev/r").size()));
@@ -64,6 +72,8 @@ ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTable
                            [&folder](const QString& node) { return destinationIsOnMedium(folder, node); });
     };
     parts.openDocument = [](const QString& path) { return openInDesktop(path); };
+    parts.notify = [](const QString& title, const QString& text) { notifyDesktop(title, text); };
+    parts.showTaskProgress = [](std::optional<double> share) { showTaskProgress(share); };
     parts.terminate = [] { QCoreApplication::exit(0); };
     return parts;
 }
@@ -95,6 +105,7 @@ int main(int argc, char** argv) {
     // The window is closed by the exit routine alone.
     QApplication::setQuitOnLastWindowClosed(false);
     applyTheme(application);
+    const DesktopLook look(application);
 
     const auto running = std::make_shared<std::atomic<const MyTableController*>>(nullptr);
     const auto leaving = std::make_shared<std::atomic<bool>>(false);

@@ -182,6 +182,64 @@ TEST(Command, UnknownTypeIsTold) {
     EXPECT_TRUE(run.err.contains("NOSUCHTYPE"));
 }
 
+TEST(Command, APresetStandsForItsTypes) {
+    const QTemporaryDir folder;
+    const QString catalogue =
+        writeCatalogues(folder, {}, record("JPG", "FFD8FF") + record("PDF", "25504446"));
+    const auto found = [&](const QString& types) {
+        return runCommand({"--mode", "rawfile", "--types", types, "--catalogue", catalogue, "--list-json",
+                           writeImage(folder)});
+    };
+    const CommandRun office = found("@office");
+    EXPECT_EQ(office.exitCode, 0);
+    ASSERT_EQ(office.json().size(), 2) << office.out.constData();
+    EXPECT_EQ(office.json()[0]["type"], "PDF");
+    EXPECT_EQ(found("@office,JPG").json().size(), 4);
+    EXPECT_EQ(found("@everything").json().size(), 4);
+    for (const QString unknown : {"@recorder", "@nosuchpreset", "@"}) {
+        const CommandRun run = found(unknown);
+        EXPECT_EQ(run.exitCode, 2) << unknown.toStdString();
+        EXPECT_TRUE(run.err.contains(unknown.toLatin1()));
+    }
+}
+
+TEST(Command, ListsTheTypesOfAMode) {
+    const QTemporaryDir folder;
+    const QString catalogue =
+        writeCatalogues(folder, {}, record("PDF", "25504446") + record("JPG", "FFD8FF"));
+    const CommandRun run = runCommand({"--list-types", "--mode", "rawfile", "--catalogue", catalogue});
+    EXPECT_EQ(run.exitCode, 0);
+    QStringList types;
+    for (const QByteArray& line : run.out.trimmed().split('\n')) {
+        types << QString::fromUtf8(line.left(line.indexOf(' ')));
+    }
+    EXPECT_EQ(types.join(' '), "@photos @office @phone @everything JPG PDF");
+    EXPECT_TRUE(run.out.contains("Office documents"));
+    const auto json =
+        runCommand({"--list-types", "--mode", "rawfile", "--catalogue", catalogue, "--list-json"}).json();
+    ASSERT_EQ(json.size(), 6);
+    EXPECT_EQ(json[1]["type"], "@office");
+    EXPECT_EQ(json[5]["type"], "PDF");
+    EXPECT_EQ(json[5]["description"], "X");
+}
+
+TEST(Command, QuietSaysNothing_ButWhatWentWrong) {
+    const QTemporaryDir folder;
+    const QString catalogue = writeCatalogues(folder, record("JPG", "FFD8FF"));
+    const QString image = writeImage(folder), out = folder.filePath("out");
+    const QStringList plain{"--catalogue", catalogue, "--save", out, "--report", image};
+    const CommandRun loud = runCommand(plain);
+    EXPECT_TRUE(loud.out.contains("Report:"));
+    QDir(out).removeRecursively();
+    const CommandRun quiet = runCommand(QStringList{"--quiet"} + plain);
+    EXPECT_EQ(quiet.exitCode, loud.exitCode);
+    EXPECT_EQ(quiet.out, QByteArray());
+    EXPECT_EQ(quiet.err, loud.err);
+    EXPECT_FALSE(QDir(out).isEmpty()) << "it did what it was told";
+    EXPECT_EQ(runCommand({"-q", "--catalogue", catalogue, "--list-json", image}).json().size(), 3);
+    EXPECT_FALSE(runCommand({"-q", folder.filePath("absent")}).err.isEmpty());
+}
+
 TEST(Command, MediumThatCannotBeOpened) {
     const QTemporaryDir folder;
     ASSERT_EQ(::mkfifo(folder.filePath("pipe").toLocal8Bit().constData(), 0600), 0);

@@ -53,6 +53,19 @@ TEST(Options, NamesAndFoldersAreTheCardsUnlessTheUserSaysOtherwise) {
     }
 }
 
+TEST(Options, TypesAreListedForAModeThatChoosesThem) {
+    EXPECT_TRUE(parseOptions({"--list-types", "--mode", "video"}).options.listTypes);
+    EXPECT_FALSE(parseOptions({"--list-types", "--mode", "video"}).exitCode.has_value());
+    EXPECT_EQ(parseOptions({"--list-types"}).exitCode, kExitBadUsage);
+    EXPECT_EQ(parseOptions({"--list-types", "--mode", "video", "card.img"}).exitCode, kExitBadUsage);
+}
+
+TEST(Options, QuietIsSaidInTwoWays) {
+    EXPECT_FALSE(parseOptions({"x"}).options.quiet);
+    EXPECT_TRUE(parseOptions({"--quiet", "x"}).options.quiet);
+    EXPECT_TRUE(parseOptions({"-q", "x"}).options.quiet);
+}
+
 TEST(Options, EmptySaveFolderIsRefused) {
     EXPECT_EQ(parseOptions({"--save", "", "x"}).exitCode, kExitBadUsage);
 }

@@ -1,37 +1,17 @@
-// A disk service and its bus inside the test process.
+// A disk service inside the test process.
 #pragma once
-
-#include <sys/types.h>
 
 #include <QDBusConnection>
 #include <QDBusVirtualObject>
-#include <QProcess>
-#include <QTemporaryDir>
 #include <QThread>
 #include <atomic>
 #include <memory>
 #include <mutex>
 
 #include "media/UdisksObjects.h"
+#include "tests/support/PrivateBus.h"
 
 namespace vantor::test {
-
-// A bus of the test's own; isRunning() is false where no dbus-daemon is installed.
-class PrivateBus {
-  public:
-    PrivateBus();
-    ~PrivateBus();
-
-    bool isRunning() const { return !m_address.isEmpty(); }
-    QString address() const { return m_address; }
-    void kill();  // from any thread
-
-  private:
-    QTemporaryDir m_folder;
-    QProcess m_daemon;
-    QString m_address;
-    pid_t m_pid = 0;
-};
 
 // Answers as org.freedesktop.UDisks2 does, from a thread of its own.
 class StandInUdisks : public QDBusVirtualObject {

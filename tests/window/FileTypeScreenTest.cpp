@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMenu>
 
 #include "results/RecoveryMode.h"
 #include "tests/window/WindowTest.h"
@@ -197,6 +198,29 @@ TEST_F(FileTypes, ASearchWithoutAMatchSaysSo) {
     EXPECT_EQ(controller->typeSearchField->text(), QString());
     EXPECT_FALSE(controller->idCheckTableView->isRowHidden(0));
     EXPECT_EQ(controller->idCheckTableView->viewport()->grab().toImage(), full);
+}
+
+TEST_F(FileTypes, APresetTicksItsTypesAndNoOthers) {
+    openWithCard();
+    toFileTypes(kRawFileMode);
+    QStringList offered;
+    for (const QAction* action : controller->typePresetButton->menu()->actions()) {
+        offered << action->text();
+    }
+    EXPECT_EQ(offered, (QStringList{QStringLiteral("Office documents"), QStringLiteral("Phone"),
+                                    QStringLiteral("Everything")}))
+        << "of the others the list holds nothing";
+    QTest::keyClicks(controller->typeSearchField, QStringLiteral("archive"));
+    controller->typePresetButton->menu()->actions().constFirst()->trigger();
+    EXPECT_EQ(controller->typeSearchField->text(), QString());
+    EXPECT_TRUE(ticked("doc"));
+    EXPECT_TRUE(ticked("PDF"));
+    EXPECT_FALSE(ticked("TXT"));
+    EXPECT_FALSE(ticked("ZIP"));
+    EXPECT_EQ(controller->typeCountLabel->text(), QStringLiteral("2 of 4 selected"));
+    EXPECT_TRUE(controller->_select_unselect_Chk->isMixed());
+    controller->typePresetButton->menu()->actions().constLast()->trigger();
+    EXPECT_EQ(controller->typeCountLabel->text(), QStringLiteral("4 of 4 selected"));
 }
 
 TEST_F(FileTypes, SearchHidesRowsAndKeepsTheirTicks) {

@@ -26,11 +26,13 @@ class ScriptedMovie : public Movie {
     bool hasSound() const override { return true; }
     bool isMuted() const override { return muted; }
     void setMuted(bool wanted) override { muted = wanted; }
+    void setVolume(double wanted) override { loudness = wanted; }
 
     float playing = 0;
     std::int64_t duration = 65'000;
     std::int64_t position = 0;
     bool muted = false;
+    double loudness = 1;
 
   private:
     MovieLog& m_log;

@@ -24,6 +24,9 @@ class Application : public ::testing::Environment {
         QApplication::setQuitOnLastWindowClosed(false);
         QApplication::setApplicationDisplayName(QStringLiteral("Vantor - Memory Card Recovery"));
         applyTheme(*m_application);
+        if (qEnvironmentVariable("VANTOR_LOOK") == u"dark") {
+            setLook(*m_application, Look::Dark);  // for pictures to look at
+        }
     }
     void TearDown() override { m_application.reset(); }
 

@@ -1,6 +1,7 @@
 // Set-up, zoom and selection of the browsers.
 #include "window/browser/ImageBrowserView.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
@@ -28,6 +29,8 @@ ImageBrowserView::ImageBrowserView(QWidget* parent) : GridView(parent), m_model(
     setItemDelegate(new ImageCell(this));
     setModel(m_model);
     setZoomValue(0);
+    connect(this, &QAbstractItemView::doubleClicked, this,
+            [this](const QModelIndex& item) { emit openWanted(indexOfRow(item.row())); });
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &ImageBrowserView::seeWhetherAtEnd);
     connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, [this](int least, int most) {
         // Items that are added lead nobody away from the end.
@@ -158,6 +161,34 @@ QList<qsizetype> ImageBrowserView::shownIndexes() const {
     return indexes;
 }
 
+int ImageBrowserView::rowOfIndex(qsizetype index) const {
+    return m_model->rowOfIndex(static_cast<int>(index));
+}
+
+qsizetype ImageBrowserView::indexOfRow(int row) const {
+    return row >= 0 && row < m_model->rowCount() ? m_model->indexOfRow(row) : -1;
+}
+
+void ImageBrowserView::chooseIndex(qsizetype index) {
+    if (const int row = rowOfIndex(index); row >= 0) {
+        setCurrentIndex(m_model->index(row));
+    }
+}
+
+void ImageBrowserView::selectIndexes(const QList<qsizetype>& indexes) {
+    selectionModel()->select(rangesOf(indexes), QItemSelectionModel::ClearAndSelect);
+}
+
+// By the keyboard it is that of the current item.
+void ImageBrowserView::contextMenuEvent(QContextMenuEvent* event) {
+    const bool byKeyboard = event->reason() == QContextMenuEvent::Keyboard;
+    const QModelIndex item = byKeyboard ? itemAtHand() : indexAt(event->pos());
+    if (item.isValid()) {
+        emit menuWanted(indexOfRow(item.row()),
+                        byKeyboard ? viewport()->mapToGlobal(visualRect(item).center()) : event->globalPos());
+    }
+}
+
 int ImageBrowserView::shownCount() const {
     return m_model->rowCount();
 }
@@ -260,9 +291,33 @@ bool ImageBrowserView::tickByKey(int key) {
     return true;
 }
 
+// Space with Control goes on selecting.
+bool ImageBrowserView::opensItem(const QKeyEvent& key) const {
+    const bool wanted =
+        key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter || key.key() == Qt::Key_Space;
+    return wanted && (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier && itemAtHand().isValid();
+}
+
+// Where an item has the keyboard, Return is not the window's.
+bool ImageBrowserView::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && opensItem(*static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
+    return GridView::event(event);
+}
+
 void ImageBrowserView::keyPressEvent(QKeyEvent* event) {
     const int key = event->key();
     if (tickByKey(key)) {
+        return;
+    }
+    if (opensItem(*event)) {
+        if (!event->isAutoRepeat()) {
+            const QModelIndex item = itemAtHand();
+            setCurrentIndex(item);
+            emit openWanted(indexOfRow(item.row()));
+        }
         return;
     }
     const bool noneChosen = !selectionModel()->hasSelection() && event->modifiers() == Qt::NoModifier;

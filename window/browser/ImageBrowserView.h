@@ -43,6 +43,11 @@ class ImageBrowserView : public GridView {
     std::vector<std::size_t> indexesInView() const;
     int shownCount() const;
     QList<qsizetype> shownIndexes() const;  // in the order in which they are shown
+    int rowOfIndex(qsizetype index) const;  // -1: not shown
+    qsizetype indexOfRow(int row) const;
+    // Makes it the selected one, in view.
+    void chooseIndex(qsizetype index);
+    void selectIndexes(const QList<qsizetype>& indexes);
 
     // Of a row.
     std::shared_ptr<MyImageObject> itemOfRow(int row) const;
@@ -55,8 +60,14 @@ class ImageBrowserView : public GridView {
     void selectionDidChange();
     // By mouse or keys: items, by their places in the list, are to be ticked for saving or no longer.
     void ticksWanted(const QList<qsizetype>& indexes, bool ticked);
+    // Somebody wants to see an item of the list large: a double click, Return or Space.
+    void openWanted(qsizetype index);
+    // The menu of an item, there on the screen.
+    void menuWanted(qsizetype index, const QPoint& place);
 
   protected:
+    bool event(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -72,6 +83,7 @@ class ImageBrowserView : public GridView {
     QModelIndex tickAt(const QPoint& place) const;
     bool tickByMouse(const QMouseEvent& event);
     bool tickByKey(int key);
+    bool opensItem(const QKeyEvent& key) const;
     QItemSelection rangesOf(const QList<qsizetype>& indexes) const;
     void describeState();
     void seeWhetherAtEnd();

@@ -15,6 +15,7 @@ constexpr int kLargestEdge = 18;
 constexpr int kSmallestEdge = 11;
 
 const QColor kCutOffColor{0xb4, 0x5f, 0x06};
+const QColor kUnknownColor{0x50, 0x5c, 0x72};
 const QColor kDamagedColor{0xb9, 0x1c, 0x1c};
 
 // Lines within a square of one unit, drawn over the badge.
@@ -135,7 +136,7 @@ void paintBadges(QPainter* painter, const QRect& place, const ItemFacts& facts) 
             paintDisc(painter, corner, kDamagedColor, cross());
             break;
         case Verdict::Unknown:
-            paintDisc(painter, corner, theme::kQuietInk, questionMark());
+            paintDisc(painter, corner, kUnknownColor, questionMark());
             break;
     }
 }

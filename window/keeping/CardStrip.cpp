@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "window/widgets/Theme.h"
+
 namespace vantor {
 
 namespace {
@@ -14,6 +16,7 @@ constexpr int kGap = 4;
 constexpr int kLegendSquare = 8;
 constexpr int kLegendGap = 16;
 constexpr int kWidthHint = 300;
+const Tone kToCome{{0xe3, 0xe8, 0xf1}, {0x3a, 0x43, 0x50}};
 
 QColor colourOf(CardStrip::Mark mark) {
     switch (mark) {
@@ -26,7 +29,7 @@ QColor colourOf(CardStrip::Mark mark) {
         case CardStrip::Mark::ToCome:
             break;
     }
-    return {0xe3, 0xe8, 0xf1};
+    return kToCome;
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <QPushButton>
 
 #include "ui_HelpSupport.h"
+#include "window/panels/About.h"
 #include "window/widgets/Alerts.h"
 #include "window/widgets/Theme.h"
 
@@ -23,6 +24,9 @@ Help_Support::Help_Support(QWidget* parent, const QString& resourcesFolder,
     _Help_File_Label = ui._Help_File_Label;
     connect(ui.continueButton, &QPushButton::clicked, this,
             [this, ui] { ContinuePressed(ui.continueButton); });
+    aboutButton = ui.aboutButton;
+    forgetButton = ui.forgetButton;
+    connect(aboutButton, &QPushButton::clicked, this, [this] { showAbout(window); });
     connect(_Help_File_Label, &QPushButton::clicked, this, [this] { HelpFilePressed(_Help_File_Label); });
     Help_Support::awakeFromNib();
 }

@@ -22,6 +22,9 @@ class Help_Support : public Panel {
     void HelpFilePressed(QObject* sender);
 
     QPushButton* _Help_File_Label = nullptr;
+    // About the program, and what it remembers.
+    QPushButton* aboutButton = nullptr;
+    QPushButton* forgetButton = nullptr;
 
   private:
     QString m_resourcesFolder;

@@ -3,14 +3,14 @@
 
 #include <QPainter>
 
-#include "window/widgets/Theme.h"
-
 namespace vantor {
 
 namespace {
 
 constexpr int kPaperMargin = 6;
 constexpr int kShadow = 2;
+// Of white paper, on any ground.
+const QColor kEdge{0xd3, 0xdb, 0xe9};
 
 }  // namespace
 
@@ -29,7 +29,7 @@ QImage framedAsDocument(const QImage& picture, QSize largest) {
     const QRect paper = framed.rect().adjusted(kShadow, kShadow, -kShadow, -kShadow);
     painter.fillRect(paper.translated(kShadow, kShadow), QColor(0, 0, 0, 40));
     painter.fillRect(paper, Qt::white);
-    painter.setPen(theme::kRule);
+    painter.setPen(kEdge);
     painter.drawRect(paper.adjusted(0, 0, -1, -1));
     painter.drawImage(QRect(QPoint(border, border), inner), picture);
     return framed;

@@ -79,6 +79,13 @@ void HelperMovie::setMuted(bool muted) {
     }
 }
 
+void HelperMovie::setVolume(double volume) {
+    m_volume = std::clamp(volume, 0.0, 1.0);
+    if (m_sound) {
+        m_sound->setVolume(m_volume);
+    }
+}
+
 void HelperMovie::poll() {
     if (!m_poll) {
         m_poll = std::make_unique<QTimer>();

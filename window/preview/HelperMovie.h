@@ -41,6 +41,8 @@ class HelperMovie : public Movie {
     bool hasSound() const override { return m_sound != nullptr; }
     bool isMuted() const override { return m_muted; }
     void setMuted(bool muted) override;
+    double volume() const override { return m_volume; }
+    void setVolume(double volume) override;
 
   private:
     HelperMovie() = default;
@@ -61,6 +63,7 @@ class HelperMovie : public Movie {
     QImage m_poster;
     std::int64_t m_durationMs = 0;
     bool m_muted = false;
+    double m_volume = 1;
 
     // What was reported last; interface thread.
     std::int64_t m_reportedMs = 0;

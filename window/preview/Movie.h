@@ -35,6 +35,9 @@ class Movie {
     virtual bool hasSound() const { return false; }
     virtual bool isMuted() const { return false; }
     virtual void setMuted(bool) {}
+    // Of the sound, 0 to 1.
+    virtual double volume() const { return 1; }
+    virtual void setVolume(double) {}
 
     // Called with every frame that is due.
     std::function<void(const QImage&)> onFrame;

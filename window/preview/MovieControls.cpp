@@ -20,6 +20,7 @@ namespace {
 
 constexpr int kStepMs = 1000;
 constexpr int kPageMs = 10000;
+constexpr int kLoudest = 100;
 
 // A click beside the handle means that place, not a page in its direction.
 class PlaceSlider : public QSlider {
@@ -62,7 +63,8 @@ MovieControls::MovieControls(QWidget* parent)
       m_play(makeButton(this, "moviePlay")),
       m_position(new PlaceSlider(Qt::Horizontal, this)),
       m_times(new QLabel(this)),
-      m_mute(makeButton(this, "movieMute")) {
+      m_mute(makeButton(this, "movieMute")),
+      m_volume(new QSlider(Qt::Horizontal, this)) {
     m_position->setObjectName(QStringLiteral("moviePosition"));
     m_position->setAccessibleName(tr("Position"));
     m_position->setSingleStep(kStepMs);
@@ -78,10 +80,24 @@ MovieControls::MovieControls(QWidget* parent)
     row->addWidget(m_position, 1);
     row->addWidget(m_times);
     row->addWidget(m_mute);
+    row->addWidget(m_volume);
+    m_volume->setObjectName(QStringLiteral("movieVolume"));
+    m_volume->setAccessibleName(tr("Volume"));
+    m_volume->setToolTip(tr("Volume"));
+    m_volume->setRange(0, kLoudest);
+    m_volume->setPageStep(kLoudest / 10);
+    m_volume->setValue(kLoudest);
+    m_volume->setFixedWidth(10 * theme::kUnit);
+    m_volume->hide();
     connect(m_play, &QToolButton::clicked, this, &MovieControls::togglePlaying);
     connect(m_mute, &QToolButton::clicked, this, [this] {
         m_movie->setMuted(!m_movie->isMuted());
         showProgress();
+    });
+    connect(m_volume, &QSlider::valueChanged, this, [this](int volume) {
+        if (m_movie) {
+            m_movie->setVolume(static_cast<double>(volume) / kLoudest);
+        }
     });
     connect(m_position, &QSlider::valueChanged, this, [this](int timeMs) {
         m_movie->seek(timeMs);
@@ -107,6 +123,8 @@ void MovieControls::setMovie(std::unique_ptr<Movie> movie) {
     }
     m_position->setEnabled(length > 0);
     m_mute->setVisible(m_movie->hasSound());
+    m_volume->setVisible(m_roomy && m_movie->hasSound());
+    m_movie->setVolume(static_cast<double>(m_volume->value()) / kLoudest);  // as the last one's
     // The widest text there will be, so that the slider keeps its length.
     showPosition(length);
     m_times->setMinimumWidth(m_times->sizeHint().width());
@@ -124,6 +142,12 @@ void MovieControls::togglePlaying() {
         m_movie->play();
     }
     showProgress();
+}
+
+void MovieControls::setRoomy() {
+    m_roomy = true;
+    setAttribute(Qt::WA_StyledBackground);
+    layout()->setContentsMargins(theme::kUnit / 2, theme::kUnit / 2, theme::kUnit, theme::kUnit / 2);
 }
 
 void MovieControls::seekBy(std::int64_t timeMs) {

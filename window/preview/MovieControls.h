@@ -29,6 +29,8 @@ class MovieControls : public QWidget {
     void togglePlaying();
     // Forward, or back by a negative time; nothing where the length is not known.
     void seekBy(std::int64_t timeMs);
+    // Adds how loud the sound is, where there is any.
+    void setRoomy();
 
   signals:
     // It plays, stands elsewhere, or is silent now.
@@ -42,6 +44,8 @@ class MovieControls : public QWidget {
     QSlider* m_position;
     QLabel* m_times;
     QToolButton* m_mute;
+    QSlider* m_volume;
+    bool m_roomy = false;
     std::unique_ptr<Movie> m_movie;
 };
 

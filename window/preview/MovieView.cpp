@@ -17,6 +17,7 @@ namespace {
 
 constexpr int kPlaySign = 6 * theme::kUnit;
 constexpr int kSoundSign = 16 * theme::kUnit;
+const QColor kScreen{0x1b, 0x24, 0x30};
 constexpr std::int64_t kSeekStepMs = 5000;
 
 }  // namespace
@@ -57,6 +58,14 @@ void MovieView::togglePlaying() {
     m_controls->togglePlaying();
 }
 
+void MovieView::seekBy(std::int64_t timeMs) {
+    m_controls->seekBy(timeMs);
+}
+
+void MovieView::setRoomy() {
+    m_controls->setRoomy();
+}
+
 // Where the pictures are: above the controls.
 QRect MovieView::screen() const {
     return rect().adjusted(0, 0, 0, -m_controls->height() - theme::kUnit / 2);
@@ -71,7 +80,7 @@ void MovieView::paintEvent(QPaintEvent*) {
     }
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.fillRect(screen(), theme::kInk);
+    painter.fillRect(screen(), kScreen);
     if (!m_frame.isNull()) {
         QRect place({}, m_frame.size().scaled(screen().size(), Qt::KeepAspectRatio));
         place.moveCenter(screen().center());

@@ -23,6 +23,10 @@ class MovieView : public QWidget {
 
     // Starts the movie, or stops it when it plays.
     void togglePlaying();
+    // Forward, or back by a negative time.
+    void seekBy(std::int64_t timeMs);
+    // There is room for controls that the preview pane has none for.
+    void setRoomy();
 
   protected:
     void paintEvent(QPaintEvent* event) override;

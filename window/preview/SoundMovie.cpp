@@ -77,6 +77,11 @@ void SoundMovie::setMuted(bool muted) {
     m_player->setMuted(muted);
 }
 
+void SoundMovie::setVolume(double volume) {
+    m_volume = std::clamp(volume, 0.0, 1.0);
+    m_player->setVolume(m_volume);
+}
+
 void SoundMovie::follow() {
     const std::int64_t now = m_clock->nowMs(Clock::now());
     // The time of silent rooms is of no interest.

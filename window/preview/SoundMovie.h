@@ -34,6 +34,8 @@ class SoundMovie : public Movie {
     bool hasSound() const override { return true; }
     bool isMuted() const override { return m_muted; }
     void setMuted(bool muted) override;
+    double volume() const override { return m_volume; }
+    void setVolume(double volume) override;
 
   private:
     SoundMovie(std::unique_ptr<SoundPlayer> player, QImage poster, std::int64_t durationMs,
@@ -47,6 +49,7 @@ class SoundMovie : public Movie {
     const std::chrono::milliseconds m_patience;  // with the device
     std::int64_t m_positionMs = 0;
     bool m_muted = false;
+    double m_volume = 1;
     bool m_atEnd = false;
     std::optional<PlaybackClock<SoundPlayer>> m_clock;  // while it plays
     std::unique_ptr<QTimer> m_poll;                     // made with the first play()

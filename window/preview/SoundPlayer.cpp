@@ -167,6 +167,10 @@ void SoundPlayer::fill(std::span<std::int16_t> samples) {
     }
     if (m_muted) {
         std::fill(samples.begin(), samples.end(), std::int16_t{0});
+    } else if (const double volume = m_volume; volume < 1) {
+        for (std::int16_t& sample : samples) {
+            sample = static_cast<std::int16_t>(sample * volume);
+        }
     }
     m_worker.changed.notify_all();
 }

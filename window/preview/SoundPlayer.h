@@ -30,6 +30,7 @@ class SoundPlayer {
     // Silent when it returns.
     void stop();
     void setMuted(bool muted) { m_muted = muted; }
+    void setVolume(double volume) { m_volume = volume; }  // 0 to 1
 
     // What is heard now, in milliseconds since the movie's beginning; goes on beyond the end of the sound.
     std::int64_t positionMs();
@@ -49,6 +50,7 @@ class SoundPlayer {
     const QString m_file;
     MovieReaderOptions m_options;
     std::atomic<bool> m_muted{false};
+    std::atomic<double> m_volume{1};
     std::atomic<bool> m_failed{false};
 
     std::mutex m_deviceLock;  // taken before the worker's lock, never while that is held

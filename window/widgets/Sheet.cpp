@@ -118,8 +118,10 @@ bool SheetSession::eventFilter(QObject* watched, QEvent* event) {
         return false;
     }
     switch (event->type()) {
-        case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
+            m_doubleClicked = widget;
+            [[fallthrough]];
+        case QEvent::MouseButtonPress:
             m_buttonHeld = true;
             return true;
         case QEvent::MouseButtonRelease:

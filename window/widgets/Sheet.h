@@ -22,6 +22,9 @@ class SheetSession : public QObject {
     SheetSession(QDialog* sheet, QWidget* over, QWidget* exempt);
     ~SheetSession() override;
 
+    // Whether somebody has clicked twice on the widget meanwhile, or for the second time.
+    bool wasDoubleClicked(const QWidget* widget) const { return m_doubleClicked == widget; }
+
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -31,6 +34,7 @@ class SheetSession : public QObject {
     QDialog* m_sheet;
     QWidget* m_over;
     QWidget* m_exempt;
+    QPointer<QWidget> m_doubleClicked;
     bool m_buttonHeld = false;  // by a press that was taken away
     std::vector<std::pair<QPointer<QWidget>, std::unique_ptr<QKeyEvent>>> m_keys;
 };

@@ -1,0 +1,77 @@
+// The menu of the found items: what can be done with the one pointed at, and with those like it.
+#include <QDate>
+#include <QMenu>
+
+#include "results/MyImageObject.h"
+#include "results/ResultRow.h"
+#include "window/MyTableController.h"
+#include "window/preview/ItemViewer.h"
+#include "window/preview/ViewerDesk.h"
+
+namespace vantor {
+
+namespace {
+
+// Null where neither the file nor the card tells.
+QDate dayOf(const ItemFacts& facts) {
+    if (facts.soundness && facts.soundness->taken) {
+        const CivilTime& taken = *facts.soundness->taken;
+        return {taken.year, taken.month, taken.day};
+    }
+    return facts.original && facts.original->modified
+               ? QDateTime::fromSecsSinceEpoch(*facts.original->modified).date()
+               : QDate();
+}
+
+}  // namespace
+
+void MyTableController::showItemMenu(ImageBrowserView* browser, qsizetype index, const QPoint& place) {
+    const auto item = imageBrowser_itemAtIndex(browser, index);
+    if (!item || session) {
+        return;
+    }
+    const QString type = item->fileType();
+    const QDate day = dayOf(factsOfItem(index));
+    auto* const menu = new QMenu(browser);
+    menu->setObjectName(QStringLiteral("itemMenu"));
+    menu->setAccessibleName(tr("What to do with the item"));
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setDefaultAction(menu->addAction(tr("Show &Large"), this, [this, index] { openInViewer(index); }));
+    menu->addAction(tr("Show &Facts"), this, [this, index] {
+        openInViewer(index);
+        m_viewer->viewer()->showFacts();
+    });
+    menu->addSeparator();
+    menu->addAction(tr("&Save Selected…"), this, &MyTableController::saveSelected);
+    menu->addSeparator();
+    QAction* const sameDay = menu->addAction(
+        day.isValid() ? tr("Select All of &Day %1").arg(day.toString(Qt::ISODate))
+                      : tr("Select All of the &Day"),
+        this, [this, browser, day] {
+            selectLike(browser, [this, day](qsizetype other) { return dayOf(factsOfItem(other)) == day; });
+        });
+    sameDay->setEnabled(day.isValid());
+    QAction* const sameType =
+        menu->addAction(tr("Select All &Type %1").arg(type), this, [this, browser, type] {
+            selectLike(browser, [this, browser, type](qsizetype other) {
+                const auto like = imageBrowser_itemAtIndex(browser, other);
+                return like && like->fileType() == type;
+            });
+        });
+    sameType->setEnabled(!type.isEmpty());
+    menu->popup(place);
+}
+
+// Of those that are shown.
+void MyTableController::selectLike(ImageBrowserView* browser,
+                                   const std::function<bool(qsizetype)>& isLike) const {
+    QList<qsizetype> alike;
+    for (const qsizetype index : browser->shownIndexes()) {
+        if (isLike(index)) {
+            alike.append(index);
+        }
+    }
+    browser->selectIndexes(alike);
+}
+
+}  // namespace vantor

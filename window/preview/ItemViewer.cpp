@@ -1,0 +1,389 @@
+// The viewer's parts, and the keys that work it.
+#include "window/preview/ItemViewer.h"
+
+#include <QApplication>
+#include <QBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QStackedWidget>
+#include <QToolButton>
+
+#include "window/preview/MovieView.h"
+#include "window/preview/ZoomPicture.h"
+#include "window/widgets/Theme.h"
+
+namespace vantor {
+
+namespace {
+
+// Pictures are judged on a dark ground, whatever the desktop's.
+const QColor kGround{0x17, 0x1b, 0x22};
+const char* const kLooks =
+    "QLabel { color: #eef1f6; background: transparent; }"
+    "QLabel#viewerTitle { font-weight: 600; }"
+    "QLabel#viewerPlace, QLabel#viewerZoom, QLabel#viewerNote { color: #b6c0d0; }"
+    "QToolButton { color: #eef1f6; background: transparent; border: 1px solid transparent;"
+    " border-radius: 6px; padding: 4px 10px; }"
+    "QToolButton:hover { background: #2b323d; }"
+    "QToolButton:pressed { background: #3a4452; }"
+    "QToolButton:checked { background: #2b323d; border-color: #55617a; }"
+    "QToolButton:focus { border-color: #8fb4ff; }"
+    "QToolButton:disabled { color: #6b7687; }"
+    "vantor--MovieControls { background: #eef1f6; border-radius: 6px; }"
+    "vantor--MovieControls QLabel { color: #1b2430; }"
+    "vantor--MovieControls QToolButton { border: 1px solid transparent; padding: 2px; }"
+    "vantor--MovieControls QToolButton:hover { background: #d3dbe9; }"
+    "QToolButton#viewerBack, QToolButton#viewerOn { font-size: 24pt; padding: 12px 8px; }"
+    "QScrollArea#viewerFactsPane, QLabel#viewerFacts { background: #1e242d; border: none; }";
+constexpr double kZoomStep = 1.25;
+constexpr int kPush = 8 * theme::kUnit;
+constexpr int kFactsWidth = 34 * theme::kUnit;
+constexpr std::int64_t kSeekMs = 5000;
+
+}  // namespace
+
+ItemViewer::ItemViewer(QWidget* over) : QWidget(over), m_over(over) {
+    setObjectName(QStringLiteral("itemViewer"));
+    setAccessibleName(tr("Viewer"));
+    setFocusPolicy(Qt::StrongFocus);
+    setStyleSheet(QLatin1String(kLooks));
+    m_head = makeHead();
+    auto* const stage = makeStage();
+    makeFactsPane();
+    auto* const middle = new QHBoxLayout;
+    middle->setSpacing(0);
+    middle->addWidget(stage, 1);
+    middle->addWidget(m_factsPane);
+    auto* const all = new QVBoxLayout(this);
+    all->setContentsMargins({});
+    all->setSpacing(0);
+    all->addWidget(m_head);
+    all->addLayout(middle, 1);
+    makeShortcuts();
+    m_over->installEventFilter(this);
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget*, QWidget* now) {
+        // What goes on below takes the keyboard now and then.
+        if (isVisible() && now != nullptr && now != this && now->window() == window() && !isAncestorOf(now)) {
+            setFocus();
+        }
+    });
+    hide();
+}
+
+QToolButton* ItemViewer::makeButton(const char* name, const QString& text, const QString& meaning) {
+    auto* const button = new QToolButton(this);
+    button->setObjectName(QLatin1String(name));
+    button->setText(text);
+    button->setToolTip(meaning);
+    button->setAccessibleName(meaning);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+QWidget* ItemViewer::makeHead() {
+    auto* const head = new QWidget(this);
+    auto* const row = new QHBoxLayout(head);
+    row->setContentsMargins(theme::kUnit, theme::kUnit / 2, theme::kUnit, theme::kUnit / 2);
+    const auto label = [&](const char* name) {
+        auto* const made = new QLabel(head);
+        made->setObjectName(QLatin1String(name));
+        made->setTextFormat(Qt::PlainText);
+        return made;
+    };
+    auto* const close = makeButton("viewerClose", tr("‹ Results"), tr("Back to the results (Escape)"));
+    m_title = label("viewerTitle");
+    m_placeLabel = label("viewerPlace");
+    m_zoomLabel = label("viewerZoom");
+    m_zoomLabel->setAlignment(Qt::AlignCenter);
+    m_zoomLabel->setMinimumWidth(m_zoomLabel->fontMetrics().horizontalAdvance(QStringLiteral("1,600 %")));
+    m_fit = makeButton("viewerFit", tr("Fit"), tr("Whole picture (0)"));
+    m_actual = makeButton("viewerActual", tr("1:1"), tr("Actual size (1)"));
+    m_smaller = makeButton("viewerSmaller", tr("−"), tr("Smaller (−)"));
+    m_larger = makeButton("viewerLarger", tr("+"), tr("Larger (+)"));
+    m_full = makeButton("viewerFull", tr("Full Screen"), tr("Full screen (F11)"));
+    m_factsButton = makeButton("viewerFactsButton", tr("Facts"), tr("Show the facts beside it (I)"));
+    m_fit->setCheckable(true);
+    m_actual->setCheckable(true);
+    m_factsButton->setCheckable(true);
+    m_factsButton->setChecked(true);
+    row->addWidget(close);
+    row->addWidget(m_title);
+    row->addWidget(m_placeLabel);
+    row->addStretch();
+    for (QWidget* const widget : std::initializer_list<QWidget*>{m_smaller, m_zoomLabel, m_larger, m_fit,
+                                                                 m_actual, m_full, m_factsButton}) {
+        row->addWidget(widget);
+    }
+    connect(close, &QToolButton::clicked, this, &ItemViewer::leave);
+    connect(m_fit, &QToolButton::clicked, this, [this] {
+        m_picture->fit();
+        showZoom();
+    });
+    connect(m_actual, &QToolButton::clicked, this, [this] {
+        m_picture->showActualSize();
+        showZoom();
+    });
+    connect(m_smaller, &QToolButton::clicked, this, [this] { m_picture->zoomBy(1 / kZoomStep); });
+    connect(m_larger, &QToolButton::clicked, this, [this] { m_picture->zoomBy(kZoomStep); });
+    connect(m_full, &QToolButton::clicked, this, &ItemViewer::toggleFullScreen);
+    connect(m_factsButton, &QToolButton::toggled, this, [this] { showFullScreenState(); });
+    return head;
+}
+
+QWidget* ItemViewer::makeStage() {
+    auto* const place = new QWidget(this);
+    m_stage = new QStackedWidget(place);
+    m_picture = new ZoomPicture(m_stage);
+    m_movie = new MovieView(m_stage);
+    m_movie->setObjectName(QStringLiteral("viewerMovie"));
+    m_movie->setAccessibleName(tr("Movie"));
+    m_movie->setFocusPolicy(Qt::NoFocus);  // its keys are the viewer's
+    m_movie->setRoomy();
+    m_stage->addWidget(m_picture);
+    m_stage->addWidget(m_movie);
+    m_note = new QLabel(place);
+    m_note->setObjectName(QStringLiteral("viewerNote"));
+    m_note->setAlignment(Qt::AlignCenter);
+    m_note->setWordWrap(true);
+    m_note->setTextFormat(Qt::PlainText);
+    m_back = makeButton("viewerBack", tr("‹"), tr("Item before this one (Left)"));
+    m_on = makeButton("viewerOn", tr("›"), tr("Next item (Right)"));
+    auto* const row = new QHBoxLayout;
+    row->addWidget(m_back);
+    row->addWidget(m_stage, 1);
+    row->addWidget(m_on);
+    auto* const column = new QVBoxLayout(place);
+    column->setContentsMargins(theme::kUnit, 0, theme::kUnit, theme::kUnit);
+    column->addLayout(row, 1);
+    column->addWidget(m_note);
+    connect(m_back, &QToolButton::clicked, this, [this] { emit stepWanted(-1); });
+    connect(m_on, &QToolButton::clicked, this, [this] { emit stepWanted(1); });
+    connect(m_picture, &ZoomPicture::zoomChanged, this, &ItemViewer::showZoom);
+    return place;
+}
+
+void ItemViewer::makeFactsPane() {
+    m_factsText = new QLabel(this);
+    m_factsText->setObjectName(QStringLiteral("viewerFacts"));
+    m_factsText->setTextFormat(Qt::RichText);
+    m_factsText->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_factsText->setWordWrap(true);
+    m_factsText->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    m_factsText->setContentsMargins(2 * theme::kUnit, theme::kUnit, 2 * theme::kUnit, theme::kUnit);
+    m_factsPane = new QScrollArea(this);
+    m_factsPane->setObjectName(QStringLiteral("viewerFactsPane"));
+    m_factsPane->setAccessibleName(tr("Facts"));
+    m_factsPane->setWidget(m_factsText);
+    m_factsPane->setWidgetResizable(true);
+    m_factsPane->setFixedWidth(kFactsWidth);
+    m_factsPane->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+void ItemViewer::makeShortcuts() {
+    const auto on = [this](const QKeySequence& keys, auto&& action) {
+        auto* const shortcut = new QShortcut(keys, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, this, action);
+    };
+    const auto step = [this](int steps) { return [this, steps] { emit stepWanted(steps); }; };
+    on(Qt::Key_Left, step(-1));
+    on(Qt::Key_Right, step(1));
+    on(Qt::Key_PageUp, step(-1));
+    on(Qt::Key_PageDown, step(1));
+    on(Qt::Key_Home, [this] { emit endWanted(false); });
+    on(Qt::Key_End, [this] { emit endWanted(true); });
+    on(Qt::Key_Escape, [this] { escape(); });
+    on(Qt::Key_F11, [this] { toggleFullScreen(); });
+    on(Qt::Key_I, [this] { m_factsButton->toggle(); });
+    on(Qt::Key_0, [this] { m_picture->fit(); });
+    on(Qt::Key_1, [this] { m_picture->showActualSize(); });
+    for (const QKeySequence& keys : {QKeySequence(Qt::Key_Plus), QKeySequence(Qt::CTRL | Qt::Key_Plus)}) {
+        on(keys, [this] { m_picture->zoomBy(kZoomStep); });
+    }
+    for (const QKeySequence& keys : {QKeySequence(Qt::Key_Minus), QKeySequence(Qt::CTRL | Qt::Key_Minus)}) {
+        on(keys, [this] { m_picture->zoomBy(1 / kZoomStep); });
+    }
+    on(Qt::SHIFT | Qt::Key_Left, [this] { moveWithin(-1); });
+    on(Qt::SHIFT | Qt::Key_Right, [this] { moveWithin(1); });
+    on(Qt::SHIFT | Qt::Key_Up, [this] { m_picture->push({0, kPush}); });
+    on(Qt::SHIFT | Qt::Key_Down, [this] { m_picture->push({0, -kPush}); });
+}
+
+void ItemViewer::moveWithin(int direction) {
+    if (m_movie->movie() != nullptr) {
+        m_movie->seekBy(direction * kSeekMs);
+    } else {
+        m_picture->push({static_cast<double>(-direction * kPush), 0});
+    }
+}
+
+void ItemViewer::open() {
+    coverAll();
+    show();
+    raise();
+    setFocus();
+}
+
+void ItemViewer::leave() {
+    if (!isVisible()) {
+        return;
+    }
+    if (m_fullScreen) {
+        toggleFullScreen();
+    }
+    setMovie(nullptr);
+    m_picture->begin({}, {});
+    hide();
+    emit left();
+}
+
+void ItemViewer::escape() {
+    if (m_fullScreen) {
+        toggleFullScreen();
+    } else {
+        leave();
+    }
+}
+
+void ItemViewer::begin(const QString& title, const QString& place, const QImage& standIn, QSize full) {
+    setMovie(nullptr);
+    m_title->setText(title);
+    m_picture->setAccessibleName(tr("Picture of %1").arg(title));
+    setPlace(place);
+    setNote({});
+    m_mayBeLarger = false;
+    m_picture->begin(standIn, full);
+}
+
+void ItemViewer::setPlace(const QString& place) {
+    m_placeLabel->setText(place);
+}
+
+void ItemViewer::setPicture(const QImage& picture, QSize full, bool mayBeLarger) {
+    m_mayBeLarger = mayBeLarger;
+    m_picture->sharpen(picture, full);
+}
+
+void ItemViewer::setMovie(std::unique_ptr<Movie> movie) {
+    m_movie->setMovie(std::move(movie));
+    const bool plays = m_movie->movie() != nullptr;
+    m_stage->setCurrentWidget(plays ? static_cast<QWidget*>(m_movie) : m_picture);
+    for (QWidget* const widget :
+         std::initializer_list<QWidget*>{m_smaller, m_zoomLabel, m_larger, m_fit, m_actual}) {
+        widget->setVisible(!plays);
+    }
+}
+
+void ItemViewer::setFacts(const QList<ViewerFact>& facts) {
+    if (facts == m_facts) {
+        return;
+    }
+    m_facts = facts;
+    QString text;
+    QStringList spoken;
+    for (const ViewerFact& fact : facts) {
+        text += QStringLiteral(
+                    "<p style='margin-top:0;margin-bottom:10px'>"
+                    "<span style='color:#b6c0d0'>%1</span><br>%2</p>")
+                    .arg(fact.name.toHtmlEscaped(), fact.value.toHtmlEscaped());
+        spoken << QStringLiteral("%1: %2").arg(fact.name, fact.value);
+    }
+    m_factsText->setText(text);
+    m_factsText->setAccessibleName(spoken.join(QStringLiteral(", ")));
+    setAccessibleDescription(m_factsText->accessibleName());
+}
+
+void ItemViewer::setNote(const QString& note) {
+    m_note->setText(note);
+    m_note->setVisible(!note.isEmpty());
+}
+
+void ItemViewer::setSteps(bool back, bool on) {
+    m_back->setEnabled(back);
+    m_on->setEnabled(on);
+}
+
+QSize ItemViewer::stageSize() const {
+    return m_stage->size() * devicePixelRatioF();
+}
+
+void ItemViewer::showZoom() {
+    m_zoomLabel->setText(tr("%1 %").arg(qRound(m_picture->scale() * 100)));
+    m_fit->setChecked(m_picture->isFitted());
+    m_actual->setChecked(qFuzzyCompare(m_picture->scale(), 1.0));
+    if (m_picture->wantsMore() || (m_mayBeLarger && !m_picture->isFitted())) {
+        emit morePixelsWanted();
+    }
+}
+
+void ItemViewer::toggleFullScreen() {
+    m_fullScreen = !m_fullScreen;
+    window()->setWindowState(window()->windowState().setFlag(Qt::WindowFullScreen, m_fullScreen));
+    showFullScreenState();
+}
+
+// On a full screen there is the picture and nothing else.
+void ItemViewer::showFullScreenState() {
+    m_head->setVisible(!m_fullScreen);
+    m_factsPane->setVisible(!m_fullScreen && m_factsButton->isChecked());
+    setFocus();
+}
+
+void ItemViewer::showFacts() {
+    m_factsButton->setChecked(true);
+}
+
+void ItemViewer::coverAll() {
+    setGeometry(m_over->rect());
+}
+
+// What the keys of the window below would do does not happen behind a viewer.
+bool ItemViewer::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto* const key = static_cast<QKeyEvent*>(event);
+        if (key->modifiers().testFlag(Qt::AltModifier) || key->key() == Qt::Key_Return ||
+            key->key() == Qt::Key_Enter || key->key() == Qt::Key_F5) {
+            event->accept();
+            return true;
+        }
+    }
+    return QWidget::event(event);
+}
+
+bool ItemViewer::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_over && event->type() == QEvent::Resize) {
+        coverAll();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+// In a ring: what lies below is not to be reached.
+bool ItemViewer::focusNextPrevChild(bool next) {
+    QWidget* const from = window()->focusWidget() != nullptr ? window()->focusWidget() : this;
+    for (QWidget* to = next ? from->nextInFocusChain() : from->previousInFocusChain(); to != from;
+         to = next ? to->nextInFocusChain() : to->previousInFocusChain()) {
+        if (isAncestorOf(to) && to->isVisible() && to->isEnabled() &&
+            (to->focusPolicy() & Qt::TabFocus) != 0) {
+            to->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+            return true;
+        }
+    }
+    return true;
+}
+
+// No shortcut: where a button has the keyboard, Space presses it.
+void ItemViewer::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Space) {
+        m_movie->togglePlaying();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void ItemViewer::paintEvent(QPaintEvent*) {
+    QPainter(this).fillRect(rect(), kGround);
+}
+
+}  // namespace vantor
