@@ -10,6 +10,7 @@
 #include "repair/PhotoCompletion.h"
 #include "results/PreviewCopy.h"
 #include "saving/Sha256.h"
+#include "saving/ToldItem.h"
 
 namespace vantor {
 
