@@ -3,8 +3,9 @@
 // Prints, over an image of a card whose first sectors hold ITEMS (100,000) small pictures and whose rest is
 // empty: the time from the press on Stop to the end panel, with nothing found and with all items found, and
 // the longest time the event loop was away, with the most processor time it took meanwhile (which is what
-// counts when others use the machine), as a user scrolls, types, selects, zooms, filters and sorts, during a
-// scan and after it. The real controller, reader and decode helpers work; runs offscreen or in an X server.
+// counts when others use the machine), as a user scrolls, types, selects, zooms, filters, sorts, picks and
+// ticks, during a scan and after it. The real controller, reader and decode helpers work; runs offscreen or
+// in an X server.
 #include <QApplication>
 #include <QBuffer>
 #include <QComboBox>
@@ -12,11 +13,13 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QImage>
+#include <QLineEdit>
 #include <QPainter>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QTreeWidget>
 #include <algorithm>
 #include <cstdio>
 #include <ctime>
@@ -26,6 +29,7 @@
 #include "media/PlatformMedia.h"
 #include "results/RecoveryMode.h"
 #include "window/MyTableController.h"
+#include "window/browser/FoundPane.h"
 #include "window/widgets/Theme.h"
 
 namespace {
@@ -246,6 +250,22 @@ class Bench {
         }
     }
 
+    void usePane(FoundPane* pane) {
+        auto* tree = pane->findChild<QTreeWidget*>();
+        auto* search = pane->findChild<QLineEdit*>();
+        for (int row = 1; row < tree->topLevelItemCount(); ++row) {
+            QTreeWidgetItem* const group = tree->topLevelItem(row);
+            if (group->isHidden() || !group->flags().testFlag(Qt::ItemIsSelectable)) {
+                continue;
+            }
+            const QByteArray words = "pick " + group->text(0).toUtf8();
+            measure(words.constData(), [&] { tree->setCurrentItem(group); });
+        }
+        measure("pick all items", [&] { tree->setCurrentItem(tree->topLevelItem(0)); });
+        measure("search by name", [&] { QTest::keyClicks(search, QStringLiteral("009")); });
+        measure("search no more", [&] { search->clear(); });
+    }
+
     void use(int mode, const char* name, const char* when) {
         MyTableController& c = *m_controller;
         const bool photo = mode == kPhotoMode;
@@ -289,6 +309,11 @@ class Bench {
         }
         measure("sorted, all again", [&] { show->setCurrentIndex(0); });
         measure("as found again", [&] { sort->setCurrentIndex(0); });
+        usePane(photo ? c.foundPane : c.foundPane_Sig);
+        measure("tick all", [&] { c.tickShownItems(); });
+        measure("tick one of all ticked", [&] { c.tickItems({7}, false); });
+        measure("invert the ticks", [&] { c.invertTicks(); });
+        measure("invert them back", [&] { c.invertTicks(); });
         if (photo) {
             measure("zoom", [&] {
                 for (int value = c._zoom_slider->minimum(); value <= c._zoom_slider->maximum();

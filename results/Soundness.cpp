@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QStringList>
 
+#include "formats/ExifCamera.h"
 #include "results/ItemBytes.h"
 #include "results/SizeForPeople.h"
 #include "results/TrueLength.h"
@@ -52,6 +53,9 @@ std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, S
     soundness.width = facts.width;
     soundness.height = facts.height;
     soundness.taken = facts.taken;
+    // What was followed is in memory; nothing more is read for it.
+    SpanSource beginning(bytes.keptFrom(0));
+    soundness.camera = QString::fromStdString(cameraOf(beginning));
     return soundness;
 }
 
@@ -88,6 +92,9 @@ QString describe(const Soundness& soundness) {
     parts << sizeForPeople(soundness.bytes);
     if (soundness.width != 0) {
         parts << QObject::tr("%1 × %2 pixels").arg(soundness.width).arg(soundness.height);
+    }
+    if (!soundness.camera.isEmpty()) {
+        parts << soundness.camera;
     }
     if (soundness.taken) {
         parts << QObject::tr("taken %1-%2-%3")

@@ -26,6 +26,7 @@ struct Soundness {
     bool checked = false;  // complete, and its content was looked at; else it only ends where it says
     std::shared_ptr<const CardFile> original = {};  // what the card tells of it; null: nothing certain
     std::size_t pieces = 1;                         // on the medium
+    QString camera = {};                            // that took it, as the file says; "": not told
 };
 
 // Follows the item's own structure on the medium as saving does, without saving. A file that takes more than

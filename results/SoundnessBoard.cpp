@@ -44,7 +44,6 @@ void SoundnessBoard::begin(Open open) {
     m_open = std::move(open);
     m_known.clear();
     m_news.clear();
-    m_knownCount = 0;
     m_inView.clear();
     m_all = m_cursor = 0;
     m_gone = false;
@@ -57,7 +56,6 @@ void SoundnessBoard::beginAgain() {
     const std::lock_guard lock(m_mutex);
     m_known.clear();
     m_news.clear();
-    m_knownCount = 0;
     m_cursor = 0;
     m_watch.ended = true;
     ++m_changes;
@@ -112,10 +110,6 @@ void SoundnessBoard::note(std::size_t index, const Soundness& soundness) {
 }
 
 void SoundnessBoard::store(std::size_t index, const Soundness& soundness) {
-    if (index >= m_known.size()) {
-        m_known.resize(index + 1);
-    }
-    m_knownCount += m_known[index] ? 0 : 1;
     m_known[index] = soundness;
     m_news.push_back(index);
     ++m_changes;
@@ -123,12 +117,8 @@ void SoundnessBoard::store(std::size_t index, const Soundness& soundness) {
 
 std::optional<Soundness> SoundnessBoard::find(std::size_t index) const {
     const std::lock_guard lock(m_mutex);
-    return index < m_known.size() ? m_known[index] : std::nullopt;
-}
-
-std::vector<std::optional<Soundness>> SoundnessBoard::all() const {
-    const std::lock_guard lock(m_mutex);
-    return m_known;
+    const auto known = m_known.find(index);
+    return known != m_known.end() ? std::optional(known->second) : std::nullopt;
 }
 
 std::vector<std::size_t> SoundnessBoard::takeNews() {
@@ -138,7 +128,7 @@ std::vector<std::size_t> SoundnessBoard::takeNews() {
 
 std::size_t SoundnessBoard::known() const {
     const std::lock_guard lock(m_mutex);
-    return m_knownCount;
+    return m_known.size();
 }
 
 bool SoundnessBoard::mediumIsGone() const {

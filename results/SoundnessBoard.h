@@ -10,6 +10,7 @@
 #include <mutex>
 #include <optional>
 #include <thread>
+#include <unordered_map>
 #include <vector>
 
 #include "results/Soundness.h"
@@ -53,8 +54,6 @@ class SoundnessBoard {
     void note(std::size_t index, const Soundness& soundness);
 
     std::optional<Soundness> find(std::size_t index) const;
-    // Everything known so far; items beyond its end are not.
-    std::vector<std::optional<Soundness>> all() const;
     std::size_t known() const;
     // Grows whenever something new is known.
     std::uint64_t changes() const { return m_changes; }
@@ -75,7 +74,7 @@ class SoundnessBoard {
     bool isWished() const { return m_open && (!m_inView.empty() || m_all > 0); }
     void run();
     std::optional<std::size_t> next();
-    bool isKnown(std::size_t index) const { return index < m_known.size() && m_known[index]; }
+    bool isKnown(std::size_t index) const { return m_known.contains(index); }
     void store(std::size_t index, const Soundness& soundness);
     std::optional<Soundness> look(const MyImageObject& item, Turn& turn);
 
@@ -86,8 +85,7 @@ class SoundnessBoard {
     std::condition_variable m_wake;
     Open m_open;
     std::uint64_t m_generation = 0;
-    std::vector<std::optional<Soundness>> m_known;
-    std::size_t m_knownCount = 0;
+    std::unordered_map<std::size_t, Soundness> m_known;  // of few of very many, mostly
     std::vector<std::size_t> m_news;
     std::vector<std::size_t> m_inView;
     std::size_t m_all = 0, m_cursor = 0;

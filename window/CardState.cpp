@@ -30,6 +30,8 @@ void MyTableController::setUpCardStrip() {
     m_keepCopyButton->setToolTip(
         tr("The search is stopped for a moment and goes on, reading the card once into the file that you "
            "choose"));
+    m_cardWords->hide();
+    m_keepCopyButton->hide();
     auto* const row = new QHBoxLayout;
     row->addWidget(m_cardWords, 1);
     row->addWidget(m_keepCopyButton);

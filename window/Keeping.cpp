@@ -173,6 +173,9 @@ void MyTableController::writeKeptSearch() {
 
 // At the end of a search, whose thread waits for the user or is gone.
 void MyTableController::keepSearchEnd() {
+    if (!m_memory->keeper()) {
+        return;
+    }
     m_memory->setEnded(searchEnd().outcome == PassOutcome::Completed && !searchEnd().brokenOff());
     m_memory->keeper()->write(refusals());
 }

@@ -224,7 +224,7 @@ class MyTableController : public QObject,
     // Items by their places in the list; what is beyond its end is passed over.
     void tickItems(const QList<qsizetype>& indexes, bool ticked);
     // Ticks all that is shown; when all of it is ticked already, unticks it.
-    void tickShown();
+    void tickShownItems();
     void invertTicks();
     const TickedItems& ticks() const { return m_ticks; }
     void askSavingOptions();

@@ -10,7 +10,7 @@ void MyTableController::wireTicks() {
         connect(browser, &ImageBrowserView::ticksWanted, this, &MyTableController::tickItems);
     }
     for (QPushButton* button : {tickShownButton, tickShownButton_Sig}) {
-        connect(button, &QPushButton::clicked, this, [this] { tickShown(); });
+        connect(button, &QPushButton::clicked, this, &MyTableController::tickShownItems);
     }
     for (QPushButton* button : {invertTicksButton, invertTicksButton_Sig}) {
         connect(button, &QPushButton::clicked, this, &MyTableController::invertTicks);
@@ -30,16 +30,16 @@ void MyTableController::tickItems(const QList<qsizetype>& indexes, bool ticked) 
 }
 
 bool MyTableController::allShownAreTicked() const {
-    if (m_ticks.count() == 0) {
+    const ImageBrowserView& browser = *browserOf(activeSet());
+    if (browser.shownCount() == 0 || m_ticks.count() < static_cast<std::size_t>(browser.shownCount())) {
         return false;
     }
-    const QList<qsizetype> shown = browserOf(activeSet())->shownIndexes();
-    return !shown.isEmpty() && std::all_of(shown.begin(), shown.end(), [this](qsizetype index) {
-        return m_ticks.isTicked(static_cast<std::size_t>(index));
-    });
+    const QList<qsizetype> shown = browser.shownIndexes();
+    return std::all_of(shown.begin(), shown.end(),
+                       [this](qsizetype index) { return m_ticks.isTicked(static_cast<std::size_t>(index)); });
 }
 
-void MyTableController::tickShown() {
+void MyTableController::tickShownItems() {
     tickItems(browserOf(activeSet())->shownIndexes(), !allShownAreTicked());
 }
 

@@ -58,6 +58,15 @@ std::uint64_t withoutForeignLetters(ByteView& view, std::uint64_t end) {
     return last - line <= kFewLetters ? line : last;
 }
 
+// Behind a line end, and behind an empty line that some writers leave after their last one.
+std::uint64_t behindEmptyLine(ByteView& view, std::uint64_t at) {
+    const auto end = behindLineEnd(view, at);
+    const auto bytes = static_cast<std::size_t>(end - at);
+    const bool again = bytes != 0 && !isSectorStart(end) && view.holds(end, bytes) &&
+                       view.number(at, bytes, Endian::Big) == view.number(end, bytes, Endian::Big);
+    return again ? end + bytes : end;
+}
+
 // Texts that say where they end: by a last line behind which nothing comes.
 std::optional<std::uint64_t> behindLastLine(ByteView& view, std::uint64_t end) {
     struct Marked {
@@ -81,7 +90,7 @@ std::optional<std::uint64_t> behindLastLine(ByteView& view, std::uint64_t end) {
             const bool line = before == '\n' || before == '\r';
             if (line && view.matches(sign.at, last) &&
                 (last.back() == ';' || behind == '\n' || behind == '\r'))
-                return behindLineEnd(view, sign.at + last.size());
+                return behindEmptyLine(view, sign.at + last.size());
         }
     }
     return std::nullopt;

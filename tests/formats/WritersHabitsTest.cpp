@@ -97,13 +97,15 @@ TEST(PdfHabits, EmptyLineOrLineOfBlanksBehindTheEnd_BelongsToTheFile) {
     expectEnd("PDF", Build().add(full).text("\n"), full.size());
 }
 
-TEST(TextHabits, FontMetrics_EndWithTheirLastLine) {
-    const Bytes file =
-        Build().text("StartFontMetrics 2.0\nComment EndFontMetrics\nFontName A\nEndFontMetrics\n");
-    for (const Bytes& tail : {Bytes(3000, 0), Build().text("Another text follows.\n").bytes()}) {
-        const Extent extent = walkBytes("AFM", Build().add(file).add(tail));
-        EXPECT_EQ(extent.verdict, Verdict::Complete);
-        EXPECT_EQ(extent.end, file.size());
+TEST(TextHabits, FontMetrics_EndWithTheirLastLineOrAnEmptyOne) {
+    const std::string text = "StartFontMetrics 2.0\nComment EndFontMetrics\nFontName A\nEndFontMetrics";
+    for (const std::string end : {"\n", "\n\n", "\r\n\r\n"}) {
+        const Bytes file = Build().text(text + end);
+        for (const Bytes& tail : {Bytes(3000, 0), Build().text("Another text follows.\n").bytes()}) {
+            const Extent extent = walkBytes("AFM", Build().add(file).add(tail));
+            EXPECT_EQ(extent.verdict, Verdict::Complete);
+            EXPECT_EQ(extent.end, file.size());
+        }
     }
 }
 

@@ -285,6 +285,7 @@ TEST_F(Browser, EveryFourthRawItemScrollsToTheEnd) {
     controller->show_hide_1_screen(true);
     controller->show_hide_4_screen_RawFile(false);
     controller->window->resize(1024, 720);
+    settle();
     controller->imageBrowser_2->setZoomValue(1);  // few in a line
     for (int i = 0; i < 200; ++i) {
         addRaw(QStringLiteral("F%1.PDF").arg(i));

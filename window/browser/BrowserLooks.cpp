@@ -153,6 +153,7 @@ ItemTraits BrowserLooks::traitsOf(std::size_t index) const {
     const Soundness* soundness = facts.soundness ? &*facts.soundness : nullptr;
     traits.type = pathExtension(item->imageTitle());
     traits.day = dayOf(soundness, facts.original.get());
+    traits.camera = soundness != nullptr ? soundness->camera : QString();
     traits.complete =
         soundness != nullptr && soundness->verdict == Verdict::Complete && !soundness->notOfItsType;
     traits.bytes = soundness != nullptr ? soundness->bytes : item->carved().sectors() * kSectorBytes;
@@ -241,9 +242,7 @@ void BrowserLooks::putInOrder() {
     if (m_wish.isPlain()) {
         browser->setOrder(std::nullopt);
     } else {
-        const auto known = m_wish.needsSoundness() || !m_wish.name.isEmpty()
-                               ? m_board.all()
-                               : std::vector<std::optional<Soundness>>();
+        const bool asksBoard = m_wish.needsSoundness() || !m_wish.name.isEmpty();
         const FoundFacets::Filter picked(m_facets, m_wish.facets);
         m_pickedFacets = m_facets.changes();
         browser->reloadData();
@@ -252,8 +251,8 @@ void BrowserLooks::putInOrder() {
             [&](int index) {
                 const auto at = static_cast<std::size_t>(index);
                 ItemFacts facts;
-                if (at < known.size()) {
-                    facts.soundness = known[at];
+                if (asksBoard) {
+                    facts.soundness = m_board.find(at);
                 }
                 if (m_wish.show == ShowItems::Lost || m_wish.sort == SortItems::OriginalName) {
                     if (const auto item = m_items.at(at)) {
