@@ -118,7 +118,7 @@ TEST(RememberedChoices, ComeBackAsTheyWere) {
     QSettings settings(folder.filePath(QStringLiteral("s.conf")), QSettings::IniFormat);
     SavingChoices choices;
     choices.report = false;
-    choices.policy = {true, SaveNames::Found, SaveFolders::Date, true, false, 12'345, 640, false, true};
+    choices.policy = {true, SaveNames::Found, SaveFolders::Date, true, false, 12'345, 640, false, true, true};
     rememberChoices(settings, choices);
     EXPECT_EQ(recalledChoices(settings).policy, choices.policy);
     EXPECT_FALSE(recalledChoices(settings).report);

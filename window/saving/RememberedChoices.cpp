@@ -51,6 +51,7 @@ void rememberChoices(QSettings& settings, const SavingChoices& choices) {
     put<quint64>(settings, "minBytes", policy.minBytes, usual.policy.minBytes);
     put<quint64>(settings, "minPixels", policy.minPixels, usual.policy.minPixels);
     put(settings, "checksums", policy.checksums, usual.policy.checksums);
+    put(settings, "parts", policy.parts, usual.policy.parts);
     put(settings, "skipUnsound", policy.skipUnsound, usual.policy.skipUnsound);
 }
 
@@ -66,6 +67,7 @@ SavingChoices recalledChoices(const QSettings& settings) {
     policy.minBytes = number(settings, "minBytes", std::uint64_t{1} << 40);
     policy.minPixels = static_cast<std::uint32_t>(number(settings, "minPixels", 1'000'000));
     policy.checksums = flag(settings, "checksums", policy.checksums);
+    policy.parts = flag(settings, "parts", policy.parts);
     policy.skipUnsound = flag(settings, "skipUnsound", policy.skipUnsound);
     return choices;
 }
