@@ -34,7 +34,6 @@ void MyTableController::setUpKeeping() {
     options->setSpacing(0);
     options->addWidget(thoroughBox);
     options->addWidget(m_keepingBox);
-    thoroughBox->setProperty("role", QVariant());
     m_keepingBox->hide();
     m_goOnButton = new QPushButton(tr("&Go On"), searchEndBar);
     m_goOnButton->setObjectName(QStringLiteral("goOnButton"));
@@ -74,6 +73,9 @@ void MyTableController::showKeeping() {
     const bool onRange = screen_counter == 1;
     m_keepingBox->offer(onRange && m_memory->hasFolder(), onRange && m_parts.openSource);
     m_searchOptions->setVisible(!thoroughBox->isHidden() || !m_keepingBox->isHidden());
+    // Explanations begin below one another.
+    const int tick = _Thro_Mode_Chk->sizeHint().width() + thoroughLayout->spacing();
+    thoroughLabel->setMinimumWidth(m_keepingBox->copyBox->sizeHint().width() - tick);
     if (screen_counter != 0) {
         m_memory->letGo();
     }

@@ -153,7 +153,8 @@ TEST_F(Start, FitsASmallScreenAndALargeOne) {
                           controller->window->height());
             }
         }
-        EXPECT_FALSE(controller->bodyScroll->verticalScrollBar()->isVisible());
+        EXPECT_FALSE(controller->bodyScroll->verticalScrollBar()->isVisible())
+            << "screen " << controller->screen_counter << " of mode " << Recovery_MODE;
         EXPECT_FALSE(controller->bodyScroll->horizontalScrollBar()->isVisible());
     };
     for (const QSize size : {QSize(1024, 720), QSize(3840, 2160)}) {

@@ -22,7 +22,7 @@ constexpr int kFacetRole = Qt::UserRole;
 constexpr int kKeyRole = Qt::UserRole + 1;
 constexpr int kSortRole = Qt::UserRole + 2;
 constexpr int kIndentation = 14;
-constexpr int kLeastTreeHeight = 96;
+constexpr int kLeastTreeHeight = 72;
 constexpr std::size_t kMostToldRows = 500;
 const QChar kLast(0xFFFF);  // sorts behind everything
 
