@@ -22,8 +22,8 @@ SearchRecord someRecord() {
     for (const std::uint64_t sector : {10U, 11U, 300U, 70000U}) {
         record.worthALook.append(sector);
     }
-    record.notes = {
-        QStringLiteral("CANON"), 412, true, 3, 9, QStringLiteral("/a/b.img"), {0, 1, 7, std::uint64_t{1} << 33}};
+    record.notes = {QStringLiteral("CANON"),          412, true, 3, 9, QStringLiteral("/a/b.img"),
+                    {0, 1, 7, std::uint64_t{1} << 33}};
     return record;
 }
 
