@@ -59,11 +59,22 @@ TEST(ViewerFacts, WhatIsKnown_IsTold) {
     EXPECT_EQ(valueOf(facts, "Size"), QStringLiteral("5.3 kB")) << "as it was looked at";
     EXPECT_EQ(valueOf(facts, "Pixels"), QStringLiteral("4,000 × 3,000"));
     EXPECT_EQ(valueOf(facts, "Length"), QStringLiteral("1:05"));
-    EXPECT_EQ(valueOf(facts, "On the card"), QStringLiteral("sectors 5,000 to 5,006"));
+    EXPECT_EQ(valueOf(facts, "On the card"), QStringLiteral("from sector 5,000, in pieces"));
     EXPECT_EQ(valueOf(facts, "Pieces"), QStringLiteral("3"));
     EXPECT_EQ(valueOf(facts, "Unreadable sectors"), QStringLiteral("2"));
     EXPECT_EQ(valueOf(facts, "State"), soundnessWords(Verdict::Complete, true));
     EXPECT_EQ(valueOf(facts, "Saved"), QStringLiteral("yes"));
+}
+
+TEST(ViewerFacts, ThePlaceIsThatOfTheFile_NotOfAllThatWasFound) {
+    Found found;
+    found.item->setOrigin(QStringLiteral("JPG"), {{{5000, 5004}, {5006, 5009}}, true}, {5000, 5010});
+    EXPECT_EQ(valueOf(found.facts(), "On the card"), QStringLiteral("sectors 5,000 to 5,008"));
+    found.known.soundness = Soundness{};
+    found.known.soundness->bytes = 1025;
+    EXPECT_EQ(valueOf(found.facts(), "On the card"), QStringLiteral("sectors 5,000 to 5,002"));
+    found.known.soundness->bytes = 512;
+    EXPECT_EQ(valueOf(found.facts(), "On the card"), QStringLiteral("sector 5,000"));
 }
 
 TEST(ViewerFacts, WhoseLengthIsOpen_SaysSo_AndWhatCouldNotBeRead) {

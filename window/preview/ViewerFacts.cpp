@@ -4,6 +4,7 @@
 #include <QDateTime>
 #include <QObject>
 
+#include "media/SectorReader.h"
 #include "results/CardIndex.h"
 #include "results/MyImageObject.h"
 #include "results/SizeForPeople.h"
@@ -42,11 +43,18 @@ QString sectors(const SectorRun& run) {
                                           .arg(numberForPeople(run.first), numberForPeople(run.end - 1));
 }
 
-// Where it was found; what the search published where nothing more is known.
-QString placeOf(const MyImageObject& item) {
+// Where the file lies as far as that is known, else what was found; what the search published where nothing
+// more is known.
+QString placeOf(const MyImageObject& item, const ItemFacts& known) {
     const auto& runs = item.carved().runs;
     if (!runs.empty()) {
-        return sectors({runs.front().first, runs.back().end});
+        const std::uint64_t first = runs.front().first;
+        if (known.soundness && known.soundness->pieces > 1) {
+            return QObject::tr("from sector %1, in pieces").arg(numberForPeople(first));
+        }
+        const std::uint64_t bytes = known.soundness ? known.soundness->bytes : 0;
+        const std::uint64_t length = (bytes + kSectorBytes - 1) / kSectorBytes;
+        return sectors({first, length != 0 ? first + length : runs.back().end});
     }
     const std::uint64_t first = item.File_Start_Sector(), end = item.File_End_Sector();
     return end > first ? sectors({first, end}) : QString();
@@ -96,7 +104,7 @@ QList<ViewerFact> viewerFacts(const MyImageObject& item, const ItemFacts& known,
                                                               numberForPeople(known.soundness->height)));
     }
     add(QObject::tr("Length"), viewed.durationMs > 0 ? timeText(viewed.durationMs) : QString());
-    add(QObject::tr("On the card"), placeOf(item));
+    add(QObject::tr("On the card"), placeOf(item, known));
     add(QObject::tr("Pieces"),
         known.soundness ? numberForPeople(static_cast<std::uint64_t>(known.soundness->pieces)) : QString());
     add(QObject::tr("Unreadable sectors"), unreadableOf(item, known));
