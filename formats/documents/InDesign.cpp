@@ -1,5 +1,5 @@
 // InDesign documents: two master pages that tell the pages of the database, then the objects behind it, of
-// which metadata are one. Source: Adobe XMP specification part 3, "InDesign".
+// which metadata are one. Source: Adobe, "XMP: Storage in Files", section "InDesign".
 #include <algorithm>
 
 #include "formats/Format.h"
