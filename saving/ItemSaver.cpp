@@ -3,11 +3,7 @@
 #include "saving/ItemSaver.h"
 
 #include <sys/stat.h>
-#include <unistd.h>
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -63,14 +59,6 @@ std::optional<std::int64_t> timeOf(const SaveOutcome& outcome) {
         return outcome.original->modified;
     }
     return outcome.taken ? secondsOf(*outcome.taken) : std::nullopt;
-}
-
-bool areOneFile(const QString& a, const QString& b) {
-    struct stat first {
-    }, second{};
-    return ::lstat(QFile::encodeName(a).constData(), &first) == 0 &&
-           ::lstat(QFile::encodeName(b).constData(), &second) == 0 && first.st_dev == second.st_dev &&
-           first.st_ino == second.st_ino;
 }
 
 }  // namespace
@@ -200,74 +188,6 @@ void ItemSaver::flush() const {
 bool ItemSaver::isStillThere(const FoundItem& item) const {
     return m_policy.lostOnly && item.source.hints.card && !item.source.carved.runs.empty() &&
            item.source.hints.card->isLiveAt(firstSectorOf(item));
-}
-
-void ItemSaver::saveAsOnCard(const FoundItem& item, SaveOutcome& outcome) const {
-    const auto& card = item.source.hints.card;
-    if (!outcome.saved || outcome.original || m_policy.asPublished || !card ||
-        item.source.carved.runs.empty() || !card->tellsOf(firstSectorOf(item))) {
-        return;
-    }
-    const TrueLength length{outcome.bytes,
-                            {outcome.verdict, outcome.bytes, outcome.exactLength, {}, outcome.checked}};
-    const CardIndex::Match match = card->match(firstSectorOf(item), item.type, &length);
-    const bool asSaved = match.fit == CardFit::Yes && match.file->state != FileState::Live &&
-                         dataBytesOf(*match.file) == outcome.bytes && outcome.checked;
-    if (asSaved && !outcome.duplicate && moveAsOnCard(item, *match.file, outcome)) {
-        return;
-    }
-    SaveOutcome again = save(item);
-    if (!again.saved || again.path == outcome.path || (!again.original && again.pieces == 1)) {
-        return;
-    }
-    if (!outcome.duplicate) {
-        // A second name of what was saved here takes the place of the first; what was there before stays
-        // alone.
-        again.duplicate = again.duplicate && !areOneFile(again.path, outcome.path);
-        remove(outcome.path);
-    }
-    outcome = std::move(again);
-}
-
-// By a second name in place of the first; false where the file system knows none.
-bool ItemSaver::moveAsOnCard(const FoundItem& item, const CardFile& file, SaveOutcome& outcome) const {
-    SaveOutcome unused;
-    const auto destination = openDestination(unused);
-    SavedName name = savedNameOf(item.type, item.name, m_policy, outcome.taken, &file);
-    const auto folder = destination ? folderFor(item, *destination, name, unused) : std::nullopt;
-    if (!folder) {
-        return false;
-    }
-    QString path = folder->path() + u'/' + name.file;
-    if (path != outcome.path) {
-        if (QFileInfo::exists(path)) {
-            return false;  // perhaps the same bytes
-        }
-        const auto linked = linkAs(outcome.path, *folder, name.file);
-        if (!linked) {
-            return false;
-        }
-        path = *linked;
-        remove(outcome.path);
-    }
-    if (file.modified) {
-        setModificationTime(*folder, path.section(u'/', -1), *file.modified);
-    }
-    outcome.path = path;
-    outcome.original = {item.source.hints.card, &file};
-    return true;
-}
-
-// A file that was saved here; no link is followed on the way to it.
-void ItemSaver::remove(const QString& path) const {
-    const auto destination = SavingFolder::open(m_destination);
-    const QString folder = path.section(u'/', 0, -2);
-    if (!destination || !folder.startsWith(m_destination)) {
-        return;
-    }
-    if (const auto from = destination->below(folder.mid(m_destination.size()))) {
-        ::unlinkat(from->descriptor(), QFile::encodeName(path.section(u'/', -1)).constData(), 0);
-    }
 }
 
 TrueLength ItemSaver::lengthOf(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const {
