@@ -1,3 +1,4 @@
+// From what a search found to twins that are whole, one kind of file after the other.
 #include "cli/Completing.h"
 
 #include <algorithm>

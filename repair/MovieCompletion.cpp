@@ -1,3 +1,4 @@
+// Whole movies first; what they leave free is where the others are looked for.
 #include "repair/MovieCompletion.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// One photo after the other in what those before left free, until nothing changes.
 #include "repair/PhotoCompletion.h"
 
 #include <algorithm>

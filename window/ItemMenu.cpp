@@ -2,6 +2,7 @@
 #include <QDate>
 #include <QMenu>
 
+#include "results/FoundFacets.h"
 #include "results/MyImageObject.h"
 #include "results/ResultRow.h"
 #include "window/MyTableController.h"
@@ -10,28 +11,17 @@
 
 namespace vantor {
 
-namespace {
-
-// Null where neither the file nor the card tells.
-QDate dayOf(const ItemFacts& facts) {
-    if (facts.soundness && facts.soundness->taken) {
-        const CivilTime& taken = *facts.soundness->taken;
-        return {taken.year, taken.month, taken.day};
-    }
-    return facts.original && facts.original->modified
-               ? QDateTime::fromSecsSinceEpoch(*facts.original->modified).date()
-               : QDate();
-}
-
-}  // namespace
-
 void MyTableController::showItemMenu(ImageBrowserView* browser, qsizetype index, const QPoint& place) {
     const auto item = imageBrowser_itemAtIndex(browser, index);
     if (!item || session) {
         return;
     }
     const QString type = item->fileType();
-    const QDate day = dayOf(factsOfItem(index));
+    const auto dayOfItem = [this](qsizetype at) {
+        const ItemFacts facts = factsOfItem(at);
+        return dayOf(facts.soundness ? &*facts.soundness : nullptr, facts.original.get());
+    };
+    const std::int32_t day = dayOfItem(index);  // 0 where neither the file nor the card tells
     auto* const menu = new QMenu(browser);
     menu->setObjectName(QStringLiteral("itemMenu"));
     menu->setAccessibleName(tr("What to do with the item"));
@@ -45,12 +35,13 @@ void MyTableController::showItemMenu(ImageBrowserView* browser, qsizetype index,
     menu->addAction(tr("&Save Selected…"), this, &MyTableController::saveSelected);
     menu->addSeparator();
     QAction* const sameDay = menu->addAction(
-        day.isValid() ? tr("Select All of &Day %1").arg(day.toString(Qt::ISODate))
-                      : tr("Select All of the &Day"),
-        this, [this, browser, day] {
-            selectLike(browser, [this, day](qsizetype other) { return dayOf(factsOfItem(other)) == day; });
+        day != 0 ? tr("Select All of &Day %1")
+                       .arg(QDate(day / 10'000, day / 100 % 100, day % 100).toString(Qt::ISODate))
+                 : tr("Select All of the &Day"),
+        this, [this, browser, day, dayOfItem] {
+            selectLike(browser, [&](qsizetype other) { return dayOfItem(other) == day; });
         });
-    sameDay->setEnabled(day.isValid());
+    sameDay->setEnabled(day != 0);
     QAction* const sameType =
         menu->addAction(tr("Select All &Type %1").arg(type), this, [this, browser, type] {
             selectLike(browser, [this, browser, type](qsizetype other) {

@@ -55,8 +55,10 @@ void MyTableController::showSearchSum() {
     if (m_searchEnded && found > 0 && facets.size() == found) {
         parts << (activeSet() == ControlSet::Sig ? countOfItems(found)
                   : found == 1                   ? tr("1 photo")
-                                                 : tr("%1 photos").arg(numberForPeople(found)))
-              << sizeForPeople(facets.bytes(), 0);
+                                                 : tr("%1 photos").arg(numberForPeople(found)));
+        if (m_looks->allExamined()) {
+            parts << sizeForPeople(facets.bytes(), 0);
+        }
         if (m_searchMilliseconds > 0) {
             parts << durationForPeople(std::max<qint64>(1, m_searchMilliseconds / 1000));
         }

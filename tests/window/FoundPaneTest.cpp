@@ -89,6 +89,13 @@ class FoundPaneTest : public WindowTest {
                   aiff = QStringLiteral("AIFF00001.AIFF"), torn = QStringLiteral("WAV00002.WAV");
 };
 
+TEST_F(FoundPaneTest, TheSumIsThatOfTheFiles_OnceAllAreExamined) {
+    scan();
+    row({tr("By size")})->setExpanded(true);
+    EXPECT_TRUE(waitFor([this] { return controller->searchSumLabel->text().contains(QStringLiteral("kB")); }))
+        << controller->searchSumLabel->text().toStdString();
+}
+
 TEST_F(FoundPaneTest, GroupsAndTypesHaveCounts_AndNothingElseIsShown) {
     scan();
     EXPECT_EQ(textOf(row({tr("Photos")}), 1), QStringLiteral("1"));

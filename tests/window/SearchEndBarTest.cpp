@@ -62,6 +62,8 @@ TEST_F(SearchEndBar, ACompletedSearch_HasTheTick) {
     EXPECT_TRUE(controller->searchEndBar->isVisible());
     EXPECT_EQ(controller->searchEndLabel->text(), "The search has completed.");
     EXPECT_TRUE(isTick(controller->searchEndIcon));
+    EXPECT_TRUE(waitFor([this] { return controller->searchSumLabel->text().startsWith("3 photos"); }));
+    EXPECT_FALSE(controller->searchSumLabel->text().contains("B")) << "nobody looked how long they are";
     answers.press(QStringLiteral("Go Back Without Saving"));
     click(controller->backButton);
     EXPECT_FALSE(controller->searchEndBar->isVisible());

@@ -72,6 +72,8 @@ class BrowserLooks : public QObject {
     // Types, days and the like of all items, as far as they are known.
     const FoundFacets& facets() const { return m_facets; }
     // Every item was looked at and is whole.
+    // Until then the sum of their bytes is one of what was found, which ends where the next item begins.
+    bool allExamined() const { return m_board.known() >= m_items.count(); }
     bool allComplete() const { return m_facets.size() > 0 && m_facets.complete() == m_items.count(); }
     // Something of it is picked, or a name is searched for.
     bool isPicked() const { return !m_wish.facets.isEmpty() || !m_wish.name.isEmpty(); }
