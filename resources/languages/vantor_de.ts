@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Choose where found files go</source>
-        <translation>Wählen, wohin die gefundenen Dateien kommen</translation>
+        <translation>Wählen Sie, wohin die gefundenen Dateien kommen</translation>
     </message>
     <message>
         <source>In the next window, pick a folder on another disk, never on the medium you are recovering from: whatever is written there can overwrite the very files you want back.</source>
@@ -1178,7 +1178,7 @@ Der Endsektor muss größer als der Startsektor sein.</translation>
     </message>
     <message>
         <source>They are in %1, in a folder for each type.</source>
-        <translation>Sie liegen in %1, in je einem Ordner für jeden Typ.</translation>
+        <translation>Gespeichert in %1, mit einem Ordner für jeden Typ.</translation>
     </message>
     <message>
         <source>%1 could only be read in part; what could not be read is filled with zeros.</source>
@@ -2823,7 +2823,7 @@ Läuft auf %2.</translation>
     </message>
     <message>
         <source>Only named on the card</source>
-        <translation>Nur auf der Karte genannt</translation>
+        <translation>Nur auf der Karte</translation>
     </message>
     <message>
         <source>1 more file that only the card&apos;s directory tells of</source>

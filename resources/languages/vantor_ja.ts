@@ -2783,7 +2783,7 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     </message>
     <message>
         <source>By size</source>
-        <translation>サイズ順</translation>
+        <translation>サイズ別</translation>
     </message>
     <message>
         <source>No type</source>
@@ -3071,7 +3071,7 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation>%2 件中 %1</translation>
+        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>%1, without thumbnails</source>
@@ -3755,7 +3755,7 @@ Please select the required extension type for recovery process. Press ‘Next’
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation>%2 件中 %1</translation>
+        <translation>%1 / %2</translation>
     </message>
 </context>
 </TS>
