@@ -2186,6 +2186,14 @@ Läuft auf %2.</translation>
         <source>No picture: documents are drawn inside bubblewrap alone, which is not installed or may not run on this system.</source>
         <translation>Kein Bild: Dokumente werden nur innerhalb von bubblewrap gezeichnet, das nicht installiert ist oder auf diesem System nicht laufen darf.</translation>
     </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 gefunden</translation>
+    </message>
+    <message>
+        <source>%1 found: %2</source>
+        <translation>%1 gefunden: %2</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>

@@ -2158,6 +2158,14 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <source>No picture: documents are drawn inside bubblewrap alone, which is not installed or may not run on this system.</source>
         <translation>画像なし: 文書は bubblewrap の中でのみ描画されますが、インストールされていないか、このシステムでは動作しません。</translation>
     </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 件見つかりました</translation>
+    </message>
+    <message>
+        <source>%1 found: %2</source>
+        <translation>%1 件見つかりました: %2</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
