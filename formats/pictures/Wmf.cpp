@@ -1,22 +1,41 @@
-// Placeable Windows metafiles (WMF). Source: [MS-WMF].
-#include "formats/ToldLength.h"
+// Placeable Windows metafiles (WMF): record by record to the one that ends them, since writers differ in what
+// the told size counts. Source: [MS-WMF].
+#include "formats/Format.h"
 
 namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
-    {{0, "\xD7\xCD\xC6\x9A\0\0"_b}, {24, "\x09\0"_b}, 28, 4, Endian::Little, 12, 2, 22},
-};
+Extent walkWmf(ByteView& view) {
+    constexpr std::uint64_t kPlaceable = 22, kHeaderWords = 9, kLeastWords = 3, kEndOfFile = 0;
+    if (!view.matches(0, std::string_view("\xD7\xCD\xC6\x9A\0\0", 6)))
+        return unknownExtent();
+    const auto words = view.le16(kPlaceable + 2);
+    if (!words)
+        return cutOffAt(view, view.size());
+    if (*words != kHeaderWords)
+        return unknownExtent();
+    for (std::uint64_t at = kPlaceable + 2 * kHeaderWords;;) {
+        const auto size = view.le32(at);
+        const auto function = view.le16(at + 4);
+        if (!size || !function)
+            return cutOffAt(view, view.size());
+        if (*size < kLeastWords)
+            return damagedAt(view, at);
+        const auto end = at + 2 * std::uint64_t{*size};
+        if (*function == kEndOfFile)
+            return *size == kLeastWords ? completeAt(view, end) : damagedAt(view, at);
+        at = end;
+    }
+}
 
 }  // namespace
 
 extern constexpr Format kWmf = {
     .name = "WMF",
     .group = Group::Pictures,
-    .walk = walkToldLength<kForms>,
+    .walk = walkWmf,
     .extensions = " WMF ",
-    .mayNotTellEnd = true,
 };
 
 }  // namespace vantor

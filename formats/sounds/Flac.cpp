@@ -12,7 +12,7 @@ namespace {
 
 constexpr unsigned kStreamInfo = 0;  // type of the first metadata block, and of no other
 constexpr std::uint64_t kStreamInfoBytes = 34;
-constexpr unsigned kLastKnownType = 6;         // those above are reserved
+constexpr unsigned kForbiddenType = 127;  // of a block; 7 to 126 are reserved, and readers pass over them
 constexpr std::uint64_t kMostZeros = 1 << 20;  // of one coded sample; more is an empty medium
 
 // Bits from a view, most significant first, with the running checksums over the whole bytes taken so far.
@@ -227,7 +227,7 @@ Extent walkFlac(ByteView& view) {
         last = *head >> 31 != 0;
         const auto type = *head >> 24 & 0x7F, bytes = *head & 0xFFFFFF;
         const bool proper = at == first ? type == kStreamInfo && bytes == kStreamInfoBytes
-                                        : type != kStreamInfo && type <= kLastKnownType;
+                                        : type != kStreamInfo && type != kForbiddenType;
         if (!proper)
             return damagedAt(view, at);
         at += std::uint64_t{4} + bytes;
