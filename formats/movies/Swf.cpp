@@ -28,7 +28,7 @@ Extent walkTags(ByteView& view, std::uint64_t told) {
         if (at > told)
             return damagedAt(view, tag);
         if (*head == 0)
-            return at == told ? withContent(completeAt(view, told)) : completeAt(view, told);
+            return completeAt(view, told);
     }
     return completeAt(view, told);
 }

@@ -1,5 +1,5 @@
-// Placeable Windows metafiles (WMF): record by record to the one that ends them, since writers differ in what
-// the told size counts. Source: [MS-WMF].
+// Windows metafiles (WMF), placeable or not: record by record to the one that ends them, since writers differ
+// in what the told size counts. Source: [MS-WMF].
 #include "formats/Format.h"
 
 namespace vantor {
@@ -8,14 +8,14 @@ namespace {
 
 Extent walkWmf(ByteView& view) {
     constexpr std::uint64_t kPlaceable = 22, kHeaderWords = 9, kLeastWords = 3, kEndOfFile = 0;
-    if (!view.matches(0, std::string_view("\xD7\xCD\xC6\x9A\0\0", 6)))
-        return unknownExtent();
-    const auto words = view.le16(kPlaceable + 2);
+    const bool placeable = view.matches(0, std::string_view("\xD7\xCD\xC6\x9A\0\0", 6));
+    const std::uint64_t header = placeable ? kPlaceable : 0;
+    const auto kind = view.le16(header), words = view.le16(header + 2);
     if (!words)
-        return cutOffAt(view, view.size());
-    if (*words != kHeaderWords)
+        return placeable ? cutOffAt(view, view.size()) : unknownExtent();
+    if (*words != kHeaderWords || (!placeable && (kind != 1 || view.le16(4) != 0x300)))
         return unknownExtent();
-    for (std::uint64_t at = kPlaceable + 2 * kHeaderWords;;) {
+    for (std::uint64_t at = header + 2 * kHeaderWords;;) {
         const auto size = view.le32(at);
         const auto function = view.le16(at + 4);
         if (!size || !function)

@@ -2,6 +2,7 @@
 // of the same kind follow each other.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 
 #include "formats/AudioTags.h"
@@ -18,9 +19,15 @@ template <typename FrameBytes>
 Extent walkFrames(ByteView& view, std::uint64_t at, std::uint64_t proof, FrameBytes frameBytes) {
     std::uint64_t frames = 0;
     Extent none = unknownExtent();
-    none.end = at;
+    none.end = std::min(at, view.size());
     for (;; ++frames) {
-        const std::uint64_t bytes = frameBytes(at);
+        std::uint64_t bytes = frameBytes(at);
+        // Sounds that were joined keep their tags.
+        if (bytes == 0 && frames >= proof && !isSectorStart(at)) {
+            const auto behind = skipLeadingTag(view, at);
+            bytes = behind != at ? frameBytes(behind) : 0;
+            at = bytes != 0 ? behind : at;
+        }
         if (bytes == 0)
             break;
         if (bytes > view.size() - at)

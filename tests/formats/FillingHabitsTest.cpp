@@ -71,10 +71,8 @@ TEST(ZipHabits, UntoldSizeOfTheTypesName_IsPassed) {
 }
 
 // A metafile of three records, the last of which ends it, and whose header tells `words`.
-Bytes metafile(std::size_t words) {
-    return Build()
-        .le32(0x9AC6CDD7)
-        .fill(18)
+Bytes metafile(std::size_t words, bool placeable = true) {
+    return (placeable ? Build().le32(0x9AC6CDD7).fill(18) : Build())
         .le16(1)
         .le16(9)
         .le16(0x300)
@@ -96,6 +94,8 @@ TEST(MetafileHabits, SizeWithOrWithoutThePlaceableHeader_EndsAtTheLastRecord) {
         for (const Bytes& tail : {Bytes(), Bytes(3000, 0), noise(3000, 3)})
             expectEnd("WMF", Build().add(metafile(told)).add(tail), bytes);
     }
+    const Bytes bare = metafile(bytes, false);
+    expectEnd("WMF", Build().add(bare).add(noise(3000, 3)), bare.size());
     Bytes spoilt = metafile(bytes / 2);
     std::fill(spoilt.begin() + 40, spoilt.begin() + 44, 0);
     EXPECT_EQ(walkBytes("WMF", spoilt).verdict, Verdict::Damaged);
@@ -165,13 +165,51 @@ TEST(NumberArrayHabits, ShapesOfAnyKindAreCounted) {
     EXPECT_EQ(walkBytes("NPY", array("|O", "(3,)", 48)).verdict, Verdict::Unknown);
 }
 
+// A dictionary of no entries and a text, whose table stands at 10.
+TEST(PropertyListHabits, BinaryOnesEndBehindTheirTrailer) {
+    const Bytes file =
+        Build().text("bplist00").u8(0xD0).u8(0x50).u8(8).u8(9).fill(6).u8(1).u8(1).be64(2).be64(0).be64(10);
+    for (const Bytes& tail : {Bytes(), Bytes(3000, 0), noise(3000, 3)})
+        expectEnd("PLIST", Build().add(file).add(tail), file.size());
+    Bytes astray = file;
+    astray.back() = 11;
+    EXPECT_NE(walkBytes("PLIST", Build().add(astray).add(noise(3000, 3))).verdict, Verdict::Complete);
+}
+
+TEST(PdfHabits, WrongTableOfPlaces_EndsAtTheLastMark) {
+    const Bytes file = Build().text("%PDF-1.4\n1 0 obj\n<<>>\nendobj\ntrailer\n<<>>\nstartxref\n5\n%%EOF\n");
+    for (const Bytes& tail : {Bytes(3000, 0), noise(3000, 3)}) {
+        const Extent extent = walkBytes("PDF", Build().add(file).add(tail));
+        EXPECT_EQ(extent.verdict, Verdict::Damaged);
+        EXPECT_EQ(extent.end, file.size());
+        EXPECT_TRUE(extent.endFound);
+    }
+    // What goes on behind it shows that the file did not end there.
+    EXPECT_FALSE(walkBytes("PDF", Build().add(file).fill(900, 1).text("\nendobj\n").fill(900, 1)).endFound);
+}
+
+TEST(FrameHabits, TagsOfJoinedSounds_AreNoEnd) {
+    const auto frames = [](int count) {
+        Build out;
+        for (int i = 0; i < count; ++i)
+            out.be32(0xFFFB9064).fill(413, 3);
+        return out.bytes();
+    };
+    const Bytes tag = Build().text("ID3").u8(4).fill(5).u8(12).fill(12);
+    const Bytes file = Build().add(frames(4)).add(tag).add(frames(5));
+    expectEnd("MP3", Build().add(file).add(noise(3000, 4)), file.size());
+    // At a sector's start the tag is the next file's.
+    const Bytes alone = frames(4);
+    ASSERT_NE(alone.size() % 512, 0U);
+    expectEnd("MP3", Build().add(alone).to(2048).add(tag).add(frames(5)), alone.size());
+}
+
 TEST(FlashHabits, TagsAreFollowedToTheEndMark) {
     Build tags;
     tags.u8(0).le16(12 << 8).le16(1);
     tags.le16(9 << 6 | 3).fill(3, 0x40).le16(2 << 6 | 63).le32(80).fill(80, 2).le16(1 << 6).le16(0);
     const Bytes file = Build().text("FWS").u8(6).le32(tags.size() + 8).add(tags);
     expectEnd("SWF", Build().add(file).add(noise(3000, 4)), file.size());
-    EXPECT_TRUE(walkBytes("SWF", file).checked);
     // A mark of three letters that noise holds is no movie.
     int movies = 0;
     for (std::uint32_t seed = 0; seed < 200; ++seed)

@@ -69,6 +69,16 @@ std::vector<Sample> toldLengthSamples() {
          grown(10 + 57 + 48, {{0, text("\x93NUMPY\1")},
                               {8, {57, 0}},
                               {10, text("{'descr': '<f8', 'fortran_order': False, 'shape': (3, 2)}")}})},
+        {"PLIST", Build()
+                      .text("bplist00")
+                      .be16(0x5051)
+                      .u8(0x61)
+                      .be16(0x0809)
+                      .fill(6)
+                      .be16(0x0101)
+                      .be64(2)
+                      .be64(0)
+                      .be64(11)},
         {"JT",
          grown(
              192,
