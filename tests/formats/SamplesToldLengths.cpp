@@ -82,7 +82,7 @@ std::vector<Sample> toldLengthSamples() {
         {"JT",
          grown(
              192,
-             {{0, text("Version 9.5")}, {85, le32(160)}, {160, le32(1)}, {180, le32(100)}, {184, le32(60)}})},
+             {{0, text("Version 9.5")}, {85, le32(100)}, {100, le32(1)}, {120, le32(132)}, {124, le32(60)}})},
         {"SIT", grown(70, {{0, text("SIT!")}, {6, be32(70)}, {10, text("rLau")}})},
         {"PF", grown(100, {{0, le32(17)}, {4, text("SCCA")}, {12, le32(100)}})},
         {"MPQ", grown(70, {{0, text("MPQ\x1A")}, {4, le32(32)}, {8, le32(70)}})},
