@@ -96,6 +96,11 @@ TEST(MetafileHabits, SizeWithOrWithoutThePlaceableHeader_EndsAtTheLastRecord) {
     }
     const Bytes bare = metafile(bytes, false);
     expectEnd("WMF", Build().add(bare).add(noise(3000, 3)), bare.size());
+    // A word of padding that is counted, and an office suite's mark that is not.
+    const Bytes padded = Build().add(metafile((bytes - 22) / 2 + 1)).fill(2);
+    const Bytes marked = Build().add(metafile((bytes - 22) / 2)).text("NANI").fill(4);
+    for (const Bytes& file : {padded, marked})
+        expectEnd("WMF", Build().add(file).add(noise(3000, 3)), file.size());
     Bytes spoilt = metafile(bytes / 2);
     std::fill(spoilt.begin() + 40, spoilt.begin() + 44, 0);
     EXPECT_EQ(walkBytes("WMF", spoilt).verdict, Verdict::Damaged);
