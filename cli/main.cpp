@@ -4,6 +4,7 @@
 
 #include "cli/Options.h"
 #include "cli/Recovery.h"
+#include "decode/EvidenceHelper.h"
 #include "media/PathArgument.h"
 
 int main(int argc, char** argv) {
@@ -14,5 +15,6 @@ int main(int argc, char** argv) {
                      qPrintable(vantor::withShownPaths(parsed.message)));
         return *parsed.exitCode;
     }
+    vantor::readEvidenceInHelpers();
     return vantor::recover(parsed.options);
 }

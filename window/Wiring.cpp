@@ -102,7 +102,7 @@ void MyTableController::wireButtons() {
     connect(openImageButton, &QPushButton::clicked, this, [this] {
         const QStringList files = QFileDialog::getOpenFileNames(
             window, tr("Open an image file of a medium"), rememberedFolder(kLastImages),
-            tr("Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima);;All files (*)"));
+            tr("Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;All files (*)"));
         if (!files.isEmpty()) {
             rememberFolder(kLastImages, QFileInfo(files.constFirst()).absolutePath());
         }
