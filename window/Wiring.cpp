@@ -57,8 +57,10 @@ void MyTableController::wire() {
     connect(allTypesButton, &QPushButton::clicked, idSigTableView, &QTableView::clearSelection);
     connect(_zoom_slider, &QSlider::valueChanged, this, [this] { zoomSliderDidChange(_zoom_slider); });
     for (ImageBrowserView* browser : {imageBrowser, imageBrowser_2}) {
-        connect(browser, &ImageBrowserView::selectionDidChange, this,
-                [this, browser] { selectionMoved(browser); });
+        connect(browser, &ImageBrowserView::selectionDidChange, this, [this, browser] {
+            selectionMoved(browser);
+            keepMarksSoon();
+        });
         connect(browser, &ImageBrowserView::openWanted, this, &MyTableController::openInViewer);
         connect(
             browser, &ImageBrowserView::menuWanted, this,
