@@ -5,6 +5,7 @@
 #include <QFrame>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <chrono>
 
 #include "media/MediumTargets.h"
 #include "results/RecoveryMode.h"
@@ -17,6 +18,12 @@
 #include "window/widgets/Sheet.h"
 
 namespace vantor {
+
+namespace {
+
+constexpr std::chrono::milliseconds kLookForCardAgain{250};
+
+}  // namespace
 
 void MyTableController::setUpKeeping() {
     m_memory = std::make_unique<SearchMemory>(m_parts.stateFolder);
@@ -53,6 +60,9 @@ void MyTableController::setUpKeeping() {
         QWidget::setTabOrder(first, second);
     }
     connect(m_goOnButton, &QPushButton::clicked, this, &MyTableController::goOn);
+    m_cardBackLater.setSingleShot(true);
+    m_cardBackLater.setInterval(kLookForCardAgain);
+    connect(&m_cardBackLater, &QTimer::timeout, this, &MyTableController::goOnWithCardPutBack);
     connect(m_keptBar->goOnButton, &QPushButton::clicked, this, [this] { goOnWithKept(false); });
     connect(m_keptBar->lookButton, &QPushButton::clicked, this, [this] { goOnWithKept(true); });
     connect(m_keptBar->forgetButton, &QPushButton::clicked, this, [this] {
@@ -219,11 +229,16 @@ void MyTableController::goOn() {
 }
 
 // The card is back that was taken out in the middle of a search: it goes on by itself, and nothing is said of
-// any other card.
+// any other card. What the user has before him is finished first, such as the alert that the card is gone.
 void MyTableController::goOnWithCardPutBack() {
-    const bool waits = onScanScreen() && searchEnd().mediumGone && searchEnd().canGoOn();
-    if (!waits || scanShown() || session || m_desk->isRunning() || AskingTurn::isTaken() ||
-        !m_memory->keeper()) {
+    if (m_ending || !onScanScreen() || !m_memory->keeper()) {
+        return;
+    }
+    if (scanShown() || session || m_desk->isRunning() || AskingTurn::isTaken()) {
+        m_cardBackLater.start();
+        return;
+    }
+    if (!searchEnd().mediumGone || !searchEnd().canGoOn()) {
         return;
     }
     SearchRecord record = m_memory->keeper()->record(refusals());
