@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QObject>
 
 #include "results/SizeForPeople.h"
 
@@ -45,7 +46,7 @@ bool takesFileOf(const QString& folder, std::uint64_t bytes) {
 
 std::optional<QString> refuseForSpace(const QString& folder, std::uint64_t bytes) {
     if (!takesFileOf(folder, bytes)) {
-        return QStringLiteral(
+        return QObject::tr(
                    "%1 lies on a FAT file system, which takes no file of 4 GiB or more, and %2 are needed")
             .arg(folder, sizeForPeople(bytes));
     }
@@ -54,7 +55,7 @@ std::optional<QString> refuseForSpace(const QString& folder, std::uint64_t bytes
         return std::nullopt;
     }
     const auto text = [](std::uint64_t n) { return sizeForPeople(n); };
-    return QStringLiteral("There is not enough room in %1: %2 are needed, %3 are free")
+    return QObject::tr("There is not enough room in %1: %2 are needed, %3 are free")
         .arg(folder, text(bytes), text(*free));
 }
 
