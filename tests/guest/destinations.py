@@ -2,7 +2,7 @@
 """In the guest: saving into FAT32, exFAT, NTFS and a full quota, onto disks that fail, go, or turn read-only in
 mid-run. card0 is searched, card1 is the disk for the destinations, card2 (5 GiB) holds a movie of more than 4 GiB.
 
-Environment: SECTORS (card0), DISK_SECTORS (card1), BIG_SECTORS (card2), MOMENTS."""
+Environment: SECTORS (card0), DISK_SECTORS (card1), BIG_SECTORS (card2), MOMENTS, MODE, RANGE of the card."""
 import random
 from proof import *
 
@@ -13,6 +13,9 @@ WHAT = os.environ.get("WHAT", "plain,big,full,quota,error,unmounted,readonly").s
 truth = Truth(SHARE + "/truth.json")
 PLACE = "/mnt/place"
 complaints = 0
+
+
+QUOTA = int(os.environ.get("QUOTA", "6000"))  # KiB
 
 
 def shell(command, check=True):
@@ -37,8 +40,9 @@ def unmount(lazily=False):
     shell("umount %s %s" % ("-l" if lazily else "", PLACE), check=lazily)
 
 
-def save(*more, mode="rawfile", node=None, folder=PLACE + "/out"):
-    return Run("--mode", mode, "--save", folder, "--report", *more, node or disk(SECTORS))
+def save(*more, mode=os.environ.get("MODE", "rawfile"), node=None, folder=PLACE + "/out"):
+    range_ = [] if "--range" in more else ["--range", os.environ.get("RANGE", "0:%d" % SECTORS)]
+    return Run("--mode", mode, "--save", folder, "--report", *range_, *more, node or disk(SECTORS))
 
 
 def tell(name, run, code, wrong, folder=PLACE + "/out"):
@@ -97,7 +101,8 @@ if "big" in WHAT:
     unmount()
 
 if "full" in WHAT:
-    for kind, room in (("ext4", 4 << 20), ("fat32", 4 << 20)):
+    room = int(os.environ.get("ROOM", 4 << 20))
+    for kind in ("ext4", "fat32"):
         formatted(kind, node)
         free = os.statvfs(PLACE)
         fill = free.f_bavail * free.f_frsize - room
@@ -111,11 +116,11 @@ if "full" in WHAT:
 
 if "quota" in WHAT:
     shell("mkfs.ext4 -q -F -O quota %s; mkdir -p %s; mount -o usrquota %s %s" % (node, PLACE, node, PLACE))
-    shell("setquota -u user 6000 6000 0 0 %s; mkdir %s/out; chown user %s/out; chmod 644 %s; chmod 755 /root" % (
-        PLACE, PLACE, PLACE, disk(SECTORS)))
+    shell("setquota -u user %d %d 0 0 %s; mkdir %s/out; chown user %s/out; chmod 644 %s; chmod 755 /root" % (
+        QUOTA, QUOTA, PLACE, PLACE, PLACE, disk(SECTORS)))
     shell("chmod 644 " + disk(SECTORS))
-    run = Run("--mode", "rawfile", "--save", PLACE + "/out", "--report", disk(SECTORS),
-              prefix=["setpriv", "--reuid=1000", "--regid=1000", "--clear-groups"])
+    run = Run("--mode", "rawfile", "--save", PLACE + "/out", "--report", "--range",
+              os.environ.get("RANGE", "0:%d" % SECTORS), disk(SECTORS), prefix=["setpriv", "--reuid=1000", "--regid=1000", "--clear-groups"])
     code = run.wait(400)
     have = {hashlib.sha256(c).hexdigest() for c in saved_files(PLACE + "/out").values()}
     wrong = [] if code == 6 and have <= SUMS and have else ["code %s, %d others of %d" % (code, len(have - SUMS), len(have))]
