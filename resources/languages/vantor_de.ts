@@ -36,6 +36,25 @@
     </message>
 </context>
 <context>
+    <name>EvidenceImage</name>
+    <message>
+        <source>Evidence images cannot be read here</source>
+        <translation>Beweisabbilder können hier nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Evidence images are only read shut in, which this system does not allow</source>
+        <translation>Beweisabbilder werden nur eingesperrt gelesen, was dieses System nicht zulässt</translation>
+    </message>
+    <message>
+        <source>The part of the program that reads evidence images does not start</source>
+        <translation>Der Programmteil, der Beweisabbilder liest, startet nicht</translation>
+    </message>
+    <message>
+        <source>The evidence image is damaged or of a kind that cannot be read</source>
+        <translation>Das Beweisabbild ist beschädigt oder von einer Art, die sich nicht lesen lässt</translation>
+    </message>
+</context>
+<context>
     <name>FileTypeScreen</name>
     <message>
         <source>File types to search for</source>
@@ -706,10 +725,6 @@ Bitte wählen Sie mindestens einen Dateityp aus.</translation>
     <message>
         <source>Please convert it to a raw image first (for example with “qemu-img convert -O raw”) and open that.</source>
         <translation>Bitte wandeln Sie es zuerst in ein rohes Abbild um (zum Beispiel mit „qemu-img convert -O raw“) und öffnen Sie dieses.</translation>
-    </message>
-    <message>
-        <source>Please export it as a raw (dd) image first and open that.</source>
-        <translation>Bitte exportieren Sie es zuerst als rohes Abbild (dd) und öffnen Sie dieses.</translation>
     </message>
     <message>
         <source>Please convert it to a raw image first and open that.</source>
@@ -2197,6 +2212,14 @@ Läuft auf %2.</translation>
     <message>
         <source>%1 found: %2</source>
         <translation>%1 gefunden: %2</translation>
+    </message>
+    <message>
+        <source>Please export it as a raw (dd) or E01 image first and open that.</source>
+        <translation>Bitte exportieren Sie es zuerst als rohes Abbild (dd) oder als E01-Abbild und öffnen Sie dieses.</translation>
+    </message>
+    <message>
+        <source>It holds single files rather than a storage medium. Please open an image of the medium.</source>
+        <translation>Es enthält einzelne Dateien statt eines Speichermediums. Bitte öffnen Sie ein Abbild des Mediums.</translation>
     </message>
 </context>
 <context>
@@ -3691,8 +3714,8 @@ Bitte wählen Sie die Dateitypen für die Wiederherstellung aus. Mit ‚Weiter�
         <translation>Die Abbilddatei eines Mediums öffnen</translation>
     </message>
     <message>
-        <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima);;All files (*)</source>
-        <translation>Abbilder von Medien (*.img *.dd *.raw *.bin *.iso *.image *.ima);;Alle Dateien (*)</translation>
+        <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;All files (*)</source>
+        <translation>Abbilder von Medien (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;Alle Dateien (*)</translation>
     </message>
 </context>
 <context>
