@@ -144,14 +144,17 @@ class ControllerState {
     qint64 m_lastLookAtCard = 0;     // milliseconds of the search
     bool m_goOnWhenStopped = false;  // the user wants a copy of what is searched
     std::shared_ptr<std::atomic<bool>> m_leaving = std::make_shared<std::atomic<bool>>(false);
-    std::unique_ptr<SearchMemory> m_memory;
+    std::unique_ptr<SearchMemory> m_searchMemory;
     KeptSearchBar* m_keptBar = nullptr;
     QFrame* m_searchOptions = nullptr;
     KeepingBox* m_keepingBox = nullptr;
     QPushButton* m_goOnButton = nullptr;
-    std::optional<SearchRecord> m_goingOn;     // what the search that is about to begin goes on with
-    bool m_onlyLook = false;                   // and that it ends where that one did
-    std::vector<std::uint64_t> m_savedBefore;  // ascending places of items that are not listed yet
+    QTimer m_cardBackLater;                 // runs while something holds up the look for a card put back
+    std::optional<SearchRecord> m_goingOn;  // what the search that is about to begin goes on with
+    bool m_onlyLook = false;                // and that it ends where that one did
+    // Ascending places of items that are not listed yet.
+    std::vector<std::uint64_t> m_savedBefore, m_tickedBefore, m_selectedBefore;
+    QTimer m_marksChanged;
 
     // Set when the user chooses the destination.
     QString m_chosenFolder;

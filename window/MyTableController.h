@@ -151,6 +151,7 @@ class MyTableController : public QObject,
     PhotoBytes photoBytesNeeded() const override {
         return m_parts.thumbnailer ? PhotoBytes::Picture : PhotoBytes::First;
     }
+    bool pictureIsKnown() const override;
     qsizetype numberOfItemsInImageBrowser(const ImageBrowserView* view) override;
     std::shared_ptr<MyImageObject> imageBrowser_itemAtIndex(const ImageBrowserView* view,
                                                             qsizetype index) override;
@@ -337,9 +338,11 @@ class MyTableController : public QObject,
     void showKeeping();
     void keepThisSearch();
     void keepSearchEnd();
+    void keepMarksSoon();
     void keepMarks();
+    SearchRecord recordOfNow();
     void writeKeptSearch();
-    void markSavedBefore();
+    void markAsBefore();
     void goOn();
     void goOnWithCardPutBack();
     void goOnWith(SearchRecord record);
