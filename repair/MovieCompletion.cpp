@@ -21,7 +21,7 @@ bool isWhole(const PiecedMovie& movie) {
 }
 
 // The best that was found of one movie so far.
-struct Found {
+struct FoundMovie {
     PiecedMovie movie;
     std::size_t grid = 0;
     bool settled = false;
@@ -50,8 +50,8 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
             grids.back().take(run);
         }
     }
-    std::vector<std::optional<Found>> found(broken.size());
-    const auto settle = [&](std::size_t i, Found& movie) {
+    std::vector<std::optional<FoundMovie>> found(broken.size());
+    const auto settle = [&](std::size_t i, FoundMovie& movie) {
         movie.settled = true;
         const std::vector<SectorRun> runs =
             runsOfClusters(movie.movie.clusters, movie.movie.bytes, grids[movie.grid]);
@@ -80,7 +80,7 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
                 if (!movie || (found[i] && movie->wholeSamples <= found[i]->movie.wholeSamples)) {
                     continue;
                 }
-                found[i] = Found{std::move(*movie), g, false};
+                found[i] = FoundMovie{std::move(*movie), g, false};
                 if (isWhole(found[i]->movie)) {
                     settle(i, *found[i]);
                     again = true;

@@ -13,7 +13,7 @@ namespace vantor {
 
 namespace {
 
-struct Found {
+struct FoundPhoto {
     std::vector<std::uint64_t> clusters;
     std::uint64_t bytes = 0;
     bool proved = false;
@@ -77,12 +77,12 @@ std::vector<std::optional<Assembly>> PhotoCompletion::run(std::span<const std::u
                 if (!first || !grid.isFree(*first) || unitsLeft[i] == 0) {
                     continue;
                 }
-                std::optional<Found> found;
+                std::optional<FoundPhoto> found;
                 if (auto photo = PhotoPieces(blocks, grid, kinds, m_stop).assemble(*first, unitsLeft[i])) {
                     const bool proved = photo->joinsShow && isWholeFile(blocks, grid, *photo);
-                    found = Found{std::move(photo->clusters), photo->bytes, proved};
+                    found = FoundPhoto{std::move(photo->clusters), photo->bytes, proved};
                 } else if (auto png = PngPieces(blocks, grid, m_stop).assemble(*first)) {
-                    found = Found{std::move(png->clusters), png->bytes, true};
+                    found = FoundPhoto{std::move(png->clusters), png->bytes, true};
                 }
                 if (!found) {
                     continue;

@@ -13,7 +13,7 @@ namespace vantor {
 
 namespace {
 
-constexpr std::size_t kChunkBytes = 1024 * 1024;
+constexpr std::size_t kTwinChunkBytes = 1024 * 1024;
 
 bool isUnwanted(const std::atomic<int>* unwanted) {
     return unwanted != nullptr && *unwanted != 0;
@@ -21,10 +21,10 @@ bool isUnwanted(const std::atomic<int>* unwanted) {
 
 // False when the medium gave less than the movie holds.
 bool copyData(const DataPlace& data, MediumBytes& movie, WholeFile& file, const std::atomic<int>* unwanted) {
-    std::vector<std::uint8_t> chunk(kChunkBytes);
+    std::vector<std::uint8_t> chunk(kTwinChunkBytes);
     std::uint64_t at = data.from;
     while (at < data.to && file.isGood() && !isUnwanted(unwanted)) {
-        const auto wanted = static_cast<std::size_t>(std::min<std::uint64_t>(kChunkBytes, data.to - at));
+        const auto wanted = static_cast<std::size_t>(std::min<std::uint64_t>(kTwinChunkBytes, data.to - at));
         const std::size_t arrived = movie.readPast(at, std::span(chunk).first(wanted));
         if (arrived == 0) {
             return false;
