@@ -1,6 +1,7 @@
 // The copying thread, and the one that brings its work to the disk.
 #include "media/MediumCopy.h"
 
+#include <QObject>
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
@@ -13,8 +14,9 @@ namespace vantor {
 
 namespace {
 
-// So much of a copy is lost at most with the power.
-constexpr auto kKeepTime = std::chrono::seconds(10);
+// With the power no more of a copy is to be lost than ten seconds of it, and a slow disk takes its time to
+// keep it.
+constexpr auto kKeepTime = std::chrono::seconds(5);
 constexpr std::uint64_t kComparedSectors = MediumMemory::kMostSectors;
 
 // What was copied stays.
@@ -130,7 +132,7 @@ void MediumCopy::openNow(std::unique_lock<std::mutex>& lock) {
     m_openWanted = false;
     m_otherMedium = !fits;
     if (!fits) {
-        m_trouble = QStringLiteral("“%1” is a copy of another medium.").arg(m_file->imagePath());
+        m_trouble = QObject::tr("“%1” is a copy of another medium.").arg(m_file->imagePath());
         m_state = CopyProgress::State::OtherMedium;
     } else if (medium) {
         m_state = m_cannotWrite ? CopyProgress::State::CannotWrite : CopyProgress::State::Resting;
@@ -245,7 +247,7 @@ bool MediumCopy::takeStep(std::unique_lock<std::mutex>& lock) {
 void MediumCopy::cannotWrite(const QString& words) {
     m_cannotWrite = true;
     m_state = CopyProgress::State::CannotWrite;
-    m_trouble = QStringLiteral("The copy “%1” ends here: %2. What it does not hold is read from the medium.")
+    m_trouble = QObject::tr("The copy “%1” ends here: %2. What it does not hold is read from the medium.")
                     .arg(m_file->imagePath(), words);
     m_answer.notify_all();
 }
@@ -255,8 +257,9 @@ void MediumCopy::cannotWrite(const QString& words) {
 void MediumCopy::runKeeper() {
     std::unique_lock lock(m_mutex);
     while (!m_quit) {
-        m_keeping.wait_for(lock, kKeepTime, [this] { return m_quit.load(); });
+        const auto next = std::chrono::steady_clock::now() + kKeepTime;
         keepNow(lock);
+        m_keeping.wait_until(lock, next, [this] { return m_quit.load(); });
     }
 }
 

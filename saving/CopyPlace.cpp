@@ -1,14 +1,13 @@
 // Asks the file system below the copy.
 #include "saving/CopyPlace.h"
 
-#include <linux/magic.h>
 #include <sys/stat.h>
-#include <sys/vfs.h>
 #include <unistd.h>
 
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QObject>
 #include <QTemporaryFile>
 
 #include "media/SectorReader.h"
@@ -21,17 +20,11 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kMostOnFat = 0xFFFFFFFF;  // bytes of one file
 constexpr qsizetype kTrialBytes = 4 * 1024 * 1024;
 constexpr double kUsualSpeed = 20e6;  // bytes a second, of a slow card
 
 QString folderOf(const QString& imagePath) {
     return QFileInfo(imagePath).absolutePath();
-}
-
-bool isOnFat(const QString& folder) {
-    struct statfs info {};
-    return ::statfs(QFile::encodeName(folder).constData(), &info) == 0 && info.f_type == MSDOS_SUPER_MAGIC;
 }
 
 // Bytes a second; nothing when that cannot be tried.
@@ -58,7 +51,7 @@ std::optional<QString> refuseCopyPlace(const QString& imagePath, const QString& 
     const bool isMedium = ::stat(QFile::encodeName(imagePath).constData(), &image) == 0 &&
                           storageOfMedium(mediumPath).files.contains({image.st_dev, image.st_ino});
     if (isMedium || destinationIsOnMedium(folder, mediumPath)) {
-        return QStringLiteral(
+        return QObject::tr(
                    "“%1” lies on the medium that is to be copied; writing there would overwrite what is "
                    "still "
                    "to be found. Choose a place on another disk.")
@@ -80,13 +73,13 @@ QStringList warnOfCopyPlace(const QString& imagePath, std::uint64_t sectors) {
     const std::uint64_t bytes = sectors * kSectorBytes;
     const std::uint64_t needed = bytesForCopy(imagePath, sectors);
     QStringList warnings;
-    if (const auto space = refuseForSpace(folder, needed)) {
-        warnings << *space + QStringLiteral(". The copy will end there; the search goes on from the medium.");
-    }
-    if (bytes > kMostOnFat && isOnFat(folder)) {
-        warnings << QStringLiteral(
+    if (!takesFileOf(folder, bytes)) {
+        warnings << QObject::tr(
             "Files on this disk can have 4 GB at most. The copy will end there; the search goes on from the "
             "medium.");
+    } else if (const auto space = refuseForSpace(folder, needed)) {
+        warnings
+            << QObject::tr("%1. The copy will end there; the search goes on from the medium.").arg(*space);
     }
     const auto speed = warnings.isEmpty() ? writingSpeed(folder) : std::nullopt;
     if (const auto slow = speed ? warnOfCopySpeed(*speed, needed) : std::nullopt) {
@@ -103,7 +96,7 @@ std::optional<QString> warnOfCopySpeed(double bytesPerSecond, std::uint64_t byte
     if (minutes < kMinutesWorthTelling) {
         return std::nullopt;
     }
-    return QStringLiteral("The disk of the copy takes only %1 a second: a whole copy takes about %2 minutes.")
+    return QObject::tr("The disk of the copy takes only %1 a second: a whole copy takes about %2 minutes.")
         .arg(sizeForPeople(static_cast<std::uint64_t>(bytesPerSecond)), numberForPeople(minutes));
 }
 
