@@ -36,6 +36,25 @@
     </message>
 </context>
 <context>
+    <name>EvidenceImage</name>
+    <message>
+        <source>Evidence images cannot be read here</source>
+        <translation>Beweismittelabbilder können hier nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Evidence images are only read shut in, which this system does not allow</source>
+        <translation>Beweismittelabbilder werden nur abgeschottet gelesen, was dieses System nicht zulässt</translation>
+    </message>
+    <message>
+        <source>The part of the program that reads evidence images does not start</source>
+        <translation>Der Programmteil, der Beweismittelabbilder liest, startet nicht</translation>
+    </message>
+    <message>
+        <source>The evidence image is damaged or of a kind that cannot be read</source>
+        <translation>Das Beweismittelabbild ist beschädigt oder von einer Art, die nicht gelesen werden kann</translation>
+    </message>
+</context>
+<context>
     <name>FileTypeScreen</name>
     <message>
         <source>File types to search for</source>
@@ -706,10 +725,6 @@ Bitte wählen Sie mindestens einen Dateityp aus.</translation>
     <message>
         <source>Please convert it to a raw image first (for example with “qemu-img convert -O raw”) and open that.</source>
         <translation>Bitte wandeln Sie es zuerst in ein rohes Abbild um (zum Beispiel mit „qemu-img convert -O raw“) und öffnen Sie dieses.</translation>
-    </message>
-    <message>
-        <source>Please export it as a raw (dd) image first and open that.</source>
-        <translation>Bitte exportieren Sie es zuerst als rohes Abbild (dd) und öffnen Sie dieses.</translation>
     </message>
     <message>
         <source>Please convert it to a raw image first and open that.</source>
@@ -2189,6 +2204,14 @@ Läuft auf %2.</translation>
     <message>
         <source>No picture: documents are drawn inside bubblewrap alone, which is not installed or may not run on this system.</source>
         <translation>Kein Bild: Dokumente werden nur innerhalb von bubblewrap gezeichnet, das nicht installiert ist oder auf diesem System nicht laufen darf.</translation>
+    </message>
+    <message>
+        <source>Please export it as a raw (dd) or E01 image first and open that.</source>
+        <translation>Bitte exportieren Sie es zuerst als rohes Abbild (dd) oder als E01 und öffnen Sie dieses.</translation>
+    </message>
+    <message>
+        <source>It holds single files rather than a storage medium. Please open an image of the medium.</source>
+        <translation>Es enthält einzelne Dateien und kein Speichermedium. Bitte öffnen Sie ein Abbild des Mediums.</translation>
     </message>
 </context>
 <context>
@@ -3683,8 +3706,8 @@ Bitte wählen Sie die Dateitypen für die Wiederherstellung aus. Mit ‚Weiter�
         <translation>Die Abbilddatei eines Mediums öffnen</translation>
     </message>
     <message>
-        <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima);;All files (*)</source>
-        <translation>Abbilder von Medien (*.img *.dd *.raw *.bin *.iso *.image *.ima);;Alle Dateien (*)</translation>
+        <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;All files (*)</source>
+        <translation>Abbilder von Medien (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;Alle Dateien (*)</translation>
     </message>
 </context>
 <context>
