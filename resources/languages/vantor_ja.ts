@@ -767,7 +767,7 @@ End Sector should be greater than Start Sector.</source>
 終了セクターは開始セクターより大きくしてください。</translation>
     </message>
     <message>
-        <source>This card reads as erased: beside its file system&apos;s own sectors, all places looked at are empty. Some cameras and programs erase the whole card when they format it, and then nothing can be found.</source>
+        <source>This card reads as erased: beside its file system's own sectors, all places looked at are empty. Some cameras and programs erase the whole card when they format it, and then nothing can be found.</source>
         <translation>このカードは消去済みのように読み取られます。ファイルシステム自身のセクターを除き、調べた場所はすべて空です。フォーマットの際にカード全体を消去するカメラやプログラムがあり、その場合は何も見つかりません。</translation>
     </message>
     <message>
@@ -1537,7 +1537,7 @@ Error in storage media reading.</source>
         <translation>メディアを開けません。</translation>
     </message>
     <message>
-        <source>The medium&apos;s directories could not be read.</source>
+        <source>The medium's directories could not be read.</source>
         <translation>メディアのディレクトリーを読み取れませんでした。</translation>
     </message>
     <message>
@@ -1657,7 +1657,7 @@ Try --help.</source>
         <translation>このコンピューターのストレージメディアを出力し（--list-json と併用で JSON）、検索はしません。</translation>
     </message>
     <message>
-        <source>Print what the medium&apos;s own directories tell of its files, those that are there and those that were, as one JSON object each, and search nothing.</source>
+        <source>Print what the medium's own directories tell of its files, those that are there and those that were, as one JSON object each, and search nothing.</source>
         <translation>メディア自身のディレクトリーが示すファイル（現存するものと以前あったもの）をそれぞれ JSON オブジェクトとして出力し、検索はしません。</translation>
     </message>
     <message>
@@ -1669,15 +1669,15 @@ Try --help.</source>
         <translation>問題が起きたときだけ表示し、進行状況も表示しません。</translation>
     </message>
     <message>
-        <source>Speak this language (en, de, fr, es, it, pt_BR, nl, pl, ja or zh_CN) in place of the desktop&apos;s; with --list-json it is English always.</source>
+        <source>Speak this language (en, de, fr, es, it, pt_BR, nl, pl, ja or zh_CN) in place of the desktop's; with --list-json it is English always.</source>
         <translation>デスクトップの言語の代わりにこの言語を使います (en、de、fr、es、it、pt_BR、nl、pl、ja、zh_CN)。--list-json では常に英語です。</translation>
     </message>
     <message>
-        <source>An image file, a device&apos;s identifier (sdb1) or its path (/dev/sdb1).</source>
+        <source>An image file, a device's identifier (sdb1) or its path (/dev/sdb1).</source>
         <translation>イメージファイル、デバイスの識別子 (sdb1)、またはそのパス (/dev/sdb1)。</translation>
     </message>
     <message>
-        <source>Unknown mode &quot;%1&quot;.</source>
+        <source>Unknown mode "%1".</source>
         <translation>不明なモード「%1」。</translation>
     </message>
     <message>
@@ -1765,15 +1765,15 @@ Try --help.</source>
         <translation>見つかった各項目のセクターを、一覧のとおり過不足なく保存します。</translation>
     </message>
     <message>
-        <source>Write &quot;Recovery report.html&quot; and &quot;Recovery report.csv&quot; beside the saved files.</source>
-        <translation>保存したファイルの隣に &quot;Recovery report.html&quot; と &quot;Recovery report.csv&quot; を書き出します。</translation>
+        <source>Write "Recovery report.html" and "Recovery report.csv" beside the saved files.</source>
+        <translation>保存したファイルの隣に "Recovery report.html" と "Recovery report.csv" を書き出します。</translation>
     </message>
     <message>
-        <source>original (default): save under the names that the card&apos;s directory still tells, where it does; found: under the listed names.</source>
+        <source>original (default): save under the names that the card's directory still tells, where it does; found: under the listed names.</source>
         <translation>original（既定）: カードのディレクトリーに残る名前があればその名前で保存。found: 一覧の名前で保存。</translation>
     </message>
     <message>
-        <source>card (default): save in the folders that the card&apos;s directory still tells, and what it does not tell in DIR/&lt;type&gt;; type: all in DIR/&lt;type&gt;; date: as DIR/&lt;type&gt;/&lt;date&gt;/&lt;date and time&gt; &lt;name&gt; where a date is known.</source>
+        <source>card (default): save in the folders that the card's directory still tells, and what it does not tell in DIR/&lt;type&gt;; type: all in DIR/&lt;type&gt;; date: as DIR/&lt;type&gt;/&lt;date&gt;/&lt;date and time&gt; &lt;name&gt; where a date is known.</source>
         <translation>card（既定）: カードのディレクトリーに残るフォルダーに保存し、残っていないものは DIR/&lt;種類&gt; に。type: すべて DIR/&lt;種類&gt; に。date: 日付がわかるものは DIR/&lt;種類&gt;/&lt;日付&gt;/&lt;日付と時刻&gt; &lt;名前&gt; に。</translation>
     </message>
     <message>
@@ -1801,16 +1801,16 @@ Try --help.</source>
         <translation>明らかにその種類のファイルでないものは保存しません。</translation>
     </message>
     <message>
-        <source>Save parts of files too, such as a picture&apos;s preview or a member of an archive: what lies wholly inside a file that was proved complete, and is left out else.</source>
+        <source>Save parts of files too, such as a picture's preview or a member of an archive: what lies wholly inside a file that was proved complete, and is left out else.</source>
         <translation>写真の中のプレビューやアーカイブの中身など、ファイルの一部も保存します。完全と確認されたファイルの中にすべて含まれるもので、通常は除外されます。</translation>
     </message>
     <message>
-        <source>Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
-        <translation>断片に分かれた MP4 と QuickTime の動画、JPEG と PNG の画像を組み立て、&quot;... complete.MP4&quot;、またはすべての断片が正しいと証明できない場合は &quot;... put together.MP4&quot; として保存します。</translation>
+        <source>Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as "... complete.MP4", or as "... put together.MP4" where it could not be proved that all pieces are the right ones.</source>
+        <translation>断片に分かれた MP4 と QuickTime の動画、JPEG と PNG の画像を組み立て、"... complete.MP4"、またはすべての断片が正しいと証明できない場合は "... put together.MP4" として保存します。</translation>
     </message>
     <message>
-        <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
-        <translation>インデックスが書かれなかった MP4 または QuickTime 動画ごとに、再生できる &quot;... repaired.MP4&quot; を書き出します。同じカメラの完全な動画も見つかる必要があります。</translation>
+        <source>Write a playable twin, "... repaired.MP4", of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
+        <translation>インデックスが書かれなかった MP4 または QuickTime 動画ごとに、再生できる "... repaired.MP4" を書き出します。同じカメラの完全な動画も見つかる必要があります。</translation>
     </message>
     <message>
         <source>A whole movie of the camera, in place of those that are found (with --repair-movies).</source>
@@ -1849,7 +1849,7 @@ Try --help.</source>
         <translation>--min-bytes と --min-pixels には数値が必要です。</translation>
     </message>
     <message numerus="yes">
-        <source>%1 more files that only the card&apos;s directory tells of</source>
+        <source>%1 more files that only the card's directory tells of</source>
         <translation>
             <numerusform>ほかに、カードのディレクトリーだけが示すファイル %1 件</numerusform>
         </translation>
@@ -2625,7 +2625,7 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <translation>ファイルの一部も保存</translation>
     </message>
     <message>
-        <source>What lies wholly inside a file that was proved complete, such as a picture&apos;s preview</source>
+        <source>What lies wholly inside a file that was proved complete, such as a picture's preview</source>
         <translation>完全と確認されたファイルの中にすべて含まれるもの（写真の中のプレビューなど）</translation>
     </message>
     <message>
@@ -2833,11 +2833,11 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <translation>カードに名前だけあるもの</translation>
     </message>
     <message>
-        <source>1 more file that only the card&apos;s directory tells of</source>
+        <source>1 more file that only the card's directory tells of</source>
         <translation>ほかに、カードのディレクトリーだけが示すファイル 1 件</translation>
     </message>
     <message numerus="yes">
-        <source>%1 more files that only the card&apos;s directory tells of</source>
+        <source>%1 more files that only the card's directory tells of</source>
         <translation>
             <numerusform>ほかに、カードのディレクトリーだけが示すファイル %1 件</numerusform>
         </translation>
@@ -3224,7 +3224,7 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     </message>
     <message>
         <source>
-Do you really want to exit from &apos;%1&apos;?</source>
+Do you really want to exit from '%1'?</source>
         <translation>
 「%1」を終了してもよろしいですか？</translation>
     </message>
