@@ -19,16 +19,34 @@ namespace {
 constexpr auto kKeepTime = std::chrono::seconds(5);
 constexpr std::uint64_t kComparedSectors = MediumMemory::kMostSectors;
 
-}  // namespace
-
-std::shared_ptr<MediumCopy> MediumCopy::make(std::unique_ptr<CopyFile> file, OpenMedium open) {
-    return std::shared_ptr<MediumCopy>(new MediumCopy(std::move(file), std::move(open)));
+// What was copied stays.
+CopyMap withRefused(CopyMap map, const std::vector<SectorRun>& refused) {
+    for (const SectorRun& run : refused) {
+        const std::uint64_t sectors = map.bytes() / kSectorBytes;
+        const std::uint64_t end = std::min(run.end, sectors) * kSectorBytes;
+        for (std::uint64_t at = std::min(run.first, sectors) * kSectorBytes; at < end;) {
+            const CopyRun known = map.at(at);
+            const std::uint64_t upTo = std::min(known.end, end);
+            if (known.state != CopyState::Copied) {
+                map.set(at, upTo, CopyState::Bad);
+            }
+            at = upTo;
+        }
+    }
+    return map;
 }
 
-MediumCopy::MediumCopy(std::unique_ptr<CopyFile> file, OpenMedium open)
+}  // namespace
+
+std::shared_ptr<MediumCopy> MediumCopy::make(std::unique_ptr<CopyFile> file, OpenMedium open,
+                                             const std::vector<SectorRun>& refused) {
+    return std::shared_ptr<MediumCopy>(new MediumCopy(std::move(file), std::move(open), refused));
+}
+
+MediumCopy::MediumCopy(std::unique_ptr<CopyFile> file, OpenMedium open, const std::vector<SectorRun>& refused)
     : m_file(std::move(file)),
       m_open(std::move(open)),
-      m_map(m_file->mapFound()),
+      m_map(withRefused(m_file->mapFound(), refused)),
       m_plan(m_map),
       m_buffer(CopyPlan::kPiece * kSectorBytes),
       m_keeper([this] { runKeeper(); }),
