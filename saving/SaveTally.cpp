@@ -28,6 +28,10 @@ void SaveTally::add(const QString& name, const SaveOutcome& outcome) {
     named += outcome.original ? 1 : 0;
     bytes += outcome.bytes;
     withUnreadableSectors += outcome.sectorsUnreadable != 0 ? 1 : 0;
+    if (outcome.mend) {
+        ++mended;
+        return;
+    }
     switch (outcome.verdict) {
         case Verdict::Complete:
             ++(outcome.checked ? complete : unchecked);
@@ -50,7 +54,8 @@ QStringList SaveTally::bySoundness() const {
         {unchecked, QObject::tr("ending where they say (content not checked)")},
         {cutOff, soundnessWords(Verdict::CutOff, false)},
         {damaged, soundnessWords(Verdict::Damaged, false)},
-        {unknownLength, soundnessWords(Verdict::Unknown, false)}};
+        {unknownLength, soundnessWords(Verdict::Unknown, false)},
+        {mended, QObject::tr("put together or repaired (please look)")}};
     QStringList kinds;
     for (const auto& [count, words] : counts) {
         if (count != 0) {

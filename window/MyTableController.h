@@ -22,6 +22,7 @@
 //   Fields with given names
 //   What a scan shows           window/ScanScreen.cpp, window/SearchEndBar.cpp
 //   Searches gone on with       window/Keeping.cpp, window/CardCopy.cpp, window/CardState.cpp
+//   Broken files completed      window/Mending.cpp
 //   Steps behind these, file by file, and the fields of our own
 #pragma once
 
@@ -41,6 +42,7 @@
 #include "media/CopiedMedium.h"
 #include "media/MediaList.h"
 #include "media/SearchRange.h"
+#include "repair/MendingRun.h"
 #include "results/TickedItems.h"
 #include "scan/ScanInputs.h"
 #include "scan/ScanMeter.h"
@@ -70,6 +72,8 @@ class ViewerDesk;
 class CardStrip;
 class KeepingBox;
 class KeptSearchBar;
+class MendingBar;
+class PieceStrip;
 class WholePreview;
 struct ViewOrder;
 struct PreviewFileRequest;
@@ -436,6 +440,17 @@ class MyTableController : public QObject,
     Likeness likenessOf(const QString& identifier, const SearchRecord& record);
     QStringList mediaLike(const SearchRecord& record) const;
     bool chooseMediumOf(const SearchRecord& record);
+    // window/Mending.cpp
+    void setUpMending();
+    void offerMending();
+    void mendBrokenItems();
+    void stopMending();
+    void forgetMends();
+    void showMending();
+    void showPieces();
+    void previewMendedItem();
+    QString mendingWords() const;
+    QString mendingEndWords() const;
     // window/ScanThreads.cpp
     void startScan(void (ScanSession::*driver)());
     void pump();
@@ -567,10 +582,20 @@ class MyTableController : public QObject,
     // Set at the end of a scan, emptied with the next one.
     SavingDesk::ToldFiles m_told;  // files that only the card's directory tells of
 
+    // What is made of the broken ones among the found items, emptied with them.
+    const std::shared_ptr<MendedItems> m_mended = std::make_shared<MendedItems>();
+    QPushButton* m_mendButton = nullptr;
+    MendingBar* m_mendingBar = nullptr;
+    PieceStrip* m_pieceStrip = nullptr;
+    QTimer m_mendingLook;                         // while they are mended
+    std::size_t m_shownMends = 0;                 // that the browser shows
+    std::shared_ptr<const Mend> m_previewedMend;  // of the item on preview, as it is shown
+
     // Begin anew with every scan; the first to go, since they ask the others.
     std::unique_ptr<BrowserLooks> m_looks;
     std::unique_ptr<SavingDesk> m_desk;
     std::unique_ptr<ViewerDesk> m_viewer;
+    MendingRun m_mending;
 };
 
 }  // namespace vantor
