@@ -3,6 +3,7 @@
 
 #include <QHash>
 #include <QJsonArray>
+#include <QObject>
 #include <algorithm>
 
 #include "catalogue/TypePresets.h"

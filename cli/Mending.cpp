@@ -1,5 +1,6 @@
 // What is broken among what was saved: completed and repaired behind the search, beside the items.
 #include <QFile>
+#include <QObject>
 
 #include "cli/CliSession.h"
 #include "results/SizeForPeople.h"
@@ -33,16 +34,18 @@ QString seconds(double value) {
 }
 
 QString lineOf(const QString& path, const Mend& mend) {
-    const QString pieces = numberForPeople(mend.assembly.runs.size());
+    const std::size_t pieces = mend.assembly.runs.size();
     switch (mend.kind) {
         case MendKind::Completed:
-            return QStringLiteral("%1: complete, from %2 pieces").arg(path, pieces);
+            return QObject::tr("%1: complete, from %2 pieces", nullptr, pluralOf(pieces))
+                .arg(path, numberForPeople(pieces));
         case MendKind::PutTogether:
-            return QStringLiteral("%1: put together from %2 pieces, please look").arg(path, pieces);
+            return QObject::tr("%1: put together from %2 pieces, please look", nullptr, pluralOf(pieces))
+                .arg(path, numberForPeople(pieces));
         case MendKind::Repaired:
             break;
     }
-    return QStringLiteral("%1: %2 pictures, %3 s, and %4 s of sound, as in %5")
+    return QObject::tr("%1: %2 pictures, %3 s, and %4 s of sound, as in %5")
         .arg(path, numberForPeople(mend.pictures), seconds(mend.pictureSeconds), seconds(mend.soundSeconds),
              mend.like);
 }
@@ -57,7 +60,7 @@ void CliSession::mend() {
     if (!medium) {
         m_mendingFailed = true;
         m_mendingLines.append(
-            QStringLiteral("Broken files were left as they are: the medium cannot be opened."));
+            QObject::tr("Broken files were left as they are: the medium cannot be opened."));
         return;
     }
     const std::vector<MendableItem> items = mendableItems();
@@ -105,28 +108,26 @@ bool CliSession::takeMend(const MendableItem& item, Mend made, SectorReader& med
 }
 
 void CliSession::completeItems(ItemMending& mending, const std::vector<MendableItem>& items) {
-    const auto tell = [this](const CompletionSum& sum, const char* plural) {
-        m_mendingLines.append(
-            QStringLiteral("%1 of %2 broken %3 completed, %4 more put together: please look")
-                .arg(numberForPeople(sum.completed), numberForPeople(sum.broken), QLatin1String(plural),
-                     numberForPeople(sum.putTogether)));
+    const auto tell = [this](const CompletionSum& sum, const QString& words) {
+        m_mendingLines.append(words.arg(numberForPeople(sum.completed), numberForPeople(sum.broken),
+                                        numberForPeople(sum.putTogether)));
     };
     // What a mode does not search for cannot be completed.
     if (m_options.mode == kPhotoMode) {
-        m_mendingLines.append(
-            QStringLiteral("Movies are not searched for in photo mode, so none is completed"));
+        m_mendingLines.append(QObject::tr("Movies are not searched for in photo mode, so none is completed"));
     } else {
-        tell(mending.completeMovies(items), "movies");
+        tell(mending.completeMovies(items),
+             QObject::tr("%1 of %2 broken movies completed, %3 more put together: please look"));
     }
     if (m_options.mode != kVideoMode) {
-        tell(mending.completePhotos(items), "photos");
+        tell(mending.completePhotos(items),
+             QObject::tr("%1 of %2 broken photos completed, %3 more put together: please look"));
     }
 }
 
 void CliSession::repairItems(ItemMending& mending, const std::vector<MendableItem>& items) {
     if (m_options.mode == kPhotoMode) {
-        m_mendingLines.append(
-            QStringLiteral("Movies are not searched for in photo mode, so none is repaired"));
+        m_mendingLines.append(QObject::tr("Movies are not searched for in photo mode, so none is repaired"));
         return;
     }
     if (!m_options.reference.isEmpty() && !useReference(mending)) {
@@ -135,11 +136,11 @@ void CliSession::repairItems(ItemMending& mending, const std::vector<MendableIte
     }
     const auto sum = mending.repairMovies(items, [this](const MendableItem& item, ItemMending::Why why) {
         m_mendingLines.append((why == ItemMending::Why::NoReference
-                                   ? QStringLiteral("%1: no whole movie of its camera was found")
-                                   : QStringLiteral("%1: no picture found"))
+                                   ? QObject::tr("%1: no whole movie of its camera was found")
+                                   : QObject::tr("%1: no picture found"))
                                   .arg(item.name));
     });
-    m_mendingLines.append(QStringLiteral("%1 of %2 movies without an index repaired")
+    m_mendingLines.append(QObject::tr("%1 of %2 movies without an index repaired")
                               .arg(numberForPeople(sum.repaired), numberForPeople(sum.broken)));
 }
 
@@ -147,14 +148,13 @@ bool CliSession::useReference(ItemMending& mending) {
     const QString& path = m_options.reference;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        m_mendingLines.append(QStringLiteral("The movie %1 cannot be read.").arg(path));
+        m_mendingLines.append(QObject::tr("The movie %1 cannot be read.").arg(path));
         return false;
     }
     FileSource source(file);
     if (!mending.useReference(source, path)) {
         m_mendingLines.append(
-            QStringLiteral("%1 is no whole MP4 or QuickTime movie of a kind that can be repaired.")
-                .arg(path));
+            QObject::tr("%1 is no whole MP4 or QuickTime movie of a kind that can be repaired.").arg(path));
         return false;
     }
     return true;

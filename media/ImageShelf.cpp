@@ -2,9 +2,11 @@
 #include "media/ImageShelf.h"
 
 #include <QFileInfo>
+#include <QObject>
 #include <utility>
 
 #include "media/ImageFile.h"
+#include "media/ImageParts.h"
 #include "media/RawDevice.h"
 
 namespace vantor {
@@ -52,14 +54,16 @@ OpenedImage ImageShelf::addImage(const QString& path) {
     const auto facts = probeMedium(first, &why);
     if (!facts || !facts->isImage) {
         return {{},
-                facts ? QStringLiteral("“%1” is no image file.").arg(path)
-                      : QStringLiteral("“%1” cannot be opened: %2.").arg(path, why)};
+                facts ? QObject::tr("“%1” is no image file.").arg(path)
+                      : QObject::tr("“%1” cannot be opened: %2.").arg(path, why)};
     }
     if (facts->sectors == 0) {
-        return {{},
-                QStringLiteral("“%1” is empty. Please choose an image file of a storage medium.").arg(path)};
+        return {{}, QObject::tr("“%1” is empty. Please choose an image file of a storage medium.").arg(path)};
     }
     m_images << Image{QStringLiteral("image%1").arg(m_images.size() + 1), first};
+    if (isEvidenceSegment(first)) {
+        m_images.last().sectors = facts->sectors;
+    }
     updateTargets();
     return {m_images.constLast().identifier, {}};
 }
@@ -74,15 +78,19 @@ void ImageShelf::updateTargets() {
 }
 
 MediaFacts ImageShelf::factsOf(const Image& image) {
-    const auto facts = probeMedium(image.path);
-    if (!facts) {
+    std::optional<std::uint64_t> sectors = image.sectors;
+    if (!sectors) {
+        const auto facts = probeMedium(image.path);
+        sectors = facts ? std::optional(facts->sectors) : std::nullopt;
+    }
+    if (!sectors || !QFileInfo(image.path).isFile()) {
         return {};
     }
     const QString name = QFileInfo(image.path).fileName();
     return {{QStringLiteral("DeviceIdentifier"), image.identifier},
             {QStringLiteral("VolumeName"), name},
             {QStringLiteral("ParentWholeDisk"), image.identifier},
-            {QStringLiteral("IOKitSize"), quint64{facts->sectors * kSectorBytes}},
+            {QStringLiteral("IOKitSize"), quint64{*sectors * kSectorBytes}},
             {QStringLiteral("BusProtocol"), QStringLiteral("Image File")},
             {QStringLiteral("MediaName"), name}};
 }

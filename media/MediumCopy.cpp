@@ -1,6 +1,7 @@
 // The copying thread, and the one that brings its work to the disk.
 #include "media/MediumCopy.h"
 
+#include <QObject>
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
@@ -17,16 +18,34 @@ namespace {
 constexpr auto kKeepTime = std::chrono::seconds(10);
 constexpr std::uint64_t kComparedSectors = MediumMemory::kMostSectors;
 
-}  // namespace
-
-std::shared_ptr<MediumCopy> MediumCopy::make(std::unique_ptr<CopyFile> file, OpenMedium open) {
-    return std::shared_ptr<MediumCopy>(new MediumCopy(std::move(file), std::move(open)));
+// What was copied stays.
+CopyMap withRefused(CopyMap map, const std::vector<SectorRun>& refused) {
+    for (const SectorRun& run : refused) {
+        const std::uint64_t sectors = map.bytes() / kSectorBytes;
+        const std::uint64_t end = std::min(run.end, sectors) * kSectorBytes;
+        for (std::uint64_t at = std::min(run.first, sectors) * kSectorBytes; at < end;) {
+            const CopyRun known = map.at(at);
+            const std::uint64_t upTo = std::min(known.end, end);
+            if (known.state != CopyState::Copied) {
+                map.set(at, upTo, CopyState::Bad);
+            }
+            at = upTo;
+        }
+    }
+    return map;
 }
 
-MediumCopy::MediumCopy(std::unique_ptr<CopyFile> file, OpenMedium open)
+}  // namespace
+
+std::shared_ptr<MediumCopy> MediumCopy::make(std::unique_ptr<CopyFile> file, OpenMedium open,
+                                             const std::vector<SectorRun>& refused) {
+    return std::shared_ptr<MediumCopy>(new MediumCopy(std::move(file), std::move(open), refused));
+}
+
+MediumCopy::MediumCopy(std::unique_ptr<CopyFile> file, OpenMedium open, const std::vector<SectorRun>& refused)
     : m_file(std::move(file)),
       m_open(std::move(open)),
-      m_map(m_file->mapFound()),
+      m_map(withRefused(m_file->mapFound(), refused)),
       m_plan(m_map),
       m_buffer(CopyPlan::kPiece * kSectorBytes),
       m_keeper([this] { runKeeper(); }),
@@ -112,7 +131,7 @@ void MediumCopy::openNow(std::unique_lock<std::mutex>& lock) {
     m_openWanted = false;
     m_otherMedium = !fits;
     if (!fits) {
-        m_trouble = QStringLiteral("“%1” is a copy of another medium.").arg(m_file->imagePath());
+        m_trouble = QObject::tr("“%1” is a copy of another medium.").arg(m_file->imagePath());
         m_state = CopyProgress::State::OtherMedium;
     } else if (medium) {
         m_state = m_cannotWrite ? CopyProgress::State::CannotWrite : CopyProgress::State::Resting;
@@ -227,7 +246,7 @@ bool MediumCopy::takeStep(std::unique_lock<std::mutex>& lock) {
 void MediumCopy::cannotWrite(const QString& words) {
     m_cannotWrite = true;
     m_state = CopyProgress::State::CannotWrite;
-    m_trouble = QStringLiteral("The copy “%1” ends here: %2. What it does not hold is read from the medium.")
+    m_trouble = QObject::tr("The copy “%1” ends here: %2. What it does not hold is read from the medium.")
                     .arg(m_file->imagePath(), words);
     m_answer.notify_all();
 }

@@ -1,6 +1,7 @@
 // Telling packed images from plain ones by their first and last bytes.
 #include <QFile>
 #include <QFileInfo>
+#include <QObject>
 #include <QString>
 #include <optional>
 
@@ -10,7 +11,7 @@ namespace vantor {
 
 namespace {
 
-enum class Packing { Compressed, Archive, VirtualDisk, Evidence, DiskImage };
+enum class Packing { Compressed, Archive, VirtualDisk, Evidence, SingleFiles, DiskImage };
 
 struct Mark {
     qint64 offset;  // bytes; from the end when negative
@@ -41,9 +42,9 @@ constexpr Mark kMarks[] = {
     {0, "COWD", "VMDK", Packing::VirtualDisk},
     {0, "# Disk DescriptorFile", "VMDK", Packing::VirtualDisk},
     {0, "vhdxfile", "VHDX", Packing::VirtualDisk},
-    {0, "EVF\x09\x0d\x0a\xff", "EnCase", Packing::Evidence},
-    {0, "LVF\x09\x0d\x0a\xff", "EnCase", Packing::Evidence},
-    {0, "EVF2\x0d\x0a\x81", "EnCase", Packing::Evidence},
+    {0, "EVF2\x0d\x0a\x81", "Ex01", Packing::Evidence},
+    {0, "LVF\x09\x0d\x0a\xff", "L01", Packing::SingleFiles},
+    {0, "LEF2\x0d\x0a\x81", "Lx01", Packing::SingleFiles},
     {0, "AFF10\x0d\x0a", "AFF", Packing::Evidence},
     {-512, QByteArrayView("koly\x00\x00\x00\x04", 8), "Apple disk image", Packing::DiskImage},
 };
@@ -61,22 +62,25 @@ QString advice(Packing packing) {
     switch (packing) {
         case Packing::Compressed:
         case Packing::Archive:
-            return QStringLiteral("Please unpack it first and open the image file that is inside.");
+            return QObject::tr("Please unpack it first and open the image file that is inside.");
         case Packing::VirtualDisk:
-            return QStringLiteral(
+            return QObject::tr(
                 "Please convert it to a raw image first (for example with “qemu-img convert -O raw”) and "
                 "open "
                 "that.");
         case Packing::Evidence:
-            return QStringLiteral("Please export it as a raw (dd) image first and open that.");
+            return QObject::tr("Please export it as a raw (dd) or E01 image first and open that.");
+        case Packing::SingleFiles:
+            return QObject::tr(
+                "It holds single files rather than a storage medium. Please open an image of the medium.");
         case Packing::DiskImage:
-            return QStringLiteral("Please convert it to a raw image first and open that.");
+            return QObject::tr("Please convert it to a raw image first and open that.");
     }
     return {};
 }
 
 QString sentence(const QString& path, const QString& format, Packing packing) {
-    return QStringLiteral("“%1” is packed (%2) and cannot be searched as it stands. %3")
+    return QObject::tr("“%1” is packed (%2) and cannot be searched as it stands. %3")
         .arg(path, format, advice(packing));
 }
 

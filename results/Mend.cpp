@@ -31,12 +31,14 @@ QString markOf(MendKind kind) {
 }
 
 QString describe(const Mend& mend) {
-    const QString pieces = numberForPeople(mend.assembly.runs.size());
+    const std::size_t count = mend.assembly.runs.size();
+    const QString pieces = numberForPeople(count);
     switch (mend.kind) {
         case MendKind::Completed:
-            return QObject::tr("Complete, put together from %1 pieces").arg(pieces);
+            return QObject::tr("Complete, put together from %1 pieces", nullptr, pluralOf(count)).arg(pieces);
         case MendKind::PutTogether:
-            return QObject::tr("Put together from %1 pieces: please look").arg(pieces);
+            return QObject::tr("Put together from %1 pieces: please look", nullptr, pluralOf(count))
+                .arg(pieces);
         case MendKind::Repaired:
             break;
     }

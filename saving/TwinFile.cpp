@@ -1,6 +1,7 @@
 #include "saving/TwinFile.h"
 
 #include <QDir>
+#include <QObject>
 #include <algorithm>
 #include <vector>
 
@@ -80,7 +81,7 @@ SaveOutcome writeTwin(const TwinPlace& place, std::shared_ptr<const Mend> mend, 
     const auto folder = top ? top->below(place.folder) : std::nullopt;
     if (!folder) {
         outcome.error =
-            QStringLiteral("The folder %1/%2 cannot be created").arg(place.destination, place.folder);
+            QObject::tr("The folder %1/%2 cannot be created").arg(place.destination, place.folder);
         return outcome;
     }
     const Twin& twin = mend->twin;
@@ -97,11 +98,11 @@ SaveOutcome writeTwin(const TwinPlace& place, std::shared_ptr<const Mend> mend, 
     writing.write(twin.head);
     const bool all = writing.copy(twin.data, bytes);
     if (writing.isUnwanted()) {
-        outcome.error = QStringLiteral("Cancelled");
+        outcome.error = QObject::tr("Cancelled");
         return outcome;
     }
     if (writing.file().isGood() && !all) {
-        outcome.error = QStringLiteral("The medium cannot be read any more");
+        outcome.error = QObject::tr("The medium cannot be read any more");
         return outcome;
     }
     writing.write(twin.index);

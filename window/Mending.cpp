@@ -183,15 +183,15 @@ QString MyTableController::mendingEndWords() const {
             break;
     }
     QStringList made;
-    const auto add = [&made](std::size_t count, const QString& one, const QString& many) {
+    const auto add = [&made](std::size_t count, const QString& one, const char* many) {
         if (count != 0) {
-            made << (count == 1 ? one : many.arg(numberForPeople(count)));
+            made << (count == 1 ? one : tr(many, nullptr, pluralOf(count)).arg(numberForPeople(count)));
         }
     };
-    add(counts.completed, tr("1 file completed"), tr("%1 files completed"));
+    add(counts.completed, tr("1 file completed"), QT_TR_N_NOOP("%1 files completed"));
     add(counts.putTogether, tr("1 file put together (please look)"),
-        tr("%1 files put together (please look)"));
-    add(counts.repaired, tr("1 movie repaired"), tr("%1 movies repaired"));
+        QT_TR_N_NOOP("%1 files put together (please look)"));
+    add(counts.repaired, tr("1 movie repaired"), QT_TR_N_NOOP("%1 movies repaired"));
     if (!made.isEmpty()) {
         sentences << tr("%1.").arg(made.join(QStringLiteral(", ")));
     } else if (result.end == MendingEnd::Finished) {

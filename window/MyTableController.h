@@ -207,6 +207,7 @@ class MyTableController : public QObject,
     PhotoBytes photoBytesNeeded() const override {
         return m_parts.thumbnailer ? PhotoBytes::Picture : PhotoBytes::First;
     }
+    bool pictureIsKnown() const override;
     qsizetype numberOfItemsInImageBrowser(const ImageBrowserView* view) override;
     std::shared_ptr<MyImageObject> imageBrowser_itemAtIndex(const ImageBrowserView* view,
                                                             qsizetype index) override;
@@ -415,9 +416,11 @@ class MyTableController : public QObject,
     void showKeeping();
     void keepThisSearch();
     void keepSearchEnd();
+    void keepMarksSoon();
     void keepMarks();
+    SearchRecord recordOfNow();
     void writeKeptSearch();
-    void markSavedBefore();
+    void markAsBefore();
     void goOn();
     void goOnWithCardPutBack();
     void goOnWith(SearchRecord record);
@@ -568,9 +571,11 @@ class MyTableController : public QObject,
     QFrame* m_searchOptions = nullptr;
     KeepingBox* m_keepingBox = nullptr;
     QPushButton* m_goOnButton = nullptr;
-    std::optional<SearchRecord> m_goingOn;     // what the search that is about to begin goes on with
-    bool m_onlyLook = false;                   // and that it ends where that one did
-    std::vector<std::uint64_t> m_savedBefore;  // ascending places of items that are not listed yet
+    std::optional<SearchRecord> m_goingOn;  // what the search that is about to begin goes on with
+    bool m_onlyLook = false;                // and that it ends where that one did
+    // Ascending places of items that are not listed yet.
+    std::vector<std::uint64_t> m_savedBefore, m_tickedBefore, m_selectedBefore;
+    QTimer m_marksChanged;
 
     // Set when the user chooses the destination.
     QString m_chosenFolder;

@@ -4,10 +4,13 @@
 #include <QStandardPaths>
 #include <algorithm>
 #include <atomic>
+#include <cstdio>
 #include <cstdlib>
 
+#include "catalogue/Language.h"
 #include "catalogue/ResourcesFolder.h"
 #include "decode/DecodePool.h"
+#include "decode/EvidenceHelper.h"
 #include "media/PathArgument.h"
 #include "media/PlatformMedia.h"
 #include "saving/DestinationCheck.h"
@@ -30,6 +33,7 @@ constexpr std::chrono::milliseconds kLastPatience{500};
 // Frames larger than this are scaled down where they are decoded.
 constexpr QSize kLargestFrame{960, 540};
 constexpr QSize kLargestViewedFrame{1920, 1080};
+constexpr int kExitBadUsage = 2;
 
 ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTableController*>>& controller,
                            const std::shared_ptr<const std::atomic<bool>>& leaving) {
@@ -104,16 +108,22 @@ int main(int argc, char** argv) {
     QApplication::setDesktopFileName(QStringLiteral("org.vantor.recovery"));
     // The window is closed by the exit routine alone.
     QApplication::setQuitOnLastWindowClosed(false);
+    const AskedLanguage arguments = takeLanguage(argumentsFromBytes(argc, argv));
+    if (const auto refusal = speak(arguments.language, resourcesFolder())) {
+        std::fprintf(stderr, "%s\n", qPrintable(*refusal));
+        return kExitBadUsage;
+    }
     applyTheme(application);
     const DesktopLook look(application);
 
+    readEvidenceInHelpers();
     const auto running = std::make_shared<std::atomic<const MyTableController*>>(nullptr);
     const auto leaving = std::make_shared<std::atomic<bool>>(false);
     const auto controller = std::make_unique<MyTableController>(platformParts(running, leaving));
     running->store(controller.get());
     fitToScreen(controller->window);
     controller->awakeFromNib();
-    controller->openImages(argumentsFromBytes(argc, argv));
+    controller->openImages(arguments.rest);
     const int code = QApplication::exec();
     leaveTheScreen();
     *leaving = true;

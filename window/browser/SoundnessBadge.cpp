@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "results/Mend.h"
+#include "results/SizeForPeople.h"
 #include "window/browser/ImageCell.h"
 #include "window/widgets/Theme.h"
 
@@ -121,7 +122,9 @@ void paintPieces(QPainter* painter, const QRectF& badge, const QRect& place, con
     QFont font = painter->font();
     font.setPointSizeF(font.pointSizeF() * kSmallType);
     painter->setFont(font);
-    const QString text = repaired ? QObject::tr("repaired") : QObject::tr("%1 pieces").arg(pieces);
+    const QString text =
+        repaired ? QObject::tr("repaired")
+                 : QObject::tr("%1 pieces", nullptr, pluralOf(pieces)).arg(numberForPeople(pieces));
     const qreal height = painter->fontMetrics().height() + 1;
     QRectF pill(0, 0, painter->fontMetrics().horizontalAdvance(text) + height * 0.7, height);
     // Beside a small picture, as far as the cell goes; else at its foot between the other badges.
