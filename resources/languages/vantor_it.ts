@@ -36,6 +36,25 @@
     </message>
 </context>
 <context>
+    <name>EvidenceImage</name>
+    <message>
+        <source>Evidence images cannot be read here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Evidence images are only read shut in, which this system does not allow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The part of the program that reads evidence images does not start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The evidence image is damaged or of a kind that cannot be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FileTypeScreen</name>
     <message>
         <source>File types to search for</source>
@@ -699,10 +718,6 @@ Please select atleast one extension type.</source>
     </message>
     <message>
         <source>Please convert it to a raw image first (for example with “qemu-img convert -O raw”) and open that.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Please export it as a raw (dd) image first and open that.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2163,6 +2178,54 @@ Running on %2.</source>
         <source>No picture: documents are drawn inside bubblewrap alone, which is not installed or may not run on this system.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Please export it as a raw (dd) or E01 image first and open that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It holds single files rather than a storage medium. Please open an image of the medium.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Complete, put together from %1 pieces</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Put together from %1 pieces: please look</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Repaired: %1 pictures, %2 s, and %3 s of sound, as in %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 put together or repaired (please look)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>repaired</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pieces</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Mended</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -2685,10 +2748,6 @@ Running on %2.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Cut off or damaged</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Of unknown length</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2730,6 +2789,14 @@ Running on %2.</source>
     </message>
     <message>
         <source>By name on the card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Broken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put together or repaired</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3017,6 +3084,64 @@ Running on %2.</source>
     </message>
     <message>
         <source>Remembered search: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>vantor::MendPane</name>
+    <message>
+        <source>Show the file as it was found (B)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As Found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the file as it was put together (B)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Repaired</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put Together</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>vantor::MendingBar</name>
+    <message>
+        <source>How far the completing of broken files is, and what came of it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Progress of completing broken files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>St&amp;op</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop completing broken files; what was put together stays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show Th&amp;em</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the files that were put together or repaired</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clo&amp;se</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close this message</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3652,7 +3777,123 @@ Please select the required extension type for recovery process. Press ‘Next’
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima);;All files (*)</source>
+        <source>Co&amp;mplete Broken Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Complete broken files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look on the medium for the missing pieces of photos and movies, and repair movies without an index; what was found stays as it is beside it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looking for broken files: %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Completing broken movies…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Completing broken movies: %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Completing broken photos…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Completing broken photos: %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Repairing movies without an index…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Repairing movies without an index: %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Broken files were left as they are: the storage medium cannot be opened. Put it back in and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The storage medium went away. Put it back in and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 file completed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files completed</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 file put together (please look)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files put together (please look)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 movie repaired</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 movies repaired</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No broken file of a kind that can be completed was found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No broken file could be completed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>vantor::PieceStrip</name>
+    <message>
+        <source>piece %1: sectors %2 to %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pieces on the card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Card</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -36,6 +36,25 @@
     </message>
 </context>
 <context>
+    <name>EvidenceImage</name>
+    <message>
+        <source>Evidence images cannot be read here</source>
+        <translation>ここでは証拠イメージを読み取れません</translation>
+    </message>
+    <message>
+        <source>Evidence images are only read shut in, which this system does not allow</source>
+        <translation>証拠イメージは隔離された状態でのみ読み取りますが、このシステムではそれが許可されていません</translation>
+    </message>
+    <message>
+        <source>The part of the program that reads evidence images does not start</source>
+        <translation>証拠イメージを読み取るプログラム部分が起動しません</translation>
+    </message>
+    <message>
+        <source>The evidence image is damaged or of a kind that cannot be read</source>
+        <translation>証拠イメージが壊れているか、読み取れない種類です</translation>
+    </message>
+</context>
+<context>
     <name>FileTypeScreen</name>
     <message>
         <source>File types to search for</source>
@@ -706,10 +725,6 @@ Please select atleast one extension type.</source>
     <message>
         <source>Please convert it to a raw image first (for example with “qemu-img convert -O raw”) and open that.</source>
         <translation>先に生のイメージに変換して（たとえば「qemu-img convert -O raw」）、それを開いてください。</translation>
-    </message>
-    <message>
-        <source>Please export it as a raw (dd) image first and open that.</source>
-        <translation>先に生の (dd) イメージとしてエクスポートして、それを開いてください。</translation>
     </message>
     <message>
         <source>Please convert it to a raw image first and open that.</source>
@@ -2158,6 +2173,50 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <source>No picture: documents are drawn inside bubblewrap alone, which is not installed or may not run on this system.</source>
         <translation>画像なし: 文書は bubblewrap の中でのみ描画されますが、インストールされていないか、このシステムでは動作しません。</translation>
     </message>
+    <message>
+        <source>Please export it as a raw (dd) or E01 image first and open that.</source>
+        <translation>先に生イメージ (dd) または E01 イメージとして書き出し、それを開いてください。</translation>
+    </message>
+    <message>
+        <source>It holds single files rather than a storage medium. Please open an image of the medium.</source>
+        <translation>これは記憶メディアではなく個々のファイルを収めたものです。メディアのイメージを開いてください。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Complete, put together from %1 pieces</source>
+        <translation>
+            <numerusform>完全（%1 個の断片から復元）</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Put together from %1 pieces: please look</source>
+        <translation>
+            <numerusform>%1 個の断片をつなぎ合わせました。内容を確認してください</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Repaired: %1 pictures, %2 s, and %3 s of sound, as in %4</source>
+        <translation>修復済み: 画像 %1 枚、%2 秒、音声 %3 秒（%4 を参照）</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 put together or repaired (please look)</source>
+        <translation>
+            <numerusform>つなぎ合わせまたは修復 %1 件（確認してください）</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>repaired</source>
+        <translation>修復</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pieces</source>
+        <translation>
+            <numerusform>断片 %1 個</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Mended</source>
+        <translation>復元内容</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -2680,10 +2739,6 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <translation>完全</translation>
     </message>
     <message>
-        <source>Cut off or damaged</source>
-        <translation>途中で切れているか破損</translation>
-    </message>
-    <message>
         <source>Of unknown length</source>
         <translation>長さ不明</translation>
     </message>
@@ -2726,6 +2781,14 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     <message>
         <source>By name on the card</source>
         <translation>カード上の名前順</translation>
+    </message>
+    <message>
+        <source>Broken</source>
+        <translation>不完全または破損</translation>
+    </message>
+    <message>
+        <source>Put together or repaired</source>
+        <translation>つなぎ合わせまたは修復済み</translation>
     </message>
 </context>
 <context>
@@ -3011,6 +3074,64 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     <message>
         <source>Remembered search: %1</source>
         <translation>記憶された検索: %1</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::MendPane</name>
+    <message>
+        <source>Show the file as it was found (B)</source>
+        <translation>見つかったままのファイルを表示 (B)</translation>
+    </message>
+    <message>
+        <source>As Found</source>
+        <translation>見つかったまま</translation>
+    </message>
+    <message>
+        <source>Show the file as it was put together (B)</source>
+        <translation>つなぎ合わせたファイルを表示 (B)</translation>
+    </message>
+    <message>
+        <source>Repaired</source>
+        <translation>修復後</translation>
+    </message>
+    <message>
+        <source>Put Together</source>
+        <translation>つなぎ合わせ後</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::MendingBar</name>
+    <message>
+        <source>How far the completing of broken files is, and what came of it</source>
+        <translation>不完全なファイルの補完の進み具合と結果</translation>
+    </message>
+    <message>
+        <source>Progress of completing broken files</source>
+        <translation>不完全なファイルの補完の進行状況</translation>
+    </message>
+    <message>
+        <source>St&amp;op</source>
+        <translation>停止(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Stop completing broken files; what was put together stays</source>
+        <translation>補完を停止します。つなぎ合わせたものは残ります</translation>
+    </message>
+    <message>
+        <source>Show Th&amp;em</source>
+        <translation>それらを表示(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Show the files that were put together or repaired</source>
+        <translation>つなぎ合わせたファイルと修復したファイルを表示します</translation>
+    </message>
+    <message>
+        <source>Clo&amp;se</source>
+        <translation>閉じる(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Close this message</source>
+        <translation>このメッセージを閉じます</translation>
     </message>
 </context>
 <context>
@@ -3644,8 +3765,121 @@ Please select the required extension type for recovery process. Press ‘Next’
         <translation>メディアのイメージファイルを開く</translation>
     </message>
     <message>
-        <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima);;All files (*)</source>
-        <translation>メディアのイメージ (*.img *.dd *.raw *.bin *.iso *.image *.ima);;すべてのファイル (*)</translation>
+        <source>Co&amp;mplete Broken Files</source>
+        <translation>不完全なファイルを補完(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Complete broken files</source>
+        <translation>不完全なファイルを補完</translation>
+    </message>
+    <message>
+        <source>Look on the medium for the missing pieces of photos and movies, and repair movies without an index; what was found stays as it is beside it</source>
+        <translation>写真と動画の欠けた断片をメディアから探し、索引のない動画を修復します。見つかったものはそのまま残ります</translation>
+    </message>
+    <message>
+        <source>Looking for broken files: %1 of %2</source>
+        <translation>不完全なファイルを調べています: %1 / %2</translation>
+    </message>
+    <message>
+        <source>Completing broken movies…</source>
+        <translation>不完全な動画を補完しています…</translation>
+    </message>
+    <message>
+        <source>Completing broken movies: %1 of %2</source>
+        <translation>不完全な動画を補完しています: %1 / %2</translation>
+    </message>
+    <message>
+        <source>Completing broken photos…</source>
+        <translation>不完全な写真を補完しています…</translation>
+    </message>
+    <message>
+        <source>Completing broken photos: %1 of %2</source>
+        <translation>不完全な写真を補完しています: %1 / %2</translation>
+    </message>
+    <message>
+        <source>Repairing movies without an index…</source>
+        <translation>索引のない動画を修復しています…</translation>
+    </message>
+    <message>
+        <source>Repairing movies without an index: %1 of %2</source>
+        <translation>索引のない動画を修復しています: %1 / %2</translation>
+    </message>
+    <message>
+        <source>Broken files were left as they are: the storage medium cannot be opened. Put it back in and try again.</source>
+        <translation>不完全なファイルはそのままです。記憶メディアを開けません。差し直してからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The storage medium went away. Put it back in and try again.</source>
+        <translation>記憶メディアがなくなりました。差し直してからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>停止しました。</translation>
+    </message>
+    <message>
+        <source>1 file completed</source>
+        <translation>1 個のファイルを補完</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files completed</source>
+        <translation>
+            <numerusform>%1 個のファイルを補完</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 file put together (please look)</source>
+        <translation>1 個のファイルをつなぎ合わせ（確認してください）</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files put together (please look)</source>
+        <translation>
+            <numerusform>%1 個のファイルをつなぎ合わせ（確認してください）</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 movie repaired</source>
+        <translation>1 本の動画を修復</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 movies repaired</source>
+        <translation>
+            <numerusform>%1 本の動画を修復</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1。</translation>
+    </message>
+    <message>
+        <source>No broken file of a kind that can be completed was found.</source>
+        <translation>補完できる種類の不完全なファイルは見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>No broken file could be completed.</source>
+        <translation>補完できた不完全なファイルはありません。</translation>
+    </message>
+    <message>
+        <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;All files (*)</source>
+        <translation>メディアのイメージ (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;すべてのファイル (*)</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::PieceStrip</name>
+    <message>
+        <source>piece %1: sectors %2 to %3</source>
+        <translation>断片 %1: セクタ %2～%3</translation>
+    </message>
+    <message>
+        <source>Pieces on the card</source>
+        <translation>カード上の断片</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>カード</translation>
     </message>
 </context>
 <context>
