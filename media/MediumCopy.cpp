@@ -14,8 +14,9 @@ namespace vantor {
 
 namespace {
 
-// So much of a copy is lost at most with the power.
-constexpr auto kKeepTime = std::chrono::seconds(10);
+// With the power no more of a copy is to be lost than ten seconds of it, and a slow disk takes its time to
+// keep it.
+constexpr auto kKeepTime = std::chrono::seconds(5);
 constexpr std::uint64_t kComparedSectors = MediumMemory::kMostSectors;
 
 // What was copied stays.
@@ -256,8 +257,9 @@ void MediumCopy::cannotWrite(const QString& words) {
 void MediumCopy::runKeeper() {
     std::unique_lock lock(m_mutex);
     while (!m_quit) {
-        m_keeping.wait_for(lock, kKeepTime, [this] { return m_quit.load(); });
+        const auto next = std::chrono::steady_clock::now() + kKeepTime;
         keepNow(lock);
+        m_keeping.wait_until(lock, next, [this] { return m_quit.load(); });
     }
 }
 

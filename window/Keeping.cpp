@@ -24,6 +24,7 @@ namespace {
 constexpr int kMarksSettleMilliseconds = 1000;
 // A card that answers at once is known before anybody could read what is said meanwhile.
 constexpr std::chrono::milliseconds kUnnoticed{400};
+constexpr std::chrono::milliseconds kLookForCardAgain{250};
 
 }  // namespace
 
@@ -62,6 +63,9 @@ void MyTableController::setUpKeeping() {
         QWidget::setTabOrder(first, second);
     }
     connect(m_goOnButton, &QPushButton::clicked, this, &MyTableController::goOn);
+    m_cardBackLater.setSingleShot(true);
+    m_cardBackLater.setInterval(kLookForCardAgain);
+    connect(&m_cardBackLater, &QTimer::timeout, this, &MyTableController::goOnWithCardPutBack);
     connect(m_keptBar->goOnButton, &QPushButton::clicked, this, [this] { goOnWithKept(false); });
     connect(m_keptBar->lookButton, &QPushButton::clicked, this, [this] { goOnWithKept(true); });
     connect(m_keptBar->forgetButton, &QPushButton::clicked, this, [this] {
@@ -276,11 +280,16 @@ void MyTableController::goOn() {
 }
 
 // The card is back that was taken out in the middle of a search: it goes on by itself, and nothing is said of
-// any other card.
+// any other card. What the user has before him is finished first, such as the alert that the card is gone.
 void MyTableController::goOnWithCardPutBack() {
-    const bool waits = onScanScreen() && searchEnd().mediumGone && searchEnd().canGoOn();
-    if (!waits || scanShown() || session || m_desk->isRunning() || AskingTurn::isTaken() ||
-        !m_memory->keeper()) {
+    if (m_ending || !onScanScreen() || !m_memory->keeper()) {
+        return;
+    }
+    if (scanShown() || session || m_desk->isRunning() || AskingTurn::isTaken()) {
+        m_cardBackLater.start();
+        return;
+    }
+    if (!searchEnd().mediumGone || !searchEnd().canGoOn()) {
         return;
     }
     SearchRecord record = recordOfNow();

@@ -571,6 +571,7 @@ class MyTableController : public QObject,
     QFrame* m_searchOptions = nullptr;
     KeepingBox* m_keepingBox = nullptr;
     QPushButton* m_goOnButton = nullptr;
+    QTimer m_cardBackLater;                 // runs while something holds up the look for a card put back
     std::optional<SearchRecord> m_goingOn;  // what the search that is about to begin goes on with
     bool m_onlyLook = false;                // and that it ends where that one did
     // Ascending places of items that are not listed yet.
