@@ -13,6 +13,7 @@ ControllerState::ControllerState(ProgramParts parts, std::function<void()> queue
 ControllerState::~ControllerState() = default;
 
 void ControllerState::endParts() {
+    m_mending.stop();
     m_viewer.reset();
     m_desk.reset();
     m_looks.reset();

@@ -365,6 +365,17 @@ class MyTableController : public QObject,
     Likeness likenessOf(const QString& identifier, const SearchRecord& record);
     QStringList mediaLike(const SearchRecord& record) const;
     bool chooseMediumOf(const SearchRecord& record);
+    // window/Mending.cpp
+    void setUpMending();
+    void offerMending();
+    void mendBrokenItems();
+    void stopMending();
+    void forgetMends();
+    void showMending();
+    void showPieces();
+    void previewMendedItem();
+    QString mendingWords() const;
+    QString mendingEndWords() const;
     // window/ScanThreads.cpp
     void startScan(void (ScanSession::*driver)());
     void pump();

@@ -2221,6 +2221,46 @@ Läuft auf %2.</translation>
         <source>It holds single files rather than a storage medium. Please open an image of the medium.</source>
         <translation>Es enthält einzelne Dateien statt eines Speichermediums. Bitte öffnen Sie ein Abbild des Mediums.</translation>
     </message>
+<message numerus="yes">
+        <source>Complete, put together from %1 pieces</source>
+        <translation>
+            <numerusform>Vollständig, aus %1 Stück zusammengesetzt</numerusform>
+            <numerusform>Vollständig, aus %1 Stücken zusammengesetzt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Put together from %1 pieces: please look</source>
+        <translation>
+            <numerusform>Aus %1 Stück zusammengesetzt: bitte ansehen</numerusform>
+            <numerusform>Aus %1 Stücken zusammengesetzt: bitte ansehen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Repaired: %1 pictures, %2 s, and %3 s of sound, as in %4</source>
+        <translation>Repariert: %1 Bilder, %2 s, und %3 s Ton, wie in %4</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 put together or repaired (please look)</source>
+        <translation>
+            <numerusform>%1 zusammengesetzt oder repariert (bitte ansehen)</numerusform>
+            <numerusform>%1 zusammengesetzt oder repariert (bitte ansehen)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>repaired</source>
+        <translation>repariert</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pieces</source>
+        <translation>
+            <numerusform>%1 Stück</numerusform>
+            <numerusform>%1 Stücke</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Mended</source>
+        <translation>Ausgebessert</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -2789,6 +2829,14 @@ Läuft auf %2.</translation>
     <message>
         <source>By name on the card</source>
         <translation>Nach dem Namen auf der Karte</translation>
+    </message>
+<message>
+        <source>Broken</source>
+        <translation>Unvollständig oder beschädigt</translation>
+    </message>
+    <message>
+        <source>Put together or repaired</source>
+        <translation>Zusammengesetzt oder repariert</translation>
     </message>
 </context>
 <context>
@@ -3717,7 +3765,104 @@ Bitte wählen Sie die Dateitypen für die Wiederherstellung aus. Mit ‚Weiter�
         <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;All files (*)</source>
         <translation>Abbilder von Medien (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;Alle Dateien (*)</translation>
     </message>
-</context>
+<message>
+        <source>Co&amp;mplete Broken Files</source>
+        <translation>Dateien vervollständi&amp;gen</translation>
+    </message>
+    <message>
+        <source>Complete broken files</source>
+        <translation>Unvollständige Dateien vervollständigen</translation>
+    </message>
+    <message>
+        <source>Look on the medium for the missing pieces of photos and movies, and repair movies without an index; what was found stays as it is beside it</source>
+        <translation>Auf dem Medium nach den fehlenden Stücken von Fotos und Filmen suchen und Filme ohne Index reparieren; was gefunden wurde, bleibt daneben, wie es ist</translation>
+    </message>
+    <message>
+        <source>Looking for broken files: %1 of %2</source>
+        <translation>Suche nach unvollständigen Dateien: %1 von %2</translation>
+    </message>
+    <message>
+        <source>Completing broken movies…</source>
+        <translation>Filme werden vervollständigt …</translation>
+    </message>
+    <message>
+        <source>Completing broken movies: %1 of %2</source>
+        <translation>Filme werden vervollständigt: %1 von %2</translation>
+    </message>
+    <message>
+        <source>Completing broken photos…</source>
+        <translation>Fotos werden vervollständigt …</translation>
+    </message>
+    <message>
+        <source>Completing broken photos: %1 of %2</source>
+        <translation>Fotos werden vervollständigt: %1 von %2</translation>
+    </message>
+    <message>
+        <source>Repairing movies without an index…</source>
+        <translation>Filme ohne Index werden repariert …</translation>
+    </message>
+    <message>
+        <source>Repairing movies without an index: %1 of %2</source>
+        <translation>Filme ohne Index werden repariert: %1 von %2</translation>
+    </message>
+    <message>
+        <source>Broken files were left as they are: the storage medium cannot be opened. Put it back in and try again.</source>
+        <translation>Unvollständige Dateien blieben, wie sie sind: Das Speichermedium lässt sich nicht öffnen. Stecken Sie es wieder ein und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The storage medium went away. Put it back in and try again.</source>
+        <translation>Das Speichermedium ist nicht mehr da. Stecken Sie es wieder ein und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>Angehalten.</translation>
+    </message>
+    <message>
+        <source>1 file completed</source>
+        <translation>1 Datei vervollständigt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files completed</source>
+        <translation>
+            <numerusform>%1 Datei vervollständigt</numerusform>
+            <numerusform>%1 Dateien vervollständigt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 file put together (please look)</source>
+        <translation>1 Datei zusammengesetzt (bitte ansehen)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files put together (please look)</source>
+        <translation>
+            <numerusform>%1 Datei zusammengesetzt (bitte ansehen)</numerusform>
+            <numerusform>%1 Dateien zusammengesetzt (bitte ansehen)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 movie repaired</source>
+        <translation>1 Film repariert</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 movies repaired</source>
+        <translation>
+            <numerusform>%1 Film repariert</numerusform>
+            <numerusform>%1 Filme repariert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>No broken file of a kind that can be completed was found.</source>
+        <translation>Es wurde keine unvollständige Datei einer Art gefunden, die sich vervollständigen lässt.</translation>
+    </message>
+    <message>
+        <source>No broken file could be completed.</source>
+        <translation>Keine unvollständige Datei ließ sich vervollständigen.</translation>
+    </message>
+    </context>
 <context>
     <name>vantor::SavingDesk</name>
     <message>
@@ -3826,6 +3971,83 @@ Bitte wählen Sie die Dateitypen für die Wiederherstellung aus. Mit ‚Weiter�
     <message>
         <source>%1 of %2</source>
         <translation>%1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::MendPane</name>
+    <message>
+        <source>Show the file as it was found (B)</source>
+        <translation>Die Datei zeigen, wie sie gefunden wurde (B)</translation>
+    </message>
+    <message>
+        <source>As Found</source>
+        <translation>Wie gefunden</translation>
+    </message>
+    <message>
+        <source>Show the file as it was put together (B)</source>
+        <translation>Die Datei zeigen, wie sie zusammengesetzt wurde (B)</translation>
+    </message>
+    <message>
+        <source>Repaired</source>
+        <translation>Repariert</translation>
+    </message>
+    <message>
+        <source>Put Together</source>
+        <translation>Zusammengesetzt</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::MendingBar</name>
+    <message>
+        <source>How far the completing of broken files is, and what came of it</source>
+        <translation>Wie weit das Vervollständigen ist und was daraus wurde</translation>
+    </message>
+    <message>
+        <source>Progress of completing broken files</source>
+        <translation>Fortschritt beim Vervollständigen</translation>
+    </message>
+    <message>
+        <source>St&amp;op</source>
+        <translation>St&amp;opp</translation>
+    </message>
+    <message>
+        <source>Stop completing broken files; what was put together stays</source>
+        <translation>Das Vervollständigen anhalten; was zusammengesetzt wurde, bleibt</translation>
+    </message>
+    <message>
+        <source>Show Th&amp;em</source>
+        <translation>Diese z&amp;eigen</translation>
+    </message>
+    <message>
+        <source>Show the files that were put together or repaired</source>
+        <translation>Die Dateien zeigen, die zusammengesetzt oder repariert wurden</translation>
+    </message>
+    <message>
+        <source>Clo&amp;se</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Close this message</source>
+        <translation>Diese Meldung schließen</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::PieceStrip</name>
+    <message>
+        <source>piece %1: sectors %2 to %3</source>
+        <translation>Stück %1: Sektoren %2 bis %3</translation>
+    </message>
+    <message>
+        <source>Pieces on the card</source>
+        <translation>Stücke auf der Karte</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>Karte</translation>
     </message>
 </context>
 </TS>

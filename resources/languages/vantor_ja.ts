@@ -2193,6 +2193,42 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <source>It holds single files rather than a storage medium. Please open an image of the medium.</source>
         <translation>ストレージメディアではなく個々のファイルが入っています。メディアのイメージを開いてください。</translation>
     </message>
+<message numerus="yes">
+        <source>Complete, put together from %1 pieces</source>
+        <translation>
+            <numerusform>完全（%1 個の断片から復元）</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Put together from %1 pieces: please look</source>
+        <translation>
+            <numerusform>%1 個の断片をつなぎ合わせました。内容を確認してください</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Repaired: %1 pictures, %2 s, and %3 s of sound, as in %4</source>
+        <translation>修復済み: 画像 %1 枚、%2 秒、音声 %3 秒（%4 を参照）</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 put together or repaired (please look)</source>
+        <translation>
+            <numerusform>つなぎ合わせまたは修復 %1 件（確認してください）</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>repaired</source>
+        <translation>修復</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pieces</source>
+        <translation>
+            <numerusform>断片 %1 個</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Mended</source>
+        <translation>復元内容</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -2761,6 +2797,14 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     <message>
         <source>By name on the card</source>
         <translation>カード上の名前順</translation>
+    </message>
+<message>
+        <source>Broken</source>
+        <translation>不完全または破損</translation>
+    </message>
+    <message>
+        <source>Put together or repaired</source>
+        <translation>つなぎ合わせまたは修復済み</translation>
     </message>
 </context>
 <context>
@@ -3682,7 +3726,101 @@ Please select the required extension type for recovery process. Press ‘Next’
         <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;All files (*)</source>
         <translation>メディアのイメージ (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;すべてのファイル (*)</translation>
     </message>
-</context>
+<message>
+        <source>Co&amp;mplete Broken Files</source>
+        <translation>不完全なファイルを補完(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Complete broken files</source>
+        <translation>不完全なファイルを補完</translation>
+    </message>
+    <message>
+        <source>Look on the medium for the missing pieces of photos and movies, and repair movies without an index; what was found stays as it is beside it</source>
+        <translation>写真と動画の欠けた断片をメディアから探し、索引のない動画を修復します。見つかったものはそのまま残ります</translation>
+    </message>
+    <message>
+        <source>Looking for broken files: %1 of %2</source>
+        <translation>不完全なファイルを調べています: %1 / %2</translation>
+    </message>
+    <message>
+        <source>Completing broken movies…</source>
+        <translation>不完全な動画を補完しています…</translation>
+    </message>
+    <message>
+        <source>Completing broken movies: %1 of %2</source>
+        <translation>不完全な動画を補完しています: %1 / %2</translation>
+    </message>
+    <message>
+        <source>Completing broken photos…</source>
+        <translation>不完全な写真を補完しています…</translation>
+    </message>
+    <message>
+        <source>Completing broken photos: %1 of %2</source>
+        <translation>不完全な写真を補完しています: %1 / %2</translation>
+    </message>
+    <message>
+        <source>Repairing movies without an index…</source>
+        <translation>索引のない動画を修復しています…</translation>
+    </message>
+    <message>
+        <source>Repairing movies without an index: %1 of %2</source>
+        <translation>索引のない動画を修復しています: %1 / %2</translation>
+    </message>
+    <message>
+        <source>Broken files were left as they are: the storage medium cannot be opened. Put it back in and try again.</source>
+        <translation>不完全なファイルはそのままです。記憶メディアを開けません。差し直してからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The storage medium went away. Put it back in and try again.</source>
+        <translation>記憶メディアがなくなりました。差し直してからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>停止しました。</translation>
+    </message>
+    <message>
+        <source>1 file completed</source>
+        <translation>1 個のファイルを補完</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files completed</source>
+        <translation>
+            <numerusform>%1 個のファイルを補完</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 file put together (please look)</source>
+        <translation>1 個のファイルをつなぎ合わせ（確認してください）</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files put together (please look)</source>
+        <translation>
+            <numerusform>%1 個のファイルをつなぎ合わせ（確認してください）</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 movie repaired</source>
+        <translation>1 本の動画を修復</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 movies repaired</source>
+        <translation>
+            <numerusform>%1 本の動画を修復</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1。</translation>
+    </message>
+    <message>
+        <source>No broken file of a kind that can be completed was found.</source>
+        <translation>補完できる種類の不完全なファイルは見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>No broken file could be completed.</source>
+        <translation>補完できた不完全なファイルはありません。</translation>
+    </message>
+    </context>
 <context>
     <name>vantor::SavingDesk</name>
     <message>
@@ -3791,6 +3929,83 @@ Please select the required extension type for recovery process. Press ‘Next’
     <message>
         <source>%1 of %2</source>
         <translation>%1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::MendPane</name>
+    <message>
+        <source>Show the file as it was found (B)</source>
+        <translation>見つかったままのファイルを表示 (B)</translation>
+    </message>
+    <message>
+        <source>As Found</source>
+        <translation>見つかったまま</translation>
+    </message>
+    <message>
+        <source>Show the file as it was put together (B)</source>
+        <translation>つなぎ合わせたファイルを表示 (B)</translation>
+    </message>
+    <message>
+        <source>Repaired</source>
+        <translation>修復後</translation>
+    </message>
+    <message>
+        <source>Put Together</source>
+        <translation>つなぎ合わせ後</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::MendingBar</name>
+    <message>
+        <source>How far the completing of broken files is, and what came of it</source>
+        <translation>不完全なファイルの補完の進み具合と結果</translation>
+    </message>
+    <message>
+        <source>Progress of completing broken files</source>
+        <translation>不完全なファイルの補完の進行状況</translation>
+    </message>
+    <message>
+        <source>St&amp;op</source>
+        <translation>停止(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Stop completing broken files; what was put together stays</source>
+        <translation>補完を停止します。つなぎ合わせたものは残ります</translation>
+    </message>
+    <message>
+        <source>Show Th&amp;em</source>
+        <translation>それらを表示(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Show the files that were put together or repaired</source>
+        <translation>つなぎ合わせたファイルと修復したファイルを表示します</translation>
+    </message>
+    <message>
+        <source>Clo&amp;se</source>
+        <translation>閉じる(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Close this message</source>
+        <translation>このメッセージを閉じます</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::PieceStrip</name>
+    <message>
+        <source>piece %1: sectors %2 to %3</source>
+        <translation>断片 %1: セクタ %2～%3</translation>
+    </message>
+    <message>
+        <source>Pieces on the card</source>
+        <translation>カード上の断片</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>カード</translation>
     </message>
 </context>
 </TS>

@@ -2198,6 +2198,46 @@ Running on %2.</source>
         <source>It holds single files rather than a storage medium. Please open an image of the medium.</source>
         <translation type="unfinished" />
     </message>
+<message numerus="yes">
+        <source>Complete, put together from %1 pieces</source>
+        <translation type="unfinished">
+            <numerusform />
+            <numerusform />
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Put together from %1 pieces: please look</source>
+        <translation type="unfinished">
+            <numerusform />
+            <numerusform />
+        </translation>
+    </message>
+    <message>
+        <source>Repaired: %1 pictures, %2 s, and %3 s of sound, as in %4</source>
+        <translation type="unfinished" />
+    </message>
+    <message numerus="yes">
+        <source>%1 put together or repaired (please look)</source>
+        <translation type="unfinished">
+            <numerusform />
+            <numerusform />
+        </translation>
+    </message>
+    <message>
+        <source>repaired</source>
+        <translation type="unfinished" />
+    </message>
+    <message numerus="yes">
+        <source>%1 pieces</source>
+        <translation type="unfinished">
+            <numerusform />
+            <numerusform />
+        </translation>
+    </message>
+    <message>
+        <source>Mended</source>
+        <translation type="unfinished" />
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -2765,6 +2805,14 @@ Running on %2.</source>
     </message>
     <message>
         <source>By name on the card</source>
+        <translation type="unfinished" />
+    </message>
+<message>
+        <source>Broken</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Put together or repaired</source>
         <translation type="unfinished" />
     </message>
 </context>
@@ -3690,7 +3738,104 @@ Please select the required extension type for recovery process. Press ‘Next’
         <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;All files (*)</source>
         <translation type="unfinished" />
     </message>
-</context>
+<message>
+        <source>Co&amp;mplete Broken Files</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Complete broken files</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Look on the medium for the missing pieces of photos and movies, and repair movies without an index; what was found stays as it is beside it</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Looking for broken files: %1 of %2</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Completing broken movies…</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Completing broken movies: %1 of %2</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Completing broken photos…</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Completing broken photos: %1 of %2</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Repairing movies without an index…</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Repairing movies without an index: %1 of %2</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Broken files were left as they are: the storage medium cannot be opened. Put it back in and try again.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>The storage medium went away. Put it back in and try again.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>1 file completed</source>
+        <translation type="unfinished" />
+    </message>
+    <message numerus="yes">
+        <source>%1 files completed</source>
+        <translation type="unfinished">
+            <numerusform />
+            <numerusform />
+        </translation>
+    </message>
+    <message>
+        <source>1 file put together (please look)</source>
+        <translation type="unfinished" />
+    </message>
+    <message numerus="yes">
+        <source>%1 files put together (please look)</source>
+        <translation type="unfinished">
+            <numerusform />
+            <numerusform />
+        </translation>
+    </message>
+    <message>
+        <source>1 movie repaired</source>
+        <translation type="unfinished" />
+    </message>
+    <message numerus="yes">
+        <source>%1 movies repaired</source>
+        <translation type="unfinished">
+            <numerusform />
+            <numerusform />
+        </translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>No broken file of a kind that can be completed was found.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>No broken file could be completed.</source>
+        <translation type="unfinished" />
+    </message>
+    </context>
 <context>
     <name>vantor::SavingDesk</name>
     <message>
@@ -3798,6 +3943,83 @@ Please select the required extension type for recovery process. Press ‘Next’
     </message>
     <message>
         <source>%1 of %2</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>vantor::MendPane</name>
+    <message>
+        <source>Show the file as it was found (B)</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>As Found</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Show the file as it was put together (B)</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Repaired</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Put Together</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>vantor::MendingBar</name>
+    <message>
+        <source>How far the completing of broken files is, and what came of it</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Progress of completing broken files</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>St&amp;op</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Stop completing broken files; what was put together stays</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Show Th&amp;em</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Show the files that were put together or repaired</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Clo&amp;se</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Close this message</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>vantor::PieceStrip</name>
+    <message>
+        <source>piece %1: sectors %2 to %3</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Pieces on the card</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>File</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Card</source>
         <translation type="unfinished" />
     </message>
 </context>
