@@ -767,7 +767,7 @@ End Sector should be greater than Start Sector.</source>
 Der Endsektor muss größer als der Startsektor sein.</translation>
     </message>
     <message>
-        <source>This card reads as erased: beside its file system's own sectors, all places looked at are empty. Some cameras and programs erase the whole card when they format it, and then nothing can be found.</source>
+        <source>This card reads as erased: beside its file system&apos;s own sectors, all places looked at are empty. Some cameras and programs erase the whole card when they format it, and then nothing can be found.</source>
         <translation>Diese Karte liest sich wie gelöscht: Außer den Sektoren ihres Dateisystems sind alle geprüften Stellen leer. Manche Kameras und Programme löschen beim Formatieren die ganze Karte, und dann lässt sich nichts finden.</translation>
     </message>
     <message>
@@ -1561,7 +1561,7 @@ Fehler beim Lesen des Speichermediums.</translation>
         <translation>Das Medium kann nicht geöffnet werden.</translation>
     </message>
     <message>
-        <source>The medium's directories could not be read.</source>
+        <source>The medium&apos;s directories could not be read.</source>
         <translation>Die Verzeichnisse des Mediums konnten nicht gelesen werden.</translation>
     </message>
     <message>
@@ -1681,7 +1681,7 @@ Versuchen Sie --help.</translation>
         <translation>Die Speichermedien dieses Rechners ausgeben (mit --list-json als JSON) und nichts suchen.</translation>
     </message>
     <message>
-        <source>Print what the medium's own directories tell of its files, those that are there and those that were, as one JSON object each, and search nothing.</source>
+        <source>Print what the medium&apos;s own directories tell of its files, those that are there and those that were, as one JSON object each, and search nothing.</source>
         <translation>Als je ein JSON-Objekt ausgeben, was die Verzeichnisse des Mediums selbst von seinen Dateien sagen, den vorhandenen und den früheren, und nichts suchen.</translation>
     </message>
     <message>
@@ -1693,15 +1693,15 @@ Versuchen Sie --help.</translation>
         <translation>Nichts sagen außer dem, was misslang, und keinen Fortschritt zeigen.</translation>
     </message>
     <message>
-        <source>Speak this language (en, de, fr, es, it, pt_BR, nl, pl, ja or zh_CN) in place of the desktop's; with --list-json it is English always.</source>
+        <source>Speak this language (en, de, fr, es, it, pt_BR, nl, pl, ja or zh_CN) in place of the desktop&apos;s; with --list-json it is English always.</source>
         <translation>Diese Sprache sprechen (en, de, fr, es, it, pt_BR, nl, pl, ja oder zh_CN) statt der des Desktops; mit --list-json immer Englisch.</translation>
     </message>
     <message>
-        <source>An image file, a device's identifier (sdb1) or its path (/dev/sdb1).</source>
+        <source>An image file, a device&apos;s identifier (sdb1) or its path (/dev/sdb1).</source>
         <translation>Eine Abbilddatei, die Kennung eines Geräts (sdb1) oder sein Pfad (/dev/sdb1).</translation>
     </message>
     <message>
-        <source>Unknown mode "%1".</source>
+        <source>Unknown mode &quot;%1&quot;.</source>
         <translation>Unbekannter Modus „%1“.</translation>
     </message>
     <message>
@@ -1789,15 +1789,15 @@ Versuchen Sie --help.</translation>
         <translation>Die Sektoren jedes Fundes speichern, wie sie aufgelistet sind, nicht mehr und nicht weniger.</translation>
     </message>
     <message>
-        <source>Write "Recovery report.html" and "Recovery report.csv" beside the saved files.</source>
+        <source>Write &quot;Recovery report.html&quot; and &quot;Recovery report.csv&quot; beside the saved files.</source>
         <translation>„Recovery report.html“ und „Recovery report.csv“ neben die gespeicherten Dateien schreiben.</translation>
     </message>
     <message>
-        <source>original (default): save under the names that the card's directory still tells, where it does; found: under the listed names.</source>
+        <source>original (default): save under the names that the card&apos;s directory still tells, where it does; found: under the listed names.</source>
         <translation>original (ohne Angabe): unter den Namen speichern, die das Verzeichnis der Karte noch nennt, wo es das tut; found: unter den aufgelisteten Namen.</translation>
     </message>
     <message>
-        <source>card (default): save in the folders that the card's directory still tells, and what it does not tell in DIR/&lt;type&gt;; type: all in DIR/&lt;type&gt;; date: as DIR/&lt;type&gt;/&lt;date&gt;/&lt;date and time&gt; &lt;name&gt; where a date is known.</source>
+        <source>card (default): save in the folders that the card&apos;s directory still tells, and what it does not tell in DIR/&lt;type&gt;; type: all in DIR/&lt;type&gt;; date: as DIR/&lt;type&gt;/&lt;date&gt;/&lt;date and time&gt; &lt;name&gt; where a date is known.</source>
         <translation>card (ohne Angabe): in den Ordnern speichern, die das Verzeichnis der Karte noch nennt, und was es nicht nennt in DIR/&lt;Typ&gt;; type: alles in DIR/&lt;Typ&gt;; date: als DIR/&lt;Typ&gt;/&lt;Datum&gt;/&lt;Datum und Zeit&gt; &lt;Name&gt;, wo ein Datum bekannt ist.</translation>
     </message>
     <message>
@@ -1825,15 +1825,15 @@ Versuchen Sie --help.</translation>
         <translation>Nicht speichern, was mit Sicherheit keine Datei ihres Typs ist.</translation>
     </message>
     <message>
-        <source>Save parts of files too, such as a picture's preview or a member of an archive: what lies wholly inside a file that was proved complete, and is left out else.</source>
+        <source>Save parts of files too, such as a picture&apos;s preview or a member of an archive: what lies wholly inside a file that was proved complete, and is left out else.</source>
         <translation>Auch Teile von Dateien speichern, etwa das Vorschaubild eines Fotos oder den Inhalt eines Archivs: was ganz in einer Datei liegt, deren Vollständigkeit erwiesen ist, und sonst ausgelassen wird.</translation>
     </message>
     <message>
-        <source>Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as "... complete.MP4", or as "... put together.MP4" where it could not be proved that all pieces are the right ones.</source>
+        <source>Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
         <translation>MP4- und QuickTime-Filme sowie JPEG- und PNG-Bilder zusammensetzen, die in Stücken liegen, als „... complete.MP4“ oder als „... put together.MP4“, wo sich nicht beweisen ließ, dass alle Stücke die richtigen sind.</translation>
     </message>
     <message>
-        <source>Write a playable twin, "... repaired.MP4", of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
+        <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
         <translation>Zu jedem MP4- oder QuickTime-Film, dessen Index nie geschrieben wurde, eine abspielbare Fassung „... repaired.MP4“ schreiben; dazu muss auch ein ganzer Film derselben Kamera gefunden werden.</translation>
     </message>
     <message>
@@ -1873,7 +1873,7 @@ Versuchen Sie --help.</translation>
         <translation>--min-bytes und --min-pixels verlangen eine Zahl.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 more files that only the card's directory tells of</source>
+        <source>%1 more files that only the card&apos;s directory tells of</source>
         <translation>
             <numerusform>%1 weitere Datei, von der nur das Verzeichnis der Karte weiß</numerusform>
             <numerusform>%1 weitere Dateien, von denen nur das Verzeichnis der Karte weiß</numerusform>
@@ -2221,7 +2221,7 @@ Läuft auf %2.</translation>
         <source>It holds single files rather than a storage medium. Please open an image of the medium.</source>
         <translation>Es enthält einzelne Dateien statt eines Speichermediums. Bitte öffnen Sie ein Abbild des Mediums.</translation>
     </message>
-<message numerus="yes">
+    <message numerus="yes">
         <source>Complete, put together from %1 pieces</source>
         <translation>
             <numerusform>Vollständig, aus %1 Stück zusammengesetzt</numerusform>
@@ -2693,7 +2693,7 @@ Läuft auf %2.</translation>
         <translation>Auch Teile von Dateien speichern</translation>
     </message>
     <message>
-        <source>What lies wholly inside a file that was proved complete, such as a picture's preview</source>
+        <source>What lies wholly inside a file that was proved complete, such as a picture&apos;s preview</source>
         <translation>Was ganz in einer Datei liegt, deren Vollständigkeit erwiesen ist, etwa das Vorschaubild eines Fotos</translation>
     </message>
     <message>
@@ -2783,10 +2783,6 @@ Läuft auf %2.</translation>
         <translation>Vollständig</translation>
     </message>
     <message>
-        <source>Cut off or damaged</source>
-        <translation>Abgeschnitten oder beschädigt</translation>
-    </message>
-    <message>
         <source>Of unknown length</source>
         <translation>Unbekannter Länge</translation>
     </message>
@@ -2830,7 +2826,7 @@ Läuft auf %2.</translation>
         <source>By name on the card</source>
         <translation>Nach dem Namen auf der Karte</translation>
     </message>
-<message>
+    <message>
         <source>Broken</source>
         <translation>Unvollständig oder beschädigt</translation>
     </message>
@@ -2909,11 +2905,11 @@ Läuft auf %2.</translation>
         <translation>Nur auf der Karte</translation>
     </message>
     <message>
-        <source>1 more file that only the card's directory tells of</source>
+        <source>1 more file that only the card&apos;s directory tells of</source>
         <translation>1 weitere Datei, von der nur das Verzeichnis der Karte weiß</translation>
     </message>
     <message numerus="yes">
-        <source>%1 more files that only the card's directory tells of</source>
+        <source>%1 more files that only the card&apos;s directory tells of</source>
         <translation>
             <numerusform>%1 weitere Datei, von der nur das Verzeichnis der Karte weiß</numerusform>
             <numerusform>%1 weitere Dateien, von denen nur das Verzeichnis der Karte weiß</numerusform>
@@ -3127,6 +3123,64 @@ Läuft auf %2.</translation>
     </message>
 </context>
 <context>
+    <name>vantor::MendPane</name>
+    <message>
+        <source>Show the file as it was found (B)</source>
+        <translation>Die Datei zeigen, wie sie gefunden wurde (B)</translation>
+    </message>
+    <message>
+        <source>As Found</source>
+        <translation>Wie gefunden</translation>
+    </message>
+    <message>
+        <source>Show the file as it was put together (B)</source>
+        <translation>Die Datei zeigen, wie sie zusammengesetzt wurde (B)</translation>
+    </message>
+    <message>
+        <source>Repaired</source>
+        <translation>Repariert</translation>
+    </message>
+    <message>
+        <source>Put Together</source>
+        <translation>Zusammengesetzt</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::MendingBar</name>
+    <message>
+        <source>How far the completing of broken files is, and what came of it</source>
+        <translation>Wie weit das Vervollständigen ist und was daraus wurde</translation>
+    </message>
+    <message>
+        <source>Progress of completing broken files</source>
+        <translation>Fortschritt beim Vervollständigen</translation>
+    </message>
+    <message>
+        <source>St&amp;op</source>
+        <translation>St&amp;opp</translation>
+    </message>
+    <message>
+        <source>Stop completing broken files; what was put together stays</source>
+        <translation>Das Vervollständigen anhalten; was zusammengesetzt wurde, bleibt</translation>
+    </message>
+    <message>
+        <source>Show Th&amp;em</source>
+        <translation>Diese z&amp;eigen</translation>
+    </message>
+    <message>
+        <source>Show the files that were put together or repaired</source>
+        <translation>Die Dateien zeigen, die zusammengesetzt oder repariert wurden</translation>
+    </message>
+    <message>
+        <source>Clo&amp;se</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Close this message</source>
+        <translation>Diese Meldung schließen</translation>
+    </message>
+</context>
+<context>
     <name>vantor::MovieControls</name>
     <message>
         <source>Position</source>
@@ -3303,7 +3357,7 @@ Läuft auf %2.</translation>
     </message>
     <message>
         <source>
-Do you really want to exit from '%1'?</source>
+Do you really want to exit from &apos;%1&apos;?</source>
         <translation>
 Möchten Sie „%1“ wirklich beenden?</translation>
     </message>
@@ -3765,7 +3819,7 @@ Bitte wählen Sie die Dateitypen für die Wiederherstellung aus. Mit ‚Weiter�
         <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;All files (*)</source>
         <translation>Abbilder von Medien (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;Alle Dateien (*)</translation>
     </message>
-<message>
+    <message>
         <source>Co&amp;mplete Broken Files</source>
         <translation>Dateien vervollständi&amp;gen</translation>
     </message>
@@ -3862,7 +3916,26 @@ Bitte wählen Sie die Dateitypen für die Wiederherstellung aus. Mit ‚Weiter�
         <source>No broken file could be completed.</source>
         <translation>Keine unvollständige Datei ließ sich vervollständigen.</translation>
     </message>
-    </context>
+</context>
+<context>
+    <name>vantor::PieceStrip</name>
+    <message>
+        <source>piece %1: sectors %2 to %3</source>
+        <translation>Stück %1: Sektoren %2 bis %3</translation>
+    </message>
+    <message>
+        <source>Pieces on the card</source>
+        <translation>Stücke auf der Karte</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>Karte</translation>
+    </message>
+</context>
 <context>
     <name>vantor::SavingDesk</name>
     <message>
@@ -3971,83 +4044,6 @@ Bitte wählen Sie die Dateitypen für die Wiederherstellung aus. Mit ‚Weiter�
     <message>
         <source>%1 of %2</source>
         <translation>%1 von %2</translation>
-    </message>
-</context>
-<context>
-    <name>vantor::MendPane</name>
-    <message>
-        <source>Show the file as it was found (B)</source>
-        <translation>Die Datei zeigen, wie sie gefunden wurde (B)</translation>
-    </message>
-    <message>
-        <source>As Found</source>
-        <translation>Wie gefunden</translation>
-    </message>
-    <message>
-        <source>Show the file as it was put together (B)</source>
-        <translation>Die Datei zeigen, wie sie zusammengesetzt wurde (B)</translation>
-    </message>
-    <message>
-        <source>Repaired</source>
-        <translation>Repariert</translation>
-    </message>
-    <message>
-        <source>Put Together</source>
-        <translation>Zusammengesetzt</translation>
-    </message>
-</context>
-<context>
-    <name>vantor::MendingBar</name>
-    <message>
-        <source>How far the completing of broken files is, and what came of it</source>
-        <translation>Wie weit das Vervollständigen ist und was daraus wurde</translation>
-    </message>
-    <message>
-        <source>Progress of completing broken files</source>
-        <translation>Fortschritt beim Vervollständigen</translation>
-    </message>
-    <message>
-        <source>St&amp;op</source>
-        <translation>St&amp;opp</translation>
-    </message>
-    <message>
-        <source>Stop completing broken files; what was put together stays</source>
-        <translation>Das Vervollständigen anhalten; was zusammengesetzt wurde, bleibt</translation>
-    </message>
-    <message>
-        <source>Show Th&amp;em</source>
-        <translation>Diese z&amp;eigen</translation>
-    </message>
-    <message>
-        <source>Show the files that were put together or repaired</source>
-        <translation>Die Dateien zeigen, die zusammengesetzt oder repariert wurden</translation>
-    </message>
-    <message>
-        <source>Clo&amp;se</source>
-        <translation>&amp;Schließen</translation>
-    </message>
-    <message>
-        <source>Close this message</source>
-        <translation>Diese Meldung schließen</translation>
-    </message>
-</context>
-<context>
-    <name>vantor::PieceStrip</name>
-    <message>
-        <source>piece %1: sectors %2 to %3</source>
-        <translation>Stück %1: Sektoren %2 bis %3</translation>
-    </message>
-    <message>
-        <source>Pieces on the card</source>
-        <translation>Stücke auf der Karte</translation>
-    </message>
-    <message>
-        <source>File</source>
-        <translation>Datei</translation>
-    </message>
-    <message>
-        <source>Card</source>
-        <translation>Karte</translation>
     </message>
 </context>
 </TS>
