@@ -4,6 +4,8 @@
 #include "results/SizeForPeople.h"
 #include "saving/SaveSummary.h"
 #include "window/MyTableController.h"
+#include "window/preview/CellPictures.h"
+#include "window/preview/DraggedFiles.h"
 #include "window/preview/ViewerDesk.h"
 
 namespace vantor {
@@ -58,7 +60,8 @@ LookedAtItems MyTableController::lookedAtItems() {
     items.isSaved = [this](std::size_t index) { return m_desk->marks().isSaved(index); };
     items.isTicked = [this](std::size_t index) { return m_ticks.isTicked(index); };
     items.mediumBusy = [this] {
-        return scanRunning() || m_desk->isRunning() || m_filling > 0 || m_viewer->isBusy();
+        return scanRunning() || m_desk->isRunning() || m_dragged->isRunning() || m_filling > 0 ||
+               m_viewer->isBusy();
     };
     items.card = [this] { return card(); };
     items.policy = [this] { return m_desk->choices().policy; };
@@ -171,6 +174,8 @@ void MyTableController::takeToldFiles(SavingDesk::ToldFiles files) {
 // What is remembered of the items of a list that is no more.
 void MyTableController::forgetItems() {
     m_desk->forget();
+    m_pictures->begin();
+    m_dragged->begin();
     m_ticks.clear();
     m_told.clear();
 }

@@ -14,11 +14,11 @@
 //   What is remembered          window/Remembering.cpp
 //   File types                  window/FileTypeScreen.cpp, window/TypePresets.cpp
 //   Scan threads                window/ScanThreads.cpp
-//   Browsers                    window/Browsers.cpp, window/ItemMenu.cpp
+//   Browsers                    window/Browsers.cpp, window/ItemMenu.cpp, window/ItemPictures.cpp
 //   Preview                     window/Preview.cpp
 //   Movie                       window/MoviePreview.cpp
 //   Viewer                      window/Viewer.cpp
-//   Saving                      window/Saving.cpp, window/Ticks.cpp
+//   Saving                      window/Saving.cpp, window/Ticks.cpp, window/DragOut.cpp, window/Ejecting.cpp
 //   Fields with given names
 //   What a scan shows           window/ScanScreen.cpp, window/SearchEndBar.cpp
 //   Searches gone on with       window/Keeping.cpp, window/CardCopy.cpp, window/CardState.cpp
@@ -66,6 +66,8 @@ class QSettings;
 
 namespace vantor {
 
+class CellPictures;
+class DraggedFiles;
 class ViewerDesk;
 class CardStrip;
 class KeepingBox;
@@ -207,6 +209,7 @@ class MyTableController : public QObject,
     std::shared_ptr<MyImageObject> imageBrowser_itemAtIndex(const ImageBrowserView* view,
                                                             qsizetype index) override;
     ItemFacts factsOfItem(qsizetype index) override;
+    const CellPicture* pictureOfItem(qsizetype index) override;
     // Items cannot be dragged out: writes nothing and gives 0.
     qsizetype imageBrowser_writeItemsAtIndexes(const ImageBrowserView* view, const QList<qsizetype>& indexes,
                                                QMimeData* toPasteboard);
@@ -347,6 +350,7 @@ class MyTableController : public QObject,
     void bringIntoView(QWidget* widget);
     void emptyBrowsers();
     void emptyBrowserViews();
+    void zoomRawBrowser(float zoom);
     // window/ScreenGroups.cpp
     void showPreviewPane(bool hide);
     void hideOpenFolderButtons();
@@ -361,6 +365,7 @@ class MyTableController : public QObject,
     QString chooseDestination();
     QString folderToBeginWith() const;
     bool acceptDestination(const QString& folder);
+    bool mayBeDestination(const QString& folder);
     bool isStillThere(const QString& folder) const;
     bool destinationStillThere();
     void showDestination();
@@ -457,6 +462,11 @@ class MyTableController : public QObject,
     LookedAtItems lookedAtItems();
     void selectionMoved(ImageBrowserView* browser);
     void startDuePreview();
+    // window/ItemPictures.cpp
+    void setUpItemPictures();
+    void wantItemPictures();
+    void showDetails(bool shown);
+    std::optional<ViewOrder> pictureOrderOf(std::size_t index) const;
     // window/ItemMenu.cpp
     void showItemMenu(ImageBrowserView* browser, qsizetype index, const QPoint& place);
     void selectLike(ImageBrowserView* browser, const std::function<bool(qsizetype)>& isLike) const;
@@ -479,6 +489,13 @@ class MyTableController : public QObject,
     // window/Viewer.cpp
     void setUpViewer();
     ViewOrder viewOrderOf(const MyImageObject& item) const;
+    // window/DragOut.cpp
+    void dragOut(ImageBrowserView* browser, const QList<qsizetype>& indexes);
+    bool waitForDraggedFiles(QWidget* browser);
+    void saveItemAs(qsizetype index);
+    // window/Ejecting.cpp
+    bool canEjectCard() const;
+    void ejectCard();
     // window/Saving.cpp
     void saveItems(const QList<qsizetype>& indexes, const SavingDesk::ToldFiles& told = {});
     SavingParts savingParts();
@@ -571,6 +588,8 @@ class MyTableController : public QObject,
     std::unique_ptr<BrowserLooks> m_looks;
     std::unique_ptr<SavingDesk> m_desk;
     std::unique_ptr<ViewerDesk> m_viewer;
+    std::unique_ptr<CellPictures> m_pictures;
+    std::unique_ptr<DraggedFiles> m_dragged;
 };
 
 }  // namespace vantor

@@ -1,5 +1,6 @@
 // The wizard: what Next, Back and the mode radios do on each screen.
 #include <QScrollBar>
+#include <QSignalBlocker>
 
 #include "catalogue/FileTypeList.h"
 #include "results/RecoveryMode.h"
@@ -215,7 +216,7 @@ void MyTableController::backToRange() {
 void MyTableController::backToFileTypes() {
     screen_counter = 2;
     clearItems();
-    imageBrowser_2->setZoomValue(kRawZoom);
+    zoomRawBrowser(kRawZoom);
     imageBrowser_2->reloadData();
     hideOpenFolderButtons();
     showFileTypeHelp();
@@ -225,6 +226,13 @@ void MyTableController::backToFileTypes() {
     forgetItems();
     m_looks->end();
     homeOfScreen()->setFocus();
+}
+
+// The browser and the slider that says how large its cells are.
+void MyTableController::zoomRawBrowser(float zoom) {
+    imageBrowser_2->setZoomValue(zoom);
+    const QSignalBlocker quiet(zoomSlider_Sig);
+    zoomSlider_Sig->setValue(qRound(zoom * static_cast<float>(zoomSlider_Sig->maximum())));
 }
 
 void MyTableController::showMediaHelp() {
@@ -257,7 +265,7 @@ void MyTableController::emptyBrowserViews() {
     m_viewer->leave();
     _zoom_slider->setValue(_zoom_slider->maximum() / 2);
     imageBrowser->setZoomValue(kPhotoZoom);
-    imageBrowser_2->setZoomValue(kRawZoom);
+    zoomRawBrowser(kRawZoom);
     imageBrowser->reloadData();
     imageBrowser_2->reloadData();
 }
