@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QList>
+#include <QObject>
 #include <QStringList>
 #include <QVariantMap>
 
@@ -21,7 +22,9 @@ bool isTicked(const FileTypeRow& row);
 QList<FileTypeRow> fileTypeRows(const QStringList& general, const QStringList& thorough);
 
 // What the user is told when no row is ticked.
-inline const QString kNoTypeChosen = QStringLiteral("\nPlease select atleast one extension type.");
+inline QString noTypeChosenWords() {
+    return QObject::tr("\nPlease select atleast one extension type.");
+}
 
 // Sorts by "Extension" without regard to case; rows that compare equal keep their order.
 void sortFileTypeRows(QList<FileTypeRow>& rows);

@@ -37,15 +37,14 @@ const QHash<QString, QSet<QString>>& contents() {
 
 }  // namespace
 
-const QList<TypePreset>& typePresets() {
-    static const QList<TypePreset> presets = {
+QList<TypePreset> typePresets() {
+    return {
         {QStringLiteral("photos"), QObject::tr("Photos of all cameras")},
         {QStringLiteral("office"), QObject::tr("Office documents")},
         {QStringLiteral("phone"), QObject::tr("Phone")},
         {QStringLiteral("recorder"), QObject::tr("Sound recorder")},
         {kEverything, QObject::tr("Everything")},
     };
-    return presets;
 }
 
 QSet<QString> typesOfPreset(const QString& key) {

@@ -13,7 +13,7 @@ struct TypePreset {
 };
 
 // In the order in which they are offered; the last one holds every type. Any thread.
-const QList<TypePreset>& typePresets();
+QList<TypePreset> typePresets();
 
 // In capitals; none where there is no preset of that key, or where it holds every type.
 QSet<QString> typesOfPreset(const QString& key);

@@ -3,6 +3,7 @@
 #include "cli/CliMedium.h"
 
 #include <QFileInfo>
+#include <QObject>
 
 #include "catalogue/NumberText.h"
 #include "media/ImageFile.h"
@@ -28,19 +29,19 @@ CliMedium byPath(const QString& name, const QString& path, StopRequest stop, con
     if (const auto facts = probeMedium(path, &why, map)) {
         medium.sectors = facts->sectors;
         if (facts->isImage && facts->sectors == 0) {
-            medium.complaint = QStringLiteral("“%1” is empty: it holds no whole sector.").arg(name);
+            medium.complaint = QObject::tr("“%1” is empty: it holds no whole sector.").arg(name);
         } else if (const auto packed = facts->isImage ? refusePackedImage(path) : std::nullopt) {
             medium.complaint =
-                *packed +
-                QStringLiteral(" Searched all the same; only what is stored unpacked can be found.");
+                *packed + u' ' +
+                QObject::tr("Searched all the same; only what is stored unpacked can be found.");
         } else if (facts->notRead != 0) {
             medium.complaint =
-                QStringLiteral("Of %1 sectors of “%2” %3 were not read, says its map.")
+                QObject::tr("Of %1 sectors of “%2” %3 were not read, says its map.")
                     .arg(numberForPeople(facts->sectors), name, numberForPeople(facts->notRead));
         }
     } else if (!QFileInfo::exists(path)) {
         medium.complaint =
-            QStringLiteral("“%1” is neither a file nor a storage medium of this machine.").arg(name);
+            QObject::tr("“%1” is neither a file nor a storage medium of this machine.").arg(name);
     } else {
         medium.complaint = QStringLiteral("%1: %2").arg(name, why);
     }

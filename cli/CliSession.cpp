@@ -3,6 +3,7 @@
 
 #include <QHash>
 #include <QJsonArray>
+#include <QObject>
 #include <algorithm>
 
 #include "catalogue/TypePresets.h"
@@ -240,7 +241,7 @@ void CliSession::mend() {
     if (!medium) {
         m_mendingFailed = true;
         m_mendingLines.append(
-            QStringLiteral("Broken files were left as they are: the medium cannot be opened."));
+            QObject::tr("Broken files were left as they are: the medium cannot be opened."));
         return;
     }
     std::vector<MendableItem> items;
@@ -266,13 +267,14 @@ std::set<std::uint64_t> CliSession::completeItems(SectorReader& medium,
                                                   const std::vector<MendableItem>& items) {
     // Pictures in a movie look like files of their own, and behind lengths alone anything may stand.
     const CompletableKind movies{
-        QStringLiteral("movies"), isMovieOfBoxes,
+        QObject::tr("%1 of %2 broken movies completed, %3 more put together: please look"), isMovieOfBoxes,
         [](const MendableItem& item) { return isMovieOfBoxes(item.type); },
         [&](auto broken, auto whole) {
             return MovieCompletion(medium, stop_now, m_completing).run(broken, whole);
         }};
     const CompletableKind photos{
-        QStringLiteral("photos"), isPictureWithSyntax, [](const MendableItem& item) { return item.checked; },
+        QObject::tr("%1 of %2 broken photos completed, %3 more put together: please look"),
+        isPictureWithSyntax, [](const MendableItem& item) { return item.checked; },
         [&](auto broken, auto whole) {
             return PhotoCompletion(medium, stop_now, m_completing).run(broken, whole);
         }};
@@ -288,8 +290,7 @@ std::set<std::uint64_t> CliSession::completeItems(SectorReader& medium,
     };
     // What a mode does not search for cannot be completed.
     if (m_options.mode == kPhotoMode) {
-        m_mendingLines.append(
-            QStringLiteral("Movies are not searched for in photo mode, so none is completed"));
+        m_mendingLines.append(QObject::tr("Movies are not searched for in photo mode, so none is completed"));
     } else {
         complete(movies);
     }
@@ -302,8 +303,7 @@ std::set<std::uint64_t> CliSession::completeItems(SectorReader& medium,
 void CliSession::repairItems(SectorReader& medium, const std::vector<MendableItem>& items,
                              const std::set<std::uint64_t>& completed) {
     if (m_options.mode == kPhotoMode) {
-        m_mendingLines.append(
-            QStringLiteral("Movies are not searched for in photo mode, so none is repaired"));
+        m_mendingLines.append(QObject::tr("Movies are not searched for in photo mode, so none is repaired"));
         return;
     }
     MovieMending mending(medium, stop_now);

@@ -1,6 +1,7 @@
 // From what a search found to twins that are whole, one kind of file after the other.
 #include "cli/Completing.h"
 
+#include <QObject>
 #include <algorithm>
 
 #include "formats/Registry.h"
@@ -78,9 +79,8 @@ Completed Completion::run(const std::vector<MendableItem>& items, std::vector<Se
             m_done.firstSectors.insert(broken[i]);
         }
     }
-    m_done.lines.append(QStringLiteral("%1 of %2 broken %3 completed, %4 more put together: please look")
-                            .arg(numberForPeople(proved), numberForPeople(broken.size()), m_kind.plural,
-                                 numberForPeople(likely)));
+    m_done.lines.append(
+        m_kind.summary.arg(numberForPeople(proved), numberForPeople(broken.size()), numberForPeople(likely)));
     m_done.whole = std::move(whole);
     return m_done;
 }
@@ -103,9 +103,11 @@ bool Completion::write(const MendableItem& item, const Assembly& assembly) {
         m_done.lines.append(QStringLiteral("%1: %2").arg(item.name, written.error));
         return false;
     }
-    m_done.lines.append((proved ? QStringLiteral("%1: complete, from %2 pieces")
-                                : QStringLiteral("%1: put together from %2 pieces, please look"))
-                            .arg(written.path, numberForPeople(assembly.runs.size())));
+    m_done.lines.append(
+        (proved ? QObject::tr("%1: complete, from %2 pieces", nullptr, pluralOf(assembly.runs.size()))
+                : QObject::tr("%1: put together from %2 pieces, please look", nullptr,
+                              pluralOf(assembly.runs.size())))
+            .arg(written.path, numberForPeople(assembly.runs.size())));
     return true;
 }
 

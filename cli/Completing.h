@@ -28,7 +28,7 @@ struct MendableItem {
 };
 
 struct CompletableKind {
-    QString plural;  // "movies"
+    QString summary;  // how many of how many were completed and put together: %1, %2 and %3
     std::function<bool(const QString& type)> includes;
     // Whether a complete item takes places away.
     std::function<bool(const MendableItem& item)> yieldsTo;

@@ -1,6 +1,7 @@
 // From options to the wishes of a search, and back.
 #include "cli/KeptSearch.h"
 
+#include <QObject>
 #include <tuple>
 #include <utility>
 
@@ -49,11 +50,11 @@ std::shared_ptr<SearchKeeper> keeperFor(const CliOptions& options, const CliSess
     if (kept) {
         const auto reader = medium.open({});
         if (wishes != record.wishes) {
-            *why = QStringLiteral("The signature catalogues are not those that it was begun with.");
+            *why = QObject::tr("The signature catalogues are not those that it was begun with.");
         } else if (!reader) {
-            *why = QStringLiteral("The medium %1 cannot be opened.").arg(options.medium);
+            *why = QObject::tr("The medium %1 cannot be opened.").arg(options.medium);
         } else if (medium.sectors != record.sectors || !holdsSamples(*reader, record.samples)) {
-            *why = QStringLiteral("%1 is not the medium that was searched.").arg(options.medium);
+            *why = QObject::tr("%1 is not the medium that was searched.").arg(options.medium);
         }
         if (!why->isEmpty()) {
             return nullptr;

@@ -5,10 +5,12 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QObject>
 #include <QTimeZone>
 #include <cstdio>
 
 #include "cli/Options.h"
+#include "cli/Telling.h"
 #include "decode/CardHelper.h"
 #include "filesystem/CardCollector.h"
 
@@ -100,7 +102,7 @@ QJsonObject objectFor(const CardFile& file) {
 int listFiles(const CliMedium& medium, const StopRequest& stop) {
     const std::unique_ptr<SectorReader> reader = medium.open(QString());
     if (!reader) {
-        std::fprintf(stderr, "vantor-recovery-cli: The medium cannot be opened.\n");
+        complain(QObject::tr("The medium cannot be opened."));
         return kExitCannotOpen;
     }
     CardCollector collector;
@@ -117,7 +119,7 @@ int listFiles(const CliMedium& medium, const StopRequest& stop) {
     }
     const auto read = readCardInHelper(*reader, medium.sectors, collector.traces(), {});
     if (!read) {
-        std::fprintf(stderr, "vantor-recovery-cli: The medium's directories could not be read.\n");
+        complain(QObject::tr("The medium's directories could not be read."));
         return kExitReadError;
     }
     const CardTable& table = *read;

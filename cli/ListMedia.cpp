@@ -3,6 +3,7 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QObject>
 #include <algorithm>
 #include <cstdio>
 
@@ -30,8 +31,8 @@ void printJson(const Records& records) {
 }
 
 void printTable(const Records& records) {
-    QList<QStringList> rows{{QStringLiteral("Medium"), QStringLiteral("Name"), QStringLiteral("File system"),
-                             QStringLiteral("Size"), QStringLiteral("Disk"), QStringLiteral("Sectors")}};
+    QList<QStringList> rows{{QObject::tr("Medium"), QObject::tr("Name"), QObject::tr("File system"),
+                             QObject::tr("Size"), QObject::tr("Disk"), QObject::tr("Sectors")}};
     for (const auto& record : records) {
         rows.append({record->nsStrDiskIdentifier, shownLabel(record->nsStrVolName),
                      shownLabel(record->nsStrFileSystem), record->nsStrSize.simplified(),
@@ -59,7 +60,9 @@ int listMedia(MediaSource& source, bool asJson) {
     if (asJson) {
         printJson(records);
     } else if (records.isEmpty()) {
-        std::printf("No storage medium found. Put in a card or stick, or name an image file instead.\n");
+        std::printf("%s\n",
+                    qPrintable(QObject::tr(
+                        "No storage medium found. Put in a card or stick, or name an image file instead.")));
     } else {
         printTable(records);
     }

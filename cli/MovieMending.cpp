@@ -1,6 +1,7 @@
 #include "cli/MovieMending.h"
 
 #include <QFile>
+#include <QObject>
 #include <algorithm>
 
 #include "results/SizeForPeople.h"
@@ -38,13 +39,12 @@ QString seconds(double value) {
 QString MovieMending::useReference(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        return QStringLiteral("The movie %1 cannot be read.").arg(path);
+        return QObject::tr("The movie %1 cannot be read.").arg(path);
     }
     FileSource source(file);
     auto movie = readReference(source);
     if (!movie) {
-        return QStringLiteral("%1 is no whole MP4 or QuickTime movie of a kind that can be repaired.")
-            .arg(path);
+        return QObject::tr("%1 is no whole MP4 or QuickTime movie of a kind that can be repaired.").arg(path);
     }
     m_named = std::make_unique<ReferenceShelf::Kept>(ReferenceShelf::Kept{path, 0, std::move(*movie)});
     return {};
@@ -89,7 +89,7 @@ void MovieMending::repair(const std::vector<MendableItem>& items, const QString&
             mend(each, destination);
         }
     }
-    m_lines.append(QStringLiteral("%1 of %2 movies without an index repaired")
+    m_lines.append(QObject::tr("%1 of %2 movies without an index repaired")
                        .arg(numberForPeople(m_repaired), numberForPeople(broken.size())));
 }
 
@@ -101,14 +101,14 @@ void MovieMending::mend(const Broken& broken, const QString& destination) {
         m_named ? m_named.get()
                 : m_shelf.choose(bytes, broken.data, item.carved.runs.front().first, m_splitter, &m_stop);
     if (reference == nullptr) {
-        m_lines.append(QStringLiteral("%1: no whole movie of its camera was found").arg(item.name));
+        m_lines.append(QObject::tr("%1: no whole movie of its camera was found").arg(item.name));
         return;
     }
     WalkLimits limits;
     limits.stop = &m_stop;
     const auto repaired = repairMovie(bytes, broken.data, reference->movie, m_splitter, limits);
     if (!repaired || m_stop != 0) {
-        m_lines.append(QStringLiteral("%1: no picture found").arg(item.name));
+        m_lines.append(QObject::tr("%1: no picture found").arg(item.name));
         return;
     }
     const WrittenTwin twin = writeTwin(
@@ -119,7 +119,7 @@ void MovieMending::mend(const Broken& broken, const QString& destination) {
         return;
     }
     ++m_repaired;
-    m_lines.append(QStringLiteral("%1: %2 pictures, %3 s, and %4 s of sound, as in %5")
+    m_lines.append(QObject::tr("%1: %2 pictures, %3 s, and %4 s of sound, as in %5")
                        .arg(twin.path, numberForPeople(repaired->pictures), seconds(repaired->pictureSeconds),
                             seconds(repaired->soundSeconds), reference->name));
 }

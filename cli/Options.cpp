@@ -2,6 +2,7 @@
 #include "cli/Options.h"
 
 #include <QCommandLineParser>
+#include <QObject>
 
 #include "catalogue/ResourcesFolder.h"
 #include "cli/CopyOptions.h"
@@ -12,7 +13,7 @@ namespace vantor {
 
 namespace {
 
-const QString kExitCodeHelp = QStringLiteral(
+const QString kExitCodeHelp = QObject::tr(
     "\nExit codes: 0 completed, 2 bad usage, 3 stopped, 4 the medium could not be read to the end, 5 the "
     "medium cannot\n"
     "be opened, 6 something found could not be saved.\n"
@@ -22,7 +23,7 @@ const QString kExitCodeHelp = QStringLiteral(
 ParsedOptions badUsage(const QString& why) {
     ParsedOptions parsed;
     parsed.exitCode = kExitBadUsage;
-    parsed.message = why + QStringLiteral("\nTry --help.");
+    parsed.message = why + QObject::tr("\nTry --help.");
     return parsed;
 }
 
@@ -43,64 +44,68 @@ std::optional<RecoveryMode> modeOf(const QString& text) {
 
 ParsedOptions parseOptions(const QStringList& arguments) {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
+    parser.setApplicationDescription(QObject::tr(
         "Finds photos, videos and other files on a storage medium by the bytes that begin them."));
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
-                                  QStringLiteral("Show this help."));
+                                  QObject::tr("Show this help."));
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
-                                     QStringLiteral("Show the version."));
+                                     QObject::tr("Show the version."));
     const QCommandLineOption mode(QStringLiteral("mode"),
-                                  QStringLiteral("What to look for: photo (default), video or rawfile."),
+                                  QObject::tr("What to look for: photo (default), video or rawfile."),
                                   QStringLiteral("MODE"), QStringLiteral("photo"));
     const QCommandLineOption types(
         QStringLiteral("types"),
-        QStringLiteral("Only these file types, comma-separated (video and rawfile modes): extensions, or "
-                       "@photos, @office, @phone, @recorder, @everything."),
+        QObject::tr("Only these file types, comma-separated (video and rawfile modes): extensions, or "
+                    "@photos, @office, @phone, @recorder, @everything."),
         QStringLiteral("EXT,..."));
     const QCommandLineOption range(QStringLiteral("range"),
-                                   QStringLiteral("Only the sectors from START up to, not including, END."),
+                                   QObject::tr("Only the sectors from START up to, not including, END."),
                                    QStringLiteral("START:END"));
     const QCommandLineOption noThorough(QStringLiteral("no-thorough"),
-                                        QStringLiteral("Leave out the thorough pass of photo mode."));
+                                        QObject::tr("Leave out the thorough pass of photo mode."));
     const QCommandLineOption retryBad(
         QStringLiteral("retry-bad"),
-        QStringLiteral("Ask the medium again for bad sectors in the thorough pass and for saving."));
+        QObject::tr("Ask the medium again for bad sectors in the thorough pass and for saving."));
     const QCommandLineOption sessionFile(
         QStringLiteral("session"),
-        QStringLiteral("Keep the search in FILE, so that --resume can go on with it."),
-        QStringLiteral("FILE"));
+        QObject::tr("Keep the search in FILE, so that --resume can go on with it."), QStringLiteral("FILE"));
     const QCommandLineOption resume(
-        QStringLiteral("resume"),
-        QStringLiteral("Go on with the search kept in FILE; MEDIUM may be left out."),
+        QStringLiteral("resume"), QObject::tr("Go on with the search kept in FILE; MEDIUM may be left out."),
         QStringLiteral("FILE"));
     const QCommandLineOption catalogue(QStringLiteral("catalogue"),
-                                       QStringLiteral("Folder of the six signature catalogues."),
+                                       QObject::tr("Folder of the six signature catalogues."),
                                        QStringLiteral("DIR"), resourcesFolder());
     const SaveOptions saving;
     const CopyOptions copying;
     const QCommandLineOption listJson(
-        QStringLiteral("list-json"),
-        QStringLiteral("Print one JSON object a found item, and one for the end."));
+        QStringLiteral("list-json"), QObject::tr("Print one JSON object a found item, and one for the end."));
     const QCommandLineOption listMedia(
         QStringLiteral("list-media"),
-        QStringLiteral("Print the storage media of this machine (with --list-json as "
-                       "JSON) and search nothing."));
+        QObject::tr("Print the storage media of this machine (with --list-json as "
+                    "JSON) and search nothing."));
     const QCommandLineOption listFiles(
         QStringLiteral("list-files"),
-        QStringLiteral("Print what the medium's own directories tell of its files, those that "
-                       "are there and those that were, as one JSON object each, and search nothing."));
+        QObject::tr("Print what the medium's own directories tell of its files, those that "
+                    "are there and those that were, as one JSON object each, and search nothing."));
     const QCommandLineOption listTypes(
         QStringLiteral("list-types"),
-        QStringLiteral("Print what --types can choose from in this mode, and search nothing."));
+        QObject::tr("Print what --types can choose from in this mode, and search nothing."));
     const QCommandLineOption quiet({QStringLiteral("q"), QStringLiteral("quiet")},
-                                   QStringLiteral("Say nothing but what went wrong, and no progress."));
-    parser.addOptions({help, version, mode, types, range, noThorough, retryBad, sessionFile, resume,
+                                   QObject::tr("Say nothing but what went wrong, and no progress."));
+    // Taken out of the command line before: the help itself is in that language.
+    const QCommandLineOption language(
+        QStringLiteral("language"),
+        QObject::tr(
+            "Speak this language (en, de, fr, es, it, pt_BR, nl, pl, ja or zh_CN) in place of the desktop's; "
+            "with --list-json it is English always."),
+        QStringLiteral("CODE"));
+    parser.addOptions({help, version, language, mode, types, range, noThorough, retryBad, sessionFile, resume,
                        catalogue, listJson, listMedia, listFiles, listTypes, quiet});
     saving.addTo(parser);
     copying.addTo(parser);
     parser.addPositionalArgument(
         QStringLiteral("MEDIUM"),
-        QStringLiteral("An image file, a device's identifier (sdb1) or its path (/dev/sdb1)."));
+        QObject::tr("An image file, a device's identifier (sdb1) or its path (/dev/sdb1)."));
 
     if (!parser.parse(QStringList{QStringLiteral("vantor-recovery-cli")} + arguments)) {
         return badUsage(parser.errorText());
@@ -118,23 +123,23 @@ ParsedOptions parseOptions(const QStringList& arguments) {
     }
     const auto chosenMode = modeOf(parser.value(mode));
     if (!chosenMode) {
-        return badUsage(QStringLiteral("Unknown mode \"%1\".").arg(parser.value(mode)));
+        return badUsage(QObject::tr("Unknown mode \"%1\".").arg(parser.value(mode)));
     }
     CliOptions& options = parsed.options;
     options.mode = *chosenMode;
     options.resume = parser.isSet(resume);
     if (options.resume && (parser.isSet(mode) || parser.isSet(types) || parser.isSet(range) ||
                            parser.isSet(noThorough) || parser.isSet(sessionFile))) {
-        return badUsage(QStringLiteral("What to search for stands in the file of --resume."));
+        return badUsage(QObject::tr("What to search for stands in the file of --resume."));
     }
     options.sessionFile = parser.value(options.resume ? resume : sessionFile);
     if (options.sessionFile.isEmpty() && (options.resume || parser.isSet(sessionFile))) {
-        return badUsage(QStringLiteral("No file given to keep the search in."));
+        return badUsage(QObject::tr("No file given to keep the search in."));
     }
     if (parser.isSet(types)) {
         if (options.mode == kPhotoMode) {
             return badUsage(
-                QStringLiteral("Photo mode searches for all its types; --types goes with video or rawfile."));
+                QObject::tr("Photo mode searches for all its types; --types goes with video or rawfile."));
         }
         options.types = parser.value(types).split(u',', Qt::SkipEmptyParts);
     }
@@ -142,7 +147,7 @@ ParsedOptions parseOptions(const QStringList& arguments) {
         const QString text = parser.value(range);
         const qsizetype colon = text.indexOf(u':');
         if (colon < 0) {
-            return badUsage(QStringLiteral("--range takes START:END."));
+            return badUsage(QObject::tr("--range takes START:END."));
         }
         options.range = {text.left(colon), text.mid(colon + 1)};
     }
@@ -162,20 +167,20 @@ ParsedOptions parseOptions(const QStringList& arguments) {
     const QStringList media = parser.positionalArguments();
     if (options.listTypes) {
         if (options.mode == kPhotoMode) {
-            return badUsage(QStringLiteral(
+            return badUsage(QObject::tr(
                 "Photo mode searches for all its types; --list-types goes with video or rawfile."));
         }
-        return media.isEmpty() ? parsed : badUsage(QStringLiteral("--list-types takes no medium."));
+        return media.isEmpty() ? parsed : badUsage(QObject::tr("--list-types takes no medium."));
     }
     if (options.listMedia) {
-        return media.isEmpty() ? parsed : badUsage(QStringLiteral("--list-media takes no medium."));
+        return media.isEmpty() ? parsed : badUsage(QObject::tr("--list-media takes no medium."));
     }
     if (options.resume && media.isEmpty()) {
         return parsed;
     }
     if (media.size() != 1) {
-        return badUsage(media.isEmpty() ? QStringLiteral("No medium given.")
-                                        : QStringLiteral("More than one medium given."));
+        return badUsage(media.isEmpty() ? QObject::tr("No medium given.")
+                                        : QObject::tr("More than one medium given."));
     }
     options.medium = media.first();
     return parsed;

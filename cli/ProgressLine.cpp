@@ -1,6 +1,7 @@
 // Drawing of the progress line, and the speed behind it.
 #include "cli/ProgressLine.h"
 
+#include <QObject>
 #include <condition_variable>
 #include <cstdio>
 #include <mutex>
@@ -33,8 +34,10 @@ ProgressLine::~ProgressLine() = default;
 
 void ProgressLine::draw() {
     if (const std::size_t of = m_session.completing().of; of != 0) {
-        std::fprintf(stderr, "\r\033[KCompleting broken files: %zu of %zu",
-                     m_session.completing().looked.load(), of);
+        std::fprintf(stderr, "\r\033[K%s",
+                     qPrintable(QObject::tr("Completing broken files: %1 of %2")
+                                    .arg(m_session.completing().looked.load())
+                                    .arg(of)));
         std::fflush(stderr);
         return;
     }

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
+#include <QObject>
 #include <array>
 #include <csignal>
 #include <cstdio>
@@ -89,14 +90,14 @@ bool prepareDestination(CliOptions& options, const QString& mediumPath) {
         return true;
     }
     if (destinationIsOnMedium(options.saveFolder, mediumPath)) {
-        complain(QStringLiteral(
-                     "%1 lies on the medium that is to be searched; saving there would overwrite what is "
-                     "still to be found. Choose a folder on another disk.")
-                     .arg(options.saveFolder));
+        complain(
+            QObject::tr("%1 lies on the medium that is to be searched; saving there would overwrite what is "
+                        "still to be found. Choose a folder on another disk.")
+                .arg(options.saveFolder));
         return false;
     }
     if (!makeFolder(options.saveFolder) || !QFileInfo(options.saveFolder).isWritable()) {
-        complain(QStringLiteral("The folder %1 cannot be written to.").arg(options.saveFolder));
+        complain(QObject::tr("The folder %1 cannot be written to.").arg(options.saveFolder));
         return false;
     }
     return true;
@@ -105,7 +106,7 @@ bool prepareDestination(CliOptions& options, const QString& mediumPath) {
 // The copy that was asked for, which will read the medium for all others; null after saying why not.
 std::shared_ptr<MediumCopy> beginCopy(const CliOptions& options, const CliMedium& medium) {
     if (medium.sectors == 0) {
-        complain(QStringLiteral("%1 cannot be copied: its size is not known.").arg(options.medium));
+        complain(QObject::tr("%1 cannot be copied: its size is not known.").arg(options.medium));
         return nullptr;
     }
     if (const auto refusal = refuseCopyPlace(options.image, medium.path)) {
@@ -157,7 +158,7 @@ bool cataloguesRefused(const CliOptions& options) {
     if (readable(general) || readable(thorough)) {
         return false;
     }
-    complain(QStringLiteral("The folder %1 holds no signature catalogue that can be read.")
+    complain(QObject::tr("The folder %1 holds no signature catalogue that can be read.")
                  .arg(options.catalogueFolder));
     return true;
 }
@@ -172,12 +173,11 @@ bool typesRefused(CliSession& session, const CliOptions& options) {
     }
     const QStringList unknown = session.chooseTypes(*options.types);
     if (!unknown.isEmpty()) {
-        complain(
-            QStringLiteral("No such file type in this mode: %1").arg(unknown.join(QStringLiteral(", "))));
+        complain(QObject::tr("No such file type in this mode: %1").arg(unknown.join(QStringLiteral(", "))));
         return true;
     }
     if (!session.Check_For_One_Extension_Selection()) {
-        complain(kNoTypeChosen);
+        complain(noTypeChosenWords());
         return true;
     }
     return false;
@@ -189,7 +189,7 @@ MediumOpener openerAfterALook(const CliMedium& medium, const MediumOpener& open)
     auto opened = std::make_shared<std::optional<std::unique_ptr<SectorReader>>>(open(QString()));
     SectorReader* reader = opened->value().get();
     if (reader && looksErased(*reader, medium.sectors)) {
-        complain(QString::fromLatin1(kErasedCardWords) + QStringLiteral(" Searched all the same."));
+        complain(erasedCardWords() + u' ' + QObject::tr("Searched all the same."));
     }
     if (reader && !reader->seek(0)) {
         opened->reset();
@@ -270,13 +270,13 @@ int recover(CliOptions options) {
     session.setMediumOpener(open, refused);
     if (!options.sessionFile.isEmpty() &&
         destinationIsOnMedium(QFileInfo(options.sessionFile).absolutePath(), medium.path)) {
-        complain(QStringLiteral("%1 lies on the medium that is to be searched.").arg(options.sessionFile));
+        complain(QObject::tr("%1 lies on the medium that is to be searched.").arg(options.sessionFile));
         return kExitDestinationTrouble;
     }
     std::shared_ptr<SearchKeeper> keeper;
     runBesideEvents([&] { keeper = keeperFor(options, session, medium, kept, &why); });
     if (!why.isEmpty()) {
-        complain(QStringLiteral("The search cannot go on. ") + why);
+        complain(QObject::tr("The search cannot go on. %1").arg(why));
         return kExitCannotOpen;
     }
     session.keepSearch(keeper);
@@ -300,8 +300,8 @@ int recover(CliOptions options) {
         });
     }
     if (keeper && !keeper->error().isEmpty()) {
-        complain(QStringLiteral("The search could not be kept in %1: %2")
-                     .arg(options.sessionFile, keeper->error()));
+        complain(
+            QObject::tr("The search could not be kept in %1: %2").arg(options.sessionFile, keeper->error()));
     }
     const int code = tell(session, options, medium, head);
     return !copy || tellCopy(*copy, options) || code != kExitCompleted ? code : kExitDestinationTrouble;

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QJsonDocument>
 #include <QMap>
+#include <QObject>
 #include <cstdio>
 
 #include "catalogue/TextHelpers.h"
@@ -51,19 +52,20 @@ void printTable(const CliSession& session) {
 void tellSaving(const CliSession& session, const CliOptions& options) {
     const SaveTally& tally = session.saveTally();
     if (session.toldCount() != 0) {
-        say(options, QStringLiteral("%1 more files that only the card's directory tells of")
+        say(options, QObject::tr("%1 more files that only the card's directory tells of", nullptr,
+                                 pluralOf(session.toldCount()))
                          .arg(numberForPeople(session.toldCount())));
     }
     for (const QString& line : tally.lines(QDir(options.saveFolder).absolutePath())) {
         say(options, withShownPaths(line));
     }
     if (tally.failed != 0) {
-        complain(QStringLiteral("%1 could not be saved:").arg(numberForPeople(tally.failed)));
+        complain(QObject::tr("%1 could not be saved:").arg(numberForPeople(tally.failed)));
         for (const QString& failure : tally.failures) {
             complain(QStringLiteral("  ") + failure);
         }
         if (static_cast<std::uint64_t>(tally.failures.size()) < tally.failed) {
-            complain(QStringLiteral("  and others"));
+            complain(QObject::tr("  and others"));
         }
     }
 }
@@ -85,7 +87,7 @@ bool writeReportOf(const CliSession& session, const CliOptions& options, ReportH
         complain(written.error);
         return false;
     }
-    say(options, QStringLiteral("Report: ") + withShownPaths(written.html));
+    say(options, QObject::tr("Report: %1").arg(withShownPaths(written.html)));
     return true;
 }
 
@@ -118,9 +120,9 @@ void tellEnd(const SearchEnd& end, const CliOptions& options, const CliMedium& m
         complain(why);
     }
     if (end.canGoOn() && !options.sessionFile.isEmpty()) {
-        complain(QStringLiteral("To go on from there: --resume %1").arg(options.sessionFile));
+        complain(QObject::tr("To go on from there: --resume %1").arg(options.sessionFile));
     } else if (end.canGoOn()) {
-        complain(QStringLiteral("To go on from there: --range %1:%2").arg(end.goOnAt).arg(end.end));
+        complain(QObject::tr("To go on from there: --range %1:%2").arg(end.goOnAt).arg(end.end));
     }
 }
 
@@ -151,12 +153,12 @@ int tell(const CliSession& session, const CliOptions& options, const CliMedium& 
     }
     // A list that a full disk cut short looks complete to a script.
     if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
-        complain(QStringLiteral("What was found cannot be written to the standard output."));
+        complain(QObject::tr("What was found cannot be written to the standard output."));
         return kExitDestinationTrouble;
     }
     const int code = exitCodeOf(session);
     if (!allRead) {
-        complain(QStringLiteral("Not all items could be read once more; those have no checksum."));
+        complain(QObject::tr("Not all items could be read once more; those have no checksum."));
         return code == kExitCompleted ? kExitReadError : code;
     }
     return code;
@@ -164,7 +166,7 @@ int tell(const CliSession& session, const CliOptions& options, const CliMedium& 
 
 bool tellCopy(const MediumCopy& copy, const CliOptions& options) {
     const CopyProgress progress = copy.progress();
-    say(options, QStringLiteral("Copy: ") + copyEndWords(progress));
+    say(options, QObject::tr("Copy: %1").arg(copyEndWords(progress)));
     if (!progress.trouble.isEmpty()) {
         complain(progress.trouble);
     }

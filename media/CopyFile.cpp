@@ -8,6 +8,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QObject>
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
@@ -57,10 +58,10 @@ std::unique_ptr<CopyFile> CopyFile::open(const QString& imagePath, std::uint64_t
     copy->m_imagePath = info.absoluteFilePath();
     const QString map = mapBeside(copy->m_imagePath);
     if (info.exists() && !info.isFile()) {
-        return refuse(QStringLiteral("“%1” is no file.").arg(name));
+        return refuse(QObject::tr("“%1” is no file.").arg(name));
     }
     if (!info.exists() && !map.isEmpty()) {
-        return refuse(QStringLiteral("The map “%1” belongs to another copy. Please choose another name.")
+        return refuse(QObject::tr("The map “%1” belongs to another copy. Please choose another name.")
                           .arg(QFileInfo(map).fileName()));
     }
     copy->m_found = CopyMap(sectors * kSectorBytes);
@@ -74,7 +75,7 @@ std::unique_ptr<CopyFile> CopyFile::open(const QString& imagePath, std::uint64_t
         copy->m_found = found->ofWholeSectors();
         if (copy->m_found.bytes() != sectors * kSectorBytes) {
             return refuse(
-                QStringLiteral("“%1” is a copy of a medium of another size. Please choose another name.")
+                QObject::tr("“%1” is a copy of a medium of another size. Please choose another name.")
                     .arg(name));
         }
     }
@@ -82,16 +83,16 @@ std::unique_ptr<CopyFile> CopyFile::open(const QString& imagePath, std::uint64_t
     copy->m_image = FileDescriptor(::open(QFile::encodeName(copy->m_imagePath).constData(), flags, 0666));
     struct stat image {};
     if (!copy->m_image || ::fstat(copy->m_image.get(), &image) != 0) {
-        return refuse(QStringLiteral("“%1” cannot be written: %2.").arg(name, systemWords(errno)));
+        return refuse(QObject::tr("“%1” cannot be written: %2.").arg(name, systemWords(errno)));
     }
     if (::flock(copy->m_image.get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
-        return refuse(QStringLiteral("“%1” is being written by another search.").arg(name));
+        return refuse(QObject::tr("“%1” is being written by another search.").arg(name));
     }
     // An empty one is what a program leaves that is killed before it has written the map.
     if (map.isEmpty() && image.st_size != 0) {
         return refuse(
-            QStringLiteral("“%1” is there already, and no map beside it says that it is a copy to go on "
-                           "with. Please choose another name.")
+            QObject::tr("“%1” is there already, and no map beside it says that it is a copy to go on "
+                        "with. Please choose another name.")
                 .arg(name));
     }
     copy->m_length = static_cast<std::uint64_t>(image.st_size);
@@ -120,7 +121,7 @@ bool CopyFile::writeAt(std::uint64_t sector, std::span<const std::uint8_t> bytes
 
 std::optional<QString> CopyFile::keep(const CopyMap& map) const {
     if (::fdatasync(m_image.get()) != 0) {
-        return QStringLiteral("“%1” cannot be written: %2").arg(m_imagePath, systemWords(errno));
+        return QObject::tr("“%1” cannot be written: %2").arg(m_imagePath, systemWords(errno));
     }
     return storeCopyMap(m_mapPath, map);
 }

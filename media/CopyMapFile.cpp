@@ -3,6 +3,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QObject>
 #include <QSaveFile>
 
 #include "media/CopyMapText.h"
@@ -46,20 +47,20 @@ QString newMapBeside(const QString& imagePath) {
 std::optional<CopyMap> loadCopyMap(const QString& path, QString* why) {
     const auto refuse = [&](const QString& words) {
         if (why != nullptr) {
-            *why = QStringLiteral("The map “%1” cannot be used: %2").arg(QFileInfo(path).fileName(), words);
+            *why = QObject::tr("The map “%1” cannot be used: %2").arg(QFileInfo(path).fileName(), words);
         }
         return std::nullopt;
     };
     QFile file(path);
     if (!QFileInfo(path).isFile()) {
-        return refuse(QFileInfo::exists(path) ? QStringLiteral("it is no file")
-                                              : QStringLiteral("it is not there"));
+        return refuse(QFileInfo::exists(path) ? QObject::tr("it is no file")
+                                              : QObject::tr("it is not there"));
     }
     if (!file.open(QIODevice::ReadOnly)) {
         return refuse(file.errorString());
     }
     if (file.size() > kMostBytes) {
-        return refuse(QStringLiteral("it is too large for a map"));
+        return refuse(QObject::tr("it is too large for a map"));
     }
     QString wrong;
     auto map = readCopyMap(file.read(kMostBytes), &wrong);
@@ -70,7 +71,7 @@ std::optional<QString> storeCopyMap(const QString& path, const CopyMap& map) {
     QSaveFile file(path);
     const QByteArray text = writeCopyMap(map);
     if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit()) {
-        return QStringLiteral("The map “%1” cannot be written: %2").arg(path, file.errorString());
+        return QObject::tr("The map “%1” cannot be written: %2").arg(path, file.errorString());
     }
     return std::nullopt;
 }

@@ -1,6 +1,7 @@
 // Line by line; every number is checked where it is read.
 #include "media/CopyMapText.h"
 
+#include <QObject>
 #include <charconv>
 #include <limits>
 #include <string_view>
@@ -54,13 +55,14 @@ class Reading {
             return nullptr;
         }
         if (line.size() > kMostLine) {
-            return "the line is too long";
+            return QT_TRANSLATE_NOOP("QObject", "the line is too long");
         }
         return m_hasPosition ? takeRun(words) : takePosition(words);
     }
 
     const char* finish() const {
-        return m_hasPosition ? nullptr : "there is no line that tells the position";
+        return m_hasPosition ? nullptr
+                             : QT_TRANSLATE_NOOP("QObject", "there is no line that tells the position");
     }
 
     CopyMap map() const {
@@ -77,7 +79,7 @@ class Reading {
         const auto at = numberOf(words[0]);
         const auto pass = words.size() > 2 ? numberOf(words[2]) : std::optional<std::uint64_t>(1);
         if (!at || !pass || words.size() < 2 || words.size() > 3 || !isOneOf(words[1], "?*/-FG+")) {
-            return "a position, one of ?*/-FG+ and a pass are expected";
+            return QT_TRANSLATE_NOOP("QObject", "a position, one of ?*/-FG+ and a pass are expected");
         }
         m_position = {*at, words[1].front(), *pass};
         m_hasPosition = true;
@@ -88,16 +90,17 @@ class Reading {
         const auto first = numberOf(words[0]);
         const auto length = words.size() == 3 ? numberOf(words[1]) : std::nullopt;
         if (!first || !length || !isOneOf(words[2], "?*/-+")) {
-            return "a position, a size and one of ?*/-+ are expected";
+            return QT_TRANSLATE_NOOP("QObject", "a position, a size and one of ?*/-+ are expected");
         }
         if (*length == 0 || *length > std::numeric_limits<std::int64_t>::max() - *first) {
-            return "the size cannot be";
+            return QT_TRANSLATE_NOOP("QObject", "the size cannot be");
         }
         if (!m_runs.empty() && *first != m_end) {
-            return *first < m_end ? "it overlaps with the line before" : "there is a gap before it";
+            return *first < m_end ? QT_TRANSLATE_NOOP("QObject", "it overlaps with the line before")
+                                  : QT_TRANSLATE_NOOP("QObject", "there is a gap before it");
         }
         if (m_runs.size() + 4 > CopyMap::kMostRuns) {
-            return "there are too many lines";
+            return QT_TRANSLATE_NOOP("QObject", "there are too many lines");
         }
         m_end = *first + *length;
         m_runs.push_back({*first, m_end, static_cast<CopyState>(words[2].front())});
@@ -124,12 +127,12 @@ std::optional<CopyMap> readCopyMap(QByteArrayView text, QString* why) {
     for (int number = 1; !rest.empty(); ++number) {
         const std::size_t end = std::min(rest.find('\n'), rest.size());
         if (const char* const wrong = reading.take(rest.substr(0, end))) {
-            return refuse(QStringLiteral("line %1: %2").arg(number).arg(QLatin1String(wrong)));
+            return refuse(QObject::tr("line %1: %2").arg(number).arg(QObject::tr(wrong)));
         }
         rest.remove_prefix(std::min(end + 1, rest.size()));
     }
     if (const char* const wrong = reading.finish()) {
-        return refuse(QLatin1String(wrong));
+        return refuse(QObject::tr(wrong));
     }
     return reading.map();
 }

@@ -2,6 +2,7 @@
 #include "media/ImageShelf.h"
 
 #include <QFileInfo>
+#include <QObject>
 #include <utility>
 
 #include "media/ImageFile.h"
@@ -52,12 +53,11 @@ OpenedImage ImageShelf::addImage(const QString& path) {
     const auto facts = probeMedium(first, &why);
     if (!facts || !facts->isImage) {
         return {{},
-                facts ? QStringLiteral("“%1” is no image file.").arg(path)
-                      : QStringLiteral("“%1” cannot be opened: %2.").arg(path, why)};
+                facts ? QObject::tr("“%1” is no image file.").arg(path)
+                      : QObject::tr("“%1” cannot be opened: %2.").arg(path, why)};
     }
     if (facts->sectors == 0) {
-        return {{},
-                QStringLiteral("“%1” is empty. Please choose an image file of a storage medium.").arg(path)};
+        return {{}, QObject::tr("“%1” is empty. Please choose an image file of a storage medium.").arg(path)};
     }
     m_images << Image{QStringLiteral("image%1").arg(m_images.size() + 1), first};
     updateTargets();

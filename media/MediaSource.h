@@ -1,6 +1,7 @@
 // Which storage media the machine has, and the facts of each.
 #pragma once
 
+#include <QObject>
 #include <QString>
 #include <QStringList>
 #include <QVariantMap>
@@ -45,7 +46,7 @@ class MediaSource {
     // Keeps an image file (or all parts of a split one) as a further medium, across refreshes. The same image
     // twice is one medium.
     virtual OpenedImage addImage(const QString& path) {
-        return {{}, QStringLiteral("“%1” cannot be opened.").arg(path)};
+        return {{}, QObject::tr("“%1” cannot be opened.").arg(path)};
     }
 
     // Where the media of the last listing are to be opened; lives on with whoever keeps it.

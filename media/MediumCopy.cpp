@@ -1,6 +1,7 @@
 // The copying thread, and the one that brings its work to the disk.
 #include "media/MediumCopy.h"
 
+#include <QObject>
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
@@ -112,7 +113,7 @@ void MediumCopy::openNow(std::unique_lock<std::mutex>& lock) {
     m_openWanted = false;
     m_otherMedium = !fits;
     if (!fits) {
-        m_trouble = QStringLiteral("“%1” is a copy of another medium.").arg(m_file->imagePath());
+        m_trouble = QObject::tr("“%1” is a copy of another medium.").arg(m_file->imagePath());
         m_state = CopyProgress::State::OtherMedium;
     } else if (medium) {
         m_state = m_cannotWrite ? CopyProgress::State::CannotWrite : CopyProgress::State::Resting;
@@ -227,7 +228,7 @@ bool MediumCopy::takeStep(std::unique_lock<std::mutex>& lock) {
 void MediumCopy::cannotWrite(const QString& words) {
     m_cannotWrite = true;
     m_state = CopyProgress::State::CannotWrite;
-    m_trouble = QStringLiteral("The copy “%1” ends here: %2. What it does not hold is read from the medium.")
+    m_trouble = QObject::tr("The copy “%1” ends here: %2. What it does not hold is read from the medium.")
                     .arg(m_file->imagePath(), words);
     m_answer.notify_all();
 }

@@ -1,6 +1,7 @@
 // Telling packed images from plain ones by their first and last bytes.
 #include <QFile>
 #include <QFileInfo>
+#include <QObject>
 #include <QString>
 #include <optional>
 
@@ -61,22 +62,22 @@ QString advice(Packing packing) {
     switch (packing) {
         case Packing::Compressed:
         case Packing::Archive:
-            return QStringLiteral("Please unpack it first and open the image file that is inside.");
+            return QObject::tr("Please unpack it first and open the image file that is inside.");
         case Packing::VirtualDisk:
-            return QStringLiteral(
+            return QObject::tr(
                 "Please convert it to a raw image first (for example with “qemu-img convert -O raw”) and "
                 "open "
                 "that.");
         case Packing::Evidence:
-            return QStringLiteral("Please export it as a raw (dd) image first and open that.");
+            return QObject::tr("Please export it as a raw (dd) image first and open that.");
         case Packing::DiskImage:
-            return QStringLiteral("Please convert it to a raw image first and open that.");
+            return QObject::tr("Please convert it to a raw image first and open that.");
     }
     return {};
 }
 
 QString sentence(const QString& path, const QString& format, Packing packing) {
-    return QStringLiteral("“%1” is packed (%2) and cannot be searched as it stands. %3")
+    return QObject::tr("“%1” is packed (%2) and cannot be searched as it stands. %3")
         .arg(path, format, advice(packing));
 }
 

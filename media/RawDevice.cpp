@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 
 #include <QFile>
+#include <QObject>
 #include <cerrno>
 #include <cstring>
 #include <utility>
@@ -173,15 +174,14 @@ std::optional<MediumFacts> probeMedium(const QString& path, QString* why, const 
     };
     const Kind kind = kindOf(path);
     if (kind == Kind::Other) {
-        return refuse(QStringLiteral("Neither a storage medium nor an image file"));
+        return refuse(QObject::tr("Neither a storage medium nor an image file"));
     }
     if (kind == Kind::Image && imageParts(path).size() > ImageFile::kMostParts) {
-        return refuse(
-            QStringLiteral("The image is in more than %1 parts; please join them into one file first")
-                .arg(ImageFile::kMostParts));
+        return refuse(QObject::tr("The image is in more than %1 parts; please join them into one file first")
+                          .arg(ImageFile::kMostParts));
     }
     if (const QString missing = kind == Kind::Image ? missingPart(path) : QString(); !missing.isEmpty()) {
-        return refuse(QStringLiteral("A part of the image is missing: %1").arg(missing));
+        return refuse(QObject::tr("A part of the image is missing: %1").arg(missing));
     }
     errno = 0;
     std::optional<MediumFacts> facts;

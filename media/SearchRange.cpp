@@ -1,6 +1,7 @@
 // The nine checks of a typed sector range, in their order, and the conversion to numbers.
 #include "media/SearchRange.h"
 
+#include <QObject>
 #include <algorithm>
 
 #include "catalogue/NumberText.h"
@@ -11,10 +12,10 @@ namespace {
 
 // The four checks of one field; start and end differ in nothing but the word in the texts.
 std::optional<RangeRefusal> refuseField(const QString& text, const QString& sectors, RangeField field) {
-    const QString hint = field == RangeField::Start ? QStringLiteral("Please enter valid Start Sector value.")
-                                                    : QStringLiteral("Please enter valid End Sector value.");
+    const QString hint = field == RangeField::Start ? QObject::tr("Please enter valid Start Sector value.")
+                                                    : QObject::tr("Please enter valid End Sector value.");
     const RangeRefusal invalid{QStringLiteral("\n") + hint, QStringLiteral(""), field};
-    const RangeRefusal tooLarge{QStringLiteral("\nMaximum sector range exceeded"), hint, field};
+    const RangeRefusal tooLarge{QObject::tr("\nMaximum sector range exceeded"), hint, field};
     if (scanInt64(text).value_or(-1) < 0) {
         return invalid;
     }
@@ -55,7 +56,7 @@ std::optional<RangeRefusal> refuseRange(const QString& start, const QString& end
         return refusal;
     }
     if (textToInt64(end) <= textToInt64(start)) {
-        return RangeRefusal{QStringLiteral("\nEnd Sector should be greater than Start Sector."),
+        return RangeRefusal{QObject::tr("\nEnd Sector should be greater than Start Sector."),
                             QStringLiteral(""), RangeField::End};
     }
     return std::nullopt;

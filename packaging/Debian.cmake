@@ -34,8 +34,9 @@ a display.")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-image-formats-plugins, libqt6svg6")
 # Cards are read without an administrator's rights through udisks2; folders are opened through xdg-utils; the
-# desktop's thumbnail programs run inside bubblewrap, and not at all without it.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "bubblewrap, udisks2, xdg-utils, qt6-wayland")
+# desktop's thumbnail programs run inside bubblewrap, and not at all without it. The toolkit's own texts in other
+# languages come with qt6-translations-l10n.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "bubblewrap, udisks2, xdg-utils, qt6-wayland, qt6-translations-l10n")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "gddrescue")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 include(CPack)

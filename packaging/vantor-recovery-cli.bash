@@ -16,6 +16,10 @@ _vantor_recovery_cli() {
             _filedir
             return
             ;;
+        --language)
+            COMPREPLY=($(compgen -W 'en de fr es it pt_BR nl pl ja zh_CN' -- "$cur"))
+            return
+            ;;
         --names)
             COMPREPLY=($(compgen -W 'original found' -- "$cur"))
             return
@@ -46,7 +50,7 @@ _vantor_recovery_cli() {
     esac
 
     if [[ $cur == -* ]]; then
-        COMPREPLY=($(compgen -W '--help --version --mode --types --range --no-thorough --catalogue
+        COMPREPLY=($(compgen -W '--help --version --language --mode --types --range --no-thorough --catalogue
             --save --as-published --report --names --folders --lost-only --by-date --min-bytes --min-pixels --keep-duplicates
             --skip-unsound --parts
             --retry-bad

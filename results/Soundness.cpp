@@ -74,17 +74,24 @@ QString soundnessText(Verdict verdict) {
 }
 
 QString soundnessWords(Verdict verdict, bool checked) {
-    if (verdict == Verdict::Unknown) {
-        return QObject::tr("of unknown length");
+    switch (verdict) {
+        case Verdict::Complete:
+            return checked ? QObject::tr("complete") : QObject::tr("ends where it says, content not checked");
+        case Verdict::CutOff:
+            return QObject::tr("cut off");
+        case Verdict::Damaged:
+            return QObject::tr("damaged");
+        case Verdict::Unknown:
+            break;
     }
-    return verdict == Verdict::Complete && !checked ? QObject::tr("ends where it says, content not checked")
-                                                    : soundnessText(verdict);
+    return QObject::tr("of unknown length");
 }
 
 QString describe(const Soundness& soundness) {
     QStringList parts{words(soundness)};
     if (soundness.pieces > 1) {
-        parts << QObject::tr("put together from %1 pieces").arg(soundness.pieces);
+        parts << QObject::tr("put together from %1 pieces", nullptr, pluralOf(soundness.pieces))
+                     .arg(soundness.pieces);
     }
     if (soundness.unreadable) {
         parts << QObject::tr("not all of its sectors could be read");

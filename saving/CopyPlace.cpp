@@ -9,6 +9,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QObject>
 #include <QTemporaryFile>
 
 #include "media/SectorReader.h"
@@ -58,7 +59,7 @@ std::optional<QString> refuseCopyPlace(const QString& imagePath, const QString& 
     const bool isMedium = ::stat(QFile::encodeName(imagePath).constData(), &image) == 0 &&
                           storageOfMedium(mediumPath).files.contains({image.st_dev, image.st_ino});
     if (isMedium || destinationIsOnMedium(folder, mediumPath)) {
-        return QStringLiteral(
+        return QObject::tr(
                    "“%1” lies on the medium that is to be copied; writing there would overwrite what is "
                    "still "
                    "to be found. Choose a place on another disk.")
@@ -81,10 +82,11 @@ QStringList warnOfCopyPlace(const QString& imagePath, std::uint64_t sectors) {
     const std::uint64_t needed = bytesForCopy(imagePath, sectors);
     QStringList warnings;
     if (const auto space = refuseForSpace(folder, needed)) {
-        warnings << *space + QStringLiteral(". The copy will end there; the search goes on from the medium.");
+        warnings
+            << QObject::tr("%1. The copy will end there; the search goes on from the medium.").arg(*space);
     }
     if (bytes > kMostOnFat && isOnFat(folder)) {
-        warnings << QStringLiteral(
+        warnings << QObject::tr(
             "Files on this disk can have 4 GB at most. The copy will end there; the search goes on from the "
             "medium.");
     }
@@ -103,7 +105,7 @@ std::optional<QString> warnOfCopySpeed(double bytesPerSecond, std::uint64_t byte
     if (minutes < kMinutesWorthTelling) {
         return std::nullopt;
     }
-    return QStringLiteral("The disk of the copy takes only %1 a second: a whole copy takes about %2 minutes.")
+    return QObject::tr("The disk of the copy takes only %1 a second: a whole copy takes about %2 minutes.")
         .arg(sizeForPeople(static_cast<std::uint64_t>(bytesPerSecond)), numberForPeople(minutes));
 }
 

@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QObject>
 #include <QTemporaryFile>
 
 #include "saving/FreeSpace.h"
@@ -23,16 +24,15 @@ bool destinationIsOnMedium(const QString& folder, const QString& mediumPath) {
 std::optional<QString> refuseDestination(const QString& folder) {
     const QFileInfo info(folder);
     if (!info.exists()) {
-        return QStringLiteral("The folder %1 is not there.").arg(folder);
+        return QObject::tr("The folder %1 is not there.").arg(folder);
     }
     if (!info.isDir()) {
-        return QStringLiteral("%1 is not a folder.").arg(folder);
+        return QObject::tr("%1 is not a folder.").arg(folder);
     }
     // Rights say little of a disk that is read-only or full.
     QTemporaryFile trial(folder + QStringLiteral("/.vantor-XXXXXX"));
     if (!trial.open() || trial.write("x", 1) != 1 || !trial.flush()) {
-        return QStringLiteral("Nothing can be written into the folder %1: %2.")
-            .arg(folder, trial.errorString());
+        return QObject::tr("Nothing can be written into the folder %1: %2.").arg(folder, trial.errorString());
     }
     return std::nullopt;
 }

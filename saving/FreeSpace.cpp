@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QObject>
 
 #include "results/SizeForPeople.h"
 
@@ -33,7 +34,7 @@ std::optional<QString> refuseForSpace(const QString& folder, std::uint64_t bytes
         return std::nullopt;
     }
     const auto text = [](std::uint64_t n) { return sizeForPeople(n); };
-    return QStringLiteral("There is not enough room in %1: %2 are needed, %3 are free")
+    return QObject::tr("There is not enough room in %1: %2 are needed, %3 are free")
         .arg(folder, text(bytes), text(*free));
 }
 

@@ -4,6 +4,7 @@
 
 #include <sys/stat.h>
 
+#include <QObject>
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -31,7 +32,7 @@ QByteArrayView asView(std::span<const std::uint8_t> bytes) {
 }
 
 QString cancelledText() {
-    return QStringLiteral("Cancelled");
+    return QObject::tr("Cancelled");
 }
 
 bool isUnwanted(const FoundItem& item) {
@@ -154,12 +155,11 @@ std::optional<SavingFolder> ItemSaver::openDestination(SaveOutcome& outcome) con
     auto folder = SavingFolder::open(m_destination);
     const auto device = folder ? folder->device() : std::nullopt;
     if (!device || m_state->device.value_or(*device) != *device) {
-        outcome.error = QStringLiteral("The folder %1 is no longer there").arg(m_destination);
+        outcome.error = QObject::tr("The folder %1 is no longer there").arg(m_destination);
         return std::nullopt;
     }
     if (m_liesOnMedium && m_liesOnMedium(m_destination)) {
-        outcome.error =
-            QStringLiteral("The folder %1 lies on the medium that is searched").arg(m_destination);
+        outcome.error = QObject::tr("The folder %1 lies on the medium that is searched").arg(m_destination);
         return std::nullopt;
     }
     m_state->device = device;
@@ -285,8 +285,8 @@ std::optional<SavingFolder> ItemSaver::folderFor(const FoundItem& item, const Sa
     }
     if (!folder) {
         const bool leadsAway = errno == ELOOP || errno == ENOTDIR || errno == EXDEV;
-        outcome.error = (leadsAway ? QStringLiteral("The folder %1/%2 leads elsewhere")
-                                   : QStringLiteral("The folder %1/%2 cannot be created"))
+        outcome.error = (leadsAway ? QObject::tr("The folder %1/%2 leads elsewhere")
+                                   : QObject::tr("The folder %1/%2 cannot be created"))
                             .arg(m_destination, name.folder);
         return std::nullopt;
     }
@@ -419,8 +419,8 @@ bool ItemSaver::readEnough(const MediumBytes& bytes, std::uint64_t done, SaveOut
     outcome.sectorsUnreadable = bytes.sectorsUnreadable(done);
     outcome.mediumGone = bytes.mediumIsGone() && (done < outcome.bytes || outcome.sectorsUnreadable != 0);
     if (outcome.bytes != 0 && (done == 0 || bytes.nothingReadable(done))) {
-        outcome.error = outcome.mediumGone ? QStringLiteral("The medium cannot be read any more")
-                                           : QStringLiteral("None of its sectors could be read");
+        outcome.error = outcome.mediumGone ? QObject::tr("The medium cannot be read any more")
+                                           : QObject::tr("None of its sectors could be read");
         return false;
     }
     return true;

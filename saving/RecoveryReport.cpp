@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QMap>
+#include <QObject>
 #include <QUrl>
 
 #include "results/RecoveryMode.h"
@@ -60,17 +61,16 @@ QString originalText(const std::shared_ptr<const CardFile>& original) {
     if (!original) {
         return {};
     }
-    QString text = originalPath(*original) + QStringLiteral(" (") +
-                   (original->state == FileState::Live      ? QStringLiteral("still there")
-                    : original->state == FileState::Deleted ? QStringLiteral("deleted")
-                                                            : QStringLiteral("its folder lost"));
+    QStringList parts{original->state == FileState::Live      ? QObject::tr("still there")
+                      : original->state == FileState::Deleted ? QObject::tr("deleted")
+                                                              : QObject::tr("its folder lost")};
     if (original->modified) {
-        text += QStringLiteral(", changed ") + dateText(*original->modified);
+        parts << QObject::tr("changed %1").arg(dateText(*original->modified));
     }
-    return text + u')';
+    return QStringLiteral("%1 (%2)").arg(originalPath(*original), parts.join(QStringLiteral(", ")));
 }
 
-// One word for machines, which the page shows too.
+// One word for machines.
 QString resultText(const SaveOutcome& outcome) {
     if (outcome.leftOut != LeftOut::No) {
         return QStringLiteral("left out");
@@ -83,10 +83,10 @@ QString resultText(const SaveOutcome& outcome) {
 
 QString reasonText(const SaveOutcome& outcome) {
     if (outcome.leftOut != LeftOut::No) {
-        return outcome.leftOut == LeftOut::TooSmall  ? QStringLiteral("smaller than asked for")
-               : outcome.leftOut == LeftOut::Unsound ? QStringLiteral("no file of its type")
-               : outcome.leftOut == LeftOut::Part    ? QStringLiteral("part of ") + outcome.partOf
-                                                     : QStringLiteral("still there as a file");
+        return outcome.leftOut == LeftOut::TooSmall  ? QObject::tr("smaller than asked for")
+               : outcome.leftOut == LeftOut::Unsound ? QObject::tr("no file of its type")
+               : outcome.leftOut == LeftOut::Part    ? QObject::tr("part of %1").arg(outcome.partOf)
+                                                     : QObject::tr("still there as a file");
     }
     return outcome.error;
 }
@@ -96,17 +96,19 @@ QString relativePath(const QString& folder, const QString& path) {
 }
 
 QString stateText(const SaveOutcome& outcome) {
-    QString text = soundnessWords(outcome.verdict, outcome.checked);
+    QStringList parts{soundnessWords(outcome.verdict, outcome.checked)};
     if (outcome.verdict == Verdict::Complete && !outcome.exactLength) {
-        text += QStringLiteral(", length estimated");
+        parts << QObject::tr("length estimated");
     }
     if (outcome.pieces > 1) {
-        text += QStringLiteral(", put together from %1 pieces").arg(numberForPeople(outcome.pieces));
+        parts << QObject::tr("put together from %1 pieces", nullptr, pluralOf(outcome.pieces))
+                     .arg(numberForPeople(outcome.pieces));
     }
     if (outcome.sectorsUnreadable != 0) {
-        text += QStringLiteral(", %1 sectors unreadable").arg(numberForPeople(outcome.sectorsUnreadable));
+        parts << QObject::tr("%1 sectors unreadable", nullptr, pluralOf(outcome.sectorsUnreadable))
+                     .arg(numberForPeople(outcome.sectorsUnreadable));
     }
-    return text;
+    return parts.join(QStringLiteral(", "));
 }
 
 QString row(const QStringList& cells, const char* tag) {
@@ -123,13 +125,12 @@ QString totals(const std::vector<ReportedItem>& items) {
     for (const ReportedItem& item : items) {
         types[item.type].add(item.name, item.outcome);
     }
-    QString text =
-        QStringLiteral("<h2>Totals</h2>\n<table>\n") +
-        row({QStringLiteral("Type"), QStringLiteral("Saved"), QStringLiteral("Size"),
-             QStringLiteral("Complete"), QStringLiteral("Ends where it says"), QStringLiteral("Cut off"),
-             QStringLiteral("Damaged"), QStringLiteral("Length unknown"), QStringLiteral("Duplicates"),
-             QStringLiteral("Left out"), QStringLiteral("Failed")},
-            "th");
+    QString text = QStringLiteral("<h2>%1</h2>\n<table>\n").arg(QObject::tr("Totals").toHtmlEscaped()) +
+                   row({QObject::tr("Type"), QObject::tr("Saved"), QObject::tr("Size"),
+                        QObject::tr("Complete"), QObject::tr("Ends where it says"), QObject::tr("Cut off"),
+                        QObject::tr("Damaged"), QObject::tr("Length unknown"), QObject::tr("Duplicates"),
+                        QObject::tr("Left out"), QObject::tr("Failed")},
+                       "th");
     for (auto type = types.cbegin(); type != types.cend(); ++type) {
         const SaveTally& t = type.value();
         text +=
@@ -170,16 +171,20 @@ QString itemRow(const ReportedItem& item, const QString& folder, const ReportThu
                   .arg(QLatin1String(unchecked ? "unchecked" : kClasses[static_cast<int>(outcome.verdict)]),
                        stateText(outcome).toHtmlEscaped())
             : QStringLiteral("<span class=\"failed\">%1</span>")
-                  .arg((resultText(outcome) + QStringLiteral(": ") + reasonText(outcome)).toHtmlEscaped());
+                  .arg((outcome.leftOut != LeftOut::No ? QObject::tr("left out: %1")
+                                                       : QObject::tr("failed: %1"))
+                           .arg(reasonText(outcome))
+                           .toHtmlEscaped());
     QStringList cells{
         name,
         item.type.toHtmlEscaped(),
         outcome.saved ? sizeForPeople(outcome.bytes) : QString(),
-        outcome.duplicate ? QStringLiteral("same bytes as an earlier file; ") + soundness : soundness,
+        outcome.duplicate ? QObject::tr("same bytes as an earlier file; %1").toHtmlEscaped().arg(soundness)
+                          : soundness,
         originalText(outcome.original).toHtmlEscaped(),
         dateText(outcome.taken),
         outcome.width != 0 ? QStringLiteral("%1 × %2").arg(outcome.width).arg(outcome.height) : QString(),
-        QStringLiteral("%1 to %2").arg(numberForPeople(item.firstSector), numberForPeople(item.endSector)),
+        QObject::tr("%1 to %2").arg(numberForPeople(item.firstSector), numberForPeople(item.endSector)),
         QStringLiteral("<span class=\"sum\">%1</span>").arg(QString::fromLatin1(outcome.sha256.toHex()))};
     if (thumbnail) {
         cells.prepend(picture);
@@ -188,16 +193,18 @@ QString itemRow(const ReportedItem& item, const QString& folder, const ReportThu
 }
 
 QString headText(const ReportHead& head) {
-    const auto line = [](const char* label, const QString& text) {
-        return text.isEmpty() ? QString() : row({QLatin1String(label), text.toHtmlEscaped()}, "td");
+    const auto line = [](const QString& label, const QString& text) {
+        return text.isEmpty() ? QString() : row({label.toHtmlEscaped(), text.toHtmlEscaped()}, "td");
     };
     const auto time = [](const QDateTime& t) {
         return t.isValid() ? t.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")) : QString();
     };
-    return QStringLiteral("<table>\n") + line("Medium", head.medium) +
-           line("Sectors of 512 bytes", head.sectors != 0 ? numberForPeople(head.sectors) : QString()) +
-           line("Searched for", head.mode) + line("Begun", time(head.begun)) +
-           line("Ended", time(head.ended)) + line("Search", head.searchEnd) + QStringLiteral("</table>\n");
+    return QStringLiteral("<table>\n") + line(QObject::tr("Medium"), head.medium) +
+           line(QObject::tr("Sectors of 512 bytes"),
+                head.sectors != 0 ? numberForPeople(head.sectors) : QString()) +
+           line(QObject::tr("Searched for"), head.mode) + line(QObject::tr("Begun"), time(head.begun)) +
+           line(QObject::tr("Ended"), time(head.ended)) + line(QObject::tr("Search"), head.searchEnd) +
+           QStringLiteral("</table>\n");
 }
 
 QString quoted(QString field) {
@@ -210,16 +217,18 @@ using Pieces = std::function<void(const QByteArray&)>;
 void htmlTo(const Pieces& add, const ReportHead& head, const std::vector<ReportedItem>& items,
             const QString& folder, const ReportThumbnail& thumbnail) {
     QString text = QStringLiteral(
-                       "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\">"
+                       "<!DOCTYPE html>\n<html lang=\"%1\"><head><meta charset=\"utf-8\">"
                        "<meta name=\"viewport\" content=\"width=device-width\">"
-                       "<title>Recovery report</title><style>%1</style></head>\n<body>\n"
-                       "<h1>Recovery report</h1>\n")
-                       .arg(QLatin1String(kStyle));
-    text += headText(head) + totals(items) + QStringLiteral("<h2>Files</h2>\n<table>\n");
-    QStringList columns{QStringLiteral("File"),        QStringLiteral("Type"),
-                        QStringLiteral("Size"),        QStringLiteral("State"),
-                        QStringLiteral("On the card"), QStringLiteral("Taken"),
-                        QStringLiteral("Pixels"),      QStringLiteral("Found in sectors"),
+                       "<title>%2</title><style>%3</style></head>\n<body>\n"
+                       "<h1>%2</h1>\n")
+                       .arg(localeOfTexts().bcp47Name(), QObject::tr("Recovery report").toHtmlEscaped(),
+                            QLatin1String(kStyle));
+    text += headText(head) + totals(items) +
+            QStringLiteral("<h2>%1</h2>\n<table>\n").arg(QObject::tr("Files").toHtmlEscaped());
+    QStringList columns{QObject::tr("File"),        QObject::tr("Type"),
+                        QObject::tr("Size"),        QObject::tr("State"),
+                        QObject::tr("On the card"), QObject::tr("Taken"),
+                        QObject::tr("Pixels"),      QObject::tr("Found in sectors"),
                         QStringLiteral("SHA-256")};
     if (thumbnail) {
         columns.prepend(QString());
@@ -281,11 +290,11 @@ QString reportName(const QString& folder, const ReportHead& head) {
 QString wordsForMode(int mode) {
     switch (mode) {
         case kVideoMode:
-            return QStringLiteral("videos");
+            return QObject::tr("videos");
         case kRawFileMode:
-            return QStringLiteral("files");
+            return QObject::tr("files");
         default:
-            return QStringLiteral("photos");
+            return QObject::tr("photos");
     }
 }
 
@@ -298,8 +307,7 @@ WrittenReport writeReport(const QString& folder, const ReportHead& head,
         text([&file](const QByteArray& piece) { file.write(piece); });
         const auto path = file.commit(name + ending);
         if (!path) {
-            written.error =
-                QStringLiteral("The report cannot be written into %1: %2").arg(folder, file.error());
+            written.error = QObject::tr("The report cannot be written into %1: %2").arg(folder, file.error());
         }
         return path.value_or(QString());
     };

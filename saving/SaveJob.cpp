@@ -1,6 +1,7 @@
 // One reader and one destination for all items of a choice.
 #include "saving/SaveJob.h"
 
+#include <QObject>
 #include <algorithm>
 #include <utility>
 
@@ -116,7 +117,7 @@ bool SaveJob::saveItem(std::size_t place, SectorReader* medium, WaitingClaims* l
         return true;
     }
     if (m_watch.ended && !outcome.saved) {
-        outcome.error = QStringLiteral("Skipped");
+        outcome.error = QObject::tr("Skipped");
     }
     m_outcomes[place] = std::move(outcome);
     ++m_progress.done;
@@ -145,7 +146,7 @@ void SaveJob::saveTold(SectorReader* medium) {
             if (m_cancelled) {
                 continue;
             }
-            outcome.error = m_watch.ended ? QStringLiteral("Skipped") : outcome.error;
+            outcome.error = m_watch.ended ? QObject::tr("Skipped") : outcome.error;
         }
         if (outcome.leftOut != LeftOut::Unsound) {
             m_toldOutcomes.push_back({item.name, item.type, carved.runs.front().first,

@@ -25,7 +25,8 @@ QStringList failureLines(const SaveTally& tally) {
         lines << QStringLiteral("   ") + failure;
     }
     if (tally.failed > static_cast<std::uint64_t>(shown)) {
-        lines << QObject::tr("   and %1 more")
+        lines << QObject::tr("   and %1 more", nullptr,
+                             pluralOf(tally.failed - static_cast<std::uint64_t>(shown)))
                      .arg(numberForPeople(tally.failed - static_cast<std::uint64_t>(shown)));
     }
     return lines;
@@ -34,7 +35,8 @@ QStringList failureLines(const SaveTally& tally) {
 }  // namespace
 
 QString countOfItems(std::uint64_t count) {
-    return count == 1 ? QObject::tr("1 item") : QObject::tr("%1 items").arg(numberForPeople(count));
+    return count == 1 ? QObject::tr("1 item")
+                      : QObject::tr("%1 items", nullptr, pluralOf(count)).arg(numberForPeople(count));
 }
 
 QString summaryHeadline(const SaveSummary& summary) {
@@ -44,7 +46,8 @@ QString summaryHeadline(const SaveSummary& summary) {
                                     : QObject::tr("Nothing was saved.");
     }
     return tally.saved == 1 ? QObject::tr("1 file was saved.")
-                            : QObject::tr("%1 files were saved.").arg(numberForPeople(tally.saved));
+                            : QObject::tr("%1 files were saved.", nullptr, pluralOf(tally.saved))
+                                  .arg(numberForPeople(tally.saved));
 }
 
 QString summaryDetails(const SaveSummary& summary) {

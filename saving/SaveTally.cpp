@@ -1,10 +1,26 @@
 // Counting, and the sentences that say the counts.
 #include "saving/SaveTally.h"
 
+#include <QObject>
+
 #include "results/SizeForPeople.h"
-#include "results/Soundness.h"
 
 namespace vantor {
+
+namespace {
+
+// A line for each count that is not 0.
+struct Counts {
+    QStringList lines;
+
+    void add(std::uint64_t count, const char* text) {
+        if (count != 0) {
+            lines << QObject::tr(text, nullptr, pluralOf(count)).arg(numberForPeople(count));
+        }
+    }
+};
+
+}  // namespace
 
 void SaveTally::add(const QString& name, const SaveOutcome& outcome) {
     if (outcome.leftOut != LeftOut::No) {
@@ -45,42 +61,31 @@ void SaveTally::add(const QString& name, const SaveOutcome& outcome) {
 }
 
 QStringList SaveTally::bySoundness() const {
-    const std::pair<std::uint64_t, QString> counts[] = {
-        {complete, soundnessWords(Verdict::Complete, true)},
-        {unchecked, QObject::tr("ending where they say (content not checked)")},
-        {cutOff, soundnessWords(Verdict::CutOff, false)},
-        {damaged, soundnessWords(Verdict::Damaged, false)},
-        {unknownLength, soundnessWords(Verdict::Unknown, false)}};
-    QStringList kinds;
-    for (const auto& [count, words] : counts) {
-        if (count != 0) {
-            kinds.append(QStringLiteral("%1 %2").arg(numberForPeople(count), words));
-        }
-    }
-    return kinds;
+    Counts kinds;
+    kinds.add(complete, QT_TRANSLATE_N_NOOP("QObject", "%1 complete"));
+    kinds.add(unchecked, QT_TRANSLATE_N_NOOP("QObject", "%1 ending where they say (content not checked)"));
+    kinds.add(cutOff, QT_TRANSLATE_N_NOOP("QObject", "%1 cut off"));
+    kinds.add(damaged, QT_TRANSLATE_N_NOOP("QObject", "%1 damaged"));
+    kinds.add(unknownLength, QT_TRANSLATE_N_NOOP("QObject", "%1 of unknown length"));
+    return kinds.lines;
 }
 
 QStringList SaveTally::lines(const QString& destination) const {
-    QStringList lines;
-    QString first = QStringLiteral("%1 saved in %2").arg(numberForPeople(saved), destination);
-    if (saved != 0) {
-        first +=
-            QStringLiteral(" (%1): %2").arg(sizeForPeople(bytes), bySoundness().join(QStringLiteral(", ")));
-    }
-    lines.append(first);
-    const auto line = [&lines](std::uint64_t count, const char* text) {
-        if (count != 0) {
-            lines.append(QStringLiteral("%1 %2").arg(numberForPeople(count), QLatin1String(text)));
-        }
-    };
-    line(named, "under the names that the card still tells");
-    line(withUnreadableSectors, "of them have sectors that could not be read");
-    line(duplicates, "not written again: the same bytes are saved already");
-    line(tooSmall, "left out: smaller than asked for");
-    line(unsound, "left out: no files of their type");
-    line(stillThere, "left out: still there as files on the card");
-    line(parts, "left out: parts of files that are saved whole");
-    return lines;
+    Counts counts;
+    counts.lines << (saved == 0 ? QObject::tr("%1 saved in %2").arg(numberForPeople(saved), destination)
+                                : QObject::tr("%1 saved in %2 (%3): %4", nullptr, pluralOf(saved))
+                                      .arg(numberForPeople(saved), destination, sizeForPeople(bytes),
+                                           bySoundness().join(QStringLiteral(", "))));
+    counts.add(named, QT_TRANSLATE_N_NOOP("QObject", "%1 under the names that the card still tells"));
+    counts.add(withUnreadableSectors,
+               QT_TRANSLATE_N_NOOP("QObject", "%1 of them have sectors that could not be read"));
+    counts.add(duplicates,
+               QT_TRANSLATE_N_NOOP("QObject", "%1 not written again: the same bytes are saved already"));
+    counts.add(tooSmall, QT_TRANSLATE_N_NOOP("QObject", "%1 left out: smaller than asked for"));
+    counts.add(unsound, QT_TRANSLATE_N_NOOP("QObject", "%1 left out: no files of their type"));
+    counts.add(stillThere, QT_TRANSLATE_N_NOOP("QObject", "%1 left out: still there as files on the card"));
+    counts.add(parts, QT_TRANSLATE_N_NOOP("QObject", "%1 left out: parts of files that are saved whole"));
+    return counts.lines;
 }
 
 }  // namespace vantor

@@ -1,5 +1,6 @@
 #include "saving/TwinFile.h"
 
+#include <QObject>
 #include <algorithm>
 #include <vector>
 
@@ -48,7 +49,7 @@ WrittenTwin writeTwin(const QString& destination, const QString& type, const QSt
     const auto folder = top ? top->below(safePathComponent(type)) : std::nullopt;
     if (!folder) {
         written.error =
-            QStringLiteral("The folder %1/%2 cannot be created").arg(destination, safePathComponent(type));
+            QObject::tr("The folder %1/%2 cannot be created").arg(destination, safePathComponent(type));
         return written;
     }
     if (const auto refusal = refuseForSpace(folder->path(), repaired.bytes())) {
@@ -60,11 +61,11 @@ WrittenTwin writeTwin(const QString& destination, const QString& type, const QSt
     file.write(repaired.head);
     const bool all = copyData(repaired.data, movie, file, unwanted);
     if (isUnwanted(unwanted)) {
-        written.error = QStringLiteral("Cancelled");
+        written.error = QObject::tr("Cancelled");
         return written;
     }
     if (file.isGood() && !all) {
-        written.error = QStringLiteral("The medium cannot be read any more");
+        written.error = QObject::tr("The medium cannot be read any more");
         return written;
     }
     file.write(repaired.index);

@@ -1,6 +1,8 @@
 // Percentage and text of the sector counter.
 #include "scan/ProgressText.h"
 
+#include <QObject>
+
 namespace vantor {
 
 std::uint64_t percentDone(std::uint64_t index, std::uint64_t start, std::uint64_t total) {
@@ -8,7 +10,7 @@ std::uint64_t percentDone(std::uint64_t index, std::uint64_t start, std::uint64_
 }
 
 QString progressText(std::uint64_t index, std::uint64_t start, std::uint64_t end, std::uint64_t total) {
-    return QStringLiteral("Sectors %1 of %2   ( Completed %3% )")
+    return QObject::tr("Sectors %1 of %2   ( Completed %3% )")
         .arg(index)
         .arg(end)
         .arg(percentDone(index, start, total));

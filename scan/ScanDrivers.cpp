@@ -1,4 +1,6 @@
 // Which passes run, what a tick shows, and how a scan ends.
+#include <QObject>
+
 #include "catalogue/TextHelpers.h"
 #include "scan/PlatformException.h"
 #include "scan/ProgressText.h"
@@ -54,7 +56,7 @@ void ScanSession::timerTickSetLabel() {
 }
 
 QString ScanSession::endHelp() {
-    return QStringLiteral("\nTo select another disk for recovery, click on ‘Back’ Button.");
+    return QObject::tr("\nTo select another disk for recovery, click on ‘Back’ Button.");
 }
 
 void ScanSession::Final_or_Stop_Screen() {

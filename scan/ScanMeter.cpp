@@ -69,8 +69,10 @@ QString ScanMeter::speedAndTimeLeft() const {
 }
 
 QString ScanMeter::text(std::uint64_t itemsFound) const {
-    const QString found = itemsFound == 1 ? QObject::tr("1 item found")
-                                          : QObject::tr("%1 items found").arg(numberForPeople(itemsFound));
+    const QString found =
+        itemsFound == 1
+            ? QObject::tr("1 item found")
+            : QObject::tr("%1 items found", nullptr, pluralOf(itemsFound)).arg(numberForPeople(itemsFound));
     const QString speed = speedAndTimeLeft();
     return speed.isEmpty() ? found : speed + kBetween + found;
 }

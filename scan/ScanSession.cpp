@@ -1,6 +1,7 @@
 // Construction, and the steps that both scans share at the beginning and end of a pass.
 #include "scan/ScanSession.h"
 
+#include <QObject>
 #include <algorithm>
 #include <utility>
 
@@ -31,8 +32,8 @@ MediumOpener ScanSession::knowingRefusals(MediumOpener opener) const {
 bool ScanSession::beginPass(ControlSet set, const QString& passName) {
     m_view.showModeLabel(
         passName == kGeneralPass
-            ? QStringLiteral("( Currently performing Search based on: Vantor General Recovery Procedure )")
-            : QStringLiteral("( Currently performing Search based on: Vantor Thorough Scanning Alogrithm )"));
+            ? QObject::tr("( Currently performing Search based on: Vantor General Recovery Procedure )")
+            : QObject::tr("( Currently performing Search based on: Vantor Thorough Scanning Alogrithm )"));
     pFile_Disk.reset();
     prepareRange(set);
     m_readFailures = {};
@@ -66,7 +67,7 @@ bool ScanSession::beginPass(ControlSet set, const QString& passName) {
         m_view.clearPreviewTitle();
     }
     m_view.startProgress();
-    m_view.showHelpInfo(QStringLiteral(
+    m_view.showHelpInfo(QObject::tr(
         "\nTo stop recovery, click on ‘Stop’ Button or please wait for the process to be completed."));
     return true;
 }
@@ -179,7 +180,7 @@ void ScanSession::openFailed(ControlSet set) {
         m_addedItems = 0;
     }
     stop_screen_already_show = 1;
-    m_view.showAlert(QStringLiteral("\nError in storage media reading."));
+    m_view.showAlert(QObject::tr("\nError in storage media reading."));
 }
 
 // Before the medium is closed, which knows how it fared.
@@ -210,7 +211,7 @@ bool ScanSession::endOfRange(bool lastReadSucceeded, std::optional<std::uint64_t
     if (lastReadSucceeded) {
         return true;
     }
-    m_view.showAlert(QStringLiteral("\nError in storage media reading."));
+    m_view.showAlert(QObject::tr("\nError in storage media reading."));
     return false;
 }
 

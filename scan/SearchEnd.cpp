@@ -27,7 +27,8 @@ QString completed(const SearchEnd& end) {
         return QObject::tr("The search has completed.");
     }
     return end.unreadable == 1 ? QObject::tr("The search has completed, but 1 sector could not be read.")
-                               : QObject::tr("The search has completed, but %1 sectors could not be read.")
+                               : QObject::tr("The search has completed, but %1 sectors could not be read.",
+                                             nullptr, pluralOf(end.unreadable))
                                      .arg(numberForPeople(end.unreadable));
 }
 

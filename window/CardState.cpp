@@ -79,7 +79,8 @@ void MyTableController::showCard() {
     QString words;
     if (bad > 0) {
         words = bad == 1 ? tr("This card is failing: 1 bad sector.")
-                         : tr("This card is failing: %1 bad sectors.").arg(numberForPeople(bad));
+                         : tr("This card is failing: %1 bad sectors.", nullptr, pluralOf(bad))
+                               .arg(numberForPeople(bad));
     } else if (slow) {
         words = tr("This card is very slow.");
     }

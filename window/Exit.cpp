@@ -32,8 +32,7 @@ void MyTableController::Exit_App() {
     if (asked && !mayLoseItems()) {
         return;
     }
-    const QString question =
-        QStringLiteral("\nDo you really want to exit from '") + kProgramTitle + QStringLiteral("'?");
+    const QString question = tr("\nDo you really want to exit from '%1'?").arg(kProgramTitle);
     if (!Show_YES_NO_MessageBox(question)) {
         // After a refused exit no more notifications arrive.
         for (const QMetaObject::Connection& subscription : std::as_const(m_notifications)) {
@@ -95,7 +94,8 @@ bool MyTableController::mayLeaveUnsaved(const QString& consequence, const QStrin
                                               .arg(numberForPeople(unsaved), numberForPeople(found))
                         : found == 1
                             ? tr("The item that was found has not been saved.")
-                            : tr("None of the %1 found items has been saved.").arg(numberForPeople(found));
+                            : tr("None of the %1 found items has been saved.", nullptr, pluralOf(found))
+                                  .arg(numberForPeople(found));
     return runAlert({QStringLiteral("\n") + how, consequence, {leave, tr("Stay")}, 1}) == 0;
 }
 

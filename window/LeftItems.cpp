@@ -25,7 +25,8 @@ void MyTableController::showLeftItemsBar() {
     leftItemsBar->setVisible(found > 0 && screen_counter > 0 && !onScanScreen());
     leftItemsLabel->setText((found == 1
                                  ? tr("1 item was found before the medium could no longer be opened.")
-                                 : tr("%1 items were found before the medium could no longer be opened.")
+                                 : tr("%1 items were found before the medium could no longer be opened.",
+                                      nullptr, pluralOf(static_cast<std::uint64_t>(found)))
                                        .arg(numberForPeople(static_cast<std::uint64_t>(found)))) +
                             u' ' + tr("The list is kept until you search again or go back."));
 }

@@ -95,7 +95,8 @@ void MyTableController::openImages(const QStringList& files) {
     if (!refusals.isEmpty()) {
         const QString what = refusals.size() == 1
                                  ? tr("The image could not be opened.")
-                                 : tr("%1 images could not be opened.")
+                                 : tr("%1 images could not be opened.", nullptr,
+                                      pluralOf(static_cast<std::uint64_t>(refusals.size())))
                                        .arg(numberForPeople(static_cast<std::uint64_t>(refusals.size())));
         runAlert({QStringLiteral("\n") + what, refusals.join(u'\n')}, window);
     }

@@ -4,25 +4,21 @@
 
 namespace vantor {
 
-namespace {
-
-const QString kEntireDiskHelp = QStringLiteral(
-    "If ‘Entire Disk’ option is selected, Vantor Recovery searches lost data in the entire storage of "
-    "selected disk. If you want to perform within a specific sector range or in specific partition, please "
-    "select other searching criteria. Else press ‘Next’ button to start searching data in Entire disk.");
-const QString kSectorRangeHelp = QStringLiteral(
-    "‘Sector Range’ option provides facility to specify the range of start and end sector of storage media "
-    "within which you want to perform searching for lost data. Please drag knob of Slider to enter sector "
-    "range or you can also enter these values in Start Sector and End Sector fields manually.");
-
-}  // namespace
-
 void MyTableController::showEntireDiskHelp() {
-    _help_info->setText(kEntireDiskHelp);
+    _help_info->setText(tr(
+        "If ‘Entire Disk’ option is selected, Vantor Recovery searches lost data in the entire storage of "
+        "selected disk. If you want to perform within a specific sector range or in specific partition, "
+        "please "
+        "select other searching criteria. Else press ‘Next’ button to start searching data in Entire disk."));
 }
 
 void MyTableController::showSectorRangeHelp() {
-    _help_info->setText(kSectorRangeHelp);
+    _help_info->setText(
+        tr("‘Sector Range’ option provides facility to specify the range of start and end sector of storage "
+           "media "
+           "within which you want to perform searching for lost data. Please drag knob of Slider to enter "
+           "sector "
+           "range or you can also enter these values in Start Sector and End Sector fields manually."));
 }
 
 RangePanel& MyTableController::rangeOf(ControlSet set) {

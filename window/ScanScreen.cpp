@@ -147,7 +147,7 @@ void MyTableController::clearPreviewTitle() {
     later([this] {
         emptyPreviewPane();
         Prev_Index = kNoPreview;
-        _QuickLook_View_Box->setTitle(QStringLiteral("No file is selected to preview"));
+        _QuickLook_View_Box->setTitle(tr("No file is selected to preview"));
     });
 }
 

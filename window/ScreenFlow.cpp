@@ -1,4 +1,5 @@
 // The wizard: what Next, Back and the mode radios do on each screen.
+#include <QObject>
 #include <QScrollBar>
 #include <QSignalBlocker>
 
@@ -13,23 +14,17 @@ namespace vantor {
 
 namespace {
 
-const QString kMediaHelp = QStringLiteral(
-    "\nSelect the storage media from List from which you want to recover Data. Press ‘Next’ button to "
-    "continue... ");
-const QString kFileTypeHelp = QStringLiteral(
-    "\nPlease select the required extension type for recovery process. Press ‘Next’ button to continue... ");
-
 constexpr float kPhotoZoom = 0.55F;
 constexpr float kRawZoom = 0.05F;
 
 QString searchType(int mode) {
     switch (mode) {
         case kVideoMode:
-            return QStringLiteral("Search Type : Recover Video");
+            return QObject::tr("Search Type : Recover Video");
         case kRawFileMode:
-            return QStringLiteral("Search Type : Recover Raw File");
+            return QObject::tr("Search Type : Recover Raw File");
         default:
-            return QStringLiteral("Search Type : Recover Photo");
+            return QObject::tr("Search Type : Recover Photo");
     }
 }
 
@@ -86,7 +81,7 @@ void MyTableController::Next_btn(QObject*) {
 void MyTableController::nextFromMedia() {
     const std::shared_ptr<MyDataObject> medium = selectedMedium();
     if (!medium) {
-        runAlert({QStringLiteral("\nPlease select a storage media from list.")}, window);
+        runAlert({tr("\nPlease select a storage media from list.")}, window);
         return;
     }
     screen_counter = 1;
@@ -140,7 +135,7 @@ void MyTableController::nextFromFileTypes() {
     }
     cutCataloguesToTickedTypes();
     if (!Check_For_One_Extension_Selection()) {
-        runAlert({kNoTypeChosen}, window);
+        runAlert({noTypeChosenWords()}, window);
         idCheckTableView->setFocus();
         return;
     }
@@ -177,8 +172,8 @@ void MyTableController::backToMedia() {
     screen_counter = 0;
     _Search_Type->hide();
     showMediaHelp();
-    _sectors_val->setText(kNoFact);
-    _disk_identifier->setText(kNoFact);
+    _sectors_val->setText(noFact());
+    _disk_identifier->setText(noFact());
     for (const auto& range : m_range) {
         range->clear();
     }
@@ -236,7 +231,9 @@ void MyTableController::zoomRawBrowser(float zoom) {
 }
 
 void MyTableController::showMediaHelp() {
-    _help_info->setText(kMediaHelp);
+    _help_info->setText(
+        tr("\nSelect the storage media from List from which you want to recover Data. Press ‘Next’ button to "
+           "continue... "));
 }
 
 void MyTableController::showRangeHelp() {
@@ -249,7 +246,9 @@ void MyTableController::showRangeHelp() {
 }
 
 void MyTableController::showFileTypeHelp() {
-    _help_info->setText(kFileTypeHelp);
+    _help_info->setText(
+        tr("\nPlease select the required extension type for recovery process. Press ‘Next’ button to "
+           "continue... "));
 }
 
 // The items go, and the browsers stand as at the start.

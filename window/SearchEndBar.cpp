@@ -31,7 +31,7 @@ void MyTableController::showSearchEnd() {
         sentences << m_parts.whyNotOpened();
     }
     if (m_readsAsErased) {
-        sentences << QString::fromLatin1(kErasedCardWords);
+        sentences << erasedCardWords();
     }
     if (m_memory->keeper() && !m_memory->keeper()->error().isEmpty()) {
         sentences << tr("The search could not be remembered: %1.").arg(m_memory->keeper()->error());
@@ -55,7 +55,7 @@ void MyTableController::showSearchSum() {
     if (m_searchEnded && found > 0 && facets.size() == found) {
         parts << (activeSet() == ControlSet::Sig ? countOfItems(found)
                   : found == 1                   ? tr("1 photo")
-                                                 : tr("%1 photos").arg(numberForPeople(found)));
+                               : tr("%1 photos", nullptr, pluralOf(found)).arg(numberForPeople(found)));
         if (m_looks->allExamined()) {
             parts << sizeForPeople(facets.bytes(), 0);
         }
@@ -86,8 +86,7 @@ std::unique_ptr<SectorReader> MyTableController::openForSearch(const QString& de
 // In plain words, and nobody is held up: who likes may let it go on.
 void MyTableController::showThatItWasErased() {
     m_readsAsErased = true;
-    searchEndLabel->setText(QString::fromLatin1(kErasedCardWords) + u' ' +
-                            tr("Press Stop, or let the search go on."));
+    searchEndLabel->setText(erasedCardWords() + u' ' + tr("Press Stop, or let the search go on."));
     const int edge = searchEndIcon->minimumWidth();
     searchEndIcon->setPixmap(ownIcon(QStringLiteral("info")).pixmap(edge, edge));
     tryBadSectorsButton->hide();

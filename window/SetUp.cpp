@@ -216,7 +216,7 @@ void MyTableController::awakeFromNib() {
     _Thro_Mode_Chk->setChecked(true);
     setMode(kPhotoMode);
     showMediaHelp();
-    _sector_label->setText(QStringLiteral("Sectors 0 of 0"));
+    _sector_label->setText(tr("Sectors 0 of 0"));
     for (const auto& range : m_range) {
         range->setCaptions();
         range->clear();

@@ -4,8 +4,10 @@
 #include <QStandardPaths>
 #include <algorithm>
 #include <atomic>
+#include <cstdio>
 #include <cstdlib>
 
+#include "catalogue/Language.h"
 #include "catalogue/ResourcesFolder.h"
 #include "decode/DecodePool.h"
 #include "media/PathArgument.h"
@@ -31,6 +33,7 @@ constexpr std::chrono::milliseconds kLastPatience{500};
 // Frames larger than this are scaled down where they are decoded.
 constexpr QSize kLargestFrame{960, 540};
 constexpr QSize kLargestViewedFrame{1920, 1080};
+constexpr int kExitBadUsage = 2;
 
 ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTableController*>>& controller,
                            const std::shared_ptr<const std::atomic<bool>>& leaving) {
@@ -113,6 +116,11 @@ int main(int argc, char** argv) {
     QApplication::setDesktopFileName(QStringLiteral("org.vantor.recovery"));
     // The window is closed by the exit routine alone.
     QApplication::setQuitOnLastWindowClosed(false);
+    const AskedLanguage arguments = takeLanguage(argumentsFromBytes(argc, argv));
+    if (const auto refusal = speak(arguments.language, resourcesFolder())) {
+        std::fprintf(stderr, "%s\n", qPrintable(*refusal));
+        return kExitBadUsage;
+    }
     applyTheme(application);
     const DesktopLook look(application);
 
@@ -122,7 +130,7 @@ int main(int argc, char** argv) {
     running->store(controller.get());
     fitToScreen(controller->window);
     controller->awakeFromNib();
-    controller->openImages(argumentsFromBytes(argc, argv));
+    controller->openImages(arguments.rest);
     const int code = QApplication::exec();
     leaveTheScreen();
     *leaving = true;

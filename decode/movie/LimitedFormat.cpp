@@ -13,10 +13,6 @@ namespace vantor::decode {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
-// Opening, and every step to a frame, ends after this.
-constexpr auto kStepLimit = std::chrono::seconds{2};
 constexpr auto kHoleWait = std::chrono::milliseconds{5};
 constexpr int kReadBufferBytes = 64 * 1024;
 constexpr std::int64_t kMostProbeBytes = 8 * 1024 * 1024;
@@ -51,7 +47,7 @@ int LimitedFormat::readSome(void* format, std::uint8_t* target, int wanted) {
 
 // How much of what is wanted stands in the file. A hole is what is still being filled in: waits for it as
 // long as the step may take, below 0 in vain.
-int LimitedFormat::bytesThere(int wanted) const {
+int LimitedFormat::bytesThere(int wanted) {
     for (;;) {
         const off_t data = lseek(m_descriptor, m_position, SEEK_DATA);
         // The end, or a file system that knows no holes.
@@ -65,6 +61,7 @@ int LimitedFormat::bytesThere(int wanted) const {
             return -1;
         }
         std::this_thread::sleep_for(kHoleWait);
+        m_clock.paused(kHoleWait);
     }
 }
 
@@ -84,14 +81,6 @@ std::int64_t LimitedFormat::seekTo(void* format, std::int64_t offset, int whence
 
 int LimitedFormat::askWhetherOver(void* format) {
     return static_cast<const LimitedFormat*>(format)->isOver();
-}
-
-void LimitedFormat::startStep() {
-    m_stepEnd = Clock::now() + kStepLimit;
-}
-
-bool LimitedFormat::isOver() const {
-    return Clock::now() > m_stepEnd;
 }
 
 bool LimitedFormat::open() {
@@ -130,6 +119,8 @@ bool LimitedFormat::openCodec(AVMediaType kind, int threads) {
     m_codec->pkt_timebase = stream().time_base;
     m_codec->max_pixels = static_cast<std::int64_t>(kMostFramePixels);
     m_codec->thread_count = threads;
+    // Each of the threads may work as long.
+    m_clock = StepClock(kStepLimit * threads);
     return avcodec_open2(m_codec.get(), decoder, nullptr) >= 0;
 }
 

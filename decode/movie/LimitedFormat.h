@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "decode/helper/LibavPointers.h"
+#include "decode/movie/StepClock.h"
 
 extern "C" {
 #include <libavformat/avformat.h>
@@ -20,6 +21,9 @@ struct ReleaseInput {
         avio_context_free(&io);
     }
 };
+
+// Opening, and every step to a frame, ends after this.
+constexpr auto kStepLimit = std::chrono::seconds{2};
 
 // Broken packets in a row after which a stream counts as hopeless.
 constexpr int kMostFailures = 500;
@@ -40,9 +44,9 @@ class LimitedFormat {
     // on. False when there is none.
     bool openCodec(AVMediaType kind, int threads);
 
-    // Every step ends after a fixed time; isOver() tells.
-    void startStep();
-    bool isOver() const;
+    // Every step ends after a fixed time of work; isOver() tells.
+    void startStep() { m_clock.start(); }
+    bool isOver() const { return m_clock.isOver(); }
 
     // Leaves the next decoded frame in frame(); false at the end, at a hopeless break, or when the step's
     // time is over.
@@ -62,14 +66,14 @@ class LimitedFormat {
 
   private:
     bool seek(int stream, std::int64_t stamp, int flags);
-    int bytesThere(int wanted) const;
+    int bytesThere(int wanted);
     static int readSome(void* format, std::uint8_t* target, int wanted);
     static std::int64_t seekTo(void* format, std::int64_t offset, int whence);
     static int askWhetherOver(void* format);
 
     int m_descriptor;
     std::int64_t m_position = 0;
-    std::chrono::steady_clock::time_point m_stepEnd;
+    StepClock m_clock{kStepLimit};
     std::unique_ptr<AVIOContext, ReleaseInput> m_input;
     std::unique_ptr<AVFormatContext, Release<avformat_close_input>> m_format;
     Codec m_codec;

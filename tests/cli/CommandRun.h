@@ -6,6 +6,7 @@
 #include <QJsonObject>
 #include <QList>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QStringList>
 
 namespace vantor {
@@ -26,9 +27,14 @@ struct CommandRun {
     }
 };
 
+// `desktop` is the language that the desktop would tell, "C" for none.
 inline CommandRun runCommand(const QStringList& arguments,
-                             const QString& program = QStringLiteral(VANTOR_CLI)) {
+                             const QString& program = QStringLiteral(VANTOR_CLI),
+                             const QString& desktop = QStringLiteral("C.UTF-8")) {
     QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("LC_ALL"), desktop);
+    process.setProcessEnvironment(environment);
     process.start(program, arguments);
     CommandRun run;
     if (process.waitForFinished(600000) && process.exitStatus() == QProcess::NormalExit) {

@@ -5,8 +5,8 @@ if ! command -v groff >/dev/null; then
     echo "SKIPPED: groff is not installed"
     exit 77
 fi
-for page in "$1"/*.1; do
-    warnings=$(groff -man -Tutf8 -ww -z "$page" 2>&1)
+for page in "$1"/*.1 "$1"/*/*.1; do
+    warnings=$(groff -K utf8 -man -Tutf8 -ww -z "$page" 2>&1)
     if [ -n "$warnings" ]; then
         echo "$warnings"
         exit 1

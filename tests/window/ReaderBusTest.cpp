@@ -25,6 +25,7 @@ class ReaderBusTest : public ::testing::Test {
         // A dialog may close between two questions about it, which is no news.
         environment.insert(QStringLiteral("QT_LOGGING_RULES"), QStringLiteral("qt.accessibility.*=false"));
         environment.insert(QStringLiteral("XDG_CONFIG_HOME"), settings.path());
+        environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
         program.setProcessEnvironment(environment);
         program.setProcessChannelMode(QProcess::ForwardedChannels);
         program.start(QStringLiteral(VANTOR_PROGRAM), {QStringLiteral(VANTOR_SAMPLE_CARD)});

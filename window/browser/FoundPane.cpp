@@ -28,8 +28,9 @@ const QChar kLast(0xFFFF);  // sorts behind everything
 
 QString wordsForDay(std::int32_t day) {
     return day == 0 ? QObject::tr("Date not known")
-                    : localeOfTexts().toString(QDate(day / 10'000, day / 100 % 100, day % 100),
-                                               QStringLiteral("ddd, MMM d, yyyy"));
+                    : localeOfTexts().toString(
+                          QDate(day / 10'000, day / 100 % 100, day % 100),
+                          QObject::tr("ddd, MMM d, yyyy", "date format, as QLocale takes it"));
 }
 
 // The newest first.
@@ -238,7 +239,8 @@ void FoundPane::showTold(const std::vector<std::shared_ptr<const CardFile>>& fil
     if (!files.empty()) {
         m_told = heading(Facet::Told, tr("Only named on the card"));
         const QString words = files.size() == 1 ? tr("1 more file that only the card's directory tells of")
-                                                : tr("%1 more files that only the card's directory tells of")
+                                                : tr("%1 more files that only the card's directory tells of",
+                                                     nullptr, pluralOf(files.size()))
                                                       .arg(numberForPeople(files.size()));
         m_told->setToolTip(0, words + u'\n' + tr("Save All saves them too."));
         showCount(m_told, files.size());
@@ -252,7 +254,8 @@ void FoundPane::showTold(const std::vector<std::shared_ptr<const CardFile>>& fil
         }
         if (files.size() > kMostToldRows) {
             auto* row = new QTreeWidgetItem(
-                m_told, {tr("and %1 more").arg(numberForPeople(files.size() - kMostToldRows))});
+                m_told, {tr("and %1 more", nullptr, pluralOf(files.size() - kMostToldRows))
+                             .arg(numberForPeople(files.size() - kMostToldRows))});
             row->setFlags(Qt::ItemIsEnabled);
         }
     }

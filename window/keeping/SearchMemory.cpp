@@ -18,11 +18,14 @@ QString foundWords(int mode, std::uint64_t found) {
     const QString number = numberForPeople(found);
     switch (mode) {
         case kPhotoMode:
-            return found == 1 ? QObject::tr("1 photo found") : QObject::tr("%1 photos found").arg(number);
+            return found == 1 ? QObject::tr("1 photo found")
+                              : QObject::tr("%1 photos found", nullptr, pluralOf(found)).arg(number);
         case kVideoMode:
-            return found == 1 ? QObject::tr("1 video found") : QObject::tr("%1 videos found").arg(number);
+            return found == 1 ? QObject::tr("1 video found")
+                              : QObject::tr("%1 videos found", nullptr, pluralOf(found)).arg(number);
         default:
-            return found == 1 ? QObject::tr("1 file found") : QObject::tr("%1 files found").arg(number);
+            return found == 1 ? QObject::tr("1 file found")
+                              : QObject::tr("%1 files found", nullptr, pluralOf(found)).arg(number);
     }
 }
 

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "catalogue/Language.h"
 #include "ui_HelpSupport.h"
 #include "window/panels/About.h"
 #include "window/widgets/Alerts.h"
@@ -50,7 +51,10 @@ void Help_Support::ContinuePressed(QObject*) {
 }
 
 void Help_Support::HelpFilePressed(QObject*) {
-    const QString document = m_resourcesFolder + QStringLiteral("/Help.pdf");
+    const QString language = localeOfTexts().name().section(u'_', 0, 0);
+    const QString inLanguage = m_resourcesFolder + QStringLiteral("/Help_%1.pdf").arg(language);
+    const QString document =
+        QFileInfo::exists(inLanguage) ? inLanguage : m_resourcesFolder + QStringLiteral("/Help.pdf");
     if (QFileInfo::exists(document)) {
         if (!m_openDocument(document)) {
             runAlert({QStringLiteral("\n") + tr("The help document could not be opened."),
@@ -60,7 +64,7 @@ void Help_Support::HelpFilePressed(QObject*) {
         }
         return;
     }
-    Show_MessageBox(QStringLiteral("Help file does not exist!"));
+    Show_MessageBox(tr("Help file does not exist!"));
 }
 
 }  // namespace vantor

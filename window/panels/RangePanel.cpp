@@ -3,6 +3,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QObject>
 #include <QRadioButton>
 #include <QSignalBlocker>
 
@@ -33,9 +34,9 @@ void setHidden(const Widgets& widgets, bool hidden) {
 }  // namespace
 
 void RangePanel::setCaptions() {
-    const QStringList captions = {QStringLiteral("Disk\t\t\t\t:"),     QStringLiteral("Volume Name\t:"),
-                                  QStringLiteral("File System\t\t:"),  QStringLiteral("Capacity (size)\t:"),
-                                  QStringLiteral("Start Sector\t\t:"), QStringLiteral("End Sector\t\t:")};
+    const QStringList captions = {QObject::tr("Disk\t\t\t\t:"),     QObject::tr("Volume Name\t:"),
+                                  QObject::tr("File System\t\t:"),  QObject::tr("Capacity (size)\t:"),
+                                  QObject::tr("Start Sector\t\t:"), QObject::tr("End Sector\t\t:")};
     for (qsizetype i = 0; i < captions.size(); ++i) {
         m_outlets.captions.at(i)->setText(captions.at(i));
     }
@@ -61,7 +62,7 @@ void RangePanel::fill(const MyDataObject& medium) {
 
 void RangePanel::clear() {
     for (QLabel* value : m_outlets.values) {
-        value->setText(kNoFact);
+        value->setText(noFact());
     }
 }
 

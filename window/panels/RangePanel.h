@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QList>
+#include <QObject>
 #include <QString>
 
 #include "media/SearchRange.h"
@@ -17,7 +18,9 @@ class MyDataObject;
 class SectorSlider;
 
 // What a fact says while there is no medium.
-inline const QString kNoFact = QStringLiteral("<None>");
+inline QString noFact() {
+    return QObject::tr("<None>");
+}
 
 // One end of the range: its text field and the slider beside it.
 struct RangeEnd {
@@ -50,7 +53,7 @@ class RangePanel {
     void setCaptions();
     // Facts, sliders and texts of the medium; entire disk on, no destination.
     void fill(const MyDataObject& medium);
-    // kNoFact in all facts.
+    // noFact() in all facts.
     void clear();
 
     void chooseEntireDisk();

@@ -16,9 +16,6 @@ constexpr int kPictureEdge = 40;
 // So many fit into a line of the smaller text, however short the headline.
 constexpr int kLineCharacters = 56;
 
-const QString kYes = QStringLiteral("Yes");
-const QString kNo = QStringLiteral("No");
-
 }  // namespace
 
 qsizetype runAlert(const Alert& alert, QWidget* over) {
@@ -54,7 +51,7 @@ int Show_MessageBox(const QString& message) {
 }
 
 bool Show_YES_NO_MessageBox(const QString& question) {
-    return runAlert({question, QStringLiteral(""), {kYes, kNo}}) == 0;
+    return runAlert({question, QStringLiteral(""), {QObject::tr("Yes"), QObject::tr("No")}}) == 0;
 }
 
 }  // namespace vantor

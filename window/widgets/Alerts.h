@@ -2,6 +2,7 @@
 // alert of any buttons.
 #pragma once
 
+#include <QObject>
 #include <QString>
 #include <QStringList>
 
@@ -22,7 +23,7 @@ bool Show_YES_NO_MessageBox(const QString& question);
 struct Alert {
     QString message;
     QString informative = QStringLiteral("");
-    QStringList buttons = {QStringLiteral("OK")};
+    QStringList buttons = {QObject::tr("OK")};
     qsizetype defaultButton = 0;
     QString picture = {};  // name of an icon; by default that of a message or a question
 };

@@ -7,13 +7,19 @@
 
 namespace vantor {
 
+namespace {
+
+constexpr int kMargin = 2;
+
+}  // namespace
+
 // A name of this width takes a little more than three tab widths, as the longest captions do.
 int TabbedLabel::tabDistance() const {
     return static_cast<int>(
         std::floor(fontMetrics().horizontalAdvance(QStringLiteral("Volume Name")) / 3.02));
 }
 
-int TabbedLabel::walk(const std::function<void(int x, const QString& text)>& piece) const {
+int TabbedLabel::walk(const std::function<void(int x, const QString& text, bool last)>& piece) const {
     const int distance = std::max(1, tabDistance());
     int x = 0;
     const QStringList pieces = text().split(u'\t');
@@ -21,21 +27,25 @@ int TabbedLabel::walk(const std::function<void(int x, const QString& text)>& pie
         if (i > 0) {
             x = (x / distance + 1) * distance;
         }
-        piece(x, pieces.at(i));
+        piece(x, pieces.at(i), i > 0 && i + 1 == pieces.size());
         x += fontMetrics().horizontalAdvance(pieces.at(i));
     }
     return x;
 }
 
 QSize TabbedLabel::sizeHint() const {
-    return {walk([](int, const QString&) {}) + 2, fontMetrics().height()};
+    return {walk([](int, const QString&, bool) {}) + kMargin, fontMetrics().height()};
 }
 
 void TabbedLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setPen(palette().color(foregroundRole()));
-    walk([&](int x, const QString& piece) {
-        painter.drawText(QRect(x, 0, width() - x, height()), Qt::AlignVCenter | Qt::TextSingleLine, piece);
+    walk([&](int x, const QString& piece, bool last) {
+        const QRect room =
+            last ? QRect(0, 0, width() - kMargin, height()) : QRect(x, 0, width() - x, height());
+        painter.drawText(room,
+                         int{Qt::AlignVCenter} | Qt::TextSingleLine | (last ? Qt::AlignRight : Qt::AlignLeft),
+                         piece);
     });
 }
 
