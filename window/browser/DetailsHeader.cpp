@@ -15,6 +15,7 @@ namespace vantor {
 namespace {
 
 constexpr int kWidestColumn = 2000;  // pixels
+constexpr int kMargins = 24;
 
 struct Column {
     QString title;
@@ -25,25 +26,25 @@ struct Column {
 Column columnAt(DetailsColumn column) {
     switch (column) {
         case DetailsColumn::Name:
-            return {DetailsHeader::tr("Name"), SortItems::Name, 30};
+            return {DetailsHeader::tr("Name"), SortItems::Name, 21};
         case DetailsColumn::OriginalName:
-            return {DetailsHeader::tr("Name on the card"), SortItems::OriginalName, 26};
+            return {DetailsHeader::tr("Name on the card"), SortItems::OriginalName, 25};
         case DetailsColumn::Type:
-            return {DetailsHeader::tr("Type"), SortItems::Type, 8};
+            return {DetailsHeader::tr("Type"), SortItems::Type, 5};
         case DetailsColumn::Size:
-            return {DetailsHeader::tr("Size"), SortItems::Size, 11};
+            return {DetailsHeader::tr("Size"), SortItems::Size, 8};
         case DetailsColumn::Date:
-            return {DetailsHeader::tr("Date"), SortItems::DateTaken, 19};
+            return {DetailsHeader::tr("Date"), SortItems::DateTaken, 15};
         case DetailsColumn::Camera:
-            return {DetailsHeader::tr("Camera"), SortItems::Camera, 20};
+            return {DetailsHeader::tr("Camera"), SortItems::Camera, 18};
         case DetailsColumn::Extent:
-            return {DetailsHeader::tr("Pixels or length"), SortItems::Pixels, 18};
+            return {DetailsHeader::tr("Pixels or length"), SortItems::Pixels, 14};
         case DetailsColumn::State:
-            return {DetailsHeader::tr("State"), SortItems::Soundness, 24};
+            return {DetailsHeader::tr("State"), SortItems::Soundness, 22};
         case DetailsColumn::Place:
             break;
     }
-    return {DetailsHeader::tr("Place on the card"), SortItems::Place, 34};
+    return {DetailsHeader::tr("Place on the card"), SortItems::Place, 30};
 }
 
 }  // namespace
@@ -89,8 +90,12 @@ DetailsHeader::DetailsHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, pare
     setAccessibleName(tr("Columns of the details"));
     for (int at = 0; at < kDetailsColumns; ++at) {
         const Column column = columnAt(static_cast<DetailsColumn>(at));
-        titles->setHorizontalHeaderItem(at, new QStandardItem(column.title));
-        resizeSection(at, column.letters * fontMetrics().averageCharWidth());
+        auto* const title = new QStandardItem(column.title);
+        if (static_cast<DetailsColumn>(at) == DetailsColumn::Size) {
+            title->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        }
+        titles->setHorizontalHeaderItem(at, title);
+        resizeSection(at, column.letters * fontMetrics().horizontalAdvance(u'0') + kMargins);
     }
     setSortIndicatorShown(false);
     connect(this, &QHeaderView::sectionClicked, this,

@@ -118,7 +118,7 @@ QString CardPicture::words() const {
     }
     if (all.isEmpty()) {
         const QString fileSystem = m_range.values.at(kFileSystem)->text();
-        all << (fileSystem.isEmpty() || fileSystem == kNoFact ? tr("No file system is known") : fileSystem);
+        all << (fileSystem.isEmpty() || fileSystem == noFact() ? tr("No file system is known") : fileSystem);
     }
     const SectorRun range = chosen();
     if (range.end == range.first) {
