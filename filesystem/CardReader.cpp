@@ -9,6 +9,7 @@
 #include "filesystem/ClusterVolume.h"
 #include "filesystem/FoundStarts.h"
 #include "filesystem/LostDirectories.h"
+#include "filesystem/LostRecords.h"
 #include "filesystem/NtfsVolume.h"
 #include "filesystem/PartitionTable.h"
 
@@ -33,6 +34,8 @@ class Reader {
             m_volumes.back()->readFromRoot();
         }
         LostDirectories(m_card, m_found, m_volumes).read(m_traces.directories, formerShapes());
+        joinRuns(m_ntfsRecords);
+        LostRecords(m_card, m_found).tell(m_traces.directories, m_ntfsRecords, m_ntfsShapes, m_table);
         for (const auto& volume : m_volumes) {
             volume->linkLost();
             volume->tell(m_found, m_table);
@@ -54,10 +57,15 @@ class Reader {
             return known.kind == shape.kind && known.firstSector == shape.first &&
                    known.clusterSectors == shape.clusterSectors;
         };
-        if (std::none_of(m_table.fileSystems.begin(), m_table.fileSystems.end(), isSame) &&
-            NtfsVolume(m_card, shape, isCurrent).tell(m_table)) {
+        if (std::any_of(m_table.fileSystems.begin(), m_table.fileSystems.end(), isSame)) {
+            return;
+        }
+        NtfsVolume volume(m_card, shape, isCurrent);
+        if (volume.tell(m_table)) {
             note(shape, isCurrent, {});
         }
+        m_ntfsShapes.push_back(shape);
+        m_ntfsRecords.insert(m_ntfsRecords.end(), volume.recordPlaces().begin(), volume.recordPlaces().end());
     }
 
     std::optional<VolumeShape> shapeAt(std::uint64_t sector, std::uint64_t first) {
@@ -142,6 +150,8 @@ class Reader {
     const CardTraces& m_traces;
     const FoundStarts m_found;
     std::vector<std::unique_ptr<ClusterVolume>> m_volumes;
+    std::vector<VolumeShape> m_ntfsShapes;
+    std::vector<SectorRun> m_ntfsRecords;  // that have been read with their file systems
     CardTable m_table;
 };
 

@@ -14,6 +14,14 @@ std::uint64_t behindLineEnd(ByteView& view, std::uint64_t at) {
     return at;
 }
 
+std::uint64_t behindEmptyLine(ByteView& view, std::uint64_t at) {
+    const auto end = behindLineEnd(view, at);
+    const auto bytes = static_cast<std::size_t>(end - at);
+    const bool again = bytes != 0 && !isSectorStart(end) && view.holds(end, bytes) &&
+                       view.number(at, bytes, Endian::Big) == view.number(end, bytes, Endian::Big);
+    return again ? end + bytes : end;
+}
+
 std::uint64_t behindBlanks(ByteView& view, std::uint64_t at) {
     at = behindLineEnd(view, at);
     while (!isSectorStart(at) && isTextSpace(view.u8(at).value_or(0)))

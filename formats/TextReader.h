@@ -47,6 +47,8 @@ inline bool isTextSpace(int byte) {
 
 // Position behind one line end of any kind at `at`, else `at`.
 std::uint64_t behindLineEnd(ByteView& view, std::uint64_t at);
+// The same behind an empty line that some writers leave after their last one.
+std::uint64_t behindEmptyLine(ByteView& view, std::uint64_t at);
 // The same behind all blanks and line ends, which editors leave behind the last mark, but not in the next
 // sector.
 std::uint64_t behindBlanks(ByteView& view, std::uint64_t at);

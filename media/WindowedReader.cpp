@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <utility>
 
 namespace vantor {
@@ -162,6 +163,10 @@ bool WindowedReader::fetchSingle() {
 bool WindowedReader::readSingleOrRefuse(std::uint64_t sector) {
     if (m_refused.contains(sector)) {
         return false;
+    }
+    std::optional<RefusedSectors::Turn> turn;
+    if (m_refusedForAll) {
+        turn.emplace(*m_refusedForAll, sector - sector % m_source->blockSectors());
     }
     if (isRefusedForAll(sector)) {
         noteRefused(sector, sector + 1);

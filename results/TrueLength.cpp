@@ -83,8 +83,13 @@ bool isFrameStream(const QString& type) {
 
 bool isCertainlyUnsound(const QString& type, const Extent& extent) {
     const Format* const format = formatFor(extensionOf(type));
-    return format != nullptr && format->strongMagic && !format->mayNotTellEnd &&
-           extent.verdict == Verdict::Unknown && extent.facts.width == 0;
+    if (format == nullptr || format->mayNotTellEnd || extent.verdict != Verdict::Unknown) {
+        return false;
+    }
+    // Noise holds the mark of a frame now and then, but no row of them; behind a tag something else may
+    // follow.
+    const bool isRow = format->frameStream && format->group != Group::Documents;
+    return (format->strongMagic || isRow) && extent.end == 0 && extent.facts.width == 0;
 }
 
 }  // namespace vantor

@@ -118,6 +118,7 @@ class ItemSaver {
     std::optional<SavingFolder> openDestination(SaveOutcome& outcome) const;
     LengthClaims& claimsOn(std::uint64_t mediumSectors) const;
     bool moveAsOnCard(const FoundItem& item, const CardFile& file, SaveOutcome& outcome) const;
+    std::optional<SavingFolder> folderOf(const QString& path) const;
     void remove(const QString& path) const;
     bool isStillThere(const FoundItem& item) const;
     bool isPart(const FoundItem& item, SaveOutcome& outcome) const;

@@ -33,20 +33,44 @@ void MyTableController::addImageWithData(const QByteArray& data, const QString& 
         ScanSession::addImageWithData(data, imageName, image_UID);
         return;
     }
+    const auto kept = m_memory->thumbnails();
+    const ThumbnailPlace where{handOver().firstSector, handOver().bytes};
+    if (const QByteArray known = pictureIsKnown() ? kept->find(where) : QByteArray(); !known.isEmpty()) {
+        m_thumbnails->submitMade(
+            known, [this, imageName, image_UID, from = handOver()](const QByteArray& thumbnail) {
+                addThumbnail(thumbnail, imageName, image_UID, from);
+            });
+        return;
+    }
+    // What the medium refused of it may be had another time.
+    const auto keep = [where,
+                       kept = handOver().carved.readFailed ? nullptr : kept](const QByteArray& thumbnail) {
+        if (kept) {
+            kept->add(where, thumbnail);
+        }
+    };
     // Bytes of its own, so that the scan's buffer stays the scan's and keeps its memory for the next item.
     const auto place = std::make_shared<std::size_t>(0);
     m_thumbnails->submit(
         QByteArray(data.constData(), data.size()),
-        [this, imageName, image_UID, place, from = handOver()](const QByteArray& thumbnail) {
+        [this, imageName, image_UID, place, keep, from = handOver()](const QByteArray& thumbnail) {
+            keep(thumbnail);
             addThumbnail(thumbnail, imageName, image_UID, from);
             *place = itemCount() - 1;
         },
         pathExtension(imageName),
-        [this, image_UID, place](const QByteArray& thumbnail) {
+        [this, image_UID, place, keep](const QByteArray& thumbnail) {
+            keep(thumbnail);
             replaceThumbnail(*place, image_UID, thumbnail);
             QMetaObject::invokeMethod(
                 this, [this] { imageBrowser->viewport()->update(); }, Qt::QueuedConnection);
         });
+}
+
+bool MyTableController::pictureIsKnown() const {
+    const auto kept = m_memory->thumbnails();
+    return kept && !handOver().carved.readFailed &&
+           kept->contains({handOver().firstSector, handOver().bytes});
 }
 
 ItemFacts MyTableController::factsOfItem(qsizetype index) {

@@ -100,6 +100,9 @@ bool MyTableController::mayLeaveUnsaved(const QString& consequence, const QStrin
 }
 
 bool MyTableController::shutDown(std::chrono::milliseconds patience) {
+    if (m_marksChanged.isActive()) {
+        keepMarks();
+    }
     m_ending = true;
     *m_leaving = true;
     m_queue.close();

@@ -5,6 +5,7 @@
 #include <QFrame>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <chrono>
 
 #include "media/MediumTargets.h"
 #include "results/RecoveryMode.h"
@@ -17,6 +18,15 @@
 #include "window/widgets/Sheet.h"
 
 namespace vantor {
+
+namespace {
+
+constexpr int kMarksSettleMilliseconds = 1000;
+// A card that answers at once is known before anybody could read what is said meanwhile.
+constexpr std::chrono::milliseconds kUnnoticed{400};
+constexpr std::chrono::milliseconds kLookForCardAgain{250};
+
+}  // namespace
 
 void MyTableController::setUpKeeping() {
     m_memory = std::make_unique<SearchMemory>(m_parts.stateFolder);
@@ -53,6 +63,9 @@ void MyTableController::setUpKeeping() {
         QWidget::setTabOrder(first, second);
     }
     connect(m_goOnButton, &QPushButton::clicked, this, &MyTableController::goOn);
+    m_cardBackLater.setSingleShot(true);
+    m_cardBackLater.setInterval(kLookForCardAgain);
+    connect(&m_cardBackLater, &QTimer::timeout, this, &MyTableController::goOnWithCardPutBack);
     connect(m_keptBar->goOnButton, &QPushButton::clicked, this, [this] { goOnWithKept(false); });
     connect(m_keptBar->lookButton, &QPushButton::clicked, this, [this] { goOnWithKept(true); });
     connect(m_keptBar->forgetButton, &QPushButton::clicked, this, [this] {
@@ -66,6 +79,9 @@ void MyTableController::setUpKeeping() {
                                           (!m_keepingBox->copyPath().isEmpty() || chooseCopyPlace()));
     });
     connect(m_desk.get(), &SavingDesk::marksChanged, this, &MyTableController::keepMarks);
+    m_marksChanged.setSingleShot(true);
+    m_marksChanged.setInterval(kMarksSettleMilliseconds);
+    connect(&m_marksChanged, &QTimer::timeout, this, &MyTableController::keepMarks);
 }
 
 // The offer on the first screen, the boxes on the one of the range.
@@ -156,27 +172,72 @@ void MyTableController::keepThisSearch() {
     record.notes.generalNumber = GND_Image_number;
     record.notes.thoroughNumber = THD_Image_number;
     m_savedBefore = record.notes.saved;
+    m_tickedBefore = record.notes.ticked;
+    m_selectedBefore = record.notes.selected;
     keepSearch(m_memory->begin(std::move(record), remember, [this] { return itemCount(); }));
 }
 
-// What was saved in the search that is gone on with is known again as soon as it is listed again.
-void MyTableController::markSavedBefore() {
-    const auto listed = std::find_if(m_savedBefore.begin(), m_savedBefore.end(),
-                                     [count = itemCount()](std::uint64_t place) { return place >= count; });
-    if (listed == m_savedBefore.begin()) {
-        return;
+namespace {
+
+// The places among them that are listed, which they lose.
+std::vector<std::uint64_t> takeListed(std::vector<std::uint64_t>& places, std::size_t count) {
+    const auto end =
+        std::find_if(places.begin(), places.end(), [count](std::uint64_t place) { return place >= count; });
+    std::vector<std::uint64_t> listed(places.begin(), end);
+    places.erase(places.begin(), end);
+    return listed;
+}
+
+std::vector<std::uint64_t> withPlaces(const QList<qsizetype>& indexes,
+                                      const std::vector<std::uint64_t>& notListed) {
+    std::vector<std::uint64_t> places(indexes.begin(), indexes.end());
+    places.insert(places.end(), notListed.begin(), notListed.end());
+    std::sort(places.begin(), places.end());
+    places.erase(std::unique(places.begin(), places.end()), places.end());
+    return places;
+}
+
+}  // namespace
+
+// What was saved, ticked and selected in the search that is gone on with is so again as soon as it is listed
+// again.
+void MyTableController::markAsBefore() {
+    const std::size_t count = itemCount();
+    if (const auto saved = takeListed(m_savedBefore, count); !saved.empty()) {
+        m_desk->markSaved(saved);
     }
-    const std::vector<std::uint64_t> places(m_savedBefore.begin(), listed);
-    m_savedBefore.erase(m_savedBefore.begin(), listed);
-    m_desk->markSaved(places);
+    if (const auto ticked = takeListed(m_tickedBefore, count); !ticked.empty()) {
+        tickItems({ticked.begin(), ticked.end()}, true);
+    }
+    // All at once, unless the user has selected something else meanwhile.
+    if (!m_selectedBefore.empty() && m_selectedBefore.back() < count) {
+        ImageBrowserView* const browser = browserOf(activeSet());
+        if (browser->selectedCount() == 0) {
+            browser->selectIndexes({m_selectedBefore.begin(), m_selectedBefore.end()});
+        }
+        m_selectedBefore.clear();
+    }
+}
+
+// A file is not written for each of many clicks.
+void MyTableController::keepMarksSoon() {
+    m_marksChanged.start();
 }
 
 void MyTableController::keepMarks() {
-    std::vector<std::uint64_t> saved = m_desk->marks().savedPlaces();
-    saved.insert(saved.end(), m_savedBefore.begin(), m_savedBefore.end());
-    std::sort(saved.begin(), saved.end());
-    m_memory->setSaved(std::move(saved));
+    m_marksChanged.stop();
+    const std::vector<std::uint64_t> saved = m_desk->marks().savedPlaces();
+    m_memory->setMarks(withPlaces({saved.begin(), saved.end()}, m_savedBefore),
+                       withPlaces(m_ticks.all(), m_tickedBefore),
+                       withPlaces(browserOf(activeSet())->selectionIndexes(), m_selectedBefore));
     writeKeptSearch();
+}
+
+SearchRecord MyTableController::recordOfNow() {
+    if (m_marksChanged.isActive()) {
+        keepMarks();
+    }
+    return m_memory->keeper()->record(refusals());
 }
 
 // While a search runs, it does so itself.
@@ -200,7 +261,7 @@ void MyTableController::goOn() {
     if (scanShown() || session || !m_memory->keeper()) {
         return;
     }
-    SearchRecord record = m_memory->keeper()->record(refusals());
+    SearchRecord record = recordOfNow();
     // The list is emptied only when there is something to go on with.
     const Likeness likeness = likenessOf(_disk_identifier->text(), record);
     if (m_ending) {
@@ -219,14 +280,19 @@ void MyTableController::goOn() {
 }
 
 // The card is back that was taken out in the middle of a search: it goes on by itself, and nothing is said of
-// any other card.
+// any other card. What the user has before him is finished first, such as the alert that the card is gone.
 void MyTableController::goOnWithCardPutBack() {
-    const bool waits = onScanScreen() && searchEnd().mediumGone && searchEnd().canGoOn();
-    if (!waits || scanShown() || session || m_desk->isRunning() || AskingTurn::isTaken() ||
-        !m_memory->keeper()) {
+    if (m_ending || !onScanScreen() || !m_memory->keeper()) {
         return;
     }
-    SearchRecord record = m_memory->keeper()->record(refusals());
+    if (scanShown() || session || m_desk->isRunning() || AskingTurn::isTaken()) {
+        m_cardBackLater.start();
+        return;
+    }
+    if (!searchEnd().mediumGone || !searchEnd().canGoOn()) {
+        return;
+    }
+    SearchRecord record = recordOfNow();
     if (likenessOf(_disk_identifier->text(), record) == Likeness::Same && !m_ending) {
         goOnWith(std::move(record));
     }
@@ -299,7 +365,7 @@ MyTableController::Likeness MyTableController::likenessOf(const QString& identif
     const auto found = std::make_shared<Likeness>(Likeness::CannotBeOpened);
     session = true;
     {
-        const SheetSession sheet(LoadDisk_Window, controlPanel, exitButton);
+        const SheetSession sheet(LoadDisk_Window, controlPanel, exitButton, kUnnoticed);
         runBeside([found, open = m_parts.openMedium, identifier, samples = record.samples] {
             const auto medium = open ? open(QStringLiteral("/dev/r") + identifier) : nullptr;
             if (medium) {

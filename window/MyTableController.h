@@ -205,6 +205,7 @@ class MyTableController : public QObject,
     PhotoBytes photoBytesNeeded() const override {
         return m_parts.thumbnailer ? PhotoBytes::Picture : PhotoBytes::First;
     }
+    bool pictureIsKnown() const override;
     qsizetype numberOfItemsInImageBrowser(const ImageBrowserView* view) override;
     std::shared_ptr<MyImageObject> imageBrowser_itemAtIndex(const ImageBrowserView* view,
                                                             qsizetype index) override;
@@ -416,9 +417,11 @@ class MyTableController : public QObject,
     void showKeeping();
     void keepThisSearch();
     void keepSearchEnd();
+    void keepMarksSoon();
     void keepMarks();
+    SearchRecord recordOfNow();
     void writeKeptSearch();
-    void markSavedBefore();
+    void markAsBefore();
     void goOn();
     void goOnWithCardPutBack();
     void goOnWith(SearchRecord record);
@@ -570,9 +573,12 @@ class MyTableController : public QObject,
     QFrame* m_searchOptions = nullptr;
     KeepingBox* m_keepingBox = nullptr;
     QPushButton* m_goOnButton = nullptr;
-    std::optional<SearchRecord> m_goingOn;     // what the search that is about to begin goes on with
-    bool m_onlyLook = false;                   // and that it ends where that one did
-    std::vector<std::uint64_t> m_savedBefore;  // ascending places of items that are not listed yet
+    QTimer m_cardBackLater;                 // runs while something holds up the look for a card put back
+    std::optional<SearchRecord> m_goingOn;  // what the search that is about to begin goes on with
+    bool m_onlyLook = false;                // and that it ends where that one did
+    // Ascending places of items that are not listed yet.
+    std::vector<std::uint64_t> m_savedBefore, m_tickedBefore, m_selectedBefore;
+    QTimer m_marksChanged;
 
     // Set when the user chooses the destination.
     QString m_chosenFolder;

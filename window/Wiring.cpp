@@ -65,8 +65,10 @@ void MyTableController::wire() {
         connect(button, &QToolButton::toggled, this, &MyTableController::showDetails);
     }
     for (ImageBrowserView* browser : {imageBrowser, imageBrowser_2}) {
-        connect(browser, &ImageBrowserView::selectionDidChange, this,
-                [this, browser] { selectionMoved(browser); });
+        connect(browser, &ImageBrowserView::selectionDidChange, this, [this, browser] {
+            selectionMoved(browser);
+            keepMarksSoon();
+        });
         connect(browser, &ImageBrowserView::openWanted, this, &MyTableController::openInViewer);
         connect(browser, &ImageBrowserView::dragWanted, this,
                 [this, browser](const QList<qsizetype>& indexes) { dragOut(browser, indexes); });
@@ -112,7 +114,7 @@ void MyTableController::wireButtons() {
     connect(openImageButton, &QPushButton::clicked, this, [this] {
         const QStringList files = QFileDialog::getOpenFileNames(
             window, tr("Open an image file of a medium"), rememberedFolder(kLastImages),
-            tr("Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima);;All files (*)"));
+            tr("Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;All files (*)"));
         if (!files.isEmpty()) {
             rememberFolder(kLastImages, QFileInfo(files.constFirst()).absolutePath());
         }

@@ -53,6 +53,7 @@ class ZipWalk {
     Step followData(const LocalEntry& entry);
     Step searchDescriptor(const LocalEntry& entry);
     bool skipDescriptor(const LocalEntry& entry);
+    bool behindUntoldName();
     void prove(const LocalEntry& entry);
     bool isRecordAt(std::uint64_t at);
     bool signatureBlock();
@@ -172,6 +173,23 @@ ZipWalk::Step ZipWalk::followData(const LocalEntry& entry) {
     return skipDescriptor(entry) ? Step::Next : Step::Broken;
 }
 
+// Some writers put the name of the document's type in front of all else by a template whose sizes they never
+// fill in; it is a few letters long.
+bool ZipWalk::behindUntoldName() {
+    constexpr std::string_view kName = "mimetype", kUntold = "CRCqCSIZUSIZ";
+    constexpr std::uint64_t kMostLetters = 128;
+    if (m_at != 0 || !m_view.matches(14, kUntold) || !m_view.matches(30, kName))
+        return false;
+    const auto from = 30 + kName.size();
+    const auto sign = m_view.find('P', from, std::min(m_view.size(), from + kMostLetters));
+    if (!sign.found() || m_view.le32(sign.at) != kLocal)
+        return false;
+    m_allProved = false;
+    --m_entries;  // the directory lists another of that name
+    m_at = sign.at;
+    return true;
+}
+
 ZipWalk::Step ZipWalk::local() {
     const auto entry = readLocal();
     if (!entry)
@@ -181,6 +199,8 @@ ZipWalk::Step ZipWalk::local() {
     if (entry->sizesFollow() && entry->packed == 0)
         return followData(*entry);
     const auto end = addClamped(entry->data, entry->packed);
+    if (end > m_view.size() && behindUntoldName())
+        return Step::Next;
     if (end > m_view.size())
         return Step::Cut;
     prove(*entry);

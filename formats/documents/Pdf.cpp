@@ -98,7 +98,8 @@ class PdfWalk {
     void noteSigns(std::uint64_t at, std::string_view text);
 
     ByteView& m_view;
-    std::uint64_t m_lastMark = 0;    // behind the last end mark, valid or not
+    std::uint64_t m_lastMark = 0;  // behind the last end mark, valid or not
+    bool m_lastMarkInner = false;
     std::uint64_t m_lastSign = 0;    // behind the last end of an object or stream
     std::uint64_t m_linearized = 0;  // length told by the linearization dictionary, while it may still apply
 };
@@ -209,14 +210,21 @@ Extent PdfWalk::walk() {
         at += word;
         if (m_view.matches(at, "%%EOF")) {
             m_lastMark = behindMark(at);
-            if (judge(at) == Mark::Last)
+            const Mark mark = judge(at);
+            if (mark == Mark::Last)
                 return completeAt(m_view, m_lastMark);
+            m_lastMarkInner = mark == Mark::Inner;
         } else if (isForeignStart(at)) {
             m_lastSign = std::min(m_lastSign, at);  // signs behind are the other's
             break;
         }
         ++at;
     }
+    // A table of places that is wrong, as hand-written files and changed line ends have it, and nothing of a
+    // PDF behind the end mark.
+    const bool foreignBehind = m_view.size() > m_lastMark + kUpdateLead && m_lastMark >= m_lastSign;
+    if (m_lastMark != 0 && m_linearized == 0 && !m_lastMarkInner && foreignBehind)
+        return spoiltUpTo(m_view, m_lastMark);
     const auto kept = std::max(m_lastMark, std::min(m_lastSign, m_view.size()));
     return at >= m_view.size() ? cutOffAt(m_view, m_lastMark != 0 ? kept : m_view.size())
                                : damagedAt(m_view, kept);

@@ -58,29 +58,21 @@ std::uint64_t withoutForeignLetters(ByteView& view, std::uint64_t end) {
     return last - line <= kFewLetters ? line : last;
 }
 
-// Behind a line end, and behind an empty line that some writers leave after their last one.
-std::uint64_t behindEmptyLine(ByteView& view, std::uint64_t at) {
-    const auto end = behindLineEnd(view, at);
-    const auto bytes = static_cast<std::size_t>(end - at);
-    const bool again = bytes != 0 && !isSectorStart(end) && view.holds(end, bytes) &&
-                       view.number(at, bytes, Endian::Big) == view.number(end, bytes, Endian::Big);
-    return again ? end + bytes : end;
-}
-
 // Texts that say where they end: by a last line behind which nothing comes.
 std::optional<std::uint64_t> behindLastLine(ByteView& view, std::uint64_t end) {
     struct Marked {
         std::string_view first, last;
     };
-    static constexpr std::array<Marked, 9> kMarked = {Marked{"ISO-10303-21;", "END-ISO-10303-21;"},
-                                                      Marked{"  0\r\nSECTION", "EOF"},
-                                                      Marked{"  0\nSECTION", "EOF"},
-                                                      Marked{"999", "EOF"},
-                                                      Marked{"0\nSECTION", "EOF"},
-                                                      Marked{"0\r\nSECTION", "EOF"},
-                                                      Marked{" 0\nSECTION", "EOF"},
-                                                      Marked{" 0\r\nSECTION", "EOF"},
-                                                      Marked{"StartFontMetrics ", "EndFontMetrics"}};
+    static constexpr std::array<Marked, 10> kMarked = {Marked{"ISO-10303-21;", "END-ISO-10303-21;"},
+                                                       Marked{"  0\r\nSECTION", "EOF"},
+                                                       Marked{"  0\nSECTION", "EOF"},
+                                                       Marked{"999", "EOF"},
+                                                       Marked{"0\nSECTION", "EOF"},
+                                                       Marked{"0\r\nSECTION", "EOF"},
+                                                       Marked{" 0\nSECTION", "EOF"},
+                                                       Marked{" 0\r\nSECTION", "EOF"},
+                                                       Marked{"StartFontMetrics ", "EndFontMetrics"},
+                                                       Marked{"EESchema Schematic", "$EndSCHEMATC"}};
     for (const auto& [first, last] : kMarked) {
         if (!view.matches(0, first))
             continue;
@@ -128,7 +120,7 @@ extern constexpr Format kText = {
         "PLS NFO PHP PL JAVA TSV YAML YML AFM CCD CUBE CUE DIFF GCODE GPL IMY IPYNB LDIF OBJ OFX "
         "ORG PEM PGN PO QIF RIS SGF URL USDA VTT ASC ASPX BAS BIB CIF DESKTOP ENW FASTA FRM "
         "GFF HQX IGS INF JDX JSP LRC LWS LY MIF MOL2 MSF NB NMEA PBXPROJ PCB PFA PPD PPK RB REG "
-        "RPP SFD SHAR SLK SLN SMI STEP STP IFC UU VBP VNT WRL X_T ",
+        "RPP SCH SFD SHAR SLK SLN SMI STEP STP IFC UU VBP VNT WRL X_T FIG ",
     .strongMagic = false,
     .frameStream = true,
 };

@@ -173,7 +173,7 @@ extern constexpr Format kXml = {
     .group = Group::Documents,
     .walk = walkXml,
     .extensions =
-        " XML SVG XMP GPX KML PLIST XSL XSD RSS FB2 XHTML WPL ABW AMF ATOM CML CSPROJ DAE DBK "
+        " XML SVG XMP GPX KML XSL XSD RSS FB2 XHTML WPL ABW AMF ATOM CML CSPROJ DAE DBK "
         "DRAWIO ENEX FCPXML FDX FODT GML GRAPHML JMX KDENLIVE MM MPD MUSICXML MZML NZB OPML OSM "
         "QGS QRC SBML TCX TTML UI X3D XLF XSPF ASX AUP BRD JNLP ",
     .strongMagic = false,

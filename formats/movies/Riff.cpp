@@ -57,6 +57,7 @@ class RiffWalk {
 
     Step outer();
     Step inner(std::uint64_t told);
+    bool isFilled(std::uint64_t told);
     void movieData(const Chunk& list);
     void index(const Chunk& index);
 
@@ -121,6 +122,18 @@ void RiffWalk::index(const Chunk& index) {
     m_looked = m_looked || !m_small;
 }
 
+// Whether the rest, up to `told`, is zeros that some editors leave where chunks were.
+bool RiffWalk::isFilled(std::uint64_t told) {
+    constexpr std::uint64_t kMostFill = 4096;
+    if (told - m_at > kMostFill || told > m_view.size())
+        return false;
+    for (std::uint64_t at = m_at; at < told; ++at) {
+        if (m_view.u8(at) != 0)
+            return false;
+    }
+    return true;
+}
+
 // The chunks of one outer chunk that should end at `told`; m_at moves behind the last.
 RiffWalk::Step RiffWalk::inner(std::uint64_t told) {
     for (std::uint32_t chunks = 0; chunks < kMostChunks; ++chunks) {
@@ -128,6 +141,10 @@ RiffWalk::Step RiffWalk::inner(std::uint64_t told) {
         if (m_at >= told || told - m_at < 8)
             return Step::Done;
         const auto chunk = readChunk(m_view, m_at, m_endian);
+        if (!chunk && isFilled(told)) {
+            m_at = told;
+            return Step::Done;
+        }
         if (!chunk)
             return m_view.holds(m_at, 8) ? Step::Broken : Step::Cut;
         std::uint64_t end = chunk->end();
@@ -143,7 +160,8 @@ RiffWalk::Step RiffWalk::inner(std::uint64_t told) {
         addRiffFacts(m_view, {m_form.data(), m_form.size()}, chunk->text(), chunk->body, chunk->bytes,
                      m_facts);
         const bool list = chunk->text() == "LIST" && m_view.matches(chunk->body, "movi");
-        m_sawPayload = m_sawPayload || list || chunk->text() != "LIST";
+        m_sawPayload = m_sawPayload || chunk->text() != "LIST" ||
+                       !(m_view.matches(chunk->body, "INFO") || m_view.matches(chunk->body, "hdrl"));
         if (end > m_view.size())
             return Step::Cut;
         if (list)
@@ -153,7 +171,7 @@ RiffWalk::Step RiffWalk::inner(std::uint64_t told) {
         const std::uint64_t padded = end + (end - chunk->body) % 2;
         // The padding byte behind the last odd chunk is often left out of the count, and then of the file;
         // of IFF seldom of the file.
-        const bool leftOut = padded == told + 1 && (m_endian == Endian::Little || m_view.u8(end) != 0);
+        const bool leftOut = padded > told && (m_endian == Endian::Little || m_view.u8(end) != 0);
         m_at = leftOut ? end : padded;
     }
     return Step::Broken;

@@ -261,7 +261,7 @@ Extent JpegWalk::walkPicture() {
         return spoiltUpTo(m_view, m_at, m_facts);
     if (step == Step::End) {
         const Extent whole = completeAt(m_view, m_at, m_facts);
-        return m_scansJudged || m_suspect == 0 ? withContent(whole) : whole;
+        return m_scansJudged ? withContent(whole) : whole;
     }
     if (m_suspect != 0)
         return damagedAt(m_view, m_suspect, m_facts);

@@ -5,110 +5,6 @@
 
 namespace vantor {
 
-namespace {
-
-// Bytes that encoders leave between the last unit and the marker.
-constexpr std::uint64_t kMostLeft = 64;
-
-}  // namespace
-
-// Bits of entropy-coded bytes, most significant first, without the stuffed zeros; ones behind a marker.
-class JpegScan::Bits {
-  public:
-    Bits(ByteView& view, std::uint64_t at, std::uint64_t end) : m_view(view), m_at(at), m_end(end) {}
-
-    // The next 16 bits.
-    std::uint32_t peek() {
-        if (m_count < 16)
-            fill();
-        return static_cast<std::uint32_t>(m_bits >> (m_count - 16)) & 0xFFFF;
-    }
-    void skip(unsigned bits) {
-        if (m_count < bits)
-            fill();
-        m_count -= bits;
-    }
-    // Whether more bits were used than there are.
-    bool overrun() const { return m_padding > m_count; }
-    // Goes behind the restart marker that should stand here.
-    bool restart() {
-        if (m_count < 16)
-            fill();
-        if (overrun() || m_count - m_padding >= 8 || !m_atMarker)
-            return false;
-        m_at += 2;
-        m_bits = 0;
-        m_count = m_padding = 0;
-        m_atMarker = false;
-        m_window = {};
-        return true;
-    }
-    std::uint64_t bytesLeft() const {
-        return m_end - std::min(m_at, m_end) + (m_count - std::min(m_padding, m_count)) / 8;
-    }
-
-  private:
-    void fill() {
-        while (m_count <= 48) {
-            std::uint64_t byte = 0xFF;
-            if (!m_atMarker)
-                byte = next();
-            if (m_atMarker)
-                m_padding += 8;
-            m_bits = m_bits << 8 | byte;
-            m_count += 8;
-        }
-    }
-    std::uint64_t next() {
-        for (;;) {
-            const std::uint64_t byte = peekByte(0);
-            if (m_atMarker)
-                return 0xFF;
-            if (byte != 0xFF) {
-                advance(1);
-                return byte;
-            }
-            const std::uint64_t second = peekByte(1);
-            if (second == 0) {
-                advance(2);
-                return 0xFF;
-            }
-            if (second != 0xFF || m_atMarker) {
-                m_atMarker = true;
-                return 0xFF;
-            }
-            advance(1);  // a fill byte
-        }
-    }
-    // The byte so far ahead; a marker where the scan ends.
-    std::uint64_t peekByte(std::uint64_t ahead) {
-        if (m_at + ahead >= m_end) {
-            m_atMarker = true;
-            return 0xFF;
-        }
-        if (m_window.size() <= ahead)
-            m_window = m_view.window(m_at, static_cast<std::size_t>(ahead) + 1);
-        if (m_window.size() <= ahead) {
-            m_atMarker = true;
-            return 0xFF;
-        }
-        return m_window[static_cast<std::size_t>(ahead)];
-    }
-    void advance(std::size_t bytes) {
-        m_at += bytes;
-        m_window = m_window.subspan(std::min(bytes, m_window.size()));
-    }
-
-    ByteView& m_view;
-    std::uint64_t m_at;
-    const std::uint64_t m_end;
-    std::span<const std::uint8_t> m_window;
-    std::uint64_t m_bits = 0;
-    unsigned m_count = 0;    // valid bits
-    unsigned m_padding = 0;  // of them behind the marker
-    bool m_atMarker = false;
-};
-
 void JpegScan::huffmanTables(ByteView& view, std::uint64_t at, std::uint64_t bytes) {
     const std::uint64_t end = at + bytes;
     while (at + 17 <= end) {
@@ -146,13 +42,15 @@ void JpegScan::huffmanTables(ByteView& view, std::uint64_t at, std::uint64_t byt
 }
 
 void JpegScan::frame(ByteView& view, std::uint8_t marker, std::uint64_t at) {
-    m_baseline = false;
+    m_coding = Coding::Other;
+    m_seen = {};
+    m_blocksSeen = 0;
     Cursor in(view, at);
     const auto precision = in.u8();
     m_height = in.u16();
     m_width = in.u16();
     m_count = in.u8();
-    if ((marker != 0xC0 && marker != 0xC1) || (precision != 8 && precision != 12) || m_count == 0 ||
+    if (marker < 0xC0 || marker > 0xC2 || (precision != 8 && precision != 12) || m_count == 0 ||
         m_count > kMostComponents)
         return;
     for (std::size_t i = 0; i < m_count; ++i) {
@@ -164,11 +62,12 @@ void JpegScan::frame(ByteView& view, std::uint8_t marker, std::uint64_t at) {
         if (m_components[i].across - 1U > 3 || m_components[i].down - 1U > 3)
             return;
     }
-    m_baseline = in.ok() && m_width != 0 && m_height != 0;
+    if (in.ok() && m_width != 0 && m_height != 0)
+        m_coding = marker == 0xC2 ? Coding::Progressive : Coding::Sequential;
 }
 
 // The value of the next code; negative when there is none such.
-int JpegScan::value(Bits& bits, const Table& table) {
+int JpegScan::value(JpegBits& bits, const Table& table) {
     const auto next = bits.peek();
     if (const auto entry = table.quick[next >> (16 - kQuickBits)]; entry != 0) {
         bits.skip(entry >> 8);
@@ -186,7 +85,7 @@ int JpegScan::value(Bits& bits, const Table& table) {
     return -1;
 }
 
-bool JpegScan::block(Bits& bits, const Part& part) {
+bool JpegScan::block(JpegBits& bits, const Part& part) {
     const int dc = value(bits, *part.dc);
     if (dc < 0 || dc > 15)
         return false;
@@ -206,48 +105,65 @@ bool JpegScan::block(Bits& bits, const Part& part) {
     return true;
 }
 
-JpegScan::Outcome JpegScan::judge(ByteView& view, std::uint64_t head, std::uint64_t at,
-                                  std::uint64_t end) const {
+// The parts that a scan's header names, and its count of units; nothing where it names what there is not.
+std::optional<JpegScan::Scan> JpegScan::readScan(ByteView& view, std::uint64_t head) const {
     Cursor in(view, head);
-    const std::size_t count = in.u8();
-    if (!m_baseline || count == 0 || count > m_count)
-        return Outcome::NotJudged;
+    Scan scan;
+    scan.count = in.u8();
+    if (scan.count == 0 || scan.count > m_count)
+        return std::nullopt;
     std::uint32_t mostAcross = 1, mostDown = 1;
     for (std::size_t i = 0; i < m_count; ++i) {
         mostAcross = std::max<std::uint32_t>(mostAcross, m_components[i].across);
         mostDown = std::max<std::uint32_t>(mostDown, m_components[i].down);
     }
-    std::array<Part, kMostComponents> parts{};
-    std::uint64_t units = 0;
     const auto share = [](std::uint64_t length, std::uint64_t of) { return (length + of - 1) / of; };
-    for (std::size_t i = 0; i < count; ++i) {
+    const bool single = scan.count == 1;
+    for (std::size_t i = 0; i < scan.count; ++i) {
         const auto id = in.u8();
         const auto tables = in.u8();
         const auto last = m_components.begin() + static_cast<std::ptrdiff_t>(m_count);
         const auto component =
             std::find_if(m_components.begin(), last, [&](const Component& each) { return each.id == id; });
         if (component == last || tables >> 4 >= kTables || (tables & 15) >= kTables)
-            return Outcome::NotJudged;
-        parts[i].dc = &m_dc[tables >> 4];
-        parts[i].ac = &m_ac[tables & 15];
-        parts[i].blocks = count == 1 ? 1 : component->across * component->down;
-        if (!parts[i].dc->known || !parts[i].ac->known)
-            return Outcome::NotJudged;
+            return std::nullopt;
+        Part& part = scan.parts[i];
+        part.dc = &m_dc[tables >> 4];
+        part.ac = &m_ac[tables & 15];
+        part.component = static_cast<std::size_t>(component - m_components.begin());
+        part.blocks = single ? 1 : component->across * component->down;
         // A scan of one component has its blocks one by one, without those that only fill up units.
-        units = count == 1 ? share(share(std::uint64_t{m_width} * component->across, mostAcross), 8) *
-                                 share(share(std::uint64_t{m_height} * component->down, mostDown), 8)
-                           : share(m_width, std::uint64_t{8} * mostAcross) *
-                                 share(m_height, std::uint64_t{8} * mostDown);
+        scan.units = single ? share(share(std::uint64_t{m_width} * component->across, mostAcross), 8) *
+                                  share(share(std::uint64_t{m_height} * component->down, mostDown), 8)
+                            : share(m_width, std::uint64_t{8} * mostAcross) *
+                                  share(m_height, std::uint64_t{8} * mostDown);
     }
-    if (!in.ok())
+    scan.first = in.u8();
+    scan.last = in.u8();
+    const auto bits = in.u8();
+    scan.refines = bits >> 4 != 0;
+    return in.ok() ? std::optional(scan) : std::nullopt;
+}
+
+JpegScan::Outcome JpegScan::judge(ByteView& view, std::uint64_t head, std::uint64_t at, std::uint64_t end) {
+    const auto scan = m_coding == Coding::Other ? std::nullopt : readScan(view, head);
+    if (!scan)
         return Outcome::NotJudged;
-    Bits bits(view, at, end);
-    for (std::uint64_t unit = 0; unit < units; ++unit) {
+    JpegBits bits(view, at, end);
+    return m_coding == Coding::Progressive ? judgeProgressive(*scan, bits) : judgeBaseline(*scan, bits);
+}
+
+JpegScan::Outcome JpegScan::judgeBaseline(const Scan& scan, JpegBits& bits) const {
+    for (std::size_t i = 0; i < scan.count; ++i) {
+        if (!scan.parts[i].dc->known || !scan.parts[i].ac->known)
+            return Outcome::NotJudged;
+    }
+    for (std::uint64_t unit = 0; unit < scan.units; ++unit) {
         if (m_interval != 0 && unit != 0 && unit % m_interval == 0 && !bits.restart())
             return Outcome::Broken;
-        for (std::size_t i = 0; i < count; ++i) {
-            for (unsigned each = 0; each < parts[i].blocks; ++each) {
-                if (!block(bits, parts[i]) || bits.overrun())
+        for (std::size_t i = 0; i < scan.count; ++i) {
+            for (unsigned each = 0; each < scan.parts[i].blocks; ++each) {
+                if (!block(bits, scan.parts[i]) || bits.overrun())
                     return Outcome::Broken;
             }
         }

@@ -17,10 +17,13 @@ struct PsdHeader {
     std::uint64_t depth = 0;
 };
 
-// Behind the packed rows whose lengths stand in a table at `at`.
+// Behind the packed rows whose lengths stand in a table at `at`; 0 where a row would be longer than packing
+// can make it.
 std::optional<std::uint64_t> packedEnd(ByteView& view, std::uint64_t at, const PsdHeader& header) {
     const std::size_t entry = header.large ? 4 : 2;
     const std::uint64_t rows = header.channels * header.height;
+    // A run or a row of single bytes takes at most twice its length.
+    const std::uint64_t mostInRow = 2 * ((header.width * header.depth + 7) / 8) + 2;
     std::uint64_t end = at + rows * entry;
     if (end > view.size())
         return end;
@@ -28,6 +31,8 @@ std::optional<std::uint64_t> packedEnd(ByteView& view, std::uint64_t at, const P
         const auto bytes = view.number(at + row * entry, entry, Endian::Big);
         if (!bytes)
             return std::nullopt;
+        if (*bytes > mostInRow)
+            return 0;
         end = addClamped(end, *bytes);
     }
     return end;
@@ -68,6 +73,8 @@ Extent walkPsd(ByteView& view) {
             view, at + header.channels * header.height * ((header.width * header.depth + 7) / 8), facts);
     if (*compression == kPackBits) {
         const auto end = packedEnd(view, at, header);
+        if (end == 0)
+            return damagedAt(view, at, facts);
         return end ? completeAt(view, *end, facts) : cutOffAt(view, at, facts);
     }
     if (*compression != kZip && *compression != kZipPredicted)

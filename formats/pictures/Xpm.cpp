@@ -24,7 +24,7 @@ Extent walkXpm(ByteView& view) {
         else if (!quoted && *byte == '}')
             closed = true;
         else if (closed && *byte == ';')
-            return completeAt(view, behindLineEnd(view, at + 1));
+            return completeAt(view, behindEmptyLine(view, at + 1));
     }
 }
 

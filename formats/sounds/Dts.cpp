@@ -36,6 +36,7 @@ extern constexpr Format kDts = {
     .walk = walkDts,
     .extensions = " DTS ",
     .strongMagic = false,
+    .frameStream = true,
 };
 
 }  // namespace vantor

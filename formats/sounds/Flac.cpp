@@ -12,7 +12,9 @@ namespace {
 
 constexpr unsigned kStreamInfo = 0;  // type of the first metadata block, and of no other
 constexpr std::uint64_t kStreamInfoBytes = 34;
-constexpr unsigned kLastKnownType = 6;         // those above are reserved
+// Types of blocks: readers pass over the reserved ones between these two.
+constexpr unsigned kLastKnownType = 6;
+constexpr unsigned kForbiddenType = 127;
 constexpr std::uint64_t kMostZeros = 1 << 20;  // of one coded sample; more is an empty medium
 
 // Bits from a view, most significant first, with the running checksums over the whole bytes taken so far.
@@ -220,6 +222,7 @@ Extent walkFlac(ByteView& view) {
         return unknownExtent();
     std::uint64_t at = start + 4;
     const std::uint64_t first = at;
+    std::uint64_t reserved = 0;  // the first block of a reserved type, believed when sound follows
     for (bool last = false; !last;) {
         const auto head = view.be32(at);
         if (!head)
@@ -227,9 +230,11 @@ Extent walkFlac(ByteView& view) {
         last = *head >> 31 != 0;
         const auto type = *head >> 24 & 0x7F, bytes = *head & 0xFFFFFF;
         const bool proper = at == first ? type == kStreamInfo && bytes == kStreamInfoBytes
-                                        : type != kStreamInfo && type <= kLastKnownType;
+                                        : type != kStreamInfo && type != kForbiddenType;
         if (!proper)
-            return damagedAt(view, at);
+            return damagedAt(view, reserved != 0 ? reserved : at);
+        if (type > kLastKnownType && reserved == 0)
+            reserved = at;
         at += std::uint64_t{4} + bytes;
     }
     const auto packed = view.be64(first + 4 + 10).value_or(0);
@@ -240,6 +245,8 @@ Extent walkFlac(ByteView& view) {
         const Frame frame = readFrame(view, at, bits);
         if (!frame.valid && total == 0 && samples != 0 && !frame.cut)
             return inexact(completeAt(view, skipTrailingTags(view, at)));
+        if (!frame.valid && samples == 0 && reserved != 0)
+            return damagedAt(view, reserved);
         if (!frame.valid)
             return frame.cut ? cutOffAt(view, total == 0 && at == view.size() ? at : view.size())
                              : damagedAt(view, at);

@@ -20,7 +20,7 @@ Extent walkTranslations(ByteView& view) {
     const std::uint64_t hashes = in.u32(), hashTable = in.u32();
     if (!in.ok())
         return cutOffAt(view, view.size());
-    if (revision != 0 || texts == 0 || texts > kMostTexts)
+    if ((revision & 0xFFFF0000) != 0 || texts == 0 || texts > kMostTexts)
         return unknownExtent();
     std::uint64_t end = std::max<std::uint64_t>(28, hashes != 0 ? hashTable + hashes * 4 : 0);
     for (const auto table : tables) {

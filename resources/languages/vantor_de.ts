@@ -929,6 +929,10 @@ Der Endsektor muss größer als der Startsektor sein.</translation>
         <translation>In den Ordner %1 kann nichts geschrieben werden: %2.</translation>
     </message>
     <message>
+        <source>%1 lies on a FAT file system, which takes no file of 4 GiB or more, and %2 are needed</source>
+        <translation>%1 liegt auf einem FAT-Dateisystem, das keine Datei von 4 GiB oder mehr aufnimmt; gebraucht werden %2</translation>
+    </message>
+    <message>
         <source>There is not enough room in %1: %2 are needed, %3 are free</source>
         <translation>In %1 ist nicht genug Platz: %2 werden gebraucht, %3 sind frei</translation>
     </message>

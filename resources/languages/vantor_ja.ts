@@ -926,6 +926,10 @@ End Sector should be greater than Start Sector.</source>
         <translation>フォルダー %1 に書き込めません: %2。</translation>
     </message>
     <message>
+        <source>%1 lies on a FAT file system, which takes no file of 4 GiB or more, and %2 are needed</source>
+        <translation>%1 は FAT ファイルシステム上にあり、4 GiB 以上のファイルは保存できません (必要 %2)</translation>
+    </message>
+    <message>
         <source>There is not enough room in %1: %2 are needed, %3 are free</source>
         <translation>%1 に十分な空きがありません: 必要 %2、空き %3</translation>
     </message>

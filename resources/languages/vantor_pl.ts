@@ -924,6 +924,10 @@ End Sector should be greater than Start Sector.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>%1 lies on a FAT file system, which takes no file of 4 GiB or more, and %2 are needed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>There is not enough room in %1: %2 are needed, %3 are free</source>
         <translation type="unfinished"></translation>
     </message>

@@ -1,6 +1,9 @@
 // What only looks whole: files whose lengths are right and whose content is another's.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
+
 #include "Corpus.h"
 #include "Samples.h"
 #include "WalkBytes.h"
@@ -281,6 +284,32 @@ TEST(Photos, MissingAndRepeatedUnits_AreDamage) {
                   whole.begin() + static_cast<std::ptrdiff_t>(first[0]),
                   whole.begin() + static_cast<std::ptrdiff_t>(first[1]));
     expectSpoilt("JPG", longer, longer.size());
+}
+
+TEST(Photos, ProgressiveOnesWithASectorOfAnother_AreNotComplete) {
+    const Bytes whole = readFile(foreignFolder() / "imagemagick-progressive.jpg");
+    expectWhole("JPG", whole);
+    ASSERT_GT(whole.size(), 16 * kSector);
+    // Behind the tables of the first scan, up to the last whole sector; in every kind of scan. The scan with
+    // the last bits of the mean values has no codes, so anything may stand in it; here it fills one sector.
+    int unnoticed = 0;
+    for (std::size_t at = 2 * kSector; at + kSector < whole.size(); at += kSector) {
+        Bytes zeroed = whole;
+        std::fill_n(zeroed.begin() + static_cast<std::ptrdiff_t>(at), kSector, 0);
+        for (const Bytes& spoilt : {overwritten(whole, at, at + kSector), zeroed})
+            unnoticed += walkBytes("JPG", spoilt).verdict == Verdict::Complete ? 1 : 0;
+    }
+    EXPECT_LE(unnoticed, 1);
+}
+
+TEST(Photos, OfACodingThatIsNotFollowed_OnlyEndWhereTheySay) {
+    // Of the sequential pictures those with arithmetic codes are not.
+    Bytes arithmetic = photo(1);
+    const std::array<std::uint8_t, 2> frame = {0xFF, 0xC0};
+    const auto at = std::search(arithmetic.begin(), arithmetic.end(), frame.begin(), frame.end());
+    ASSERT_NE(at, arithmetic.end());
+    at[1] = 0xC9;
+    expectWhole("JPG", arithmetic, false);
 }
 
 TEST(Photos, SecondOnesDirectlyBehind_BelongToTheFile) {

@@ -248,8 +248,14 @@ Bytes musepack7() {
     return Build().text("MP+").u8(7).le32(1).fill(16).le32(100 << 4).fill(16);
 }
 
+// Rectangle of no bits, rate, count; a colour, a long tag of a shape, one picture, the end mark.
 Bytes flash() {
-    return Build().text("FWS").u8(6).le32(60).fill(52, 2);
+    constexpr std::uint64_t kColour = 9, kShape = 2, kPicture = 1;
+    Build tags;
+    tags.u8(0).le16(12 << 8).le16(1);
+    tags.le16(kColour << 6 | 3).fill(3, 0x40).le16(kShape << 6 | 63).le32(80).fill(80, 2);
+    tags.le16(kPicture << 6).le16(0);
+    return Build().text("FWS").u8(6).le32(tags.size() + 8).add(tags);
 }
 
 }  // namespace

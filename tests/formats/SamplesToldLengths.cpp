@@ -54,7 +54,35 @@ std::vector<Sample> toldLengthSamples() {
         {"VGM", grown(80, {{0, text("Vgm ")}, {4, le32(76)}})},
         {"SHP", grown(120, {{0, be32(9994)}, {24, be32(60)}, {28, le32(1000)}})},
         {"EMF", grown(130, {{0, le32(1)}, {40, text(" EMF")}, {44, le32(0x10000)}, {48, le32(130)}})},
-        {"WMF", grown(62, {{0, le32(0x9AC6CDD7)}, {22, {1, 0, 9, 0}}, {28, le32(20)}})},
+        {"WMF", Build()
+                    .le32(0x9AC6CDD7)
+                    .fill(18)
+                    .le16(1)
+                    .le16(9)
+                    .fill(14)
+                    .le32(4)
+                    .le16(0x103)
+                    .le16(7)
+                    .le32(3)
+                    .le16(0)},
+        {"NPY",
+         grown(10 + 57 + 48, {{0, text("\x93NUMPY\1")},
+                              {8, {57, 0}},
+                              {10, text("{'descr': '<f8', 'fortran_order': False, 'shape': (3, 2)}")}})},
+        {"PLIST", Build()
+                      .text("bplist00")
+                      .be16(0x5051)
+                      .u8(0x61)
+                      .be16(0x0809)
+                      .fill(6)
+                      .be16(0x0101)
+                      .be64(2)
+                      .be64(0)
+                      .be64(11)},
+        {"JT",
+         grown(
+             192,
+             {{0, text("Version 9.5")}, {85, le32(100)}, {100, le32(1)}, {120, le32(132)}, {124, le32(60)}})},
         {"SIT", grown(70, {{0, text("SIT!")}, {6, be32(70)}, {10, text("rLau")}})},
         {"PF", grown(100, {{0, le32(17)}, {4, text("SCCA")}, {12, le32(100)}})},
         {"MPQ", grown(70, {{0, text("MPQ\x1A")}, {4, le32(32)}, {8, le32(70)}})},

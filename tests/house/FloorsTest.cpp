@@ -19,7 +19,7 @@ const QStringList kFloors{
     "filesystem",
     "decode",
     "decode/helper",
-    "decode/card decode/movie decode/plugins",
+    "decode/card decode/evidence decode/movie decode/plugins",
     "results",
     "repair",
     "saving",

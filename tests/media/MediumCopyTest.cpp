@@ -87,18 +87,20 @@ class DriveSource : public BlockSource {
 
 class MediumCopies : public testing::Test {
   protected:
-    std::shared_ptr<MediumCopy> copyOf(Drive& drive) {
+    std::shared_ptr<MediumCopy> copyOf(Drive& drive, const std::vector<SectorRun>& refused = {}) {
         QString why;
         auto file = CopyFile::open(m_image, drive.sectors, &why);
         EXPECT_TRUE(file) << why.toStdString();
         if (!file) {
             return nullptr;
         }
-        return MediumCopy::make(std::move(file),
-                                [&drive](const StopRequest&) -> std::unique_ptr<BlockSource> {
-                                    const std::lock_guard lock(drive.mutex);
-                                    return drive.pulled ? nullptr : std::make_unique<DriveSource>(drive);
-                                });
+        return MediumCopy::make(
+            std::move(file),
+            [&drive](const StopRequest&) -> std::unique_ptr<BlockSource> {
+                const std::lock_guard lock(drive.mutex);
+                return drive.pulled ? nullptr : std::make_unique<DriveSource>(drive);
+            },
+            refused);
     }
 
     std::shared_ptr<MediumCopy> wholeCopyOf(Drive& drive) {
@@ -201,6 +203,31 @@ TEST_F(MediumCopies, WhatIsReadIsWhatTheMediumGivesSectorForSector) {
         QFile::remove(m_image);
         QFile::remove(m_image + ".map");
     }
+}
+
+TEST_F(MediumCopies, WhatIsKnownToBeRefusedIsNotAskedFor) {
+    Drive drive(10'000);
+    for (std::uint64_t sector = 4100; sector < 4170; ++sector) {
+        drive.bad.insert(sector);
+    }
+    drive.bad.insert(7000);
+    // One of them is not known yet; what lies behind the medium is of no account.
+    auto copy = copyOf(drive, {{4100, 4170}, {20'000, 30'000}, {~std::uint64_t{0} - 1, ~std::uint64_t{0}}});
+    copy->copy({{0, drive.sectors}});
+    {
+        const auto reader = copy->openReader();
+        ASSERT_TRUE(reader);
+        EXPECT_EQ(missing(drive, *reader), drive.bad);
+    }
+    copy.reset();
+    EXPECT_EQ(drive.refused.size(), 1u);
+    EXPECT_EQ(drive.refused.begin()->first, 7000u);
+    EXPECT_EQ(drive.sectorsGiven, drive.sectors - drive.bad.size());
+    expectImageHolds(drive);
+
+    // What a copy has it keeps, whatever a search knows.
+    const auto again = copyOf(drive, {{0, 9000}});
+    EXPECT_EQ(again->progress().copied, drive.sectors - drive.bad.size());
 }
 
 TEST_F(MediumCopies, AfterAPullOutAllThatWasReadIsThereAndTheCopyGoesOn) {

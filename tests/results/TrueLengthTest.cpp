@@ -41,6 +41,16 @@ TEST(BytesToKeep, UnknownIsAsPublished) {
     EXPECT_EQ(bytesToKeep(extent(Verdict::Unknown, 40'000), kLimits), 1000U);
 }
 
+// What one frame alone is: nothing, but behind a tag, of which there is something.
+TEST(CertainlyUnsound, FramesThatStandAloneAreNoSound) {
+    for (const char* type : {"AC3", "AAC", "MP3", "MP2", "DTS", "TS"}) {
+        SCOPED_TRACE(type);
+        EXPECT_TRUE(isCertainlyUnsound(type, extent(Verdict::Unknown, 0)));
+        EXPECT_FALSE(isCertainlyUnsound(type, extent(Verdict::Unknown, 10)));
+        EXPECT_FALSE(isCertainlyUnsound(type, extent(Verdict::CutOff, 600)));
+    }
+}
+
 TEST(CertainlyUnsound, OnlyWhereTheWalkerWouldHaveKnown) {
     EXPECT_TRUE(isCertainlyUnsound("JPG", extent(Verdict::Unknown, 0)));
     EXPECT_TRUE(isCertainlyUnsound("jpg", extent(Verdict::Unknown, 0)));

@@ -264,6 +264,25 @@ TEST_F(PulledOut, AndPutBack_TheSearchGoesOnByItself) {
     EXPECT_EQ(found().size(), 3);
 }
 
+TEST_F(PulledOut, AndPutBackBeforeItsAlertIsAnswered_TheSearchGoesOnBehindIt) {
+    openWithCard();
+    toRange(kPhotoMode);
+    asked.before = [this](std::uint64_t at) { asked.pulledOut = asked.pulledOut || at >= 16; };
+    answers.then([this](QDialog* alert) {
+        asked.before = nullptr;
+        asked.pulledOut = false;
+        source->changed();
+        pressButton(alert, QStringLiteral("OK"));
+    });
+    answers.press(QStringLiteral("OK"));  // the panel of the search that lost its card
+    answers.press(QStringLiteral("OK"));  // that of the one that went on
+    click(controller->nextButton);
+    ASSERT_TRUE(
+        waitFor([this] { return answers.allGiven() && !controller->scanShown() && !controller->session; }));
+    EXPECT_EQ(controller->searchEnd().outcome, PassOutcome::Completed);
+    EXPECT_EQ(found().size(), 3);
+}
+
 TEST_F(PulledOut, AndAnotherPutIn_NothingHappens) {
     openWithCard();
     toRange(kPhotoMode);
