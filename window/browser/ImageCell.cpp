@@ -18,7 +18,6 @@ namespace vantor {
 namespace {
 
 constexpr int kPadding = theme::kUnit;
-constexpr int kNarrowestCell = 136;
 constexpr int kDecodedKilobytes = 48 << 10;
 constexpr qreal kRadius = 6;
 constexpr int kLeastEdgeForLength = 72;
