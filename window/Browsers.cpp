@@ -4,6 +4,8 @@
 #include "results/SizeForPeople.h"
 #include "saving/SaveSummary.h"
 #include "window/MyTableController.h"
+#include "window/preview/CellPictures.h"
+#include "window/preview/DraggedFiles.h"
 #include "window/preview/PieceStrip.h"
 #include "window/preview/ViewerDesk.h"
 
@@ -83,8 +85,8 @@ LookedAtItems MyTableController::lookedAtItems() {
     items.isSaved = [this](std::size_t index) { return m_desk->marks().isSaved(index); };
     items.isTicked = [this](std::size_t index) { return m_ticks.isTicked(index); };
     items.mediumBusy = [this] {
-        return scanRunning() || m_desk->isRunning() || m_filling > 0 || m_viewer->isBusy() ||
-               m_mending.isRunning();
+        return scanRunning() || m_desk->isRunning() || m_dragged->isRunning() || m_filling > 0 ||
+               m_viewer->isBusy() || m_mending.isRunning();
     };
     items.mendOf = [this](const MyImageObject& item) { return m_mended->of(item); };
     items.card = [this] { return card(); };
@@ -200,6 +202,8 @@ void MyTableController::takeToldFiles(SavingDesk::ToldFiles files) {
 void MyTableController::forgetItems() {
     forgetMends();
     m_desk->forget();
+    m_pictures->begin();
+    m_dragged->begin();
     m_ticks.clear();
     m_told.clear();
 }

@@ -2,6 +2,8 @@
 
 #include <QSettings>
 
+#include "window/preview/CellPictures.h"
+#include "window/preview/DraggedFiles.h"
 #include "window/preview/ViewerDesk.h"
 #include "window/preview/WholePreview.h"
 
@@ -14,6 +16,8 @@ ControllerState::~ControllerState() = default;
 
 void ControllerState::endParts() {
     m_mending.stop();
+    m_dragged.reset();
+    m_pictures.reset();
     m_viewer.reset();
     m_desk.reset();
     m_looks.reset();

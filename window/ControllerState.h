@@ -43,12 +43,14 @@ class QSettings;
 
 namespace vantor {
 
-class ViewerDesk;
 class CardStrip;
+class CellPictures;
+class DraggedFiles;
 class KeepingBox;
 class KeptSearchBar;
 class MendingBar;
 class PieceStrip;
+class ViewerDesk;
 class WholePreview;
 
 // Everything is the interface thread's but what says otherwise.
@@ -182,6 +184,8 @@ class ControllerState {
     std::unique_ptr<BrowserLooks> m_looks;
     std::unique_ptr<SavingDesk> m_desk;
     std::unique_ptr<ViewerDesk> m_viewer;
+    std::unique_ptr<CellPictures> m_pictures;
+    std::unique_ptr<DraggedFiles> m_dragged;
     MendingRun m_mending;
 };
 

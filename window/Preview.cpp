@@ -4,10 +4,12 @@
 
 #include "catalogue/FileKind.h"
 #include "catalogue/NumberText.h"
+#include "results/ItemWords.h"
 #include "results/RecoveryMode.h"
 #include "results/SizeForPeople.h"
 #include "saving/FreeSpace.h"
 #include "window/MyTableController.h"
+#include "window/preview/CellPictures.h"
 #include "window/preview/DocumentFrame.h"
 #include "window/preview/MovieControls.h"
 #include "window/preview/PieceStrip.h"
@@ -73,13 +75,16 @@ void MyTableController::CreateFile_QuickLook_View(const QVariantList& item) {
     {
         const SheetSession sheet(ClearPreview_Window, controlPanel, exitButton);
         m_looks->rest(true);
+        m_pictures->rest(true);
         runBeside([this, request, mediumOpened] { *mediumOpened = makePreviewFile(*request, stop_now); });
         if (m_ending) {
             return;
         }
         m_looks->rest(false);
+        m_pictures->rest(false);
         if (*mediumOpened) {
             m_looks->tryAgain();
+            m_pictures->tryAgain();
             Preview_Temp_File = request->newFile;
             takeWholePreview(m_nextWhole);
         }

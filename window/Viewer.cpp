@@ -24,6 +24,7 @@ void MyTableController::setUpViewer() {
     parts.choose = [this](qsizetype index) { browserOf(activeSet())->chooseIndex(index); };
     parts.order = [this](const MyImageObject& item) { return viewOrderOf(item); };
     parts.obstacle = m_parts.obstacle;
+    parts.tick = [this](qsizetype index, bool ticked) { tickItems({index}, ticked); };
     parts.left = [this] {
         browserOf(activeSet())->setFocus();
         // What was chosen meanwhile is on preview beside the list.

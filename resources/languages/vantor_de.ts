@@ -561,6 +561,14 @@ Die Karte wird nur gelesen, nie beschrieben. Benutzen Sie sie nicht weiter, bis 
         <source>Save every found item (Ctrl+Shift+S)</source>
         <translation>Jeden Fund speichern (Strg+Umschalt+S)</translation>
     </message>
+    <message>
+        <source>Details in columns</source>
+        <translation>Einzelheiten in Spalten</translation>
+    </message>
+    <message>
+        <source>Details in columns (Ctrl+D)</source>
+        <translation>Einzelheiten in Spalten (Strg+D)</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -2261,6 +2269,38 @@ Läuft auf %2.</translation>
         <source>Mended</source>
         <translation>Ausgebessert</translation>
     </message>
+    <message>
+        <source>Pixels not known</source>
+        <translation>Pixel nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Under 1 megapixel</source>
+        <translation>Unter 1 Megapixel</translation>
+    </message>
+    <message>
+        <source>1 to 4 megapixels</source>
+        <translation>1 bis 4 Megapixel</translation>
+    </message>
+    <message>
+        <source>4 to 12 megapixels</source>
+        <translation>4 bis 12 Megapixel</translation>
+    </message>
+    <message>
+        <source>12 to 30 megapixels</source>
+        <translation>12 bis 30 Megapixel</translation>
+    </message>
+    <message>
+        <source>Over 30 megapixels</source>
+        <translation>Über 30 Megapixel</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -2571,6 +2611,18 @@ Läuft auf %2.</translation>
         <source>Save every found item (Ctrl+Shift+S)</source>
         <translation>Jeden Fund speichern (Strg+Umschalt+S)</translation>
     </message>
+    <message>
+        <source>Size of the pictures</source>
+        <translation>Größe der Bilder</translation>
+    </message>
+    <message>
+        <source>Details in columns</source>
+        <translation>Einzelheiten in Spalten</translation>
+    </message>
+    <message>
+        <source>Details in columns (Ctrl+D)</source>
+        <translation>Einzelheiten in Spalten (Strg+D)</translation>
+    </message>
 </context>
 <context>
     <name>SaveFileInfo</name>
@@ -2773,6 +2825,21 @@ Läuft auf %2.</translation>
     </message>
 </context>
 <context>
+    <name>UdisksEjector</name>
+    <message>
+        <source>The disk service no longer knows it.</source>
+        <translation>Der Laufwerksdienst kennt sie nicht mehr.</translation>
+    </message>
+    <message>
+        <source>The disk service does not answer.</source>
+        <translation>Der Laufwerksdienst antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The disk service refused it.</source>
+        <translation>Der Laufwerksdienst hat es abgelehnt.</translation>
+    </message>
+</context>
+<context>
     <name>vantor::BrowserLooks</name>
     <message>
         <source>All items</source>
@@ -2834,6 +2901,53 @@ Läuft auf %2.</translation>
         <source>Put together or repaired</source>
         <translation>Zusammengesetzt oder repariert</translation>
     </message>
+    <message>
+        <source>By name</source>
+        <translation>Nach Namen</translation>
+    </message>
+    <message>
+        <source>By type</source>
+        <translation>Nach Typ</translation>
+    </message>
+    <message>
+        <source>By camera</source>
+        <translation>Nach Kamera</translation>
+    </message>
+    <message>
+        <source>By pixels</source>
+        <translation>Nach Pixeln</translation>
+    </message>
+    <message>
+        <source>By place on the card</source>
+        <translation>Nach Ort auf der Karte</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::CardPicture</name>
+    <message>
+        <source>Picture of the card</source>
+        <translation>Bild der Karte</translation>
+    </message>
+    <message>
+        <source>%1 (%2 used)</source>
+        <translation>%1 (%2 belegt)</translation>
+    </message>
+    <message>
+        <source>No file system is known</source>
+        <translation>Kein Dateisystem bekannt</translation>
+    </message>
+    <message>
+        <source>nothing of it would be searched</source>
+        <translation>nichts davon würde durchsucht</translation>
+    </message>
+    <message>
+        <source>all of it is searched</source>
+        <translation>alles davon wird durchsucht</translation>
+    </message>
+    <message>
+        <source>%1 of it is searched</source>
+        <translation>%1 davon werden durchsucht</translation>
+    </message>
 </context>
 <context>
     <name>vantor::CardStrip</name>
@@ -2856,6 +2970,53 @@ Läuft auf %2.</translation>
     <message>
         <source>to come</source>
         <translation>noch offen</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::DetailsHeader</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Name on the card</source>
+        <translation>Name auf der Karte</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Pixels or length</source>
+        <translation>Pixel oder Länge</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Place on the card</source>
+        <translation>Ort auf der Karte</translation>
+    </message>
+    <message>
+        <source>%1, saved</source>
+        <translation>%1, gespeichert</translation>
+    </message>
+    <message>
+        <source>Columns of the details</source>
+        <translation>Spalten der Einzelheiten</translation>
     </message>
 </context>
 <context>
@@ -2925,6 +3086,10 @@ Läuft auf %2.</translation>
             <numerusform>und %1 weitere</numerusform>
             <numerusform>und %1 weitere</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>By pixels</source>
+        <translation>Nach Pixeln</translation>
     </message>
 </context>
 <context>
@@ -3046,6 +3211,18 @@ Läuft auf %2.</translation>
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Tick</source>
+        <translation>Vormerken</translation>
+    </message>
+    <message>
+        <source>Tick for saving (Insert, Delete)</source>
+        <translation>Zum Speichern vormerken (Einfg, Entf)</translation>
+    </message>
+    <message>
+        <source>Ticked</source>
+        <translation>Vorgemerkt</translation>
     </message>
 </context>
 <context>
@@ -3916,6 +4093,50 @@ Bitte wählen Sie die Dateitypen für die Wiederherstellung aus. Mit ‚Weiter�
         <source>No broken file could be completed.</source>
         <translation>Keine unvollständige Datei ließ sich vervollständigen.</translation>
     </message>
+    <message>
+        <source>Other files are being written. Drag again in a moment.</source>
+        <translation>Es werden noch andere Dateien geschrieben. Ziehen Sie gleich noch einmal.</translation>
+    </message>
+    <message>
+        <source>There is not enough room to get %1 ready for dragging. Save the files instead.</source>
+        <translation>Es ist nicht genug Platz, um %1 zum Ziehen bereitzustellen. Speichern Sie die Dateien stattdessen.</translation>
+    </message>
+    <message>
+        <source>These files cannot be read from the storage medium.</source>
+        <translation>Diese Dateien können nicht vom Speichermedium gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Getting the files ready…</source>
+        <translation>Dateien werden bereitgestellt …</translation>
+    </message>
+    <message>
+        <source>The files are still being written. Drag them again in a moment.</source>
+        <translation>Die Dateien werden noch geschrieben. Ziehen Sie sie gleich noch einmal.</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Speichern unter</translation>
+    </message>
+    <message>
+        <source>The card can be taken out.</source>
+        <translation>Die Karte kann herausgenommen werden.</translation>
+    </message>
+    <message>
+        <source>The card could not be ejected.</source>
+        <translation>Die Karte konnte nicht ausgeworfen werden.</translation>
+    </message>
+    <message>
+        <source>&amp;Untick for Saving</source>
+        <translation>Nicht mehr &amp;vormerken</translation>
+    </message>
+    <message>
+        <source>&amp;Tick for Saving</source>
+        <translation>Zum Speichern &amp;vormerken</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Speichern &amp;unter …</translation>
+    </message>
 </context>
 <context>
     <name>vantor::PieceStrip</name>
@@ -3977,6 +4198,10 @@ Bitte wählen Sie die Dateitypen für die Wiederherstellung aus. Mit ‚Weiter�
     <message>
         <source>Open Folder</source>
         <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Eject Card</source>
+        <translation>Karte auswerfen</translation>
     </message>
 </context>
 <context>

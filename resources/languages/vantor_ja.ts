@@ -561,6 +561,14 @@ The card is only ever read, never written to. Stop using it until you have your 
         <source>Save every found item (Ctrl+Shift+S)</source>
         <translation>見つかったすべての項目を保存します (Ctrl+Shift+S)</translation>
     </message>
+    <message>
+        <source>Details in columns</source>
+        <translation>列で詳細を表示</translation>
+    </message>
+    <message>
+        <source>Details in columns (Ctrl+D)</source>
+        <translation>列で詳細を表示 (Ctrl+D)</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -2229,6 +2237,38 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <source>Mended</source>
         <translation>復元内容</translation>
     </message>
+    <message>
+        <source>Pixels not known</source>
+        <translation>画素数不明</translation>
+    </message>
+    <message>
+        <source>Under 1 megapixel</source>
+        <translation>100 万画素未満</translation>
+    </message>
+    <message>
+        <source>1 to 4 megapixels</source>
+        <translation>100 万~400 万画素</translation>
+    </message>
+    <message>
+        <source>4 to 12 megapixels</source>
+        <translation>400 万~1200 万画素</translation>
+    </message>
+    <message>
+        <source>12 to 30 megapixels</source>
+        <translation>1200 万~3000 万画素</translation>
+    </message>
+    <message>
+        <source>Over 30 megapixels</source>
+        <translation>3000 万画素超</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>カメラ</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -2539,6 +2579,18 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <source>Save every found item (Ctrl+Shift+S)</source>
         <translation>見つかったすべての項目を保存します (Ctrl+Shift+S)</translation>
     </message>
+    <message>
+        <source>Size of the pictures</source>
+        <translation>画像の大きさ</translation>
+    </message>
+    <message>
+        <source>Details in columns</source>
+        <translation>列で詳細を表示</translation>
+    </message>
+    <message>
+        <source>Details in columns (Ctrl+D)</source>
+        <translation>列で詳細を表示 (Ctrl+D)</translation>
+    </message>
 </context>
 <context>
     <name>SaveFileInfo</name>
@@ -2741,6 +2793,21 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     </message>
 </context>
 <context>
+    <name>UdisksEjector</name>
+    <message>
+        <source>The disk service no longer knows it.</source>
+        <translation>ディスクサービスはこのカードを認識していません。</translation>
+    </message>
+    <message>
+        <source>The disk service does not answer.</source>
+        <translation>ディスクサービスが応答しません。</translation>
+    </message>
+    <message>
+        <source>The disk service refused it.</source>
+        <translation>ディスクサービスに拒否されました。</translation>
+    </message>
+</context>
+<context>
     <name>vantor::BrowserLooks</name>
     <message>
         <source>All items</source>
@@ -2802,6 +2869,53 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <source>Put together or repaired</source>
         <translation>つなぎ合わせまたは修復済み</translation>
     </message>
+    <message>
+        <source>By name</source>
+        <translation>名前順</translation>
+    </message>
+    <message>
+        <source>By type</source>
+        <translation>種類順</translation>
+    </message>
+    <message>
+        <source>By camera</source>
+        <translation>カメラ順</translation>
+    </message>
+    <message>
+        <source>By pixels</source>
+        <translation>画素数順</translation>
+    </message>
+    <message>
+        <source>By place on the card</source>
+        <translation>カード上の位置順</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::CardPicture</name>
+    <message>
+        <source>Picture of the card</source>
+        <translation>カードの図</translation>
+    </message>
+    <message>
+        <source>%1 (%2 used)</source>
+        <translation>%1(%2 使用)</translation>
+    </message>
+    <message>
+        <source>No file system is known</source>
+        <translation>ファイルシステム不明</translation>
+    </message>
+    <message>
+        <source>nothing of it would be searched</source>
+        <translation>検索される範囲がありません</translation>
+    </message>
+    <message>
+        <source>all of it is searched</source>
+        <translation>全体を検索します</translation>
+    </message>
+    <message>
+        <source>%1 of it is searched</source>
+        <translation>その %1 を検索します</translation>
+    </message>
 </context>
 <context>
     <name>vantor::CardStrip</name>
@@ -2824,6 +2938,53 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     <message>
         <source>to come</source>
         <translation>これから</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::DetailsHeader</name>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Name on the card</source>
+        <translation>カード上の名前</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日付</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>カメラ</translation>
+    </message>
+    <message>
+        <source>Pixels or length</source>
+        <translation>画素数または長さ</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Place on the card</source>
+        <translation>カード上の位置</translation>
+    </message>
+    <message>
+        <source>%1, saved</source>
+        <translation>%1、保存済み</translation>
+    </message>
+    <message>
+        <source>Columns of the details</source>
+        <translation>詳細の列</translation>
     </message>
 </context>
 <context>
@@ -2891,6 +3052,10 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <translation>
             <numerusform>ほか %1 件</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>By pixels</source>
+        <translation>画素数順</translation>
     </message>
 </context>
 <context>
@@ -3012,6 +3177,18 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Tick</source>
+        <translation>チェック</translation>
+    </message>
+    <message>
+        <source>Tick for saving (Insert, Delete)</source>
+        <translation>保存対象としてチェック (Insert、Delete)</translation>
+    </message>
+    <message>
+        <source>Ticked</source>
+        <translation>チェック済み</translation>
     </message>
 </context>
 <context>
@@ -3874,6 +4051,50 @@ Please select the required extension type for recovery process. Press ‘Next’
         <source>No broken file could be completed.</source>
         <translation>補完できた不完全なファイルはありません。</translation>
     </message>
+    <message>
+        <source>Other files are being written. Drag again in a moment.</source>
+        <translation>ほかのファイルを書き込み中です。少し待ってからもう一度ドラッグしてください。</translation>
+    </message>
+    <message>
+        <source>There is not enough room to get %1 ready for dragging. Save the files instead.</source>
+        <translation>ドラッグ用に %1 を準備する空き容量がありません。代わりにファイルを保存してください。</translation>
+    </message>
+    <message>
+        <source>These files cannot be read from the storage medium.</source>
+        <translation>これらのファイルはストレージメディアから読み取れません。</translation>
+    </message>
+    <message>
+        <source>Getting the files ready…</source>
+        <translation>ファイルを準備しています…</translation>
+    </message>
+    <message>
+        <source>The files are still being written. Drag them again in a moment.</source>
+        <translation>ファイルを書き込み中です。少し待ってからもう一度ドラッグしてください。</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>名前を付けて保存</translation>
+    </message>
+    <message>
+        <source>The card can be taken out.</source>
+        <translation>カードを取り出せます。</translation>
+    </message>
+    <message>
+        <source>The card could not be ejected.</source>
+        <translation>カードを取り出せませんでした。</translation>
+    </message>
+    <message>
+        <source>&amp;Untick for Saving</source>
+        <translation>チェックを外す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Tick for Saving</source>
+        <translation>保存対象としてチェック(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>名前を付けて保存(&amp;A)…</translation>
+    </message>
 </context>
 <context>
     <name>vantor::PieceStrip</name>
@@ -3935,6 +4156,10 @@ Please select the required extension type for recovery process. Press ‘Next’
     <message>
         <source>Open Folder</source>
         <translation>フォルダーを開く</translation>
+    </message>
+    <message>
+        <source>Eject Card</source>
+        <translation>カードを取り出す</translation>
     </message>
 </context>
 <context>

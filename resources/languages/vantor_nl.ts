@@ -556,6 +556,14 @@ The card is only ever read, never written to. Stop using it until you have your 
         <source>Save every found item (Ctrl+Shift+S)</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Details in columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Details in columns (Ctrl+D)</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -2238,6 +2246,38 @@ Running on %2.</source>
         <source>Mended</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Pixels not known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Under 1 megapixel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 to 4 megapixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>4 to 12 megapixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>12 to 30 megapixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Over 30 megapixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -2548,6 +2588,18 @@ Running on %2.</source>
         <source>Save every found item (Ctrl+Shift+S)</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Size of the pictures</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Details in columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Details in columns (Ctrl+D)</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>SaveFileInfo</name>
@@ -2750,6 +2802,21 @@ Running on %2.</source>
     </message>
 </context>
 <context>
+    <name>UdisksEjector</name>
+    <message>
+        <source>The disk service no longer knows it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The disk service does not answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The disk service refused it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>vantor::BrowserLooks</name>
     <message>
         <source>All items</source>
@@ -2811,6 +2878,53 @@ Running on %2.</source>
         <source>Put together or repaired</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>By name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>By place on the card</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>vantor::CardPicture</name>
+    <message>
+        <source>Picture of the card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (%2 used)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No file system is known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nothing of it would be searched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all of it is searched</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 of it is searched</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>vantor::CardStrip</name>
@@ -2832,6 +2946,53 @@ Running on %2.</source>
     </message>
     <message>
         <source>to come</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>vantor::DetailsHeader</name>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name on the card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pixels or length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place on the card</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Columns of the details</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2902,6 +3063,10 @@ Running on %2.</source>
             <numerusform></numerusform>
             <numerusform></numerusform>
         </translation>
+    </message>
+    <message>
+        <source>By pixels</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3022,6 +3187,18 @@ Running on %2.</source>
     </message>
     <message>
         <source>%1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tick</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tick for saving (Insert, Delete)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ticked</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3889,6 +4066,50 @@ Please select the required extension type for recovery process. Press ‘Next’
         <source>No broken file could be completed.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Other files are being written. Drag again in a moment.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is not enough room to get %1 ready for dragging. Save the files instead.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These files cannot be read from the storage medium.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Getting the files ready…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The files are still being written. Drag them again in a moment.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The card can be taken out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The card could not be ejected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Untick for Saving</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tick for Saving</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>vantor::PieceStrip</name>
@@ -3949,6 +4170,10 @@ Please select the required extension type for recovery process. Press ‘Next’
     </message>
     <message>
         <source>Open Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eject Card</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -93,6 +93,8 @@ class BrowserLooks : public QObject {
   signals:
     // Other items are shown, or others are selected.
     void changed();
+    // A few times a second while found items may be in view.
+    void looked();
 
   private:
     const BrowserScreen& screen() const;
@@ -100,9 +102,12 @@ class BrowserLooks : public QObject {
     void look();
     void choose();
     void pick();
+    void sortBy(SortItems sort);
     void putInOrder();
     void takeCard();
     bool takeFacets();
+    bool takeNames();
+    bool isNamedAsWished(std::size_t index) const;
     ItemTraits traitsOf(std::size_t index) const;
     void addCard(ItemFacts& facts, const MyImageObject& item) const;
 
@@ -115,6 +120,8 @@ class BrowserLooks : public QObject {
     std::size_t m_nextFacet = 0;       // up to which all are as well known as they can be
     std::uint64_t m_shownFacets = 0;   // changes that the pane shows
     std::uint64_t m_pickedFacets = 0;  // changes that the order knows of
+    std::vector<bool> m_named;       // of the items looked at so far: whether they have the name searched for
+    std::size_t m_orderedNames = 0;  // as many of them the order knows of
     QTimer m_look;
     QElapsedTimer m_sinceOrder;
     std::uint64_t m_seenChanges = 0;

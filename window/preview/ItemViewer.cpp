@@ -105,6 +105,9 @@ QWidget* ItemViewer::makeHead() {
     m_smaller = makeButton("viewerSmaller", tr("−"), tr("Smaller (−)"));
     m_larger = makeButton("viewerLarger", tr("+"), tr("Larger (+)"));
     m_full = makeButton("viewerFull", tr("Full Screen"), tr("Full screen (F11)"));
+    m_tickButton = makeButton("viewerTick", tr("Tick"), tr("Tick for saving (Insert, Delete)"));
+    m_tickButton->setCheckable(true);
+    connect(m_tickButton, &QToolButton::clicked, this, &ItemViewer::tickWanted);
     m_factsButton = makeButton("viewerFactsButton", tr("Facts"), tr("Show the facts beside it (I)"));
     m_fit->setCheckable(true);
     m_actual->setCheckable(true);
@@ -114,8 +117,8 @@ QWidget* ItemViewer::makeHead() {
     row->addWidget(m_title);
     row->addWidget(m_placeLabel);
     row->addStretch();
-    for (QWidget* const widget : std::initializer_list<QWidget*>{m_smaller, m_zoomLabel, m_larger, m_fit,
-                                                                 m_actual, m_full, m_factsButton}) {
+    for (QWidget* const widget : std::initializer_list<QWidget*>{
+             m_tickButton, m_smaller, m_zoomLabel, m_larger, m_fit, m_actual, m_full, m_factsButton}) {
         row->addWidget(widget);
     }
     connect(close, &QToolButton::clicked, this, &ItemViewer::leave);
@@ -200,6 +203,8 @@ void ItemViewer::makeShortcuts() {
     on(Qt::Key_Escape, [this] { escape(); });
     on(Qt::Key_F11, [this] { toggleFullScreen(); });
     on(Qt::Key_B, [this] { m_mend->turn(); });
+    on(Qt::Key_Insert, [this] { emit tickWanted(true); });
+    on(Qt::Key_Delete, [this] { emit tickWanted(false); });
     on(Qt::Key_I, [this] { m_factsButton->toggle(); });
     on(Qt::Key_0, [this] { m_picture->fit(); });
     on(Qt::Key_1, [this] { m_picture->showActualSize(); });
@@ -302,6 +307,11 @@ void ItemViewer::setFacts(const QList<ViewerFact>& facts) {
 void ItemViewer::setNote(const QString& note) {
     m_note->setText(note);
     m_note->setVisible(!note.isEmpty());
+}
+
+void ItemViewer::setTicked(bool ticked) {
+    m_tickButton->setChecked(ticked);
+    m_tickButton->setText(ticked ? tr("Ticked") : tr("Tick"));
 }
 
 void ItemViewer::setSteps(bool back, bool on) {

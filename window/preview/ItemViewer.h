@@ -51,6 +51,7 @@ class ItemViewer : public QWidget {
     void setNote(const QString& note);
     void setPlace(const QString& place);
     void setSteps(bool back, bool on);
+    void setTicked(bool ticked);
 
     ZoomPicture* picture() const { return m_picture; }
     MovieView* movie() const { return m_movie; }
@@ -64,6 +65,8 @@ class ItemViewer : public QWidget {
     void stepWanted(int steps);
     // To the first item, or the last.
     void endWanted(bool last);
+    // It is to be ticked for saving, or no longer.
+    void tickWanted(bool ticked);
     // Somebody has zoomed in further than the pixels go.
     void morePixelsWanted();
     void left();
@@ -100,6 +103,7 @@ class ItemViewer : public QWidget {
     QToolButton* m_smaller;
     QToolButton* m_larger;
     QToolButton* m_full;
+    QToolButton* m_tickButton;
     QToolButton* m_factsButton;
     QToolButton* m_back;
     QToolButton* m_on;

@@ -42,6 +42,10 @@ ViewerDesk::ViewerDesk(ViewerParts parts, PicturePreviewer picture, MovieLoader 
     });
     connect(m_viewer, &ItemViewer::endWanted, this,
             [this](bool last) { goTo(last ? m_parts.placeOf(m_index).count - 1 : 0); });
+    connect(m_viewer, &ItemViewer::tickWanted, this, [this](bool ticked) {
+        m_parts.tick(m_index, ticked);
+        refresh();
+    });
     connect(m_viewer, &ItemViewer::morePixelsWanted, this, &ViewerDesk::askForMore);
     connect(m_viewer->mend(), &MendPane::sideChosen, this, &ViewerDesk::begin);
     connect(m_viewer, &ItemViewer::left, this, [this] {
@@ -189,7 +193,9 @@ void ViewerDesk::refresh() {
                                                  numberForPeople(static_cast<std::uint64_t>(place.count)))
                                       : QString());
     m_viewer->setSteps(m_row > 0, m_row + 1 < place.count);
-    m_viewer->setFacts(viewerFacts(*item, m_parts.factsOf(m_index), m_viewed));
+    const ItemFacts known = m_parts.factsOf(m_index);
+    m_viewer->setTicked(known.ticked);
+    m_viewer->setFacts(viewerFacts(*item, known, m_viewed));
     if (const auto mend = m_parts.mendOf ? m_parts.mendOf(m_index) : nullptr; mend != m_mend) {
         show(m_index);  // something was made of it just now
     }

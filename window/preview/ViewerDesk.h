@@ -37,6 +37,7 @@ struct ViewerParts {
     std::function<ViewOrder(const MyImageObject&)> order;
     // Why a file has no picture; empty where nothing stands in the way.
     std::function<QString(const QString& file)> obstacle;
+    std::function<void(qsizetype, bool ticked)> tick;  // for saving
     std::function<void()> left;
 };
 

@@ -42,6 +42,8 @@ struct SavingParts {
     std::function<ReportHead()> reportHead;
     std::function<void(std::size_t, const Soundness&)> examined;  // found out while an item was saved
     std::function<void()> openFolder;
+    std::function<bool()> canEject;  // the medium; none: it cannot be
+    std::function<void()> eject;
     std::function<QString()> chooseFolder;  // another destination; "" when the user chose none
     std::function<bool()> ending;           // the program ends: nothing is waited for
 };
@@ -59,6 +61,9 @@ class SavingDesk : public QObject {
     // Items by their places in the list, and such files. Returns when they are saved or the user cancelled;
     // where the destination failed them the user may choose another on the way.
     void save(QList<qsizetype> indexes, QString destination, ToldFiles told = {});
+
+    // One item under this name, or with a number behind it where the name is taken.
+    void saveAs(qsizetype index, const QString& folder, const QString& name);
 
     // After a cancel a medium that does not answer may hold a job up; nothing is saved meanwhile.
     bool isRunning() const { return m_running; }
