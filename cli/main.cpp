@@ -6,6 +6,7 @@
 #include "catalogue/ResourcesFolder.h"
 #include "cli/Options.h"
 #include "cli/Recovery.h"
+#include "decode/EvidenceHelper.h"
 #include "media/PathArgument.h"
 
 int main(int argc, char** argv) {
@@ -24,5 +25,6 @@ int main(int argc, char** argv) {
                      qPrintable(vantor::withShownPaths(parsed.message)));
         return *parsed.exitCode;
     }
+    vantor::readEvidenceInHelpers();
     return vantor::recover(parsed.options);
 }

@@ -35,10 +35,14 @@ enum class RequestKind : std::uint32_t {
     OpenSound = 4,  // open the file, decode the first piece of its sound
     NextSound = 5,  // what follows the last piece, or the piece around timeMs when that is not negative
     OpenCover = 6,  // as OpenMovie; a sound file's cover does as well
-    SplitSound = 7,   // the input is a SoundToSplit and what it tells; gives the lengths of its packets
-    TryMovie = 8,     // open the file, decode it for timeMs at most; gives a MovieTrialCounts
-    ReadCard = 9,     // read the file systems of the card that the input tells of (CardExchange.h)
-    MoreOfCard = 10,  // the input is what the last answer asked for
+    SplitSound = 7,     // the input is a SoundToSplit and what it tells; gives the lengths of its packets
+    TryMovie = 8,       // open the file, decode it for timeMs at most; gives a MovieTrialCounts
+    ReadCard = 9,       // read the file systems of the card that the input tells of (CardExchange.h)
+    MoreOfCard = 10,    // the input is what the last answer asked for
+    AddSegment = 11,    // the file is the next segment of an evidence image
+    OpenEvidence = 12,  // of the segments added; gives EvidenceFacts
+    ReadEvidence = 13,  // the input is an EvidenceQuestion; gives its sectors, as many as there are up to a
+                        // damaged one, a row of kSectorWidth pixels each
 };
 
 // What the input of SplitSound begins with; the decoder's configuration and the sound follow. The answer's
@@ -56,6 +60,19 @@ struct MovieTrialCounts {
     std::uint32_t errors = 0;
 };
 constexpr std::uint32_t kMovieTrialWords = sizeof(MovieTrialCounts) / kBytesPerPixel;
+
+// The answer's pixels for OpenEvidence; its width is the count of these numbers.
+struct EvidenceFacts {
+    std::uint64_t sectors = 0;      // whole ones of 512 bytes
+    std::uint64_t unitSectors = 0;  // that are damaged together
+};
+constexpr std::uint32_t kEvidenceFactsWords = sizeof(EvidenceFacts) / kBytesPerPixel;
+struct EvidenceQuestion {
+    std::uint64_t first = 0;
+    std::uint64_t sectors = 0;  // 1 to kMostEvidenceSectors
+};
+constexpr std::uint32_t kSectorWidth = 512 / kBytesPerPixel;
+constexpr std::uint32_t kMostEvidenceSectors = 512;
 
 // Which descriptors ride with a request, in this order.
 enum RequestDescriptors : std::uint32_t {
@@ -113,5 +130,6 @@ struct Answer {
 };
 
 static_assert(std::is_trivially_copyable_v<Request> && std::is_trivially_copyable_v<Answer>);
+static_assert(std::is_trivially_copyable_v<EvidenceFacts> && std::is_trivially_copyable_v<EvidenceQuestion>);
 
 }  // namespace vantor::decode

@@ -66,6 +66,22 @@ bool ThumbnailQueue::submit(QByteArray encoded, Deliver deliver, QString extensi
     return true;
 }
 
+bool ThumbnailQueue::submitMade(QByteArray thumbnail, Deliver deliver) {
+    std::unique_lock lock(m_mutex);
+    m_room.wait(lock, [&] { return m_cancelled || m_hurrying || hasRoomFor(0); });
+    if (m_cancelled) {
+        return false;
+    }
+    auto item = std::make_shared<Item>();
+    item->generation = m_generation;
+    item->thumbnail = std::move(thumbnail);
+    item->deliver = std::move(deliver);
+    item->ready = true;
+    m_items.push_back(std::move(item));
+    m_done.notify_all();
+    return true;
+}
+
 void ThumbnailQueue::hurry() {
     const std::scoped_lock lock(m_mutex);
     m_hurrying = true;

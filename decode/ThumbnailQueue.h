@@ -42,6 +42,8 @@ class ThumbnailQueue {
     // queue hurries; `late` then gets the thumbnail when it is made, on any of the queue's threads, and may
     // be called for several items at a time.
     bool submit(QByteArray encoded, Deliver deliver, QString extension = {}, Deliver late = {});
+    // The same for a thumbnail that is there already: it is delivered in its turn.
+    bool submitMade(QByteArray thumbnail, Deliver deliver);
     // Nobody waits for a thumbnail any more, until resume(): items that may be late are delivered at once,
     // and a submitter finds room.
     void hurry();

@@ -6,6 +6,7 @@
 #include "filesystem/BootSector.h"
 #include "filesystem/CardTable.h"
 #include "filesystem/DirectoryRows.h"
+#include "filesystem/NtfsRecord.h"
 
 namespace vantor {
 
@@ -31,21 +32,25 @@ constexpr std::array<std::uint8_t, 256> makeHints() {
 
 constexpr std::array<std::uint8_t, 256> kHints = makeHints();
 
-bool isDirectory(const std::uint8_t* sector) {
+// How many sectors from this one on tell of files: rows, or a file record of NTFS; 0 when none does.
+std::size_t directorySectors(const std::uint8_t* sector) {
     const std::uint8_t hint = kHints[sector[0]];
     // A row's attributes, and a byte of which only two bits have a meaning.
     if ((hint & kFatRow) != 0 && (sector[11] & 0xC0) == 0 && (sector[12] & ~0x18) == 0 &&
         (fatDirectoryBeginning(sector) || looksLikeFatRows(sector))) {
-        return true;
+        return 1;
     }
-    return (hint & kExfatRow) != 0 && looksLikeExfatRows(sector);
+    if ((hint & kExfatRow) != 0) {
+        return looksLikeExfatRows(sector) ? 1 : 0;
+    }
+    return sector[0] == 'F' ? sectorsOfNtfsRecord(sector) : 0;
 }
 
 }  // namespace
 
 bool CardCollector::isTrace(const std::uint8_t* sector) {
-    return sector[0] != 0 &&
-           (isDirectory(sector) || ((sector[0] == 0xEB || sector[0] == 0xE9) && looksLikeBootSector(sector)));
+    return sector[0] != 0 && (directorySectors(sector) != 0 ||
+                              ((sector[0] == 0xEB || sector[0] == 0xE9) && looksLikeBootSector(sector)));
 }
 
 void CardCollector::look(std::uint64_t firstSector, const std::uint8_t* bytes, std::size_t sectors) {
@@ -55,13 +60,13 @@ void CardCollector::look(std::uint64_t firstSector, const std::uint8_t* bytes, s
         if (sector[0] == 0) {
             continue;
         }
-        if (isDirectory(sector)) {
+        if (const std::size_t count = directorySectors(sector)) {
             const std::uint64_t at = firstSector + i;
-            if (run.end != at) {
+            if (run.end < at || run.first == run.end) {
                 note(run);
-                run.first = at;
+                run = {at, at};
             }
-            run.end = at + 1;
+            run.end = std::max(run.end, at + count);
         } else if ((sector[0] == 0xEB || sector[0] == 0xE9) && looksLikeBootSector(sector)) {
             const std::lock_guard lock(m_mutex);
             if (m_noted.bootSectors.size() < kMostBootSectors) {

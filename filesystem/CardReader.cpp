@@ -9,6 +9,7 @@
 #include "filesystem/ClusterVolume.h"
 #include "filesystem/FoundStarts.h"
 #include "filesystem/LostDirectories.h"
+#include "filesystem/LostRecords.h"
 #include "filesystem/NtfsVolume.h"
 #include "filesystem/PartitionTable.h"
 
@@ -16,11 +17,11 @@ namespace vantor {
 
 namespace {
 
-using Sector = std::array<std::uint8_t, 512>;
+using SectorBytes = std::array<std::uint8_t, 512>;
 
-class Reader {
+class VolumesReader {
   public:
-    Reader(SectorSource& card, const CardTraces& traces, const std::vector<FoundStart>& found)
+    VolumesReader(SectorSource& card, const CardTraces& traces, const std::vector<FoundStart>& found)
         : m_card(card), m_traces(traces), m_found(found) {}
 
     CardTable read() {
@@ -33,6 +34,8 @@ class Reader {
             m_volumes.back()->readFromRoot();
         }
         LostDirectories(m_card, m_found, m_volumes).read(m_traces.directories, formerShapes());
+        joinRuns(m_ntfsRecords);
+        LostRecords(m_card, m_found).tell(m_traces.directories, m_ntfsRecords, m_ntfsShapes, m_table);
         for (const auto& volume : m_volumes) {
             volume->linkLost();
             volume->tell(m_found, m_table);
@@ -54,14 +57,19 @@ class Reader {
             return known.kind == shape.kind && known.firstSector == shape.first &&
                    known.clusterSectors == shape.clusterSectors;
         };
-        if (std::none_of(m_table.fileSystems.begin(), m_table.fileSystems.end(), isSame) &&
-            NtfsVolume(m_card, shape, isCurrent).tell(m_table)) {
+        if (std::any_of(m_table.fileSystems.begin(), m_table.fileSystems.end(), isSame)) {
+            return;
+        }
+        NtfsVolume volume(m_card, shape, isCurrent);
+        if (volume.tell(m_table)) {
             note(shape, isCurrent, {});
         }
+        m_ntfsShapes.push_back(shape);
+        m_ntfsRecords.insert(m_ntfsRecords.end(), volume.recordPlaces().begin(), volume.recordPlaces().end());
     }
 
     std::optional<VolumeShape> shapeAt(std::uint64_t sector, std::uint64_t first) {
-        Sector bytes;
+        SectorBytes bytes;
         if (sector >= m_card.sectors() || !m_card.readAt(sector, bytes)) {
             return std::nullopt;
         }
@@ -98,7 +106,7 @@ class Reader {
         constexpr std::size_t kMost = 64;
         std::vector<VolumeShape> shapes;
         for (const std::uint64_t at : m_traces.bootSectors) {
-            Sector bytes;
+            SectorBytes bytes;
             if (at >= m_card.sectors() || shapes.size() >= kMost || !m_card.readAt(at, bytes)) {
                 continue;
             }
@@ -142,13 +150,15 @@ class Reader {
     const CardTraces& m_traces;
     const FoundStarts m_found;
     std::vector<std::unique_ptr<ClusterVolume>> m_volumes;
+    std::vector<VolumeShape> m_ntfsShapes;
+    std::vector<SectorRun> m_ntfsRecords;  // that have been read with their file systems
     CardTable m_table;
 };
 
 }  // namespace
 
 CardTable readCard(SectorSource& card, const CardTraces& traces, const std::vector<FoundStart>& found) {
-    return Reader(card, traces, found).read();
+    return VolumesReader(card, traces, found).read();
 }
 
 }  // namespace vantor

@@ -11,7 +11,7 @@ namespace vantor {
 
 // Places that are worth a second look; they prove nothing. Each list is in the order of the medium.
 struct CardTraces {
-    std::vector<SectorRun> directories;      // sectors that look like rows of a directory
+    std::vector<SectorRun> directories;      // sectors that look like rows of a directory or file records
     std::vector<std::uint64_t> bootSectors;  // sectors that look like a file system's first, or its copy
 };
 

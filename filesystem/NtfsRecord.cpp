@@ -12,10 +12,13 @@ namespace {
 using Bytes = std::span<const std::uint8_t>;
 
 constexpr std::uint32_t kTimes = 0x10;
-constexpr std::uint32_t kName = 0x30;
+constexpr std::uint32_t kNameAttribute = 0x30;
 constexpr std::uint32_t kData = 0x80;
 constexpr std::uint32_t kEnd = 0xFFFFFFFF;
 constexpr std::uint8_t kShortNamesOnly = 2;
+// A record's head: before version 3.1, and with the record's own number in it.
+constexpr std::size_t kHeadBytes = 42;
+constexpr std::size_t kNumberedHeadBytes = 48;
 constexpr std::uint16_t kPackedOrEncrypted = 0x40FF;
 
 // Each sector's last two bytes are a mark; what belongs there stands in the record's head.
@@ -121,12 +124,22 @@ void readAttribute(Bytes attribute, NtfsRecord& record) {
     if (type == kTimes) {
         record.created = secondsOf(le64(value, 0));
         record.modified = secondsOf(le64(value, 8));
-    } else if (type == kName) {
+    } else if (type == kNameAttribute) {
         readName(value, record);
     }
 }
 
 }  // namespace
+
+std::size_t sectorsOfNtfsRecord(const std::uint8_t* sector) {
+    constexpr std::size_t kMostSectors = 8;
+    const Bytes head(sector, 512);
+    const std::size_t marks = le16(head, 4);
+    const std::size_t count = le16(head, 6);
+    const bool isRecord = std::memcmp(sector, "FILE", 4) == 0 && marks >= kHeadBytes && marks < 64 &&
+                          count >= 2 && count - 1 <= kMostSectors;
+    return isRecord ? count - 1 : 0;
+}
 
 std::optional<NtfsRecord> readNtfsRecord(std::span<const std::uint8_t> bytes) {
     if (bytes.size() < 512 || std::memcmp(bytes.data(), "FILE", 4) != 0) {
@@ -141,6 +154,9 @@ std::optional<NtfsRecord> readNtfsRecord(std::span<const std::uint8_t> bytes) {
     record.isInUse = (le16(whole, 22) & 1) != 0;
     record.isFolder = (le16(whole, 22) & 2) != 0;
     record.base = referenceAt(whole, 32);
+    if (le16(whole, 4) >= kNumberedHeadBytes) {
+        record.number = le32(whole, 44);
+    }
     std::size_t at = le16(whole, 20);
     while (at + 24 <= whole.size() && le32(whole, at) != kEnd) {
         const std::size_t length = le32(whole, at + 4);

@@ -24,8 +24,9 @@ struct NtfsReference {
 struct NtfsRecord {
     bool isInUse = false;
     bool isFolder = false;
-    std::uint16_t use = 0;  // grows each time that the record is given to another file
-    NtfsReference base;     // of a record that goes on another; else record 0
+    std::uint16_t use = 0;                // grows each time that the record is given to another file
+    std::optional<std::uint64_t> number;  // its own, where it tells it (since version 3.1)
+    NtfsReference base;                   // of a record that goes on another; else record 0
     NtfsReference parent;
     QString name;                          // "" where it has none
     std::optional<std::int64_t> modified;  // seconds since 1970
@@ -39,6 +40,9 @@ struct NtfsRecord {
     std::uint64_t firstCluster = 0;  // of the contents, with which this part begins
     std::vector<NtfsRun> runs;
 };
+
+// How many sectors the record beginning in this one takes, by its own head; 0 when none begins here.
+std::size_t sectorsOfNtfsRecord(const std::uint8_t* sector);
 
 // A record's bytes (of a size that is a power of two, 512 or more), with the sectors' last bytes put back;
 // nothing when they are no whole record. Public description: "NTFS documentation", file records and

@@ -42,6 +42,23 @@ bool NtfsVolume::tell(CardTable& table) {
     }
     readRecords(sectorsOf(own->runs), own->bytes / m_shape.recordBytes);
     joinParts();
+    tellFiles(table);
+    return true;
+}
+
+void NtfsVolume::tellLost(std::vector<NtfsRecord> records, CardTable& table) {
+    // Those without a number of their own, and further ones of a number, are no folder that others name.
+    std::uint64_t unnumbered = std::uint64_t{1} << 48;
+    for (NtfsRecord& record : records) {
+        const bool isKnown = record.number && record.base.record == 0 && !m_records.contains(*record.number);
+        const std::uint64_t number = isKnown ? *record.number : unnumbered++;
+        keep(number, std::move(record));
+    }
+    joinParts();
+    tellFiles(table);
+}
+
+void NtfsVolume::tellFiles(CardTable& table) const {
     for (const auto& [number, record] : m_records) {
         if (m_isCurrent && record.isInUse) {
             const std::vector<SectorRun> runs = sectorsOf(record.runs);
@@ -51,7 +68,6 @@ bool NtfsVolume::tell(CardTable& table) {
             tellFile(record, table);
         }
     }
-    return true;
 }
 
 void NtfsVolume::readRecords(const std::vector<SectorRun>& places, std::uint64_t records) {
@@ -62,7 +78,9 @@ void NtfsVolume::readRecords(const std::vector<SectorRun>& places, std::uint64_t
     for (const SectorRun& place : places) {
         for (std::uint64_t at = place.first; at + recordSectors <= place.end && number < records;) {
             const std::uint64_t sectors =
-                std::min(kPieceSectors, (place.end - at) / recordSectors * recordSectors);
+                std::min({kPieceSectors, (place.end - at) / recordSectors * recordSectors,
+                          (records - number) * recordSectors});
+            m_places.push_back({at, at + sectors});
             bytes.resize(sectors * 512);
             m_card.readAt(at, bytes);
             for (std::uint64_t in = 0; in < sectors && number < records; in += recordSectors, ++number) {

@@ -24,11 +24,18 @@ class NtfsVolume {
     // when there are no records where the boot sector says.
     bool tell(CardTable& table);
 
+    // Appends what these records tell, which belonged to a file system of this shape and were found apart.
+    void tellLost(std::vector<NtfsRecord> records, CardTable& table);
+
+    // Where its own records lie, as far as tell() has read them.
+    const std::vector<SectorRun>& recordPlaces() const { return m_places; }
+
   private:
     std::vector<SectorRun> sectorsOf(const std::vector<NtfsRun>& runs) const;
     void readRecords(const std::vector<SectorRun>& places, std::uint64_t records);
     void keep(std::uint64_t number, NtfsRecord record);
     void joinParts();
+    void tellFiles(CardTable& table) const;
     // Nothing for a folder of the file system's own.
     std::optional<QString> folderOf(const NtfsReference& parent) const;
     void tellFile(const NtfsRecord& record, CardTable& table) const;
@@ -36,6 +43,7 @@ class NtfsVolume {
     SectorSource& m_card;
     const VolumeShape m_shape;
     const bool m_isCurrent;
+    std::vector<SectorRun> m_places;
     std::map<std::uint64_t, NtfsRecord> m_records;
     // Further parts of a file's contents, by the record that they go on, in the order of its clusters.
     std::unordered_map<std::uint64_t, std::map<std::uint64_t, NtfsRecord>> m_parts;

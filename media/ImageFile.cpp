@@ -4,9 +4,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <algorithm>
 #include <cerrno>
 #include <limits>
@@ -17,84 +15,42 @@
 
 namespace vantor {
 
-namespace {
-
-constexpr qsizetype kSuffixLength = 4;
-
-// "name" of "name.007"; empty for any other path.
-QString stemOfPart(const QString& path) {
-    if (path.size() <= kSuffixLength || path.at(path.size() - kSuffixLength) != u'.') {
-        return {};
-    }
-    const auto digits = QStringView(path).last(kSuffixLength - 1);
-    const bool numbered =
-        std::all_of(digits.begin(), digits.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
-    return numbered ? path.chopped(kSuffixLength) : QString();
-}
-
-constexpr int kLastPart = 999;
-
-QString pathOfPart(const QString& stem, int number) {
-    return QStringLiteral("%1.%2").arg(stem).arg(number, 3, 10, QChar(u'0'));
-}
-
-}  // namespace
-
-QStringList imageParts(const QString& path) {
-    const QString stem = stemOfPart(path);
-    QStringList parts;
-    for (int number = 1; !stem.isEmpty() && number <= kLastPart; ++number) {
-        const QString part = pathOfPart(stem, number);
-        if (!QFileInfo(part).isFile()) {
-            break;
-        }
-        parts << part;
-    }
-    return parts.contains(path) ? parts : QStringList{path};
-}
-
-QString missingPart(const QString& path) {
-    const QString stem = stemOfPart(path);
-    if (stem.isEmpty()) {
-        return {};
-    }
-    // Two numbered neighbours make a row; a file that merely ends in a number is whole.
-    int last = 0, parts = 0;
-    for (const QString& name : QFileInfo(path).dir().entryList(QDir::Files)) {
-        if (stemOfPart(name) == QFileInfo(stem).fileName()) {
-            const int number = QStringView(name).last(kSuffixLength - 1).toInt();
-            last = std::max(last, number);
-            parts += number > 0 ? 1 : 0;
-        }
-    }
-    for (int number = 1; parts > 1 && number < last; ++number) {
-        if (!QFileInfo(pathOfPart(stem, number)).isFile()) {
-            return pathOfPart(stem, number);
-        }
-    }
-    return {};
-}
-
-std::unique_ptr<ImageFile> ImageFile::open(const QStringList& parts) {
-    if (parts.size() > kMostParts) {
+std::optional<std::vector<FileDescriptor>> openParts(const QStringList& parts) {
+    if (parts.size() > ImageFile::kMostParts) {
         errno = EMFILE;
-        return nullptr;
+        return std::nullopt;
     }
-    std::unique_ptr<ImageFile> image(new ImageFile);
-    std::uint64_t at = 0;
+    std::vector<FileDescriptor> opened;
     for (const QString& path : parts) {
         // Not blocking: a pipe of that name would otherwise wait for a writer for ever.
         FileDescriptor descriptor(
             ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
         struct stat info {};
         if (!descriptor || ::fstat(descriptor.get(), &info) != 0) {
-            return nullptr;
+            return std::nullopt;
         }
         if (!S_ISREG(info.st_mode)) {
             errno = EINVAL;
-            return nullptr;
+            return std::nullopt;
         }
         ::posix_fadvise(descriptor.get(), 0, 0, POSIX_FADV_SEQUENTIAL);
+        opened.push_back(std::move(descriptor));
+    }
+    return opened;
+}
+
+std::unique_ptr<ImageFile> ImageFile::open(const QStringList& parts) {
+    auto opened = openParts(parts);
+    if (!opened) {
+        return nullptr;
+    }
+    std::unique_ptr<ImageFile> image(new ImageFile);
+    std::uint64_t at = 0;
+    for (FileDescriptor& descriptor : *opened) {
+        struct stat info {};
+        if (::fstat(descriptor.get(), &info) != 0) {
+            return nullptr;
+        }
         const auto bytes = static_cast<std::uint64_t>(info.st_size);
         image->m_parts.push_back({std::move(descriptor), at, at + bytes});
         at += bytes;

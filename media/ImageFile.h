@@ -14,18 +14,14 @@
 
 namespace vantor {
 
-// The files of the image in their order: name.001, name.002 … when `path` is any of such parts and the first
-// is there, else `path` alone. A gap ends the sequence.
-QStringList imageParts(const QString& path);
-
-// The path of the first part that is missing in front of the last one that is there; empty when none is, or
-// when the path is not one of a row of parts.
-QString missingPart(const QString& path);
-
 // A sentence for the user that says what to do, when the file holds a medium packed in a form that cannot be
 // searched as it stands: an archive, a compressed file, a container of a virtual machine or of an evidence
 // tool. Looks at a few bytes only; nothing for a plain image or for a file that cannot be read.
 std::optional<QString> refusePackedImage(const QString& path);
+
+// The files opened for reading, in their order; nothing, with errno, when one cannot be opened or is no
+// regular file, or when there are more than may be open.
+std::optional<std::vector<FileDescriptor>> openParts(const QStringList& parts);
 
 // Reads the parts of an image as one medium of floor(bytes / 512) sectors. A part that ends early or turns
 // into another file makes the medium gone, as does an error that says so.
@@ -33,8 +29,7 @@ class ImageFile : public BlockSource {
   public:
     static constexpr qsizetype kMostParts = 512;  // all stay open; the usual limit is 1,024 descriptors
 
-    // Null, with errno, when a part cannot be opened for reading or is no regular file, or when there are
-    // more of them than may be open.
+    // Null, with errno, when openParts() gives nothing.
     static std::unique_ptr<ImageFile> open(const QStringList& parts);
 
     std::uint64_t sectors() const override;

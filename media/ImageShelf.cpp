@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "media/ImageFile.h"
+#include "media/ImageParts.h"
 #include "media/RawDevice.h"
 
 namespace vantor {
@@ -60,6 +61,9 @@ OpenedImage ImageShelf::addImage(const QString& path) {
         return {{}, QObject::tr("“%1” is empty. Please choose an image file of a storage medium.").arg(path)};
     }
     m_images << Image{QStringLiteral("image%1").arg(m_images.size() + 1), first};
+    if (isEvidenceSegment(first)) {
+        m_images.last().sectors = facts->sectors;
+    }
     updateTargets();
     return {m_images.constLast().identifier, {}};
 }
@@ -74,15 +78,19 @@ void ImageShelf::updateTargets() {
 }
 
 MediaFacts ImageShelf::factsOf(const Image& image) {
-    const auto facts = probeMedium(image.path);
-    if (!facts) {
+    std::optional<std::uint64_t> sectors = image.sectors;
+    if (!sectors) {
+        const auto facts = probeMedium(image.path);
+        sectors = facts ? std::optional(facts->sectors) : std::nullopt;
+    }
+    if (!sectors || !QFileInfo(image.path).isFile()) {
         return {};
     }
     const QString name = QFileInfo(image.path).fileName();
     return {{QStringLiteral("DeviceIdentifier"), image.identifier},
             {QStringLiteral("VolumeName"), name},
             {QStringLiteral("ParentWholeDisk"), image.identifier},
-            {QStringLiteral("IOKitSize"), quint64{facts->sectors * kSectorBytes}},
+            {QStringLiteral("IOKitSize"), quint64{*sectors * kSectorBytes}},
             {QStringLiteral("BusProtocol"), QStringLiteral("Image File")},
             {QStringLiteral("MediaName"), name}};
 }

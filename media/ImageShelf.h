@@ -3,7 +3,9 @@
 
 #include <QList>
 #include <QString>
+#include <cstdint>
 #include <memory>
+#include <optional>
 
 #include "media/MediaSource.h"
 
@@ -26,6 +28,8 @@ class ImageShelf : public MediaSource {
     struct Image {
         QString identifier;
         QString path;  // canonical; the first part of a split image
+        // Of one that takes long to be opened; of others what the file says now.
+        std::optional<std::uint64_t> sectors = {};
     };
 
     void updateTargets();

@@ -14,20 +14,39 @@ namespace vantor {
 
 namespace {
 
-// So much of a copy is lost at most with the power.
-constexpr auto kKeepTime = std::chrono::seconds(10);
+// With the power no more of a copy is to be lost than ten seconds of it, and a slow disk takes its time to
+// keep it.
+constexpr auto kKeepTime = std::chrono::seconds(5);
 constexpr std::uint64_t kComparedSectors = MediumMemory::kMostSectors;
+
+// What was copied stays.
+CopyMap withRefused(CopyMap map, const std::vector<SectorRun>& refused) {
+    for (const SectorRun& run : refused) {
+        const std::uint64_t sectors = map.bytes() / kSectorBytes;
+        const std::uint64_t end = std::min(run.end, sectors) * kSectorBytes;
+        for (std::uint64_t at = std::min(run.first, sectors) * kSectorBytes; at < end;) {
+            const CopyRun known = map.at(at);
+            const std::uint64_t upTo = std::min(known.end, end);
+            if (known.state != CopyState::Copied) {
+                map.set(at, upTo, CopyState::Bad);
+            }
+            at = upTo;
+        }
+    }
+    return map;
+}
 
 }  // namespace
 
-std::shared_ptr<MediumCopy> MediumCopy::make(std::unique_ptr<CopyFile> file, OpenMedium open) {
-    return std::shared_ptr<MediumCopy>(new MediumCopy(std::move(file), std::move(open)));
+std::shared_ptr<MediumCopy> MediumCopy::make(std::unique_ptr<CopyFile> file, OpenMedium open,
+                                             const std::vector<SectorRun>& refused) {
+    return std::shared_ptr<MediumCopy>(new MediumCopy(std::move(file), std::move(open), refused));
 }
 
-MediumCopy::MediumCopy(std::unique_ptr<CopyFile> file, OpenMedium open)
+MediumCopy::MediumCopy(std::unique_ptr<CopyFile> file, OpenMedium open, const std::vector<SectorRun>& refused)
     : m_file(std::move(file)),
       m_open(std::move(open)),
-      m_map(m_file->mapFound()),
+      m_map(withRefused(m_file->mapFound(), refused)),
       m_plan(m_map),
       m_buffer(CopyPlan::kPiece * kSectorBytes),
       m_keeper([this] { runKeeper(); }),
@@ -238,8 +257,9 @@ void MediumCopy::cannotWrite(const QString& words) {
 void MediumCopy::runKeeper() {
     std::unique_lock lock(m_mutex);
     while (!m_quit) {
-        m_keeping.wait_for(lock, kKeepTime, [this] { return m_quit.load(); });
+        const auto next = std::chrono::steady_clock::now() + kKeepTime;
         keepNow(lock);
+        m_keeping.wait_until(lock, next, [this] { return m_quit.load(); });
     }
 }
 

@@ -50,7 +50,9 @@ class MediumCopy : public std::enable_shared_from_this<MediumCopy> {
     // thread.
     using OpenMedium = std::function<std::unique_ptr<BlockSource>(StopRequest stop)>;
 
-    static std::shared_ptr<MediumCopy> make(std::unique_ptr<CopyFile> file, OpenMedium open);
+    // `refused`: sectors known not to be readable, for which the medium is not asked.
+    static std::shared_ptr<MediumCopy> make(std::unique_ptr<CopyFile> file, OpenMedium open,
+                                            const std::vector<SectorRun>& refused = {});
     ~MediumCopy();
     MediumCopy(const MediumCopy&) = delete;
     MediumCopy& operator=(const MediumCopy&) = delete;
@@ -82,7 +84,7 @@ class MediumCopy : public std::enable_shared_from_this<MediumCopy> {
         bool done = false;
     };
 
-    MediumCopy(std::unique_ptr<CopyFile> file, OpenMedium open);
+    MediumCopy(std::unique_ptr<CopyFile> file, OpenMedium open, const std::vector<SectorRun>& refused);
     void run();
     void runKeeper();
     void openNow(std::unique_lock<std::mutex>& lock);

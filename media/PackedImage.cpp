@@ -11,7 +11,7 @@ namespace vantor {
 
 namespace {
 
-enum class Packing { Compressed, Archive, VirtualDisk, Evidence, DiskImage };
+enum class Packing { Compressed, Archive, VirtualDisk, Evidence, SingleFiles, DiskImage };
 
 struct Mark {
     qint64 offset;  // bytes; from the end when negative
@@ -42,9 +42,9 @@ constexpr Mark kMarks[] = {
     {0, "COWD", "VMDK", Packing::VirtualDisk},
     {0, "# Disk DescriptorFile", "VMDK", Packing::VirtualDisk},
     {0, "vhdxfile", "VHDX", Packing::VirtualDisk},
-    {0, "EVF\x09\x0d\x0a\xff", "EnCase", Packing::Evidence},
-    {0, "LVF\x09\x0d\x0a\xff", "EnCase", Packing::Evidence},
-    {0, "EVF2\x0d\x0a\x81", "EnCase", Packing::Evidence},
+    {0, "EVF2\x0d\x0a\x81", "Ex01", Packing::Evidence},
+    {0, "LVF\x09\x0d\x0a\xff", "L01", Packing::SingleFiles},
+    {0, "LEF2\x0d\x0a\x81", "Lx01", Packing::SingleFiles},
     {0, "AFF10\x0d\x0a", "AFF", Packing::Evidence},
     {-512, QByteArrayView("koly\x00\x00\x00\x04", 8), "Apple disk image", Packing::DiskImage},
 };
@@ -69,7 +69,10 @@ QString advice(Packing packing) {
                 "open "
                 "that.");
         case Packing::Evidence:
-            return QObject::tr("Please export it as a raw (dd) image first and open that.");
+            return QObject::tr("Please export it as a raw (dd) or E01 image first and open that.");
+        case Packing::SingleFiles:
+            return QObject::tr(
+                "It holds single files rather than a storage medium. Please open an image of the medium.");
         case Packing::DiskImage:
             return QObject::tr("Please convert it to a raw image first and open that.");
     }

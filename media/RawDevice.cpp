@@ -12,7 +12,9 @@
 
 #include "media/BlockDevice.h"
 #include "media/CopyMapFile.h"
+#include "media/EvidenceImage.h"
 #include "media/ImageFile.h"
+#include "media/ImageParts.h"
 #include "media/MappedImage.h"
 #include "media/WindowedReader.h"
 
@@ -78,6 +80,14 @@ std::optional<OpenedNode> openDevice(const QString& path, const OpenTerms& terms
     return OpenedNode{std::make_unique<BlockDevice>(std::move(descriptor), *facts), *facts};
 }
 
+// Null with errno, or with a sentence for the user where that says more.
+std::unique_ptr<BlockSource> openImage(const QString& path, StopRequest stop, QString* why = nullptr) {
+    if (isEvidenceSegment(path)) {
+        return openEvidenceImage(path, std::move(stop), why);
+    }
+    return ImageFile::open(imageParts(path));
+}
+
 // `map` as in OpenTerms. Null when the map cannot be used, with a sentence for the user.
 std::unique_ptr<BlockSource> withMap(std::unique_ptr<BlockSource> image, const QString& path, QString map,
                                      std::uint64_t* notRead = nullptr, QString* why = nullptr) {
@@ -105,7 +115,8 @@ std::unique_ptr<BlockSource> openSource(const QString& path, OpenTerms terms) {
                 errno = ENOENT;
                 return nullptr;
             }
-            std::unique_ptr<BlockSource> image = ImageFile::open(imageParts(path));
+            errno = 0;
+            std::unique_ptr<BlockSource> image = openImage(path, terms.stop);
             if (!image && isForbidden(errno)) {
                 note(terms, OpenRefusal::MayNotReadImage);
             }
@@ -141,11 +152,11 @@ std::unique_ptr<BlockSource> openSource(const QString& path, OpenTerms terms) {
     return nullptr;
 }
 
-std::optional<MediumFacts> imageFacts(const QString& path, const QString& map, QString* wrongMap) {
-    std::unique_ptr<BlockSource> image = ImageFile::open(imageParts(path));
+std::optional<MediumFacts> imageFacts(const QString& path, const QString& map, QString* why) {
+    std::unique_ptr<BlockSource> image = openImage(path, {}, why);
     MediumFacts facts{true, 0, 0};
     if (image) {
-        image = withMap(std::move(image), path, map, &facts.notRead, wrongMap);
+        image = withMap(std::move(image), path, map, &facts.notRead, why);
     }
     if (!image) {
         return std::nullopt;
@@ -185,14 +196,14 @@ std::optional<MediumFacts> probeMedium(const QString& path, QString* why, const 
     }
     errno = 0;
     std::optional<MediumFacts> facts;
-    QString wrongMap;
+    QString sentence;
     if (kind != Kind::Missing) {
-        facts = kind == Kind::Image ? imageFacts(path, map, &wrongMap) : deviceFacts(path);
+        facts = kind == Kind::Image ? imageFacts(path, map, &sentence) : deviceFacts(path);
     } else {
         errno = ENOENT;
     }
-    if (!wrongMap.isEmpty()) {
-        return refuse(wrongMap);
+    if (!sentence.isEmpty()) {
+        return refuse(sentence);
     }
     return facts ? facts : refuse(QString::fromLocal8Bit(std::strerror(errno)));
 }
@@ -208,9 +219,9 @@ std::unique_ptr<BlockSource> openMediumSource(const QString& path, OpenTerms ter
 }
 
 std::unique_ptr<SectorReader> openMedium(const QString& path, OpenTerms terms) {
-    // A device has its reading thread already, and is slower than any search.
-    const auto fetching =
-        kindOf(path) == Kind::Image ? WindowedReader::Fetching::Ahead : WindowedReader::Fetching::WhenAsked;
+    // A device has its reading thread already, and is slower than any search; so is what has to be unpacked.
+    const bool plain = kindOf(path) == Kind::Image && !isEvidenceSegment(path);
+    const auto fetching = plain ? WindowedReader::Fetching::Ahead : WindowedReader::Fetching::WhenAsked;
     auto source = openMediumSource(path, std::move(terms));
     return source ? std::make_unique<WindowedReader>(std::move(source), fetching) : nullptr;
 }

@@ -48,8 +48,8 @@ std::unique_ptr<BlockSource> openMediumSource(const QString& path, OpenTerms ter
 // and never hands the descriptor to a child process. Any thread; on a device it may wait for minutes unless
 // the stop request ends that.
 //
-// A device is read by a thread of its own, since a read that hangs cannot be ended; an image file is read
-// ahead of the search, since both together cost no more than the slower of the two.
+// A device and an evidence image are read by a thread of their own, since a read that hangs cannot be ended;
+// an image file is read ahead of the search, since both together cost no more than the slower of the two.
 std::unique_ptr<SectorReader> openMedium(const QString& path, OpenTerms terms = {});
 
 }  // namespace vantor

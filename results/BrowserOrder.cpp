@@ -46,6 +46,8 @@ bool isShown(const ItemFacts& facts, const BrowserWish& wish) {
             return !soundness || !soundness->notOfItsType;
         case ShowItems::Lost:
             return !facts.stillThere;
+        case ShowItems::Mended:
+            return facts.mend || (soundness && soundness->pieces > 1);
     }
     return true;
 }

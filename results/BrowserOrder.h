@@ -11,6 +11,8 @@
 
 namespace vantor {
 
+struct Mend;
+
 enum class ShowItems {
     All,
     Complete,
@@ -20,7 +22,8 @@ enum class ShowItems {
     NotSaved,
     NotSmall,
     OfItsType,
-    Lost
+    Lost,
+    Mended
 };
 enum class SortItems { AsFound, Soundness, Size, DateTaken, OriginalName };
 
@@ -37,6 +40,7 @@ struct ItemFacts {
     std::shared_ptr<const CardFile> original = {};  // what the card tells of it
     bool stillThere = false;                        // it lies in a file that the card still holds
     bool ticked = false;                            // for saving
+    std::shared_ptr<const Mend> mend = {};          // what was made of it where it is broken
     QString names = {};  // all that it is called, a line each; only where a name is asked for
 };
 

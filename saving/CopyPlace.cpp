@@ -1,9 +1,7 @@
 // Asks the file system below the copy.
 #include "saving/CopyPlace.h"
 
-#include <linux/magic.h>
 #include <sys/stat.h>
-#include <sys/vfs.h>
 #include <unistd.h>
 
 #include <QElapsedTimer>
@@ -22,17 +20,11 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kMostOnFat = 0xFFFFFFFF;  // bytes of one file
 constexpr qsizetype kTrialBytes = 4 * 1024 * 1024;
 constexpr double kUsualSpeed = 20e6;  // bytes a second, of a slow card
 
 QString folderOf(const QString& imagePath) {
     return QFileInfo(imagePath).absolutePath();
-}
-
-bool isOnFat(const QString& folder) {
-    struct statfs info {};
-    return ::statfs(QFile::encodeName(folder).constData(), &info) == 0 && info.f_type == MSDOS_SUPER_MAGIC;
 }
 
 // Bytes a second; nothing when that cannot be tried.
@@ -81,14 +73,13 @@ QStringList warnOfCopyPlace(const QString& imagePath, std::uint64_t sectors) {
     const std::uint64_t bytes = sectors * kSectorBytes;
     const std::uint64_t needed = bytesForCopy(imagePath, sectors);
     QStringList warnings;
-    if (const auto space = refuseForSpace(folder, needed)) {
-        warnings
-            << QObject::tr("%1. The copy will end there; the search goes on from the medium.").arg(*space);
-    }
-    if (bytes > kMostOnFat && isOnFat(folder)) {
+    if (!takesFileOf(folder, bytes)) {
         warnings << QObject::tr(
             "Files on this disk can have 4 GB at most. The copy will end there; the search goes on from the "
             "medium.");
+    } else if (const auto space = refuseForSpace(folder, needed)) {
+        warnings
+            << QObject::tr("%1. The copy will end there; the search goes on from the medium.").arg(*space);
     }
     const auto speed = warnings.isEmpty() ? writingSpeed(folder) : std::nullopt;
     if (const auto slow = speed ? warnOfCopySpeed(*speed, needed) : std::nullopt) {

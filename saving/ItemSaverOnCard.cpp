@@ -7,17 +7,12 @@
 #include <utility>
 
 #include "results/TrueLength.h"
-#include "saving/ItemSaver.h"
-#include "saving/SavingFolder.h"
+#include "saving/ItemSaverState.h"
 #include "saving/WholeFile.h"
 
 namespace vantor {
 
 namespace {
-
-std::uint64_t firstSectorOf(const FoundItem& item) {
-    return item.source.carved.runs.front().first;
-}
 
 bool areOneFile(const QString& a, const QString& b) {
     struct stat first {
@@ -50,7 +45,13 @@ void ItemSaver::saveAsOnCard(const FoundItem& item, SaveOutcome& outcome) const 
     if (!outcome.duplicate) {
         // A second name of what was saved here takes the place of the first; what was there before stays
         // alone.
-        again.duplicate = again.duplicate && !areOneFile(again.path, outcome.path);
+        if (again.duplicate && areOneFile(again.path, outcome.path)) {
+            again.duplicate = false;
+            const auto folder = folderOf(again.path);
+            if (folder && again.original && again.original->modified) {
+                setModificationTime(*folder, again.path.section(u'/', -1), *again.original->modified);
+            }
+        }
         remove(outcome.path);
     }
     outcome = std::move(again);
@@ -85,14 +86,17 @@ bool ItemSaver::moveAsOnCard(const FoundItem& item, const CardFile& file, SaveOu
     return true;
 }
 
-// A file that was saved here; no link is followed on the way to it.
-void ItemSaver::remove(const QString& path) const {
+// Of a file that was saved here; no link is followed on the way to it.
+std::optional<SavingFolder> ItemSaver::folderOf(const QString& path) const {
     const auto destination = SavingFolder::open(m_destination);
     const QString folder = path.section(u'/', 0, -2);
-    if (!destination || !folder.startsWith(m_destination)) {
-        return;
-    }
-    if (const auto from = destination->below(folder.mid(m_destination.size()))) {
+    return destination && folder.startsWith(m_destination)
+               ? destination->below(folder.mid(m_destination.size()))
+               : std::nullopt;
+}
+
+void ItemSaver::remove(const QString& path) const {
+    if (const auto from = folderOf(path)) {
         ::unlinkat(from->descriptor(), QFile::encodeName(path.section(u'/', -1)).constData(), 0);
     }
 }

@@ -11,7 +11,7 @@
 #include <algorithm>
 #include <optional>
 
-#include "media/ImageFile.h"
+#include "media/ImageParts.h"
 #include "saving/WholeDisks.h"
 
 namespace vantor {

@@ -203,7 +203,7 @@ void ScanSession::startPhotoItem(PhotoPass& pass, int record) {
 
 // Nobody waits for the medium once more when the user has stopped.
 QByteArray ScanSession::photoBytes(PhotoPass& pass) const {
-    if (!pass.readsPictures || pass.stopped || pass.item.size() == 0) {
+    if (!pass.readsPictures || pass.stopped || pass.item.size() == 0 || pictureIsKnown()) {
         return pass.item.bytes();
     }
     if (!pass.beside) {

@@ -227,6 +227,9 @@ class ScanSession : public HexText {
     // sector, as far as its picture reaches, or everything.
     enum class PhotoBytes { First, Picture, All };
     virtual PhotoBytes photoBytesNeeded() const { return PhotoBytes::All; }
+    // Whether the picture of the photo handed over at this moment is known: its bytes are then not read
+    // again.
+    virtual bool pictureIsKnown() const { return false; }
     // Gives the listed item of the place and UID its thumbnail; nothing when it is no longer there. Any
     // thread.
     void replaceThumbnail(std::size_t index, const QString& image_UID, const QByteArray& thumbnail);

@@ -187,6 +187,9 @@ QByteArray recordBytes(const SearchRecord& record) {
     writer.number(record.notes.thoroughNumber);
     writer.text(record.notes.copy);
     writer.places(record.notes.saved);
+    writer.places(record.notes.ticked);
+    writer.places(record.notes.selected);
+    writer.bytes(record.notes.id);
     return bytes + QCryptographicHash::hash(bytes, kSum);
 }
 
@@ -241,6 +244,12 @@ std::optional<SearchRecord> uncheckedRecordOf(QByteArrayView body) {
     record.notes.thoroughNumber = reader.number();
     record.notes.copy = reader.text();
     record.notes.saved = reader.places();
+    // Earlier versions of the program end here.
+    if (!reader.atEnd()) {
+        record.notes.ticked = reader.places();
+        record.notes.selected = reader.places();
+        record.notes.id = reader.bytes();
+    }
     if (reader.failed() || !reader.atEnd() || record.wishes.mode > 2) {
         return std::nullopt;
     }

@@ -4,6 +4,7 @@
 #include "results/SizeForPeople.h"
 #include "saving/SaveSummary.h"
 #include "window/MyTableController.h"
+#include "window/preview/PieceStrip.h"
 #include "window/preview/ViewerDesk.h"
 
 namespace vantor {
@@ -31,20 +32,44 @@ void MyTableController::addImageWithData(const QByteArray& data, const QString& 
         ScanSession::addImageWithData(data, imageName, image_UID);
         return;
     }
+    const auto kept = m_searchMemory->thumbnails();
+    const ThumbnailPlace where{handOver().firstSector, handOver().bytes};
+    if (const QByteArray known = pictureIsKnown() ? kept->find(where) : QByteArray(); !known.isEmpty()) {
+        m_thumbnails->submitMade(
+            known, [this, imageName, image_UID, from = handOver()](const QByteArray& thumbnail) {
+                addThumbnail(thumbnail, imageName, image_UID, from);
+            });
+        return;
+    }
+    // What the medium refused of it may be had another time.
+    const auto keep = [where,
+                       kept = handOver().carved.readFailed ? nullptr : kept](const QByteArray& thumbnail) {
+        if (kept) {
+            kept->add(where, thumbnail);
+        }
+    };
     // Bytes of its own, so that the scan's buffer stays the scan's and keeps its memory for the next item.
     const auto place = std::make_shared<std::size_t>(0);
     m_thumbnails->submit(
         QByteArray(data.constData(), data.size()),
-        [this, imageName, image_UID, place, from = handOver()](const QByteArray& thumbnail) {
+        [this, imageName, image_UID, place, keep, from = handOver()](const QByteArray& thumbnail) {
+            keep(thumbnail);
             addThumbnail(thumbnail, imageName, image_UID, from);
             *place = itemCount() - 1;
         },
         pathExtension(imageName),
-        [this, image_UID, place](const QByteArray& thumbnail) {
+        [this, image_UID, place, keep](const QByteArray& thumbnail) {
+            keep(thumbnail);
             replaceThumbnail(*place, image_UID, thumbnail);
             QMetaObject::invokeMethod(
                 this, [this] { imageBrowser->viewport()->update(); }, Qt::QueuedConnection);
         });
+}
+
+bool MyTableController::pictureIsKnown() const {
+    const auto kept = m_searchMemory->thumbnails();
+    return kept && !handOver().carved.readFailed &&
+           kept->contains({handOver().firstSector, handOver().bytes});
 }
 
 ItemFacts MyTableController::factsOfItem(qsizetype index) {
@@ -58,8 +83,10 @@ LookedAtItems MyTableController::lookedAtItems() {
     items.isSaved = [this](std::size_t index) { return m_desk->marks().isSaved(index); };
     items.isTicked = [this](std::size_t index) { return m_ticks.isTicked(index); };
     items.mediumBusy = [this] {
-        return scanRunning() || m_desk->isRunning() || m_filling > 0 || m_viewer->isBusy();
+        return scanRunning() || m_desk->isRunning() || m_filling > 0 || m_viewer->isBusy() ||
+               m_mending.isRunning();
     };
+    items.mendOf = [this](const MyImageObject& item) { return m_mended->of(item); };
     items.card = [this] { return card(); };
     items.policy = [this] { return m_desk->choices().policy; };
     return items;
@@ -106,6 +133,7 @@ void MyTableController::imageBrowserSelectionDidChange(ImageBrowserView* view) {
     closemovie_Win();
     soundControls->setMovie(nullptr);
     previewFacts->clear();
+    m_pieceStrip->setPieces({});
     CreateFile_QuickLook_View({item->valueForKey(QStringLiteral("path")),
                                item->valueForKey(QStringLiteral("File_Start_Sector")),
                                item->valueForKey(QStringLiteral("File_End_Sector"))});
@@ -170,6 +198,7 @@ void MyTableController::takeToldFiles(SavingDesk::ToldFiles files) {
 
 // What is remembered of the items of a list that is no more.
 void MyTableController::forgetItems() {
+    forgetMends();
     m_desk->forget();
     m_ticks.clear();
     m_told.clear();

@@ -75,9 +75,11 @@ bool MyTableController::mayKeepCopy() {
         if (!file) {
             return refuseCopy(tr("The copy cannot be kept there."), why);
         }
-        copy = MediumCopy::make(std::move(file), [open = m_parts.openSource, device](StopRequest stop) {
-            return open(device, std::move(stop));
-        });
+        // What the search that goes on found to be bad is not asked for again.
+        copy = MediumCopy::make(
+            std::move(file),
+            [open = m_parts.openSource, device](StopRequest stop) { return open(device, std::move(stop)); },
+            m_goingOn ? m_goingOn->refused : std::vector<SectorRun>());
     }
     m_copyPath = path;
     m_copied.set(device, copy);

@@ -46,6 +46,7 @@ void MyTableController::Exit_App() {
     m_ending = true;
     m_viewer->leave();
     remember();
+    m_mending.stop();
     endWholePreviews();
     if (m_besideRunning) {
         stop_now = 1;
@@ -96,6 +97,9 @@ bool MyTableController::mayLeaveUnsaved(const QString& consequence, const QStrin
 }
 
 bool MyTableController::shutDown(std::chrono::milliseconds patience) {
+    if (m_marksChanged.isActive()) {
+        keepMarks();
+    }
     m_ending = true;
     *m_leaving = true;
     m_queue.close();
@@ -105,9 +109,10 @@ bool MyTableController::shutDown(std::chrono::milliseconds patience) {
     }
     const auto until = std::chrono::steady_clock::now() + patience;
     m_looks->shutDown();
+    m_mending.stop();
     endWholePreviews();
     while (m_filling > 0 || scanRunning() || m_besideRunning || m_desk->isRunning() || !m_looks->hasEnded() ||
-           !m_viewer->hasEnded()) {
+           !m_viewer->hasEnded() || m_mending.isRunning()) {
         // The scan clears the word when it honours it, so it is said until everyone has heard.
         stop_now = 1;
         if (mSetLabelTimer) {

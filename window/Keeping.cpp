@@ -5,6 +5,7 @@
 #include <QFrame>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <chrono>
 
 #include "media/MediumTargets.h"
 #include "results/RecoveryMode.h"
@@ -18,8 +19,17 @@
 
 namespace vantor {
 
+namespace {
+
+constexpr int kMarksSettleMilliseconds = 1000;
+// A card that answers at once is known before anybody could read what is said meanwhile.
+constexpr std::chrono::milliseconds kUnnoticed{400};
+constexpr std::chrono::milliseconds kLookForCardAgain{250};
+
+}  // namespace
+
 void MyTableController::setUpKeeping() {
-    m_memory = std::make_unique<SearchMemory>(m_parts.stateFolder);
+    m_searchMemory = std::make_unique<SearchMemory>(m_parts.stateFolder);
     m_keptBar = new KeptSearchBar(body);
     bodyLayout->insertWidget(bodyLayout->indexOf(mediaScreen), m_keptBar);
     m_keptBar->hide();
@@ -53,10 +63,13 @@ void MyTableController::setUpKeeping() {
         QWidget::setTabOrder(first, second);
     }
     connect(m_goOnButton, &QPushButton::clicked, this, &MyTableController::goOn);
+    m_cardBackLater.setSingleShot(true);
+    m_cardBackLater.setInterval(kLookForCardAgain);
+    connect(&m_cardBackLater, &QTimer::timeout, this, &MyTableController::goOnWithCardPutBack);
     connect(m_keptBar->goOnButton, &QPushButton::clicked, this, [this] { goOnWithKept(false); });
     connect(m_keptBar->lookButton, &QPushButton::clicked, this, [this] { goOnWithKept(true); });
     connect(m_keptBar->forgetButton, &QPushButton::clicked, this, [this] {
-        m_memory->forgetLast();
+        m_searchMemory->forgetLast();
         showKeeping();
         homeOfScreen()->setFocus();
     });
@@ -66,20 +79,23 @@ void MyTableController::setUpKeeping() {
                                           (!m_keepingBox->copyPath().isEmpty() || chooseCopyPlace()));
     });
     connect(m_desk.get(), &SavingDesk::marksChanged, this, &MyTableController::keepMarks);
+    m_marksChanged.setSingleShot(true);
+    m_marksChanged.setInterval(kMarksSettleMilliseconds);
+    connect(&m_marksChanged, &QTimer::timeout, this, &MyTableController::keepMarks);
 }
 
 // The offer on the first screen, the boxes on the one of the range.
 void MyTableController::showKeeping() {
     const bool onRange = screen_counter == 1;
-    m_keepingBox->offer(onRange && m_memory->hasFolder(), onRange && m_parts.openSource);
+    m_keepingBox->offer(onRange && m_searchMemory->hasFolder(), onRange && m_parts.openSource);
     m_searchOptions->setVisible(!thoroughBox->isHidden() || !m_keepingBox->isHidden());
     // Explanations begin below one another.
     const int tick = _Thro_Mode_Chk->sizeHint().width() + thoroughLayout->spacing();
     thoroughLabel->setMinimumWidth(m_keepingBox->copyBox->sizeHint().width() - tick);
     if (screen_counter != 0) {
-        m_memory->letGo();
+        m_searchMemory->letGo();
     }
-    const SearchRecord* const last = screen_counter == 0 ? m_memory->last() : nullptr;
+    const SearchRecord* const last = screen_counter == 0 ? m_searchMemory->last() : nullptr;
     m_keptBar->setVisible(last != nullptr);
     if (last != nullptr) {
         m_keptBar->offer(*last);
@@ -133,7 +149,7 @@ void MyTableController::keepThisSearch() {
         record = SearchRecord();
     }
     bool remember = m_keepingBox->rememberBox->isChecked();
-    if (remember && m_parts.isOnMedium && m_parts.isOnMedium(m_memory->folder(), devicePath())) {
+    if (remember && m_parts.isOnMedium && m_parts.isOnMedium(m_searchMemory->folder(), devicePath())) {
         runAlert(
             {QStringLiteral("\n") + tr("This search is not remembered."),
              tr("Your home folder lies on the medium that is to be searched; writing there would overwrite "
@@ -156,51 +172,96 @@ void MyTableController::keepThisSearch() {
     record.notes.generalNumber = GND_Image_number;
     record.notes.thoroughNumber = THD_Image_number;
     m_savedBefore = record.notes.saved;
-    keepSearch(m_memory->begin(std::move(record), remember, [this] { return itemCount(); }));
+    m_tickedBefore = record.notes.ticked;
+    m_selectedBefore = record.notes.selected;
+    keepSearch(m_searchMemory->begin(std::move(record), remember, [this] { return itemCount(); }));
 }
 
-// What was saved in the search that is gone on with is known again as soon as it is listed again.
-void MyTableController::markSavedBefore() {
-    const auto listed = std::find_if(m_savedBefore.begin(), m_savedBefore.end(),
-                                     [count = itemCount()](std::uint64_t place) { return place >= count; });
-    if (listed == m_savedBefore.begin()) {
-        return;
+namespace {
+
+// The places among them that are listed, which they lose.
+std::vector<std::uint64_t> takeListed(std::vector<std::uint64_t>& places, std::size_t count) {
+    const auto end =
+        std::find_if(places.begin(), places.end(), [count](std::uint64_t place) { return place >= count; });
+    std::vector<std::uint64_t> listed(places.begin(), end);
+    places.erase(places.begin(), end);
+    return listed;
+}
+
+std::vector<std::uint64_t> withPlaces(const QList<qsizetype>& indexes,
+                                      const std::vector<std::uint64_t>& notListed) {
+    std::vector<std::uint64_t> places(indexes.begin(), indexes.end());
+    places.insert(places.end(), notListed.begin(), notListed.end());
+    std::sort(places.begin(), places.end());
+    places.erase(std::unique(places.begin(), places.end()), places.end());
+    return places;
+}
+
+}  // namespace
+
+// What was saved, ticked and selected in the search that is gone on with is so again as soon as it is listed
+// again.
+void MyTableController::markAsBefore() {
+    const std::size_t count = itemCount();
+    if (const auto saved = takeListed(m_savedBefore, count); !saved.empty()) {
+        m_desk->markSaved(saved);
     }
-    const std::vector<std::uint64_t> places(m_savedBefore.begin(), listed);
-    m_savedBefore.erase(m_savedBefore.begin(), listed);
-    m_desk->markSaved(places);
+    if (const auto ticked = takeListed(m_tickedBefore, count); !ticked.empty()) {
+        tickItems({ticked.begin(), ticked.end()}, true);
+    }
+    // All at once, unless the user has selected something else meanwhile.
+    if (!m_selectedBefore.empty() && m_selectedBefore.back() < count) {
+        ImageBrowserView* const browser = browserOf(activeSet());
+        if (browser->selectedCount() == 0) {
+            browser->selectIndexes({m_selectedBefore.begin(), m_selectedBefore.end()});
+        }
+        m_selectedBefore.clear();
+    }
+}
+
+// A file is not written for each of many clicks.
+void MyTableController::keepMarksSoon() {
+    m_marksChanged.start();
 }
 
 void MyTableController::keepMarks() {
-    std::vector<std::uint64_t> saved = m_desk->marks().savedPlaces();
-    saved.insert(saved.end(), m_savedBefore.begin(), m_savedBefore.end());
-    std::sort(saved.begin(), saved.end());
-    m_memory->setSaved(std::move(saved));
+    m_marksChanged.stop();
+    const std::vector<std::uint64_t> saved = m_desk->marks().savedPlaces();
+    m_searchMemory->setMarks(withPlaces({saved.begin(), saved.end()}, m_savedBefore),
+                             withPlaces(m_ticks.all(), m_tickedBefore),
+                             withPlaces(browserOf(activeSet())->selectionIndexes(), m_selectedBefore));
     writeKeptSearch();
+}
+
+SearchRecord MyTableController::recordOfNow() {
+    if (m_marksChanged.isActive()) {
+        keepMarks();
+    }
+    return m_searchMemory->keeper()->record(refusals());
 }
 
 // While a search runs, it does so itself.
 void MyTableController::writeKeptSearch() {
-    if (m_memory->keeper() && !scanRunning()) {
-        m_memory->keeper()->write(refusals());
+    if (m_searchMemory->keeper() && !scanRunning()) {
+        m_searchMemory->keeper()->write(refusals());
     }
 }
 
 // At the end of a search, whose thread waits for the user or is gone.
 void MyTableController::keepSearchEnd() {
-    if (!m_memory->keeper()) {
+    if (!m_searchMemory->keeper()) {
         return;
     }
-    m_memory->setEnded(searchEnd().outcome == PassOutcome::Completed && !searchEnd().brokenOff());
-    m_memory->keeper()->write(refusals());
+    m_searchMemory->setEnded(searchEnd().outcome == PassOutcome::Completed && !searchEnd().brokenOff());
+    m_searchMemory->keeper()->write(refusals());
 }
 
 // Begins anew, with what is known: names, numbers and order are those of a search that nobody stopped.
 void MyTableController::goOn() {
-    if (scanShown() || session || !m_memory->keeper()) {
+    if (scanShown() || session || !m_searchMemory->keeper()) {
         return;
     }
-    SearchRecord record = m_memory->keeper()->record(refusals());
+    SearchRecord record = recordOfNow();
     // The list is emptied only when there is something to go on with.
     const Likeness likeness = likenessOf(_disk_identifier->text(), record);
     if (m_ending) {
@@ -219,14 +280,19 @@ void MyTableController::goOn() {
 }
 
 // The card is back that was taken out in the middle of a search: it goes on by itself, and nothing is said of
-// any other card.
+// any other card. What the user has before him is finished first, such as the alert that the card is gone.
 void MyTableController::goOnWithCardPutBack() {
-    const bool waits = onScanScreen() && searchEnd().mediumGone && searchEnd().canGoOn();
-    if (!waits || scanShown() || session || m_desk->isRunning() || AskingTurn::isTaken() ||
-        !m_memory->keeper()) {
+    if (m_ending || !onScanScreen() || !m_searchMemory->keeper()) {
         return;
     }
-    SearchRecord record = m_memory->keeper()->record(refusals());
+    if (scanShown() || session || m_desk->isRunning() || AskingTurn::isTaken()) {
+        m_cardBackLater.start();
+        return;
+    }
+    if (!searchEnd().mediumGone || !searchEnd().canGoOn()) {
+        return;
+    }
+    SearchRecord record = recordOfNow();
     if (likenessOf(_disk_identifier->text(), record) == Likeness::Same && !m_ending) {
         goOnWith(std::move(record));
     }
@@ -247,11 +313,11 @@ void MyTableController::goOnWith(SearchRecord record) {
 }
 
 void MyTableController::goOnWithKept(bool onlyLook) {
-    if (m_memory->last() == nullptr) {
+    if (m_searchMemory->last() == nullptr) {
         showKeeping();
         return;
     }
-    const SearchRecord kept = *m_memory->last();
+    const SearchRecord kept = *m_searchMemory->last();
     if (!chooseMediumOf(kept)) {
         return;
     }
@@ -299,7 +365,7 @@ MyTableController::Likeness MyTableController::likenessOf(const QString& identif
     const auto found = std::make_shared<Likeness>(Likeness::CannotBeOpened);
     session = true;
     {
-        const SheetSession sheet(LoadDisk_Window, controlPanel, exitButton);
+        const SheetSession sheet(LoadDisk_Window, controlPanel, exitButton, kUnnoticed);
         runBeside([found, open = m_parts.openMedium, identifier, samples = record.samples] {
             const auto medium = open ? open(QStringLiteral("/dev/r") + identifier) : nullptr;
             if (medium) {

@@ -10,6 +10,7 @@
 #include "window/MyTableController.h"
 #include "window/preview/DocumentFrame.h"
 #include "window/preview/MovieControls.h"
+#include "window/preview/PieceStrip.h"
 #include "window/preview/PreviewFile.h"
 #include "window/preview/WholePreview.h"
 #include "window/widgets/Sheet.h"
@@ -113,7 +114,9 @@ std::shared_ptr<WholePreview> MyTableController::wholePreviewOf(PreviewFileReque
         request.type = item->fileType();
         request.carved = item->carved();
         request.hints.card = card();
+        request.hints.mend = m_mended->of(*item);
     }
+    m_previewedMend = request.hints.mend;
     request.start = copy.start;
     request.previewFile = copy.newFile;
     request.folder = m_wholeFolder;
@@ -187,6 +190,8 @@ void MyTableController::emptyPreviewPane() {
     _QuickLook_View->setText(tr("Select an item to preview it."));
     _QuickLook_View->setAccessibleName({});
     previewFacts->clear();
+    m_previewedMend.reset();
+    m_pieceStrip->setPieces({});
     takeWholePreview(nullptr);
 }
 
@@ -220,6 +225,7 @@ void MyTableController::showPreviewFacts() {
                               ? tr("%1, %2").arg(size, timeText(sound->durationMs()))
                               : size;
     previewFacts->setText(m_obstacle.isEmpty() ? facts : facts + u'\n' + m_obstacle);
+    showPieces();
 }
 
 // Null as well when the program ends meanwhile.

@@ -19,6 +19,7 @@ SavingParts MyTableController::savingParts() {
         return [open = m_parts.openMedium, device = devicePath()] { return open ? open(device) : nullptr; };
     };
     parts.card = [this] { return card(); };
+    parts.mended = [this] { return m_mended; };
     parts.liesOnMedium = [this]() -> ItemSaver::LiesOnMedium {
         if (!m_parts.isOnMedium) {
             return {};
@@ -78,6 +79,7 @@ void MyTableController::saveItems(const QList<qsizetype>& indexes, const SavingD
     if (pathInView()->text().isEmpty() ? askDestination().isEmpty() : !destinationStillThere()) {
         return;
     }
+    stopMending();
     m_desk->save(indexes, pathInView()->text(), told);
     m_looks->tryAgain();
     showDestination();

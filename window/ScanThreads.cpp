@@ -91,7 +91,7 @@ void MyTableController::clearWaitingThumbnails() {
 // A batch: what the scan has for the views, then its steps one by one.
 void MyTableController::pump() {
     flushViews();
-    markSavedBefore();
+    markAsBefore();
     showScanFacts();
     // Steps may ask the user something; the timer goes on meanwhile, the steps after them wait.
     QMetaObject::invokeMethod(this, &MyTableController::drainQueue, Qt::QueuedConnection);
@@ -139,7 +139,7 @@ void MyTableController::scanThreadsEnded() {
     }
     waitForThreads();
     flushViews();
-    markSavedBefore();
+    markAsBefore();
     keepSearchEnd();
     showItemCounts();
     showWhereWeAre();

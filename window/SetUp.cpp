@@ -51,6 +51,7 @@ void MyTableController::loadInterface() {
     setUpTables();
     setUpBrowsers();
     setUpKeeping();
+    setUpMending();
     setUpCardStrip();
     setEmptyStates();
     buildGroupBoxes();

@@ -27,6 +27,7 @@ void MyTableController::tickItems(const QList<qsizetype>& indexes, bool ticked) 
         }
     }
     showTicks();
+    keepMarksSoon();
 }
 
 bool MyTableController::allShownAreTicked() const {
@@ -49,6 +50,7 @@ void MyTableController::invertTicks() {
         m_ticks.set(at, !m_ticks.isTicked(at));
     }
     showTicks();
+    keepMarksSoon();
 }
 
 void MyTableController::saveTicked() {

@@ -12,6 +12,10 @@ void MyTableController::setUpViewer() {
     parts.over = window->centralWidget();
     parts.itemAt = [this](qsizetype index) { return imageBrowser_itemAtIndex(nullptr, index); };
     parts.factsOf = [this](qsizetype index) { return factsOfItem(index); };
+    parts.mendOf = [this](qsizetype index) {
+        const auto item = imageBrowser_itemAtIndex(nullptr, index);
+        return item ? m_mended->of(*item) : nullptr;
+    };
     parts.placeOf = [this](qsizetype index) {
         const ImageBrowserView& browser = *browserOf(activeSet());
         return ViewedPlace{browser.rowOfIndex(index), browser.shownCount()};

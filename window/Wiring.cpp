@@ -57,8 +57,10 @@ void MyTableController::wire() {
     connect(allTypesButton, &QPushButton::clicked, idSigTableView, &QTableView::clearSelection);
     connect(_zoom_slider, &QSlider::valueChanged, this, [this] { zoomSliderDidChange(_zoom_slider); });
     for (ImageBrowserView* browser : {imageBrowser, imageBrowser_2}) {
-        connect(browser, &ImageBrowserView::selectionDidChange, this,
-                [this, browser] { selectionMoved(browser); });
+        connect(browser, &ImageBrowserView::selectionDidChange, this, [this, browser] {
+            selectionMoved(browser);
+            keepMarksSoon();
+        });
         connect(browser, &ImageBrowserView::openWanted, this, &MyTableController::openInViewer);
         connect(
             browser, &ImageBrowserView::menuWanted, this,
@@ -102,7 +104,7 @@ void MyTableController::wireButtons() {
     connect(openImageButton, &QPushButton::clicked, this, [this] {
         const QStringList files = QFileDialog::getOpenFileNames(
             window, tr("Open an image file of a medium"), rememberedFolder(kLastImages),
-            tr("Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima);;All files (*)"));
+            tr("Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;All files (*)"));
         if (!files.isEmpty()) {
             rememberFolder(kLastImages, QFileInfo(files.constFirst()).absolutePath());
         }

@@ -10,6 +10,7 @@
 #include "catalogue/Language.h"
 #include "catalogue/ResourcesFolder.h"
 #include "decode/DecodePool.h"
+#include "decode/EvidenceHelper.h"
 #include "media/PathArgument.h"
 #include "media/PlatformMedia.h"
 #include "saving/DestinationCheck.h"
@@ -115,6 +116,7 @@ int main(int argc, char** argv) {
     applyTheme(application);
     const DesktopLook look(application);
 
+    readEvidenceInHelpers();
     const auto running = std::make_shared<std::atomic<const MyTableController*>>(nullptr);
     const auto leaving = std::make_shared<std::atomic<bool>>(false);
     const auto controller = std::make_unique<MyTableController>(platformParts(running, leaving));

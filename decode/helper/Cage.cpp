@@ -21,7 +21,6 @@ namespace vantor::decode {
 
 namespace {
 
-constexpr rlim_t kOpenFiles = 32;
 // The customary "nobody".
 constexpr uid_t kNobody = 65534;
 
@@ -68,7 +67,7 @@ void silenceErrors() {
 bool enterCage(const CageOptions& options, bool& parentGone) {
     bool limited = limit(RLIMIT_CORE, 0);
     const std::optional<rlim_t> threads = mostThreads(options.moreThreads);
-    limited = limit(RLIMIT_NOFILE, kOpenFiles) && limited;
+    limited = limit(RLIMIT_NOFILE, options.openFiles) && limited;
     limited = limit(RLIMIT_CPU, options.processorSeconds) && limited;
     if (!kSanitized) {
         limited = limit(RLIMIT_FSIZE, 0) && limited;

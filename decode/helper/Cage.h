@@ -10,6 +10,7 @@ namespace vantor::decode {
 struct CageOptions {
     std::uint64_t addressSpaceBytes = std::uint64_t{2} << 30;
     std::uint64_t processorSeconds = 3600;
+    std::uint64_t openFiles = 32;
     std::uint64_t moreThreads = 1000;  // than the whole system has when the cage is entered
     pid_t parent = 0;                  // the helper ends with this process
 };

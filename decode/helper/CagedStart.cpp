@@ -6,14 +6,12 @@
 #include <cstdlib>
 
 #include "decode/Sanitized.h"
-#include "decode/helper/Cage.h"
 
 namespace vantor::decode {
 
-void enterCageOrEnd(Channel& channel, const char* parent) {
+void enterCageOrEnd(Channel& channel, const char* parent, CageOptions options) {
     // Reads the time zone before the cage shuts its files away.
     tzset();
-    CageOptions options;
     options.parent = static_cast<pid_t>(std::strtol(parent, nullptr, 10));
     bool parentGone = false;
     const bool caged = enterCage(options, parentGone);

@@ -33,7 +33,7 @@ std::size_t descriptorsOf(msghdr& message, std::array<int, kMaxDescriptors>& fou
 }
 
 bool isSound(const Request& request) {
-    const bool known = request.kind >= RequestKind::Picture && request.kind <= RequestKind::MoreOfCard;
+    const bool known = request.kind >= RequestKind::Picture && request.kind <= RequestKind::ReadEvidence;
     const auto sideFits = [](std::uint32_t side) { return side >= 1 && side <= kMaxAnswerSide; };
     return known && request.magic == kMessageMagic && request.serial != 0 && sideFits(request.maxWidth) &&
            sideFits(request.maxHeight) && request.inputBytes <= kMaxInputBytes &&

@@ -64,6 +64,9 @@ class MovieJobDecoder : public JobDecoder {
             case RequestKind::Picture:
             case RequestKind::ReadCard:
             case RequestKind::MoreOfCard:
+            case RequestKind::AddSegment:
+            case RequestKind::OpenEvidence:
+            case RequestKind::ReadEvidence:
                 break;
         }
         return {};

@@ -13,7 +13,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     const auto again = vantor::recordOf(vantor::recordBytes(*record));
     if (!again || again->read != record->read || again->refused != record->refused ||
-        again->samples != record->samples || again->worthALook.count() != record->worthALook.count()) {
+        again->samples != record->samples || again->notes != record->notes ||
+        again->worthALook.count() != record->worthALook.count()) {
         std::abort();
     }
     return 0;

@@ -36,6 +36,25 @@
     </message>
 </context>
 <context>
+    <name>EvidenceImage</name>
+    <message>
+        <source>Evidence images cannot be read here</source>
+        <translation>ここでは証拠イメージを読み取れません</translation>
+    </message>
+    <message>
+        <source>Evidence images are only read shut in, which this system does not allow</source>
+        <translation>証拠イメージは隔離された状態でのみ読み取りますが、このシステムでは隔離できません</translation>
+    </message>
+    <message>
+        <source>The part of the program that reads evidence images does not start</source>
+        <translation>証拠イメージを読み取るプログラムの部品が起動しません</translation>
+    </message>
+    <message>
+        <source>The evidence image is damaged or of a kind that cannot be read</source>
+        <translation>証拠イメージが壊れているか、読み取れない種類です</translation>
+    </message>
+</context>
+<context>
     <name>FileTypeScreen</name>
     <message>
         <source>File types to search for</source>
@@ -708,10 +727,6 @@ Please select atleast one extension type.</source>
         <translation>先に生のイメージに変換して（たとえば「qemu-img convert -O raw」）、それを開いてください。</translation>
     </message>
     <message>
-        <source>Please export it as a raw (dd) image first and open that.</source>
-        <translation>先に生の (dd) イメージとしてエクスポートして、それを開いてください。</translation>
-    </message>
-    <message>
         <source>Please convert it to a raw image first and open that.</source>
         <translation>先に生のイメージに変換して、それを開いてください。</translation>
     </message>
@@ -752,7 +767,7 @@ End Sector should be greater than Start Sector.</source>
 終了セクターは開始セクターより大きくしてください。</translation>
     </message>
     <message>
-        <source>This card reads as erased: beside its file system&apos;s own sectors, all places looked at are empty. Some cameras and programs erase the whole card when they format it, and then nothing can be found.</source>
+        <source>This card reads as erased: beside its file system's own sectors, all places looked at are empty. Some cameras and programs erase the whole card when they format it, and then nothing can be found.</source>
         <translation>このカードは消去済みのように読み取られます。ファイルシステム自身のセクターを除き、調べた場所はすべて空です。フォーマットの際にカード全体を消去するカメラやプログラムがあり、その場合は何も見つかりません。</translation>
     </message>
     <message>
@@ -916,6 +931,10 @@ End Sector should be greater than Start Sector.</source>
     <message>
         <source>Nothing can be written into the folder %1: %2.</source>
         <translation>フォルダー %1 に書き込めません: %2。</translation>
+    </message>
+    <message>
+        <source>%1 lies on a FAT file system, which takes no file of 4 GiB or more, and %2 are needed</source>
+        <translation>%1 は FAT ファイルシステム上にあり、4 GiB 以上のファイルは保存できません (必要 %2)</translation>
     </message>
     <message>
         <source>There is not enough room in %1: %2 are needed, %3 are free</source>
@@ -1518,7 +1537,7 @@ Error in storage media reading.</source>
         <translation>メディアを開けません。</translation>
     </message>
     <message>
-        <source>The medium&apos;s directories could not be read.</source>
+        <source>The medium's directories could not be read.</source>
         <translation>メディアのディレクトリーを読み取れませんでした。</translation>
     </message>
     <message>
@@ -1638,7 +1657,7 @@ Try --help.</source>
         <translation>このコンピューターのストレージメディアを出力し（--list-json と併用で JSON）、検索はしません。</translation>
     </message>
     <message>
-        <source>Print what the medium&apos;s own directories tell of its files, those that are there and those that were, as one JSON object each, and search nothing.</source>
+        <source>Print what the medium's own directories tell of its files, those that are there and those that were, as one JSON object each, and search nothing.</source>
         <translation>メディア自身のディレクトリーが示すファイル（現存するものと以前あったもの）をそれぞれ JSON オブジェクトとして出力し、検索はしません。</translation>
     </message>
     <message>
@@ -1650,15 +1669,15 @@ Try --help.</source>
         <translation>問題が起きたときだけ表示し、進行状況も表示しません。</translation>
     </message>
     <message>
-        <source>Speak this language (en, de, fr, es, it, pt_BR, nl, pl, ja or zh_CN) in place of the desktop&apos;s; with --list-json it is English always.</source>
+        <source>Speak this language (en, de, fr, es, it, pt_BR, nl, pl, ja or zh_CN) in place of the desktop's; with --list-json it is English always.</source>
         <translation>デスクトップの言語の代わりにこの言語を使います (en、de、fr、es、it、pt_BR、nl、pl、ja、zh_CN)。--list-json では常に英語です。</translation>
     </message>
     <message>
-        <source>An image file, a device&apos;s identifier (sdb1) or its path (/dev/sdb1).</source>
+        <source>An image file, a device's identifier (sdb1) or its path (/dev/sdb1).</source>
         <translation>イメージファイル、デバイスの識別子 (sdb1)、またはそのパス (/dev/sdb1)。</translation>
     </message>
     <message>
-        <source>Unknown mode &quot;%1&quot;.</source>
+        <source>Unknown mode "%1".</source>
         <translation>不明なモード「%1」。</translation>
     </message>
     <message>
@@ -1746,15 +1765,15 @@ Try --help.</source>
         <translation>見つかった各項目のセクターを、一覧のとおり過不足なく保存します。</translation>
     </message>
     <message>
-        <source>Write &quot;Recovery report.html&quot; and &quot;Recovery report.csv&quot; beside the saved files.</source>
-        <translation>保存したファイルの隣に &quot;Recovery report.html&quot; と &quot;Recovery report.csv&quot; を書き出します。</translation>
+        <source>Write "Recovery report.html" and "Recovery report.csv" beside the saved files.</source>
+        <translation>保存したファイルの隣に "Recovery report.html" と "Recovery report.csv" を書き出します。</translation>
     </message>
     <message>
-        <source>original (default): save under the names that the card&apos;s directory still tells, where it does; found: under the listed names.</source>
+        <source>original (default): save under the names that the card's directory still tells, where it does; found: under the listed names.</source>
         <translation>original（既定）: カードのディレクトリーに残る名前があればその名前で保存。found: 一覧の名前で保存。</translation>
     </message>
     <message>
-        <source>card (default): save in the folders that the card&apos;s directory still tells, and what it does not tell in DIR/&lt;type&gt;; type: all in DIR/&lt;type&gt;; date: as DIR/&lt;type&gt;/&lt;date&gt;/&lt;date and time&gt; &lt;name&gt; where a date is known.</source>
+        <source>card (default): save in the folders that the card's directory still tells, and what it does not tell in DIR/&lt;type&gt;; type: all in DIR/&lt;type&gt;; date: as DIR/&lt;type&gt;/&lt;date&gt;/&lt;date and time&gt; &lt;name&gt; where a date is known.</source>
         <translation>card（既定）: カードのディレクトリーに残るフォルダーに保存し、残っていないものは DIR/&lt;種類&gt; に。type: すべて DIR/&lt;種類&gt; に。date: 日付がわかるものは DIR/&lt;種類&gt;/&lt;日付&gt;/&lt;日付と時刻&gt; &lt;名前&gt; に。</translation>
     </message>
     <message>
@@ -1782,16 +1801,16 @@ Try --help.</source>
         <translation>明らかにその種類のファイルでないものは保存しません。</translation>
     </message>
     <message>
-        <source>Save parts of files too, such as a picture&apos;s preview or a member of an archive: what lies wholly inside a file that was proved complete, and is left out else.</source>
+        <source>Save parts of files too, such as a picture's preview or a member of an archive: what lies wholly inside a file that was proved complete, and is left out else.</source>
         <translation>写真の中のプレビューやアーカイブの中身など、ファイルの一部も保存します。完全と確認されたファイルの中にすべて含まれるもので、通常は除外されます。</translation>
     </message>
     <message>
-        <source>Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
-        <translation>断片に分かれた MP4 と QuickTime の動画、JPEG と PNG の画像を組み立て、&quot;... complete.MP4&quot;、またはすべての断片が正しいと証明できない場合は &quot;... put together.MP4&quot; として保存します。</translation>
+        <source>Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as "... complete.MP4", or as "... put together.MP4" where it could not be proved that all pieces are the right ones.</source>
+        <translation>断片に分かれた MP4 と QuickTime の動画、JPEG と PNG の画像を組み立て、"... complete.MP4"、またはすべての断片が正しいと証明できない場合は "... put together.MP4" として保存します。</translation>
     </message>
     <message>
-        <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
-        <translation>インデックスが書かれなかった MP4 または QuickTime 動画ごとに、再生できる &quot;... repaired.MP4&quot; を書き出します。同じカメラの完全な動画も見つかる必要があります。</translation>
+        <source>Write a playable twin, "... repaired.MP4", of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
+        <translation>インデックスが書かれなかった MP4 または QuickTime 動画ごとに、再生できる "... repaired.MP4" を書き出します。同じカメラの完全な動画も見つかる必要があります。</translation>
     </message>
     <message>
         <source>A whole movie of the camera, in place of those that are found (with --repair-movies).</source>
@@ -1830,7 +1849,7 @@ Try --help.</source>
         <translation>--min-bytes と --min-pixels には数値が必要です。</translation>
     </message>
     <message numerus="yes">
-        <source>%1 more files that only the card&apos;s directory tells of</source>
+        <source>%1 more files that only the card's directory tells of</source>
         <translation>
             <numerusform>ほかに、カードのディレクトリーだけが示すファイル %1 件</numerusform>
         </translation>
@@ -2157,6 +2176,58 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     <message>
         <source>No picture: documents are drawn inside bubblewrap alone, which is not installed or may not run on this system.</source>
         <translation>画像なし: 文書は bubblewrap の中でのみ描画されますが、インストールされていないか、このシステムでは動作しません。</translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 件見つかりました</translation>
+    </message>
+    <message>
+        <source>%1 found: %2</source>
+        <translation>%1 件見つかりました: %2</translation>
+    </message>
+    <message>
+        <source>Please export it as a raw (dd) or E01 image first and open that.</source>
+        <translation>先に生の (dd) または E01 イメージとしてエクスポートして、それを開いてください。</translation>
+    </message>
+    <message>
+        <source>It holds single files rather than a storage medium. Please open an image of the medium.</source>
+        <translation>ストレージメディアではなく個々のファイルが入っています。メディアのイメージを開いてください。</translation>
+    </message>
+<message numerus="yes">
+        <source>Complete, put together from %1 pieces</source>
+        <translation>
+            <numerusform>完全（%1 個の断片から復元）</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Put together from %1 pieces: please look</source>
+        <translation>
+            <numerusform>%1 個の断片をつなぎ合わせました。内容を確認してください</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Repaired: %1 pictures, %2 s, and %3 s of sound, as in %4</source>
+        <translation>修復済み: 画像 %1 枚、%2 秒、音声 %3 秒（%4 を参照）</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 put together or repaired (please look)</source>
+        <translation>
+            <numerusform>つなぎ合わせまたは修復 %1 件（確認してください）</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>repaired</source>
+        <translation>修復</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pieces</source>
+        <translation>
+            <numerusform>断片 %1 個</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Mended</source>
+        <translation>復元内容</translation>
     </message>
 </context>
 <context>
@@ -2590,7 +2661,7 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <translation>ファイルの一部も保存</translation>
     </message>
     <message>
-        <source>What lies wholly inside a file that was proved complete, such as a picture&apos;s preview</source>
+        <source>What lies wholly inside a file that was proved complete, such as a picture's preview</source>
         <translation>完全と確認されたファイルの中にすべて含まれるもの（写真の中のプレビューなど）</translation>
     </message>
     <message>
@@ -2727,6 +2798,14 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <source>By name on the card</source>
         <translation>カード上の名前順</translation>
     </message>
+<message>
+        <source>Broken</source>
+        <translation>不完全または破損</translation>
+    </message>
+    <message>
+        <source>Put together or repaired</source>
+        <translation>つなぎ合わせまたは修復済み</translation>
+    </message>
 </context>
 <context>
     <name>vantor::CardStrip</name>
@@ -2783,7 +2862,7 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     </message>
     <message>
         <source>By size</source>
-        <translation>サイズ順</translation>
+        <translation>サイズ別</translation>
     </message>
     <message>
         <source>No type</source>
@@ -2798,11 +2877,11 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <translation>カードに名前だけあるもの</translation>
     </message>
     <message>
-        <source>1 more file that only the card&apos;s directory tells of</source>
+        <source>1 more file that only the card's directory tells of</source>
         <translation>ほかに、カードのディレクトリーだけが示すファイル 1 件</translation>
     </message>
     <message numerus="yes">
-        <source>%1 more files that only the card&apos;s directory tells of</source>
+        <source>%1 more files that only the card's directory tells of</source>
         <translation>
             <numerusform>ほかに、カードのディレクトリーだけが示すファイル %1 件</numerusform>
         </translation>
@@ -3071,7 +3150,7 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation>%2 件中 %1</translation>
+        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>%1, without thumbnails</source>
@@ -3189,7 +3268,7 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     </message>
     <message>
         <source>
-Do you really want to exit from &apos;%1&apos;?</source>
+Do you really want to exit from '%1'?</source>
         <translation>
 「%1」を終了してもよろしいですか？</translation>
     </message>
@@ -3644,10 +3723,104 @@ Please select the required extension type for recovery process. Press ‘Next’
         <translation>メディアのイメージファイルを開く</translation>
     </message>
     <message>
-        <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima);;All files (*)</source>
-        <translation>メディアのイメージ (*.img *.dd *.raw *.bin *.iso *.image *.ima);;すべてのファイル (*)</translation>
+        <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;All files (*)</source>
+        <translation>メディアのイメージ (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;すべてのファイル (*)</translation>
     </message>
-</context>
+<message>
+        <source>Co&amp;mplete Broken Files</source>
+        <translation>不完全なファイルを補完(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Complete broken files</source>
+        <translation>不完全なファイルを補完</translation>
+    </message>
+    <message>
+        <source>Look on the medium for the missing pieces of photos and movies, and repair movies without an index; what was found stays as it is beside it</source>
+        <translation>写真と動画の欠けた断片をメディアから探し、索引のない動画を修復します。見つかったものはそのまま残ります</translation>
+    </message>
+    <message>
+        <source>Looking for broken files: %1 of %2</source>
+        <translation>不完全なファイルを調べています: %1 / %2</translation>
+    </message>
+    <message>
+        <source>Completing broken movies…</source>
+        <translation>不完全な動画を補完しています…</translation>
+    </message>
+    <message>
+        <source>Completing broken movies: %1 of %2</source>
+        <translation>不完全な動画を補完しています: %1 / %2</translation>
+    </message>
+    <message>
+        <source>Completing broken photos…</source>
+        <translation>不完全な写真を補完しています…</translation>
+    </message>
+    <message>
+        <source>Completing broken photos: %1 of %2</source>
+        <translation>不完全な写真を補完しています: %1 / %2</translation>
+    </message>
+    <message>
+        <source>Repairing movies without an index…</source>
+        <translation>索引のない動画を修復しています…</translation>
+    </message>
+    <message>
+        <source>Repairing movies without an index: %1 of %2</source>
+        <translation>索引のない動画を修復しています: %1 / %2</translation>
+    </message>
+    <message>
+        <source>Broken files were left as they are: the storage medium cannot be opened. Put it back in and try again.</source>
+        <translation>不完全なファイルはそのままです。記憶メディアを開けません。差し直してからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The storage medium went away. Put it back in and try again.</source>
+        <translation>記憶メディアがなくなりました。差し直してからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>停止しました。</translation>
+    </message>
+    <message>
+        <source>1 file completed</source>
+        <translation>1 個のファイルを補完</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files completed</source>
+        <translation>
+            <numerusform>%1 個のファイルを補完</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 file put together (please look)</source>
+        <translation>1 個のファイルをつなぎ合わせ（確認してください）</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files put together (please look)</source>
+        <translation>
+            <numerusform>%1 個のファイルをつなぎ合わせ（確認してください）</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 movie repaired</source>
+        <translation>1 本の動画を修復</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 movies repaired</source>
+        <translation>
+            <numerusform>%1 本の動画を修復</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1。</translation>
+    </message>
+    <message>
+        <source>No broken file of a kind that can be completed was found.</source>
+        <translation>補完できる種類の不完全なファイルは見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>No broken file could be completed.</source>
+        <translation>補完できた不完全なファイルはありません。</translation>
+    </message>
+    </context>
 <context>
     <name>vantor::SavingDesk</name>
     <message>
@@ -3755,7 +3928,84 @@ Please select the required extension type for recovery process. Press ‘Next’
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation>%2 件中 %1</translation>
+        <translation>%1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::MendPane</name>
+    <message>
+        <source>Show the file as it was found (B)</source>
+        <translation>見つかったままのファイルを表示 (B)</translation>
+    </message>
+    <message>
+        <source>As Found</source>
+        <translation>見つかったまま</translation>
+    </message>
+    <message>
+        <source>Show the file as it was put together (B)</source>
+        <translation>つなぎ合わせたファイルを表示 (B)</translation>
+    </message>
+    <message>
+        <source>Repaired</source>
+        <translation>修復後</translation>
+    </message>
+    <message>
+        <source>Put Together</source>
+        <translation>つなぎ合わせ後</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::MendingBar</name>
+    <message>
+        <source>How far the completing of broken files is, and what came of it</source>
+        <translation>不完全なファイルの補完の進み具合と結果</translation>
+    </message>
+    <message>
+        <source>Progress of completing broken files</source>
+        <translation>不完全なファイルの補完の進行状況</translation>
+    </message>
+    <message>
+        <source>St&amp;op</source>
+        <translation>停止(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Stop completing broken files; what was put together stays</source>
+        <translation>補完を停止します。つなぎ合わせたものは残ります</translation>
+    </message>
+    <message>
+        <source>Show Th&amp;em</source>
+        <translation>それらを表示(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Show the files that were put together or repaired</source>
+        <translation>つなぎ合わせたファイルと修復したファイルを表示します</translation>
+    </message>
+    <message>
+        <source>Clo&amp;se</source>
+        <translation>閉じる(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Close this message</source>
+        <translation>このメッセージを閉じます</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::PieceStrip</name>
+    <message>
+        <source>piece %1: sectors %2 to %3</source>
+        <translation>断片 %1: セクタ %2～%3</translation>
+    </message>
+    <message>
+        <source>Pieces on the card</source>
+        <translation>カード上の断片</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>カード</translation>
     </message>
 </context>
 </TS>

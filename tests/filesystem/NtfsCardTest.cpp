@@ -148,6 +148,85 @@ TEST_F(NtfsCard, FirstSectorGone_TheCopyAtTheEndTells) {
     EXPECT_EQ(table.files.front().state, FileState::Lost);
 }
 
+// Of a file system before this one, whose table lay elsewhere.
+class LostNtfsRecords : public NtfsCard {
+  protected:
+    void putLost(std::uint64_t number, Bytes bytes) {
+        put(bytes, 44, number, 4);
+        putBytes(m_card, m_next, bytes);
+        m_next += 2;
+    }
+    void putPicture(std::size_t sector) {
+        put(m_card.bytes, sector * 512, std::string("\xFF\xD8\xFF\xE1", 4));
+        m_found.push_back({sector, "jpg"});
+    }
+
+    std::size_t m_next = 400;
+    std::vector<FoundStart> m_found;
+};
+
+TEST_F(LostNtfsRecords, OfTheSameClusters_TellFilesInTheirFolders) {
+    putLost(60, record(kThereFolder, 2, nameAttribute("Urlaub", 5, 5)));
+    putLost(61, record(kThere, 1,
+                       nameAttribute("IMG_1.JPG", 60, 2) + timesAttribute() +
+                           dataAttribute(2 * 4096 - 7, {0x11, 2, 100, 0})));
+    putLost(62,
+            record(kThere, 1, nameAttribute("IMG_2.JPG", 60, 1) + dataAttribute(4096, {0x11, 1, 110, 0})));
+    putPicture(800);
+    const CardTable table = tableOf(m_card, m_found);
+    // The second one's folder is another by now.
+    EXPECT_EQ(pathsOf(table), "IMG_2.JPG\nUrlaub/IMG_1.JPG");
+    const CardFile file = fileNamed(table, "IMG_1.JPG");
+    EXPECT_EQ(file.state, FileState::Lost);
+    EXPECT_EQ(file.bytes, 2 * 4096u - 7);
+    EXPECT_EQ(file.runs, (std::vector<SectorRun>{{800, 816}}));
+    EXPECT_EQ(file.runsKnownBy, RunsKnownBy::Record);
+    EXPECT_EQ(file.modified, 1'700'000'100);
+}
+
+TEST_F(LostNtfsRecords, WithoutAnyFirstSector_AreVotedFor) {
+    std::fill(m_card.bytes.begin(), m_card.bytes.begin() + 512, 0);
+    std::fill(m_card.bytes.end() - 512, m_card.bytes.end(), 0);
+    // Clusters of 8 KiB from sector 64 on.
+    for (const int cluster : {50, 57, 66, 90}) {
+        putLost(static_cast<std::uint64_t>(cluster),
+                record(kThere, 1,
+                       nameAttribute(QString("IMG_%1.JPG").arg(cluster), 5, 5) +
+                           dataAttribute(8192, {0x11, 1, static_cast<std::uint8_t>(cluster), 0})));
+        putPicture(static_cast<std::size_t>(64 + 16 * cluster));
+    }
+    const CardFile file = fileNamed(tableOf(m_card, m_found), "IMG_66.JPG");
+    EXPECT_EQ(file.runs, (std::vector<SectorRun>{{64 + 16 * 66, 64 + 16 * 67}}));
+}
+
+TEST_F(LostNtfsRecords, WhoseFilesAreNowhere_NameNothing) {
+    putLost(61, record(kThere, 1, nameAttribute("IMG_1.JPG", 5, 5) + dataAttribute(4096, {0x11, 1, 100, 0})));
+    EXPECT_EQ(pathsOf(tableOf(m_card, m_found)), "");
+}
+
+TEST_F(LostNtfsRecords, ReadWithTheirFileSystem_AreNotLost) {
+    Bytes live =
+        record(kThere, 1, nameAttribute("IMG_1.JPG", 24, 3) + dataAttribute(4096, {0x11, 1, 100, 0}));
+    put(live, 44, 26, 4);
+    putRecord(26, live);
+    putPicture(800);
+    const CardTable table = tableOf(m_card, m_found);
+    ASSERT_EQ(table.files.size(), 1u);
+    EXPECT_EQ(table.files.front().state, FileState::Live);
+}
+
+TEST_F(LostNtfsRecords, BeyondTheCardOrTorn_AreLeft) {
+    Bytes torn = record(kThere, 1, nameAttribute("IMG_1.JPG", 5, 5) + dataAttribute(4096, {0x11, 1, 100, 0}));
+    torn[510] ^= 1;
+    putLost(61, torn);
+    // A second sector that is not there any more.
+    Bytes half = record(kThere, 1, {});
+    half.resize(512);
+    putBytes(m_card, 7999, half);
+    putPicture(800);
+    EXPECT_EQ(pathsOf(tableOf(m_card, m_found)), "");
+}
+
 TEST(NtfsRecordBytes, WithATornSector_AreNoRecord) {
     Bytes bytes = record(kThere, 1, nameAttribute("IMG_1.JPG", 5, 5));
     ASSERT_TRUE(readNtfsRecord(bytes));

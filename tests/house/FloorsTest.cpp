@@ -19,14 +19,14 @@ const QStringList kFloors{
     "filesystem",
     "decode",
     "decode/helper",
-    "decode/card decode/movie decode/plugins",
+    "decode/card decode/evidence decode/movie decode/plugins",
     "results",
     "repair",
     "saving",
     "scan",
     "cli window/widgets",
     "window/panels",
-    "window/browser window/keeping window/preview window/saving",
+    "window/browser window/keeping window/mending window/preview window/saving",
     "window",
 };
 // These stand beside the house: they may include nobody, and nobody them.

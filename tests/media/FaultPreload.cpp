@@ -4,12 +4,14 @@
 // VANTOR_FAULT_FILE     canonical path of the file
 // VANTOR_FAULT_SECTORS  "100,200-215"
 // VANTOR_FAULT_ERRNO    number; EIO where absent
-// VANTOR_FAULT_LOG      file that gets a line for each opening: "open FLAGS" (octal), "fopen MODE"; and for
-// each
-//                       refused request "refused FIRST COUNT" (sectors)
+// VANTOR_FAULT_SLOWLY   microseconds that each sector of a good read takes; none where absent
+// VANTOR_FAULT_LOG      file that gets a line for each opening: "open FLAGS" (octal), "fopen MODE"; for each
+//                       refused request "refused FIRST COUNT" (sectors), and where reads are slow for each
+//                       good one "read FIRST COUNT MILLISECONDS" (of the machine's clock, at its end)
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/types.h>
+#include <time.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -80,9 +82,26 @@ bool touchesFault(off_t offset, size_t bytes) {
 }
 
 template <class Call>
+ssize_t readSlowly(int fd, off_t offset, Call call) {
+    const char* slowly = std::getenv("VANTOR_FAULT_SLOWLY");
+    const ssize_t got = call();
+    if (slowly == nullptr || got <= 0 || !isTheFile(fd)) {
+        return got;
+    }
+    ::usleep(static_cast<useconds_t>(std::atol(slowly) * (got / kSector)));
+    timespec now{};
+    ::clock_gettime(CLOCK_MONOTONIC, &now);
+    char line[96];
+    std::snprintf(line, sizeof(line), "read %ld %ld %ld\n", static_cast<long>(offset / kSector),
+                  static_cast<long>(got / kSector), now.tv_sec * 1000 + now.tv_nsec / 1000000);
+    note(line);
+    return got;
+}
+
+template <class Call>
 ssize_t readOrFail(int fd, size_t bytes, off_t offset, Call call) {
     if (!touchesFault(offset, bytes) || !isTheFile(fd)) {
-        return call();
+        return readSlowly(fd, offset, call);
     }
     char line[96];
     std::snprintf(line, sizeof(line), "refused %ld %zu\n", static_cast<long>(offset / kSector),

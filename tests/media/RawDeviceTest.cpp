@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 
 #include "media/ImageFile.h"
+#include "media/ImageParts.h"
 #include "media/RawDevice.h"
 #include "tests/media/ScriptedDrive.h"
 
@@ -233,8 +234,9 @@ TEST_F(RawDeviceTest, PackedImage_IsRefusedWithASentenceThatSaysWhatToDo) {
         {"VMDK", "# Disk DescriptorFile\nversion=1\n"},
         {"VHD", at(0, "conectix")},
         {"VHDX", at(0, "vhdxfile")},
-        {"EnCase", at(0, QByteArray::fromHex("455646090d0aff00"))},
-        {"EnCase", at(0, QByteArray::fromHex("455646320d0a8100"))},
+        {"Ex01", at(0, QByteArray::fromHex("455646320d0a8100"))},
+        {"L01", at(0, QByteArray::fromHex("4c5646090d0aff00"))},
+        {"Lx01", at(0, QByteArray::fromHex("4c4546320d0a8100"))},
         {"AFF", at(0, "AFF10\r\n")},
         {"Apple disk image", at(4096 - 512, QByteArray::fromHex("6b6f6c7900000004"))},
     };

@@ -1,6 +1,11 @@
 // Reading in windows shows nowhere but in its speed: every failure surfaces where single reads would meet it.
 #include <gtest/gtest.h>
 
+#include <array>
+#include <atomic>
+#include <thread>
+
+#include "media/RefusedSectors.h"
 #include "media/WindowedReader.h"
 #include "tests/media/ScriptedDrive.h"
 
@@ -265,6 +270,59 @@ TEST(WindowedReader, RefusedSector_IsAskedForTwiceAndNeverAgain) {
             EXPECT_EQ(times, 2) << "sector " << sector;
         }
     });
+}
+
+// A drive that answers for one sector alone only when two readers have asked for it, or one waits for the
+// other.
+struct Meeting {
+    static constexpr std::uint64_t kPlace = 3;
+
+    ScriptedDrive drive;
+    std::shared_ptr<RefusedSectors> refused = std::make_shared<RefusedSectors>();
+    std::atomic<int> asked{0};  // for the sector alone
+    std::mutex lock;
+};
+
+class MetSource : public BlockSource {
+  public:
+    explicit MetSource(Meeting& meeting) : m_meeting(meeting) {}
+
+    std::int64_t readAt(std::uint64_t sector, std::span<std::uint8_t> into) override {
+        if (sector == Meeting::kPlace && into.size() == kSectorBytes) {
+            ++m_meeting.asked;
+            while (m_meeting.asked < 2 && m_meeting.refused->waiting() == 0) {
+                std::this_thread::yield();
+            }
+        }
+        const std::lock_guard lock(m_meeting.lock);
+        return m_meeting.drive.request(sector, into);
+    }
+    bool usable() override { return true; }
+
+  private:
+    Meeting& m_meeting;
+};
+
+TEST(WindowedReader, OfTwoAtOnce_OneAsksForABadSector) {
+    Meeting meeting;
+    meeting.drive.sectors = 6;
+    meeting.drive.refusals[2] = kAlways;  // behind it both go sector by sector
+    meeting.drive.refusals[Meeting::kPlace] = kAlways;
+    std::vector<std::thread> readers;
+    std::array<std::vector<ScanStep>, 2> steps;
+    for (auto& mine : steps) {
+        readers.emplace_back([&meeting, &mine] {
+            WindowedReader reader(std::make_unique<MetSource>(meeting));
+            reader.shareRefusals(meeting.refused);
+            mine = scanSteps(reader, 0, meeting.drive.sectors);
+        });
+    }
+    for (std::thread& reader : readers) {
+        reader.join();
+    }
+    EXPECT_EQ(meeting.asked, 2);
+    EXPECT_TRUE(meeting.refused->contains(Meeting::kPlace));
+    EXPECT_TRUE(steps[0] == steps[1]);
 }
 
 TEST(WindowedReader, RefusedBlock_IsAskedForTwiceForAllItsSectors) {

@@ -15,6 +15,7 @@
 #include "cli/CliSession.h"
 #include "cli/Options.h"
 #include "media/ImageFile.h"
+#include "media/ImageParts.h"
 #include "media/RawDevice.h"
 #include "tests/support/HookedReader.h"
 #include "tests/support/ReadAheadMedium.h"

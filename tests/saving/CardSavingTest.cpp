@@ -140,6 +140,7 @@ TEST_F(CardSaving, WhatTheCardTellsLaterIsGivenToWhatIsSavedAlready) {
     EXPECT_FALSE(outcome.duplicate);
     EXPECT_EQ(filesUnder(m_folder.path()), QStringList{"MUSIC/SONG.WAV"});
     EXPECT_EQ(contentsOf(outcome.path), m_wav);
+    EXPECT_EQ(QFileInfo(outcome.path).lastModified().toSecsSinceEpoch(), kChanged);
 }
 
 TEST_F(CardSaving, WhatLiesInItsPlaceFromEarlierIsNotDoubledLater) {

@@ -3,6 +3,8 @@
 
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <linux/magic.h>
+#include <sys/statfs.h>
 #include <sys/types.h>
 
 #include <atomic>
@@ -61,6 +63,14 @@ int openat(int folder, const char* path, int flags, ...) {
         return vantor::test::refuse(EOPNOTSUPP);
     }
     return vantor::test::real<int (*)(int, const char*, int, mode_t)>("openat")(folder, path, flags, mode);
+}
+
+int statfs(const char* path, struct statfs* info) noexcept {
+    const int result = vantor::test::real<int (*)(const char*, struct statfs*)>("statfs")(path, info);
+    if (has && !has->longFiles) {
+        info->f_type = MSDOS_SUPER_MAGIC;
+    }
+    return result;
 }
 
 int linkat(int from, const char* oldPath, int to, const char* newPath, int flags) noexcept {

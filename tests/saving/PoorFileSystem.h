@@ -9,6 +9,7 @@ class PoorFileSystem {
         bool unnamedFiles = false;          // O_TMPFILE
         bool secondNames = false;           // linkat
         bool namesThatReplaceNone = false;  // RENAME_NOREPLACE
+        bool longFiles = true;              // false: it tells that it is FAT
     };
     explicit PoorFileSystem(Has has);
     ~PoorFileSystem();

@@ -4,28 +4,19 @@
 #include <QFile>
 #include <QLabel>
 #include <QPushButton>
+#include <atomic>
 
 #include "results/RecoveryMode.h"
-#include "tests/support/Gate.h"
-#include "tests/window/WindowTest.h"
+#include "tests/window/GatedWindow.h"
 #include "window/keeping/KeptSearchBar.h"
 
 namespace vantor {
 namespace {
 
-class Keeping : public WindowTest {
+class Keeping : public GatedWindow {
   protected:
     Keeping() { parts.stateFolder = state.filePath(QStringLiteral("vantor")); }
 
-    void TearDown() override {
-        gate.open();
-        WindowTest::TearDown();
-    }
-
-    template <class Widget>
-    Widget* part(const char* name) const {
-        return controller->window->findChild<Widget*>(QString::fromLatin1(name));
-    }
     QPushButton* button(const char* name) const { return part<QPushButton>(name); }
 
     QString words() const { return part<QLabel>("keptSearchLabel")->text(); }
@@ -75,7 +66,6 @@ class Keeping : public WindowTest {
     }
 
     const QTemporaryDir state;
-    Gate gate;
 };
 
 class KeepingByMode : public Keeping, public testing::WithParamInterface<int> {};
@@ -281,6 +271,71 @@ TEST_F(Keeping, WhatWasSaved_IsKnownAgain) {
     open();
     pressAndSearch(button("lookAtKeptButton"));
     EXPECT_EQ(controller->savedLabel->text(), saved);
+}
+
+TEST_F(Keeping, WhatWasTickedAndSelected_IsSoAgain) {
+    openWithCard();
+    toRange(kPhotoMode);
+    click(part<QCheckBox>("rememberBox"));
+    scanToEnd();
+    ASSERT_GT(controller->itemCount(), 2u);
+    controller->tickItems({0, 2}, true);
+    controller->tickItems({0}, false);
+    controller->imageBrowser->setCurrentIndex(controller->imageBrowser->model()->index(1, 0));
+    close();
+    for (int start = 0; start < 2; ++start) {
+        open();
+        EXPECT_EQ(controller->ticks().count(), 0u);
+        pressAndSearch(button("lookAtKeptButton"));
+        EXPECT_EQ(controller->ticks().all(), QList<qsizetype>{2});
+        EXPECT_EQ(controller->imageBrowser->selectionIndexes(), QList<qsizetype>{1});
+        EXPECT_TRUE(controller->saveTickedButton->isVisible());
+        close();
+    }
+}
+
+TEST_F(Keeping, ThumbnailsOfARememberedSearch_AreNotMadeAgain) {
+    std::atomic<int> made = 0;
+    parts.thumbnailer = [&made](const QByteArray& encoded, const QString&) {
+        return "thumbnail " + QByteArray::number(++made) + encoded.first(4);
+    };
+    const auto pictures = [this] {
+        QList<QByteArray> all;
+        for (std::size_t i = 0; i < controller->itemCount(); ++i) {
+            all << controller->itemAt(i)->imageData();
+        }
+        return all;
+    };
+    openWithCard();
+    toRange(kPhotoMode);
+    click(part<QCheckBox>("rememberBox"));
+    searchAndStopAt(30);
+    const auto before = pictures();
+    const int madeBefore = made;
+    ASSERT_GT(before.size(), 1);
+    EXPECT_EQ(madeBefore, before.size());
+    close();
+    EXPECT_EQ(keptFiles(), (QStringList{"last-search", "last-search.thumbnails"}));
+
+    open();
+    pressAndSearch(button("lookAtKeptButton"));
+    EXPECT_EQ(pictures(), before);
+    EXPECT_EQ(made, madeBefore);
+    close();
+
+    // Garbage in their place: they are made anew.
+    QFile file(parts.stateFolder + QStringLiteral("/last-search.thumbnails"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(QByteArray(5000, 'x'));
+    file.close();
+    open();
+    pressAndSearch(button("lookAtKeptButton"));
+    EXPECT_EQ(made, 2 * madeBefore);
+    EXPECT_EQ(pictures().size(), before.size());
+    close();
+    open();
+    click(button("forgetKeptButton"));
+    EXPECT_EQ(keptFiles(), QStringList());
 }
 
 TEST_F(Keeping, OtherSignatures_BeginTheSearchAnew_AndSaySo) {

@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QSignalBlocker>
 
+#include "results/Mend.h"
 #include "results/MyImageObject.h"
 #include "results/RecoveryMode.h"
 #include "results/ResultRow.h"
@@ -27,8 +28,13 @@ constexpr int kSoonMilliseconds = 5;
 BrowserLooks::BrowserLooks(const std::array<BrowserScreen, 2>& screens, LookedAtItems items)
     : m_screens(screens),
       m_items(std::move(items)),
-      m_board(m_items.at,
-              [card = m_items.card](const MyImageObject&) { return ItemHints{card ? card() : nullptr}; }) {
+      m_board(m_items.at, [card = m_items.card, mendOf = m_items.mendOf](const MyImageObject& item) {
+          ItemHints hints;
+          hints.card = card ? card() : nullptr;
+          const auto mend = mendOf ? mendOf(item) : nullptr;
+          hints.mend = mend && mend->kind == MendKind::Completed ? mend : nullptr;
+          return hints;
+      }) {
     fillBoxes();
     m_look.setInterval(kLookMilliseconds);
     connect(&m_look, &QTimer::timeout, this, &BrowserLooks::look);
@@ -42,7 +48,8 @@ void BrowserLooks::fillBoxes() {
     const std::pair<QString, ShowItems> shows[] = {
         {tr("All items"), ShowItems::All},
         {tr("Complete"), ShowItems::Complete},
-        {tr("Cut off or damaged"), ShowItems::Broken},
+        {tr("Broken"), ShowItems::Broken},
+        {tr("Put together or repaired"), ShowItems::Mended},
         {tr("Of unknown length"), ShowItems::UnknownLength},
         {tr("With unreadable sectors"), ShowItems::Unreadable},
         {tr("Not saved yet"), ShowItems::NotSaved},
@@ -107,6 +114,7 @@ ItemFacts BrowserLooks::factsOf(std::size_t index) const {
     facts.ticked = m_items.isTicked(index);
     if (item) {
         addCard(facts, *item);
+        facts.mend = m_items.mendOf ? m_items.mendOf(*item) : nullptr;
     }
     return facts;
 }
@@ -235,6 +243,16 @@ void BrowserLooks::showType(const QString& type) {
     }
 }
 
+void BrowserLooks::showOnly(ShowItems items) {
+    QComboBox* const box = screen().show;
+    box->setCurrentIndex(box->findData(static_cast<int>(items)));
+}
+
+void BrowserLooks::mendsChanged() {
+    putInOrder();
+    screen().browser->viewport()->update();
+}
+
 void BrowserLooks::putInOrder() {
     ImageBrowserView* browser = screen().browser;
     m_orderedCount = static_cast<int>(m_items.count());
@@ -262,6 +280,9 @@ void BrowserLooks::putInOrder() {
                 if (m_wish.show == ShowItems::Unreadable) {
                     const auto item = m_items.at(at);
                     facts.readFailed = item && item->carved().readFailed;
+                } else if (m_wish.show == ShowItems::Mended) {
+                    const auto item = m_items.at(at);
+                    facts.mend = item && m_items.mendOf ? m_items.mendOf(*item) : nullptr;
                 } else if (m_wish.show == ShowItems::NotSaved) {
                     facts.saved = m_items.isSaved(at);
                 }

@@ -39,6 +39,8 @@ struct LookedAtItems {
     std::function<SavePolicy()> policy;  // says what counts as small
     // What the card's directories tell, null as long as nothing is known; any thread.
     std::function<std::shared_ptr<const CardIndex>()> card;
+    // What was made of a broken item, null: nothing; any thread.
+    std::function<std::shared_ptr<const Mend>(const MyImageObject&)> mendOf;
 };
 
 // Lives on the interface thread. The screens are that of photo mode and that of the other modes, of which the
@@ -62,10 +64,16 @@ class BrowserLooks : public QObject {
     void rest(bool resting) { m_board.rest(resting); }
     // The medium may be there again.
     void tryAgain() { m_board.tryAgain(); }
-    // What saving found out.
+    // What is known of the item so far; any thread.
+    std::optional<Soundness> find(std::size_t index) const { return m_board.find(index); }
+    // What saving or mending found out; any thread.
     void note(std::size_t index, const Soundness& soundness) { m_board.note(index, soundness); }
     // Leaves out all other types; an empty text shows every type again.
     void showType(const QString& type);
+    // Only these, as if the user had chosen so.
+    void showOnly(ShowItems items);
+    // Something was made of broken items.
+    void mendsChanged();
     QString shownType() const { return m_wish.type; }
     // Files that only the card's directory tells of, of the list of the moment.
     void showTold(const std::vector<std::shared_ptr<const CardFile>>& files);

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "results/CardIndex.h"
+#include "results/Mend.h"
 #include "results/MyImageObject.h"
 #include "window/browser/ImageBrowserView.h"
 
@@ -109,6 +110,10 @@ QVariant ImageBrowserModel::data(const QModelIndex& index, int role) const {
     }
     if (known.soundness) {
         words << describe(*known.soundness);
+    }
+    // What is proved is told with the file's soundness.
+    if (known.mend && known.mend->kind != MendKind::Completed) {
+        words << describe(*known.mend);
     }
     if (known.saved) {
         words << tr("saved");

@@ -15,7 +15,6 @@ namespace vantor {
 namespace {
 
 constexpr int kPadding = theme::kUnit;
-constexpr int kNarrowestCell = 136;
 constexpr int kDecodedPictures = 600;
 constexpr qreal kRadius = 6;
 constexpr int kTickEdge = 16;
@@ -45,7 +44,7 @@ ImageCell::ImageCell(ImageBrowserView* view)
 
 QSize ImageCell::cellSize(int edge, const QFont& font, int lines) {
     const QFontMetrics metrics(font);
-    return {std::max(edge + 2 * kPadding, kNarrowestCell), edge + lines * metrics.height() + 3 * kPadding};
+    return {std::max(edge + 2 * kPadding, kNarrowest), edge + lines * metrics.height() + 3 * kPadding};
 }
 
 QRect ImageCell::tickPlace(const QRect& cell) {

@@ -16,6 +16,8 @@ class ImageCell : public QStyledItemDelegate {
   public:
     explicit ImageCell(ImageBrowserView* view);
 
+    static constexpr int kNarrowest = 136;  // of cells
+
     // The cell for a picture of `edge` pixels with so many lines of words below it.
     static QSize cellSize(int edge, const QFont& font, int lines);
 

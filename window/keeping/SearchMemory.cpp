@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QObject>
+#include <QUuid>
 #include <algorithm>
 
 #include "media/SectorReader.h"
@@ -35,6 +36,10 @@ QString SearchMemory::path() const {
     return m_folder + QStringLiteral("/last-search");
 }
 
+QString SearchMemory::thumbnailPath() const {
+    return m_folder + QStringLiteral("/last-search.thumbnails");
+}
+
 const SearchRecord* SearchMemory::last() {
     if (!m_last) {
         m_last = hasFolder() ? readSearchRecord(path()) : std::nullopt;
@@ -44,6 +49,7 @@ const SearchRecord* SearchMemory::last() {
 
 void SearchMemory::forgetLast() {
     QFile::remove(path());
+    QFile::remove(thumbnailPath());
     letGo();
 }
 
@@ -54,8 +60,16 @@ std::shared_ptr<SearchKeeper> SearchMemory::begin(SearchRecord record, bool reme
         // What a card holds is nobody else's business.
         QFile::setPermissions(m_folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
+    if (record.notes.id.isEmpty()) {
+        record.notes.id = QUuid::createUuid().toRfc4122();
+    }
     {
         const std::lock_guard lock(m_mutex);
+        // The one before lets go of its file first.
+        m_thumbnails.reset();
+        if (m_remembers) {
+            m_thumbnails = std::make_shared<KeptThumbnails>(thumbnailPath(), record.notes.id);
+        }
         m_notes = record.notes;
         m_notes.ended = false;
         m_found = std::move(found);
@@ -78,9 +92,17 @@ void SearchMemory::setEnded(bool ended) {
     m_notes.ended = ended;
 }
 
-void SearchMemory::setSaved(std::vector<std::uint64_t> places) {
+void SearchMemory::setMarks(std::vector<std::uint64_t> saved, std::vector<std::uint64_t> ticked,
+                            std::vector<std::uint64_t> selected) {
     const std::lock_guard lock(m_mutex);
-    m_notes.saved = std::move(places);
+    m_notes.saved = std::move(saved);
+    m_notes.ticked = std::move(ticked);
+    m_notes.selected = std::move(selected);
+}
+
+std::shared_ptr<KeptThumbnails> SearchMemory::thumbnails() const {
+    const std::lock_guard lock(m_mutex);
+    return m_thumbnails;
 }
 
 QString stateFolder() {

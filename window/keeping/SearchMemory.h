@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "media/SearchRange.h"
+#include "scan/KeptThumbnails.h"
 #include "scan/SearchKeeper.h"
 #include "scan/SearchRecord.h"
 
@@ -37,11 +38,16 @@ class SearchMemory {
 
     // What the file is to say from the next writing on.
     void setEnded(bool ended);
-    void setSaved(std::vector<std::uint64_t> places);
+    void setMarks(std::vector<std::uint64_t> saved, std::vector<std::uint64_t> ticked,
+                  std::vector<std::uint64_t> selected);
+
+    // Of the search of the moment; null where it is not remembered. Any thread.
+    std::shared_ptr<KeptThumbnails> thumbnails() const;
 
   private:
     SearchNotes notes() const;
     QString path() const;
+    QString thumbnailPath() const;
 
     const QString m_folder;
     std::optional<std::optional<SearchRecord>> m_last;
@@ -50,6 +56,7 @@ class SearchMemory {
     std::function<std::uint64_t()> m_found;
     mutable std::mutex m_mutex;
     SearchNotes m_notes;
+    std::shared_ptr<KeptThumbnails> m_thumbnails;
 };
 
 // Where the user's programs keep what they were doing; a folder of this program's own.

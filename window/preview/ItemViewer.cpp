@@ -11,6 +11,7 @@
 #include <QStackedWidget>
 #include <QToolButton>
 
+#include "window/preview/MendPane.h"
 #include "window/preview/MovieView.h"
 #include "window/preview/ZoomPicture.h"
 #include "window/widgets/Theme.h"
@@ -24,7 +25,7 @@ const QColor kGround{0x17, 0x1b, 0x22};
 const char* const kLooks =
     "QLabel { color: #eef1f6; background: transparent; }"
     "QLabel#viewerTitle { font-weight: 600; }"
-    "QLabel#viewerPlace, QLabel#viewerZoom, QLabel#viewerNote { color: #b6c0d0; }"
+    "QLabel#viewerPlace, QLabel#viewerZoom, QLabel#viewerNote, QLabel#viewerMendWords { color: #b6c0d0; }"
     "QToolButton { color: #eef1f6; background: transparent; border: 1px solid transparent;"
     " border-radius: 6px; padding: 4px 10px; }"
     "QToolButton:hover { background: #2b323d; }"
@@ -149,6 +150,7 @@ QWidget* ItemViewer::makeStage() {
     m_note->setAlignment(Qt::AlignCenter);
     m_note->setWordWrap(true);
     m_note->setTextFormat(Qt::PlainText);
+    m_mend = new MendPane(place);
     m_back = makeButton("viewerBack", tr("‹"), tr("Item before this one (Left)"));
     m_on = makeButton("viewerOn", tr("›"), tr("Next item (Right)"));
     auto* const row = new QHBoxLayout;
@@ -159,6 +161,7 @@ QWidget* ItemViewer::makeStage() {
     column->setContentsMargins(theme::kUnit, 0, theme::kUnit, theme::kUnit);
     column->addLayout(row, 1);
     column->addWidget(m_note);
+    column->addWidget(m_mend);
     connect(m_back, &QToolButton::clicked, this, [this] { emit stepWanted(-1); });
     connect(m_on, &QToolButton::clicked, this, [this] { emit stepWanted(1); });
     connect(m_picture, &ZoomPicture::zoomChanged, this, &ItemViewer::showZoom);
@@ -196,6 +199,7 @@ void ItemViewer::makeShortcuts() {
     on(Qt::Key_End, [this] { emit endWanted(true); });
     on(Qt::Key_Escape, [this] { escape(); });
     on(Qt::Key_F11, [this] { toggleFullScreen(); });
+    on(Qt::Key_B, [this] { m_mend->turn(); });
     on(Qt::Key_I, [this] { m_factsButton->toggle(); });
     on(Qt::Key_0, [this] { m_picture->fit(); });
     on(Qt::Key_1, [this] { m_picture->showActualSize(); });

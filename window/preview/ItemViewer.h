@@ -17,6 +17,7 @@ class QToolButton;
 
 namespace vantor {
 
+class MendPane;
 class MovieView;
 class ZoomPicture;
 
@@ -53,6 +54,7 @@ class ItemViewer : public QWidget {
 
     ZoomPicture* picture() const { return m_picture; }
     MovieView* movie() const { return m_movie; }
+    MendPane* mend() const { return m_mend; }
     QList<ViewerFact> facts() const { return m_facts; }
     // Pixels that a picture needs to fill the place.
     QSize stageSize() const;
@@ -104,6 +106,7 @@ class ItemViewer : public QWidget {
     QStackedWidget* m_stage;
     ZoomPicture* m_picture;
     MovieView* m_movie;
+    MendPane* m_mend;
     QScrollArea* m_factsPane;
     QLabel* m_factsText;
     QList<ViewerFact> m_facts;

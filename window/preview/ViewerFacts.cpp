@@ -6,6 +6,7 @@
 
 #include "media/SectorReader.h"
 #include "results/CardIndex.h"
+#include "results/Mend.h"
 #include "results/MyImageObject.h"
 #include "results/SizeForPeople.h"
 #include "window/preview/MovieControls.h"
@@ -109,6 +110,7 @@ QList<ViewerFact> viewerFacts(const MyImageObject& item, const ItemFacts& known,
         known.soundness ? numberForPeople(static_cast<std::uint64_t>(known.soundness->pieces)) : QString());
     add(QObject::tr("Unreadable sectors"), unreadableOf(item, known));
     add(QObject::tr("State"), stateOf(known));
+    add(QObject::tr("Mended"), known.mend ? describe(*known.mend) : QString());
     add(QObject::tr("Saved"), known.saved ? QObject::tr("yes") : QObject::tr("not yet"));
     return facts;
 }

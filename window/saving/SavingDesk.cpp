@@ -52,6 +52,7 @@ std::optional<SavingDesk::Next> SavingDesk::saveOnce(const Next& wish) {
     request.saver = saverFor(destination);
     request.openMedium = m_parts.medium();
     request.card = m_parts.card ? m_parts.card() : nullptr;
+    request.mended = m_parts.mended ? m_parts.mended() : nullptr;
     request.destination = destination;
     request.placeholder = m_parts.placeholder();
     if (m_choices.report) {

@@ -19,6 +19,7 @@ class QWidget;
 
 namespace vantor {
 
+class MendedItems;
 class MyImageObject;
 class SaveJob;
 struct CardFile;
@@ -32,7 +33,8 @@ struct SavingParts {
     std::function<std::optional<std::uint64_t>(std::size_t)> bytesToWrite;
     // Gives what opens the medium of the moment, which is called on the thread of the job.
     std::function<std::function<std::unique_ptr<SectorReader>()>()> medium;
-    std::function<std::shared_ptr<const CardIndex>()> card;  // of that medium; null: nothing is known
+    std::function<std::shared_ptr<const CardIndex>()> card;      // of that medium; null: nothing is known
+    std::function<std::shared_ptr<const MendedItems>()> mended;  // what was made of broken items
     // Gives what tells whether a folder lies on the medium of the moment; asked on the thread of the job.
     std::function<ItemSaver::LiesOnMedium()> liesOnMedium;
     std::function<std::optional<std::uint64_t>(const QString& folder)> freeBytes;

@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QMouseEvent>
 #include <QShortcut>
+#include <QTimer>
 
 namespace vantor {
 
@@ -69,15 +70,24 @@ class RestOfAPress : public QObject {
 
 }  // namespace
 
-SheetSession::SheetSession(QDialog* sheet, QWidget* over, QWidget* exempt)
+SheetSession::SheetSession(QDialog* sheet, QWidget* over, QWidget* exempt,
+                           std::chrono::milliseconds unnoticed)
     : m_sheet(sheet), m_over(over), m_exempt(exempt) {
-    const QRect window = m_over->window()->frameGeometry();
-    m_sheet->move(window.center().x() - m_sheet->width() / 2, window.top() + window.height() / 4);
-    m_sheet->show();
     qApp->installEventFilter(this);
+    if (unnoticed.count() > 0) {
+        QTimer::singleShot(unnoticed, this, &SheetSession::show);
+        return;
+    }
+    show();
     // Once round the loop, so that the sheet is drawn before the work begins.
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     m_sheet->repaint();
+}
+
+void SheetSession::show() {
+    const QRect window = m_over->window()->frameGeometry();
+    m_sheet->move(window.center().x() - m_sheet->width() / 2, window.top() + window.height() / 4);
+    m_sheet->show();
 }
 
 SheetSession::~SheetSession() {

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QWidget>
+#include <chrono>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -19,7 +20,8 @@ namespace vantor {
 // it is let go later.
 class SheetSession : public QObject {
   public:
-    SheetSession(QDialog* sheet, QWidget* over, QWidget* exempt);
+    // Shows it only when the work still goes on after `unnoticed` of the event loop's time.
+    SheetSession(QDialog* sheet, QWidget* over, QWidget* exempt, std::chrono::milliseconds unnoticed = {});
     ~SheetSession() override;
 
     // Whether somebody has clicked twice on the widget meanwhile, or for the second time.
@@ -29,6 +31,7 @@ class SheetSession : public QObject {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    void show();
     void keep(QWidget* widget, const QKeyEvent& key);
 
     QDialog* m_sheet;

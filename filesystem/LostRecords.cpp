@@ -1,0 +1,130 @@
+#include "filesystem/LostRecords.h"
+
+#include <algorithm>
+#include <array>
+
+#include "filesystem/ClusterVote.h"
+#include "filesystem/FileBeginning.h"
+#include "filesystem/NtfsVolume.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr std::uint64_t kMostRecordSectors = std::uint64_t{1} << 21;
+constexpr std::size_t kMostLostRecords = 1'000'000;
+// Files that are looked at where a shape puts them, for each shape.
+constexpr std::size_t kMostRecordLooks = 256;
+constexpr std::size_t kMostRecordSightings = 400'000;
+constexpr std::size_t kMostRecordPlaces = 2048;
+constexpr std::size_t kLeastRecordVotes = 3;
+
+bool hasPlace(const NtfsRecord& record) {
+    return !record.isFolder && !record.name.isEmpty() && record.isPlain && record.firstCluster == 0 &&
+           !record.runs.empty();
+}
+
+bool isIn(const std::vector<SectorRun>& runs, std::uint64_t sector) {
+    const auto behind =
+        std::upper_bound(runs.begin(), runs.end(), sector,
+                         [](std::uint64_t at, const SectorRun& run) { return at < run.first; });
+    return behind != runs.begin() && sector < std::prev(behind)->end;
+}
+
+}  // namespace
+
+void LostRecords::tell(const std::vector<SectorRun>& traces, const std::vector<SectorRun>& known,
+                       const std::vector<VolumeShape>& shapes, CardTable& table) {
+    std::vector<NtfsRecord> records = recordsAt(traces, known);
+    if (const auto shape = records.empty() ? std::nullopt : shapeOf(records, shapes)) {
+        NtfsVolume(m_card, *shape, false).tellLost(std::move(records), table);
+    }
+}
+
+std::vector<NtfsRecord> LostRecords::recordsAt(const std::vector<SectorRun>& traces,
+                                               const std::vector<SectorRun>& known) {
+    std::vector<NtfsRecord> records;
+    std::uint64_t left = kMostRecordSectors;
+    std::vector<std::uint8_t> bytes;
+    for (const SectorRun& run : traces) {
+        const std::uint64_t end = std::min(run.end, m_card.sectors());
+        for (std::uint64_t at = run.first; at < end && left > 0 && records.size() < kMostLostRecords;) {
+            bytes.resize(512);
+            const bool isRead = !isIn(known, at) && m_card.readAt(at, bytes);
+            const std::size_t sectors = isRead ? sectorsOfNtfsRecord(bytes.data()) : 0;
+            --left;
+            if (sectors == 0 || sectors > m_card.sectors() - at) {
+                ++at;
+                continue;
+            }
+            bytes.resize(sectors * 512);
+            auto record = m_card.readAt(at, bytes) ? readNtfsRecord(bytes) : std::nullopt;
+            at += record ? sectors : 1;
+            if (record) {
+                records.push_back(std::move(*record));
+            }
+        }
+    }
+    return records;
+}
+
+bool LostRecords::standsThere(const NtfsRecord& record, const VolumeShape& shape) {
+    const std::uint64_t cluster = record.runs.front().first;
+    if (!shape.holds(cluster)) {
+        return false;
+    }
+    const std::uint64_t sector = shape.sectorOf(cluster);
+    std::array<std::uint8_t, 512> bytes;
+    return m_found.isAt(sector, record.name) || (sector < m_card.sectors() && m_card.readAt(sector, bytes) &&
+                                                 beginsLike(record.name, bytes).value_or(false));
+}
+
+std::optional<VolumeShape> LostRecords::shapeOf(const std::vector<NtfsRecord>& records,
+                                                const std::vector<VolumeShape>& shapes) {
+    std::optional<VolumeShape> best;
+    std::size_t most = 0;
+    for (const VolumeShape& shape : shapes) {
+        std::size_t looks = 0;
+        std::size_t hits = 0;
+        for (const NtfsRecord& record : records) {
+            if (hasPlace(record) && ++looks <= kMostRecordLooks) {
+                hits += standsThere(record, shape) ? 1 : 0;
+            }
+        }
+        if (hits > most) {
+            most = hits;
+            best = shape;
+        }
+    }
+    return best ? best : votedShape(records);
+}
+
+std::optional<VolumeShape> LostRecords::votedShape(const std::vector<NtfsRecord>& records) const {
+    // The vote is about clusters of which the first is the second; here it is cluster 0.
+    constexpr std::uint64_t kFirstNumber = 2;
+    std::vector<ClusterSighting> sightings;
+    for (const NtfsRecord& record : records) {
+        if (!hasPlace(record) || record.runs.front().first >= UINT32_MAX - kFirstNumber) {
+            continue;
+        }
+        const auto cluster = static_cast<std::uint32_t>(record.runs.front().first + kFirstNumber);
+        for (const std::uint64_t sector : m_found.ofKind(record.name, kMostRecordPlaces)) {
+            if (sightings.size() < kMostRecordSightings) {
+                sightings.push_back({cluster, sector});
+            }
+        }
+    }
+    const auto places = voteForClusters(sightings, kLeastRecordVotes);
+    if (!places || places->firstCluster >= m_card.sectors()) {
+        return std::nullopt;
+    }
+    VolumeShape shape;
+    shape.kind = FileSystemKind::Ntfs;
+    shape.first = shape.firstCluster = places->firstCluster;
+    shape.clusterSectors = places->clusterSectors;
+    shape.clusters =
+        static_cast<std::uint32_t>((m_card.sectors() - shape.firstCluster) / shape.clusterSectors);
+    return shape;
+}
+
+}  // namespace vantor
