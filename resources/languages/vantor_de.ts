@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Choose where found files go</source>
-        <translation>Wählen, wohin die gefundenen Dateien kommen</translation>
+        <translation>Wählen Sie, wohin die gefundenen Dateien kommen</translation>
     </message>
     <message>
         <source>In the next window, pick a folder on another disk, never on the medium you are recovering from: whatever is written there can overwrite the very files you want back.</source>
@@ -33,6 +33,25 @@
     <message>
         <source>The item is being read from the medium. This takes a moment for large items.</source>
         <translation>Der Fund wird vom Medium gelesen. Bei großen Dateien dauert das einen Augenblick.</translation>
+    </message>
+</context>
+<context>
+    <name>EvidenceImage</name>
+    <message>
+        <source>Evidence images cannot be read here</source>
+        <translation>Beweisabbilder können hier nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Evidence images are only read shut in, which this system does not allow</source>
+        <translation>Beweisabbilder werden nur eingesperrt gelesen, was dieses System nicht zulässt</translation>
+    </message>
+    <message>
+        <source>The part of the program that reads evidence images does not start</source>
+        <translation>Der Programmteil, der Beweisabbilder liest, startet nicht</translation>
+    </message>
+    <message>
+        <source>The evidence image is damaged or of a kind that cannot be read</source>
+        <translation>Das Beweisabbild ist beschädigt oder von einer Art, die sich nicht lesen lässt</translation>
     </message>
 </context>
 <context>
@@ -708,10 +727,6 @@ Bitte wählen Sie mindestens einen Dateityp aus.</translation>
         <translation>Bitte wandeln Sie es zuerst in ein rohes Abbild um (zum Beispiel mit „qemu-img convert -O raw“) und öffnen Sie dieses.</translation>
     </message>
     <message>
-        <source>Please export it as a raw (dd) image first and open that.</source>
-        <translation>Bitte exportieren Sie es zuerst als rohes Abbild (dd) und öffnen Sie dieses.</translation>
-    </message>
-    <message>
         <source>Please convert it to a raw image first and open that.</source>
         <translation>Bitte wandeln Sie es zuerst in ein rohes Abbild um und öffnen Sie dieses.</translation>
     </message>
@@ -1182,7 +1197,7 @@ Der Endsektor muss größer als der Startsektor sein.</translation>
     </message>
     <message>
         <source>They are in %1, in a folder for each type.</source>
-        <translation>Sie liegen in %1, in je einem Ordner für jeden Typ.</translation>
+        <translation>Gespeichert in %1, mit einem Ordner für jeden Typ.</translation>
     </message>
     <message>
         <source>%1 could only be read in part; what could not be read is filled with zeros.</source>
@@ -2190,6 +2205,22 @@ Läuft auf %2.</translation>
         <source>No picture: documents are drawn inside bubblewrap alone, which is not installed or may not run on this system.</source>
         <translation>Kein Bild: Dokumente werden nur innerhalb von bubblewrap gezeichnet, das nicht installiert ist oder auf diesem System nicht laufen darf.</translation>
     </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 gefunden</translation>
+    </message>
+    <message>
+        <source>%1 found: %2</source>
+        <translation>%1 gefunden: %2</translation>
+    </message>
+    <message>
+        <source>Please export it as a raw (dd) or E01 image first and open that.</source>
+        <translation>Bitte exportieren Sie es zuerst als rohes Abbild (dd) oder als E01-Abbild und öffnen Sie dieses.</translation>
+    </message>
+    <message>
+        <source>It holds single files rather than a storage medium. Please open an image of the medium.</source>
+        <translation>Es enthält einzelne Dateien statt eines Speichermediums. Bitte öffnen Sie ein Abbild des Mediums.</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -2827,7 +2858,7 @@ Läuft auf %2.</translation>
     </message>
     <message>
         <source>Only named on the card</source>
-        <translation>Nur auf der Karte genannt</translation>
+        <translation>Nur auf der Karte</translation>
     </message>
     <message>
         <source>1 more file that only the card&apos;s directory tells of</source>
@@ -3683,8 +3714,8 @@ Bitte wählen Sie die Dateitypen für die Wiederherstellung aus. Mit ‚Weiter�
         <translation>Die Abbilddatei eines Mediums öffnen</translation>
     </message>
     <message>
-        <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima);;All files (*)</source>
-        <translation>Abbilder von Medien (*.img *.dd *.raw *.bin *.iso *.image *.ima);;Alle Dateien (*)</translation>
+        <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;All files (*)</source>
+        <translation>Abbilder von Medien (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;Alle Dateien (*)</translation>
     </message>
 </context>
 <context>

@@ -36,6 +36,25 @@
     </message>
 </context>
 <context>
+    <name>EvidenceImage</name>
+    <message>
+        <source>Evidence images cannot be read here</source>
+        <translation>ここでは証拠イメージを読み取れません</translation>
+    </message>
+    <message>
+        <source>Evidence images are only read shut in, which this system does not allow</source>
+        <translation>証拠イメージは隔離された状態でのみ読み取りますが、このシステムでは隔離できません</translation>
+    </message>
+    <message>
+        <source>The part of the program that reads evidence images does not start</source>
+        <translation>証拠イメージを読み取るプログラムの部品が起動しません</translation>
+    </message>
+    <message>
+        <source>The evidence image is damaged or of a kind that cannot be read</source>
+        <translation>証拠イメージが壊れているか、読み取れない種類です</translation>
+    </message>
+</context>
+<context>
     <name>FileTypeScreen</name>
     <message>
         <source>File types to search for</source>
@@ -706,10 +725,6 @@ Please select atleast one extension type.</source>
     <message>
         <source>Please convert it to a raw image first (for example with “qemu-img convert -O raw”) and open that.</source>
         <translation>先に生のイメージに変換して（たとえば「qemu-img convert -O raw」）、それを開いてください。</translation>
-    </message>
-    <message>
-        <source>Please export it as a raw (dd) image first and open that.</source>
-        <translation>先に生の (dd) イメージとしてエクスポートして、それを開いてください。</translation>
     </message>
     <message>
         <source>Please convert it to a raw image first and open that.</source>
@@ -2162,6 +2177,22 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <source>No picture: documents are drawn inside bubblewrap alone, which is not installed or may not run on this system.</source>
         <translation>画像なし: 文書は bubblewrap の中でのみ描画されますが、インストールされていないか、このシステムでは動作しません。</translation>
     </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 件見つかりました</translation>
+    </message>
+    <message>
+        <source>%1 found: %2</source>
+        <translation>%1 件見つかりました: %2</translation>
+    </message>
+    <message>
+        <source>Please export it as a raw (dd) or E01 image first and open that.</source>
+        <translation>先に生の (dd) または E01 イメージとしてエクスポートして、それを開いてください。</translation>
+    </message>
+    <message>
+        <source>It holds single files rather than a storage medium. Please open an image of the medium.</source>
+        <translation>ストレージメディアではなく個々のファイルが入っています。メディアのイメージを開いてください。</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -2787,7 +2818,7 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     </message>
     <message>
         <source>By size</source>
-        <translation>サイズ順</translation>
+        <translation>サイズ別</translation>
     </message>
     <message>
         <source>No type</source>
@@ -3075,7 +3106,7 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation>%2 件中 %1</translation>
+        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>%1, without thumbnails</source>
@@ -3648,8 +3679,8 @@ Please select the required extension type for recovery process. Press ‘Next’
         <translation>メディアのイメージファイルを開く</translation>
     </message>
     <message>
-        <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima);;All files (*)</source>
-        <translation>メディアのイメージ (*.img *.dd *.raw *.bin *.iso *.image *.ima);;すべてのファイル (*)</translation>
+        <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;All files (*)</source>
+        <translation>メディアのイメージ (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;すべてのファイル (*)</translation>
     </message>
 </context>
 <context>
@@ -3759,7 +3790,7 @@ Please select the required extension type for recovery process. Press ‘Next’
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation>%2 件中 %1</translation>
+        <translation>%1 / %2</translation>
     </message>
 </context>
 </TS>

@@ -36,6 +36,25 @@
     </message>
 </context>
 <context>
+    <name>EvidenceImage</name>
+    <message>
+        <source>Evidence images cannot be read here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Evidence images are only read shut in, which this system does not allow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The part of the program that reads evidence images does not start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The evidence image is damaged or of a kind that cannot be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>FileTypeScreen</name>
     <message>
         <source>File types to search for</source>
@@ -699,10 +718,6 @@ Please select atleast one extension type.</source>
     </message>
     <message>
         <source>Please convert it to a raw image first (for example with “qemu-img convert -O raw”) and open that.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Please export it as a raw (dd) image first and open that.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2165,6 +2180,22 @@ Running on %2.</source>
     </message>
     <message>
         <source>No picture: documents are drawn inside bubblewrap alone, which is not installed or may not run on this system.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 found: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please export it as a raw (dd) or E01 image first and open that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It holds single files rather than a storage medium. Please open an image of the medium.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3656,7 +3687,7 @@ Please select the required extension type for recovery process. Press ‘Next’
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima);;All files (*)</source>
+        <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;All files (*)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
