@@ -30,7 +30,8 @@ struct FoundMovie {
 }  // namespace
 
 std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::uint64_t> broken,
-                                                          std::span<const SectorRun> whole) {
+                                                          std::span<const SectorRun> whole,
+                                                          const AssemblyFound& tell) {
     std::vector<std::optional<Assembly>> assemblies(broken.size());
     if (broken.empty()) {
         return assemblies;
@@ -66,6 +67,9 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
                              (movie.movie.decodable && decodesWholly(file, movie.movie.samples, m_options)));
         assemblies[i] =
             Assembly{runs, movie.movie.bytes, proved ? AssemblyProof::Proved : AssemblyProof::Likely, false};
+        if (tell) {
+            tell(i, *assemblies[i]);
+        }
     };
     // Whole ones first; then what is left is looked for in what they leave, until nothing changes.
     for (bool again = true; again && m_stop == 0;) {

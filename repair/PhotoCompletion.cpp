@@ -42,7 +42,8 @@ bool isExplained(MediumBlocks& medium, const FreeClusters& grid, std::uint64_t f
 }  // namespace
 
 std::vector<std::optional<Assembly>> PhotoCompletion::run(std::span<const std::uint64_t> broken,
-                                                          std::span<const SectorRun> whole) {
+                                                          std::span<const SectorRun> whole,
+                                                          const AssemblyFound& tell) {
     std::vector<std::optional<Assembly>> assemblies(broken.size());
     if (broken.empty()) {
         return assemblies;
@@ -99,6 +100,9 @@ std::vector<std::optional<Assembly>> PhotoCompletion::run(std::span<const std::u
                 }
                 assemblies[i] = Assembly{
                     runs, found->bytes, found->proved ? AssemblyProof::Proved : AssemblyProof::Likely, false};
+                if (tell) {
+                    tell(i, *assemblies[i]);
+                }
             }
         }
     }

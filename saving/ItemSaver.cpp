@@ -146,7 +146,10 @@ bool ItemSaver::decideLength(const FoundItem& item, ItemBytes& found, SaveOutcom
     outcome.exactLength =
         truth.lengthIsTold || (length.extent.verdict == Verdict::Complete && length.extent.exactEnd);
     outcome.taken = facts.taken;
-    outcome.pieces = truth.assembly ? truth.assembly->runs.size() : 1;
+    if (truth.assembly) {
+        outcome.pieces = truth.assembly->runs.size();
+        outcome.runs = truth.assembly->runs;
+    }
     outcome.original = truth.file;
     outcome.width = facts.width;
     outcome.height = facts.height;

@@ -2,6 +2,8 @@
 
 #include <QSettings>
 
+#include "window/preview/CellPictures.h"
+#include "window/preview/DraggedFiles.h"
 #include "window/preview/ViewerDesk.h"
 #include "window/preview/WholePreview.h"
 
@@ -13,6 +15,9 @@ ControllerState::ControllerState(ProgramParts parts, std::function<void()> queue
 ControllerState::~ControllerState() = default;
 
 void ControllerState::endParts() {
+    m_mending.stop();
+    m_dragged.reset();
+    m_pictures.reset();
     m_viewer.reset();
     m_desk.reset();
     m_looks.reset();

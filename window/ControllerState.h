@@ -15,6 +15,7 @@
 
 #include "decode/ThumbnailQueue.h"
 #include "media/CopiedMedium.h"
+#include "repair/MendingRun.h"
 #include "results/TickedItems.h"
 #include "scan/ScanInputs.h"
 #include "scan/ScanMeter.h"
@@ -42,10 +43,14 @@ class QSettings;
 
 namespace vantor {
 
-class ViewerDesk;
 class CardStrip;
+class CellPictures;
+class DraggedFiles;
 class KeepingBox;
 class KeptSearchBar;
+class MendingBar;
+class PieceStrip;
+class ViewerDesk;
 class WholePreview;
 
 // Everything is the interface thread's but what says otherwise.
@@ -166,10 +171,22 @@ class ControllerState {
     // Set at the end of a scan, emptied with the next one.
     SavingDesk::ToldFiles m_told;  // files that only the card's directory tells of
 
+    // What is made of the broken ones among the found items, emptied with them.
+    const std::shared_ptr<MendedItems> m_mended = std::make_shared<MendedItems>();
+    QPushButton* m_mendButton = nullptr;
+    MendingBar* m_mendingBar = nullptr;
+    PieceStrip* m_pieceStrip = nullptr;
+    QTimer m_mendingLook;                         // while they are mended
+    std::size_t m_shownMends = 0;                 // that the browser shows
+    std::shared_ptr<const Mend> m_previewedMend;  // of the item on preview, as it is shown
+
     // Begin anew with every scan; the first to go, since they ask the others.
     std::unique_ptr<BrowserLooks> m_looks;
     std::unique_ptr<SavingDesk> m_desk;
     std::unique_ptr<ViewerDesk> m_viewer;
+    std::unique_ptr<CellPictures> m_pictures;
+    std::unique_ptr<DraggedFiles> m_dragged;
+    MendingRun m_mending;
 };
 
 }  // namespace vantor

@@ -5,6 +5,8 @@
 
 #include "results/RecoveryMode.h"
 #include "window/MyTableController.h"
+#include "window/preview/CellPictures.h"
+#include "window/preview/DraggedFiles.h"
 #include "window/preview/PreviewFile.h"
 #include "window/preview/ViewerDesk.h"
 #include "window/preview/WholePreview.h"

@@ -156,6 +156,7 @@ class MyTableController : public QObject,
     std::shared_ptr<MyImageObject> imageBrowser_itemAtIndex(const ImageBrowserView* view,
                                                             qsizetype index) override;
     ItemFacts factsOfItem(qsizetype index) override;
+    const CellPicture* pictureOfItem(qsizetype index) override;
     // Items cannot be dragged out: writes nothing and gives 0.
     qsizetype imageBrowser_writeItemsAtIndexes(const ImageBrowserView* view, const QList<qsizetype>& indexes,
                                                QMimeData* toPasteboard);
@@ -277,6 +278,7 @@ class MyTableController : public QObject,
     void bringIntoView(QWidget* widget);
     void emptyBrowsers();
     void emptyBrowserViews();
+    void zoomRawBrowser(float zoom);
     // window/ScreenGroups.cpp
     void showPreviewPane(bool hide);
     void hideOpenFolderButtons();
@@ -291,6 +293,7 @@ class MyTableController : public QObject,
     QString chooseDestination();
     QString folderToBeginWith() const;
     bool acceptDestination(const QString& folder);
+    bool mayBeDestination(const QString& folder);
     bool isStillThere(const QString& folder) const;
     bool destinationStillThere();
     void showDestination();
@@ -368,6 +371,17 @@ class MyTableController : public QObject,
     Likeness likenessOf(const QString& identifier, const SearchRecord& record);
     QStringList mediaLike(const SearchRecord& record) const;
     bool chooseMediumOf(const SearchRecord& record);
+    // window/Mending.cpp
+    void setUpMending();
+    void offerMending();
+    void mendBrokenItems();
+    void stopMending();
+    void forgetMends();
+    void showMending();
+    void showPieces();
+    void previewMendedItem();
+    QString mendingWords() const;
+    QString mendingEndWords() const;
     // window/ScanThreads.cpp
     void startScan(void (ScanSession::*driver)());
     void pump();
@@ -389,6 +403,11 @@ class MyTableController : public QObject,
     LookedAtItems lookedAtItems();
     void selectionMoved(ImageBrowserView* browser);
     void startDuePreview();
+    // window/ItemPictures.cpp
+    void setUpItemPictures();
+    void wantItemPictures();
+    void showDetails(bool shown);
+    std::optional<ViewOrder> pictureOrderOf(std::size_t index) const;
     // window/ItemMenu.cpp
     void showItemMenu(ImageBrowserView* browser, qsizetype index, const QPoint& place);
     void selectLike(ImageBrowserView* browser, const std::function<bool(qsizetype)>& isLike) const;
@@ -411,6 +430,13 @@ class MyTableController : public QObject,
     // window/Viewer.cpp
     void setUpViewer();
     ViewOrder viewOrderOf(const MyImageObject& item) const;
+    // window/DragOut.cpp
+    void dragOut(ImageBrowserView* browser, const QList<qsizetype>& indexes);
+    bool waitForDraggedFiles(QWidget* browser);
+    void saveItemAs(qsizetype index);
+    // window/Ejecting.cpp
+    bool canEjectCard() const;
+    void ejectCard();
     // window/Saving.cpp
     void saveItems(const QList<qsizetype>& indexes, const SavingDesk::ToldFiles& told = {});
     SavingParts savingParts();

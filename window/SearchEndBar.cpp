@@ -67,6 +67,7 @@ void MyTableController::showSearchSum() {
         }
     }
     searchSumLabel->setText(parts.join(QStringLiteral(", ")));
+    offerMending();
 }
 
 std::unique_ptr<SectorReader> MyTableController::openForSearch(const QString& device) {

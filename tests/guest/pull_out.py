@@ -2,7 +2,7 @@
 """In the guest: the card is pulled out of a search (and of its saving, which goes along) at random moments,
 with and without a copy, in each mode; then another card is refused and the same one is gone on with.
 
-Environment: MOMENTS a mode (20), SEED, CARD_IMAGE and OTHER_IMAGE (host paths), MODES, COPIES."""
+Environment: MOMENTS a mode (20), SEED, CARD_IMAGE and OTHER_IMAGE (host paths), MODES, COPIES, RANGE of the card."""
 import random, re
 from proof import *
 
@@ -12,6 +12,7 @@ MOMENTS = int(os.environ.get("MOMENTS", "20"))
 choose = random.Random(int(os.environ.get("SEED", "1")))
 truth = Truth(SHARE + "/truth.json")
 SECTORS = int(os.environ["SECTORS"])
+RANGE = ["--range", os.environ.get("RANGE", "0:%d" % SECTORS)]
 OUT, SESSION, IMAGE = "/root/out", "/root/session", "/root/copy.img"
 
 
@@ -33,7 +34,7 @@ def state_of_everything():
 
 def undisturbed(mode, copy):
     clear()
-    run = Run("--mode", mode, *options(copy), "--session", SESSION, disk(SECTORS))
+    run = Run("--mode", mode, *RANGE, *options(copy), "--session", SESSION, disk(SECTORS))
     code = run.wait()
     assert code == 0, (code, run.errors())
     rows = report_rows(OUT)
@@ -75,7 +76,7 @@ def moment(mode, copy, reference, number):
     clear()
     at = choose.uniform(0.1, reference["seconds"] + 0.3)
     node = disk(SECTORS)
-    run = Run("--mode", mode, *options(copy), "--session", SESSION, node)
+    run = Run("--mode", mode, *RANGE, *options(copy), "--session", SESSION, node)
     time.sleep(at)
     unplug()
     code = run.wait()
@@ -105,7 +106,7 @@ def moment(mode, copy, reference, number):
     if session_there:
         again = Run("--resume", SESSION, *options(copy), node)
     else:
-        again = Run("--mode", mode, *options(copy), node)
+        again = Run("--mode", mode, *RANGE, *options(copy), node)
     result["session"] = session_there
     result["again"] = again.wait()
     if identities(listed(again.output())) != want:
