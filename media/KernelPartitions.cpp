@@ -12,7 +12,7 @@ namespace vantor {
 namespace {
 
 constexpr std::size_t kMostPartitions = 256;
-constexpr qint64 kMostText = 64;
+constexpr qint64 kMostPartitionText = 64;
 
 std::optional<std::uint64_t> numberIn(const QString& path) {
     QFile file(path);
@@ -20,7 +20,7 @@ std::optional<std::uint64_t> numberIn(const QString& path) {
         return std::nullopt;
     }
     bool isNumber = false;
-    const qulonglong number = file.readLine(kMostText).trimmed().toULongLong(&isNumber);
+    const qulonglong number = file.readLine(kMostPartitionText).trimmed().toULongLong(&isNumber);
     return isNumber ? std::optional<std::uint64_t>(number) : std::nullopt;
 }
 

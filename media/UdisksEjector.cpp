@@ -13,12 +13,12 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kPatience = 3s;
+constexpr auto kEjectPatience = 3s;
 // A user may be asked, and a slow card be written to its end.
 constexpr auto kEjectPatience = 120s;
-const QString kBlock = QStringLiteral("org.freedesktop.UDisks2.Block");
-const QString kDrive = QStringLiteral("org.freedesktop.UDisks2.Drive");
-const QString kFilesystem = QStringLiteral("org.freedesktop.UDisks2.Filesystem");
+const QString kBlockInterface = QStringLiteral("org.freedesktop.UDisks2.Block");
+const QString kDriveInterface = QStringLiteral("org.freedesktop.UDisks2.Drive");
+const QString kFilesystemInterface = QStringLiteral("org.freedesktop.UDisks2.Filesystem");
 
 QString text(const char* words) {
     return QCoreApplication::translate("UdisksEjector", words);
@@ -31,16 +31,16 @@ std::optional<Ejection> ejectionOf(const UdisksObjects& objects, const QString& 
         return std::nullopt;
     }
     const auto driveOf = [&](const QString& path) {
-        return objects.value(path).value(kBlock).value(QStringLiteral("Drive")).toString();
+        return objects.value(path).value(kBlockInterface).value(QStringLiteral("Drive")).toString();
     };
     Ejection ejection{driveOf(udisksObjectPath(node)), {}};
-    const QVariantMap drive = objects.value(ejection.drive).value(kDrive);
+    const QVariantMap drive = objects.value(ejection.drive).value(kDriveInterface);
     if (!drive.value(QStringLiteral("Ejectable")).toBool()) {
         return std::nullopt;
     }
     for (auto object = objects.begin(); object != objects.end(); ++object) {
         const auto mounts =
-            object->value(kFilesystem).value(QStringLiteral("MountPoints")).value<QByteArrayList>();
+            object->value(kFilesystemInterface).value(QStringLiteral("MountPoints")).value<QByteArrayList>();
         if (!mounts.isEmpty() && driveOf(object.key()) == ejection.drive) {
             ejection.mounted.append(object.key());
         }
@@ -49,12 +49,13 @@ std::optional<Ejection> ejectionOf(const UdisksObjects& objects, const QString& 
 }
 
 bool UdisksEjector::canEject(const QString& node) {
-    return m_bus.ensureConnected(kPatience) && ejectionNow(node).has_value();
+    return m_bus.ensureConnected(kEjectPatience) && ejectionNow(node).has_value();
 }
 
 std::optional<Ejection> UdisksEjector::ejectionNow(const QString& node) const {
     const QDBusPendingCall call = m_bus.askForObjects();
-    const auto objects = waitForAnswer(call, kPatience) ? UdisksBus::objectsIn(call.reply()) : std::nullopt;
+    const auto objects =
+        waitForAnswer(call, kEjectPatience) ? UdisksBus::objectsIn(call.reply()) : std::nullopt;
     return objects ? ejectionOf(*objects, node) : std::nullopt;
 }
 

@@ -34,7 +34,7 @@ void MyTableController::addImageWithData(const QByteArray& data, const QString& 
         ScanSession::addImageWithData(data, imageName, image_UID);
         return;
     }
-    const auto kept = m_searchMemory->thumbnails();
+    const auto kept = m_memory->thumbnails();
     const ThumbnailPlace where{handOver().firstSector, handOver().bytes};
     if (const QByteArray known = pictureIsKnown() ? kept->find(where) : QByteArray(); !known.isEmpty()) {
         m_thumbnails->submitMade(
@@ -69,7 +69,7 @@ void MyTableController::addImageWithData(const QByteArray& data, const QString& 
 }
 
 bool MyTableController::pictureIsKnown() const {
-    const auto kept = m_searchMemory->thumbnails();
+    const auto kept = m_memory->thumbnails();
     return kept && !handOver().carved.readFailed &&
            kept->contains({handOver().firstSector, handOver().bytes});
 }

@@ -149,7 +149,7 @@ class ControllerState {
     qint64 m_lastLookAtCard = 0;     // milliseconds of the search
     bool m_goOnWhenStopped = false;  // the user wants a copy of what is searched
     std::shared_ptr<std::atomic<bool>> m_leaving = std::make_shared<std::atomic<bool>>(false);
-    std::unique_ptr<SearchMemory> m_searchMemory;
+    std::unique_ptr<SearchMemory> m_memory;
     KeptSearchBar* m_keptBar = nullptr;
     QFrame* m_searchOptions = nullptr;
     KeepingBox* m_keepingBox = nullptr;

@@ -16,7 +16,7 @@ namespace vantor {
 
 namespace {
 
-constexpr int kLookMilliseconds = 150;
+constexpr int kMendingLookMilliseconds = 150;
 
 }  // namespace
 
@@ -41,7 +41,7 @@ void MyTableController::setUpMending() {
     }
     m_pieceStrip = new PieceStrip(previewFacts->parentWidget());
     previewFacts->parentWidget()->layout()->addWidget(m_pieceStrip);
-    m_mendingLook.setInterval(kLookMilliseconds);
+    m_mendingLook.setInterval(kMendingLookMilliseconds);
     connect(m_mendButton, &QPushButton::clicked, this, &MyTableController::mendBrokenItems);
     connect(&m_mendingLook, &QTimer::timeout, this, &MyTableController::showMending);
     connect(m_mendingBar->stopButton, &QPushButton::clicked, this, &MyTableController::stopMending);

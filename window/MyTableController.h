@@ -204,6 +204,9 @@ class MyTableController : public QObject,
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    // The session's own of this name is for a pass.
+    using ControllerState::m_memory;
+
     // --- What a scan shows (window/ScanScreen.cpp) ---
 
     RangeControls rangeControls(ControlSet set) const override;

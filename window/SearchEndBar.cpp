@@ -33,8 +33,8 @@ void MyTableController::showSearchEnd() {
     if (m_readsAsErased) {
         sentences << erasedCardWords();
     }
-    if (m_searchMemory->keeper() && !m_searchMemory->keeper()->error().isEmpty()) {
-        sentences << tr("The search could not be remembered: %1.").arg(m_searchMemory->keeper()->error());
+    if (m_memory->keeper() && !m_memory->keeper()->error().isEmpty()) {
+        sentences << tr("The search could not be remembered: %1.").arg(m_memory->keeper()->error());
     }
     sentences.removeAll(QString());
     searchEndLabel->setText(sentences.join(u' '));

@@ -16,7 +16,7 @@ namespace vantor {
 namespace {
 
 constexpr int kPicture = 20;                  // pixels
-constexpr int kGap = 11;                      // as the header has it
+constexpr int kColumnGap = 11;                // as the header has it
 constexpr int kLead = kTickReach + kPicture;  // before the name
 
 }  // namespace
@@ -68,7 +68,7 @@ void DetailsRow::paint(QPainter* painter, const QStyleOptionViewItem& option,
     for (int at = 0; at < kDetailsColumns; ++at) {
         const auto column = static_cast<DetailsColumn>(at);
         const int left = line.left() + header.sectionPosition(at);
-        QRect words(left + kGap, line.top(), header.sectionSize(at) - 2 * kGap, line.height());
+        QRect words(left + kColumnGap, line.top(), header.sectionSize(at) - 2 * kColumnGap, line.height());
         if (column == DetailsColumn::Name) {
             words.setLeft(words.left() + kLead);
         }

@@ -20,7 +20,7 @@ namespace vantor {
 namespace {
 
 constexpr int kBarHeight = 40;
-constexpr int kRadius = 6;
+constexpr int kPictureRadius = 6;
 constexpr int kUsedHeight = 5;
 constexpr int kFileSystem = 2;  // places among the facts
 constexpr int kCapacity = 3;
@@ -180,7 +180,7 @@ void CardPicture::paintParts(QPainter& painter, const QRect& bar) const {
         painter.drawRoundedRect(
             QRectF(QPointF(at(range.first), bar.top()), QPointF(at(range.end), bar.bottom() + 1))
                 .adjusted(1, 1, -1, -1),
-            kRadius - 1, kRadius - 1);
+            kPictureRadius - 1, kPictureRadius - 1);
     }
 }
 
@@ -189,7 +189,7 @@ void CardPicture::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     const QRect bar(0, 0, width(), kBarHeight);
     QPainterPath outline;
-    outline.addRoundedRect(bar, kRadius, kRadius);
+    outline.addRoundedRect(bar, kPictureRadius, kPictureRadius);
     painter.fillPath(outline, QColor(theme::kOtherRow));
     if (sectors() > 0) {
         painter.save();
@@ -199,7 +199,7 @@ void CardPicture::paintEvent(QPaintEvent*) {
     }
     painter.setPen(theme::kRule);
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(bar).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+    painter.drawRoundedRect(QRectF(bar).adjusted(0.5, 0.5, -0.5, -0.5), kPictureRadius, kPictureRadius);
     painter.setPen(theme::kQuietInk);
     const QRect below(0, kBarHeight, width(), height() - kBarHeight);
     painter.drawText(below, Qt::AlignLeft | Qt::AlignVCenter,

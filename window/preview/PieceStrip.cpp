@@ -14,10 +14,10 @@ namespace vantor {
 
 namespace {
 
-constexpr int kBarHeight = 18;
+constexpr int kStripHeight = 18;
 constexpr int kBarGap = 6;
 constexpr qreal kLeastWidth = 4;
-constexpr qreal kRadius = 3;
+constexpr qreal kStripRadius = 3;
 constexpr std::size_t kMostInWords = 20;
 
 // Colours that are told apart on light and dark ground, with white digits on them.
@@ -47,11 +47,11 @@ void PieceStrip::setPieces(const std::vector<SectorRun>& pieces) {
 }
 
 QSize PieceStrip::sizeHint() const {
-    return {40 * theme::kUnit, 2 * kBarHeight + kBarGap};
+    return {40 * theme::kUnit, 2 * kStripHeight + kBarGap};
 }
 
 QSize PieceStrip::minimumSizeHint() const {
-    return {12 * theme::kUnit, 2 * kBarHeight + kBarGap};
+    return {12 * theme::kUnit, 2 * kStripHeight + kBarGap};
 }
 
 int PieceStrip::captionWidth() const {
@@ -100,12 +100,12 @@ std::vector<PieceStrip::Block> PieceStrip::onCard(const QRectF& bar) const {
 void PieceStrip::paintBar(QPainter& painter, const QRectF& bar, const std::vector<Block>& blocks) const {
     painter.setPen(Qt::NoPen);
     painter.setBrush(m_onDark ? QColor(0x3a, 0x44, 0x52) : QColor(theme::kRule));
-    painter.drawRoundedRect(bar, kRadius, kRadius);
+    painter.drawRoundedRect(bar, kStripRadius, kStripRadius);
     for (const Block& block : blocks) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(kColours[block.piece % std::size(kColours)]);
         // A hair of the ground stays between neighbours.
-        painter.drawRoundedRect(block.place.adjusted(0.5, 0, -0.5, 0), kRadius, kRadius);
+        painter.drawRoundedRect(block.place.adjusted(0.5, 0, -0.5, 0), kStripRadius, kStripRadius);
         const QString number = QString::number(block.piece + 1);
         if (painter.fontMetrics().horizontalAdvance(number) + 4 < block.place.width()) {
             painter.setPen(Qt::white);
@@ -121,13 +121,13 @@ void PieceStrip::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const int caption = captionWidth();
-    QRectF bar(caption, 0, width() - caption, kBarHeight);
+    QRectF bar(caption, 0, width() - caption, kStripHeight);
     for (const bool card : {false, true}) {
         painter.setPen(m_onDark ? QColor(0xb6, 0xc0, 0xd0) : QColor(theme::kQuietInk));
-        painter.drawText(QRectF(0, bar.top(), caption, kBarHeight), Qt::AlignLeft | Qt::AlignVCenter,
+        painter.drawText(QRectF(0, bar.top(), caption, kStripHeight), Qt::AlignLeft | Qt::AlignVCenter,
                          card ? tr("Card") : tr("File"));
         paintBar(painter, bar, card ? onCard(bar) : inFile(bar));
-        bar.translate(0, kBarHeight + kBarGap);
+        bar.translate(0, kStripHeight + kBarGap);
     }
 }
 
