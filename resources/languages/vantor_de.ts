@@ -2269,10 +2269,6 @@ Läuft auf %2.</translation>
         <source>Mended</source>
         <translation>Ausgebessert</translation>
     </message>
-<message>
-        <source>Please export it as a raw (dd) image first and open that.</source>
-        <translation>Bitte exportieren Sie es zuerst als rohes Abbild (dd) und öffnen Sie dieses.</translation>
-    </message>
     <message>
         <source>Pixels not known</source>
         <translation>Pixel nicht bekannt</translation>
@@ -2837,10 +2833,6 @@ Läuft auf %2.</translation>
     <message>
         <source>Complete</source>
         <translation>Vollständig</translation>
-    </message>
-    <message>
-        <source>Cut off or damaged</source>
-        <translation>Abgeschnitten oder beschädigt</translation>
     </message>
     <message>
         <source>Of unknown length</source>
@@ -3953,10 +3945,6 @@ Bitte wählen Sie die Dateitypen für die Wiederherstellung aus. Mit ‚Weiter�
     <message>
         <source>No broken file could be completed.</source>
         <translation>Keine unvollständige Datei ließ sich vervollständigen.</translation>
-    </message>
-    <message>
-        <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima);;All files (*)</source>
-        <translation>Abbilder von Medien (*.img *.dd *.raw *.bin *.iso *.image *.ima);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Other files are being written. Drag again in a moment.</source>

@@ -2246,10 +2246,6 @@ Running on %2.</source>
         <source>Mended</source>
         <translation type="unfinished" />
     </message>
-<message>
-        <source>Please export it as a raw (dd) image first and open that.</source>
-        <translation type="unfinished" />
-    </message>
     <message>
         <source>Pixels not known</source>
         <translation type="unfinished" />
@@ -2813,10 +2809,6 @@ Running on %2.</source>
     </message>
     <message>
         <source>Complete</source>
-        <translation type="unfinished" />
-    </message>
-    <message>
-        <source>Cut off or damaged</source>
         <translation type="unfinished" />
     </message>
     <message>
@@ -3925,10 +3917,6 @@ Please select the required extension type for recovery process. Press ‘Next’
     </message>
     <message>
         <source>No broken file could be completed.</source>
-        <translation type="unfinished" />
-    </message>
-    <message>
-        <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima);;All files (*)</source>
         <translation type="unfinished" />
     </message>
     <message>

@@ -2237,10 +2237,6 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <source>Mended</source>
         <translation>復元内容</translation>
     </message>
-<message>
-        <source>Please export it as a raw (dd) image first and open that.</source>
-        <translation>先に生の (dd) イメージとしてエクスポートして、それを開いてください。</translation>
-    </message>
     <message>
         <source>Pixels not known</source>
         <translation>画素数不明</translation>
@@ -2805,10 +2801,6 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     <message>
         <source>Complete</source>
         <translation>完全</translation>
-    </message>
-    <message>
-        <source>Cut off or damaged</source>
-        <translation>途中で切れているか破損</translation>
     </message>
     <message>
         <source>Of unknown length</source>
@@ -3911,10 +3903,6 @@ Please select the required extension type for recovery process. Press ‘Next’
     <message>
         <source>No broken file could be completed.</source>
         <translation>補完できた不完全なファイルはありません。</translation>
-    </message>
-    <message>
-        <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima);;All files (*)</source>
-        <translation>メディアのイメージ (*.img *.dd *.raw *.bin *.iso *.image *.ima);;すべてのファイル (*)</translation>
     </message>
     <message>
         <source>Other files are being written. Drag again in a moment.</source>
