@@ -4,8 +4,8 @@
 // empty: the time from the press on Stop to the end panel, with nothing found and with all items found, and
 // the longest time the event loop was away, with the most processor time it took meanwhile (which is what
 // counts when others use the machine), as a user scrolls, types, selects, zooms, filters, sorts, picks and
-// ticks, during a scan and after it. The real controller, reader and decode helpers work; runs offscreen or
-// in an X server.
+// ticks, during a scan and after it; and the most memory that all of it took. The real controller, reader and
+// decode helpers work; runs offscreen or in an X server.
 #include <QApplication>
 #include <QBuffer>
 #include <QComboBox>
@@ -14,6 +14,7 @@
 #include <QFile>
 #include <QImage>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPainter>
 #include <QScrollBar>
 #include <QTemporaryDir>
@@ -29,6 +30,7 @@
 #include "media/PlatformMedia.h"
 #include "results/RecoveryMode.h"
 #include "window/MyTableController.h"
+#include "window/browser/DetailsHeader.h"
 #include "window/browser/FoundPane.h"
 #include "window/widgets/Theme.h"
 
@@ -250,6 +252,18 @@ class Bench {
         }
     }
 
+    static void chooseFromMenu(ImageBrowserView* browser, const QString& words) {
+        emit browser->menuWanted(0, {});
+        if (auto* const menu = browser->findChild<QMenu*>(QStringLiteral("itemMenu"))) {
+            for (QAction* const action : menu->actions()) {
+                if (action->text().startsWith(words)) {
+                    action->trigger();
+                }
+            }
+            menu->close();
+        }
+    }
+
     void usePane(FoundPane* pane) {
         auto* tree = pane->findChild<QTreeWidget*>();
         auto* search = pane->findChild<QLineEdit*>();
@@ -309,6 +323,21 @@ class Bench {
         }
         measure("sorted, all again", [&] { show->setCurrentIndex(0); });
         measure("as found again", [&] { sort->setCurrentIndex(0); });
+        measure("sort by name",
+                [&] { sort->setCurrentIndex(sort->findData(static_cast<int>(SortItems::Name))); });
+        measure("sort by place",
+                [&] { sort->setCurrentIndex(sort->findData(static_cast<int>(SortItems::Place))); });
+        measure("turned round", [&] { emit browser->detailsHeader()->sortWanted(SortItems::Place); });
+        measure("as found again", [&] { sort->setCurrentIndex(0); });
+        measure("details", [&] { c.detailsButton->setChecked(true); });
+        measure("details, scroll", [&] { scroll(browser); });
+        measure("details, select all", [&] { QTest::keyClick(browser, Qt::Key_A, Qt::ControlModifier); });
+        measure("cells again", [&] { c.detailsButton->setChecked(false); });
+        browser->setCurrentIndex(browser->model()->index(0, 0));
+        for (const char* const like : {"Select All of &Day", "Select All &Type"}) {
+            measure(like, [&] { chooseFromMenu(browser, QLatin1String(like)); });
+        }
+        browser->setCurrentIndex(browser->model()->index(0, 0));
         usePane(photo ? c.foundPane : c.foundPane_Sig);
         measure("tick all", [&] { c.tickShownItems(); });
         measure("tick one of all ticked", [&] { c.tickItems({7}, false); });
@@ -352,6 +381,14 @@ int main(int argc, char** argv) {
     for (const auto& [mode, name] : {std::pair{kPhotoMode, "photo"}, std::pair{kRawFileMode, "raw file"}}) {
         Bench(folder.filePath(QStringLiteral("empty.img"))).run(mode, name, 0);
         Bench(folder.filePath(QStringLiteral("full.img"))).run(mode, name, items);
+    }
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (status.open(QIODevice::ReadOnly)) {
+        for (const QByteArray& line : status.readAll().split('\n')) {
+            if (line.startsWith("VmHWM")) {
+                std::printf("most memory: %s\n", line.mid(6).trimmed().constData());
+            }
+        }
     }
     return 0;
 }

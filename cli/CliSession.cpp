@@ -7,9 +7,6 @@
 #include <algorithm>
 
 #include "catalogue/TypePresets.h"
-#include "cli/MovieMending.h"
-#include "repair/MovieCompletion.h"
-#include "repair/PhotoCompletion.h"
 #include "results/PreviewCopy.h"
 #include "saving/Sha256.h"
 #include "saving/ToldItem.h"
@@ -231,92 +228,6 @@ void CliSession::addImageWithData_2(const QByteArray& data, const QString& image
         save(itemAt(before)->imageTitle(), {});
         publish({});
     }
-}
-
-void CliSession::mend() {
-    if (stop_now != 0) {
-        return;
-    }
-    const auto medium = openMedium();
-    if (!medium) {
-        m_mendingFailed = true;
-        m_mendingLines.append(
-            QObject::tr("Broken files were left as they are: the medium cannot be opened."));
-        return;
-    }
-    std::vector<MendableItem> items;
-    for (std::size_t i = 0; i < m_publishedCount && i < m_reported.size(); ++i) {
-        if (const auto item = itemAt(i)) {
-            const SaveOutcome& outcome = m_reported[i].outcome;
-            items.push_back({item->type(), item->imageTitle(), item->carved(),
-                             outcome.verdict == Verdict::Complete, outcome.checked, outcome.bytes,
-                             outcome.pieces});
-        }
-    }
-    std::set<std::uint64_t> completed;
-    if (m_options.complete) {
-        completed = completeItems(*medium, items);
-    }
-    if (m_options.repairMovies) {
-        repairItems(*medium, items, completed);
-    }
-}
-
-// The first sectors of those that were written.
-std::set<std::uint64_t> CliSession::completeItems(SectorReader& medium,
-                                                  const std::vector<MendableItem>& items) {
-    // Pictures in a movie look like files of their own, and behind lengths alone anything may stand.
-    const CompletableKind movies{
-        QObject::tr("%1 of %2 broken movies completed, %3 more put together: please look"), isMovieOfBoxes,
-        [](const MendableItem& item) { return isMovieOfBoxes(item.type); },
-        [&](auto broken, auto whole) {
-            return MovieCompletion(medium, stop_now, m_completing).run(broken, whole);
-        }};
-    const CompletableKind photos{
-        QObject::tr("%1 of %2 broken photos completed, %3 more put together: please look"),
-        isPictureWithSyntax, [](const MendableItem& item) { return item.checked; },
-        [&](auto broken, auto whole) {
-            return PhotoCompletion(medium, stop_now, m_completing).run(broken, whole);
-        }};
-    std::set<std::uint64_t> firstSectors;
-    std::vector<SectorRun> whole;
-    const auto complete = [&](const CompletableKind& kind) {
-        Completed done =
-            completeBroken(kind, items, std::move(whole), medium, stop_now, m_options.saveFolder);
-        whole = std::move(done.whole);
-        firstSectors.merge(done.firstSectors);
-        m_mendingLines += done.lines;
-        m_mendingFailed = m_mendingFailed || done.failed;
-    };
-    // What a mode does not search for cannot be completed.
-    if (m_options.mode == kPhotoMode) {
-        m_mendingLines.append(QObject::tr("Movies are not searched for in photo mode, so none is completed"));
-    } else {
-        complete(movies);
-    }
-    if (m_options.mode != kVideoMode) {
-        complete(photos);
-    }
-    return firstSectors;
-}
-
-void CliSession::repairItems(SectorReader& medium, const std::vector<MendableItem>& items,
-                             const std::set<std::uint64_t>& completed) {
-    if (m_options.mode == kPhotoMode) {
-        m_mendingLines.append(QObject::tr("Movies are not searched for in photo mode, so none is repaired"));
-        return;
-    }
-    MovieMending mending(medium, stop_now);
-    mending.passOver(completed);
-    const QString complaint =
-        m_options.reference.isEmpty() ? QString() : mending.useReference(m_options.reference);
-    if (complaint.isEmpty()) {
-        mending.repair(items, m_options.saveFolder);
-        m_mendingLines += mending.lines();
-    } else {
-        m_mendingLines.append(complaint);
-    }
-    m_mendingFailed = m_mendingFailed || !complaint.isEmpty() || mending.failed();
 }
 
 PublishedItem CliSession::published(std::size_t index) const {

@@ -11,9 +11,9 @@
 #include <optional>
 #include <set>
 
-#include "cli/Completing.h"
 #include "cli/Options.h"
 #include "repair/CompletionProgress.h"
+#include "repair/ItemMending.h"
 #include "saving/RecoveryReport.h"
 #include "saving/SaveQueue.h"
 #include "saving/SaveTally.h"
@@ -135,9 +135,11 @@ class CliSession : private CliView, public ScanSession {
     void finishSaving();
     void nameWhatTheCardTellsNow();
     void saveToldFiles();
-    std::set<std::uint64_t> completeItems(SectorReader& medium, const std::vector<MendableItem>& items);
-    void repairItems(SectorReader& medium, const std::vector<MendableItem>& items,
-                     const std::set<std::uint64_t>& completed);
+    std::vector<MendableItem> mendableItems() const;
+    bool takeMend(const MendableItem& item, Mend mend, SectorReader& medium);
+    void completeItems(ItemMending& mending, const std::vector<MendableItem>& items);
+    void repairItems(ItemMending& mending, const std::vector<MendableItem>& items);
+    bool useReference(ItemMending& mending);
     QByteArray checksumOf(const PublishedItem& item) const;
     QJsonObject endLine() const;
 

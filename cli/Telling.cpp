@@ -37,16 +37,20 @@ void printTable(const CliSession& session) {
     for (std::size_t i = 0; i < session.publishedCount(); ++i) {
         const PublishedItem item = session.published(i);
         ++perType[item.type];
-        std::printf("%s  %-20s  sectors %s to %s  %s\n", qPrintable(item.pass), qPrintable(item.name),
-                    qPrintable(numberForPeople(item.firstSector)),
-                    qPrintable(numberForPeople(item.endSector)), qPrintable(sizeForPeople(item.bytes())));
+        const QString sectors = QObject::tr("sectors %1 to %2")
+                                    .arg(numberForPeople(item.firstSector), numberForPeople(item.endSector));
+        std::printf("%s  %-20s  %s  %s\n", qPrintable(item.pass), qPrintable(item.name), qPrintable(sectors),
+                    qPrintable(sizeForPeople(item.bytes())));
     }
     QStringList counts;
     for (auto type = perType.cbegin(); type != perType.cend(); ++type) {
         counts.append(QStringLiteral("%1 %2").arg(numberForPeople(type.value()), type.key()));
     }
-    std::printf("%s found%s%s\n", qPrintable(numberForPeople(session.publishedCount())),
-                counts.isEmpty() ? "" : ": ", qPrintable(counts.join(QStringLiteral(", "))));
+    const QString found = numberForPeople(session.publishedCount());
+    std::printf("%s\n",
+                qPrintable(counts.isEmpty()
+                               ? QObject::tr("%1 found").arg(found)
+                               : QObject::tr("%1 found: %2").arg(found, counts.join(QStringLiteral(", ")))));
 }
 
 void tellSaving(const CliSession& session, const CliOptions& options) {

@@ -46,10 +46,18 @@ function(vantor_share_headers name kind)
     endif()
 endfunction()
 
-# vantor_library(name SOURCES... [LINK libs...] [HEADERS kind]): a static library of one room, included as
-# "room/Header.h"; kind is Standard, Engine (if nothing is said) or Window.
+# vantor_join_files(name): compiles the files of name several at a time, where that is wanted. Names in their nameless
+# namespaces must then differ within name.
+function(vantor_join_files name)
+    if(VANTOR_UNITY)
+        set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 10)
+    endif()
+endfunction()
+
+# vantor_library(name SOURCES... [LINK libs...] [HEADERS kind] [APART]): a static library of one room, included as
+# "room/Header.h"; kind is Standard, Engine (if nothing is said) or Window. APART: its files are never joined.
 function(vantor_library name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "HEADERS" "SOURCES;LINK")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "APART" "HEADERS" "SOURCES;LINK")
     if(NOT arg_HEADERS)
         set(arg_HEADERS Engine)
     endif()
@@ -57,16 +65,24 @@ function(vantor_library name)
     target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR})
     target_link_libraries(${name} PUBLIC ${arg_LINK} PRIVATE vantor_options)
     vantor_share_headers(${name} ${arg_HEADERS})
+    if(NOT arg_APART)
+        vantor_join_files(${name})
+    endif()
 endfunction()
 
-# vantor_folders(sources...): defines the folders of sources and build for those that ask for them, and for no others:
-# an absolute path on the command line keeps the compiler cache from serving another checkout.
-function(vantor_folders)
+# vantor_folders(name sources...): defines the folders of sources and build for those of name's sources that ask for
+# them, and for no others: an absolute path on the command line keeps the compiler cache from serving another checkout.
+# Joined files have one command line, and paths of the checkout in them anyway.
+function(vantor_folders name)
+    set(folders VANTOR_SOURCE_DIR="${CMAKE_SOURCE_DIR}" VANTOR_BINARY_DIR="${CMAKE_BINARY_DIR}")
+    if(VANTOR_UNITY)
+        target_compile_definitions(${name} PRIVATE ${folders})
+        return()
+    endif()
     foreach(source IN LISTS ARGN)
         file(STRINGS ${source} uses REGEX "VANTOR_(SOURCE|BINARY)_DIR|decode/(Movie)?Fixtures.h" LIMIT_COUNT 1)
         if(uses)
-            set_property(SOURCE ${source} APPEND PROPERTY COMPILE_DEFINITIONS
-                VANTOR_SOURCE_DIR="${CMAKE_SOURCE_DIR}" VANTOR_BINARY_DIR="${CMAKE_BINARY_DIR}")
+            set_property(SOURCE ${source} APPEND PROPERTY COMPILE_DEFINITIONS ${folders})
         endif()
     endforeach()
 endfunction()
@@ -79,9 +95,10 @@ function(vantor_test_library name)
     endif()
     add_library(${name} STATIC ${arg_SOURCES})
     target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR})
-    vantor_folders(${arg_SOURCES})
+    vantor_folders(${name} ${arg_SOURCES})
     target_link_libraries(${name} PUBLIC ${arg_LINK} GTest::gtest PRIVATE vantor_options vantor_test_options)
     vantor_share_headers(${name} ${arg_HEADERS}Tests)
+    vantor_join_files(${name})
 endfunction()
 
 # vantor_hot(sources...): test code that loops over much data, compiled as the product is.
@@ -90,20 +107,32 @@ function(vantor_hot)
         COMPILE_OPTIONS $<$<CONFIG:RelWithDebInfo>:-O2> SKIP_PRECOMPILE_HEADERS ON)
 endfunction()
 
-# vantor_test(name SOURCES... LINK libs... [HEADERS kind] [ENV name=value...]): a GoogleTest program, one ctest
-# entry a test; HEADERS as for a library. Tests find their data through compile definitions, never through the
-# working directory. The time limit is for what hangs: on a busy machine everything takes ten times as long.
+# vantor_test(name SOURCES... LINK libs... [HEADERS kind] [APART] [FIRST] [ENV name=value...]): a GoogleTest program, one
+# ctest entry a test; HEADERS and APART as for a library. FIRST: its tests take long, so they begin before the others.
+# Tests find their data through compile definitions, never through the working directory. The time limit is for what
+# hangs: on a busy machine everything takes ten times as long.
 function(vantor_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "HEADERS" "SOURCES;LINK;ENV")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "APART;FIRST" "HEADERS" "SOURCES;LINK;ENV")
     if(NOT arg_HEADERS)
         set(arg_HEADERS Engine)
     endif()
     add_executable(${name} ${arg_SOURCES})
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR})
-    vantor_folders(${arg_SOURCES})
+    vantor_folders(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE ${arg_LINK} GTest::gtest GTest::gmock GTest::gtest_main vantor_options
         vantor_test_options)
     vantor_share_headers(${name} ${arg_HEADERS}Tests)
+    if(NOT arg_APART)
+        vantor_join_files(${name})
+        # Tests of nameless fixtures: in a file that is joined, gcc takes them for a header's.
+        if(VANTOR_UNITY AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+            target_compile_options(${name} PRIVATE -Wno-subobject-linkage)
+        endif()
+    endif()
+    set(cost 0)
+    if(arg_FIRST)
+        set(cost 60)
+    endif()
     gtest_discover_tests(${name} DISCOVERY_TIMEOUT 300
-        PROPERTIES TIMEOUT 600 ENVIRONMENT "QT_QPA_PLATFORM=offscreen;${arg_ENV}")
+        PROPERTIES TIMEOUT 600 COST ${cost} ENVIRONMENT "QT_QPA_PLATFORM=offscreen;${arg_ENV}")
 endfunction()

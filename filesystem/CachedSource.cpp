@@ -8,7 +8,7 @@ namespace vantor {
 namespace {
 
 constexpr std::size_t kMostPieces = 64;
-constexpr std::size_t kSector = 512;
+constexpr std::size_t kCachedSector = 512;
 
 }  // namespace
 
@@ -29,11 +29,12 @@ const CachedSource::Piece& CachedSource::piece(std::uint64_t number) {
     const std::uint64_t first = number * kPieceSectors;
     const std::uint64_t count = std::min(kPieceSectors, sectors() - first);
     Piece& made = m_pieces[number];
-    made.bytes.resize(count * kSector);
+    made.bytes.resize(count * kCachedSector);
     made.isRead.assign(count, true);
     if (!m_source.readAt(first, made.bytes)) {
         for (std::uint64_t i = 0; i < count; ++i) {
-            made.isRead[i] = m_source.readAt(first + i, {made.bytes.data() + i * kSector, kSector});
+            made.isRead[i] =
+                m_source.readAt(first + i, {made.bytes.data() + i * kCachedSector, kCachedSector});
         }
     }
     return made;
@@ -41,13 +42,13 @@ const CachedSource::Piece& CachedSource::piece(std::uint64_t number) {
 
 bool CachedSource::readAt(std::uint64_t sector, std::span<std::uint8_t> into) {
     bool all = true;
-    for (std::size_t done = 0; done < into.size(); done += kSector, ++sector) {
+    for (std::size_t done = 0; done < into.size(); done += kCachedSector, ++sector) {
         const Piece* from = sector < sectors() ? &piece(sector / kPieceSectors) : nullptr;
         const std::uint64_t inPiece = sector % kPieceSectors;
         if (from && from->isRead[inPiece]) {
-            std::memcpy(into.data() + done, from->bytes.data() + inPiece * kSector, kSector);
+            std::memcpy(into.data() + done, from->bytes.data() + inPiece * kCachedSector, kCachedSector);
         } else {
-            std::memset(into.data() + done, 0, kSector);
+            std::memset(into.data() + done, 0, kCachedSector);
             all = false;
         }
     }

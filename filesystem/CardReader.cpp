@@ -17,11 +17,11 @@ namespace vantor {
 
 namespace {
 
-using Sector = std::array<std::uint8_t, 512>;
+using SectorBytes = std::array<std::uint8_t, 512>;
 
-class Reader {
+class VolumesReader {
   public:
-    Reader(SectorSource& card, const CardTraces& traces, const std::vector<FoundStart>& found)
+    VolumesReader(SectorSource& card, const CardTraces& traces, const std::vector<FoundStart>& found)
         : m_card(card), m_traces(traces), m_found(found) {}
 
     CardTable read() {
@@ -69,7 +69,7 @@ class Reader {
     }
 
     std::optional<VolumeShape> shapeAt(std::uint64_t sector, std::uint64_t first) {
-        Sector bytes;
+        SectorBytes bytes;
         if (sector >= m_card.sectors() || !m_card.readAt(sector, bytes)) {
             return std::nullopt;
         }
@@ -106,7 +106,7 @@ class Reader {
         constexpr std::size_t kMost = 64;
         std::vector<VolumeShape> shapes;
         for (const std::uint64_t at : m_traces.bootSectors) {
-            Sector bytes;
+            SectorBytes bytes;
             if (at >= m_card.sectors() || shapes.size() >= kMost || !m_card.readAt(at, bytes)) {
                 continue;
             }
@@ -158,7 +158,7 @@ class Reader {
 }  // namespace
 
 CardTable readCard(SectorSource& card, const CardTraces& traces, const std::vector<FoundStart>& found) {
-    return Reader(card, traces, found).read();
+    return VolumesReader(card, traces, found).read();
 }
 
 }  // namespace vantor

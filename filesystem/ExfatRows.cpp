@@ -9,22 +9,22 @@ namespace vantor {
 
 namespace {
 
-using Row = std::span<const std::uint8_t>;
+using ExfatRow = std::span<const std::uint8_t>;
 
 // Types of rows; the highest bit says that the row is in use.
 constexpr std::uint8_t kInUse = 0x80;
 constexpr std::uint8_t kBitmap = 0x81;
 constexpr std::uint8_t kUpCase = 0x82;
-constexpr std::uint8_t kLabel = 0x83;
+constexpr std::uint8_t kLabelRow = 0x83;
 constexpr std::uint8_t kFile = 0x85;
 constexpr std::uint8_t kStream = 0xC0;
-constexpr std::uint8_t kName = 0xC1;
+constexpr std::uint8_t kNameRow = 0xC1;
 
 constexpr std::uint8_t kOnePiece = 0x02;
-constexpr std::size_t kCharactersPerRow = 15;
+constexpr std::size_t kCharactersPerNameRow = 15;
 
 // Over all rows of a set but the checksum itself, with the rows marked as in use.
-std::uint16_t checksumOf(Row set) {
+std::uint16_t checksumOf(ExfatRow set) {
     std::uint16_t sum = 0;
     for (std::size_t i = 0; i < set.size(); ++i) {
         if (i == 2 || i == 3) {
@@ -37,13 +37,13 @@ std::uint16_t checksumOf(Row set) {
 }
 
 // Rows of the set that begins in row `at`; nothing when none does, or not all of it is there.
-std::optional<Row> setAt(Row rows, std::size_t at) {
-    const Row first = rows.subspan(at * kRowBytes, kRowBytes);
+std::optional<ExfatRow> setAt(ExfatRow rows, std::size_t at) {
+    const ExfatRow first = rows.subspan(at * kRowBytes, kRowBytes);
     const std::size_t count = std::size_t{first[1]} + 1;
     if ((first[0] | kInUse) != kFile || count < 3 || count > 19 || count > rows.size() / kRowBytes - at) {
         return std::nullopt;
     }
-    const Row set = rows.subspan(at * kRowBytes, count * kRowBytes);
+    const ExfatRow set = rows.subspan(at * kRowBytes, count * kRowBytes);
     return checksumOf(set) == le16(set, 2) && (set[kRowBytes] | kInUse) == kStream ? std::optional(set)
                                                                                    : std::nullopt;
 }
@@ -57,12 +57,12 @@ std::optional<int> minutesEast(std::uint8_t zone) {
     return (steps >= 64 ? steps - 128 : steps) * 15;
 }
 
-std::optional<DirectoryEntry> entryOf(Row set) {
-    const Row stream = set.subspan(kRowBytes, kRowBytes);
+std::optional<DirectoryEntry> entryOf(ExfatRow set) {
+    const ExfatRow stream = set.subspan(kRowBytes, kRowBytes);
     DirectoryEntry entry;
     for (std::size_t row = 2; row < set.size() / kRowBytes; ++row) {
-        const Row part = set.subspan(row * kRowBytes, kRowBytes);
-        for (std::size_t i = 0; i < kCharactersPerRow && (part[0] | kInUse) == kName; ++i) {
+        const ExfatRow part = set.subspan(row * kRowBytes, kRowBytes);
+        for (std::size_t i = 0; i < kCharactersPerNameRow && (part[0] | kInUse) == kNameRow; ++i) {
             entry.name += QChar(le16(part, 2 + 2 * i));
         }
     }
@@ -87,10 +87,10 @@ DirectoryRows readExfatRows(std::span<const std::uint8_t> bytes) {
     DirectoryRows read;
     const std::size_t rows = bytes.size() / kRowBytes;
     for (std::size_t at = 0; at < rows; ++at) {
-        const Row row = bytes.subspan(at * kRowBytes, kRowBytes);
+        const ExfatRow row = bytes.subspan(at * kRowBytes, kRowBytes);
         if (row[0] == 0) {
             read.ended = true;
-        } else if (row[0] == kLabel && row[1] <= 11 && !read.ended) {
+        } else if (row[0] == kLabelRow && row[1] <= 11 && !read.ended) {
             read.label.clear();
             for (std::size_t i = 0; i < row[1]; ++i) {
                 read.label += QChar(le16(row, 2 + 2 * i));
@@ -116,7 +116,7 @@ bool looksLikeExfatRows(const std::uint8_t* sector) {
     bool hasEntry = false;
     bool ended = false;
     for (std::size_t at = 0; at < 512; at += kRowBytes) {
-        const Row row(sector + at, kRowBytes);
+        const ExfatRow row(sector + at, kRowBytes);
         if (row[0] == 0) {
             ended = true;
             continue;
@@ -137,14 +137,14 @@ bool looksLikeExfatRows(const std::uint8_t* sector) {
                 }
                 hasEntry = true;
                 break;
-            case kName:
+            case kNameRow:
                 if (ended || row[1] != 0 || le16(row, 2) == 0) {
                     return false;
                 }
                 break;
             case kBitmap:
             case kUpCase:
-            case kLabel:
+            case kLabelRow:
             case 0xA0:
             case 0xE0:
             case 0xE1:

@@ -11,13 +11,13 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kMostTraceSectors = std::uint64_t{1} << 21;
-constexpr std::size_t kMostRecords = 1'000'000;
+constexpr std::uint64_t kMostRecordSectors = std::uint64_t{1} << 21;
+constexpr std::size_t kMostLostRecords = 1'000'000;
 // Files that are looked at where a shape puts them, for each shape.
-constexpr std::size_t kMostLooks = 256;
-constexpr std::size_t kMostSightings = 400'000;
-constexpr std::size_t kMostPlaces = 2048;
-constexpr std::size_t kLeastVotes = 3;
+constexpr std::size_t kMostRecordLooks = 256;
+constexpr std::size_t kMostRecordSightings = 400'000;
+constexpr std::size_t kMostRecordPlaces = 2048;
+constexpr std::size_t kLeastRecordVotes = 3;
 
 bool hasPlace(const NtfsRecord& record) {
     return !record.isFolder && !record.name.isEmpty() && record.isPlain && record.firstCluster == 0 &&
@@ -44,11 +44,11 @@ void LostRecords::tell(const std::vector<SectorRun>& traces, const std::vector<S
 std::vector<NtfsRecord> LostRecords::recordsAt(const std::vector<SectorRun>& traces,
                                                const std::vector<SectorRun>& known) {
     std::vector<NtfsRecord> records;
-    std::uint64_t left = kMostTraceSectors;
+    std::uint64_t left = kMostRecordSectors;
     std::vector<std::uint8_t> bytes;
     for (const SectorRun& run : traces) {
         const std::uint64_t end = std::min(run.end, m_card.sectors());
-        for (std::uint64_t at = run.first; at < end && left > 0 && records.size() < kMostRecords;) {
+        for (std::uint64_t at = run.first; at < end && left > 0 && records.size() < kMostLostRecords;) {
             bytes.resize(512);
             const bool isRead = !isIn(known, at) && m_card.readAt(at, bytes);
             const std::size_t sectors = isRead ? sectorsOfNtfsRecord(bytes.data()) : 0;
@@ -87,7 +87,7 @@ std::optional<VolumeShape> LostRecords::shapeOf(const std::vector<NtfsRecord>& r
         std::size_t looks = 0;
         std::size_t hits = 0;
         for (const NtfsRecord& record : records) {
-            if (hasPlace(record) && ++looks <= kMostLooks) {
+            if (hasPlace(record) && ++looks <= kMostRecordLooks) {
                 hits += standsThere(record, shape) ? 1 : 0;
             }
         }
@@ -108,13 +108,13 @@ std::optional<VolumeShape> LostRecords::votedShape(const std::vector<NtfsRecord>
             continue;
         }
         const auto cluster = static_cast<std::uint32_t>(record.runs.front().first + kFirstNumber);
-        for (const std::uint64_t sector : m_found.ofKind(record.name, kMostPlaces)) {
-            if (sightings.size() < kMostSightings) {
+        for (const std::uint64_t sector : m_found.ofKind(record.name, kMostRecordPlaces)) {
+            if (sightings.size() < kMostRecordSightings) {
                 sightings.push_back({cluster, sector});
             }
         }
     }
-    const auto places = voteForClusters(sightings, kLeastVotes);
+    const auto places = voteForClusters(sightings, kLeastRecordVotes);
     if (!places || places->firstCluster >= m_card.sectors()) {
         return std::nullopt;
     }

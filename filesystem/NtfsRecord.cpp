@@ -12,7 +12,7 @@ namespace {
 using Bytes = std::span<const std::uint8_t>;
 
 constexpr std::uint32_t kTimes = 0x10;
-constexpr std::uint32_t kName = 0x30;
+constexpr std::uint32_t kNameAttribute = 0x30;
 constexpr std::uint32_t kData = 0x80;
 constexpr std::uint32_t kEnd = 0xFFFFFFFF;
 constexpr std::uint8_t kShortNamesOnly = 2;
@@ -124,7 +124,7 @@ void readAttribute(Bytes attribute, NtfsRecord& record) {
     if (type == kTimes) {
         record.created = secondsOf(le64(value, 0));
         record.modified = secondsOf(le64(value, 8));
-    } else if (type == kName) {
+    } else if (type == kNameAttribute) {
         readName(value, record);
     }
 }

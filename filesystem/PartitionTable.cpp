@@ -20,9 +20,9 @@ bool isExtended(std::uint8_t type) {
     return type == 0x05 || type == 0x0F || type == 0x85;
 }
 
-class Reader {
+class TableReader {
   public:
-    explicit Reader(SectorSource& card) : m_card(card) {}
+    explicit TableReader(SectorSource& card) : m_card(card) {}
 
     std::vector<SectorRun> read() {
         readRecord();
@@ -114,7 +114,7 @@ class Reader {
 }  // namespace
 
 std::vector<SectorRun> partitionsOf(SectorSource& card) {
-    return card.sectors() == 0 ? std::vector<SectorRun>{} : Reader(card).read();
+    return card.sectors() == 0 ? std::vector<SectorRun>{} : TableReader(card).read();
 }
 
 }  // namespace vantor

@@ -37,8 +37,8 @@ struct Facts {
 struct Extent {
     Verdict verdict = Verdict::Unknown;
 
-    // How many bytes from the first are worth keeping. Complete: the file's length. CutOff and Damaged: up to
-    // the last place that still belongs to the file. Never more than the source holds.
+    // Bytes from the first that are worth keeping. Complete: the file's length. CutOff and Damaged: up to the
+    // last that still belong to the file. Unknown: a tag in front, else 0. Never more than the source holds.
     std::uint64_t end = 0;
 
     // False where the format does not mark its end and `end` is the last byte that still fits it (plain text,

@@ -1,9 +1,10 @@
 // Date and pixel size from the index boxes of movies and HEIF pictures. Sources: ISO/IEC 14496-12, 23008-12.
 #include <algorithm>
 #include <cstring>
+#include <limits>
 
 #include "formats/Dates.h"
-#include "formats/IsoBox.h"
+#include "formats/IsoItemPlaces.h"
 #include "formats/TiffDirectory.h"
 
 namespace vantor {
@@ -91,34 +92,13 @@ struct ItemPlace {
 
 // Where items lie in the file, as the location box tells.
 ItemPlace readLocations(ByteView& view, const IsoBox& locations, std::uint32_t wanted) {
-    Cursor in(view, locations.body);
-    const auto version = in.u8();
-    in.skip(3);
-    const auto widths = in.u16();
-    const auto sized = [&](int shift) -> std::uint64_t {
-        const auto width = widths >> shift & 15;
-        return width == 0 ? 0 : width == 4 ? in.u32() : in.u64();
-    };
     ItemPlace place;
-    const std::uint32_t items = version < 2 ? in.u16() : in.u32();
-    for (std::uint32_t i = 0; i < items && in.ok() && in.at() < locations.end; ++i) {
-        const std::uint32_t item = version < 2 ? in.u16() : in.u32();
-        const auto method = version == 0 ? 0 : in.u16() & 15;  // 0: in the file, 1: inside the meta box
-        const auto reference = in.u16();                       // 0: this file
-        const auto base = sized(4);
-        const auto extents = in.u16();
-        for (std::uint16_t extent = 0; extent < extents && in.ok() && in.at() < locations.end; ++extent) {
-            if (version != 0)
-                sized(0);
-            const auto at = addClamped(base, sized(12));
-            const auto bytes = sized(8);
-            if (method != 0 || reference != 0 || !in.ok())
-                continue;
-            place.end = std::max(place.end, addClamped(at, bytes));
-            if (item == wanted && place.wanted == 0)
-                place.wanted = at;
-        }
-    }
+    forItemPieces(view, locations, std::numeric_limits<std::uint32_t>::max(), [&](const IsoItemPiece& piece) {
+        place.end = std::max(place.end, addClamped(piece.at, piece.bytes));
+        if (piece.item == wanted && place.wanted == 0)
+            place.wanted = piece.at;
+        return true;
+    });
     return place;
 }
 

@@ -3,6 +3,7 @@
 #include <array>
 #include <optional>
 
+#include "formats/IsoItemPlaces.h"
 #include "formats/IsoSamples.h"
 
 namespace vantor {
@@ -63,44 +64,23 @@ unsigned lengthBytesOf(ByteView& view, const IsoBox& properties) {
 
 ContentCheck checkLocated(ByteView& view, const IsoBox& locations, const CodedItems& coded,
                           unsigned lengthBytes) {
-    Cursor in(view, locations.body);
-    const auto version = in.u8();
-    in.skip(3);
-    const auto widths = in.u16();
-    const auto sized = [&](int shift) -> std::uint64_t {
-        const auto width = widths >> shift & 15;
-        return width == 0 ? 0 : width == 4 ? in.u32() : in.u64();
-    };
     ContentCheck check;
     std::uint64_t widest = 0, all = 0;
-    const std::uint32_t items = version < 2 ? in.u16() : in.u32();
-    for (std::uint32_t i = 0;
-         i < std::min<std::uint32_t>(items, kMostBoxes) && in.ok() && in.at() < locations.end; ++i) {
-        const std::uint32_t number = version < 2 ? in.u16() : in.u32();
-        const auto method = version == 0 ? 0 : in.u16() & 15;
-        const auto reference = in.u16();
-        const auto base = sized(4);
-        const auto extents = in.u16();
-        if (extents != 1) {  // only what lies in one piece can be followed
-            const int index = version == 0 ? 0 : widths & 15;
-            in.skip(std::uint64_t{extents} *
-                    static_cast<unsigned>((widths >> 12 & 15) + (widths >> 8 & 15) + index));
-            continue;
+    forItemPieces(view, locations, kMostBoxes, [&](const IsoItemPiece& piece) {
+        const Coding coding = coded.codingOfItem(piece.item);
+        // Only what lies in one piece can be followed.
+        if (piece.pieces != 1 || coding == Coding::Unknown || !view.holds(piece.at, piece.bytes))
+            return true;
+        const auto blind = lookAtSample(view, coding, lengthBytes, piece.at, piece.bytes);
+        if (!blind) {
+            check.outcome = ContentCheck::Outcome::Broken;
+            return false;
         }
-        if (version != 0)
-            sized(0);
-        const auto at = addClamped(base, sized(12));
-        const auto bytes = sized(8);
-        const Coding coding = coded.codingOfItem(number);
-        if (!in.ok() || method != 0 || reference != 0 || coding == Coding::Unknown || !view.holds(at, bytes))
-            continue;
-        const auto blind = lookAtSample(view, coding, lengthBytes, at, bytes);
-        if (!blind)
-            return {ContentCheck::Outcome::Broken};
         widest = std::max(widest, *blind);
-        all = addClamped(all, bytes);
-    }
-    if (isEnough(widest, all))
+        all = addClamped(all, piece.bytes);
+        return true;
+    });
+    if (check.outcome != ContentCheck::Outcome::Broken && isEnough(widest, all))
         check.outcome = ContentCheck::Outcome::Sound;
     return check;
 }

@@ -16,17 +16,16 @@ namespace vantor {
 
 namespace {
 
-constexpr auto kPollTime = std::chrono::milliseconds(50);
+constexpr auto kCallerPollTime = std::chrono::milliseconds(50);
 constexpr std::size_t kPage = 4096;
-
-struct FreeMemory {
-    void operator()(std::uint8_t* p) const { std::free(p); }
-};
 
 }  // namespace
 
 struct AbandonableSource::Shared {
     enum class Stage { Working, Idle, Ended };
+    struct FreeMemory {
+        void operator()(std::uint8_t* p) const { std::free(p); }
+    };
 
     // False when the wait was given up.
     bool waitUntilIdle(std::unique_lock<std::mutex>& lock, const StopRequest& stop);
@@ -54,7 +53,7 @@ bool AbandonableSource::Shared::waitUntilIdle(std::unique_lock<std::mutex>& lock
     using Clock = std::chrono::steady_clock;
     Clock::time_point giveUp = Clock::time_point::max();
     while (stage == Stage::Working) {
-        callerWakes.wait_for(lock, kPollTime);
+        callerWakes.wait_for(lock, kCallerPollTime);
         if (stage != Stage::Working) {
             break;
         }

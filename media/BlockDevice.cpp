@@ -13,6 +13,7 @@
 #include <thread>
 #include <utility>
 
+#include "media/AlignUp.h"
 #include "media/PositionedRead.h"
 #include "media/SectorReader.h"
 
@@ -31,12 +32,7 @@ constexpr auto kNoticeTime = 3s;
 constexpr auto kNoticeStep = 100ms;
 
 // Unbuffered requests need memory aligned to the block.
-constexpr std::size_t kAlignment = 65536;
-
-std::uint8_t* alignUp(std::uint8_t* p) {
-    const auto address = reinterpret_cast<std::uintptr_t>(p);
-    return p + (kAlignment - address % kAlignment) % kAlignment;
-}
+constexpr std::size_t kBlockAlignment = 65536;
 
 bool errorMeansGone(int error) {
     return error == ENODEV || error == ENXIO || error == ENOMEDIUM || error == EBADF;
@@ -107,10 +103,10 @@ std::int64_t BlockDevice::ask(std::uint64_t sector, std::span<std::uint8_t> into
     const std::uint64_t end = (sector + into.size() / kSectorBytes + block - 1) / block * block;
     const std::size_t bytes = (end - first) * kSectorBytes;
     if (m_blocksBytes < bytes) {
-        m_blocks.reset(new std::uint8_t[bytes + kAlignment]);
+        m_blocks.reset(new std::uint8_t[bytes + kBlockAlignment]);
         m_blocksBytes = bytes;
     }
-    std::uint8_t* const blocks = alignUp(m_blocks.get());
+    std::uint8_t* const blocks = alignUp(m_blocks.get(), kBlockAlignment);
     const std::int64_t got = positionedRead(m_descriptor.get(), first * kSectorBytes, {blocks, bytes});
     const std::size_t skipped = (sector - first) * kSectorBytes;
     if (got <= 0) {

@@ -7,17 +7,14 @@
 #include <optional>
 #include <utility>
 
+#include "media/AlignUp.h"
+
 namespace vantor {
 
 namespace {
 
 // Unbuffered descriptors ask for aligned memory; a page satisfies all of them.
-constexpr std::size_t kAlignment = 4096;
-
-std::uint8_t* alignUp(std::uint8_t* p) {
-    const auto address = reinterpret_cast<std::uintptr_t>(p);
-    return p + (kAlignment - address % kAlignment) % kAlignment;
-}
+constexpr std::size_t kPageBytes = 4096;
 
 }  // namespace
 
@@ -25,8 +22,8 @@ WindowedReader::WindowedReader(std::unique_ptr<BlockSource> source, Fetching fet
                                std::size_t windowSectors)
     : m_source(std::move(source)),
       m_windowSectors(windowSectors),
-      m_storage(new std::uint8_t[2 * windowSectors * kSectorBytes + kAlignment]),
-      m_front(alignUp(m_storage.get())),
+      m_storage(new std::uint8_t[2 * windowSectors * kSectorBytes + kPageBytes]),
+      m_front(alignUp(m_storage.get(), kPageBytes)),
       m_back(m_front + windowSectors * kSectorBytes) {
     // On a single processor two threads would only take turns.
     if (fetching == Fetching::Ahead && std::thread::hardware_concurrency() > 1) {

@@ -1,8 +1,11 @@
-// How far putting broken files together has come.
+// How far putting broken files together has come, and what came of it.
 #pragma once
 
 #include <atomic>
 #include <cstddef>
+#include <functional>
+
+#include "results/Assembly.h"
 
 namespace vantor {
 
@@ -11,5 +14,8 @@ struct CompletionProgress {
     std::atomic<std::size_t> looked{0};
     std::atomic<std::size_t> of{0};
 };
+
+// Takes the pieces of one of the broken files, by its place among those that were given.
+using AssemblyFound = std::function<void(std::size_t broken, const Assembly& pieces)>;
 
 }  // namespace vantor

@@ -21,7 +21,7 @@ bool isWhole(const PiecedMovie& movie) {
 }
 
 // The best that was found of one movie so far.
-struct Found {
+struct FoundMovie {
     PiecedMovie movie;
     std::size_t grid = 0;
     bool settled = false;
@@ -30,7 +30,8 @@ struct Found {
 }  // namespace
 
 std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::uint64_t> broken,
-                                                          std::span<const SectorRun> whole) {
+                                                          std::span<const SectorRun> whole,
+                                                          const AssemblyFound& tell) {
     std::vector<std::optional<Assembly>> assemblies(broken.size());
     if (broken.empty()) {
         return assemblies;
@@ -50,8 +51,8 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
             grids.back().take(run);
         }
     }
-    std::vector<std::optional<Found>> found(broken.size());
-    const auto settle = [&](std::size_t i, Found& movie) {
+    std::vector<std::optional<FoundMovie>> found(broken.size());
+    const auto settle = [&](std::size_t i, FoundMovie& movie) {
         movie.settled = true;
         const std::vector<SectorRun> runs =
             runsOfClusters(movie.movie.clusters, movie.movie.bytes, grids[movie.grid]);
@@ -66,6 +67,9 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
                              (movie.movie.decodable && decodesWholly(file, movie.movie.samples, m_options)));
         assemblies[i] =
             Assembly{runs, movie.movie.bytes, proved ? AssemblyProof::Proved : AssemblyProof::Likely, false};
+        if (tell) {
+            tell(i, *assemblies[i]);
+        }
     };
     // Whole ones first; then what is left is looked for in what they leave, until nothing changes.
     for (bool again = true; again && m_stop == 0;) {
@@ -80,7 +84,7 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
                 if (!movie || (found[i] && movie->wholeSamples <= found[i]->movie.wholeSamples)) {
                     continue;
                 }
-                found[i] = Found{std::move(*movie), g, false};
+                found[i] = FoundMovie{std::move(*movie), g, false};
                 if (isWhole(found[i]->movie)) {
                     settle(i, *found[i]);
                     again = true;

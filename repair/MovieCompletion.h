@@ -22,9 +22,11 @@ class MovieCompletion {
 
     // For each of the first sectors of broken movies: its pieces, where they were found. `whole`: what whole
     // files explain. Proved are those of which every sample is where the index says, to its last byte, and
-    // whose pictures decode without an error wherever a place was chosen among several.
+    // whose pictures decode without an error wherever a place was chosen among several. `tell` is told of
+    // each at once.
     std::vector<std::optional<Assembly>> run(std::span<const std::uint64_t> broken,
-                                             std::span<const SectorRun> whole);
+                                             std::span<const SectorRun> whole,
+                                             const AssemblyFound& tell = {});
 
   private:
     SectorReader& m_medium;

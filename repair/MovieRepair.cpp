@@ -11,7 +11,7 @@ namespace vantor {
 
 namespace {
 
-constexpr int kMostBoxes = 64;
+constexpr int kMostOuterBoxes = 64;
 constexpr double kNoLimitSeconds = 1e9;
 constexpr std::uint64_t kMostSoundAtOnce = std::uint64_t{8} << 20;
 
@@ -172,7 +172,7 @@ std::optional<DataPlace> dataWithoutIndex(ByteSource& movie) {
     ByteView view(movie);
     std::uint64_t at = 0;
     std::optional<DataPlace> data;
-    for (int i = 0; i < kMostBoxes; ++i) {
+    for (int i = 0; i < kMostOuterBoxes; ++i) {
         const auto box = readIsoBox(view, at);
         if (!box || (i == 0 && box->text() != "ftyp" && box->text() != "mdat" && box->text() != "wide")) {
             break;

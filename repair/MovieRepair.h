@@ -11,23 +11,17 @@
 #include "formats/IsoSamples.h"
 #include "repair/MovieWalk.h"
 #include "repair/ReferenceMovie.h"
+#include "results/Mend.h"
 
 namespace vantor {
 
-// The twin of a movie is `head`, the movie's own bytes [data.from, data.to), and `index`.
-struct RepairedMovie {
-    QByteArray head;
-    DataPlace data;
-    QByteArray index;
+// A twin of the movie, and what is in it.
+struct RepairedMovie : Twin {
     std::size_t pictures = 0;
     unsigned slices = 0;  // of the first picture
     double pictureSeconds = 0;
     double soundSeconds = 0;
     std::uint64_t unexplainedBytes = 0;  // between the samples
-
-    std::uint64_t bytes() const {
-        return static_cast<std::uint64_t>(head.size() + index.size()) + (data.to - data.from);
-    }
 };
 
 // Where the data of a movie lies that has no index; nothing where it has one, or is no movie. `to` is where

@@ -13,7 +13,7 @@ namespace vantor {
 
 namespace {
 
-struct Found {
+struct FoundPhoto {
     std::vector<std::uint64_t> clusters;
     std::uint64_t bytes = 0;
     bool proved = false;
@@ -42,7 +42,8 @@ bool isExplained(MediumBlocks& medium, const FreeClusters& grid, std::uint64_t f
 }  // namespace
 
 std::vector<std::optional<Assembly>> PhotoCompletion::run(std::span<const std::uint64_t> broken,
-                                                          std::span<const SectorRun> whole) {
+                                                          std::span<const SectorRun> whole,
+                                                          const AssemblyFound& tell) {
     std::vector<std::optional<Assembly>> assemblies(broken.size());
     if (broken.empty()) {
         return assemblies;
@@ -77,12 +78,12 @@ std::vector<std::optional<Assembly>> PhotoCompletion::run(std::span<const std::u
                 if (!first || !grid.isFree(*first) || unitsLeft[i] == 0) {
                     continue;
                 }
-                std::optional<Found> found;
+                std::optional<FoundPhoto> found;
                 if (auto photo = PhotoPieces(blocks, grid, kinds, m_stop).assemble(*first, unitsLeft[i])) {
                     const bool proved = photo->joinsShow && isWholeFile(blocks, grid, *photo);
-                    found = Found{std::move(photo->clusters), photo->bytes, proved};
+                    found = FoundPhoto{std::move(photo->clusters), photo->bytes, proved};
                 } else if (auto png = PngPieces(blocks, grid, m_stop).assemble(*first)) {
-                    found = Found{std::move(png->clusters), png->bytes, true};
+                    found = FoundPhoto{std::move(png->clusters), png->bytes, true};
                 }
                 if (!found) {
                     continue;
@@ -99,6 +100,9 @@ std::vector<std::optional<Assembly>> PhotoCompletion::run(std::span<const std::u
                 }
                 assemblies[i] = Assembly{
                     runs, found->bytes, found->proved ? AssemblyProof::Proved : AssemblyProof::Likely, false};
+                if (tell) {
+                    tell(i, *assemblies[i]);
+                }
             }
         }
     }

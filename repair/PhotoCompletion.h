@@ -21,8 +21,10 @@ class PhotoCompletion {
     // For each of the first sectors of broken JPEG and PNG pictures: its pieces, where they were found.
     // `whole`: what whole files explain. Of JPEG every unit is there, and the end mark behind the last;
     // proved are those in which a foreign piece would have shown by the row above. Of PNG every sum is right.
+    // `tell` is told of each at once.
     std::vector<std::optional<Assembly>> run(std::span<const std::uint64_t> broken,
-                                             std::span<const SectorRun> whole);
+                                             std::span<const SectorRun> whole,
+                                             const AssemblyFound& tell = {});
 
   private:
     SectorReader& m_medium;

@@ -12,9 +12,9 @@ namespace vantor {
 namespace {
 
 constexpr std::uint64_t kMostBoxBytes = 256 * 1024;
-constexpr std::size_t kMostSamples = 20'000;  // that are looked at: minutes
+constexpr std::size_t kMostSamplesSeen = 20'000;  // that are looked at: minutes
 constexpr int kMostTopBoxes = 64;
-constexpr std::size_t kPicturesTried = 8;
+constexpr std::size_t kPicturesLearntFrom = 8;
 
 QByteArray bytesOf(ByteView& view, const IsoBox& box) {
     if (box.end <= box.at || box.end - box.at > kMostBoxBytes) {
@@ -179,7 +179,7 @@ void learnHeads(ByteView& view, const std::vector<IsoSample>& pictures, PictureS
 bool isUnderstood(ByteView& view, const std::vector<IsoSample>& pictures, ReferenceMovie& movie) {
     std::map<unsigned, int> slices;
     std::size_t right = 0;
-    const std::size_t tried = std::min(pictures.size(), kPicturesTried);
+    const std::size_t tried = std::min(pictures.size(), kPicturesLearntFrom);
     for (std::size_t i = 0; i < tried; ++i) {
         const auto picture = pictureAt(view, movie.syntax, pictures[i].at, view.size());
         if (picture && picture->end <= addClamped(pictures[i].at, pictures[i].bytes)) {
@@ -270,7 +270,7 @@ std::optional<ReferenceMovie> readReference(ByteSource& source) {
     movie.typeBox = typeBoxOf(source);
     movie.video = trackOf(view, *pictures);
     const auto syntax = syntaxOf(*pictures, movie.video.description);
-    const auto samples = samplesOf(view, *pictures, kMostSamples);
+    const auto samples = samplesOf(view, *pictures, kMostSamplesSeen);
     if (!syntax || !isUsable(movie.video) || samples.empty()) {
         return std::nullopt;
     }
@@ -286,7 +286,7 @@ std::optional<ReferenceMovie> readReference(ByteSource& source) {
         movie.soundConfiguration = soundConfigurationOf(track);
         if (isUsable(track) && (movie.plainSoundBytes != 0 || !movie.soundConfiguration.isEmpty())) {
             movie.sound = track;
-            learnSound(view, samplesOf(view, *sound, kMostSamples), movie);
+            learnSound(view, samplesOf(view, *sound, kMostSamplesSeen), movie);
         }
     }
     return movie;

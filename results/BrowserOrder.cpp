@@ -2,6 +2,7 @@
 #include "results/BrowserOrder.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <tuple>
 #include <vector>
 
@@ -18,9 +19,6 @@ bool isSmall(const Soundness& soundness, const BrowserWish& wish) {
 
 bool isShown(const ItemFacts& facts, const BrowserWish& wish) {
     if (!wish.type.isEmpty() && facts.type != wish.type) {
-        return false;
-    }
-    if (!wish.name.isEmpty() && !facts.names.contains(wish.name, Qt::CaseInsensitive)) {
         return false;
     }
     const auto& soundness = facts.soundness;
@@ -46,6 +44,8 @@ bool isShown(const ItemFacts& facts, const BrowserWish& wish) {
             return !soundness || !soundness->notOfItsType;
         case ShowItems::Lost:
             return !facts.stillThere;
+        case ShowItems::Mended:
+            return facts.mend || (soundness && soundness->pieces > 1);
     }
     return true;
 }
@@ -55,6 +55,18 @@ using SortKey = std::tuple<int, std::int64_t, QString>;
 constexpr int kNotKnown = 100;
 
 SortKey keyOf(const ItemFacts& facts, SortItems sort) {
+    switch (sort) {
+        case SortItems::AsFound:
+            return {0, 0, {}};
+        case SortItems::Name:
+            return {0, 0, facts.name.toCaseFolded()};
+        case SortItems::Type:
+            return {0, 0, facts.type.toCaseFolded()};
+        case SortItems::Place:
+            return {0, static_cast<std::int64_t>(std::min<std::uint64_t>(facts.place, INT64_MAX)), {}};
+        default:
+            break;
+    }
     if (sort == SortItems::OriginalName && facts.original) {
         return {0, 0, originalPath(*facts.original).toCaseFolded()};
     }
@@ -63,8 +75,6 @@ SortKey keyOf(const ItemFacts& facts, SortItems sort) {
     }
     const Soundness& soundness = *facts.soundness;
     switch (sort) {
-        case SortItems::AsFound:
-            return {0, 0, {}};
         case SortItems::Soundness: {
             static constexpr int kRank[] = {3, 0, 1, 2};  // by Verdict
             // Of complete ones those whose content was checked come first.
@@ -76,8 +86,16 @@ SortKey keyOf(const ItemFacts& facts, SortItems sort) {
             return {0, -static_cast<std::int64_t>(soundness.bytes), {}};
         case SortItems::OriginalName:
             return {kNotKnown - 1, 0, {}};
-        case SortItems::DateTaken:
-            break;
+        case SortItems::Camera:
+            return {soundness.camera.isEmpty() ? kNotKnown - 1 : 0, 0, soundness.camera.toCaseFolded()};
+        case SortItems::Pixels: {
+            const std::uint64_t pixels = std::uint64_t{soundness.width} * soundness.height;
+            return {pixels == 0 ? kNotKnown - 1 : 0,
+                    -static_cast<std::int64_t>(std::min<std::uint64_t>(pixels, INT64_MAX)),
+                    {}};
+        }
+        default:
+            break;  // by the date
     }
     if (!soundness.taken) {
         return {kNotKnown - 1, 0, {}};
@@ -95,7 +113,8 @@ SortKey keyOf(const ItemFacts& facts, SortItems sort) {
 }  // namespace
 
 bool BrowserWish::needsSoundness() const {
-    const bool sorted = sort != SortItems::AsFound;
+    const bool sorted = sort != SortItems::AsFound && sort != SortItems::Name && sort != SortItems::Type &&
+                        sort != SortItems::Place;
     return sorted || (show != ShowItems::All && show != ShowItems::NotSaved && show != ShowItems::Lost);
 }
 
@@ -112,6 +131,12 @@ QList<int> browserOrder(int count, const BrowserWish& wish, const std::function<
         }
     }
     std::sort(chosen.begin(), chosen.end());
+    if (wish.reversed) {
+        const auto known = std::partition_point(chosen.begin(), chosen.end(), [](const auto& item) {
+            return std::get<0>(item.first) < kNotKnown - 1;
+        });
+        std::reverse(chosen.begin(), known);
+    }
     QList<int> order;
     order.reserve(static_cast<qsizetype>(chosen.size()));
     for (const auto& item : chosen) {

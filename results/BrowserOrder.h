@@ -11,6 +11,8 @@
 
 namespace vantor {
 
+struct Mend;
+
 enum class ShowItems {
     All,
     Complete,
@@ -20,9 +22,11 @@ enum class ShowItems {
     NotSaved,
     NotSmall,
     OfItsType,
-    Lost
+    Lost,
+    Mended
 };
-enum class SortItems { AsFound, Soundness, Size, DateTaken, OriginalName };
+// By Soundness whole items come first, by Size and Pixels the largest ones, by DateTaken the oldest.
+enum class SortItems { AsFound, Soundness, Size, DateTaken, OriginalName, Name, Type, Camera, Pixels, Place };
 
 // Below these an item counts as small in the browser: what cameras and documents embed, not what people make.
 inline constexpr std::uint32_t kSmallPixels = 320;
@@ -33,16 +37,19 @@ struct ItemFacts {
     std::optional<Soundness> soundness;
     bool readFailed = false;  // while it was searched for
     bool saved = false;
-    QString type = {};                              // as the results count it; only where a type is asked for
+    QString type = {};                              // as the results count it; only where it is asked for
     std::shared_ptr<const CardFile> original = {};  // what the card tells of it
     bool stillThere = false;                        // it lies in a file that the card still holds
     bool ticked = false;                            // for saving
-    QString names = {};  // all that it is called, a line each; only where a name is asked for
+    std::shared_ptr<const Mend> mend = {};          // what was made of it where it is broken
+    QString name = {};                              // only where the items are sorted by it
+    std::uint64_t place = 0;                        // first sector; likewise
 };
 
 struct BrowserWish {
     ShowItems show = ShowItems::All;
     SortItems sort = SortItems::AsFound;
+    bool reversed = false;  // but what is not known stays last
     std::uint32_t smallPixels = kSmallPixels;
     std::uint64_t smallBytes = kSmallBytes;
     QString type = {};  // empty: every type
@@ -50,8 +57,8 @@ struct BrowserWish {
     QString name = {};  // part of a name, in either case; empty: every name
 
     bool isPlain() const {
-        return show == ShowItems::All && sort == SortItems::AsFound && type.isEmpty() && facets.isEmpty() &&
-               name.isEmpty();
+        return show == ShowItems::All && sort == SortItems::AsFound && !reversed && type.isEmpty() &&
+               facets.isEmpty() && name.isEmpty();
     }
     // Whether it takes the soundness of all items to grant it.
     bool needsSoundness() const;
@@ -59,7 +66,7 @@ struct BrowserWish {
 
 // Places in the list of `count` items. Items of which too little is known are shown where something is to be
 // left out and not shown where something is asked for; they come last in any order but the found one. Of the
-// wish's facets `admits` knows; without it every item has them.
+// wish's facets and name `admits` knows; without it every item has them.
 QList<int> browserOrder(int count, const BrowserWish& wish, const std::function<ItemFacts(int)>& factsOf,
                         const std::function<bool(int)>& admits = {});
 

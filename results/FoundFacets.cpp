@@ -15,6 +15,9 @@ constexpr std::uint64_t kBounds[] = {100'000, 1'000'000, 10'000'000, 100'000'000
 // More types or cameras than this are counted as one; a card may be written so that there are.
 constexpr std::size_t kMostNames = 4000;
 constexpr unsigned kCameraBits = 0x7FFF;
+constexpr unsigned kTypeBits = 0x1FFF;
+constexpr unsigned kPixelBits = 7;
+constexpr std::uint64_t kPixelBounds[] = {1'000'000, 4'000'000, 12'000'000, 30'000'000};
 
 std::int32_t dayNumber(const QDate& date) {
     return date.isValid() && date.year() > 0 && date.year() < 10'000
@@ -45,6 +48,32 @@ QString wordsForSize(SizeClass size) {
             break;
     }
     return QObject::tr("Over 1 GB");
+}
+
+PixelClass pixelClassOf(std::uint32_t width, std::uint32_t height) {
+    const std::uint64_t pixels = std::uint64_t{width} * height;
+    return pixels == 0 ? PixelClass::NotKnown
+                       : static_cast<PixelClass>(
+                             1 + std::upper_bound(std::begin(kPixelBounds), std::end(kPixelBounds), pixels) -
+                             std::begin(kPixelBounds));
+}
+
+QString wordsForPixels(PixelClass pixels) {
+    switch (pixels) {
+        case PixelClass::NotKnown:
+            return QObject::tr("Pixels not known");
+        case PixelClass::Under1:
+            return QObject::tr("Under 1 megapixel");
+        case PixelClass::Under4:
+            return QObject::tr("1 to 4 megapixels");
+        case PixelClass::Under12:
+            return QObject::tr("4 to 12 megapixels");
+        case PixelClass::Under30:
+            return QObject::tr("12 to 30 megapixels");
+        case PixelClass::Larger:
+            break;
+    }
+    return QObject::tr("Over 30 megapixels");
 }
 
 std::int32_t dayNumber(const CivilTime& time) {
@@ -108,6 +137,7 @@ void FoundFacets::count(const Packed& item, int by) {
     const auto add = [by](std::size_t& count) { by > 0 ? ++count : --count; };
     add(m_types[item.type].count);
     add(m_cameras[item.camera].second);
+    add(m_pixels[item.pixels]);
     add(m_sizes[static_cast<std::size_t>(sizeClassOf(item.bytes))]);
     m_bytes = by > 0 ? m_bytes + item.bytes : m_bytes - item.bytes;
     if (item.complete) {
@@ -121,7 +151,10 @@ void FoundFacets::count(const Packed& item, int by) {
 }
 
 void FoundFacets::set(std::size_t index, const ItemTraits& traits) {
-    const Packed item{traits.bytes, traits.day, numberOfType(traits.type),
+    const Packed item{traits.bytes,
+                      traits.day,
+                      static_cast<std::uint16_t>(numberOfType(traits.type) & kTypeBits),
+                      static_cast<std::uint16_t>(static_cast<unsigned>(traits.pixels) & kPixelBits),
                       static_cast<std::uint16_t>(numberOfCamera(traits.camera) & kCameraBits),
                       traits.complete};
     if (index < m_items.size()) {
@@ -153,6 +186,9 @@ FoundFacets::Filter::Filter(const FoundFacets& facets, const FacetChoice& choice
     for (const auto& each : facets.m_cameras) {
         m_cameras.push_back(choice.cameras.empty() || choice.cameras.contains(each.first));
     }
+    for (int pixels = 0; pixels < kPixelClasses; ++pixels) {
+        m_pixels[pixels] = choice.pixels.empty() || choice.pixels.contains(static_cast<PixelClass>(pixels));
+    }
     for (int size = 0; size < kSizeClasses; ++size) {
         m_sizes[size] = choice.sizes.empty() || choice.sizes.contains(static_cast<SizeClass>(size));
     }
@@ -166,7 +202,7 @@ bool FoundFacets::Filter::admits(std::size_t index) const {
         return false;
     }
     const Packed& item = m_facets.m_items[index];
-    return m_types[item.type] && m_cameras[item.camera] &&
+    return m_types[item.type] && m_cameras[item.camera] && m_pixels[item.pixels] &&
            m_sizes[static_cast<std::size_t>(sizeClassOf(item.bytes))] &&
            (m_choice.days.empty() || m_choice.days.contains(item.day));
 }

@@ -22,13 +22,21 @@ SizeClass sizeClassOf(std::uint64_t bytes);
 // "100 kB to 1 MB".
 QString wordsForSize(SizeClass size);
 
+// By the pixels of a picture, in millions; each class begins where the one before ends.
+enum class PixelClass : std::uint8_t { NotKnown, Under1, Under4, Under12, Under30, Larger };
+inline constexpr int kPixelClasses = 6;
+PixelClass pixelClassOf(std::uint32_t width, std::uint32_t height);
+// "4 to 12 megapixels".
+QString wordsForPixels(PixelClass pixels);
+
 // What is known of an item; packed, since there may be millions.
 struct ItemTraits {
     QString type;
     QString camera;           // empty: not known
     std::int32_t day = 0;     // as dayNumber() gives it; 0: not known
     std::uint64_t bytes = 0;  // as it would be saved, or as it was found
-    bool complete = false;    // as far as anyone has looked
+    PixelClass pixels = PixelClass::NotKnown;
+    bool complete = false;  // as far as anyone has looked
 };
 
 // 20260517; 0 for what is no date. The second takes seconds since 1970 and gives the day of this place.
@@ -44,9 +52,11 @@ struct FacetChoice {
     std::set<std::int32_t> days;
     std::set<QString> cameras;
     std::set<SizeClass> sizes;
+    std::set<PixelClass> pixels;
 
     bool isEmpty() const {
-        return groups.empty() && types.empty() && days.empty() && cameras.empty() && sizes.empty();
+        return groups.empty() && types.empty() && days.empty() && cameras.empty() && sizes.empty() &&
+               pixels.empty();
     }
     friend bool operator==(const FacetChoice&, const FacetChoice&) = default;
 };
@@ -72,8 +82,9 @@ class FoundFacets {
     const std::vector<TypeCount>& types() const { return m_types; }
     const std::map<std::int32_t, std::size_t>& days() const { return m_days; }  // none of them is 0 items
     std::map<QString, std::size_t> cameras() const;
-    const std::vector<std::size_t>& sizes() const { return m_sizes; }  // by SizeClass
-    std::uint64_t bytes() const { return m_bytes; }                    // of all items
+    const std::vector<std::size_t>& sizes() const { return m_sizes; }    // by SizeClass
+    const std::vector<std::size_t>& pixels() const { return m_pixels; }  // by PixelClass
+    std::uint64_t bytes() const { return m_bytes; }                      // of all items
     std::size_t complete() const { return m_complete; }
 
     // Tells which items were picked; good as long as nothing is set.
@@ -88,13 +99,15 @@ class FoundFacets {
         const FacetChoice& m_choice;
         std::vector<bool> m_types, m_cameras;  // by number
         bool m_sizes[kSizeClasses] = {};
+        bool m_pixels[kPixelClasses] = {};
     };
 
   private:
     struct Packed {
         std::uint64_t bytes = 0;
         std::int32_t day = 0;
-        std::uint16_t type = 0;
+        std::uint16_t type : 13 = 0;
+        std::uint16_t pixels : 3 = 0;  // PixelClass
         std::uint16_t camera : 15 = 0;
         bool complete : 1 = false;
     };
@@ -108,6 +121,7 @@ class FoundFacets {
     std::vector<std::pair<QString, std::size_t>> m_cameras;  // the first is none
     std::map<std::int32_t, std::size_t> m_days;
     std::vector<std::size_t> m_sizes = std::vector<std::size_t>(kSizeClasses);
+    std::vector<std::size_t> m_pixels = std::vector<std::size_t>(kPixelClasses);
     std::uint64_t m_bytes = 0;
     std::size_t m_complete = 0;
     std::uint64_t m_changes = 0;

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "results/Mend.h"
+
 namespace vantor {
 
 namespace {
@@ -66,10 +68,31 @@ const ItemTruth& ItemBytes::measure(const QString& type, bool mayGoBeyond) {
 
 const ItemTruth& ItemBytes::measureFrom(const QString& type, const TrueLength& carved) {
     m_truth.length = carved;
-    if (!m_source.carved.runs.empty()) {
+    if (!m_source.carved.runs.empty() && !takeMend(type)) {
         askCard(type);
     }
     return m_truth;
+}
+
+// What was put together after the search, when the card's word on the pieces had been heard already. The card
+// may still tell the name.
+bool ItemBytes::takeMend(const QString& type) {
+    const auto& mend = m_source.hints.mend;
+    if (!mend || mend->assembly.runs.empty()) {
+        return false;
+    }
+    auto pieces = std::make_unique<Pieces>(m_source, mend->assembly, m_keptOfPieces);
+    m_truth.length = {mend->assembly.bytes, trueLengthOf(type, pieces->bytes, false).extent};
+    m_truth.assembly = mend->assembly;
+    m_pieces = std::move(pieces);
+    if (const auto& card = m_source.hints.card) {
+        const CardIndex::Match match = card->match(m_source.carved.runs.front().first, type, &m_truth.length);
+        const bool fits = match.fit != CardFit::No && dataBytesOf(*match.file) == m_truth.length.bytes;
+        if (fits && (match.fit == CardFit::Yes || !card->isDisputed(*match.file))) {
+            take(match.file);
+        }
+    }
+    return true;
 }
 
 // Its bytes are as the directory says. Where their place is only guessed, a structure that has another end

@@ -19,12 +19,16 @@ namespace vantor {
 
 class CardIndex;
 struct CardFile;
+struct Mend;
 
 // What is known of an item beside the run that it was carved from.
 struct ItemHints {
     std::shared_ptr<const CardIndex> card = nullptr;  // what the card's directories tell; null: nothing
     // Nothing was found there: the item is this file of the card's, or none.
     std::shared_ptr<const CardFile> told = nullptr;
+    // The item is as it was put together, in place of as it was found; null: as found. Only what is proved
+    // belongs here but for who wants to look at it.
+    std::shared_ptr<const Mend> mend = nullptr;
 };
 
 // Where an item's bytes come from.

@@ -106,7 +106,12 @@ void SoundnessBoard::rest(bool resting) {
 
 void SoundnessBoard::note(std::size_t index, const Soundness& soundness) {
     const std::lock_guard lock(m_mutex);
-    store(index, soundness);
+    Soundness noted = soundness;
+    // Whoever saves a file does not ask for its camera.
+    if (const auto known = m_known.find(index); known != m_known.end() && noted.camera.isEmpty()) {
+        noted.camera = known->second.camera;
+    }
+    store(index, noted);
 }
 
 void SoundnessBoard::store(std::size_t index, const Soundness& soundness) {

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "results/ItemBytes.h"
+#include "results/Mend.h"
 
 namespace vantor {
 
@@ -54,6 +55,7 @@ TrueCopy::TrueCopy(QString type, CarvedRun carved, std::unique_ptr<SectorReader>
     : m_type(std::move(type)),
       m_carved(std::move(carved)),
       m_hints(std::move(hints)),
+      m_twin(m_hints.mend && m_hints.mend->kind == MendKind::Repaired ? m_hints.mend : nullptr),
       m_medium(std::move(medium)),
       m_watch(watch) {}
 
@@ -61,6 +63,12 @@ TrueCopy::~TrueCopy() = default;
 
 bool TrueCopy::measure(QByteArrayView firstBytes) {
     m_reading = std::make_unique<Reading>(*this, firstBytes);
+    if (m_twin) {
+        m_reading->endMeasuring();
+        m_lengthKnown = true;
+        m_bytes = m_twin->twin.bytes();
+        return !m_watch.ended;
+    }
     const std::uint64_t most = m_reading->bytes().size();
     const std::uint64_t carved = m_reading->bytes().carvedBytes();
     const ItemTruth truth = m_reading->item().measure(m_type, true);
@@ -100,13 +108,36 @@ bool TrueCopy::writeRest(const Write& write) {
     return whole;
 }
 
-bool TrueCopy::copy(Reading& reading, std::uint64_t from, std::uint64_t end, const Write& write) {
-    std::vector<std::uint8_t> stretch(kStretchBytes);
-    for (std::uint64_t at = from; at < end;) {
-        auto bytes = reading.bytes().keptFrom(at);
-        if (bytes.empty()) {
-            bytes = std::span(stretch).first(reading.bytes().readPast(at, stretch));
+// Some of the bytes from there on; none behind the end, or where the medium gives nothing more.
+std::span<const std::uint8_t> TrueCopy::bytesFrom(Reading& reading, std::uint64_t at) {
+    std::uint64_t most = kStretchBytes;
+    if (m_twin) {
+        const Twin& twin = m_twin->twin;
+        const auto headBytes = static_cast<std::uint64_t>(twin.head.size());
+        const std::uint64_t dataEnd = headBytes + (twin.data.to - twin.data.from);
+        const bool inHead = at < headBytes;
+        if (inHead || at >= dataEnd) {
+            const QByteArray& own = inHead ? twin.head : twin.index;
+            const std::uint64_t skip =
+                std::min(at - (inHead ? 0 : dataEnd), static_cast<std::uint64_t>(own.size()));
+            return {reinterpret_cast<const std::uint8_t*>(own.constData()) + skip,
+                    static_cast<std::size_t>(own.size()) - static_cast<std::size_t>(skip)};
         }
+        most = std::min(most, dataEnd - at);
+        at = at - headBytes + twin.data.from;
+    }
+    const auto kept = reading.bytes().keptFrom(at);
+    if (!kept.empty()) {
+        return kept.first(static_cast<std::size_t>(std::min<std::uint64_t>(kept.size(), most)));
+    }
+    m_stretch.resize(kStretchBytes);
+    const auto into = std::span(m_stretch).first(static_cast<std::size_t>(most));
+    return into.first(reading.bytes().readPast(at, into));
+}
+
+bool TrueCopy::copy(Reading& reading, std::uint64_t from, std::uint64_t end, const Write& write) {
+    for (std::uint64_t at = from; at < end;) {
+        const auto bytes = bytesFrom(reading, at);
         const std::uint64_t count = std::min<std::uint64_t>(bytes.size(), end - at);
         // Behind an end of the watch there are only zeros.
         if (count == 0 || m_watch.ended || !write(at, bytes.first(static_cast<std::size_t>(count)))) {

@@ -50,18 +50,21 @@ class TrueCopy {
   private:
     class Reading;
 
+    std::span<const std::uint8_t> bytesFrom(Reading& reading, std::uint64_t at);
     bool copy(Reading& reading, std::uint64_t from, std::uint64_t end, const Write& write);
     std::uint64_t tailStart() const;
 
     const QString m_type;
     const CarvedRun m_carved;
     const ItemHints m_hints;
+    const std::shared_ptr<const Mend> m_twin;  // null unless the item is one with an index of our own
     std::unique_ptr<SectorReader> m_medium;
     ReadWatch& m_watch;
     ItemTruth m_truth;
     std::unique_ptr<Reading> m_reading;  // from measure() to writeEnds(): what was read once is kept
     std::uint64_t m_bytes = 0;
     bool m_lengthKnown = false;
+    std::vector<std::uint8_t> m_stretch;
 };
 
 }  // namespace vantor

@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include "formats/Extent.h"
 #include "media/SectorReader.h"
@@ -51,6 +52,8 @@ struct SaveOutcome {
     QByteArray sha256;                         // raw; may be empty where the policy asks for none
     std::shared_ptr<const CardFile> original;  // null where the card does not tell
     std::size_t pieces = 1;                    // on the medium, as the bytes were put together
+    std::vector<SectorRun> runs;               // of more than one piece
+    std::shared_ptr<const Mend> mend;          // of a file made of a broken item
 
     // Among those that wait: whole files before broken ones, and before what may be their parts.
     bool comesFirst() const { return verdict == Verdict::Complete && partOf.isEmpty(); }
@@ -94,6 +97,8 @@ class ItemSaver {
     ItemSaver(const ItemSaver&) = delete;
     ItemSaver& operator=(const ItemSaver&) = delete;
     ~ItemSaver();
+
+    const SavePolicy& policy() const { return m_policy; }
 
     SaveOutcome save(const FoundItem& item) const;
 

@@ -7,17 +7,12 @@
 #include <utility>
 
 #include "results/TrueLength.h"
-#include "saving/ItemSaver.h"
-#include "saving/SavingFolder.h"
+#include "saving/ItemSaverState.h"
 #include "saving/WholeFile.h"
 
 namespace vantor {
 
 namespace {
-
-std::uint64_t firstSectorOf(const FoundItem& item) {
-    return item.source.carved.runs.front().first;
-}
 
 bool areOneFile(const QString& a, const QString& b) {
     struct stat first {

@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QUrl>
 
+#include "results/Mend.h"
 #include "results/RecoveryMode.h"
 #include "results/SizeForPeople.h"
 #include "saving/SaveTally.h"
@@ -95,12 +96,17 @@ QString relativePath(const QString& folder, const QString& path) {
     return QDir(folder).relativeFilePath(path);
 }
 
+// Of what was made of a broken item the words for how, else how sound the file is.
+QString soundnessOrMend(const SaveOutcome& outcome) {
+    return outcome.mend ? describe(*outcome.mend) : soundnessWords(outcome.verdict, outcome.checked);
+}
+
 QString stateText(const SaveOutcome& outcome) {
-    QStringList parts{soundnessWords(outcome.verdict, outcome.checked)};
+    QStringList parts{soundnessOrMend(outcome)};
     if (outcome.verdict == Verdict::Complete && !outcome.exactLength) {
         parts << QObject::tr("length estimated");
     }
-    if (outcome.pieces > 1) {
+    if (outcome.pieces > 1 && !outcome.mend) {
         parts << QObject::tr("put together from %1 pieces", nullptr, pluralOf(outcome.pieces))
                      .arg(numberForPeople(outcome.pieces));
     }
@@ -109,6 +115,28 @@ QString stateText(const SaveOutcome& outcome) {
                      .arg(numberForPeople(outcome.sectorsUnreadable));
     }
     return parts.join(QStringLiteral(", "));
+}
+
+// For people: where the file lies, each piece in the order of the file.
+QString placesText(const ReportedItem& item) {
+    std::vector<SectorRun> runs = item.outcome.runs;
+    if (runs.size() < 2) {
+        runs = {{item.firstSector, item.endSector}};
+    }
+    QStringList places;
+    for (const SectorRun& run : runs) {
+        places << QObject::tr("%1 to %2").arg(numberForPeople(run.first), numberForPeople(run.end));
+    }
+    return places.join(QStringLiteral(", "));
+}
+
+// For machines: "1200+64 2048+12", first sector and count of each piece.
+QString runsText(const SaveOutcome& outcome) {
+    QStringList runs;
+    for (const SectorRun& run : outcome.runs) {
+        runs << QStringLiteral("%1+%2").arg(run.first).arg(run.end - run.first);
+    }
+    return runs.join(u' ');
 }
 
 QString row(const QStringList& cells, const char* tag) {
@@ -184,7 +212,7 @@ QString itemRow(const ReportedItem& item, const QString& folder, const ReportThu
         originalText(outcome.original).toHtmlEscaped(),
         dateText(outcome.taken),
         outcome.width != 0 ? QStringLiteral("%1 × %2").arg(outcome.width).arg(outcome.height) : QString(),
-        QObject::tr("%1 to %2").arg(numberForPeople(item.firstSector), numberForPeople(item.endSector)),
+        placesText(item),
         QStringLiteral("<span class=\"sum\">%1</span>").arg(QString::fromLatin1(outcome.sha256.toHex()))};
     if (thumbnail) {
         cells.prepend(picture);
@@ -244,7 +272,7 @@ void csvTo(const Pieces& add, const ReportHead& head, const std::vector<Reported
            const QString& folder) {
     add("name,type,medium,first_sector,end_sector,bytes,sha256,soundness,exact_length,unreadable_sectors,"
         "taken,width,height,result,path_or_reason,content_checked,"
-        "original_path,original_state,modified,pieces\r\n");
+        "original_path,original_state,modified,pieces,runs,mended\r\n");
     for (const ReportedItem& item : items) {
         const SaveOutcome& o = item.outcome;
         const QStringList fields{
@@ -267,7 +295,9 @@ void csvTo(const Pieces& add, const ReportHead& head, const std::vector<Reported
             o.original ? quoted(originalPath(*o.original)) : QString(),
             o.original ? stateOf(*o.original) : QString(),
             o.original && o.original->modified ? dateText(*o.original->modified) : QString(),
-            QString::number(o.pieces)};
+            QString::number(o.pieces),
+            runsText(o),
+            o.mend ? markOf(o.mend->kind) : QString()};
         add(fields.join(u',').toUtf8() + "\r\n");
     }
 }

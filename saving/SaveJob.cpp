@@ -5,10 +5,12 @@
 #include <algorithm>
 #include <utility>
 
+#include "results/MendedItems.h"
 #include "results/MyImageObject.h"
 #include "results/ToldFiles.h"
 #include "saving/ItemSaver.h"
 #include "saving/ToldItem.h"
+#include "saving/TwinFile.h"
 
 namespace vantor {
 
@@ -95,17 +97,19 @@ bool SaveJob::saveItem(std::size_t place, SectorReader* medium, WaitingClaims* l
     if (medium != nullptr) {
         watched.emplace(*medium, m_watch);
     }
-    SaveOutcome outcome = m_request.saver->save({item.fileType(),
-                                                 item.imageTitle(),
-                                                 {item.carved(),
-                                                  item.heldBytes(),
-                                                  [&watched] { return watched ? &*watched : nullptr; },
-                                                  medium != nullptr ? medium->mediumSectors() : 0,
-                                                  false,
-                                                  nullptr,
-                                                  {m_request.card}},
-                                                 &m_watch.ended,
-                                                 later != nullptr});
+    FoundItem found{item.fileType(),
+                    item.imageTitle(),
+                    {item.carved(), item.heldBytes(),
+                     [&watched]() -> SectorReader* { return watched ? &*watched : nullptr; },
+                     medium != nullptr ? medium->mediumSectors() : 0},
+                    &m_watch.ended,
+                    later != nullptr};
+    found.source.hints.card = m_request.card;
+    found.source.hints.mend = m_request.mended ? m_request.mended->provedOf(item) : nullptr;
+    SaveOutcome outcome = m_request.saver->save(found);
+    if (medium != nullptr && !outcome.later && outcome.error.isEmpty()) {
+        saveTwin(found, item, outcome);
+    }
     if (m_cancelled && !outcome.saved) {
         return false;
     }
@@ -123,6 +127,24 @@ bool SaveJob::saveItem(std::size_t place, SectorReader* medium, WaitingClaims* l
     ++m_progress.done;
     m_progress.share += m_sectorsOfCurrent.exchange(0);
     return true;
+}
+
+// What is not proved to be all of the item lies beside it. Types that share an item share its twin.
+void SaveJob::saveTwin(const FoundItem& found, const MyImageObject& item, const SaveOutcome& outcome) {
+    const auto mend = m_request.mended ? m_request.mended->of(item) : nullptr;
+    const bool unwanted = m_request.saver->policy().asPublished;
+    if (!mend || unwanted || mend->kind == MendKind::Completed || !m_twinsSaved.insert(mend.get()).second) {
+        return;
+    }
+    const TwinPlace place = placeOfTwin(m_request.destination, found, outcome);
+    SaveOutcome twin = writeTwin(
+        place, mend, found.source, [this] { return m_watch.ended.load(); },
+        m_request.saver->policy().checksums);
+    if (!m_watch.ended || twin.saved) {
+        m_furtherOutcomes.push_back({twinNameOf(found.name, markOf(mend->kind)), found.type,
+                                     item.publishedSectors().first, item.publishedSectors().end,
+                                     std::move(twin)});
+    }
 }
 
 void SaveJob::saveTold(SectorReader* medium) {
@@ -149,8 +171,8 @@ void SaveJob::saveTold(SectorReader* medium) {
             outcome.error = m_watch.ended ? QObject::tr("Skipped") : outcome.error;
         }
         if (outcome.leftOut != LeftOut::Unsound) {
-            m_toldOutcomes.push_back({item.name, item.type, carved.runs.front().first,
-                                      carved.runs.front().end, std::move(outcome)});
+            m_furtherOutcomes.push_back({item.name, item.type, carved.runs.front().first,
+                                         carved.runs.front().end, std::move(outcome)});
         }
     }
 }
@@ -168,11 +190,11 @@ void SaveJob::compileReport() {
                                   item.publishedSectors().end, std::move(*m_outcomes[place])});
     }
     m_outcomes.clear();
-    for (ReportedItem& told : m_toldOutcomes) {
-        m_report.tally.add(told.name, told.outcome);
-        m_report.items.push_back(std::move(told));
+    for (ReportedItem& further : m_furtherOutcomes) {
+        m_report.tally.add(further.name, further.outcome);
+        m_report.items.push_back(std::move(further));
     }
-    m_toldOutcomes.clear();
+    m_furtherOutcomes.clear();
 }
 
 void SaveJob::writeTheReport() {

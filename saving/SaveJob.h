@@ -7,6 +7,7 @@
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <set>
 #include <vector>
 
 #include "media/SectorReader.h"
@@ -17,6 +18,7 @@
 
 namespace vantor {
 
+class MendedItems;
 class MyImageObject;
 
 struct ChosenItem {
@@ -28,6 +30,8 @@ struct SaveRequest {
     std::vector<ChosenItem> items;
     std::shared_ptr<const ItemSaver> saver;
     std::shared_ptr<const CardIndex> card;  // null: nothing is known
+    // What was made of the broken ones: what is proved is saved in place of the item, the rest beside it.
+    std::shared_ptr<const MendedItems> mended;  // null: nothing
     // Files that only the card's directory tells of, saved behind the items; those that are no files of their
     // type after all are passed over.
     std::vector<std::shared_ptr<const CardFile>> told;
@@ -38,8 +42,8 @@ struct SaveRequest {
     QByteArray placeholder;  // the picture of items without a thumbnail, which the report leaves out
 };
 
-// What became of the items, in the order of the request, and behind them of the files that only the card's
-// directory tells of; those that a cancel came before are absent.
+// What became of the items, in the order of the request, behind them of what was made of broken ones, and of
+// the files that only the card's directory tells of; those that a cancel came before are absent.
 struct SaveReport {
     bool mediumOpened = false;  // else only what memory holds was saved
     SaveTally tally;
@@ -84,6 +88,7 @@ class SaveJob {
     void saveAll(SectorReader* medium);
     bool saveItem(std::size_t place, SectorReader* medium, WaitingClaims* later);
     void saveTold(SectorReader* medium);
+    void saveTwin(const FoundItem& found, const MyImageObject& item, const SaveOutcome& outcome);
     void begin(const QString& name, std::uint64_t sectors);
     void compileReport();
     void writeTheReport();
@@ -93,7 +98,8 @@ class SaveJob {
     std::uint64_t m_total = 0;
     std::vector<std::optional<SaveOutcome>> m_outcomes;  // by place in the request
     std::vector<std::size_t> m_reportedPlaces;           // of the report's items
-    std::vector<ReportedItem> m_toldOutcomes;
+    std::vector<ReportedItem> m_furtherOutcomes;         // of twins, then of told files
+    std::set<const Mend*> m_twinsSaved;
     ReadWatch m_watch;
     std::atomic<bool> m_cancelled{false};
     std::atomic<bool> m_finished{false};

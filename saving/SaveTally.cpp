@@ -44,6 +44,10 @@ void SaveTally::add(const QString& name, const SaveOutcome& outcome) {
     named += outcome.original ? 1 : 0;
     bytes += outcome.bytes;
     withUnreadableSectors += outcome.sectorsUnreadable != 0 ? 1 : 0;
+    if (outcome.mend) {
+        ++mended;
+        return;
+    }
     switch (outcome.verdict) {
         case Verdict::Complete:
             ++(outcome.checked ? complete : unchecked);
@@ -67,6 +71,7 @@ QStringList SaveTally::bySoundness() const {
     kinds.add(cutOff, QT_TRANSLATE_N_NOOP("QObject", "%1 cut off"));
     kinds.add(damaged, QT_TRANSLATE_N_NOOP("QObject", "%1 damaged"));
     kinds.add(unknownLength, QT_TRANSLATE_N_NOOP("QObject", "%1 of unknown length"));
+    kinds.add(mended, QT_TRANSLATE_N_NOOP("QObject", "%1 put together or repaired (please look)"));
     return kinds.lines;
 }
 

@@ -20,6 +20,7 @@ struct SaveTally {
     std::uint64_t cutOff = 0;
     std::uint64_t damaged = 0;
     std::uint64_t unknownLength = 0;
+    std::uint64_t mended = 0;  // put together or repaired beside the items themselves
     std::uint64_t withUnreadableSectors = 0;
 
     std::uint64_t duplicates = 0;

@@ -16,7 +16,7 @@ namespace vantor {
 
 namespace {
 
-constexpr qint64 kChunkBytes = 1024 * 1024;
+constexpr qint64 kSumChunkBytes = 1024 * 1024;
 
 std::optional<QByteArray> checksumOfHead(const QString& path) {
     QFile file(path);
@@ -35,7 +35,7 @@ QByteArray checksumOfFile(const QString& path) {
     Sha256 sum;
     QByteArray chunk;
     do {
-        chunk = file.read(kChunkBytes);
+        chunk = file.read(kSumChunkBytes);
         sum.add(chunk);
     } while (!chunk.isEmpty());
     return sum.result();

@@ -1,39 +1,60 @@
 #include "saving/TwinFile.h"
 
+#include <QDir>
 #include <QObject>
 #include <algorithm>
 #include <vector>
 
+#include "results/Mend.h"
 #include "saving/FreeSpace.h"
 #include "saving/SavedName.h"
 #include "saving/SavingFolder.h"
+#include "saving/Sha256.h"
 #include "saving/WholeFile.h"
 
 namespace vantor {
 
 namespace {
 
-constexpr std::size_t kChunkBytes = 1024 * 1024;
+constexpr std::size_t kTwinChunkBytes = 1024 * 1024;
 
-bool isUnwanted(const std::atomic<int>* unwanted) {
-    return unwanted != nullptr && *unwanted != 0;
-}
+class TwinWriting {
+  public:
+    TwinWriting(const SavingFolder& folder, const std::function<bool()>& unwanted, bool checksum)
+        : m_file(folder), m_unwanted(unwanted), m_summing(checksum) {}
 
-// False when the medium gave less than the movie holds.
-bool copyData(const DataPlace& data, MediumBytes& movie, WholeFile& file, const std::atomic<int>* unwanted) {
-    std::vector<std::uint8_t> chunk(kChunkBytes);
-    std::uint64_t at = data.from;
-    while (at < data.to && file.isGood() && !isUnwanted(unwanted)) {
-        const auto wanted = static_cast<std::size_t>(std::min<std::uint64_t>(kChunkBytes, data.to - at));
-        const std::size_t arrived = movie.readPast(at, std::span(chunk).first(wanted));
-        if (arrived == 0) {
-            return false;
+    bool isUnwanted() const { return m_unwanted && m_unwanted(); }
+    WholeFile& file() { return m_file; }
+    QByteArray sum() { return m_summing ? m_sum.result() : QByteArray(); }
+
+    void write(QByteArrayView bytes) {
+        m_file.write(bytes);
+        if (m_summing) {
+            m_sum.add(bytes);
         }
-        file.write({reinterpret_cast<const char*>(chunk.data()), static_cast<qsizetype>(arrived)});
-        at += arrived;
     }
-    return at == data.to;
-}
+    // False when the medium gave less than the file holds.
+    bool copy(const DataPlace& data, MediumBytes& bytes) {
+        std::vector<std::uint8_t> chunk(kTwinChunkBytes);
+        std::uint64_t at = data.from;
+        while (at < data.to && m_file.isGood() && !isUnwanted()) {
+            const auto wanted = static_cast<std::size_t>(std::min<std::uint64_t>(kTwinChunkBytes, data.to - at));
+            const std::size_t arrived = bytes.readPast(at, std::span(chunk).first(wanted));
+            if (arrived == 0) {
+                return false;
+            }
+            write({reinterpret_cast<const char*>(chunk.data()), static_cast<qsizetype>(arrived)});
+            at += arrived;
+        }
+        return at == data.to;
+    }
+
+  private:
+    WholeFile m_file;
+    const std::function<bool()>& m_unwanted;
+    const bool m_summing;
+    Sha256 m_sum;
+};
 
 }  // namespace
 
@@ -42,37 +63,61 @@ QString twinNameOf(const QString& name, const QString& mark) {
     return dot <= 0 ? name + u' ' + mark : name.left(dot) + u' ' + mark + name.mid(dot);
 }
 
-WrittenTwin writeTwin(const QString& destination, const QString& type, const QString& name,
-                      const RepairedMovie& repaired, MediumBytes& movie, const std::atomic<int>* unwanted) {
-    WrittenTwin written;
-    const auto top = SavingFolder::open(destination);
-    const auto folder = top ? top->below(safePathComponent(type)) : std::nullopt;
+TwinPlace placeOfTwin(const QString& destination, const FoundItem& item, const SaveOutcome& saved) {
+    if (!saved.saved) {
+        return {destination, safePathComponent(item.type), item.name};
+    }
+    const QString path = QDir(destination).relativeFilePath(saved.path);
+    return {destination, path.section(u'/', 0, -2), path.section(u'/', -1)};
+}
+
+SaveOutcome writeTwin(const TwinPlace& place, std::shared_ptr<const Mend> mend, const ItemSource& item,
+                      const std::function<bool()>& unwanted, bool checksum) {
+    SaveOutcome outcome;
+    outcome.mend = mend;
+    outcome.runs = mend->assembly.runs;
+    outcome.pieces = std::max<std::size_t>(1, mend->assembly.runs.size());
+    const auto top = SavingFolder::open(place.destination);
+    const auto folder = top ? top->below(place.folder) : std::nullopt;
     if (!folder) {
-        written.error =
-            QObject::tr("The folder %1/%2 cannot be created").arg(destination, safePathComponent(type));
-        return written;
+        outcome.error =
+            QObject::tr("The folder %1/%2 cannot be created").arg(place.destination, place.folder);
+        return outcome;
     }
-    if (const auto refusal = refuseForSpace(folder->path(), repaired.bytes())) {
-        written.error = *refusal;
-        return written;
+    const Twin& twin = mend->twin;
+    if (const auto refusal = refuseForSpace(folder->path(), twin.bytes())) {
+        outcome.error = *refusal;
+        return outcome;
     }
-    movie.expect(repaired.data.to);
-    WholeFile file(*folder);
-    file.write(repaired.head);
-    const bool all = copyData(repaired.data, movie, file, unwanted);
-    if (isUnwanted(unwanted)) {
-        written.error = QObject::tr("Cancelled");
-        return written;
+    const ItemSource source = sourceOf(*mend, item);
+    std::vector<std::uint8_t> kept;
+    MediumBytes bytes(source, kept);
+    bytes.endMeasuring();
+    bytes.expect(twin.data.to);
+    TwinWriting writing(*folder, unwanted, checksum);
+    writing.write(twin.head);
+    const bool all = writing.copy(twin.data, bytes);
+    if (writing.isUnwanted()) {
+        outcome.error = QObject::tr("Cancelled");
+        return outcome;
     }
-    if (file.isGood() && !all) {
-        written.error = QObject::tr("The medium cannot be read any more");
-        return written;
+    if (writing.file().isGood() && !all) {
+        outcome.error = QObject::tr("The medium cannot be read any more");
+        return outcome;
     }
-    file.write(repaired.index);
-    const auto path = file.commit(safePathComponent(name));
-    written.path = path.value_or(QString());
-    written.error = path ? QString() : file.error();
-    return written;
+    writing.write(twin.index);
+    const auto path = writing.file().commit(safePathComponent(twinNameOf(place.name, markOf(mend->kind))));
+    outcome.saved = path.has_value();
+    outcome.path = path.value_or(QString());
+    outcome.error = path ? QString() : writing.file().error();
+    outcome.bytes = twin.bytes();
+    outcome.sha256 = writing.sum();
+    outcome.sectorsUnreadable = bytes.sectorsUnreadable(twin.data.to);
+    if (mend->kind == MendKind::Completed) {
+        outcome.verdict = outcome.sectorsUnreadable == 0 ? Verdict::Complete : Verdict::Damaged;
+        outcome.checked = outcome.verdict == Verdict::Complete;
+    }
+    return outcome;
 }
 
 }  // namespace vantor

@@ -1,25 +1,27 @@
-// Writes the twin of a broken movie, made playable or put together, beside what is saved of the movie itself.
+// Writes what was made of a broken item, beside what is saved of the item itself.
 #pragma once
 
 #include <QString>
-#include <atomic>
+#include <functional>
 
-#include "repair/MovieRepair.h"
-#include "results/MediumBytes.h"
+#include "saving/ItemSaver.h"
 
 namespace vantor {
 
-struct WrittenTwin {
-    QString path;   // empty when it was not written
-    QString error;  // a sentence for the user then
+struct TwinPlace {
+    QString destination;
+    QString folder;  // below it
+    QString name;    // as the item's, without a mark
 };
+// Beside the item where that was saved, else in its type's folder.
+TwinPlace placeOfTwin(const QString& destination, const FoundItem& item, const SaveOutcome& saved);
 
 // "MP400002 repaired.MP4" for "MP400002.MP4" and the mark "repaired".
 QString twinNameOf(const QString& name, const QString& mark);
 
-// Into `<destination>/<type>/`, under the name as it is given, whole or not at all. What of the movie cannot
-// be read is written as zeros. `unwanted`, when not null, may be set by anybody to end it.
-WrittenTwin writeTwin(const QString& destination, const QString& type, const QString& name,
-                      const RepairedMovie& repaired, MediumBytes& movie, const std::atomic<int>* unwanted);
+// Under the item's name with the mark of its kind, whole or not at all. What cannot be read is written as
+// zeros. Asked between pieces, `unwanted`, when given, ends it. `checksum`: whether its sum is wanted.
+SaveOutcome writeTwin(const TwinPlace& place, std::shared_ptr<const Mend> mend, const ItemSource& item,
+                      const std::function<bool()>& unwanted, bool checksum = false);
 
 }  // namespace vantor

@@ -9,9 +9,9 @@ namespace vantor {
 
 namespace {
 
-const QByteArray kMagic = QByteArrayLiteral("Vantor Recovery thumbnails 1\n");
+const QByteArray kThumbnailsMagic = QByteArrayLiteral("Vantor Recovery thumbnails 1\n");
 constexpr qsizetype kHeadBytes = 8 + 8 + 4;
-constexpr qsizetype kSumBytes = 8;
+constexpr qsizetype kThumbnailSumBytes = 8;
 
 QByteArray headOf(const ThumbnailPlace& place, qsizetype bytes) {
     QByteArray head(kHeadBytes, Qt::Uninitialized);
@@ -22,13 +22,13 @@ QByteArray headOf(const ThumbnailPlace& place, qsizetype bytes) {
 }
 
 QByteArray sumOf(const QByteArray& headAndBytes) {
-    return QCryptographicHash::hash(headAndBytes, QCryptographicHash::Sha256).first(kSumBytes);
+    return QCryptographicHash::hash(headAndBytes, QCryptographicHash::Sha256).first(kThumbnailSumBytes);
 }
 
 }  // namespace
 
 KeptThumbnails::KeptThumbnails(const QString& path, const QByteArray& searchId)
-    : m_head(kMagic + searchId.toHex() + '\n'), m_file(path) {
+    : m_head(kThumbnailsMagic + searchId.toHex() + '\n'), m_file(path) {
     if (!m_file.exists() || !m_file.open(QIODevice::ReadWrite)) {
         return;
     }
@@ -64,11 +64,11 @@ void KeptThumbnails::readEntries() {
             return;
         }
         entry += m_file.read(bytes);
-        if (entry.size() != kHeadBytes + bytes || m_file.read(kSumBytes) != sumOf(entry)) {
+        if (entry.size() != kHeadBytes + bytes || m_file.read(kThumbnailSumBytes) != sumOf(entry)) {
             return;
         }
         m_known.insert(place, {m_end + kHeadBytes, bytes});
-        m_end += kHeadBytes + bytes + kSumBytes;
+        m_end += kHeadBytes + bytes + kThumbnailSumBytes;
     }
 }
 

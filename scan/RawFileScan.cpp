@@ -25,10 +25,12 @@ constexpr qsizetype kOpenItemStride = 7;
 constexpr qsizetype kOpenItemName = 5;
 constexpr qsizetype kOpenItemUid = 6;
 
+}  // namespace
+
 // Which records open an item together with the one that matched; worked out when a record first matches.
-class Companions {
+class CompanionRecords {
   public:
-    explicit Companions(const QStringList& records)
+    explicit CompanionRecords(const QStringList& records)
         : m_records(records), m_of(static_cast<std::size_t>(recordCount(records))) {}
 
     const std::vector<int>& of(int record) {
@@ -58,8 +60,6 @@ class Companions {
     std::vector<std::optional<std::vector<int>>> m_of;
 };
 
-}  // namespace
-
 // The working state of one pass. Size and start are one value for all open items.
 struct ScanSession::RawPass {
     RawPass(const QString& passName, const QStringList& records, const QString& folder)
@@ -70,7 +70,7 @@ struct ScanSession::RawPass {
 
     QString name;
     std::shared_ptr<const HeaderMatcher> matcher;
-    Companions companions;
+    CompanionRecords companions;
     QString destination;
     PassReading reading;
 

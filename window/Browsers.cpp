@@ -4,6 +4,9 @@
 #include "results/SizeForPeople.h"
 #include "saving/SaveSummary.h"
 #include "window/MyTableController.h"
+#include "window/preview/CellPictures.h"
+#include "window/preview/DraggedFiles.h"
+#include "window/preview/PieceStrip.h"
 #include "window/preview/ViewerDesk.h"
 
 namespace vantor {
@@ -31,7 +34,7 @@ void MyTableController::addImageWithData(const QByteArray& data, const QString& 
         ScanSession::addImageWithData(data, imageName, image_UID);
         return;
     }
-    const auto kept = m_memory->thumbnails();
+    const auto kept = m_searchMemory->thumbnails();
     const ThumbnailPlace where{handOver().firstSector, handOver().bytes};
     if (const QByteArray known = pictureIsKnown() ? kept->find(where) : QByteArray(); !known.isEmpty()) {
         m_thumbnails->submitMade(
@@ -66,7 +69,7 @@ void MyTableController::addImageWithData(const QByteArray& data, const QString& 
 }
 
 bool MyTableController::pictureIsKnown() const {
-    const auto kept = m_memory->thumbnails();
+    const auto kept = m_searchMemory->thumbnails();
     return kept && !handOver().carved.readFailed &&
            kept->contains({handOver().firstSector, handOver().bytes});
 }
@@ -82,8 +85,10 @@ LookedAtItems MyTableController::lookedAtItems() {
     items.isSaved = [this](std::size_t index) { return m_desk->marks().isSaved(index); };
     items.isTicked = [this](std::size_t index) { return m_ticks.isTicked(index); };
     items.mediumBusy = [this] {
-        return scanRunning() || m_desk->isRunning() || m_filling > 0 || m_viewer->isBusy();
+        return scanRunning() || m_desk->isRunning() || m_dragged->isRunning() || m_filling > 0 ||
+               m_viewer->isBusy() || m_mending.isRunning();
     };
+    items.mendOf = [this](const MyImageObject& item) { return m_mended->of(item); };
     items.card = [this] { return card(); };
     items.policy = [this] { return m_desk->choices().policy; };
     return items;
@@ -130,6 +135,7 @@ void MyTableController::imageBrowserSelectionDidChange(ImageBrowserView* view) {
     closemovie_Win();
     soundControls->setMovie(nullptr);
     previewFacts->clear();
+    m_pieceStrip->setPieces({});
     CreateFile_QuickLook_View({item->valueForKey(QStringLiteral("path")),
                                item->valueForKey(QStringLiteral("File_Start_Sector")),
                                item->valueForKey(QStringLiteral("File_End_Sector"))});
@@ -194,7 +200,10 @@ void MyTableController::takeToldFiles(SavingDesk::ToldFiles files) {
 
 // What is remembered of the items of a list that is no more.
 void MyTableController::forgetItems() {
+    forgetMends();
     m_desk->forget();
+    m_pictures->begin();
+    m_dragged->begin();
     m_ticks.clear();
     m_told.clear();
 }

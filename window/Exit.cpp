@@ -5,6 +5,8 @@
 #include "results/SizeForPeople.h"
 #include "window/MyTableController.h"
 #include "window/ProgramTitle.h"
+#include "window/preview/CellPictures.h"
+#include "window/preview/DraggedFiles.h"
 #include "window/preview/PreviewFile.h"
 #include "window/preview/ViewerDesk.h"
 #include "window/preview/WholePreview.h"
@@ -46,6 +48,7 @@ void MyTableController::Exit_App() {
     m_ending = true;
     m_viewer->leave();
     remember();
+    m_mending.stop();
     endWholePreviews();
     if (m_besideRunning) {
         stop_now = 1;
@@ -81,6 +84,8 @@ void MyTableController::endWholePreviews() {
         }
     }
     m_viewer->requestEnd();
+    m_pictures->requestEnd();
+    m_dragged->requestEnd();
 }
 
 bool MyTableController::mayLeaveUnsaved(const QString& consequence, const QString& leave) {
@@ -108,9 +113,11 @@ bool MyTableController::shutDown(std::chrono::milliseconds patience) {
     }
     const auto until = std::chrono::steady_clock::now() + patience;
     m_looks->shutDown();
+    m_mending.stop();
     endWholePreviews();
     while (m_filling > 0 || scanRunning() || m_besideRunning || m_desk->isRunning() || !m_looks->hasEnded() ||
-           !m_viewer->hasEnded()) {
+           !m_viewer->hasEnded() || !m_pictures->hasEnded() || !m_dragged->hasEnded() ||
+           m_mending.isRunning()) {
         // The scan clears the word when it honours it, so it is said until everyone has heard.
         stop_now = 1;
         if (mSetLabelTimer) {

@@ -32,7 +32,13 @@ void MyTableController::showItemMenu(ImageBrowserView* browser, qsizetype index,
         m_viewer->viewer()->showFacts();
     });
     menu->addSeparator();
+    const QList<qsizetype> chosen = browser->selectionIndexes();
+    const QList<qsizetype> ticked = chosen.contains(index) ? chosen : QList<qsizetype>{index};
+    const bool untick = factsOfItem(index).ticked;
+    menu->addAction(untick ? tr("&Untick for Saving") : tr("&Tick for Saving"), this,
+                    [this, ticked, untick] { tickItems(ticked, !untick); });
     menu->addAction(tr("&Save Selected…"), this, &MyTableController::saveSelected);
+    menu->addAction(tr("Save &As…"), this, [this, index] { saveItemAs(index); });
     menu->addSeparator();
     QAction* const sameDay = menu->addAction(
         day != 0 ? tr("Select All of &Day %1")

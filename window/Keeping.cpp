@@ -29,7 +29,7 @@ constexpr std::chrono::milliseconds kLookForCardAgain{250};
 }  // namespace
 
 void MyTableController::setUpKeeping() {
-    m_memory = std::make_unique<SearchMemory>(m_parts.stateFolder);
+    m_searchMemory = std::make_unique<SearchMemory>(m_parts.stateFolder);
     m_keptBar = new KeptSearchBar(body);
     bodyLayout->insertWidget(bodyLayout->indexOf(mediaScreen), m_keptBar);
     m_keptBar->hide();
@@ -69,7 +69,7 @@ void MyTableController::setUpKeeping() {
     connect(m_keptBar->goOnButton, &QPushButton::clicked, this, [this] { goOnWithKept(false); });
     connect(m_keptBar->lookButton, &QPushButton::clicked, this, [this] { goOnWithKept(true); });
     connect(m_keptBar->forgetButton, &QPushButton::clicked, this, [this] {
-        m_memory->forgetLast();
+        m_searchMemory->forgetLast();
         showKeeping();
         homeOfScreen()->setFocus();
     });
@@ -87,15 +87,15 @@ void MyTableController::setUpKeeping() {
 // The offer on the first screen, the boxes on the one of the range.
 void MyTableController::showKeeping() {
     const bool onRange = screen_counter == 1;
-    m_keepingBox->offer(onRange && m_memory->hasFolder(), onRange && m_parts.openSource);
+    m_keepingBox->offer(onRange && m_searchMemory->hasFolder(), onRange && m_parts.openSource);
     m_searchOptions->setVisible(!thoroughBox->isHidden() || !m_keepingBox->isHidden());
     // Explanations begin below one another.
     const int tick = _Thro_Mode_Chk->sizeHint().width() + thoroughLayout->spacing();
     thoroughLabel->setMinimumWidth(m_keepingBox->copyBox->sizeHint().width() - tick);
     if (screen_counter != 0) {
-        m_memory->letGo();
+        m_searchMemory->letGo();
     }
-    const SearchRecord* const last = screen_counter == 0 ? m_memory->last() : nullptr;
+    const SearchRecord* const last = screen_counter == 0 ? m_searchMemory->last() : nullptr;
     m_keptBar->setVisible(last != nullptr);
     if (last != nullptr) {
         m_keptBar->offer(*last);
@@ -149,7 +149,7 @@ void MyTableController::keepThisSearch() {
         record = SearchRecord();
     }
     bool remember = m_keepingBox->rememberBox->isChecked();
-    if (remember && m_parts.isOnMedium && m_parts.isOnMedium(m_memory->folder(), devicePath())) {
+    if (remember && m_parts.isOnMedium && m_parts.isOnMedium(m_searchMemory->folder(), devicePath())) {
         runAlert(
             {QStringLiteral("\n") + tr("This search is not remembered."),
              tr("Your home folder lies on the medium that is to be searched; writing there would overwrite "
@@ -174,7 +174,7 @@ void MyTableController::keepThisSearch() {
     m_savedBefore = record.notes.saved;
     m_tickedBefore = record.notes.ticked;
     m_selectedBefore = record.notes.selected;
-    keepSearch(m_memory->begin(std::move(record), remember, [this] { return itemCount(); }));
+    keepSearch(m_searchMemory->begin(std::move(record), remember, [this] { return itemCount(); }));
 }
 
 namespace {
@@ -227,9 +227,9 @@ void MyTableController::keepMarksSoon() {
 void MyTableController::keepMarks() {
     m_marksChanged.stop();
     const std::vector<std::uint64_t> saved = m_desk->marks().savedPlaces();
-    m_memory->setMarks(withPlaces({saved.begin(), saved.end()}, m_savedBefore),
-                       withPlaces(m_ticks.all(), m_tickedBefore),
-                       withPlaces(browserOf(activeSet())->selectionIndexes(), m_selectedBefore));
+    m_searchMemory->setMarks(withPlaces({saved.begin(), saved.end()}, m_savedBefore),
+                             withPlaces(m_ticks.all(), m_tickedBefore),
+                             withPlaces(browserOf(activeSet())->selectionIndexes(), m_selectedBefore));
     writeKeptSearch();
 }
 
@@ -237,28 +237,28 @@ SearchRecord MyTableController::recordOfNow() {
     if (m_marksChanged.isActive()) {
         keepMarks();
     }
-    return m_memory->keeper()->record(refusals());
+    return m_searchMemory->keeper()->record(refusals());
 }
 
 // While a search runs, it does so itself.
 void MyTableController::writeKeptSearch() {
-    if (m_memory->keeper() && !scanRunning()) {
-        m_memory->keeper()->write(refusals());
+    if (m_searchMemory->keeper() && !scanRunning()) {
+        m_searchMemory->keeper()->write(refusals());
     }
 }
 
 // At the end of a search, whose thread waits for the user or is gone.
 void MyTableController::keepSearchEnd() {
-    if (!m_memory->keeper()) {
+    if (!m_searchMemory->keeper()) {
         return;
     }
-    m_memory->setEnded(searchEnd().outcome == PassOutcome::Completed && !searchEnd().brokenOff());
-    m_memory->keeper()->write(refusals());
+    m_searchMemory->setEnded(searchEnd().outcome == PassOutcome::Completed && !searchEnd().brokenOff());
+    m_searchMemory->keeper()->write(refusals());
 }
 
 // Begins anew, with what is known: names, numbers and order are those of a search that nobody stopped.
 void MyTableController::goOn() {
-    if (scanShown() || session || !m_memory->keeper()) {
+    if (scanShown() || session || !m_searchMemory->keeper()) {
         return;
     }
     SearchRecord record = recordOfNow();
@@ -282,7 +282,7 @@ void MyTableController::goOn() {
 // The card is back that was taken out in the middle of a search: it goes on by itself, and nothing is said of
 // any other card. What the user has before him is finished first, such as the alert that the card is gone.
 void MyTableController::goOnWithCardPutBack() {
-    if (m_ending || !onScanScreen() || !m_memory->keeper()) {
+    if (m_ending || !onScanScreen() || !m_searchMemory->keeper()) {
         return;
     }
     if (scanShown() || session || m_desk->isRunning() || AskingTurn::isTaken()) {
@@ -313,11 +313,11 @@ void MyTableController::goOnWith(SearchRecord record) {
 }
 
 void MyTableController::goOnWithKept(bool onlyLook) {
-    if (m_memory->last() == nullptr) {
+    if (m_searchMemory->last() == nullptr) {
         showKeeping();
         return;
     }
-    const SearchRecord kept = *m_memory->last();
+    const SearchRecord kept = *m_searchMemory->last();
     if (!chooseMediumOf(kept)) {
         return;
     }

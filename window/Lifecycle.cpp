@@ -5,6 +5,8 @@
 
 #include "results/RecoveryMode.h"
 #include "window/MyTableController.h"
+#include "window/preview/CellPictures.h"
+#include "window/preview/DraggedFiles.h"
 #include "window/preview/PreviewFile.h"
 #include "window/preview/ViewerDesk.h"
 #include "window/preview/WholePreview.h"
@@ -28,7 +30,11 @@ ThumbnailQueueOptions thumbnailQueueOptions() {
 }  // namespace
 
 MyTableController::MyTableController(ProgramParts parts)
-    : MediaList(*parts.media), ScanSession(static_cast<ScanView&>(*this)), m_parts(std::move(parts)) {
+    : MediaList(*parts.media),
+      ScanSession(static_cast<ScanView&>(*this)),
+      ControllerState(std::move(parts), [this] {
+          QMetaObject::invokeMethod(this, &MyTableController::drainQueue, Qt::QueuedConnection);
+      }) {
     Recovery_MODE = kPhotoMode;
     if (!m_parts.settingsFile.isEmpty()) {
         m_settings = std::make_unique<QSettings>(m_parts.settingsFile, QSettings::IniFormat);
@@ -59,6 +65,7 @@ MyTableController::MyTableController(ProgramParts parts)
 MyTableController::~MyTableController() {
     m_parts.media->changed = nullptr;
     shutDown(kTeardownPatience);
+    endParts();
 }
 
 QColor MyTableController::getColorFromRGB(int red, int blue, int green) {

@@ -3,6 +3,7 @@
 #include "media/SizeText.h"
 #include "results/SizeForPeople.h"
 #include "window/MyTableController.h"
+#include "window/preview/CellPictures.h"
 #include "window/widgets/Alerts.h"
 #include "window/widgets/Sheet.h"
 #include "window/widgets/Theme.h"
@@ -45,6 +46,7 @@ QString MyTableController::getMPSize(const QString& bytes) const {
 // Something was put in or pulled out: the list follows while it is in view.
 void MyTableController::mediaChanged() {
     m_looks->tryAgain();
+    m_pictures->tryAgain();
     if (screen_counter == 0 && !session) {
         reloadMediaKeepingSelection();
     }

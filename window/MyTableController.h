@@ -1,76 +1,23 @@
 // The one controller behind the window: it owns the run's state through ScanSession, shows it in the outlets,
 // and turns what the user does into the next step.
 //
-// Contents, in the order of the declarations below, each under the file that holds the bodies:
-//   Creation and set-up         window/Lifecycle.cpp, window/SetUp.cpp, window/Wiring.cpp
-//   Exit                        window/Exit.cpp
-//   Wizard actions              window/ScreenFlow.cpp
-//   Screens                     window/ScreenGroups.cpp
-//   Items left behind           window/LeftItems.cpp
-//   Table data sources          window/TableDataSources.cpp
-//   Panels and help             window/PanelActions.cpp
-//   Media list                  window/MediaScreen.cpp
-//   Search range                window/RangeScreen.cpp
-//   What is remembered          window/Remembering.cpp
-//   File types                  window/FileTypeScreen.cpp, window/TypePresets.cpp
-//   Scan threads                window/ScanThreads.cpp
-//   Browsers                    window/Browsers.cpp, window/ItemMenu.cpp
-//   Preview                     window/Preview.cpp
-//   Movie                       window/MoviePreview.cpp
-//   Viewer                      window/Viewer.cpp
-//   Saving                      window/Saving.cpp, window/Ticks.cpp
-//   Fields with given names
-//   What a scan shows           window/ScanScreen.cpp, window/SearchEndBar.cpp
-//   Searches gone on with       window/Keeping.cpp, window/CardCopy.cpp, window/CardState.cpp
-//   Steps behind these, file by file, and the fields of our own
+// Its declarations stand under the name of the file that holds their bodies; what it keeps is in
+// ControllerState.h.
 #pragma once
 
-#include <QDateTime>
-#include <QElapsedTimer>
-#include <QFile>
 #include <QFileDialog>
-#include <QSizeF>
-#include <QTimer>
-#include <array>
-#include <atomic>
 #include <memory>
-#include <optional>
-#include <thread>
 
-#include "decode/ThumbnailQueue.h"
-#include "media/CopiedMedium.h"
 #include "media/MediaList.h"
 #include "media/SearchRange.h"
-#include "results/TickedItems.h"
-#include "scan/ScanInputs.h"
-#include "scan/ScanMeter.h"
 #include "scan/ScanSession.h"
-#include "window/InterfaceQueue.h"
+#include "window/ControllerState.h"
 #include "window/Outlets.h"
-#include "window/ProgramParts.h"
-#include "window/ScanTimer.h"
-#include "window/WindowPanels.h"
-#include "window/browser/BrowserLooks.h"
 #include "window/browser/EmptyWords.h"
-#include "window/browser/FileTypeIcons.h"
 #include "window/browser/ImageBrowserModel.h"
-#include "window/browser/PendingView.h"
-#include "window/keeping/SearchMemory.h"
-#include "window/panels/RangePanel.h"
-#include "window/preview/FileManager.h"
-#include "window/preview/PreviewFile.h"
-#include "window/saving/SavingDesk.h"
-#include "window/widgets/TableAdapter.h"
-
-class QSettings;
 
 namespace vantor {
 
-class ViewerDesk;
-class CardStrip;
-class KeepingBox;
-class KeptSearchBar;
-class WholePreview;
 struct ViewOrder;
 struct PreviewFileRequest;
 
@@ -87,7 +34,8 @@ class MyTableController : public QObject,
                           public SectorText,
                           public Outlets,
                           public TableDataSource,
-                          public ImageBrowserDataSource {
+                          public ImageBrowserDataSource,
+                          public ControllerState {
     Q_OBJECT
 
   public:
@@ -208,6 +156,7 @@ class MyTableController : public QObject,
     std::shared_ptr<MyImageObject> imageBrowser_itemAtIndex(const ImageBrowserView* view,
                                                             qsizetype index) override;
     ItemFacts factsOfItem(qsizetype index) override;
+    const CellPicture* pictureOfItem(qsizetype index) override;
     // Items cannot be dragged out: writes nothing and gives 0.
     qsizetype imageBrowser_writeItemsAtIndexes(const ImageBrowserView* view, const QList<qsizetype>& indexes,
                                                QMimeData* toPasteboard);
@@ -250,28 +199,6 @@ class MyTableController : public QObject,
     void askSavingOptions();
     // True while something found is neither saved nor left out as the user asked.
     bool hasUnsavedItems() const;
-
-    // --- Fields with given names ---
-
-    // Set at start, with the interface.
-    const FileManager* fileManager = &FileManager::defaultManager();
-    QMainWindow* window = nullptr;
-    QDialog* BrowseInfo_Window = nullptr;
-    QDialog* SaveFile_Info_Window = nullptr;
-    QDialog* SaveFile_Info_For_RAW_Window = nullptr;
-    QDialog* ClearPreview_Window = nullptr;
-    QDialog* LoadDisk_Window = nullptr;
-    QDialog* HelpWindow = nullptr;
-    QSizeF zero_thumbnail{0, 0};
-
-    // Set by every scan.
-    std::shared_ptr<ScanTimer> mSetLabelTimer;
-    std::unique_ptr<QFile> pFile_op;
-
-    // Set by every preview.
-    QString Preview_Temp_File = QStringLiteral("");
-    std::thread mPreviewThread;
-    std::atomic<bool> session{false};  // a preview copy or a media query is in its modal session
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -348,6 +275,7 @@ class MyTableController : public QObject,
     void bringIntoView(QWidget* widget);
     void emptyBrowsers();
     void emptyBrowserViews();
+    void zoomRawBrowser(float zoom);
     // window/ScreenGroups.cpp
     void showPreviewPane(bool hide);
     void hideOpenFolderButtons();
@@ -362,6 +290,7 @@ class MyTableController : public QObject,
     QString chooseDestination();
     QString folderToBeginWith() const;
     bool acceptDestination(const QString& folder);
+    bool mayBeDestination(const QString& folder);
     bool isStillThere(const QString& folder) const;
     bool destinationStillThere();
     void showDestination();
@@ -439,6 +368,17 @@ class MyTableController : public QObject,
     Likeness likenessOf(const QString& identifier, const SearchRecord& record);
     QStringList mediaLike(const SearchRecord& record) const;
     bool chooseMediumOf(const SearchRecord& record);
+    // window/Mending.cpp
+    void setUpMending();
+    void offerMending();
+    void mendBrokenItems();
+    void stopMending();
+    void forgetMends();
+    void showMending();
+    void showPieces();
+    void previewMendedItem();
+    QString mendingWords() const;
+    QString mendingEndWords() const;
     // window/ScanThreads.cpp
     void startScan(void (ScanSession::*driver)());
     void pump();
@@ -460,6 +400,11 @@ class MyTableController : public QObject,
     LookedAtItems lookedAtItems();
     void selectionMoved(ImageBrowserView* browser);
     void startDuePreview();
+    // window/ItemPictures.cpp
+    void setUpItemPictures();
+    void wantItemPictures();
+    void showDetails(bool shown);
+    std::optional<ViewOrder> pictureOrderOf(std::size_t index) const;
     // window/ItemMenu.cpp
     void showItemMenu(ImageBrowserView* browser, qsizetype index, const QPoint& place);
     void selectLike(ImageBrowserView* browser, const std::function<bool(qsizetype)>& isLike) const;
@@ -482,101 +427,17 @@ class MyTableController : public QObject,
     // window/Viewer.cpp
     void setUpViewer();
     ViewOrder viewOrderOf(const MyImageObject& item) const;
+    // window/DragOut.cpp
+    void dragOut(ImageBrowserView* browser, const QList<qsizetype>& indexes);
+    bool waitForDraggedFiles(QWidget* browser);
+    void saveItemAs(qsizetype index);
+    // window/Ejecting.cpp
+    bool canEjectCard() const;
+    void ejectCard();
     // window/Saving.cpp
     void saveItems(const QList<qsizetype>& indexes, const SavingDesk::ToldFiles& told = {});
     SavingParts savingParts();
     ReportHead reportHead() const;
-
-    // --- Fields of our own ---
-
-    // Set when the controller is made.
-    ProgramParts m_parts;
-    std::unique_ptr<QMainWindow> m_window;
-    std::array<std::unique_ptr<RangePanel>, 2> m_range;
-    std::unique_ptr<WindowPanels> m_panels;
-    TableAdapter* m_mediaTable = nullptr;
-    TableAdapter* m_typeTable = nullptr;
-    TableAdapter* m_resultTable = nullptr;
-    QList<QCheckBox*> m_groupBoxes;         // by FileKind
-    std::unique_ptr<QSettings> m_settings;  // null where nothing is remembered
-    QString m_previewFolder;
-    QString m_wholeFolder;  // of the previews of true length
-    PreviewFolderHold m_previewHold;
-    QString m_obstacle;     // why the item on preview has no picture; empty where nothing stands in the way
-    FileTypeIcons m_icons;  // prepared before a scan, read by it
-    QList<QMetaObject::Connection> m_notifications;  // gone after a refused exit
-    int m_clickedColumn = -1;                        // of the last click in a table
-    bool m_ending = false;                           // the exit was confirmed
-
-    // Shared between the threads of a scan.
-    InterfaceQueue m_queue{
-        [this] { QMetaObject::invokeMethod(this, &MyTableController::drainQueue, Qt::QueuedConnection); }};
-    std::unique_ptr<ThumbnailQueue> m_thumbnails;  // null without a thumbnailer
-    std::array<PendingView, 2> m_pending;
-    std::atomic<bool> m_resultRowsDirty{false};
-    std::atomic<bool> m_driverRunning{false};
-    std::atomic<bool> m_timerRunning{false};
-    std::atomic<bool> m_besideRunning{false};
-
-    // Set by every preview.
-    QTimer m_previewDue;                        // runs while a selection was not looked at yet
-    QString m_previewedName;                    // of the item that the preview file was copied from
-    std::shared_ptr<WholePreview> m_whole;      // of what is on preview
-    std::shared_ptr<WholePreview> m_nextWhole;  // of what is being copied
-    std::atomic<int> m_filling{0};              // threads that fill one
-
-    // Set by every scan.
-    ScanInputs m_inputs;
-    std::thread m_driver;
-    std::thread m_timerThread;
-    QTimer m_pump;
-    QElapsedTimer m_clock;
-    QDateTime m_scanBegun;
-    ScanMeter m_meter;
-    double m_progressSectors = 0;
-    bool m_draining = false;
-    bool m_searchEnded = false;  // and its results are in view
-    bool m_readsAsErased = false;
-    std::atomic<bool> m_mayBeErased{false};  // nobody has looked yet
-    qint64 m_searchMilliseconds = 0;         // how long it took
-    QList<ResultRow> m_leftRows;             // only when it fell back to the screen before
-
-    // Of searches that are gone on with, and of copies.
-    CopiedMedium m_copied;
-    QString m_copyPath;  // of the copy that is kept
-    CardStrip* m_cardStrip = nullptr;
-    QLabel* m_cardWords = nullptr;
-    QPushButton* m_keepCopyButton = nullptr;
-    std::size_t m_stripItems = 0;    // that are marked in the strip
-    qint64 m_lastLookAtCard = 0;     // milliseconds of the search
-    bool m_goOnWhenStopped = false;  // the user wants a copy of what is searched
-    std::shared_ptr<std::atomic<bool>> m_leaving = std::make_shared<std::atomic<bool>>(false);
-    std::unique_ptr<SearchMemory> m_memory;
-    KeptSearchBar* m_keptBar = nullptr;
-    QFrame* m_searchOptions = nullptr;
-    KeepingBox* m_keepingBox = nullptr;
-    QPushButton* m_goOnButton = nullptr;
-    QTimer m_cardBackLater;                 // runs while something holds up the look for a card put back
-    std::optional<SearchRecord> m_goingOn;  // what the search that is about to begin goes on with
-    bool m_onlyLook = false;                // and that it ends where that one did
-    // Ascending places of items that are not listed yet.
-    std::vector<std::uint64_t> m_savedBefore, m_tickedBefore, m_selectedBefore;
-    QTimer m_marksChanged;
-
-    // Set when the user chooses the destination.
-    QString m_chosenFolder;
-    std::optional<std::uint64_t> m_chosenFileSystem;
-
-    // Set by the user after a scan has found something; empty with every list.
-    TickedItems m_ticks;
-
-    // Set at the end of a scan, emptied with the next one.
-    SavingDesk::ToldFiles m_told;  // files that only the card's directory tells of
-
-    // Begin anew with every scan; the first to go, since they ask the others.
-    std::unique_ptr<BrowserLooks> m_looks;
-    std::unique_ptr<SavingDesk> m_desk;
-    std::unique_ptr<ViewerDesk> m_viewer;
 };
 
 }  // namespace vantor

@@ -75,6 +75,20 @@ QLineEdit* MyTableController::pathInView() const {
 // Both path fields get the folder, unless it lies on the medium that is to be recovered or nothing can be
 // written into it.
 bool MyTableController::acceptDestination(const QString& folder) {
+    if (!mayBeDestination(folder)) {
+        return false;
+    }
+    _path->setText(folder);
+    _path_Sig->setText(folder);
+    m_chosenFolder = folder;
+    m_chosenFileSystem = fileSystemOf(folder);
+    rememberFolder(kLastDestination, folder);
+    showDestination();
+    return true;
+}
+
+// Tells the user where it may not.
+bool MyTableController::mayBeDestination(const QString& folder) {
     if (m_parts.isOnMedium && m_parts.isOnMedium(folder, devicePath())) {
         runAlert({QStringLiteral("\n") + tr("This folder cannot be the destination."),
                   tr("It lies on the storage medium you are recovering from. Writing there would overwrite "
@@ -88,12 +102,6 @@ bool MyTableController::acceptDestination(const QString& folder) {
                  window);
         return false;
     }
-    _path->setText(folder);
-    _path_Sig->setText(folder);
-    m_chosenFolder = folder;
-    m_chosenFileSystem = fileSystemOf(folder);
-    rememberFolder(kLastDestination, folder);
-    showDestination();
     return true;
 }
 

@@ -4,12 +4,15 @@
 
 #include "catalogue/FileKind.h"
 #include "catalogue/NumberText.h"
+#include "results/ItemWords.h"
 #include "results/RecoveryMode.h"
 #include "results/SizeForPeople.h"
 #include "saving/FreeSpace.h"
 #include "window/MyTableController.h"
+#include "window/preview/CellPictures.h"
 #include "window/preview/DocumentFrame.h"
 #include "window/preview/MovieControls.h"
+#include "window/preview/PieceStrip.h"
 #include "window/preview/PreviewFile.h"
 #include "window/preview/WholePreview.h"
 #include "window/widgets/Sheet.h"
@@ -72,13 +75,16 @@ void MyTableController::CreateFile_QuickLook_View(const QVariantList& item) {
     {
         const SheetSession sheet(ClearPreview_Window, controlPanel, exitButton);
         m_looks->rest(true);
+        m_pictures->rest(true);
         runBeside([this, request, mediumOpened] { *mediumOpened = makePreviewFile(*request, stop_now); });
         if (m_ending) {
             return;
         }
         m_looks->rest(false);
+        m_pictures->rest(false);
         if (*mediumOpened) {
             m_looks->tryAgain();
+            m_pictures->tryAgain();
             Preview_Temp_File = request->newFile;
             takeWholePreview(m_nextWhole);
         }
@@ -113,7 +119,9 @@ std::shared_ptr<WholePreview> MyTableController::wholePreviewOf(PreviewFileReque
         request.type = item->fileType();
         request.carved = item->carved();
         request.hints.card = card();
+        request.hints.mend = m_mended->of(*item);
     }
+    m_previewedMend = request.hints.mend;
     request.start = copy.start;
     request.previewFile = copy.newFile;
     request.folder = m_wholeFolder;
@@ -187,6 +195,8 @@ void MyTableController::emptyPreviewPane() {
     _QuickLook_View->setText(tr("Select an item to preview it."));
     _QuickLook_View->setAccessibleName({});
     previewFacts->clear();
+    m_previewedMend.reset();
+    m_pieceStrip->setPieces({});
     takeWholePreview(nullptr);
 }
 
@@ -220,6 +230,7 @@ void MyTableController::showPreviewFacts() {
                               ? tr("%1, %2").arg(size, timeText(sound->durationMs()))
                               : size;
     previewFacts->setText(m_obstacle.isEmpty() ? facts : facts + u'\n' + m_obstacle);
+    showPieces();
 }
 
 // Null as well when the program ends meanwhile.

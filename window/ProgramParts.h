@@ -1,6 +1,7 @@
 // What the window is given from outside: the real things in the program, scripted ones in the tests.
 #pragma once
 
+#include <QMimeData>
 #include <QString>
 #include <chrono>
 #include <cstdint>
@@ -29,6 +30,7 @@ struct ProgramParts {
     MediumOpener openBeside;
     Thumbnailer thumbnailer;
     PicturePreviewer picture;  // none: every preview is an icon
+    FileLooker look;           // for the cells of the browsers; none: they show icons
     PreviewObstacle obstacle;  // none: nothing is said where a picture is missing
     MovieLoader movie;         // none: every preview is a picture
     MovieLoader largeMovie;    // for the whole window; none: `movie` does
@@ -46,6 +48,12 @@ struct ProgramParts {
     std::function<bool(const QString& folder, const QString& devicePath)> isOnMedium;
     // Bytes that may still be written into the folder; nothing when that is not known.
     std::function<std::optional<std::uint64_t>(const QString& folder)> freeBytes = freeBytesAt;
+    // Hands over files that the user drags out of the window; none: the toolkit does.
+    std::function<void(std::unique_ptr<QMimeData> files)> drag;
+    // Whether the medium behind "/dev/r" + identifier can be ejected, and ejecting it: "" or why that failed.
+    // Both take seconds at most, the second as long as the user is asked for consent. None: it cannot.
+    std::function<bool(const QString& devicePath)> canEject;
+    std::function<QString(const QString& devicePath)> eject;
     // Shows a document or a folder in its default application; false when there is none.
     std::function<bool(const QString& path)> openDocument;
     // A word to a user who looks at something else while a long search ends; none: nothing is said.

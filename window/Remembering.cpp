@@ -3,6 +3,7 @@
 #include <QSettings>
 
 #include "window/MyTableController.h"
+#include "window/browser/DetailsHeader.h"
 #include "window/saving/RememberedChoices.h"
 #include "window/widgets/Alerts.h"
 
@@ -11,6 +12,10 @@ namespace vantor {
 namespace {
 
 const QString kGeometry = QStringLiteral("window/geometry");
+const QString kDetails = QStringLiteral("results/details");
+const QString kColumns = QStringLiteral("results/columns");
+const QString kRawColumns = QStringLiteral("results/columnsOfFiles");
+const QString kPhotoSplitter = QStringLiteral("results/photoSplitter");
 const QString kSplitter = QStringLiteral("results/splitter");
 
 }  // namespace
@@ -22,6 +27,12 @@ void MyTableController::recall() {
     }
     window->restoreGeometry(m_settings->value(kGeometry).toByteArray());
     rawSplitter->restoreState(m_settings->value(kSplitter).toByteArray());
+    photoSplitter->restoreState(m_settings->value(kPhotoSplitter).toByteArray());
+    for (const auto& [key, browser] :
+         {std::pair{kColumns, imageBrowser}, std::pair{kRawColumns, imageBrowser_2}}) {
+        browser->detailsHeader()->recall(m_settings->value(key).toByteArray());
+    }
+    showDetails(m_settings->value(kDetails).toBool());
     m_desk->choices() = recalledChoices(*m_settings);
 }
 
@@ -31,6 +42,10 @@ void MyTableController::remember() {
     }
     m_settings->setValue(kGeometry, window->saveGeometry());
     m_settings->setValue(kSplitter, rawSplitter->saveState());
+    m_settings->setValue(kPhotoSplitter, photoSplitter->saveState());
+    m_settings->setValue(kColumns, imageBrowser->detailsHeader()->saveState());
+    m_settings->setValue(kRawColumns, imageBrowser_2->detailsHeader()->saveState());
+    m_settings->setValue(kDetails, imageBrowser->detailsShown());
     rememberChoices(*m_settings, m_desk->choices());
     m_settings->sync();
 }

@@ -3,6 +3,7 @@
 
 #include "results/RecoveryMode.h"
 #include "window/MyTableController.h"
+#include "window/preview/CellPictures.h"
 #include "window/widgets/Alerts.h"
 
 namespace vantor {
@@ -19,6 +20,7 @@ SavingParts MyTableController::savingParts() {
         return [open = m_parts.openMedium, device = devicePath()] { return open ? open(device) : nullptr; };
     };
     parts.card = [this] { return card(); };
+    parts.mended = [this] { return m_mended; };
     parts.liesOnMedium = [this]() -> ItemSaver::LiesOnMedium {
         if (!m_parts.isOnMedium) {
             return {};
@@ -32,6 +34,8 @@ SavingParts MyTableController::savingParts() {
     parts.reportHead = [this] { return reportHead(); };
     parts.examined = [this](std::size_t index, const Soundness& found) { m_looks->note(index, found); };
     parts.openFolder = [this] { openDestination(); };
+    parts.canEject = [this] { return canEjectCard(); };
+    parts.eject = [this] { ejectCard(); };
     parts.chooseFolder = [this] { return chooseDestination(); };
     parts.ending = [this] { return m_ending; };
     return parts;
@@ -78,8 +82,10 @@ void MyTableController::saveItems(const QList<qsizetype>& indexes, const SavingD
     if (pathInView()->text().isEmpty() ? askDestination().isEmpty() : !destinationStillThere()) {
         return;
     }
+    stopMending();
     m_desk->save(indexes, pathInView()->text(), told);
     m_looks->tryAgain();
+    m_pictures->tryAgain();
     showDestination();
 }
 

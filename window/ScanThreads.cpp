@@ -5,6 +5,7 @@
 #include "catalogue/SignatureRecord.h"
 #include "results/RecoveryMode.h"
 #include "window/MyTableController.h"
+#include "window/preview/CellPictures.h"
 #include "window/widgets/AskingTurn.h"
 
 namespace vantor {
@@ -65,6 +66,7 @@ void MyTableController::beginLooks() {
     m_looks->begin(m_parts.openBeside
                        ? [open = m_parts.openBeside, device = devicePath()] { return open(device); }
                        : SoundnessBoard::Open());
+    m_pictures->begin();
 }
 
 void MyTableController::startTimerThread() {

@@ -1,6 +1,7 @@
 // The wizard: what Next, Back and the mode radios do on each screen.
 #include <QObject>
 #include <QScrollBar>
+#include <QSignalBlocker>
 
 #include "catalogue/FileTypeList.h"
 #include "results/RecoveryMode.h"
@@ -210,7 +211,7 @@ void MyTableController::backToRange() {
 void MyTableController::backToFileTypes() {
     screen_counter = 2;
     clearItems();
-    imageBrowser_2->setZoomValue(kRawZoom);
+    zoomRawBrowser(kRawZoom);
     imageBrowser_2->reloadData();
     hideOpenFolderButtons();
     showFileTypeHelp();
@@ -220,6 +221,13 @@ void MyTableController::backToFileTypes() {
     forgetItems();
     m_looks->end();
     homeOfScreen()->setFocus();
+}
+
+// The browser and the slider that says how large its cells are.
+void MyTableController::zoomRawBrowser(float zoom) {
+    imageBrowser_2->setZoomValue(zoom);
+    const QSignalBlocker quiet(zoomSlider_Sig);
+    zoomSlider_Sig->setValue(qRound(zoom * static_cast<float>(zoomSlider_Sig->maximum())));
 }
 
 void MyTableController::showMediaHelp() {
@@ -256,7 +264,7 @@ void MyTableController::emptyBrowserViews() {
     m_viewer->leave();
     _zoom_slider->setValue(_zoom_slider->maximum() / 2);
     imageBrowser->setZoomValue(kPhotoZoom);
-    imageBrowser_2->setZoomValue(kRawZoom);
+    zoomRawBrowser(kRawZoom);
     imageBrowser->reloadData();
     imageBrowser_2->reloadData();
 }

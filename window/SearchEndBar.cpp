@@ -33,8 +33,8 @@ void MyTableController::showSearchEnd() {
     if (m_readsAsErased) {
         sentences << erasedCardWords();
     }
-    if (m_memory->keeper() && !m_memory->keeper()->error().isEmpty()) {
-        sentences << tr("The search could not be remembered: %1.").arg(m_memory->keeper()->error());
+    if (m_searchMemory->keeper() && !m_searchMemory->keeper()->error().isEmpty()) {
+        sentences << tr("The search could not be remembered: %1.").arg(m_searchMemory->keeper()->error());
     }
     sentences.removeAll(QString());
     searchEndLabel->setText(sentences.join(u' '));
@@ -67,6 +67,7 @@ void MyTableController::showSearchSum() {
         }
     }
     searchSumLabel->setText(parts.join(QStringLiteral(", ")));
+    offerMending();
 }
 
 std::unique_ptr<SectorReader> MyTableController::openForSearch(const QString& device) {

@@ -5,6 +5,7 @@
 #include "results/SizeForPeople.h"
 #include "window/MyTableController.h"
 #include "window/ProgramTitle.h"
+#include "window/panels/CardPicture.h"
 #include "window/widgets/AccessibleControls.h"
 #include "window/widgets/Theme.h"
 
@@ -51,6 +52,7 @@ void MyTableController::loadInterface() {
     setUpTables();
     setUpBrowsers();
     setUpKeeping();
+    setUpMending();
     setUpCardStrip();
     setEmptyStates();
     buildGroupBoxes();
@@ -131,6 +133,8 @@ void MyTableController::dressRangeSets() {
     sig.reachHint = sliderReachHint_Sig;
     sig.path = _path_Sig;
     m_range[static_cast<std::size_t>(ControlSet::Sig)] = std::make_unique<RangePanel>(sig);
+    diskFactsBox->layout()->addWidget(new CardPicture(photo, partsOnThisMachine, diskFactsBox));
+    diskFactsBox_Sig->layout()->addWidget(new CardPicture(sig, partsOnThisMachine, diskFactsBox_Sig));
 }
 
 void MyTableController::setUpTables() {
@@ -178,6 +182,7 @@ void MyTableController::setUpBrowsers() {
     m_desk = std::make_unique<SavingDesk>(savingParts());
     connect(m_desk.get(), &SavingDesk::marksChanged, this, &MyTableController::showItemCounts);
     setUpViewer();
+    setUpItemPictures();
 }
 
 void MyTableController::setEmptyStates() {

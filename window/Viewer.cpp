@@ -12,6 +12,10 @@ void MyTableController::setUpViewer() {
     parts.over = window->centralWidget();
     parts.itemAt = [this](qsizetype index) { return imageBrowser_itemAtIndex(nullptr, index); };
     parts.factsOf = [this](qsizetype index) { return factsOfItem(index); };
+    parts.mendOf = [this](qsizetype index) {
+        const auto item = imageBrowser_itemAtIndex(nullptr, index);
+        return item ? m_mended->of(*item) : nullptr;
+    };
     parts.placeOf = [this](qsizetype index) {
         const ImageBrowserView& browser = *browserOf(activeSet());
         return ViewedPlace{browser.rowOfIndex(index), browser.shownCount()};
@@ -20,6 +24,7 @@ void MyTableController::setUpViewer() {
     parts.choose = [this](qsizetype index) { browserOf(activeSet())->chooseIndex(index); };
     parts.order = [this](const MyImageObject& item) { return viewOrderOf(item); };
     parts.obstacle = m_parts.obstacle;
+    parts.tick = [this](qsizetype index, bool ticked) { tickItems({index}, ticked); };
     parts.left = [this] {
         browserOf(activeSet())->setFocus();
         // What was chosen meanwhile is on preview beside the list.

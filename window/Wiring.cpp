@@ -56,12 +56,22 @@ void MyTableController::wire() {
             &MyTableController::showChosenType);
     connect(allTypesButton, &QPushButton::clicked, idSigTableView, &QTableView::clearSelection);
     connect(_zoom_slider, &QSlider::valueChanged, this, [this] { zoomSliderDidChange(_zoom_slider); });
+    connect(zoomSlider_Sig, &QSlider::valueChanged, this, [this](int value) {
+        imageBrowser_2->setZoomValue(static_cast<float>(value) /
+                                     static_cast<float>(zoomSlider_Sig->maximum()));
+        imageBrowser_2->viewport()->update();
+    });
+    for (QToolButton* button : {detailsButton, detailsButton_Sig}) {
+        connect(button, &QToolButton::toggled, this, &MyTableController::showDetails);
+    }
     for (ImageBrowserView* browser : {imageBrowser, imageBrowser_2}) {
         connect(browser, &ImageBrowserView::selectionDidChange, this, [this, browser] {
             selectionMoved(browser);
             keepMarksSoon();
         });
         connect(browser, &ImageBrowserView::openWanted, this, &MyTableController::openInViewer);
+        connect(browser, &ImageBrowserView::dragWanted, this,
+                [this, browser](const QList<qsizetype>& indexes) { dragOut(browser, indexes); });
         connect(
             browser, &ImageBrowserView::menuWanted, this,
             [this, browser](qsizetype index, const QPoint& place) { showItemMenu(browser, index, place); });
@@ -163,6 +173,8 @@ void MyTableController::wireShortcuts() {
     press(Qt::Key_F1, helpButton);
     press(Qt::Key_F5, refreshButton);
     press(Qt::CTRL | Qt::Key_O, openImageButton);
+    press(Qt::CTRL | Qt::Key_D, detailsButton);
+    press(Qt::CTRL | Qt::Key_D, detailsButton_Sig);
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
         connect(shortcut(key, window), &QShortcut::activated, this, &MyTableController::pressDefault);
     }

@@ -13,6 +13,7 @@
 #include "decode/EvidenceHelper.h"
 #include "media/PathArgument.h"
 #include "media/PlatformMedia.h"
+#include "media/UdisksEjector.h"
 #include "saving/DestinationCheck.h"
 #include "window/MyTableController.h"
 #include "window/ProgramTitle.h"
@@ -55,6 +56,7 @@ ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTable
     };
     const auto desktop = std::make_shared<const DesktopThumbnailers>();
     parts.picture = makeFilePreviewer(pool, desktop);
+    parts.look = makeFileLooker(pool, desktop);
     parts.obstacle = makePreviewObstacle(pool, desktop);
     const HelperMovieOptions playing{makeDesktopSoundDevice, {}};
     parts.sound = [playing](const QString& file) { return SoundMovie::open(file, {}, playing); };
@@ -75,6 +77,13 @@ ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTable
         return std::any_of(nodes.begin(), nodes.end(),
                            [&folder](const QString& node) { return destinationIsOnMedium(folder, node); });
     };
+    const auto ejector = std::make_shared<UdisksEjector>();
+    const auto nodeOf = [targets = parts.media->targets()](const QString& devicePath) {
+        const auto target = targets->find(devicePath.mid(QStringLiteral("/dev/r").size()));
+        return target ? target->path : QString();
+    };
+    parts.canEject = [ejector, nodeOf](const QString& device) { return ejector->canEject(nodeOf(device)); };
+    parts.eject = [ejector, nodeOf](const QString& device) { return ejector->eject(nodeOf(device)); };
     parts.openDocument = [](const QString& path) { return openInDesktop(path); };
     parts.notify = [](const QString& title, const QString& text) { notifyDesktop(title, text); };
     parts.showTaskProgress = [](std::optional<double> share) { showTaskProgress(share); };

@@ -58,9 +58,9 @@ bool isBlank(const QImage& image) {
 // A drawing without what lies behind its end, which its reader would take for an error, and without its
 // words: they would be drawn with fonts, which are files and out of the helper's reach.
 QByteArray wordlessDrawing(QByteArrayView bytes) {
-    constexpr QByteArrayView kEnd = "</svg>";
-    const qsizetype end = bytes.lastIndexOf(kEnd);
-    QByteArray drawing = bytes.first(end < 0 ? bytes.size() : end + kEnd.size()).toByteArray();
+    constexpr QByteArrayView kEndTag = "</svg>";
+    const qsizetype end = bytes.lastIndexOf(kEndTag);
+    QByteArray drawing = bytes.first(end < 0 ? bytes.size() : end + kEndTag.size()).toByteArray();
     // Elements of an unknown name are passed over.
     return drawing.replace("<text", "<void").replace("</text", "</void");
 }

@@ -39,11 +39,15 @@ Extent walkCrw(ByteView& view) {
         if (bytes.size() < 16)
             break;
         const std::size_t most = bytes.size() > kReach ? bytes.size() - kReach : bytes.size() - 15;
+        const std::uint8_t* const counts =
+            bytes.data();  // unchecked, since this looks at every byte of a card
         std::size_t passed = most;
         for (std::size_t i = 0; i < most; ++i) {
-            const std::size_t entries = bytes[i] | bytes[i + 1] << 8;
+            const std::size_t entries = counts[i];
+            if (counts[i + 1] != 0 || entries == 0 || entries > kMostEntries)
+                continue;
             const std::size_t tail = i + 2 + entries * 10;
-            if (entries == 0 || entries > kMostEntries || tail + 4 > bytes.size())
+            if (tail + 4 > bytes.size())
                 continue;
             const auto told =
                 static_cast<std::uint32_t>(bytes[tail] | bytes[tail + 1] << 8 | bytes[tail + 2] << 16 |

@@ -38,7 +38,8 @@ void walkAs(const Format& format, std::span<const std::uint8_t> data) {
     const bool bounded = extent.end <= data.size() && source.bytesRead() <= 3 * data.size() + kAllowance;
     if (extent.checked && (extent.verdict != Verdict::Complete || !extent.exactEnd))
         std::abort();
-    if (!bounded || (extent.verdict == Verdict::Unknown && extent.end != 0))
+    // Frames may miss behind a tag.
+    if (!bounded || (extent.verdict == Verdict::Unknown && extent.end != 0 && !format.frameStream))
         std::abort();
 }
 

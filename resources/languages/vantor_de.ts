@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Choose where found files go</source>
-        <translation>Wählen, wohin die gefundenen Dateien kommen</translation>
+        <translation>Wählen Sie, wohin die gefundenen Dateien kommen</translation>
     </message>
     <message>
         <source>In the next window, pick a folder on another disk, never on the medium you are recovering from: whatever is written there can overwrite the very files you want back.</source>
@@ -33,6 +33,25 @@
     <message>
         <source>The item is being read from the medium. This takes a moment for large items.</source>
         <translation>Der Fund wird vom Medium gelesen. Bei großen Dateien dauert das einen Augenblick.</translation>
+    </message>
+</context>
+<context>
+    <name>EvidenceImage</name>
+    <message>
+        <source>Evidence images cannot be read here</source>
+        <translation>Beweisabbilder können hier nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>Evidence images are only read shut in, which this system does not allow</source>
+        <translation>Beweisabbilder werden nur eingesperrt gelesen, was dieses System nicht zulässt</translation>
+    </message>
+    <message>
+        <source>The part of the program that reads evidence images does not start</source>
+        <translation>Der Programmteil, der Beweisabbilder liest, startet nicht</translation>
+    </message>
+    <message>
+        <source>The evidence image is damaged or of a kind that cannot be read</source>
+        <translation>Das Beweisabbild ist beschädigt oder von einer Art, die sich nicht lesen lässt</translation>
     </message>
 </context>
 <context>
@@ -542,6 +561,14 @@ Die Karte wird nur gelesen, nie beschrieben. Benutzen Sie sie nicht weiter, bis 
         <source>Save every found item (Ctrl+Shift+S)</source>
         <translation>Jeden Fund speichern (Strg+Umschalt+S)</translation>
     </message>
+<message>
+        <source>Details in columns</source>
+        <translation>Einzelheiten in Spalten</translation>
+    </message>
+    <message>
+        <source>Details in columns (Ctrl+D)</source>
+        <translation>Einzelheiten in Spalten (Strg+D)</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -708,10 +735,6 @@ Bitte wählen Sie mindestens einen Dateityp aus.</translation>
         <translation>Bitte wandeln Sie es zuerst in ein rohes Abbild um (zum Beispiel mit „qemu-img convert -O raw“) und öffnen Sie dieses.</translation>
     </message>
     <message>
-        <source>Please export it as a raw (dd) image first and open that.</source>
-        <translation>Bitte exportieren Sie es zuerst als rohes Abbild (dd) und öffnen Sie dieses.</translation>
-    </message>
-    <message>
         <source>Please convert it to a raw image first and open that.</source>
         <translation>Bitte wandeln Sie es zuerst in ein rohes Abbild um und öffnen Sie dieses.</translation>
     </message>
@@ -752,7 +775,7 @@ End Sector should be greater than Start Sector.</source>
 Der Endsektor muss größer als der Startsektor sein.</translation>
     </message>
     <message>
-        <source>This card reads as erased: beside its file system&apos;s own sectors, all places looked at are empty. Some cameras and programs erase the whole card when they format it, and then nothing can be found.</source>
+        <source>This card reads as erased: beside its file system's own sectors, all places looked at are empty. Some cameras and programs erase the whole card when they format it, and then nothing can be found.</source>
         <translation>Diese Karte liest sich wie gelöscht: Außer den Sektoren ihres Dateisystems sind alle geprüften Stellen leer. Manche Kameras und Programme löschen beim Formatieren die ganze Karte, und dann lässt sich nichts finden.</translation>
     </message>
     <message>
@@ -1182,7 +1205,7 @@ Der Endsektor muss größer als der Startsektor sein.</translation>
     </message>
     <message>
         <source>They are in %1, in a folder for each type.</source>
-        <translation>Sie liegen in %1, in je einem Ordner für jeden Typ.</translation>
+        <translation>Gespeichert in %1, mit einem Ordner für jeden Typ.</translation>
     </message>
     <message>
         <source>%1 could only be read in part; what could not be read is filled with zeros.</source>
@@ -1546,7 +1569,7 @@ Fehler beim Lesen des Speichermediums.</translation>
         <translation>Das Medium kann nicht geöffnet werden.</translation>
     </message>
     <message>
-        <source>The medium&apos;s directories could not be read.</source>
+        <source>The medium's directories could not be read.</source>
         <translation>Die Verzeichnisse des Mediums konnten nicht gelesen werden.</translation>
     </message>
     <message>
@@ -1666,7 +1689,7 @@ Versuchen Sie --help.</translation>
         <translation>Die Speichermedien dieses Rechners ausgeben (mit --list-json als JSON) und nichts suchen.</translation>
     </message>
     <message>
-        <source>Print what the medium&apos;s own directories tell of its files, those that are there and those that were, as one JSON object each, and search nothing.</source>
+        <source>Print what the medium's own directories tell of its files, those that are there and those that were, as one JSON object each, and search nothing.</source>
         <translation>Als je ein JSON-Objekt ausgeben, was die Verzeichnisse des Mediums selbst von seinen Dateien sagen, den vorhandenen und den früheren, und nichts suchen.</translation>
     </message>
     <message>
@@ -1678,15 +1701,15 @@ Versuchen Sie --help.</translation>
         <translation>Nichts sagen außer dem, was misslang, und keinen Fortschritt zeigen.</translation>
     </message>
     <message>
-        <source>Speak this language (en, de, fr, es, it, pt_BR, nl, pl, ja or zh_CN) in place of the desktop&apos;s; with --list-json it is English always.</source>
+        <source>Speak this language (en, de, fr, es, it, pt_BR, nl, pl, ja or zh_CN) in place of the desktop's; with --list-json it is English always.</source>
         <translation>Diese Sprache sprechen (en, de, fr, es, it, pt_BR, nl, pl, ja oder zh_CN) statt der des Desktops; mit --list-json immer Englisch.</translation>
     </message>
     <message>
-        <source>An image file, a device&apos;s identifier (sdb1) or its path (/dev/sdb1).</source>
+        <source>An image file, a device's identifier (sdb1) or its path (/dev/sdb1).</source>
         <translation>Eine Abbilddatei, die Kennung eines Geräts (sdb1) oder sein Pfad (/dev/sdb1).</translation>
     </message>
     <message>
-        <source>Unknown mode &quot;%1&quot;.</source>
+        <source>Unknown mode "%1".</source>
         <translation>Unbekannter Modus „%1“.</translation>
     </message>
     <message>
@@ -1774,15 +1797,15 @@ Versuchen Sie --help.</translation>
         <translation>Die Sektoren jedes Fundes speichern, wie sie aufgelistet sind, nicht mehr und nicht weniger.</translation>
     </message>
     <message>
-        <source>Write &quot;Recovery report.html&quot; and &quot;Recovery report.csv&quot; beside the saved files.</source>
+        <source>Write "Recovery report.html" and "Recovery report.csv" beside the saved files.</source>
         <translation>„Recovery report.html“ und „Recovery report.csv“ neben die gespeicherten Dateien schreiben.</translation>
     </message>
     <message>
-        <source>original (default): save under the names that the card&apos;s directory still tells, where it does; found: under the listed names.</source>
+        <source>original (default): save under the names that the card's directory still tells, where it does; found: under the listed names.</source>
         <translation>original (ohne Angabe): unter den Namen speichern, die das Verzeichnis der Karte noch nennt, wo es das tut; found: unter den aufgelisteten Namen.</translation>
     </message>
     <message>
-        <source>card (default): save in the folders that the card&apos;s directory still tells, and what it does not tell in DIR/&lt;type&gt;; type: all in DIR/&lt;type&gt;; date: as DIR/&lt;type&gt;/&lt;date&gt;/&lt;date and time&gt; &lt;name&gt; where a date is known.</source>
+        <source>card (default): save in the folders that the card's directory still tells, and what it does not tell in DIR/&lt;type&gt;; type: all in DIR/&lt;type&gt;; date: as DIR/&lt;type&gt;/&lt;date&gt;/&lt;date and time&gt; &lt;name&gt; where a date is known.</source>
         <translation>card (ohne Angabe): in den Ordnern speichern, die das Verzeichnis der Karte noch nennt, und was es nicht nennt in DIR/&lt;Typ&gt;; type: alles in DIR/&lt;Typ&gt;; date: als DIR/&lt;Typ&gt;/&lt;Datum&gt;/&lt;Datum und Zeit&gt; &lt;Name&gt;, wo ein Datum bekannt ist.</translation>
     </message>
     <message>
@@ -1810,15 +1833,15 @@ Versuchen Sie --help.</translation>
         <translation>Nicht speichern, was mit Sicherheit keine Datei ihres Typs ist.</translation>
     </message>
     <message>
-        <source>Save parts of files too, such as a picture&apos;s preview or a member of an archive: what lies wholly inside a file that was proved complete, and is left out else.</source>
+        <source>Save parts of files too, such as a picture's preview or a member of an archive: what lies wholly inside a file that was proved complete, and is left out else.</source>
         <translation>Auch Teile von Dateien speichern, etwa das Vorschaubild eines Fotos oder den Inhalt eines Archivs: was ganz in einer Datei liegt, deren Vollständigkeit erwiesen ist, und sonst ausgelassen wird.</translation>
     </message>
     <message>
-        <source>Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
+        <source>Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as "... complete.MP4", or as "... put together.MP4" where it could not be proved that all pieces are the right ones.</source>
         <translation>MP4- und QuickTime-Filme sowie JPEG- und PNG-Bilder zusammensetzen, die in Stücken liegen, als „... complete.MP4“ oder als „... put together.MP4“, wo sich nicht beweisen ließ, dass alle Stücke die richtigen sind.</translation>
     </message>
     <message>
-        <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
+        <source>Write a playable twin, "... repaired.MP4", of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
         <translation>Zu jedem MP4- oder QuickTime-Film, dessen Index nie geschrieben wurde, eine abspielbare Fassung „... repaired.MP4“ schreiben; dazu muss auch ein ganzer Film derselben Kamera gefunden werden.</translation>
     </message>
     <message>
@@ -1858,7 +1881,7 @@ Versuchen Sie --help.</translation>
         <translation>--min-bytes und --min-pixels verlangen eine Zahl.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 more files that only the card&apos;s directory tells of</source>
+        <source>%1 more files that only the card's directory tells of</source>
         <translation>
             <numerusform>%1 weitere Datei, von der nur das Verzeichnis der Karte weiß</numerusform>
             <numerusform>%1 weitere Dateien, von denen nur das Verzeichnis der Karte weiß</numerusform>
@@ -2190,6 +2213,98 @@ Läuft auf %2.</translation>
         <source>No picture: documents are drawn inside bubblewrap alone, which is not installed or may not run on this system.</source>
         <translation>Kein Bild: Dokumente werden nur innerhalb von bubblewrap gezeichnet, das nicht installiert ist oder auf diesem System nicht laufen darf.</translation>
     </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 gefunden</translation>
+    </message>
+    <message>
+        <source>%1 found: %2</source>
+        <translation>%1 gefunden: %2</translation>
+    </message>
+    <message>
+        <source>Please export it as a raw (dd) or E01 image first and open that.</source>
+        <translation>Bitte exportieren Sie es zuerst als rohes Abbild (dd) oder als E01-Abbild und öffnen Sie dieses.</translation>
+    </message>
+    <message>
+        <source>It holds single files rather than a storage medium. Please open an image of the medium.</source>
+        <translation>Es enthält einzelne Dateien statt eines Speichermediums. Bitte öffnen Sie ein Abbild des Mediums.</translation>
+    </message>
+<message numerus="yes">
+        <source>Complete, put together from %1 pieces</source>
+        <translation>
+            <numerusform>Vollständig, aus %1 Stück zusammengesetzt</numerusform>
+            <numerusform>Vollständig, aus %1 Stücken zusammengesetzt</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Put together from %1 pieces: please look</source>
+        <translation>
+            <numerusform>Aus %1 Stück zusammengesetzt: bitte ansehen</numerusform>
+            <numerusform>Aus %1 Stücken zusammengesetzt: bitte ansehen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Repaired: %1 pictures, %2 s, and %3 s of sound, as in %4</source>
+        <translation>Repariert: %1 Bilder, %2 s, und %3 s Ton, wie in %4</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 put together or repaired (please look)</source>
+        <translation>
+            <numerusform>%1 zusammengesetzt oder repariert (bitte ansehen)</numerusform>
+            <numerusform>%1 zusammengesetzt oder repariert (bitte ansehen)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>repaired</source>
+        <translation>repariert</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pieces</source>
+        <translation>
+            <numerusform>%1 Stück</numerusform>
+            <numerusform>%1 Stücke</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Mended</source>
+        <translation>Ausgebessert</translation>
+    </message>
+<message>
+        <source>Please export it as a raw (dd) image first and open that.</source>
+        <translation>Bitte exportieren Sie es zuerst als rohes Abbild (dd) und öffnen Sie dieses.</translation>
+    </message>
+    <message>
+        <source>Pixels not known</source>
+        <translation>Pixel nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Under 1 megapixel</source>
+        <translation>Unter 1 Megapixel</translation>
+    </message>
+    <message>
+        <source>1 to 4 megapixels</source>
+        <translation>1 bis 4 Megapixel</translation>
+    </message>
+    <message>
+        <source>4 to 12 megapixels</source>
+        <translation>4 bis 12 Megapixel</translation>
+    </message>
+    <message>
+        <source>12 to 30 megapixels</source>
+        <translation>12 bis 30 Megapixel</translation>
+    </message>
+    <message>
+        <source>Over 30 megapixels</source>
+        <translation>Über 30 Megapixel</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -2500,6 +2615,18 @@ Läuft auf %2.</translation>
         <source>Save every found item (Ctrl+Shift+S)</source>
         <translation>Jeden Fund speichern (Strg+Umschalt+S)</translation>
     </message>
+<message>
+        <source>Size of the pictures</source>
+        <translation>Größe der Bilder</translation>
+    </message>
+    <message>
+        <source>Details in columns</source>
+        <translation>Einzelheiten in Spalten</translation>
+    </message>
+    <message>
+        <source>Details in columns (Ctrl+D)</source>
+        <translation>Einzelheiten in Spalten (Strg+D)</translation>
+    </message>
 </context>
 <context>
     <name>SaveFileInfo</name>
@@ -2622,7 +2749,7 @@ Läuft auf %2.</translation>
         <translation>Auch Teile von Dateien speichern</translation>
     </message>
     <message>
-        <source>What lies wholly inside a file that was proved complete, such as a picture&apos;s preview</source>
+        <source>What lies wholly inside a file that was proved complete, such as a picture's preview</source>
         <translation>Was ganz in einer Datei liegt, deren Vollständigkeit erwiesen ist, etwa das Vorschaubild eines Fotos</translation>
     </message>
     <message>
@@ -2759,6 +2886,34 @@ Läuft auf %2.</translation>
         <source>By name on the card</source>
         <translation>Nach dem Namen auf der Karte</translation>
     </message>
+<message>
+        <source>Broken</source>
+        <translation>Unvollständig oder beschädigt</translation>
+    </message>
+    <message>
+        <source>Put together or repaired</source>
+        <translation>Zusammengesetzt oder repariert</translation>
+    </message>
+<message>
+        <source>By name</source>
+        <translation>Nach Namen</translation>
+    </message>
+    <message>
+        <source>By type</source>
+        <translation>Nach Typ</translation>
+    </message>
+    <message>
+        <source>By camera</source>
+        <translation>Nach Kamera</translation>
+    </message>
+    <message>
+        <source>By pixels</source>
+        <translation>Nach Pixeln</translation>
+    </message>
+    <message>
+        <source>By place on the card</source>
+        <translation>Nach Ort auf der Karte</translation>
+    </message>
 </context>
 <context>
     <name>vantor::CardStrip</name>
@@ -2827,14 +2982,14 @@ Läuft auf %2.</translation>
     </message>
     <message>
         <source>Only named on the card</source>
-        <translation>Nur auf der Karte genannt</translation>
+        <translation>Nur auf der Karte</translation>
     </message>
     <message>
-        <source>1 more file that only the card&apos;s directory tells of</source>
+        <source>1 more file that only the card's directory tells of</source>
         <translation>1 weitere Datei, von der nur das Verzeichnis der Karte weiß</translation>
     </message>
     <message numerus="yes">
-        <source>%1 more files that only the card&apos;s directory tells of</source>
+        <source>%1 more files that only the card's directory tells of</source>
         <translation>
             <numerusform>%1 weitere Datei, von der nur das Verzeichnis der Karte weiß</numerusform>
             <numerusform>%1 weitere Dateien, von denen nur das Verzeichnis der Karte weiß</numerusform>
@@ -2850,6 +3005,10 @@ Läuft auf %2.</translation>
             <numerusform>und %1 weitere</numerusform>
             <numerusform>und %1 weitere</numerusform>
         </translation>
+    </message>
+<message>
+        <source>By pixels</source>
+        <translation>Nach Pixeln</translation>
     </message>
 </context>
 <context>
@@ -2971,6 +3130,18 @@ Läuft auf %2.</translation>
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
+    </message>
+<message>
+        <source>Tick</source>
+        <translation>Vormerken</translation>
+    </message>
+    <message>
+        <source>Tick for saving (Insert, Delete)</source>
+        <translation>Zum Speichern vormerken (Einfg, Entf)</translation>
+    </message>
+    <message>
+        <source>Ticked</source>
+        <translation>Vorgemerkt</translation>
     </message>
 </context>
 <context>
@@ -3224,7 +3395,7 @@ Läuft auf %2.</translation>
     </message>
     <message>
         <source>
-Do you really want to exit from &apos;%1&apos;?</source>
+Do you really want to exit from '%1'?</source>
         <translation>
 Möchten Sie „%1“ wirklich beenden?</translation>
     </message>
@@ -3683,8 +3854,153 @@ Bitte wählen Sie die Dateitypen für die Wiederherstellung aus. Mit ‚Weiter�
         <translation>Die Abbilddatei eines Mediums öffnen</translation>
     </message>
     <message>
+        <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;All files (*)</source>
+        <translation>Abbilder von Medien (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;Alle Dateien (*)</translation>
+    </message>
+<message>
+        <source>Co&amp;mplete Broken Files</source>
+        <translation>Dateien vervollständi&amp;gen</translation>
+    </message>
+    <message>
+        <source>Complete broken files</source>
+        <translation>Unvollständige Dateien vervollständigen</translation>
+    </message>
+    <message>
+        <source>Look on the medium for the missing pieces of photos and movies, and repair movies without an index; what was found stays as it is beside it</source>
+        <translation>Auf dem Medium nach den fehlenden Stücken von Fotos und Filmen suchen und Filme ohne Index reparieren; was gefunden wurde, bleibt daneben, wie es ist</translation>
+    </message>
+    <message>
+        <source>Looking for broken files: %1 of %2</source>
+        <translation>Suche nach unvollständigen Dateien: %1 von %2</translation>
+    </message>
+    <message>
+        <source>Completing broken movies…</source>
+        <translation>Filme werden vervollständigt …</translation>
+    </message>
+    <message>
+        <source>Completing broken movies: %1 of %2</source>
+        <translation>Filme werden vervollständigt: %1 von %2</translation>
+    </message>
+    <message>
+        <source>Completing broken photos…</source>
+        <translation>Fotos werden vervollständigt …</translation>
+    </message>
+    <message>
+        <source>Completing broken photos: %1 of %2</source>
+        <translation>Fotos werden vervollständigt: %1 von %2</translation>
+    </message>
+    <message>
+        <source>Repairing movies without an index…</source>
+        <translation>Filme ohne Index werden repariert …</translation>
+    </message>
+    <message>
+        <source>Repairing movies without an index: %1 of %2</source>
+        <translation>Filme ohne Index werden repariert: %1 von %2</translation>
+    </message>
+    <message>
+        <source>Broken files were left as they are: the storage medium cannot be opened. Put it back in and try again.</source>
+        <translation>Unvollständige Dateien blieben, wie sie sind: Das Speichermedium lässt sich nicht öffnen. Stecken Sie es wieder ein und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>The storage medium went away. Put it back in and try again.</source>
+        <translation>Das Speichermedium ist nicht mehr da. Stecken Sie es wieder ein und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>Angehalten.</translation>
+    </message>
+    <message>
+        <source>1 file completed</source>
+        <translation>1 Datei vervollständigt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files completed</source>
+        <translation>
+            <numerusform>%1 Datei vervollständigt</numerusform>
+            <numerusform>%1 Dateien vervollständigt</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 file put together (please look)</source>
+        <translation>1 Datei zusammengesetzt (bitte ansehen)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files put together (please look)</source>
+        <translation>
+            <numerusform>%1 Datei zusammengesetzt (bitte ansehen)</numerusform>
+            <numerusform>%1 Dateien zusammengesetzt (bitte ansehen)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 movie repaired</source>
+        <translation>1 Film repariert</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 movies repaired</source>
+        <translation>
+            <numerusform>%1 Film repariert</numerusform>
+            <numerusform>%1 Filme repariert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
+    <message>
+        <source>No broken file of a kind that can be completed was found.</source>
+        <translation>Es wurde keine unvollständige Datei einer Art gefunden, die sich vervollständigen lässt.</translation>
+    </message>
+    <message>
+        <source>No broken file could be completed.</source>
+        <translation>Keine unvollständige Datei ließ sich vervollständigen.</translation>
+    </message>
+    <message>
         <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima);;All files (*)</source>
         <translation>Abbilder von Medien (*.img *.dd *.raw *.bin *.iso *.image *.ima);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Other files are being written. Drag again in a moment.</source>
+        <translation>Es werden noch andere Dateien geschrieben. Ziehen Sie gleich noch einmal.</translation>
+    </message>
+    <message>
+        <source>There is not enough room to get %1 ready for dragging. Save the files instead.</source>
+        <translation>Es ist nicht genug Platz, um %1 zum Ziehen bereitzustellen. Speichern Sie die Dateien stattdessen.</translation>
+    </message>
+    <message>
+        <source>These files cannot be read from the storage medium.</source>
+        <translation>Diese Dateien können nicht vom Speichermedium gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Getting the files ready…</source>
+        <translation>Dateien werden bereitgestellt …</translation>
+    </message>
+    <message>
+        <source>The files are still being written. Drag them again in a moment.</source>
+        <translation>Die Dateien werden noch geschrieben. Ziehen Sie sie gleich noch einmal.</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Speichern unter</translation>
+    </message>
+    <message>
+        <source>The card can be taken out.</source>
+        <translation>Die Karte kann herausgenommen werden.</translation>
+    </message>
+    <message>
+        <source>The card could not be ejected.</source>
+        <translation>Die Karte konnte nicht ausgeworfen werden.</translation>
+    </message>
+    <message>
+        <source>&amp;Untick for Saving</source>
+        <translation>Nicht mehr &amp;vormerken</translation>
+    </message>
+    <message>
+        <source>&amp;Tick for Saving</source>
+        <translation>Zum Speichern &amp;vormerken</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Speichern &amp;unter …</translation>
     </message>
 </context>
 <context>
@@ -3728,6 +4044,10 @@ Bitte wählen Sie die Dateitypen für die Wiederherstellung aus. Mit ‚Weiter�
     <message>
         <source>Open Folder</source>
         <translation>Ordner öffnen</translation>
+    </message>
+<message>
+        <source>Eject Card</source>
+        <translation>Karte auswerfen</translation>
     </message>
 </context>
 <context>
@@ -3795,6 +4115,172 @@ Bitte wählen Sie die Dateitypen für die Wiederherstellung aus. Mit ‚Weiter�
     <message>
         <source>%1 of %2</source>
         <translation>%1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::MendPane</name>
+    <message>
+        <source>Show the file as it was found (B)</source>
+        <translation>Die Datei zeigen, wie sie gefunden wurde (B)</translation>
+    </message>
+    <message>
+        <source>As Found</source>
+        <translation>Wie gefunden</translation>
+    </message>
+    <message>
+        <source>Show the file as it was put together (B)</source>
+        <translation>Die Datei zeigen, wie sie zusammengesetzt wurde (B)</translation>
+    </message>
+    <message>
+        <source>Repaired</source>
+        <translation>Repariert</translation>
+    </message>
+    <message>
+        <source>Put Together</source>
+        <translation>Zusammengesetzt</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::MendingBar</name>
+    <message>
+        <source>How far the completing of broken files is, and what came of it</source>
+        <translation>Wie weit das Vervollständigen ist und was daraus wurde</translation>
+    </message>
+    <message>
+        <source>Progress of completing broken files</source>
+        <translation>Fortschritt beim Vervollständigen</translation>
+    </message>
+    <message>
+        <source>St&amp;op</source>
+        <translation>St&amp;opp</translation>
+    </message>
+    <message>
+        <source>Stop completing broken files; what was put together stays</source>
+        <translation>Das Vervollständigen anhalten; was zusammengesetzt wurde, bleibt</translation>
+    </message>
+    <message>
+        <source>Show Th&amp;em</source>
+        <translation>Diese z&amp;eigen</translation>
+    </message>
+    <message>
+        <source>Show the files that were put together or repaired</source>
+        <translation>Die Dateien zeigen, die zusammengesetzt oder repariert wurden</translation>
+    </message>
+    <message>
+        <source>Clo&amp;se</source>
+        <translation>&amp;Schließen</translation>
+    </message>
+    <message>
+        <source>Close this message</source>
+        <translation>Diese Meldung schließen</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::PieceStrip</name>
+    <message>
+        <source>piece %1: sectors %2 to %3</source>
+        <translation>Stück %1: Sektoren %2 bis %3</translation>
+    </message>
+    <message>
+        <source>Pieces on the card</source>
+        <translation>Stücke auf der Karte</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>Karte</translation>
+    </message>
+</context>
+<context>
+    <name>UdisksEjector</name>
+    <message>
+        <source>The disk service no longer knows it.</source>
+        <translation>Der Laufwerksdienst kennt sie nicht mehr.</translation>
+    </message>
+    <message>
+        <source>The disk service does not answer.</source>
+        <translation>Der Laufwerksdienst antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The disk service refused it.</source>
+        <translation>Der Laufwerksdienst hat es abgelehnt.</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::CardPicture</name>
+    <message>
+        <source>Picture of the card</source>
+        <translation>Bild der Karte</translation>
+    </message>
+    <message>
+        <source>%1 (%2 used)</source>
+        <translation>%1 (%2 belegt)</translation>
+    </message>
+    <message>
+        <source>No file system is known</source>
+        <translation>Kein Dateisystem bekannt</translation>
+    </message>
+    <message>
+        <source>nothing of it would be searched</source>
+        <translation>nichts davon würde durchsucht</translation>
+    </message>
+    <message>
+        <source>all of it is searched</source>
+        <translation>alles davon wird durchsucht</translation>
+    </message>
+    <message>
+        <source>%1 of it is searched</source>
+        <translation>%1 davon werden durchsucht</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::DetailsHeader</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Name on the card</source>
+        <translation>Name auf der Karte</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Pixels or length</source>
+        <translation>Pixel oder Länge</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Place on the card</source>
+        <translation>Ort auf der Karte</translation>
+    </message>
+    <message>
+        <source>%1, saved</source>
+        <translation>%1, gespeichert</translation>
+    </message>
+    <message>
+        <source>Columns of the details</source>
+        <translation>Spalten der Einzelheiten</translation>
     </message>
 </context>
 </TS>

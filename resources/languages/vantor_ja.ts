@@ -36,6 +36,25 @@
     </message>
 </context>
 <context>
+    <name>EvidenceImage</name>
+    <message>
+        <source>Evidence images cannot be read here</source>
+        <translation>ここでは証拠イメージを読み取れません</translation>
+    </message>
+    <message>
+        <source>Evidence images are only read shut in, which this system does not allow</source>
+        <translation>証拠イメージは隔離された状態でのみ読み取りますが、このシステムでは隔離できません</translation>
+    </message>
+    <message>
+        <source>The part of the program that reads evidence images does not start</source>
+        <translation>証拠イメージを読み取るプログラムの部品が起動しません</translation>
+    </message>
+    <message>
+        <source>The evidence image is damaged or of a kind that cannot be read</source>
+        <translation>証拠イメージが壊れているか、読み取れない種類です</translation>
+    </message>
+</context>
+<context>
     <name>FileTypeScreen</name>
     <message>
         <source>File types to search for</source>
@@ -542,6 +561,14 @@ The card is only ever read, never written to. Stop using it until you have your 
         <source>Save every found item (Ctrl+Shift+S)</source>
         <translation>見つかったすべての項目を保存します (Ctrl+Shift+S)</translation>
     </message>
+<message>
+        <source>Details in columns</source>
+        <translation>列で詳細を表示</translation>
+    </message>
+    <message>
+        <source>Details in columns (Ctrl+D)</source>
+        <translation>列で詳細を表示 (Ctrl+D)</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -708,10 +735,6 @@ Please select atleast one extension type.</source>
         <translation>先に生のイメージに変換して（たとえば「qemu-img convert -O raw」）、それを開いてください。</translation>
     </message>
     <message>
-        <source>Please export it as a raw (dd) image first and open that.</source>
-        <translation>先に生の (dd) イメージとしてエクスポートして、それを開いてください。</translation>
-    </message>
-    <message>
         <source>Please convert it to a raw image first and open that.</source>
         <translation>先に生のイメージに変換して、それを開いてください。</translation>
     </message>
@@ -752,7 +775,7 @@ End Sector should be greater than Start Sector.</source>
 終了セクターは開始セクターより大きくしてください。</translation>
     </message>
     <message>
-        <source>This card reads as erased: beside its file system&apos;s own sectors, all places looked at are empty. Some cameras and programs erase the whole card when they format it, and then nothing can be found.</source>
+        <source>This card reads as erased: beside its file system's own sectors, all places looked at are empty. Some cameras and programs erase the whole card when they format it, and then nothing can be found.</source>
         <translation>このカードは消去済みのように読み取られます。ファイルシステム自身のセクターを除き、調べた場所はすべて空です。フォーマットの際にカード全体を消去するカメラやプログラムがあり、その場合は何も見つかりません。</translation>
     </message>
     <message>
@@ -1522,7 +1545,7 @@ Error in storage media reading.</source>
         <translation>メディアを開けません。</translation>
     </message>
     <message>
-        <source>The medium&apos;s directories could not be read.</source>
+        <source>The medium's directories could not be read.</source>
         <translation>メディアのディレクトリーを読み取れませんでした。</translation>
     </message>
     <message>
@@ -1642,7 +1665,7 @@ Try --help.</source>
         <translation>このコンピューターのストレージメディアを出力し（--list-json と併用で JSON）、検索はしません。</translation>
     </message>
     <message>
-        <source>Print what the medium&apos;s own directories tell of its files, those that are there and those that were, as one JSON object each, and search nothing.</source>
+        <source>Print what the medium's own directories tell of its files, those that are there and those that were, as one JSON object each, and search nothing.</source>
         <translation>メディア自身のディレクトリーが示すファイル（現存するものと以前あったもの）をそれぞれ JSON オブジェクトとして出力し、検索はしません。</translation>
     </message>
     <message>
@@ -1654,15 +1677,15 @@ Try --help.</source>
         <translation>問題が起きたときだけ表示し、進行状況も表示しません。</translation>
     </message>
     <message>
-        <source>Speak this language (en, de, fr, es, it, pt_BR, nl, pl, ja or zh_CN) in place of the desktop&apos;s; with --list-json it is English always.</source>
+        <source>Speak this language (en, de, fr, es, it, pt_BR, nl, pl, ja or zh_CN) in place of the desktop's; with --list-json it is English always.</source>
         <translation>デスクトップの言語の代わりにこの言語を使います (en、de、fr、es、it、pt_BR、nl、pl、ja、zh_CN)。--list-json では常に英語です。</translation>
     </message>
     <message>
-        <source>An image file, a device&apos;s identifier (sdb1) or its path (/dev/sdb1).</source>
+        <source>An image file, a device's identifier (sdb1) or its path (/dev/sdb1).</source>
         <translation>イメージファイル、デバイスの識別子 (sdb1)、またはそのパス (/dev/sdb1)。</translation>
     </message>
     <message>
-        <source>Unknown mode &quot;%1&quot;.</source>
+        <source>Unknown mode "%1".</source>
         <translation>不明なモード「%1」。</translation>
     </message>
     <message>
@@ -1750,15 +1773,15 @@ Try --help.</source>
         <translation>見つかった各項目のセクターを、一覧のとおり過不足なく保存します。</translation>
     </message>
     <message>
-        <source>Write &quot;Recovery report.html&quot; and &quot;Recovery report.csv&quot; beside the saved files.</source>
-        <translation>保存したファイルの隣に &quot;Recovery report.html&quot; と &quot;Recovery report.csv&quot; を書き出します。</translation>
+        <source>Write "Recovery report.html" and "Recovery report.csv" beside the saved files.</source>
+        <translation>保存したファイルの隣に "Recovery report.html" と "Recovery report.csv" を書き出します。</translation>
     </message>
     <message>
-        <source>original (default): save under the names that the card&apos;s directory still tells, where it does; found: under the listed names.</source>
+        <source>original (default): save under the names that the card's directory still tells, where it does; found: under the listed names.</source>
         <translation>original（既定）: カードのディレクトリーに残る名前があればその名前で保存。found: 一覧の名前で保存。</translation>
     </message>
     <message>
-        <source>card (default): save in the folders that the card&apos;s directory still tells, and what it does not tell in DIR/&lt;type&gt;; type: all in DIR/&lt;type&gt;; date: as DIR/&lt;type&gt;/&lt;date&gt;/&lt;date and time&gt; &lt;name&gt; where a date is known.</source>
+        <source>card (default): save in the folders that the card's directory still tells, and what it does not tell in DIR/&lt;type&gt;; type: all in DIR/&lt;type&gt;; date: as DIR/&lt;type&gt;/&lt;date&gt;/&lt;date and time&gt; &lt;name&gt; where a date is known.</source>
         <translation>card（既定）: カードのディレクトリーに残るフォルダーに保存し、残っていないものは DIR/&lt;種類&gt; に。type: すべて DIR/&lt;種類&gt; に。date: 日付がわかるものは DIR/&lt;種類&gt;/&lt;日付&gt;/&lt;日付と時刻&gt; &lt;名前&gt; に。</translation>
     </message>
     <message>
@@ -1786,16 +1809,16 @@ Try --help.</source>
         <translation>明らかにその種類のファイルでないものは保存しません。</translation>
     </message>
     <message>
-        <source>Save parts of files too, such as a picture&apos;s preview or a member of an archive: what lies wholly inside a file that was proved complete, and is left out else.</source>
+        <source>Save parts of files too, such as a picture's preview or a member of an archive: what lies wholly inside a file that was proved complete, and is left out else.</source>
         <translation>写真の中のプレビューやアーカイブの中身など、ファイルの一部も保存します。完全と確認されたファイルの中にすべて含まれるもので、通常は除外されます。</translation>
     </message>
     <message>
-        <source>Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
-        <translation>断片に分かれた MP4 と QuickTime の動画、JPEG と PNG の画像を組み立て、&quot;... complete.MP4&quot;、またはすべての断片が正しいと証明できない場合は &quot;... put together.MP4&quot; として保存します。</translation>
+        <source>Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as "... complete.MP4", or as "... put together.MP4" where it could not be proved that all pieces are the right ones.</source>
+        <translation>断片に分かれた MP4 と QuickTime の動画、JPEG と PNG の画像を組み立て、"... complete.MP4"、またはすべての断片が正しいと証明できない場合は "... put together.MP4" として保存します。</translation>
     </message>
     <message>
-        <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
-        <translation>インデックスが書かれなかった MP4 または QuickTime 動画ごとに、再生できる &quot;... repaired.MP4&quot; を書き出します。同じカメラの完全な動画も見つかる必要があります。</translation>
+        <source>Write a playable twin, "... repaired.MP4", of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
+        <translation>インデックスが書かれなかった MP4 または QuickTime 動画ごとに、再生できる "... repaired.MP4" を書き出します。同じカメラの完全な動画も見つかる必要があります。</translation>
     </message>
     <message>
         <source>A whole movie of the camera, in place of those that are found (with --repair-movies).</source>
@@ -1834,7 +1857,7 @@ Try --help.</source>
         <translation>--min-bytes と --min-pixels には数値が必要です。</translation>
     </message>
     <message numerus="yes">
-        <source>%1 more files that only the card&apos;s directory tells of</source>
+        <source>%1 more files that only the card's directory tells of</source>
         <translation>
             <numerusform>ほかに、カードのディレクトリーだけが示すファイル %1 件</numerusform>
         </translation>
@@ -2162,6 +2185,94 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <source>No picture: documents are drawn inside bubblewrap alone, which is not installed or may not run on this system.</source>
         <translation>画像なし: 文書は bubblewrap の中でのみ描画されますが、インストールされていないか、このシステムでは動作しません。</translation>
     </message>
+    <message>
+        <source>%1 found</source>
+        <translation>%1 件見つかりました</translation>
+    </message>
+    <message>
+        <source>%1 found: %2</source>
+        <translation>%1 件見つかりました: %2</translation>
+    </message>
+    <message>
+        <source>Please export it as a raw (dd) or E01 image first and open that.</source>
+        <translation>先に生の (dd) または E01 イメージとしてエクスポートして、それを開いてください。</translation>
+    </message>
+    <message>
+        <source>It holds single files rather than a storage medium. Please open an image of the medium.</source>
+        <translation>ストレージメディアではなく個々のファイルが入っています。メディアのイメージを開いてください。</translation>
+    </message>
+<message numerus="yes">
+        <source>Complete, put together from %1 pieces</source>
+        <translation>
+            <numerusform>完全（%1 個の断片から復元）</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Put together from %1 pieces: please look</source>
+        <translation>
+            <numerusform>%1 個の断片をつなぎ合わせました。内容を確認してください</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Repaired: %1 pictures, %2 s, and %3 s of sound, as in %4</source>
+        <translation>修復済み: 画像 %1 枚、%2 秒、音声 %3 秒（%4 を参照）</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 put together or repaired (please look)</source>
+        <translation>
+            <numerusform>つなぎ合わせまたは修復 %1 件（確認してください）</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>repaired</source>
+        <translation>修復</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 pieces</source>
+        <translation>
+            <numerusform>断片 %1 個</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Mended</source>
+        <translation>復元内容</translation>
+    </message>
+<message>
+        <source>Please export it as a raw (dd) image first and open that.</source>
+        <translation>先に生の (dd) イメージとしてエクスポートして、それを開いてください。</translation>
+    </message>
+    <message>
+        <source>Pixels not known</source>
+        <translation>画素数不明</translation>
+    </message>
+    <message>
+        <source>Under 1 megapixel</source>
+        <translation>100 万画素未満</translation>
+    </message>
+    <message>
+        <source>1 to 4 megapixels</source>
+        <translation>100 万~400 万画素</translation>
+    </message>
+    <message>
+        <source>4 to 12 megapixels</source>
+        <translation>400 万~1200 万画素</translation>
+    </message>
+    <message>
+        <source>12 to 30 megapixels</source>
+        <translation>1200 万~3000 万画素</translation>
+    </message>
+    <message>
+        <source>Over 30 megapixels</source>
+        <translation>3000 万画素超</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>カメラ</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -2472,6 +2583,18 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <source>Save every found item (Ctrl+Shift+S)</source>
         <translation>見つかったすべての項目を保存します (Ctrl+Shift+S)</translation>
     </message>
+<message>
+        <source>Size of the pictures</source>
+        <translation>画像の大きさ</translation>
+    </message>
+    <message>
+        <source>Details in columns</source>
+        <translation>列で詳細を表示</translation>
+    </message>
+    <message>
+        <source>Details in columns (Ctrl+D)</source>
+        <translation>列で詳細を表示 (Ctrl+D)</translation>
+    </message>
 </context>
 <context>
     <name>SaveFileInfo</name>
@@ -2594,7 +2717,7 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <translation>ファイルの一部も保存</translation>
     </message>
     <message>
-        <source>What lies wholly inside a file that was proved complete, such as a picture&apos;s preview</source>
+        <source>What lies wholly inside a file that was proved complete, such as a picture's preview</source>
         <translation>完全と確認されたファイルの中にすべて含まれるもの（写真の中のプレビューなど）</translation>
     </message>
     <message>
@@ -2731,6 +2854,34 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <source>By name on the card</source>
         <translation>カード上の名前順</translation>
     </message>
+<message>
+        <source>Broken</source>
+        <translation>不完全または破損</translation>
+    </message>
+    <message>
+        <source>Put together or repaired</source>
+        <translation>つなぎ合わせまたは修復済み</translation>
+    </message>
+<message>
+        <source>By name</source>
+        <translation>名前順</translation>
+    </message>
+    <message>
+        <source>By type</source>
+        <translation>種類順</translation>
+    </message>
+    <message>
+        <source>By camera</source>
+        <translation>カメラ順</translation>
+    </message>
+    <message>
+        <source>By pixels</source>
+        <translation>画素数順</translation>
+    </message>
+    <message>
+        <source>By place on the card</source>
+        <translation>カード上の位置順</translation>
+    </message>
 </context>
 <context>
     <name>vantor::CardStrip</name>
@@ -2787,7 +2938,7 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     </message>
     <message>
         <source>By size</source>
-        <translation>サイズ順</translation>
+        <translation>サイズ別</translation>
     </message>
     <message>
         <source>No type</source>
@@ -2802,11 +2953,11 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <translation>カードに名前だけあるもの</translation>
     </message>
     <message>
-        <source>1 more file that only the card&apos;s directory tells of</source>
+        <source>1 more file that only the card's directory tells of</source>
         <translation>ほかに、カードのディレクトリーだけが示すファイル 1 件</translation>
     </message>
     <message numerus="yes">
-        <source>%1 more files that only the card&apos;s directory tells of</source>
+        <source>%1 more files that only the card's directory tells of</source>
         <translation>
             <numerusform>ほかに、カードのディレクトリーだけが示すファイル %1 件</numerusform>
         </translation>
@@ -2820,6 +2971,10 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <translation>
             <numerusform>ほか %1 件</numerusform>
         </translation>
+    </message>
+<message>
+        <source>By pixels</source>
+        <translation>画素数順</translation>
     </message>
 </context>
 <context>
@@ -2941,6 +3096,18 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     <message>
         <source>%1 %</source>
         <translation>%1 %</translation>
+    </message>
+<message>
+        <source>Tick</source>
+        <translation>チェック</translation>
+    </message>
+    <message>
+        <source>Tick for saving (Insert, Delete)</source>
+        <translation>保存対象としてチェック (Insert、Delete)</translation>
+    </message>
+    <message>
+        <source>Ticked</source>
+        <translation>チェック済み</translation>
     </message>
 </context>
 <context>
@@ -3075,7 +3242,7 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation>%2 件中 %1</translation>
+        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>%1, without thumbnails</source>
@@ -3193,7 +3360,7 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     </message>
     <message>
         <source>
-Do you really want to exit from &apos;%1&apos;?</source>
+Do you really want to exit from '%1'?</source>
         <translation>
 「%1」を終了してもよろしいですか？</translation>
     </message>
@@ -3648,8 +3815,150 @@ Please select the required extension type for recovery process. Press ‘Next’
         <translation>メディアのイメージファイルを開く</translation>
     </message>
     <message>
+        <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;All files (*)</source>
+        <translation>メディアのイメージ (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;すべてのファイル (*)</translation>
+    </message>
+<message>
+        <source>Co&amp;mplete Broken Files</source>
+        <translation>不完全なファイルを補完(&amp;M)</translation>
+    </message>
+    <message>
+        <source>Complete broken files</source>
+        <translation>不完全なファイルを補完</translation>
+    </message>
+    <message>
+        <source>Look on the medium for the missing pieces of photos and movies, and repair movies without an index; what was found stays as it is beside it</source>
+        <translation>写真と動画の欠けた断片をメディアから探し、索引のない動画を修復します。見つかったものはそのまま残ります</translation>
+    </message>
+    <message>
+        <source>Looking for broken files: %1 of %2</source>
+        <translation>不完全なファイルを調べています: %1 / %2</translation>
+    </message>
+    <message>
+        <source>Completing broken movies…</source>
+        <translation>不完全な動画を補完しています…</translation>
+    </message>
+    <message>
+        <source>Completing broken movies: %1 of %2</source>
+        <translation>不完全な動画を補完しています: %1 / %2</translation>
+    </message>
+    <message>
+        <source>Completing broken photos…</source>
+        <translation>不完全な写真を補完しています…</translation>
+    </message>
+    <message>
+        <source>Completing broken photos: %1 of %2</source>
+        <translation>不完全な写真を補完しています: %1 / %2</translation>
+    </message>
+    <message>
+        <source>Repairing movies without an index…</source>
+        <translation>索引のない動画を修復しています…</translation>
+    </message>
+    <message>
+        <source>Repairing movies without an index: %1 of %2</source>
+        <translation>索引のない動画を修復しています: %1 / %2</translation>
+    </message>
+    <message>
+        <source>Broken files were left as they are: the storage medium cannot be opened. Put it back in and try again.</source>
+        <translation>不完全なファイルはそのままです。記憶メディアを開けません。差し直してからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The storage medium went away. Put it back in and try again.</source>
+        <translation>記憶メディアがなくなりました。差し直してからもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Stopped.</source>
+        <translation>停止しました。</translation>
+    </message>
+    <message>
+        <source>1 file completed</source>
+        <translation>1 個のファイルを補完</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files completed</source>
+        <translation>
+            <numerusform>%1 個のファイルを補完</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 file put together (please look)</source>
+        <translation>1 個のファイルをつなぎ合わせ（確認してください）</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 files put together (please look)</source>
+        <translation>
+            <numerusform>%1 個のファイルをつなぎ合わせ（確認してください）</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 movie repaired</source>
+        <translation>1 本の動画を修復</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 movies repaired</source>
+        <translation>
+            <numerusform>%1 本の動画を修復</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1。</translation>
+    </message>
+    <message>
+        <source>No broken file of a kind that can be completed was found.</source>
+        <translation>補完できる種類の不完全なファイルは見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>No broken file could be completed.</source>
+        <translation>補完できた不完全なファイルはありません。</translation>
+    </message>
+    <message>
         <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima);;All files (*)</source>
         <translation>メディアのイメージ (*.img *.dd *.raw *.bin *.iso *.image *.ima);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Other files are being written. Drag again in a moment.</source>
+        <translation>ほかのファイルを書き込み中です。少し待ってからもう一度ドラッグしてください。</translation>
+    </message>
+    <message>
+        <source>There is not enough room to get %1 ready for dragging. Save the files instead.</source>
+        <translation>ドラッグ用に %1 を準備する空き容量がありません。代わりにファイルを保存してください。</translation>
+    </message>
+    <message>
+        <source>These files cannot be read from the storage medium.</source>
+        <translation>これらのファイルはストレージメディアから読み取れません。</translation>
+    </message>
+    <message>
+        <source>Getting the files ready…</source>
+        <translation>ファイルを準備しています…</translation>
+    </message>
+    <message>
+        <source>The files are still being written. Drag them again in a moment.</source>
+        <translation>ファイルを書き込み中です。少し待ってからもう一度ドラッグしてください。</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>名前を付けて保存</translation>
+    </message>
+    <message>
+        <source>The card can be taken out.</source>
+        <translation>カードを取り出せます。</translation>
+    </message>
+    <message>
+        <source>The card could not be ejected.</source>
+        <translation>カードを取り出せませんでした。</translation>
+    </message>
+    <message>
+        <source>&amp;Untick for Saving</source>
+        <translation>チェックを外す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Tick for Saving</source>
+        <translation>保存対象としてチェック(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>名前を付けて保存(&amp;A)…</translation>
     </message>
 </context>
 <context>
@@ -3693,6 +4002,10 @@ Please select the required extension type for recovery process. Press ‘Next’
     <message>
         <source>Open Folder</source>
         <translation>フォルダーを開く</translation>
+    </message>
+<message>
+        <source>Eject Card</source>
+        <translation>カードを取り出す</translation>
     </message>
 </context>
 <context>
@@ -3759,7 +4072,173 @@ Please select the required extension type for recovery process. Press ‘Next’
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation>%2 件中 %1</translation>
+        <translation>%1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::MendPane</name>
+    <message>
+        <source>Show the file as it was found (B)</source>
+        <translation>見つかったままのファイルを表示 (B)</translation>
+    </message>
+    <message>
+        <source>As Found</source>
+        <translation>見つかったまま</translation>
+    </message>
+    <message>
+        <source>Show the file as it was put together (B)</source>
+        <translation>つなぎ合わせたファイルを表示 (B)</translation>
+    </message>
+    <message>
+        <source>Repaired</source>
+        <translation>修復後</translation>
+    </message>
+    <message>
+        <source>Put Together</source>
+        <translation>つなぎ合わせ後</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::MendingBar</name>
+    <message>
+        <source>How far the completing of broken files is, and what came of it</source>
+        <translation>不完全なファイルの補完の進み具合と結果</translation>
+    </message>
+    <message>
+        <source>Progress of completing broken files</source>
+        <translation>不完全なファイルの補完の進行状況</translation>
+    </message>
+    <message>
+        <source>St&amp;op</source>
+        <translation>停止(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Stop completing broken files; what was put together stays</source>
+        <translation>補完を停止します。つなぎ合わせたものは残ります</translation>
+    </message>
+    <message>
+        <source>Show Th&amp;em</source>
+        <translation>それらを表示(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Show the files that were put together or repaired</source>
+        <translation>つなぎ合わせたファイルと修復したファイルを表示します</translation>
+    </message>
+    <message>
+        <source>Clo&amp;se</source>
+        <translation>閉じる(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Close this message</source>
+        <translation>このメッセージを閉じます</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::PieceStrip</name>
+    <message>
+        <source>piece %1: sectors %2 to %3</source>
+        <translation>断片 %1: セクタ %2～%3</translation>
+    </message>
+    <message>
+        <source>Pieces on the card</source>
+        <translation>カード上の断片</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Card</source>
+        <translation>カード</translation>
+    </message>
+</context>
+<context>
+    <name>UdisksEjector</name>
+    <message>
+        <source>The disk service no longer knows it.</source>
+        <translation>ディスクサービスはこのカードを認識していません。</translation>
+    </message>
+    <message>
+        <source>The disk service does not answer.</source>
+        <translation>ディスクサービスが応答しません。</translation>
+    </message>
+    <message>
+        <source>The disk service refused it.</source>
+        <translation>ディスクサービスに拒否されました。</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::CardPicture</name>
+    <message>
+        <source>Picture of the card</source>
+        <translation>カードの図</translation>
+    </message>
+    <message>
+        <source>%1 (%2 used)</source>
+        <translation>%1(%2 使用)</translation>
+    </message>
+    <message>
+        <source>No file system is known</source>
+        <translation>ファイルシステム不明</translation>
+    </message>
+    <message>
+        <source>nothing of it would be searched</source>
+        <translation>検索される範囲がありません</translation>
+    </message>
+    <message>
+        <source>all of it is searched</source>
+        <translation>全体を検索します</translation>
+    </message>
+    <message>
+        <source>%1 of it is searched</source>
+        <translation>その %1 を検索します</translation>
+    </message>
+</context>
+<context>
+    <name>vantor::DetailsHeader</name>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Name on the card</source>
+        <translation>カード上の名前</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>サイズ</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日付</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>カメラ</translation>
+    </message>
+    <message>
+        <source>Pixels or length</source>
+        <translation>画素数または長さ</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Place on the card</source>
+        <translation>カード上の位置</translation>
+    </message>
+    <message>
+        <source>%1, saved</source>
+        <translation>%1、保存済み</translation>
+    </message>
+    <message>
+        <source>Columns of the details</source>
+        <translation>詳細の列</translation>
     </message>
 </context>
 </TS>

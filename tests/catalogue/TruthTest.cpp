@@ -17,7 +17,7 @@ constexpr std::uint64_t kPlace = 5;
 constexpr std::uint64_t kSectorsBehind = 3;
 // Attachments and members are whole files at sector boundaries; TAR itself waits for the thorough pass.
 const QSet<QString> kHoldOtherFiles = {"MSG", "TAR"};
-constexpr RecoveryMode kModes[] = {kPhotoMode, kVideoMode, kRawFileMode};
+constexpr RecoveryMode kSearchModes[] = {kPhotoMode, kVideoMode, kRawFileMode};
 
 class Truth : public testing::Test {
   protected:
@@ -65,7 +65,7 @@ class Truth : public testing::Test {
 }  // namespace
 
 TEST_F(Truth, FileAloneOnACard_IsTheFirstItem) {
-    for (const RecoveryMode mode : kModes) {
+    for (const RecoveryMode mode : kSearchModes) {
         int right = 0;
         int known = 0;
         for (const LaidFile& laid : m_files) {
@@ -126,7 +126,7 @@ TEST_F(Truth, FileWhoseTypeAloneIsTicked_IsTheFirstItemUnderIt) {
 TEST_F(Truth, WholeCorpusOnOneCard_GivesEachFileUnderItsType) {
     ScriptedMedium card = cardWithAll();
     std::set<const KnownConfusion*> met;
-    for (const RecoveryMode mode : kModes) {
+    for (const RecoveryMode mode : kSearchModes) {
         const auto items = scanCard(m_records, mode, card);
         int right = 0;
         std::map<std::pair<QString, QString>, int> table;
@@ -159,7 +159,7 @@ TEST_F(Truth, WholeCorpusOnOneCard_GivesEachFileUnderItsType) {
 // A header inside a file ends its item there, so the general pass may know none but those of whole files.
 TEST_F(Truth, GeneralPass_CutsNoFileOfItsTypesShort) {
     ScriptedMedium card = cardWithAll();
-    for (const RecoveryMode mode : kModes) {
+    for (const RecoveryMode mode : kSearchModes) {
         int whole = 0;
         for (const FoundItem& item : scanCard(m_records, mode, card)) {
             const auto laid = std::find_if(m_files.begin(), m_files.end(),

@@ -7,6 +7,7 @@
 #include <random>
 
 #include "tests/cli/CommandRun.h"
+#include "tests/cli/SmallCard.h"
 
 namespace vantor {
 namespace {
@@ -21,10 +22,6 @@ QByteArray read(const QString& path) {
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
     return file.readAll();
-}
-
-QByteArray record(const QByteArray& extension, const QByteArray& header) {
-    return "E: " + extension + "\nS: 1000000\nHeader : " + header + "\nO: 1\nR: 0\nD: x\n";
 }
 
 class KeptSearch : public testing::Test {

@@ -12,7 +12,7 @@
 namespace vantor {
 namespace {
 
-void write(const QString& path, const QByteArray& bytes) {
+void writeFile(const QString& path, const QByteArray& bytes) {
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
 }
@@ -25,8 +25,8 @@ TEST(RepairCommand, MovieWithoutIndex_GetsATwinBesideIt) {
     const test::MadeMovie other = test::makeMovie(test::plainPictures(50), true, 2);
     const QByteArray broken = other.withoutIndex();
     const QString card = folder.filePath("card.img");
-    write(card, QByteArray(64 * 512, '\0') + broken + QByteArray(64 * 512 - broken.size() % 512, '\0'));
-    write(folder.filePath("whole.mp4"), whole.bytes);
+    writeFile(card, QByteArray(64 * 512, '\0') + broken + QByteArray(64 * 512 - broken.size() % 512, '\0'));
+    writeFile(folder.filePath("whole.mp4"), whole.bytes);
     const QString saved = folder.filePath("saved");
     const CommandRun run = runCommand({"--mode", "video", "--save", saved, "--repair-movies", "--reference",
                                        folder.filePath("whole.mp4"), card});
@@ -49,8 +49,8 @@ TEST(RepairCommand, MovieWithoutIndex_GetsATwinBesideIt) {
 
 TEST(RepairCommand, ReferenceThatIsNone_IsRefused) {
     const QTemporaryDir folder;
-    write(folder.filePath("card.img"), QByteArray(64 * 512, '\0'));
-    write(folder.filePath("text"), "no movie");
+    writeFile(folder.filePath("card.img"), QByteArray(64 * 512, '\0'));
+    writeFile(folder.filePath("text"), "no movie");
     const CommandRun run =
         runCommand({"--mode", "video", "--save", folder.filePath("saved"), "--repair-movies", "--reference",
                     folder.filePath("text"), folder.filePath("card.img")});

@@ -27,15 +27,15 @@ class Movie : public MovieHelperTest {
     }
 };
 
-struct Expected {
+struct ExpectedMovie {
     QString path;  // below the corpus's videos
     QSize size;    // empty for a file that is no movie to show
     std::int64_t durationMs = 0;
     bool sound = false;
 };
 
-std::vector<Expected> expectedMovies() {
-    std::vector<Expected> rows;
+std::vector<ExpectedMovie> expectedMovies() {
+    std::vector<ExpectedMovie> rows;
     for (const QList<QByteArray>& fields : tableRows("decode/expected_movies.tsv")) {
         rows.push_back({QString::fromUtf8(fields.value(0)),
                         QSize(fields.value(1).toInt(), fields.value(2).toInt()), fields.value(3).toLongLong(),
@@ -45,7 +45,7 @@ std::vector<Expected> expectedMovies() {
 }
 
 TEST_F(Movie, RealFiles_AreShownInTheirSizeAndHeard_OrNot) {
-    const std::vector<Expected> grid = expectedMovies();
+    const std::vector<ExpectedMovie> grid = expectedMovies();
     ASSERT_GT(grid.size(), 50U);
     for (const auto& [name, size, durationMs, sound] : grid) {
         SCOPED_TRACE(name.toStdString());

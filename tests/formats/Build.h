@@ -10,6 +10,11 @@ namespace vantor::test {
 
 using Bytes = std::vector<std::uint8_t>;
 
+// Text with its zeros.
+constexpr std::string_view operator""_b(const char* text, std::size_t length) {
+    return {text, length};
+}
+
 class Build {
   public:
     Build& text(std::string_view value) {

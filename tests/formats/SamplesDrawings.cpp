@@ -5,10 +5,6 @@ namespace vantor::test {
 
 namespace {
 
-constexpr std::string_view operator""_b(const char* text, std::size_t length) {
-    return {text, length};
-}
-
 Build drawingHead(std::string_view version, std::uint64_t preview) {
     return Build().text("AC10").text(version).fill(6).u8(1).le32(preview).u8(30).u8(0).le16(30);
 }

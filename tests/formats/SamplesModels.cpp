@@ -7,10 +7,6 @@ namespace vantor::test {
 
 namespace {
 
-constexpr std::string_view operator""_b(const char* text, std::size_t length) {
-    return {text, length};
-}
-
 // One record with nothing in it, the empty record, and the closing mark.
 Bytes fbx() {
     Build out;

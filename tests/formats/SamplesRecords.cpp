@@ -5,10 +5,6 @@ namespace vantor::test {
 
 namespace {
 
-constexpr std::string_view operator""_b(const char* text, std::size_t length) {
-    return {text, length};
-}
-
 // Two blocks with checksums, the second not packed.
 Bytes lz4() {
     return Build()

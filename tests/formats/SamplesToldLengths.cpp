@@ -5,10 +5,6 @@ namespace vantor::test {
 
 namespace {
 
-constexpr std::string_view operator""_b(const char* text, std::size_t length) {
-    return {text, length};
-}
-
 struct Piece {
     std::size_t at;
     Bytes bytes;

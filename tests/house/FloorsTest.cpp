@@ -26,7 +26,7 @@ const QStringList kFloors{
     "scan",
     "cli window/widgets",
     "window/panels",
-    "window/browser window/keeping window/preview window/saving",
+    "window/browser window/keeping window/mending window/preview window/saving",
     "window",
 };
 // These stand beside the house: they may include nobody, and nobody them.

@@ -49,13 +49,13 @@ std::vector<Text> textsOf(const QString& path) {
         } else if (xml.name() == u"message") {
             texts.push_back({});
             texts.back().context = context;
-            texts.back().plural = xml.attributes().value(u"numerus") == u"yes";
+            texts.back().plural = xml.attributes().value(QLatin1String("numerus")) == u"yes";
         } else if (xml.name() == u"source") {
             texts.back().source = xml.readElementText();
         } else if (xml.name() == u"comment") {
             texts.back().remark = xml.readElementText();
         } else if (xml.name() == u"translation") {
-            texts.back().state = xml.attributes().value(u"type").toString();
+            texts.back().state = xml.attributes().value(QLatin1String("type")).toString();
             if (!texts.back().plural) {
                 texts.back().translations = {xml.readElementText()};
             }
@@ -158,7 +158,7 @@ TEST_P(LanguageFiles, AreWholeWhereFinished) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, LanguageFiles, ::testing::ValuesIn(kAll.begin(), kAll.end()),
-                         [](const auto& info) { return info.param.toStdString(); });
+                         [](const auto& each) { return each.param.toStdString(); });
 
 TEST(LanguageFilesOfTheTree, AreThoseThatAreKnown) {
     QStringList files =

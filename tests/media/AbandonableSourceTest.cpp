@@ -14,7 +14,7 @@
 namespace vantor::test {
 namespace {
 
-constexpr std::uint64_t kWindow = WindowedReader::kWindowSectors;
+constexpr std::uint64_t kWindowSectors = WindowedReader::kWindowSectors;
 
 // A gate that a read waits at until the test opens it.
 class Gate {
@@ -93,23 +93,23 @@ std::vector<ScanStep> stepsThroughThread(ScriptedDrive& medium, std::uint64_t st
 }
 
 TEST(AbandonableSource, EveryFault_SurfacesAsWithoutTheThread) {
-    for (std::uint64_t fault = 0; fault < 3 * kWindow; fault += fault % kWindow < 4 ? 1 : 101) {
+    for (std::uint64_t fault = 0; fault < 3 * kWindowSectors; fault += fault % kWindowSectors < 4 ? 1 : 101) {
         ScriptedDrive medium;
-        medium.sectors = 4 * kWindow;
+        medium.sectors = 4 * kWindowSectors;
         medium.refusals[fault] = kAlways;
         medium.refusals[fault + 3] = kAlways;
         ScriptedDrive copy = medium;
         WindowedReader direct(std::make_unique<ScriptedSource>(copy));
-        const auto expected = scanSteps(direct, 3, 4 * kWindow);
-        ASSERT_TRUE(stepsThroughThread(medium, 3, 4 * kWindow) == expected) << "fault at " << fault;
+        const auto expected = scanSteps(direct, 3, 4 * kWindowSectors);
+        ASSERT_TRUE(stepsThroughThread(medium, 3, 4 * kWindowSectors) == expected) << "fault at " << fault;
         ASSERT_EQ(medium.refused, copy.refused) << "fault at " << fault;
     }
 }
 
 TEST(AbandonableSource, ReadsNoSectorTwiceAndNoneBeyondTheNextWindow) {
     ScriptedDrive medium;
-    medium.sectors = 100 * kWindow;
-    stepsThroughThread(medium, 0, 10 * kWindow);
+    medium.sectors = 100 * kWindowSectors;
+    stepsThroughThread(medium, 0, 10 * kWindowSectors);
     EXPECT_GE(medium.requests, 10U);
     EXPECT_LE(medium.requests, 11U);
 }
@@ -129,19 +129,19 @@ TEST(AbandonableSource, WhatOpeningTook_IsLetGoBeforeItIsRead) {
 
 TEST(AbandonableSource, StopDuringAHangingRead_FailsReadAndSeekAndClosesWhenItReturns) {
     auto state = std::make_shared<Hanging>();
-    state->hangsFrom = kWindow;
+    state->hangsFrom = kWindowSectors;
     std::atomic<bool> stop{false};
     auto source = AbandonableSource::start([state] { return std::make_unique<HangingSource>(state); },
                                            [&stop] { return stop.load(); });
     ASSERT_NE(source, nullptr);
     auto reader = std::make_unique<WindowedReader>(std::move(source));
-    for (std::uint64_t s = 0; s < kWindow; ++s) {
+    for (std::uint64_t s = 0; s < kWindowSectors; ++s) {
         ASSERT_TRUE(reader->read());
     }
     std::atomic<bool> returned{false};
     std::thread scan([&] {
         EXPECT_FALSE(reader->read());
-        EXPECT_FALSE(reader->seek(kWindow));
+        EXPECT_FALSE(reader->seek(kWindowSectors));
         EXPECT_FALSE(reader->read());
         returned = true;
     });
@@ -149,7 +149,7 @@ TEST(AbandonableSource, StopDuringAHangingRead_FailsReadAndSeekAndClosesWhenItRe
     EXPECT_FALSE(returned);
     stop = true;
     scan.join();
-    EXPECT_EQ(reader->position(), kWindow);
+    EXPECT_EQ(reader->position(), kWindowSectors);
     EXPECT_EQ(state->reads, 2);
     reader.reset();
     EXPECT_FALSE(state->closed);  // the read still holds it
@@ -189,11 +189,11 @@ TEST(AbandonableSource, StopDuringAHangingOpen_GivesNothingAndClosesLater) {
 
 TEST(AbandonableSource, ClosingWhileItReadsAhead_DoesNotWait) {
     auto state = std::make_shared<Hanging>();
-    state->hangsFrom = 2 * kWindow;
+    state->hangsFrom = 2 * kWindowSectors;
     {
         WindowedReader reader(
             AbandonableSource::start([state] { return std::make_unique<HangingSource>(state); }, {}));
-        for (std::uint64_t s = 0; s < 2 * kWindow; ++s) {
+        for (std::uint64_t s = 0; s < 2 * kWindowSectors; ++s) {
             ASSERT_TRUE(reader.read());
         }
         waitFor([&] { return state->reads >= 3; });

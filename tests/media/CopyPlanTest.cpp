@@ -13,7 +13,7 @@ namespace vantor {
 namespace {
 
 // A medium of which some sectors are never read; a request goes up to the first of them, or fails whole.
-struct Drive {
+struct PlannedDrive {
     std::set<std::uint64_t> bad;
     bool wholeRequestFails = true;
     std::uint64_t block = 1;
@@ -32,7 +32,8 @@ struct Drive {
     }
 };
 
-CopyMap copied(Drive& drive, std::uint64_t sectors, std::vector<SectorRun> goals, bool scrapeAll = false) {
+CopyMap copied(PlannedDrive& drive, std::uint64_t sectors, std::vector<SectorRun> goals,
+               bool scrapeAll = false) {
     CopyMap map(sectors * kSectorBytes);
     CopyPlan plan(map, drive.block);
     if (scrapeAll) {
@@ -58,7 +59,7 @@ CopyState stateOf(const CopyMap& map, std::uint64_t sector) {
 }  // namespace
 
 TEST(CopyPlan, AGoodMediumIsReadOnceFromFrontToEnd) {
-    Drive drive;
+    PlannedDrive drive;
     const CopyMap map = copied(drive, 5000, {{0, 100}, {0, 5000}});
     EXPECT_EQ(map.bytesIn(CopyState::Copied), map.bytes());
     EXPECT_EQ(drive.steps.front().end, 100U) << "the first goal first";
@@ -71,14 +72,14 @@ TEST(CopyPlan, AGoodMediumIsReadOnceFromFrontToEnd) {
 }
 
 TEST(CopyPlan, OnlyTheGoalsAreRead) {
-    Drive drive;
+    PlannedDrive drive;
     const CopyMap map = copied(drive, 5000, {{4000, 4100}, {10, 20}});
     EXPECT_EQ(map.bytesIn(CopyState::Copied), 110 * kSectorBytes);
     EXPECT_EQ(drive.steps.front().first, 4000U);
 }
 
 TEST(CopyPlan, ABadZoneDoesNotHoldUpWhatIsBehindIt) {
-    Drive drive;
+    PlannedDrive drive;
     for (std::uint64_t sector = 10'000; sector < 40'000; ++sector) {
         drive.bad.insert(sector);
     }
@@ -98,7 +99,7 @@ TEST(CopyPlan, ABadZoneDoesNotHoldUpWhatIsBehindIt) {
 TEST(CopyPlan, AllGoodSectorsAreCopiedAndNoBadOneIsAskedForThrice) {
     std::mt19937 random(3);
     for (int round = 0; round < 40; ++round) {
-        Drive drive;
+        PlannedDrive drive;
         drive.wholeRequestFails = round % 2 == 0;
         drive.block = round % 3 == 0 ? 8 : 1;
         constexpr std::uint64_t kSectors = 30'000;
@@ -122,7 +123,7 @@ TEST(CopyPlan, AllGoodSectorsAreCopiedAndNoBadOneIsAskedForThrice) {
 }
 
 TEST(CopyPlan, FarBetweenBadSectorsNothingIsAskedForUntilItIsWished) {
-    Drive drive;
+    PlannedDrive drive;
     for (std::uint64_t sector = 1000; sector < 9000; ++sector) {
         drive.bad.insert(sector);
     }
@@ -131,11 +132,11 @@ TEST(CopyPlan, FarBetweenBadSectorsNothingIsAskedForUntilItIsWished) {
     EXPECT_EQ(stateOf(map, 999), CopyState::Copied);
     EXPECT_EQ(stateOf(map, 9000), CopyState::Copied);
     EXPECT_EQ(stateOf(map, 5000), CopyState::NotScraped);
-    Drive wished = drive;
+    PlannedDrive wished = drive;
     EXPECT_EQ(stateOf(copied(wished, 20'000, {{0, 20'000}}, true), 5000), CopyState::Copied);
 
     // Closer together they are asked for one by one.
-    Drive close;
+    PlannedDrive close;
     close.bad = {1000, 1500};
     EXPECT_EQ(stateOf(copied(close, 20'000, {{0, 20'000}}), 1250), CopyState::Copied);
 }

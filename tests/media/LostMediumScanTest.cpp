@@ -8,8 +8,8 @@
 namespace vantor::test {
 namespace {
 
-constexpr std::uint64_t kGood = 1000;  // sectors; the last of them is number 999
-constexpr std::uint64_t kWhole = std::uint64_t{1} << 26;
+constexpr std::uint64_t kGood = 1000;      // sectors; the last of them is number 999
+constexpr std::uint64_t kWhole = 9 << 20;  // more bytes than 32 bits count
 // The number 999 as a sector begins with it.
 constexpr TestRecord kHeaderOfLastGoodSector{"JPG", "E703000000000000"};
 

@@ -7,9 +7,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-#include <condition_variable>
 #include <cstring>
-#include <map>
 #include <mutex>
 #include <random>
 #include <set>
@@ -18,76 +16,15 @@
 #include "media/CopyMapFile.h"
 #include "media/MediumCopy.h"
 #include "media/RawDevice.h"
+#include "tests/media/NumberedDrive.h"
 #include "tests/support/Files.h"
 
 namespace vantor {
 namespace {
 
-// Each sector tells its number; some are never read; a request that meets one of these fails whole. Read by
-// one thread at a time, looked at when that has ended.
-struct Drive {
-    explicit Drive(std::uint64_t count) : sectors(count) {}
-
-    std::uint64_t sectors = 0;
-    std::uint64_t salt = 0x5EED;
-    std::set<std::uint64_t> bad;
-    std::uint64_t pulledAfter = ~std::uint64_t{0};  // requests
-    bool pulled = false;
-
-    std::uint64_t requests = 0;
-    std::uint64_t sectorsGiven = 0;
-    std::map<std::uint64_t, int> refused;
-
-    std::mutex mutex;
-    std::condition_variable gateMoves;
-    bool gateShut = false;
-    bool isWaiting = false;
-
-    std::uint64_t contentOf(std::uint64_t sector) const { return sector * 3 + salt; }
-};
-
-class DriveSource : public BlockSource {
-  public:
-    explicit DriveSource(Drive& drive) : m_drive(drive) {}
-
-    std::int64_t readAt(std::uint64_t sector, std::span<std::uint8_t> into) override {
-        std::unique_lock lock(m_drive.mutex);
-        m_drive.isWaiting = m_drive.gateShut;
-        m_drive.gateMoves.notify_all();
-        m_drive.gateMoves.wait(lock, [this] { return !m_drive.gateShut; });
-        m_drive.pulled = m_drive.pulled || m_drive.requests >= m_drive.pulledAfter;
-        ++m_drive.requests;
-        if (m_drive.pulled) {
-            return -1;
-        }
-        const std::uint64_t count =
-            std::min<std::uint64_t>(into.size() / kSectorBytes, m_drive.sectors - sector);
-        const auto bad = m_drive.bad.lower_bound(sector);
-        if (bad != m_drive.bad.end() && *bad < sector + count) {
-            ++m_drive.refused[*bad];
-            return -1;
-        }
-        std::memset(into.data(), 0, count * kSectorBytes);
-        for (std::uint64_t i = 0; i < count; ++i) {
-            const std::uint64_t content = m_drive.contentOf(sector + i);
-            std::memcpy(into.data() + i * kSectorBytes, &content, sizeof(content));
-        }
-        m_drive.sectorsGiven += count;
-        return static_cast<std::int64_t>(count * kSectorBytes);
-    }
-    bool usable() override {
-        const std::lock_guard lock(m_drive.mutex);
-        return !m_drive.pulled;
-    }
-    std::uint64_t sectors() const override { return m_drive.sectors; }
-
-  private:
-    Drive& m_drive;
-};
-
 class MediumCopies : public testing::Test {
   protected:
-    std::shared_ptr<MediumCopy> copyOf(Drive& drive, const std::vector<SectorRun>& refused = {}) {
+    std::shared_ptr<MediumCopy> copyOf(NumberedDrive& drive, const std::vector<SectorRun>& refused = {}) {
         QString why;
         auto file = CopyFile::open(m_image, drive.sectors, &why);
         EXPECT_TRUE(file) << why.toStdString();
@@ -98,20 +35,20 @@ class MediumCopies : public testing::Test {
             std::move(file),
             [&drive](const StopRequest&) -> std::unique_ptr<BlockSource> {
                 const std::lock_guard lock(drive.mutex);
-                return drive.pulled ? nullptr : std::make_unique<DriveSource>(drive);
+                return drive.pulled ? nullptr : std::make_unique<NumberedSource>(drive);
             },
             refused);
     }
 
-    std::shared_ptr<MediumCopy> wholeCopyOf(Drive& drive) {
+    std::shared_ptr<MediumCopy> wholeCopyOf(NumberedDrive& drive) {
         auto copy = copyOf(drive);
         copy->copy({{0, drive.sectors}});
         return copy;
     }
 
     // The sectors of [first, end) that a search in their order does not get.
-    static std::set<std::uint64_t> missing(const Drive& drive, SectorReader& reader, std::uint64_t first,
-                                           std::uint64_t end) {
+    static std::set<std::uint64_t> missing(const NumberedDrive& drive, SectorReader& reader,
+                                           std::uint64_t first, std::uint64_t end) {
         std::set<std::uint64_t> refused;
         reader.seek(first);
         for (std::uint64_t sector = first; sector < end; ++sector) {
@@ -132,12 +69,12 @@ class MediumCopies : public testing::Test {
         }
         return refused;
     }
-    static std::set<std::uint64_t> missing(const Drive& drive, SectorReader& reader) {
+    static std::set<std::uint64_t> missing(const NumberedDrive& drive, SectorReader& reader) {
         return missing(drive, reader, 0, drive.sectors);
     }
 
     // Of the image on the disk, against its map.
-    void expectImageHolds(const Drive& drive) {
+    void expectImageHolds(const NumberedDrive& drive) {
         const auto map = loadCopyMap(m_image + ".map");
         ASSERT_TRUE(map);
         QFile image(m_image);
@@ -159,7 +96,7 @@ class MediumCopies : public testing::Test {
 }  // namespace
 
 TEST_F(MediumCopies, TheMediumIsReadOnceWhoeverReadsTheCopy) {
-    Drive drive(10'000);
+    NumberedDrive drive(10'000);
     auto copy = wholeCopyOf(drive);
     for (int pass = 0; pass < 3; ++pass) {
         const auto reader = copy->openReader();
@@ -179,7 +116,7 @@ TEST_F(MediumCopies, TheMediumIsReadOnceWhoeverReadsTheCopy) {
 TEST_F(MediumCopies, WhatIsReadIsWhatTheMediumGivesSectorForSector) {
     std::mt19937 random(17);
     for (int round = 0; round < 12; ++round) {
-        Drive drive(30'000);
+        NumberedDrive drive(30'000);
         for (int zone = 0; zone < 8; ++zone) {
             const std::uint64_t first = random() % drive.sectors,
                                 length = 1 + random() % (zone == 0 ? 1800 : 30);
@@ -206,7 +143,7 @@ TEST_F(MediumCopies, WhatIsReadIsWhatTheMediumGivesSectorForSector) {
 }
 
 TEST_F(MediumCopies, WhatIsKnownToBeRefusedIsNotAskedFor) {
-    Drive drive(10'000);
+    NumberedDrive drive(10'000);
     for (std::uint64_t sector = 4100; sector < 4170; ++sector) {
         drive.bad.insert(sector);
     }
@@ -231,7 +168,7 @@ TEST_F(MediumCopies, WhatIsKnownToBeRefusedIsNotAskedFor) {
 }
 
 TEST_F(MediumCopies, AfterAPullOutAllThatWasReadIsThereAndTheCopyGoesOn) {
-    Drive drive(40'000);
+    NumberedDrive drive(40'000);
     for (std::uint64_t sector = 3000; sector < 5000; ++sector) {
         drive.bad.insert(sector);
     }
@@ -269,7 +206,7 @@ TEST_F(MediumCopies, AfterAPullOutAllThatWasReadIsThereAndTheCopyGoesOn) {
 }
 
 TEST_F(MediumCopies, TheSameMediumPutBackIsGoneOnWithByTheNextReader) {
-    Drive drive(20'000);
+    NumberedDrive drive(20'000);
     drive.pulledAfter = 10;
     const auto copy = wholeCopyOf(drive);
     EXPECT_FALSE(missing(drive, *copy->openReader()).empty());
@@ -283,10 +220,10 @@ TEST_F(MediumCopies, TheSameMediumPutBackIsGoneOnWithByTheNextReader) {
 }
 
 TEST_F(MediumCopies, ACopyOfAnotherMediumIsNotGoneOnWith) {
-    Drive drive(5'000);
+    NumberedDrive drive(5'000);
     EXPECT_TRUE(missing(drive, *wholeCopyOf(drive)->openReader()).empty());
     const QByteArray before = contentsOf(m_image);
-    Drive other(5'000);
+    NumberedDrive other(5'000);
     other.salt = 99;
     {
         const auto copy = wholeCopyOf(other);
@@ -301,7 +238,7 @@ TEST_F(MediumCopies, ACopyOfAnotherMediumIsNotGoneOnWith) {
 }
 
 TEST_F(MediumCopies, WhatLiesBesideThePlanIsReadWhenItIsAskedFor) {
-    Drive drive(20'000);
+    NumberedDrive drive(20'000);
     auto copy = copyOf(drive);
     copy->copy({{0, 1000}});
     const auto reader = copy->openReader();
@@ -313,7 +250,7 @@ TEST_F(MediumCopies, WhatLiesBesideThePlanIsReadWhenItIsAskedFor) {
 }
 
 TEST_F(MediumCopies, AStopEndsTheWaitForADeviceThatHangs) {
-    Drive drive(5'000);
+    NumberedDrive drive(5'000);
     drive.gateShut = true;
     auto copy = wholeCopyOf(drive);
     {
@@ -335,7 +272,7 @@ TEST_F(MediumCopies, AStopEndsTheWaitForADeviceThatHangs) {
 }
 
 TEST_F(MediumCopies, AFullDiskEndsTheCopyAndNotTheSearch) {
-    Drive drive(20'000);
+    NumberedDrive drive(20'000);
     drive.bad = {500, 15'000, 15'002};
     struct rlimit before {};
     ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
@@ -409,13 +346,13 @@ TEST_F(MediumCopies, TheRescueToolGoesOnWithOurCopyAndWeWithIts) {
     if (tool.isEmpty()) {
         GTEST_SKIP() << "ddrescue (package gddrescue) is not installed";
     }
-    Drive drive(20'000);
+    NumberedDrive drive(20'000);
     const QString card = m_folder.filePath("card");
     {
         QFile whole(card);
         ASSERT_TRUE(whole.open(QIODevice::WriteOnly));
         std::vector<char> bytes(drive.sectors * kSectorBytes);
-        DriveSource(drive).readAt(0, {reinterpret_cast<std::uint8_t*>(bytes.data()), bytes.size()});
+        NumberedSource(drive).readAt(0, {reinterpret_cast<std::uint8_t*>(bytes.data()), bytes.size()});
         whole.write(bytes.data(), static_cast<qint64>(bytes.size()));
     }
     drive.requests = 0;

@@ -39,7 +39,7 @@ TEST(MediumKind, TheDeviceManagersWordsCountToo) {
     EXPECT_EQ(mediumKindOf(sysfsMedia({reader}, {}).at(0).facts), MediumKind::UsbStick);
 }
 
-class OneCard : public MediaSource {
+class OneListedCard : public MediaSource {
   public:
     QStringList mountedRemovableMedia() override { return {QStringLiteral("/media/x")}; }
     MediaFacts diskInfo(const QString&) override {
@@ -50,7 +50,7 @@ class OneCard : public MediaSource {
 };
 
 TEST(MediumKind, TheListKnowsItOfEachMedium) {
-    OneCard source;
+    OneListedCard source;
     MediaList list(source);
     list.rebuild();
     EXPECT_EQ(list.kindOfMedium(QStringLiteral("sdb1")), MediumKind::Card);

@@ -16,14 +16,14 @@
 namespace vantor::test {
 namespace {
 
-constexpr std::uint64_t kWindow = WindowedReader::kWindowSectors;
+constexpr std::uint64_t kAheadWindow = WindowedReader::kWindowSectors;
 
 std::vector<ScanStep> stepsAhead(ScriptedDrive& medium, std::uint64_t start, std::uint64_t end) {
     WindowedReader reader(std::make_unique<ScriptedSource>(medium), WindowedReader::Fetching::Ahead);
     return scanSteps(reader, start, end);
 }
 
-std::vector<ScanStep> plainSteps(ScriptedDrive medium, std::uint64_t start, std::uint64_t end) {
+std::vector<ScanStep> stepsOneByOne(ScriptedDrive medium, std::uint64_t start, std::uint64_t end) {
     PlainReader reader(medium);
     return scanSteps(reader, start, end);
 }
@@ -38,7 +38,7 @@ class SlowRefusal : public BlockSource {
         if (sector == m_refused) {
             // Long enough for every window that may be asked for meanwhile.
             m_asked.wait_for(lock, std::chrono::milliseconds(200),
-                             [&] { return m_furthest > m_refused + 40 * kWindow; });
+                             [&] { return m_furthest > m_refused + 40 * kAheadWindow; });
             return -1;
         }
         m_furthest = std::max(m_furthest, sector);
@@ -120,7 +120,7 @@ TEST(ReadAhead, WhatWasRefusedInAWindowThatNobodyTook_IsAskedForOnceMoreOnly) {
 }
 
 TEST(ReadAhead, WhileAWindowIsRefused_TheLastGoodSectorStaysInPlace) {
-    constexpr std::uint64_t kRefused = 10 * kWindow;
+    constexpr std::uint64_t kRefused = 10 * kAheadWindow;
     WindowedReader reader(std::make_unique<SlowRefusal>(kRefused), WindowedReader::Fetching::Ahead);
     for (std::uint64_t sector = 0; sector < kRefused; ++sector) {
         ASSERT_TRUE(reader.read());
@@ -133,17 +133,17 @@ TEST(ReadAhead, WhileAWindowIsRefused_TheLastGoodSectorStaysInPlace) {
 
 TEST(ReadAhead, HealthyMedium_ComesWholeAndInOrder) {
     ScriptedDrive medium;
-    medium.sectors = 40 * kWindow + 77;
-    const auto expected = plainSteps(medium, 0, medium.sectors);
+    medium.sectors = 40 * kAheadWindow + 77;
+    const auto expected = stepsOneByOne(medium, 0, medium.sectors);
     EXPECT_TRUE(stepsAhead(medium, 0, medium.sectors) == expected);
-    EXPECT_LE(medium.requests, 40 + 2 * 9 + kWindow) << "whole windows, but for the last";
+    EXPECT_LE(medium.requests, 40 + 2 * 9 + kAheadWindow) << "whole windows, but for the last";
 }
 
 TEST(ReadAhead, LastingFaultsAnywhere_SurfaceWhereSingleReadsMeetThem) {
     std::mt19937 random(5);
     for (int round = 0; round < 60; ++round) {
         ScriptedDrive medium;
-        medium.sectors = 12 * kWindow + random() % kWindow;
+        medium.sectors = 12 * kAheadWindow + random() % kAheadWindow;
         medium.wholeRequestFails = random() % 2 == 0;
         for (std::uint32_t faults = random() % 5; faults > 0; --faults) {
             medium.refusals[random() % medium.sectors] = kAlways;
@@ -151,22 +151,22 @@ TEST(ReadAhead, LastingFaultsAnywhere_SurfaceWhereSingleReadsMeetThem) {
         if (random() % 4 == 0) {
             medium.goneFrom = random() % medium.sectors;
         }
-        const std::uint64_t start = random() % (2 * kWindow);
+        const std::uint64_t start = random() % (2 * kAheadWindow);
         const std::uint64_t end = medium.sectors + random() % 20;
-        const auto expected = plainSteps(medium, start, end);
+        const auto expected = stepsOneByOne(medium, start, end);
         ASSERT_TRUE(stepsAhead(medium, start, end) == expected) << "round " << round;
     }
 }
 
 TEST(ReadAhead, SeeksInTheMiddle_GiveTheSectorAskedFor) {
     ScriptedDrive medium;
-    medium.sectors = 64 * kWindow;
+    medium.sectors = 64 * kAheadWindow;
     WindowedReader reader(std::make_unique<ScriptedSource>(medium), WindowedReader::Fetching::Ahead);
     std::mt19937 random(6);
     for (int round = 0; round < 200; ++round) {
-        std::uint64_t sector = random() % (60 * kWindow);
+        std::uint64_t sector = random() % (60 * kAheadWindow);
         ASSERT_TRUE(reader.seek(sector));
-        for (std::uint64_t n = random() % (4 * kWindow); n > 0; --n, ++sector) {
+        for (std::uint64_t n = random() % (4 * kAheadWindow); n > 0; --n, ++sector) {
             ASSERT_TRUE(reader.read());
             std::uint64_t number = 0;
             std::memcpy(&number, reader.current(), sizeof number);
@@ -180,13 +180,13 @@ TEST(ReadAhead, PauseAndDestructionWaitForNobody) {
     medium.sectors = std::uint64_t{1} << 40;
     ScriptedSource source(medium);
     for (int round = 0; round < 100; ++round) {
-        ReadAhead ahead(source, kWindow * kSectorBytes);
+        ReadAhead ahead(source, kAheadWindow * kSectorBytes);
         ahead.start(0, nullptr);
         EXPECT_TRUE(ahead.isAt(0));
         ahead.take();
-        EXPECT_TRUE(ahead.isAt(kWindow));
+        EXPECT_TRUE(ahead.isAt(kAheadWindow));
         ahead.pause();
-        EXPECT_FALSE(ahead.isAt(kWindow));
+        EXPECT_FALSE(ahead.isAt(kAheadWindow));
     }
 }
 

@@ -6,10 +6,10 @@
 namespace vantor {
 namespace {
 
-const QString kSectors = QStringLiteral("1000");
+const QString kMediumSectors = QStringLiteral("1000");
 
 void expectRefused(const QString& start, const QString& end, const QString& message,
-                   const QString& informative, RangeField field, const QString& sectors = kSectors) {
+                   const QString& informative, RangeField field, const QString& sectors = kMediumSectors) {
     const auto refusal = refuseRange(start, end, sectors);
     ASSERT_TRUE(refusal.has_value()) << start.toStdString() << ":" << end.toStdString();
     EXPECT_EQ(refusal->message, message);
@@ -20,9 +20,9 @@ void expectRefused(const QString& start, const QString& end, const QString& mess
 }  // namespace
 
 TEST(SearchRange, WholeAndLastSectorPass) {
-    EXPECT_FALSE(refuseRange("0", "1000", kSectors).has_value());
-    EXPECT_FALSE(refuseRange("999", "1000", kSectors).has_value());
-    EXPECT_FALSE(refuseRange("5", "6", kSectors).has_value());
+    EXPECT_FALSE(refuseRange("0", "1000", kMediumSectors).has_value());
+    EXPECT_FALSE(refuseRange("999", "1000", kMediumSectors).has_value());
+    EXPECT_FALSE(refuseRange("5", "6", kMediumSectors).has_value());
 }
 
 TEST(SearchRange, StartIsNoNumber) {

@@ -67,7 +67,7 @@ bool StandInUdisks::handleMessage(const QDBusMessage& message, const QDBusConnec
         ++listings;
     } else if (message.member() == u"OpenDevice") {
         ++openings;
-    } else {
+    } else if (message.member() != u"Unmount" && message.member() != u"Eject") {
         return false;
     }
     if (silent) {
@@ -84,6 +84,13 @@ QDBusMessage StandInUdisks::answerTo(const QDBusMessage& message) {
         return message.createReply(managedObjects());
     }
     const std::lock_guard lock(m_mutex);
+    if (message.member() == u"Unmount" || message.member() == u"Eject") {
+        calls << message.member() + u' ' + message.path().section(u'/', -1);
+        return message.member() == refusedCall
+                   ? message.createErrorReply(QStringLiteral("org.freedesktop.UDisks2.Error.DeviceBusy"),
+                                              QStringLiteral("target is busy"))
+                   : message.createReply();
+    }
     openedPath = message.path();
     openedMode = message.arguments().value(0).toString();
     if (!refusal.isEmpty()) {

@@ -31,6 +31,8 @@ class StandInUdisks : public QDBusVirtualObject {
     std::atomic<bool> silent{false};  // keeps questions without answering
     QString refusal;                  // error name that OpenDevice answers with
     QString handedOut;                // file whose descriptor OpenDevice answers with
+    QStringList calls;                // "Unmount …/sdb1": what else was asked of which object
+    QString refusedCall;              // of those, the one that is answered by an error
     std::atomic<int> listings{0};
     std::atomic<int> openings{0};
     int signalsSent = 0;

@@ -13,7 +13,7 @@
 namespace vantor::test {
 namespace {
 
-QVariant fact(const MediumRecord& medium, const char* key) {
+QVariant factOf(const MediumRecord& medium, const char* key) {
     return medium.facts.value(QLatin1String(key));
 }
 
@@ -48,15 +48,15 @@ TEST(SysfsMedia, UsbStick_OffersDiskAndVolumeWithTheirFacts) {
             "90 22 8:17 / /media/anna/CANON\\040DC rw,nosuid shared:5 master:1 - vfat /dev/sdb1 rw\n"
             "91 22 8:17 /DCIM /mnt/second rw - vfat /dev/sdb1 rw\n"));
     ASSERT_EQ(media.size(), 2);
-    EXPECT_EQ(fact(media[0], "DeviceIdentifier"), QStringLiteral("sdb"));
-    EXPECT_EQ(fact(media[0], "VolumeName"), QStringLiteral("SanDisk Ultra"));
+    EXPECT_EQ(factOf(media[0], "DeviceIdentifier"), QStringLiteral("sdb"));
+    EXPECT_EQ(factOf(media[0], "VolumeName"), QStringLiteral("SanDisk Ultra"));
     EXPECT_EQ(media[0].path, QStringLiteral("/dev/sdb"));
-    EXPECT_EQ(fact(media[1], "DeviceIdentifier"), QStringLiteral("sdb1"));
-    EXPECT_EQ(fact(media[1], "VolumeName"), QStringLiteral("CANON_DC"));
-    EXPECT_EQ(fact(media[1], "FilesystemUserVisibleName"), QStringLiteral("MS-DOS (FAT32)"));
-    EXPECT_EQ(fact(media[1], "ParentWholeDisk"), QStringLiteral("sdb"));
-    EXPECT_EQ(fact(media[1], "IOKitSize").toULongLong(), 31913934848ULL);
-    EXPECT_EQ(fact(media[1], "BusProtocol"), QStringLiteral("USB"));
+    EXPECT_EQ(factOf(media[1], "DeviceIdentifier"), QStringLiteral("sdb1"));
+    EXPECT_EQ(factOf(media[1], "VolumeName"), QStringLiteral("CANON_DC"));
+    EXPECT_EQ(factOf(media[1], "FilesystemUserVisibleName"), QStringLiteral("MS-DOS (FAT32)"));
+    EXPECT_EQ(factOf(media[1], "ParentWholeDisk"), QStringLiteral("sdb"));
+    EXPECT_EQ(factOf(media[1], "IOKitSize").toULongLong(), 31913934848ULL);
+    EXPECT_EQ(factOf(media[1], "BusProtocol"), QStringLiteral("USB"));
     EXPECT_EQ(media[1].path, QStringLiteral("/media/anna/CANON DC"));
     EXPECT_EQ(media[1].target.path, QStringLiteral("/dev/sdb1"));
     EXPECT_EQ(media[1].target.identity.diskSequence, 17U);
@@ -84,8 +84,8 @@ TEST(SysfsMedia, MountTableGivesTheFileSystemWhereUdevIsSilent) {
     SysfsDisk disk = usbStick();
     disk.volumes[0].udevDatabase.clear();
     const auto media = sysfsMedia({disk}, QStringLiteral("90 22 8:17 / /mnt rw - exfat /dev/sdb1 rw\n"));
-    EXPECT_EQ(fact(media[1], "FilesystemUserVisibleName"), QStringLiteral("ExFAT"));
-    EXPECT_EQ(fact(media[1], "VolumeName"), QString());
+    EXPECT_EQ(factOf(media[1], "FilesystemUserVisibleName"), QStringLiteral("ExFAT"));
+    EXPECT_EQ(factOf(media[1], "VolumeName"), QString());
 }
 
 TEST(SysfsMedia, CardSlot_IsOfferedThoughItsFolderSaysNotRemovable) {
@@ -95,7 +95,7 @@ TEST(SysfsMedia, CardSlot_IsOfferedThoughItsFolderSaysNotRemovable) {
     soldered.cardType = QStringLiteral("MMC\n");
     const auto media = sysfsMedia({card, soldered}, {});
     ASSERT_EQ(media.size(), 1);
-    EXPECT_EQ(fact(media[0], "BusProtocol"), QStringLiteral("Secure Digital"));
+    EXPECT_EQ(factOf(media[0], "BusProtocol"), QStringLiteral("Secure Digital"));
 }
 
 TEST(SysfsMedia, EmptySlotsAndSystemDisks_AreNotOffered) {
@@ -108,8 +108,8 @@ TEST(SysfsMedia, EmptySlotsAndSystemDisks_AreNotOffered) {
 TEST(SysfsMedia, LoopDevicesAndOpticalDrives_AreReportedAsSuch) {
     const auto media = sysfsMedia({plain("loop0", "0\n", "8\n"), plain("sr0", "1\n", "700\n")}, {});
     ASSERT_EQ(media.size(), 2);
-    EXPECT_EQ(fact(media[0], "BusProtocol"), QStringLiteral("Disk Image"));
-    EXPECT_EQ(fact(media[1], "OpticalDeviceType"), QStringLiteral("CD-ROM"));
+    EXPECT_EQ(factOf(media[0], "BusProtocol"), QStringLiteral("Disk Image"));
+    EXPECT_EQ(factOf(media[1], "OpticalDeviceType"), QStringLiteral("CD-ROM"));
 }
 
 TEST(SysfsMedia, JunkInTheMountTable_IsPassedOver) {
@@ -162,9 +162,9 @@ TEST_F(SysfsBackendTest, FoldersBecomeMedia) {
     const auto media = backend.list();
     ASSERT_TRUE(media);
     ASSERT_EQ(media->size(), 2);
-    EXPECT_EQ(fact(media->at(0), "MediaName"), QStringLiteral("ACME Stick"));
-    EXPECT_EQ(fact(media->at(1), "VolumeName"), QStringLiteral("HOLIDAY"));
-    EXPECT_EQ(fact(media->at(1), "FilesystemUserVisibleName"), QStringLiteral("NTFS"));
+    EXPECT_EQ(factOf(media->at(0), "MediaName"), QStringLiteral("ACME Stick"));
+    EXPECT_EQ(factOf(media->at(1), "VolumeName"), QStringLiteral("HOLIDAY"));
+    EXPECT_EQ(factOf(media->at(1), "FilesystemUserVisibleName"), QStringLiteral("NTFS"));
     EXPECT_EQ(media->at(1).path, QStringLiteral("/mnt/holiday"));
     EXPECT_EQ(media->at(1).target.identity.diskSequence, 23U);
 }

@@ -12,13 +12,13 @@ namespace {
 using Outcome = JpegUnits::Outcome;
 using test::asSpan;
 
-constexpr std::uint64_t kClusterBytes = 4096;
+constexpr std::uint64_t kSupplyBytes = 4096;
 
 class ClustersOf final : public ClusterSupply {
   public:
     explicit ClustersOf(const QByteArray& file) : m_file(file) {}
     std::span<const std::uint8_t> cluster(std::uint64_t number) override {
-        const auto at = static_cast<qsizetype>(number * kClusterBytes);
+        const auto at = static_cast<qsizetype>(number * kSupplyBytes);
         const auto bytes = asSpan(m_file);
         return at >= m_file.size()
                    ? std::span<const std::uint8_t>()
@@ -51,7 +51,7 @@ Reading readAll(const QByteArray& file) {
     if (!head) {
         return reading;
     }
-    JpegUnits units(*head, kClusterBytes, supply);
+    JpegUnits units(*head, kSupplyBytes, supply);
     while ((reading.outcome = units.next()) == Outcome::Unit) {
         reading.cost.add(units.cost());
     }
@@ -111,15 +111,15 @@ TEST(JpegUnits, ReadOnFromASnapshot_ComesToTheSameEnd) {
     const auto head = headOf(photo);
     ASSERT_TRUE(head);
     ClustersOf supply(photo);
-    JpegUnits units(*head, kClusterBytes, supply);
-    while (units.place().seen <= 5 * kClusterBytes) {
+    JpegUnits units(*head, kSupplyBytes, supply);
+    while (units.place().seen <= 5 * kSupplyBytes) {
         ASSERT_EQ(units.next(), Outcome::Unit);
     }
     JpegUnits::Snapshot before;
     units.snapshotBefore(before);
-    EXPECT_LE(before.place.seen, 5 * kClusterBytes) << "nothing of the next cluster";
+    EXPECT_LE(before.place.seen, 5 * kSupplyBytes) << "nothing of the next cluster";
     const auto lastCost = units.cost().own;
-    JpegUnits again(*head, kClusterBytes, supply);
+    JpegUnits again(*head, kSupplyBytes, supply);
     again.resume(before);
     ASSERT_EQ(again.next(), Outcome::Unit);
     EXPECT_EQ(again.cost().own, lastCost) << "the row above is known";

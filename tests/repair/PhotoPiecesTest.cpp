@@ -61,19 +61,7 @@ TEST(PhotoPieces, ThumbnailWithinThePhoto_TakesNoPlaceAway) {
 }
 
 TEST(PhotoPieces, TwoPhotosCrossed_ComeApart) {
-    const QByteArray one = makePhoto(1);
-    const QByteArray other = makePhoto(2);
-    test::ScatteredCard card;
-    const std::uint64_t firstOfOne = card.put(one, 0, clustersOf(one) / 2);
-    const std::uint64_t firstOfOther = card.put(other, 0, clustersOf(other) / 2);
-    card.put(one, clustersOf(one) / 2);
-    card.put(other, clustersOf(other) / 2);
-    const auto assembly = card.completed(firstOfOne, {firstOfOther});
-    ASSERT_TRUE(assembly);
-    EXPECT_EQ(card.contentOf(*assembly), one);
-    const auto second = card.completed(firstOfOther, {firstOfOne});
-    ASSERT_TRUE(second);
-    EXPECT_EQ(card.contentOf(*second), other);
+    test::expectToComeApart(makePhoto(1), makePhoto(2));
 }
 
 TEST(PhotoPieces, ThreePiecesOutOfOrder_AreJoined) {

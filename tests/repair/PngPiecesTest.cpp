@@ -74,19 +74,7 @@ TEST(PngPieces, OneLargeChunk_IsJoined) {
 }
 
 TEST(PngPieces, CrossedPictures_ComeApart) {
-    const QByteArray one = makePng(3, 90'000, 8192);
-    const QByteArray other = makePng(4, 120'000, 8192);
-    ScatteredCard card;
-    const std::uint64_t firstOfOne = card.put(one, 0, clustersOf(one) / 2);
-    const std::uint64_t firstOfOther = card.put(other, 0, clustersOf(other) / 2);
-    card.put(one, clustersOf(one) / 2);
-    card.put(other, clustersOf(other) / 2);
-    const auto assembly = card.completed(firstOfOne, {firstOfOther});
-    ASSERT_TRUE(assembly);
-    EXPECT_EQ(card.contentOf(*assembly), one);
-    const auto second = card.completed(firstOfOther, {firstOfOne});
-    ASSERT_TRUE(second);
-    EXPECT_EQ(card.contentOf(*second), other);
+    test::expectToComeApart(makePng(3, 90'000, 8192), makePng(4, 120'000, 8192));
 }
 
 TEST(PngPieces, PieceGone_GivesNothing) {

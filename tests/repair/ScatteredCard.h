@@ -1,6 +1,8 @@
 // A medium to which pieces of files are written, and a look at what is put together from it.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QByteArray>
 #include <atomic>
 #include <optional>
@@ -15,6 +17,10 @@ namespace vantor::test {
 constexpr qsizetype kClusterBytes = 4096;
 constexpr std::uint64_t kClusterSectors = 8;
 
+inline qsizetype clustersOf(const QByteArray& file) {
+    return (file.size() + kClusterBytes - 1) / kClusterBytes;
+}
+
 // Pieces of files one behind the other, each in clusters of its own, behind four empty ones.
 class ScatteredCard {
   public:
@@ -26,6 +32,14 @@ class ScatteredCard {
         m_bytes += piece.leftJustified(clusters * kClusterBytes, '\0');
         return first;
     }
+    // The first halves of both, then their second halves; where each of them begins.
+    std::pair<std::uint64_t, std::uint64_t> putCrossed(const QByteArray& one, const QByteArray& other) {
+        const std::uint64_t firstOfOne = put(one, 0, clustersOf(one) / 2);
+        const std::uint64_t firstOfOther = put(other, 0, clustersOf(other) / 2);
+        put(one, clustersOf(one) / 2);
+        put(other, clustersOf(other) / 2);
+        return {firstOfOne, firstOfOther};
+    }
     void putNoise(int clusters) {
         std::mt19937 random(7);
         for (qsizetype i = 0; i < clusters * kClusterBytes; ++i) {
@@ -33,10 +47,13 @@ class ScatteredCard {
         }
     }
 
+    // With empty clusters behind.
+    QByteArray bytes() const { return m_bytes + QByteArray(16 * kClusterBytes, '\0'); }
+
     std::optional<Assembly> completed(std::uint64_t first, const std::vector<std::uint64_t>& alsoBroken = {},
                                       const std::vector<SectorRun>& whole = {}) const {
-        const QByteArray bytes = m_bytes + QByteArray(16 * kClusterBytes, '\0');
-        MemoryReader reader(bytes);
+        const QByteArray card = bytes();
+        MemoryReader reader(card);
         const std::atomic<int> goOn{0};
         CompletionProgress progress;
         std::vector<std::uint64_t> broken = alsoBroken;
@@ -56,8 +73,16 @@ class ScatteredCard {
     QByteArray m_bytes = QByteArray(4 * kClusterBytes, '\0');
 };
 
-inline qsizetype clustersOf(const QByteArray& file) {
-    return (file.size() + kClusterBytes - 1) / kClusterBytes;
+// Each of the two comes back to the byte, as the other stands to be found too.
+inline void expectToComeApart(const QByteArray& one, const QByteArray& other) {
+    ScatteredCard card;
+    const auto [firstOfOne, firstOfOther] = card.putCrossed(one, other);
+    const auto assembly = card.completed(firstOfOne, {firstOfOther});
+    ASSERT_TRUE(assembly);
+    EXPECT_EQ(card.contentOf(*assembly), one);
+    const auto second = card.completed(firstOfOther, {firstOfOne});
+    ASSERT_TRUE(second);
+    EXPECT_EQ(card.contentOf(*second), other);
 }
 
 }  // namespace vantor::test

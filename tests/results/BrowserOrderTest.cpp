@@ -52,18 +52,17 @@ TEST_F(BrowserOrder, AType_LeavesOutAllOthers) {
     EXPECT_EQ(browserOrder(6, wish, factsOf), QList<int>{4});
 }
 
-TEST_F(BrowserOrder, AName_IsLookedForInAllNames) {
-    items[1].names = QStringLiteral("GND00001.JPG\nDCIM/IMG_0412.JPG");
-    items[4].names = QStringLiteral("GND00002.JPG");
-    BrowserWish wish;
-    wish.name = QStringLiteral("img_04");
-    EXPECT_FALSE(wish.isPlain());
-    EXPECT_FALSE(wish.needsSoundness());
+TEST_F(BrowserOrder, WhatIsNotAdmitted_IsLeftOut) {
+    BrowserWish named;
+    named.name = QStringLiteral("img_04");
+    EXPECT_FALSE(named.isPlain());
+    EXPECT_FALSE(named.needsSoundness());
     const auto factsOf = [this](int place) { return items[static_cast<std::size_t>(place)]; };
-    EXPECT_EQ(browserOrder(6, wish, factsOf), QList<int>{1});
-    wish.name = QStringLiteral("gnd");
-    EXPECT_EQ(browserOrder(6, wish, factsOf), (QList<int>{1, 4}));
-    EXPECT_EQ(browserOrder(6, wish, factsOf, [](int place) { return place != 1; }), QList<int>{4});
+    EXPECT_EQ(browserOrder(6, named, factsOf, [](int place) { return place == 1 || place == 4; }),
+              (QList<int>{1, 4}));
+    named.show = ShowItems::NotSmall;
+    EXPECT_EQ(browserOrder(6, named, factsOf, [](int place) { return place == 1 || place == 4; }),
+              QList<int>{4});
     BrowserWish picked;
     picked.facets.days = {20260517};
     EXPECT_FALSE(picked.isPlain());
@@ -101,6 +100,42 @@ TEST(BrowserWish, KnowsWhatItTakes) {
     EXPECT_TRUE((BrowserWish{ShowItems::Complete, SortItems::AsFound}).needsSoundness());
     EXPECT_TRUE((BrowserWish{ShowItems::All, SortItems::Size}).needsSoundness());
     EXPECT_TRUE(BrowserWish().isPlain());
+}
+
+TEST_F(BrowserOrder, TheOtherWayRound_WhatIsNotKnownStaysLast) {
+    const auto factsOf = [this](int place) { return items[static_cast<std::size_t>(place)]; };
+    BrowserWish wish;
+    wish.sort = SortItems::Pixels;
+    EXPECT_TRUE(wish.needsSoundness());
+    EXPECT_EQ(browserOrder(6, wish, factsOf), (QList<int>{0, 3, 4, 1, 5, 2})) << "the largest first";
+    wish.reversed = true;
+    EXPECT_EQ(browserOrder(6, wish, factsOf), (QList<int>{1, 4, 3, 0, 5, 2}));
+    wish.sort = SortItems::AsFound;
+    EXPECT_FALSE(wish.isPlain());
+    EXPECT_EQ(browserOrder(6, wish, factsOf), (QList<int>{5, 4, 3, 2, 1, 0}));
+}
+
+TEST_F(BrowserOrder, NamesTypesAndPlaces_NeedNoLookAtTheItems) {
+    const auto factsOf = [this](int place) { return items[static_cast<std::size_t>(place)]; };
+    items[2].name = QStringLiteral("b.jpg");
+    items[4].name = QStringLiteral("A.jpg");
+    items[5].place = 7;
+    items[1].type = QStringLiteral("TIF");
+    items[0].soundness->camera = QStringLiteral("Canon");
+    BrowserWish wish;
+    wish.sort = SortItems::Name;
+    EXPECT_FALSE(wish.needsSoundness());
+    EXPECT_EQ(browserOrder(6, wish, factsOf), (QList<int>{0, 1, 3, 5, 4, 2}));
+    wish.sort = SortItems::Place;
+    EXPECT_FALSE(wish.needsSoundness());
+    EXPECT_EQ(browserOrder(6, wish, factsOf).constLast(), 5);
+    wish.sort = SortItems::Type;
+    EXPECT_FALSE(wish.needsSoundness());
+    EXPECT_EQ(browserOrder(6, wish, factsOf).constLast(), 1);
+    wish.sort = SortItems::Camera;
+    EXPECT_TRUE(wish.needsSoundness());
+    EXPECT_EQ(browserOrder(6, wish, factsOf).constFirst(), 0);
+    EXPECT_EQ(browserOrder(6, wish, factsOf).constLast(), 2) << "nothing at all is known of it";
 }
 
 }  // namespace

@@ -6,7 +6,7 @@
 namespace vantor {
 namespace {
 
-constexpr std::uint64_t kCluster = 8;  // sectors
+constexpr std::uint64_t kIndexCluster = 8;  // sectors
 constexpr std::uint64_t kMediumEnd = 10'000;
 
 CardFile fileAt(std::uint64_t first, std::uint64_t bytes, FileState state, const QString& name = "A.JPG") {
@@ -15,9 +15,9 @@ CardFile fileAt(std::uint64_t first, std::uint64_t bytes, FileState state, const
     file.name = name;
     file.state = state;
     file.bytes = file.validBytes = bytes;
-    file.clusterSectors = kCluster;
-    const std::uint64_t clusters = (bytes + kCluster * 512 - 1) / (kCluster * 512);
-    file.runs = {{first, first + clusters * kCluster}};
+    file.clusterSectors = kIndexCluster;
+    const std::uint64_t clusters = (bytes + kIndexCluster * 512 - 1) / (kIndexCluster * 512);
+    file.runs = {{first, first + clusters * kIndexCluster}};
     return file;
 }
 

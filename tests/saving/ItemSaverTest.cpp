@@ -1,7 +1,6 @@
-// What lands in the destination: how long, under which name, once.
+// What lands in the destination: how long, under which name.
 #include <gtest/gtest.h>
 #include <sys/mount.h>
-#include <sys/stat.h>
 
 #include <QCryptographicHash>
 #include <QDateTime>
@@ -10,6 +9,7 @@
 #include <QTemporaryDir>
 
 #include "saving/ItemSaver.h"
+#include "tests/saving/CarvedRuns.h"
 #include "tests/saving/PoorFileSystem.h"
 #include "tests/support/SmallFiles.h"
 
@@ -21,12 +21,6 @@ SavePolicy asPublished() {
     policy.asPublished = true;
     return policy;
 }
-
-CarvedRun run(std::uint64_t first, std::uint64_t end) {
-    return {{{first, end}}, false};
-}
-
-constexpr qsizetype kWavBytes = 100'000;  // 196 sectors
 
 }  // namespace
 
@@ -40,30 +34,6 @@ TEST(ItemSaver, AsPublished_SavesTheSectorsReallyRead) {
     EXPECT_EQ(outcome.path, folder.filePath("JPG/x.JPG"));
     EXPECT_EQ(contentsOf(outcome.path), QByteArray(512, 'c') + QByteArray(512, 'd') + QByteArray(512, 'h'));
     EXPECT_EQ(outcome.sectorsUnreadable, 0U);
-}
-
-TEST(ItemSaver, RefusedSectorKeepsItsPlace) {
-    const QTemporaryDir folder;
-    ScriptedMedium medium = letters(10);
-    medium.badForEver = {4};
-    ScriptedReader reader(medium);
-    const SaveOutcome outcome = ItemSaver(folder.path()).saveRuns("T", "x", {{{2, 4}, {5, 6}}, true}, reader);
-    ASSERT_TRUE(outcome.saved) << outcome.error.toStdString();
-    EXPECT_EQ(contentsOf(outcome.path),
-              QByteArray(512, 'c') + QByteArray(512, 'd') + QByteArray(512, '\0') + QByteArray(512, 'f'));
-    EXPECT_EQ(outcome.sectorsUnreadable, 1U);
-}
-
-TEST(ItemSaver, UnreadableSectorsBecomeZerosAndAreCounted) {
-    const QTemporaryDir folder;
-    ScriptedMedium medium = letters(6);
-    medium.badForEver = {3};
-    ScriptedReader reader(medium);
-    const SaveOutcome outcome = ItemSaver(folder.path()).saveRuns("T", "x", {{{2, 6}}, false}, reader);
-    ASSERT_TRUE(outcome.saved);
-    EXPECT_EQ(outcome.sectorsUnreadable, 1U);
-    EXPECT_EQ(contentsOf(outcome.path),
-              QByteArray(512, 'c') + QByteArray(512, '\0') + QByteArray(512, 'e') + QByteArray(512, 'f'));
 }
 
 TEST(ItemSaver, FolderThatCannotBeMadeIsTold) {
@@ -194,121 +164,6 @@ TEST(ItemSaver, BytesAtHandAreNotReadAgain) {
     EXPECT_LE(medium.reads, 400U) << "each place once";
 }
 
-TEST(ItemSaver, UnreadableSectorMakesAWholeFileADamagedOne) {
-    ScriptedMedium medium = mediumWith(wavFile(kWavBytes), 10, 400);
-    medium.badForEver = {100};
-    ScriptedReader reader(medium);
-    const QTemporaryDir folder;
-    const SaveOutcome outcome = ItemSaver(folder.path()).saveRuns("WAV", "a.WAV", run(10, 60), reader);
-    ASSERT_TRUE(outcome.saved);
-    EXPECT_EQ(outcome.verdict, Verdict::Damaged);
-    EXPECT_EQ(outcome.sectorsUnreadable, 1U);
-    EXPECT_EQ(outcome.bytes, static_cast<std::uint64_t>(kWavBytes));
-}
-
-TEST(ItemSaver, UnreadableSectorDoesNotEndAFileWhoseEndNothingMarks) {
-    ScriptedMedium medium = mediumWith(QByteArray(60 * 512, 'x'), 10, 80);
-    medium.badForEver = {30};
-    ScriptedReader reader(medium);
-    const QTemporaryDir folder;
-    const SaveOutcome outcome = ItemSaver(folder.path()).saveRuns("TXT", "a.TXT", run(10, 60), reader);
-    ASSERT_TRUE(outcome.saved);
-    EXPECT_EQ(outcome.verdict, Verdict::Damaged);
-    EXPECT_EQ(outcome.bytes, 50 * 512U);
-}
-
-TEST(ItemSaver, LongUnreadableStretchBehindTheCarvedRunEndsTheFile) {
-    ScriptedMedium medium = mediumWith(wavFile(kWavBytes), 10, 400);
-    for (std::uint64_t sector = 100; sector < 300; ++sector) {
-        medium.badForEver.insert(sector);
-    }
-    ScriptedReader reader(medium);
-    const QTemporaryDir folder;
-    const SaveOutcome outcome = ItemSaver(folder.path()).saveRuns("WAV", "a.WAV", run(10, 60), reader);
-    ASSERT_TRUE(outcome.saved) << outcome.error.toStdString();
-    EXPECT_EQ(outcome.verdict, Verdict::CutOff);
-    EXPECT_EQ(outcome.bytes, 90 * 512U);
-    EXPECT_EQ(outcome.sectorsUnreadable, 0U);
-}
-
-class SameBytes : public testing::TestWithParam<bool> {};
-
-INSTANTIATE_TEST_SUITE_P(Checksums, SameBytes, testing::Bool());
-
-TEST_P(SameBytes, AreSavedOnce) {
-    const QByteArray wav = wavFile(kWavBytes);
-    const QByteArray other = wavFile(kWavBytes, 2);
-    ScriptedMedium medium = mediumWith(wav, 10, 1000);
-    std::memcpy(medium.bytes.at(300).data(), wav.data(), static_cast<std::size_t>(wav.size()));
-    std::memcpy(medium.bytes.at(700).data(), other.data(), static_cast<std::size_t>(other.size()));
-    ScriptedReader reader(medium);
-    const QTemporaryDir folder;
-    SavePolicy policy;
-    policy.checksums = GetParam();
-    const ItemSaver saver(folder.path(), policy);
-    const SaveOutcome first = saver.saveRuns("WAV", "a.WAV", run(10, 60), reader);
-    const SaveOutcome again = saver.saveRuns("WAV", "b.WAV", run(300, 600), reader);
-    const SaveOutcome sameSizeOnly = saver.saveRuns("WAV", "d.WAV", run(700, 701), reader);
-    EXPECT_TRUE(sameSizeOnly.saved && !sameSizeOnly.duplicate);
-    const SaveOutcome otherType = saver.saveRuns("RMI", "c.RMI", run(10, 60), reader);
-    EXPECT_FALSE(first.duplicate);
-    ASSERT_TRUE(again.saved && again.duplicate);
-    EXPECT_EQ(again.path, first.path);
-    ASSERT_TRUE(otherType.saved && otherType.duplicate);
-    EXPECT_EQ(filesUnder(folder.path()), QStringList({"RMI/c.RMI", "WAV/a.WAV", "WAV/d.WAV"}));
-    struct stat one {
-    }, second{};
-    ::stat(first.path.toLocal8Bit().constData(), &one);
-    ::stat(otherType.path.toLocal8Bit().constData(), &second);
-    EXPECT_EQ(one.st_ino, second.st_ino) << "one file with two names";
-
-    const SaveOutcome thirdTime = saver.saveRuns("RMI", "e.RMI", run(300, 600), reader);
-    EXPECT_TRUE(thirdTime.duplicate);
-    EXPECT_EQ(thirdTime.path, otherType.path) << "one name a type";
-
-    SavePolicy keep;
-    keep.skipDuplicates = false;
-    ASSERT_TRUE(QDir(folder.path()).mkdir("all"));
-    const ItemSaver keeper(folder.filePath("all"), keep);
-    EXPECT_TRUE(keeper.saveRuns("WAV", "a.WAV", run(10, 60), reader).saved);
-    EXPECT_FALSE(keeper.saveRuns("WAV", "b.WAV", run(300, 600), reader).duplicate);
-    EXPECT_EQ(filesUnder(folder.filePath("all")), QStringList({"WAV/a.WAV", "WAV/b.WAV"}));
-}
-
-TEST_P(SameBytes, FilesThatOnlyBeginAlikeAreBothSaved) {
-    QByteArray wav = wavFile(kWavBytes);
-    ScriptedMedium medium = mediumWith(wav, 10, 1000);
-    wav.back() = static_cast<char>(wav.back() + 1);
-    std::memcpy(medium.bytes.at(300).data(), wav.data(), static_cast<std::size_t>(wav.size()));
-    ScriptedReader reader(medium);
-    const QTemporaryDir folder;
-    SavePolicy policy;
-    policy.checksums = GetParam();
-    const ItemSaver saver(folder.path(), policy);
-    saver.saveRuns("WAV", "a.WAV", run(10, 60), reader);
-    const SaveOutcome second = saver.saveRuns("WAV", "b.WAV", run(300, 600), reader);
-    EXPECT_FALSE(second.duplicate);
-    ASSERT_TRUE(second.saved);
-    EXPECT_TRUE(contentsOf(second.path) == wav);
-}
-
-// The checksum of a file tells whether it was asked for: most files of one size need none.
-TEST(ItemSaver, FilesOfOneSizeThatBeginDifferentlyAreNotSummedUp) {
-    const QByteArray wav = wavFile(kWavBytes);
-    ScriptedMedium medium = mediumWith(wav, 10, 1000);
-    const QByteArray other = wavFile(kWavBytes, 2);
-    std::memcpy(medium.bytes.at(300).data(), other.data(), static_cast<std::size_t>(other.size()));
-    ScriptedReader reader(medium);
-    const QTemporaryDir folder;
-    SavePolicy policy;
-    policy.checksums = false;
-    const ItemSaver saver(folder.path(), policy);
-    EXPECT_TRUE(saver.saveRuns("WAV", "a.WAV", run(10, 60), reader).saved);
-    const SaveOutcome second = saver.saveRuns("WAV", "b.WAV", run(300, 600), reader);
-    EXPECT_TRUE(second.saved);
-    EXPECT_TRUE(second.sha256.isEmpty());
-}
-
 TEST(ItemSaver, DateTakenIsTheFilesTimeAndOnRequestItsName) {
     ScriptedMedium medium = mediumWith(tiffFile(64, 48, "2026:05:17 14:03:22"), 5, 60);
     ScriptedReader reader(medium);
@@ -347,70 +202,6 @@ TEST(ItemSaver, SmallOnesAreLeftOutOnRequest) {
     EXPECT_EQ(save(policy).leftOut, LeftOut::TooSmall);
 }
 
-TEST(ItemSaver, PartsOfWhatWasProvedComplete_AreLeftOutUnlessAskedFor) {
-    const QByteArray member = wavFile(kWavBytes);
-    const QByteArray archive = zipHolding(member);
-    const auto saveBoth = [&](const QByteArray& holder, const SavePolicy& policy) {
-        ScriptedMedium medium = mediumWith(holder, 5, 300);
-        ScriptedReader reader(medium);
-        const QTemporaryDir folder;
-        const ItemSaver saver(folder.path(), policy);
-        EXPECT_TRUE(saver.saveRuns("ZIP", "a.ZIP", run(5, 6), reader).saved);
-        return saver.saveRuns("WAV", "b.WAV", run(6, 250), reader);
-    };
-    const SaveOutcome part = saveBoth(archive, {});
-    EXPECT_EQ(part.leftOut, LeftOut::Part);
-    EXPECT_EQ(part.partOf, "a.ZIP");
-    EXPECT_FALSE(part.saved);
-    ASSERT_TRUE(soundnessOf(part));
-    EXPECT_EQ(soundnessOf(part)->bytes, static_cast<std::uint64_t>(kWavBytes));
-    SavePolicy withParts;
-    withParts.parts = true;
-    EXPECT_TRUE(saveBoth(archive, withParts).saved);
-    QByteArray spoilt = archive;
-    spoilt[5000] = static_cast<char>(spoilt[5000] ^ 1);
-    EXPECT_TRUE(saveBoth(spoilt, {}).saved) << "other bytes than the archive's may stand in it";
-}
-
-TEST(ItemSaver, PartsOfAStreamThatHasToWait_WaitForIt) {
-    QByteArray stream;
-    for (int frame = 0; frame < 4000; ++frame) {
-        stream += QByteArray("\x0B\x77\0\0\0\x40\x40\0", 8) + QByteArray(120, 'x');
-    }
-    ScriptedMedium medium = mediumWith(stream, 10, 1200);
-    ScriptedReader reader(medium);
-    const QTemporaryDir folder;
-    const ItemSaver saver(folder.path());
-    const auto save = [&](const char* name, const CarvedRun& carved, bool mayWait) {
-        FoundItem item{"AC3", name, {carved, {}, [&reader] { return &reader; }, medium.bytes.size()}};
-        item.mayWait = mayWait;
-        return saver.save(item);
-    };
-    const SaveOutcome whole = save("a.AC3", run(10, 12), true);
-    ASSERT_TRUE(whole.later) << "claims far more than was carved";
-    EXPECT_TRUE(whole.comesFirst());
-    const SaveOutcome part = save("b.AC3", run(20, 22), true);
-    EXPECT_TRUE(part.later);
-    EXPECT_FALSE(part.comesFirst());
-    EXPECT_TRUE(save("c.AC3", run(20, 22), false).saved) << "may not wait";
-    saver.beginSecondRound();
-    ASSERT_TRUE(save("a.AC3", run(10, 12), false).saved);
-    EXPECT_EQ(save("b.AC3", run(20, 22), false).leftOut, LeftOut::Part);
-}
-
-TEST(ItemSaver, EachChoiceHasItsOwnParts) {
-    const QByteArray archive = zipHolding(wavFile(kWavBytes));
-    ScriptedMedium medium = mediumWith(archive, 5, 300);
-    ScriptedReader reader(medium);
-    const QTemporaryDir folder;
-    const ItemSaver saver(folder.path());
-    saver.beginRound();
-    ASSERT_TRUE(saver.saveRuns("ZIP", "a.ZIP", run(5, 6), reader).saved);
-    EXPECT_EQ(saver.saveRuns("WAV", "b.WAV", run(6, 250), reader).leftOut, LeftOut::Part);
-    saver.beginRound();
-    EXPECT_TRUE(saver.saveRuns("WAV", "b.WAV", run(6, 250), reader).saved) << "who chooses a part gets it";
-}
-
 TEST(ItemSaver, DestinationThatWentAwayIsNotMadeAgain) {
     const QTemporaryDir folder;
     ScriptedMedium medium = letters(4);
@@ -441,188 +232,6 @@ TEST(ItemSaver, DestinationThatWasPulledOutIsNotWrittenBesideItsPlace) {
     ASSERT_EQ(::umount(mountPoint.constData()), 0);
     EXPECT_FALSE(saver.saveRuns("T", "b", run(0, 2), reader).saved);
     EXPECT_TRUE(filesUnder(folder.path()).isEmpty());
-}
-
-TEST(ItemSaver, PartsOfAStreamGoNoFurtherThanTheyWereCarved) {
-    // AC-3 frames of 48 kHz, 32 kbit/s: 128 bytes each, so that each fourth begins a sector.
-    QByteArray stream;
-    for (int frame = 0; frame < 4000; ++frame) {
-        stream += QByteArray("\x0B\x77\0\0\0\x40\x40\0", 8) + QByteArray(120, 'x');
-    }
-    ScriptedMedium medium = mediumWith(stream, 10, 1200);
-    ScriptedReader reader(medium);
-    const QTemporaryDir folder;
-    SavePolicy withParts;
-    withParts.parts = true;
-    const ItemSaver saver(folder.path(), withParts);
-    const SaveOutcome whole = saver.saveRuns("AC3", "a.AC3", run(10, 12), reader);
-    ASSERT_EQ(whole.verdict, Verdict::Complete);
-    ASSERT_EQ(whole.bytes, static_cast<std::uint64_t>(stream.size()));
-    const SaveOutcome part = saver.saveRuns("AC3", "b.AC3", run(20, 22), reader);
-    ASSERT_TRUE(part.saved);
-    EXPECT_EQ(part.bytes, 2 * 512U);
-    // What is of another kind is no part of it, however far the first was believed to reach.
-    const SaveOutcome other = saver.saveRuns("EAC3", "c.EAC3", run(20, 22), reader);
-    EXPECT_EQ(other.bytes, static_cast<std::uint64_t>(stream.size()) - 10 * 512U);
-}
-
-// One reader that loses its medium at the given sector.
-class VanishingReader : public ScriptedReader {
-  public:
-    VanishingReader(ScriptedMedium& medium, std::uint64_t goneFrom)
-        : ScriptedReader(medium), m_goneFrom(goneFrom) {}
-    bool isGone() override { return m_gone; }
-
-  protected:
-    bool fetch() override {
-        m_gone = m_gone || position() >= m_goneFrom;
-        return !m_gone && ScriptedReader::fetch();
-    }
-
-  private:
-    const std::uint64_t m_goneFrom;
-    bool m_gone = false;
-};
-
-TEST(ItemSaver, ItemOfWhichNothingCanBeRead_FailsAndIsNoDuplicate) {
-    ScriptedMedium medium = letters(24);
-    for (std::uint64_t sector = 4; sector < 16; ++sector) {
-        medium.badForEver.insert(sector);
-    }
-    ScriptedReader reader(medium);
-    const QTemporaryDir folder;
-    const ItemSaver saver(folder.path());
-    for (const std::uint64_t first : {4U, 8U, 12U}) {
-        const SaveOutcome outcome = saver.saveRuns("T", "x", run(first, first + 4), reader);
-        EXPECT_FALSE(outcome.saved || outcome.duplicate);
-        EXPECT_EQ(outcome.error, QStringLiteral("None of its sectors could be read"));
-    }
-    EXPECT_TRUE(filesUnder(folder.path()).isEmpty());
-    SavePolicy picky;
-    picky.skipUnsound = true;
-    picky.minBytes = 1 << 20;
-    const SaveOutcome unseen = ItemSaver(folder.path(), picky).saveRuns("JPG", "x", run(4, 8), reader);
-    EXPECT_EQ(unseen.leftOut, LeftOut::No) << "nobody looked at it";
-    EXPECT_FALSE(unseen.error.isEmpty());
-}
-
-TEST(ItemSaver, ZerosInPlaceOfUnreadableSectorsMakeNoDuplicate) {
-    ScriptedMedium medium = letters(24);
-    medium.bytes[14] = medium.bytes[4];
-    medium.badForEver = {5, 6, 7, 15, 16, 17};
-    ScriptedReader reader(medium);
-    const QTemporaryDir folder;
-    const ItemSaver saver(folder.path());
-    ASSERT_TRUE(saver.saveRuns("T", "a", run(4, 8), reader).saved);
-    const SaveOutcome other = saver.saveRuns("T", "b", run(14, 18), reader);
-    EXPECT_TRUE(other.saved);
-    EXPECT_FALSE(other.duplicate) << "only their first sectors were read";
-    const SaveOutcome again = saver.saveRuns("T", "a", run(4, 8), reader);
-    EXPECT_TRUE(again.duplicate) << "the same place, as badly read";
-    EXPECT_EQ(filesUnder(folder.path()), QStringList({"T/a", "T/b"}));
-    medium.badForEver.clear();
-    EXPECT_FALSE(saver.saveRuns("T", "a", run(4, 8), reader).duplicate) << "all of it can be read now";
-    EXPECT_EQ(filesUnder(folder.path()), QStringList({"T/a", "T/a (2)", "T/b"}));
-}
-
-TEST(ItemSaver, MediumThatGoesAway_LeavesWhatWasReadAndFailsTheRest) {
-    ScriptedMedium medium = letters(20);
-    VanishingReader reader(medium, 6);
-    const QTemporaryDir folder;
-    const ItemSaver saver(folder.path());
-    const SaveOutcome first = saver.saveRuns("T", "a", run(4, 8), reader);
-    ASSERT_TRUE(first.saved);
-    EXPECT_TRUE(first.mediumGone);
-    EXPECT_EQ(first.verdict, Verdict::CutOff);
-    EXPECT_EQ(contentsOf(first.path), QByteArray(512, 'e') + QByteArray(512, 'f'));
-    const SaveOutcome second = saver.saveRuns("T", "b", run(10, 14), reader);
-    EXPECT_FALSE(second.saved);
-    EXPECT_EQ(second.error, QStringLiteral("The medium cannot be read any more"));
-}
-
-// As the photo in progress when a card is pulled out: two sectors, one refused, one more, then nothing.
-TEST(ItemSaver, BytesInMemoryOutliveTheMedium) {
-    const QByteArray published = QByteArray(512, 'a') + QByteArray(512, 'b') + QByteArray(512, 'b') +
-                                 QByteArray(512, 'd') + QByteArray(3 * 512, 'd');
-    const CarvedRun carved{{{4, 6}, {7, 8}}, true, {{2, 3}, {4, 7}}};
-    const QByteArray expected =
-        QByteArray(512, 'a') + QByteArray(512, 'b') + QByteArray(512, '\0') + QByteArray(512, 'd');
-    ScriptedMedium medium = letters(20);
-    VanishingReader pulled(medium, 0);
-    for (const bool opens : {false, true}) {
-        const QTemporaryDir folder;
-        const auto open = [&]() -> SectorReader* { return opens ? &pulled : nullptr; };
-        const SaveOutcome outcome =
-            ItemSaver(folder.path()).save({"T", "x", {carved, published, open, opens ? 20U : 0U}});
-        ASSERT_TRUE(outcome.saved) << outcome.error.toStdString();
-        EXPECT_EQ(contentsOf(outcome.path), expected);
-        EXPECT_EQ(outcome.sectorsUnreadable, 1U);
-    }
-    ScriptedReader whole(medium);
-    const QTemporaryDir folder;
-    const SaveOutcome outcome =
-        ItemSaver(folder.path()).save({"T", "x", {carved, published, [&] { return &whole; }, 8}});
-    EXPECT_EQ(contentsOf(outcome.path),
-              QByteArray(512, 'a') + QByteArray(512, 'b') + QByteArray(512, 'g') + QByteArray(512, 'd'));
-    EXPECT_EQ(medium.reads, 1U) << "only what memory does not hold";
-}
-
-TEST(ItemSaver, BadZoneIsPassedOverAndWhatLiesBehindIsRead) {
-    constexpr std::uint64_t kFirst = 10, kZone = 1000, kZoneEnd = 6000, kEnd = 9010;
-    const QByteArray wav = wavFile(static_cast<qsizetype>((kEnd - kFirst) * 512));
-    ScriptedMedium medium = mediumWith(wav, kFirst, 9100);
-    for (std::uint64_t sector = kZone; sector < kZoneEnd; ++sector) {
-        medium.badForEver.insert(sector);
-    }
-    QByteArray expected = wav;
-    const auto at = static_cast<qsizetype>((kZone - kFirst) * 512);
-    const auto count = static_cast<qsizetype>((kZoneEnd - kZone) * 512);
-    expected.replace(at, count, QByteArray(count, '\0'));
-    for (const std::uint64_t carvedEnd : {kEnd, kFirst + 20}) {
-        const QTemporaryDir folder;
-        ScriptedReader reader(medium);
-        medium.reads = 0;
-        const SaveOutcome outcome =
-            ItemSaver(folder.path()).saveRuns("WAV", "a.WAV", run(kFirst, carvedEnd), reader);
-        ASSERT_TRUE(outcome.saved);
-        EXPECT_TRUE(contentsOf(outcome.path) == expected);
-        EXPECT_EQ(outcome.sectorsUnreadable, kZoneEnd - kZone);
-        EXPECT_LT(medium.reads, 9100 - kFirst - (kZoneEnd - kZone) + 60) << "few refusals";
-    }
-}
-
-TEST(ItemSaver, FilesFromAnEarlierRecoveryAreKnownByTheirBytes) {
-    const QByteArray wav = wavFile(kWavBytes);
-    const QByteArray other = wavFile(kWavBytes, 2);
-    ScriptedMedium medium = mediumWith(wav, 10, 1000);
-    std::memcpy(medium.bytes.at(300).data(), other.data(), static_cast<std::size_t>(other.size()));
-    medium.badForEver = {710};
-    ScriptedReader reader(medium);
-    const QTemporaryDir folder;
-    const auto saveAll = [&] {
-        const ItemSaver saver(folder.path());
-        int duplicates = 0;
-        for (const auto& [name, at] : {std::pair{"a.WAV", 10}, {"b.WAV", 300}}) {
-            const auto first = static_cast<std::uint64_t>(at);
-            const SaveOutcome outcome = saver.saveRuns("WAV", name, run(first, first + 2), reader);
-            EXPECT_TRUE(outcome.saved) << outcome.error.toStdString();
-            duplicates += outcome.duplicate ? 1 : 0;
-        }
-        const SaveOutcome partly = saver.saveRuns("T", "c", run(705, 715), reader);
-        EXPECT_TRUE(partly.saved);
-        return duplicates + (partly.duplicate ? 1 : 0);
-    };
-    EXPECT_EQ(saveAll(), 0);
-    const QStringList files{"T/c", "WAV/a.WAV", "WAV/b.WAV"};
-    EXPECT_EQ(filesUnder(folder.path()), files);
-    EXPECT_EQ(saveAll(), 3);
-    EXPECT_EQ(filesUnder(folder.path()), files) << "no second copies";
-    // Another file of that name and size is no reason to lose this one.
-    QFile changed(folder.filePath("WAV/b.WAV"));
-    ASSERT_TRUE(changed.open(QIODevice::ReadWrite) && changed.seek(kWavBytes - 1) && changed.putChar('!'));
-    changed.close();
-    EXPECT_EQ(saveAll(), 2);
-    EXPECT_EQ(filesUnder(folder.path()), QStringList({"T/c", "WAV/a.WAV", "WAV/b (2).WAV", "WAV/b.WAV"}));
 }
 
 }  // namespace vantor

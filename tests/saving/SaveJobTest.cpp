@@ -6,10 +6,12 @@
 #include <thread>
 
 #include "results/CardIndex.h"
+#include "results/MendedItems.h"
 #include "results/MyImageObject.h"
 #include "saving/SaveJob.h"
 #include "saving/SaveSummary.h"
 #include "saving/SavedMarks.h"
+#include "saving/Sha256.h"
 #include "tests/support/SmallFiles.h"
 
 namespace vantor {
@@ -134,6 +136,77 @@ TEST_F(SaveJobTest, WhatOnlyTheCardTellsOf_ComesAgainWhereItWasCancelledOrFailed
     ASSERT_FALSE(failing.report().toldFailed.empty());
     EXPECT_EQ(failing.report().toldFailed.front()->name, QStringLiteral("NOTES.TXT"));
     EXPECT_EQ(failing.report().tally.failed, 1U);
+}
+
+// A sound whose second half lies in front of its first.
+class MendedJob : public SaveJobTest {
+  protected:
+    MendedJob() {
+        medium = ScriptedMedium(200);
+        put(50, m_file.left(kHalf));
+        put(20, m_file.mid(kHalf));
+    }
+    void put(std::size_t sector, const QByteArray& bytes) {
+        for (qsizetype at = 0; at < bytes.size(); at += 512) {
+            medium.put(sector++, bytes.mid(at, 512).toStdString());
+        }
+    }
+    SaveReport saved(Mend mend) {
+        const auto mended = std::make_shared<MendedItems>();
+        mended->add(QStringLiteral("WAV"), 50, std::move(mend));
+        SaveRequest wish = request({{0, item("a.WAV", {50, 60})}});
+        wish.mended = mended;
+        wish.report = ReportHead{};
+        SaveJob job(std::move(wish));
+        job.run();
+        return job.report();
+    }
+    Mend inPieces(MendKind kind) const {
+        Mend mend;
+        mend.kind = kind;
+        mend.assembly = {{{50, 60}, {20, 28}}, 9000, AssemblyProof::Proved, false};
+        mend.twin.data = {0, 9000};
+        return mend;
+    }
+
+    static constexpr qsizetype kHalf = 5120;
+    const QByteArray m_file = wavFile(9000);
+};
+
+TEST_F(MendedJob, WhatIsProved_IsSavedInPlaceOfTheItem_AndItsRunsAreReported) {
+    const SaveReport report = saved(inPieces(MendKind::Completed));
+    EXPECT_EQ(contentsOf(folder.filePath("WAV/a.WAV")), m_file);
+    EXPECT_EQ(files("WAV"), QStringList{"a.WAV"});
+    ASSERT_EQ(report.items.size(), 1U);
+    EXPECT_EQ(report.items[0].outcome.verdict, Verdict::Complete);
+    EXPECT_TRUE(contentsOf(report.written.csv).contains(",2,50+10 20+8,"))
+        << contentsOf(report.written.csv).constData();
+    EXPECT_TRUE(contentsOf(report.written.html).contains("50 to 60, 20 to 28"));
+}
+
+TEST_F(MendedJob, WhatIsOnlyLikely_LiesBesideTheItem_WithARowOfItsOwn) {
+    const SaveReport report = saved(inPieces(MendKind::PutTogether));
+    EXPECT_EQ(files("WAV"), (QStringList{"a put together.WAV", "a.WAV"}));
+    EXPECT_EQ(contentsOf(folder.filePath("WAV/a put together.WAV")), m_file);
+    EXPECT_NE(contentsOf(folder.filePath("WAV/a.WAV")), m_file);
+    EXPECT_EQ(report.indexes, std::vector<std::size_t>{0});
+    ASSERT_EQ(report.items.size(), 2U);
+    EXPECT_EQ(report.items[1].name, QStringLiteral("a put together.WAV"));
+    EXPECT_NE(report.items[1].outcome.verdict, Verdict::Complete) << "not proved";
+    EXPECT_EQ(report.items[1].outcome.sha256, Sha256::of(m_file));
+    EXPECT_EQ(report.tally.saved, 2U);
+    EXPECT_EQ(report.tally.mended, 1U);
+    const QByteArray csv = contentsOf(report.written.csv);
+    EXPECT_TRUE(csv.contains(",2,50+10 20+8,put together")) << csv.constData();
+    EXPECT_TRUE(contentsOf(report.written.html).contains("Put together from 2 pieces: please look"));
+}
+
+TEST_F(MendedJob, ARepairedMovie_LiesBesideTheItem_HeadAndIndexAroundItsBytes) {
+    Mend mend;
+    mend.kind = MendKind::Repaired;
+    mend.twin = {QByteArray("HEAD"), {100, 4000}, QByteArray("INDEX")};
+    saved(std::move(mend));
+    EXPECT_EQ(contentsOf(folder.filePath("WAV/a repaired.WAV")), "HEAD" + m_file.mid(100, 3900) + "INDEX");
 }
 
 TEST_F(SaveJobTest, WithoutAReport_NoneIsWritten) {

@@ -9,7 +9,7 @@ namespace vantor {
 namespace {
 
 const QStringList kJpeg = recordsOf({{"JPG", "FFD8"}});
-const QStringList kPdf = recordsOf({{"PDF", "25504446"}});
+const QStringList kPdfAlone = recordsOf({{"PDF", "25504446"}});
 
 // A medium that is taken out at a sector and says so.
 class VanishingReader : public ScriptedReader {
@@ -59,7 +59,7 @@ TEST_F(SearchEndTest, ACompletedSearchTellsWhatItCouldNotRead) {
 TEST_F(SearchEndTest, WhatTheGeneralPassCouldNotReadIsKeptWhenTheThoroughOneReadsNothing) {
     medium.badForEver = {7};
     TestSession session(medium);
-    session.choose(kPdf);
+    session.choose(kPdfAlone);
     session.Raw_File_Rec_Thread();
     EXPECT_TRUE(session.searchEnd().thorough);
     EXPECT_EQ(session.searchEnd().unreadable, 1U);
@@ -117,7 +117,7 @@ TEST_F(SearchEndTest, ToGoOnBeginsWithTheItemThatWasOpen) {
 
     medium.reads = 0;
     TestSession raw(medium);
-    raw.choose(kPdf);
+    raw.choose(kPdfAlone);
     raw.stopBeforeRead(9);
     raw.Raw_File_Rec_Thread();
     EXPECT_EQ(raw.searchEnd().sector, 10U);
@@ -158,7 +158,7 @@ TEST_F(SearchEndTest, AReadErrorSaysWhereItBegan) {
     medium.badForEver = {3};
     badFrom(31);
     TestSession session(medium);
-    session.choose(kPdf);
+    session.choose(kPdfAlone);
     session.Raw_File_Rec_Thread();
     const SearchEnd& end = session.searchEnd();
     EXPECT_EQ(end.outcome, PassOutcome::ReadError);

@@ -4,51 +4,20 @@
 #include "results/MyImageObject.h"
 #include "results/RecoveryMode.h"
 #include "tests/support/Gate.h"
-#include "tests/support/SmallFiles.h"
-#include "tests/window/WindowTest.h"
+#include "tests/window/FilesToExamine.h"
 
 namespace vantor {
 namespace {
 
-class BrowserLooks : public WindowTest {
+class BrowserLooks : public FilesToExamine {
   protected:
-    // A card with a whole sound file, one that is cut off by the card's end, and what only begins like a
-    // picture.
-    void openResults() {
-        parts.openBeside = [this](const QString&) -> std::unique_ptr<SectorReader> {
-            ++openedBeside;
-            return std::make_unique<ScriptedReader>(cardBeside);
-        };
-        source->add(QStringLiteral("sdb1"), QStringLiteral("CANON_DC"), card.bytes.size());
-        writeCatalogue("ZelRaw.dll",
-                       record("WAV", "52494646", "Sound") + record("PNG", "89504E47", "Picture"));
-        const auto put = [this](const QByteArray& file, std::size_t sector) {
-            std::memcpy(
-                card.bytes.at(sector).data(), file.data(),
-                std::min(static_cast<std::size_t>(file.size()), (card.bytes.size() - sector) * kSectorBytes));
-        };
-        put(wavFile(5000), 4);
-        put(QByteArray("\x89PNG is no picture"), 20);
-        put(wavFile(50'000, 2), 40);
-        open();
-    }
     void scan() {
-        toFileTypes(kRawFileMode);
-        cardBeside = card;
-        scanToEnd();
+        FilesToExamine::scan();
         ASSERT_EQ(controller->itemCount(), 3u);
     }
     std::optional<Soundness> soundness(int index) { return controller->factsOfItem(index).soundness; }
     bool allKnown() {
         return waitFor([this] { return soundness(0) && soundness(1) && soundness(2); });
-    }
-    QStringList shown() const {
-        const QAbstractItemModel* model = controller->imageBrowser_2->model();
-        QStringList names;
-        for (int row = 0; row < model->rowCount(); ++row) {
-            names << model->index(row, 0).data().toString();
-        }
-        return names;
     }
     void show(ShowItems what) {
         controller->showBox_Sig->setCurrentIndex(controller->showBox_Sig->findData(static_cast<int>(what)));
@@ -56,11 +25,7 @@ class BrowserLooks : public WindowTest {
     void sort(SortItems how) {
         controller->sortBox_Sig->setCurrentIndex(controller->sortBox_Sig->findData(static_cast<int>(how)));
     }
-
-    ScriptedMedium cardBeside{64};  // what the reader beside the scan reads
-    std::atomic<int> openedBeside{0};
-    const QString whole = QStringLiteral("WAV00001.WAV"), junk = QStringLiteral("PNG00001.PNG"),
-                  torn = QStringLiteral("WAV00002.WAV");
+};
 };
 
 TEST_F(BrowserLooks, ItemsInViewAreExamined_ThroughAReaderOfTheirOwn) {
@@ -75,9 +40,9 @@ TEST_F(BrowserLooks, ItemsInViewAreExamined_ThroughAReaderOfTheirOwn) {
     EXPECT_EQ(openedBeside, 1);
     const QModelIndex first = controller->imageBrowser_2->model()->index(0, 0);
     EXPECT_EQ(first.data(Qt::ToolTipRole).toString(),
-              whole + QStringLiteral("\nends where it says, content not checked, 5.0 kB"));
+              wav + QStringLiteral("\nends where it says, content not checked, 5.0 kB"));
     EXPECT_EQ(first.data(Qt::AccessibleTextRole).toString(),
-              whole + QStringLiteral(", ends where it says, content not checked, 5.0 kB"));
+              wav + QStringLiteral(", ends where it says, content not checked, 5.0 kB"));
 }
 
 TEST_F(BrowserLooks, ABadgeIsDrawnOnceItIsKnown) {
@@ -112,7 +77,7 @@ TEST_F(BrowserLooks, FilterAndSort_KeepTheSelectionWithItsItem) {
     openResults();
     scan();
     ASSERT_TRUE(allKnown());
-    EXPECT_EQ(shown(), (QStringList{whole, junk, torn}));
+    EXPECT_EQ(shown(), (QStringList{wav, png, torn}));
     controller->imageBrowser_2->selectionModel()->select(controller->imageBrowser_2->model()->index(2, 0),
                                                          QItemSelectionModel::Select);
     sort(SortItems::Size);
@@ -120,15 +85,15 @@ TEST_F(BrowserLooks, FilterAndSort_KeepTheSelectionWithItsItem) {
     EXPECT_EQ(controller->imageBrowser_2->selectionIndexes(), QList<qsizetype>{2});
     EXPECT_EQ(controller->rawCountLabel->text(), QStringLiteral("1 of 3 selected"));
     show(ShowItems::Complete);
-    EXPECT_EQ(shown(), QStringList{whole});
+    EXPECT_EQ(shown(), QStringList{wav});
     EXPECT_TRUE(controller->imageBrowser_2->selectionIndexes().isEmpty());
     EXPECT_FALSE(controller->saveSelectedButton_Sig->isEnabled());
     EXPECT_EQ(controller->rawCountLabel->text(), QStringLiteral("1 of 3 items"));
     show(ShowItems::OfItsType);
-    EXPECT_EQ(shown(), (QStringList{torn, whole}));
+    EXPECT_EQ(shown(), (QStringList{torn, wav}));
     show(ShowItems::All);
     sort(SortItems::AsFound);
-    EXPECT_EQ(shown(), (QStringList{whole, junk, torn}));
+    EXPECT_EQ(shown(), (QStringList{wav, png, torn}));
 }
 
 TEST_F(BrowserLooks, SavingAFilteredSelection_SavesThoseItems) {
@@ -144,7 +109,7 @@ TEST_F(BrowserLooks, SavingAFilteredSelection_SavesThoseItems) {
     click(controller->saveSelectedButton_Sig);
     EXPECT_EQ(QDir(destination.filePath(QStringLiteral("WAV"))).entryList(QDir::Files), QStringList{torn});
     show(ShowItems::NotSaved);
-    EXPECT_EQ(shown(), (QStringList{whole, junk}));
+    EXPECT_EQ(shown(), (QStringList{wav, png}));
 }
 
 TEST_F(BrowserLooks, AnItemWithAFailedRead_SaysSoBeforeItIsExamined) {
@@ -157,7 +122,7 @@ TEST_F(BrowserLooks, AnItemWithAFailedRead_SaysSoBeforeItIsExamined) {
     EXPECT_TRUE(controller->factsOfItem(0).readFailed);
     EXPECT_FALSE(controller->factsOfItem(2).readFailed);
     show(ShowItems::Unreadable);
-    EXPECT_EQ(shown(), QStringList{whole});
+    EXPECT_EQ(shown(), QStringList{wav});
 }
 
 TEST_F(BrowserLooks, BackForgetsWhatWasKnown) {

@@ -10,9 +10,8 @@
 
 #include "media/WindowedReader.h"
 #include "results/RecoveryMode.h"
-#include "tests/support/Gate.h"
 #include "tests/support/ReadAheadMedium.h"
-#include "tests/window/WindowTest.h"
+#include "tests/window/GatedWindow.h"
 #include "window/keeping/CardStrip.h"
 
 namespace vantor {
@@ -63,7 +62,7 @@ class CountedCard : public BlockSource {
     bool m_gone = false;  // for good, as a node is whose card was put back
 };
 
-class CardCopy : public WindowTest {
+class CardCopy : public GatedWindow {
   protected:
     CardCopy() {
         const auto open = [this](const QString&) -> std::unique_ptr<SectorReader> {
@@ -79,16 +78,6 @@ class CardCopy : public WindowTest {
         parts.openSource = [this](const QString&, const StopRequest&) -> std::unique_ptr<BlockSource> {
             return asked.pulledOut ? nullptr : std::make_unique<CountedCard>(card, asked);
         };
-    }
-
-    void TearDown() override {
-        gate.open();
-        WindowTest::TearDown();
-    }
-
-    template <class Widget>
-    Widget* part(const char* name) const {
-        return controller->window->findChild<Widget*>(QString::fromLatin1(name));
     }
 
     void chooseCopy(QWidget* by) {
@@ -124,7 +113,6 @@ class CardCopy : public WindowTest {
     const QTemporaryDir copyFolder;
     const QString image = copyFolder.filePath(QStringLiteral("card.img"));
     Asked asked;
-    Gate gate;
 };
 
 TEST_F(CardCopy, IsNotKeptUnlessItIsWanted) {

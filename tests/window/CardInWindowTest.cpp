@@ -1,4 +1,5 @@
 // What the card itself tells, in the window: files that no signature finds, and that it was erased.
+#include <QLineEdit>
 #include <QTreeWidget>
 
 #include "results/RecoveryMode.h"
@@ -55,6 +56,15 @@ TEST_F(CardInWindow, FilesOnlyTheDirectoryTellsOf_HaveALineAndTheirPartInSaveAll
     EXPECT_EQ(row->child(0)->text(0), QStringLiteral("NOTES.TXT"));
     EXPECT_EQ(row->data(0, Qt::AccessibleTextRole).toString(),
               QStringLiteral("1 more file that only the card's directory tells of"));
+
+    // The item is found by the name it had, once the card has told it.
+    auto* search = controller->foundPane_Sig->findChild<QLineEdit*>();
+    const QAbstractItemModel* const shown = controller->imageBrowser_2->model();
+    search->setText(QStringLiteral("no such name"));
+    EXPECT_TRUE(waitFor([shown] { return shown->rowCount() == 0; }));
+    search->setText(QStringLiteral("voice"));
+    EXPECT_TRUE(waitFor([shown] { return shown->rowCount() == 1; }));
+    search->clear();
 
     const QTemporaryDir destination;
     controller->_path_Sig->setText(destination.path());

@@ -164,9 +164,9 @@ TEST_F(Exit, ItemsFoundWhileTheQuestionStands_AreAskedForAtTheAnswer) {
 }
 
 // Counts how often the window looks at what its threads have for it.
-class Looks : public QObject {
+class WatchesLooks : public QObject {
   public:
-    explicit Looks(QObject* window) : m_window(window) { qApp->installEventFilter(this); }
+    explicit WatchesLooks(QObject* window) : m_window(window) { qApp->installEventFilter(this); }
     int count = 0;
 
   protected:
@@ -195,7 +195,7 @@ TEST_P(EndPanel, WaitsUntilWhatStandsOverTheWindowIsClosed) {
         standing = over;
         gate.open();
         EXPECT_TRUE(waitFor([this] { return controller->for_index == controller->end_sector; }));
-        const Looks looks(controller.get());
+        const WatchesLooks looks(controller.get());
         EXPECT_TRUE(waitFor([&] { return looks.count > 5; }));
         EXPECT_EQ(QApplication::activeModalWidget(), over);
         EXPECT_TRUE(controller->scanRunning()) << "it waits to show its end";

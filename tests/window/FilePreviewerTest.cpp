@@ -25,9 +25,9 @@
 namespace vantor {
 namespace {
 
-constexpr QSize kLargest{200, 200};
+constexpr QSize kPreviewSize{200, 200};
 // Beyond which a test fails rather than waits: longer than anything takes on the busiest machine.
-constexpr std::chrono::minutes kPatience{1};
+constexpr std::chrono::minutes kHelperPatience{1};
 
 QString corpusFile(const char* name) {
     return test::corpusFolder() + u'/' + QLatin1String(name);
@@ -39,17 +39,17 @@ class FilePreviewer : public testing::Test {
         DecodePoolOptions options;
         options.helper = QStringLiteral(VANTOR_DECODE_HELPER);
         options.helpers = 1;
-        options.pictureDeadline = options.startDeadline = kPatience;
+        options.pictureDeadline = options.startDeadline = kHelperPatience;
         m_pool = std::make_shared<DecodePool>(options);
         QDir(m_folder.path()).mkdir(QStringLiteral("thumbnailers"));
     }
     QImage preview(const QString& file) {
         MovieReaderOptions movies;
         movies.helper = QStringLiteral(VANTOR_MOVIE_HELPER);
-        movies.startDeadline = movies.openDeadline = movies.frameDeadline = kPatience;
+        movies.startDeadline = movies.openDeadline = movies.frameDeadline = kHelperPatience;
         return makeFilePreviewer(m_pool,
                                  std::make_shared<const DesktopThumbnailers>(QStringList{thumbnailers()}),
-                                 movies)(file, kLargest);
+                                 movies)(file, kPreviewSize);
     }
     QString written(const QString& name, const QByteArray& bytes) {
         const QString path = m_folder.filePath(name);
@@ -174,7 +174,7 @@ TEST_F(FilePreviewer, WithoutAHelper_TheReasonIsTold) {
     DecodePoolOptions options;
     options.helper = QStringLiteral("/nonexistent/helper");
     const auto pool = std::make_shared<DecodePool>(options);
-    EXPECT_TRUE(pool->picture(png({40, 40}), kLargest).image.isNull());
+    EXPECT_TRUE(pool->picture(png({40, 40}), kPreviewSize).image.isNull());
     const auto desktop = std::make_shared<const DesktopThumbnailers>(QStringList{});
     EXPECT_TRUE(makePreviewObstacle(pool, desktop)({}).contains(QStringLiteral("does not start")));
 }
@@ -205,7 +205,7 @@ TEST_F(FilePreviewer, AProgramThatHangs_IsEndedWithAllItStarted) {
         }
     });
     // A deadline that a busy machine lets pass before the program has begun is no use.
-    for (std::chrono::milliseconds deadline{300}; !seen && deadline < kPatience; deadline *= 2) {
+    for (std::chrono::milliseconds deadline{300}; !seen && deadline < kHelperPatience; deadline *= 2) {
         EXPECT_TRUE(desktop.thumbnail(file, 200, deadline).isEmpty());
     }
     over = true;
@@ -213,7 +213,7 @@ TEST_F(FilePreviewer, AProgramThatHangs_IsEndedWithAllItStarted) {
     EXPECT_TRUE(seen) << "they ran";
     QElapsedTimer waiting;
     waiting.start();
-    while (processesCalled(word) > 0 && !waiting.hasExpired(std::chrono::milliseconds(kPatience).count())) {
+    while (processesCalled(word) > 0 && !waiting.hasExpired(std::chrono::milliseconds(kHelperPatience).count())) {
         std::this_thread::yield();
     }
     EXPECT_EQ(processesCalled(word), 0);
@@ -251,7 +251,7 @@ TEST_F(FilePreviewer, MoviesAndSound_ShowTheirPicture) {
         GTEST_SKIP() << "no corpus";
     }
     EXPECT_EQ(preview(corpusFile("videos/synth/vp9_opus.webm")).size(), QSize(200, 112));
-    EXPECT_EQ(preview(corpusFile("files/ape/file-type__fixture__fixture-monkeysaudio.ape")).size(), kLargest)
+    EXPECT_EQ(preview(corpusFile("files/ape/file-type__fixture__fixture-monkeysaudio.ape")).size(), kPreviewSize)
         << "the cover";
     EXPECT_TRUE(
         preview(corpusFile("files/aac/media__libraries__test_data__src__test__assets__media__aac__sine.aac"))

@@ -5,37 +5,19 @@
 
 #include "results/MyImageObject.h"
 #include "results/RecoveryMode.h"
-#include "tests/support/SmallFiles.h"
-#include "tests/window/WindowTest.h"
+#include "tests/window/FilesToExamine.h"
 #include "window/browser/FoundPane.h"
 #include "window/browser/ImageCell.h"
 
 namespace vantor {
 namespace {
 
-class FoundPaneTest : public WindowTest {
+class FoundPaneTest : public FilesToExamine {
   protected:
     void scan() {
-        parts.openBeside = [this](const QString&) -> std::unique_ptr<SectorReader> {
-            return std::make_unique<ScriptedReader>(cardBeside);
-        };
-        source->add(QStringLiteral("sdb1"), QStringLiteral("CANON_DC"), card.bytes.size());
-        writeCatalogue("ZelRaw.dll", record("WAV", "52494646", "Sound") +
-                                         record("PNG", "89504E47", "Picture") +
-                                         record("AIFF", "464F524D", "Sound"));
-        const auto put = [this](const QByteArray& file, std::size_t sector) {
-            std::memcpy(
-                card.bytes.at(sector).data(), file.data(),
-                std::min(static_cast<std::size_t>(file.size()), (card.bytes.size() - sector) * kSectorBytes));
-        };
-        put(wavFile(5000), 4);
-        put(QByteArray("\x89PNG is no picture"), 20);
         put(QByteArray("FORM that is no sound"), 30);
-        put(wavFile(50'000, 2), 40);
-        open();
-        toFileTypes(kRawFileMode);
-        cardBeside = card;
-        scanToEnd();
+        openResults(record("AIFF", "464F524D", "Sound"));
+        FilesToExamine::scan();
         ASSERT_EQ(controller->itemCount(), 4U);
         ASSERT_TRUE(waitFor([this] { return textOf(row({tr("All items")}), 1) == QLatin1String("4"); }));
     }
@@ -69,14 +51,6 @@ class FoundPaneTest : public WindowTest {
         settle();
         QTest::mouseClick(tree()->viewport(), Qt::LeftButton, keys, tree()->visualItemRect(row).center());
     }
-    QStringList shown() const {
-        const QAbstractItemModel* model = controller->imageBrowser_2->model();
-        QStringList names;
-        for (int each = 0; each < model->rowCount(); ++each) {
-            names << model->index(each, 0).data().toString();
-        }
-        return names;
-    }
     void clickTick(int row, Qt::KeyboardModifiers keys = Qt::NoModifier) {
         ImageBrowserView* const browser = controller->imageBrowser_2;
         browser->scrollTo(browser->model()->index(row, 0));
@@ -84,9 +58,10 @@ class FoundPaneTest : public WindowTest {
         QTest::mouseClick(browser->viewport(), Qt::LeftButton, keys, ImageCell::tickPlace(cell).center());
     }
 
-    ScriptedMedium cardBeside{64};
-    const QString wav = QStringLiteral("WAV00001.WAV"), png = QStringLiteral("PNG00001.PNG"),
-                  aiff = QStringLiteral("AIFF00001.AIFF"), torn = QStringLiteral("WAV00002.WAV");
+    const QString aiff = QStringLiteral("AIFF00001.AIFF");
+};
+const QString wav = QStringLiteral("WAV00001.WAV"), png = QStringLiteral("PNG00001.PNG"),
+              aiff = QStringLiteral("AIFF00001.AIFF"), torn = QStringLiteral("WAV00002.WAV");
 };
 
 TEST_F(FoundPaneTest, TheSumIsThatOfTheFiles_OnceAllAreExamined) {

@@ -7,26 +7,16 @@
 #include <atomic>
 
 #include "results/RecoveryMode.h"
-#include "tests/support/Gate.h"
-#include "tests/window/WindowTest.h"
+#include "tests/window/GatedWindow.h"
 #include "window/keeping/KeptSearchBar.h"
 
 namespace vantor {
 namespace {
 
-class Keeping : public WindowTest {
+class Keeping : public GatedWindow {
   protected:
     Keeping() { parts.stateFolder = state.filePath(QStringLiteral("vantor")); }
 
-    void TearDown() override {
-        gate.open();
-        WindowTest::TearDown();
-    }
-
-    template <class Widget>
-    Widget* part(const char* name) const {
-        return controller->window->findChild<Widget*>(QString::fromLatin1(name));
-    }
     QPushButton* button(const char* name) const { return part<QPushButton>(name); }
 
     QString words() const { return part<QLabel>("keptSearchLabel")->text(); }
@@ -76,7 +66,6 @@ class Keeping : public WindowTest {
     }
 
     const QTemporaryDir state;
-    Gate gate;
 };
 
 class KeepingByMode : public Keeping, public testing::WithParamInterface<int> {};

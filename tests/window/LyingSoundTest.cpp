@@ -12,7 +12,7 @@
 namespace vantor {
 namespace {
 
-constexpr std::chrono::minutes kPatience{1};
+constexpr std::chrono::minutes kAnswerPatience{1};
 constexpr int kLiars = 100;
 // More than the longest hole that is filled, and than what is decoded ahead.
 constexpr std::size_t kMostHeld = std::size_t{60} * kSoundFramesPerSecond * kSoundChannels;
@@ -26,7 +26,7 @@ TEST(LyingSound, IsPlayedWithinItsBuffers) {
     for (int seed = 0; seed < kLiars; ++seed) {
         MovieReaderOptions options;
         options.helper = folder.filePath(QStringLiteral("random-%1").arg(seed));
-        options.startDeadline = options.openDeadline = options.frameDeadline = kPatience;
+        options.startDeadline = options.openDeadline = options.frameDeadline = kAnswerPatience;
         ASSERT_TRUE(QFile::link(QStringLiteral(VANTOR_LYING_HELPER), options.helper));
         Heard heard;
         SoundPlayer player(file.fileName(), std::make_unique<HeardDevice>(heard), options);
@@ -34,7 +34,7 @@ TEST(LyingSound, IsPlayedWithinItsBuffers) {
         player.start(begun);
         std::int64_t last = begun;
         std::size_t heardOfThis = 0;
-        const auto until = std::chrono::steady_clock::now() + kPatience;
+        const auto until = std::chrono::steady_clock::now() + kAnswerPatience;
         while (!player.isFinished() && !player.hasFailed() && std::chrono::steady_clock::now() < until &&
                heardOfThis < kMostHeld) {
             heardOfThis += heard.listen(20).size();

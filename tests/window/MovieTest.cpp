@@ -4,6 +4,7 @@
 #include <QToolButton>
 #include <limits>
 
+#include "results/ItemWords.h"
 #include "results/RecoveryMode.h"
 #include "tests/window/ScriptedMovie.h"
 #include "tests/window/WindowTest.h"

@@ -3,19 +3,13 @@
 #include <QPushButton>
 
 #include "results/RecoveryMode.h"
-#include "tests/support/Gate.h"
-#include "tests/window/WindowTest.h"
+#include "tests/window/GatedWindow.h"
 
 namespace vantor {
 namespace {
 
-class Presses : public WindowTest, public ::testing::WithParamInterface<int> {
+class Presses : public GatedWindow, public ::testing::WithParamInterface<int> {
   protected:
-    void TearDown() override {
-        gate.open();
-        WindowTest::TearDown();
-    }
-
     // As a keyboard repeats a key that is not let go, after the first press.
     static void hold(QWidget* widget, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         constexpr int kRepeats = 20;
@@ -45,7 +39,6 @@ class Presses : public WindowTest, public ::testing::WithParamInterface<int> {
         return waitFor([this] { return gate.someoneWaits(); });
     }
 
-    Gate gate;
     int atStart = 0;
 };
 

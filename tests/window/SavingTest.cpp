@@ -2,66 +2,20 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTableView>
-#include <QThread>
 
 #include "results/MyImageObject.h"
 #include "results/RecoveryMode.h"
 #include "tests/support/Gate.h"
-#include "tests/window/WindowTest.h"
+#include "tests/window/SavingWindow.h"
 
 namespace vantor {
 namespace {
-
-class Saving : public WindowTest {
-  protected:
-    void openPhotoResults() {
-        openWithCard();
-        toRange(kPhotoMode);
-        scanToEnd();
-    }
-    void destinationIs(const QString& path) {
-        controller->_path->setText(path);
-        controller->_path_Sig->setText(path);
-    }
-    void saveAllAndAnswer(const QString& button = QStringLiteral("OK")) {
-        answers.press(button);
-        click(controller->saveAllButton);
-    }
-    void changeOptions(const std::function<void(QDialog*)>& change) {
-        answers.then([change](QDialog* panel) {
-            ASSERT_EQ(panel->objectName(), QStringLiteral("savingOptions"));
-            change(panel);
-            pressButton(panel, QStringLiteral("OK"));
-        });
-        click(controller->savingOptionsButton);
-    }
-    static void tick(QDialog* panel, const char* box) {
-        panel->findChild<QCheckBox*>(QLatin1String(box))->click();
-    }
-    static void chooseFolders(QDialog* panel, SaveFolders folders) {
-        auto* box = panel->findChild<QComboBox*>(QStringLiteral("foldersBox"));
-        box->setCurrentIndex(box->findData(static_cast<int>(folders)));
-    }
-    QStringList savedFiles() const {
-        QStringList files;
-        const QDir root(destination.path());
-        for (const QString& type : root.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-            for (const QString& name : QDir(root.filePath(type)).entryList(QDir::Files)) {
-                files << type + u'/' + name;
-            }
-        }
-        return files;
-    }
-
-    QTemporaryDir destination;
-};
 
 TEST_F(Saving, SaveAll_WritesEveryItemIntoAFolderOfItsType) {
     openPhotoResults();
@@ -95,49 +49,6 @@ TEST_F(Saving, SaveSelected_WritesTheSelectionOnly) {
     answers.press(QStringLiteral("Stay"));
     click(controller->backButton);
     EXPECT_EQ(answers.seen().back().text, QStringLiteral("\n2 of the 3 found items have not been saved."));
-}
-
-TEST_F(Saving, WithoutADestination_OneIsAskedFor) {
-    openPhotoResults();
-    answers.press(QStringLiteral("Continue"));
-    answers.then([this](QDialog* chooser) { chooseFolder(chooser, destination.path()); });
-    answers.press(QStringLiteral("OK"));
-    click(controller->saveAllButton);
-    EXPECT_EQ(savedFiles().size(), 3);
-    EXPECT_EQ(controller->_path->text(), destination.path());
-    EXPECT_EQ(controller->_path_Sig->text(), destination.path());
-    EXPECT_TRUE(controller->_open_folder->isEnabled());
-    click(controller->_open_folder);
-    EXPECT_EQ(documentsOpened, QStringList{destination.path()});
-}
-
-TEST_F(Saving, ADestinationOnTheScannedMedium_IsRefused) {
-    parts.isOnMedium = [](const QString&, const QString& device) {
-        return device == QStringLiteral("/dev/rsdb1");
-    };
-    openPhotoResults();
-    destinationIs(destination.path());
-    answers.press(QStringLiteral("OK"));
-    click(controller->saveAllButton);
-    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\nThis folder cannot be the destination."));
-    EXPECT_TRUE(
-        answers.seen().back().informative.contains(QStringLiteral("storage medium you are recovering from")));
-    EXPECT_TRUE(savedFiles().isEmpty());
-}
-
-// As when somebody mounts another folder of the card there meanwhile.
-TEST_F(Saving, ADestinationThatComesToLieOnTheMedium_IsNotWrittenInto) {
-    parts.isOnMedium = [](const QString&, const QString& device) {
-        return device == QStringLiteral("/dev/rsdb1") && QThread::currentThread() != qApp->thread();
-    };
-    openPhotoResults();
-    destinationIs(destination.path());
-    answers.press(QStringLiteral("OK"));
-    click(controller->saveAllButton);
-    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\nNothing was saved."));
-    EXPECT_TRUE(answers.seen().back().informative.contains(QStringLiteral("lies on the medium")))
-        << answers.seen().back().informative.toStdString();
-    EXPECT_TRUE(savedFiles().isEmpty());
 }
 
 TEST_F(Saving, TheReportSaysHowTheSearchEnded) {
@@ -263,45 +174,6 @@ TEST_F(Saving, ItemByItem_IsRemembered) {
     EXPECT_EQ(savedFiles().size(), 3);
 }
 
-TEST_F(Saving, WithoutRoom_TheUserIsAskedFirst) {
-    parts.freeBytes = [](const QString&) { return std::optional<std::uint64_t>(1000); };
-    openPhotoResults();
-    destinationIs(destination.path());
-    answers.press(QStringLiteral("Cancel"));
-    click(controller->saveAllButton);
-    EXPECT_EQ(answers.seen().back().text,
-              QStringLiteral("\nThere may not be enough room in the destination."));
-    EXPECT_EQ(answers.seen().back().defaultButton, QStringLiteral("Cancel"));
-    EXPECT_TRUE(answers.seen().back().informative.contains(QStringLiteral("1.0 kB are free")))
-        << answers.seen().back().informative.toStdString();
-    EXPECT_TRUE(savedFiles().isEmpty());
-    answers.press(QStringLiteral("Save What Fits"));
-    saveAllAndAnswer();
-    EXPECT_EQ(savedFiles().size(), 3);
-}
-
-TEST_F(Saving, TheRoomThatFilesNeed_IsToldAsFarAsItIsKnown) {
-    parts.freeBytes = [](const QString&) { return std::optional<std::uint64_t>(1); };
-    bool mayBeExamined = false;
-    parts.openBeside = [&](const QString&) -> std::unique_ptr<SectorReader> {
-        return mayBeExamined ? std::make_unique<ScriptedReader>(card) : nullptr;
-    };
-    openPhotoResults();
-    destinationIs(destination.path());
-    const auto told = [this] {
-        saveAllAndAnswer(QStringLiteral("Cancel"));
-        return answers.seen().back().informative;
-    };
-    EXPECT_TRUE(told().startsWith(QStringLiteral("As they were found, the files need some ")));
-    mayBeExamined = true;
-    source->changed();  // it was put back in
-    ASSERT_TRUE(waitFor([this] {
-        return controller->factsOfItem(0).soundness && controller->factsOfItem(1).soundness &&
-               controller->factsOfItem(2).soundness;
-    })) << "and is examined";
-    EXPECT_TRUE(told().startsWith(QStringLiteral("Some ")));
-}
-
 TEST_F(Saving, TheSheetSaysHowFarItIs_AndCancelEndsIt) {
     openPhotoResults();
     destinationIs(destination.path());
@@ -343,125 +215,6 @@ TEST_F(Saving, TheSheetSaysHowFarItIs_AndCancelEndsIt) {
     EXPECT_TRUE(answers.seen().back().informative.contains(QStringLiteral("because you cancelled")));
     EXPECT_EQ(savedFiles(), QStringList{QStringLiteral("JPG/GND00001.JPG")});
     EXPECT_TRUE(controller->hasUnsavedItems());
-}
-
-TEST_F(Saving, TheFolderOfAnEarlierSearch_IsNotTakenUnseen) {
-    QTemporaryDir other;
-    openWithCard();
-    toRange(kPhotoMode);
-    controller->_path->setText(destination.path());
-    click(controller->backButton);
-    toFileTypes(kRawFileMode);
-    scanToEnd();
-    ASSERT_EQ(controller->_path_Sig->text(), QString());
-    EXPECT_FALSE(controller->_open_folder_Sig->isEnabled());
-    answers.press(QStringLiteral("Continue"));
-    answers.then([&](QDialog* chooser) { chooseFolder(chooser, other.path()); });
-    answers.press(QStringLiteral("OK"));
-    click(controller->saveAllButton_Sig);
-    EXPECT_TRUE(savedFiles().isEmpty());
-    EXPECT_TRUE(QFileInfo::exists(other.filePath(QStringLiteral("PDF/PDF00001.PDF"))));
-}
-
-TEST_F(Saving, TheDestinationIsShownWithItsRoomAndCanBeChanged) {
-    QTemporaryDir other;
-    parts.freeBytes = [](const QString&) { return std::optional<std::uint64_t>(12'300'000'000); };
-    openPhotoResults();
-    EXPECT_EQ(controller->destinationLabel->text(),
-              QStringLiteral("No folder for saved files is chosen yet"));
-    for (const QString& wanted : {destination.path(), other.path()}) {
-        answers.then([&](QDialog* chooser) { chooseFolder(chooser, wanted); });
-        click(controller->changeFolderButton);
-        EXPECT_EQ(controller->_path->text(), wanted);
-        EXPECT_EQ(controller->_path_Sig->text(), wanted);
-        EXPECT_EQ(controller->destinationLabel->text(),
-                  QStringLiteral("Saved files go to %1 (12.3 GB free)").arg(wanted));
-        EXPECT_EQ(controller->destinationLabel_Sig->text(), controller->destinationLabel->text());
-        EXPECT_TRUE(controller->_open_folder->isEnabled());
-    }
-    answers.press(QStringLiteral("OK"));
-    click(controller->saveAllButton);
-    EXPECT_TRUE(savedFiles().isEmpty());
-    EXPECT_TRUE(QFileInfo::exists(other.filePath(QStringLiteral("JPG/GND00001.JPG"))));
-}
-
-TEST_F(Saving, AFolderThatTakesNoFiles_IsRefusedWhenItIsChosen) {
-    openPhotoResults();
-    answers.then([](QDialog* chooser) { chooseFolder(chooser, QStringLiteral("/proc/self")); });
-    answers.press(QStringLiteral("OK"));
-    click(controller->changeFolderButton);
-    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\nThis folder cannot be the destination."));
-    EXPECT_TRUE(answers.seen().back().informative.contains(QStringLiteral("Nothing can be written")));
-    EXPECT_EQ(controller->_path->text(), QString());
-}
-
-TEST_F(Saving, ADestinationThatHasVanished_IsNotMadeAnew) {
-    openPhotoResults();
-    const QString gone = destination.filePath(QStringLiteral("stick"));
-    destinationIs(gone);
-    answers.press(QStringLiteral("OK"));
-    click(controller->saveAllButton);
-    EXPECT_TRUE(answers.seen().back().informative.contains(QStringLiteral("is not there")));
-    EXPECT_FALSE(QFileInfo::exists(gone));
-    EXPECT_TRUE(controller->hasUnsavedItems());
-}
-
-TEST_F(Saving, AChosenDestinationThatHasVanished_IsToldAndShownAsGone) {
-    openPhotoResults();
-    const QString gone = destination.filePath(QStringLiteral("stick"));
-    ASSERT_TRUE(QDir().mkpath(gone));
-    answers.then([&](QDialog* chooser) { chooseFolder(chooser, gone); });
-    click(controller->changeFolderButton);
-    ASSERT_EQ(controller->_path->text(), gone);
-    const auto whySaveAllIsRefused = [this] {
-        saveAllAndAnswer();
-        EXPECT_EQ(answers.seen().back().text, QStringLiteral("\nThe destination is no longer there."));
-        EXPECT_TRUE(controller->destinationLabel->text().endsWith(QStringLiteral("which is not there")))
-            << controller->destinationLabel->text().toStdString();
-        return answers.seen().back().informative;
-    };
-    ASSERT_TRUE(QDir().rmdir(gone));
-    EXPECT_TRUE(whySaveAllIsRefused().contains(QStringLiteral("was deleted or renamed, or its disk")));
-    // Another file system where the chosen one was.
-    ASSERT_TRUE(QFile::link(QStringLiteral("/proc"), gone));
-    EXPECT_TRUE(whySaveAllIsRefused().contains(QStringLiteral("The disk that held")));
-    ASSERT_TRUE(QFile::remove(gone));
-    ASSERT_TRUE(QDir().mkpath(gone));
-    saveAllAndAnswer();
-    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\n3 files were saved.")) << "brought back";
-    EXPECT_FALSE(controller->destinationLabel->text().contains(QStringLiteral("not there")));
-}
-
-TEST_F(Saving, WhatFailed_CanBeSavedElsewhereAtOnce) {
-    QTemporaryDir other;
-    openPhotoResults();
-    QFile blocked(destination.filePath(QStringLiteral("JPG")));
-    ASSERT_TRUE(blocked.open(QIODevice::WriteOnly));
-    destinationIs(destination.path());
-    answers.press(QStringLiteral("Change Folder…"));
-    answers.then([&](QDialog* chooser) { chooseFolder(chooser, other.path()); });
-    answers.press(QStringLiteral("OK"));
-    click(controller->saveAllButton);
-    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\n2 files were saved."));
-    EXPECT_TRUE(QFileInfo::exists(other.filePath(QStringLiteral("JPG/GND00002.JPG"))));
-    EXPECT_FALSE(QFileInfo::exists(other.filePath(QStringLiteral("GIF")))) << "saved before";
-    EXPECT_FALSE(controller->hasUnsavedItems());
-}
-
-TEST_F(Saving, WithoutRoom_AnotherFolderCanBeChosen) {
-    QTemporaryDir other;
-    parts.freeBytes = [&](const QString& path) {
-        return std::optional<std::uint64_t>(path == other.path() ? 1'000'000'000 : 1000);
-    };
-    openPhotoResults();
-    destinationIs(destination.path());
-    answers.press(QStringLiteral("Change Folder…"));
-    answers.then([&](QDialog* chooser) { chooseFolder(chooser, other.path()); });
-    answers.press(QStringLiteral("OK"));
-    click(controller->saveAllButton);
-    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\n3 files were saved."));
-    EXPECT_TRUE(savedFiles().isEmpty());
-    EXPECT_TRUE(QFileInfo::exists(other.filePath(QStringLiteral("GIF/THD00001.GIF"))));
 }
 
 TEST_F(Saving, SaveAll_SavesWhatTheFilterShowsAndSaysSo) {

@@ -1,7 +1,6 @@
 // The scan screens while a scan runs, is stopped, fails and ends.
 #include "results/RecoveryMode.h"
-#include "tests/support/Gate.h"
-#include "tests/window/WindowTest.h"
+#include "tests/window/GatedWindow.h"
 #include "window/ScanTimer.h"
 
 namespace vantor {
@@ -13,17 +12,11 @@ const QString kStopHelp = QStringLiteral(
     "\nTo stop recovery, click on ‘Stop’ Button or please wait for the process to be completed.");
 const QString kReadError = QStringLiteral("\nError in storage media reading.");
 
-class ScanScreen : public WindowTest {
+class ScanScreen : public GatedWindow {
   protected:
-    void TearDown() override {
-        gate.open();
-        WindowTest::TearDown();
-    }
-
     bool held() {
         return waitFor([this] { return gate.someoneWaits() && controller->_Mode_label->text() == kGeneral; });
     }
-    Gate gate;
 };
 
 TEST_F(ScanScreen, WhileAScanRuns_TheScreenSaysSoAndTheWizardStands) {

@@ -2,8 +2,7 @@
 #include <QLabel>
 
 #include "results/RecoveryMode.h"
-#include "tests/support/Gate.h"
-#include "tests/window/WindowTest.h"
+#include "tests/window/GatedWindow.h"
 #include "window/widgets/Theme.h"
 
 namespace vantor {
@@ -13,13 +12,8 @@ QString emptyWordsOf(const QWidget* list) {
     return list->accessibleDescription();
 }
 
-class SearchEndBar : public WindowTest {
+class SearchEndBar : public GatedWindow {
   protected:
-    void TearDown() override {
-        gate.open();
-        WindowTest::TearDown();
-    }
-
     // Which picture a panel or the bar shows.
     static bool isTick(const QLabel* icon) {
         const QSize size = icon->pixmap().size();
@@ -48,7 +42,6 @@ class SearchEndBar : public WindowTest {
         }
     }
 
-    Gate gate;
     QString heading, text;
     bool tick = false;
 };

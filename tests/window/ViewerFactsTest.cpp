@@ -30,7 +30,8 @@ TEST(ViewerFacts, OfAnItemThatNobodyLookedAt_ThePlaceIsTold) {
     EXPECT_EQ(valueOf(facts, "On the card"), QStringLiteral("sectors 5,000 to 5,009"));
     EXPECT_EQ(valueOf(facts, "State"), QStringLiteral("not examined yet"));
     EXPECT_EQ(valueOf(facts, "Saved"), QStringLiteral("not yet"));
-    for (const char* const unknown : {"Name on the card", "Date", "Size", "Pixels", "Length", "Pieces"}) {
+    for (const char* const unknown :
+         {"Name on the card", "Date", "Size", "Pixels", "Camera", "Length", "Pieces"}) {
         EXPECT_EQ(valueOf(facts, unknown), QStringLiteral("-")) << unknown;
     }
 }
@@ -45,6 +46,7 @@ TEST(ViewerFacts, WhatIsKnown_IsTold) {
     sound.height = 3000;
     sound.taken = CivilTime{2026, 5, 7, 9, 4, 0};
     sound.pieces = 3;
+    sound.camera = QStringLiteral("Canon EOS 80D");
     found.known.soundness = sound;
     const auto card = std::make_shared<CardFile>();
     card->folder = QStringLiteral("DCIM/100CANON");
@@ -58,6 +60,7 @@ TEST(ViewerFacts, WhatIsKnown_IsTold) {
     EXPECT_EQ(valueOf(facts, "Date"), QStringLiteral("2026-05-07 09:04"));
     EXPECT_EQ(valueOf(facts, "Size"), QStringLiteral("5.3 kB")) << "as it was looked at";
     EXPECT_EQ(valueOf(facts, "Pixels"), QStringLiteral("4,000 × 3,000"));
+    EXPECT_EQ(valueOf(facts, "Camera"), QStringLiteral("Canon EOS 80D"));
     EXPECT_EQ(valueOf(facts, "Length"), QStringLiteral("1:05"));
     EXPECT_EQ(valueOf(facts, "On the card"), QStringLiteral("from sector 5,000, in pieces"));
     EXPECT_EQ(valueOf(facts, "Pieces"), QStringLiteral("3"));

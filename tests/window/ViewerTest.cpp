@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QSlider>
+#include <QToolButton>
 #include <mutex>
 
 #include "results/RecoveryMode.h"
@@ -320,6 +321,27 @@ TEST_F(Viewer, TheLastOfManySteps_IsWhatCounts) {
         return shown.size() == 10 * 512;
     }));
     EXPECT_EQ(fact(QStringLiteral("On the card")), QStringLiteral("sectors 20 to 29"));
+}
+
+TEST_F(Viewer, InsertAndDelete_TickForSaving) {
+    openThree();
+    doubleClick(1);
+    ASSERT_TRUE(isOpen());
+    auto* const tick = viewer().findChild<QToolButton*>(QStringLiteral("viewerTick"));
+    ASSERT_NE(tick, nullptr);
+    EXPECT_FALSE(tick->isChecked());
+    press(Qt::Key_Insert);
+    EXPECT_TRUE(controller->ticks().isTicked(1));
+    EXPECT_TRUE(tick->isChecked());
+    EXPECT_EQ(tick->text(), QStringLiteral("Ticked"));
+    press(Qt::Key_Right);
+    EXPECT_FALSE(tick->isChecked()) << "the next one is not";
+    click(tick);
+    EXPECT_TRUE(controller->ticks().isTicked(2));
+    press(Qt::Key_Delete);
+    EXPECT_FALSE(controller->ticks().isTicked(2));
+    EXPECT_TRUE(controller->ticks().isTicked(1));
+    EXPECT_FALSE(tick->isChecked());
 }
 
 }  // namespace

@@ -5,9 +5,11 @@
 #include <QComboBox>
 #include <QSignalBlocker>
 
+#include "results/Mend.h"
 #include "results/MyImageObject.h"
 #include "results/RecoveryMode.h"
 #include "results/ResultRow.h"
+#include "window/browser/DetailsHeader.h"
 #include "window/browser/FoundPane.h"
 #include "window/browser/ImageBrowserView.h"
 
@@ -22,13 +24,23 @@ constexpr int kListMargins = 24;
 constexpr qint64 kFacetMilliseconds = 25;
 constexpr int kSoonMilliseconds = 5;
 
+std::uint64_t firstSectorOf(const MyImageObject& item) {
+    const auto& runs = item.carved().runs;
+    return runs.empty() ? item.File_Start_Sector() : runs.front().first;
+}
+
 }  // namespace
 
 BrowserLooks::BrowserLooks(const std::array<BrowserScreen, 2>& screens, LookedAtItems items)
     : m_screens(screens),
       m_items(std::move(items)),
-      m_board(m_items.at,
-              [card = m_items.card](const MyImageObject&) { return ItemHints{card ? card() : nullptr}; }) {
+      m_board(m_items.at, [card = m_items.card, mendOf = m_items.mendOf](const MyImageObject& item) {
+          ItemHints hints;
+          hints.card = card ? card() : nullptr;
+          const auto mend = mendOf ? mendOf(item) : nullptr;
+          hints.mend = mend && mend->kind == MendKind::Completed ? mend : nullptr;
+          return hints;
+      }) {
     fillBoxes();
     m_look.setInterval(kLookMilliseconds);
     connect(&m_look, &QTimer::timeout, this, &BrowserLooks::look);
@@ -42,7 +54,8 @@ void BrowserLooks::fillBoxes() {
     const std::pair<QString, ShowItems> shows[] = {
         {tr("All items"), ShowItems::All},
         {tr("Complete"), ShowItems::Complete},
-        {tr("Cut off or damaged"), ShowItems::Broken},
+        {tr("Broken"), ShowItems::Broken},
+        {tr("Put together or repaired"), ShowItems::Mended},
         {tr("Of unknown length"), ShowItems::UnknownLength},
         {tr("With unreadable sectors"), ShowItems::Unreadable},
         {tr("Not saved yet"), ShowItems::NotSaved},
@@ -56,6 +69,11 @@ void BrowserLooks::fillBoxes() {
         {tr("By size"), SortItems::Size},
         {tr("By date taken"), SortItems::DateTaken},
         {tr("By name on the card"), SortItems::OriginalName},
+        {tr("By name"), SortItems::Name},
+        {tr("By type"), SortItems::Type},
+        {tr("By camera"), SortItems::Camera},
+        {tr("By pixels"), SortItems::Pixels},
+        {tr("By place on the card"), SortItems::Place},
     };
     for (const BrowserScreen& screen : m_screens) {
         for (const auto& [text, value] : shows) {
@@ -71,6 +89,7 @@ void BrowserLooks::fillBoxes() {
             connect(box, &QComboBox::currentIndexChanged, this, &BrowserLooks::choose);
         }
         connect(screen.pane, &FoundPane::chosen, this, &BrowserLooks::pick);
+        connect(screen.browser->detailsHeader(), &DetailsHeader::sortWanted, this, &BrowserLooks::sortBy);
     }
 }
 
@@ -84,8 +103,10 @@ void BrowserLooks::begin(SoundnessBoard::Open open) {
         }
         screen.pane->begin();
         screen.browser->setOrder(std::nullopt);
+        screen.browser->detailsHeader()->showSorted(SortItems::AsFound, false);
     }
     m_facets.clear();
+    m_named.clear();
     m_nextFacet = 0;
     m_board.begin(std::move(open));
     m_look.start();
@@ -107,6 +128,7 @@ ItemFacts BrowserLooks::factsOf(std::size_t index) const {
     facts.ticked = m_items.isTicked(index);
     if (item) {
         addCard(facts, *item);
+        facts.mend = m_items.mendOf ? m_items.mendOf(*item) : nullptr;
     }
     return facts;
 }
@@ -134,6 +156,7 @@ void BrowserLooks::takeCard() {
         return;
     }
     m_card = card;
+    m_named.clear();
     m_nextFacet = 0;
     m_board.beginAgain();
     for (const BrowserScreen& each : m_screens) {
@@ -154,6 +177,8 @@ ItemTraits BrowserLooks::traitsOf(std::size_t index) const {
     traits.type = pathExtension(item->imageTitle());
     traits.day = dayOf(soundness, facts.original.get());
     traits.camera = soundness != nullptr ? soundness->camera : QString();
+    traits.pixels =
+        soundness != nullptr ? pixelClassOf(soundness->width, soundness->height) : PixelClass::NotKnown;
     traits.complete =
         soundness != nullptr && soundness->verdict == Verdict::Complete && !soundness->notOfItsType;
     traits.bytes = soundness != nullptr ? soundness->bytes : item->carved().sectors() * kSectorBytes;
@@ -170,6 +195,9 @@ bool BrowserLooks::takeFacets() {
         if (index < m_nextFacet) {
             m_facets.set(index, traitsOf(index));
         }
+        if (index < m_named.size()) {
+            m_named[index] = isNamedAsWished(index);
+        }
     }
     while (m_nextFacet < count && since.elapsed() < kFacetMilliseconds) {
         m_facets.set(m_nextFacet, traitsOf(m_nextFacet));
@@ -178,15 +206,39 @@ bool BrowserLooks::takeFacets() {
     return m_nextFacet >= count;
 }
 
+bool BrowserLooks::isNamedAsWished(std::size_t index) const {
+    const auto item = m_items.at(index);
+    if (!item || item->imageTitle().contains(m_wish.name, Qt::CaseInsensitive)) {
+        return item != nullptr;
+    }
+    ItemFacts facts;
+    facts.soundness = m_board.find(index);
+    addCard(facts, *item);
+    return facts.original && originalPath(*facts.original).contains(m_wish.name, Qt::CaseInsensitive);
+}
+
+// Looks at the names of a part of the items, so that nobody waits for all of them; false while some are left.
+bool BrowserLooks::takeNames() {
+    const std::size_t count = m_wish.name.isEmpty() ? 0 : m_items.count();
+    QElapsedTimer since;
+    since.start();
+    while (m_named.size() < count && since.elapsed() < kFacetMilliseconds) {
+        m_named.push_back(isNamedAsWished(m_named.size()));
+    }
+    return m_named.size() >= count;
+}
+
 // A few times a second while found items are in view.
 void BrowserLooks::look() {
     ImageBrowserView* browser = screen().browser;
     takeCard();
     m_board.setMediumBusy(m_items.mediumBusy());
     m_board.want(browser->indexesInView());
+    emit looked();
     m_board.wantAll(m_wish.needsSoundness() || screen().pane->wantsDetails() ? m_items.count() : 0);
     const bool allTaken = takeFacets();
-    m_look.setInterval(allTaken ? kLookMilliseconds : kSoonMilliseconds);
+    const bool allNamed = takeNames();
+    m_look.setInterval(allTaken && allNamed ? kLookMilliseconds : kSoonMilliseconds);
     if (m_facets.changes() != m_shownFacets && allTaken) {
         m_shownFacets = m_facets.changes();
         screen().pane->showFacets(m_facets, m_items.count());
@@ -194,11 +246,14 @@ void BrowserLooks::look() {
     }
     const std::uint64_t changes = m_board.changes();
     const bool pickedAnew = !m_wish.facets.isEmpty() && m_facets.changes() != m_pickedFacets;
-    if (changes == m_seenChanges && static_cast<int>(m_items.count()) == m_orderedCount && !pickedAnew) {
+    const bool namedAnew = m_named.size() != m_orderedNames;
+    if (changes == m_seenChanges && static_cast<int>(m_items.count()) == m_orderedCount && !pickedAnew &&
+        !namedAnew) {
         return;
     }
     browser->viewport()->update();
-    if (m_wish.isPlain() || !m_sinceOrder.isValid() || m_sinceOrder.elapsed() > kReorderMilliseconds) {
+    if (m_wish.isPlain() || !m_sinceOrder.isValid() || m_sinceOrder.elapsed() > kReorderMilliseconds ||
+        (namedAnew && allNamed)) {
         m_seenChanges = changes;
         putInOrder();
     }
@@ -207,12 +262,26 @@ void BrowserLooks::look() {
 // The user chose what to show.
 void BrowserLooks::choose() {
     m_wish.show = static_cast<ShowItems>(screen().show->currentData().toInt());
-    m_wish.sort = static_cast<SortItems>(screen().sort->currentData().toInt());
+    const auto sort = static_cast<SortItems>(screen().sort->currentData().toInt());
+    m_wish.reversed = m_wish.reversed && sort == m_wish.sort;
+    m_wish.sort = sort;
     const SavePolicy policy = m_items.policy();
     m_wish.smallPixels = policy.minPixels != 0 ? policy.minPixels : kSmallPixels;
     m_wish.smallBytes = policy.minBytes != 0 ? policy.minBytes : kSmallBytes;
     putInOrder();
     look();
+}
+
+// A click on a column: by it, and with the next click the other way round.
+void BrowserLooks::sortBy(SortItems sort) {
+    QComboBox* const box = screen().sort;
+    m_wish.reversed = sort == m_wish.sort && !m_wish.reversed;
+    m_wish.sort = sort;
+    {
+        const QSignalBlocker quiet(box);
+        box->setCurrentIndex(box->findData(static_cast<int>(sort)));
+    }
+    choose();
 }
 
 void BrowserLooks::showTold(const std::vector<std::shared_ptr<const CardFile>>& files) {
@@ -222,7 +291,11 @@ void BrowserLooks::showTold(const std::vector<std::shared_ptr<const CardFile>>& 
 // The user picked something of what was found, or typed a name.
 void BrowserLooks::pick() {
     m_wish.facets = screen().pane->choice();
-    m_wish.name = screen().pane->name();
+    if (m_wish.name != screen().pane->name()) {
+        m_wish.name = screen().pane->name();
+        m_named.clear();
+        takeNames();
+    }
     putInOrder();
     look();
 }
@@ -235,14 +308,29 @@ void BrowserLooks::showType(const QString& type) {
     }
 }
 
+void BrowserLooks::showOnly(ShowItems items) {
+    QComboBox* const box = screen().show;
+    box->setCurrentIndex(box->findData(static_cast<int>(items)));
+}
+
+void BrowserLooks::mendsChanged() {
+    putInOrder();
+    screen().browser->viewport()->update();
+}
+
 void BrowserLooks::putInOrder() {
     ImageBrowserView* browser = screen().browser;
     m_orderedCount = static_cast<int>(m_items.count());
+    m_orderedNames = m_named.size();
     m_sinceOrder.start();
+    browser->detailsHeader()->showSorted(m_wish.sort, m_wish.reversed);
     if (m_wish.isPlain()) {
         browser->setOrder(std::nullopt);
     } else {
-        const bool asksBoard = m_wish.needsSoundness() || !m_wish.name.isEmpty();
+        const bool asksBoard = m_wish.needsSoundness();
+        const bool byName = !m_wish.name.isEmpty();
+        const bool asksItem = !m_wish.type.isEmpty() || m_wish.sort == SortItems::Name ||
+                              m_wish.sort == SortItems::Type || m_wish.sort == SortItems::Place;
         const FoundFacets::Filter picked(m_facets, m_wish.facets);
         m_pickedFacets = m_facets.changes();
         browser->reloadData();
@@ -262,23 +350,25 @@ void BrowserLooks::putInOrder() {
                 if (m_wish.show == ShowItems::Unreadable) {
                     const auto item = m_items.at(at);
                     facts.readFailed = item && item->carved().readFailed;
+                } else if (m_wish.show == ShowItems::Mended) {
+                    const auto item = m_items.at(at);
+                    facts.mend = item && m_items.mendOf ? m_items.mendOf(*item) : nullptr;
                 } else if (m_wish.show == ShowItems::NotSaved) {
                     facts.saved = m_items.isSaved(at);
                 }
-                if (!m_wish.type.isEmpty()) {
-                    const auto item = m_items.at(at);
-                    facts.type = item ? pathExtension(item->imageTitle()) : QString();
-                }
-                if (!m_wish.name.isEmpty()) {
+                if (asksItem) {
                     if (const auto item = m_items.at(at)) {
-                        addCard(facts, *item);
-                        facts.names = item->imageTitle();
-                        facts.names += facts.original ? u'\n' + originalPath(*facts.original) : QString();
+                        facts.type = pathExtension(item->imageTitle());
+                        facts.name = item->imageTitle();
+                        facts.place = firstSectorOf(*item);
                     }
                 }
                 return facts;
             },
-            [&picked](int index) { return picked.admits(static_cast<std::size_t>(index)); }));
+            [&](int index) {
+                const auto at = static_cast<std::size_t>(index);
+                return picked.admits(at) && (!byName || (at < m_named.size() && m_named[at]));
+            }));
     }
     emit changed();
 }

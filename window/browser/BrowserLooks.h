@@ -39,6 +39,8 @@ struct LookedAtItems {
     std::function<SavePolicy()> policy;  // says what counts as small
     // What the card's directories tell, null as long as nothing is known; any thread.
     std::function<std::shared_ptr<const CardIndex>()> card;
+    // What was made of a broken item, null: nothing; any thread.
+    std::function<std::shared_ptr<const Mend>(const MyImageObject&)> mendOf;
 };
 
 // Lives on the interface thread. The screens are that of photo mode and that of the other modes, of which the
@@ -62,10 +64,16 @@ class BrowserLooks : public QObject {
     void rest(bool resting) { m_board.rest(resting); }
     // The medium may be there again.
     void tryAgain() { m_board.tryAgain(); }
-    // What saving found out.
+    // What is known of the item so far; any thread.
+    std::optional<Soundness> find(std::size_t index) const { return m_board.find(index); }
+    // What saving or mending found out; any thread.
     void note(std::size_t index, const Soundness& soundness) { m_board.note(index, soundness); }
     // Leaves out all other types; an empty text shows every type again.
     void showType(const QString& type);
+    // Only these, as if the user had chosen so.
+    void showOnly(ShowItems items);
+    // Something was made of broken items.
+    void mendsChanged();
     QString shownType() const { return m_wish.type; }
     // Files that only the card's directory tells of, of the list of the moment.
     void showTold(const std::vector<std::shared_ptr<const CardFile>>& files);
@@ -85,6 +93,8 @@ class BrowserLooks : public QObject {
   signals:
     // Other items are shown, or others are selected.
     void changed();
+    // A few times a second while found items may be in view.
+    void looked();
 
   private:
     const BrowserScreen& screen() const;
@@ -92,9 +102,12 @@ class BrowserLooks : public QObject {
     void look();
     void choose();
     void pick();
+    void sortBy(SortItems sort);
     void putInOrder();
     void takeCard();
     bool takeFacets();
+    bool takeNames();
+    bool isNamedAsWished(std::size_t index) const;
     ItemTraits traitsOf(std::size_t index) const;
     void addCard(ItemFacts& facts, const MyImageObject& item) const;
 
@@ -107,6 +120,8 @@ class BrowserLooks : public QObject {
     std::size_t m_nextFacet = 0;       // up to which all are as well known as they can be
     std::uint64_t m_shownFacets = 0;   // changes that the pane shows
     std::uint64_t m_pickedFacets = 0;  // changes that the order knows of
+    std::vector<bool> m_named;       // of the items looked at so far: whether they have the name searched for
+    std::size_t m_orderedNames = 0;  // as many of them the order knows of
     QTimer m_look;
     QElapsedTimer m_sinceOrder;
     std::uint64_t m_seenChanges = 0;

@@ -105,7 +105,8 @@ bool FoundPane::isSearching() const {
 
 bool FoundPane::wantsDetails() const {
     return m_days->isExpanded() || m_cameras->isExpanded() || m_sizes->isExpanded() ||
-           !m_choice.days.empty() || !m_choice.cameras.empty() || !m_choice.sizes.empty();
+           m_pixels->isExpanded() || !m_choice.days.empty() || !m_choice.cameras.empty() ||
+           !m_choice.sizes.empty() || !m_choice.pixels.empty();
 }
 
 QTreeWidgetItem* FoundPane::heading(Facet facet, const QString& text) {
@@ -139,6 +140,8 @@ void FoundPane::begin() {
     for (QTreeWidgetItem* row : {m_days, m_cameras, m_sizes}) {
         row->setHidden(true);
     }
+    m_pixels = heading(Facet::Pixels, tr("By pixels"));
+    m_pixels->setHidden(true);
     m_told = nullptr;
     showCount(m_all, 0);
     m_all->setSelected(true);
@@ -151,10 +154,10 @@ void FoundPane::put(QTreeWidgetItem* parent, Facet facet, const QVariant& key, c
     m_seen[name] = true;
     QTreeWidgetItem*& row = m_rows[name];
     if (row == nullptr) {
-        const QString order = facet == Facet::Day    ? orderOfDay(key.toInt())
-                              : facet == Facet::Size ? key.toString()
-                              : text.isEmpty()       ? QString(kLast)
-                                                     : text.toCaseFolded();
+        const QString order = facet == Facet::Day                                  ? orderOfDay(key.toInt())
+                              : facet == Facet::Size || facet == Facet::PixelRange ? key.toString()
+                              : text.isEmpty()                                     ? QString(kLast)
+                                                                                   : text.toCaseFolded();
         row = new QTreeWidgetItem({text, QString()});
         row->setData(0, kFacetRole, static_cast<int>(facet));
         row->setData(0, kKeyRole, key);
@@ -216,6 +219,12 @@ void FoundPane::showFacets(const FoundFacets& facets, std::size_t all) {
             put(m_sizes, Facet::Size, size, wordsForSize(static_cast<SizeClass>(size)), count);
         }
     }
+    for (int pixels = 0; pixels < kPixelClasses; ++pixels) {
+        if (const std::size_t count = facets.pixels()[static_cast<std::size_t>(pixels)]; count > 0) {
+            put(m_pixels, Facet::PixelRange, pixels, wordsForPixels(static_cast<PixelClass>(pixels)), count);
+        }
+    }
+    m_pixels->setHidden(facets.pixels().front() == facets.size());  // of none they are known
     m_days->setHidden(facets.size() == 0);
     m_sizes->setHidden(facets.size() == 0);
     m_cameras->setHidden(cameras.empty() || cameras.rbegin()->first.isEmpty());  // none is known
@@ -290,6 +299,9 @@ void FoundPane::takeChoice() {
                 break;
             case Facet::Size:
                 choice.sizes.insert(static_cast<SizeClass>(key.toInt()));
+                break;
+            case Facet::PixelRange:
+                choice.pixels.insert(static_cast<PixelClass>(key.toInt()));
                 break;
             default:
                 break;

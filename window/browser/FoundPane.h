@@ -39,7 +39,7 @@ class FoundPane : public QWidget {
     void chosen();
 
   private:
-    enum class Facet { All, Group, Type, Days, Day, Cameras, Camera, Sizes, Size, Told };
+    enum class Facet { All, Group, Type, Days, Day, Cameras, Camera, Sizes, Size, Pixels, PixelRange, Told };
     QTreeWidgetItem* heading(Facet facet, const QString& text);
     void put(QTreeWidgetItem* parent, Facet facet, const QVariant& key, const QString& text,
              std::size_t count);
@@ -48,7 +48,7 @@ class FoundPane : public QWidget {
 
     QLineEdit* m_search;
     QTreeWidget* m_tree;
-    QTreeWidgetItem *m_all, *m_days, *m_cameras, *m_sizes, *m_told;
+    QTreeWidgetItem *m_all, *m_days, *m_cameras, *m_sizes, *m_pixels, *m_told;
     FacetChoice m_choice;
     QHash<QString, QTreeWidgetItem*> m_rows;  // by facet and key
     QHash<QString, bool> m_seen;

@@ -12,6 +12,7 @@ namespace vantor {
 
 namespace {
 
+constexpr int kStepAcross = 20;  // pixels
 constexpr qint64 kMostPixels = std::numeric_limits<int>::max() / 2;
 
 int bounded(qint64 pixels) {
@@ -28,8 +29,19 @@ GridView::GridView(QWidget* parent) : QListView(parent) {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
+void GridView::setOneColumn(bool one) {
+    m_oneColumn = one;
+    setHorizontalScrollBarPolicy(one ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+    setHorizontalScrollMode(ScrollPerPixel);
+    scheduleDelayedItemsLayout();
+}
+
 int GridView::columns() const {
-    return std::max(1, viewport()->width() / std::max(1, gridSize().width()));
+    return m_oneColumn ? 1 : std::max(1, viewport()->width() / std::max(1, gridSize().width()));
+}
+
+int GridView::horizontalOffset() const {
+    return horizontalScrollBar()->value();
 }
 
 int GridView::verticalOffset() const {
@@ -42,7 +54,7 @@ QRect GridView::visualRect(const QModelIndex& index) const {
     }
     const QSize cell = gridSize();
     const int line = index.row() / columns();
-    const int x = index.row() % columns() * cell.width();
+    const int x = index.row() % columns() * cell.width() - horizontalOffset();
     const QPoint corner(isRightToLeft() ? viewport()->width() - x - cell.width() : x,
                         bounded(qint64{line} * cell.height() - verticalOffset()));
     return {corner, cell};
@@ -52,7 +64,7 @@ QRect GridView::visualRect(const QModelIndex& index) const {
 int GridView::rowAt(const QPoint& point) const {
     const QSize cell = gridSize();
     const qint64 y = qint64{point.y()} + verticalOffset();
-    const int x = isRightToLeft() ? viewport()->width() - 1 - point.x() : point.x();
+    const int x = (isRightToLeft() ? viewport()->width() - 1 - point.x() : point.x()) + horizontalOffset();
     if (cell.isEmpty() || y < 0 || x < 0 || x / cell.width() >= columns()) {
         return -1;
     }
@@ -120,6 +132,10 @@ void GridView::updateGeometries() {
     QScrollBar* const bar = verticalScrollBar();
     bar->setSingleStep(std::max(1, gridSize().height() / 2));
     bar->setPageStep(height);
+    QScrollBar* const across = horizontalScrollBar();
+    across->setSingleStep(kStepAcross);
+    across->setPageStep(viewport()->width());
+    across->setRange(0, m_oneColumn ? std::max(0, gridSize().width() - viewport()->width()) : 0);
     bar->setRange(0, bounded(std::max<qint64>(0, lines * gridSize().height() - height)));
 }
 
@@ -146,6 +162,11 @@ QModelIndex GridView::moveCursor(CursorAction action, Qt::KeyboardModifiers) {
         case MoveLeft:
         case MoveRight: {
             const bool forward = (action == MoveRight) != isRightToLeft();
+            if (m_oneColumn) {
+                horizontalScrollBar()->triggerAction(forward ? QScrollBar::SliderSingleStepAdd
+                                                             : QScrollBar::SliderSingleStepSub);
+                return current;
+            }
             const bool atEdge = forward ? inLine == columns() - 1 || row == count - 1 : inLine == 0;
             return at(atEdge ? row : forward ? row + 1 : row - 1);
         }

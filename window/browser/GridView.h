@@ -13,6 +13,9 @@ class GridView : public QListView {
   public:
     explicit GridView(QWidget* parent = nullptr);
 
+    // One cell to a line, however wide; what is wider than the view can be scrolled to.
+    void setOneColumn(bool one);
+
     QRect visualRect(const QModelIndex& index) const override;
     QModelIndex indexAt(const QPoint& point) const override;
     void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
@@ -27,7 +30,7 @@ class GridView : public QListView {
     Rows rowsIn(const QRect& part) const;
     int rowCount() const { return model() != nullptr ? model()->rowCount(rootIndex()) : 0; }
 
-    int horizontalOffset() const override { return 0; }
+    int horizontalOffset() const override;
     int verticalOffset() const override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags command) override;
@@ -44,6 +47,7 @@ class GridView : public QListView {
     int rowAt(const QPoint& point) const;
     void paintBand(QPainter& painter);
 
+    bool m_oneColumn = false;
     QPoint m_pressedAt;  // in the contents, not the viewport
     QPoint m_pointer;    // in the viewport
 };

@@ -5,6 +5,8 @@
 #include <limits>
 
 #include "results/CardIndex.h"
+#include "results/ItemWords.h"
+#include "results/Mend.h"
 #include "results/MyImageObject.h"
 #include "window/browser/ImageBrowserView.h"
 
@@ -79,6 +81,10 @@ ItemFacts ImageBrowserModel::facts(qsizetype index) const {
     return m_source != nullptr ? m_source->factsOfItem(index) : ItemFacts();
 }
 
+const CellPicture* ImageBrowserModel::picture(qsizetype index) const {
+    return m_source != nullptr ? m_source->pictureOfItem(index) : nullptr;
+}
+
 std::shared_ptr<MyImageObject> ImageBrowserModel::item(qsizetype index) const {
     return m_source != nullptr ? m_source->imageBrowser_itemAtIndex(m_view, index) : nullptr;
 }
@@ -109,6 +115,19 @@ QVariant ImageBrowserModel::data(const QModelIndex& index, int role) const {
     }
     if (known.soundness) {
         words << describe(*known.soundness);
+    }
+    // What is proved is told with the file's soundness.
+    if (known.mend && known.mend->kind != MendKind::Completed) {
+        words << describe(*known.mend);
+    }
+    if (role == Qt::AccessibleTextRole && m_view->detailsShown()) {
+        // What the columns show beside that.
+        for (const QString& more :
+             {known.soundness ? known.soundness->camera : QString(), placeWords(*found, known)}) {
+            if (!more.isEmpty()) {
+                words << more;
+            }
+        }
     }
     if (known.saved) {
         words << tr("saved");

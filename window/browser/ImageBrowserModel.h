@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "results/BrowserOrder.h"
+#include "window/widgets/CellPicture.h"
 
 namespace vantor {
 
@@ -27,6 +28,8 @@ class ImageBrowserDataSource {
                                                                     qsizetype index) = 0;
     // What is known of an item of the list, for its badge and the words about it.
     virtual ItemFacts factsOfItem(qsizetype) { return {}; }
+    // What an item of the list looks like, to be drawn in place of its representation; null: not known.
+    virtual const CellPicture* pictureOfItem(qsizetype) { return nullptr; }
 };
 
 // Rows are places in an order where one is set, else places in the data source's list.
@@ -51,6 +54,7 @@ class ImageBrowserModel : public QAbstractListModel {
     // Of the list.
     std::shared_ptr<MyImageObject> item(qsizetype index) const;
     ItemFacts facts(qsizetype index) const;
+    const CellPicture* picture(qsizetype index) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;

@@ -1,13 +1,17 @@
 // Set-up, zoom and selection of the browsers.
 #include "window/browser/ImageBrowserView.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
+#include "window/browser/DetailsHeader.h"
+#include "window/browser/DetailsRow.h"
 #include "window/browser/ImageBrowserModel.h"
 #include "window/browser/ImageCell.h"
 #include "window/widgets/EmptyState.h"
@@ -22,11 +26,24 @@ constexpr int kLargestPicture = 208;
 
 }  // namespace
 
-ImageBrowserView::ImageBrowserView(QWidget* parent) : GridView(parent), m_model(new ImageBrowserModel(this)) {
+ImageBrowserView::ImageBrowserView(QWidget* parent)
+    : GridView(parent), m_model(new ImageBrowserModel(this)), m_header(new DetailsHeader(this)) {
+    auto* const cells = new ImageCell(this);
+    m_cells = cells;
+    m_lines = new DetailsRow(this, cells);
+    m_header->hide();
+    const auto columnsChanged = [this] {
+        layCellsOut();
+        scheduleDelayedItemsLayout();
+        viewport()->update();
+    };
+    connect(m_header, &QHeaderView::sectionResized, this, columnsChanged);
+    connect(m_header, &QHeaderView::sectionMoved, this, columnsChanged);
+    connect(horizontalScrollBar(), &QScrollBar::valueChanged, m_header, &QHeaderView::setOffset);
     setSelectionMode(ExtendedSelection);
     setDragEnabled(false);
     setWordWrap(false);
-    setItemDelegate(new ImageCell(this));
+    setItemDelegate(m_cells);
     setModel(m_model);
     setZoomValue(0);
     connect(this, &QAbstractItemView::doubleClicked, this,
@@ -61,7 +78,43 @@ void ImageBrowserView::setZoomValue(float zoom) {
     const int edge =
         kSmallestPicture + static_cast<int>(bounded * (kLargestPicture - kSmallestPicture) + 0.5F);
     setIconSize({edge, edge});
-    setGridSize(ImageCell::cellSize(edge, font(), m_originalsShown ? 2 : 1));
+    layCellsOut();
+}
+
+void ImageBrowserView::layCellsOut() {
+    setGridSize(m_detailsShown ? QSize(m_header->length(), DetailsRow::heightFor(font()))
+                               : ImageCell::cellSize(iconSize().width(), font(), linesOfWords()));
+}
+
+// The item at the top stays there.
+void ImageBrowserView::setDetailsShown(bool shown) {
+    if (shown == m_detailsShown) {
+        return;
+    }
+    const Rows inView = rowsIn(viewport()->rect());
+    m_detailsShown = shown;
+    setItemDelegate(shown ? m_lines : m_cells);
+    setOneColumn(shown);
+    m_header->setVisible(shown);
+    layCellsOut();
+    updateGeometries();
+    scrollTo(m_model->index(inView.first), PositionAtTop);
+    viewport()->update();
+}
+
+void ImageBrowserView::updateGeometries() {
+    const int height = m_detailsShown ? m_header->sizeHint().height() : 0;
+    if (viewportMargins().top() != height) {
+        setViewportMargins(0, height, 0, 0);
+    }
+    const QRect place = viewport()->geometry();
+    m_header->setGeometry(place.left(), place.top() - height, place.width(), height);
+    GridView::updateGeometries();
+}
+
+QRect ImageBrowserView::tickPlace(const QModelIndex& item) const {
+    const QRect place = visualRect(item);
+    return m_detailsShown ? DetailsRow::tickPlace(place) : ImageCell::tickPlace(place);
 }
 
 void ImageBrowserView::setOriginalsShown(bool shown) {
@@ -201,6 +254,18 @@ ItemFacts ImageBrowserView::factsOfRow(int row) const {
     return m_model->facts(m_model->indexOfRow(row));
 }
 
+const CellPicture* ImageBrowserView::pictureOfRow(int row) const {
+    return m_model->picture(m_model->indexOfRow(row));
+}
+
+int ImageBrowserView::pictureSide() const {
+    return static_cast<int>(std::ceil(iconSize().width() * devicePixelRatioF()));
+}
+
+int ImageBrowserView::largestPictureSide() const {
+    return static_cast<int>(std::ceil(kLargestPicture * devicePixelRatioF()));
+}
+
 void ImageBrowserView::setEmptyState(const QIcon& picture, const QString& title, const QString& advice) {
     m_emptyPicture = picture;
     m_emptyTitle = title;
@@ -242,7 +307,7 @@ QModelIndex ImageBrowserView::itemAtHand() const {
 // The item whose tick box lies there.
 QModelIndex ImageBrowserView::tickAt(const QPoint& place) const {
     const QModelIndex item = indexAt(place);
-    return item.isValid() && ImageCell::tickPlace(visualRect(item)).contains(place) ? item : QModelIndex();
+    return item.isValid() && tickPlace(item).contains(place) ? item : QModelIndex();
 }
 
 // A press on a tick box is for the tick alone: what is selected stays selected.
@@ -257,9 +322,35 @@ bool ImageBrowserView::tickByMouse(const QMouseEvent& event) {
     return true;
 }
 
+// What is selected already can be pulled away; elsewhere the mouse draws a band.
 void ImageBrowserView::mousePressEvent(QMouseEvent* event) {
-    if (!tickByMouse(*event)) {
-        GridView::mousePressEvent(event);
+    m_pull = Pull::None;
+    m_heldPress.reset();
+    if (tickByMouse(*event)) {
+        return;
+    }
+    if (event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier) {
+        m_pulledFrom = event->position().toPoint();
+        const QModelIndex item = indexAt(m_pulledFrom);
+        m_pull = item.isValid() && selectionModel()->isSelected(item) ? Pull::May : Pull::None;
+        // It would leave only this one selected.
+        if (m_pull == Pull::May && selectedCount() > 1) {
+            m_heldPress.reset(event->clone());
+            return;
+        }
+    }
+    GridView::mousePressEvent(event);
+}
+
+void ImageBrowserView::mouseMoveEvent(QMouseEvent* event) {
+    if (m_pull == Pull::None || (event->buttons() & Qt::LeftButton) == 0) {
+        GridView::mouseMoveEvent(event);
+        return;
+    }
+    const QPoint way = event->position().toPoint() - m_pulledFrom;
+    if (m_pull == Pull::May && way.manhattanLength() >= QApplication::startDragDistance()) {
+        m_pull = Pull::Done;
+        emit dragWanted(selectionIndexes());
     }
 }
 
@@ -273,6 +364,13 @@ void ImageBrowserView::mouseReleaseEvent(QMouseEvent* event) {
     if (std::exchange(m_ticking, false)) {
         return;
     }
+    if (const std::unique_ptr<QMouseEvent> press = std::move(m_heldPress)) {
+        if (std::exchange(m_pull, Pull::None) == Pull::Done) {
+            return;  // and all that was dragged stays selected
+        }
+        GridView::mousePressEvent(press.get());
+    }
+    m_pull = Pull::None;
     GridView::mouseReleaseEvent(event);
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QIcon>
+#include <QMouseEvent>
 #include <memory>
 #include <optional>
 
@@ -11,8 +12,10 @@
 namespace vantor {
 
 class ImageBrowserDataSource;
+class DetailsHeader;
 class ImageBrowserModel;
 class MyImageObject;
+struct CellPicture;
 
 class ImageBrowserView : public GridView {
     Q_OBJECT
@@ -29,6 +32,13 @@ class ImageBrowserView : public GridView {
     // A line below each title for the name that the item had on the card.
     void setOriginalsShown(bool shown);
     bool originalsShown() const { return m_originalsShown; }
+    // Below a picture: the title, that name, and what else is known.
+    int linesOfWords() const { return m_originalsShown ? 3 : 2; }
+
+    // A line of columns for each item in place of its cell; the same items, order, selection and ticks.
+    void setDetailsShown(bool shown);
+    bool detailsShown() const { return m_detailsShown; }
+    DetailsHeader* detailsHeader() const { return m_header; }
 
     // Shows these items of the list in this order; the selection stays with its items, as far as they are
     // shown.
@@ -52,6 +62,10 @@ class ImageBrowserView : public GridView {
     // Of a row.
     std::shared_ptr<MyImageObject> itemOfRow(int row) const;
     ItemFacts factsOfRow(int row) const;
+    const CellPicture* pictureOfRow(int row) const;
+    // Pixels of the screen that the longer side of a cell's picture takes, now and with the largest cells.
+    int pictureSide() const;
+    int largestPictureSide() const;
 
     void setEmptyState(const QIcon& picture, const QString& title, const QString& advice);
 
@@ -62,6 +76,8 @@ class ImageBrowserView : public GridView {
     void ticksWanted(const QList<qsizetype>& indexes, bool ticked);
     // Somebody wants to see an item of the list large: a double click, Return or Space.
     void openWanted(qsizetype index);
+    // The selected items are pulled away with the mouse, whose button is down.
+    void dragWanted(const QList<qsizetype>& indexes);
     // The menu of an item, there on the screen.
     void menuWanted(qsizetype index, const QPoint& place);
 
@@ -71,11 +87,14 @@ class ImageBrowserView : public GridView {
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void updateGeometries() override;
     void paintEvent(QPaintEvent* event) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+    // The toolkit drags nothing; see dragWanted().
     void startDrag(Qt::DropActions) override {}
 
   private:
@@ -86,14 +105,22 @@ class ImageBrowserView : public GridView {
     bool opensItem(const QKeyEvent& key) const;
     QItemSelection rangesOf(const QList<qsizetype>& indexes) const;
     void describeState();
+    void layCellsOut();
+    QRect tickPlace(const QModelIndex& item) const;
     void seeWhetherAtEnd();
 
     ImageBrowserModel* m_model;
+    DetailsHeader* m_header;
+    QAbstractItemDelegate *m_cells, *m_lines;
+    bool m_detailsShown = false;
     float m_zoom = 0;
     bool m_originalsShown = false;
     bool m_reordering = false;
     bool m_atEnd = true;
-    bool m_ticking = false;  // the mouse was pressed on a tick and is not released yet
+    enum class Pull { None, May, Done } m_pull = Pull::None;  // of items, since the press
+    QPoint m_pulledFrom;
+    std::unique_ptr<QMouseEvent> m_heldPress;  // on one of several selected items, which may be dragged all
+    bool m_ticking = false;                    // the mouse was pressed on a tick and is not released yet
     QIcon m_emptyPicture;
     QString m_emptyTitle, m_emptyAdvice;
 };

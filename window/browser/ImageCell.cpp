@@ -5,9 +5,12 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "results/ItemWords.h"
 #include "results/MyImageObject.h"
 #include "window/browser/ImageBrowserView.h"
 #include "window/browser/SoundnessBadge.h"
+#include "window/browser/TickBox.h"
+#include "window/widgets/CellPicture.h"
 #include "window/widgets/Theme.h"
 
 namespace vantor {
@@ -15,45 +18,50 @@ namespace vantor {
 namespace {
 
 constexpr int kPadding = theme::kUnit;
-constexpr int kNarrowestCell = 136;
-constexpr int kDecodedPictures = 600;
+constexpr int kDecodedKilobytes = 48 << 10;
 constexpr qreal kRadius = 6;
-constexpr int kTickEdge = 16;
-constexpr int kTickReach = 24;  // what can be clicked is larger than what is drawn
+constexpr int kLeastEdgeForLength = 72;
+constexpr int kCorner = 20;
 
-void paintTick(QPainter* painter, const QRect& reach, bool ticked, bool pointedAt) {
-    QRectF box(0, 0, kTickEdge, kTickEdge);
-    box.moveCenter(QRectF(reach).center());
-    painter->setPen(QPen(ticked || pointedAt ? theme::kAccent : theme::kDisabledInk, 1.2));
-    painter->setBrush(ticked ? theme::kAccent : theme::kCard);
-    painter->drawRoundedRect(box, 3, 3);
-    if (ticked) {
-        painter->setPen(QPen(Qt::white, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        const auto at = [&box](qreal x, qreal y) {
-            return QPointF(box.left() + x * box.width(), box.top() + y * box.height());
-        };
-        painter->drawPolyline(QPolygonF{at(0.24, 0.52), at(0.43, 0.71), at(0.77, 0.31)});
+// "1:02" in a corner, where there is room for it.
+void paintLength(QPainter* painter, const QRect& place, std::int64_t durationMs) {
+    if (durationMs <= 0 || place.width() < kLeastEdgeForLength) {
+        return;
     }
+    const QString words = timeText(durationMs);
+    QRectF box(0, 0, painter->fontMetrics().horizontalAdvance(words) + 8, painter->fontMetrics().height());
+    // Beside the mark in the corner.
+    box.moveBottomRight(QPointF(place.right() - kCorner, place.bottom() - 2));
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(QColor(0, 0, 0, 170));
+    painter->drawRoundedRect(box, 3, 3);
+    painter->setPen(Qt::white);
+    painter->drawText(box, Qt::AlignCenter, words);
 }
 
 }  // namespace
 
 ImageCell::ImageCell(ImageBrowserView* view)
-    : QStyledItemDelegate(nullptr), m_view(view), m_decoded(kDecodedPictures) {
+    : QStyledItemDelegate(nullptr), m_view(view), m_decoded(kDecodedKilobytes) {
     setParent(view);
 }
 
 QSize ImageCell::cellSize(int edge, const QFont& font, int lines) {
     const QFontMetrics metrics(font);
-    return {std::max(edge + 2 * kPadding, kNarrowestCell), edge + lines * metrics.height() + 3 * kPadding};
+    return {std::max(edge + 2 * kPadding, kNarrowest), edge + lines * metrics.height() + 3 * kPadding};
 }
 
 QRect ImageCell::tickPlace(const QRect& cell) {
     return {cell.left() + 3, cell.top() + 3, kTickReach, kTickReach};
 }
 
+QRect ImageCell::picturePlace(const QRect& cell, int edge) {
+    const QRect inner = cell.adjusted(2, 2, -2, -2);
+    return {inner.center().x() - edge / 2, inner.top() + kPadding, edge, edge};
+}
+
 QSize ImageCell::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
-    return cellSize(m_view->iconSize().width(), option.font, m_view->originalsShown() ? 2 : 1);
+    return cellSize(m_view->iconSize().width(), option.font, m_view->linesOfWords());
 }
 
 QPixmap ImageCell::decoded(const QByteArray& bytes) const {
@@ -62,8 +70,34 @@ QPixmap ImageCell::decoded(const QByteArray& bytes) const {
     }
     QPixmap pixmap;
     pixmap.loadFromData(bytes);
-    m_decoded.insert(bytes, new QPixmap(pixmap));
+    const int kilobytes = pixmap.width() * pixmap.height() / 256 + 1;  // of four bytes a pixel
+    m_decoded.insert(bytes, new QPixmap(pixmap), kilobytes);
     return pixmap;
+}
+
+QRect ImageCell::paintPicture(QPainter* painter, const QRect& place, const QByteArray& bytes) const {
+    const QPixmap pixmap = decoded(bytes);
+    if (pixmap.isNull()) {
+        return {};
+    }
+    QRect fitted({}, pixmap.size().scaled(place.size(), Qt::KeepAspectRatio));
+    fitted.moveCenter(place.center());
+    painter->drawPixmap(fitted, pixmap);
+    return fitted;
+}
+
+void ImageCell::paintPictureOf(QPainter* painter, const QRect& place, const MyImageObject& item,
+                               const CellPicture* picture) const {
+    if (picture != nullptr && !picture->encoded.isEmpty()) {
+        const QRect shown = paintPicture(painter, place, picture->encoded);
+        painter->setPen(QPen(theme::kRule, 1));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRect(QRectF(shown).adjusted(0.5, 0.5, -0.5, -0.5));
+    } else if (item.imageRepresentationType() == RepresentationType::EncodedData) {
+        paintPicture(painter, place, item.imageRepresentation().toByteArray());
+    } else {
+        item.imageRepresentation().value<QIcon>().paint(painter, place);
+    }
 }
 
 void ImageCell::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
@@ -85,20 +119,12 @@ void ImageCell::paint(QPainter* painter, const QStyleOptionViewItem& option, con
         painter->setBrush(Qt::NoBrush);
         painter->drawRoundedRect(QRectF(cell).adjusted(3.5, 3.5, -3.5, -3.5), kRadius - 2, kRadius - 2);
     }
-    const int edge = m_view->iconSize().width();
-    const QRect place(cell.center().x() - edge / 2, cell.top() + kPadding, edge, edge);
-    const QVariant picture = item->imageRepresentation();
-    if (item->imageRepresentationType() == RepresentationType::EncodedData) {
-        const QPixmap pixmap = decoded(picture.toByteArray());
-        if (!pixmap.isNull()) {
-            QRect fitted({}, pixmap.size().scaled(place.size(), Qt::KeepAspectRatio));
-            fitted.moveCenter(place.center());
-            painter->drawPixmap(fitted, pixmap);
-        }
-    } else {
-        picture.value<QIcon>().paint(painter, place);
-    }
+    const QRect place = picturePlace(option.rect, m_view->iconSize().width());
+    const CellPicture* const picture = m_view->pictureOfRow(index.row());
+    const std::int64_t durationMs = picture != nullptr ? picture->durationMs : 0;
+    paintPictureOf(painter, place, *item, picture);
     const ItemFacts facts = m_view->factsOfRow(index.row());
+    paintLength(painter, place, durationMs);
     paintBadges(painter, place, facts);
     paintTick(painter, tickPlace(option.rect), facts.ticked, (option.state & QStyle::State_MouseOver) != 0);
     QRect words = cell.adjusted(4, 0, -4, 0);
@@ -114,6 +140,12 @@ void ImageCell::paint(QPainter* painter, const QStyleOptionViewItem& option, con
             option.fontMetrics.elidedText(facts.original->name, Qt::ElideMiddle, words.width());
         painter->drawText(words, Qt::AlignHCenter | Qt::AlignTop | Qt::TextSingleLine, name);
     }
+    const CaptionWords caption = captionWords(facts, durationMs);
+    const bool fits = option.fontMetrics.horizontalAdvance(caption.all) <= words.width();
+    words.setTop(words.top() + option.fontMetrics.height());
+    painter->setPen(theme::kQuietInk);
+    painter->drawText(words, Qt::AlignHCenter | Qt::AlignTop | Qt::TextSingleLine,
+                      fits ? caption.all : caption.first);
     painter->restore();
 }
 

@@ -1,10 +1,14 @@
 // Drawn rather than loaded, so that they are crisp at every zoom.
 #include "window/browser/SoundnessBadge.h"
 
+#include <QObject>
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
 
+#include "results/Mend.h"
+#include "results/SizeForPeople.h"
+#include "window/browser/ImageCell.h"
 #include "window/widgets/Theme.h"
 
 namespace vantor {
@@ -13,6 +17,7 @@ namespace {
 
 constexpr int kLargestEdge = 18;
 constexpr int kSmallestEdge = 11;
+constexpr qreal kSmallType = 0.8;
 
 const QColor kCutOffColor{0xb4, 0x5f, 0x06};
 const QColor kUnknownColor{0x50, 0x5c, 0x72};
@@ -102,6 +107,41 @@ void paintWarning(QPainter* painter, const QRectF& box) {
     paintSign(painter, box, exclamationMark());
 }
 
+// "2 pieces": what was put together; in another colour where the user has to look.
+void paintPieces(QPainter* painter, const QRectF& badge, const QRect& place, const ItemFacts& facts) {
+    const std::size_t pieces = facts.mend && !facts.mend->assembly.runs.empty()
+                                   ? facts.mend->assembly.runs.size()
+                               : facts.soundness ? facts.soundness->pieces
+                                                 : 1;
+    const bool repaired = facts.mend && facts.mend->kind == MendKind::Repaired;
+    if (pieces < 2 && !repaired) {
+        return;
+    }
+    const bool proved = !facts.mend || facts.mend->kind == MendKind::Completed;
+    painter->save();
+    QFont font = painter->font();
+    font.setPointSizeF(font.pointSizeF() * kSmallType);
+    painter->setFont(font);
+    const QString text =
+        repaired ? QObject::tr("repaired")
+                 : QObject::tr("%1 pieces", nullptr, pluralOf(pieces)).arg(numberForPeople(pieces));
+    const qreal height = painter->fontMetrics().height() + 1;
+    QRectF pill(0, 0, painter->fontMetrics().horizontalAdvance(text) + height * 0.7, height);
+    // Beside a small picture, as far as the cell goes; else at its foot between the other badges.
+    if (pill.width() > place.width() - 2 * badge.width()) {
+        const qreal most = place.center().x() + ImageCell::kNarrowest / 2 - pill.width() - 2;
+        pill.moveTopLeft({std::min(badge.right() + 3, most), badge.top() - height - 3});
+    } else {
+        pill.moveCenter({static_cast<qreal>(place.center().x()), badge.center().y()});
+    }
+    painter->setPen(QPen(Qt::white, 1.5));
+    painter->setBrush(proved ? QColor(theme::kAccent) : kCutOffColor);
+    painter->drawRoundedRect(pill, pill.height() / 2, pill.height() / 2);
+    painter->setPen(Qt::white);
+    painter->drawText(pill, Qt::AlignCenter, text);
+    painter->restore();
+}
+
 }  // namespace
 
 void paintBadges(QPainter* painter, const QRect& place, const ItemFacts& facts) {
@@ -114,6 +154,7 @@ void paintBadges(QPainter* painter, const QRect& place, const ItemFacts& facts) 
     if (facts.saved) {
         paintDisc(painter, corner.translated(edge - place.width() - 4, 0), theme::kAccent, arrowDown());
     }
+    paintPieces(painter, corner, place, facts);
     if (!soundness) {
         return;
     }

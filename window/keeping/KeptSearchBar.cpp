@@ -11,9 +11,9 @@ namespace vantor {
 
 namespace {
 
-constexpr int kSideMargin = 16;
-constexpr int kTopMargin = 8;
-constexpr int kSpacing = 12;
+constexpr int kBarSideMargin = 16;
+constexpr int kBarTopMargin = 8;
+constexpr int kBarSpacing = 12;
 
 }  // namespace
 
@@ -21,8 +21,8 @@ KeptSearchBar::KeptSearchBar(QWidget* parent) : QFrame(parent) {
     setObjectName(QStringLiteral("keptSearchBar"));
     setProperty("role", QStringLiteral("card"));
     auto* const row = new QHBoxLayout(this);
-    row->setContentsMargins(kSideMargin, kTopMargin, kSideMargin, kTopMargin);
-    row->setSpacing(kSpacing);
+    row->setContentsMargins(kBarSideMargin, kBarTopMargin, kBarSideMargin, kBarTopMargin);
+    row->setSpacing(kBarSpacing);
     label = new QLabel(this);
     label->setObjectName(QStringLiteral("keptSearchLabel"));
     label->setWordWrap(true);

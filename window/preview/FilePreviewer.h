@@ -4,6 +4,7 @@
 
 #include <QImage>
 #include <QString>
+#include <cstdint>
 #include <functional>
 #include <memory>
 
@@ -21,5 +22,16 @@ using PicturePreviewer = std::function<QImage(const QString& file, QSize largest
 PicturePreviewer makeFilePreviewer(std::shared_ptr<DecodePool> pool,
                                    std::shared_ptr<const DesktopThumbnailers> desktop,
                                    MovieReaderOptions movies = {});
+
+// What one look at a file tells.
+struct FileLook {
+    QImage picture;               // null: none
+    std::int64_t durationMs = 0;  // of a movie or sound; 0: not known
+};
+
+// The same picture, and how long a movie or sound is. Any one thread.
+using FileLooker = std::function<FileLook(const QString& file, QSize largest)>;
+FileLooker makeFileLooker(std::shared_ptr<DecodePool> pool,
+                          std::shared_ptr<const DesktopThumbnailers> desktop, MovieReaderOptions movies = {});
 
 }  // namespace vantor

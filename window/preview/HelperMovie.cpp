@@ -14,7 +14,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
-constexpr int kPollMilliseconds = 20;
+constexpr int kMoviePollMilliseconds = 20;
 // How often the reader's thread looks at the clock while a frame is not yet due.
 constexpr milliseconds kLongestWait{15};
 // Frames later than this are left out where there is sound: the decoder goes to where that is.
@@ -92,7 +92,7 @@ void HelperMovie::poll() {
         QObject::connect(m_poll.get(), &QTimer::timeout, m_poll.get(), [this] { report(); });
     }
     m_reportedPlaying = m_playing;
-    m_poll->start(kPollMilliseconds);
+    m_poll->start(kMoviePollMilliseconds);
 }
 
 void HelperMovie::report() {

@@ -11,6 +11,7 @@
 #include <QStackedWidget>
 #include <QToolButton>
 
+#include "window/preview/MendPane.h"
 #include "window/preview/MovieView.h"
 #include "window/preview/ZoomPicture.h"
 #include "window/widgets/Theme.h"
@@ -24,7 +25,7 @@ const QColor kGround{0x17, 0x1b, 0x22};
 const char* const kLooks =
     "QLabel { color: #eef1f6; background: transparent; }"
     "QLabel#viewerTitle { font-weight: 600; }"
-    "QLabel#viewerPlace, QLabel#viewerZoom, QLabel#viewerNote { color: #b6c0d0; }"
+    "QLabel#viewerPlace, QLabel#viewerZoom, QLabel#viewerNote, QLabel#viewerMendWords { color: #b6c0d0; }"
     "QToolButton { color: #eef1f6; background: transparent; border: 1px solid transparent;"
     " border-radius: 6px; padding: 4px 10px; }"
     "QToolButton:hover { background: #2b323d; }"
@@ -104,6 +105,9 @@ QWidget* ItemViewer::makeHead() {
     m_smaller = makeButton("viewerSmaller", tr("−"), tr("Smaller (−)"));
     m_larger = makeButton("viewerLarger", tr("+"), tr("Larger (+)"));
     m_full = makeButton("viewerFull", tr("Full Screen"), tr("Full screen (F11)"));
+    m_tickButton = makeButton("viewerTick", tr("Tick"), tr("Tick for saving (Insert, Delete)"));
+    m_tickButton->setCheckable(true);
+    connect(m_tickButton, &QToolButton::clicked, this, &ItemViewer::tickWanted);
     m_factsButton = makeButton("viewerFactsButton", tr("Facts"), tr("Show the facts beside it (I)"));
     m_fit->setCheckable(true);
     m_actual->setCheckable(true);
@@ -113,8 +117,8 @@ QWidget* ItemViewer::makeHead() {
     row->addWidget(m_title);
     row->addWidget(m_placeLabel);
     row->addStretch();
-    for (QWidget* const widget : std::initializer_list<QWidget*>{m_smaller, m_zoomLabel, m_larger, m_fit,
-                                                                 m_actual, m_full, m_factsButton}) {
+    for (QWidget* const widget : std::initializer_list<QWidget*>{
+             m_tickButton, m_smaller, m_zoomLabel, m_larger, m_fit, m_actual, m_full, m_factsButton}) {
         row->addWidget(widget);
     }
     connect(close, &QToolButton::clicked, this, &ItemViewer::leave);
@@ -149,6 +153,7 @@ QWidget* ItemViewer::makeStage() {
     m_note->setAlignment(Qt::AlignCenter);
     m_note->setWordWrap(true);
     m_note->setTextFormat(Qt::PlainText);
+    m_mend = new MendPane(place);
     m_back = makeButton("viewerBack", tr("‹"), tr("Item before this one (Left)"));
     m_on = makeButton("viewerOn", tr("›"), tr("Next item (Right)"));
     auto* const row = new QHBoxLayout;
@@ -159,6 +164,7 @@ QWidget* ItemViewer::makeStage() {
     column->setContentsMargins(theme::kUnit, 0, theme::kUnit, theme::kUnit);
     column->addLayout(row, 1);
     column->addWidget(m_note);
+    column->addWidget(m_mend);
     connect(m_back, &QToolButton::clicked, this, [this] { emit stepWanted(-1); });
     connect(m_on, &QToolButton::clicked, this, [this] { emit stepWanted(1); });
     connect(m_picture, &ZoomPicture::zoomChanged, this, &ItemViewer::showZoom);
@@ -196,6 +202,9 @@ void ItemViewer::makeShortcuts() {
     on(Qt::Key_End, [this] { emit endWanted(true); });
     on(Qt::Key_Escape, [this] { escape(); });
     on(Qt::Key_F11, [this] { toggleFullScreen(); });
+    on(Qt::Key_B, [this] { m_mend->turn(); });
+    on(Qt::Key_Insert, [this] { emit tickWanted(true); });
+    on(Qt::Key_Delete, [this] { emit tickWanted(false); });
     on(Qt::Key_I, [this] { m_factsButton->toggle(); });
     on(Qt::Key_0, [this] { m_picture->fit(); });
     on(Qt::Key_1, [this] { m_picture->showActualSize(); });
@@ -298,6 +307,11 @@ void ItemViewer::setFacts(const QList<ViewerFact>& facts) {
 void ItemViewer::setNote(const QString& note) {
     m_note->setText(note);
     m_note->setVisible(!note.isEmpty());
+}
+
+void ItemViewer::setTicked(bool ticked) {
+    m_tickButton->setChecked(ticked);
+    m_tickButton->setText(ticked ? tr("Ticked") : tr("Tick"));
 }
 
 void ItemViewer::setSteps(bool back, bool on) {

@@ -17,6 +17,7 @@ class QToolButton;
 
 namespace vantor {
 
+class MendPane;
 class MovieView;
 class ZoomPicture;
 
@@ -50,9 +51,11 @@ class ItemViewer : public QWidget {
     void setNote(const QString& note);
     void setPlace(const QString& place);
     void setSteps(bool back, bool on);
+    void setTicked(bool ticked);
 
     ZoomPicture* picture() const { return m_picture; }
     MovieView* movie() const { return m_movie; }
+    MendPane* mend() const { return m_mend; }
     QList<ViewerFact> facts() const { return m_facts; }
     // Pixels that a picture needs to fill the place.
     QSize stageSize() const;
@@ -62,6 +65,8 @@ class ItemViewer : public QWidget {
     void stepWanted(int steps);
     // To the first item, or the last.
     void endWanted(bool last);
+    // It is to be ticked for saving, or no longer.
+    void tickWanted(bool ticked);
     // Somebody has zoomed in further than the pixels go.
     void morePixelsWanted();
     void left();
@@ -98,12 +103,14 @@ class ItemViewer : public QWidget {
     QToolButton* m_smaller;
     QToolButton* m_larger;
     QToolButton* m_full;
+    QToolButton* m_tickButton;
     QToolButton* m_factsButton;
     QToolButton* m_back;
     QToolButton* m_on;
     QStackedWidget* m_stage;
     ZoomPicture* m_picture;
     MovieView* m_movie;
+    MendPane* m_mend;
     QScrollArea* m_factsPane;
     QLabel* m_factsText;
     QList<ViewerFact> m_facts;

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "results/ItemWords.h"
 #include "window/widgets/Theme.h"
 
 namespace vantor {
@@ -175,15 +176,6 @@ void MovieControls::showPosition(std::int64_t timeMs) {
     }
     const std::int64_t length = m_movie->durationMs();
     m_times->setText(length > 0 ? tr("%1 / %2").arg(timeText(timeMs), timeText(length)) : timeText(timeMs));
-}
-
-QString timeText(std::int64_t timeMs) {
-    const std::int64_t seconds = std::max<std::int64_t>(0, timeMs) / 1000;
-    const QString rest = QStringLiteral(":%1").arg(seconds % 60, 2, 10, QLatin1Char('0'));
-    const std::int64_t minutes = seconds / 60;
-    return minutes < 60
-               ? QString::number(minutes) + rest
-               : QStringLiteral("%1:%2").arg(minutes / 60).arg(minutes % 60, 2, 10, QLatin1Char('0')) + rest;
 }
 
 }  // namespace vantor

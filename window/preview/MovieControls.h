@@ -49,7 +49,4 @@ class MovieControls : public QWidget {
     std::unique_ptr<Movie> m_movie;
 };
 
-// Minutes and seconds, with hours where there are any: "0:05", "1:02:03".
-QString timeText(std::int64_t timeMs);
-
 }  // namespace vantor

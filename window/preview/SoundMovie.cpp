@@ -10,7 +10,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr int kPollMilliseconds = 50;
+constexpr int kSoundPollMilliseconds = 50;
 
 }  // namespace
 
@@ -48,7 +48,7 @@ void SoundMovie::play() {
         QObject::connect(m_poll.get(), &QTimer::timeout, m_poll.get(), [this] { follow(); });
     }
     startHere();
-    m_poll->start(kPollMilliseconds);
+    m_poll->start(kSoundPollMilliseconds);
 }
 
 void SoundMovie::startHere() {

@@ -10,6 +10,7 @@
 #include "results/SizeForPeople.h"
 #include "window/preview/DocumentFrame.h"
 #include "window/preview/ItemViewer.h"
+#include "window/preview/MendPane.h"
 #include "window/preview/MovieView.h"
 #include "window/preview/ZoomPicture.h"
 
@@ -41,7 +42,12 @@ ViewerDesk::ViewerDesk(ViewerParts parts, PicturePreviewer picture, MovieLoader 
     });
     connect(m_viewer, &ItemViewer::endWanted, this,
             [this](bool last) { goTo(last ? m_parts.placeOf(m_index).count - 1 : 0); });
+    connect(m_viewer, &ItemViewer::tickWanted, this, [this](bool ticked) {
+        m_parts.tick(m_index, ticked);
+        refresh();
+    });
     connect(m_viewer, &ItemViewer::morePixelsWanted, this, &ViewerDesk::askForMore);
+    connect(m_viewer->mend(), &MendPane::sideChosen, this, &ViewerDesk::begin);
     connect(m_viewer, &ItemViewer::left, this, [this] {
         m_loader.forget();
         m_index = -1;
@@ -78,11 +84,21 @@ void ViewerDesk::goTo(int row) {
 }
 
 void ViewerDesk::show(qsizetype index) {
-    const auto item = m_parts.itemAt(index);
-    if (!item) {
+    if (!m_parts.itemAt(index)) {
         return;
     }
     m_index = index;
+    m_mend = m_parts.mendOf ? m_parts.mendOf(index) : nullptr;
+    m_viewer->mend()->setMend(m_mend.get());
+    begin();
+}
+
+// The item as it was found or as it was made.
+void ViewerDesk::begin() {
+    const auto item = m_parts.itemAt(m_index);
+    if (!item) {
+        return;
+    }
     m_viewed = {};
     QImage standIn;
     const QVariant picture = item->imageRepresentation();
@@ -102,6 +118,7 @@ void ViewerDesk::show(qsizetype index) {
 void ViewerDesk::load() {
     const auto item = m_parts.itemAt(m_index);
     ViewOrder order = m_parts.order(*item);
+    order.file.hints.mend = m_viewer->mend()->isAsFound() ? nullptr : m_mend;
     order.playable = plays(item->fileType());
     m_bound =
         m_viewer->stageSize().expandedTo({kLeastBound, kLeastBound}).boundedTo({kMostBound, kMostBound});
@@ -176,7 +193,12 @@ void ViewerDesk::refresh() {
                                                  numberForPeople(static_cast<std::uint64_t>(place.count)))
                                       : QString());
     m_viewer->setSteps(m_row > 0, m_row + 1 < place.count);
-    m_viewer->setFacts(viewerFacts(*item, m_parts.factsOf(m_index), m_viewed));
+    const ItemFacts known = m_parts.factsOf(m_index);
+    m_viewer->setTicked(known.ticked);
+    m_viewer->setFacts(viewerFacts(*item, known, m_viewed));
+    if (const auto mend = m_parts.mendOf ? m_parts.mendOf(m_index) : nullptr; mend != m_mend) {
+        show(m_index);  // something was made of it just now
+    }
 }
 
 }  // namespace vantor

@@ -31,10 +31,13 @@ struct ViewerParts {
     std::function<qsizetype(int row)> itemOfRow;
     // Makes it the one that is chosen in the list.
     std::function<void(qsizetype)> choose;
+    // What was made of it; null: nothing.
+    std::function<std::shared_ptr<const Mend>(qsizetype)> mendOf;
     // How its bytes are read; without a bound and without a word of what plays.
     std::function<ViewOrder(const MyImageObject&)> order;
     // Why a file has no picture; empty where nothing stands in the way.
     std::function<QString(const QString& file)> obstacle;
+    std::function<void(qsizetype, bool ticked)> tick;  // for saving
     std::function<void()> left;
 };
 
@@ -60,6 +63,7 @@ class ViewerDesk : public QObject {
 
   private:
     void show(qsizetype index);
+    void begin();
     void goTo(int row);
     void load();
     void take(ViewedThing thing);
@@ -72,8 +76,9 @@ class ViewerDesk : public QObject {
     ItemViewer* m_viewer;  // of the window
     ViewLoader m_loader;
     qsizetype m_index = -1;
-    int m_row = 0;  // where the item stood when it was shown
-    QSize m_bound;  // of the picture asked for last
+    std::shared_ptr<const Mend> m_mend;  // of the item
+    int m_row = 0;                       // where the item stood when it was shown
+    QSize m_bound;                       // of the picture asked for last
     ViewedFacts m_viewed;
     bool m_isIcon = false;  // what stands in is the type's icon
 };

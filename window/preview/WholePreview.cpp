@@ -5,36 +5,32 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
-#include <QTemporaryDir>
 #include <algorithm>
 #include <utility>
 
 #include "results/TrueCopy.h"
+#include "window/preview/PrivateFolder.h"
 
 namespace vantor {
 
 namespace {
 
-const QString kFolderName = QStringLiteral("/shown-");
+const QString kFolders = QStringLiteral("shown-*");
 const QString kLockName = QStringLiteral("/lock");
 // How often the room on the disk is looked at.
 constexpr std::uint64_t kRoomStep = std::uint64_t{64} << 20;
 
 }  // namespace
 
-// In a folder of its own, whose lock says that its program lives.
-struct WholePreview::PrivateFile {
-    explicit PrivateFile(const WholePreviewRequest& request)
-        : folder(request.folder + kFolderName + QStringLiteral("XXXXXX")), lock(folder.path() + kLockName) {
-        lock.setStaleLockTime(0);
-        if (folder.isValid() && lock.tryLock(0)) {
+// In a folder of its own.
+struct WholePreview::PrivateFile : PrivateFolder {
+    explicit PrivateFile(const WholePreviewRequest& request) : PrivateFolder(request.folder) {
+        if (held) {
             file.setFileName(folder.path() + u'/' + QFileInfo(request.previewFile).fileName());
             file.open(QIODevice::WriteOnly | QIODevice::Truncate);
         }
     }
 
-    QTemporaryDir folder;
-    QLockFile lock;
     QFile file;
     std::uint64_t sinceLook = 0;  // bytes written since the room was looked at
 };
@@ -129,8 +125,7 @@ QString WholePreview::path() const {
 
 void WholePreview::clearLeftovers(const QString& folder) {
     const QDir directory(folder);
-    for (const QString& name :
-         directory.entryList({kFolderName.mid(1) + u'*'}, QDir::Dirs | QDir::NoDotAndDotDot)) {
+    for (const QString& name : directory.entryList({kFolders}, QDir::Dirs | QDir::NoDotAndDotDot)) {
         const QString path = directory.filePath(name);
         QLockFile lock(path + kLockName);
         lock.setStaleLockTime(0);

@@ -50,6 +50,7 @@ class WholePreview {
     bool fill();
     // Whoever reads the medium for it returns soon; any thread.
     void cancel() { m_watch.ended = true; }
+    bool wasCancelled() const { return m_watch.ended; }
 
     // The file to show in place of the preview file; empty when that is as good.
     QString path() const;

@@ -1,6 +1,9 @@
 // One job at a time, on a thread of its own, under a sheet.
 #include "window/saving/SavingDesk.h"
 
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
 #include <algorithm>
 #include <map>
 #include <utility>
@@ -14,6 +17,30 @@
 #include "window/widgets/Alerts.h"
 
 namespace vantor {
+
+namespace {
+
+constexpr int kMostNumbers = 10'000;
+
+// Renaming never replaces a file; where the name is taken, it gets a number.
+bool takeName(const QString& file, const QString& folder, const QString& name) {
+    const QFileInfo wanted(name);
+    const QString ending = wanted.suffix().isEmpty() ? QString() : u'.' + wanted.suffix();
+    QString tried = name;
+    for (int number = 2; number < kMostNumbers; ++number) {
+        const QString path = folder + u'/' + tried;
+        if (QFile::rename(file, path)) {
+            return true;
+        }
+        if (!QFileInfo::exists(path)) {
+            return false;
+        }
+        tried = QStringLiteral("%1 (%2)%3").arg(wanted.completeBaseName()).arg(number).arg(ending);
+    }
+    return false;
+}
+
+}  // namespace
 
 SavingDesk::~SavingDesk() {
     join();
@@ -52,6 +79,7 @@ std::optional<SavingDesk::Next> SavingDesk::saveOnce(const Next& wish) {
     request.saver = saverFor(destination);
     request.openMedium = m_parts.medium();
     request.card = m_parts.card ? m_parts.card() : nullptr;
+    request.mended = m_parts.mended ? m_parts.mended() : nullptr;
     request.destination = destination;
     request.placeholder = m_parts.placeholder();
     if (m_choices.report) {
@@ -59,6 +87,47 @@ std::optional<SavingDesk::Next> SavingDesk::saveOnce(const Next& wish) {
     }
     const auto job = std::make_shared<SaveJob>(std::move(request));
     return watch(job) ? tell(*job, destination) : std::nullopt;
+}
+
+// Written beside where it is to lie, so that it only has to take its name there.
+void SavingDesk::saveAs(qsizetype index, const QString& folder, const QString& name) {
+    const auto at = static_cast<std::size_t>(index);
+    auto item = m_parts.itemAt(at);
+    const QTemporaryDir beside(folder + QStringLiteral("/.vantor-recovery-XXXXXX"));
+    if (!item) {
+        return;
+    }
+    SaveRequest request;
+    request.items.push_back({at, std::move(item)});
+    if (askForRoom(folder, roomNeeded(request)) != Room::Enough) {
+        return;
+    }
+    SavePolicy policy;
+    policy.asPublished = m_choices.policy.asPublished;
+    policy.folders = SaveFolders::Type;
+    policy.parts = true;
+    request.saver = std::make_shared<const ItemSaver>(
+        beside.path(), policy, m_parts.liesOnMedium ? m_parts.liesOnMedium() : nullptr);
+    request.openMedium = m_parts.medium();
+    request.card = m_parts.card ? m_parts.card() : nullptr;
+    request.destination = beside.path();
+    request.placeholder = m_parts.placeholder();
+    const auto job = std::make_shared<SaveJob>(std::move(request));
+    if (!beside.isValid() || !watch(job) || job->isCancelled()) {
+        return;
+    }
+    const SaveReport& report = job->report();
+    const SaveOutcome outcome = report.items.empty() ? SaveOutcome() : report.items.front().outcome;
+    if (outcome.saved && takeName(outcome.path, folder, name)) {
+        note(*job);
+        return;
+    }
+    runAlert(
+        {QStringLiteral("\n") + tr("Nothing was saved."),
+         outcome.error.isEmpty() ? tr("The storage medium cannot be read any more. Put it back in and try "
+                                      "again.")
+                                 : outcome.error},
+        m_parts.window);
 }
 
 void SavingDesk::forget() {
@@ -175,12 +244,17 @@ std::optional<SavingDesk::Next> SavingDesk::tell(const SaveJob& job, const QStri
     }
     if (report.tally.failed > 0) {
         alert.buttons << tr("Change Folder…");
+    } else if (somethingThere && m_parts.canEject && m_parts.canEject()) {
+        alert.buttons << tr("Eject Card");
     }
     alert.buttons << QStringLiteral("OK");
     alert.defaultButton = alert.buttons.size() - 1;
     const QString answer = alert.buttons.value(runAlert(alert, m_parts.window));
     if (answer == tr("Open Folder")) {
         m_parts.openFolder();
+    }
+    if (answer == tr("Eject Card")) {
+        m_parts.eject();
     }
     const QString other = answer == tr("Change Folder…") ? m_parts.chooseFolder() : QString();
     if (other.isEmpty()) {

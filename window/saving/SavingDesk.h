@@ -19,6 +19,7 @@ class QWidget;
 
 namespace vantor {
 
+class MendedItems;
 class MyImageObject;
 class SaveJob;
 struct CardFile;
@@ -32,7 +33,8 @@ struct SavingParts {
     std::function<std::optional<std::uint64_t>(std::size_t)> bytesToWrite;
     // Gives what opens the medium of the moment, which is called on the thread of the job.
     std::function<std::function<std::unique_ptr<SectorReader>()>()> medium;
-    std::function<std::shared_ptr<const CardIndex>()> card;  // of that medium; null: nothing is known
+    std::function<std::shared_ptr<const CardIndex>()> card;      // of that medium; null: nothing is known
+    std::function<std::shared_ptr<const MendedItems>()> mended;  // what was made of broken items
     // Gives what tells whether a folder lies on the medium of the moment; asked on the thread of the job.
     std::function<ItemSaver::LiesOnMedium()> liesOnMedium;
     std::function<std::optional<std::uint64_t>(const QString& folder)> freeBytes;
@@ -40,6 +42,8 @@ struct SavingParts {
     std::function<ReportHead()> reportHead;
     std::function<void(std::size_t, const Soundness&)> examined;  // found out while an item was saved
     std::function<void()> openFolder;
+    std::function<bool()> canEject;  // the medium; none: it cannot be
+    std::function<void()> eject;
     std::function<QString()> chooseFolder;  // another destination; "" when the user chose none
     std::function<bool()> ending;           // the program ends: nothing is waited for
 };
@@ -57,6 +61,9 @@ class SavingDesk : public QObject {
     // Items by their places in the list, and such files. Returns when they are saved or the user cancelled;
     // where the destination failed them the user may choose another on the way.
     void save(QList<qsizetype> indexes, QString destination, ToldFiles told = {});
+
+    // One item under this name, or with a number behind it where the name is taken.
+    void saveAs(qsizetype index, const QString& folder, const QString& name);
 
     // After a cancel a medium that does not answer may hold a job up; nothing is saved meanwhile.
     bool isRunning() const { return m_running; }

@@ -11,8 +11,8 @@ namespace vantor {
 
 namespace {
 
-constexpr int kMargin = 2 * theme::kUnit;
-constexpr int kPicture = 5 * theme::kUnit;
+constexpr int kCardMargin = 2 * theme::kUnit;
+constexpr int kCardPicture = 5 * theme::kUnit;
 constexpr int kBelowTitle = 4;
 constexpr int kPreferredWidth = 280;
 constexpr int kSmallestWidth = 176;
@@ -44,8 +44,8 @@ void ChoiceCard::setExplanation(const QString& explanation) {
 }
 
 QRect ChoiceCard::wordsRect(int width) const {
-    const int left = kMargin + kPicture + kMargin;
-    return QRect(left, kMargin, std::max(1, width - left - kMargin), theme::kAnyHeight);
+    const int left = kCardMargin + kCardPicture + kCardMargin;
+    return QRect(left, kCardMargin, std::max(1, width - left - kCardMargin), theme::kAnyHeight);
 }
 
 int ChoiceCard::heightOfWords(int width) const {
@@ -55,7 +55,7 @@ int ChoiceCard::heightOfWords(int width) const {
 }
 
 int ChoiceCard::heightForWidth(int width) const {
-    return std::max(kPicture, heightOfWords(width)) + 2 * kMargin;
+    return std::max(kCardPicture, heightOfWords(width)) + 2 * kCardMargin;
 }
 
 QSize ChoiceCard::sizeHint() const {
@@ -90,7 +90,7 @@ void ChoiceCard::paintEvent(QPaintEvent*) {
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(frame.adjusted(4, 4, -4, -4), kRadius - 3, kRadius - 3);
     }
-    const QRect picture(kMargin, (height() - kPicture) / 2, kPicture, kPicture);
+    const QRect picture(kCardMargin, (height() - kCardPicture) / 2, kCardPicture, kCardPicture);
     icon().paint(&painter, picture, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
 
     QRect words = wordsRect(width());

@@ -12,7 +12,7 @@ namespace vantor {
 namespace {
 
 constexpr int kDot = 3 * theme::kUnit;
-constexpr int kGap = theme::kUnit;
+constexpr int kDotGap = theme::kUnit;
 constexpr int kLongestRule = 6 * theme::kUnit;
 constexpr int kShortestRule = theme::kUnit;
 
@@ -47,14 +47,14 @@ QSize StepTrail::sizeHint() const {
     const QFontMetrics metrics(stepFont(font(), true));
     int width = 0;
     for (const QString& step : m_steps) {
-        width += kDot + kGap + metrics.horizontalAdvance(step) + 2 * kGap + kLongestRule;
+        width += kDot + kDotGap + metrics.horizontalAdvance(step) + 2 * kDotGap + kLongestRule;
     }
-    return {width, kDot + kGap};
+    return {width, kDot + kDotGap};
 }
 
 QSize StepTrail::minimumSizeHint() const {
     return {sizeHint().width() - static_cast<int>(m_steps.size()) * (kLongestRule - kShortestRule),
-            kDot + kGap};
+            kDot + kDotGap};
 }
 
 void StepTrail::paintEvent(QPaintEvent*) {
@@ -79,16 +79,16 @@ void StepTrail::paintEvent(QPaintEvent*) {
             painter.setPen(here ? QColor(Qt::white) : theme::kQuietInk);
             painter.drawText(dot, Qt::AlignCenter, QString::number(i + 1));
         }
-        x += kDot + kGap;
+        x += kDot + kDotGap;
         painter.setFont(stepFont(font(), here));
         painter.setPen(here ? theme::kInk : theme::kQuietInk);
         const int advance = QFontMetrics(stepFont(font(), true)).horizontalAdvance(m_steps.at(i));
         painter.drawText(QRectF(x, 0, advance + 1, height()), Qt::AlignVCenter, m_steps.at(i));
-        x += advance + kGap;
+        x += advance + kDotGap;
         if (i + 1 < m_steps.size()) {
             painter.setPen(QPen(done ? theme::kDone : theme::kRule, 2));
             painter.drawLine(QPointF(x, middle), QPointF(x + rule, middle));
-            x += rule + kGap;
+            x += rule + kDotGap;
         }
     }
 }

@@ -1,0 +1,97 @@
+// Movies without an index: the whole ones tell how their camera writes.
+#include "repair/ItemMending.h"
+#include "results/MediumBytes.h"
+
+namespace vantor {
+
+bool ItemMending::useReference(ByteSource& source, const QString& name) {
+    auto movie = readReference(source);
+    if (movie) {
+        m_named = std::make_unique<ReferenceShelf::Kept>(ReferenceShelf::Kept{name, 0, std::move(*movie)});
+    }
+    return movie.has_value();
+}
+
+ItemSource ItemMending::sourceOf(const MendableItem& item) const {
+    ItemSource source;
+    source.carved = item.carved;
+    source.medium = [this] { return &m_medium; };
+    source.mediumSectors = m_medium.mediumSectors();
+    return source;
+}
+
+// Whole movies to the shelf; what has no index is given back. Several types may share an item.
+std::vector<ItemMending::WithoutIndex> ItemMending::sortOut(const std::vector<MendableItem>& items) {
+    std::vector<WithoutIndex> broken;
+    std::set<std::uint64_t> seen;
+    for (const MendableItem& item : items) {
+        const bool fresh = isMovieOfBoxes(item.type) && !item.carved.runs.empty() &&
+                           !m_completed.contains(item.carved.runs.front().first) &&
+                           seen.insert(item.carved.runs.front().first).second;
+        if (!fresh || m_stop != 0) {
+            continue;
+        }
+        const ItemSource source = sourceOf(item);
+        MediumBytes bytes(source, m_kept);
+        if (const auto data = dataWithoutIndex(bytes)) {
+            broken.push_back({&item, *data});
+        } else if (!m_named) {
+            if (auto movie = readReference(bytes)) {
+                m_shelf.add({item.name, item.carved.runs.front().first, std::move(*movie)});
+            }
+        }
+    }
+    return broken;
+}
+
+ItemMending::RepairSum ItemMending::repairMovies(const std::vector<MendableItem>& items,
+                                                 const Refused& refused) {
+    m_progress.looked = 0;
+    m_progress.of = 0;
+    const std::vector<WithoutIndex> broken = sortOut(items);
+    m_progress.of = broken.size();
+    RepairSum sum;
+    sum.broken = broken.size();
+    for (const WithoutIndex& each : broken) {
+        if (m_stop != 0) {
+            break;
+        }
+        ++m_progress.looked;
+        sum.repaired += repair(each, refused) ? 1 : 0;
+    }
+    return sum;
+}
+
+bool ItemMending::repair(const WithoutIndex& broken, const Refused& refused) {
+    const MendableItem& item = *broken.item;
+    const ItemSource source = sourceOf(item);
+    MediumBytes bytes(source, m_kept);
+    const auto refuse = [&](Why why) {
+        if (refused && m_stop == 0) {
+            refused(item, why);
+        }
+        return false;
+    };
+    const ReferenceShelf::Kept* const reference =
+        m_named ? m_named.get()
+                : m_shelf.choose(bytes, broken.data, item.carved.runs.front().first, m_splitter, &m_stop);
+    if (reference == nullptr) {
+        return refuse(Why::NoReference);
+    }
+    WalkLimits limits;
+    limits.stop = &m_stop;
+    auto repaired = repairMovie(bytes, broken.data, reference->movie, m_splitter, limits);
+    if (!repaired || m_stop != 0) {
+        return refuse(Why::NoPicture);
+    }
+    Mend mend;
+    mend.kind = MendKind::Repaired;
+    mend.pictures = repaired->pictures;
+    mend.pictureSeconds = repaired->pictureSeconds;
+    mend.soundSeconds = repaired->soundSeconds;
+    mend.like = reference->name;
+    mend.twin = std::move(*repaired);
+    return m_take(item, std::move(mend));
+}
+
+}  // namespace vantor

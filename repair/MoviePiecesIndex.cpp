@@ -1,0 +1,204 @@
+// The index of a movie in pieces: in front of the data, or where the data ends.
+#include <algorithm>
+#include <cstring>
+
+#include "repair/MoviePieces.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr std::uint64_t kMostIndexBytes = std::uint64_t{64} << 20;
+constexpr unsigned kMostIndexTries = 4096;
+constexpr std::uint64_t kWidestTurn = 6;  // movies written at the same time, for the pieces of an index
+constexpr int kMostBoxes = 32;
+
+bool isTrailer(std::string_view name) {
+    return name == "free" || name == "skip" || name == "udta" || name == "uuid" || name == "meta";
+}
+
+}  // namespace
+
+std::vector<std::uint64_t> indexPlaces(MediumBlocks& medium, const std::atomic<int>& stop) {
+    constexpr std::size_t kHeadBytes = 16;
+    constexpr std::size_t kMostPlaces = 100'000;
+    std::vector<std::uint64_t> places;
+    const auto look = [&](std::span<const std::uint8_t> bytes, std::uint64_t at) {
+        for (std::size_t i = 4; i + 12 <= bytes.size() && places.size() < kMostPlaces; ++i) {
+            const void* const m = std::memchr(bytes.data() + i, 'm', bytes.size() - 11 - i);
+            if (m == nullptr) {
+                break;
+            }
+            i = static_cast<std::size_t>(static_cast<const std::uint8_t*>(m) - bytes.data());
+            if (std::memcmp(bytes.data() + i, "moov", 4) == 0 &&
+                std::memcmp(bytes.data() + i + 8, "mvhd", 4) == 0) {
+                places.push_back(at + i - 4);
+            }
+        }
+    };
+    std::vector<std::uint8_t> seam(2 * kHeadBytes, 0);
+    for (std::uint64_t sector = 0; sector < medium.sectors() && stop == 0;
+         sector += MediumBlocks::kBlockSectors) {
+        const auto block = medium.blockOf(sector);
+        std::copy_n(block.begin(), kHeadBytes, seam.begin() + kHeadBytes);
+        if (sector != 0) {
+            // Only what lies across: a place that the block itself holds whole is found in it.
+            const std::size_t before = places.size();
+            look(seam, sector * kSectorBytes - kHeadBytes);
+            if (places.size() > before && places.back() >= sector * kSectorBytes) {
+                places.pop_back();
+            }
+        }
+        look(block, sector * kSectorBytes);
+        std::copy_n(block.end() - kHeadBytes, kHeadBytes, seam.begin());
+    }
+    std::sort(places.begin(), places.end());
+    places.erase(std::unique(places.begin(), places.end()), places.end());
+    return places;
+}
+
+// Follows the boxes in the first cluster and what lies directly behind it.
+bool MoviePieces::readHead(std::uint64_t firstCluster) {
+    std::vector<std::uint64_t> row{firstCluster};
+    for (std::uint64_t bytes = 0; bytes < kMostIndexBytes && row.back() + 1 < m_free.count();
+         bytes += m_free.clusterBytes()) {
+        row.push_back(row.back() + 1);
+    }
+    ClusterFile file(m_medium, m_free, row, ~std::uint64_t{0});
+    ByteView view(file);
+    std::uint64_t at = 0;
+    std::optional<IsoBox> index;
+    std::optional<IsoBox> data;
+    for (int i = 0; i < kMostBoxes && !data; ++i) {
+        const auto box = readIsoBox(view, at);
+        if (!box || box->toEnd ||
+            (i == 0 && box->text() != "ftyp" && box->text() != "wide" && box->text() != "mdat")) {
+            return false;
+        }
+        if (box->text() == "moov") {
+            index = box;
+        } else if (box->text() == "mdat") {
+            data = box;
+        }
+        at = box->end;
+    }
+    if (!data || data->end / m_free.clusterBytes() >= m_free.count()) {
+        return false;
+    }
+    m_layout.data = {data->body, data->end};
+    m_layout.bytes = std::max(data->end, index ? index->end : 0);
+    const auto clusters =
+        static_cast<std::size_t>((m_layout.bytes + m_free.clusterBytes() - 1) / m_free.clusterBytes());
+    m_places.assign(clusters, kUnplaced);
+    place(0, firstCluster);
+    if (!index) {
+        return findIndexBehind();
+    }
+    m_layout.index = *index;
+    // The head lies in one row.
+    for (std::uint64_t number = 1; number * m_free.clusterBytes() < data->body; ++number) {
+        place(number, firstCluster + number);
+    }
+    auto samples = promisedSamples(file, *index, m_layout.data);
+    m_samples = std::move(samples).value_or(std::vector<PromisedSample>());
+    return !m_samples.empty();
+}
+
+// The index stands where the data ends: that tells its place within a cluster.
+bool MoviePieces::findIndexBehind() {
+    const std::uint64_t cluster = m_free.clusterBytes();
+    const std::uint64_t number = m_layout.data.to / cluster;
+    std::vector<std::uint64_t> candidates;
+    for (const std::uint64_t place : m_indexPlaces) {
+        const std::uint64_t within = m_layout.data.to % cluster;
+        const auto begins =
+            place < within ? std::nullopt : m_free.beginningAt((place - within) / kSectorBytes);
+        if (begins && (place - within) % kSectorBytes == 0 && m_free.isFree(*begins)) {
+            candidates.push_back(*begins);
+        }
+    }
+    // Nearest behind first, then those before.
+    const std::uint64_t first = m_places.front();
+    std::sort(candidates.begin(), candidates.end(), [&](std::uint64_t a, std::uint64_t b) {
+        return std::pair(a < first, a) < std::pair(b < first, b);
+    });
+    return std::any_of(candidates.begin(), candidates.end(),
+                       [&](std::uint64_t candidate) { return placeIndex(candidate, number); });
+}
+
+bool MoviePieces::placeIndex(std::uint64_t firstOfIndex, std::uint64_t number) {
+    const std::uint64_t cluster = m_free.clusterBytes();
+    const std::uint64_t within = m_layout.data.to % cluster;
+    std::vector<std::uint64_t> clusters{firstOfIndex};
+    ClusterFile head(m_medium, m_free, clusters, cluster);
+    ByteView view(head);
+    const std::uint64_t bytes = view.be32(within).value_or(0);
+    if (bytes < 16 || bytes > kMostIndexBytes || !view.matches(within + 4, "moov")) {
+        return false;
+    }
+    m_layout.index = {
+        m_layout.data.to, m_layout.data.to + 8, m_layout.data.to + bytes, {'m', 'o', 'o', 'v'}, false};
+    m_layout.bytes = m_layout.index.end;
+    const auto wanted = static_cast<std::size_t>((within + bytes + cluster - 1) / cluster);
+    unsigned tries = 0;
+    if (number != 0 && !continueIndex(clusters, wanted, tries)) {
+        return false;
+    }
+    m_places.resize(static_cast<std::size_t>(number) + wanted, kUnplaced);
+    for (std::size_t i = 0; i < clusters.size(); ++i) {
+        place(number + i, clusters[i]);
+    }
+    return true;
+}
+
+// Tries the next piece at growing distances; the distance used last comes first.
+bool MoviePieces::continueIndex(std::vector<std::uint64_t>& clusters, std::size_t wanted, unsigned& tries) {
+    if (clusters.size() == wanted) {
+        return ++tries <= kMostIndexTries && takeIndex(clusters);
+    }
+    const std::uint64_t usual =
+        clusters.size() < 2 ? 0 : m_free.stepsBetween(clusters[clusters.size() - 2], clusters.back());
+    for (std::uint64_t turn = 0; turn <= kWidestTurn && tries < kMostIndexTries && m_stop == 0; ++turn) {
+        const std::uint64_t step = turn == 0 ? usual : turn;
+        if (step == 0 || (turn != 0 && step == usual)) {
+            continue;
+        }
+        const auto next = m_free.ahead(clusters.back(), step);
+        if (!next) {
+            break;
+        }
+        clusters.push_back(*next);
+        if (continueIndex(clusters, wanted, tries)) {
+            return true;
+        }
+        clusters.pop_back();
+    }
+    return false;
+}
+
+bool MoviePieces::takeIndex(const std::vector<std::uint64_t>& clusters) {
+    const std::uint64_t cluster = m_free.clusterBytes();
+    const std::uint64_t number = m_layout.data.to / cluster;
+    // Only the index is looked at: what lies before it is not placed yet.
+    std::vector<std::uint64_t> all(static_cast<std::size_t>(number), m_places.front());
+    all.insert(all.end(), clusters.begin(), clusters.end());
+    ClusterFile file(m_medium, m_free, all, m_layout.bytes);
+    auto samples = promisedSamples(file, m_layout.index, m_layout.data);
+    if (!samples || samples->empty()) {
+        return false;
+    }
+    m_samples = std::move(*samples);
+    // A camera's notes may follow in the same cluster.
+    ClusterFile last(m_medium, m_free, all, all.size() * cluster);
+    ByteView view(last);
+    for (int boxes = 0; boxes < kMostBoxes; ++boxes) {
+        const auto box = readIsoBox(view, m_layout.bytes);
+        if (!box || box->toEnd || !isTrailer(box->text()) || box->end > view.size()) {
+            break;
+        }
+        m_layout.bytes = box->end;
+    }
+    return true;
+}
+
+}  // namespace vantor
