@@ -2,7 +2,9 @@
 """In the guest: the window's program under Xvfb, worked through its preloaded driver, while the card is pulled out
 of a search, of saving and of a preview, another card is put in, and the right one is put back.
 
-Environment: MODES, MOMENTS a mode, SEED, SECTORS, CARD_IMAGE and OTHER_IMAGE (host paths)."""
+Environment: MODES, MOMENTS a mode, SEED, SECTORS, PREVIEWS, CARD_IMAGE and OTHER_IMAGE (host paths), and
+SEARCH=1 for the pull-outs of the search alone, each as soon as something is found; FIRST_WAY is how the first of
+them goes on (0: back behind the alert, 1: later, 2: after another card)."""
 import random
 from proof import *
 
@@ -168,6 +170,14 @@ COMPLETE = set()
 
 
 def in_mode(mode):
+    if os.environ.get("SEARCH"):
+        pulled_out_of_search(mode)
+    else:
+        pulled_out_of_search(mode, *pulled_out_afterwards(mode))
+
+
+def pulled_out_afterwards(mode):
+    """Of saving and of previews; how long an undisturbed search takes, and how much it finds."""
     window = Window()
     begun = time.monotonic()
     search(window, mode)
@@ -215,15 +225,22 @@ def in_mode(mode):
         if items(state, mode) != all_items:
             complain("%s: pulled out of a preview: %d items" % (mode, items(state, mode)))
     window.end()
+    return seconds, all_items
 
-    # Pulled out of the search at random moments: before or behind its alert the card comes back.
+
+def pulled_out_of_search(mode, seconds=None, all_items=None):
+    """At random moments; before or behind its alert the card comes back."""
     for number in range(MOMENTS):
         window = Window()
         search(window, mode)
-        at = choose.uniform(0.2, seconds)
-        time.sleep(at)
+        begun = time.monotonic()
+        if seconds:
+            time.sleep(choose.uniform(0.2, seconds))
+        else:
+            window.until(lambda s: items(s, mode) > 1)
         running = "_stop_scan" in window.ask()["buttons"]
         unplug()
+        at = time.monotonic() - begun
         way = (number + int(os.environ.get("FIRST_WAY", "0"))) % 3
         if way == 0:  # back while the alert is in view
             window.until(lambda s: s["modal"] or is_over(mode)(s), 300)
@@ -249,12 +266,15 @@ def in_mode(mode):
             window.until(lambda s: not s["modal"], 60, ["OK"])
             swap("CARD_IMAGE")
         try:
-            state = window.until(lambda s: is_over(mode)(s) and items(s, mode) == all_items, 600, ["OK"])
+            state = window.until(lambda s: is_over(mode)(s) and (
+                items(s, mode) == all_items if all_items else "completed" in s["labels"].get("searchEndLabel", "")),
+                600, ["OK"])
             ended = state["labels"].get("searchEndLabel", "")
         except RuntimeError as error:
             ended = "?"
             complain("%s: pulled out at %.1f s (running %s, way %d): %s" % (mode, at, running, way, error))
-        say("%s: pulled out at %.1f s, way %d: %s" % (mode, at, way, ended[:100]))
+        say("%s: pulled out at %.1f s (running %s), way %d: %d items, %s" % (
+            mode, at, running, way, items(window.ask(), mode), ended[:100]))
         window.end()
 
 
