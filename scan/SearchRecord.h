@@ -43,9 +43,9 @@ struct SearchNotes {
     QString copy;  // image that the medium is copied to; empty where it is not
     // Places in the list of found items, ascending.
     std::vector<std::uint64_t> saved;
-    std::vector<std::uint64_t> ticked;    // for saving
-    std::vector<std::uint64_t> selected;  // when it was last written
-    QByteArray id;                        // of the search, for what is kept beside its file
+    std::vector<std::uint64_t> ticked = {};    // for saving
+    std::vector<std::uint64_t> selected = {};  // when it was last written
+    QByteArray id = {};                        // of the search, for what is kept beside its file
 
     bool operator==(const SearchNotes&) const = default;
 };

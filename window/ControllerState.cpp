@@ -1,5 +1,6 @@
 #include "window/ControllerState.h"
 
+#include <QMainWindow>
 #include <QSettings>
 
 #include "window/preview/CellPictures.h"
