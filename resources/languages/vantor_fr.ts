@@ -28,30 +28,30 @@
     </message>
     <message>
         <source>Preparing the preview</source>
-        <translation>Préparation de l'aperçu</translation>
+        <translation>Préparation de l&apos;aperçu</translation>
     </message>
     <message>
         <source>The item is being read from the medium. This takes a moment for large items.</source>
-        <translation>L'élément est en cours de lecture sur le support. Cela prend un moment pour les gros éléments.</translation>
+        <translation>L&apos;élément est en cours de lecture sur le support. Cela prend un moment pour les gros éléments.</translation>
     </message>
 </context>
 <context>
     <name>EvidenceImage</name>
     <message>
         <source>Evidence images cannot be read here</source>
-        <translation>Les images d'expertise ne peuvent pas être lues ici</translation>
+        <translation>Les images d&apos;expertise ne peuvent pas être lues ici</translation>
     </message>
     <message>
         <source>Evidence images are only read shut in, which this system does not allow</source>
-        <translation>Les images d'expertise ne sont lues qu'enfermées, ce que ce système ne permet pas</translation>
+        <translation>Les images d&apos;expertise ne sont lues qu&apos;enfermées, ce que ce système ne permet pas</translation>
     </message>
     <message>
         <source>The part of the program that reads evidence images does not start</source>
-        <translation>La partie du programme qui lit les images d'expertise ne démarre pas</translation>
+        <translation>La partie du programme qui lit les images d&apos;expertise ne démarre pas</translation>
     </message>
     <message>
         <source>The evidence image is damaged or of a kind that cannot be read</source>
-        <translation>L'image d'expertise est endommagée ou d'un genre qui ne peut pas être lu</translation>
+        <translation>L&apos;image d&apos;expertise est endommagée ou d&apos;un genre qui ne peut pas être lu</translation>
     </message>
 </context>
 <context>
@@ -102,7 +102,7 @@
     </message>
     <message>
         <source>Types marked “Thorough” are looked for in a second pass over the medium.</source>
-        <translation>Les types marqués « Approfondie » sont recherchés lors d'un second passage sur le support.</translation>
+        <translation>Les types marqués « Approfondie » sont recherchés lors d&apos;un second passage sur le support.</translation>
     </message>
 </context>
 <context>
@@ -131,7 +131,7 @@ The card is only ever read, never written to. Stop using it until you have your 
 3.  Pour les vidéos et les fichiers, cochez les types voulus.
 4.  Suivez la recherche. Sélectionnez ce que vous voulez retrouver et enregistrez-le sur un autre disque.
 
-La carte est seulement lue, jamais écrite. Cessez de l'utiliser tant que vous n'avez pas retrouvé vos fichiers.</translation>
+La carte est seulement lue, jamais écrite. Cessez de l&apos;utiliser tant que vous n&apos;avez pas retrouvé vos fichiers.</translation>
     </message>
     <message>
         <source>The whole guide, with pictures:</source>
@@ -139,7 +139,7 @@ La carte est seulement lue, jamais écrite. Cessez de l'utiliser tant que vous n
     </message>
     <message>
         <source>Open the help document</source>
-        <translation>Ouvrir le document d'aide</translation>
+        <translation>Ouvrir le document d&apos;aide</translation>
     </message>
     <message>
         <source>&amp;About…</source>
@@ -155,7 +155,7 @@ La carte est seulement lue, jamais écrite. Cessez de l'utiliser tant que vous n
     </message>
     <message>
         <source>Window size, saving options and folders of earlier runs</source>
-        <translation>Taille de la fenêtre, options d'enregistrement et dossiers des utilisations précédentes</translation>
+        <translation>Taille de la fenêtre, options d&apos;enregistrement et dossiers des utilisations précédentes</translation>
     </message>
     <message>
         <source>Forget the settings of earlier runs</source>
@@ -197,7 +197,7 @@ La carte est seulement lue, jamais écrite. Cessez de l'utiliser tant que vous n
     </message>
     <message>
         <source>Open the help window (F1)</source>
-        <translation>Ouvrir la fenêtre d'aide (F1)</translation>
+        <translation>Ouvrir la fenêtre d&apos;aide (F1)</translation>
     </message>
     <message>
         <source>Help</source>
@@ -237,19 +237,19 @@ La carte est seulement lue, jamais écrite. Cessez de l'utiliser tant que vous n
     </message>
     <message>
         <source>Show the items found so far</source>
-        <translation>Afficher les éléments trouvés jusqu'ici</translation>
+        <translation>Afficher les éléments trouvés jusqu&apos;ici</translation>
     </message>
     <message>
         <source>Look through what was found and save it</source>
-        <translation>Parcourir ce qui a été trouvé et l'enregistrer</translation>
+        <translation>Parcourir ce qui a été trouvé et l&apos;enregistrer</translation>
     </message>
     <message>
         <source>How the search ended</source>
-        <translation>Comment la recherche s'est terminée</translation>
+        <translation>Comment la recherche s&apos;est terminée</translation>
     </message>
     <message>
         <source>How the search ended, and how to go on</source>
-        <translation>Comment la recherche s'est terminée, et comment continuer</translation>
+        <translation>Comment la recherche s&apos;est terminée, et comment continuer</translation>
     </message>
     <message>
         <source>What the search found, and how long it took</source>
@@ -265,7 +265,7 @@ La carte est seulement lue, jamais écrite. Cessez de l'utiliser tant que vous n
     </message>
     <message>
         <source>Previews and saving ask the medium once more for what it could not read</source>
-        <translation>Les aperçus et l'enregistrement redemandent une fois au support ce qu'il n'a pas pu lire</translation>
+        <translation>Les aperçus et l&apos;enregistrement redemandent une fois au support ce qu&apos;il n&apos;a pas pu lire</translation>
     </message>
     <message>
         <source>Thorough search</source>
@@ -273,7 +273,7 @@ La carte est seulement lue, jamais écrite. Cessez de l'utiliser tant que vous n
     </message>
     <message>
         <source>After the general search, look once more with a longer list of picture types.</source>
-        <translation>Après la recherche générale, chercher encore avec une liste plus longue de types d'images.</translation>
+        <translation>Après la recherche générale, chercher encore avec une liste plus longue de types d&apos;images.</translation>
     </message>
     <message>
         <source>Current search procedure</source>
@@ -285,7 +285,7 @@ La carte est seulement lue, jamais écrite. Cessez de l'utiliser tant que vous n
     </message>
     <message>
         <source>The search is being stopped</source>
-        <translation>La recherche est en cours d'arrêt</translation>
+        <translation>La recherche est en cours d&apos;arrêt</translation>
     </message>
     <message>
         <source>Speed, time left and items found</source>
@@ -337,7 +337,7 @@ La carte est seulement lue, jamais écrite. Cessez de l'utiliser tant que vous n
     </message>
     <message>
         <source>To the screen before (Alt+Left)</source>
-        <translation>Vers l'écran précédent (Alt+Gauche)</translation>
+        <translation>Vers l&apos;écran précédent (Alt+Gauche)</translation>
     </message>
     <message>
         <source>&amp;Next ›</source>
@@ -349,7 +349,7 @@ La carte est seulement lue, jamais écrite. Cessez de l'utiliser tant que vous n
     </message>
     <message>
         <source>To the next screen (Return)</source>
-        <translation>Vers l'écran suivant (Entrée)</translation>
+        <translation>Vers l&apos;écran suivant (Entrée)</translation>
     </message>
 </context>
 <context>
@@ -380,15 +380,15 @@ La carte est seulement lue, jamais écrite. Cessez de l'utiliser tant que vous n
     </message>
     <message>
         <source>Open an image file of a medium</source>
-        <translation>Ouvrir le fichier image d'un support</translation>
+        <translation>Ouvrir le fichier image d&apos;un support</translation>
     </message>
     <message>
         <source>Search a copy of a medium that was saved as a file (Ctrl+O)</source>
-        <translation>Rechercher dans la copie d'un support enregistrée sous forme de fichier (Ctrl+O)</translation>
+        <translation>Rechercher dans la copie d&apos;un support enregistrée sous forme de fichier (Ctrl+O)</translation>
     </message>
     <message>
         <source>What was lost?</source>
-        <translation>Qu'avez-vous perdu ?</translation>
+        <translation>Qu&apos;avez-vous perdu ?</translation>
     </message>
     <message>
         <source>Recovery mode</source>
@@ -400,7 +400,7 @@ La carte est seulement lue, jamais écrite. Cessez de l'utiliser tant que vous n
     </message>
     <message>
         <source>Pictures from cameras and phones, shown as thumbnails while they are found.</source>
-        <translation>Images d'appareils photo et de téléphones, affichées en vignettes dès qu'elles sont trouvées.</translation>
+        <translation>Images d&apos;appareils photo et de téléphones, affichées en vignettes dès qu&apos;elles sont trouvées.</translation>
     </message>
     <message>
         <source>Video</source>
@@ -463,19 +463,19 @@ La carte est seulement lue, jamais écrite. Cessez de l'utiliser tant que vous n
     </message>
     <message>
         <source>What is ticked for saving</source>
-        <translation>Ce qui est coché pour l'enregistrement</translation>
+        <translation>Ce qui est coché pour l&apos;enregistrement</translation>
     </message>
     <message>
         <source>Tic&amp;k Shown</source>
-        <translation>Coc&amp;her l'affiché</translation>
+        <translation>Coc&amp;her l&apos;affiché</translation>
     </message>
     <message>
         <source>Tick all that is shown for saving</source>
-        <translation>Cocher tout ce qui est affiché pour l'enregistrement</translation>
+        <translation>Cocher tout ce qui est affiché pour l&apos;enregistrement</translation>
     </message>
     <message>
         <source>Tick all that is shown for saving; Insert and Delete tick and untick the selected items</source>
-        <translation>Cocher tout ce qui est affiché pour l'enregistrement ; Inser et Suppr cochent et décochent les éléments sélectionnés</translation>
+        <translation>Cocher tout ce qui est affiché pour l&apos;enregistrement ; Inser et Suppr cochent et décochent les éléments sélectionnés</translation>
     </message>
     <message>
         <source>&amp;Invert Ticks</source>
@@ -487,7 +487,7 @@ La carte est seulement lue, jamais écrite. Cessez de l'utiliser tant que vous n
     </message>
     <message>
         <source>Tick what is not ticked of what is shown, and untick the rest of it</source>
-        <translation>Cocher ce qui n'est pas coché parmi ce qui est affiché, et décocher le reste</translation>
+        <translation>Cocher ce qui n&apos;est pas coché parmi ce qui est affiché, et décocher le reste</translation>
     </message>
     <message>
         <source>Open &amp;Folder</source>
@@ -519,7 +519,7 @@ La carte est seulement lue, jamais écrite. Cessez de l'utiliser tant que vous n
     </message>
     <message>
         <source>Options for saving</source>
-        <translation>Options d'enregistrement</translation>
+        <translation>Options d&apos;enregistrement</translation>
     </message>
     <message>
         <source>How items are saved: names and folders, without small ones, duplicates, report</source>
@@ -604,7 +604,7 @@ Veuillez sélectionner au moins un type de fichier.</translation>
     </message>
     <message>
         <source>“%1” is no file.</source>
-        <translation>« %1 » n'est pas un fichier.</translation>
+        <translation>« %1 » n&apos;est pas un fichier.</translation>
     </message>
     <message>
         <source>The map “%1” belongs to another copy. Please choose another name.</source>
@@ -612,23 +612,23 @@ Veuillez sélectionner au moins un type de fichier.</translation>
     </message>
     <message>
         <source>“%1” is a copy of a medium of another size. Please choose another name.</source>
-        <translation>« %1 » est la copie d'un support d'une autre taille. Veuillez choisir un autre nom.</translation>
+        <translation>« %1 » est la copie d&apos;un support d&apos;une autre taille. Veuillez choisir un autre nom.</translation>
     </message>
     <message>
         <source>“%1” cannot be written: %2.</source>
-        <translation>Impossible d'écrire « %1 » : %2.</translation>
+        <translation>Impossible d&apos;écrire « %1 » : %2.</translation>
     </message>
     <message>
         <source>“%1” is being written by another search.</source>
-        <translation>« %1 » est en cours d'écriture par une autre recherche.</translation>
+        <translation>« %1 » est en cours d&apos;écriture par une autre recherche.</translation>
     </message>
     <message>
         <source>“%1” is there already, and no map beside it says that it is a copy to go on with. Please choose another name.</source>
-        <translation>« %1 » existe déjà, et aucune carte (map) à côté n'indique que c'est une copie à poursuivre. Veuillez choisir un autre nom.</translation>
+        <translation>« %1 » existe déjà, et aucune carte (map) à côté n&apos;indique que c&apos;est une copie à poursuivre. Veuillez choisir un autre nom.</translation>
     </message>
     <message>
         <source>“%1” cannot be written: %2</source>
-        <translation>Impossible d'écrire « %1 » : %2</translation>
+        <translation>Impossible d&apos;écrire « %1 » : %2</translation>
     </message>
     <message>
         <source>The map “%1” cannot be used: %2</source>
@@ -636,11 +636,11 @@ Veuillez sélectionner au moins un type de fichier.</translation>
     </message>
     <message>
         <source>it is no file</source>
-        <translation>ce n'est pas un fichier</translation>
+        <translation>ce n&apos;est pas un fichier</translation>
     </message>
     <message>
         <source>it is not there</source>
-        <translation>elle n'existe pas</translation>
+        <translation>elle n&apos;existe pas</translation>
     </message>
     <message>
         <source>it is too large for a map</source>
@@ -648,7 +648,7 @@ Veuillez sélectionner au moins un type de fichier.</translation>
     </message>
     <message>
         <source>The map “%1” cannot be written: %2</source>
-        <translation>Impossible d'écrire la carte « %1 » (map) : %2</translation>
+        <translation>Impossible d&apos;écrire la carte « %1 » (map) : %2</translation>
     </message>
     <message>
         <source>the line is too long</source>
@@ -656,7 +656,7 @@ Veuillez sélectionner au moins un type de fichier.</translation>
     </message>
     <message>
         <source>there is no line that tells the position</source>
-        <translation>aucune ligne n'indique la position</translation>
+        <translation>aucune ligne n&apos;indique la position</translation>
     </message>
     <message>
         <source>a position, one of ?*/-FG+ and a pass are expected</source>
@@ -688,39 +688,39 @@ Veuillez sélectionner au moins un type de fichier.</translation>
     </message>
     <message>
         <source>“%1” is no image file.</source>
-        <translation>« %1 » n'est pas un fichier image.</translation>
+        <translation>« %1 » n&apos;est pas un fichier image.</translation>
     </message>
     <message>
         <source>“%1” cannot be opened: %2.</source>
-        <translation>Impossible d'ouvrir « %1 » : %2.</translation>
+        <translation>Impossible d&apos;ouvrir « %1 » : %2.</translation>
     </message>
     <message>
         <source>“%1” is empty. Please choose an image file of a storage medium.</source>
-        <translation>« %1 » est vide. Veuillez choisir le fichier image d'un support de stockage.</translation>
+        <translation>« %1 » est vide. Veuillez choisir le fichier image d&apos;un support de stockage.</translation>
     </message>
     <message>
         <source>“%1” cannot be opened.</source>
-        <translation>Impossible d'ouvrir « %1 ».</translation>
+        <translation>Impossible d&apos;ouvrir « %1 ».</translation>
     </message>
     <message>
         <source>“%1” is a copy of another medium.</source>
-        <translation>« %1 » est la copie d'un autre support.</translation>
+        <translation>« %1 » est la copie d&apos;un autre support.</translation>
     </message>
     <message>
         <source>The copy “%1” ends here: %2. What it does not hold is read from the medium.</source>
-        <translation>La copie « %1 » s'arrête ici : %2. Ce qu'elle ne contient pas est lu sur le support.</translation>
+        <translation>La copie « %1 » s&apos;arrête ici : %2. Ce qu&apos;elle ne contient pas est lu sur le support.</translation>
     </message>
     <message>
         <source>You may not read this card. Search again and allow it when you are asked for the password, or ask the administrator of this computer for the right to read storage media.</source>
-        <translation>Vous n'avez pas le droit de lire cette carte. Relancez la recherche et accordez-le quand le mot de passe vous est demandé, ou demandez à l'administrateur de cet ordinateur le droit de lire les supports de stockage.</translation>
+        <translation>Vous n&apos;avez pas le droit de lire cette carte. Relancez la recherche et accordez-le quand le mot de passe vous est demandé, ou demandez à l&apos;administrateur de cet ordinateur le droit de lire les supports de stockage.</translation>
     </message>
     <message>
         <source>You may not read this image file. Ask its owner for the right to read it, or for a copy.</source>
-        <translation>Vous n'avez pas le droit de lire ce fichier image. Demandez à son propriétaire le droit de le lire, ou une copie.</translation>
+        <translation>Vous n&apos;avez pas le droit de lire ce fichier image. Demandez à son propriétaire le droit de le lire, ou une copie.</translation>
     </message>
     <message>
         <source>The medium is not there any more. Put it back in and try again.</source>
-        <translation>Le support n'est plus là. Remettez-le en place et réessayez.</translation>
+        <translation>Le support n&apos;est plus là. Remettez-le en place et réessayez.</translation>
     </message>
     <message>
         <source>Another medium is in its place now. Go back to the list of media and choose again.</source>
@@ -728,15 +728,15 @@ Veuillez sélectionner au moins un type de fichier.</translation>
     </message>
     <message>
         <source>Please unpack it first and open the image file that is inside.</source>
-        <translation>Veuillez d'abord le décompresser et ouvrir le fichier image qu'il contient.</translation>
+        <translation>Veuillez d&apos;abord le décompresser et ouvrir le fichier image qu&apos;il contient.</translation>
     </message>
     <message>
         <source>Please convert it to a raw image first (for example with “qemu-img convert -O raw”) and open that.</source>
-        <translation>Veuillez d'abord le convertir en image brute (par exemple avec « qemu-img convert -O raw ») et ouvrir celle-ci.</translation>
+        <translation>Veuillez d&apos;abord le convertir en image brute (par exemple avec « qemu-img convert -O raw ») et ouvrir celle-ci.</translation>
     </message>
     <message>
         <source>Please convert it to a raw image first and open that.</source>
-        <translation>Veuillez d'abord le convertir en image brute et ouvrir celle-ci.</translation>
+        <translation>Veuillez d&apos;abord le convertir en image brute et ouvrir celle-ci.</translation>
     </message>
     <message>
         <source>“%1” is packed (%2) and cannot be searched as it stands. %3</source>
@@ -748,11 +748,11 @@ Veuillez sélectionner au moins un type de fichier.</translation>
     </message>
     <message>
         <source>The image is in more than %1 parts; please join them into one file first</source>
-        <translation>L'image est en plus de %1 parties ; veuillez d'abord les réunir en un seul fichier</translation>
+        <translation>L&apos;image est en plus de %1 parties ; veuillez d&apos;abord les réunir en un seul fichier</translation>
     </message>
     <message>
         <source>A part of the image is missing: %1</source>
-        <translation>Une partie de l'image manque : %1</translation>
+        <translation>Une partie de l&apos;image manque : %1</translation>
     </message>
     <message>
         <source>Please enter valid Start Sector value.</source>
@@ -775,7 +775,7 @@ End Sector should be greater than Start Sector.</source>
 Le secteur de fin doit être supérieur au secteur de début.</translation>
     </message>
     <message>
-        <source>This card reads as erased: beside its file system's own sectors, all places looked at are empty. Some cameras and programs erase the whole card when they format it, and then nothing can be found.</source>
+        <source>This card reads as erased: beside its file system&apos;s own sectors, all places looked at are empty. Some cameras and programs erase the whole card when they format it, and then nothing can be found.</source>
         <translation>Cette carte se lit comme effacée : hormis les secteurs de son système de fichiers, tous les endroits examinés sont vides. Certains appareils et programmes effacent toute la carte en la formatant, et alors rien ne peut être trouvé.</translation>
     </message>
     <message>
@@ -840,7 +840,7 @@ Le secteur de fin doit être supérieur au secteur de début.</translation>
     </message>
     <message>
         <source>ends where it says, content not checked</source>
-        <translation>se termine où il l'indique, contenu non vérifié</translation>
+        <translation>se termine où il l&apos;indique, contenu non vérifié</translation>
     </message>
     <message>
         <source>cut off</source>
@@ -863,7 +863,7 @@ Le secteur de fin doit être supérieur au secteur de début.</translation>
     </message>
     <message>
         <source>not all of its sectors could be read</source>
-        <translation>tous ses secteurs n'ont pas pu être lus</translation>
+        <translation>tous ses secteurs n&apos;ont pas pu être lus</translation>
     </message>
     <message>
         <source>%1 × %2 pixels</source>
@@ -879,11 +879,11 @@ Le secteur de fin doit être supérieur au secteur de début.</translation>
     </message>
     <message>
         <source>%1. The copy will end there; the search goes on from the medium.</source>
-        <translation>%1. La copie s'arrêtera là ; la recherche continuera depuis le support.</translation>
+        <translation>%1. La copie s&apos;arrêtera là ; la recherche continuera depuis le support.</translation>
     </message>
     <message>
         <source>Files on this disk can have 4 GB at most. The copy will end there; the search goes on from the medium.</source>
-        <translation>Les fichiers de ce disque ne peuvent dépasser 4 Go. La copie s'arrêtera là ; la recherche continuera depuis le support.</translation>
+        <translation>Les fichiers de ce disque ne peuvent dépasser 4 Go. La copie s&apos;arrêtera là ; la recherche continuera depuis le support.</translation>
     </message>
     <message>
         <source>The disk of the copy takes only %1 a second: a whole copy takes about %2 minutes.</source>
@@ -906,15 +906,15 @@ Le secteur de fin doit être supérieur au secteur de début.</translation>
     </message>
     <message>
         <source>reading around them</source>
-        <translation>lecture autour d'eux</translation>
+        <translation>lecture autour d&apos;eux</translation>
     </message>
     <message>
         <source>the medium is gone</source>
-        <translation>le support n'est plus là</translation>
+        <translation>le support n&apos;est plus là</translation>
     </message>
     <message>
         <source>the copy has ended</source>
-        <translation>la copie s'est arrêtée</translation>
+        <translation>la copie s&apos;est arrêtée</translation>
     </message>
     <message>
         <source>another medium</source>
@@ -933,23 +933,23 @@ Le secteur de fin doit être supérieur au secteur de début.</translation>
     </message>
     <message>
         <source>The folder %1 is not there.</source>
-        <translation>Le dossier %1 n'existe pas.</translation>
+        <translation>Le dossier %1 n&apos;existe pas.</translation>
     </message>
     <message>
         <source>%1 is not a folder.</source>
-        <translation>%1 n'est pas un dossier.</translation>
+        <translation>%1 n&apos;est pas un dossier.</translation>
     </message>
     <message>
         <source>Nothing can be written into the folder %1: %2.</source>
-        <translation>Impossible d'écrire dans le dossier %1 : %2.</translation>
+        <translation>Impossible d&apos;écrire dans le dossier %1 : %2.</translation>
     </message>
     <message>
         <source>%1 lies on a FAT file system, which takes no file of 4 GiB or more, and %2 are needed</source>
-        <translation>%1 se trouve sur un système de fichiers FAT, qui n'accepte pas de fichier de 4 Gio ou plus, et %2 sont nécessaires</translation>
+        <translation>%1 se trouve sur un système de fichiers FAT, qui n&apos;accepte pas de fichier de 4 Gio ou plus, et %2 sont nécessaires</translation>
     </message>
     <message>
         <source>There is not enough room in %1: %2 are needed, %3 are free</source>
-        <translation>Il n'y a pas assez de place dans %1 : %2 sont nécessaires, %3 sont libres</translation>
+        <translation>Il n&apos;y a pas assez de place dans %1 : %2 sont nécessaires, %3 sont libres</translation>
     </message>
     <message>
         <source>Cancelled</source>
@@ -957,7 +957,7 @@ Le secteur de fin doit être supérieur au secteur de début.</translation>
     </message>
     <message>
         <source>The folder %1 is no longer there</source>
-        <translation>Le dossier %1 n'est plus là</translation>
+        <translation>Le dossier %1 n&apos;est plus là</translation>
     </message>
     <message>
         <source>The folder %1 lies on the medium that is searched</source>
@@ -977,7 +977,7 @@ Le secteur de fin doit être supérieur au secteur de début.</translation>
     </message>
     <message>
         <source>None of its sectors could be read</source>
-        <translation>Aucun de ses secteurs n'a pu être lu</translation>
+        <translation>Aucun de ses secteurs n&apos;a pu être lu</translation>
     </message>
     <message>
         <source>still there</source>
@@ -1040,7 +1040,7 @@ Le secteur de fin doit être supérieur au secteur de début.</translation>
     </message>
     <message>
         <source>Ends where it says</source>
-        <translation>Se terminent où ils l'indiquent</translation>
+        <translation>Se terminent où ils l&apos;indiquent</translation>
     </message>
     <message>
         <source>Cut off</source>
@@ -1076,7 +1076,7 @@ Le secteur de fin doit être supérieur au secteur de début.</translation>
     </message>
     <message>
         <source>same bytes as an earlier file; %1</source>
-        <translation>mêmes octets qu'un fichier précédent ; %1</translation>
+        <translation>mêmes octets qu&apos;un fichier précédent ; %1</translation>
     </message>
     <message>
         <source>%1 to %2</source>
@@ -1152,7 +1152,7 @@ Le secteur de fin doit être supérieur au secteur de début.</translation>
     </message>
     <message>
         <source>The report cannot be written into %1: %2</source>
-        <translation>Impossible d'écrire le rapport dans %1 : %2</translation>
+        <translation>Impossible d&apos;écrire le rapport dans %1 : %2</translation>
     </message>
     <message>
         <source>Skipped</source>
@@ -1164,7 +1164,7 @@ Le secteur de fin doit être supérieur au secteur de début.</translation>
     </message>
     <message>
         <source>%1 could not be saved:</source>
-        <translation>%1 n'ont pas pu être enregistrés :</translation>
+        <translation>%1 n&apos;ont pas pu être enregistrés :</translation>
     </message>
     <message numerus="yes">
         <source>   and %1 more</source>
@@ -1186,11 +1186,11 @@ Le secteur de fin doit être supérieur au secteur de début.</translation>
     </message>
     <message>
         <source>Nothing new was saved.</source>
-        <translation>Rien de nouveau n'a été enregistré.</translation>
+        <translation>Rien de nouveau n&apos;a été enregistré.</translation>
     </message>
     <message>
         <source>Nothing was saved.</source>
-        <translation>Rien n'a été enregistré.</translation>
+        <translation>Rien n&apos;a été enregistré.</translation>
     </message>
     <message>
         <source>1 file was saved.</source>
@@ -1209,7 +1209,7 @@ Le secteur de fin doit être supérieur au secteur de début.</translation>
     </message>
     <message>
         <source>%1 could only be read in part; what could not be read is filled with zeros.</source>
-        <translation>Lecture partielle seulement : %1 ; ce qui n'a pas pu être lu est rempli de zéros.</translation>
+        <translation>Lecture partielle seulement : %1 ; ce qui n&apos;a pas pu être lu est rempli de zéros.</translation>
     </message>
     <message>
         <source>Left out: %1, %2.</source>
@@ -1221,7 +1221,7 @@ Le secteur de fin doit être supérieur au secteur de début.</translation>
     </message>
     <message>
         <source>smaller than you asked for</source>
-        <translation>plus petit que vous ne l'avez demandé</translation>
+        <translation>plus petit que vous ne l&apos;avez demandé</translation>
     </message>
     <message>
         <source>certainly no files of their type</source>
@@ -1241,7 +1241,7 @@ Le secteur de fin doit être supérieur au secteur de début.</translation>
     </message>
     <message>
         <source>The rest was not saved because you cancelled.</source>
-        <translation>Le reste n'a pas été enregistré parce que vous avez annulé.</translation>
+        <translation>Le reste n&apos;a pas été enregistré parce que vous avez annulé.</translation>
     </message>
     <message>
         <source>“%1” in the destination folder tells more of each file.</source>
@@ -1257,8 +1257,8 @@ Le secteur de fin doit être supérieur au secteur de début.</translation>
     <message numerus="yes">
         <source>%1 ending where they say (content not checked)</source>
         <translation>
-            <numerusform>%1 se termine où il l'indique (contenu non vérifié)</numerusform>
-            <numerusform>%1 se terminent où ils l'indiquent (contenu non vérifié)</numerusform>
+            <numerusform>%1 se termine où il l&apos;indique (contenu non vérifié)</numerusform>
+            <numerusform>%1 se terminent où ils l&apos;indiquent (contenu non vérifié)</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1303,8 +1303,8 @@ Le secteur de fin doit être supérieur au secteur de début.</translation>
     <message numerus="yes">
         <source>%1 of them have sectors that could not be read</source>
         <translation>
-            <numerusform>%1 d'entre eux a des secteurs qui n'ont pas pu être lus</numerusform>
-            <numerusform>%1 d'entre eux ont des secteurs qui n'ont pas pu être lus</numerusform>
+            <numerusform>%1 d&apos;entre eux a des secteurs qui n&apos;ont pas pu être lus</numerusform>
+            <numerusform>%1 d&apos;entre eux ont des secteurs qui n&apos;ont pas pu être lus</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -1338,7 +1338,7 @@ Le secteur de fin doit être supérieur au secteur de début.</translation>
     <message numerus="yes">
         <source>%1 left out: parts of files that are saved whole</source>
         <translation>
-            <numerusform>%1 laissé de côté : partie d'un fichier enregistré en entier</numerusform>
+            <numerusform>%1 laissé de côté : partie d&apos;un fichier enregistré en entier</numerusform>
             <numerusform>%1 laissés de côté : parties de fichiers enregistrés en entier</numerusform>
         </translation>
     </message>
@@ -1389,7 +1389,7 @@ Pour choisir un autre disque à récupérer, cliquez sur le bouton ‘Retour’.
     </message>
     <message>
         <source>( Currently performing Search based on: Vantor Thorough Scanning Alogrithm )</source>
-        <translation>( Recherche en cours selon : algorithme d'analyse approfondie Vantor )</translation>
+        <translation>( Recherche en cours selon : algorithme d&apos;analyse approfondie Vantor )</translation>
     </message>
     <message>
         <source>
@@ -1425,13 +1425,13 @@ Erreur de lecture du support de stockage.</translation>
     </message>
     <message>
         <source>The search has completed, but 1 sector could not be read.</source>
-        <translation>La recherche est terminée, mais 1 secteur n'a pas pu être lu.</translation>
+        <translation>La recherche est terminée, mais 1 secteur n&apos;a pas pu être lu.</translation>
     </message>
     <message numerus="yes">
         <source>The search has completed, but %1 sectors could not be read.</source>
         <translation>
-            <numerusform>La recherche est terminée, mais %1 secteur n'a pas pu être lu.</numerusform>
-            <numerusform>La recherche est terminée, mais %1 secteurs n'ont pas pu être lus.</numerusform>
+            <numerusform>La recherche est terminée, mais %1 secteur n&apos;a pas pu être lu.</numerusform>
+            <numerusform>La recherche est terminée, mais %1 secteurs n&apos;ont pas pu être lus.</numerusform>
         </translation>
     </message>
     <message>
@@ -1440,15 +1440,15 @@ Erreur de lecture du support de stockage.</translation>
     </message>
     <message>
         <source>The medium could not be opened again for the thorough search.</source>
-        <translation>Le support n'a pas pu être rouvert pour la recherche approfondie.</translation>
+        <translation>Le support n&apos;a pas pu être rouvert pour la recherche approfondie.</translation>
     </message>
     <message>
         <source>The medium could not be opened.</source>
-        <translation>Le support n'a pas pu être ouvert.</translation>
+        <translation>Le support n&apos;a pas pu être ouvert.</translation>
     </message>
     <message>
         <source>%1 had nothing to look for.</source>
-        <translation>%1 n'avait rien à chercher.</translation>
+        <translation>%1 n&apos;avait rien à chercher.</translation>
     </message>
     <message>
         <source>The medium was taken out or stopped answering at %1.</source>
@@ -1456,7 +1456,7 @@ Erreur de lecture du support de stockage.</translation>
     </message>
     <message>
         <source>%1 ended with a read error at %2.</source>
-        <translation>%1 s'est terminée par une erreur de lecture au %2.</translation>
+        <translation>%1 s&apos;est terminée par une erreur de lecture au %2.</translation>
     </message>
     <message>
         <source>The general search before it was complete.</source>
@@ -1472,7 +1472,7 @@ Erreur de lecture du support de stockage.</translation>
     </message>
     <message>
         <source>It is not a search that this program has kept.</source>
-        <translation>Ce n'est pas une recherche conservée par ce programme.</translation>
+        <translation>Ce n&apos;est pas une recherche conservée par ce programme.</translation>
     </message>
     <message>
         <source>The file is damaged.</source>
@@ -1488,11 +1488,11 @@ Erreur de lecture du support de stockage.</translation>
     </message>
     <message>
         <source>Of %1 sectors of “%2” %3 were not read, says its map.</source>
-        <translation>Sur %1 secteurs de « %2 », %3 n'ont pas été lus, d'après sa carte (map).</translation>
+        <translation>Sur %1 secteurs de « %2 », %3 n&apos;ont pas été lus, d&apos;après sa carte (map).</translation>
     </message>
     <message>
         <source>“%1” is neither a file nor a storage medium of this machine.</source>
-        <translation>« %1 » n'est ni un fichier ni un support de stockage de cet ordinateur.</translation>
+        <translation>« %1 » n&apos;est ni un fichier ni un support de stockage de cet ordinateur.</translation>
     </message>
     <message>
         <source>Broken files were left as they are: the medium cannot be opened.</source>
@@ -1508,11 +1508,11 @@ Erreur de lecture du support de stockage.</translation>
     </message>
     <message>
         <source>Movies are not searched for in photo mode, so none is completed</source>
-        <translation>Les films ne sont pas recherchés en mode photo, donc aucun n'est complété</translation>
+        <translation>Les films ne sont pas recherchés en mode photo, donc aucun n&apos;est complété</translation>
     </message>
     <message>
         <source>Movies are not searched for in photo mode, so none is repaired</source>
-        <translation>Les films ne sont pas recherchés en mode photo, donc aucun n'est réparé</translation>
+        <translation>Les films ne sont pas recherchés en mode photo, donc aucun n&apos;est réparé</translation>
     </message>
     <message numerus="yes">
         <source>%1: complete, from %2 pieces</source>
@@ -1530,7 +1530,7 @@ Erreur de lecture du support de stockage.</translation>
     </message>
     <message>
         <source>Copy the medium into this image file while it is searched, each sector read once; searching and saving then read the copy. FILE.map says what was read. A copy that is there already is gone on with, also one of GNU ddrescue.</source>
-        <translation>Copier le support dans ce fichier image pendant la recherche, chaque secteur lu une seule fois ; la recherche et l'enregistrement lisent ensuite la copie. FILE.map indique ce qui a été lu. Une copie déjà présente est poursuivie, même celle de GNU ddrescue.</translation>
+        <translation>Copier le support dans ce fichier image pendant la recherche, chaque secteur lu une seule fois ; la recherche et l&apos;enregistrement lisent ensuite la copie. FILE.map indique ce qui a été lu. Une copie déjà présente est poursuivie, même celle de GNU ddrescue.</translation>
     </message>
     <message>
         <source>With --image: read also the sectors that lie between bad ones far apart, one by one; may take very long.</source>
@@ -1538,7 +1538,7 @@ Erreur de lecture du support de stockage.</translation>
     </message>
     <message>
         <source>The map of the image MEDIUM, as GNU ddrescue writes it: what it does not call rescued counts as unreadable. Without this the map beside the image is used, if there is one (card.img.map, card.map, also .mapfile and .log).</source>
-        <translation>La carte (map) de l'image MEDIUM, telle que GNU ddrescue l'écrit : ce qu'elle ne dit pas sauvé compte comme illisible. Sans cette option, la carte à côté de l'image est utilisée s'il y en a une (card.img.map, card.map, aussi .mapfile et .log).</translation>
+        <translation>La carte (map) de l&apos;image MEDIUM, telle que GNU ddrescue l&apos;écrit : ce qu&apos;elle ne dit pas sauvé compte comme illisible. Sans cette option, la carte à côté de l&apos;image est utilisée s&apos;il y en a une (card.img.map, card.map, aussi .mapfile et .log).</translation>
     </message>
     <message>
         <source>--map takes a file.</source>
@@ -1558,19 +1558,19 @@ Erreur de lecture du support de stockage.</translation>
     </message>
     <message>
         <source>The medium %1 cannot be opened.</source>
-        <translation>Impossible d'ouvrir le support %1.</translation>
+        <translation>Impossible d&apos;ouvrir le support %1.</translation>
     </message>
     <message>
         <source>%1 is not the medium that was searched.</source>
-        <translation>%1 n'est pas le support qui a été parcouru.</translation>
+        <translation>%1 n&apos;est pas le support qui a été parcouru.</translation>
     </message>
     <message>
         <source>The medium cannot be opened.</source>
-        <translation>Impossible d'ouvrir le support.</translation>
+        <translation>Impossible d&apos;ouvrir le support.</translation>
     </message>
     <message>
-        <source>The medium's directories could not be read.</source>
-        <translation>Les répertoires du support n'ont pas pu être lus.</translation>
+        <source>The medium&apos;s directories could not be read.</source>
+        <translation>Les répertoires du support n&apos;ont pas pu être lus.</translation>
     </message>
     <message>
         <source>Name</source>
@@ -1598,7 +1598,7 @@ Erreur de lecture du support de stockage.</translation>
     </message>
     <message>
         <source>%1 is no whole MP4 or QuickTime movie of a kind that can be repaired.</source>
-        <translation>%1 n'est pas un film MP4 ou QuickTime entier d'un genre réparable.</translation>
+        <translation>%1 n&apos;est pas un film MP4 ou QuickTime entier d&apos;un genre réparable.</translation>
     </message>
     <message>
         <source>%1 of %2 movies without an index repaired</source>
@@ -1606,7 +1606,7 @@ Erreur de lecture du support de stockage.</translation>
     </message>
     <message>
         <source>%1: no whole movie of its camera was found</source>
-        <translation>%1 : aucun film entier de son appareil n'a été trouvé</translation>
+        <translation>%1 : aucun film entier de son appareil n&apos;a été trouvé</translation>
     </message>
     <message>
         <source>%1: no picture found</source>
@@ -1624,8 +1624,8 @@ Ctrl-C ends the search as the Stop button does: all that was found until then is
 The medium is only ever read.
 </source>
         <translation>
-Codes de sortie : 0 terminé, 2 mauvaise utilisation, 3 arrêté, 4 le support n'a pas pu être lu jusqu'au bout, 5 le support
-ne peut pas être ouvert, 6 quelque chose de trouvé n'a pas pu être enregistré.
+Codes de sortie : 0 terminé, 2 mauvaise utilisation, 3 arrêté, 4 le support n&apos;a pas pu être lu jusqu&apos;au bout, 5 le support
+ne peut pas être ouvert, 6 quelque chose de trouvé n&apos;a pas pu être enregistré.
 Ctrl-C termine la recherche comme le bouton Arrêter : tout ce qui a été trouvé jusque-là est gardé et enregistré.
 Le support est seulement lu.
 </translation>
@@ -1638,7 +1638,7 @@ Essayez --help.</translation>
     </message>
     <message>
         <source>Finds photos, videos and other files on a storage medium by the bytes that begin them.</source>
-        <translation>Trouve des photos, des vidéos et d'autres fichiers sur un support de stockage d'après leurs premiers octets.</translation>
+        <translation>Trouve des photos, des vidéos et d&apos;autres fichiers sur un support de stockage d&apos;après leurs premiers octets.</translation>
     </message>
     <message>
         <source>Show this help.</source>
@@ -1658,7 +1658,7 @@ Essayez --help.</translation>
     </message>
     <message>
         <source>Only the sectors from START up to, not including, END.</source>
-        <translation>Seulement les secteurs de START jusqu'à END non compris.</translation>
+        <translation>Seulement les secteurs de START jusqu&apos;à END non compris.</translation>
     </message>
     <message>
         <source>Leave out the thorough pass of photo mode.</source>
@@ -1666,7 +1666,7 @@ Essayez --help.</translation>
     </message>
     <message>
         <source>Ask the medium again for bad sectors in the thorough pass and for saving.</source>
-        <translation>Redemander au support les secteurs défectueux, lors du passage approfondi et pour l'enregistrement.</translation>
+        <translation>Redemander au support les secteurs défectueux, lors du passage approfondi et pour l&apos;enregistrement.</translation>
     </message>
     <message>
         <source>Keep the search in FILE, so that --resume can go on with it.</source>
@@ -1689,7 +1689,7 @@ Essayez --help.</translation>
         <translation>Afficher les supports de stockage de cet ordinateur (en JSON avec --list-json) sans rien chercher.</translation>
     </message>
     <message>
-        <source>Print what the medium's own directories tell of its files, those that are there and those that were, as one JSON object each, and search nothing.</source>
+        <source>Print what the medium&apos;s own directories tell of its files, those that are there and those that were, as one JSON object each, and search nothing.</source>
         <translation>Afficher ce que les répertoires du support disent de ses fichiers, présents et passés, un objet JSON pour chacun, sans rien chercher.</translation>
     </message>
     <message>
@@ -1698,23 +1698,23 @@ Essayez --help.</translation>
     </message>
     <message>
         <source>Say nothing but what went wrong, and no progress.</source>
-        <translation>Ne rien dire d'autre que ce qui a échoué, et sans progression.</translation>
+        <translation>Ne rien dire d&apos;autre que ce qui a échoué, et sans progression.</translation>
     </message>
     <message>
-        <source>Speak this language (en, de, fr, es, it, pt_BR, nl, pl, ja or zh_CN) in place of the desktop's; with --list-json it is English always.</source>
-        <translation>Parler cette langue (en, de, fr, es, it, pt_BR, nl, pl, ja ou zh_CN) au lieu de celle du bureau ; avec --list-json, toujours l'anglais.</translation>
+        <source>Speak this language (en, de, fr, es, it, pt_BR, nl, pl, ja or zh_CN) in place of the desktop&apos;s; with --list-json it is English always.</source>
+        <translation>Parler cette langue (en, de, fr, es, it, pt_BR, nl, pl, ja ou zh_CN) au lieu de celle du bureau ; avec --list-json, toujours l&apos;anglais.</translation>
     </message>
     <message>
-        <source>An image file, a device's identifier (sdb1) or its path (/dev/sdb1).</source>
-        <translation>Un fichier image, l'identifiant d'un périphérique (sdb1) ou son chemin (/dev/sdb1).</translation>
+        <source>An image file, a device&apos;s identifier (sdb1) or its path (/dev/sdb1).</source>
+        <translation>Un fichier image, l&apos;identifiant d&apos;un périphérique (sdb1) ou son chemin (/dev/sdb1).</translation>
     </message>
     <message>
-        <source>Unknown mode "%1".</source>
+        <source>Unknown mode &quot;%1&quot;.</source>
         <translation>Mode inconnu « %1 ».</translation>
     </message>
     <message>
         <source>What to search for stands in the file of --resume.</source>
-        <translation>Ce qu'il faut chercher se trouve dans le fichier de --resume.</translation>
+        <translation>Ce qu&apos;il faut chercher se trouve dans le fichier de --resume.</translation>
     </message>
     <message>
         <source>No file given to keep the search in.</source>
@@ -1746,7 +1746,7 @@ Essayez --help.</translation>
     </message>
     <message>
         <source>More than one medium given.</source>
-        <translation>Plus d'un support indiqué.</translation>
+        <translation>Plus d&apos;un support indiqué.</translation>
     </message>
     <message>
         <source>Completing broken files: %1 of %2</source>
@@ -1758,11 +1758,11 @@ Essayez --help.</translation>
     </message>
     <message>
         <source>The folder %1 cannot be written to.</source>
-        <translation>Impossible d'écrire dans le dossier %1.</translation>
+        <translation>Impossible d&apos;écrire dans le dossier %1.</translation>
     </message>
     <message>
         <source>%1 cannot be copied: its size is not known.</source>
-        <translation>%1 ne peut pas être copié : sa taille n'est pas connue.</translation>
+        <translation>%1 ne peut pas être copié : sa taille n&apos;est pas connue.</translation>
     </message>
     <message>
         <source>The folder %1 holds no signature catalogue that can be read.</source>
@@ -1786,27 +1786,27 @@ Essayez --help.</translation>
     </message>
     <message>
         <source>The search could not be kept in %1: %2</source>
-        <translation>La recherche n'a pas pu être conservée dans %1 : %2</translation>
+        <translation>La recherche n&apos;a pas pu être conservée dans %1 : %2</translation>
     </message>
     <message>
         <source>Save what is found as DIR/&lt;type&gt;/&lt;name&gt;, each file as long as its format says and the same bytes once; nothing is overwritten.</source>
-        <translation>Enregistrer ce qui est trouvé sous DIR/&lt;type&gt;/&lt;nom&gt;, chaque fichier aussi long que son format l'indique et les mêmes octets une seule fois ; rien n'est écrasé.</translation>
+        <translation>Enregistrer ce qui est trouvé sous DIR/&lt;type&gt;/&lt;nom&gt;, chaque fichier aussi long que son format l&apos;indique et les mêmes octets une seule fois ; rien n&apos;est écrasé.</translation>
     </message>
     <message>
         <source>Save the sectors of each found item as they are listed, no more and no fewer.</source>
-        <translation>Enregistrer les secteurs de chaque élément trouvé tels qu'ils sont listés, ni plus ni moins.</translation>
+        <translation>Enregistrer les secteurs de chaque élément trouvé tels qu&apos;ils sont listés, ni plus ni moins.</translation>
     </message>
     <message>
-        <source>Write "Recovery report.html" and "Recovery report.csv" beside the saved files.</source>
+        <source>Write &quot;Recovery report.html&quot; and &quot;Recovery report.csv&quot; beside the saved files.</source>
         <translation>Écrire « Recovery report.html » et « Recovery report.csv » à côté des fichiers enregistrés.</translation>
     </message>
     <message>
-        <source>original (default): save under the names that the card's directory still tells, where it does; found: under the listed names.</source>
+        <source>original (default): save under the names that the card&apos;s directory still tells, where it does; found: under the listed names.</source>
         <translation>original (par défaut) : enregistrer sous les noms que le répertoire de la carte indique encore, là où il le fait ; found : sous les noms listés.</translation>
     </message>
     <message>
-        <source>card (default): save in the folders that the card's directory still tells, and what it does not tell in DIR/&lt;type&gt;; type: all in DIR/&lt;type&gt;; date: as DIR/&lt;type&gt;/&lt;date&gt;/&lt;date and time&gt; &lt;name&gt; where a date is known.</source>
-        <translation>card (par défaut) : enregistrer dans les dossiers que le répertoire de la carte indique encore, et ce qu'il n'indique pas dans DIR/&lt;type&gt; ; type : tout dans DIR/&lt;type&gt; ; date : sous DIR/&lt;type&gt;/&lt;date&gt;/&lt;date et heure&gt; &lt;nom&gt; quand une date est connue.</translation>
+        <source>card (default): save in the folders that the card&apos;s directory still tells, and what it does not tell in DIR/&lt;type&gt;; type: all in DIR/&lt;type&gt;; date: as DIR/&lt;type&gt;/&lt;date&gt;/&lt;date and time&gt; &lt;name&gt; where a date is known.</source>
+        <translation>card (par défaut) : enregistrer dans les dossiers que le répertoire de la carte indique encore, et ce qu&apos;il n&apos;indique pas dans DIR/&lt;type&gt; ; type : tout dans DIR/&lt;type&gt; ; date : sous DIR/&lt;type&gt;/&lt;date&gt;/&lt;date et heure&gt; &lt;nom&gt; quand une date est connue.</translation>
     </message>
     <message>
         <source>Do not save what the card still holds as a file.</source>
@@ -1818,7 +1818,7 @@ Essayez --help.</translation>
     </message>
     <message>
         <source>Do not save files of fewer bytes.</source>
-        <translation>Ne pas enregistrer les fichiers de moins d'octets.</translation>
+        <translation>Ne pas enregistrer les fichiers de moins d&apos;octets.</translation>
     </message>
     <message>
         <source>Do not save pictures whose longer side has fewer pixels.</source>
@@ -1830,23 +1830,23 @@ Essayez --help.</translation>
     </message>
     <message>
         <source>Do not save what is certainly no file of its type.</source>
-        <translation>Ne pas enregistrer ce qui n'est certainement pas un fichier de son type.</translation>
+        <translation>Ne pas enregistrer ce qui n&apos;est certainement pas un fichier de son type.</translation>
     </message>
     <message>
-        <source>Save parts of files too, such as a picture's preview or a member of an archive: what lies wholly inside a file that was proved complete, and is left out else.</source>
-        <translation>Enregistrer aussi des parties de fichiers, comme l'aperçu d'une photo ou un membre d'archive : ce qui se trouve entièrement dans un fichier prouvé complet, et qui est sinon laissé de côté.</translation>
+        <source>Save parts of files too, such as a picture&apos;s preview or a member of an archive: what lies wholly inside a file that was proved complete, and is left out else.</source>
+        <translation>Enregistrer aussi des parties de fichiers, comme l&apos;aperçu d&apos;une photo ou un membre d&apos;archive : ce qui se trouve entièrement dans un fichier prouvé complet, et qui est sinon laissé de côté.</translation>
     </message>
     <message>
-        <source>Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as "... complete.MP4", or as "... put together.MP4" where it could not be proved that all pieces are the right ones.</source>
-        <translation>Assembler les films MP4 et QuickTime et les images JPEG ou PNG en morceaux, sous « ... complete.MP4 », ou « ... put together.MP4 » quand il n'a pas pu être prouvé que tous les morceaux sont les bons.</translation>
+        <source>Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
+        <translation>Assembler les films MP4 et QuickTime et les images JPEG ou PNG en morceaux, sous « ... complete.MP4 », ou « ... put together.MP4 » quand il n&apos;a pas pu être prouvé que tous les morceaux sont les bons.</translation>
     </message>
     <message>
-        <source>Write a playable twin, "... repaired.MP4", of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
-        <translation>Écrire un jumeau lisible, « ... repaired.MP4 », de chaque film MP4 ou QuickTime dont l'index n'a jamais été écrit ; un film entier du même appareil doit aussi être trouvé.</translation>
+        <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
+        <translation>Écrire un jumeau lisible, « ... repaired.MP4 », de chaque film MP4 ou QuickTime dont l&apos;index n&apos;a jamais été écrit ; un film entier du même appareil doit aussi être trouvé.</translation>
     </message>
     <message>
         <source>A whole movie of the camera, in place of those that are found (with --repair-movies).</source>
-        <translation>Un film entier de l'appareil, à la place de ceux qui sont trouvés (avec --repair-movies).</translation>
+        <translation>Un film entier de l&apos;appareil, à la place de ceux qui sont trouvés (avec --repair-movies).</translation>
     </message>
     <message>
         <source>--save takes a folder.</source>
@@ -1881,7 +1881,7 @@ Essayez --help.</translation>
         <translation>--min-bytes et --min-pixels demandent un nombre.</translation>
     </message>
     <message numerus="yes">
-        <source>%1 more files that only the card's directory tells of</source>
+        <source>%1 more files that only the card&apos;s directory tells of</source>
         <translation>
             <numerusform>%1 autre fichier que seul le répertoire de la carte indique</numerusform>
             <numerusform>%1 autres fichiers que seul le répertoire de la carte indique</numerusform>
@@ -1889,7 +1889,7 @@ Essayez --help.</translation>
     </message>
     <message>
         <source>  and others</source>
-        <translation>  et d'autres</translation>
+        <translation>  et d&apos;autres</translation>
     </message>
     <message>
         <source>Report: %1</source>
@@ -1909,7 +1909,7 @@ Essayez --help.</translation>
     </message>
     <message>
         <source>Not all items could be read once more; those have no checksum.</source>
-        <translation>Tous les éléments n'ont pas pu être relus ; ceux-là n'ont pas de somme de contrôle.</translation>
+        <translation>Tous les éléments n&apos;ont pas pu être relus ; ceux-là n&apos;ont pas de somme de contrôle.</translation>
     </message>
     <message>
         <source>Copy: %1</source>
@@ -1937,7 +1937,7 @@ Essayez --help.</translation>
     </message>
     <message>
         <source>No photos found yet</source>
-        <translation>Aucune photo trouvée pour l'instant</translation>
+        <translation>Aucune photo trouvée pour l&apos;instant</translation>
     </message>
     <message>
         <source>They appear here as the search goes on.</source>
@@ -1945,7 +1945,7 @@ Essayez --help.</translation>
     </message>
     <message>
         <source>Nothing found yet</source>
-        <translation>Rien de trouvé pour l'instant</translation>
+        <translation>Rien de trouvé pour l&apos;instant</translation>
     </message>
     <message>
         <source>Items appear here as the search goes on.</source>
@@ -1953,11 +1953,11 @@ Essayez --help.</translation>
     </message>
     <message>
         <source>No photos were found</source>
-        <translation>Aucune photo n'a été trouvée</translation>
+        <translation>Aucune photo n&apos;a été trouvée</translation>
     </message>
     <message>
         <source>Nothing was found</source>
-        <translation>Rien n'a été trouvé</translation>
+        <translation>Rien n&apos;a été trouvé</translation>
     </message>
     <message>
         <source>All of it was searched for all types. Try another medium.</source>
@@ -1981,7 +1981,7 @@ Essayez --help.</translation>
     </message>
     <message>
         <source>None of the found items is of this kind</source>
-        <translation>Aucun élément trouvé n'est de ce genre</translation>
+        <translation>Aucun élément trouvé n&apos;est de ce genre</translation>
     </message>
     <message>
         <source>Choose “All items” above to see all that was found: %1.</source>
@@ -1989,7 +1989,7 @@ Essayez --help.</translation>
     </message>
     <message>
         <source>None of the found items is of this type</source>
-        <translation>Aucun élément trouvé n'est de ce type</translation>
+        <translation>Aucun élément trouvé n&apos;est de ce type</translation>
     </message>
     <message>
         <source>Press “Show All Types” to see all that was found: %1.</source>
@@ -1997,7 +1997,7 @@ Essayez --help.</translation>
     </message>
     <message>
         <source>None of the found items is of this type and kind</source>
-        <translation>Aucun élément trouvé n'est de ce type et de ce genre</translation>
+        <translation>Aucun élément trouvé n&apos;est de ce type et de ce genre</translation>
     </message>
     <message>
         <source>Press “Show All Types” and choose “All items” above to see all that was found: %1.</source>
@@ -2071,7 +2071,7 @@ Made with %1.
 Running on %2.</source>
         <translation>Copyright 2026 Les responsables de Vantor Recovery
 
-Logiciel libre sous la licence publique générale GNU, version 3 ou ultérieure : vous pouvez l'utiliser, l'étudier, le partager et le modifier. Il est fourni sans aucune garantie.
+Logiciel libre sous la licence publique générale GNU, version 3 ou ultérieure : vous pouvez l&apos;utiliser, l&apos;étudier, le partager et le modifier. Il est fourni sans aucune garantie.
 
 Réalisé avec %1.
 
@@ -2203,15 +2203,15 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>No pictures: this system cannot shut decoders in (it has no seccomp filters), and nothing from a medium is decoded outside.</source>
-        <translation>Pas d'images : ce système ne peut pas enfermer les décodeurs (il n'a pas de filtres seccomp), et rien d'un support n'est décodé au-dehors.</translation>
+        <translation>Pas d&apos;images : ce système ne peut pas enfermer les décodeurs (il n&apos;a pas de filtres seccomp), et rien d&apos;un support n&apos;est décodé au-dehors.</translation>
     </message>
     <message>
         <source>No pictures: the program that decodes them does not start. Install the program again.</source>
-        <translation>Pas d'images : le programme qui les décode ne démarre pas. Réinstallez le programme.</translation>
+        <translation>Pas d&apos;images : le programme qui les décode ne démarre pas. Réinstallez le programme.</translation>
     </message>
     <message>
         <source>No picture: documents are drawn inside bubblewrap alone, which is not installed or may not run on this system.</source>
-        <translation>Pas d'image : les documents ne sont dessinés que dans bubblewrap, qui n'est pas installé ou ne peut pas fonctionner sur ce système.</translation>
+        <translation>Pas d&apos;image : les documents ne sont dessinés que dans bubblewrap, qui n&apos;est pas installé ou ne peut pas fonctionner sur ce système.</translation>
     </message>
     <message>
         <source>%1 found</source>
@@ -2223,11 +2223,11 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>Please export it as a raw (dd) or E01 image first and open that.</source>
-        <translation>Veuillez d'abord l'exporter en image brute (dd) ou E01 et ouvrir celle-ci.</translation>
+        <translation>Veuillez d&apos;abord l&apos;exporter en image brute (dd) ou E01 et ouvrir celle-ci.</translation>
     </message>
     <message>
         <source>It holds single files rather than a storage medium. Please open an image of the medium.</source>
-        <translation>Elle contient des fichiers isolés plutôt qu'un support de stockage. Veuillez ouvrir une image du support.</translation>
+        <translation>Elle contient des fichiers isolés plutôt qu&apos;un support de stockage. Veuillez ouvrir une image du support.</translation>
     </message>
     <message numerus="yes">
         <source>Complete, put together from %1 pieces</source>
@@ -2366,11 +2366,11 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>Sectors are counted from 0; each has 512 bytes. The end sector itself is not searched.</source>
-        <translation>Les secteurs sont comptés à partir de 0 ; chacun a 512 octets. Le secteur de fin lui-même n'est pas parcouru.</translation>
+        <translation>Les secteurs sont comptés à partir de 0 ; chacun a 512 octets. Le secteur de fin lui-même n&apos;est pas parcouru.</translation>
     </message>
     <message>
         <source>The sliders do not reach all sectors of this medium: they end at sector 2,147,483,647. To begin or end further on, type the sector.</source>
-        <translation>Les curseurs n'atteignent pas tous les secteurs de ce support : ils s'arrêtent au secteur 2 147 483 647. Pour commencer ou finir plus loin, saisissez le secteur.</translation>
+        <translation>Les curseurs n&apos;atteignent pas tous les secteurs de ce support : ils s&apos;arrêtent au secteur 2 147 483 647. Pour commencer ou finir plus loin, saisissez le secteur.</translation>
     </message>
     <message>
         <source>Start Sector</source>
@@ -2434,7 +2434,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>None yet; you can choose it here or when you save</source>
-        <translation>Aucun pour l'instant ; vous pouvez le choisir ici ou à l'enregistrement</translation>
+        <translation>Aucun pour l&apos;instant ; vous pouvez le choisir ici ou à l&apos;enregistrement</translation>
     </message>
     <message>
         <source>B&amp;rowse…</source>
@@ -2477,7 +2477,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>How many items were found</source>
-        <translation>Combien d'éléments ont été trouvés</translation>
+        <translation>Combien d&apos;éléments ont été trouvés</translation>
     </message>
     <message>
         <source>Sho&amp;w</source>
@@ -2497,15 +2497,15 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>No file is selected to preview</source>
-        <translation>Aucun fichier n'est sélectionné pour l'aperçu</translation>
+        <translation>Aucun fichier n&apos;est sélectionné pour l&apos;aperçu</translation>
     </message>
     <message>
         <source>Preview movie</source>
-        <translation>Film de l'aperçu</translation>
+        <translation>Film de l&apos;aperçu</translation>
     </message>
     <message>
         <source>Facts of the previewed item</source>
-        <translation>Informations sur l'élément de l'aperçu</translation>
+        <translation>Informations sur l&apos;élément de l&apos;aperçu</translation>
     </message>
     <message>
         <source>Where saved files go</source>
@@ -2513,19 +2513,19 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>What is ticked for saving</source>
-        <translation>Ce qui est coché pour l'enregistrement</translation>
+        <translation>Ce qui est coché pour l&apos;enregistrement</translation>
     </message>
     <message>
         <source>Tic&amp;k Shown</source>
-        <translation>Coc&amp;her l'affiché</translation>
+        <translation>Coc&amp;her l&apos;affiché</translation>
     </message>
     <message>
         <source>Tick all that is shown for saving</source>
-        <translation>Cocher tout ce qui est affiché pour l'enregistrement</translation>
+        <translation>Cocher tout ce qui est affiché pour l&apos;enregistrement</translation>
     </message>
     <message>
         <source>Tick all that is shown for saving; Insert and Delete tick and untick the selected items</source>
-        <translation>Cocher tout ce qui est affiché pour l'enregistrement ; Inser et Suppr cochent et décochent les éléments sélectionnés</translation>
+        <translation>Cocher tout ce qui est affiché pour l&apos;enregistrement ; Inser et Suppr cochent et décochent les éléments sélectionnés</translation>
     </message>
     <message>
         <source>&amp;Invert Ticks</source>
@@ -2537,7 +2537,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>Tick what is not ticked of what is shown, and untick the rest of it</source>
-        <translation>Cocher ce qui n'est pas coché parmi ce qui est affiché, et décocher le reste</translation>
+        <translation>Cocher ce qui n&apos;est pas coché parmi ce qui est affiché, et décocher le reste</translation>
     </message>
     <message>
         <source>Open &amp;Folder</source>
@@ -2569,7 +2569,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>Options for saving</source>
-        <translation>Options d'enregistrement</translation>
+        <translation>Options d&apos;enregistrement</translation>
     </message>
     <message>
         <source>How items are saved: names and folders, without small ones, duplicates, report</source>
@@ -2655,7 +2655,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>The table on the left counts what was found of each type. Select an item to preview it, then press “Save Selected”, or take everything with “Save All”. Nothing is on your disk until you save it.</source>
-        <translation>Le tableau de gauche compte ce qui a été trouvé de chaque type. Sélectionnez un élément pour en voir l'aperçu, puis appuyez sur « Enregistrer la sélection », ou prenez tout avec « Tout enregistrer ». Rien n'est sur votre disque tant que vous ne l'enregistrez pas.</translation>
+        <translation>Le tableau de gauche compte ce qui a été trouvé de chaque type. Sélectionnez un élément pour en voir l&apos;aperçu, puis appuyez sur « Enregistrer la sélection », ou prenez tout avec « Tout enregistrer ». Rien n&apos;est sur votre disque tant que vous ne l&apos;enregistrez pas.</translation>
     </message>
     <message>
         <source>OK</source>
@@ -2666,7 +2666,7 @@ Fonctionne avec %2.</translation>
     <name>SavingOptions</name>
     <message>
         <source>Options for saving</source>
-        <translation>Options d'enregistrement</translation>
+        <translation>Options d&apos;enregistrement</translation>
     </message>
     <message>
         <source>Fo&amp;lders</source>
@@ -2678,7 +2678,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>What the card does not tell, or no date is known of, goes to the folder of its type</source>
-        <translation>Ce que la carte n'indique pas, ou dont aucune date n'est connue, va dans le dossier de son type</translation>
+        <translation>Ce que la carte n&apos;indique pas, ou dont aucune date n&apos;est connue, va dans le dossier de son type</translation>
     </message>
     <message>
         <source>Use the &amp;names that the files had on the card</source>
@@ -2726,11 +2726,11 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>Leave out what is &amp;certainly no file of its type</source>
-        <translation>Laisser ce qui n'est &amp;certainement pas un fichier de son type</translation>
+        <translation>Laisser ce qui n&apos;est &amp;certainement pas un fichier de son type</translation>
     </message>
     <message>
         <source>Leave out what is certainly no file of its type</source>
-        <translation>Laisser ce qui n'est certainement pas un fichier de son type</translation>
+        <translation>Laisser ce qui n&apos;est certainement pas un fichier de son type</translation>
     </message>
     <message>
         <source>Bytes that only begin like a file of the type</source>
@@ -2745,8 +2745,8 @@ Fonctionne avec %2.</translation>
         <translation>Enregistrer aussi des parties de fichiers</translation>
     </message>
     <message>
-        <source>What lies wholly inside a file that was proved complete, such as a picture's preview</source>
-        <translation>Ce qui se trouve entièrement dans un fichier prouvé complet, comme l'aperçu d'une photo</translation>
+        <source>What lies wholly inside a file that was proved complete, such as a picture&apos;s preview</source>
+        <translation>Ce qui se trouve entièrement dans un fichier prouvé complet, comme l&apos;aperçu d&apos;une photo</translation>
     </message>
     <message>
         <source>&amp;Keep duplicates</source>
@@ -2758,7 +2758,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>Save the same contents again each time they were found</source>
-        <translation>Enregistrer le même contenu chaque fois qu'il a été trouvé</translation>
+        <translation>Enregistrer le même contenu chaque fois qu&apos;il a été trouvé</translation>
     </message>
     <message>
         <source>Write a &amp;Recovery report beside the saved files</source>
@@ -2770,7 +2770,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>A page to read, and a table for other programs</source>
-        <translation>Une page à lire, et un tableau pour d'autres programmes</translation>
+        <translation>Une page à lire, et un tableau pour d&apos;autres programmes</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -2789,15 +2789,15 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>How many items are saved</source>
-        <translation>Combien d'éléments sont enregistrés</translation>
+        <translation>Combien d&apos;éléments sont enregistrés</translation>
     </message>
     <message>
         <source>The file that is being saved</source>
-        <translation>Le fichier en cours d'enregistrement</translation>
+        <translation>Le fichier en cours d&apos;enregistrement</translation>
     </message>
     <message>
         <source>Progress of saving</source>
-        <translation>Progression de l'enregistrement</translation>
+        <translation>Progression de l&apos;enregistrement</translation>
     </message>
     <message>
         <source>Speed and time left</source>
@@ -2821,7 +2821,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>Cancel saving</source>
-        <translation>Annuler l'enregistrement</translation>
+        <translation>Annuler l&apos;enregistrement</translation>
     </message>
 </context>
 <context>
@@ -2836,7 +2836,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>The disk service refused it.</source>
-        <translation>Le service de disques l'a refusé.</translation>
+        <translation>Le service de disques l&apos;a refusé.</translation>
     </message>
 </context>
 <context>
@@ -2938,7 +2938,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>nothing of it would be searched</source>
-        <translation>rien n'en serait parcouru</translation>
+        <translation>rien n&apos;en serait parcouru</translation>
     </message>
     <message>
         <source>all of it is searched</source>
@@ -3035,7 +3035,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>Click to show only these; hold Ctrl for several</source>
-        <translation>Cliquez pour n'afficher que ceux-ci ; maintenez Ctrl pour plusieurs</translation>
+        <translation>Cliquez pour n&apos;afficher que ceux-ci ; maintenez Ctrl pour plusieurs</translation>
     </message>
     <message>
         <source>All items</source>
@@ -3066,11 +3066,11 @@ Fonctionne avec %2.</translation>
         <translation>Nommés sur la carte seule</translation>
     </message>
     <message>
-        <source>1 more file that only the card's directory tells of</source>
+        <source>1 more file that only the card&apos;s directory tells of</source>
         <translation>1 autre fichier que seul le répertoire de la carte indique</translation>
     </message>
     <message numerus="yes">
-        <source>%1 more files that only the card's directory tells of</source>
+        <source>%1 more files that only the card&apos;s directory tells of</source>
         <translation>
             <numerusform>%1 autre fichier que seul le répertoire de la carte indique</numerusform>
             <numerusform>%1 autres fichiers que seul le répertoire de la carte indique</numerusform>
@@ -3100,15 +3100,15 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>The help document could not be opened.</source>
-        <translation>Le document d'aide n'a pas pu être ouvert.</translation>
+        <translation>Le document d&apos;aide n&apos;a pas pu être ouvert.</translation>
     </message>
     <message>
         <source>This desktop has no program that shows PDF documents. It lies here:</source>
-        <translation>Ce bureau n'a pas de programme pour afficher les documents PDF. Il se trouve ici :</translation>
+        <translation>Ce bureau n&apos;a pas de programme pour afficher les documents PDF. Il se trouve ici :</translation>
     </message>
     <message>
         <source>Help file does not exist!</source>
-        <translation>Le fichier d'aide n'existe pas !</translation>
+        <translation>Le fichier d&apos;aide n&apos;existe pas !</translation>
     </message>
 </context>
 <context>
@@ -3218,7 +3218,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>Tick for saving (Insert, Delete)</source>
-        <translation>Cocher pour l'enregistrement (Inser, Suppr)</translation>
+        <translation>Cocher pour l&apos;enregistrement (Inser, Suppr)</translation>
     </message>
     <message>
         <source>Ticked</source>
@@ -3264,7 +3264,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>Search the rest of the medium; what was read is not searched again</source>
-        <translation>Parcourir le reste du support ; ce qui a été lu n'est pas parcouru de nouveau</translation>
+        <translation>Parcourir le reste du support ; ce qui a été lu n&apos;est pas parcouru de nouveau</translation>
     </message>
     <message>
         <source>Show &amp;What Was Found</source>
@@ -3303,7 +3303,7 @@ Fonctionne avec %2.</translation>
     <name>vantor::MendPane</name>
     <message>
         <source>Show the file as it was found (B)</source>
-        <translation>Afficher le fichier tel qu'il a été trouvé (B)</translation>
+        <translation>Afficher le fichier tel qu&apos;il a été trouvé (B)</translation>
     </message>
     <message>
         <source>As Found</source>
@@ -3311,7 +3311,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>Show the file as it was put together (B)</source>
-        <translation>Afficher le fichier tel qu'il a été assemblé (B)</translation>
+        <translation>Afficher le fichier tel qu&apos;il a été assemblé (B)</translation>
     </message>
     <message>
         <source>Repaired</source>
@@ -3326,7 +3326,7 @@ Fonctionne avec %2.</translation>
     <name>vantor::MendingBar</name>
     <message>
         <source>How far the completing of broken files is, and what came of it</source>
-        <translation>Où en est la complétion des fichiers incomplets, et ce qu'elle a donné</translation>
+        <translation>Où en est la complétion des fichiers incomplets, et ce qu&apos;elle a donné</translation>
     </message>
     <message>
         <source>Progress of completing broken files</source>
@@ -3404,7 +3404,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>Select an item to preview it.</source>
-        <translation>Sélectionnez un élément pour en voir l'aperçu.</translation>
+        <translation>Sélectionnez un élément pour en voir l&apos;aperçu.</translation>
     </message>
 </context>
 <context>
@@ -3427,7 +3427,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>Save &amp;All Shown (%1)…</source>
-        <translation>&amp;Tout enregistrer l'affiché (%1)…</translation>
+        <translation>&amp;Tout enregistrer l&apos;affiché (%1)…</translation>
     </message>
     <message>
         <source>Save all found items</source>
@@ -3471,19 +3471,19 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>There is not enough room for a copy.</source>
-        <translation>Il n'y a pas assez de place pour une copie.</translation>
+        <translation>Il n&apos;y a pas assez de place pour une copie.</translation>
     </message>
     <message>
         <source>It needs up to %1, and %2 are free in %3. Choose a place on another disk, or search without a copy.</source>
-        <translation>Il lui faut jusqu'à %1, et %2 sont libres dans %3. Choisissez un endroit sur un autre disque, ou cherchez sans copie.</translation>
+        <translation>Il lui faut jusqu&apos;à %1, et %2 sont libres dans %3. Choisissez un endroit sur un autre disque, ou cherchez sans copie.</translation>
     </message>
     <message>
         <source>%1: up to %2 needed, %3 free</source>
-        <translation>%1 : jusqu'à %2 nécessaires, %3 libres</translation>
+        <translation>%1 : jusqu&apos;à %2 nécessaires, %3 libres</translation>
     </message>
     <message>
         <source>%1: up to %2 needed</source>
-        <translation>%1 : jusqu'à %2 nécessaires</translation>
+        <translation>%1 : jusqu&apos;à %2 nécessaires</translation>
     </message>
     <message>
         <source>How the card fares</source>
@@ -3495,7 +3495,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>The search is stopped for a moment and goes on, reading the card once into the file that you choose</source>
-        <translation>La recherche s'arrête un instant puis continue, en lisant la carte une seule fois dans le fichier que vous choisissez</translation>
+        <translation>La recherche s&apos;arrête un instant puis continue, en lisant la carte une seule fois dans le fichier que vous choisissez</translation>
     </message>
     <message>
         <source>This card is failing: 1 bad sector.</source>
@@ -3514,7 +3514,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>Keep a copy, so that every sector is read only once.</source>
-        <translation>Gardez une copie, pour que chaque secteur ne soit lu qu'une fois.</translation>
+        <translation>Gardez une copie, pour que chaque secteur ne soit lu qu&apos;une fois.</translation>
     </message>
     <message>
         <source>Copy: %1</source>
@@ -3534,23 +3534,23 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>
-Do you really want to exit from '%1'?</source>
+Do you really want to exit from &apos;%1&apos;?</source>
         <translation>
 Voulez-vous vraiment quitter « %1 » ?</translation>
     </message>
     <message>
         <source>%1 of the %2 found items have not been saved.</source>
-        <translation>%1 des %2 éléments trouvés n'ont pas été enregistrés.</translation>
+        <translation>%1 des %2 éléments trouvés n&apos;ont pas été enregistrés.</translation>
     </message>
     <message>
         <source>The item that was found has not been saved.</source>
-        <translation>L'élément trouvé n'a pas été enregistré.</translation>
+        <translation>L&apos;élément trouvé n&apos;a pas été enregistré.</translation>
     </message>
     <message numerus="yes">
         <source>None of the %1 found items has been saved.</source>
         <translation>
-            <numerusform>Aucun élément (%1) n'a été enregistré.</numerusform>
-            <numerusform>Aucun des %1 éléments trouvés n'a été enregistré.</numerusform>
+            <numerusform>Aucun élément (%1) n&apos;a été enregistré.</numerusform>
+            <numerusform>Aucun des %1 éléments trouvés n&apos;a été enregistré.</numerusform>
         </translation>
     </message>
     <message>
@@ -3567,7 +3567,7 @@ Voulez-vous vraiment quitter « %1 » ?</translation>
     </message>
     <message>
         <source>Select &amp;all shown</source>
-        <translation>Sélectionner tout l'&amp;affiché</translation>
+        <translation>Sélectionner tout l&apos;&amp;affiché</translation>
     </message>
     <message>
         <source>No type matches</source>
@@ -3583,7 +3583,7 @@ Voulez-vous vraiment quitter « %1 » ?</translation>
     </message>
     <message>
         <source>The catalogue of file types could not be read. Install the program again.</source>
-        <translation>Le catalogue des types de fichiers n'a pas pu être lu. Réinstallez le programme.</translation>
+        <translation>Le catalogue des types de fichiers n&apos;a pas pu être lu. Réinstallez le programme.</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
@@ -3591,7 +3591,7 @@ Voulez-vous vraiment quitter « %1 » ?</translation>
     </message>
     <message>
         <source>What to do with the item</source>
-        <translation>Que faire de l'élément</translation>
+        <translation>Que faire de l&apos;élément</translation>
     </message>
     <message>
         <source>Show &amp;Large</source>
@@ -3627,7 +3627,7 @@ Voulez-vous vraiment quitter « %1 » ?</translation>
     </message>
     <message>
         <source>Search the rest of the medium; what was read is not searched again</source>
-        <translation>Parcourir le reste du support ; ce qui a été lu n'est pas parcouru de nouveau</translation>
+        <translation>Parcourir le reste du support ; ce qui a été lu n&apos;est pas parcouru de nouveau</translation>
     </message>
     <message>
         <source>The search begins anew.</source>
@@ -3635,11 +3635,11 @@ Voulez-vous vraiment quitter « %1 » ?</translation>
     </message>
     <message>
         <source>It was begun with other lists of signatures than this version of the program has.</source>
-        <translation>Elle avait été commencée avec d'autres listes de signatures que celles de cette version du programme.</translation>
+        <translation>Elle avait été commencée avec d&apos;autres listes de signatures que celles de cette version du programme.</translation>
     </message>
     <message>
         <source>This search is not remembered.</source>
-        <translation>Cette recherche n'est pas mémorisée.</translation>
+        <translation>Cette recherche n&apos;est pas mémorisée.</translation>
     </message>
     <message>
         <source>Your home folder lies on the medium that is to be searched; writing there would overwrite what is still to be found.</source>
@@ -3651,7 +3651,7 @@ Voulez-vous vraiment quitter « %1 » ?</translation>
     </message>
     <message>
         <source>This is not the medium that was searched. Put the right one in and try again.</source>
-        <translation>Ce n'est pas le support qui a été parcouru. Insérez le bon et réessayez.</translation>
+        <translation>Ce n&apos;est pas le support qui a été parcouru. Insérez le bon et réessayez.</translation>
     </message>
     <message>
         <source>The medium cannot be opened. Put it back in and try again.</source>
@@ -3659,15 +3659,15 @@ Voulez-vous vraiment quitter « %1 » ?</translation>
     </message>
     <message>
         <source>The medium of this search is not there.</source>
-        <translation>Le support de cette recherche n'est pas là.</translation>
+        <translation>Le support de cette recherche n&apos;est pas là.</translation>
     </message>
     <message>
         <source>It was %1. Put it in, or open its image, and try again.</source>
-        <translation>C'était %1. Insérez-le, ou ouvrez son image, et réessayez.</translation>
+        <translation>C&apos;était %1. Insérez-le, ou ouvrez son image, et réessayez.</translation>
     </message>
     <message>
         <source>This is not the medium that was searched.</source>
-        <translation>Ce n'est pas le support qui a été parcouru.</translation>
+        <translation>Ce n&apos;est pas le support qui a été parcouru.</translation>
     </message>
     <message>
         <source>It holds something else than %1 did. Put the right one in and try again.</source>
@@ -3690,7 +3690,7 @@ Voulez-vous vraiment quitter « %1 » ?</translation>
     </message>
     <message>
         <source>The list is kept until you search again or go back.</source>
-        <translation>La liste est gardée jusqu'à une nouvelle recherche ou un retour en arrière.</translation>
+        <translation>La liste est gardée jusqu&apos;à une nouvelle recherche ou un retour en arrière.</translation>
     </message>
     <message>
         <source>The storage medium does not answer.</source>
@@ -3698,7 +3698,7 @@ Voulez-vous vraiment quitter « %1 » ?</translation>
     </message>
     <message>
         <source>The search before has not ended yet. Take the medium out and put it back in, then try again.</source>
-        <translation>La recherche précédente n'est pas encore terminée. Retirez le support, remettez-le, puis réessayez.</translation>
+        <translation>La recherche précédente n&apos;est pas encore terminée. Retirez le support, remettez-le, puis réessayez.</translation>
     </message>
     <message>
         <source>A new search empties the list of found items.</source>
@@ -3710,13 +3710,13 @@ Voulez-vous vraiment quitter « %1 » ?</translation>
     </message>
     <message>
         <source>The image could not be opened.</source>
-        <translation>L'image n'a pas pu être ouverte.</translation>
+        <translation>L&apos;image n&apos;a pas pu être ouverte.</translation>
     </message>
     <message numerus="yes">
         <source>%1 images could not be opened.</source>
         <translation>
-            <numerusform>%1 image n'a pas pu être ouverte.</numerusform>
-            <numerusform>%1 images n'ont pas pu être ouvertes.</numerusform>
+            <numerusform>%1 image n&apos;a pas pu être ouverte.</numerusform>
+            <numerusform>%1 images n&apos;ont pas pu être ouvertes.</numerusform>
         </translation>
     </message>
     <message>
@@ -3745,7 +3745,7 @@ Voulez-vous vraiment quitter « %1 » ?</translation>
     </message>
     <message>
         <source>The destination is no longer there.</source>
-        <translation>La destination n'est plus là.</translation>
+        <translation>La destination n&apos;est plus là.</translation>
     </message>
     <message>
         <source>No folder for saved files is chosen yet</source>
@@ -3753,7 +3753,7 @@ Voulez-vous vraiment quitter « %1 » ?</translation>
     </message>
     <message>
         <source>Saved files go to %1, which is not there</source>
-        <translation>Les fichiers enregistrés vont dans %1, qui n'existe pas</translation>
+        <translation>Les fichiers enregistrés vont dans %1, qui n&apos;existe pas</translation>
     </message>
     <message>
         <source>Saved files go to %1 (%2 free)</source>
@@ -3765,15 +3765,15 @@ Voulez-vous vraiment quitter « %1 » ?</translation>
     </message>
     <message>
         <source>This desktop has no program that shows folders.</source>
-        <translation>Ce bureau n'a pas de programme pour afficher les dossiers.</translation>
+        <translation>Ce bureau n&apos;a pas de programme pour afficher les dossiers.</translation>
     </message>
     <message>
         <source>It is not there any more.</source>
-        <translation>Il n'est plus là.</translation>
+        <translation>Il n&apos;est plus là.</translation>
     </message>
     <message>
         <source>The folder could not be opened.</source>
-        <translation>Le dossier n'a pas pu être ouvert.</translation>
+        <translation>Le dossier n&apos;a pas pu être ouvert.</translation>
     </message>
     <message>
         <source>The storage medium cannot be read.</source>
@@ -3781,11 +3781,11 @@ Voulez-vous vraiment quitter « %1 » ?</translation>
     </message>
     <message>
         <source>This is still the preview of %1.</source>
-        <translation>Ceci est encore l'aperçu de %1.</translation>
+        <translation>Ceci est encore l&apos;aperçu de %1.</translation>
     </message>
     <message>
         <source>Select an item to preview it.</source>
-        <translation>Sélectionnez un élément pour en voir l'aperçu.</translation>
+        <translation>Sélectionnez un élément pour en voir l&apos;aperçu.</translation>
     </message>
     <message>
         <source>more than %1</source>
@@ -3801,11 +3801,11 @@ Voulez-vous vraiment quitter « %1 » ?</translation>
     </message>
     <message>
         <source>If ‘Entire Disk’ option is selected, Vantor Recovery searches lost data in the entire storage of selected disk. If you want to perform within a specific sector range or in specific partition, please select other searching criteria. Else press ‘Next’ button to start searching data in Entire disk.</source>
-        <translation>Avec ‘Disque entier’, Vantor Recovery cherche les données perdues dans tout l'espace du disque choisi. Pour chercher dans une plage de secteurs ou une partition précise, choisissez l'autre critère de recherche. Sinon, appuyez sur ‘Suivant’ pour lancer la recherche sur le disque entier.</translation>
+        <translation>Avec ‘Disque entier’, Vantor Recovery cherche les données perdues dans tout l&apos;espace du disque choisi. Pour chercher dans une plage de secteurs ou une partition précise, choisissez l&apos;autre critère de recherche. Sinon, appuyez sur ‘Suivant’ pour lancer la recherche sur le disque entier.</translation>
     </message>
     <message>
         <source>‘Sector Range’ option provides facility to specify the range of start and end sector of storage media within which you want to perform searching for lost data. Please drag knob of Slider to enter sector range or you can also enter these values in Start Sector and End Sector fields manually.</source>
-        <translation>‘Plage de secteurs’ permet d'indiquer les secteurs de début et de fin du support de stockage entre lesquels chercher les données perdues. Faites glisser les curseurs, ou saisissez les valeurs dans les champs Secteur de début et Secteur de fin.</translation>
+        <translation>‘Plage de secteurs’ permet d&apos;indiquer les secteurs de début et de fin du support de stockage entre lesquels chercher les données perdues. Faites glisser les curseurs, ou saisissez les valeurs dans les champs Secteur de début et Secteur de fin.</translation>
     </message>
     <message>
         <source>The settings are forgotten.</source>
@@ -3813,11 +3813,11 @@ Voulez-vous vraiment quitter « %1 » ?</translation>
     </message>
     <message>
         <source>Window, saving options and folders are those of a first start when the program is started again.</source>
-        <translation>Fenêtre, options d'enregistrement et dossiers seront ceux d'un premier démarrage au prochain lancement du programme.</translation>
+        <translation>Fenêtre, options d&apos;enregistrement et dossiers seront ceux d&apos;un premier démarrage au prochain lancement du programme.</translation>
     </message>
     <message>
         <source>It still holds up the saving that you cancelled. Take the medium out and put it back in, then try again.</source>
-        <translation>Il retient encore l'enregistrement que vous avez annulé. Retirez le support, remettez-le, puis réessayez.</translation>
+        <translation>Il retient encore l&apos;enregistrement que vous avez annulé. Retirez le support, remettez-le, puis réessayez.</translation>
     </message>
     <message>
         <source>It goes on.</source>
@@ -3825,7 +3825,7 @@ Voulez-vous vraiment quitter « %1 » ?</translation>
     </message>
     <message>
         <source>No file is selected to preview</source>
-        <translation>Aucun fichier n'est sélectionné pour l'aperçu</translation>
+        <translation>Aucun fichier n&apos;est sélectionné pour l&apos;aperçu</translation>
     </message>
     <message>
         <source>
@@ -3871,7 +3871,7 @@ Veuillez sélectionner les types de fichiers à récupérer. Appuyez sur ‘Suiv
     </message>
     <message>
         <source>The search could not be remembered: %1.</source>
-        <translation>La recherche n'a pas pu être mémorisée : %1.</translation>
+        <translation>La recherche n&apos;a pas pu être mémorisée : %1.</translation>
     </message>
     <message>
         <source>1 photo</source>
@@ -3902,7 +3902,7 @@ Veuillez sélectionner les types de fichiers à récupérer. Appuyez sur ‘Suiv
     </message>
     <message>
         <source>Nothing of the types that you ticked was found.</source>
-        <translation>Rien des types cochés n'a été trouvé.</translation>
+        <translation>Rien des types cochés n&apos;a été trouvé.</translation>
     </message>
     <message>
         <source>Go back and tick the types to search for.</source>
@@ -3958,7 +3958,7 @@ Veuillez sélectionner les types de fichiers à récupérer. Appuyez sur ‘Suiv
     </message>
     <message>
         <source>Insert the memory card or connect its reader and press Refresh, or open an image file of a medium. You can also drop an image file here.</source>
-        <translation>Insérez la carte mémoire ou branchez son lecteur et appuyez sur Actualiser, ou ouvrez le fichier image d'un support. Vous pouvez aussi déposer un fichier image ici.</translation>
+        <translation>Insérez la carte mémoire ou branchez son lecteur et appuyez sur Actualiser, ou ouvrez le fichier image d&apos;un support. Vous pouvez aussi déposer un fichier image ici.</translation>
     </message>
     <message>
         <source>Sectors 0 of 0</source>
@@ -3970,11 +3970,11 @@ Veuillez sélectionner les types de fichiers à récupérer. Appuyez sur ‘Suiv
     </message>
     <message>
         <source>Untic&amp;k Shown</source>
-        <translation>Décoc&amp;her l'affiché</translation>
+        <translation>Décoc&amp;her l&apos;affiché</translation>
     </message>
     <message>
         <source>Tic&amp;k Shown</source>
-        <translation>Coc&amp;her l'affiché</translation>
+        <translation>Coc&amp;her l&apos;affiché</translation>
     </message>
     <message>
         <source>Untick all that is shown</source>
@@ -3982,7 +3982,7 @@ Veuillez sélectionner les types de fichiers à récupérer. Appuyez sur ‘Suiv
     </message>
     <message>
         <source>Tick all that is shown for saving</source>
-        <translation>Cocher tout ce qui est affiché pour l'enregistrement</translation>
+        <translation>Cocher tout ce qui est affiché pour l&apos;enregistrement</translation>
     </message>
     <message>
         <source>Sa&amp;ve Ticked (%1)…</source>
@@ -3990,7 +3990,7 @@ Veuillez sélectionner les types de fichiers à récupérer. Appuyez sur ‘Suiv
     </message>
     <message>
         <source>Open an image file of a medium</source>
-        <translation>Ouvrir le fichier image d'un support</translation>
+        <translation>Ouvrir le fichier image d&apos;un support</translation>
     </message>
     <message>
         <source>Images of media (*.img *.dd *.raw *.bin *.iso *.image *.ima *.E01 *.e01);;All files (*)</source>
@@ -4087,19 +4087,19 @@ Veuillez sélectionner les types de fichiers à récupérer. Appuyez sur ‘Suiv
     </message>
     <message>
         <source>No broken file of a kind that can be completed was found.</source>
-        <translation>Aucun fichier incomplet d'un genre qui peut être complété n'a été trouvé.</translation>
+        <translation>Aucun fichier incomplet d&apos;un genre qui peut être complété n&apos;a été trouvé.</translation>
     </message>
     <message>
         <source>No broken file could be completed.</source>
-        <translation>Aucun fichier incomplet n'a pu être complété.</translation>
+        <translation>Aucun fichier incomplet n&apos;a pu être complété.</translation>
     </message>
     <message>
         <source>Other files are being written. Drag again in a moment.</source>
-        <translation>D'autres fichiers sont en cours d'écriture. Faites glisser à nouveau dans un instant.</translation>
+        <translation>D&apos;autres fichiers sont en cours d&apos;écriture. Faites glisser à nouveau dans un instant.</translation>
     </message>
     <message>
         <source>There is not enough room to get %1 ready for dragging. Save the files instead.</source>
-        <translation>Il n'y a pas assez de place pour préparer %1 à glisser. Enregistrez plutôt les fichiers.</translation>
+        <translation>Il n&apos;y a pas assez de place pour préparer %1 à glisser. Enregistrez plutôt les fichiers.</translation>
     </message>
     <message>
         <source>These files cannot be read from the storage medium.</source>
@@ -4111,7 +4111,7 @@ Veuillez sélectionner les types de fichiers à récupérer. Appuyez sur ‘Suiv
     </message>
     <message>
         <source>The files are still being written. Drag them again in a moment.</source>
-        <translation>Les fichiers sont encore en cours d'écriture. Faites-les glisser à nouveau dans un instant.</translation>
+        <translation>Les fichiers sont encore en cours d&apos;écriture. Faites-les glisser à nouveau dans un instant.</translation>
     </message>
     <message>
         <source>Save as</source>
@@ -4123,15 +4123,15 @@ Veuillez sélectionner les types de fichiers à récupérer. Appuyez sur ‘Suiv
     </message>
     <message>
         <source>The card could not be ejected.</source>
-        <translation>La carte n'a pas pu être éjectée.</translation>
+        <translation>La carte n&apos;a pas pu être éjectée.</translation>
     </message>
     <message>
         <source>&amp;Untick for Saving</source>
-        <translation>&amp;Décocher pour l'enregistrement</translation>
+        <translation>&amp;Décocher pour l&apos;enregistrement</translation>
     </message>
     <message>
         <source>&amp;Tick for Saving</source>
-        <translation>Coc&amp;her pour l'enregistrement</translation>
+        <translation>Coc&amp;her pour l&apos;enregistrement</translation>
     </message>
     <message>
         <source>Save &amp;As…</source>
@@ -4165,11 +4165,11 @@ Veuillez sélectionner les types de fichiers à récupérer. Appuyez sur ‘Suiv
     </message>
     <message>
         <source>As they were found, the files need some %1; once they are examined, they often turn out shorter. %2 are free in %3.</source>
-        <translation>Tels qu'ils ont été trouvés, les fichiers demandent environ %1 ; une fois examinés, ils se révèlent souvent plus courts. %2 sont libres dans %3.</translation>
+        <translation>Tels qu&apos;ils ont été trouvés, les fichiers demandent environ %1 ; une fois examinés, ils se révèlent souvent plus courts. %2 sont libres dans %3.</translation>
     </message>
     <message>
         <source>There may not be enough room in the destination.</source>
-        <translation>Il n'y a peut-être pas assez de place dans la destination.</translation>
+        <translation>Il n&apos;y a peut-être pas assez de place dans la destination.</translation>
     </message>
     <message>
         <source>What fits is saved whole; the rest is left out and stays in the list.</source>
@@ -4189,7 +4189,7 @@ Veuillez sélectionner les types de fichiers à récupérer. Appuyez sur ‘Suiv
     </message>
     <message>
         <source>Nothing was saved.</source>
-        <translation>Rien n'a été enregistré.</translation>
+        <translation>Rien n&apos;a été enregistré.</translation>
     </message>
     <message>
         <source>The storage medium cannot be read any more. Put it back in and try again.</source>
@@ -4223,7 +4223,7 @@ Veuillez sélectionner les types de fichiers à récupérer. Appuyez sur ‘Suiv
     <name>vantor::SavingSheet</name>
     <message>
         <source>The medium refuses sectors of this file: %1 so far. Each may take seconds. What lies behind them is read all the same.</source>
-        <translation>Le support refuse des secteurs de ce fichier : %1 jusqu'ici. Chacun peut prendre des secondes. Ce qui se trouve derrière est lu malgré tout.</translation>
+        <translation>Le support refuse des secteurs de ce fichier : %1 jusqu&apos;ici. Chacun peut prendre des secondes. Ce qui se trouve derrière est lu malgré tout.</translation>
     </message>
     <message>
         <source>Saving %1 of %2</source>
