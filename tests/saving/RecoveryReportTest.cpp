@@ -3,6 +3,7 @@
 
 #include <QTemporaryDir>
 
+#include "results/Mend.h"
 #include "saving/RecoveryReport.h"
 #include "tests/support/SmallFiles.h"
 
@@ -52,8 +53,8 @@ TEST_F(RecoveryReport, TableForMachines) {
     EXPECT_EQ(lines[1],
               "\"a,\"\"b\"\".JPG\",\"JPG\",\"/dev/sdb <1> & \"\"more\"\"\",4,40,18432," +
                   QByteArray("ab").repeated(32) +
-                  ",complete,yes,0,2026-05-17 14:03:22 UTC,64,48,saved,\"JPG/a b:100%.JPG\",yes,,,,1\r");
-    EXPECT_TRUE(lines[2].endsWith(",failed,\"No <room>\",no,,,,1\r"));
+                  ",complete,yes,0,2026-05-17 14:03:22 UTC,64,48,saved,\"JPG/a b:100%.JPG\",yes,,,,1,,\r");
+    EXPECT_TRUE(lines[2].endsWith(",failed,\"No <room>\",no,,,,1,,\r"));
 }
 
 TEST_F(RecoveryReport, TellsWhatTheCardTold) {
@@ -65,10 +66,13 @@ TEST_F(RecoveryReport, TellsWhatTheCardTold) {
     std::vector<ReportedItem> told = items();
     told[0].outcome.original = std::make_shared<const CardFile>(file);
     told[0].outcome.pieces = 3;
+    told[0].outcome.runs = {{1200, 1264}, {2048, 2060}, {90, 91}};
+    told[0].outcome.mend = std::make_shared<const Mend>();
     const WrittenReport written = writeReport(folder.path(), head(), told);
     EXPECT_TRUE(contentsOf(written.csv)
                     .split('\n')[1]
-                    .endsWith(",\"DCIM/1<b>/IMG_0412.JPG\",deleted,2026-05-17 14:03:22,3\r"));
+                    .endsWith(",\"DCIM/1<b>/IMG_0412.JPG\",deleted,2026-05-17 14:03:22,3,1200+64 2048+12 "
+                              "90+1,put together\r"));
     const QByteArray html = contentsOf(written.html);
     EXPECT_TRUE(html.contains("DCIM/1&lt;b&gt;/IMG_0412.JPG (deleted, changed 2026-05-17 14:03:22)"));
     EXPECT_TRUE(html.contains("put together from 3 pieces"));
@@ -79,7 +83,7 @@ TEST_F(RecoveryReport, FilesOfWhichOnlyLengthsWereFollowed_AreSaidToEndWhereThey
     EXPECT_FALSE(page().contains("content not checked"));
     contentChecked = false;
     EXPECT_TRUE(page().contains("<span class=\"unchecked\">ends where it says, content not checked</span>"));
-    EXPECT_TRUE(table().split('\n')[1].endsWith(",no,,,,1\r"));
+    EXPECT_TRUE(table().split('\n')[1].endsWith(",no,,,,1,,\r"));
     EXPECT_TRUE(table().contains(",complete,yes,"));  // the words for machines stay
 }
 

@@ -22,8 +22,16 @@ SearchRecord someRecord() {
     for (const std::uint64_t sector : {10U, 11U, 300U, 70000U}) {
         record.worthALook.append(sector);
     }
-    record.notes = {QStringLiteral("CANON"),          412, true, 3, 9, QStringLiteral("/a/b.img"),
-                    {0, 1, 7, std::uint64_t{1} << 33}};
+    record.notes = {QStringLiteral("CANON"),
+                    412,
+                    true,
+                    3,
+                    9,
+                    QStringLiteral("/a/b.img"),
+                    {0, 1, 7, std::uint64_t{1} << 33},
+                    {2, 8},
+                    {5},
+                    QByteArray("some id")};
     return record;
 }
 
@@ -77,8 +85,14 @@ TEST(SearchRecord, BytesOfTheRightSumThatMakeNoSense_AreRefused) {
     const QByteArray whole = recordBytes(someRecord());
     const QByteArray body = whole.chopped(32);
     ASSERT_TRUE(uncheckedRecordOf(body));
+    // Earlier versions of the program kept neither ticks nor selection nor an id: three numbers of a byte.
+    SearchRecord earlier = someRecord();
+    earlier.notes.ticked.clear();
+    earlier.notes.selected.clear();
+    earlier.notes.id.clear();
+    const qsizetype earlierEnd = recordBytes(earlier).size() - 32 - 3;
     for (qsizetype end = 0; end < body.size(); ++end) {
-        EXPECT_FALSE(uncheckedRecordOf(QByteArrayView(body).first(end))) << end;
+        EXPECT_EQ(uncheckedRecordOf(QByteArrayView(body).first(end)).has_value(), end == earlierEnd) << end;
     }
     const qsizetype types = body.indexOf('\n') + 2;
     QByteArray manyTypes = body;
