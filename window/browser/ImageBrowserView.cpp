@@ -135,6 +135,10 @@ void ImageBrowserView::scrollIndexToVisible(qsizetype index) {
 void ImageBrowserView::followIndex(qsizetype index) {
     if (m_atEnd) {
         scrollIndexToVisible(index);
+        // A cell may be higher than the view.
+        if (m_model->rowOfIndex(static_cast<int>(index)) + 1 == m_model->rowCount()) {
+            scrollToBottom();
+        }
         m_atEnd = true;  // with some more behind it, perhaps
     }
 }

@@ -19,9 +19,9 @@ namespace vantor {
 
 namespace {
 
-constexpr int kBarHeight = 40;
+constexpr int kBarHeight = 24;
 constexpr int kPictureRadius = 6;
-constexpr int kUsedHeight = 5;
+constexpr int kUsedHeight = 4;
 constexpr int kFileSystem = 2;  // places among the facts
 constexpr int kCapacity = 3;
 
