@@ -38,7 +38,8 @@ class TwinWriting {
         std::vector<std::uint8_t> chunk(kTwinChunkBytes);
         std::uint64_t at = data.from;
         while (at < data.to && m_file.isGood() && !isUnwanted()) {
-            const auto wanted = static_cast<std::size_t>(std::min<std::uint64_t>(kTwinChunkBytes, data.to - at));
+            const auto wanted =
+                static_cast<std::size_t>(std::min<std::uint64_t>(kTwinChunkBytes, data.to - at));
             const std::size_t arrived = bytes.readPast(at, std::span(chunk).first(wanted));
             if (arrived == 0) {
                 return false;

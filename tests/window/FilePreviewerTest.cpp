@@ -213,7 +213,8 @@ TEST_F(FilePreviewer, AProgramThatHangs_IsEndedWithAllItStarted) {
     EXPECT_TRUE(seen) << "they ran";
     QElapsedTimer waiting;
     waiting.start();
-    while (processesCalled(word) > 0 && !waiting.hasExpired(std::chrono::milliseconds(kHelperPatience).count())) {
+    while (processesCalled(word) > 0 &&
+           !waiting.hasExpired(std::chrono::milliseconds(kHelperPatience).count())) {
         std::this_thread::yield();
     }
     EXPECT_EQ(processesCalled(word), 0);
@@ -251,7 +252,8 @@ TEST_F(FilePreviewer, MoviesAndSound_ShowTheirPicture) {
         GTEST_SKIP() << "no corpus";
     }
     EXPECT_EQ(preview(corpusFile("videos/synth/vp9_opus.webm")).size(), QSize(200, 112));
-    EXPECT_EQ(preview(corpusFile("files/ape/file-type__fixture__fixture-monkeysaudio.ape")).size(), kPreviewSize)
+    EXPECT_EQ(preview(corpusFile("files/ape/file-type__fixture__fixture-monkeysaudio.ape")).size(),
+              kPreviewSize)
         << "the cover";
     EXPECT_TRUE(
         preview(corpusFile("files/aac/media__libraries__test_data__src__test__assets__media__aac__sine.aac"))

@@ -143,6 +143,8 @@ TEST_F(Mending, SavedAreTheWholePhotos) {
 TEST_F(Mending, TheViewerShowsItsPieces_AndTheFileAsItWasFound) {
     openCrossed();
     mendAll();
+    controller->window->activateWindow();
+    ASSERT_TRUE(waitFor([this] { return controller->window->isActiveWindow(); }));
     controller->openInViewer(0);
     ItemViewer* const viewer = controller->viewer().viewer();
     ASSERT_TRUE(viewer->mend()->isVisible());
@@ -161,12 +163,12 @@ TEST_F(Mending, TheViewerShowsItsPieces_AndTheFileAsItWasFound) {
     };
     ASSERT_TRUE(waitFor([&] { return !controller->viewer().isBusy() && !size().isEmpty(); }));
     const QString whole = size();
-    QTest::keyClick(viewer, Qt::Key_B);
+    QTest::keyClick(controller->window->focusWidget(), Qt::Key_B);
     EXPECT_TRUE(viewer->mend()->isAsFound());
     EXPECT_TRUE(waitFor([&] { return size() != whole && !controller->viewer().isBusy(); }));
-    QTest::keyClick(viewer, Qt::Key_Right);
+    QTest::keyClick(controller->window->focusWidget(), Qt::Key_Right);
     EXPECT_FALSE(viewer->mend()->isAsFound()) << "each item begins as it was put together";
-    QTest::keyClick(viewer, Qt::Key_Right);
+    QTest::keyClick(controller->window->focusWidget(), Qt::Key_Right);
     EXPECT_FALSE(viewer->mend()->isVisible()) << "nothing was made of the third";
 }
 

@@ -193,8 +193,13 @@ void ViewerDesk::refresh() {
                                                  numberForPeople(static_cast<std::uint64_t>(place.count)))
                                       : QString());
     m_viewer->setSteps(m_row > 0, m_row + 1 < place.count);
-    const ItemFacts known = m_parts.factsOf(m_index);
+    ItemFacts known = m_parts.factsOf(m_index);
     m_viewer->setTicked(known.ticked);
+    if (m_mend && m_viewer->mend()->isAsFound()) {
+        // What is known is of the file that was made.
+        known.soundness.reset();
+        known.mend.reset();
+    }
     m_viewer->setFacts(viewerFacts(*item, known, m_viewed));
     if (const auto mend = m_parts.mendOf ? m_parts.mendOf(m_index) : nullptr; mend != m_mend) {
         show(m_index);  // something was made of it just now
