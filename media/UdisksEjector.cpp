@@ -13,7 +13,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kEjectPatience = 3s;
+constexpr auto kAnswerPatience = 3s;
 // A user may be asked, and a slow card be written to its end.
 constexpr auto kEjectPatience = 120s;
 const QString kBlockInterface = QStringLiteral("org.freedesktop.UDisks2.Block");
@@ -49,13 +49,13 @@ std::optional<Ejection> ejectionOf(const UdisksObjects& objects, const QString& 
 }
 
 bool UdisksEjector::canEject(const QString& node) {
-    return m_bus.ensureConnected(kEjectPatience) && ejectionNow(node).has_value();
+    return m_bus.ensureConnected(kAnswerPatience) && ejectionNow(node).has_value();
 }
 
 std::optional<Ejection> UdisksEjector::ejectionNow(const QString& node) const {
     const QDBusPendingCall call = m_bus.askForObjects();
     const auto objects =
-        waitForAnswer(call, kEjectPatience) ? UdisksBus::objectsIn(call.reply()) : std::nullopt;
+        waitForAnswer(call, kAnswerPatience) ? UdisksBus::objectsIn(call.reply()) : std::nullopt;
     return objects ? ejectionOf(*objects, node) : std::nullopt;
 }
 

@@ -16,13 +16,13 @@ using test::MemoryReader;
 using test::picturesOfManySizes;
 using test::plainPictures;
 
-constexpr std::uint64_t kClusterSectors = 8;
-constexpr qsizetype kClusterBytes = 4096;
+constexpr std::uint64_t kMovieClusterSectors = 8;
+constexpr qsizetype kMovieCluster = 4096;
 const std::atomic<int> kGoOn{0};
 
 // A medium of that many clusters, filled with noise.
 QByteArray mediumOf(int clusters) {
-    QByteArray medium(clusters * kClusterBytes, Qt::Uninitialized);
+    QByteArray medium(clusters * kMovieCluster, Qt::Uninitialized);
     std::mt19937 random(9);
     for (char& byte : medium) {
         byte = static_cast<char>(random());
@@ -30,23 +30,23 @@ QByteArray mediumOf(int clusters) {
     return medium;
 }
 
-int clustersOf(const QByteArray& file) {
-    return static_cast<int>((file.size() + kClusterBytes - 1) / kClusterBytes);
+int clustersIn(const QByteArray& file) {
+    return static_cast<int>((file.size() + kMovieCluster - 1) / kMovieCluster);
 }
 
 // The clusters of the file into these of the medium.
 void scatter(const QByteArray& file, const std::vector<int>& clusters, QByteArray& medium) {
-    ASSERT_EQ(static_cast<int>(clusters.size()), clustersOf(file));
+    ASSERT_EQ(static_cast<int>(clusters.size()), clustersIn(file));
     for (int i = 0; i < static_cast<int>(clusters.size()); ++i) {
-        const QByteArray piece = file.mid(i * kClusterBytes, kClusterBytes);
-        medium.replace(clusters[static_cast<std::size_t>(i)] * kClusterBytes, piece.size(), piece);
+        const QByteArray piece = file.mid(i * kMovieCluster, kMovieCluster);
+        medium.replace(clusters[static_cast<std::size_t>(i)] * kMovieCluster, piece.size(), piece);
     }
 }
 
 std::optional<QByteArray> assembled(const QByteArray& medium, std::uint64_t firstCluster) {
     MemoryReader reader(medium);
     MediumBlocks blocks(reader);
-    const FreeClusters free({0, kClusterSectors}, reader.mediumSectors());
+    const FreeClusters free({0, kMovieClusterSectors}, reader.mediumSectors());
     const auto indexes = indexPlaces(blocks, kGoOn);
     MoviePieces pieces(blocks, free, indexes, kGoOn);
     const auto movie = pieces.assemble(firstCluster);
@@ -72,18 +72,18 @@ std::vector<int> every(int step, int from, int count) {
 TEST(MoviePieces, TwoMoviesInTurn_ComeApart) {
     const MadeMovie one = makeMovie(picturesOfManySizes(200, 1), false, 1);
     const MadeMovie other = makeMovie(picturesOfManySizes(200, 2), false, 2);
-    const int count = clustersOf(one.bytes);
+    const int count = clustersIn(one.bytes);
     ASSERT_GT(count, 8);
     QByteArray medium = mediumOf(3 * count + 10);
     scatter(one.bytes, every(2, 4, count), medium);
-    scatter(other.bytes, every(2, 5, clustersOf(other.bytes)), medium);
+    scatter(other.bytes, every(2, 5, clustersIn(other.bytes)), medium);
     EXPECT_EQ(assembled(medium, 4), one.bytes);
     EXPECT_EQ(assembled(medium, 5), other.bytes);
 }
 
 TEST(MoviePieces, HeadBehindTheBody_IsJoined) {
     const MadeMovie movie = makeMovie(picturesOfManySizes(200, 1), false, 1);
-    const int count = clustersOf(movie.bytes);
+    const int count = clustersIn(movie.bytes);
     QByteArray medium = mediumOf(2 * count + 10);
     std::vector<int> clusters = every(1, 2, count);
     clusters.front() = count + 5;
@@ -93,8 +93,8 @@ TEST(MoviePieces, HeadBehindTheBody_IsJoined) {
 
 TEST(MoviePieces, IndexBeforeTheMovie_IsFound) {
     const MadeMovie movie = makeMovie(picturesOfManySizes(200, 1), false, 1);
-    const int count = clustersOf(movie.bytes);
-    const int indexClusters = count - static_cast<int>(movie.indexAt / kClusterBytes);
+    const int count = clustersIn(movie.bytes);
+    const int indexClusters = count - static_cast<int>(movie.indexAt / kMovieCluster);
     QByteArray medium = mediumOf(2 * count + 20);
     std::vector<int> clusters = every(1, indexClusters + 6, count);
     for (int i = 0; i < indexClusters; ++i) {
@@ -106,20 +106,20 @@ TEST(MoviePieces, IndexBeforeTheMovie_IsFound) {
 
 TEST(MoviePieces, PieceThatIsGone_GivesNoWholeMovie) {
     const MadeMovie movie = makeMovie(picturesOfManySizes(200, 1), false, 1);
-    const int count = clustersOf(movie.bytes);
+    const int count = clustersIn(movie.bytes);
     QByteArray medium = mediumOf(2 * count + 10);
     scatter(movie.bytes, every(1, 4, count), medium);
-    medium.replace(8 * kClusterBytes, kClusterBytes, QByteArray(kClusterBytes, '\0'));
+    medium.replace(8 * kMovieCluster, kMovieCluster, QByteArray(kMovieCluster, '\0'));
     EXPECT_EQ(assembled(medium, 4), std::nullopt);
 }
 
 TEST(MoviePieces, IndexOfAnotherMovie_IsNotTaken) {
     const MadeMovie movie = makeMovie(picturesOfManySizes(200, 1), false, 1);
     const MadeMovie other = makeMovie(picturesOfManySizes(150, 2), false, 2);
-    QByteArray medium = mediumOf(2 * clustersOf(movie.bytes) + 10);
-    scatter(movie.bytes, every(1, 4, clustersOf(movie.bytes)), medium);
+    QByteArray medium = mediumOf(2 * clustersIn(movie.bytes) + 10);
+    scatter(movie.bytes, every(1, 4, clustersIn(movie.bytes)), medium);
     // The index is overwritten by one that describes other data.
-    const qsizetype at = 4 * kClusterBytes + movie.indexAt;
+    const qsizetype at = 4 * kMovieCluster + movie.indexAt;
     medium.replace(at, movie.bytes.size() - movie.indexAt,
                    QByteArray(movie.bytes.size() - movie.indexAt, '\0'));
     const QByteArray index = other.bytes.mid(other.indexAt);
@@ -131,8 +131,8 @@ TEST(MovieCompletion, EachMovieLeavesFewerPlacesForTheNext) {
     // The second goes on in a row where the first has ended.
     const MadeMovie one = makeMovie(picturesOfManySizes(120, 1), false, 1);
     const MadeMovie other = makeMovie(picturesOfManySizes(300, 2), false, 2);
-    const int count = clustersOf(one.bytes);
-    const int otherCount = clustersOf(other.bytes);
+    const int count = clustersIn(one.bytes);
+    const int otherCount = clustersIn(other.bytes);
     QByteArray medium = mediumOf(count + otherCount + 40);
     scatter(one.bytes, every(2, 8, count), medium);
     std::vector<int> clusters = every(2, 9, count);
@@ -145,7 +145,7 @@ TEST(MovieCompletion, EachMovieLeavesFewerPlacesForTheNext) {
     noHelper.helper = QStringLiteral("/nowhere");
     CompletionProgress progress;
     MovieCompletion completion(reader, kGoOn, progress, noHelper);
-    const std::vector<std::uint64_t> starts{8 * kClusterSectors, 9 * kClusterSectors};
+    const std::vector<std::uint64_t> starts{8 * kMovieClusterSectors, 9 * kMovieClusterSectors};
     const auto found = completion.run(starts, {});
     ASSERT_EQ(found.size(), 2U);
     const MadeMovie* const movies[] = {&one, &other};
@@ -164,13 +164,13 @@ TEST(MovieCompletion, ChoiceThatNoDecoderChecked_IsNotProved) {
     // Pictures longer than a cluster leave clusters in which nothing begins.
     std::vector<test::PictureSpec> large = plainPictures(12);
     for (test::PictureSpec& spec : large) {
-        spec.bytes = 3 * static_cast<int>(kClusterBytes) - 40 * static_cast<int>(spec.number);
+        spec.bytes = 3 * static_cast<int>(kMovieCluster) - 40 * static_cast<int>(spec.number);
     }
     const MadeMovie movie = makeMovie(large, false, 1);
-    const int count = clustersOf(movie.bytes);
+    const int count = clustersIn(movie.bytes);
     MovieReaderOptions noHelper;
     noHelper.helper = QStringLiteral("/nowhere");
-    const std::vector<std::uint64_t> starts{8 * kClusterSectors};
+    const std::vector<std::uint64_t> starts{8 * kMovieClusterSectors};
     for (const int step : {1, 2}) {
         QByteArray medium = mediumOf(2 * count + 40);
         scatter(movie.bytes, every(step, 8, count), medium);
@@ -187,13 +187,13 @@ TEST(MovieCompletion, IndexThatOtherMoviesFit_ProvesNothing) {
     // Two movies of the same sizes: each index fits the pieces of both.
     const MadeMovie one = makeMovie(std::vector<test::PictureSpec>(200), false, 1);
     const MadeMovie other = makeMovie(std::vector<test::PictureSpec>(150), false, 2);
-    QByteArray medium = mediumOf(3 * clustersOf(one.bytes) + 10);
-    scatter(one.bytes, every(2, 4, clustersOf(one.bytes)), medium);
-    scatter(other.bytes, every(2, 5, clustersOf(other.bytes)), medium);
+    QByteArray medium = mediumOf(3 * clustersIn(one.bytes) + 10);
+    scatter(one.bytes, every(2, 4, clustersIn(one.bytes)), medium);
+    scatter(other.bytes, every(2, 5, clustersIn(other.bytes)), medium);
     MemoryReader reader(medium);
     CompletionProgress progress;
     MovieCompletion completion(reader, kGoOn, progress);
-    const std::vector<std::uint64_t> starts{4 * kClusterSectors, 5 * kClusterSectors};
+    const std::vector<std::uint64_t> starts{4 * kMovieClusterSectors, 5 * kMovieClusterSectors};
     std::size_t assembled = 0;
     for (const auto& each : completion.run(starts, {})) {
         assembled += each ? 1 : 0;

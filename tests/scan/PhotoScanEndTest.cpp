@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 #include "scan/PlatformException.h"
-#include "tests/support/TestSession.h"
+#include "tests/scan/PhotoItems.h"
 
 namespace vantor {
 

@@ -5,24 +5,9 @@
 
 #include "results/MyImageObject.h"
 #include "scan/PhotoItemBuffer.h"
-#include "tests/support/TestSession.h"
+#include "tests/scan/PhotoItems.h"
 
 namespace vantor {
-namespace {
-
-std::vector<HandedOver> nonEmpty(const TestSession& session) {
-    std::vector<HandedOver> items;
-    for (const HandedOver& item : session.handedOver) {
-        if (!item.data.isEmpty()) {
-            items.push_back(item);
-        }
-    }
-    return items;
-}
-
-const QStringList kJpegAndPng = recordsOf({{"JPG", "FFD8"}, {"PNG", "89504E47"}});
-
-}  // namespace
 
 TEST(PhotoScan, NextHeaderEndsAnItem) {
     ScriptedMedium medium = dataMedium(10);

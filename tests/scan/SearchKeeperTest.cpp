@@ -22,8 +22,8 @@ SearchRecord someRecord() {
     for (const std::uint64_t sector : {10U, 11U, 300U, 70000U}) {
         record.worthALook.append(sector);
     }
-    record.notes = {QStringLiteral("CANON"),          412, true, 3, 9, QStringLiteral("/a/b.img"),
-                    {0, 1, 7, std::uint64_t{1} << 33}};
+    record.notes = {QStringLiteral("CANON"),           412, true, 3, 9, QStringLiteral("/a/b.img"),
+                    {0, 1, 7, std::uint64_t{1} << 33}, {},  {},   {}};
     return record;
 }
 
@@ -198,7 +198,8 @@ TEST_P(KeptSearch, ToldToStopBeforeASector_EndsThere_AndKnowsAllBeforeIt) {
         const auto run = [&](std::optional<std::uint64_t> stopBefore, SearchRecord record) {
             TestSession session(search.medium);
             const auto keeper = std::make_shared<SearchKeeper>(QString(), std::move(record));
-            keeper->setNotes([] { return SearchNotes{QStringLiteral("x"), 7, false, 0, 0, {}, {}}; });
+            keeper->setNotes(
+                [] { return SearchNotes{QStringLiteral("x"), 7, false, 0, 0, {}, {}, {}, {}, {}}; });
             session.keepSearch(keeper);
             session.stopBefore(stopBefore);
             session.setMediumOpener([&](const QString&) { return openReadAhead(search.medium, GetParam()); });

@@ -26,7 +26,6 @@ class BrowserLooks : public FilesToExamine {
         controller->sortBox_Sig->setCurrentIndex(controller->sortBox_Sig->findData(static_cast<int>(how)));
     }
 };
-};
 
 TEST_F(BrowserLooks, ItemsInViewAreExamined_ThroughAReaderOfTheirOwn) {
     openResults();

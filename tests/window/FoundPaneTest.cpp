@@ -60,9 +60,6 @@ class FoundPaneTest : public FilesToExamine {
 
     const QString aiff = QStringLiteral("AIFF00001.AIFF");
 };
-const QString wav = QStringLiteral("WAV00001.WAV"), png = QStringLiteral("PNG00001.PNG"),
-              aiff = QStringLiteral("AIFF00001.AIFF"), torn = QStringLiteral("WAV00002.WAV");
-};
 
 TEST_F(FoundPaneTest, TheSumIsThatOfTheFiles_OnceAllAreExamined) {
     scan();

@@ -13,9 +13,9 @@ namespace vantor {
 
 namespace {
 
-constexpr int kSideMargin = 2 * theme::kUnit;
-constexpr int kTopMargin = theme::kUnit;
-constexpr int kSpacing = 12;
+constexpr int kMendingSideMargin = 2 * theme::kUnit;
+constexpr int kMendingTopMargin = theme::kUnit;
+constexpr int kMendingSpacing = 12;
 constexpr int kProgressWidth = 22 * theme::kUnit;
 
 }  // namespace
@@ -24,8 +24,8 @@ MendingBar::MendingBar(QWidget* parent) : QFrame(parent) {
     setObjectName(QStringLiteral("mendingBar"));
     setProperty("role", QStringLiteral("card"));
     auto* const row = new QHBoxLayout(this);
-    row->setContentsMargins(kSideMargin, kTopMargin, kSideMargin, kTopMargin);
-    row->setSpacing(kSpacing);
+    row->setContentsMargins(kMendingSideMargin, kMendingTopMargin, kMendingSideMargin, kMendingTopMargin);
+    row->setSpacing(kMendingSpacing);
     label = new QLabel(this);
     label->setObjectName(QStringLiteral("mendingLabel"));
     label->setWordWrap(true);
