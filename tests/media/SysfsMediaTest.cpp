@@ -17,7 +17,7 @@ QVariant factOf(const MediumRecord& medium, const char* key) {
     return medium.facts.value(QLatin1String(key));
 }
 
-SysfsDisk usbStick() {
+SysfsDisk plainUsbStick() {
     SysfsDisk disk;
     disk.disk = {QStringLiteral("sdb"), QStringLiteral("62333952\n"), QStringLiteral("8:16\n"), {}};
     disk.removable = QStringLiteral("1\n");
@@ -42,7 +42,7 @@ SysfsDisk plain(const char* name, const char* removable, const char* sectors) {
 
 TEST(SysfsMedia, UsbStick_OffersDiskAndVolumeWithTheirFacts) {
     const auto media = sysfsMedia(
-        {usbStick()},
+        {plainUsbStick()},
         QStringLiteral(
             "22 1 254:0 / / rw,relatime - ext4 /dev/vda rw\n"
             "90 22 8:17 / /media/anna/CANON\\040DC rw,nosuid shared:5 master:1 - vfat /dev/sdb1 rw\n"
@@ -81,7 +81,7 @@ TEST(SysfsMedia, IdentityIsThatOfTheCardAndItsFileSystem) {
 }
 
 TEST(SysfsMedia, MountTableGivesTheFileSystemWhereUdevIsSilent) {
-    SysfsDisk disk = usbStick();
+    SysfsDisk disk = plainUsbStick();
     disk.volumes[0].udevDatabase.clear();
     const auto media = sysfsMedia({disk}, QStringLiteral("90 22 8:17 / /mnt rw - exfat /dev/sdb1 rw\n"));
     EXPECT_EQ(factOf(media[1], "FilesystemUserVisibleName"), QStringLiteral("ExFAT"));
@@ -116,7 +116,7 @@ TEST(SysfsMedia, JunkInTheMountTable_IsPassedOver) {
     for (const char* junk :
          {"", "\n\n", "-", "1 2 8:17", "1 2 8:17 / /mnt -", "1 2 8:17 / /mnt rw -", "1 2 8:17 / \\9 rw - x",
           "1 2 8:17 / \\04 rw - x", "1 2 8:17 / \\777\\ rw - x"}) {
-        EXPECT_EQ(sysfsMedia({usbStick()}, QLatin1String(junk)).size(), 2) << junk;
+        EXPECT_EQ(sysfsMedia({plainUsbStick()}, QLatin1String(junk)).size(), 2) << junk;
     }
 }
 
