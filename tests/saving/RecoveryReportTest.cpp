@@ -67,15 +67,18 @@ TEST_F(RecoveryReport, TellsWhatTheCardTold) {
     told[0].outcome.original = std::make_shared<const CardFile>(file);
     told[0].outcome.pieces = 3;
     told[0].outcome.runs = {{1200, 1264}, {2048, 2060}, {90, 91}};
-    told[0].outcome.mend = std::make_shared<const Mend>();
     const WrittenReport written = writeReport(folder.path(), head(), told);
     EXPECT_TRUE(contentsOf(written.csv)
                     .split('\n')[1]
                     .endsWith(",\"DCIM/1<b>/IMG_0412.JPG\",deleted,2026-05-17 14:03:22,3,1200+64 2048+12 "
-                              "90+1,put together\r"));
+                              "90+1,\r"));
     const QByteArray html = contentsOf(written.html);
     EXPECT_TRUE(html.contains("DCIM/1&lt;b&gt;/IMG_0412.JPG (deleted, changed 2026-05-17 14:03:22)"));
     EXPECT_TRUE(html.contains("put together from 3 pieces"));
+    told[0].outcome.mend = std::make_shared<const Mend>();
+    const WrittenReport mended = writeReport(folder.path(), head(), told);
+    EXPECT_TRUE(contentsOf(mended.csv).split('\n')[1].endsWith(",put together\r"));
+    EXPECT_TRUE(contentsOf(mended.html).contains("please look"));
 }
 
 TEST_F(RecoveryReport, FilesOfWhichOnlyLengthsWereFollowed_AreSaidToEndWhereTheySay) {
