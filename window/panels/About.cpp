@@ -12,7 +12,8 @@ namespace vantor {
 namespace {
 
 // As this build links or loads them; the pictures' and movies' libraries run in the helpers.
-const char* const kLibraries = "Qt %1, FFmpeg, LibRaw, libewf, libheif, libjxl, OpenJPEG, jxrlib, OpenSSL, zlib";
+const char* const kLibraries =
+    "Qt %1, FFmpeg, LibRaw, libewf, libheif, libjxl, OpenJPEG, jxrlib, OpenSSL, zlib";
 
 }  // namespace
 
