@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 
 #include "filesystem/ClusterVote.h"
 #include "filesystem/FileBeginning.h"

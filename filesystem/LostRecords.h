@@ -1,6 +1,7 @@
 // File records of NTFS that no master file table leads to any more.
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "filesystem/CardTable.h"

@@ -4,17 +4,11 @@
 #include <string>
 
 #include "Corpus.h"
+#include "ExpectedEnd.h"
 #include "Samples.h"
-#include "WalkBytes.h"
 
 namespace vantor::test {
 namespace {
-
-void expectEnd(std::string_view extension, const Bytes& whole, std::size_t end) {
-    const Extent extent = walkBytes(extension, whole);
-    EXPECT_EQ(extent.verdict, Verdict::Complete);
-    EXPECT_EQ(extent.end, end);
-}
 
 // A sound of `bytes` bytes whose outer chunk tells `told`.
 Bytes sound(std::size_t bytes, std::size_t told) {
