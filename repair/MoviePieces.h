@@ -43,10 +43,15 @@ class MoviePieces {
         DataPlace data;
         IsoBox index;
         std::uint64_t bytes = 0;
+        bool chunks = false;     // an AVI movie; else one of boxes
+        std::uint64_t told = 0;  // bytes of an AVI movie by its own account
     };
 
     bool readHead(std::uint64_t firstCluster);
+    bool readChunkHead(std::uint64_t firstCluster, ByteView& view);
     bool findIndexBehind();
+    std::uint64_t indexBytes(ByteView& view, std::uint64_t at) const;
+    bool takeChunkIndex(ByteSource& file);
     bool placeIndex(std::uint64_t firstOfIndex, std::uint64_t number);
     bool continueIndex(std::vector<std::uint64_t>& clusters, std::size_t wanted, unsigned& tries);
     bool takeIndex(const std::vector<std::uint64_t>& clusters);

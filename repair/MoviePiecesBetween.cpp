@@ -57,7 +57,7 @@ std::size_t MoviePieces::brokenSamplesIn(std::uint64_t before, std::uint64_t end
         [](const PromisedSample& each, std::uint64_t at) { return each.at + each.bytes <= at; });
     std::size_t broken = 0;
     for (; sample != m_samples.end() && sample->at < to; ++sample) {
-        broken += sample->coding != Coding::Unknown && !isWholeSample(view, *sample) ? 1 : 0;
+        broken += sample->tells() && !isWholeSample(view, *sample) ? 1 : 0;
     }
     return broken;
 }

@@ -1,0 +1,110 @@
+// AVI movies whose clusters lie scattered over a medium.
+#include <gtest/gtest.h>
+
+#include <QtEndian>
+#include <random>
+
+#include "repair/MovieCompletion.h"
+#include "tests/repair/ScatteredCard.h"
+
+namespace vantor {
+namespace {
+
+using test::clustersOf;
+using test::kClusterBytes;
+using test::kClusterSectors;
+
+QByteArray little(std::uint32_t value) {
+    QByteArray bytes(4, '\0');
+    qToLittleEndian(value, bytes.data());
+    return bytes;
+}
+
+QByteArray aviChunk(const char* name, const QByteArray& body) {
+    return name + little(static_cast<std::uint32_t>(body.size())) + body + QByteArray(body.size() % 2, '\0');
+}
+
+QByteArray headerOf(std::uint32_t pictures, std::uint32_t allPictures) {
+    const QByteArray main = QByteArray(16, '\0') + little(pictures) + QByteArray(36, '\0');
+    const QByteArray extended = "odml" + aviChunk("dmlh", little(allPictures));
+    return aviChunk("LIST", "hdrl" + aviChunk("avih", main) + aviChunk("LIST", extended));
+}
+
+// Pictures that only look like such, and sound; `allPictures`: of which this is the first part.
+QByteArray makeAvi(unsigned seed, int pictures, std::uint32_t allPictures = 0) {
+    std::mt19937 random(seed);
+    QByteArray data = "movi";
+    QByteArray index;
+    for (int i = 0; i < pictures; ++i) {
+        for (const char* const name : {"00dc", "01wb"}) {
+            QByteArray body(name[1] == '0' ? 2000 + static_cast<int>(random() % 3000) : 400, '\0');
+            for (char& byte : body) {
+                byte = static_cast<char>(random() % 255);
+            }
+            if (name[1] == '0') {
+                body.replace(0, 4, QByteArray::fromHex("ffd8ffd9"));
+            }
+            index += name + little(16) + little(static_cast<std::uint32_t>(data.size())) +
+                     little(static_cast<std::uint32_t>(body.size()));
+            data += aviChunk(name, body);
+        }
+    }
+    const auto count = static_cast<std::uint32_t>(pictures);
+    return aviChunk("RIFF", "AVI " + headerOf(count, std::max(count, allPictures)) + aviChunk("LIST", data) +
+                                aviChunk("idx1", index));
+}
+
+std::vector<std::optional<Assembly>> completedMovies(const test::ScatteredCard& card,
+                                                     const std::vector<std::uint64_t>& starts) {
+    const QByteArray bytes = card.bytes();
+    test::MemoryReader reader(bytes);
+    const std::atomic<int> goOn{0};
+    CompletionProgress progress;
+    MovieReaderOptions noHelper;
+    noHelper.helper = QStringLiteral("/nowhere");
+    return MovieCompletion(reader, goOn, progress, noHelper).run(starts, {});
+}
+
+}  // namespace
+
+TEST(AviPieces, TwoMoviesInTurn_ComeApart) {
+    const QByteArray one = makeAvi(1, 40);
+    const QByteArray other = makeAvi(2, 60);
+    test::ScatteredCard card;
+    std::vector<std::uint64_t> starts;
+    for (qsizetype i = 0; i < std::max(clustersOf(one), clustersOf(other)); ++i) {
+        for (const QByteArray* const movie : {&one, &other}) {
+            const std::uint64_t first = i < clustersOf(*movie) ? card.put(*movie, i, i + 1) : 0;
+            if (i == 0) {
+                starts.push_back(first);
+            }
+        }
+    }
+    const auto found = completedMovies(card, starts);
+    ASSERT_EQ(found.size(), 2U);
+    ASSERT_TRUE(found[0] && found[1]);
+    EXPECT_EQ(card.contentOf(*found[0]), one);
+    EXPECT_EQ(card.contentOf(*found[1]), other);
+    EXPECT_EQ(found[1]->proof, AssemblyProof::Proved);
+}
+
+TEST(AviPieces, PieceThatIsGone_IsNotProved) {
+    const QByteArray movie = makeAvi(1, 40);
+    test::ScatteredCard card;
+    const std::uint64_t first = card.put(movie, 0, clustersOf(movie) / 2);
+    card.putNoise(5);
+    card.put(movie, clustersOf(movie) / 2 + 2);
+    const auto found = completedMovies(card, {first});
+    EXPECT_TRUE(!found[0] || found[0]->proof == AssemblyProof::Likely);
+}
+
+TEST(AviPieces, FirstPartOfALongerMovie_IsLeft) {
+    const QByteArray movie = makeAvi(1, 40, 90);
+    test::ScatteredCard card;
+    const std::uint64_t first = card.put(movie, 0, clustersOf(movie) / 2);
+    card.putNoise(5);
+    card.put(movie, clustersOf(movie) / 2);
+    EXPECT_FALSE(completedMovies(card, {first})[0]);
+}
+
+}  // namespace vantor
