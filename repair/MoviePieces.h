@@ -66,7 +66,11 @@ class MoviePieces {
     void fillRow(std::uint64_t before, std::uint64_t end);
     bool lay(std::uint64_t before, std::uint64_t end, std::uint64_t ahead, std::uint64_t step);
     void lift(std::uint64_t before, std::uint64_t end);
-    std::size_t brokenSamplesIn(std::uint64_t before, std::uint64_t end);
+    struct RowLook {
+        std::size_t broken = 0;  // samples
+        bool proved = true;      // a foreign cluster would have shown
+    };
+    RowLook lookAtRow(std::uint64_t before, std::uint64_t end);
 
     MediumBlocks& m_medium;
     const FreeClusters& m_free;

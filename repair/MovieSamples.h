@@ -44,4 +44,8 @@ Likeness beginsAs(const PromisedSample& sample, std::span<const std::uint8_t> by
 // Whether the whole sample is there, as far as its syntax tells.
 bool isWholeSample(ByteView& view, const PromisedSample& sample);
 
+// Whether the codes of a picture come out even from its first to its last; nothing where they are not
+// followed. Of JPEG pictures.
+std::optional<bool> isEvenPicture(ByteView& view, const PromisedSample& sample);
+
 }  // namespace vantor

@@ -5,6 +5,7 @@
 #include <random>
 
 #include "repair/MovieCompletion.h"
+#include "tests/repair/Photos.h"
 #include "tests/repair/ScatteredCard.h"
 
 namespace vantor {
@@ -30,28 +31,38 @@ QByteArray headerOf(std::uint32_t pictures, std::uint32_t allPictures) {
     return aviChunk("LIST", "hdrl" + aviChunk("avih", main) + aviChunk("LIST", extended));
 }
 
-// Pictures that only look like such, and sound; `allPictures`: of which this is the first part.
-QByteArray makeAvi(unsigned seed, int pictures, std::uint32_t allPictures = 0) {
-    std::mt19937 random(seed);
+using Chunks = std::vector<std::pair<const char*, QByteArray>>;
+
+// `allPictures`: of which this is the first part.
+QByteArray makeAvi(const Chunks& chunks, std::uint32_t allPictures = 0) {
     QByteArray data = "movi";
     QByteArray index;
+    std::uint32_t pictures = 0;
+    for (const auto& [name, body] : chunks) {
+        index += name + little(16) + little(static_cast<std::uint32_t>(data.size())) +
+                 little(static_cast<std::uint32_t>(body.size()));
+        data += aviChunk(name, body);
+        pictures += name[1] == '0' ? 1 : 0;
+    }
+    return aviChunk("RIFF", "AVI " + headerOf(pictures, std::max(pictures, allPictures)) +
+                                aviChunk("LIST", data) + aviChunk("idx1", index));
+}
+
+// Pictures that nothing could decode, and sound.
+Chunks noiseChunks(unsigned seed, int pictures) {
+    std::mt19937 random(seed);
+    Chunks chunks;
     for (int i = 0; i < pictures; ++i) {
         for (const char* const name : {"00dc", "01wb"}) {
-            QByteArray body(name[1] == '0' ? 2000 + static_cast<int>(random() % 3000) : 400, '\0');
+            // Something begins in every cluster.
+            QByteArray body(name[1] == '0' ? 2000 + static_cast<int>(random() % 1500) : 400, '\0');
             for (char& byte : body) {
                 byte = static_cast<char>(random() % 255);
             }
-            if (name[1] == '0') {
-                body.replace(0, 4, QByteArray::fromHex("ffd8ffd9"));
-            }
-            index += name + little(16) + little(static_cast<std::uint32_t>(data.size())) +
-                     little(static_cast<std::uint32_t>(body.size()));
-            data += aviChunk(name, body);
+            chunks.emplace_back(name, body);
         }
     }
-    const auto count = static_cast<std::uint32_t>(pictures);
-    return aviChunk("RIFF", "AVI " + headerOf(count, std::max(count, allPictures)) + aviChunk("LIST", data) +
-                                aviChunk("idx1", index));
+    return chunks;
 }
 
 std::vector<std::optional<Assembly>> completedMovies(const test::ScatteredCard& card,
@@ -68,8 +79,8 @@ std::vector<std::optional<Assembly>> completedMovies(const test::ScatteredCard& 
 }  // namespace
 
 TEST(AviPieces, TwoMoviesInTurn_ComeApart) {
-    const QByteArray one = makeAvi(1, 40);
-    const QByteArray other = makeAvi(2, 60);
+    const QByteArray one = makeAvi(noiseChunks(1, 40));
+    const QByteArray other = makeAvi(noiseChunks(2, 60));
     test::ScatteredCard card;
     std::vector<std::uint64_t> starts;
     for (qsizetype i = 0; i < std::max(clustersOf(one), clustersOf(other)); ++i) {
@@ -88,8 +99,27 @@ TEST(AviPieces, TwoMoviesInTurn_ComeApart) {
     EXPECT_EQ(found[1]->proof, AssemblyProof::Proved);
 }
 
+// Nothing begins in the clusters of a large picture: where it was cut, its codes tell.
+TEST(AviPieces, CutWithinAPicture_IsTheOneWithWhichItComesOutEven) {
+    Chunks chunks;
+    for (const unsigned seed : {1U, 2U, 3U, 4U}) {
+        chunks.emplace_back("00dc", test::makePhoto(seed));
+    }
+    const QByteArray movie = makeAvi(chunks);
+    const QByteArray other = test::makePhoto(5);
+    const qsizetype cut = clustersOf(movie) * 3 / 8;
+    test::ScatteredCard card;
+    const std::uint64_t first = card.put(movie, 0, cut);
+    card.put(other, 4, 10);
+    card.put(movie, cut);
+    const auto found = completedMovies(card, {first})[0];
+    ASSERT_TRUE(found);
+    EXPECT_EQ(card.contentOf(*found), movie);
+    EXPECT_EQ(found->proof, AssemblyProof::Proved);
+}
+
 TEST(AviPieces, PieceThatIsGone_IsNotProved) {
-    const QByteArray movie = makeAvi(1, 40);
+    const QByteArray movie = makeAvi(noiseChunks(1, 40));
     test::ScatteredCard card;
     const std::uint64_t first = card.put(movie, 0, clustersOf(movie) / 2);
     card.putNoise(5);
@@ -99,7 +129,7 @@ TEST(AviPieces, PieceThatIsGone_IsNotProved) {
 }
 
 TEST(AviPieces, FirstPartOfALongerMovie_IsLeft) {
-    const QByteArray movie = makeAvi(1, 40, 90);
+    const QByteArray movie = makeAvi(noiseChunks(1, 40), 90);
     test::ScatteredCard card;
     const std::uint64_t first = card.put(movie, 0, clustersOf(movie) / 2);
     card.putNoise(5);
