@@ -70,7 +70,8 @@ bool Walker::fillGap(MovieGap& gap) const {
     for (std::size_t tries = 0; at < place.to && tries < kMostTries; ++tries) {
         const std::uint64_t from = at;
         for (const std::uint32_t bytes : m_split({at, place.to})) {
-            if (bytes > m_reference.mostSoundBytes) {
+            // Louder sound has longer packets than the reference may ever have had.
+            if (bytes > 2 * m_reference.mostSoundBytes) {
                 break;
             }
             gap.packets.push_back({at, bytes});
