@@ -23,16 +23,36 @@ std::vector<std::uint64_t> indexPlaces(MediumBlocks& medium, const std::atomic<i
     constexpr std::size_t kHeadBytes = 16;
     constexpr std::size_t kMostPlaces = 100'000;
     std::vector<std::uint64_t> places;
-    const auto look = [&](std::span<const std::uint8_t> bytes, std::uint64_t at) {
-        for (std::size_t i = 4; i + 12 <= bytes.size() && places.size() < kMostPlaces; ++i) {
-            const std::uint8_t* const here = bytes.data() + i;
-            if (here[0] == 'm' && std::memcmp(here, "moov", 4) == 0 &&
-                std::memcmp(here + 8, "mvhd", 4) == 0) {
-                places.push_back(at + i - 4);
-            } else if (here[0] == 'i' && std::memcmp(here, "idx1", 4) == 0 && here[7] == 0) {
-                places.push_back(at + i);
+    // What stands so many bytes before the name, and behind it, has to be looked at too.
+    constexpr std::size_t kBefore = 4;
+    constexpr std::size_t kBehind = 12;
+    const auto lookFor = [&](const char* name, auto&& placeOf, std::span<const std::uint8_t> bytes) {
+        for (std::size_t i = kBefore; i + kBehind <= bytes.size() && places.size() < kMostPlaces; ++i) {
+            const void* const found = memmem(bytes.data() + i, bytes.size() - i - kBehind + 4, name, 4);
+            if (found == nullptr) {
+                break;
+            }
+            const auto* const here = static_cast<const std::uint8_t*>(found);
+            i = static_cast<std::size_t>(here - bytes.data());
+            if (const auto place = placeOf(here, i)) {
+                places.push_back(*place);
             }
         }
+    };
+    const auto look = [&](std::span<const std::uint8_t> bytes, std::uint64_t at) {
+        lookFor(
+            "moov",
+            [&](const std::uint8_t* here, std::size_t i) {
+                return std::memcmp(here + 8, "mvhd", 4) == 0 ? std::optional(at + i - 4) : std::nullopt;
+            },
+            bytes);
+        lookFor(
+            "idx1",
+            // Its length is less than 16 MiB.
+            [&](const std::uint8_t* here, std::size_t i) {
+                return here[7] == 0 ? std::optional(at + i) : std::nullopt;
+            },
+            bytes);
     };
     std::vector<std::uint8_t> seam(2 * kHeadBytes, 0);
     for (std::uint64_t sector = 0; sector < medium.sectors() && stop == 0;
@@ -40,12 +60,8 @@ std::vector<std::uint64_t> indexPlaces(MediumBlocks& medium, const std::atomic<i
         const auto block = medium.blockOf(sector);
         std::copy_n(block.begin(), kHeadBytes, seam.begin() + kHeadBytes);
         if (sector != 0) {
-            // Only what lies across: a place that the block itself holds whole is found in it.
-            const std::size_t before = places.size();
+            // What the block itself holds whole is found in it as well, and taken once.
             look(seam, sector * kSectorBytes - kHeadBytes);
-            if (places.size() > before && places.back() >= sector * kSectorBytes) {
-                places.pop_back();
-            }
         }
         look(block, sector * kSectorBytes);
         std::copy_n(block.end() - kHeadBytes, kHeadBytes, seam.begin());

@@ -71,7 +71,8 @@ std::vector<std::optional<Assembly>> PhotoCompletion::run(std::span<const std::u
                 if (auto photo = PhotoPieces(blocks, grid, kinds, m_stop).assemble(*first, unitsLeft[i])) {
                     const bool proved = photo->joinsShow && isWholeFile(blocks, grid, *photo);
                     found = FoundPhoto{std::move(photo->clusters), photo->bytes, proved};
-                } else if (auto scans = ProgressivePieces(blocks, grid, kinds, m_stop).assemble(*first)) {
+                } else if (auto scans = ProgressivePieces(blocks, grid, kinds, m_stop)
+                                            .assemble(*first, unitsLeft[i])) {
                     const bool proved = scans->joinsShow && isWholeFile(blocks, grid, *scans);
                     found = FoundPhoto{std::move(scans->clusters), scans->bytes, proved};
                 } else if (auto png = PngPieces(blocks, grid, m_stop).assemble(*first)) {

@@ -16,8 +16,7 @@ constexpr std::uint64_t kTrialUnits = 32;  // that beginning a trial counts for
 
 }  // namespace
 
-std::optional<PiecedPhoto> ProgressivePieces::assemble(std::uint64_t firstCluster) {
-    m_unitsLeft = kMostUnits;
+std::optional<PiecedPhoto> ProgressivePieces::assemble(std::uint64_t firstCluster, std::uint64_t& units) {
     for (const std::size_t joins : {std::size_t{1}, kMostJoins}) {
         m_row = std::make_unique<ClusterRow>(
             m_medium, m_free,
@@ -31,7 +30,12 @@ std::optional<PiecedPhoto> ProgressivePieces::assemble(std::uint64_t firstCluste
             return std::nullopt;
         }
         m_found = {};
-        if (solve(joins, true)) {
+        // What one join costs leaves as much for several.
+        const std::uint64_t share = joins == 1 ? units / 2 : units;
+        m_unitsLeft = share;
+        const bool found = solve(joins, true);
+        units -= share - m_unitsLeft;
+        if (found) {
             return m_found;
         }
     }

@@ -18,8 +18,6 @@ namespace vantor {
 // Finds where the clusters of one photo lie. Any one thread.
 class ProgressivePieces {
   public:
-    // Of one photo: coded units that are read in all its trials.
-    static constexpr std::uint64_t kMostUnits = 10'000'000;
     static constexpr std::size_t kMostJoins = 3;
 
     ProgressivePieces(MediumBlocks& medium, const FreeClusters& free, ClusterKinds& kinds,
@@ -28,8 +26,8 @@ class ProgressivePieces {
 
     // The photo that begins in the cluster; nothing unless each scan has all its units, and the end mark
     // stands behind the last. A foreign piece shows where there is one join, and not where bare bits stand
-    // there.
-    std::optional<PiecedPhoto> assemble(std::uint64_t firstCluster);
+    // there. Takes what its trials read off `units`, and reads no more than these.
+    std::optional<PiecedPhoto> assemble(std::uint64_t firstCluster, std::uint64_t& units);
 
   private:
     // A cluster boundary, by the number of the cluster behind it, and how to read on there.
@@ -54,7 +52,7 @@ class ProgressivePieces {
 
     std::unique_ptr<ClusterRow> m_row;
     std::unique_ptr<ProgressiveUnits> m_units;
-    std::uint64_t m_unitsLeft = 0;
+    std::uint64_t m_unitsLeft = 0;  // for the trials
     PiecedPhoto m_found;
 };
 

@@ -6,10 +6,12 @@
 #include <vector>
 
 #include "formats/IsoBox.h"
+#include "repair/MoviePieces.h"
 #include "repair/MovieSamples.h"
 #include "repair/MovieWalk.h"
 #include "repair/PhotoPieces.h"
 #include "repair/PngPieces.h"
+#include "repair/ProgressivePieces.h"
 #include "repair/ReferenceMovie.h"
 
 namespace vantor::fuzz {
@@ -63,6 +65,21 @@ void completePhoto(std::span<const std::uint8_t> bytes) {
     const auto photo = PhotoPieces(blocks, grid, kinds, goOn).assemble(0, units);
     if (photo) {
         checkClusters(photo->clusters, photo->bytes, grid);
+    }
+    if (const auto scans = ProgressivePieces(blocks, grid, kinds, goOn).assemble(0, units)) {
+        checkClusters(scans->clusters, scans->bytes, grid);
+    }
+}
+
+// A movie at the beginning, of boxes or of chunks.
+void completeMovie(std::span<const std::uint8_t> bytes) {
+    MemoryMedium medium(bytes);
+    MediumBlocks blocks(medium);
+    const FreeClusters grid({0, 1}, medium.mediumSectors());
+    const std::atomic<int> goOn{0};
+    const auto indexes = indexPlaces(blocks, goOn);
+    if (const auto movie = MoviePieces(blocks, grid, indexes, goOn).assemble(0)) {
+        checkClusters(movie->clusters, movie->bytes, grid);
     }
 }
 
@@ -129,7 +146,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     }
     const std::span<const std::uint8_t> bytes(data + 1, size - 1);
-    switch (data[0] % 6) {
+    switch (data[0] % 7) {
         case 0:
             fuzz::readSamples(bytes);
             break;
@@ -144,6 +161,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             break;
         case 4:
             fuzz::completePng(bytes);
+            break;
+        case 6:
+            fuzz::completeMovie(bytes);
             break;
         default:
             fuzz::completePhoto(bytes);

@@ -2,6 +2,7 @@
 #include <QFile>
 #include <cstdio>
 
+#include "tests/repair/Avis.h"
 #include "tests/repair/Movies.h"
 #include "tests/repair/Photos.h"
 
@@ -23,9 +24,14 @@ int main(int argc, char** argv) {
     const QString folder = QString::fromLocal8Bit(argv[1]);
     const QByteArray photo = vantor::test::makePhoto(1, 96, 96);
     const qsizetype cut = photo.size() / 1024 * 512;
+    const QByteArray scans = vantor::test::makePhoto(2, 96, 96, vantor::test::Scans::Progressive);
+    const QByteArray avi = vantor::test::makeAvi(vantor::test::noiseChunks(1, 2));
     const auto movie = vantor::test::makeMovie(vantor::test::picturesOfManySizes(4, 1), false, 1).bytes;
     const bool written =
         write(folder, "samples", 0, movie) && write(folder, "walk", 1, movie) &&
+        write(folder, "movie", 6, movie) && write(folder, "chunks", 6, avi) &&
+        write(folder, "scans", 5, scans) &&
+        write(folder, "scan-pieces", 5, scans.left(cut) + QByteArray(1024, '\0') + scans.mid(cut)) &&
         write(folder, "whole", 5, photo) &&
         write(folder, "pieces", 5,
               photo.left(cut) + QByteArray(1024, '\0') + photo.mid(cut) + QByteArray(512, '\0'));

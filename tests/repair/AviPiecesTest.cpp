@@ -1,10 +1,8 @@
 // AVI movies whose clusters lie scattered over a medium.
 #include <gtest/gtest.h>
 
-#include <QtEndian>
-#include <random>
-
 #include "repair/MovieCompletion.h"
+#include "tests/repair/Avis.h"
 #include "tests/repair/Photos.h"
 #include "tests/repair/ScatteredCard.h"
 
@@ -12,58 +10,8 @@ namespace vantor {
 namespace {
 
 using test::clustersOf;
-using test::kClusterBytes;
-using test::kClusterSectors;
-
-QByteArray little(std::uint32_t value) {
-    QByteArray bytes(4, '\0');
-    qToLittleEndian(value, bytes.data());
-    return bytes;
-}
-
-QByteArray aviChunk(const char* name, const QByteArray& body) {
-    return name + little(static_cast<std::uint32_t>(body.size())) + body + QByteArray(body.size() % 2, '\0');
-}
-
-QByteArray headerOf(std::uint32_t pictures, std::uint32_t allPictures) {
-    const QByteArray main = QByteArray(16, '\0') + little(pictures) + QByteArray(36, '\0');
-    const QByteArray extended = "odml" + aviChunk("dmlh", little(allPictures));
-    return aviChunk("LIST", "hdrl" + aviChunk("avih", main) + aviChunk("LIST", extended));
-}
-
-using Chunks = std::vector<std::pair<const char*, QByteArray>>;
-
-// `allPictures`: of which this is the first part.
-QByteArray makeAvi(const Chunks& chunks, std::uint32_t allPictures = 0) {
-    QByteArray data = "movi";
-    QByteArray index;
-    std::uint32_t pictures = 0;
-    for (const auto& [name, body] : chunks) {
-        index += name + little(16) + little(static_cast<std::uint32_t>(data.size())) +
-                 little(static_cast<std::uint32_t>(body.size()));
-        data += aviChunk(name, body);
-        pictures += name[1] == '0' ? 1 : 0;
-    }
-    return aviChunk("RIFF", "AVI " + headerOf(pictures, std::max(pictures, allPictures)) +
-                                aviChunk("LIST", data) + aviChunk("idx1", index));
-}
-
-// Pictures that nothing could decode, and sound.
-Chunks noiseChunks(unsigned seed, int pictures) {
-    std::mt19937 random(seed);
-    Chunks chunks;
-    for (int i = 0; i < pictures; ++i) {
-        for (const char* const name : {"00dc", "01wb"}) {
-            // Something begins in every cluster.
-            QByteArray body(name[1] == '0' ? 2000 + static_cast<int>(random() % 1500) : 400, '\0');
-            for (char& byte : body) {
-                byte = static_cast<char>(random() % 255);
-            }
-            chunks.emplace_back(name, body);
-        }
-    }
-    return chunks;
-}
+using test::makeAvi;
+using test::noiseChunks;
 
 std::vector<std::optional<Assembly>> completedMovies(const test::ScatteredCard& card,
                                                      const std::vector<std::uint64_t>& starts) {
@@ -101,7 +49,7 @@ TEST(AviPieces, TwoMoviesInTurn_ComeApart) {
 
 // Nothing begins in the clusters of a large picture: where it was cut, its codes tell.
 TEST(AviPieces, CutWithinAPicture_IsTheOneWithWhichItComesOutEven) {
-    Chunks chunks;
+    test::Chunks chunks;
     for (const unsigned seed : {1U, 2U, 3U, 4U}) {
         chunks.emplace_back("00dc", test::makePhoto(seed));
     }
