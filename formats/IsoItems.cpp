@@ -11,7 +11,7 @@ namespace vantor {
 namespace {
 
 constexpr int kMostBoxes = 4096;
-constexpr std::size_t kMostItems = 1024;
+constexpr std::size_t kIsoItemsMostItems = 1024;
 
 struct Item {
     std::uint32_t number = 0;
@@ -50,7 +50,7 @@ class CodedItems {
     }
 
   private:
-    std::array<Item, kMostItems> m_items{};
+    std::array<Item, kIsoItemsMostItems> m_items{};
     std::size_t m_count = 0;
 };
 
