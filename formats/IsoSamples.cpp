@@ -5,7 +5,7 @@
 #include <array>
 #include <optional>
 
-#include "formats/IsoTracks.h"
+#include "formats/IsoSampleCensus.h"
 
 namespace vantor {
 
@@ -25,46 +25,28 @@ class TrackCheck {
   public:
     TrackCheck(ByteView& view, const IsoTrack& track, std::span<const DataPlace> data, bool all,
                std::uint64_t dataBytes)
-        : m_view(view), m_track(track), m_data(data), m_all(all), m_dataBytes(dataBytes) {}
+        : m_view(view), m_track(track), m_all(all), m_dataBytes(dataBytes), m_census(view, track, data) {}
 
     ContentCheck check();
 
   private:
     void chunk(std::uint64_t index, std::uint64_t firstSample, std::uint64_t samples);
-    bool isInData(std::uint64_t at, std::uint64_t bytes) const;
-    void look(std::uint64_t at, std::uint64_t bytes);
 
     ByteView& m_view;
     const IsoTrack& m_track;
-    const std::span<const DataPlace> m_data;
     const bool m_all;
     const std::uint64_t m_dataBytes;
-    std::uint64_t m_inside = 0;
-    std::uint64_t m_outside = 0;
-    std::uint64_t m_sound = 0;
-    std::uint64_t m_broken = 0;
-    std::uint64_t m_widest = 0;
+    SampleCensus m_census;
 };
-
-bool TrackCheck::isInData(std::uint64_t at, std::uint64_t bytes) const {
-    return std::any_of(m_data.begin(), m_data.end(), [&](const DataPlace& place) {
-        return at >= place.from && at <= place.to && bytes <= place.to - at;
-    });
-}
-
-void TrackCheck::look(std::uint64_t at, std::uint64_t bytes) {
-    const auto blind = lookAtSample(m_view, m_track.coding, m_track.lengthBytes, at, bytes);
-    ++(blind ? m_sound : m_broken);
-    m_widest = std::max(m_widest, blind.value_or(0));
-}
 
 // The sizes are read in one go, so that the window does not jump to and fro between table and data.
 void TrackCheck::chunk(std::uint64_t index, std::uint64_t firstSample, std::uint64_t samples) {
     const auto offset = m_track.chunks.entry(m_view, index);
     if (!offset)
         return;
-    if (m_track.sampleBytes != 0) {  // plain sound, whose tables count in units of their own
-        ++(isInData(*offset, 1) ? m_inside : m_outside);
+    const bool alike = m_track.sampleBytes != 0;
+    if (alike && m_track.coding == Coding::Unknown) {  // plain sound is counted in units of its own
+        m_census.addPlace(*offset);
         return;
     }
     std::uint64_t at = *offset;
@@ -73,16 +55,14 @@ void TrackCheck::chunk(std::uint64_t index, std::uint64_t firstSample, std::uint
         std::size_t known = 0;
         const std::uint64_t wanted = m_all ? sizes.size() : kSamplesLookedAt;
         for (; known < std::min<std::uint64_t>(wanted, samples - done); ++known) {
-            const auto size = m_track.sizes.entry(m_view, firstSample + done + known);
+            const auto size = alike ? std::optional(m_track.sampleBytes)
+                                    : m_track.sizes.entry(m_view, firstSample + done + known);
             if (!size)
                 break;
             sizes[known] = *size;
         }
         for (std::size_t i = 0; i < known; ++i) {
-            const bool inside = isInData(at, sizes[i]);
-            ++(inside ? m_inside : m_outside);
-            if (inside && m_track.coding != Coding::Unknown)
-                look(at, sizes[i]);
+            m_census.add(at, sizes[i]);
             at = addClamped(at, sizes[i]);
         }
         done += known;
@@ -114,11 +94,7 @@ ContentCheck TrackCheck::check() {
         }
         sample = addClamped(sample, mulClamped(next - first, samples));
     }
-    // Tables and codings of which nothing is as it should be were not understood.
-    if ((m_outside != 0 && m_inside != 0) || (m_broken != 0 && m_sound != 0))
-        return {ContentCheck::Outcome::Broken};
-    const bool enough = m_sound != 0 && (!m_all || isEnough(m_widest, m_dataBytes));
-    return {enough ? ContentCheck::Outcome::Sound : ContentCheck::Outcome::Silent};
+    return m_census.outcome(m_all, m_dataBytes);
 }
 
 }  // namespace

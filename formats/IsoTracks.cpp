@@ -17,7 +17,8 @@ void readDescription(ByteView& view, const IsoBox& box, IsoTrack& track) {
     if (!entry || entry->end > box.end || view.be32(box.body + 4) != 1U)
         return;
     track.codingName = entry->name;
-    track.coding = codingOf(entry->text());
+    track.coding =
+        entry->text() == "mp4a" ? codingOfMpeg4Sound(view, entry->body, entry->end) : codingOf(entry->text());
     track.lengthBytes = lengthBytesIn(view, entry->body + kVisualHead, entry->end);
 }
 
