@@ -22,7 +22,7 @@ struct PlyElement {
     std::vector<Property> properties;
 };
 
-constexpr std::size_t kMostElements = 64, kPlyMostProperties = 256;
+constexpr std::size_t kPlyMostElements = 64, kPlyMostProperties = 256;
 
 std::uint64_t bytesOf(std::string_view type) {
     struct Named {
@@ -101,7 +101,7 @@ bool PlyWalk::takeElement(std::string_view line) {
         count = count * 10 + static_cast<std::uint64_t>(digit - '0');
     }
     m_elements.push_back({count, {}});
-    return m_elements.size() <= kMostElements;
+    return m_elements.size() <= kPlyMostElements;
 }
 
 bool PlyWalk::takeProperty(std::string_view line) {
