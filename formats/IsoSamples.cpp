@@ -11,15 +11,15 @@ namespace vantor {
 
 namespace {
 
-constexpr int kMostTracks = 32;
+constexpr int kIsoSamplesMostTracks = 32;
 constexpr std::uint64_t kMostRuns = 1 << 16;  // of chunks that hold equally many samples
 
 // A movie with up to so much data, in up to so many samples, is looked at as a whole; of a longer one so many
 // chunks of each track, spread evenly, and so many samples of each.
-constexpr std::uint64_t kSmallMovie = 4 * 1024 * 1024;
+constexpr std::uint64_t kIsoSamplesSmallMovie = 4 * 1024 * 1024;
 constexpr std::uint64_t kFewSamples = 4096;
 constexpr std::uint64_t kChunksLookedAt = 48;
-constexpr std::size_t kSamplesLookedAt = 4;
+constexpr std::size_t kIsoSamplesSamplesLookedAt = 4;
 
 class TrackCheck {
   public:
@@ -53,7 +53,7 @@ void TrackCheck::chunk(std::uint64_t index, std::uint64_t firstSample, std::uint
     for (std::uint64_t done = 0; done < samples;) {
         std::array<std::uint64_t, 64> sizes{};
         std::size_t known = 0;
-        const std::uint64_t wanted = m_all ? sizes.size() : kSamplesLookedAt;
+        const std::uint64_t wanted = m_all ? sizes.size() : kIsoSamplesSamplesLookedAt;
         for (; known < std::min<std::uint64_t>(wanted, samples - done); ++known) {
             const auto size = alike ? std::optional(m_track.sampleBytes)
                                     : m_track.sizes.entry(m_view, firstSample + done + known);
@@ -107,13 +107,13 @@ ContentCheck checkSamples(ByteView& view, const IsoBox& movie, std::span<const D
     bool everyVideo = true;
     int tracks = 0;
     forIsoBoxes(view, movie.body, movie.end, [&](const IsoBox& box) {
-        if (box.text() != "trak" || ++tracks > kMostTracks)
+        if (box.text() != "trak" || ++tracks > kIsoSamplesMostTracks)
             return;
         const IsoTrack track = readIsoTrack(view, box);
         if (track.elsewhere || track.chunks.count == 0 || all.outcome == ContentCheck::Outcome::Broken)
             return;
         const bool whole =
-            bytes <= kSmallMovie && std::max(track.sizes.count, track.chunks.count) <= kFewSamples;
+            bytes <= kIsoSamplesSmallMovie && std::max(track.sizes.count, track.chunks.count) <= kFewSamples;
         const ContentCheck check = TrackCheck(view, track, data, whole, bytes).check();
         everyVideo = everyVideo && (!track.isVideo() || check.outcome != ContentCheck::Outcome::Silent);
         if (check.outcome == ContentCheck::Outcome::Broken || all.outcome == ContentCheck::Outcome::Silent)

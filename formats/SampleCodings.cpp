@@ -11,14 +11,14 @@ namespace vantor {
 
 namespace {
 
-constexpr int kMostUnits = 512;  // of one sample that are followed; more are taken for granted
+constexpr int kSampleCodingsMostUnits = 512;  // of one sample that are followed; more are taken for granted
 
 // Of units that each tell their length, to the sample's last byte; nothing when they do not come out even.
 std::optional<std::uint64_t> longestUnit(ByteView& view, Coding coding, unsigned lengthBytes,
                                          std::uint64_t at, std::uint64_t bytes) {
     const std::uint64_t end = at + bytes;
     std::uint64_t longest = 0;
-    for (int units = 0; units < kMostUnits && at < end; ++units) {
+    for (int units = 0; units < kSampleCodingsMostUnits && at < end; ++units) {
         const auto length = view.number(at, lengthBytes, Endian::Big);
         at += lengthBytes;
         if (!length || *length == 0 || at > end || *length > end - at)
@@ -39,7 +39,7 @@ std::optional<std::uint64_t> longestObu(ByteView& view, std::uint64_t at, std::u
     constexpr std::uint32_t kKnownKinds = 0x81FE;  // 1 to 8 and 15
     const std::uint64_t end = at + bytes;
     std::uint64_t longest = 0;
-    for (int units = 0; units < kMostUnits && at < end; ++units) {
+    for (int units = 0; units < kSampleCodingsMostUnits && at < end; ++units) {
         const auto head = view.u8(at);
         if (!head || (*head & 0x81) != 0 || (kKnownKinds >> (*head >> 3 & 15) & 1) == 0)
             return std::nullopt;

@@ -36,7 +36,16 @@ class Bits {
     bool m_ok = true;
 };
 
-enum Element : std::uint8_t { kSingle, kPair, kCoupling, kLowFrequency, kData, kProgram, kFill, kEnd };
+enum AacElement : std::uint8_t {
+    kAacSingle,
+    kAacPair,
+    kAacCoupling,
+    kAacLowFrequency,
+    kAacData,
+    kAacProgram,
+    kAacFill,
+    kAacEnd
+};
 
 constexpr int kMostInFront = 16;  // elements before the first of sound
 
@@ -70,9 +79,9 @@ bool isAacFrame(ByteView& view, std::uint64_t at, std::uint64_t bytes) {
     Bits bits(view, at, bytes);
     for (int i = 0; i < kMostInFront; ++i) {
         const auto element = bits.take(3);
-        if (element == kEnd)
+        if (element == kAacEnd)
             return i != 0 && bits.ok();
-        if (element == kFill) {
+        if (element == kAacFill) {
             unsigned count = bits.take(4);
             if (count == 15)
                 count += bits.take(8) - 1;
@@ -80,7 +89,7 @@ bool isAacFrame(ByteView& view, std::uint64_t at, std::uint64_t bytes) {
             continue;
         }
         const auto tag = bits.take(4);
-        if (element == kData) {
+        if (element == kAacData) {
             const bool aligned = bits.take(1) != 0;
             unsigned count = bits.take(8);
             if (count == 255)
@@ -90,22 +99,22 @@ bool isAacFrame(ByteView& view, std::uint64_t at, std::uint64_t bytes) {
             bits.skipBytes(count);
             continue;
         }
-        if (element == kProgram) {  // its profile and sampling rate; the rest is as long as it likes
+        if (element == kAacProgram) {  // its profile and sampling rate; the rest is as long as it likes
             bits.take(2);
             return bits.take(4) <= 12 && bits.ok();
         }
-        const bool commonWindow = element == kPair && bits.take(1) != 0;
+        const bool commonWindow = element == kAacPair && bits.take(1) != 0;
         if (!commonWindow)
             bits.take(8);  // gain
         const bool reserved = bits.take(1) != 0;
-        return (element == kSingle || element == kPair) && tag == 0 && !reserved && bits.ok();
+        return (element == kAacSingle || element == kAacPair) && tag == 0 && !reserved && bits.ok();
     }
     return false;
 }
 
 bool isAlacFrame(ByteView& view, std::uint64_t at) {
     const auto head = view.be32(at).value_or(~0U);
-    return head >> 29 <= kPair && (head >> 13 & 0xFFF) == 0;
+    return head >> 29 <= kAacPair && (head >> 13 & 0xFFF) == 0;
 }
 
 Coding codingOfMpeg4Sound(ByteView& view, std::uint64_t from, std::uint64_t to) {

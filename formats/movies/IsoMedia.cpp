@@ -24,7 +24,7 @@ constexpr std::array<std::string_view, 29> kTopLevelNames = {
 constexpr std::array<std::string_view, 10> kFirstNames = {"ftyp", "moov", "mdat", "wide", "free",
                                                           "skip", "pnot", "styp", "sidx", "moof"};
 
-constexpr std::uint32_t kMostBoxes = 1 << 20;
+constexpr std::uint32_t kIsoMediaMostBoxes = 1 << 20;
 constexpr std::uint32_t kMostFillers = 64;  // in front of anything else
 constexpr std::size_t kMostData = 1 << 14;  // media data boxes of a file whose content is checked
 
@@ -75,7 +75,7 @@ bool holdsBox(ByteView& view, const IsoBox& outer, std::string_view name) {
 IsoWalk walkBoxes(ByteView& view, std::uint64_t start, bool wantFacts) {
     IsoWalk walk;
     walk.at = start;
-    for (std::uint32_t boxes = 0; boxes < kMostBoxes; ++boxes) {
+    for (std::uint32_t boxes = 0; boxes < kIsoMediaMostBoxes; ++boxes) {
         const auto box = readIsoBox(view, walk.at);
         if (!box)
             return walk;
