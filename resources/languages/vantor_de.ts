@@ -1837,8 +1837,8 @@ Versuchen Sie --help.</translation>
         <translation>Auch Teile von Dateien speichern, etwa das Vorschaubild eines Fotos oder den Inhalt eines Archivs: was ganz in einer Datei liegt, deren Vollständigkeit erwiesen ist, und sonst ausgelassen wird.</translation>
     </message>
     <message>
-        <source>Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
-        <translation>MP4- und QuickTime-Filme sowie JPEG- und PNG-Bilder zusammensetzen, die in Stücken liegen, als „... complete.MP4“ oder als „... put together.MP4“, wo sich nicht beweisen ließ, dass alle Stücke die richtigen sind.</translation>
+        <source>Put MP4, QuickTime and AVI movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
+        <translation>MP4-, QuickTime- und AVI-Filme sowie JPEG- und PNG-Bilder zusammensetzen, die in Stücken liegen, als „... complete.MP4“ oder als „... put together.MP4“, wo sich nicht beweisen ließ, dass alle Stücke die richtigen sind.</translation>
     </message>
     <message>
         <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>

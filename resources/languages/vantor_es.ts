@@ -1837,8 +1837,8 @@ Pruebe --help.</translation>
         <translation>Guardar también partes de archivos, como la vista previa de una imagen o un miembro de un archivo comprimido: lo que está por entero dentro de un archivo que se comprobó completo, y que si no se omite.</translation>
     </message>
     <message>
-        <source>Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
-        <translation>Unir los vídeos MP4 y QuickTime y las imágenes JPEG o PNG que están en fragmentos, como «... complete.MP4», o como «... put together.MP4» si no se pudo probar que todos los fragmentos son los correctos.</translation>
+        <source>Put MP4, QuickTime and AVI movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
+        <translation>Unir los vídeos MP4, QuickTime y AVI y las imágenes JPEG o PNG que están en fragmentos, como «... complete.MP4», o como «... put together.MP4» si no se pudo probar que todos los fragmentos son los correctos.</translation>
     </message>
     <message>
         <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
