@@ -9,7 +9,7 @@ namespace vantor {
 namespace {
 
 constexpr std::uint64_t kBlock = 512;
-constexpr std::uint64_t kRecord = 20 * kBlock;  // writers pad to whole records
+constexpr std::uint64_t kTarRecord = 20 * kBlock;  // writers pad to whole records
 
 // An octal field, or a binary one with the top bit set.
 std::optional<std::uint64_t> readField(ByteView& view, std::uint64_t at, std::size_t bytes) {
@@ -67,7 +67,7 @@ Extent walkTar(ByteView& view) {
     const auto zeros = skipZeros(view, at, at + 2 * kBlock);
     if (zeros < at + 2 * kBlock)
         return zeros == view.size() ? cutOffAt(view, zeros) : damagedAt(view, at);
-    const auto record = (zeros + kRecord - 1) / kRecord * kRecord;
+    const auto record = (zeros + kTarRecord - 1) / kTarRecord * kTarRecord;
     const auto end = skipZeros(view, zeros, std::min(record, view.size()));
     return inexact(completeAt(view, end == record ? record : zeros));
 }
