@@ -119,14 +119,12 @@ function(vantor_hot)
         COMPILE_OPTIONS $<$<CONFIG:RelWithDebInfo>:-O2> SKIP_PRECOMPILE_HEADERS ON)
 endfunction()
 
-# vantor_test(name SOURCES... LINK libs... [HEADERS kind] [APART] [FIRST] [TOGETHER suite] [ENV name=value...]): a
-# GoogleTest program, one ctest entry a test; HEADERS and APART as for a library. FIRST: its tests take long, so they begin
-# before the others. TOGETHER: a suite of many tests that take less than a program's start; they are one entry, whose
-# output names each. None of them may skip.
+# vantor_test(name SOURCES... LINK libs... [HEADERS kind] [APART] [FIRST] [ENV name=value...]): a GoogleTest program, one
+# ctest entry a test; HEADERS and APART as for a library. FIRST: its tests take long, so they begin before the others.
 # Tests find their data through compile definitions, never through the working directory. The time limit is for what
 # hangs: on a busy machine everything takes thirty times as long.
 function(vantor_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "APART;FIRST" "HEADERS;TOGETHER" "SOURCES;LINK;ENV")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "APART;FIRST" "HEADERS" "SOURCES;LINK;ENV")
     if(NOT arg_HEADERS)
         set(arg_HEADERS Engine)
     endif()
@@ -147,12 +145,6 @@ function(vantor_test name)
     if(arg_FIRST)
         set(cost 60)
     endif()
-    set(each "")
-    if(arg_TOGETHER)
-        add_test(NAME ${arg_TOGETHER} COMMAND ${name} --gtest_filter=${arg_TOGETHER}.*)
-        set_tests_properties(${arg_TOGETHER} PROPERTIES TIMEOUT 1800)
-        set(each TEST_FILTER -${arg_TOGETHER}.*)
-    endif()
-    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 300 ${each}
+    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 300
         PROPERTIES TIMEOUT 1800 COST ${cost} ENVIRONMENT "QT_QPA_PLATFORM=offscreen;${arg_ENV}")
 endfunction()
