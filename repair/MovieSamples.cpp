@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t kMostSamples = 4'000'000;
 
-constexpr std::uint64_t kChunkHead = 8;  // name and length
+constexpr std::uint64_t kBoxHead = 8;  // name and length
 
 std::uint64_t numberAt(std::span<const std::uint8_t> bytes, std::size_t at, unsigned count) {
     std::uint64_t value = 0;
@@ -76,25 +76,25 @@ std::optional<std::vector<PromisedSample>> inOrder(std::vector<PromisedSample> s
 
 bool isHeadOf(const PromisedSample& sample, std::span<const std::uint8_t> bytes) {
     std::uint64_t length = 0;
-    for (std::size_t i = kChunkHead; i-- > 4;) {
+    for (std::size_t i = kBoxHead; i-- > 4;) {
         length = length << 8 | bytes[i];
     }
     return std::equal(sample.chunk.begin(), sample.chunk.end(), bytes.begin()) &&
-           length == sample.bytes - kChunkHead;
+           length == sample.bytes - kBoxHead;
 }
 
 // A chunk of a JPEG picture ends with it, apart from what it is filled up with.
 bool isWholeChunk(ByteView& view, const PromisedSample& sample) {
-    std::array<std::uint8_t, kChunkHead> head{};
+    std::array<std::uint8_t, kBoxHead> head{};
     if (!view.copy(sample.at, head) || !isHeadOf(sample, head)) {
         return false;
     }
-    if (!view.matches(sample.at + kChunkHead, "\xFF\xD8\xFF")) {
+    if (!view.matches(sample.at + kBoxHead, "\xFF\xD8\xFF")) {
         return true;
     }
     PictureSyntax syntax;
     syntax.coding = Coding::Jpeg;
-    return pictureAt(view, syntax, sample.at + kChunkHead, sample.at + sample.bytes).has_value();
+    return pictureAt(view, syntax, sample.at + kBoxHead, sample.at + sample.bytes).has_value();
 }
 
 }  // namespace
@@ -145,7 +145,7 @@ std::optional<std::vector<PromisedSample>> promisedChunks(ByteSource& file, cons
         }
         in.u32();
         sample.at = base + in.u32();
-        sample.bytes = kChunkHead + in.u32();
+        sample.bytes = kBoxHead + in.u32();
         if (!in.ok() || sample.at < data.from || sample.at > data.to || sample.bytes > data.to - sample.at) {
             return std::nullopt;
         }
@@ -189,7 +189,7 @@ Likeness beginsAs(const PromisedSample& sample, std::span<const std::uint8_t> by
 
 std::optional<bool> isEvenPicture(ByteView& view, const PromisedSample& sample) {
     static const Format* const jpeg = formatFor("JPG");
-    PartOfView picture(view, sample.at + (sample.isChunk() ? kChunkHead : 0), sample.at + sample.bytes);
+    PartOfView picture(view, sample.at + (sample.isChunk() ? kBoxHead : 0), sample.at + sample.bytes);
     ByteView own(picture);
     if (!own.matches(0, "\xFF\xD8\xFF")) {
         return std::nullopt;

@@ -9,10 +9,10 @@ namespace vantor {
 
 namespace {
 
-constexpr std::size_t kMostCuts = 12;
-constexpr std::size_t kMostFollowed = 4;
-constexpr std::size_t kMostTried = 4096;   // clusters, of each cut
-constexpr std::uint64_t kTrialUnits = 32;  // that beginning a trial counts for
+constexpr std::size_t kProgressiveMostCuts = 12;
+constexpr std::size_t kProgressiveMostFollowed = 4;
+constexpr std::size_t kProgressiveMostTried = 4096;  // clusters, of each cut
+constexpr std::uint64_t kTrialUnits = 32;            // that beginning a trial counts for
 
 }  // namespace
 
@@ -50,7 +50,7 @@ bool ProgressivePieces::readOn(std::deque<Cut>& cuts, bool outermost) {
         const auto outcome = m_units->next();
         for (; m_units->place().seen > boundary * cluster; ++boundary) {
             cuts.push_back({static_cast<std::size_t>(boundary), m_units->before()});
-            if (cuts.size() > kMostCuts) {
+            if (cuts.size() > kProgressiveMostCuts) {
                 cuts.pop_front();
                 if (outermost) {
                     m_units->forgetBefore(cuts.front().before);
@@ -97,7 +97,8 @@ bool ProgressivePieces::joinAt(const Cut& cut, const std::vector<std::uint64_t>&
     const std::uint64_t cutAt = cut.number * m_free.clusterBytes();
     std::vector<Trial> trials;
     std::size_t tried = 0;
-    for (std::uint64_t step = 1; step < m_free.count() && tried < kMostTried && m_stop == 0; ++step) {
+    for (std::uint64_t step = 1; step < m_free.count() && tried < kProgressiveMostTried && m_stop == 0;
+         ++step) {
         const std::uint64_t cluster = (way[cut.number - 1] + step) % m_free.count();
         const auto kind = m_free.isFree(cluster) ? m_kinds.kindOf(cluster) : ClusterKinds::Kind::Foreign;
         const bool isItself = kept != way.end() && cluster == *kept;
@@ -124,7 +125,7 @@ bool ProgressivePieces::joinAt(const Cut& cut, const std::vector<std::uint64_t>&
     }
     std::stable_sort(trials.begin(), trials.end(),
                      [](const Trial& a, const Trial& b) { return a.reach > b.reach; });
-    trials.resize(std::min(trials.size(), joins > 1 ? kMostFollowed : 0));
+    trials.resize(std::min(trials.size(), joins > 1 ? kProgressiveMostFollowed : 0));
     return std::any_of(trials.begin(), trials.end(), [&](const Trial& trial) {
         m_row->restart(cut.number, trial.cluster);
         m_units->resume(cut.before);

@@ -8,11 +8,12 @@ namespace vantor {
 namespace {
 
 constexpr unsigned kMostScans = 256;
-constexpr unsigned kMostSegments = 1024;
+constexpr unsigned kProgressiveMostSegments = 1024;
 constexpr std::size_t kMostTables = 1024;
-constexpr unsigned kMostFillBytes = 64;
+constexpr unsigned kProgressiveMostFillBytes = 64;
 constexpr unsigned kMostBits = 10;  // of a coefficient; samples are 8 bits wide
-constexpr int kMostMean = 1200;     // a block's first coefficient is eight times its mean; coders overshoot
+constexpr int kProgressiveMostMean =
+    1200;  // a block's first coefficient is eight times its mean; coders overshoot
 
 unsigned be16(std::span<const std::uint8_t> bytes, std::size_t at) {
     return static_cast<unsigned>(bytes[at] << 8 | bytes[at + 1]);
@@ -31,7 +32,7 @@ bool ProgressiveUnits::begin() {
         return false;
     }
     m_place.at = 2;
-    for (unsigned segments = 0; segments < kMostSegments; ++segments) {
+    for (unsigned segments = 0; segments < kProgressiveMostSegments; ++segments) {
         const Segment read = segment();
         if (read != Segment::Other) {
             return read == Segment::Scan;
@@ -91,7 +92,8 @@ bool ProgressiveUnits::endScan() {
 // A mark and what belongs to it.
 ProgressiveUnits::Segment ProgressiveUnits::segment() {
     std::uint64_t at = m_place.at;
-    for (unsigned fill = 0; fill < kMostFillBytes && m_in.byteAt(m_place, at + 1) == 0xFF; ++fill) {
+    for (unsigned fill = 0; fill < kProgressiveMostFillBytes && m_in.byteAt(m_place, at + 1) == 0xFF;
+         ++fill) {
         ++at;
     }
     if (m_in.byteAt(m_place, at) != 0xFF) {
@@ -301,7 +303,8 @@ bool ProgressiveUnits::mean(const Part& part) {
     dc += m_in.extended(m_place, static_cast<unsigned>(bits));
     const std::int64_t step = std::int64_t{m_steps[m_components[part.component].quantisation]}
                               << m_place.scan.shift;
-    return std::abs(dc) <= 1 << 15 && std::abs(dc) * step <= kMostMean + step && !m_place.overrun();
+    return std::abs(dc) <= 1 << 15 && std::abs(dc) * step <= kProgressiveMostMean + step &&
+           !m_place.overrun();
 }
 
 // So many blocks, by the code of an end, have nothing more in this scan, the one that is looked at among

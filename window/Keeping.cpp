@@ -203,9 +203,10 @@ void MyTableController::markAsBefore() {
     if (const auto ticked = takeListed(m_tickedBefore, count); !ticked.empty()) {
         tickItems({ticked.begin(), ticked.end()}, true);
     }
-    // All at once, unless the user has selected something else meanwhile.
-    if (!m_selectedBefore.empty() && m_selectedBefore.back() < count) {
-        ImageBrowserView* const browser = browserOf(activeSet());
+    // All at once, unless the user has selected something else meanwhile; the browser has to list them, too.
+    ImageBrowserView* const browser = browserOf(activeSet());
+    if (!m_selectedBefore.empty() &&
+        m_selectedBefore.back() < static_cast<std::uint64_t>(browser->listedCount())) {
         if (browser->selectedCount() == 0) {
             browser->selectIndexes({m_selectedBefore.begin(), m_selectedBefore.end()});
         }

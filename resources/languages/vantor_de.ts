@@ -1204,8 +1204,8 @@ Der Endsektor muss größer als der Startsektor sein.</translation>
         </translation>
     </message>
     <message>
-        <source>They are in %1, in a folder for each type.</source>
-        <translation>Gespeichert in %1, mit einem Ordner für jeden Typ.</translation>
+        <source>They are in %1.</source>
+        <translation>Gespeichert in %1.</translation>
     </message>
     <message>
         <source>%1 could only be read in part; what could not be read is filled with zeros.</source>
@@ -2947,6 +2947,10 @@ Läuft auf %2.</translation>
     <message>
         <source>%1 of it is searched</source>
         <translation>%1 davon werden durchsucht</translation>
+    </message>
+    <message>
+        <source>%1 as makers count</source>
+        <translation>%1 nach Herstellerzählung</translation>
     </message>
 </context>
 <context>

@@ -1204,8 +1204,8 @@ El sector final debe ser mayor que el sector inicial.</translation>
         </translation>
     </message>
     <message>
-        <source>They are in %1, in a folder for each type.</source>
-        <translation>Están en %1, en una carpeta para cada tipo.</translation>
+        <source>They are in %1.</source>
+        <translation>Están en %1.</translation>
     </message>
     <message>
         <source>%1 could only be read in part; what could not be read is filled with zeros.</source>
@@ -2947,6 +2947,10 @@ Se ejecuta en %2.</translation>
     <message>
         <source>%1 of it is searched</source>
         <translation>se examina el %1</translation>
+    </message>
+    <message>
+        <source>%1 as makers count</source>
+        <translation>%1 según cuentan los fabricantes</translation>
     </message>
 </context>
 <context>

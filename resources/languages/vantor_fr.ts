@@ -1204,8 +1204,8 @@ Le secteur de fin doit être supérieur au secteur de début.</translation>
         </translation>
     </message>
     <message>
-        <source>They are in %1, in a folder for each type.</source>
-        <translation>Dans %1, avec un dossier pour chaque type.</translation>
+        <source>They are in %1.</source>
+        <translation>Ils se trouvent dans %1.</translation>
     </message>
     <message>
         <source>%1 could only be read in part; what could not be read is filled with zeros.</source>
@@ -2947,6 +2947,10 @@ Fonctionne avec %2.</translation>
     <message>
         <source>%1 of it is searched</source>
         <translation>%1 en sont parcourus</translation>
+    </message>
+    <message>
+        <source>%1 as makers count</source>
+        <translation>%1 selon le calcul des fabricants</translation>
     </message>
 </context>
 <context>

@@ -1204,8 +1204,8 @@ Il settore finale deve essere maggiore del settore iniziale.</translation>
         </translation>
     </message>
     <message>
-        <source>They are in %1, in a folder for each type.</source>
-        <translation>Sono in %1, in una cartella per ogni tipo.</translation>
+        <source>They are in %1.</source>
+        <translation>Sono in %1.</translation>
     </message>
     <message>
         <source>%1 could only be read in part; what could not be read is filled with zeros.</source>
@@ -2947,6 +2947,10 @@ In esecuzione su %2.</translation>
     <message>
         <source>%1 of it is searched</source>
         <translation>parte esaminata: %1</translation>
+    </message>
+    <message>
+        <source>%1 as makers count</source>
+        <translation>%1 secondo il calcolo dei produttori</translation>
     </message>
 </context>
 <context>

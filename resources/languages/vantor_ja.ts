@@ -1197,8 +1197,8 @@ End Sector should be greater than Start Sector.</source>
         </translation>
     </message>
     <message>
-        <source>They are in %1, in a folder for each type.</source>
-        <translation>%1 に、種類ごとのフォルダーに分けて保存されています。</translation>
+        <source>They are in %1.</source>
+        <translation>%1 に保存されています。</translation>
     </message>
     <message>
         <source>%1 could only be read in part; what could not be read is filled with zeros.</source>
@@ -2915,6 +2915,10 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     <message>
         <source>%1 of it is searched</source>
         <translation>その %1 を検索します</translation>
+    </message>
+    <message>
+        <source>%1 as makers count</source>
+        <translation>メーカーの数え方で %1</translation>
     </message>
 </context>
 <context>

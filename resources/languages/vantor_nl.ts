@@ -1204,8 +1204,8 @@ De eindsector moet groter zijn dan de beginsector.</translation>
         </translation>
     </message>
     <message>
-        <source>They are in %1, in a folder for each type.</source>
-        <translation>Ze staan in %1, in een map per type.</translation>
+        <source>They are in %1.</source>
+        <translation>Ze staan in %1.</translation>
     </message>
     <message>
         <source>%1 could only be read in part; what could not be read is filled with zeros.</source>
@@ -2947,6 +2947,10 @@ Wordt uitgevoerd op %2.</translation>
     <message>
         <source>%1 of it is searched</source>
         <translation>%1 ervan wordt doorzocht</translation>
+    </message>
+    <message>
+        <source>%1 as makers count</source>
+        <translation>%1 zoals fabrikanten tellen</translation>
     </message>
 </context>
 <context>

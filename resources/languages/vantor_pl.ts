@@ -1211,8 +1211,8 @@ Sektor końcowy musi być większy od sektora początkowego.</translation>
         </translation>
     </message>
     <message>
-        <source>They are in %1, in a folder for each type.</source>
-        <translation>Są w %1, w osobnym folderze dla każdego typu.</translation>
+        <source>They are in %1.</source>
+        <translation>Są w %1.</translation>
     </message>
     <message>
         <source>%1 could only be read in part; what could not be read is filled with zeros.</source>
@@ -2979,6 +2979,10 @@ Działa w systemie %2.</translation>
     <message>
         <source>%1 of it is searched</source>
         <translation>przeszukiwane jest %1</translation>
+    </message>
+    <message>
+        <source>%1 as makers count</source>
+        <translation>%1 według liczenia producentów</translation>
     </message>
 </context>
 <context>

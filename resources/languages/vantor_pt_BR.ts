@@ -1204,8 +1204,8 @@ O setor final deve ser maior que o setor inicial.</translation>
         </translation>
     </message>
     <message>
-        <source>They are in %1, in a folder for each type.</source>
-        <translation>Estão em %1, em uma pasta para cada tipo.</translation>
+        <source>They are in %1.</source>
+        <translation>Estão em %1.</translation>
     </message>
     <message>
         <source>%1 could only be read in part; what could not be read is filled with zeros.</source>
@@ -2947,6 +2947,10 @@ Executando em %2.</translation>
     <message>
         <source>%1 of it is searched</source>
         <translation>%1 é examinado</translation>
+    </message>
+    <message>
+        <source>%1 as makers count</source>
+        <translation>%1 na contagem dos fabricantes</translation>
     </message>
 </context>
 <context>

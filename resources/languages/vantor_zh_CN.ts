@@ -1197,8 +1197,8 @@ End Sector should be greater than Start Sector.</source>
         </translation>
     </message>
     <message>
-        <source>They are in %1, in a folder for each type.</source>
-        <translation>它们位于 %1，每种类型一个文件夹。</translation>
+        <source>They are in %1.</source>
+        <translation>它们位于 %1。</translation>
     </message>
     <message>
         <source>%1 could only be read in part; what could not be read is filled with zeros.</source>
@@ -2915,6 +2915,10 @@ Running on %2.</source>
     <message>
         <source>%1 of it is searched</source>
         <translation>搜索其中的 %1</translation>
+    </message>
+    <message>
+        <source>%1 as makers count</source>
+        <translation>按厂商的算法为 %1</translation>
     </message>
 </context>
 <context>

@@ -232,6 +232,10 @@ void ImageBrowserView::selectIndexes(const QList<qsizetype>& indexes) {
     selectionModel()->select(rangesOf(indexes), QItemSelectionModel::ClearAndSelect);
 }
 
+qsizetype ImageBrowserView::listedCount() const {
+    return m_model->listedCount();
+}
+
 int ImageBrowserView::shownCount() const {
     return m_model->rowCount();
 }
