@@ -52,13 +52,17 @@ class Random {
     std::mt19937_64 m_random;
 };
 
+// A table of one code, of class and number `what`.
+QByteArray oneCode(char what) {
+    return QByteArray::fromHex("ffc40014") + what + '\1' + QByteArray(16, '\0');
+}
+
 // The markers of a photo around entropy-coded bytes as they come: random, each 0xFF stuffed.
 QByteArray photo(Random& random, qint64 bytes) {
     static const QByteArray kHead =
         QByteArray::fromHex("ffd8ffe000104a46494600010100000100010000ffdb004300") + QByteArray(64, 1) +
-        QByteArray::fromHex(
-            "ffc0000b080bb80fa001012200ffc4001400010000000000000000000000000000000000ffda0008"
-            "010100003f00");
+        QByteArray::fromHex("ffc0000b080bb80fa001011100") + oneCode(0) + oneCode(0x10) +
+        QByteArray::fromHex("ffda0008010100003f00");
     QByteArray coded = random.bytes(bytes - kHead.size() - 2);
     for (qsizetype at = coded.indexOf('\xFF'); at >= 0 && at + 1 < coded.size();
          at = coded.indexOf('\xFF', at + 1)) {
@@ -182,6 +186,11 @@ int main(int argc, char** argv) {
         const QByteArray dd = "dd bs=1M status=none if=" + QFile::encodeName(image);
         const QByteArray out = QFile::encodeName(memory.filePath(QStringLiteral("out")));
         const QByteArray remove = "rm -rf " + out;
+        // What finds nothing is done soon.
+        const auto removePhotos = [&](const QByteArray& folder) {
+            return "test $(ls " + out + folder + " | grep -ci 'jpg$') -ge " + QByteArray::number(kPhotos) +
+                   " && " + remove;
+        };
         const QByteArray touch =
             "dd bs=1M status=none if=/dev/zero count=" + QByteArray::number(kCardBytes >> 20) + " of=" + out +
             " && " + remove;
@@ -194,11 +203,11 @@ int main(int argc, char** argv) {
             writing.add(dd + " of=" + out + " count=" + QByteArray::number(kSavedMegabytes), touch, remove);
             searching.add(search + ' ' + QFile::encodeName(image) + " > /dev/null", touch, "true");
             saving.add(search + " --save " + out + ' ' + QFile::encodeName(image) + " > " + log, touch,
-                       remove);
+                       removePhotos("/JPG"));
             if (withPeer) {
                 const QByteArray folder = "mkdir " + out;
                 peer.add("recoverjpeg -q -o " + out + ' ' + QFile::encodeName(image) + " > /dev/null",
-                         touch + " && " + folder, remove);
+                         touch + " && " + folder, removePhotos(""));
             }
         }
         std::printf("%s: dd %.2f s, processor time %.2f s\n", card.name, median(reading.wall),

@@ -273,6 +273,12 @@ int recover(CliOptions options) {
         complain(QObject::tr("%1 lies on the medium that is to be searched.").arg(options.sessionFile));
         return kExitDestinationTrouble;
     }
+    // Whatever else lies there stays, above all a medium's image.
+    if (!options.sessionFile.isEmpty() && !options.resume && QFileInfo::exists(options.sessionFile) &&
+        !readSearchRecord(options.sessionFile, &why)) {
+        complain(QStringLiteral("%1: %2").arg(options.sessionFile, why));
+        return kExitDestinationTrouble;
+    }
     std::shared_ptr<SearchKeeper> keeper;
     runBesideEvents([&] { keeper = keeperFor(options, session, medium, kept, &why); });
     if (!why.isEmpty()) {

@@ -13,7 +13,6 @@ namespace {
 
 constexpr std::size_t kMostListed = 16'000'000;
 constexpr qsizetype kMostNameLength = 255;
-constexpr qsizetype kMostFolderLength = 64 * 256;
 constexpr std::uint32_t kMostClusterSectors = 1 << 16;
 // Times outside the years 1600 to 3000 are damage.
 constexpr std::int64_t kEarliest = -11'700'000'000;
@@ -102,7 +101,7 @@ std::vector<std::uint8_t> nextBlock(BlockKind kind, const Rows& rows, std::size_
 }
 
 bool isCleanFolder(const QString& folder) {
-    if (folder.size() > kMostFolderLength) {
+    if (folder.size() > kLongestFolder) {
         return false;
     }
     const QStringList parts = folder.isEmpty() ? QStringList() : folder.split(u'/');
@@ -134,6 +133,7 @@ class ByteTaker {
             return {};
         }
         QString text;
+        text.reserve(static_cast<qsizetype>(length));
         for (std::uint64_t i = 0; i < length; ++i) {
             text += QChar(static_cast<char16_t>(number(2)));
         }
@@ -232,7 +232,11 @@ bool TableReader::takeRun(ByteTaker& from, std::vector<SectorRun>& into) {
 
 bool TableReader::takeFile(ByteTaker& from) {
     CardFile file;
-    file.folder = from.text(kMostFolderLength);
+    file.folder = from.text(kLongestFolder);
+    const bool isKnownFolder = !m_table.files.empty() && m_table.files.back().folder == file.folder;
+    if (isKnownFolder) {
+        file.folder = m_table.files.back().folder;  // the files of one folder share its text
+    }
     file.name = from.text(kMostNameLength);
     file.nameIsWhole = from.flag();
     file.state = from.oneOf(FileState::Lost);
@@ -255,7 +259,7 @@ bool TableReader::takeFile(ByteTaker& from) {
     if (!from.ok() || file.bytes / 512 > m_sectors || file.validBytes > file.bytes || sectors > m_sectors ||
         file.clusterSectors == 0 || file.clusterSectors > kMostClusterSectors ||
         m_table.files.size() >= kMostFiles || cleanName(file.name) != file.name ||
-        !isCleanFolder(file.folder)) {
+        (!isKnownFolder && !isCleanFolder(file.folder))) {
         return false;
     }
     m_table.files.push_back(std::move(file));

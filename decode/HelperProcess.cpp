@@ -121,7 +121,7 @@ std::unique_ptr<HelperProcess> HelperProcess::start(const QString& executable,
     }
     std::unique_ptr<HelperProcess> helper(new HelperProcess(pid, ends[0], cancel));
     Answer answer;
-    if (helper->receive(Clock::now() + deadline, answer) != AskOutcome::Answered) {
+    if (helper->receive({deadline, helper->processorTime()}, answer) != AskOutcome::Answered) {
         return nullptr;
     }
     const std::optional<Answer> ready = believedReady(answer);
@@ -189,7 +189,7 @@ AskOutcome HelperProcess::exchange(Request& request, int file, std::chrono::mill
     }
     request.serial = ++m_serial;
     const bool withInput = file < 0 && request.inputBytes != 0 && !m_inputSent;
-    const auto until = Clock::now() + deadline;
+    const WorkDeadline until(deadline, processorTime());
     if (!send(request, file, withInput, !m_outputSent)) {
         return AskOutcome::NotTaken;
     }
@@ -246,14 +246,27 @@ bool HelperProcess::send(const Request& filled, int file, bool withInput, bool w
     return sent == static_cast<ssize_t>(sizeof request);
 }
 
-AskOutcome HelperProcess::receive(Clock::time_point deadline, Answer& answer) {
+AskOutcome HelperProcess::receive(WorkDeadline deadline, Answer& answer) {
+    using std::chrono::milliseconds;
+    const auto begin = Clock::now();
+    auto until = begin + deadline.allowed();
     for (;;) {
-        const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now()).count();
+        const auto left = std::chrono::ceil<milliseconds>(until - Clock::now()).count();
         // A negative descriptor is passed over.
         std::array<pollfd, 2> waited{{{m_socket, POLLIN, 0}, {m_cancel, POLLIN, 0}}};
         const int ready = poll(waited.data(), waited.size(),
                                static_cast<int>(std::clamp<std::int64_t>(left, 0, 1'000'000)));
-        if (ready == 0 || (ready > 0 && waited[1].revents != 0)) {
+        if (ready == 0) {
+            const auto now = Clock::now();
+            const auto more =
+                deadline.more(std::chrono::duration_cast<milliseconds>(now - begin), processorTime());
+            if (!more) {
+                return AskOutcome::Late;
+            }
+            until = now + *more;
+            continue;
+        }
+        if (ready > 0 && waited[1].revents != 0) {
             return AskOutcome::Late;
         }
         if (ready < 0) {

@@ -12,6 +12,7 @@
 
 #include "decode/DecodeProtocol.h"
 #include "decode/SharedMemory.h"
+#include "decode/WorkDeadline.h"
 
 namespace vantor::decode {
 
@@ -20,7 +21,7 @@ enum class AskOutcome {
     Answered,
     NotTaken,     // the helper was dead already
     Died,         // the helper crashed or was ended
-    Late,         // no answer by the deadline, or the wait was cancelled
+    Late,         // no answer by the deadline (see WorkDeadline), or the wait was cancelled
     BadAnswer,    // an answer that no helper of ours gives
     NotPossible,  // no memory or no descriptor could be had; the helper is unharmed
 };
@@ -77,7 +78,7 @@ class HelperProcess {
 
     AskOutcome exchange(Request& request, int file, std::chrono::milliseconds deadline, Answer& answer);
     bool send(const Request& request, int file, bool withInput, bool withOutput);
-    AskOutcome receive(Clock::time_point deadline, Answer& answer);
+    AskOutcome receive(WorkDeadline deadline, Answer& answer);
 
     pid_t m_pid = -1;
     int m_socket = -1;

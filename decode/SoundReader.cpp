@@ -13,7 +13,7 @@ using decode::RequestKind;
 
 namespace {
 
-constexpr int kPieceFrames = kSoundFramesPerSecond / 10;
+constexpr int kPieceFrames = decode::kSoundFramesPerSecond / 10;
 static_assert(kPieceFrames <= decode::kMaxAnswerSide);
 static_assert(decode::kBytesPerSoundFrame == kSoundChannels * sizeof(std::int16_t));
 

@@ -39,4 +39,12 @@ QString cleanName(const QString& name) {
     return clean;
 }
 
+bool prependFolder(const QString& name, QString& path) {
+    if (path.size() + 1 + name.size() > kLongestFolder) {
+        return false;
+    }
+    path = path.isEmpty() ? name : name + u'/' + path;
+    return true;
+}
+
 }  // namespace vantor

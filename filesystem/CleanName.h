@@ -9,4 +9,10 @@ namespace vantor {
 // marks that turn the direction of writing, line separators, halves of characters. Never empty, "." or "..".
 QString cleanName(const QString& name);
 
+// Characters of a folder with all that it lies in; a longer way leads to nobody's files and only takes
+// memory.
+inline constexpr qsizetype kLongestFolder = 1024;
+// Puts a clean name before the path of folders; false, and nothing done, where that gets too long.
+bool prependFolder(const QString& name, QString& path);
+
 }  // namespace vantor

@@ -76,17 +76,21 @@ void ClusterVolume::append(CardDirectory directory, const std::vector<std::uint8
     m_directories.push_back(std::move(directory));
 }
 
-void ClusterVolume::readFromRoot() {
+void ClusterVolume::readRootBeforeClusters(FileState state) {
     CardDirectory root;
+    root.state = state;
     root.isRoot = true;
-    std::vector<std::uint8_t> bytes;
+    const std::uint64_t sectors = std::min(m_shape.rootSectors, m_card.sectors() - m_shape.root);
+    std::vector<std::uint8_t> bytes(sectors * 512);
+    m_card.readAt(m_shape.root, bytes);
+    root.sector = m_shape.root;
+    root.runs = {{m_shape.root, m_shape.root + sectors}};
+    append(std::move(root), bytes);
+}
+
+void ClusterVolume::readFromRoot() {
     if (m_shape.rootSectors != 0) {
-        const std::uint64_t sectors = std::min(m_shape.rootSectors, m_card.sectors() - m_shape.root);
-        bytes.resize(sectors * 512);
-        m_card.readAt(m_shape.root, bytes);
-        root.sector = m_shape.root;
-        root.runs = {{m_shape.root, m_shape.root + sectors}};
-        append(std::move(root), bytes);
+        readRootBeforeClusters(FileState::Live);
     } else if (m_shape.holds(m_shape.rootCluster)) {
         readPending({m_shape.rootCluster, kMostDirectoryBytes, false, FileState::Live, {}, {}});
     }
@@ -94,9 +98,18 @@ void ClusterVolume::readFromRoot() {
         return;
     }
     m_label = m_directories.front().rows.label;
+    readFoldersOf(0);
+}
+
+void ClusterVolume::readLostRoot() {
+    readRootBeforeClusters(FileState::Lost);
+    readFoldersOf(m_directories.size() - 1);
+}
+
+void ClusterVolume::readFoldersOf(std::size_t directory) {
     std::vector<Pending> live;
     std::vector<Pending> deleted;
-    queueFolders(0, live, deleted);
+    queueFolders(directory, live, deleted);
     readAll(std::move(live), std::move(deleted));
 }
 
@@ -212,10 +225,7 @@ bool ClusterVolume::readLost(std::uint32_t cluster) {
     if (!readPending({cluster, 0, false, FileState::Lost, {}, {}})) {
         return false;
     }
-    std::vector<Pending> live;
-    std::vector<Pending> deleted;
-    queueFolders(index, live, deleted);
-    readAll(std::move(live), std::move(deleted));
+    readFoldersOf(index);
     return true;
 }
 
@@ -254,10 +264,7 @@ void ClusterVolume::readLostParts(const std::vector<SectorRun>& sectors) {
             if ((leading && ledTo.contains(part.first)) || !readPart(part)) {
                 continue;
             }
-            std::vector<Pending> live;
-            std::vector<Pending> deleted;
-            queueFolders(index, live, deleted);
-            readAll(std::move(live), std::move(deleted));
+            readFoldersOf(index);
         }
     }
 }

@@ -49,6 +49,8 @@ class ClusterVolume {
 
     // The directories from the root on, then those whose rows in them are marked as deleted.
     void readFromRoot();
+    // The root of a file system that was, which lies before the clusters (FAT12, FAT16).
+    void readLostRoot();
     // A directory that nothing leads to, from a cluster on; false when it is known already or is none.
     bool readLost(std::uint32_t cluster);
     // The same for sectors that hold rows of directories of which it is not known where they begin.
@@ -85,6 +87,8 @@ class ClusterVolume {
     Chain chainFrom(std::uint32_t cluster, std::uint64_t most);
     SectorRun onePiece(std::uint32_t cluster, std::uint64_t clusters) const;
 
+    void readRootBeforeClusters(FileState state);
+    void readFoldersOf(std::size_t directory);
     bool readPending(const Pending& pending);
     bool readPart(const SectorRun& sectors);
     std::vector<SectorRun> splitAtClusters(const std::vector<SectorRun>& sectors) const;
@@ -103,7 +107,11 @@ class ClusterVolume {
                        const FoundStarts& found, CardTable& table);
     void placeLive(const DirectoryEntry& entry, CardFile& file);
     void placeGone(const DirectoryEntry& entry, const FoundStarts& found, CardFile& file);
-    std::optional<std::uint32_t> beginningOf(const DirectoryEntry& entry, const FoundStarts& found);
+    bool mayBeHalf(const DirectoryEntry& entry) const;
+    std::vector<std::uint32_t> possibleBeginnings(const DirectoryEntry& entry, const FoundStarts& found);
+    bool clearsUpperHalf(const FoundStarts& found);
+    // One; none where none is likely; two where it cannot be told which.
+    std::vector<std::uint32_t> beginningsOf(const DirectoryEntry& entry, const FoundStarts& found);
 
     SectorSource& m_card;
     const VolumeShape m_shape;
@@ -117,6 +125,7 @@ class ClusterVolume {
     std::vector<SectorRun> m_liveRuns;
     // A deleted entry has its upper half (FAT32): who deletes here leaves it.
     bool m_keepsUpperHalf = false;
+    bool m_clearsUpperHalf = false;  // one has lost it
     // Clusters that may still be gone through: on a sound card each is a file's once.
     std::uint64_t m_liveStepsLeft = 0;
     std::uint64_t m_goneStepsLeft = 0;

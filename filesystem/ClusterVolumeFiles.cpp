@@ -9,6 +9,7 @@
 namespace vantor {
 
 void ClusterVolume::tell(const FoundStarts& found, CardTable& table) {
+    m_clearsUpperHalf = clearsUpperHalf(found);
     for (const bool live : {true, false}) {
         for (std::size_t at = 0; at < m_directories.size(); ++at) {
             tellDirectory(m_directories[at], folderOf(at), live, found, table);
@@ -96,36 +97,62 @@ void ClusterVolume::placeGone(const DirectoryEntry& entry, const FoundStarts& fo
             return;
         }
     }
-    const std::optional<std::uint32_t> cluster = beginningOf(entry, found);
-    file.runsKnownBy = cluster ? RunsKnownBy::Guess : RunsKnownBy::StartOnly;
-    file.runs = {onePiece(cluster.value_or(entry.cluster), cluster ? clusters : 1)};
+    const std::vector<std::uint32_t> beginnings = beginningsOf(entry, found);
+    file.runsKnownBy = beginnings.size() == 1 ? RunsKnownBy::Guess : RunsKnownBy::StartOnly;
+    if (beginnings.size() == 1) {
+        file.runs = {onePiece(beginnings.front(), clusters)};
+    } else if (beginnings.empty()) {
+        file.runs = {onePiece(entry.cluster, 1)};
+    }
+}
+
+// The clusters with the same lower half under which such a file begins, two at most; its own comes first.
+std::vector<std::uint32_t> ClusterVolume::possibleBeginnings(const DirectoryEntry& entry,
+                                                             const FoundStarts& found) {
+    std::array<std::uint8_t, 512> sector;
+    std::vector<std::uint32_t> clusters;
+    for (std::uint64_t at = entry.cluster; m_shape.holds(at) && m_goneStepsLeft > 0 && clusters.size() < 2;
+         at += 0x10000, --m_goneStepsLeft) {
+        const std::uint64_t place = m_shape.sectorOf(at);
+        if (found.isAt(place, entry.name) || (at == entry.cluster && m_card.readAt(place, sector) &&
+                                              beginsLike(entry.name, sector).value_or(false))) {
+            clusters.push_back(static_cast<std::uint32_t>(at));
+        }
+    }
+    return clusters;
+}
+
+bool ClusterVolume::mayBeHalf(const DirectoryEntry& entry) const {
+    return entry.isHalfCluster && !entry.isFolder && entry.bytes != 0 && !m_keepsUpperHalf &&
+           m_shape.holds(entry.cluster) && m_shape.holds(0x10000 + m_shape.firstNumber());
+}
+
+// Whether a file that was deleted here begins only where an upper half puts it that its entry has lost.
+bool ClusterVolume::clearsUpperHalf(const FoundStarts& found) {
+    for (const CardDirectory& directory : m_directories) {
+        for (const DirectoryEntry& entry : directory.rows.entries) {
+            const auto clusters =
+                mayBeHalf(entry) ? possibleBeginnings(entry, found) : std::vector<std::uint32_t>{};
+            if (!clusters.empty() && clusters.front() != entry.cluster) {
+                return true;
+            }
+        }
+    }
+    return false;
 }
 
 // Some systems clear the upper half of the number with the deletion. Then the file begins under the number,
-// of those with the same lower half, under which one of its kind was found, if that is one alone; nothing
-// where that cannot be told.
-std::optional<std::uint32_t> ClusterVolume::beginningOf(const DirectoryEntry& entry,
-                                                        const FoundStarts& found) {
-    std::array<std::uint8_t, 512> sector;
-    if (!entry.isHalfCluster || m_keepsUpperHalf || !m_shape.holds(0x10000 + m_shape.firstNumber())) {
-        return entry.cluster;
+// of those with the same lower half, under which one of its kind was found, if that is one alone.
+std::vector<std::uint32_t> ClusterVolume::beginningsOf(const DirectoryEntry& entry,
+                                                       const FoundStarts& found) {
+    if (!mayBeHalf(entry)) {
+        return {entry.cluster};
     }
-    const std::uint64_t own = m_shape.sectorOf(entry.cluster);
-    if (found.isAt(own, entry.name) ||
-        (m_card.readAt(own, sector) && beginsLike(entry.name, sector).value_or(false))) {
-        return entry.cluster;
+    std::vector<std::uint32_t> clusters = possibleBeginnings(entry, found);
+    if (!m_clearsUpperHalf && !clusters.empty() && clusters.front() == entry.cluster) {
+        clusters.resize(1);
     }
-    std::optional<std::uint32_t> hit;
-    for (std::uint64_t at = entry.cluster; m_shape.holds(at) && m_goneStepsLeft > 0;
-         at += 0x10000, --m_goneStepsLeft) {
-        if (found.isAt(m_shape.sectorOf(at), entry.name)) {
-            if (hit) {
-                return std::nullopt;
-            }
-            hit = static_cast<std::uint32_t>(at);
-        }
-    }
-    return hit;
+    return clusters;
 }
 
 }  // namespace vantor

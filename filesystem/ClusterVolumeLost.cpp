@@ -109,8 +109,8 @@ QString ClusterVolume::folderOf(std::size_t directory) const {
             at = one.partOf;
             continue;
         }
-        if (!one.isRoot && !one.name.isEmpty()) {
-            path = path.isEmpty() ? one.name : one.name + u'/' + path;
+        if (!one.isRoot && !one.name.isEmpty() && !prependFolder(one.name, path)) {
+            break;
         }
         at = one.parent;
     }

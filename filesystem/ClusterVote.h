@@ -19,10 +19,13 @@ struct ClusterPlaces {
     std::size_t votes = 0;           // different clusters that say so
 };
 
+enum class Sightings { True, Possible };
+
 // The size and beginning of clusters that more sightings agree on than on any other; nothing when fewer than
-// `least` clusters do, or as many agree on another. Wrong sightings among them do no harm as long as they do
-// not agree.
-std::optional<ClusterPlaces> voteForClusters(const std::vector<ClusterSighting>& sightings,
-                                             std::size_t least);
+// `least` clusters do, or as many agree on another. Wrong sightings among those that are only possible do no
+// harm as long as they do not agree: nothing either when most of the clusters could lie elsewhere as well, as
+// files in a row, each as long as the next, can.
+std::optional<ClusterPlaces> voteForClusters(const std::vector<ClusterSighting>& sightings, std::size_t least,
+                                             Sightings kind);
 
 }  // namespace vantor

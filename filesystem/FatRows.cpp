@@ -6,6 +6,7 @@
 #include "filesystem/DirectoryRows.h"
 #include "filesystem/DosTime.h"
 #include "filesystem/LittleEndian.h"
+#include "filesystem/ShortNames.h"
 
 namespace vantor {
 
@@ -123,6 +124,7 @@ std::optional<QString> longNamePart(Row row, bool& ends) {
 struct LongName {
     QString name;
     std::uint8_t sum = 0;
+    bool ended = false;  // a row says that the name ends there
 };
 
 // The long name in the rows directly before row `at`, nothing when there is none. The rows of a deleted one
@@ -130,9 +132,8 @@ struct LongName {
 // belongs to the same short name.
 std::optional<LongName> longNameBefore(Row rows, std::size_t at, bool deleted) {
     LongName found;
-    bool ended = false;
     std::size_t count = 0;
-    while (!ended && at > 0 && count < 20) {
+    while (!found.ended && at > 0 && count < 20) {
         const Row row = rows.subspan((at - 1) * kRowBytes, kRowBytes);
         const bool fits = isRow(row) && isLongNameRow(row) && (row[0] == kDeleted) == deleted &&
                           (count == 0 || row[13] == found.sum) &&
@@ -147,34 +148,41 @@ std::optional<LongName> longNameBefore(Row rows, std::size_t at, bool deleted) {
         }
         found.sum = row[13];
         found.name += *part;
-        ended = endsHere || (!deleted && (row[0] & 0x40) != 0);
+        found.ended = endsHere || (!deleted && (row[0] & 0x40) != 0);
         ++count;
         --at;
     }
-    const bool whole = count > 0 && (ended || deleted);
+    const bool whole = count > 0 && (found.ended || deleted);
     return whole && found.name.size() <= 255 ? std::optional(found) : std::nullopt;
 }
 
-// The first letter that the long name's checksum asks for; nothing when it cannot be one of a short name.
-std::optional<std::uint8_t> lostLetter(Row row, const LongName& name) {
-    for (unsigned letter = 0x21; letter < 0x100; ++letter) {
-        const auto byte = static_cast<std::uint8_t>(letter);
-        if (shortNameSum(row, byte) == name.sum) {
-            const char16_t beginning = name.name.at(0).toUpper().unicode();
-            const bool agrees = beginning > 0x7F || !QChar(beginning).isLetterOrNumber() || beginning == byte;
-            return isShortNameByte(byte) && agrees ? std::optional(byte) : std::nullopt;
+// Whether the long name is the one of a deleted row: with the first letter that the name's checksum asks for,
+// the row's short name is one that is made of it. Newer rows may have taken the place of the rows with the
+// name's end; then its extension, if it has one, is not there either.
+bool belongsToDeleted(Row row, const LongName& name) {
+    std::array<std::uint8_t, 11> shortName{};
+    std::copy_n(row.begin(), shortName.size(), shortName.begin());
+    for (unsigned letter = 0; letter < 0x100; ++letter) {
+        shortName[0] = static_cast<std::uint8_t>(letter);
+        if (shortNameSum(row, shortName[0]) == name.sum) {
+            const bool mayBegin = letter == 0x05 || (letter > 0x20 && isShortNameByte(shortName[0]));
+            return mayBegin && (name.ended || row[8] != ' ') && isShortNameOf(shortName, name.name);
         }
     }
-    return std::nullopt;
+    return false;
 }
 
 void nameEntry(DirectoryEntry& entry, Row rows, std::size_t at) {
     const Row row = rows.subspan(at * kRowBytes, kRowBytes);
-    const auto longName = longNameBefore(rows, at, entry.isDeleted);
+    auto longName = longNameBefore(rows, at, entry.isDeleted);
+    if (entry.isDeleted && !longName) {
+        // Cameras that know of no long names leave their rows as they are.
+        longName = longNameBefore(rows, at, false);
+    }
     if (!entry.isDeleted) {
         const bool belongs = longName && longName->sum == shortNameSum(row, row[0]);
         entry.name = belongs ? longName->name : shortName(row, row[0]);
-    } else if (longName && lostLetter(row, *longName)) {
+    } else if (longName && belongsToDeleted(row, *longName)) {
         entry.name = longName->name;
     } else {
         entry.name = shortName(row, '_');

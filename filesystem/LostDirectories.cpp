@@ -42,6 +42,7 @@ void LostDirectories::read(const std::vector<SectorRun>& traces, std::vector<Vol
         }
     }
     sortOut(traces);
+    placeRoots();
     placeBeginnings();
     placeParts(false);
     placeParts(true);
@@ -89,24 +90,44 @@ ClusterVolume* LostDirectories::volumeOf(const VolumeShape& shape) {
     return m_volumes.back().get();
 }
 
+// Those that lie before the clusters.
+void LostDirectories::placeRoots() {
+    for (std::size_t at = 0; at < m_shapes.size(); ++at) {
+        const VolumeShape shape = m_shapes[at];
+        const SectorRun place{shape.root, shape.root + shape.rootSectors};
+        const auto part = std::find_if(m_fatParts.begin(), m_fatParts.end(), [&](const SectorRun& run) {
+            return run.first == place.first && place.first != place.end;
+        });
+        if (part == m_fatParts.end()) {
+            continue;
+        }
+        volumeOf(shape)->readLostRoot();
+        part->first = std::min(part->end, place.end);
+        if (part->first == part->end) {
+            m_fatParts.erase(part);
+        }
+    }
+}
+
+void LostDirectories::placeKnownBeginnings() {
+    std::erase_if(m_beginnings, [this](const ClusterSighting& one) {
+        for (const VolumeShape& shape : m_shapes) {
+            const bool fits = shape.kind != FileSystemKind::Exfat && shape.holds(one.cluster) &&
+                              shape.sectorOf(one.cluster) == one.sector;
+            if (fits) {
+                volumeOf(shape)->readLost(one.cluster);
+                return true;
+            }
+        }
+        return false;
+    });
+}
+
 // Each says itself which cluster it begins in.
 void LostDirectories::placeBeginnings() {
-    const auto placeKnown = [this] {
-        std::erase_if(m_beginnings, [this](const ClusterSighting& one) {
-            for (const VolumeShape& shape : m_shapes) {
-                const bool fits = shape.kind != FileSystemKind::Exfat && shape.holds(one.cluster) &&
-                                  shape.sectorOf(one.cluster) == one.sector;
-                if (fits) {
-                    volumeOf(shape)->readLost(one.cluster);
-                    return true;
-                }
-            }
-            return false;
-        });
-    };
-    placeKnown();
+    placeKnownBeginnings();
     for (int i = 0; i < kMostFormerSystems; ++i) {
-        const auto places = voteForClusters(m_beginnings, 2);
+        const auto places = voteForClusters(m_beginnings, 2, Sightings::True);
         if (!places) {
             return;
         }
@@ -116,7 +137,7 @@ void LostDirectories::placeBeginnings() {
         shape.clusters =
             static_cast<std::uint32_t>((m_card.sectors() - shape.firstCluster) / shape.clusterSectors);
         m_shapes.push_back(shape);
-        placeKnown();
+        placeKnownBeginnings();
     }
 }
 
@@ -189,7 +210,10 @@ void LostDirectories::placeParts(bool exfat) {
             std::size_t best = m_shapes.size();
             std::size_t most = 0;
             for (std::size_t at = 0; at < m_shapes.size(); ++at) {
-                const std::size_t hits = isOfKind(m_shapes[at]) ? evidence(part, m_shapes[at]) : 0;
+                const VolumeShape& shape = m_shapes[at];
+                const bool mayLieThere =
+                    isOfKind(shape) && part.first >= shape.firstCluster && part.first < shape.endOfClusters();
+                const std::size_t hits = mayLieThere ? evidence(part, shape) : 0;
                 if (hits > most) {
                     most = hits;
                     best = at;
@@ -201,7 +225,7 @@ void LostDirectories::placeParts(bool exfat) {
             ofShape[best].push_back(part);
             return true;
         });
-        const auto places = voteForClusters(sightings(parts, exfat), kLeastVotes);
+        const auto places = voteForClusters(sightings(parts, exfat), kLeastVotes, Sightings::Possible);
         if (!places || places->firstCluster >= m_card.sectors()) {
             break;
         }
@@ -218,6 +242,7 @@ void LostDirectories::placeParts(bool exfat) {
         m_shapes.push_back(shape);
     }
     ofShape.resize(m_shapes.size());
+    placeKnownBeginnings();
     // Sets whose checksum is right are true names, also where all that they named is overwritten.
     const auto present = std::find_if(m_shapes.begin(), m_shapes.end(), isOfKind);
     if (exfat && present != m_shapes.end()) {

@@ -26,7 +26,9 @@ class LostDirectories {
 
   private:
     void sortOut(const std::vector<SectorRun>& traces);
+    void placeRoots();
     void placeBeginnings();
+    void placeKnownBeginnings();
     void placeParts(bool exfat);
     std::vector<ClusterSighting> sightings(const std::vector<SectorRun>& parts, bool exfat);
     // How much of what the parts say is found where the shape puts it.

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <iterator>
+#include <map>
 
 #include "filesystem/ClusterVote.h"
 #include "filesystem/FileBeginning.h"
@@ -19,6 +21,8 @@ constexpr std::size_t kMostRecordLooks = 256;
 constexpr std::size_t kMostRecordSightings = 400'000;
 constexpr std::size_t kMostRecordPlaces = 2048;
 constexpr std::size_t kLeastRecordVotes = 3;
+// More pieces than a table has, or more tables than a medium had.
+constexpr std::size_t kMostTables = 64;
 
 bool hasPlace(const NtfsRecord& record) {
     return !record.isFolder && !record.name.isEmpty() && record.isPlain && record.firstCluster == 0 &&
@@ -36,20 +40,34 @@ bool isIn(const std::vector<SectorRun>& runs, std::uint64_t sector) {
 
 void LostRecords::tell(const std::vector<SectorRun>& traces, const std::vector<SectorRun>& known,
                        const std::vector<VolumeShape>& shapes, CardTable& table) {
-    std::vector<NtfsRecord> records = recordsAt(traces, known);
-    if (const auto shape = records.empty() ? std::nullopt : shapeOf(records, shapes)) {
-        NtfsVolume(m_card, *shape, false).tellLost(std::move(records), table);
+    std::vector<std::pair<VolumeShape, Records>> volumes;
+    for (Records& records : tablesAt(traces, known)) {
+        const auto shape = shapeOf(records, shapes);
+        if (!shape) {
+            continue;
+        }
+        auto volume = std::find_if(volumes.begin(), volumes.end(),
+                                   [&](const auto& one) { return one.first.sameClusters(*shape); });
+        if (volume == volumes.end()) {
+            volume = volumes.insert(volume, {*shape, {}});
+        }
+        std::move(records.begin(), records.end(), std::back_inserter(volume->second));
+    }
+    for (auto& [shape, records] : volumes) {
+        NtfsVolume(m_card, shape, false).tellLost(std::move(records), table);
     }
 }
 
-std::vector<NtfsRecord> LostRecords::recordsAt(const std::vector<SectorRun>& traces,
-                                               const std::vector<SectorRun>& known) {
-    std::vector<NtfsRecord> records;
+std::vector<LostRecords::Records> LostRecords::tablesAt(const std::vector<SectorRun>& traces,
+                                                        const std::vector<SectorRun>& known) {
+    // By the sector where record 0 would lie; those without a number lie in no table.
+    std::map<std::optional<std::int64_t>, Records> byBeginning;
     std::uint64_t left = kMostRecordSectors;
+    std::size_t count = 0;
     std::vector<std::uint8_t> bytes;
     for (const SectorRun& run : traces) {
         const std::uint64_t end = std::min(run.end, m_card.sectors());
-        for (std::uint64_t at = run.first; at < end && left > 0 && records.size() < kMostLostRecords;) {
+        for (std::uint64_t at = run.first; at < end && left > 0 && count < kMostLostRecords;) {
             bytes.resize(512);
             const bool isRead = !isIn(known, at) && m_card.readAt(at, bytes);
             const std::size_t sectors = isRead ? sectorsOfNtfsRecord(bytes.data()) : 0;
@@ -60,13 +78,28 @@ std::vector<NtfsRecord> LostRecords::recordsAt(const std::vector<SectorRun>& tra
             }
             bytes.resize(sectors * 512);
             auto record = m_card.readAt(at, bytes) ? readNtfsRecord(bytes) : std::nullopt;
-            at += record ? sectors : 1;
-            if (record) {
-                records.push_back(std::move(*record));
+            if (!record) {
+                ++at;
+                continue;
             }
+            std::optional<std::int64_t> beginning;
+            if (record->number) {
+                beginning = static_cast<std::int64_t>(at) -
+                            static_cast<std::int64_t>(*record->number) * static_cast<std::int64_t>(sectors);
+            }
+            byBeginning[beginning].push_back(std::move(*record));
+            at += sectors;
+            ++count;
         }
     }
-    return records;
+    std::vector<Records> tables;
+    for (auto& [beginning, records] : byBeginning) {
+        tables.push_back(std::move(records));
+    }
+    std::stable_sort(tables.begin(), tables.end(),
+                     [](const Records& a, const Records& b) { return a.size() > b.size(); });
+    tables.resize(std::min(tables.size(), kMostTables));
+    return tables;
 }
 
 bool LostRecords::standsThere(const NtfsRecord& record, const VolumeShape& shape) {
@@ -115,7 +148,7 @@ std::optional<VolumeShape> LostRecords::votedShape(const std::vector<NtfsRecord>
             }
         }
     }
-    const auto places = voteForClusters(sightings, kLeastRecordVotes);
+    const auto places = voteForClusters(sightings, kLeastRecordVotes, Sightings::Possible);
     if (!places || places->firstCluster >= m_card.sectors()) {
         return std::nullopt;
     }

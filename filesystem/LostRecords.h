@@ -20,14 +20,17 @@ class LostRecords {
     LostRecords(SectorSource& card, const FoundStarts& found) : m_card(card), m_found(found) {}
 
     // Appends what the records among the traces tell. `known`: where records have been read already, sorted
-    // and apart. The clusters are those of the shape that puts most files where such a file begins, else
-    // those that the found beginnings vote for.
+    // and apart. The records of one table lie a record's number apart from where it began. Their clusters are
+    // those of the shape that puts most files where such a file begins, else those that the found beginnings
+    // vote for; tables whose clusters are the same are parts of one.
     void tell(const std::vector<SectorRun>& traces, const std::vector<SectorRun>& known,
               const std::vector<VolumeShape>& shapes, CardTable& table);
 
   private:
-    std::vector<NtfsRecord> recordsAt(const std::vector<SectorRun>& traces,
-                                      const std::vector<SectorRun>& known);
+    using Records = std::vector<NtfsRecord>;
+
+    // Of each table by itself, the largest first.
+    std::vector<Records> tablesAt(const std::vector<SectorRun>& traces, const std::vector<SectorRun>& known);
     std::optional<VolumeShape> shapeOf(const std::vector<NtfsRecord>& records,
                                        const std::vector<VolumeShape>& shapes);
     std::optional<VolumeShape> votedShape(const std::vector<NtfsRecord>& records) const;

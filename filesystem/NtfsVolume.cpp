@@ -2,6 +2,7 @@
 #include "filesystem/NtfsVolume.h"
 
 #include <algorithm>
+#include <numeric>
 
 #include "filesystem/CleanName.h"
 
@@ -14,6 +15,11 @@ constexpr std::uint64_t kFirstOfUsers = 24;
 constexpr std::uint64_t kRoot = 5;
 constexpr std::size_t kMostRecords = 2'000'000;
 constexpr std::uint64_t kMostRuns = 16'000'000;
+
+std::uint64_t clustersOf(const std::vector<NtfsRun>& runs) {
+    return std::accumulate(runs.begin(), runs.end(), std::uint64_t{0},
+                           [](std::uint64_t sum, const NtfsRun& run) { return sum + run.count; });
+}
 
 }  // namespace
 
@@ -58,7 +64,7 @@ void NtfsVolume::tellLost(std::vector<NtfsRecord> records, CardTable& table) {
     tellFiles(table);
 }
 
-void NtfsVolume::tellFiles(CardTable& table) const {
+void NtfsVolume::tellFiles(CardTable& table) {
     for (const auto& [number, record] : m_records) {
         if (m_isCurrent && record.isInUse) {
             const std::vector<SectorRun> runs = sectorsOf(record.runs);
@@ -113,11 +119,8 @@ void NtfsVolume::joinParts() {
             continue;
         }
         NtfsRecord& file = base->second;
+        std::uint64_t clusters = clustersOf(file.runs);
         for (auto& [first, part] : parts) {
-            std::uint64_t clusters = 0;
-            for (const NtfsRun& run : file.runs) {
-                clusters += run.count;
-            }
             if (part.base.use != file.use || part.isInUse != file.isInUse || part.firstCluster != clusters) {
                 continue;
             }
@@ -128,6 +131,7 @@ void NtfsVolume::joinParts() {
             file.hasData = true;
             file.isPlain = file.isPlain && part.isPlain;
             file.runs.insert(file.runs.end(), part.runs.begin(), part.runs.end());
+            clusters += clustersOf(part.runs);
         }
     }
 }
@@ -152,17 +156,26 @@ std::optional<QString> NtfsVolume::folderOf(const NtfsReference& parent) const {
         if (!record.isFolder || record.name.isEmpty() || !isMeant) {
             return QString();
         }
-        const QString name = cleanName(record.name);
-        path = path.isEmpty() ? name : name + u'/' + path;
+        if (!prependFolder(cleanName(record.name), path)) {
+            break;
+        }
         at = record.parent;
     }
     return path;
 }
 
-void NtfsVolume::tellFile(const NtfsRecord& record, CardTable& table) const {
+const std::optional<QString>& NtfsVolume::knownFolderOf(const NtfsReference& parent) {
+    const auto [known, isNew] = m_folders.try_emplace(std::pair(parent.record, parent.use));
+    if (isNew) {
+        known->second = folderOf(parent);
+    }
+    return known->second;
+}
+
+void NtfsVolume::tellFile(const NtfsRecord& record, CardTable& table) {
     const std::uint64_t clusterBytes = std::uint64_t{m_shape.clusterSectors} * 512;
     const std::uint64_t clusters = record.bytes / clusterBytes + (record.bytes % clusterBytes != 0 ? 1 : 0);
-    const std::optional<QString> folder = folderOf(record.parent);
+    const std::optional<QString>& folder = knownFolderOf(record.parent);
     if (!folder || clusters > m_shape.clusters) {
         return;
     }

@@ -35,10 +35,12 @@ class NtfsVolume {
     void readRecords(const std::vector<SectorRun>& places, std::uint64_t records);
     void keep(std::uint64_t number, NtfsRecord record);
     void joinParts();
-    void tellFiles(CardTable& table) const;
+    void tellFiles(CardTable& table);
     // Nothing for a folder of the file system's own.
     std::optional<QString> folderOf(const NtfsReference& parent) const;
-    void tellFile(const NtfsRecord& record, CardTable& table) const;
+    // The same, made once.
+    const std::optional<QString>& knownFolderOf(const NtfsReference& parent);
+    void tellFile(const NtfsRecord& record, CardTable& table);
 
     SectorSource& m_card;
     const VolumeShape m_shape;
@@ -48,6 +50,7 @@ class NtfsVolume {
     // Further parts of a file's contents, by the record that they go on, in the order of its clusters.
     std::unordered_map<std::uint64_t, std::map<std::uint64_t, NtfsRecord>> m_parts;
     std::uint64_t m_runsKept = 0;
+    std::map<std::pair<std::uint64_t, std::uint16_t>, std::optional<QString>> m_folders;
 };
 
 }  // namespace vantor

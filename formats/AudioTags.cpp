@@ -13,7 +13,7 @@ constexpr std::uint64_t kApeBlock = 32;  // its header or footer
 constexpr std::uint64_t kMostApe = 16 * 1024 * 1024;
 constexpr std::uint64_t kMostApeSearch = 256 * 1024;
 constexpr std::uint64_t kId3v1 = 128;
-constexpr std::uint64_t kMostPadding = 64 * 1024;
+constexpr std::uint64_t kAudioTagsMostPadding = 64 * 1024;
 
 // An APE tag without header begins with its first item: value size, flags, a key of printable letters, zero.
 bool isApeItem(ByteView& view, std::uint64_t at) {
@@ -71,7 +71,7 @@ std::uint64_t skipLeadingTag(ByteView& view, std::uint64_t at) {
             break;
         const std::uint64_t bytes = rest[3] << 21 | rest[4] << 14 | rest[5] << 7 | rest[6];
         at += 10 + bytes + ((rest[2] & 0x10) != 0 ? 10 : 0);
-        const auto limit = std::min(view.size(), at + kMostPadding);
+        const auto limit = std::min(view.size(), at + kAudioTagsMostPadding);
         auto end = at;
         while (end < limit && view.u8(end) == 0)
             ++end;

@@ -9,7 +9,7 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kMost = std::numeric_limits<std::uint64_t>::max();
+constexpr std::uint64_t kByteViewMost = std::numeric_limits<std::uint64_t>::max();
 
 // A walker passes over its file once, looks ahead and back a little, and hops through tables. Three times the
 // source and a fixed allowance for hops is more than any sound file takes.
@@ -22,11 +22,11 @@ constexpr std::uint64_t kAlign = 512;
 }  // namespace
 
 std::uint64_t addClamped(std::uint64_t a, std::uint64_t b) {
-    return a > kMost - b ? kMost : a + b;
+    return a > kByteViewMost - b ? kByteViewMost : a + b;
 }
 
 std::uint64_t mulClamped(std::uint64_t a, std::uint64_t b) {
-    return b != 0 && a > kMost / b ? kMost : a * b;
+    return b != 0 && a > kByteViewMost / b ? kByteViewMost : a * b;
 }
 
 ByteView::ByteView(ByteSource& source)

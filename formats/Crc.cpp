@@ -29,7 +29,7 @@ constexpr std::array<Word, 256> plainTable(Word polynomial) {
     return table;
 }
 
-constexpr auto kOgg = plainTable<std::uint32_t>(0x04C11DB7U);
+constexpr auto kOggTable = plainTable<std::uint32_t>(0x04C11DB7U);
 constexpr auto kFlac16 = plainTable<std::uint16_t>(0x8005U);
 constexpr auto kFlac8 = plainTable<std::uint8_t>(0x07U);
 
@@ -58,7 +58,7 @@ std::uint32_t crc32(ByteView& view, std::uint64_t from, std::uint64_t to, bool& 
 
 std::uint32_t crcOgg(std::uint32_t crc, std::span<const std::uint8_t> bytes) {
     for (const auto byte : bytes)
-        crc = (crc << 8) ^ kOgg[(crc >> 24 ^ byte) & 0xFF];
+        crc = (crc << 8) ^ kOggTable[(crc >> 24 ^ byte) & 0xFF];
     return crc;
 }
 

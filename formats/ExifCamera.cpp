@@ -13,13 +13,14 @@ namespace {
 constexpr std::uint16_t kTagMake = 271;
 constexpr std::uint16_t kTagModel = 272;
 constexpr std::uint16_t kTypeAscii = 2;
-constexpr std::size_t kMostLetters = 64;
-constexpr int kMostSegments = 64;  // of a JPEG file before its Exif block, which comes first or second
+constexpr std::size_t kExifCameraMostLetters = 64;
+constexpr int kExifCameraMostSegments =
+    64;  // of a JPEG file before its Exif block, which comes first or second
 
 // Where the TIFF structure of a JPEG file that begins at `at` begins; nothing where it has none.
 std::optional<std::uint64_t> exifOfJpeg(ByteView& view, std::uint64_t at) {
     at += 2;
-    for (int segment = 0; segment < kMostSegments; ++segment) {
+    for (int segment = 0; segment < kExifCameraMostSegments; ++segment) {
         const auto marker = view.be16(at);
         const auto length = view.be16(at + 2);
         if (!marker || !length || *length < 2 || *marker < 0xFFC0 || *marker == 0xFFDA) {
@@ -49,7 +50,7 @@ std::string textOf(ByteView& view, const TiffEntry& entry) {
     if (entry.type != kTypeAscii) {
         return text;
     }
-    const std::uint64_t letters = std::min<std::uint64_t>(entry.count, kMostLetters);
+    const std::uint64_t letters = std::min<std::uint64_t>(entry.count, kExifCameraMostLetters);
     for (std::uint64_t i = 0; i < letters; ++i) {
         const auto letter = view.u8(addClamped(entry.valueAt, i));
         if (!letter || *letter == 0) {
@@ -101,7 +102,7 @@ std::string cameraOf(ByteSource& source) {
     if (model.empty() || make.empty() || beginsWithMaker(model, make)) {
         return model.empty() ? make : model;
     }
-    return (make + ' ' + model).substr(0, kMostLetters);
+    return (make + ' ' + model).substr(0, kExifCameraMostLetters);
 }
 
 }  // namespace vantor

@@ -11,7 +11,7 @@ namespace vantor {
 
 namespace {
 
-constexpr int kMostChildren = 256;
+constexpr int kMostFactBoxes = 256;
 constexpr int kMostItems = 4096;  // of a picture, which may be cut into many tiles
 
 // Canon's raw files keep their Exif directories in boxes CMT1 (picture) and CMT2 (exposure) of this one.
@@ -19,7 +19,7 @@ constexpr std::string_view kCanonUuid = "\x85\xC0\xB6\x87\x82\x0F\x11\xE0\x81\x1
 
 template <typename Visit>
 void forChildren(ByteView& view, std::uint64_t from, std::uint64_t to, Visit visit,
-                 int most = kMostChildren) {
+                 int most = kMostFactBoxes) {
     for (int i = 0; i < most && from < to; ++i) {
         const auto box = readIsoBox(view, from);
         if (!box || box->toEnd || box->end > to)

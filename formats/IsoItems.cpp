@@ -10,8 +10,8 @@ namespace vantor {
 
 namespace {
 
-constexpr int kMostBoxes = 4096;
-constexpr std::size_t kMostItems = 1024;
+constexpr int kMostItemBoxes = 4096;
+constexpr std::size_t kIsoItemsMostItems = 1024;
 
 struct Item {
     std::uint32_t number = 0;
@@ -23,7 +23,7 @@ class CodedItems {
   public:
     void read(ByteView& view, const IsoBox& info) {
         std::uint64_t at = info.body + (view.u8(info.body) != 0 ? 8 : 6);
-        for (int i = 0; i < kMostBoxes && at < info.end; ++i) {
+        for (int i = 0; i < kMostItemBoxes && at < info.end; ++i) {
             const auto entry = readIsoBox(view, at);
             if (!entry || entry->end > info.end)
                 return;
@@ -50,7 +50,7 @@ class CodedItems {
     }
 
   private:
-    std::array<Item, kMostItems> m_items{};
+    std::array<Item, kIsoItemsMostItems> m_items{};
     std::size_t m_count = 0;
 };
 
@@ -66,7 +66,7 @@ ContentCheck checkLocated(ByteView& view, const IsoBox& locations, const CodedIt
                           unsigned lengthBytes) {
     ContentCheck check;
     std::uint64_t widest = 0, all = 0;
-    forItemPieces(view, locations, kMostBoxes, [&](const IsoItemPiece& piece) {
+    forItemPieces(view, locations, kMostItemBoxes, [&](const IsoItemPiece& piece) {
         const Coding coding = coded.codingOfItem(piece.item);
         // Only what lies in one piece can be followed.
         if (piece.pieces != 1 || coding == Coding::Unknown || !view.holds(piece.at, piece.bytes))
@@ -92,7 +92,7 @@ ContentCheck checkItems(ByteView& view, const IsoBox& meta) {
     std::optional<IsoBox> locations;
     unsigned lengthBytes = 4;
     std::uint64_t at = meta.body + 4;
-    for (int i = 0; i < kMostBoxes && at < meta.end; ++i) {
+    for (int i = 0; i < kMostItemBoxes && at < meta.end; ++i) {
         const auto box = readIsoBox(view, at);
         if (!box || box->toEnd || box->end > meta.end)
             break;

@@ -5,84 +5,64 @@
 #include <array>
 #include <optional>
 
-#include "formats/IsoTracks.h"
+#include "formats/IsoSampleCensus.h"
 
 namespace vantor {
 
 namespace {
 
-constexpr int kMostTracks = 32;
+constexpr int kIsoSamplesMostTracks = 32;
 constexpr std::uint64_t kMostRuns = 1 << 16;  // of chunks that hold equally many samples
 
 // A movie with up to so much data, in up to so many samples, is looked at as a whole; of a longer one so many
 // chunks of each track, spread evenly, and so many samples of each.
-constexpr std::uint64_t kSmallMovie = 4 * 1024 * 1024;
+constexpr std::uint64_t kIsoSamplesSmallMovie = 4 * 1024 * 1024;
 constexpr std::uint64_t kFewSamples = 4096;
 constexpr std::uint64_t kChunksLookedAt = 48;
-constexpr std::size_t kSamplesLookedAt = 4;
+constexpr std::size_t kIsoSamplesSamplesLookedAt = 4;
 
 class TrackCheck {
   public:
     TrackCheck(ByteView& view, const IsoTrack& track, std::span<const DataPlace> data, bool all,
                std::uint64_t dataBytes)
-        : m_view(view), m_track(track), m_data(data), m_all(all), m_dataBytes(dataBytes) {}
+        : m_view(view), m_track(track), m_all(all), m_dataBytes(dataBytes), m_census(view, track, data) {}
 
     ContentCheck check();
 
   private:
     void chunk(std::uint64_t index, std::uint64_t firstSample, std::uint64_t samples);
-    bool isInData(std::uint64_t at, std::uint64_t bytes) const;
-    void look(std::uint64_t at, std::uint64_t bytes);
 
     ByteView& m_view;
     const IsoTrack& m_track;
-    const std::span<const DataPlace> m_data;
     const bool m_all;
     const std::uint64_t m_dataBytes;
-    std::uint64_t m_inside = 0;
-    std::uint64_t m_outside = 0;
-    std::uint64_t m_sound = 0;
-    std::uint64_t m_broken = 0;
-    std::uint64_t m_widest = 0;
+    SampleCensus m_census;
 };
-
-bool TrackCheck::isInData(std::uint64_t at, std::uint64_t bytes) const {
-    return std::any_of(m_data.begin(), m_data.end(), [&](const DataPlace& place) {
-        return at >= place.from && at <= place.to && bytes <= place.to - at;
-    });
-}
-
-void TrackCheck::look(std::uint64_t at, std::uint64_t bytes) {
-    const auto blind = lookAtSample(m_view, m_track.coding, m_track.lengthBytes, at, bytes);
-    ++(blind ? m_sound : m_broken);
-    m_widest = std::max(m_widest, blind.value_or(0));
-}
 
 // The sizes are read in one go, so that the window does not jump to and fro between table and data.
 void TrackCheck::chunk(std::uint64_t index, std::uint64_t firstSample, std::uint64_t samples) {
     const auto offset = m_track.chunks.entry(m_view, index);
     if (!offset)
         return;
-    if (m_track.sampleBytes != 0) {  // plain sound, whose tables count in units of their own
-        ++(isInData(*offset, 1) ? m_inside : m_outside);
+    const bool alike = m_track.sampleBytes != 0;
+    if (alike && m_track.coding == Coding::Unknown) {  // plain sound is counted in units of its own
+        m_census.addPlace(*offset);
         return;
     }
     std::uint64_t at = *offset;
     for (std::uint64_t done = 0; done < samples;) {
         std::array<std::uint64_t, 64> sizes{};
         std::size_t known = 0;
-        const std::uint64_t wanted = m_all ? sizes.size() : kSamplesLookedAt;
+        const std::uint64_t wanted = m_all ? sizes.size() : kIsoSamplesSamplesLookedAt;
         for (; known < std::min<std::uint64_t>(wanted, samples - done); ++known) {
-            const auto size = m_track.sizes.entry(m_view, firstSample + done + known);
+            const auto size = alike ? std::optional(m_track.sampleBytes)
+                                    : m_track.sizes.entry(m_view, firstSample + done + known);
             if (!size)
                 break;
             sizes[known] = *size;
         }
         for (std::size_t i = 0; i < known; ++i) {
-            const bool inside = isInData(at, sizes[i]);
-            ++(inside ? m_inside : m_outside);
-            if (inside && m_track.coding != Coding::Unknown)
-                look(at, sizes[i]);
+            m_census.add(at, sizes[i]);
             at = addClamped(at, sizes[i]);
         }
         done += known;
@@ -114,11 +94,7 @@ ContentCheck TrackCheck::check() {
         }
         sample = addClamped(sample, mulClamped(next - first, samples));
     }
-    // Tables and codings of which nothing is as it should be were not understood.
-    if ((m_outside != 0 && m_inside != 0) || (m_broken != 0 && m_sound != 0))
-        return {ContentCheck::Outcome::Broken};
-    const bool enough = m_sound != 0 && (!m_all || isEnough(m_widest, m_dataBytes));
-    return {enough ? ContentCheck::Outcome::Sound : ContentCheck::Outcome::Silent};
+    return m_census.outcome(m_all, m_dataBytes);
 }
 
 }  // namespace
@@ -131,13 +107,13 @@ ContentCheck checkSamples(ByteView& view, const IsoBox& movie, std::span<const D
     bool everyVideo = true;
     int tracks = 0;
     forIsoBoxes(view, movie.body, movie.end, [&](const IsoBox& box) {
-        if (box.text() != "trak" || ++tracks > kMostTracks)
+        if (box.text() != "trak" || ++tracks > kIsoSamplesMostTracks)
             return;
         const IsoTrack track = readIsoTrack(view, box);
         if (track.elsewhere || track.chunks.count == 0 || all.outcome == ContentCheck::Outcome::Broken)
             return;
         const bool whole =
-            bytes <= kSmallMovie && std::max(track.sizes.count, track.chunks.count) <= kFewSamples;
+            bytes <= kIsoSamplesSmallMovie && std::max(track.sizes.count, track.chunks.count) <= kFewSamples;
         const ContentCheck check = TrackCheck(view, track, data, whole, bytes).check();
         everyVideo = everyVideo && (!track.isVideo() || check.outcome != ContentCheck::Outcome::Silent);
         if (check.outcome == ContentCheck::Outcome::Broken || all.outcome == ContentCheck::Outcome::Silent)

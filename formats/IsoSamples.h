@@ -12,7 +12,23 @@ namespace vantor {
 
 // How the samples of a track, or the data of a picture, are coded, as far as it can be judged without
 // decoding.
-enum class Coding : std::uint8_t { Unknown, Avc, Hevc, Av1, Vp9, Mpeg4, H263, Jpeg, ProRes, Amr, Ac3 };
+enum class Coding : std::uint8_t {
+    Unknown,
+    Avc,
+    Hevc,
+    Av1,
+    Vp9,
+    Mpeg4,
+    H263,
+    Jpeg,
+    ProRes,
+    Amr,
+    Ac3,
+    Aac,
+    Alac,
+    Flac,
+    MpegAudio
+};
 
 // By the name of its sample entry or of its item; Unknown where its data cannot be told from noise.
 Coding codingOf(std::string_view name);
@@ -20,6 +36,8 @@ Coding codingOf(std::string_view name);
 // Nothing when it is none, else the longest stretch in it of which nothing was looked at.
 std::optional<std::uint64_t> lookAtSample(ByteView& view, Coding coding, unsigned lengthBytes,
                                           std::uint64_t at, std::uint64_t bytes);
+// Of a sound track whose sample entry "mp4a" stands in [from, to): what its decoder configuration says.
+Coding codingOfMpeg4Sound(ByteView& view, std::uint64_t from, std::uint64_t to);
 // The width that a configuration box (avcC, hvcC) among the boxes in [from, to) tells; 4 without one.
 unsigned lengthBytesIn(ByteView& view, std::uint64_t from, std::uint64_t to);
 
@@ -47,6 +65,9 @@ inline bool isEnough(std::uint64_t widest, std::uint64_t all) {
 // Looks at the samples of a moov box: at all of a small movie, else at a spread of them, by a bounded number
 // of short reads.
 ContentCheck checkSamples(ByteView& view, const IsoBox& movie, std::span<const DataPlace> data);
+// The same of a movie in fragments (moof boxes), whose moov box may be another file's.
+ContentCheck checkFragments(ByteView& view, const std::optional<IsoBox>& movie,
+                            std::span<const IsoBox> fragments, std::span<const DataPlace> data);
 // Looks at the coded pictures that a meta box places in the file.
 ContentCheck checkItems(ByteView& view, const IsoBox& meta);
 

@@ -8,7 +8,7 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kMostRuns = 1 << 16;  // of chunks that hold equally many samples
+constexpr std::uint64_t kIsoTracksMostRuns = 1 << 16;  // of chunks that hold equally many samples
 
 void readDescription(ByteView& view, const IsoBox& box, IsoTrack& track) {
     constexpr std::uint64_t kVisualHead = 78;
@@ -17,7 +17,8 @@ void readDescription(ByteView& view, const IsoBox& box, IsoTrack& track) {
     if (!entry || entry->end > box.end || view.be32(box.body + 4) != 1U)
         return;
     track.codingName = entry->name;
-    track.coding = codingOf(entry->text());
+    track.coding =
+        entry->text() == "mp4a" ? codingOfMpeg4Sound(view, entry->body, entry->end) : codingOf(entry->text());
     track.lengthBytes = lengthBytesIn(view, entry->body + kVisualHead, entry->end);
 }
 
@@ -131,7 +132,7 @@ std::vector<IsoSample> samplesOf(ByteView& view, const IsoTrack& track, std::siz
     const std::uint64_t plain = plainSoundFrameBytes(view, track);
     std::uint64_t sample = 0;
     std::uint64_t chunk = 0;
-    const auto runs = std::min(track.runs.count, kMostRuns);
+    const auto runs = std::min(track.runs.count, kIsoTracksMostRuns);
     for (std::uint64_t run = 0; run < runs; ++run) {
         Cursor in(view, track.runs.at + run * 12);
         const std::uint64_t first = in.u32();

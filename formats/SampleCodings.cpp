@@ -1,22 +1,24 @@
 // What can be said of one coded sample without decoding it. Sources: ISO/IEC 14496-10 and -15, 23008-2, AV1
-// and VP9 bitstream specifications, ISO/IEC 14496-2, ITU-T H.263, SMPTE RDD 36, RFC 4867, ETSI TS 102 366.
+// and VP9 bitstream specifications, ISO/IEC 14496-2, ITU-T H.263, SMPTE RDD 36, RFC 4867, ETSI TS 102 366,
+// RFC 9639; ISO/IEC 11172-3. Sound of AAC and ALAC: SoundCodings.cpp.
 #include <algorithm>
 #include <array>
 
 #include "formats/IsoSamples.h"
+#include "formats/SoundCodings.h"
 
 namespace vantor {
 
 namespace {
 
-constexpr int kMostUnits = 512;  // of one sample that are followed; more are taken for granted
+constexpr int kSampleCodingsMostUnits = 512;  // of one sample that are followed; more are taken for granted
 
 // Of units that each tell their length, to the sample's last byte; nothing when they do not come out even.
 std::optional<std::uint64_t> longestUnit(ByteView& view, Coding coding, unsigned lengthBytes,
                                          std::uint64_t at, std::uint64_t bytes) {
     const std::uint64_t end = at + bytes;
     std::uint64_t longest = 0;
-    for (int units = 0; units < kMostUnits && at < end; ++units) {
+    for (int units = 0; units < kSampleCodingsMostUnits && at < end; ++units) {
         const auto length = view.number(at, lengthBytes, Endian::Big);
         at += lengthBytes;
         if (!length || *length == 0 || at > end || *length > end - at)
@@ -37,7 +39,7 @@ std::optional<std::uint64_t> longestObu(ByteView& view, std::uint64_t at, std::u
     constexpr std::uint32_t kKnownKinds = 0x81FE;  // 1 to 8 and 15
     const std::uint64_t end = at + bytes;
     std::uint64_t longest = 0;
-    for (int units = 0; units < kMostUnits && at < end; ++units) {
+    for (int units = 0; units < kSampleCodingsMostUnits && at < end; ++units) {
         const auto head = view.u8(at);
         if (!head || (*head & 0x81) != 0 || (kKnownKinds >> (*head >> 3 & 15) & 1) == 0)
             return std::nullopt;
@@ -82,14 +84,15 @@ Coding codingOf(std::string_view name) {
         Coding coding;
     };
     static constexpr Named kNames[] = {
-        {"avc1", Coding::Avc},    {"avc3", Coding::Avc},    {"hvc1", Coding::Hevc},
-        {"hev1", Coding::Hevc},   {"dvh1", Coding::Hevc},   {"dvhe", Coding::Hevc},
-        {"av01", Coding::Av1},    {"vp09", Coding::Vp9},    {"mp4v", Coding::Mpeg4},
-        {"s263", Coding::H263},   {"jpeg", Coding::Jpeg},   {"mjpa", Coding::Jpeg},
-        {"apcn", Coding::ProRes}, {"apch", Coding::ProRes}, {"apcs", Coding::ProRes},
-        {"apco", Coding::ProRes}, {"ap4h", Coding::ProRes}, {"ap4x", Coding::ProRes},
-        {"samr", Coding::Amr},    {"sawb", Coding::Amr},    {"ac-3", Coding::Ac3},
-        {"ec-3", Coding::Ac3}};
+        {"avc1", Coding::Avc},      {"avc3", Coding::Avc},    {"hvc1", Coding::Hevc},
+        {"hev1", Coding::Hevc},     {"dvh1", Coding::Hevc},   {"dvhe", Coding::Hevc},
+        {"av01", Coding::Av1},      {"vp09", Coding::Vp9},    {"mp4v", Coding::Mpeg4},
+        {"s263", Coding::H263},     {"jpeg", Coding::Jpeg},   {"mjpa", Coding::Jpeg},
+        {"apcn", Coding::ProRes},   {"apch", Coding::ProRes}, {"apcs", Coding::ProRes},
+        {"apco", Coding::ProRes},   {"ap4h", Coding::ProRes}, {"ap4x", Coding::ProRes},
+        {"samr", Coding::Amr},      {"sawb", Coding::Amr},    {"ac-3", Coding::Ac3},
+        {"ec-3", Coding::Ac3},      {"alac", Coding::Alac},   {"fLaC", Coding::Flac},
+        {".mp3", Coding::MpegAudio}};
     for (const Named& each : kNames) {
         if (each.name == name)
             return each.coding;
@@ -123,6 +126,14 @@ std::optional<std::uint64_t> lookAtSample(ByteView& view, Coding coding, unsigne
             return begins(isRowOfAmr(view, at, bytes));
         case Coding::Ac3:
             return begins(view.be16(at) == 0x0B77);
+        case Coding::Aac:
+            return begins(isAacFrame(view, at, bytes));
+        case Coding::Alac:
+            return begins(isAlacFrame(view, at));
+        case Coding::Flac:
+            return begins((view.be16(at).value_or(0) & 0xFFFE) == 0xFFF8);
+        case Coding::MpegAudio:
+            return begins((view.be16(at).value_or(0) & 0xFFE6) > 0xFFE0);
         case Coding::Unknown:
             break;
     }

@@ -9,7 +9,8 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kMostEntries = 4096;  // a directory of cameras and scanners has some dozens
+constexpr std::uint64_t kTiffDirectoryMostEntries =
+    4096;  // a directory of cameras and scanners has some dozens
 constexpr std::uint16_t kTagDateTime = 306;
 constexpr std::uint16_t kTagDateTimeOriginal = 36867;
 constexpr std::uint16_t kTagDateTimeDigitized = 36868;
@@ -53,7 +54,7 @@ std::optional<TiffHeader> readTiffHeader(ByteView& view, std::uint64_t base) {
 std::optional<TiffDirectory> readTiffDirectory(ByteView& view, const TiffHeader& header, std::uint64_t at) {
     const std::uint64_t countBytes = header.big ? 8 : 2;
     const auto count = view.number(at, countBytes, header.endian);
-    if (!count || *count == 0 || *count > kMostEntries)
+    if (!count || *count == 0 || *count > kTiffDirectoryMostEntries)
         return std::nullopt;
     const std::uint64_t entryBytes = header.big ? 20 : 12;
     return TiffDirectory{at, *count, at + countBytes + *count * entryBytes + (header.big ? 8 : 4)};

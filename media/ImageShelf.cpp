@@ -1,12 +1,17 @@
 // Keeping images as media.
 #include "media/ImageShelf.h"
 
+#include <unistd.h>
+
+#include <QFile>
 #include <QFileInfo>
 #include <QObject>
+#include <cerrno>
 #include <utility>
 
 #include "media/ImageFile.h"
 #include "media/ImageParts.h"
+#include "media/OpenRefusal.h"
 #include "media/RawDevice.h"
 
 namespace vantor {
@@ -52,10 +57,13 @@ OpenedImage ImageShelf::addImage(const QString& path) {
     }
     QString why;
     const auto facts = probeMedium(first, &why);
-    if (!facts || !facts->isImage) {
-        return {{},
-                facts ? QObject::tr("“%1” is no image file.").arg(path)
-                      : QObject::tr("“%1” cannot be opened: %2.").arg(path, why)};
+    if (!facts) {
+        const QString refusal = QObject::tr("“%1” cannot be opened: %2.").arg(path, why);
+        const bool forbidden = ::eaccess(QFile::encodeName(first).constData(), R_OK) != 0 && errno == EACCES;
+        return {{}, forbidden ? refusal + u' ' + wordsForRefusal(OpenRefusal::MayNotReadImage) : refusal};
+    }
+    if (!facts->isImage) {
+        return {{}, QObject::tr("“%1” is no image file.").arg(path)};
     }
     if (facts->sectors == 0) {
         return {{}, QObject::tr("“%1” is empty. Please choose an image file of a storage medium.").arg(path)};

@@ -1,8 +1,10 @@
 // The seam between the scans and a medium: one 512-byte sector at a time, in stream order.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <memory>
 
 #include "media/SectorRecall.h"
@@ -38,6 +40,17 @@ class SectorReader {
         }
         ++m_position;
         return true;
+    }
+
+    // Does as many reads as the fetched sectors behind current() last for, and copies their bytes, at most
+    // `most` sectors; how many there were. The next read may then ask the medium.
+    std::uint64_t readFetched(std::uint8_t* into, std::uint64_t most) {
+        const std::uint64_t count = m_stride == kSectorBytes ? std::min(most, m_left) : 0;
+        std::memcpy(into, m_current + m_stride, count * kSectorBytes);
+        m_current += count * kSectorBytes;
+        m_left -= count;
+        m_position += count;
+        return count;
     }
 
     // Moves to a sector, counted from the beginning of the medium; false when the medium refuses, the

@@ -16,6 +16,10 @@ class SectorRecall {
     // The end of the row of quiet sectors that begins at the sector: they were read without failure, and
     // their bytes are not worth a look. The sector itself where it is not quiet.
     virtual std::uint64_t quietUntil(std::uint64_t sector) const = 0;
+
+    // The 512 bytes of a sector that is not quiet, where they were kept; null where the medium has to be
+    // asked.
+    virtual const std::uint8_t* bytesOf(std::uint64_t) const { return nullptr; }
 };
 
 }  // namespace vantor

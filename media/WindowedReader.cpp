@@ -37,7 +37,7 @@ bool WindowedReader::fetch() {
     if (m_gone) {
         return false;
     }
-    if (fetchQuiet()) {
+    if (fetchQuiet() || fetchKept()) {
         return true;
     }
     if (position() < m_singleUntil) {
@@ -60,6 +60,16 @@ bool WindowedReader::fetchQuiet() {
     m_quietBrought = false;
     m_quietEnd = end;
     handOverQuiet(m_quiet.data(), end - position());
+    return true;
+}
+
+bool WindowedReader::fetchKept() {
+    const std::uint8_t* const kept = m_recall && !m_bytesWanted ? m_recall->bytesOf(position()) : nullptr;
+    if (kept == nullptr) {
+        return false;
+    }
+    std::copy_n(kept, kSectorBytes, m_kept.begin());
+    handOver(m_kept.data(), 1, screened(m_kept.data(), 1));
     return true;
 }
 

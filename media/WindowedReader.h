@@ -60,6 +60,7 @@ class WindowedReader : public SectorReader {
 
   private:
     bool fetchQuiet();
+    bool fetchKept();
     std::size_t sectorsToFetch() const;
     bool fetchWindow(std::size_t wanted);
     bool fetchSingle();
@@ -87,8 +88,9 @@ class WindowedReader : public SectorReader {
     bool m_bytesWanted = false;
     std::array<std::uint8_t, kSectorBytes> m_quiet{};  // current() while that is a quiet sector
     bool m_quietBrought = false;
-    std::uint64_t m_quietEnd = 0;   // sector behind the last quiet one that was read
-    std::uint64_t m_windowEnd = 0;  // sector behind the last full window
+    std::array<std::uint8_t, kSectorBytes> m_kept{};  // current() while the recall gave its bytes
+    std::uint64_t m_quietEnd = 0;                     // sector behind the last quiet one that was read
+    std::uint64_t m_windowEnd = 0;                    // sector behind the last full window
     // Two windows: a fetch that fails must leave the bytes of the last good sector in place.
     std::unique_ptr<std::uint8_t[]> m_storage;
     std::uint8_t* m_front;

@@ -10,6 +10,7 @@ using Kind = ClusterKinds::Kind;
 
 Kind kindOfBytes(const std::vector<std::uint8_t>& bytes) {
     std::size_t stuffed = 0;
+    bool hasScans = false;
     // The last byte's follower lies in another cluster.
     for (std::size_t i = 0; i + 1 < bytes.size(); ++i) {
         if (bytes[i] != 0xFF) {
@@ -17,13 +18,18 @@ Kind kindOfBytes(const std::vector<std::uint8_t>& bytes) {
         }
         const std::uint8_t next = bytes[i + 1];
         if (next == 0xD9) {
-            return Kind::End;
+            return hasScans ? Kind::Scans : Kind::End;
         }
+        const bool isBetweenScans = next == 0xC4 || next == 0xDA || next == 0xDD;
         const bool isRestart = next >= 0xD0 && next <= 0xD7;
-        if (next != 0 && !isRestart) {
+        if (next != 0 && !isRestart && !isBetweenScans) {
             return Kind::Foreign;
         }
-        stuffed += isRestart ? 0 : 1;
+        hasScans = hasScans || isBetweenScans;
+        stuffed += next == 0 ? 1 : 0;
+    }
+    if (hasScans) {
+        return Kind::Scans;
     }
     if (stuffed != 0) {
         return Kind::Units;

@@ -15,6 +15,7 @@ class ClusterKinds {
     enum class Kind : std::uint8_t {
         NotLookedAt,
         Foreign,  // no coded units
+        Scans,    // units, and marks as they stand between the scans of a progressive picture
         Quiet,    // may be, but nothing speaks for it
         Units,
         End,  // units, and among them the mark that ends a picture
@@ -24,7 +25,8 @@ class ClusterKinds {
 
     // Looks at each cluster once.
     Kind kindOf(std::uint64_t cluster);
-    bool mayHoldUnits(std::uint64_t cluster) { return kindOf(cluster) > Kind::Foreign; }
+    bool mayHoldUnits(std::uint64_t cluster) { return kindOf(cluster) > Kind::Scans; }
+    bool mayHoldScans(std::uint64_t cluster) { return kindOf(cluster) > Kind::Foreign; }
 
   private:
     MediumBlocks& m_medium;

@@ -48,7 +48,10 @@ struct ItemMending::Kind {
 
 CompletionSum ItemMending::completeMovies(const std::vector<MendableItem>& items) {
     // Pictures in a movie look like files of their own, and behind lengths alone anything may stand.
-    return complete({isMovieOfBoxes, [](const MendableItem& item) { return isMovieOfBoxes(item.type); },
+    return complete({[](const QString& type) { return isMovieOfBoxes(type) || isMovieOfChunks(type); },
+                     [](const MendableItem& item) {
+                         return isMovieOfBoxes(item.type) || (isMovieOfChunks(item.type) && item.checked);
+                     },
                      [this](auto broken, auto whole, const AssemblyFound& tell) {
                          MovieCompletion(m_medium, m_stop, m_progress, m_helper).run(broken, whole, tell);
                      }},
@@ -98,6 +101,10 @@ bool isPictureWithSyntax(const QString& type) {
     static const Format* const jpeg = formatFor("JPG");
     static const Format* const png = formatFor("PNG");
     return isOfFormat(type, jpeg) || isOfFormat(type, png);
+}
+
+bool isMovieOfChunks(const QString& type) {
+    return type.compare(QLatin1String("AVI"), Qt::CaseInsensitive) == 0;
 }
 
 bool isMovieOfBoxes(const QString& type) {

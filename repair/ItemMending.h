@@ -104,6 +104,7 @@ class ItemMending {
 
 // Whether pieces of such a file can be put together, or a movie be repaired.
 bool isPictureWithSyntax(const QString& type);  // JPEG and PNG
+bool isMovieOfChunks(const QString& type);      // AVI
 bool isMovieOfBoxes(const QString& type);       // MP4, QuickTime and what is built like them
 
 }  // namespace vantor

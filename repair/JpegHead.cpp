@@ -9,46 +9,6 @@ namespace {
 constexpr std::uint64_t kMostFillBytes = 64;
 constexpr int kMostSegments = 1024;
 
-bool readCodes(ByteView& view, std::uint64_t at, std::uint64_t end, JpegHead& head) {
-    while (at + 17 <= end) {
-        const unsigned kind = view.u8(at).value_or(0xFF);
-        std::array<std::uint8_t, 16> counts{};
-        if (kind >> 4 > 1 || (kind & 15) >= JpegHead::kTables || !view.copy(at + 1, counts)) {
-            return false;
-        }
-        JpegCodes& codes = (kind >> 4 == 0 ? head.dc : head.ac)[kind & 3];
-        codes = {};
-        std::size_t total = 0;
-        for (const auto count : counts) {
-            total += count;
-        }
-        if (total > codes.values.size() || !view.copy(at + 17, std::span(codes.values).first(total))) {
-            return false;
-        }
-        std::uint32_t code = 0;
-        std::size_t first = 0;
-        for (unsigned length = 1; length <= 16; ++length) {
-            const unsigned count = counts[length - 1];
-            if (code + count > std::uint32_t{1} << length) {
-                return false;
-            }
-            codes.offset[length] = static_cast<std::int32_t>(first) - static_cast<std::int32_t>(code);
-            for (unsigned i = 0; i < count && length <= JpegCodes::kQuickBits; ++i) {
-                const unsigned open = JpegCodes::kQuickBits - length;
-                std::fill_n(codes.quick.begin() + ((code + i) << open), std::size_t{1} << open,
-                            static_cast<std::uint16_t>(length << 8 | codes.values[first + i]));
-            }
-            first += count;
-            code += count;
-            codes.limit[length] = code << (16 - length);
-            code <<= 1;
-        }
-        codes.known = true;
-        at += 17 + total;
-    }
-    return at == end;
-}
-
 bool readQuantisation(ByteView& view, std::uint64_t at, std::uint64_t end, JpegHead& head) {
     while (at < end) {
         const unsigned kind = view.u8(at++).value_or(0xFF);
@@ -119,6 +79,46 @@ bool readScan(ByteView& view, std::uint64_t at, JpegHead& head) {
 
 }  // namespace
 
+bool readJpegCodes(ByteView& view, std::uint64_t at, std::uint64_t end, JpegHead& head) {
+    while (at + 17 <= end) {
+        const unsigned kind = view.u8(at).value_or(0xFF);
+        std::array<std::uint8_t, 16> counts{};
+        if (kind >> 4 > 1 || (kind & 15) >= JpegHead::kTables || !view.copy(at + 1, counts)) {
+            return false;
+        }
+        JpegCodes& codes = (kind >> 4 == 0 ? head.dc : head.ac)[kind & 3];
+        codes = {};
+        std::size_t total = 0;
+        for (const auto count : counts) {
+            total += count;
+        }
+        if (total > codes.values.size() || !view.copy(at + 17, std::span(codes.values).first(total))) {
+            return false;
+        }
+        std::uint32_t code = 0;
+        std::size_t first = 0;
+        for (unsigned length = 1; length <= 16; ++length) {
+            const unsigned count = counts[length - 1];
+            if (code + count > std::uint32_t{1} << length) {
+                return false;
+            }
+            codes.offset[length] = static_cast<std::int32_t>(first) - static_cast<std::int32_t>(code);
+            for (unsigned i = 0; i < count && length <= JpegCodes::kQuickBits; ++i) {
+                const unsigned open = JpegCodes::kQuickBits - length;
+                std::fill_n(codes.quick.begin() + ((code + i) << open), std::size_t{1} << open,
+                            static_cast<std::uint16_t>(length << 8 | codes.values[first + i]));
+            }
+            first += count;
+            code += count;
+            codes.limit[length] = code << (16 - length);
+            code <<= 1;
+        }
+        codes.known = true;
+        at += 17 + total;
+    }
+    return at == end;
+}
+
 std::optional<JpegHead> readJpegHead(ByteView& view) {
     JpegHead head;
     if (!view.matches(0, "\xFF\xD8")) {
@@ -146,7 +146,7 @@ std::optional<JpegHead> readJpegHead(ByteView& view) {
                 }
                 break;
             case 0xC4:
-                if (!readCodes(view, body, at, head)) {
+                if (!readJpegCodes(view, body, at, head)) {
                     return std::nullopt;
                 }
                 break;

@@ -46,6 +46,10 @@ struct JpegHead {
     std::uint64_t units() const { return std::uint64_t{unitsAcross} * unitsDown; }
 };
 
+// Adds the code tables that a segment's body in [at, end) holds to those of the head; false where it is
+// broken.
+bool readJpegCodes(ByteView& view, std::uint64_t at, std::uint64_t end, JpegHead& head);
+
 // The head of the picture that begins with the view's first byte; nothing where it is broken, or the picture
 // is not coded block by block in a single scan of eight bits a sample. Source: ITU-T T.81, annex B.
 std::optional<JpegHead> readJpegHead(ByteView& view);

@@ -66,7 +66,7 @@ std::int16_t sample(float value) {
 }  // namespace
 
 JpegUnits::JpegUnits(const JpegHead& head, std::uint64_t clusterBytes, ClusterSupply& supply)
-    : m_head(head), m_clusterBytes(clusterBytes), m_supply(supply) {
+    : m_head(head), m_in(clusterBytes, supply) {
     for (unsigned i = 0; i < head.components.size(); ++i) {
         const JpegComponent& component = head.components[i];
         Part part;
@@ -91,8 +91,7 @@ void JpegUnits::begin() {
     m_above.clear();
     m_current.assign(m_edgeCount, 0);
     m_pending = false;
-    m_outOfData = false;
-    m_bytes = {};
+    m_in.reset();
 }
 
 void JpegUnits::resume(const Snapshot& snapshot) {
@@ -100,8 +99,7 @@ void JpegUnits::resume(const Snapshot& snapshot) {
     m_above = snapshot.above;
     m_current = snapshot.current;
     m_pending = false;
-    m_outOfData = false;
-    m_bytes = {};
+    m_in.reset();
 }
 
 void JpegUnits::snapshotBefore(Snapshot& into) const {
@@ -110,97 +108,15 @@ void JpegUnits::snapshotBefore(Snapshot& into) const {
     into.current = m_current;
 }
 
-// Negative where there is none.
-int JpegUnits::byteAt(std::uint64_t at) {
-    m_place.seen = std::max(m_place.seen, at + 1);
-    if (at < m_bytesFrom || at - m_bytesFrom >= m_bytes.size()) {
-        m_bytesFrom = at / m_clusterBytes * m_clusterBytes;
-        m_bytes = m_supply.cluster(at / m_clusterBytes);
-        if (at - m_bytesFrom >= m_bytes.size()) {
-            m_bytes = {};
-            m_outOfData = true;
-            return -1;
-        }
-    }
-    return m_bytes[static_cast<std::size_t>(at - m_bytesFrom)];
-}
-
-// As few bytes as needed: what was looked at belongs to the place.
-void JpegUnits::fill() {
-    while (m_place.count < 16) {
-        int byte = m_place.atMarker ? -1 : byteAt(m_place.at);
-        if (byte == 0xFF) {
-            const int next = byteAt(m_place.at + 1);
-            if (next == 0) {
-                ++m_place.at;
-            } else {
-                byte = -1;
-            }
-        }
-        if (byte < 0) {
-            m_place.atMarker = true;
-            m_place.padding += 8;
-            byte = 0xFF;
-        } else {
-            ++m_place.at;
-        }
-        m_place.bits = m_place.bits << 8 | static_cast<std::uint64_t>(byte);
-        m_place.count += 8;
-    }
-}
-
-std::uint32_t JpegUnits::peek() {
-    if (m_place.count < 16) {
-        fill();
-    }
-    return static_cast<std::uint32_t>(m_place.bits >> (m_place.count - 16)) & 0xFFFF;
-}
-
-void JpegUnits::skip(unsigned bits) {
-    if (m_place.count < bits) {
-        fill();
-    }
-    m_place.count -= bits;
-}
-
-int JpegUnits::value(const JpegCodes& codes) {
-    const std::uint32_t next = peek();
-    if (const unsigned entry = codes.quick[next >> (16 - JpegCodes::kQuickBits)]; entry != 0) {
-        skip(entry >> 8);
-        return static_cast<int>(entry & 0xFF);
-    }
-    for (unsigned length = JpegCodes::kQuickBits + 1; length <= 16; ++length) {
-        if (next < codes.limit[length]) {
-            const auto index = static_cast<std::int32_t>(next >> (16 - length)) + codes.offset[length];
-            if (index < 0 || index > 255) {
-                return -1;
-            }
-            skip(length);
-            return codes.values[static_cast<std::size_t>(index)];
-        }
-    }
-    return -1;
-}
-
-// A number of so many bits, at most 15.
-int JpegUnits::extended(unsigned bits) {
-    if (bits == 0) {
-        return 0;
-    }
-    const int number = static_cast<int>(peek() >> (16 - bits));
-    skip(bits);
-    return number < 1 << (bits - 1) ? number - (1 << bits) + 1 : number;
-}
-
 bool JpegUnits::block(const Part& part, EdgePair& edges) {
     const JpegComponent& component = m_head.components[part.component];
     std::array<float, 5> sums{};
-    const int dcBits = value(m_head.dc[component.dc]);
+    const int dcBits = m_in.value(m_place, m_head.dc[component.dc]);
     if (dcBits < 0 || dcBits > 11) {
         return false;
     }
     int& dc = m_place.dc[part.component];
-    dc += extended(static_cast<unsigned>(dcBits));
+    dc += m_in.extended(m_place, static_cast<unsigned>(dcBits));
     const int step = m_head.quantisation[component.quantisation][0];
     if (std::abs(dc) > kMostCoefficient || std::abs(dc) * std::int64_t{step} > kMostMean + step) {
         return false;
@@ -208,7 +124,7 @@ bool JpegUnits::block(const Part& part, EdgePair& edges) {
     sums[kEdgeShares[0].sum] = static_cast<float>(dc) * part.weights[0];
     const JpegCodes& codes = m_head.ac[component.ac];
     for (std::size_t k = 1; k < 64; ++k) {
-        const int code = value(codes);
+        const int code = m_in.value(m_place, codes);
         if (code < 0) {
             return false;
         }
@@ -227,7 +143,7 @@ bool JpegUnits::block(const Part& part, EdgePair& edges) {
         if (k > 63 || bits > 10) {
             return false;
         }
-        sums[kEdgeShares[k].sum] += static_cast<float>(extended(bits)) * part.weights[k];
+        sums[kEdgeShares[k].sum] += static_cast<float>(m_in.extended(m_place, bits)) * part.weights[k];
     }
     const float upper = sums[0] + sums[1];
     const float upperHalf = sums[2] + sums[3];
@@ -240,15 +156,12 @@ bool JpegUnits::block(const Part& part, EdgePair& edges) {
 // Goes behind the restart mark that has to stand here.
 bool JpegUnits::restart() {
     const std::uint64_t number = m_place.unit / m_head.restartInterval - 1;
-    fill();
-    if (m_place.count - std::min(m_place.padding, m_place.count) >= 8 || !m_place.atMarker ||
-        byteAt(m_place.at) != 0xFF || byteAt(m_place.at + 1) != static_cast<int>(0xD0 + number % 8)) {
+    m_in.fill(m_place);
+    if (m_place.hasMore() || !m_place.atMarker || m_in.byteAt(m_place, m_place.at) != 0xFF ||
+        m_in.byteAt(m_place, m_place.at + 1) != static_cast<int>(0xD0 + number % 8)) {
         return false;
     }
-    m_place.at += 2;
-    m_place.bits = 0;
-    m_place.count = m_place.padding = 0;
-    m_place.atMarker = false;
+    m_place.goBehind(2);
     m_place.dc = {};
     return true;
 }
@@ -257,7 +170,7 @@ bool JpegUnits::unit() {
     m_unitEdges.clear();
     for (const Part& part : m_parts) {
         for (unsigned i = 0; i < part.across * part.down; ++i) {
-            if (!block(part, m_unitEdges.emplace_back()) || m_place.padding > m_place.count) {
+            if (!block(part, m_unitEdges.emplace_back()) || m_place.overrun()) {
                 return false;
             }
         }
@@ -321,7 +234,7 @@ JpegUnits::Outcome JpegUnits::next() {
     const bool restarts =
         m_head.restartInterval != 0 && m_place.unit != 0 && m_place.unit % m_head.restartInterval == 0;
     if ((restarts && !restart()) || !unit()) {
-        return m_outOfData ? Outcome::OutOfData : Outcome::Broken;
+        return m_in.isOutOfData() ? Outcome::OutOfData : Outcome::Broken;
     }
     ++m_place.unit;
     judge();
@@ -330,17 +243,17 @@ JpegUnits::Outcome JpegUnits::next() {
 }
 
 std::uint64_t JpegUnits::end() {
-    fill();
-    if (m_place.count - std::min(m_place.padding, m_place.count) >= 8) {
+    m_in.fill(m_place);
+    if (m_place.hasMore()) {
         return 0;
     }
     std::uint64_t at = m_place.at;
     constexpr std::uint64_t kMostFill = 64;
     for (std::uint64_t fill = 0; fill < kMostFill; ++fill, ++at) {
-        if (byteAt(at) != 0xFF) {
+        if (m_in.byteAt(m_place, at) != 0xFF) {
             return 0;
         }
-        if (byteAt(at + 1) == 0xD9) {
+        if (m_in.byteAt(m_place, at + 1) == 0xD9) {
             return at + 2;
         }
     }

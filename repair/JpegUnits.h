@@ -3,20 +3,12 @@
 
 #include <array>
 #include <cstdint>
-#include <span>
 #include <vector>
 
+#include "repair/CodedBits.h"
 #include "repair/JpegHead.h"
 
 namespace vantor {
-
-// The clusters of a file as a reader comes to them.
-class ClusterSupply {
-  public:
-    virtual ~ClusterSupply() = default;
-    // Valid until the next call; nothing behind the last one.
-    virtual std::span<const std::uint8_t> cluster(std::uint64_t number) = 0;
-};
 
 // How far apart the samples on both sides of a seam are, in doublings, and how far they would be if the row
 // lay elsewhere; of a picture's own rows the first is far less.
@@ -41,14 +33,7 @@ class JpegUnits {
         Broken,     // no unit can be written so
         OutOfData,  // the supply has no further cluster
     };
-    // Where reading can go on. The bytes before `seen` were looked at.
-    struct Place {
-        std::uint64_t at = 0;  // next byte
-        std::uint64_t seen = 0;
-        std::uint64_t bits = 0;
-        unsigned count = 0;
-        unsigned padding = 0;  // of the bits, behind a marker
-        bool atMarker = false;
+    struct Place : BitPlace {
         std::uint64_t unit = 0;
         std::array<int, 4> dc{};
     };
@@ -90,12 +75,6 @@ class JpegUnits {
         float bottom[2];
     };
 
-    int byteAt(std::uint64_t at);
-    void fill();
-    std::uint32_t peek();
-    void skip(unsigned bits);
-    int value(const JpegCodes& codes);
-    int extended(unsigned bits);
     bool block(const Part& part, EdgePair& edges);
     bool unit();
     bool restart();
@@ -103,8 +82,7 @@ class JpegUnits {
     void keepEdges();
 
     const JpegHead& m_head;
-    const std::uint64_t m_clusterBytes;
-    ClusterSupply& m_supply;
+    CodedBits m_in;
     std::vector<Part> m_parts;
     std::size_t m_edgeCount = 0;
 
@@ -115,9 +93,6 @@ class JpegUnits {
     std::vector<EdgePair> m_unitEdges;  // of the unit read last
     bool m_pending = false;             // they are not among m_current yet
     SeamCost m_cost;
-    std::span<const std::uint8_t> m_bytes;  // of the cluster
-    std::uint64_t m_bytesFrom = 0;
-    bool m_outOfData = false;
 };
 
 }  // namespace vantor

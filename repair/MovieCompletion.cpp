@@ -1,4 +1,5 @@
-// Whole movies first; what they leave free is where the others are looked for.
+// Whole movies first, and before all those that left no choice; what they leave free is where the others are
+// looked for.
 #include "repair/MovieCompletion.h"
 
 #include <algorithm>
@@ -25,7 +26,12 @@ struct FoundMovie {
     PiecedMovie movie;
     std::size_t grid = 0;
     bool settled = false;
+    std::optional<bool> decodes;  // once that was tried
 };
+
+bool leftNoChoice(const FoundMovie& found) {
+    return isWhole(found.movie) && found.movie.guessed == 0;
+}
 
 }  // namespace
 
@@ -52,7 +58,18 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
         }
     }
     std::vector<std::optional<FoundMovie>> found(broken.size());
-    const auto settle = [&](std::size_t i, FoundMovie& movie) {
+    const auto isProved = [&](FoundMovie& movie) {
+        if (!isWhole(movie.movie) || !movie.movie.telling) {
+            return false;
+        }
+        if (movie.movie.guessed != 0 && !movie.decodes) {
+            ClusterFile file(blocks, grids[movie.grid], movie.movie.clusters, movie.movie.bytes);
+            movie.decodes = movie.movie.decodable && decodesWholly(file, movie.movie.samples, m_options);
+        }
+        return movie.movie.guessed == 0 || *movie.decodes;
+    };
+    const auto settle = [&](std::size_t i) {
+        FoundMovie& movie = *found[i];
         movie.settled = true;
         const std::vector<SectorRun> runs =
             runsOfClusters(movie.movie.clusters, movie.movie.bytes, grids[movie.grid]);
@@ -61,40 +78,62 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
                 grid.take(run);
             }
         }
-        ClusterFile file(blocks, grids[movie.grid], movie.movie.clusters, movie.movie.bytes);
-        const bool proved = isWhole(movie.movie) && movie.movie.telling &&
-                            (movie.movie.guessed == 0 ||
-                             (movie.movie.decodable && decodesWholly(file, movie.movie.samples, m_options)));
-        assemblies[i] =
-            Assembly{runs, movie.movie.bytes, proved ? AssemblyProof::Proved : AssemblyProof::Likely, false};
+        const AssemblyProof proof = isProved(movie) ? AssemblyProof::Proved : AssemblyProof::Likely;
+        assemblies[i] = Assembly{runs, movie.movie.bytes, proof, false};
         if (tell) {
             tell(i, *assemblies[i]);
         }
     };
-    // Whole ones first; then what is left is looked for in what they leave, until nothing changes.
-    for (bool again = true; again && m_stop == 0;) {
-        again = false;
-        for (std::size_t i = 0; i < broken.size() && m_stop == 0; ++i) {
-            m_progress.looked = std::max<std::size_t>(m_progress.looked, i + 1);
-            for (std::size_t g = 0; g < grids.size() && !(found[i] && found[i]->settled) && m_stop == 0;
-                 ++g) {
-                const auto first = grids[g].beginningAt(broken[i]);
-                MoviePieces pieces(blocks, grids[g], indexes, m_stop);
-                auto movie = first && grids[g].isFree(*first) ? pieces.assemble(*first) : std::nullopt;
-                if (!movie || (found[i] && movie->wholeSamples <= found[i]->movie.wholeSamples)) {
-                    continue;
-                }
-                found[i] = FoundMovie{std::move(*movie), g, false};
-                if (isWhole(found[i]->movie)) {
-                    settle(i, *found[i]);
-                    again = true;
-                }
+    const auto lookFor = [&](std::size_t i) {
+        if (found[i] && found[i]->settled) {
+            return;
+        }
+        const auto isFree = [&](const FoundMovie& movie) {
+            return std::all_of(movie.movie.clusters.begin(), movie.movie.clusters.end(),
+                               [&](std::uint64_t cluster) { return grids[movie.grid].isFree(cluster); });
+        };
+        if (found[i] && !isFree(*found[i])) {
+            found[i].reset();
+        }
+        for (std::size_t g = 0; g < grids.size() && !(found[i] && leftNoChoice(*found[i])) && m_stop == 0;
+             ++g) {
+            const auto first = grids[g].beginningAt(broken[i]);
+            MoviePieces pieces(blocks, grids[g], indexes, m_stop);
+            auto movie = first && grids[g].isFree(*first) ? pieces.assemble(*first) : std::nullopt;
+            const auto worth = [](const PiecedMovie& each) {
+                return std::pair(each.wholeSamples, ~each.guessed);
+            };
+            if (movie && (!found[i] || worth(*movie) > worth(found[i]->movie))) {
+                found[i] = FoundMovie{std::move(*movie), g, false, {}};
             }
         }
+    };
+    const auto settleAll = [&](auto&& isSure, bool lookAgain) {
+        bool any = false;
+        for (std::size_t i = 0; i < broken.size() && m_stop == 0; ++i) {
+            if (lookAgain) {
+                lookFor(i);
+                m_progress.looked = std::max<std::size_t>(m_progress.looked, i + 1);
+            }
+            if (found[i] && !found[i]->settled && m_stop == 0 && isSure(*found[i])) {
+                settle(i);
+                any = true;
+            }
+        }
+        return any;
+    };
+    // What leaves no choice; then, of those that do, what a decoder finds whole, one at a time, since it may
+    // leave the others no choice either; and what is whole at least by its syntax, likewise.
+    const auto settleOne = [&](auto&& isSure) {
+        bool done = false;
+        return settleAll([&](FoundMovie& each) { return !done && (done = isSure(each)); }, false);
+    };
+    while (m_stop == 0 && (settleAll(leftNoChoice, true) || settleOne(isProved) ||
+                           settleOne([](const FoundMovie& each) { return isWhole(each.movie); }))) {
     }
     for (std::size_t i = 0; i < broken.size() && m_stop == 0; ++i) {
         if (found[i] && !found[i]->settled && isWorthShowing(found[i]->movie)) {
-            settle(i, *found[i]);
+            settle(i);
         }
     }
     return assemblies;

@@ -34,7 +34,7 @@ std::optional<PiecedMovie> MoviePieces::assemble(std::uint64_t firstCluster) {
     ByteView view(file);
     movie.decodable = true;
     for (const PromisedSample& sample : m_samples) {
-        if (sample.coding != Coding::Unknown) {
+        if (sample.tells()) {
             movie.decodable =
                 movie.decodable && (sample.coding == Coding::Avc || sample.coding == Coding::Hevc);
             ++movie.samples;
@@ -52,7 +52,7 @@ bool MoviePieces::isTelling() const {
     std::uint64_t sum = 0;
     for (const PromisedSample& sample : m_samples) {
         sum += sample.bytes;
-        if (sample.coding != Coding::Unknown) {
+        if (sample.tells()) {
             ++looked;
             sizes.insert(sample.bytes);
         }
@@ -70,7 +70,7 @@ Likeness MoviePieces::likeness(std::uint64_t number, std::uint64_t cluster) {
     Likeness all = Likeness::Possible;
     std::vector<std::uint8_t> content;
     for (; sample != m_samples.end() && sample->at < from + bytes; ++sample) {
-        if (sample->coding == Coding::Unknown) {
+        if (!sample->tells()) {
             continue;
         }
         if (content.empty()) {

@@ -43,10 +43,15 @@ class MoviePieces {
         DataPlace data;
         IsoBox index;
         std::uint64_t bytes = 0;
+        bool chunks = false;     // an AVI movie; else one of boxes
+        std::uint64_t told = 0;  // bytes of an AVI movie by its own account
     };
 
     bool readHead(std::uint64_t firstCluster);
+    bool readChunkHead(std::uint64_t firstCluster, ByteView& view);
     bool findIndexBehind();
+    std::uint64_t indexBytes(ByteView& view, std::uint64_t at) const;
+    bool takeChunkIndex(ByteSource& file);
     bool placeIndex(std::uint64_t firstOfIndex, std::uint64_t number);
     bool continueIndex(std::vector<std::uint64_t>& clusters, std::size_t wanted, unsigned& tries);
     bool takeIndex(const std::vector<std::uint64_t>& clusters);
@@ -61,7 +66,11 @@ class MoviePieces {
     void fillRow(std::uint64_t before, std::uint64_t end);
     bool lay(std::uint64_t before, std::uint64_t end, std::uint64_t ahead, std::uint64_t step);
     void lift(std::uint64_t before, std::uint64_t end);
-    std::size_t brokenSamplesIn(std::uint64_t before, std::uint64_t end);
+    struct RowLook {
+        std::size_t broken = 0;  // samples
+        bool proved = true;      // a foreign cluster would have shown
+    };
+    RowLook lookAtRow(std::uint64_t before, std::uint64_t end);
 
     MediumBlocks& m_medium;
     const FreeClusters& m_free;

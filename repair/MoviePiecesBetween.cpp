@@ -47,7 +47,7 @@ void MoviePieces::lift(std::uint64_t before, std::uint64_t end) {
 }
 
 // Of the samples that reach into the clusters of the file in (before, end).
-std::size_t MoviePieces::brokenSamplesIn(std::uint64_t before, std::uint64_t end) {
+MoviePieces::RowLook MoviePieces::lookAtRow(std::uint64_t before, std::uint64_t end) {
     const std::uint64_t from = (before + 1) * m_free.clusterBytes();
     const std::uint64_t to = end * m_free.clusterBytes();
     ClusterFile file(m_medium, m_free, m_places, m_layout.bytes);
@@ -55,11 +55,14 @@ std::size_t MoviePieces::brokenSamplesIn(std::uint64_t before, std::uint64_t end
     auto sample = std::lower_bound(
         m_samples.begin(), m_samples.end(), from,
         [](const PromisedSample& each, std::uint64_t at) { return each.at + each.bytes <= at; });
-    std::size_t broken = 0;
+    RowLook look;
     for (; sample != m_samples.end() && sample->at < to; ++sample) {
-        broken += sample->coding != Coding::Unknown && !isWholeSample(view, *sample) ? 1 : 0;
+        const auto even = isEvenPicture(view, *sample);
+        const bool broken = even ? !*even : sample->tells() && !isWholeSample(view, *sample);
+        look.broken += broken ? 1 : 0;
+        look.proved = look.proved && even.value_or(false);
     }
-    return broken;
+    return look;
 }
 
 // The ways in which clusters are given out, the likeliest first: evenly, as while movies are written in turn;
@@ -93,14 +96,14 @@ void MoviePieces::fillRow(std::uint64_t before, std::uint64_t end) {
         if (m_stop != 0 || !lay(before, end, way.ahead, way.step)) {
             continue;
         }
-        const std::size_t broken = onlyWay ? 0 : brokenSamplesIn(before, end);
-        if (broken == 0) {
-            m_guessed += onlyWay ? 0 : static_cast<std::size_t>(missing);
+        const RowLook look = onlyWay ? RowLook() : lookAtRow(before, end);
+        if (look.broken == 0) {
+            m_guessed += look.proved ? 0 : static_cast<std::size_t>(missing);
             return;
         }
-        if (!best || broken < fewest) {
+        if (!best || look.broken < fewest) {
             best = way;
-            fewest = broken;
+            fewest = look.broken;
         }
         lift(before, end);
     }

@@ -25,14 +25,12 @@ std::vector<std::uint64_t> indexPlaces(MediumBlocks& medium, const std::atomic<i
     std::vector<std::uint64_t> places;
     const auto look = [&](std::span<const std::uint8_t> bytes, std::uint64_t at) {
         for (std::size_t i = 4; i + 12 <= bytes.size() && places.size() < kMostPlaces; ++i) {
-            const void* const m = std::memchr(bytes.data() + i, 'm', bytes.size() - 11 - i);
-            if (m == nullptr) {
-                break;
-            }
-            i = static_cast<std::size_t>(static_cast<const std::uint8_t*>(m) - bytes.data());
-            if (std::memcmp(bytes.data() + i, "moov", 4) == 0 &&
-                std::memcmp(bytes.data() + i + 8, "mvhd", 4) == 0) {
+            const std::uint8_t* const here = bytes.data() + i;
+            if (here[0] == 'm' && std::memcmp(here, "moov", 4) == 0 &&
+                std::memcmp(here + 8, "mvhd", 4) == 0) {
                 places.push_back(at + i - 4);
+            } else if (here[0] == 'i' && std::memcmp(here, "idx1", 4) == 0 && here[7] == 0) {
+                places.push_back(at + i);
             }
         }
     };
@@ -66,6 +64,9 @@ bool MoviePieces::readHead(std::uint64_t firstCluster) {
     }
     ClusterFile file(m_medium, m_free, row, ~std::uint64_t{0});
     ByteView view(file);
+    if (view.matches(0, "RIFF") && view.matches(8, "AVI ")) {
+        return readChunkHead(firstCluster, view);
+    }
     std::uint64_t at = 0;
     std::optional<IsoBox> index;
     std::optional<IsoBox> data;
@@ -132,8 +133,8 @@ bool MoviePieces::placeIndex(std::uint64_t firstOfIndex, std::uint64_t number) {
     std::vector<std::uint64_t> clusters{firstOfIndex};
     ClusterFile head(m_medium, m_free, clusters, cluster);
     ByteView view(head);
-    const std::uint64_t bytes = view.be32(within).value_or(0);
-    if (bytes < 16 || bytes > kMostIndexBytes || !view.matches(within + 4, "moov")) {
+    const std::uint64_t bytes = indexBytes(view, within);
+    if (bytes < 16 || bytes > kMostIndexBytes) {
         return false;
     }
     m_layout.index = {
@@ -149,6 +150,14 @@ bool MoviePieces::placeIndex(std::uint64_t firstOfIndex, std::uint64_t number) {
         place(number + i, clusters[i]);
     }
     return true;
+}
+
+// Of the index whose first byte stands there; 0 where none does.
+std::uint64_t MoviePieces::indexBytes(ByteView& view, std::uint64_t at) const {
+    if (m_layout.chunks) {
+        return view.matches(at, "idx1") ? 8 + std::uint64_t{view.le32(at + 4).value_or(0)} : 0;
+    }
+    return view.matches(at + 4, "moov") ? view.be32(at).value_or(0) : 0;
 }
 
 // Tries the next piece at growing distances; the distance used last comes first.
@@ -183,6 +192,9 @@ bool MoviePieces::takeIndex(const std::vector<std::uint64_t>& clusters) {
     std::vector<std::uint64_t> all(static_cast<std::size_t>(number), m_places.front());
     all.insert(all.end(), clusters.begin(), clusters.end());
     ClusterFile file(m_medium, m_free, all, m_layout.bytes);
+    if (m_layout.chunks) {
+        return takeChunkIndex(file);
+    }
     auto samples = promisedSamples(file, m_layout.index, m_layout.data);
     if (!samples || samples->empty()) {
         return false;

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "formats/Registry.h"
 #include "repair/CodedPicture.h"
 
 namespace vantor {
@@ -10,6 +11,8 @@ namespace vantor {
 namespace {
 
 constexpr std::size_t kMostSamples = 4'000'000;
+
+constexpr std::uint64_t kBoxHead = 8;  // name and length
 
 std::uint64_t numberAt(std::span<const std::uint8_t> bytes, std::size_t at, unsigned count) {
     std::uint64_t value = 0;
@@ -39,6 +42,61 @@ Likeness unitsBeginAs(const PromisedSample& sample, std::span<const std::uint8_t
     return at == sample.bytes ? Likeness::Certain : Likeness::Possible;
 }
 
+// The bytes of a view in [from, to) as a file of their own.
+class PartOfView final : public ByteSource {
+  public:
+    PartOfView(ByteView& view, std::uint64_t from, std::uint64_t to)
+        : m_view(view), m_from(from), m_to(std::max(from, std::min(to, view.size()))) {}
+    std::uint64_t size() const override { return m_to - m_from; }
+    std::size_t read(std::uint64_t offset, std::span<std::uint8_t> into) override {
+        const std::uint64_t left = size() - std::min(offset, size());
+        const auto count = static_cast<std::size_t>(std::min<std::uint64_t>(into.size(), left));
+        return m_view.copy(m_from + offset, into.first(count)) ? count : 0;
+    }
+
+  private:
+    ByteView& m_view;
+    const std::uint64_t m_from;
+    const std::uint64_t m_to;
+};
+
+// Nothing where they overlap, or are less than half of the data.
+std::optional<std::vector<PromisedSample>> inOrder(std::vector<PromisedSample> samples, std::uint64_t sum,
+                                                   const DataPlace& data) {
+    std::sort(samples.begin(), samples.end(), [](const auto& a, const auto& b) { return a.at < b.at; });
+    const auto overlap = [](const PromisedSample& a, const PromisedSample& b) {
+        return a.at + a.bytes > b.at;
+    };
+    if (sum > data.to - data.from || sum < (data.to - data.from) / 2 ||
+        std::adjacent_find(samples.begin(), samples.end(), overlap) != samples.end()) {
+        return std::nullopt;
+    }
+    return samples;
+}
+
+bool isHeadOf(const PromisedSample& sample, std::span<const std::uint8_t> bytes) {
+    std::uint64_t length = 0;
+    for (std::size_t i = kBoxHead; i-- > 4;) {
+        length = length << 8 | bytes[i];
+    }
+    return std::equal(sample.chunk.begin(), sample.chunk.end(), bytes.begin()) &&
+           length == sample.bytes - kBoxHead;
+}
+
+// A chunk of a JPEG picture ends with it, apart from what it is filled up with.
+bool isWholeChunk(ByteView& view, const PromisedSample& sample) {
+    std::array<std::uint8_t, kBoxHead> head{};
+    if (!view.copy(sample.at, head) || !isHeadOf(sample, head)) {
+        return false;
+    }
+    if (!view.matches(sample.at + kBoxHead, "\xFF\xD8\xFF")) {
+        return true;
+    }
+    PictureSyntax syntax;
+    syntax.coding = Coding::Jpeg;
+    return pictureAt(view, syntax, sample.at + kBoxHead, sample.at + sample.bytes).has_value();
+}
+
 }  // namespace
 
 std::optional<std::vector<PromisedSample>> promisedSamples(ByteSource& file, const IsoBox& index,
@@ -62,17 +120,46 @@ std::optional<std::vector<PromisedSample>> promisedSamples(ByteSource& file, con
             sum = addClamped(sum, sample.bytes);
         }
     });
-    if (!inside || last != index.end || sum > data.to - data.from || sum < (data.to - data.from) / 2) {
+    if (!inside || last != index.end) {
         return std::nullopt;
     }
-    std::sort(samples.begin(), samples.end(), [](const auto& a, const auto& b) { return a.at < b.at; });
-    const auto overlap = [](const PromisedSample& a, const PromisedSample& b) {
-        return a.at + a.bytes > b.at;
-    };
-    if (std::adjacent_find(samples.begin(), samples.end(), overlap) != samples.end()) {
-        return std::nullopt;
+    return inOrder(std::move(samples), sum, data);
+}
+
+std::optional<std::vector<PromisedSample>> promisedChunks(ByteSource& file, const DataPlace& index,
+                                                          const DataPlace& data) {
+    constexpr std::uint64_t kEntryBytes = 16;
+    constexpr std::uint64_t kNameBytes = 4;
+    ByteView view(file);
+    std::vector<PromisedSample> samples;
+    std::uint64_t sum = 0;
+    const std::uint64_t count = (index.to - index.from) / kEntryBytes;
+    // Places are counted from the list's name, or from the file's first byte.
+    const bool absolute = view.le32(index.from + 8).value_or(0) >= data.from;
+    const std::uint64_t base = absolute ? 0 : data.from - kNameBytes;
+    for (std::uint64_t i = 0; i < count && i < kMostSamples; ++i) {
+        Cursor in(view, index.from + i * kEntryBytes, Endian::Little);
+        PromisedSample sample;
+        for (char& letter : sample.chunk) {
+            letter = static_cast<char>(in.u8());
+        }
+        in.u32();
+        sample.at = base + in.u32();
+        sample.bytes = kBoxHead + in.u32();
+        if (!in.ok() || sample.at < data.from || sample.at > data.to || sample.bytes > data.to - sample.at) {
+            return std::nullopt;
+        }
+        if (std::string_view(sample.chunk.data(), kNameBytes) == "rec ") {
+            continue;  // a list of others
+        }
+        if (!std::all_of(sample.chunk.begin(), sample.chunk.end(),
+                         [](char c) { return c > ' ' && c <= '~'; })) {
+            return std::nullopt;
+        }
+        sum = addClamped(sum, sample.bytes + sample.bytes % 2);
+        samples.push_back(sample);
     }
-    return samples;
+    return inOrder(std::move(samples), std::min(sum, data.to - data.from), data);
 }
 
 Likeness beginsAs(const PromisedSample& sample, std::span<const std::uint8_t> bytes) {
@@ -80,6 +167,9 @@ Likeness beginsAs(const PromisedSample& sample, std::span<const std::uint8_t> by
     bytes = bytes.first(static_cast<std::size_t>(std::min<std::uint64_t>(bytes.size(), sample.bytes)));
     if (bytes.size() < kLeast) {
         return Likeness::Possible;
+    }
+    if (sample.isChunk()) {
+        return isHeadOf(sample, bytes) ? Likeness::Certain : Likeness::Contradicted;
     }
     const auto whether = [](bool begins) { return begins ? Likeness::Certain : Likeness::Contradicted; };
     switch (sample.coding) {
@@ -97,7 +187,22 @@ Likeness beginsAs(const PromisedSample& sample, std::span<const std::uint8_t> by
     }
 }
 
+std::optional<bool> isEvenPicture(ByteView& view, const PromisedSample& sample) {
+    static const Format* const jpeg = formatFor("JPG");
+    PartOfView picture(view, sample.at + (sample.isChunk() ? kBoxHead : 0), sample.at + sample.bytes);
+    ByteView own(picture);
+    if (!own.matches(0, "\xFF\xD8\xFF")) {
+        return std::nullopt;
+    }
+    const Extent extent = jpeg->walk(own);
+    const bool even = extent.verdict == Verdict::Complete;
+    return even && !extent.checked ? std::nullopt : std::optional(even);
+}
+
 bool isWholeSample(ByteView& view, const PromisedSample& sample) {
+    if (sample.isChunk()) {
+        return isWholeChunk(view, sample);
+    }
     if (sample.coding == Coding::Avc || sample.coding == Coding::Hevc) {
         return isWholeUnitChain(view, sample.coding, sample.lengthBytes, sample.at, sample.at + sample.bytes);
     }

@@ -1,6 +1,7 @@
 // The samples that a movie's index promises, and whether bytes keep the promise.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -15,12 +16,22 @@ struct PromisedSample {
     std::uint64_t bytes = 0;
     Coding coding = Coding::Unknown;
     unsigned lengthBytes = 4;
+    std::array<char, 4> chunk{};  // name of the chunk that it is, head and all; zeros where it is none
+
+    bool isChunk() const { return chunk[0] != 0; }
+    // Whether anything can be said of bytes that may be it.
+    bool tells() const { return coding != Coding::Unknown || isChunk(); }
 };
 
 // All samples of all tracks in the order of the file; nothing where the index is broken, points outside
 // `data` or tells of less than half of it.
 std::optional<std::vector<PromisedSample>> promisedSamples(ByteSource& file, const IsoBox& index,
                                                            const DataPlace& data);
+
+// All chunks that the index of an AVI movie lists; as above. `data` are the chunks, behind their list's name.
+// Source: Microsoft, AVI RIFF file reference.
+std::optional<std::vector<PromisedSample>> promisedChunks(ByteSource& file, const DataPlace& index,
+                                                          const DataPlace& data);
 
 enum class Likeness {
     Contradicted,  // not the sample
@@ -32,5 +43,9 @@ Likeness beginsAs(const PromisedSample& sample, std::span<const std::uint8_t> by
 
 // Whether the whole sample is there, as far as its syntax tells.
 bool isWholeSample(ByteView& view, const PromisedSample& sample);
+
+// Whether the codes of a picture come out even from its first to its last; nothing where they are not
+// followed. Of JPEG pictures.
+std::optional<bool> isEvenPicture(ByteView& view, const PromisedSample& sample);
 
 }  // namespace vantor

@@ -7,6 +7,7 @@
 #include "repair/ClusterFile.h"
 #include "repair/PhotoPieces.h"
 #include "repair/PngPieces.h"
+#include "repair/ProgressivePieces.h"
 #include "repair/RunsOfClusters.h"
 
 namespace vantor {
@@ -28,17 +29,6 @@ bool isWholeFile(MediumBlocks& medium, const FreeClusters& grid, const PiecedPho
     return extent.verdict == Verdict::Complete && extent.end == photo.bytes;
 }
 
-// Of a JPEG picture whose units are not read, the marks alone were looked at: another's may stand between.
-bool isExplained(MediumBlocks& medium, const FreeClusters& grid, std::uint64_t firstCluster) {
-    std::vector<std::uint64_t> clusters;
-    for (std::uint64_t i = 0; i * grid.clusterBytes() < JpegHead::kMostBytes; ++i) {
-        clusters.push_back(firstCluster + i);
-    }
-    ClusterFile file(medium, grid, clusters, JpegHead::kMostBytes);
-    ByteView view(file);
-    return !view.matches(0, "\xFF\xD8\xFF") || readJpegHead(view);
-}
-
 }  // namespace
 
 std::vector<std::optional<Assembly>> PhotoCompletion::run(std::span<const std::uint64_t> broken,
@@ -58,8 +48,7 @@ std::vector<std::optional<Assembly>> PhotoCompletion::run(std::span<const std::u
         FreeClusters& free = grids.emplace_back(grid, m_medium.mediumSectors());
         for (const SectorRun& run : whole) {
             // What begins within a cluster is no file but a part of one, such as a photo's thumbnail.
-            const auto first = free.beginningAt(run.first);
-            if (first && isExplained(blocks, free, *first)) {
+            if (free.beginningAt(run.first)) {
                 free.take(run);
             }
         }
@@ -82,6 +71,9 @@ std::vector<std::optional<Assembly>> PhotoCompletion::run(std::span<const std::u
                 if (auto photo = PhotoPieces(blocks, grid, kinds, m_stop).assemble(*first, unitsLeft[i])) {
                     const bool proved = photo->joinsShow && isWholeFile(blocks, grid, *photo);
                     found = FoundPhoto{std::move(photo->clusters), photo->bytes, proved};
+                } else if (auto scans = ProgressivePieces(blocks, grid, kinds, m_stop).assemble(*first)) {
+                    const bool proved = scans->joinsShow && isWholeFile(blocks, grid, *scans);
+                    found = FoundPhoto{std::move(scans->clusters), scans->bytes, proved};
                 } else if (auto png = PngPieces(blocks, grid, m_stop).assemble(*first)) {
                     found = FoundPhoto{std::move(png->clusters), png->bytes, true};
                 }

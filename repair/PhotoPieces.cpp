@@ -29,45 +29,9 @@ float misfitOf(const SeamCost& cost) {
 
 }  // namespace
 
-// Fixed clusters, and behind them one after the other as long as nothing speaks against it.
-class PhotoPieces::Supply final : public ClusterSupply {
-  public:
-    Supply(PhotoPieces& owner, std::vector<std::uint64_t> clusters)
-        : m_owner(owner),
-          m_clusters(std::move(clusters)),
-          m_bytes(static_cast<std::size_t>(owner.m_free.clusterBytes())) {}
-
-    std::span<const std::uint8_t> cluster(std::uint64_t number) override {
-        while (number >= m_clusters.size()) {
-            const auto next = m_owner.after(m_clusters);
-            if (!next) {
-                return {};
-            }
-            m_clusters.push_back(*next);
-        }
-        const std::uint64_t cluster = m_clusters[static_cast<std::size_t>(number)];
-        m_owner.m_medium.read(m_owner.m_free.firstSectorOf(cluster) * kSectorBytes, m_bytes);
-        return m_bytes;
-    }
-
-    const std::vector<std::uint64_t>& clusters() const { return m_clusters; }
-    // The clusters before `number`, and this one in its place.
-    void restart(std::size_t number, std::uint64_t cluster) {
-        m_clusters.resize(number);
-        m_clusters.push_back(cluster);
-    }
-
-  private:
-    PhotoPieces& m_owner;
-    std::vector<std::uint64_t> m_clusters;
-    std::vector<std::uint8_t> m_bytes;
-};
-
-std::optional<std::uint64_t> PhotoPieces::after(const std::vector<std::uint64_t>& clusters) const {
-    const std::uint64_t next = clusters.back() + 1;
-    const bool may = m_free.isFree(next) && m_kinds.mayHoldUnits(next) &&
-                     std::find(clusters.begin(), clusters.end(), next) == clusters.end();
-    return may ? std::optional(next) : std::nullopt;
+ClusterRow PhotoPieces::rowOf(std::vector<std::uint64_t> clusters) const {
+    return {m_medium, m_free, [this](std::uint64_t cluster) { return m_kinds.mayHoldUnits(cluster); },
+            std::move(clusters)};
 }
 
 std::optional<PiecedPhoto> PhotoPieces::assemble(std::uint64_t firstCluster, std::uint64_t& units) {
@@ -90,19 +54,23 @@ std::optional<PiecedPhoto> PhotoPieces::assemble(std::uint64_t firstCluster, std
     }
     clusters.resize(headClusters);
     const std::uint64_t allowed = std::min(units, kMostUnitsAtOnce);
-    m_unitsLeft = allowed;
+    std::uint64_t spent = 0;
     m_found = {};
     Cut start;
     bool found = false;
     for (const std::size_t joins : {std::size_t{1}, kMostJoins}) {
+        // What one join costs leaves as much for several.
+        const std::uint64_t share = joins == 1 ? allowed / 2 : allowed - spent;
+        m_unitsLeft = share;
         found = found || (m_stop == 0 && solve(start, clusters, joins, true));
+        spent += share - m_unitsLeft;
     }
-    units -= allowed - m_unitsLeft;
+    units -= spent;
     return found ? std::optional(m_found) : std::nullopt;
 }
 
 // Tries a cluster behind the cut; nothing when it cannot be.
-std::optional<PhotoPieces::Trial> PhotoPieces::tryAt(JpegUnits& units, Supply& supply, const Cut& cut,
+std::optional<PhotoPieces::Trial> PhotoPieces::tryAt(JpegUnits& units, ClusterRow& supply, const Cut& cut,
                                                      std::uint64_t cluster, float limit) {
     spend(1 + m_head->unitsAcross / 16);  // what it takes to begin
     supply.restart(cut.number, cluster);
@@ -136,7 +104,7 @@ std::optional<PhotoPieces::Trial> PhotoPieces::tryAt(JpegUnits& units, Supply& s
 std::vector<PhotoPieces::Trial> PhotoPieces::trialsAt(const Cut& cut,
                                                       const std::vector<std::uint64_t>& clusters,
                                                       float limit) {
-    Supply supply(*this, clusters);
+    ClusterRow supply = rowOf(clusters);
     JpegUnits units(*m_head, m_free.clusterBytes(), supply);
     std::vector<Trial> trials;
     std::size_t tried = 0;
@@ -165,7 +133,7 @@ std::vector<PhotoPieces::Trial> PhotoPieces::trialsAt(const Cut& cut,
 bool PhotoPieces::solve(const Cut& from, std::vector<std::uint64_t> clusters, std::size_t joins,
                         bool joinsShow) {
     const std::uint64_t cluster = m_free.clusterBytes();
-    Supply supply(*this, std::move(clusters));
+    ClusterRow supply = rowOf(std::move(clusters));
     JpegUnits units(*m_head, cluster, supply);
     if (from.number != 0) {
         units.resume(from.before);

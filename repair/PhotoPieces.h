@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "repair/ClusterKinds.h"
+#include "repair/ClusterRow.h"
 #include "repair/FreeClusters.h"
 #include "repair/JpegHead.h"
 #include "repair/JpegUnits.h"
@@ -27,8 +28,8 @@ struct PiecedPhoto {
 class PhotoPieces {
   public:
     // Of one photo: coded units that are read in all its trials, and in one call.
-    static constexpr std::uint64_t kMostUnits = 4'000'000;
-    static constexpr std::uint64_t kMostUnitsAtOnce = 2'000'000;
+    static constexpr std::uint64_t kMostUnits = 8'000'000;
+    static constexpr std::uint64_t kMostUnitsAtOnce = 4'000'000;
     static constexpr std::size_t kMostJoins = 4;
 
     PhotoPieces(MediumBlocks& medium, const FreeClusters& free, ClusterKinds& kinds,
@@ -50,14 +51,13 @@ class PhotoPieces {
         float misfit = 0;
         bool shows = false;
     };
-    class Supply;
 
     bool solve(const Cut& from, std::vector<std::uint64_t> clusters, std::size_t joins, bool joinsShow);
     std::vector<Trial> trialsAt(const Cut& cut, const std::vector<std::uint64_t>& clusters, float limit);
-    std::optional<Trial> tryAt(JpegUnits& units, Supply& supply, const Cut& cut, std::uint64_t cluster,
+    std::optional<Trial> tryAt(JpegUnits& units, ClusterRow& supply, const Cut& cut, std::uint64_t cluster,
                                float limit);
     void spend(std::uint64_t units) { m_unitsLeft -= std::min(m_unitsLeft, units); }
-    std::optional<std::uint64_t> after(const std::vector<std::uint64_t>& clusters) const;
+    ClusterRow rowOf(std::vector<std::uint64_t> clusters) const;
 
     MediumBlocks& m_medium;
     const FreeClusters& m_free;

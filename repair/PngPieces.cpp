@@ -18,7 +18,7 @@ constexpr std::uint64_t kAround = 12;  // length and name before a chunk's data,
 constexpr std::array<std::uint8_t, kSignatureBytes> kSignature = {0x89, 'P',  'N',  'G',
                                                                   '\r', '\n', 0x1A, '\n'};
 
-constexpr std::uint64_t kMostTriedBytes = std::uint64_t{256} << 20;  // of one cut
+constexpr std::uint64_t kMostCutBytes = std::uint64_t{256} << 20;  // of one cut
 
 bool isLetter(std::uint8_t byte) {
     return (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z');
@@ -155,7 +155,7 @@ bool PngPieces::join(const Chunk& chunk) {
     const std::uint64_t at = chunk.end() % size;
     // Where the chunk ends with its cluster, the next one begins in a cluster that is not known yet.
     const bool tells = !chunk.last && at != 0 && at + 8 <= size;
-    const std::uint64_t most = std::clamp<std::uint64_t>(kMostTriedBytes / chunk.bytes, 1, kMostAnchors);
+    const std::uint64_t most = std::clamp<std::uint64_t>(kMostCutBytes / chunk.bytes, 1, kMostAnchors);
     std::uint64_t anchors = 0;
     const std::uint64_t first = m_clusters.front();
     for (std::uint64_t step = 1; step < m_free.count() && anchors < most && m_stop == 0; ++step) {

@@ -155,14 +155,14 @@ bool isUsable(const ReferenceTrack& track) {
 
 // The first bytes of all units that the pictures consist of.
 void learnHeads(ByteView& view, const std::vector<IsoSample>& pictures, PictureSyntax& syntax) {
-    constexpr int kMostUnits = 64;
+    constexpr int kMostUnitsAtHand = 64;
     if (syntax.coding != Coding::Avc && syntax.coding != Coding::Hevc) {
         return;
     }
     for (const IsoSample& sample : pictures) {
         std::uint64_t at = sample.at;
         const std::uint64_t end = addClamped(sample.at, sample.bytes);
-        for (int units = 0; units < kMostUnits && at < end; ++units) {
+        for (int units = 0; units < kMostUnitsAtHand && at < end; ++units) {
             const auto length = view.number(at, syntax.lengthBytes, Endian::Big);
             const auto head = view.u8(at + syntax.lengthBytes);
             if (!length || !head || *length == 0 || *length > end - at) {

@@ -197,8 +197,24 @@ std::size_t MediumBytes::readSectors(std::uint64_t first, std::span<std::uint8_t
         if (sector >= m_readableSectors) {
             return static_cast<std::size_t>(std::max(m_readableSectors, first) - first) * kSectorBytes;
         }
+        done += readFetched(medium, sector + 1, into.subspan(done + kSectorBytes)) * kSectorBytes;
     }
     return into.size();
+}
+
+// Sectors that the medium's reader has at hand behind one that was read, where nothing is to be asked of
+// each.
+std::uint64_t MediumBytes::readFetched(SectorReader* medium, std::uint64_t sector,
+                                       std::span<std::uint8_t> into) {
+    const bool counted = m_measuring && m_source.readInVain != nullptr;
+    const std::uint64_t end =
+        std::min({sector + into.size() / kSectorBytes, endOfRun(sector), m_readableSectors,
+                  m_unreadable.firstFrom(sector), counted ? m_carvedBytes / kSectorBytes : kNoLimit});
+    if (medium == nullptr || m_mediumIsGone || !m_held.empty() || end <= sector ||
+        medium->position() != onMedium(sector)) {
+        return 0;
+    }
+    return medium->readFetched(into.data(), end - sector);
 }
 
 // Counts what is read behind the carved run; false at a place that was read in vain too often.
@@ -316,6 +332,18 @@ std::uint64_t MediumBytes::onMedium(std::uint64_t sector) const {
         sector -= run.end - run.first;
     }
     return kNoLimit;
+}
+
+// The first sector of the item that does not lie behind the one given on the medium.
+std::uint64_t MediumBytes::endOfRun(std::uint64_t sector) const {
+    std::uint64_t end = 0;
+    for (const SectorRun& run : m_runs) {
+        end += run.end - run.first;
+        if (sector < end) {
+            break;
+        }
+    }
+    return end;
 }
 
 std::uint64_t MediumBytes::sectorsUnreadable(std::uint64_t bytes) const {

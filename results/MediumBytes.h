@@ -113,9 +113,11 @@ class MediumBytes final : public ByteSource {
     std::size_t readSectors(std::uint64_t first, std::span<std::uint8_t> into);
     bool readSector(SectorReader* medium, std::uint64_t sector, std::uint8_t* place);
     std::uint64_t onMedium(std::uint64_t sector) const;
+    std::uint64_t endOfRun(std::uint64_t sector) const;
     void noteRefusal(SectorReader& medium, std::uint64_t sector);
     void passOverZone(SectorReader& medium, std::uint64_t sector);
     void holdFirstBytes();
+    std::uint64_t readFetched(SectorReader* medium, std::uint64_t sector, std::span<std::uint8_t> into);
     const std::uint8_t* heldSector(std::uint64_t onMedium) const;
     bool holdsAnyFrom(std::uint64_t sector) const;
     bool mayReadOn(std::uint64_t sector);

@@ -27,10 +27,6 @@ constexpr int kRootSectors = 32;
 constexpr int kFirstDataSector = kReservedSectors + 2 * kFatSectors + kRootSectors;
 constexpr int kPieceGapClusters = 6;
 
-QString textOf(int number) {
-    return QString::number(number);
-}
-
 // The card under way: a folder with the image and the files that go onto it.
 class Mtools {
   public:
@@ -39,9 +35,9 @@ class Mtools {
         if (!image.open(QIODevice::WriteOnly) || !image.resize(kCardBytes))
             throw std::runtime_error("the card's image cannot be written");
         // clang-format off
-        run("mformat", {"-T", textOf(kCardBytes / kSectorBytes), "-h", "8", "-s", "32", "-m", "0xf8",
-                        "-c", textOf(kSectorsPerCluster), "-R", textOf(kReservedSectors),
-                        "-L", textOf(kFatSectors), "-r", textOf(kRootSectors),
+        run("mformat", {"-T", QString::number(kCardBytes / kSectorBytes), "-h", "8", "-s", "32", "-m", "0xf8",
+                        "-c", QString::number(kSectorsPerCluster), "-R", QString::number(kReservedSectors),
+                        "-L", QString::number(kFatSectors), "-r", QString::number(kRootSectors),
                         "-N", "20240601", "-v", "VANTOR CARD", "::"});
         // clang-format on
     }
@@ -110,18 +106,18 @@ QByteArray listLine(const CardFile& file, const QByteArray& bytes, const QString
     if (runs.size() != (file.inTwoPieces ? 2u : 1u))
         throw std::runtime_error("not laid out as planned: " + file.name.toStdString());
     const auto text = [&](std::size_t i) {
-        return textOf(int(runs[i].first)) + '-' + textOf(int(runs[i].second - 1));
+        return QString::number(int(runs[i].first)) + '-' + QString::number(int(runs[i].second - 1));
     };
     const QString pieces =
         runs.size() == 1 ? "in one piece" : "fragmented: sectors " + text(0) + " and " + text(1);
-    const QString gap = textOf(file.gapClusters * kSectorsPerCluster);
+    const QString gap = QString::number(file.gapClusters * kSectorsPerCluster);
     const QString place = isFirst                  ? "first on the card"
                           : file.gap == Gap::Zeros ? "after a gap of " + gap + " zero sectors"
                           : file.gap == Gap::Noise ? "after a gap of " + gap + " sectors of random bytes"
                                                    : "right after the file before";
     const QString hash = QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex();
-    QStringList fields{file.name, file.name.section('.', -1).toUpper(), textOf(int(runs[0].first))};
-    fields << textOf(int(bytes.size())) << hash << pieces + "; " + place + "; " + file.folder + '\n';
+    QStringList fields{file.name, file.name.section('.', -1).toUpper(), QString::number(int(runs[0].first))};
+    fields << QString::number(int(bytes.size())) << hash << pieces + "; " + place + "; " + file.folder + '\n';
     return fields.join('\t').toUtf8();
 }
 

@@ -1,4 +1,6 @@
 // What is on the card: a holiday's photos, and a file of every other kind.
+#include <QHash>
+
 #include "samples/Bytes.h"
 #include "samples/Card.h"
 #include "samples/Documents.h"
@@ -73,13 +75,11 @@ constexpr Photo kPhotos[] = {
 };
 
 QByteArray jpegFile(const QImage& picture, Writer writer, int quality) {
-    constexpr const char* kFine = "aspect=1:flags=+qscale:global_quality=354";  // 3 on the scale of 2 to 31
-    constexpr const char* kFineInSlices =
-        "aspect=1:flags=+qscale:global_quality=354:threads=4:thread_type=slice:slices=4";
+    const QByteArray fine = "aspect=1:flags=+qscale:global_quality=354";  // 3 on the scale of 2 to 31
     if (writer == Writer::FullChroma)
-        return encodedPicture("mjpeg", "yuvj444p", picture, kFine);
+        return encodedPicture("mjpeg", "yuvj444p", picture, fine);
     if (writer == Writer::Restarting)
-        return encodedPicture("mjpeg", "yuvj420p", picture, kFineInSlices);
+        return encodedPicture("mjpeg", "yuvj420p", picture, fine + ":threads=4:thread_type=slice:slices=4");
     return writtenByQt("jpg", picture, quality, writer == Writer::Progressive);
 }
 
@@ -187,6 +187,9 @@ void addPictures(std::vector<CardFile>& files) {
     folder.add("COSMOS.DPX", byLibav("dpx", "rgb24", pinkCosmos, 200, 150));
     folder.add("AUTUMN.MIFF", by(miffFile, autumnLake, 160, 120));
     folder.add("SAIL.JNG", [] { return jngFile(sunsetAt(400, 300, 0.6, 0.35)); });
+    folder.add("LAKE.JP2", byLibav("jpeg2000", "rgb24", alpineLake, 320, 240, "format=jp2"));
+    folder.add("AURORA.EXR", byLibav("exr", "gbrpf32le", aurora, 160, 120));
+    folder.add("BAY.XWD", byLibav("xwd", "rgb24", lilacBay, 160, 120));
     folder.add("FOREST.DCX", [] {
         return dcxFile({byLibav("pcx", "rgb24", mistyForest, 160, 120)(),
                         byLibav("pcx", "rgb24", balloons, 160, 120)()});
@@ -215,11 +218,11 @@ void addMovies(std::vector<CardFile>& files) {
                 return movie;
         }
     };
-    const auto boat = [](const char* container, const char* options = "") {
+    const auto boat = [](const char* container, const char* options = "", const char* codec = "libx264",
+                         const char* coding = "preset=veryfast:crf=12") {
         return [=] {
             static const std::vector<QImage> kFrames = sunset(30, 480, 320, 0.67);
-            return encoded({container, "libx264", "yuv420p", nullptr, options, "preset=veryfast:crf=12"},
-                           kFrames);
+            return encoded({container, codec, "yuv420p", nullptr, options, coding}, kFrames);
         };
     };
     folder.add(
@@ -234,6 +237,9 @@ void addMovies(std::vector<CardFile>& files) {
     folder.add("MOV_0009.FLV", boat("flv"), Gap::Noise, 1);
     folder.add("MOV_0010.3G2", boat("3g2"));
     folder.add("MOV_0011.F4V", boat("f4v"));
+    folder.add("MOV_0014.WEBM", boat("webm", "", "libvpx", "b=1M"));
+    folder.add("MOV_0015.IVF", boat("ivf", "", "libvpx", "b=1M"));
+    folder.add("MOV_0016.WMV", boat("asf", "", "wmv2", "b=1M"));
     folder.add("MOV_0012.H264", boat("h264"), Gap::Zeros, 1);
     folder.add("MOV_0013.Y4M", [] {
         return encoded({"yuv4mpegpipe", "wrapped_avframe", "yuv444p"}, sunset(3, 96, 72));
@@ -257,6 +263,13 @@ void addSounds(std::vector<CardFile>& files) {
     folder.add("TUNE.MP3", tune("mp3", "libmp3lame", 22050), Gap::Zeros, 1);
     folder.add("TUNE.AAC", tune("adts", "aac", 22050));
     folder.add("SILENCE.AMR", [] { return amrFile(false, 150); });
+    folder.add("TUNE.AC3", tune("ac3", "ac3", 32000));
+    folder.add("TUNE.TTA", tune("tta", "tta", 11025));
+    folder.add("TUNE.WV", tune("wv", "wavpack", 11025));
+    folder.add("TUNE.OGG", tune("ogg", "libvorbis", 22050));
+    folder.add("TUNE.OPUS", tune("opus", "libopus", 48000));
+    folder.add("TUNE.WMA", tune("asf", "wmav2", 22050));
+    folder.add("TUNE.M4A", tune("ipod", "aac", 22050));
     folder.add("TUNE.MID", midiFile);
     folder.add("TUNE.RF64", tune("wav", "pcm_s16le", 11025, "rf64=always"), Gap::Zeros, 1);
     folder.add("TUNE.W64", tune("w64", "pcm_s16le", 11025));
@@ -270,15 +283,11 @@ void addDocuments(std::vector<CardFile>& files) {
     Folder folder(files, "DOCS");
     folder.add(
         "ALBUM.PDF", [] { return pdfFile(painted(seaSunset, 640, 480)); }, Gap::Zeros, 2);
+    const QHash<QByteArray, Gap> gaps{{"NOTES.DOCX", Gap::Noise}, {"BOOK.EPUB", Gap::Zeros}};
     for (const TextDocument& document : textDocuments()) {
-        const bool isAfterNoise = document.name == "NOTES.DOCX";
-        const bool isAfterZeros = document.name == "BOOK.EPUB";
+        const Gap gap = gaps.value(document.name, Gap::None);
         folder.add(
-            document.name, [&document] { return contentOf(document); },
-            isAfterNoise   ? Gap::Noise
-            : isAfterZeros ? Gap::Zeros
-                           : Gap::None,
-            isAfterNoise || isAfterZeros);
+            document.name, [&document] { return contentOf(document); }, gap, gap != Gap::None);
     }
     folder.add("PLACES.SQLITE", sqliteFile, Gap::Noise, 2);
     folder.add("PLACES.DBF", dbfFile);

@@ -32,10 +32,6 @@ QByteArray chunk(const QByteArray& type, const QByteArray& content) {
     return Bytes().be32(content.size()).raw(summed).be32(qint64(sum));
 }
 
-QByteArray numberText(int number) {
-    return QByteArray::number(number);
-}
-
 }  // namespace
 
 QByteArray photoshopFile(const QImage& picture, bool isLarge) {
@@ -61,8 +57,8 @@ QByteArray iconFile(const std::vector<QImage>& sizes, bool isCursor) {
 
 QByteArray radianceFile(const QImage& picture) {
     const QByteArray all = pixels(picture);
-    QByteArray out = "#?RADIANCE\nFORMAT=32-bit_rle_rgbe\n\n-Y " + numberText(picture.height()) + " +X " +
-                     numberText(picture.width()) + '\n';
+    QByteArray out = "#?RADIANCE\nFORMAT=32-bit_rle_rgbe\n\n-Y " + QByteArray::number(picture.height()) +
+                     " +X " + QByteArray::number(picture.width()) + '\n';
     for (qsizetype i = 0; i < all.size(); i += 3)
         out += all.mid(i, 3) + '\x80';  // the exponent that makes a byte its share of 256
     return out;
@@ -109,7 +105,7 @@ QByteArray lbmFile(const QImage& picture) {
 
 QByteArray miffFile(const QImage& picture) {
     return "id=ImageMagick  version=1.0\nclass=DirectClass  matte=False\ncolumns=" +
-           numberText(picture.width()) + "  rows=" + numberText(picture.height()) +
+           QByteArray::number(picture.width()) + "  rows=" + QByteArray::number(picture.height()) +
            "  depth=8\ncolorspace=sRGB\ncompression=None\n\f\n:\x1A" + pixels(picture);
 }
 

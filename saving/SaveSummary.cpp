@@ -54,8 +54,7 @@ QString summaryDetails(const SaveSummary& summary) {
     const SaveTally& tally = summary.tally;
     QStringList lines;
     if (tally.saved > 0) {
-        lines << soundnessLine(tally)
-              << QObject::tr("They are in %1, in a folder for each type.").arg(summary.destination);
+        lines << soundnessLine(tally) << QObject::tr("They are in %1.").arg(summary.destination);
     }
     if (tally.withUnreadableSectors > 0) {
         lines << QObject::tr("%1 could only be read in part; what could not be read is filled with zeros.")

@@ -18,7 +18,9 @@ namespace vantor {
 
 namespace {
 
-constexpr int kMostNamesTried = 100000;
+constexpr int kMostNamesTried = 1000;
+constexpr int kTriedInTurn = 16;  // numbers, before it is asked how many there are
+constexpr int kLargestNumber = 1'000'000'000;
 constexpr mode_t kMode = 0644;  // less the user's mask
 
 // "name.ext" with " (n)" before the extension; n = 1 is the name itself.
@@ -31,11 +33,32 @@ QString numberedName(const QString& name, int n) {
     return name.left(cut) + QStringLiteral(" (%1)").arg(n) + name.mid(cut);
 }
 
-// The path of the first of the numbered names that `take` accepts; it refuses with errno EEXIST what is
-// taken.
+bool isTaken(const SavingFolder& folder, const QString& name) {
+    return ::faccessat(folder.descriptor(), QFile::encodeName(name).constData(), F_OK, AT_SYMLINK_NOFOLLOW) ==
+           0;
+}
+
+// A number whose name is free, past one that is taken: in steps that double, then halving, so that a card
+// whose files all have one name does not cost the square of their number.
+int freeNumberBehind(const SavingFolder& folder, const QString& name, int taken) {
+    int free = 2 * taken;
+    while (free < kLargestNumber && isTaken(folder, numberedName(name, free))) {
+        taken = free;
+        free *= 2;
+    }
+    while (free - taken > 1) {
+        const int middle = taken + (free - taken) / 2;
+        (isTaken(folder, numberedName(name, middle)) ? taken : free) = middle;
+    }
+    return free;
+}
+
+// The path of a numbered name that `take` accepts, the first one where few are taken; it refuses with errno
+// EEXIST what is taken.
 template <typename Take>
 std::optional<QString> firstFreeName(const SavingFolder& folder, const QString& name, const Take& take) {
-    for (int n = 1; n <= kMostNamesTried; ++n) {
+    int n = 1;
+    for (int tries = 1; tries <= kMostNamesTried && n < kLargestNumber; ++tries) {
         const QString numbered = numberedName(name, n);
         if (take(QFile::encodeName(numbered))) {
             return folder.path() + u'/' + numbered;
@@ -43,6 +66,8 @@ std::optional<QString> firstFreeName(const SavingFolder& folder, const QString& 
         if (errno != EEXIST) {
             break;
         }
+        n = tries == kTriedInTurn ? freeNumberBehind(folder, name, n) : n + 1;
+        errno = EEXIST;
     }
     return std::nullopt;
 }

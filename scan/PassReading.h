@@ -19,7 +19,7 @@ struct PassReading {
     // For every read; `medium` stands behind the sector where it succeeded.
     void note(const SectorReader& medium, bool succeeded, const RefusedSectors& refusals) const {
         if (succeeded && forLater != nullptr) {
-            forLater->note(medium.position() - 1, medium.looks());
+            forLater->note(medium.position() - 1, medium.looks(), medium.current());
         }
         if (keeper != nullptr) {
             if (succeeded) {

@@ -99,7 +99,7 @@ PassReading ScanSession::beginReading(ControlSet set, const QString& passName,
         m_memory =
             std::make_shared<PassMemory>(set == ControlSet::Photo ? Adv_Ext_Array : CheckListHeader_Adv_Array,
                                          pFile_Disk->mediumSectors());
-        pFile_Disk->setScreen(screenFor(m_memory->screenBeside(matcher)));
+        pFile_Disk->setScreen(screenFor(m_memory->screenBeside(matcher, REC_PROC_Array)));
         reading.forLater = m_memory.get();
         return reading;
     }

@@ -349,11 +349,17 @@ class MyTableController : public QObject,
     SearchRecord recordOfNow();
     void writeKeptSearch();
     void markAsBefore();
+    SearchWishes wishesOfNow() const;
+    QString pathOfMedium(const QString& identifier) const;
+    // window/GoingOn.cpp
     void goOn();
     void goOnWithCardPutBack();
     void goOnWith(SearchRecord record);
     void goOnWithKept(bool onlyLook);
-    SearchWishes wishesOfNow() const;
+    enum class Likeness { Same, Another, CannotBeOpened };
+    Likeness likenessOf(const QString& identifier, const SearchRecord& record);
+    QStringList mediaLike(const SearchRecord& record) const;
+    bool chooseMediumOf(const SearchRecord& record);
     // window/CardCopy.cpp
     bool chooseCopyPlace();
     bool acceptCopyPlace(const QString& path);
@@ -366,11 +372,6 @@ class MyTableController : public QObject,
     void showCopy(const MediumCopy& copy);
     void keepCopyNow();
     bool goesOnByItself() const;
-    QString pathOfMedium(const QString& identifier) const;
-    enum class Likeness { Same, Another, CannotBeOpened };
-    Likeness likenessOf(const QString& identifier, const SearchRecord& record);
-    QStringList mediaLike(const SearchRecord& record) const;
-    bool chooseMediumOf(const SearchRecord& record);
     // window/Mending.cpp
     void setUpMending();
     void offerMending();

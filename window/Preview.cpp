@@ -14,6 +14,7 @@
 #include "window/preview/MovieControls.h"
 #include "window/preview/PieceStrip.h"
 #include "window/preview/PreviewFile.h"
+#include "window/preview/ViewerDesk.h"
 #include "window/preview/WholePreview.h"
 #include "window/widgets/Sheet.h"
 
@@ -165,6 +166,8 @@ void MyTableController::fillWholePreview() {
                 if (!m_ending && !picture.isNull() && m_whole && shown.lock() == m_whole &&
                     mMovieView->movie() == nullptr) {
                     showPicture(QPixmap::fromImage(framedAsDocument(picture, kPreviewSize)), name);
+                    m_obstacle.clear();
+                    showPreviewFacts();
                 }
             },
             Qt::QueuedConnection);
@@ -182,6 +185,7 @@ QString MyTableController::shownFileOf(const QString& file) const {
 
 // Beside what stays in the pane of the item before.
 void MyTableController::showThatTheMediumIsGone() {
+    m_obstacle.clear();
     const QString gone = tr("The storage medium cannot be read.");
     previewFacts->setText(m_previewedName.isEmpty()
                               ? gone
@@ -194,6 +198,7 @@ void MyTableController::emptyPreviewPane() {
     soundControls->setMovie(nullptr);
     _QuickLook_View->setText(tr("Select an item to preview it."));
     _QuickLook_View->setAccessibleName({});
+    m_obstacle.clear();
     previewFacts->clear();
     m_previewedMend.reset();
     m_pieceStrip->setPieces({});
@@ -202,22 +207,21 @@ void MyTableController::emptyPreviewPane() {
 
 void MyTableController::QuickLook_Preview_Thread(const QString& itemPath) {
     setQuickLook_View_File(Preview_Temp_File, lastComponent(itemPath));
+    const bool isSound = kindOfExtension(pathExtension(Preview_Temp_File)) == FileKind::Sound;
+    if (!m_ending && isSound && Recovery_MODE != kVideoMode) {
+        soundControls->setMovie(openBeside(m_parts.sound, shownFileOf(Preview_Temp_File)));
+    }
     if (!m_ending) {
         showPreviewFacts();
     }
 }
 
-// The size that saving would give the file; sound beside its picture can be heard, and tells how long it is.
+// The size that saving would give the file, and how long sound is. An item without a picture may be a broken
+// one: what is known of that is told as soon as it is.
 void MyTableController::showPreviewFacts() {
     const QFileInfo file(Preview_Temp_File);
     if (!file.isFile()) {
         previewFacts->clear();
-        return;
-    }
-    if (Recovery_MODE != kVideoMode && kindOfExtension(pathExtension(file.fileName())) == FileKind::Sound) {
-        soundControls->setMovie(openBeside(m_parts.sound, shownFileOf(Preview_Temp_File)));
-    }
-    if (m_ending) {
         return;
     }
     const Movie* const sound = soundControls->movie();
@@ -226,10 +230,16 @@ void MyTableController::showPreviewFacts() {
     if (bytes && !m_whole->lengthIsKnown()) {
         size = tr("more than %1").arg(size);
     }
-    const QString facts = sound != nullptr && sound->durationMs() > 0
-                              ? tr("%1, %2").arg(size, timeText(sound->durationMs()))
-                              : size;
-    previewFacts->setText(m_obstacle.isEmpty() ? facts : facts + u'\n' + m_obstacle);
+    QString facts = sound != nullptr && sound->durationMs() > 0
+                        ? tr("%1, %2").arg(size, timeText(sound->durationMs()))
+                        : size;
+    if (!m_obstacle.isEmpty()) {
+        if (const ItemFacts known = factsOfItem(Prev_Index); known.soundness) {
+            facts = QObject::tr("%1 · %2").arg(facts, stateWords(known));
+        }
+        facts += u'\n' + m_obstacle;
+    }
+    previewFacts->setText(facts);
     showPieces();
 }
 
@@ -298,8 +308,13 @@ void MyTableController::Image_Preview(const QString& file, const QString& file_N
     showPicture(icon, file_Name);
 }
 
+// Of a file of which a picture is expected, also where nothing but the file itself stands in the way.
 QString MyTableController::obstacleFor(const QString& file) const {
-    return m_parts.obstacle ? m_parts.obstacle(file) : QString();
+    const QString obstacle = m_parts.obstacle ? m_parts.obstacle(file) : QString();
+    const FileKind kind = kindOfExtension(pathExtension(file));
+    const bool expected = kind == FileKind::Picture || kind == FileKind::Video;
+    return obstacle.isEmpty() && expected ? ViewerDesk::tr("No picture of this file can be shown.")
+                                          : obstacle;
 }
 
 void MyTableController::showPicture(const QPixmap& picture, const QString& title) {

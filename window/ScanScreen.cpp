@@ -206,6 +206,7 @@ void MyTableController::hideScanProgress() {
         m_searchMilliseconds = m_clock.elapsed();
     }
     m_searchEnded = true;
+    searchEndBar->hide();  // what it said was of a search that runs
     showEmptyResults();
 }
 

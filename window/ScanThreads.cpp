@@ -182,6 +182,10 @@ void MyTableController::showScanFacts() {
     const std::uint64_t start = start_sector;
     m_meter.update(m_clock.elapsed(), index >= start ? index - start : 0);
     scanFactsLabel->setText(m_meter.text(itemCount()));
+    if (m_readsAsErased && itemCount() > 0) {
+        m_readsAsErased = false;
+        searchEndBar->hide();
+    }
     showCard();
 }
 

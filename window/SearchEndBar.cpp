@@ -30,7 +30,7 @@ void MyTableController::showSearchEnd() {
     if (end.outcome == PassOutcome::OpenError && m_parts.whyNotOpened) {
         sentences << m_parts.whyNotOpened();
     }
-    if (m_readsAsErased) {
+    if (m_readsAsErased && itemCount() == 0) {
         sentences << erasedCardWords();
     }
     if (m_memory->keeper() && !m_memory->keeper()->error().isEmpty()) {
@@ -91,6 +91,7 @@ void MyTableController::showThatItWasErased() {
     const int edge = searchEndIcon->minimumWidth();
     searchEndIcon->setPixmap(ownIcon(QStringLiteral("info")).pixmap(edge, edge));
     tryBadSectorsButton->hide();
+    m_goOnButton->hide();
     searchSumLabel->clear();
     searchEndBar->show();
 }

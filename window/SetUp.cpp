@@ -180,6 +180,11 @@ void MyTableController::setUpBrowsers() {
                    BrowserScreen{imageBrowser_2, showBox_Sig, sortBox_Sig, foundPane_Sig}},
         lookedAtItems());
     connect(m_looks.get(), &BrowserLooks::changed, this, &MyTableController::showItemCounts);
+    connect(m_looks.get(), &BrowserLooks::looked, this, [this] {
+        if (!session && !m_obstacle.isEmpty() && Prev_Index != kNoPreview) {
+            showPreviewFacts();
+        }
+    });
     m_desk = std::make_unique<SavingDesk>(savingParts());
     connect(m_desk.get(), &SavingDesk::marksChanged, this, &MyTableController::showItemCounts);
     setUpViewer();

@@ -89,7 +89,8 @@ bool readOne(Channel& channel) {
     AskedSource asked(conversation, task->sectors);
     CachedSource source(asked);
     static_assert(CachedSource::kPieceSectors <= kMostSectorsAsked);
-    const CardTable table = readCard(source, task->traces, task->found);
+    CardTable table = readCard(source, task->traces, task->found);
+    table.files.resize(std::min(table.files.size(), kMostFiles));  // the last are the least sure
     TableWriter writer(table);
     for (;;) {
         const std::vector<std::uint8_t> block = writer.next();

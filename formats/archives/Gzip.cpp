@@ -6,7 +6,7 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kMostText = 64 * 1024;  // name or comment
+constexpr std::uint64_t kGzipMostText = 64 * 1024;  // name or comment
 
 // Position of the packed data of the member at `at`; 0 = no member or not wholly there.
 std::uint64_t memberData(ByteView& view, std::uint64_t at) {
@@ -23,7 +23,7 @@ std::uint64_t memberData(ByteView& view, std::uint64_t at) {
     for (const int text : {8, 16}) {
         if ((flags & text) == 0)
             continue;
-        const auto end = view.find(0, data, data + kMostText);
+        const auto end = view.find(0, data, data + kGzipMostText);
         if (!end.found())
             return 0;
         data = end.at + 1;

@@ -1,9 +1,21 @@
 // lzip files. Source: draft-diaz-lzip.
+#include <bit>
+#include <cstring>
+
 #include "formats/Format.h"
 
 namespace vantor {
 
 namespace {
+
+// In one load, since this looks at every byte of a card.
+std::uint64_t numberAt(const std::uint8_t* bytes) {
+    std::uint64_t number = 0;
+    std::memcpy(&number, bytes, sizeof(number));
+    if constexpr (std::endian::native == std::endian::big)
+        number = __builtin_bswap64(number);
+    return number;
+}
 
 // A member ends with its own length, so the end is the first place where that is true.
 Extent walkLzip(ByteView& view) {
@@ -21,9 +33,7 @@ Extent walkLzip(ByteView& view) {
         std::size_t i = 0;
         std::uint64_t number = 0;
         for (; i + 8 <= bytes.size(); ++i, ++at) {
-            number = 0;
-            for (std::size_t digit = 8; digit-- > 0;)
-                number = number << 8 | bytes[i + digit];
+            number = numberAt(bytes.data() + i);
             if (number == at + 8 - start)
                 break;
         }

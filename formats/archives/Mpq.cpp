@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kMpqForms[] = {
     {{0, "MPQ\x1A\x20\0\0\0"_b}, {}, 8, 4, Endian::Little, 32},
 };
 
@@ -14,7 +14,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kMpq = {
     .name = "MPQ",
     .group = Group::Archives,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kMpqForms>,
     .extensions = " MPQ ",
     .mayNotTellEnd = true,
 };

@@ -11,7 +11,7 @@ constexpr std::string_view kMagic4("Rar!\x1A\x07\0", 7);
 constexpr std::string_view kMagic5("Rar!\x1A\x07\x01\0", 8);
 constexpr std::uint64_t kMostHeader5 = 2 * 1024 * 1024;
 
-std::optional<std::uint64_t> readNumber(ByteView& view, std::uint64_t& at) {
+std::optional<std::uint64_t> rarNumber(ByteView& view, std::uint64_t& at) {
     constexpr unsigned kMostGroups = 10;
     return groupedNumber(view, at, kMostGroups);
 }
@@ -21,7 +21,7 @@ Extent walkRar5(ByteView& view) {
     for (std::uint64_t blocks = 0;; ++blocks) {
         std::uint64_t field = at + 4;
         const auto told = view.le32(at);
-        const auto size = readNumber(view, field);
+        const auto size = rarNumber(view, field);
         if (!told || !size)
             return cutOffAt(view, view.size());
         const auto headerEnd = addClamped(field, *size);
@@ -33,12 +33,12 @@ Extent walkRar5(ByteView& view) {
             return cutOffAt(view, view.size());
         if (crc != *told)
             return blocks != 0 ? damagedAt(view, at) : unknownExtent();
-        const auto type = readNumber(view, field), flags = readNumber(view, field);
+        const auto type = rarNumber(view, field), flags = rarNumber(view, field);
         if (type == 4)  // all that follows is encrypted
             return unknownExtent();
         if ((flags.value_or(0) & 1) != 0)
-            readNumber(view, field);  // length of the extra area inside the header
-        const auto data = (flags.value_or(0) & 2) != 0 ? readNumber(view, field).value_or(0) : 0;
+            rarNumber(view, field);  // length of the extra area inside the header
+        const auto data = (flags.value_or(0) & 2) != 0 ? rarNumber(view, field).value_or(0) : 0;
         at = addClamped(headerEnd, data);
         if (at > view.size())
             return cutOffAt(view, view.size());

@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kStuffItForms[] = {
     {{0, "SIT!"}, {10, "rLau"}, 6, 4, Endian::Big, 22},
     {{0, "StuffIt (c)1997"}, {}, 84, 4, Endian::Big, 100},
 };
@@ -15,7 +15,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kStuffIt = {
     .name = "StuffIt",
     .group = Group::Archives,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kStuffItForms>,
     .extensions = " SIT ",
     .mayNotTellEnd = true,
 };

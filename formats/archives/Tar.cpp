@@ -8,8 +8,8 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kBlock = 512;
-constexpr std::uint64_t kRecord = 20 * kBlock;  // writers pad to whole records
+constexpr std::uint64_t kTarBlock = 512;
+constexpr std::uint64_t kTarRecord = 20 * kTarBlock;  // writers pad to whole records
 
 // An octal field, or a binary one with the top bit set.
 std::optional<std::uint64_t> readField(ByteView& view, std::uint64_t at, std::size_t bytes) {
@@ -32,11 +32,11 @@ std::optional<std::uint64_t> readField(ByteView& view, std::uint64_t at, std::si
 }
 
 bool isHeader(ByteView& view, std::uint64_t at) {
-    const auto block = view.window(at, kBlock);
-    if (block.size() < kBlock || block[0] == 0)
+    const auto block = view.window(at, kTarBlock);
+    if (block.size() < kTarBlock || block[0] == 0)
         return false;
     std::uint64_t sum = 8 * ' ';  // the checksum field counts as spaces
-    for (std::size_t i = 0; i < kBlock; ++i)
+    for (std::size_t i = 0; i < kTarBlock; ++i)
         sum += i >= 148 && i < 156 ? 0 : block[i];
     return readField(view, at + 148, 8) == sum;
 }
@@ -58,16 +58,16 @@ Extent walkTar(ByteView& view) {
         if (!size)
             return damagedAt(view, at);
         const bool bodiless = type >= '1' && type <= '6';  // links, devices, directories
-        at = addClamped(at, kBlock);
+        at = addClamped(at, kTarBlock);
         if (!bodiless)
-            at = addClamped(at, addClamped(*size, kBlock - 1) / kBlock * kBlock);
+            at = addClamped(at, addClamped(*size, kTarBlock - 1) / kTarBlock * kTarBlock);
         if (at > view.size())
             return cutOffAt(view, view.size());
     }
-    const auto zeros = skipZeros(view, at, at + 2 * kBlock);
-    if (zeros < at + 2 * kBlock)
+    const auto zeros = skipZeros(view, at, at + 2 * kTarBlock);
+    if (zeros < at + 2 * kTarBlock)
         return zeros == view.size() ? cutOffAt(view, zeros) : damagedAt(view, at);
-    const auto record = (zeros + kRecord - 1) / kRecord * kRecord;
+    const auto record = (zeros + kTarRecord - 1) / kTarRecord * kTarRecord;
     const auto end = skipZeros(view, zeros, std::min(record, view.size()));
     return inexact(completeAt(view, end == record ? record : zeros));
 }

@@ -9,19 +9,19 @@ namespace vantor {
 
 namespace {
 
-constexpr std::string_view kMagic(
+constexpr std::string_view kXzMagic(
     "\xFD"
     "7zXZ\0",
     6);
-constexpr std::uint64_t kHeaderBytes = 12;
+constexpr std::uint64_t kXzHeaderBytes = 12;
 constexpr std::array<std::uint8_t, 16> kCheckBytes = {0,  4,  4,  4,  8,  8,  8,  16,
                                                       16, 16, 32, 32, 32, 64, 64, 64};
 
-std::uint64_t padded(std::uint64_t at) {
+std::uint64_t toFour(std::uint64_t at) {
     return (at + 3) / 4 * 4;
 }
 
-std::optional<std::uint64_t> readNumber(ByteView& view, std::uint64_t& at) {
+std::optional<std::uint64_t> xzNumber(ByteView& view, std::uint64_t& at) {
     constexpr unsigned kMostGroups = 9;
     return groupedNumber(view, at, kMostGroups);
 }
@@ -55,14 +55,14 @@ std::optional<std::uint64_t> skipChunks(ByteView& view, std::uint64_t at) {
 }
 
 Extent walkXz(ByteView& view) {
-    if (!view.matches(0, kMagic))
+    if (!view.matches(0, kXzMagic))
         return unknownExtent();
     std::uint64_t start = 0;
     for (;;) {
         const auto check = kCheckBytes[view.u8(start + 7).value_or(0) & 15];
         if (!proved(view, start + 6, start + 8))
-            return view.holds(start, kHeaderBytes) ? damagedAt(view, start) : cutOffAt(view, view.size());
-        std::uint64_t at = start + kHeaderBytes;
+            return view.holds(start, kXzHeaderBytes) ? damagedAt(view, start) : cutOffAt(view, view.size());
+        std::uint64_t at = start + kXzHeaderBytes;
         for (;;) {
             const auto size = view.u8(at);
             if (!size)
@@ -74,31 +74,31 @@ Extent walkXz(ByteView& view) {
                 return view.holds(at, head) ? damagedAt(view, at) : cutOffAt(view, view.size());
             std::uint64_t field = at + 2;
             const bool told = (view.u8(at + 1).value_or(0) & 0x40) != 0;
-            const auto packed = told ? readNumber(view, field) : std::nullopt;
+            const auto packed = told ? xzNumber(view, field) : std::nullopt;
             const auto end = told ? std::optional(addClamped(at + head, packed.value_or(view.size())))
                                   : skipChunks(view, at + head);
             if (!end)
                 return damagedAt(view, at);
             if (*end > view.size())
                 return cutOffAt(view, view.size());
-            at = padded(*end) + check;
+            at = toFour(*end) + check;
         }
         const std::uint64_t index = at;
         ++at;
-        const auto records = readNumber(view, at);
+        const auto records = xzNumber(view, at);
         for (std::uint64_t i = 0; records && i < *records && at < view.size(); ++i) {
-            if (!readNumber(view, at) || !readNumber(view, at))
+            if (!xzNumber(view, at) || !xzNumber(view, at))
                 break;
         }
-        at = padded(at);
-        if (!view.holds(at, 4 + kHeaderBytes))
+        at = toFour(at);
+        if (!view.holds(at, 4 + kXzHeaderBytes))
             return cutOffAt(view, view.size());
         const std::uint64_t footer = at + 4;
         const std::uint64_t backward = (std::uint64_t{view.le32(footer + 4).value_or(0)} + 1) * 4;
         if (!proved(view, index, at) || !view.matches(footer + 10, "YZ") || backward != footer - index)
             return damagedAt(view, at);
-        start = footer + kHeaderBytes;
-        if (!view.matches(start, kMagic))  // streams may be joined
+        start = footer + kXzHeaderBytes;
+        if (!view.matches(start, kXzMagic))  // streams may be joined
             return completeAt(view, start);
     }
 }

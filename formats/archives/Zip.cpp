@@ -11,9 +11,9 @@ namespace vantor {
 namespace {
 
 constexpr std::uint32_t kLocal = 0x04034B50;
-constexpr std::uint32_t kDescriptor = 0x08074B50;
+constexpr std::uint32_t kZipDescriptor = 0x08074B50;
 constexpr std::uint32_t kCentral = 0x02014B50;
-constexpr std::uint32_t kEnd = 0x06054B50;
+constexpr std::uint32_t kZipEnd = 0x06054B50;
 constexpr std::uint32_t kEnd64 = 0x06064B50;
 constexpr std::uint32_t kLocator64 = 0x07064B50;
 constexpr std::uint32_t kExtraData = 0x08064B50;
@@ -70,7 +70,7 @@ class ZipWalk {
 
 bool ZipWalk::isRecordAt(std::uint64_t at) {
     const auto signature = m_view.le32(at);
-    return signature && (*signature == kLocal || *signature == kCentral || *signature == kEnd ||
+    return signature && (*signature == kLocal || *signature == kCentral || *signature == kZipEnd ||
                          *signature == kEnd64 || *signature == kExtraData);
 }
 
@@ -131,7 +131,7 @@ void ZipWalk::prove(const LocalEntry& entry) {
 
 // m_at is behind the data of an entry whose sizes follow: with or without signature, 32 or 64 bits.
 bool ZipWalk::skipDescriptor(const LocalEntry& entry) {
-    const bool marked = m_view.le32(m_at) == kDescriptor;
+    const bool marked = m_view.le32(m_at) == kZipDescriptor;
     const std::uint64_t narrow = marked ? 16 : 12;
     const std::uint64_t wide = narrow + 8;
     for (const auto bytes : {entry.wide ? wide : narrow, entry.wide ? narrow : wide}) {
@@ -149,7 +149,7 @@ ZipWalk::Step ZipWalk::searchDescriptor(const LocalEntry& entry) {
     m_allProved = false;
     auto sign = m_view.find('P', entry.data, limit);
     for (; sign.found(); sign = m_view.find('P', sign.at + 1, limit)) {
-        if (m_view.le32(sign.at) != kDescriptor ||
+        if (m_view.le32(sign.at) != kZipDescriptor ||
             m_view.le32(sign.at + 8) != static_cast<std::uint32_t>(sign.at - entry.data))
             continue;
         m_at = sign.at;
@@ -167,7 +167,7 @@ ZipWalk::Step ZipWalk::followData(const LocalEntry& entry) {
         return Step::Cut;
     if (result.outcome != InflateOutcome::Done)
         return Step::Broken;
-    const bool marked = m_view.le32(m_at) == kDescriptor;
+    const bool marked = m_view.le32(m_at) == kZipDescriptor;
     if (m_view.le32(marked ? m_at + 4 : m_at) != result.crc)
         return m_view.holds(m_at, 12) ? Step::Broken : Step::Cut;
     return skipDescriptor(entry) ? Step::Next : Step::Broken;
@@ -245,8 +245,9 @@ Extent ZipWalk::directory() {
     in.skip(6);
     const std::uint64_t count = in.u16(), told = in.u32(), offset = in.u32(), comment = in.u16();
     if (!in.ok())
-        return m_view.holds(m_at, 4) && signature != kEnd ? damagedAt(m_view, m_at) : cutOffAt(m_view, m_at);
-    if (signature != kEnd)
+        return m_view.holds(m_at, 4) && signature != kZipEnd ? damagedAt(m_view, m_at)
+                                                             : cutOffAt(m_view, m_at);
+    if (signature != kZipEnd)
         return damagedAt(m_view, m_at);
     const bool agrees = (count == 0xFFFF || count == (records & 0xFFFF)) &&
                         (told == kIn64 || told == bytes) && (offset == kIn64 || offset <= start) &&
@@ -265,17 +266,17 @@ Extent ZipWalk::stop(Step step) {
 
 Extent ZipWalk::walk() {
     auto first = m_view.le32(0);
-    if (first == kDescriptor || first == kSpanned) {
+    if (first == kZipDescriptor || first == kSpanned) {
         m_at = 4;
         first = m_view.le32(m_at);
     }
-    if (first != kLocal && first != kEnd)
+    if (first != kLocal && first != kZipEnd)
         return unknownExtent();
     for (;;) {
         const auto signature = m_view.le32(m_at);
         if (!signature)
             return cutOffAt(m_view, m_at);
-        if (*signature == kCentral || *signature == kEnd || *signature == kEnd64)
+        if (*signature == kCentral || *signature == kZipEnd || *signature == kEnd64)
             return directory();
         Step step = Step::Broken;
         if (*signature == kLocal)

@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kBlitz3dForms[] = {
     {{0, "BB3D"}, {}, 4, 4, Endian::Little, 12, 1, 8},
 };
 
@@ -14,7 +14,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kBlitz3d = {
     .name = "Blitz3D",
     .group = Group::Documents,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kBlitz3dForms>,
     .extensions = " B3D ",
     .mayNotTellEnd = true,
 };

@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kE57Forms[] = {
     {{0, "ASTM-E57"}, {}, 16, 8, Endian::Little, 1024},
 };
 
@@ -14,7 +14,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kE57 = {
     .name = "E57",
     .group = Group::Documents,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kE57Forms>,
     .extensions = " E57 ",
     .large = true,
     .mayNotTellEnd = true,

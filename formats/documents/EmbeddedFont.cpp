@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kEmbeddedFontForms[] = {
     {{34, "LP"}, {8, "\0\0\1\0"_b}, 0, 4, Endian::Little, 80},
     {{34, "LP"}, {8, "\1\0\2\0"_b}, 0, 4, Endian::Little, 80},
     {{34, "LP"}, {8, "\2\0\2\0"_b}, 0, 4, Endian::Little, 80},
@@ -16,7 +16,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kEmbeddedFont = {
     .name = "EOT",
     .group = Group::Documents,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kEmbeddedFontForms>,
     .extensions = " EOT ",
     .mayNotTellEnd = true,
 };

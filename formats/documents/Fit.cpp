@@ -6,7 +6,7 @@ namespace vantor {
 namespace {
 
 // Header and checksum are not counted.
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kFitForms[] = {
     {{8, ".FIT"}, {0, "\x0E"}, 4, 4, Endian::Little, 1, 1, 16},
     {{8, ".FIT"}, {0, "\x0C"}, 4, 4, Endian::Little, 1, 1, 14},
 };
@@ -16,7 +16,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kFit = {
     .name = "FIT",
     .group = Group::Documents,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kFitForms>,
     .extensions = " FIT ",
     .mayNotTellEnd = true,
 };

@@ -6,7 +6,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kGameModelForms[] = {
     {{0, "IDST\x0A\0\0\0"_b}, {}, 72, 4, Endian::Little, 76},
     {{0, "IDSQ\x0A\0\0\0"_b}, {}, 72, 4, Endian::Little, 76},
     {{0, "IDST\x2C\0\0\0"_b}, {}, 76, 4, Endian::Little, 80},
@@ -21,7 +21,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kGameModel = {
     .name = "Game model",
     .group = Group::Documents,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kGameModelForms>,
     .extensions = " MDL ",
     .mayNotTellEnd = true,
 };

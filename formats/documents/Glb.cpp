@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kGlbForms[] = {
     {{0, "glTF\1\0\0\0"_b}, {}, 8, 4, Endian::Little, 20},
     {{0, "glTF\2\0\0\0"_b}, {}, 8, 4, Endian::Little, 20},
 };
@@ -15,7 +15,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kGlb = {
     .name = "glTF",
     .group = Group::Documents,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kGlbForms>,
     .extensions = " GLB ",
     .mayNotTellEnd = true,
 };

@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kHdf5Forms[] = {
     {{0, "\x89HDF\r\n\x1A\n\0"_b}, {13, "\x08"}, 40, 8, Endian::Little, 96},
     {{0, "\x89HDF\r\n\x1A\n\1"_b}, {13, "\x08"}, 44, 8, Endian::Little, 96},
     {{0, "\x89HDF\r\n\x1A\n\2\x08"_b}, {}, 28, 8, Endian::Little, 48},
@@ -17,7 +17,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kHdf5 = {
     .name = "HDF5",
     .group = Group::Documents,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kHdf5Forms>,
     .extensions = " HDF5 H5 ",
     .large = true,
     .mayNotTellEnd = true,

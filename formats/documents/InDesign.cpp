@@ -11,7 +11,7 @@ namespace {
 using namespace std::string_view_literals;
 
 constexpr std::uint64_t kPage = 4096;
-constexpr std::uint64_t kObjectHead = 32, kObjectTail = 32;
+constexpr std::uint64_t kInDesignObjectHead = 32, kObjectTail = 32;
 constexpr auto kMasterPage = "\x06\x06\xED\xF5\xD8\x1D\x46\xE5\xBD\x31\xEF\xE7\xFE\x74\xB7\x1D"sv;
 constexpr auto kObjectBegins = "\xDE\x39\x39\x79\x51\x88\x4B\x6C\x8E\x63\xEE\xF8\xAE\xE0\xDD\x38"sv;
 constexpr auto kObjectEnds = "\xFD\xCE\xDB\x70\xF7\x86\x4B\x4F\xA4\xD3\xC7\x28\xB3\x41\x71\x06"sv;
@@ -41,7 +41,7 @@ Extent walkInDesign(ByteView& view) {
         const auto bytes = view.le32(at + 24);
         if (!bytes)
             return cutOffAt(view, view.size());
-        const auto tail = at + kObjectHead + *bytes;
+        const auto tail = at + kInDesignObjectHead + *bytes;
         if (!view.matches(tail, kObjectEnds))
             return tail + kObjectTail > view.size() ? cutOffAt(view, view.size()) : damagedAt(view, at);
         at = tail + kObjectTail;

@@ -6,13 +6,13 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kHead = 128;
-constexpr std::uint32_t kMatrix = 14, kPacked = 15;
+constexpr std::uint64_t kMatlabHead = 128;
+constexpr std::uint32_t kMatrix = 14, kMatlabPacked = 15;
 
 // Whether an element stands at `at`: a matrix, or one that begins as packed data does.
 bool isElement(ByteView& view, std::uint64_t at, Endian endian) {
     const auto type = view.number(at, 4, endian);
-    if (type == kPacked)
+    if (type == kMatlabPacked)
         return view.u8(at + 8) == 0x78 && view.be16(at + 8).value_or(1) % 31 == 0;
     // A matrix begins with its flags, an element of eight bytes.
     constexpr std::uint32_t kFlags = 6;
@@ -25,15 +25,15 @@ Extent walkMatlab(ByteView& view) {
         return unknownExtent();
     const bool big = view.matches(126, "MI");
     if (!big && !view.matches(126, "IM"))
-        return view.holds(0, kHead) ? damagedAt(view, kHead) : cutOffAt(view, view.size());
+        return view.holds(0, kMatlabHead) ? damagedAt(view, kMatlabHead) : cutOffAt(view, view.size());
     const auto endian = big ? Endian::Big : Endian::Little;
-    std::uint64_t at = kHead;
+    std::uint64_t at = kMatlabHead;
     while (isElement(view, at, endian)) {
         at += 8 + view.number(at + 4, 4, endian).value_or(0);
         if (at > view.size())
             return cutOffAt(view, view.size());
     }
-    return at != kHead ? inexact(completeAt(view, at)) : unknownExtent();
+    return at != kMatlabHead ? inexact(completeAt(view, at)) : unknownExtent();
 }
 
 }  // namespace

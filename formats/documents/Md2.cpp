@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kMd2Forms[] = {
     {{0, "IDP2\x08\0\0\0"_b}, {}, 64, 4, Endian::Little, 68},
 };
 
@@ -14,7 +14,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kMd2 = {
     .name = "MD2",
     .group = Group::Documents,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kMd2Forms>,
     .extensions = " MD2 ",
     .mayNotTellEnd = true,
 };

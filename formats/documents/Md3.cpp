@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kMd3Forms[] = {
     {{0, "IDP3\x0F\0\0\0"_b}, {}, 104, 4, Endian::Little, 108},
 };
 
@@ -14,7 +14,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kMd3 = {
     .name = "MD3",
     .group = Group::Documents,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kMd3Forms>,
     .extensions = " MD3 ",
     .mayNotTellEnd = true,
 };

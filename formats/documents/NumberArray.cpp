@@ -9,7 +9,7 @@ namespace vantor {
 
 namespace {
 
-std::optional<std::uint64_t> takeNumber(std::string_view& text) {
+std::optional<std::uint64_t> takeDigits(std::string_view& text) {
     std::uint64_t value = 0;
     std::size_t digits = 0;
     for (; digits < text.size() && text[digits] >= '0' && text[digits] <= '9'; ++digits)
@@ -36,7 +36,7 @@ std::optional<std::uint64_t> numberBytes(std::string_view text) {
         return std::nullopt;
     const std::uint64_t unit = text[2] == 'U' ? 4 : 1;
     text.remove_prefix(3);
-    const auto bytes = takeNumber(text);
+    const auto bytes = takeDigits(text);
     return bytes ? std::optional(mulClamped(*bytes, unit)) : std::nullopt;
 }
 
@@ -46,7 +46,7 @@ std::optional<std::uint64_t> countOf(std::string_view text) {
         return std::nullopt;
     std::uint64_t count = 1;
     for (text.remove_prefix(1); !text.starts_with(')');) {
-        const auto side = takeNumber(text);
+        const auto side = takeDigits(text);
         if (!side)
             return std::nullopt;
         count = mulClamped(count, *side);

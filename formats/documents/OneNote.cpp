@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kOneNoteForms[] = {
     {{0, "\xE4\x52\x5C\x7B\x8C\xD8\xA7\x4D\xAE\xB1\x53\x78\xD0\x29\x96\xD3"},
      {},
      196,
@@ -25,7 +25,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kOneNote = {
     .name = "OneNote",
     .group = Group::Documents,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kOneNoteForms>,
     .extensions = " ONE ONETOC2 ",
     .mayNotTellEnd = true,
 };

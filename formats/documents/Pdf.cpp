@@ -13,7 +13,7 @@ constexpr std::size_t kLookBack = 64;     // from the end mark to "startxref"
 constexpr std::size_t kUpdateLead = 256;  // comments and the first words of an update
 constexpr std::size_t kHeadBytes = 1024;  // where the linearization dictionary stands
 // A file goes on as long as ends of objects turn up; this is the largest stream believed to lie between two.
-constexpr std::uint64_t kMostSilence = 64 * 1024 * 1024;
+constexpr std::uint64_t kPdfMostSilence = 64 * 1024 * 1024;
 
 bool isSpace(char c) {
     return c == ' ' || c == '\r' || c == '\n' || c == '\t' || c == '\f';
@@ -68,8 +68,8 @@ bool beginsUpdate(std::string_view text) {
 }
 
 constexpr std::size_t kSeam = 16;
-constexpr std::size_t kMostBlanks = 64;  // behind the end mark
-constexpr std::size_t kLeastBlanks = 3;  // fewer may be another's
+constexpr std::size_t kPdfMostBlanks = 64;  // behind the end mark
+constexpr std::size_t kLeastBlanks = 3;     // fewer may be another's
 
 // The first end mark or beginning of a PDF in `text`.
 std::size_t findWord(std::string_view text) {
@@ -126,7 +126,7 @@ std::uint64_t PdfWalk::behindMark(std::uint64_t at) {
     const auto end = behindLineEnd(m_view, at + 5);
     if (isSectorStart(end))
         return end;
-    const auto text = textAt(m_view, at + 5, kMostBlanks);
+    const auto text = textAt(m_view, at + 5, kPdfMostBlanks);
     auto blanks = text.substr(0, text.find_first_not_of(" \t\r\n"));
     blanks = blanks.substr(0, blanks.find_last_of("\r\n") + 1);
     const auto lineEnd = static_cast<std::size_t>(end - (at + 5));
@@ -201,7 +201,7 @@ Extent PdfWalk::walk() {
             break;
         const auto word = findWord(text);
         noteSigns(at, text.substr(0, word));
-        if (at > m_lastSign && at - m_lastSign > kMostSilence)
+        if (at > m_lastSign && at - m_lastSign > kPdfMostSilence)
             break;
         if (word == text.npos) {
             at += text.size() > kSeam ? text.size() - kSeam : text.size();  // a word may straddle the seam

@@ -17,12 +17,12 @@ struct Property {
     std::uint64_t countBytes = 0;  // of a list's count; 0 for a single value
 };
 
-struct Element {
+struct PlyElement {
     std::uint64_t count = 0;
     std::vector<Property> properties;
 };
 
-constexpr std::size_t kMostElements = 64, kMostProperties = 256;
+constexpr std::size_t kPlyMostElements = 64, kPlyMostProperties = 256;
 
 std::uint64_t bytesOf(std::string_view type) {
     struct Named {
@@ -78,7 +78,7 @@ class PlyWalk {
     std::uint64_t m_at = 0;
     bool m_lines = false;
     Endian m_endian = Endian::Little;
-    std::vector<Element> m_elements;
+    std::vector<PlyElement> m_elements;
 };
 
 // The line at m_at without its end, which may be of any kind; nothing for one that is too long.
@@ -101,11 +101,11 @@ bool PlyWalk::takeElement(std::string_view line) {
         count = count * 10 + static_cast<std::uint64_t>(digit - '0');
     }
     m_elements.push_back({count, {}});
-    return m_elements.size() <= kMostElements;
+    return m_elements.size() <= kPlyMostElements;
 }
 
 bool PlyWalk::takeProperty(std::string_view line) {
-    if (m_elements.empty() || m_elements.back().properties.size() >= kMostProperties)
+    if (m_elements.empty() || m_elements.back().properties.size() >= kPlyMostProperties)
         return false;
     Property property;
     auto type = takeWord(line);
@@ -146,7 +146,7 @@ bool PlyWalk::readHeader() {
 // A line an element, perhaps with empty ones between.
 Extent PlyWalk::walkLines() {
     std::uint64_t left = 0;
-    for (const Element& element : m_elements)
+    for (const PlyElement& element : m_elements)
         left = addClamped(left, element.count);
     TextReader in(m_view, m_at);
     for (bool filled = false; left != 0;) {
@@ -169,7 +169,7 @@ Extent PlyWalk::walkLines() {
 }
 
 Extent PlyWalk::walkBytes() {
-    for (const Element& element : m_elements) {
+    for (const PlyElement& element : m_elements) {
         std::uint64_t fixed = 0;
         bool lists = false;
         for (const Property& property : element.properties) {

@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kRootForms[] = {
     {{0, "root\0\0"_b}, {8, "\0\0\0\x64"_b}, 12, 4, Endian::Big, 100},
 };
 
@@ -14,7 +14,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kRoot = {
     .name = "ROOT",
     .group = Group::Documents,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kRootForms>,
     .extensions = " ROOT ",
     .large = true,
     .mayNotTellEnd = true,

@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kShapefileForms[] = {
     {{0, "\0\0\x27\x0A\0\0\0\0"_b}, {28, "\xE8\3\0\0"_b}, 24, 4, Endian::Big, 50, 2},
 };
 
@@ -14,7 +14,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kShapefile = {
     .name = "Shapefile",
     .group = Group::Documents,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kShapefileForms>,
     .extensions = " SHP ",
     .mayNotTellEnd = true,
 };

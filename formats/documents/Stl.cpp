@@ -10,7 +10,7 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kHead = 84, kTriangle = 50;
+constexpr std::uint64_t kStlHead = 84, kTriangle = 50;
 
 bool isModelNumber(ByteView& view, std::uint64_t at) {
     constexpr float kFarthest = 1e12F;
@@ -23,12 +23,12 @@ bool isModelNumber(ByteView& view, std::uint64_t at) {
 // Every triangle is twelve numbers that a model may have; random bytes hold others soon.
 Extent walkTriangles(ByteView& view) {
     constexpr std::uint64_t kMostTriangles = 100'000'000, kLooks = 64;
-    const std::uint64_t count = view.le32(kHead - 4).value_or(0);
+    const std::uint64_t count = view.le32(kStlHead - 4).value_or(0);
     if (count == 0 || count > kMostTriangles)
         return unknownExtent();
-    const std::uint64_t end = kHead + count * kTriangle;
+    const std::uint64_t end = kStlHead + count * kTriangle;
     for (std::uint64_t look = 0; look < kLooks && look < count; ++look) {
-        const std::uint64_t at = kHead + (count <= kLooks ? look : count / kLooks * look) * kTriangle;
+        const std::uint64_t at = kStlHead + (count <= kLooks ? look : count / kLooks * look) * kTriangle;
         if (!view.holds(at, kTriangle))
             return cutOffAt(view, view.size());
         for (std::uint64_t i = 0; i < 12; ++i) {

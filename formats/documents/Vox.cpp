@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kVoxForms[] = {
     {{0, "VOX \x96\0\0\0"_b}, {8, "MAIN\0\0\0\0"_b}, 16, 4, Endian::Little, 12, 1, 20},
 };
 
@@ -14,7 +14,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kVox = {
     .name = "VOX",
     .group = Group::Documents,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kVoxForms>,
     .extensions = " VOX ",
     .mayNotTellEnd = true,
 };

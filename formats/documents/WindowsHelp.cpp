@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kWindowsHelpForms[] = {
     {{0, "?_\3\0"_b}, {}, 12, 4, Endian::Little, 16},
 };
 
@@ -14,7 +14,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kWindowsHelp = {
     .name = "Windows help",
     .group = Group::Documents,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kWindowsHelpForms>,
     .extensions = " HLP ",
     .mayNotTellEnd = true,
 };

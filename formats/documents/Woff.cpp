@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kWoffForms[] = {
     {{0, "wOFF\0\1\0\0"_b}, {}, 8, 4, Endian::Big, 44},
     {{0, "wOFFOTTO"}, {}, 8, 4, Endian::Big, 44},
     {{0, "wOF2\0\1\0\0"_b}, {}, 8, 4, Endian::Big, 48},
@@ -17,7 +17,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kWoff = {
     .name = "WOFF",
     .group = Group::Documents,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kWoffForms>,
     .extensions = " WOFF WOFF2 ",
     .mayNotTellEnd = true,
 };

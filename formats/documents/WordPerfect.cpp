@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kWordPerfectForms[] = {
     {{0, "\xFFWPC"}, {9, "\x0A\2"}, 20, 4, Endian::Little, 32},
 };
 
@@ -14,7 +14,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kWordPerfect = {
     .name = "WordPerfect",
     .group = Group::Documents,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kWordPerfectForms>,
     .extensions = " WPD ",
     .mayNotTellEnd = true,
 };

@@ -11,8 +11,8 @@ namespace {
 
 constexpr std::string_view kHeader("\x30\x26\xB2\x75\x8E\x66\xCF\x11\xA6\xD9\x00\xAA\x00\x62\xCE\x6C", 16);
 constexpr std::string_view kData("\x36\x26\xB2\x75\x8E\x66\xCF\x11\xA6\xD9\x00\xAA\x00\x62\xCE\x6C", 16);
-constexpr std::string_view kFile("\xA1\xDC\xAB\x8C\x47\xA9\xCF\x11\x8E\xE4\x00\xC0\x0C\x20\x53\x65", 16);
-constexpr std::string_view kStream("\x91\x07\xDC\xB7\xB7\xA9\xCF\x11\x8E\xE6\x00\xC0\x0C\x20\x53\x65", 16);
+constexpr std::string_view kAsfFile("\xA1\xDC\xAB\x8C\x47\xA9\xCF\x11\x8E\xE4\x00\xC0\x0C\x20\x53\x65", 16);
+constexpr std::string_view kAsfStream("\x91\x07\xDC\xB7\xB7\xA9\xCF\x11\x8E\xE6\x00\xC0\x0C\x20\x53\x65", 16);
 constexpr std::string_view kVideo("\xC0\xEF\x19\xBC\x4D\x5B\xCF\x11\xA8\xFD\x00\x80\x5F\x5C\x44\x2B", 16);
 constexpr std::array<std::string_view, 4> kIndexes = {
     std::string_view("\x90\x08\x00\x33\xB1\xE5\xCF\x11\x89\xF4\x00\xA0\xC9\x03\x49\xCB", 16),
@@ -37,14 +37,14 @@ Properties readHeader(ByteView& view, std::uint64_t end, Facts& facts) {
         const auto bytes = view.le64(at + 16);
         if (!bytes || *bytes < kObjectHead)
             break;
-        if (view.matches(at, kFile)) {
+        if (view.matches(at, kAsfFile)) {
             Cursor in(view, at + 40, Endian::Little);
             properties.fileBytes = in.u64();
             facts.taken = dateFromTicksSince1601(in.u64());
             const auto least = view.le32(at + 92), most = view.le32(at + 96);
             properties.packetBytes = least == most ? least.value_or(0) : 0;
             properties.broadcast = (view.le32(at + 88).value_or(0) & 1) != 0;
-        } else if (view.matches(at, kStream) && view.matches(at + kObjectHead, kVideo)) {
+        } else if (view.matches(at, kAsfStream) && view.matches(at + kObjectHead, kVideo)) {
             facts.width = view.le32(at + 78).value_or(0);
             facts.height = view.le32(at + 82).value_or(0);
         }

@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kBinkForms[] = {
     {{0, "BIK"}, {}, 4, 4, Endian::Little, 44, 1, 8},
     {{0, "KB2"}, {}, 4, 4, Endian::Little, 44, 1, 8},
 };
@@ -15,7 +15,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kBink = {
     .name = "Bink",
     .group = Group::Movies,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kBinkForms>,
     .extensions = " BIK BK2 ",
     .mayNotTellEnd = true,
 };

@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kFlicForms[] = {
     {{4, "\x11\xAF"}, {12, "\x08\0"_b}, 0, 4, Endian::Little, 144},
     {{4, "\x12\xAF"}, {12, "\x08\0"_b}, 0, 4, Endian::Little, 144},
 };
@@ -15,7 +15,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kFlic = {
     .name = "FLIC",
     .group = Group::Movies,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kFlicForms>,
     .extensions = " FLC FLI ",
     .mayNotTellEnd = true,
 };

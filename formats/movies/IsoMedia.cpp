@@ -24,9 +24,9 @@ constexpr std::array<std::string_view, 29> kTopLevelNames = {
 constexpr std::array<std::string_view, 10> kFirstNames = {"ftyp", "moov", "mdat", "wide", "free",
                                                           "skip", "pnot", "styp", "sidx", "moof"};
 
-constexpr std::uint32_t kMostBoxes = 1 << 20;
+constexpr std::uint32_t kIsoMediaMostBoxes = 1 << 20;
 constexpr std::uint32_t kMostFillers = 64;  // in front of anything else
-constexpr std::size_t kMostData = 1024;     // media data boxes of a file whose content is checked
+constexpr std::size_t kMostData = 1 << 14;  // media data boxes of a file whose content is checked
 
 bool isNameLike(std::string_view name) {
     return std::all_of(name.begin(), name.end(), [](char c) {
@@ -58,6 +58,7 @@ struct IsoWalk {
     bool cut = false;
     std::optional<IsoBox> movie, pictures;
     std::vector<DataPlace> data;
+    std::vector<IsoBox> fragments;
     Facts facts;
 };
 
@@ -74,7 +75,7 @@ bool holdsBox(ByteView& view, const IsoBox& outer, std::string_view name) {
 IsoWalk walkBoxes(ByteView& view, std::uint64_t start, bool wantFacts) {
     IsoWalk walk;
     walk.at = start;
-    for (std::uint32_t boxes = 0; boxes < kMostBoxes; ++boxes) {
+    for (std::uint32_t boxes = 0; boxes < kIsoMediaMostBoxes; ++boxes) {
         const auto box = readIsoBox(view, walk.at);
         if (!box)
             return walk;
@@ -114,6 +115,8 @@ IsoWalk walkBoxes(ByteView& view, std::uint64_t start, bool wantFacts) {
             walk.pictures = box;
         else if (name == "mdat" && walk.data.size() < kMostData)
             walk.data.push_back({box->body, box->end});
+        else if (name == "moof" && walk.fragments.size() < kMostData)
+            walk.fragments.push_back(*box);
         if (box->end > view.size()) {
             walk.cut = true;
             return walk;
@@ -123,11 +126,15 @@ IsoWalk walkBoxes(ByteView& view, std::uint64_t start, bool wantFacts) {
     return walk;
 }
 
-// Of the movie or of the pictures. A movie in fragments keeps its tables elsewhere.
+// Of the movie or of the pictures.
 ContentCheck checkContent(ByteView& view, const IsoWalk& walk) {
-    if (walk.movie && !walk.seen.fragment && walk.data.size() < kMostData)
+    if (walk.data.size() == kMostData || walk.fragments.size() == kMostData)
+        return {};
+    if (walk.seen.fragment)
+        return checkFragments(view, walk.movie, walk.fragments, walk.data);
+    if (walk.movie)
         return checkSamples(view, *walk.movie, walk.data);
-    return walk.pictures && !walk.movie ? checkItems(view, *walk.pictures) : ContentCheck{};
+    return walk.pictures ? checkItems(view, *walk.pictures) : ContentCheck{};
 }
 
 Extent walkIsoMedia(ByteView& view) {

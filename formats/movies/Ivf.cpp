@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kMostFrames = std::uint64_t{1} << 32;
+constexpr std::uint64_t kIvfMostFrames = std::uint64_t{1} << 32;
 
 Extent walkIvf(ByteView& view) {
     constexpr std::uint64_t kHead = 32, kFrame = 12, kMostApart = 1 << 24;
@@ -16,7 +16,7 @@ Extent walkIvf(ByteView& view) {
     facts.width = view.le16(12).value_or(0);
     facts.height = view.le16(14).value_or(0);
     std::uint64_t at = kHead, last = 0;
-    for (std::uint64_t frames = 0; frames < kMostFrames; ++frames) {
+    for (std::uint64_t frames = 0; frames < kIvfMostFrames; ++frames) {
         Cursor in(view, at, Endian::Little);
         const auto bytes = in.u32();
         const auto time = in.u64();

@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::uint32_t kEbml = 0x1A45DFA3, kSegment = 0x18538067, kVoid = 0xEC, kCrc = 0xBF;
 constexpr std::uint32_t kInfo = 0x1549A966, kTracks = 0x1654AE6B, kCluster = 0x1F43B675;
-constexpr std::uint32_t kTrackEntry = 0xAE, kVideo = 0xE0, kPixelWidth = 0xB0, kPixelHeight = 0xBA,
+constexpr std::uint32_t kTrackEntry = 0xAE, kMatroskaVideo = 0xE0, kPixelWidth = 0xB0, kPixelHeight = 0xBA,
                         kDate = 0x4461;
 
 // Children of a segment: seek head, info, tracks, cluster, cues, attachments, chapters, tags.
@@ -33,7 +33,7 @@ constexpr int kMostFactElements = 512;
 constexpr std::uint64_t kSmallFile = 4 * 1024 * 1024;
 constexpr std::uint64_t kClustersLookedAt = 48;
 constexpr int kBlocksLookedAt = 16;
-constexpr int kMostBlocks = 1 << 16;
+constexpr int kMatroskaMostBlocks = 1 << 16;
 
 struct Element {
     std::uint32_t id = 0;
@@ -82,7 +82,7 @@ void addFacts(ByteView& view, const Element& parent, Facts& facts) {
         const bool small = element->bytes >= 1 && element->bytes <= 8;
         const auto value = small ? view.number(element->body, element->bytes, Endian::Big).value_or(0) : 0;
         at = element->end();
-        if (element->id == kTrackEntry || element->id == kVideo)
+        if (element->id == kTrackEntry || element->id == kMatroskaVideo)
             at = element->body;
         else if (element->id == kPixelWidth && parent.id == kTracks)
             facts.width = std::max(facts.width, static_cast<std::uint32_t>(value));
@@ -129,7 +129,7 @@ void MatroskaWalk::openCluster() {
 bool MatroskaWalk::isRowOfBlocks(const Element& cluster, bool all) {
     int strangers = 0;
     std::uint64_t at = cluster.body;
-    for (int i = 0; i < (all ? kMostBlocks : kBlocksLookedAt) && at < cluster.end(); ++i) {
+    for (int i = 0; i < (all ? kMatroskaMostBlocks : kBlocksLookedAt) && at < cluster.end(); ++i) {
         const auto element = readElement(m_view, at);
         if (!element || element->unknownSize || element->end() > cluster.end())
             return false;

@@ -8,9 +8,9 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kMostStuffing = 64 * 1024;  // zero bytes between packets
-constexpr std::uint64_t kMostSilence = 256 * 1024;  // without a start code in bare video
-constexpr std::uint64_t kFewCodes = 4;              // fewer start codes do not make a video
+constexpr std::uint64_t kMostStuffing = 64 * 1024;                // zero bytes between packets
+constexpr std::uint64_t kMpegPsAndVideoMostSilence = 256 * 1024;  // without a start code in bare video
+constexpr std::uint64_t kFewCodes = 4;                            // fewer start codes do not make a video
 
 // The code behind 00 00 01 at `at`; nothing when no start code stands there.
 std::optional<std::uint8_t> startCode(ByteView& view, std::uint64_t at) {
@@ -127,7 +127,7 @@ Extent walkMpegVideo(ByteView& view) {
     std::uint64_t longest = 0;
     std::uint64_t codes = 0;
     for (;; ++codes) {
-        const auto limit = std::min(view.size(), at + kMostSilence);
+        const auto limit = std::min(view.size(), at + kMpegPsAndVideoMostSilence);
         const auto next = findStartCode(view, at + 4, limit);
         if (next.stopped() && codes >= kFewCodes)
             return inexact(cutOffAt(view, next.at, facts));

@@ -9,7 +9,7 @@ namespace vantor {
 namespace {
 
 constexpr std::uint64_t kPacketBytes = 188;
-constexpr int kProof = 5;  // packets in step that make a stream
+constexpr int kMpegTsProof = 5;  // packets in step that make a stream
 
 struct Layout {
     std::uint64_t stride;
@@ -19,7 +19,7 @@ constexpr std::array<Layout, 3> kLayouts = {Layout{188, 0}, Layout{192, 4}, Layo
 
 bool isInStep(ByteView& view, const Layout& layout) {
     int seen = 0;
-    for (std::uint64_t at = layout.lead; seen < kProof; at += layout.stride, ++seen) {
+    for (std::uint64_t at = layout.lead; seen < kMpegTsProof; at += layout.stride, ++seen) {
         const auto sync = view.u8(at);
         if (!sync)
             return seen >= 2;

@@ -11,11 +11,11 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kHead = 12;  // outer name, size, form
-constexpr std::uint32_t kMostChunks = 1 << 16;
+constexpr std::uint64_t kRiffHead = 12;  // outer name, size, form
+constexpr std::uint32_t kRiffMostChunks = 1 << 16;
 // Of a movie's data up to so much is followed chunk by chunk; of more the first chunks, and so many of its
 // index, spread evenly.
-constexpr std::uint64_t kSmallMovie = 4 * 1024 * 1024;
+constexpr std::uint64_t kRiffSmallMovie = 4 * 1024 * 1024;
 constexpr int kFirstChunks = 64;
 constexpr std::uint64_t kIndexEntries = 64;
 constexpr std::uint32_t kUnsetSize = 0xFFFFFFFF;
@@ -78,7 +78,7 @@ class RiffWalk {
 // Whether the chunks of a movie's data fill their list, or its first ones are such.
 void RiffWalk::movieData(const Chunk& list) {
     m_movie = m_movie == 0 ? list.body : m_movie;
-    const bool all = list.bytes <= kSmallMovie;
+    const bool all = list.bytes <= kRiffSmallMovie;
     std::uint64_t widest = 0;
     std::uint64_t at = list.body + 4;
     for (int i = 0; (all || i < kFirstChunks) && addClamped(at, 8) <= list.end(); ++i) {
@@ -136,7 +136,7 @@ bool RiffWalk::isFilled(std::uint64_t told) {
 
 // The chunks of one outer chunk that should end at `told`; m_at moves behind the last.
 RiffWalk::Step RiffWalk::inner(std::uint64_t told) {
-    for (std::uint32_t chunks = 0; chunks < kMostChunks; ++chunks) {
+    for (std::uint32_t chunks = 0; chunks < kRiffMostChunks; ++chunks) {
         // Some recorders count a few bytes too many: what cannot hold a chunk is none of the file.
         if (m_at >= told || told - m_at < 8)
             return Step::Done;
@@ -184,7 +184,7 @@ RiffWalk::Step RiffWalk::outer() {
         return Step::Cut;
     m_view.copy(m_at + 8, {reinterpret_cast<std::uint8_t*>(m_form.data()), m_form.size()});
     const std::uint64_t start = m_at;
-    m_at += kHead;
+    m_at += kRiffHead;
     if (size == 0 || size == kUnsetSize)
         return m_view.matches(start, "RF64") || m_view.matches(start, "BW64") ? inner(m_view.size())
                                                                               : Step::Unbounded;
@@ -205,7 +205,7 @@ Extent RiffWalk::walk() {
     Step step = outer();
     // An AVI beyond its first gigabyte goes on in further outer chunks.
     const bool avi = std::string_view(m_form.data(), m_form.size()) == "AVI ";
-    for (std::uint32_t more = 0; step == Step::Done && avi && more < kMostChunks; ++more) {
+    for (std::uint32_t more = 0; step == Step::Done && avi && more < kRiffMostChunks; ++more) {
         if (!m_view.matches(m_at, "RIFF") || !m_view.matches(m_at + 8, "AVIX"))
             break;
         step = outer();

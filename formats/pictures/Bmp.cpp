@@ -9,7 +9,7 @@ namespace vantor {
 namespace {
 
 constexpr std::uint64_t kFileHeader = 14;
-constexpr std::uint32_t kMostSide = 1 << 20;
+constexpr std::uint32_t kBmpMostSide = 1 << 20;
 constexpr std::uint64_t kMostSlack = 4096;  // what writers add behind the pixels and count in
 
 struct BmpHeader {
@@ -50,8 +50,8 @@ bool isPlausible(const BmpHeader& header) {
     const bool bits = header.bits == 0 || header.bits == 1 || header.bits == 2 || header.bits == 4 ||
                       header.bits == 8 || header.bits == 16 || header.bits == 24 || header.bits == 32;
     const bool size = header.headerBytes == 12 || (header.headerBytes >= 16 && header.headerBytes <= 124);
-    return bits && size && header.width != 0 && header.width <= kMostSide && header.height != 0 &&
-           header.height <= kMostSide && header.compression <= 13 &&
+    return bits && size && header.width != 0 && header.width <= kBmpMostSide && header.height != 0 &&
+           header.height <= kBmpMostSide && header.compression <= 13 &&
            header.pixelsAt >= kFileHeader + header.headerBytes && header.pixelsAt <= (1U << 20);
 }
 

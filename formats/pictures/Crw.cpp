@@ -8,7 +8,7 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kMostSearch = 256 * 1024 * 1024;  // no camera of these makes wrote larger files
+constexpr std::uint64_t kCrwMostSearch = 256 * 1024 * 1024;  // no camera of these makes wrote larger files
 
 // Whether the directory of a CIFF heap that starts at `heap` stands at `at` and is closed by its own
 // position.
@@ -31,7 +31,7 @@ Extent walkCrw(ByteView& view) {
     const std::uint64_t heap = view.le32(2).value_or(0);
     if (!view.matches(0, "II") || !view.matches(6, "HEAPCCDR") || heap < 14 || heap > 4096)
         return unknownExtent();
-    const auto limit = std::min(view.size(), kMostSearch);
+    const auto limit = std::min(view.size(), kCrwMostSearch);
     constexpr std::size_t kReach = 2 + kMostEntries * 10 + 4;
     std::uint64_t at = heap;
     while (at < limit) {

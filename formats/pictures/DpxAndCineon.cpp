@@ -9,7 +9,7 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint32_t kUnset = 0xFFFFFFFF;
+constexpr std::uint32_t kDpxAndCineonUnset = 0xFFFFFFFF;
 constexpr std::uint64_t kMostPixels = 1 << 28;
 
 // Bytes of an uncompressed picture whose samples are filled up to words; 0 where they are packed otherwise.
@@ -25,8 +25,8 @@ std::uint64_t pixelBytes(const Facts& facts, std::uint64_t samplesEach, unsigned
 Extent frameEnd(const ByteView& view, std::uint32_t told, std::uint64_t start, std::uint64_t pixels,
                 const Facts& facts) {
     const std::uint64_t least = start + pixels;
-    return told == kUnset ? inexact(completeAt(view, least, facts))
-                          : completeAt(view, std::max<std::uint64_t>(told, least), facts);
+    return told == kDpxAndCineonUnset ? inexact(completeAt(view, least, facts))
+                                      : completeAt(view, std::max<std::uint64_t>(told, least), facts);
 }
 
 bool isPlausible(const Facts& facts) {

@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kEmfForms[] = {
     {{40, " EMF\0\0\1\0"_b}, {0, "\1\0\0\0"_b}, 48, 4, Endian::Little, 108},
 };
 
@@ -14,7 +14,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kEmf = {
     .name = "EMF",
     .group = Group::Pictures,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kEmfForms>,
     .extensions = " EMF ",
     .mayNotTellEnd = true,
 };

@@ -8,7 +8,7 @@ namespace vantor {
 namespace {
 
 constexpr std::uint64_t kScreenEnd = 13;
-constexpr std::uint64_t kMostPadding = 4;  // stray zero bytes some writers leave between blocks
+constexpr std::uint64_t kGifMostPadding = 4;  // stray zero bytes some writers leave between blocks
 
 std::uint64_t colourTableBytes(std::uint8_t flags) {
     return (flags & 0x80) != 0 ? std::uint64_t{3} << ((flags & 7) + 1) : 0;
@@ -65,7 +65,7 @@ Extent walkGif(ByteView& view) {
             if (flags && codeBits && (*codeBits < 1 || *codeBits > 11))
                 return damagedAt(view, at, facts);
             next = skipSubBlocks(view, at + 11 + colourTableBytes(flags.value_or(0)));
-        } else if (*kind == 0 && ++padding <= kMostPadding) {
+        } else if (*kind == 0 && ++padding <= kGifMostPadding) {
             next.at = at + 1;
         } else {
             return damagedAt(view, at, facts);

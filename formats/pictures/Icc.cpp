@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kIccForms[] = {
     {{36, "acsp"}, {}, 0, 4, Endian::Big, 132},
 };
 
@@ -14,7 +14,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kIcc = {
     .name = "ICC profile",
     .group = Group::Pictures,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kIccForms>,
     .extensions = " ICC ICM ",
     .mayNotTellEnd = true,
 };

@@ -19,7 +19,7 @@ constexpr std::uint8_t kSos = 0xDA;
 // text) unless the picture goes on properly behind it, as blank areas can.
 constexpr std::uint64_t kSuspiciousRun = 8 * 1024;
 // Beyond this nobody goes on looking.
-constexpr std::uint64_t kHopelessRun = 4 * 1024 * 1024;
+constexpr std::uint64_t kJpegHopelessRun = 4 * 1024 * 1024;
 constexpr std::uint64_t kMostFillBytes = 64;       // 0xFF before a marker
 constexpr std::uint64_t kMostSegmentPadding = 64;  // stray bytes some writers leave between segments
 constexpr std::uint64_t kMostPictures = 64;        // of a multi-picture file
@@ -156,11 +156,11 @@ void JpegWalk::judgeScan(std::uint64_t head, std::uint64_t from) {
 JpegWalk::Step JpegWalk::scan() {
     int restart = -1;
     for (;;) {
-        const auto search = m_view.find(0xFF, m_at, std::min(m_view.size(), m_at + kHopelessRun));
+        const auto search = m_view.find(0xFF, m_at, std::min(m_view.size(), m_at + kJpegHopelessRun));
         const auto hit = search.at;
         if (hit - m_at >= kSuspiciousRun && m_suspect == 0)
             m_suspect = m_at;
-        if (hit - m_at >= kHopelessRun)
+        if (hit - m_at >= kJpegHopelessRun)
             return Step::Broken;
         m_at = hit;
         const auto next = search.found() ? m_view.u8(hit + 1) : std::nullopt;

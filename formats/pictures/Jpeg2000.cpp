@@ -11,7 +11,7 @@ namespace vantor {
 namespace {
 
 constexpr std::uint16_t kSoc = 0xFF4F, kSiz = 0xFF51, kSot = 0xFF90, kEoc = 0xFFD9;
-constexpr int kMostBoxes = 65536;
+constexpr int kJpeg2000MostBoxes = 65536;
 
 constexpr std::array<std::string_view, 18> kJp2Names = {"ftyp", "jp2h", "jp2c", "jp2i", "uuid", "uinf",
                                                         "xml ", "rreq", "asoc", "ftbl", "jpch", "jplh",
@@ -93,7 +93,7 @@ Extent walkJp2Boxes(ByteView& view) {
     std::uint64_t at = 12;
     Facts facts;
     bool sawPicture = false;
-    for (int boxes = 0; boxes < kMostBoxes; ++boxes) {
+    for (int boxes = 0; boxes < kJpeg2000MostBoxes; ++boxes) {
         const auto box = readIsoBox(view, at);
         if (!box || !isAmong(kJp2Names, box->text()))
             break;

@@ -10,7 +10,7 @@ namespace vantor {
 
 namespace {
 
-constexpr int kMostBoxes = 65536;
+constexpr int kJpegXlMostBoxes = 65536;
 
 constexpr std::array<std::string_view, 9> kJxlNames = {"ftyp", "jxlc", "jxlp", "jxll", "jxli",
                                                        "Exif", "xml ", "brob", "jbrd"};
@@ -21,7 +21,7 @@ Extent walkJpegXl(ByteView& view) {
     std::uint64_t at = 12;
     Facts facts;
     bool sawPicture = false;
-    for (int boxes = 0; boxes < kMostBoxes; ++boxes) {
+    for (int boxes = 0; boxes < kJpegXlMostBoxes; ++boxes) {
         const auto box = readIsoBox(view, at);
         if (!box || !isAmong(kJxlNames, box->text()))
             break;

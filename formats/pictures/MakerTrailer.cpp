@@ -8,8 +8,8 @@ namespace vantor {
 namespace {
 
 constexpr std::uint64_t kMostName = 64;
-constexpr std::uint64_t kMostBlocks = 256;
-constexpr std::uint64_t kMostBytes = 256 * 1024 * 1024;  // a short movie may be among them
+constexpr std::uint64_t kMakerTrailerMostBlocks = 256;
+constexpr std::uint64_t kMakerTrailerMostBytes = 256 * 1024 * 1024;  // a short movie may be among them
 constexpr std::uint64_t kListHead = 12, kListEntry = 12;
 
 bool beginsBlock(ByteView& view, std::uint64_t at) {
@@ -28,7 +28,7 @@ bool beginsBlock(ByteView& view, std::uint64_t at) {
 std::uint64_t endOfList(ByteView& view, std::uint64_t list, std::uint64_t at) {
     const auto blocks = view.le32(list + 8).value_or(0);
     const auto bytes = kListHead + blocks * kListEntry;
-    if (blocks == 0 || blocks > kMostBlocks || view.le32(list + bytes) != bytes ||
+    if (blocks == 0 || blocks > kMakerTrailerMostBlocks || view.le32(list + bytes) != bytes ||
         !view.matches(list + bytes + 4, "SEFT"))
         return 0;
     std::uint64_t furthest = 0;
@@ -44,7 +44,7 @@ std::uint64_t endOfList(ByteView& view, std::uint64_t list, std::uint64_t at) {
 std::uint64_t endOfMakerTrailer(ByteView& view, std::uint64_t at) {
     if (!beginsBlock(view, at))
         return 0;
-    const auto limit = std::min(view.size(), addClamped(at, kMostBytes));
+    const auto limit = std::min(view.size(), addClamped(at, kMakerTrailerMostBytes));
     for (auto sign = view.find('S', at, limit); sign.found(); sign = view.find('S', sign.at + 1, limit)) {
         if (!view.matches(sign.at, "SEFH"))
             continue;

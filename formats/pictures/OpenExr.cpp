@@ -10,9 +10,9 @@ namespace vantor {
 namespace {
 
 constexpr std::uint32_t kTiled = 0x200, kDeep = 0x800, kMultiPart = 0x1000;
-constexpr std::uint32_t kMostParts = 1024, kMostAttributes = 4096;
-constexpr std::uint64_t kMostChunks = 1 << 22;
-constexpr std::uint64_t kLongestName = 256;
+constexpr std::uint32_t kOpenExrMostParts = 1024, kMostAttributes = 4096;
+constexpr std::uint64_t kOpenExrMostChunks = 1 << 22;
+constexpr std::uint64_t kOpenExrLongestName = 256;
 
 enum class Kind : std::uint8_t { Lines, Tiles, DeepLines, DeepTiles };
 
@@ -41,13 +41,13 @@ class ExrWalk {
     ByteView& m_view;
     const std::uint32_t m_version;
     std::uint64_t m_at = 8;
-    std::array<Kind, kMostParts> m_parts{};
+    std::array<Kind, kOpenExrMostParts> m_parts{};
     std::uint32_t m_partCount = 0;
     Facts m_facts;
 };
 
 std::optional<std::uint64_t> ExrWalk::behindName() const {
-    const auto nul = m_view.find(0, m_at, m_at + kLongestName);
+    const auto nul = m_view.find(0, m_at, m_at + kOpenExrLongestName);
     return nul.found() ? std::optional(nul.at + 1) : std::nullopt;
 }
 
@@ -62,7 +62,7 @@ ExrWalk::Step ExrWalk::header(Kind& kind) {
         for (int text = 0; text < 2; ++text) {
             const auto behind = behindName();
             if (!behind)
-                return m_view.holds(m_at, kLongestName) ? Step::Broken : Step::Cut;
+                return m_view.holds(m_at, kOpenExrLongestName) ? Step::Broken : Step::Cut;
             m_at = *behind;
         }
         const auto bytes = m_view.le32(m_at);
@@ -87,7 +87,7 @@ ExrWalk::Step ExrWalk::header(Kind& kind) {
 ExrWalk::Step ExrWalk::headers() {
     const bool deep = (m_version & kDeep) != 0, tiled = (m_version & kTiled) != 0;
     const Kind single = deep ? Kind::DeepLines : tiled ? Kind::Tiles : Kind::Lines;
-    for (; m_partCount < (isMultiPart() ? kMostParts : 1U); ++m_partCount) {
+    for (; m_partCount < (isMultiPart() ? kOpenExrMostParts : 1U); ++m_partCount) {
         Kind kind = single;
         const Step step = header(kind);
         if (step == Step::None && isMultiPart() && m_partCount != 0)
@@ -103,7 +103,7 @@ ExrWalk::Step ExrWalk::headers() {
 ExrWalk::Step ExrWalk::lastChunk(std::uint64_t& chunk) {
     std::uint64_t first = ~std::uint64_t{0};
     const auto start = m_at;
-    for (std::uint64_t entries = 0; entries < kMostChunks && m_at < first; ++entries, m_at += 8) {
+    for (std::uint64_t entries = 0; entries < kOpenExrMostChunks && m_at < first; ++entries, m_at += 8) {
         const auto place = m_view.le64(m_at);
         if (!place)
             return Step::Cut;

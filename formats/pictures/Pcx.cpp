@@ -7,7 +7,7 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kMostPixels = 1 << 28;  // beyond all pictures of this kind
+constexpr std::uint64_t kPcxMostPixels = 1 << 28;  // beyond all pictures of this kind
 
 }  // namespace
 
@@ -29,7 +29,7 @@ Extent walkPcxAt(ByteView& view, std::uint64_t base) {
     facts.height = bottom - top + 1U;
     // Runs must cover the rows; a run may, against the rules, cross into the next row.
     const std::uint64_t wanted = std::uint64_t{rowBytes} * planes * facts.height;
-    if (wanted > kMostPixels)
+    if (wanted > kPcxMostPixels)
         return unknownExtent();
     std::uint64_t at = base + kHead + (encoding == 0 ? wanted : 0);
     for (std::uint64_t done = encoding == 0 ? wanted : 0; done < wanted;) {

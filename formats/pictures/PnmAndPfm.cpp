@@ -7,8 +7,8 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kMostSide = 1 << 20;  // pixels
-constexpr std::uint64_t kMostPixels = 1ULL << 30;
+constexpr std::uint64_t kPnmAndPfmMostSide = 1 << 20;  // pixels
+constexpr std::uint64_t kPnmAndPfmMostPixels = 1ULL << 30;
 
 // The decimal numbers in the head of a portable any map, with comments between them.
 class MapHead {
@@ -23,7 +23,8 @@ class MapHead {
                 m_at = m_view.find('\n', m_at, kLongestHead).at;
         }
         std::uint64_t value = 0;
-        for (auto digit = m_view.u8(m_at); digit && *digit >= '0' && *digit <= '9' && value < kMostPixels;
+        for (auto digit = m_view.u8(m_at);
+             digit && *digit >= '0' && *digit <= '9' && value < kPnmAndPfmMostPixels;
              digit = m_view.u8(++m_at))
             value = value * 10 + (*digit - '0');
         return value;
@@ -79,8 +80,8 @@ Extent walkAnyMap(ByteView& view) {
     const auto width = head.number(), height = head.number();
     const auto most = kind == '4' || kind == '1' ? 1 : head.number();
     const auto start = head.end();
-    if (!start || width == 0 || height == 0 || width > kMostSide || height > kMostSide || most == 0 ||
-        most > 65535)
+    if (!start || width == 0 || height == 0 || width > kPnmAndPfmMostSide || height > kPnmAndPfmMostSide ||
+        most == 0 || most > 65535)
         return unknownExtent();
     Facts facts;
     facts.width = static_cast<std::uint32_t>(width);
@@ -100,7 +101,7 @@ Extent walkFloatMap(ByteView& view) {
     const auto width = head.number(), height = head.number();
     head.word();  // the scale, whose sign tells the order of bytes
     const auto start = head.end();
-    if (!start || width == 0 || height == 0 || width > kMostSide || height > kMostSide)
+    if (!start || width == 0 || height == 0 || width > kPnmAndPfmMostSide || height > kPnmAndPfmMostSide)
         return unknownExtent();
     Facts facts;
     facts.width = static_cast<std::uint32_t>(width);

@@ -5,16 +5,17 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kMostSide = 1 << 20;  // pixels
-constexpr std::uint64_t kMostPixels = 1ULL << 30;
+constexpr std::uint64_t kQoiMostSide = 1 << 20;  // pixels
+constexpr std::uint64_t kQoiMostPixels = 1ULL << 30;
 
 Extent walkQoi(ByteView& view) {
     constexpr std::uint64_t kHead = 14;
     Cursor in(view, 4);
     const std::uint64_t width = in.u32(), height = in.u32();
     const auto channels = in.u8(), space = in.u8();
-    if (!view.matches(0, "qoif") || !in.ok() || width == 0 || height == 0 || width > kMostSide ||
-        height > kMostSide || width * height > kMostPixels || (channels != 3 && channels != 4) || space > 1)
+    if (!view.matches(0, "qoif") || !in.ok() || width == 0 || height == 0 || width > kQoiMostSide ||
+        height > kQoiMostSide || width * height > kQoiMostPixels || (channels != 3 && channels != 4) ||
+        space > 1)
         return unknownExtent();
     Facts facts;
     facts.width = static_cast<std::uint32_t>(width);

@@ -8,9 +8,9 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kMostHead = 64 * 1024;  // bytes
-constexpr std::uint64_t kMostSide = 1 << 20;    // pixels
-constexpr std::uint64_t kMostPixels = 1 << 30;
+constexpr std::uint64_t kRadianceMostHead = 64 * 1024;  // bytes
+constexpr std::uint64_t kRadianceMostSide = 1 << 20;    // pixels
+constexpr std::uint64_t kRadianceMostPixels = 1 << 30;
 constexpr std::uint64_t kPixelBytes = 4;
 constexpr int kChannels = 4;
 
@@ -24,8 +24,8 @@ struct Lines {
 
 // Behind the blank line that ends the head; 0 when there is none.
 std::uint64_t behindHead(ByteView& view) {
-    for (auto line = view.find('\n', 0, kMostHead); line.found();
-         line = view.find('\n', line.at + 1, kMostHead)) {
+    for (auto line = view.find('\n', 0, kRadianceMostHead); line.found();
+         line = view.find('\n', line.at + 1, kRadianceMostHead)) {
         if (view.u8(line.at + 1) == '\n')
             return line.at + 2;
     }
@@ -40,10 +40,10 @@ std::uint64_t axis(ByteView& view, std::uint64_t& at, char end) {
         return 0;
     std::uint64_t length = 0;
     at += 3;
-    for (auto digit = view.u8(at); digit && *digit >= '0' && *digit <= '9' && length <= kMostSide;
+    for (auto digit = view.u8(at); digit && *digit >= '0' && *digit <= '9' && length <= kRadianceMostSide;
          digit = view.u8(++at))
         length = length * 10 + (*digit - '0');
-    return view.u8(at++) == end && length <= kMostSide ? length : 0;
+    return view.u8(at++) == end && length <= kRadianceMostSide ? length : 0;
 }
 
 // One channel of a line: runs and literal bytes until the line is full.
@@ -106,7 +106,7 @@ Extent walkRadiance(ByteView& view) {
     const bool linesAreRows = view.u8(lines.begin + 1) == 'Y';
     lines.count = axis(view, lines.begin, ' ');
     lines.pixels = lines.count == 0 ? 0 : axis(view, lines.begin, '\n');
-    if (lines.pixels == 0 || lines.count * lines.pixels > kMostPixels)
+    if (lines.pixels == 0 || lines.count * lines.pixels > kRadianceMostPixels)
         return unknownExtent();
     Facts facts;
     facts.width = static_cast<std::uint32_t>(linesAreRows ? lines.pixels : lines.count);

@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kMostPixels = 1 << 28;  // beyond all pictures of this kind
+constexpr std::uint64_t kTgaMostPixels = 1 << 28;  // beyond all pictures of this kind
 
 Extent walkTga(ByteView& view) {
     Cursor in(view, 0, Endian::Little);
@@ -22,7 +22,7 @@ Extent walkTga(ByteView& view) {
     const bool depth = bits == 8 || bits == 15 || bits == 16 || bits == 24 || bits == 32;
     const bool map = mapBits == 0 || mapBits == 15 || mapBits == 16 || mapBits == 24 || mapBits == 32;
     if (!in.ok() || mapped > 1 || plain < 1 || plain > 3 || (type & ~11) != 0 || !depth || !map ||
-        facts.width == 0 || facts.height == 0 || std::uint64_t{facts.width} * facts.height > kMostPixels ||
+        facts.width == 0 || facts.height == 0 || std::uint64_t{facts.width} * facts.height > kTgaMostPixels ||
         (descriptor & 0xC0) != 0 || (plain == 1) != (mapped == 1))
         return unknownExtent();
     const std::uint64_t pixelBytes = (bits + 7U) / 8;

@@ -8,12 +8,12 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kMostSearch = 256 * 1024 * 1024;  // no camera of these makes wrote larger files
+constexpr std::uint64_t kX3fMostSearch = 256 * 1024 * 1024;  // no camera of these makes wrote larger files
 
 Extent walkX3f(ByteView& view) {
     if (!view.matches(0, "FOVb"))
         return unknownExtent();
-    const auto limit = std::min(view.size(), kMostSearch);
+    const auto limit = std::min(view.size(), kX3fMostSearch);
     constexpr std::uint64_t kMostEntries = 256;
     auto mark = view.find('S', 4, limit);
     for (; mark.found(); mark = view.find('S', mark.at + 1, limit)) {

@@ -10,9 +10,9 @@ namespace vantor {
 namespace {
 
 constexpr std::uint64_t kTileSide = 64;
-constexpr std::uint32_t kMostItems = 4096;       // layers and channels
-constexpr std::uint64_t kMostTiles = 1 << 20;    // of the whole picture
-constexpr std::uint32_t kMostProperties = 4096;  // of one item
+constexpr std::uint32_t kXcfMostItems = 4096;       // layers and channels
+constexpr std::uint64_t kMostTiles = 1 << 20;       // of the whole picture
+constexpr std::uint32_t kXcfMostProperties = 4096;  // of one item
 
 enum class Packing : std::uint8_t { None = 0, Runs = 1, Zlib = 2 };
 
@@ -53,7 +53,7 @@ std::uint64_t XcfWalk::pointer(std::uint64_t& at) {
 
 std::uint64_t XcfWalk::skipProperties(std::uint64_t at, bool image) {
     constexpr std::uint32_t kEnd = 0, kCompression = 17;
-    for (std::uint32_t i = 0; i < kMostProperties; ++i) {
+    for (std::uint32_t i = 0; i < kXcfMostProperties; ++i) {
         Cursor in(m_view, at);
         const auto kind = in.u32(), bytes = in.u32();
         if (!in.ok())
@@ -145,7 +145,7 @@ Extent XcfWalk::lastTileEnd(const Facts& facts) {
 Extent XcfWalk::walk(std::uint64_t at, Facts facts) {
     at = skipProperties(at, true);
     for (const bool layers : {true, false}) {
-        for (std::uint32_t i = 0; i < kMostItems && !m_missing; ++i) {
+        for (std::uint32_t i = 0; i < kXcfMostItems && !m_missing; ++i) {
             const auto where = pointer(at);
             if (where == 0)
                 break;

@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kBrstmForms[] = {
     {{0, "RSTM\xFE\xFF"}, {}, 8, 4, Endian::Big, 64},
 };
 
@@ -14,7 +14,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kBrstm = {
     .name = "BRSTM",
     .group = Group::Sounds,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kBrstmForms>,
     .extensions = " BRSTM ",
     .mayNotTellEnd = true,
 };

@@ -8,7 +8,7 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint32_t kMostBlocks = 1 << 20;
+constexpr std::uint32_t kCoreAudioMostBlocks = 1 << 20;
 
 constexpr std::array<std::string_view, 16> kCoreAudioChunks = {"desc", "data", "kuki", "pakt", "strg", "mark",
                                                                "regn", "inst", "midi", "ovvw", "peak", "edct",
@@ -19,7 +19,7 @@ Extent walkCoreAudio(ByteView& view) {
         return unknownExtent();
     bool data = false;
     std::uint64_t at = 8;
-    for (std::uint32_t chunks = 0; chunks < kMostBlocks; ++chunks) {
+    for (std::uint32_t chunks = 0; chunks < kCoreAudioMostBlocks; ++chunks) {
         const auto isHere = [&](std::string_view name) { return view.matches(at, name); };
         const auto bytes = view.be64(at + 4);
         if (!bytes || std::none_of(kCoreAudioChunks.begin(), kCoreAudioChunks.end(), isHere)) {

@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint32_t kMostBlocks = 1 << 20;
+constexpr std::uint32_t kCreativeVoiceMostBlocks = 1 << 20;
 
 Extent walkVoice(ByteView& view) {
     constexpr std::uint8_t kDescribedSamples = 9, kLastKind = kDescribedSamples;
@@ -15,7 +15,7 @@ Extent walkVoice(ByteView& view) {
     if (at < 26 || at > 4096)
         return unknownExtent();
     std::uint8_t before = 0;  // kind of the last block
-    for (std::uint32_t blocks = 0; blocks < kMostBlocks; ++blocks) {
+    for (std::uint32_t blocks = 0; blocks < kCreativeVoiceMostBlocks; ++blocks) {
         const auto kind = view.u8(at);
         if (!kind)
             return cutOffAt(view, view.size());

@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kDsdiffForms[] = {
     {{0, "FRM8"}, {12, "DSD "}, 4, 8, Endian::Big, 64, 1, 12},
 };
 
@@ -14,7 +14,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kDsdiff = {
     .name = "DSDIFF",
     .group = Group::Sounds,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kDsdiffForms>,
     .extensions = " DFF ",
     .large = true,
     .mayNotTellEnd = true,

@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kDsfForms[] = {
     {{0, "DSD \x1C\0\0\0\0\0\0\0"_b}, {28, "fmt "}, 12, 8, Endian::Little, 92},
 };
 
@@ -14,7 +14,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kDsf = {
     .name = "DSF",
     .group = Group::Sounds,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kDsfForms>,
     .extensions = " DSF ",
     .large = true,
     .mayNotTellEnd = true,

@@ -8,7 +8,7 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kHead = 192, kInstrument = 554, kSound = 80;
+constexpr std::uint64_t kImpulseTrackerHead = 192, kImpulseTrackerInstrument = 554, kImpulseTrackerSound = 80;
 
 // Behind packed sound at `at`: blocks that tell their length, each for a fixed count of samples.
 std::optional<std::uint64_t> behindPackedSound(ByteView& view, std::uint64_t at, std::uint64_t samples,
@@ -58,18 +58,18 @@ Extent walkImpulseTracker(ByteView& view) {
         return cutOffAt(view, view.size());
     if (orders > kMostOrders || instruments > kMostParts || sounds > kMostParts || patterns > kMostParts)
         return unknownExtent();
-    std::uint64_t place = kHead + orders;
+    std::uint64_t place = kImpulseTrackerHead + orders;
     std::uint64_t end = place + 4 * (std::uint64_t{instruments} + sounds + patterns);
     if ((special & 1) != 0 && message != 0)
         end = std::max(end, message + messageBytes);
     for (std::uint32_t i = 0; i < instruments; ++i, place += 4)
-        end = std::max(end, view.le32(place).value_or(0) + kInstrument);
+        end = std::max(end, view.le32(place).value_or(0) + kImpulseTrackerInstrument);
     for (std::uint32_t i = 0; i < sounds; ++i, place += 4) {
         const std::uint64_t header = view.le32(place).value_or(0);
         const auto behind = behindSound(view, header);
         if (!behind)
             return cutOffAt(view, view.size());
-        end = std::max({end, header + kSound, *behind});
+        end = std::max({end, header + kImpulseTrackerSound, *behind});
     }
     for (std::uint32_t i = 0; i < patterns; ++i, place += 4) {
         const auto at = view.le32(place).value_or(0);

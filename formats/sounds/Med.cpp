@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kMedForms[] = {
     {{0, "MMD0"}, {}, 4, 4, Endian::Big, 52},
     {{0, "MMD1"}, {}, 4, 4, Endian::Big, 52},
     {{0, "MMD2"}, {}, 4, 4, Endian::Big, 52},
@@ -16,7 +16,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kMed = {
     .name = "MED",
     .group = Group::Sounds,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kMedForms>,
     .extensions = " MED ",
     .mayNotTellEnd = true,
 };

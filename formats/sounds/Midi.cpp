@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr int kMostChunks = 1 << 16;
+constexpr int kMidiMostChunks = 1 << 16;
 
 Extent walkMidi(ByteView& view) {
     if (!view.matches(0, "MThd"))
@@ -16,7 +16,7 @@ Extent walkMidi(ByteView& view) {
     const auto tracks = in.u16();
     if (!in.ok() || at < 14 || at > 64 || tracks == 0)
         return unknownExtent();
-    for (std::uint32_t seen = 0, chunks = 0; seen < tracks && chunks < kMostChunks; ++chunks) {
+    for (std::uint32_t seen = 0, chunks = 0; seen < tracks && chunks < kMidiMostChunks; ++chunks) {
         const auto bytes = view.be32(at + 4);
         if (!bytes)
             return cutOffAt(view, at);

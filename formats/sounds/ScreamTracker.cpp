@@ -11,7 +11,7 @@ namespace {
 constexpr std::uint64_t kUnit = 16;
 
 // Behind the instrument's header at `at` and its sound.
-std::uint64_t behindInstrument(ByteView& view, std::uint64_t at) {
+std::uint64_t behindSamples(ByteView& view, std::uint64_t at) {
     constexpr std::uint64_t kHead = 80;
     constexpr std::uint8_t kSampled = 1, kStereo = 2, kWide = 4;
     if (view.u8(at) != kSampled)
@@ -44,7 +44,7 @@ Extent walkVersion3(ByteView& view) {
     for (std::uint32_t i = 0; i < instruments; ++i, place += 2) {
         const auto at = view.le16(place).value_or(0) * kUnit;
         if (at != 0)
-            end = std::max(end, behindInstrument(view, at));
+            end = std::max(end, behindSamples(view, at));
     }
     for (std::uint32_t i = 0; i < patterns; ++i, place += 2) {
         const auto at = view.le16(place).value_or(0) * kUnit;

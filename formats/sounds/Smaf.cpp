@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kSmafForms[] = {
     {{0, "MMMD"}, {8, "CNTI"}, 4, 4, Endian::Big, 16, 1, 8},
 };
 
@@ -14,7 +14,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kSmaf = {
     .name = "SMAF",
     .group = Group::Sounds,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kSmafForms>,
     .extensions = " MMF ",
     .mayNotTellEnd = true,
 };

@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kVgmForms[] = {
     {{0, "Vgm "}, {}, 4, 4, Endian::Little, 60, 1, 4},
 };
 
@@ -14,7 +14,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kVgm = {
     .name = "VGM",
     .group = Group::Sounds,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kVgmForms>,
     .extensions = " VGM ",
     .mayNotTellEnd = true,
 };

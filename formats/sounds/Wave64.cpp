@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kWave64Forms[] = {
     {{0, "riff\x2E\x91\xCF\x11\xA5\xD6\x28\xDB\4\xC1\0\0"_b}, {24, "wave"}, 16, 8, Endian::Little, 104},
 };
 
@@ -14,7 +14,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kWave64 = {
     .name = "Wave64",
     .group = Group::Sounds,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kWave64Forms>,
     .extensions = " W64 ",
     .large = true,
     .mayNotTellEnd = true,

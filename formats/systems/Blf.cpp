@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kBlfForms[] = {
     {{0, "LOGG\x90\0\0\0"_b}, {}, 16, 8, Endian::Little, 144},
 };
 
@@ -14,7 +14,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kBlf = {
     .name = "BLF",
     .group = Group::Systems,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kBlfForms>,
     .extensions = " BLF ",
     .mayNotTellEnd = true,
 };

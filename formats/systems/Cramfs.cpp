@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kCramfsForms[] = {
     {{0, "\x45\x3D\xCD\x28"}, {16, "Compressed ROMFS"}, 4, 4, Endian::Little, 76},
 };
 
@@ -14,7 +14,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kCramfs = {
     .name = "cramfs",
     .group = Group::Systems,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kCramfsForms>,
     .extensions = " CRAMFS ",
     .mayNotTellEnd = true,
 };

@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kDeviceTreeForms[] = {
     {{0, "\xD0\x0D\xFE\xED"}, {20, "\0\0\0\x11"_b}, 4, 4, Endian::Big, 40},
 };
 
@@ -14,7 +14,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kDeviceTree = {
     .name = "Device tree",
     .group = Group::Systems,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kDeviceTreeForms>,
     .extensions = " DTB ",
     .mayNotTellEnd = true,
 };

@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kDexForms[] = {
     {{0, "dex\n0"}, {40, "\x78\x56\x34\x12"}, 32, 4, Endian::Little, 112},
 };
 
@@ -14,7 +14,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kDex = {
     .name = "DEX",
     .group = Group::Systems,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kDexForms>,
     .extensions = " DEX ",
     .mayNotTellEnd = true,
 };

@@ -7,7 +7,7 @@ namespace vantor {
 
 namespace {
 
-constexpr int kMostSections = 4096;
+constexpr int kElfMostSections = 4096;
 
 Extent walkElf(ByteView& view) {
     const auto kind = view.u8(4).value_or(0), order = view.u8(5).value_or(0);
@@ -26,7 +26,7 @@ Extent walkElf(ByteView& view) {
     const auto sectionBytes = half(sizes + 4), sectionCount = half(sizes + 6);
     std::uint64_t end = std::max(addClamped(segments, segmentBytes * segmentCount),
                                  addClamped(sections, sectionBytes * sectionCount));
-    for (std::uint64_t i = 0; i < std::min<std::uint64_t>(segmentCount, kMostSections); ++i) {
+    for (std::uint64_t i = 0; i < std::min<std::uint64_t>(segmentCount, kElfMostSections); ++i) {
         const auto at = addClamped(segments, i * segmentBytes);
         end = std::max(end,
                        addClamped(word(addClamped(at, wide ? 8 : 4)), word(addClamped(at, wide ? 32 : 16))));

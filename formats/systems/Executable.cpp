@@ -8,7 +8,7 @@ namespace vantor {
 
 namespace {
 
-constexpr int kMostSections = 4096;
+constexpr int kExecutableMostSections = 4096;
 
 // The loadable part of a DOS program, told in pages of 512 bytes.
 std::uint64_t dosEnd(ByteView& view) {
@@ -35,7 +35,7 @@ Extent walkExecutable(ByteView& view) {
     const auto wide = in.u16() == 0x20B;
     if (!in.ok())
         return cutOffAt(view, view.size());
-    if (sections == 0 || sections > kMostSections)
+    if (sections == 0 || sections > kExecutableMostSections)
         return unknownExtent();
     const std::uint64_t table = optional + optionalBytes;
     std::uint64_t end = table + std::uint64_t{sections} * 40;

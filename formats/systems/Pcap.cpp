@@ -7,7 +7,7 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kMostRecords = std::uint64_t{1} << 32;
+constexpr std::uint64_t kPcapMostRecords = std::uint64_t{1} << 32;
 
 Extent walkPcap(ByteView& view) {
     constexpr std::uint64_t kHead = 24, kRecord = 16, kMostPacket = 262144;
@@ -23,7 +23,7 @@ Extent walkPcap(ByteView& view) {
     const auto most = std::max<std::uint64_t>(kMostPacket, view.number(16, 4, endian).value_or(0) & 0xFFFFFF);
     std::uint64_t at = kHead;
     std::uint32_t first = 0;
-    for (std::uint64_t records = 0; records < kMostRecords; ++records) {
+    for (std::uint64_t records = 0; records < kPcapMostRecords; ++records) {
         Cursor in(view, at, endian);
         const auto seconds = in.u32(), fraction = in.u32(), bytes = in.u32(), original = in.u32();
         if (records == 0)

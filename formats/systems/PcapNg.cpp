@@ -5,13 +5,13 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kMostRecords = std::uint64_t{1} << 32;
+constexpr std::uint64_t kPcapNgMostRecords = std::uint64_t{1} << 32;
 
 Extent walkPcapNg(ByteView& view) {
     constexpr std::uint32_t kSection = 0x0A0D0D0A, kMostBlock = 64 * 1024 * 1024;
     Endian endian = Endian::Little;
     std::uint64_t at = 0;
-    for (std::uint64_t blocks = 0; blocks < kMostRecords; ++blocks) {
+    for (std::uint64_t blocks = 0; blocks < kPcapNgMostRecords; ++blocks) {
         if (view.le32(at) == kSection)
             endian = view.le32(at + 8) == 0x1A2B3C4DU ? Endian::Little : Endian::Big;
         const bool section = view.le32(at) == kSection && view.number(at + 8, 4, endian) == 0x1A2B3C4DU;

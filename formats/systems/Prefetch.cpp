@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kPrefetchForms[] = {
     {{4, "SCCA"}, {1, "\0\0\0"_b}, 12, 4, Endian::Little, 84},
 };
 
@@ -14,7 +14,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kPrefetch = {
     .name = "Prefetch",
     .group = Group::Systems,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kPrefetchForms>,
     .extensions = " PF ",
     .mayNotTellEnd = true,
 };

@@ -5,7 +5,7 @@ namespace vantor {
 
 namespace {
 
-constexpr ToldLength kForms[] = {
+constexpr ToldLength kUImageForms[] = {
     {{0, "\x27\x05\x19\x56"}, {}, 12, 4, Endian::Big, 1, 1, 64},
 };
 
@@ -14,7 +14,7 @@ constexpr ToldLength kForms[] = {
 extern constexpr Format kUImage = {
     .name = "U-Boot image",
     .group = Group::Systems,
-    .walk = walkToldLength<kForms>,
+    .walk = walkToldLength<kUImageForms>,
     .extensions = " UIMAGE ",
     .mayNotTellEnd = true,
 };

@@ -1204,8 +1204,8 @@ Der Endsektor muss größer als der Startsektor sein.</translation>
         </translation>
     </message>
     <message>
-        <source>They are in %1, in a folder for each type.</source>
-        <translation>Gespeichert in %1, mit einem Ordner für jeden Typ.</translation>
+        <source>They are in %1.</source>
+        <translation>Gespeichert in %1.</translation>
     </message>
     <message>
         <source>%1 could only be read in part; what could not be read is filled with zeros.</source>
@@ -1837,8 +1837,8 @@ Versuchen Sie --help.</translation>
         <translation>Auch Teile von Dateien speichern, etwa das Vorschaubild eines Fotos oder den Inhalt eines Archivs: was ganz in einer Datei liegt, deren Vollständigkeit erwiesen ist, und sonst ausgelassen wird.</translation>
     </message>
     <message>
-        <source>Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
-        <translation>MP4- und QuickTime-Filme sowie JPEG- und PNG-Bilder zusammensetzen, die in Stücken liegen, als „... complete.MP4“ oder als „... put together.MP4“, wo sich nicht beweisen ließ, dass alle Stücke die richtigen sind.</translation>
+        <source>Put MP4, QuickTime and AVI movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
+        <translation>MP4-, QuickTime- und AVI-Filme sowie JPEG- und PNG-Bilder zusammensetzen, die in Stücken liegen, als „... complete.MP4“ oder als „... put together.MP4“, wo sich nicht beweisen ließ, dass alle Stücke die richtigen sind.</translation>
     </message>
     <message>
         <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
@@ -2947,6 +2947,10 @@ Läuft auf %2.</translation>
     <message>
         <source>%1 of it is searched</source>
         <translation>%1 davon werden durchsucht</translation>
+    </message>
+    <message>
+        <source>%1 as makers count</source>
+        <translation>%1 nach Herstellerzählung</translation>
     </message>
 </context>
 <context>

@@ -1204,8 +1204,8 @@ El sector final debe ser mayor que el sector inicial.</translation>
         </translation>
     </message>
     <message>
-        <source>They are in %1, in a folder for each type.</source>
-        <translation>Están en %1, en una carpeta para cada tipo.</translation>
+        <source>They are in %1.</source>
+        <translation>Están en %1.</translation>
     </message>
     <message>
         <source>%1 could only be read in part; what could not be read is filled with zeros.</source>
@@ -1837,8 +1837,8 @@ Pruebe --help.</translation>
         <translation>Guardar también partes de archivos, como la vista previa de una imagen o un miembro de un archivo comprimido: lo que está por entero dentro de un archivo que se comprobó completo, y que si no se omite.</translation>
     </message>
     <message>
-        <source>Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
-        <translation>Unir los vídeos MP4 y QuickTime y las imágenes JPEG o PNG que están en fragmentos, como «... complete.MP4», o como «... put together.MP4» si no se pudo probar que todos los fragmentos son los correctos.</translation>
+        <source>Put MP4, QuickTime and AVI movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
+        <translation>Unir los vídeos MP4, QuickTime y AVI y las imágenes JPEG o PNG que están en fragmentos, como «... complete.MP4», o como «... put together.MP4» si no se pudo probar que todos los fragmentos son los correctos.</translation>
     </message>
     <message>
         <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
@@ -2947,6 +2947,10 @@ Se ejecuta en %2.</translation>
     <message>
         <source>%1 of it is searched</source>
         <translation>se examina el %1</translation>
+    </message>
+    <message>
+        <source>%1 as makers count</source>
+        <translation>%1 según cuentan los fabricantes</translation>
     </message>
 </context>
 <context>

@@ -1204,8 +1204,8 @@ Le secteur de fin doit être supérieur au secteur de début.</translation>
         </translation>
     </message>
     <message>
-        <source>They are in %1, in a folder for each type.</source>
-        <translation>Dans %1, avec un dossier pour chaque type.</translation>
+        <source>They are in %1.</source>
+        <translation>Ils se trouvent dans %1.</translation>
     </message>
     <message>
         <source>%1 could only be read in part; what could not be read is filled with zeros.</source>
@@ -1837,8 +1837,8 @@ Essayez --help.</translation>
         <translation>Enregistrer aussi des parties de fichiers, comme l&apos;aperçu d&apos;une photo ou un membre d&apos;archive : ce qui se trouve entièrement dans un fichier prouvé complet, et qui est sinon laissé de côté.</translation>
     </message>
     <message>
-        <source>Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
-        <translation>Assembler les films MP4 et QuickTime et les images JPEG ou PNG en morceaux, sous « ... complete.MP4 », ou « ... put together.MP4 » quand il n&apos;a pas pu être prouvé que tous les morceaux sont les bons.</translation>
+        <source>Put MP4, QuickTime and AVI movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
+        <translation>Assembler les films MP4, QuickTime et AVI et les images JPEG ou PNG en morceaux, sous « ... complete.MP4 », ou « ... put together.MP4 » quand il n&apos;a pas pu être prouvé que tous les morceaux sont les bons.</translation>
     </message>
     <message>
         <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
@@ -2947,6 +2947,10 @@ Fonctionne avec %2.</translation>
     <message>
         <source>%1 of it is searched</source>
         <translation>%1 en sont parcourus</translation>
+    </message>
+    <message>
+        <source>%1 as makers count</source>
+        <translation>%1 selon le calcul des fabricants</translation>
     </message>
 </context>
 <context>

@@ -1204,8 +1204,8 @@ Il settore finale deve essere maggiore del settore iniziale.</translation>
         </translation>
     </message>
     <message>
-        <source>They are in %1, in a folder for each type.</source>
-        <translation>Sono in %1, in una cartella per ogni tipo.</translation>
+        <source>They are in %1.</source>
+        <translation>Sono in %1.</translation>
     </message>
     <message>
         <source>%1 could only be read in part; what could not be read is filled with zeros.</source>
@@ -1837,8 +1837,8 @@ Provare --help.</translation>
         <translation>Salvare anche le parti di file, come l’anteprima di un’immagine o un membro di un archivio: ciò che si trova per intero in un file di cui è provata la completezza, e che altrimenti viene tralasciato.</translation>
     </message>
     <message>
-        <source>Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
-        <translation>Ricomporre i video MP4 e QuickTime e le immagini JPEG o PNG che sono in pezzi, come «... complete.MP4», oppure come «... put together.MP4» dove non è stato possibile provare che tutti i pezzi siano quelli giusti.</translation>
+        <source>Put MP4, QuickTime and AVI movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
+        <translation>Ricomporre i video MP4, QuickTime e AVI e le immagini JPEG o PNG che sono in pezzi, come «... complete.MP4», oppure come «... put together.MP4» dove non è stato possibile provare che tutti i pezzi siano quelli giusti.</translation>
     </message>
     <message>
         <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
@@ -2947,6 +2947,10 @@ In esecuzione su %2.</translation>
     <message>
         <source>%1 of it is searched</source>
         <translation>parte esaminata: %1</translation>
+    </message>
+    <message>
+        <source>%1 as makers count</source>
+        <translation>%1 secondo il calcolo dei produttori</translation>
     </message>
 </context>
 <context>

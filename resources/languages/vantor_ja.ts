@@ -1197,8 +1197,8 @@ End Sector should be greater than Start Sector.</source>
         </translation>
     </message>
     <message>
-        <source>They are in %1, in a folder for each type.</source>
-        <translation>%1 に、種類ごとのフォルダーに分けて保存されています。</translation>
+        <source>They are in %1.</source>
+        <translation>%1 に保存されています。</translation>
     </message>
     <message>
         <source>%1 could only be read in part; what could not be read is filled with zeros.</source>
@@ -1813,8 +1813,8 @@ Try --help.</source>
         <translation>写真の中のプレビューやアーカイブの中身など、ファイルの一部も保存します。完全と確認されたファイルの中にすべて含まれるもので、通常は除外されます。</translation>
     </message>
     <message>
-        <source>Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
-        <translation>断片に分かれた MP4 と QuickTime の動画、JPEG と PNG の画像を組み立て、&quot;... complete.MP4&quot;、またはすべての断片が正しいと証明できない場合は &quot;... put together.MP4&quot; として保存します。</translation>
+        <source>Put MP4, QuickTime and AVI movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
+        <translation>断片に分かれた MP4、QuickTime、AVI の動画、JPEG と PNG の画像を組み立て、&quot;... complete.MP4&quot;、またはすべての断片が正しいと証明できない場合は &quot;... put together.MP4&quot; として保存します。</translation>
     </message>
     <message>
         <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
@@ -2915,6 +2915,10 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     <message>
         <source>%1 of it is searched</source>
         <translation>その %1 を検索します</translation>
+    </message>
+    <message>
+        <source>%1 as makers count</source>
+        <translation>メーカーの数え方で %1</translation>
     </message>
 </context>
 <context>

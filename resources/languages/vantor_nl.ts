@@ -1204,8 +1204,8 @@ De eindsector moet groter zijn dan de beginsector.</translation>
         </translation>
     </message>
     <message>
-        <source>They are in %1, in a folder for each type.</source>
-        <translation>Ze staan in %1, in een map per type.</translation>
+        <source>They are in %1.</source>
+        <translation>Ze staan in %1.</translation>
     </message>
     <message>
         <source>%1 could only be read in part; what could not be read is filled with zeros.</source>
@@ -1837,8 +1837,8 @@ Probeer --help.</translation>
         <translation>Ook delen van bestanden opslaan, zoals het voorbeeld van een afbeelding of een onderdeel van een archief: wat geheel binnen een aantoonbaar volledig bestand ligt, en anders wordt weggelaten.</translation>
     </message>
     <message>
-        <source>Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
-        <translation>MP4- en QuickTime-video’s en JPEG- of PNG-afbeeldingen die in stukken liggen samenvoegen, als “... complete.MP4”, of als “... put together.MP4” waar niet kon worden aangetoond dat alle stukken de juiste zijn.</translation>
+        <source>Put MP4, QuickTime and AVI movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
+        <translation>MP4-, QuickTime- en AVI-video’s en JPEG- of PNG-afbeeldingen die in stukken liggen samenvoegen, als “... complete.MP4”, of als “... put together.MP4” waar niet kon worden aangetoond dat alle stukken de juiste zijn.</translation>
     </message>
     <message>
         <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
@@ -2947,6 +2947,10 @@ Wordt uitgevoerd op %2.</translation>
     <message>
         <source>%1 of it is searched</source>
         <translation>%1 ervan wordt doorzocht</translation>
+    </message>
+    <message>
+        <source>%1 as makers count</source>
+        <translation>%1 zoals fabrikanten tellen</translation>
     </message>
 </context>
 <context>

@@ -1211,8 +1211,8 @@ Sektor końcowy musi być większy od sektora początkowego.</translation>
         </translation>
     </message>
     <message>
-        <source>They are in %1, in a folder for each type.</source>
-        <translation>Są w %1, w osobnym folderze dla każdego typu.</translation>
+        <source>They are in %1.</source>
+        <translation>Są w %1.</translation>
     </message>
     <message>
         <source>%1 could only be read in part; what could not be read is filled with zeros.</source>
@@ -1861,8 +1861,8 @@ Proszę użyć --help.</translation>
         <translation>Zapisz też części plików, na przykład podgląd zdjęcia lub element archiwum: to, co leży w całości w pliku o dowiedzionej kompletności, a co inaczej jest pomijane.</translation>
     </message>
     <message>
-        <source>Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
-        <translation>Składaj filmy MP4 i QuickTime oraz obrazy JPEG lub PNG, które leżą w kawałkach, jako „... complete.MP4” lub jako „... put together.MP4”, gdy nie dało się dowieść, że wszystkie kawałki są właściwe.</translation>
+        <source>Put MP4, QuickTime and AVI movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
+        <translation>Składaj filmy MP4, QuickTime i AVI oraz obrazy JPEG lub PNG, które leżą w kawałkach, jako „... complete.MP4” lub jako „... put together.MP4”, gdy nie dało się dowieść, że wszystkie kawałki są właściwe.</translation>
     </message>
     <message>
         <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
@@ -2979,6 +2979,10 @@ Działa w systemie %2.</translation>
     <message>
         <source>%1 of it is searched</source>
         <translation>przeszukiwane jest %1</translation>
+    </message>
+    <message>
+        <source>%1 as makers count</source>
+        <translation>%1 według liczenia producentów</translation>
     </message>
 </context>
 <context>

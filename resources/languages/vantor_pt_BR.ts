@@ -1204,8 +1204,8 @@ O setor final deve ser maior que o setor inicial.</translation>
         </translation>
     </message>
     <message>
-        <source>They are in %1, in a folder for each type.</source>
-        <translation>Estão em %1, em uma pasta para cada tipo.</translation>
+        <source>They are in %1.</source>
+        <translation>Estão em %1.</translation>
     </message>
     <message>
         <source>%1 could only be read in part; what could not be read is filled with zeros.</source>
@@ -1837,8 +1837,8 @@ Tente --help.</translation>
         <translation>Salvar também partes de arquivos, como a prévia de uma imagem ou um membro de um arquivo compactado: o que fica inteiramente dentro de um arquivo comprovadamente completo, e que do contrário é omitido.</translation>
     </message>
     <message>
-        <source>Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
-        <translation>Montar os vídeos MP4 e QuickTime e as imagens JPEG ou PNG que estão em pedaços, como “... complete.MP4”, ou como “... put together.MP4” quando não foi possível provar que todos os pedaços são os corretos.</translation>
+        <source>Put MP4, QuickTime and AVI movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
+        <translation>Montar os vídeos MP4, QuickTime e AVI e as imagens JPEG ou PNG que estão em pedaços, como “... complete.MP4”, ou como “... put together.MP4” quando não foi possível provar que todos os pedaços são os corretos.</translation>
     </message>
     <message>
         <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
@@ -2947,6 +2947,10 @@ Executando em %2.</translation>
     <message>
         <source>%1 of it is searched</source>
         <translation>%1 é examinado</translation>
+    </message>
+    <message>
+        <source>%1 as makers count</source>
+        <translation>%1 na contagem dos fabricantes</translation>
     </message>
 </context>
 <context>

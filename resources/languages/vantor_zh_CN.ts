@@ -1197,8 +1197,8 @@ End Sector should be greater than Start Sector.</source>
         </translation>
     </message>
     <message>
-        <source>They are in %1, in a folder for each type.</source>
-        <translation>它们位于 %1，每种类型一个文件夹。</translation>
+        <source>They are in %1.</source>
+        <translation>它们位于 %1。</translation>
     </message>
     <message>
         <source>%1 could only be read in part; what could not be read is filled with zeros.</source>
@@ -1813,8 +1813,8 @@ Try --help.</source>
         <translation>也保存文件的组成部分，例如图片的预览图或压缩包中的成员：即完全位于已证实完整的文件之内的内容，否则会被略过。</translation>
     </message>
     <message>
-        <source>Put MP4 and QuickTime movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
-        <translation>将分散为碎片的 MP4 和 QuickTime 视频以及 JPEG 或 PNG 图片拼合，保存为“... complete.MP4”；无法证实所有碎片都正确时，保存为“... put together.MP4”。</translation>
+        <source>Put MP4, QuickTime and AVI movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
+        <translation>将分散为碎片的 MP4、QuickTime 和 AVI 视频以及 JPEG 或 PNG 图片拼合，保存为“... complete.MP4”；无法证实所有碎片都正确时，保存为“... put together.MP4”。</translation>
     </message>
     <message>
         <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
@@ -2915,6 +2915,10 @@ Running on %2.</source>
     <message>
         <source>%1 of it is searched</source>
         <translation>搜索其中的 %1</translation>
+    </message>
+    <message>
+        <source>%1 as makers count</source>
+        <translation>按厂商的算法为 %1</translation>
     </message>
 </context>
 <context>

@@ -75,6 +75,21 @@ TEST_F(KeptSearch, SavesWhatItFinds_AlsoWhenGoneOnWith) {
     EXPECT_EQ(saved.size(), 36 * 512);
 }
 
+// The names of the two files are soon mixed up.
+TEST_F(KeptSearch, WhatElseLiesUnderItsName_Stays) {
+    const QByteArray card = read(image);
+    EXPECT_EQ(run({"--session", image, image}).exitCode, 6);
+    const QString link = folder.filePath("link");
+    ASSERT_TRUE(QFile::link(image, link));
+    EXPECT_EQ(run({"--session", link, image}).exitCode, 6);
+    write(kept, "A letter.");
+    const CommandRun refused = run({"--session", kept, image});
+    EXPECT_EQ(refused.exitCode, 6);
+    EXPECT_TRUE(refused.err.contains("kept search: ")) << refused.err.toStdString();
+    EXPECT_EQ(read(kept), "A letter.");
+    EXPECT_EQ(read(image), card);
+}
+
 TEST_F(KeptSearch, AnotherMedium_IsRefused) {
     ASSERT_EQ(run({"--session", kept, image}).exitCode, 0);
     std::mt19937 random(1);

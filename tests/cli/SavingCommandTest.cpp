@@ -17,14 +17,14 @@
 namespace vantor {
 namespace {
 
-struct CardFile {
+struct SampleFile {
     QByteArray name, type, sha256, folder;
     int firstSector = 0;
     bool inOnePiece = false;
 };
 
-QList<CardFile> cardFiles() {
-    QList<CardFile> files;
+QList<SampleFile> cardFiles() {
+    QList<SampleFile> files;
     const QList<QByteArray> lines = contentsOf(QStringLiteral(VANTOR_SAMPLE_LIST)).split('\n');
     for (qsizetype i = 1; i < lines.size(); ++i) {
         const QList<QByteArray> fields = lines[i].split('\t');
@@ -48,7 +48,7 @@ QSet<QByteArray> undisturbed(const QString& mode) {
 }  // namespace
 
 TEST(SavingCommand, FilesOfTheSampleCardComeBackToTheByte) {
-    const QList<CardFile> files = cardFiles();
+    const QList<SampleFile> files = cardFiles();
     ASSERT_GT(files.size(), 80);
     QSet<QByteArray> saved;
     QHash<int, QSet<QByteArray>> typesAt;  // sector: the types that were found there
@@ -64,7 +64,7 @@ TEST(SavingCommand, FilesOfTheSampleCardComeBackToTheByte) {
         }
     }
     int found = 0;
-    for (const CardFile& file : files) {
+    for (const SampleFile& file : files) {
         const bool endIsTold = formatFor(file.type.toStdString()) != nullptr;
         if (!file.inOnePiece || !endIsTold || !typesAt[file.firstSector].contains(file.type)) {
             continue;
@@ -80,7 +80,7 @@ TEST(SavingCommand, PhotosOfTheSampleCardComeBackInTheirFoldersUnderTheirNames) 
     const CommandRun run = runCommand({"--save", folder.path(), VANTOR_SAMPLE_CARD});
     ASSERT_EQ(run.exitCode, 0) << run.err.constData();
     int photos = 0;
-    for (CardFile file : cardFiles()) {
+    for (SampleFile file : cardFiles()) {
         if (file.type == "JPG" && file.inOnePiece) {
             ++photos;
             file.name[0] = '_';  // the deletion took it

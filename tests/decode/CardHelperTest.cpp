@@ -56,6 +56,21 @@ TEST(CardExchange, TableOfManyBlocks_ArrivesWhole) {
     EXPECT_EQ(one.runsKnownBy, table.files[7].runsKnownBy);
 }
 
+// A folder of a million files would take a thousand times as much as they do.
+TEST(CardExchange, FilesOfOneFolder_ShareItsText) {
+    CardTable table;
+    table.files = {someTable().files.front(), someTable().files.front()};
+    table.files[0].folder = table.files[1].folder = QStringLiteral("DCIM/100CANON");
+    TableWriter writer(table);
+    TableReader reader(2000);
+    while (!reader.isWhole()) {
+        ASSERT_TRUE(reader.take(writer.next()));
+    }
+    const CardTable got = reader.table();
+    ASSERT_EQ(got.files.size(), 2u);
+    EXPECT_EQ(got.files[0].folder.constData(), got.files[1].folder.constData());
+}
+
 bool isTaken(const CardFile& file) {
     CardTable table;
     table.files = {file};

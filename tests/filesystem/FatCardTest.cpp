@@ -92,6 +92,50 @@ TEST_P(FatCard, LongNameOfAnotherFile_NamesNothing) {
     EXPECT_EQ(pathsOf(tableOf(m_card)), "DCIM/100CANON/IMG_0001.JPG\nDCIM/100CANON/_MG_0002.JPG");
 }
 
+// The sum alone is right for nearly any first letter, and one letter in most sums is not enough.
+TEST_P(FatCard, DeletedRowBehindALongNameItWasNotMadeOf_IsNotCalledSo) {
+    Bytes rows;
+    for (const QString& name : {QString("_private [1].jpg"), QString("日本の写真のアルバム.jpg")}) {
+        for (int i = 0; i < 8; ++i) {
+            const Bytes stray = longFatRows(name, fatRow("OTHER~" + std::to_string(i) + " JPG", 9, 1));
+            rows = rows + deletedFat(Bytes(stray.begin(), stray.end() - 32) +
+                                     fatRow("IMG_000" + std::to_string(i) + "JPG", 10, 100));
+        }
+    }
+    putPhotos(rows);
+    for (const CardFile& file : tableOf(m_card).files) {
+        EXPECT_TRUE(file.name.startsWith("_MG_000")) << file.name.toStdString();
+    }
+}
+
+// Newer files took the rows with the end of the name.
+TEST_P(FatCard, DeletedLongNameWithoutItsEnd_IsNoName) {
+    const Bytes file =
+        deletedFat(longFatRows("Holiday in the mountains 2024.jpg", fatRow("HOLIDA~1JPG", 10, 9)));
+    const Bytes folder =
+        deletedFat(longFatRows("Holiday in the mountains", fatRow("HOLIDA~1   ", 5, 0, 0x10)));
+    putPhotos(fatRow("IMG_0001JPG", 11, 100) + Bytes(file.begin() + 32, file.end()) +
+              fatRow("IMG_0002JPG", 12, 100) + Bytes(folder.begin() + 32, folder.end()));
+    putBytes(m_card, m_fat.sectorOf(5), dotRows(5, 4) + fatRow("IMG_0003JPG", 13, 100));
+    EXPECT_EQ(pathsOf(tableOf(m_card)),
+              "DCIM/100CANON/IMG_0001.JPG\nDCIM/100CANON/IMG_0002.JPG\n"
+              "DCIM/100CANON/_OLIDA~1.JPG\nDCIM/100CANON/_OLIDA~1/IMG_0003.JPG");
+}
+
+TEST_P(FatCard, DeletedLongName_FirstLetterMayBeE5) {
+    putPhotos(deletedFat(longFatRows("σchöne Tage.jpg", fatRow("\x05"
+                                                               "CHNET~1JPG",
+                                                               10, 100))));
+    EXPECT_EQ(pathsOf(tableOf(m_card)), "DCIM/100CANON/σchöne Tage.jpg");
+}
+
+TEST_P(FatCard, DeletedByACameraThatKnowsNoLongNames_KeepsItsLongName) {
+    Bytes rows = longFatRows("Holiday in the mountains 2024.jpg", fatRow("HOLIDA~1JPG", 10, 100));
+    rows[rows.size() - 32] = 0xE5;
+    putPhotos(rows);
+    EXPECT_EQ(pathsOf(tableOf(m_card)), "DCIM/100CANON/Holiday in the mountains 2024.jpg");
+}
+
 TEST_P(FatCard, DeletedFolder_StillHoldsItsFiles) {
     putPhotos(fatRow("IMG_0412JPG", 10, 100));
     putBytes(m_card, m_fat.sectorOf(3), dotRows(3, 0) + deletedFat(fatRow("100CANON   ", 4, 0, 0x10)));
@@ -108,6 +152,30 @@ TEST_P(FatCard, QuickFormat_FoldersAreFoundByTheirDotRows) {
     ASSERT_EQ(pathsOf(table), "DCIM/100CANON/IMG_0412.JPG");
     EXPECT_EQ(table.files.front().state, FileState::Lost);
     EXPECT_EQ(table.files.front().runs, (std::vector<SectorRun>{{m_fat.sectorOf(10), m_fat.sectorOf(13)}}));
+}
+
+// Two file systems stood side by side; of the table that named them nothing is left.
+TEST_P(FatCard, TablesOfPartitionsGone_EachRootNamesItsOwnFolders) {
+    MemoryCard card(2 * 22000);
+    for (const auto& [first, tag] : {std::pair(std::size_t{2048}, "A"), std::pair(std::size_t{22400}, "B")}) {
+        FatPlaces fat = m_fat;
+        fat.first = first;
+        formatFat(card, fat);
+        putBytes(card, fat.bits == 32 ? fat.sectorOf(2) : fat.root(),
+                 fatRow(tag + std::string("FOLDER    "), 5, 0, 0x10) +
+                     fatRow(tag + std::string("ROOT   JPG"), 20, 100));
+        putBytes(card, fat.sectorOf(5), dotRows(5, 0) + fatRow(tag + std::string("DEEP   JPG"), 30, 100));
+        for (const std::uint32_t cluster : {20, 30}) {
+            put(card.bytes, fat.sectorOf(cluster) * 512, std::string("\xFF\xD8\xFF\xE1", 4));
+        }
+    }
+    const CardTable table = tableOf(card);
+    EXPECT_EQ(pathsOf(table), "AFOLDER/ADEEP.JPG\nAROOT.JPG\nBFOLDER/BDEEP.JPG\nBROOT.JPG");
+    FatPlaces second = m_fat;
+    second.first = 22400;
+    const CardFile file = fileNamed(table, "BROOT.JPG");
+    EXPECT_EQ(file.state, FileState::Lost);
+    EXPECT_EQ(file.runs.front().first, second.sectorOf(20));
 }
 
 TEST_P(FatCard, FormatWithOtherClusters_OldOnesAreVotedFor) {
@@ -159,6 +227,25 @@ TEST(Fat32Card, ClearedUpperHalf_IsFoundByWhereSuchAFileBegins) {
     const CardFile file =
         fileNamed(tableOf(card, {{fat.sectorOf(70000), "JPG"}, {fat.sectorOf(9), "JPG"}}), "_MG_0001.JPG");
     EXPECT_EQ(file.runs, (std::vector<SectorRun>{{fat.sectorOf(70000), fat.sectorOf(70006)}}));
+}
+
+// What begins under the lower half alone is as likely another file, once one has lost its upper half.
+TEST(Fat32Card, ClearedUpperHalf_IsNotGuessedBetweenTwo) {
+    FatPlaces fat;
+    fat.bits = 32;
+    fat.clusterSectors = 1;
+    fat.clusters = 140000;
+    MemoryCard card(fat.end());
+    formatFat(card, fat);
+    putBytes(card, fat.sectorOf(2),
+             deletedFat(fatRow("IMG_0001JPG", 70000 & 0xFFFF, 3000) +
+                        fatRow("IMG_0002JPG", 71000 & 0xFFFF, 3000)));
+    const CardTable table = tableOf(
+        card, {{fat.sectorOf(70000), "JPG"}, {fat.sectorOf(71000), "JPG"}, {fat.sectorOf(5464), "JPG"}});
+    EXPECT_EQ(fileNamed(table, "_MG_0001.JPG").runs.front().first, fat.sectorOf(70000));
+    EXPECT_TRUE(fileNamed(table, "_MG_0002.JPG").runs.empty());
+    const CardTable other = tableOf(card, {{fat.sectorOf(71000), "JPG"}, {fat.sectorOf(5464), "JPG"}});
+    EXPECT_EQ(fileNamed(other, "_MG_0002.JPG").runs.front().first, fat.sectorOf(5464));
 }
 
 }  // namespace

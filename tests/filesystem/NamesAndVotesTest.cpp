@@ -32,7 +32,7 @@ TEST(ClusterVote, TruthAmongStraySightings_Wins) {
             sightings.push_back({cluster, random() % 5'000'000});
         }
     }
-    const auto places = voteForClusters(sightings, 3);
+    const auto places = voteForClusters(sightings, 3, Sightings::Possible);
     ASSERT_TRUE(places);
     EXPECT_EQ(places->clusterSectors, 64u);
     EXPECT_EQ(places->firstCluster, 8192u);
@@ -40,11 +40,23 @@ TEST(ClusterVote, TruthAmongStraySightings_Wins) {
 }
 
 TEST(ClusterVote, NoAgreement_NoAnswer) {
-    EXPECT_FALSE(voteForClusters({}, 2));
-    EXPECT_FALSE(voteForClusters({{10, 1000}}, 2));
-    EXPECT_FALSE(voteForClusters({{10, 1000}, {10, 2000}, {11, 1007}}, 2));
+    EXPECT_FALSE(voteForClusters({}, 2, Sightings::True));
+    EXPECT_FALSE(voteForClusters({{10, 1000}}, 2, Sightings::True));
+    EXPECT_FALSE(voteForClusters({{10, 1000}, {10, 2000}, {11, 1007}}, 2, Sightings::True));
     // Two pairs, each with an answer of its own.
-    EXPECT_FALSE(voteForClusters({{10, 1000}, {11, 1008}, {20, 9000}, {21, 9016}}, 2));
+    EXPECT_FALSE(voteForClusters({{10, 1000}, {11, 1008}, {20, 9000}, {21, 9016}}, 2, Sightings::True));
+}
+
+// Twelve files of one length in a row, of which the first one's beginning is gone, and one more behind them:
+// each could as well be the next one.
+TEST(ClusterVote, FilesOfOneLengthInARow_AreNotTakenForTheNextOnes) {
+    std::vector<ClusterSighting> sightings;
+    for (std::uint32_t entry = 0; entry < 12; ++entry) {
+        for (std::uint64_t file = 1; file < 13; ++file) {
+            sightings.push_back({100 + 160 * entry, 8192 + 64 * (98 + 160 * file)});
+        }
+    }
+    EXPECT_FALSE(voteForClusters(sightings, 3, Sightings::Possible));
 }
 
 Bytes partitionRow(std::uint8_t type, std::uint32_t first, std::uint32_t sectors) {

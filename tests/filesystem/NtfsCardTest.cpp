@@ -139,6 +139,15 @@ TEST_F(NtfsCard, RunsBeyondTheCardAndFoldersInALoop_AreCut) {
     EXPECT_EQ(file.runsKnownBy, RunsKnownBy::Guess);
 }
 
+TEST_F(NtfsCard, FoldersInFolders_AreToldAsFarAsAPathGoes) {
+    const QString name(250, u'x');
+    for (std::size_t i = 0; i < 12; ++i) {
+        putRecord(26 + i, record(kThereFolder, 1, nameAttribute(name, i == 11 ? 5 : 27 + i, 1)));
+    }
+    putRecord(38, record(kThere, 1, nameAttribute("X.JPG", 26, 1) + dataAttribute(1, {0x11, 1, 100, 0})));
+    EXPECT_EQ(fileNamed(tableOf(m_card), "X.JPG").folder, QStringList({name, name, name, name}).join(u'/'));
+}
+
 TEST_F(NtfsCard, FirstSectorGone_TheCopyAtTheEndTells) {
     putRecord(26,
               record(kThere, 1, nameAttribute("IMG_1.JPG", 24, 3) + dataAttribute(4096, {0x11, 1, 100, 0})));
@@ -151,17 +160,16 @@ TEST_F(NtfsCard, FirstSectorGone_TheCopyAtTheEndTells) {
 // Of a file system before this one, whose table lay elsewhere.
 class LostNtfsRecords : public NtfsCard {
   protected:
-    void putLost(std::uint64_t number, Bytes bytes) {
+    // In the table whose record 0 would lie in sector 280, or another.
+    void putLost(std::uint64_t number, Bytes bytes, std::size_t table = 280) {
         put(bytes, 44, number, 4);
-        putBytes(m_card, m_next, bytes);
-        m_next += 2;
+        putBytes(m_card, table + 2 * number, bytes);
     }
     void putPicture(std::size_t sector) {
         put(m_card.bytes, sector * 512, std::string("\xFF\xD8\xFF\xE1", 4));
         m_found.push_back({sector, "jpg"});
     }
 
-    std::size_t m_next = 400;
     std::vector<FoundStart> m_found;
 };
 
@@ -197,6 +205,37 @@ TEST_F(LostNtfsRecords, WithoutAnyFirstSector_AreVotedFor) {
     }
     const CardFile file = fileNamed(tableOf(m_card, m_found), "IMG_66.JPG");
     EXPECT_EQ(file.runs, (std::vector<SectorRun>{{64 + 16 * 66, 64 + 16 * 67}}));
+}
+
+// The second file system's files have the numbers of clusters and of folders that the first one's have.
+TEST_F(LostNtfsRecords, OfTwoFileSystems_KeepToTheirOwn) {
+    std::fill(m_card.bytes.begin(), m_card.bytes.end(), 0);
+    struct System {
+        QString tag;
+        std::size_t table;
+        std::size_t first;
+        std::vector<std::uint8_t> clusters;
+    };
+    for (const System& system : {System{"Alpha", 280, 64, {50, 57, 66, 90, 97, 111, 124}},
+                                 System{"Beta", 4280, 4064, {50, 61, 79, 104, 120}}}) {
+        putLost(60, record(kThereFolder, 2, nameAttribute(system.tag, 5, 5)), system.table);
+        std::uint64_t number = 61;
+        for (const std::uint8_t cluster : system.clusters) {
+            putLost(number++,
+                    record(kThere, 1,
+                           nameAttribute(QString("%1-%2.JPG").arg(system.tag).arg(cluster), 60, 2) +
+                               dataAttribute(4096, {0x11, 1, cluster, 0})),
+                    system.table);
+            putPicture(system.first + 8 * std::size_t{cluster});
+        }
+    }
+    const CardTable table = tableOf(m_card, m_found);
+    EXPECT_EQ(table.files.size(), 12u);
+    for (const CardFile& file : table.files) {
+        EXPECT_EQ(file.folder, file.name.section(u'-', 0, 0));
+    }
+    EXPECT_EQ(fileNamed(table, "Alpha-50.JPG").runs, (std::vector<SectorRun>{{64 + 8 * 50, 64 + 8 * 51}}));
+    EXPECT_EQ(fileNamed(table, "Beta-50.JPG").runs, (std::vector<SectorRun>{{4064 + 8 * 50, 4064 + 8 * 51}}));
 }
 
 TEST_F(LostNtfsRecords, WhoseFilesAreNowhere_NameNothing) {

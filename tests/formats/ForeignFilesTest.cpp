@@ -12,8 +12,6 @@
 namespace vantor::test {
 namespace {
 
-constexpr std::size_t kSector = 512;
-
 // The first column of the table that names each file's writer.
 std::set<std::string> listedFiles() {
     std::set<std::string> names;

@@ -11,7 +11,6 @@
 namespace vantor::test {
 namespace {
 
-constexpr std::size_t kSector = 512;
 // What a walker may need around one unreadable sector: far fewer than a read for each of its bytes.
 constexpr std::uint64_t kFewReads = 64;
 

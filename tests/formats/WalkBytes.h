@@ -8,6 +8,9 @@
 
 namespace vantor::test {
 
+// Files on a card begin at such places.
+inline constexpr std::size_t kSector = 512;
+
 inline Extent walkBytes(std::string_view extension, const Bytes& bytes) {
     SpanSource source(bytes);
     return walk(extension, source);

@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "media/ImageShelf.h"
+#include "media/OpenRefusal.h"
 #include "media/RawDevice.h"
 
 namespace vantor {
@@ -25,6 +27,12 @@ class Nobody {
 
   private:
     bool m_changed;
+};
+
+class NoMedia : public MediaSource {
+  public:
+    QStringList mountedRemovableMedia() override { return {}; }
+    MediaFacts diskInfo(const QString&) override { return {}; }
 };
 
 class OpenRefusalTest : public testing::Test {
@@ -77,6 +85,11 @@ TEST_F(OpenRefusalTest, AnImageOfSomebodyElse) {
     const Nobody nobody;
     EXPECT_EQ(refusalOf(file), OpenRefusal::MayNotReadImage);
     EXPECT_TRUE(wordsForRefusal(refusal->get()).startsWith("You may not read this image file."));
+    ImageShelf shelf(std::make_unique<NoMedia>());
+    const QString told = shelf.addImage(file).refusal;
+    EXPECT_TRUE(told.endsWith(wordsForRefusal(OpenRefusal::MayNotReadImage))) << told.toStdString();
+    const QString absent = shelf.addImage(folder.filePath(QStringLiteral("absent"))).refusal;
+    EXPECT_TRUE(absent.endsWith(QStringLiteral("No such file or directory."))) << absent.toStdString();
 }
 
 TEST_F(OpenRefusalTest, WhatIsNotThere) {

@@ -175,6 +175,31 @@ TEST(ReadAhead, SeeksInTheMiddle_GiveTheSectorAskedFor) {
     }
 }
 
+TEST(ReadAhead, FetchedSectorsReadTogether_AreThoseThatSingleReadsGive) {
+    ScriptedDrive medium;
+    medium.sectors = 20 * kAheadWindow + 3;
+    WindowedReader reader(std::make_unique<ScriptedSource>(medium), WindowedReader::Fetching::Ahead);
+    std::mt19937 random(8);
+    std::vector<std::uint8_t> bytes(300 * kSectorBytes);
+    std::uint64_t together = 0;
+    for (std::uint64_t sector = 0; sector < medium.sectors;) {
+        ASSERT_TRUE(reader.read());
+        const std::uint64_t most = random() % 300;
+        const std::uint64_t count = reader.readFetched(bytes.data(), most);
+        ASSERT_LE(count, most);
+        ASSERT_EQ(reader.position(), sector + 1 + count);
+        for (std::uint64_t n = 0; n <= count; ++n) {
+            std::uint64_t number = 0;
+            const std::uint8_t* const last = reader.current();
+            std::memcpy(&number, n < count ? bytes.data() + n * kSectorBytes : last, sizeof number);
+            ASSERT_EQ(number, sector + std::min(n + 1, count));
+        }
+        sector += 1 + count;
+        together += count;
+    }
+    EXPECT_GT(together, medium.sectors * 9 / 10);
+}
+
 TEST(ReadAhead, PauseAndDestructionWaitForNobody) {
     ScriptedDrive medium;
     medium.sectors = std::uint64_t{1} << 40;

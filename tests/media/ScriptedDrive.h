@@ -1,8 +1,8 @@
 // A drive in memory that answers requests of many sectors, whose faults a test writes down, with the plain
-// readers that others are compared with.
+// readers that others are compared with. What is asked of it millions of times lies in a file of its own,
+// which is compiled as the product is.
 #pragma once
 
-#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <map>
@@ -35,52 +35,17 @@ struct ScriptedDrive {
         refusedRequests;  // first sector and end of each, as far as it says
     std::uint64_t requests = 0;
 
-    static void fill(std::uint64_t sector, std::uint8_t* bytes) {
-        std::memset(bytes, 0, kSectorBytes);
-        std::memcpy(bytes, &sector, sizeof(sector));
-    }
-
-    std::int64_t request(std::uint64_t first, std::span<std::uint8_t> into) {
-        ++requests;
-        std::size_t done = 0;
-        for (std::uint64_t s = first; done < into.size() && s < sectors; ++s, done += kSectorBytes) {
-            if (s >= goneFrom) {
-                gone = true;
-                break;
-            }
-            if (s >= refusesFrom) {
-                return done == 0 || wholeRequestFails ? -1 : static_cast<std::int64_t>(done);
-            }
-            const auto fault = refusals.find(s);
-            if (fault != refusals.end() && fault->second > 0) {
-                --fault->second;
-                ++refused[s];
-                const bool nothingArrives = wholeRequestFails || done == 0;
-                refusedRequests.emplace_back(nothingArrives ? first : s,
-                                             nothingArrives ? first + into.size() / kSectorBytes : s + 1);
-                if (wholeRequestFails) {
-                    return -1;
-                }
-                break;
-            }
-            fill(s, into.data() + done);
-        }
-        return done == 0 ? -1 : static_cast<std::int64_t>(done);
-    }
+    static void fill(std::uint64_t sector, std::uint8_t* bytes);
+    // -1, or how many bytes arrived.
+    std::int64_t request(std::uint64_t first, std::span<std::uint8_t> into);
 };
 
 class ScriptedSource : public BlockSource {
   public:
     explicit ScriptedSource(ScriptedDrive& medium) : m_medium(medium) {}
 
-    std::int64_t readAt(std::uint64_t sector, std::span<std::uint8_t> into) override {
-        const std::lock_guard lock(m_mutex);
-        return m_medium.request(sector, into);
-    }
-    bool usable() override {
-        const std::lock_guard lock(m_mutex);
-        return !m_medium.gone;
-    }
+    std::int64_t readAt(std::uint64_t sector, std::span<std::uint8_t> into) override;
+    bool usable() override;
     std::uint64_t blockSectors() const override { return m_medium.blockSectors; }
 
   private:
@@ -98,15 +63,7 @@ class PlainReader : public SectorReader {
     bool moveTo(std::uint64_t) override { return !m_medium.gone; }
 
     // Hands the sector at the position over when the drive gives it.
-    bool ask() {
-        std::uint8_t bytes[kSectorBytes];
-        if (m_medium.gone || m_medium.request(position(), bytes) != std::int64_t{kSectorBytes}) {
-            return false;
-        }
-        std::memcpy(m_bytes, bytes, kSectorBytes);
-        handOver(m_bytes, 1);
-        return true;
-    }
+    bool ask();
 
   private:
     ScriptedDrive& m_medium;
@@ -119,13 +76,7 @@ class PlainReaderWithRetry : public PlainReader {
     using PlainReader::PlainReader;
 
   protected:
-    bool fetch() override {
-        if (m_refused.contains(position()) || (!ask() && !ask())) {
-            m_refused.add(position());
-            return false;
-        }
-        return true;
-    }
+    bool fetch() override;
 
   private:
     SectorSet m_refused;
@@ -142,22 +93,6 @@ struct ScanStep {
 };
 
 // Reads [start, end) as the scans do: after a failed read it goes to the counter, which then is one ahead.
-inline std::vector<ScanStep> scanSteps(SectorReader& reader, std::uint64_t start, std::uint64_t end) {
-    if (start != 0) {
-        reader.seek(start);
-    }
-    std::vector<ScanStep> steps;
-    for (std::uint64_t index = start; index < end; ++index) {
-        ScanStep step;
-        step.readSucceeded = reader.read();
-        if (!step.readSucceeded) {
-            step.seekSucceeded = reader.seek(index);
-        }
-        step.position = reader.position();
-        std::memcpy(&step.bytesOf, reader.current(), sizeof(step.bytesOf));
-        steps.push_back(step);
-    }
-    return steps;
-}
+std::vector<ScanStep> scanSteps(SectorReader& reader, std::uint64_t start, std::uint64_t end);
 
 }  // namespace vantor::test

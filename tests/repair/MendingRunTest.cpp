@@ -7,43 +7,12 @@
 #include "results/MyImageObject.h"
 #include "tests/repair/Photos.h"
 #include "tests/repair/ScatteredCard.h"
+#include "tests/repair/WatchedCard.h"
 
 namespace vantor {
 namespace {
 
 using test::ScatteredCard;
-
-// A medium that is pulled out, or at which somebody waits, at a read.
-class WatchedCard final : public SectorReader {
-  public:
-    struct Script {
-        std::atomic<std::uint64_t> reads{0};
-        std::uint64_t goneAt = ~std::uint64_t{0};
-        std::function<void(std::uint64_t)> atRead;
-    };
-    WatchedCard(const QByteArray& bytes, std::shared_ptr<Script> script)
-        : m_card(bytes), m_script(std::move(script)) {}
-    std::uint64_t mediumSectors() const override { return m_card.mediumSectors(); }
-    bool isGone() override { return m_script->reads >= m_script->goneAt; }
-
-  protected:
-    bool fetch() override {
-        const std::uint64_t read = m_script->reads++;
-        if (m_script->atRead) {
-            m_script->atRead(read);
-        }
-        if (read >= m_script->goneAt || !m_card.seek(position()) || !m_card.read()) {
-            return false;
-        }
-        handOver(m_card.current(), 1);
-        return true;
-    }
-    bool moveTo(std::uint64_t) override { return true; }
-
-  private:
-    test::MemoryReader m_card;
-    const std::shared_ptr<Script> m_script;
-};
 
 class MendingRunTest : public ::testing::Test {
   protected:
@@ -67,7 +36,7 @@ class MendingRunTest : public ::testing::Test {
     MendingOrder order() {
         MendingOrder order;
         order.places = {2, 0, 1, 3};
-        order.openMedium = [this] { return std::make_unique<WatchedCard>(m_bytes, m_script); };
+        order.openMedium = [this] { return std::make_unique<test::WatchedCard>(m_bytes, m_script); };
         order.itemAt = [this](std::size_t place) {
             return place < m_items.size() ? m_items[place] : nullptr;
         };
@@ -97,7 +66,7 @@ class MendingRunTest : public ::testing::Test {
     ScatteredCard m_card;
     QByteArray m_bytes;
     std::vector<std::shared_ptr<const MyImageObject>> m_items;
-    std::shared_ptr<WatchedCard::Script> m_script = std::make_shared<WatchedCard::Script>();
+    std::shared_ptr<test::WatchedCard::Script> m_script = std::make_shared<test::WatchedCard::Script>();
     const std::shared_ptr<MendedItems> m_mended = std::make_shared<MendedItems>();
     std::vector<std::pair<std::size_t, Soundness>> m_told;
 };

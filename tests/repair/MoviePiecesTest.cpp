@@ -160,6 +160,39 @@ TEST(MovieCompletion, EachMovieLeavesFewerPlacesForTheNext) {
     }
 }
 
+TEST(MovieCompletion, WhatLeavesNoChoice_IsPlacedFirst) {
+    // A picture of the one is so large that nothing tells its clusters; the other ends beside it.
+    std::vector<test::PictureSpec> specs = picturesOfManySizes(60, 1);
+    specs[8].bytes = 12 * static_cast<int>(kMovieClusterBytes);
+    const MadeMovie one = makeMovie(specs, false, 1);
+    const MadeMovie other = makeMovie(picturesOfManySizes(20, 2), false, 2);
+    const int shorter = movieClustersOf(other.bytes);
+    ASSERT_LT(shorter, 12);
+    QByteArray medium = mediumOf(movieClustersOf(one.bytes) + shorter + 40);
+    scatter(other.bytes, every(2, 9, shorter), medium);
+    std::vector<int> clusters = every(2, 8, shorter);
+    while (static_cast<int>(clusters.size()) < movieClustersOf(one.bytes)) {
+        clusters.push_back(clusters.back() + (static_cast<int>(clusters.size()) == shorter ? 2 : 1));
+    }
+    scatter(one.bytes, clusters, medium);
+    MemoryReader reader(medium);
+    MovieReaderOptions noHelper;
+    noHelper.helper = QStringLiteral("/nowhere");
+    CompletionProgress progress;
+    const std::vector<std::uint64_t> starts{8 * kMovieClusterSectors, 9 * kMovieClusterSectors};
+    const auto found = MovieCompletion(reader, kGoOn, progress, noHelper).run(starts, {});
+    for (const auto& each : found) {
+        ASSERT_TRUE(each);
+        EXPECT_EQ(each->proof, AssemblyProof::Proved);
+    }
+    QByteArray bytes;
+    for (const SectorRun& run : found[0]->runs) {
+        bytes += medium.mid(static_cast<qsizetype>(run.first * kSectorBytes),
+                            static_cast<qsizetype>((run.end - run.first) * kSectorBytes));
+    }
+    EXPECT_EQ(bytes.first(static_cast<qsizetype>(found[0]->bytes)), one.bytes);
+}
+
 TEST(MovieCompletion, ChoiceThatNoDecoderChecked_IsNotProved) {
     // Pictures longer than a cluster leave clusters in which nothing begins.
     std::vector<test::PictureSpec> large = plainPictures(12);

@@ -4,12 +4,13 @@
 #include <QBuffer>
 #include <QByteArray>
 #include <QImage>
+#include <QImageWriter>
 #include <cmath>
 #include <random>
 
 namespace vantor::test {
 
-inline QByteArray makePhoto(unsigned seed, int width = 640, int height = 480) {
+inline QImage makePicture(unsigned seed, int width, int height) {
     std::mt19937 random(seed);
     std::uniform_real_distribution<double> any(0, 1);
     struct Wave {
@@ -30,9 +31,18 @@ inline QByteArray makePhoto(unsigned seed, int width = 640, int height = 480) {
             image.setPixel(x, y, qRgb(grey, std::min(255, grey + 20), 255 - grey));
         }
     }
+    return image;
+}
+
+enum class Scans { One, Progressive };
+
+inline QByteArray makePhoto(unsigned seed, int width = 640, int height = 480, Scans scans = Scans::One) {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "JPG", 92);
+    QImageWriter writer(&buffer, "JPG");
+    writer.setQuality(92);
+    writer.setProgressiveScanWrite(scans == Scans::Progressive);
+    writer.write(makePicture(seed, width, height));
     return buffer.data();
 }
 

@@ -317,7 +317,7 @@ TEST(SaveSummary, SaysEverythingOnce) {
     EXPECT_EQ(
         summaryDetails(summary),
         QStringLiteral("Of these: 1,200 complete, 3 cut off, 1 of unknown length.\n"
-                       "They are in /out, in a folder for each type.\n"
+                       "They are in /out.\n"
                        "Not written again: 1 item, the same contents are saved already.\n"
                        "7 items could not be saved:\n   a: full\n   b: full\n   c: full\n   d: full\n"
                        "   e: full\n   and 2 more\n"

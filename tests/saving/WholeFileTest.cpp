@@ -41,6 +41,23 @@ TEST(WholeFile, TakenNamesGetANumberBeforeTheExtension) {
     }
 }
 
+// One after the other they would take as many tries as the square of their number.
+TEST(WholeFile, NameThatIsTakenManyTimes_TakesFewTries) {
+    const QTemporaryDir folder;
+    QStringList names{QStringLiteral("a.txt")};
+    for (int n = 2; n <= 3000; ++n) {
+        names.append(QStringLiteral("a (%1).txt").arg(n));
+    }
+    for (const QString& name : names) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+    for (const char* expected : {"a (3001).txt", "a (3002).txt"}) {
+        WholeFile file(folder.path());
+        EXPECT_EQ(file.commit("a.txt"), folder.filePath(expected));
+    }
+}
+
 TEST(WholeFile, MissingFolderIsAnError) {
     WholeFile file("/nowhere/at/all");
     EXPECT_FALSE(file.isGood());

@@ -66,6 +66,9 @@ TEST_P(OneReading, LongSearches_PublishWhatTwoReadingsDo_AndReadTheMediumOnce) {
             std::count_if(found.begin(), found.end(), [](const auto& i) { return i.pass == "THD"; }) > 5,
             true);
         EXPECT_LE(static_cast<double>(asked.sectors), 1.05 * kLongSearch) << "round " << round;
+        if (GetParam() == WindowedReader::Fetching::WhenAsked) {
+            EXPECT_LE(asked.sectors, kLongSearch) << "the later pass looks at what the first one kept";
+        }
         for (const auto& [sector, times] : asked.refusals) {
             EXPECT_LE(times, 2) << "sector " << sector << ", round " << round;
         }

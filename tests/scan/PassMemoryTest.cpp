@@ -1,6 +1,7 @@
 // What one pass remembers for the next, and what that costs.
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <random>
 #include <set>
 
@@ -14,6 +15,8 @@ const QStringList& someRecords() {
     static const QStringList records = recordsOf({{"JPG", "4142", "1", "1000"}});
     return records;
 }
+
+const std::vector<std::uint8_t> kSomeBytes(512, 0x41);
 
 }  // namespace
 
@@ -64,7 +67,7 @@ TEST(SectorBits, FewMembers_CostLittle) {
 TEST(PassMemory, QuietIsWhatWasReadAndNotMarked) {
     PassMemory memory(someRecords(), 100);
     for (const std::uint64_t sector : {10U, 11U, 12U, 13U, 20U, 21U}) {
-        memory.note(sector, sector == 12 ? kLookLater : kLookNow);
+        memory.note(sector, sector == 12 ? kLookLater : kLookNow, kSomeBytes.data());
     }
     EXPECT_EQ(memory.quietUntil(9), 9U);
     EXPECT_EQ(memory.quietUntil(10), 12U);
@@ -78,8 +81,35 @@ TEST(PassMemory, QuietIsWhatWasReadAndNotMarked) {
 
 TEST(PassMemory, SectorsThatNoScreenSaw_AreNeverQuiet) {
     PassMemory memory(someRecords(), 100);
-    memory.note(5, kAllLooks);
+    memory.note(5, kAllLooks, kSomeBytes.data());
     EXPECT_EQ(memory.quietUntil(5), 5U);
+}
+
+TEST(PassMemory, KeepsTheBytesThatTheLaterPassLooksAt_AsLongAsThereIsRoom) {
+    PassMemory memory(someRecords(), 100);
+    std::vector<std::uint8_t> bytes(512);
+    const auto note = [&](std::uint64_t sector, std::uint8_t looks) {
+        std::memcpy(bytes.data(), &sector, sizeof sector);
+        memory.note(sector, looks, bytes.data());
+    };
+    const auto isKept = [&](std::uint64_t sector) {
+        const std::uint8_t* const kept = memory.bytesOf(sector);
+        return kept != nullptr && std::memcmp(kept, &sector, sizeof sector) == 0;
+    };
+    note(7, kLookLater);
+    note(8, kLookNow);
+    note(9, kLookLater);
+    EXPECT_TRUE(isKept(7));
+    EXPECT_EQ(memory.bytesOf(8), nullptr);
+    EXPECT_TRUE(isKept(9));
+    std::uint64_t sector = 10;
+    for (; sector < 8 + PassMemory::kMostKept; ++sector) {
+        note(sector, kLookLater);
+    }
+    EXPECT_TRUE(isKept(sector - 1));
+    note(sector, kLookLater);
+    EXPECT_EQ(memory.bytesOf(sector), nullptr);
+    EXPECT_EQ(memory.quietUntil(sector), sector) << "then the medium is asked";
 }
 
 TEST(PassMemory, AnotherMediumOrOtherRecords_AreNotWhatItIsFor) {
@@ -90,18 +120,20 @@ TEST(PassMemory, AnotherMediumOrOtherRecords_AreNotWhatItIsFor) {
 }
 
 TEST(PassMemory, ItsScreen_LooksForBothPasses) {
-    const PassMemory memory(someRecords(), 100);
-    const auto screen = memory.screenBeside(std::make_shared<const HeaderMatcher>(
-        recordsOf({{"PNG", "4344", "1", "1000"}, {"X", "41", "1", "1"}})));
-    std::vector<std::uint8_t> bytes(4 * 512);
+    const PassMemory memory(recordsOf({{"JPG", "4142", "1", "1000"}, {"GIF", "47", "1", "1"}}), 100);
+    // A catalogue may end within a record.
+    const QStringList now = recordsOf({{"PNG", "4344", "1", "1000"}, {"X", "41", "1", "1"}}) << "half";
+    const auto screen = memory.screenBeside(std::make_shared<const HeaderMatcher>(now), now);
+    std::vector<std::uint8_t> bytes(5 * 512);
     bytes[0] = 0x41;
     bytes[1] = 0x42;
     bytes[512] = 0x43;
     bytes[513] = 0x44;
     bytes[1024] = 0x41;
-    std::vector<std::uint8_t> looks(4, 0x80);
-    screen->screen(bytes.data(), 4, looks.data());
-    EXPECT_EQ(looks, (std::vector<std::uint8_t>{kLookNow | kLookLater, kLookNow, kLookNow, 0}));
+    bytes[4 * 512] = 0x47;
+    std::vector<std::uint8_t> looks(5, 0x80);
+    screen->screen(bytes.data(), 5, looks.data());
+    EXPECT_EQ(looks, (std::vector<std::uint8_t>{kLookNow | kLookLater, kLookNow, kLookNow, 0, kLookLater}));
 }
 
 }  // namespace vantor

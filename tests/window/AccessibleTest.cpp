@@ -225,6 +225,9 @@ TEST_P(ByReader, FromTheMediumToASavedFile) {
     QAccessibleInterface* cell = face(browser)->tableInterface()->cellAt(1, 0);
     EXPECT_TRUE(cell->text(QAccessible::Name).startsWith(c.itemAt(1)->imageTitle()));
     selectRow(browser, 1);
+    // While the item is copied to be shown, a sheet keeps every button from being pressed.
+    ASSERT_TRUE(photo ||
+                waitFor([&] { return !c.session && c._QuickLook_View_Box->title() == c.itemAt(1)->path(); }));
     answer(QStringLiteral("OK"));
     press(photo ? c.saveSelectedButton : c.saveSelectedButton_Sig);
     const QString name = c.itemAt(1)->imageTitle();

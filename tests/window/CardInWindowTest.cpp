@@ -4,6 +4,7 @@
 
 #include "results/RecoveryMode.h"
 #include "tests/filesystem/CardImage.h"
+#include "tests/support/Gate.h"
 #include "tests/support/SmallFiles.h"
 #include "tests/window/WindowTest.h"
 #include "window/browser/FoundPane.h"
@@ -83,11 +84,45 @@ TEST_F(CardInWindow, AnErasedCardIsSaidToBeSo_AndTheSearchGoesOn) {
     formatFat(image, fat);
     openWith(image);
     toFileTypes(kRawFileMode);
-    scanToEnd();
+    Gate gate;
+    card.beforeRead = gate.atRead(15'000);  // in the midst of the search
+    bool offersToGoOn = true;
+    when([this] { return controller->searchEndBar->isVisible(); },
+         [&] {
+             EXPECT_TRUE(controller->scanShown());
+             offersToGoOn =
+                 controller->searchEndBar->findChild<QPushButton*>(QStringLiteral("goOnButton"))->isVisible();
+             gate.open();
+         });
+    bool goesOnBehindThePanel = true;
+    answers.then([&](QDialog* panel) {
+        goesOnBehindThePanel = controller->searchEndBar->isVisible();
+        pressButton(panel, QStringLiteral("OK"));
+    });
+    click(controller->nextButton);
+    ASSERT_TRUE(scanEnds());
+    EXPECT_FALSE(offersToGoOn) << "with what goes on already";
+    EXPECT_FALSE(goesOnBehindThePanel) << "a search that is over is neither stopped nor let go on";
     EXPECT_TRUE(controller->searchEndBar->isVisible());
     EXPECT_TRUE(controller->searchEndLabel->text().contains(QStringLiteral("This card reads as erased")))
         << controller->searchEndLabel->text().toStdString();
     EXPECT_TRUE(controller->searchEndLabel->text().startsWith(QStringLiteral("The search has completed")));
+}
+
+TEST_F(CardInWindow, OnceSomethingIsFound_NobodyIsToldThatNothingCanBe) {
+    FatPlaces fat;
+    MemoryCard image(fat.end());
+    formatFat(image, fat);
+    const QByteArray sound = wavFile(400);
+    const std::size_t between = image.sectors() / 256 * 200 + 1;  // of the places that are looked at
+    std::memcpy(image.bytes.data() + between * 512, sound.constData(),
+                static_cast<std::size_t>(sound.size()));
+    openWith(image);
+    toFileTypes(kRawFileMode);
+    scanToEnd();
+    EXPECT_EQ(controller->itemCount(), 1U);
+    EXPECT_FALSE(controller->searchEndLabel->text().contains(QStringLiteral("erased")))
+        << controller->searchEndLabel->text().toStdString();
 }
 
 TEST_F(CardInWindow, ACardWithFilesIsNotSaidToBeErased) {

@@ -55,7 +55,7 @@ TEST(CardPictureParts, AreTold_AndThoseBeyondTheCardAreNot) {
         range, [&](const QString&) { return parts; }, nullptr);
     picture.resize(400, picture.sizeHint().height());
     picture.show();
-    EXPECT_EQ(picture.words(), QStringLiteral("FAT16 · all of it is searched"));
+    EXPECT_EQ(picture.words(), QStringLiteral("32.8 kB as makers count · FAT16 · all of it is searched"));
     const auto at = [&](int x) { return picture.grab().toImage().pixelColor(x, 8); };
     const QColor plain = at(100);
     parts = {{QStringLiteral("one"), {0, 32}, 0.25},
@@ -63,10 +63,17 @@ TEST(CardPictureParts, AreTold_AndThoseBeyondTheCardAreNot) {
              {QStringLiteral("beyond"), {64, 90}, {}}};
     picture.hide();
     picture.show();
-    EXPECT_EQ(picture.words(), QStringLiteral("one (25 % used) · two · all of it is searched"));
+    EXPECT_EQ(picture.words(),
+              QStringLiteral("32.8 kB as makers count · one (25 % used) · two · all of it is searched"));
     EXPECT_NE(at(100), plain) << "of the first part";
     EXPECT_EQ(at(225), plain) << "between the two";
     EXPECT_NE(at(300), plain);
+    sectors.setText(QStringLiteral("5000000"));
+    sectorRange.setChecked(true);
+    start.setText(QStringLiteral("1"));
+    end.setText(QStringLiteral("5000000"));
+    EXPECT_TRUE(picture.words().endsWith(QStringLiteral("99 % of it is searched")))
+        << "a part is not told as 100 %: " << picture.words().toStdString();
 }
 
 }  // namespace

@@ -109,17 +109,17 @@ class Clicking : public WindowTest {
         }
         giveRealDecoders();
     }
-    // As the program has them, but for the device.
+    // As the program has them, but for the device and for deadlines that no busy machine misses.
     void giveRealDecoders() {
         DecodePoolOptions pictures;
         pictures.helper = QStringLiteral(VANTOR_DECODE_HELPER);
         pictures.helpers = 2;
-        pictures.thumbnailDeadline = pictures.pictureDeadline = std::chrono::seconds(2);
+        pictures.thumbnailDeadline = pictures.pictureDeadline = kPatience;
         pool = std::make_shared<DecodePool>(pictures);
         HelperMovieOptions playing;
         playing.sound = [this] { return std::make_unique<HeardDevice>(heard); };
         playing.reader.helper = QStringLiteral(VANTOR_MOVIE_HELPER);
-        playing.reader.openDeadline = playing.reader.frameDeadline = std::chrono::seconds(2);
+        playing.reader.openDeadline = playing.reader.frameDeadline = kPatience;
         parts.thumbnailer = [pool = pool](const QByteArray& encoded, const QString& extension) {
             return pool->thumbnail(encoded, extension);
         };

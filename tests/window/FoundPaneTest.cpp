@@ -61,6 +61,31 @@ class FoundPaneTest : public FilesToExamine {
     const QString aiff = QStringLiteral("AIFF00001.AIFF");
 };
 
+// A drawing, whose text is looked at, and as the parameter wants a sound, of which only the length is
+// followed.
+class SumOfTheSearch : public FilesToExamine, public ::testing::WithParamInterface<bool> {};
+
+TEST_P(SumOfTheSearch, AllComplete_IsSaidWhereTheContentOfAllWasChecked) {
+    openResults(record("SVG", "3C737667", "Drawing"));
+    card.bytes.assign(card.bytes.size(), {});
+    if (GetParam()) {
+        put(wavFile(5000), 4);
+    }
+    put("<svg xmlns=\"http://www.w3.org/2000/svg\"><path d=\"M0 0\"/></svg>\n", 30);
+    FilesToExamine::scan();
+    ASSERT_EQ(controller->itemCount(), GetParam() ? 2U : 1U);
+    controller->foundPane_Sig->findChild<QTreeWidget*>()
+        ->findItems(QStringLiteral("By size"), Qt::MatchExactly)
+        .constFirst()
+        ->setExpanded(true);
+    const auto sum = [this] { return controller->searchSumLabel->text(); };
+    EXPECT_TRUE(waitFor([&] { return controller->factsOfItem(0).soundness && sum().contains(u'B'); }));
+    EXPECT_TRUE(waitFor([&] { return sum().contains(QStringLiteral("complete")) == !GetParam(); }))
+        << sum().toStdString();
+}
+
+INSTANTIATE_TEST_SUITE_P(WithoutAndWithASound, SumOfTheSearch, ::testing::Bool());
+
 TEST_F(FoundPaneTest, TheSumIsThatOfTheFiles_OnceAllAreExamined) {
     scan();
     row({tr("By size")})->setExpanded(true);

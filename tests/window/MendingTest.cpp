@@ -9,6 +9,7 @@
 #include "results/RecoveryMode.h"
 #include "tests/repair/Photos.h"
 #include "tests/repair/ScatteredCard.h"
+#include "tests/repair/WatchedCard.h"
 #include "tests/support/Gate.h"
 #include "tests/support/SmallFiles.h"
 #include "tests/window/WindowTest.h"
@@ -38,8 +39,13 @@ class Mending : public WindowTest {
         source->add(QStringLiteral("sdb1"), QStringLiteral("CANON_DC"), card.bytes.size());
         writeCatalogue("ZelExt2.dll", record("JPG", "FFD8FF", "JPEG photo"));
         writeCatalogue("ZelExt2Adv.dll", record("GIF", "474946", "GIF picture"));
+        m_reads->atRead = [this](std::uint64_t) {
+            if (hold) {
+                gate.passage()();
+            }
+        };
         parts.openBeside = [this](const QString&) -> std::unique_ptr<SectorReader> {
-            return refuseOpen ? nullptr : std::make_unique<HeldReader>(m_bytes, *this);
+            return refuseOpen ? nullptr : std::make_unique<test::WatchedCard>(m_bytes, m_reads);
         };
         open();
         toRange(kPhotoMode);
@@ -72,30 +78,8 @@ class Mending : public WindowTest {
     inline static const QByteArray m_one = test::makePhoto(1), m_other = test::makePhoto(2);
 
   private:
-    // What reads beside the interface; at the gate where somebody holds it.
-    class HeldReader final : public SectorReader {
-      public:
-        HeldReader(const QByteArray& bytes, const Mending& test) : m_card(bytes), m_test(test) {}
-        std::uint64_t mediumSectors() const override { return m_card.mediumSectors(); }
-
-      protected:
-        bool fetch() override {
-            if (m_test.hold) {
-                m_test.gate.passage()();
-            }
-            if (!m_card.seek(position()) || !m_card.read()) {
-                return false;
-            }
-            handOver(m_card.current(), 1);
-            return true;
-        }
-        bool moveTo(std::uint64_t) override { return true; }
-
-      private:
-        test::MemoryReader m_card;
-        const Mending& m_test;
-    };
-
+    // What is read beside the interface; at the gate where somebody holds it.
+    const std::shared_ptr<test::WatchedCard::Script> m_reads = std::make_shared<test::WatchedCard::Script>();
     QByteArray m_bytes;
 };
 

@@ -2,6 +2,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFileInfo>
+#include <atomic>
 #include <mutex>
 
 #include "results/RecoveryMode.h"
@@ -20,7 +21,7 @@ class PreviewTruth : public Preview {
     PreviewTruth() {
         parts.picture = [this](const QString& file, QSize) {
             note(file);
-            return QImage();
+            return hasPictures ? QImage(40, 30, QImage::Format_RGB32) : QImage();
         };
         parts.movie = [this](const QString& file) {
             note(file);
@@ -43,10 +44,12 @@ class PreviewTruth : public Preview {
         }
         card.badForEver = bad;
         source->add(QStringLiteral("sdb1"), QStringLiteral("CANON_DC"), card.bytes.size());
-        const QByteArray catalogue =
-            record("WAV", "52494646", "Sound") + record("ZIP", "504B0304", "ZIP archive");
+        const QByteArray catalogue = record("WAV", "52494646", "Sound") +
+                                     record("ZIP", "504B0304", "ZIP archive") +
+                                     record("TIF", "49492A00", "Picture");
         writeCatalogue("ZelRaw.dll", catalogue);
         writeCatalogue("ZelVideo.dll", catalogue);
+        cardToExamine = card;
         open();
         toFileTypes(mode);
         scanToEnd();
@@ -60,6 +63,8 @@ class PreviewTruth : public Preview {
     }
 
     MovieLog log;
+    ScriptedMedium cardToExamine{64};  // what those read who examine items, where they may
+    std::atomic<bool> hasPictures{false};
     std::mutex lock;
     QString shownPath;
     QByteArray shown;
@@ -95,6 +100,21 @@ TEST_F(PreviewTruth, BehindABadSector_StandsWhatStandsThere) {
     expected.replace((8 - kAt) * 512, 512, QByteArray(512, '\0'));
     EXPECT_EQ(shown, expected);
     EXPECT_NE(previewBytes("dprv.WAV").first(6000), expected.first(6000)) << "the copy lags behind";
+}
+
+TEST_F(PreviewTruth, APictureThatCannotBeShown_IsToldWithHowSoundItIs) {
+    parts.openBeside = [this](const QString&) { return std::make_unique<ScriptedReader>(cardToExamine); };
+    find(tiffFile(400, 400, "2026:05:17 14:03:22").first(20'000), {60});
+    const auto facts = [this] { return controller->previewFacts->text().split(u'\n'); };
+    select(0);
+    EXPECT_TRUE(waitFor([&] { return facts().constFirst().endsWith(QStringLiteral(" · cut off")); }))
+        << facts().constFirst().toStdString();
+    EXPECT_EQ(facts().constLast(), QStringLiteral("No picture of this file can be shown."));
+    select(1);
+    EXPECT_EQ(facts().size(), 1) << "nobody expects one of an archive";
+    hasPictures = true;
+    select(0);
+    EXPECT_EQ(facts().size(), 1) << "there is one";
 }
 
 TEST_F(PreviewTruth, AMovieIsPlayedFromItsTrueBytes) {

@@ -306,6 +306,41 @@ TEST_F(Saving, AFileThatTakesLong_IsExplainedAndCanBeSkipped) {
     EXPECT_TRUE(controller->hasUnsavedItems());
 }
 
+TEST_F(Saving, KeysMeantForTheList_EndNothing_AndReturnPressesTheButtonThatHasTheKeyboard) {
+    openPhotoResults();
+    destinationIs(destination.path());
+    Gate gate;
+    card.beforeRead = gate.atRead(card.reads + 70);
+    when(
+        [&] {
+            const QDialog* const sheet = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            return sheet != nullptr && sheet->objectName() == u"saveProgress" && sheet->isActiveWindow() &&
+                   gate.someoneWaits() &&
+                   sheet->findChild<QLabel*>(QStringLiteral("saveHeading"))->text() ==
+                       QStringLiteral("Saving 2 of 3");
+        },
+        [&] {
+            QWidget* const sheet = QApplication::activeModalWidget();
+            const auto* skip = sheet->findChild<QPushButton*>(QStringLiteral("skipButton"));
+            const auto* cancel = sheet->findChild<QPushButton*>(QStringLiteral("cancelButton"));
+            for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+                QTest::keyClick(sheet->windowHandle(), key);
+                EXPECT_TRUE(skip->isEnabled() && cancel->isEnabled()) << key;
+            }
+            QTest::keyClick(sheet->windowHandle(), Qt::Key_Tab);
+            EXPECT_TRUE(skip->hasFocus());
+            QTest::keyClick(sheet->windowHandle(), Qt::Key_Return);
+            EXPECT_FALSE(skip->isEnabled());
+            QTest::keyClick(sheet->windowHandle(), Qt::Key_Return);
+            EXPECT_TRUE(cancel->isEnabled()) << "the button beside the one that went";
+            gate.open();
+        });
+    answers.press(QStringLiteral("OK"));
+    click(controller->saveAllButton);
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\n2 files were saved."));
+    EXPECT_TRUE(answers.seen().back().informative.contains(QStringLiteral(": Skipped")));
+}
+
 TEST_F(Saving, RawItemsAreSavedTheSameWay) {
     openWithCard();
     toFileTypes(kRawFileMode);

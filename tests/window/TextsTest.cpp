@@ -140,7 +140,9 @@ TEST_F(Start, FitsASmallScreenAndALargeOne) {
     const auto nothingIsCutOff = [this] {
         for (const auto* label : controller->window->findChildren<QLabel*>()) {
             if (label->isVisible() && !label->text().isEmpty() && !label->wordWrap()) {
-                EXPECT_GE(label->width(), label->sizeHint().width()) << label->objectName().toStdString();
+                // What is told beside a search may have come a moment ago.
+                EXPECT_TRUE(waitFor([label] { return label->width() >= label->sizeHint().width(); }))
+                    << label->objectName().toStdString();
                 EXPECT_GE(label->height(), label->fontMetrics().height())
                     << label->objectName().toStdString();
             }

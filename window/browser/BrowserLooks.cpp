@@ -179,8 +179,8 @@ ItemTraits BrowserLooks::traitsOf(std::size_t index) const {
     traits.camera = soundness != nullptr ? soundness->camera : QString();
     traits.pixels =
         soundness != nullptr ? pixelClassOf(soundness->width, soundness->height) : PixelClass::NotKnown;
-    traits.complete =
-        soundness != nullptr && soundness->verdict == Verdict::Complete && !soundness->notOfItsType;
+    traits.complete = soundness != nullptr && soundness->verdict == Verdict::Complete && soundness->checked &&
+                      !soundness->notOfItsType;
     traits.bytes = soundness != nullptr ? soundness->bytes : item->carved().sectors() * kSectorBytes;
     return traits;
 }

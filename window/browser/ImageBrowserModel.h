@@ -48,6 +48,7 @@ class ImageBrowserModel : public QAbstractListModel {
     // and says which rows are selected now.
     void setOrder(std::optional<QList<int>> order);
     bool hasOrder() const { return m_order.has_value(); }
+    int listedCount() const { return m_count; }
     int indexOfRow(int row) const { return m_order ? m_order->value(row, -1) : row; }
     int rowOfIndex(int index) const;  // -1: not shown
 

@@ -51,6 +51,8 @@ class ImageBrowserView : public GridView {
     QList<qsizetype> selectionIndexes() const;  // ascending
     qsizetype selectedCount() const;
     std::vector<std::size_t> indexesInView() const;
+    // Items of the list as far as the browser knows of them, which may be fewer than have been found.
+    qsizetype listedCount() const;
     int shownCount() const;
     QList<qsizetype> shownIndexes() const;  // in the order in which they are shown
     int rowOfIndex(qsizetype index) const;  // -1: not shown

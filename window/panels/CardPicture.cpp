@@ -12,6 +12,7 @@
 
 #include "catalogue/NumberText.h"
 #include "media/KernelPartitions.h"
+#include "media/SectorReader.h"
 #include "results/SizeForPeople.h"
 #include "window/widgets/Theme.h"
 
@@ -23,9 +24,13 @@ constexpr int kBarHeight = 24;
 constexpr int kPictureRadius = 6;
 constexpr int kUsedHeight = 4;
 constexpr int kFileSystem = 2;  // places among the facts
-constexpr int kCapacity = 3;
 
+// A part that is not all is never told as 100 %.
 QString percent(double share) {
+    constexpr double kMostOfAPart = 0.99;
+    if (share < 1) {
+        share = std::min(share, kMostOfAPart);
+    }
     return localeOfTexts().toString(share * 100, 'f', share < 0.1 ? 1 : 0) + QStringLiteral(" %");
 }
 
@@ -112,11 +117,12 @@ void CardPicture::describe() {
 }
 
 QString CardPicture::words() const {
-    QStringList all;
+    // The capacity above counts in steps of 1,024 and all else of the program in steps of 1,000.
+    QStringList all{tr("%1 as makers count").arg(sizeForPeople(sectors() * kSectorBytes))};
     for (const CardPart& part : m_parts) {
         all << (part.used ? tr("%1 (%2 used)").arg(part.words, percent(*part.used)) : part.words);
     }
-    if (all.isEmpty()) {
+    if (m_parts.empty()) {
         const QString fileSystem = m_range.values.at(kFileSystem)->text();
         all << (fileSystem.isEmpty() || fileSystem == noFact() ? tr("No file system is known") : fileSystem);
     }
@@ -164,7 +170,7 @@ void CardPicture::paintParts(QPainter& painter, const QRect& bar) const {
         painter.setPen(theme::kQuietInk);
         const QString fileSystem = m_range.values.at(kFileSystem)->text();
         painter.drawText(bar, Qt::AlignCenter,
-                         fileSystem.isEmpty() ? m_range.values.at(kCapacity)->text() : fileSystem);
+                         fileSystem.isEmpty() ? sizeForPeople(sectors() * kSectorBytes) : fileSystem);
     }
     // What is left out.
     const SectorRun range = chosen();

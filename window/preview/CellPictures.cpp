@@ -75,9 +75,7 @@ CellPictures::CellPictures(FileLooker look, OrderOf orderOf)
 
 CellPictures::~CellPictures() {
     requestEnd();
-    if (m_thread.joinable()) {
-        m_thread.join();
-    }
+    m_thread.join();
 }
 
 void CellPictures::begin() {
@@ -146,13 +144,7 @@ void CellPictures::give(Work work) {
         m_next = std::move(work);
         m_nothingWanted = false;
     }
-    if (!m_thread.joinable()) {
-        m_running = true;
-        m_thread = std::thread([this] {
-            run();
-            m_running = false;
-        });
-    }
+    m_thread.begin([this] { run(); });
     m_wake.notify_all();
 }
 

@@ -4,7 +4,6 @@
 #include <QCache>
 #include <QObject>
 #include <QTimer>
-#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <cstdint>
@@ -12,10 +11,10 @@
 #include <memory>
 #include <mutex>
 #include <optional>
-#include <thread>
 #include <vector>
 
 #include "window/preview/FilePreviewer.h"
+#include "window/preview/OrderThread.h"
 #include "window/preview/ViewLoader.h"
 #include "window/widgets/CellPicture.h"
 
@@ -54,7 +53,7 @@ class CellPictures : public QObject {
 
     // Ends the thread; hasEnded() is false as long as a medium that hangs holds it.
     void requestEnd();
-    bool hasEnded() const { return !m_running; }
+    bool hasEnded() const { return m_thread.hasEnded(); }
 
   signals:
     // Another picture is there.
@@ -98,8 +97,7 @@ class CellPictures : public QObject {
     std::optional<Work> m_next;
     bool m_nothingWanted = true;
     bool m_ending = false;
-    std::atomic<bool> m_running{false};
-    std::thread m_thread;  // started with the first picture that is wanted
+    OrderThread m_thread;  // started with the first picture that is wanted
 };
 
 }  // namespace vantor

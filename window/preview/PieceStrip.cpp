@@ -14,7 +14,7 @@ namespace vantor {
 
 namespace {
 
-constexpr int kStripHeight = 18;
+constexpr int kPiecesHeight = 18;
 constexpr int kBarGap = 6;
 constexpr qreal kLeastWidth = 4;
 constexpr qreal kStripRadius = 3;
@@ -47,11 +47,11 @@ void PieceStrip::setPieces(const std::vector<SectorRun>& pieces) {
 }
 
 QSize PieceStrip::sizeHint() const {
-    return {40 * theme::kUnit, 2 * kStripHeight + kBarGap};
+    return {40 * theme::kUnit, 2 * kPiecesHeight + kBarGap};
 }
 
 QSize PieceStrip::minimumSizeHint() const {
-    return {12 * theme::kUnit, 2 * kStripHeight + kBarGap};
+    return {12 * theme::kUnit, 2 * kPiecesHeight + kBarGap};
 }
 
 int PieceStrip::captionWidth() const {
@@ -121,13 +121,13 @@ void PieceStrip::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const int caption = captionWidth();
-    QRectF bar(caption, 0, width() - caption, kStripHeight);
+    QRectF bar(caption, 0, width() - caption, kPiecesHeight);
     for (const bool card : {false, true}) {
         painter.setPen(m_onDark ? QColor(0xb6, 0xc0, 0xd0) : QColor(theme::kQuietInk));
-        painter.drawText(QRectF(0, bar.top(), caption, kStripHeight), Qt::AlignLeft | Qt::AlignVCenter,
+        painter.drawText(QRectF(0, bar.top(), caption, kPiecesHeight), Qt::AlignLeft | Qt::AlignVCenter,
                          card ? tr("Card") : tr("File"));
         paintBar(painter, bar, card ? onCard(bar) : inFile(bar));
-        bar.translate(0, kStripHeight + kBarGap);
+        bar.translate(0, kPiecesHeight + kBarGap);
     }
 }
 

@@ -11,9 +11,7 @@ ViewLoader::ViewLoader(PicturePreviewer picture, MovieLoader movie)
 
 ViewLoader::~ViewLoader() {
     requestEnd();
-    if (m_thread.joinable()) {
-        m_thread.join();
-    }
+    m_thread.join();
 }
 
 void ViewLoader::load(ViewOrder order) {
@@ -45,13 +43,7 @@ void ViewLoader::give(Work work) {
         m_next = std::move(work);
         m_busy = true;
     }
-    if (!m_thread.joinable()) {
-        m_running = true;
-        m_thread = std::thread([this] {
-            run();
-            m_running = false;
-        });
-    }
+    m_thread.begin([this] { run(); });
     m_wake.notify_all();
 }
 

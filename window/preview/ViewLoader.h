@@ -12,10 +12,10 @@
 #include <memory>
 #include <mutex>
 #include <optional>
-#include <thread>
 
 #include "window/preview/FilePreviewer.h"
 #include "window/preview/Movie.h"
+#include "window/preview/OrderThread.h"
 #include "window/preview/WholePreview.h"
 
 namespace vantor {
@@ -57,7 +57,7 @@ class ViewLoader : public QObject {
 
     // Ends the thread; hasEnded() is false as long as a medium that hangs holds it.
     void requestEnd();
-    bool hasEnded() const { return !m_running; }
+    bool hasEnded() const { return m_thread.hasEnded(); }
 
     std::function<void(ViewedThing thing)> onLoaded;
     std::function<void(const QImage& picture)> onEnlarged;
@@ -90,8 +90,7 @@ class ViewLoader : public QObject {
 
     std::atomic<std::uint64_t> m_newest{0};
     std::atomic<bool> m_busy{false};
-    std::atomic<bool> m_running{false};
-    std::thread m_thread;  // started with the first order
+    OrderThread m_thread;  // started with the first order
 };
 
 }  // namespace vantor

@@ -240,7 +240,8 @@ std::optional<SavingDesk::Next> SavingDesk::tell(const SaveJob& job, const QStri
     Alert alert{QStringLiteral("\n") + summaryHeadline(summary), summaryDetails(summary), {}};
     if (somethingThere) {
         alert.buttons << tr("Open Folder");
-        alert.picture = report.tally.failed > 0 ? QStringLiteral("info") : QStringLiteral("ok");
+        const bool all = report.tally.failed == 0 && !summary.cancelled;
+        alert.picture = all ? QStringLiteral("ok") : QStringLiteral("info");
     }
     if (report.tally.failed > 0) {
         alert.buttons << tr("Change Folder…");

@@ -31,6 +31,9 @@ SavingSheet::SavingSheet(QWidget* over, std::shared_ptr<SaveJob> job)
     connect(m_ui->cancelButton, &QPushButton::clicked, this, &SavingSheet::cancel);
     connect(m_ui->skipButton, &QPushButton::clicked, this, &SavingSheet::skip);
     m_dialog->installEventFilter(this);
+    // Neither button has the keyboard by itself: what was meant for the list would end the saving.
+    m_dialog->setFocusPolicy(Qt::StrongFocus);
+    m_dialog->setFocus();
     m_meter.begin(m_job->total());
     m_clock.start();
     showProgress();
@@ -54,16 +57,22 @@ void SavingSheet::run(const std::function<bool()>& ending) {
     m_dialog->hide();
 }
 
-// Escape and the close button cancel too; the sheet goes when the job has ended.
+// Escape and the close button cancel too; the sheet goes when the job has ended. Return presses the button
+// that has the keyboard, and no other.
 bool SavingSheet::eventFilter(QObject* watched, QEvent* event) {
-    const bool escape =
-        event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
-    if (event->type() != QEvent::Close && !escape) {
-        return QObject::eventFilter(watched, event);
+    const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : 0;
+    if (event->type() == QEvent::Close || key == Qt::Key_Escape) {
+        cancel();
+        event->ignore();
+        return true;
     }
-    cancel();
-    event->ignore();
-    return true;
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+        if (auto* const button = qobject_cast<QPushButton*>(m_dialog->focusWidget())) {
+            button->click();
+        }
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void SavingSheet::cancel() {
@@ -79,6 +88,11 @@ void SavingSheet::cancel() {
 // The file that the sheet names, not one that came to hand meanwhile.
 void SavingSheet::skip() {
     m_job->skip(m_shown);
+    // Not to the button beside it.
+    m_skipHasKeyboard = m_ui->skipButton->hasFocus();
+    if (m_skipHasKeyboard) {
+        m_dialog->setFocus();
+    }
     m_ui->skipButton->setEnabled(false);
 }
 
@@ -87,6 +101,9 @@ void SavingSheet::showTrouble(const SaveProgress& progress) {
     if (m_shown != progress.turn) {
         m_shown = progress.turn;
         m_ui->skipButton->setEnabled(!m_job->isCancelled());
+        if (m_skipHasKeyboard && m_dialog->focusWidget() == m_dialog.get()) {
+            m_ui->skipButton->setFocus();
+        }
     }
     const bool trouble = progress.refused > 0;
     m_ui->saveTroubleLabel->setText(

@@ -45,7 +45,8 @@ class SavingSheet : public QObject {
     std::unique_ptr<Ui::SavingProgress> m_ui;
     QTimer m_poll;
     QElapsedTimer m_clock, m_sinceCancel;
-    std::size_t m_shown = 0;  // turn of the item that the sheet shows
+    bool m_skipHasKeyboard = false;  // until the file that was skipped is left
+    std::size_t m_shown = 0;         // turn of the item that the sheet shows
     ScanMeter m_meter;
 };
 
