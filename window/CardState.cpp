@@ -25,7 +25,7 @@ void MyTableController::setUpCardStrip() {
     m_cardWords->setTextFormat(Qt::PlainText);
     m_cardWords->setWordWrap(true);
     m_cardWords->setAccessibleDescription(tr("How the card fares"));
-    m_keepCopyButton = new QPushButton(tr("&Keep a Copy…"), scanStrip);
+    m_keepCopyButton = new QPushButton(tr("Keep a C&opy…"), scanStrip);
     m_keepCopyButton->setObjectName(QStringLiteral("keepCopyButton"));
     m_keepCopyButton->setToolTip(
         tr("The search is stopped for a moment and goes on, reading the card once into the file that you "

@@ -49,7 +49,7 @@ void MyTableController::showItemMenu(ImageBrowserView* browser, qsizetype index,
         });
     sameDay->setEnabled(day != 0);
     QAction* const sameType =
-        menu->addAction(tr("Select All &Type %1").arg(type), this, [this, browser, type] {
+        menu->addAction(tr("Select All T&ype %1").arg(type), this, [this, browser, type] {
             selectLike(browser, [this, browser, type](qsizetype other) {
                 const auto like = imageBrowser_itemAtIndex(browser, other);
                 return like && like->fileType() == type;

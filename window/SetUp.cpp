@@ -68,9 +68,10 @@ void MyTableController::loadInterface() {
 
 void MyTableController::dressWindow() {
     window->setWindowIcon(ownIcon(QStringLiteral("vantor-recovery")));
-    // The longest help text takes two lines of the smallest window, and begins with an empty one at times.
+    // So that the buttons beside it keep their place from screen to screen: in most languages and windows the
+    // longest help text takes no more.
     constexpr int kHelpLines = 3;
-    _help_info->setFixedHeight(kHelpLines * _help_info->fontMetrics().lineSpacing());
+    _help_info->setMinimumHeight(kHelpLines * _help_info->fontMetrics().lineSpacing());
     rawSplitter->setStretchFactor(0, 0);
     rawSplitter->setStretchFactor(1, 1);
     rawSplitter->setStretchFactor(2, 0);
@@ -234,6 +235,9 @@ void MyTableController::awakeFromNib() {
     emptyBrowsers();
     loadCatalogues(m_parts.resourcesFolder);
     loadPlaceholder(m_parts.resourcesFolder);
+    for (ImageBrowserView* const browser : {imageBrowser, imageBrowser_2}) {
+        browser->setPlaceholder(Null_Image_Data);
+    }
     _Progress_Horz->setRange(0, kIdleProgressSteps);
     _Progress_Horz->setValue(0);
     sortFileTypeRows(nsCheckedListDataObject);

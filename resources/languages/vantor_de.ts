@@ -256,8 +256,8 @@ Die Karte wird nur gelesen, nie beschrieben. Benutzen Sie sie nicht weiter, bis 
         <translation>Was die Suche gefunden hat und wie lange sie dauerte</translation>
     </message>
     <message>
-        <source>&amp;Try Bad Sectors Again</source>
-        <translation>Defekte Sektoren &amp;erneut lesen</translation>
+        <source>Try Ba&amp;d Sectors Again</source>
+        <translation>Defe&amp;kte Sektoren erneut lesen</translation>
     </message>
     <message>
         <source>Try bad sectors again</source>
@@ -491,7 +491,7 @@ Die Karte wird nur gelesen, nie beschrieben. Benutzen Sie sie nicht weiter, bis 
     </message>
     <message>
         <source>Open &amp;Folder</source>
-        <translation>&amp;Ordner öffnen</translation>
+        <translation>Ord&amp;ner öffnen</translation>
     </message>
     <message>
         <source>Open the folder of saved files</source>
@@ -2456,7 +2456,7 @@ Läuft auf %2.</translation>
         <translation>Funde nach Typ</translation>
     </message>
     <message>
-        <source>&amp;Found types only</source>
+        <source>Fo&amp;und types only</source>
         <translation>Nur ge&amp;fundene Typen</translation>
     </message>
     <message>
@@ -2541,7 +2541,7 @@ Läuft auf %2.</translation>
     </message>
     <message>
         <source>Open &amp;Folder</source>
-        <translation>&amp;Ordner öffnen</translation>
+        <translation>Ord&amp;ner öffnen</translation>
     </message>
     <message>
         <source>Open the folder of saved files</source>
@@ -2710,7 +2710,7 @@ Läuft auf %2.</translation>
     </message>
     <message>
         <source>Leave out small &amp;files, of less than</source>
-        <translation>Kleine &amp;Dateien auslassen, mit weniger als</translation>
+        <translation>Kleine Date&amp;ien auslassen, mit weniger als</translation>
     </message>
     <message>
         <source>Leave out small files</source>
@@ -3346,7 +3346,7 @@ Läuft auf %2.</translation>
     </message>
     <message>
         <source>Show Th&amp;em</source>
-        <translation>Diese z&amp;eigen</translation>
+        <translation>&amp;Diese zeigen</translation>
     </message>
     <message>
         <source>Show the files that were put together or repaired</source>
@@ -3494,7 +3494,7 @@ Läuft auf %2.</translation>
         <translation>Wie es der Karte geht</translation>
     </message>
     <message>
-        <source>&amp;Keep a Copy…</source>
+        <source>Keep a C&amp;opy…</source>
         <translation>&amp;Kopie behalten …</translation>
     </message>
     <message>
@@ -3618,7 +3618,7 @@ Möchten Sie „%1“ wirklich beenden?</translation>
         <translation>Alle von diesem &amp;Tag auswählen</translation>
     </message>
     <message>
-        <source>Select All &amp;Type %1</source>
+        <source>Select All T&amp;ype %1</source>
         <translation>Alle des T&amp;yps %1 auswählen</translation>
     </message>
     <message>
@@ -4002,7 +4002,7 @@ Bitte wählen Sie die Dateitypen für die Wiederherstellung aus. Mit ‚Weiter�
     </message>
     <message>
         <source>Co&amp;mplete Broken Files</source>
-        <translation>Dateien vervollständi&amp;gen</translation>
+        <translation>Date&amp;ien vervollständigen</translation>
     </message>
     <message>
         <source>Complete broken files</source>

@@ -193,7 +193,7 @@ La tarjeta solo se lee, nunca se escribe en ella. No la use hasta haber recupera
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation>Ay&amp;uda</translation>
+        <translation>A&amp;yuda</translation>
     </message>
     <message>
         <source>Open the help window (F1)</source>
@@ -256,7 +256,7 @@ La tarjeta solo se lee, nunca se escribe en ella. No la use hasta haber recupera
         <translation>Qué encontró la búsqueda y cuánto tardó</translation>
     </message>
     <message>
-        <source>&amp;Try Bad Sectors Again</source>
+        <source>Try Ba&amp;d Sectors Again</source>
         <translation>R&amp;eleer sectores dañados</translation>
     </message>
     <message>
@@ -297,7 +297,7 @@ La tarjeta solo se lee, nunca se escribe en ella. No la use hasta haber recupera
     </message>
     <message>
         <source>&amp;Stop</source>
-        <translation>&amp;Detener</translation>
+        <translation>D&amp;etener</translation>
     </message>
     <message>
         <source>Stop the search</source>
@@ -2456,7 +2456,7 @@ Se ejecuta en %2.</translation>
         <translation>Elementos encontrados por tipo</translation>
     </message>
     <message>
-        <source>&amp;Found types only</source>
+        <source>Fo&amp;und types only</source>
         <translation>Solo tipos e&amp;ncontrados</translation>
     </message>
     <message>
@@ -3241,7 +3241,7 @@ Se ejecuta en %2.</translation>
     </message>
     <message>
         <source>Keep a &amp;copy of the card while searching</source>
-        <translation>Conservar una &amp;copia de la tarjeta al buscar</translation>
+        <translation>Conservar una copia &amp;de la tarjeta al buscar</translation>
     </message>
     <message>
         <source>Choo&amp;se…</source>
@@ -3264,7 +3264,7 @@ Se ejecuta en %2.</translation>
     </message>
     <message>
         <source>&amp;Go On</source>
-        <translation>&amp;Continuar</translation>
+        <translation>Contin&amp;uar</translation>
     </message>
     <message>
         <source>Search the rest of the medium; what was read is not searched again</source>
@@ -3338,7 +3338,7 @@ Se ejecuta en %2.</translation>
     </message>
     <message>
         <source>St&amp;op</source>
-        <translation>D&amp;etener</translation>
+        <translation>Dete&amp;ner</translation>
     </message>
     <message>
         <source>Stop completing broken files; what was put together stays</source>
@@ -3494,8 +3494,8 @@ Se ejecuta en %2.</translation>
         <translation>Cómo está la tarjeta</translation>
     </message>
     <message>
-        <source>&amp;Keep a Copy…</source>
-        <translation>C&amp;onservar una copia…</translation>
+        <source>Keep a C&amp;opy…</source>
+        <translation>Conservar &amp;una copia…</translation>
     </message>
     <message>
         <source>The search is stopped for a moment and goes on, reading the card once into the file that you choose</source>
@@ -3618,12 +3618,12 @@ Do you really want to exit from &apos;%1&apos;?</source>
         <translation>Seleccionar todo el dí&amp;a</translation>
     </message>
     <message>
-        <source>Select All &amp;Type %1</source>
+        <source>Select All T&amp;ype %1</source>
         <translation>Seleccionar todo el &amp;tipo %1</translation>
     </message>
     <message>
         <source>&amp;Go On</source>
-        <translation>&amp;Continuar</translation>
+        <translation>Contin&amp;uar</translation>
     </message>
     <message>
         <source>Go on with the search</source>

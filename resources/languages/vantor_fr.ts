@@ -86,7 +86,7 @@
     </message>
     <message>
         <source>Select &amp;all</source>
-        <translation>Tout &amp;sélectionner</translation>
+        <translation>Tout sélectio&amp;nner</translation>
     </message>
     <message>
         <source>Select all file types</source>
@@ -256,8 +256,8 @@ La carte est seulement lue, jamais écrite. Cessez de l&apos;utiliser tant que v
         <translation>Ce que la recherche a trouvé, et combien de temps elle a duré</translation>
     </message>
     <message>
-        <source>&amp;Try Bad Sectors Again</source>
-        <translation>&amp;Réessayer les secteurs défectueux</translation>
+        <source>Try Ba&amp;d Sectors Again</source>
+        <translation>Réessayer les secte&amp;urs défectueux</translation>
     </message>
     <message>
         <source>Try bad sectors again</source>
@@ -297,7 +297,7 @@ La carte est seulement lue, jamais écrite. Cessez de l&apos;utiliser tant que v
     </message>
     <message>
         <source>&amp;Stop</source>
-        <translation>A&amp;rrêter</translation>
+        <translation>Arrêt&amp;er</translation>
     </message>
     <message>
         <source>Stop the search</source>
@@ -551,7 +551,7 @@ La carte est seulement lue, jamais écrite. Cessez de l&apos;utiliser tant que v
     </message>
     <message>
         <source>Save &amp;All…</source>
-        <translation>&amp;Tout enregistrer…</translation>
+        <translation>Tout enre&amp;gistrer…</translation>
     </message>
     <message>
         <source>Save all found items</source>
@@ -2456,8 +2456,8 @@ Fonctionne avec %2.</translation>
         <translation>Éléments trouvés par type</translation>
     </message>
     <message>
-        <source>&amp;Found types only</source>
-        <translation>Types &amp;trouvés seulement</translation>
+        <source>Fo&amp;und types only</source>
+        <translation>Types trou&amp;vés seulement</translation>
     </message>
     <message>
         <source>Show only the types that were found</source>
@@ -2601,7 +2601,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>Save &amp;All…</source>
-        <translation>&amp;Tout enregistrer…</translation>
+        <translation>Tout enre&amp;gistrer…</translation>
     </message>
     <message>
         <source>Save all found items</source>
@@ -3245,7 +3245,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>Choo&amp;se…</source>
-        <translation>Choi&amp;sir…</translation>
+        <translation>C&amp;hoisir…</translation>
     </message>
     <message>
         <source>Choose where the copy is kept</source>
@@ -3264,7 +3264,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>&amp;Go On</source>
-        <translation>Con&amp;tinuer</translation>
+        <translation>Co&amp;ntinuer</translation>
     </message>
     <message>
         <source>Search the rest of the medium; what was read is not searched again</source>
@@ -3280,7 +3280,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>&amp;Forget</source>
-        <translation>&amp;Oublier</translation>
+        <translation>O&amp;ublier</translation>
     </message>
     <message>
         <source>Delete what is remembered of this search; files that were saved stay</source>
@@ -3338,7 +3338,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>St&amp;op</source>
-        <translation>A&amp;rrêter</translation>
+        <translation>Arrêt&amp;er</translation>
     </message>
     <message>
         <source>Stop completing broken files; what was put together stays</source>
@@ -3346,7 +3346,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>Show Th&amp;em</source>
-        <translation>Les affic&amp;her</translation>
+        <translation>Les a&amp;fficher</translation>
     </message>
     <message>
         <source>Show the files that were put together or repaired</source>
@@ -3354,7 +3354,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>Clo&amp;se</source>
-        <translation>&amp;Fermer</translation>
+        <translation>Fer&amp;mer</translation>
     </message>
     <message>
         <source>Close this message</source>
@@ -3427,11 +3427,11 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>Save &amp;All…</source>
-        <translation>&amp;Tout enregistrer…</translation>
+        <translation>Tout enre&amp;gistrer…</translation>
     </message>
     <message>
         <source>Save &amp;All Shown (%1)…</source>
-        <translation>&amp;Tout enregistrer l&apos;affiché (%1)…</translation>
+        <translation>Tout enre&amp;gistrer l&apos;affiché (%1)…</translation>
     </message>
     <message>
         <source>Save all found items</source>
@@ -3494,8 +3494,8 @@ Fonctionne avec %2.</translation>
         <translation>Comment va la carte</translation>
     </message>
     <message>
-        <source>&amp;Keep a Copy…</source>
-        <translation>&amp;Garder une copie…</translation>
+        <source>Keep a C&amp;opy…</source>
+        <translation>Garder &amp;une copie…</translation>
     </message>
     <message>
         <source>The search is stopped for a moment and goes on, reading the card once into the file that you choose</source>
@@ -3567,11 +3567,11 @@ Voulez-vous vraiment quitter « %1 » ?</translation>
     </message>
     <message>
         <source>Select &amp;all</source>
-        <translation>Tout &amp;sélectionner</translation>
+        <translation>Tout sélectio&amp;nner</translation>
     </message>
     <message>
         <source>Select &amp;all shown</source>
-        <translation>Sélectionner tout l&apos;&amp;affiché</translation>
+        <translation>Sélectio&amp;nner tout l&apos;affiché</translation>
     </message>
     <message>
         <source>No type matches</source>
@@ -3618,12 +3618,12 @@ Voulez-vous vraiment quitter « %1 » ?</translation>
         <translation>Sélectionner tout le &amp;jour</translation>
     </message>
     <message>
-        <source>Select All &amp;Type %1</source>
+        <source>Select All T&amp;ype %1</source>
         <translation>Sélectionner tout le t&amp;ype %1</translation>
     </message>
     <message>
         <source>&amp;Go On</source>
-        <translation>Con&amp;tinuer</translation>
+        <translation>Co&amp;ntinuer</translation>
     </message>
     <message>
         <source>Go on with the search</source>

@@ -256,7 +256,7 @@ La scheda viene soltanto letta, mai scritta. Non usarla finché i file non sono 
         <translation>Che cosa ha trovato la ricerca e quanto è durata</translation>
     </message>
     <message>
-        <source>&amp;Try Bad Sectors Again</source>
+        <source>Try Ba&amp;d Sectors Again</source>
         <translation>Riprova settori danne&amp;ggiati</translation>
     </message>
     <message>
@@ -491,7 +491,7 @@ La scheda viene soltanto letta, mai scritta. Non usarla finché i file non sono 
     </message>
     <message>
         <source>Open &amp;Folder</source>
-        <translation>Apri &amp;cartella</translation>
+        <translation>A&amp;pri cartella</translation>
     </message>
     <message>
         <source>Open the folder of saved files</source>
@@ -515,7 +515,7 @@ La scheda viene soltanto letta, mai scritta. Non usarla finché i file non sono 
     </message>
     <message>
         <source>O&amp;ptions…</source>
-        <translation>O&amp;pzioni…</translation>
+        <translation>Op&amp;zioni…</translation>
     </message>
     <message>
         <source>Options for saving</source>
@@ -2456,7 +2456,7 @@ In esecuzione su %2.</translation>
         <translation>Elementi trovati per tipo</translation>
     </message>
     <message>
-        <source>&amp;Found types only</source>
+        <source>Fo&amp;und types only</source>
         <translation>Solo tipi co&amp;n elementi</translation>
     </message>
     <message>
@@ -2541,7 +2541,7 @@ In esecuzione su %2.</translation>
     </message>
     <message>
         <source>Open &amp;Folder</source>
-        <translation>Apri &amp;cartella</translation>
+        <translation>A&amp;pri cartella</translation>
     </message>
     <message>
         <source>Open the folder of saved files</source>
@@ -2565,7 +2565,7 @@ In esecuzione su %2.</translation>
     </message>
     <message>
         <source>O&amp;ptions…</source>
-        <translation>O&amp;pzioni…</translation>
+        <translation>Op&amp;zioni…</translation>
     </message>
     <message>
         <source>Options for saving</source>
@@ -3447,11 +3447,11 @@ In esecuzione su %2.</translation>
     </message>
     <message>
         <source>O&amp;ptions…</source>
-        <translation>O&amp;pzioni…</translation>
+        <translation>Op&amp;zioni…</translation>
     </message>
     <message>
         <source>O&amp;ptions (%1)…</source>
-        <translation>O&amp;pzioni (%1)…</translation>
+        <translation>Op&amp;zioni (%1)…</translation>
     </message>
     <message>
         <source>Choose where the copy of the card is kept</source>
@@ -3494,8 +3494,8 @@ In esecuzione su %2.</translation>
         <translation>Come sta la scheda</translation>
     </message>
     <message>
-        <source>&amp;Keep a Copy…</source>
-        <translation>Conserva una co&amp;pia…</translation>
+        <source>Keep a C&amp;opy…</source>
+        <translation>&amp;Conserva una copia…</translation>
     </message>
     <message>
         <source>The search is stopped for a moment and goes on, reading the card once into the file that you choose</source>
@@ -3618,7 +3618,7 @@ Uscire davvero da «%1»?</translation>
         <translation>Seleziona tutto il gio&amp;rno</translation>
     </message>
     <message>
-        <source>Select All &amp;Type %1</source>
+        <source>Select All T&amp;ype %1</source>
         <translation>Seleziona tutto il ti&amp;po %1</translation>
     </message>
     <message>

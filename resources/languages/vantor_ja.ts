@@ -256,8 +256,8 @@ The card is only ever read, never written to. Stop using it until you have your 
         <translation>検索で見つかったものと、かかった時間</translation>
     </message>
     <message>
-        <source>&amp;Try Bad Sectors Again</source>
-        <translation>不良セクターを再試行(&amp;T)</translation>
+        <source>Try Ba&amp;d Sectors Again</source>
+        <translation>不良セクターを再試行(&amp;R)</translation>
     </message>
     <message>
         <source>Try bad sectors again</source>
@@ -2424,8 +2424,8 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <translation>種類別の見つかった項目</translation>
     </message>
     <message>
-        <source>&amp;Found types only</source>
-        <translation>見つかった種類のみ(&amp;F)</translation>
+        <source>Fo&amp;und types only</source>
+        <translation>見つかった種類のみ(&amp;U)</translation>
     </message>
     <message>
         <source>Show only the types that were found</source>
@@ -3460,8 +3460,8 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <translation>カードの状態</translation>
     </message>
     <message>
-        <source>&amp;Keep a Copy…</source>
-        <translation>コピーを保存(&amp;K)…</translation>
+        <source>Keep a C&amp;opy…</source>
+        <translation>コピーを保存(&amp;E)…</translation>
     </message>
     <message>
         <source>The search is stopped for a moment and goes on, reading the card once into the file that you choose</source>
@@ -3582,7 +3582,7 @@ Do you really want to exit from &apos;%1&apos;?</source>
         <translation>この日の項目をすべて選択(&amp;D)</translation>
     </message>
     <message>
-        <source>Select All &amp;Type %1</source>
+        <source>Select All T&amp;ype %1</source>
         <translation>%1 の項目をすべて選択(&amp;T)</translation>
     </message>
     <message>
@@ -4093,7 +4093,7 @@ Please select the required extension type for recovery process. Press ‘Next’
     </message>
     <message>
         <source>&amp;Tick for Saving</source>
-        <translation>保存対象としてチェック(&amp;T)</translation>
+        <translation>保存対象としてチェック(&amp;I)</translation>
     </message>
     <message>
         <source>Save &amp;As…</source>

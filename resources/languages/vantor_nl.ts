@@ -256,7 +256,7 @@ De kaart wordt alleen gelezen, er wordt nooit op geschreven. Gebruik de kaart ni
         <translation>Wat de zoekactie heeft gevonden en hoelang ze duurde</translation>
     </message>
     <message>
-        <source>&amp;Try Bad Sectors Again</source>
+        <source>Try Ba&amp;d Sectors Again</source>
         <translation>De&amp;fecte sectoren opnieuw lezen</translation>
     </message>
     <message>
@@ -297,7 +297,7 @@ De kaart wordt alleen gelezen, er wordt nooit op geschreven. Gebruik de kaart ni
     </message>
     <message>
         <source>&amp;Stop</source>
-        <translation>Sto&amp;ppen</translation>
+        <translation>Stopp&amp;en</translation>
     </message>
     <message>
         <source>Stop the search</source>
@@ -2456,7 +2456,7 @@ Wordt uitgevoerd op %2.</translation>
         <translation>Gevonden items op type</translation>
     </message>
     <message>
-        <source>&amp;Found types only</source>
+        <source>Fo&amp;und types only</source>
         <translation>Alleen gevon&amp;den typen</translation>
     </message>
     <message>
@@ -3245,7 +3245,7 @@ Wordt uitgevoerd op %2.</translation>
     </message>
     <message>
         <source>Choo&amp;se…</source>
-        <translation>K&amp;iezen…</translation>
+        <translation>Ki&amp;ezen…</translation>
     </message>
     <message>
         <source>Choose where the copy is kept</source>
@@ -3494,8 +3494,8 @@ Wordt uitgevoerd op %2.</translation>
         <translation>Hoe het met de kaart gaat</translation>
     </message>
     <message>
-        <source>&amp;Keep a Copy…</source>
-        <translation>&amp;Kopie bewaren…</translation>
+        <source>Keep a C&amp;opy…</source>
+        <translation>Kopie &amp;bewaren…</translation>
     </message>
     <message>
         <source>The search is stopped for a moment and goes on, reading the card once into the file that you choose</source>
@@ -3618,7 +3618,7 @@ Wilt u “%1” echt afsluiten?</translation>
         <translation>Alles van de &amp;dag selecteren</translation>
     </message>
     <message>
-        <source>Select All &amp;Type %1</source>
+        <source>Select All T&amp;ype %1</source>
         <translation>Alles van &amp;type %1 selecteren</translation>
     </message>
     <message>

@@ -256,8 +256,8 @@ Karta jest wyłącznie odczytywana, nic nie jest na niej zapisywane. Nie należy
         <translation>Co znaleziono i jak długo to trwało</translation>
     </message>
     <message>
-        <source>&amp;Try Bad Sectors Again</source>
-        <translation>Ponów &amp;uszkodzone sektory</translation>
+        <source>Try Ba&amp;d Sectors Again</source>
+        <translation>Ponów uszkodzon&amp;e sektory</translation>
     </message>
     <message>
         <source>Try bad sectors again</source>
@@ -2488,7 +2488,7 @@ Działa w systemie %2.</translation>
         <translation>Znalezione elementy według typu</translation>
     </message>
     <message>
-        <source>&amp;Found types only</source>
+        <source>Fo&amp;und types only</source>
         <translation>Tylko zna&amp;lezione typy</translation>
     </message>
     <message>
@@ -3298,7 +3298,7 @@ Działa w systemie %2.</translation>
     </message>
     <message>
         <source>&amp;Go On</source>
-        <translation>&amp;Kontynuuj</translation>
+        <translation>Kontyn&amp;uuj</translation>
     </message>
     <message>
         <source>Search the rest of the medium; what was read is not searched again</source>
@@ -3528,8 +3528,8 @@ Działa w systemie %2.</translation>
         <translation>W jakim stanie jest karta</translation>
     </message>
     <message>
-        <source>&amp;Keep a Copy…</source>
-        <translation>&amp;Zachowaj kopię…</translation>
+        <source>Keep a C&amp;opy…</source>
+        <translation>Zac&amp;howaj kopię…</translation>
     </message>
     <message>
         <source>The search is stopped for a moment and goes on, reading the card once into the file that you choose</source>
@@ -3654,12 +3654,12 @@ Czy na pewno zakończyć „%1”?</translation>
         <translation>Wybierz wszystkie z d&amp;nia</translation>
     </message>
     <message>
-        <source>Select All &amp;Type %1</source>
+        <source>Select All T&amp;ype %1</source>
         <translation>Wybierz wszystkie &amp;typu %1</translation>
     </message>
     <message>
         <source>&amp;Go On</source>
-        <translation>&amp;Kontynuuj</translation>
+        <translation>Kontyn&amp;uuj</translation>
     </message>
     <message>
         <source>Go on with the search</source>

@@ -256,7 +256,7 @@ O cartão é somente lido, nunca gravado. Não o use até ter seus arquivos de v
         <translation>O que a busca encontrou e quanto tempo levou</translation>
     </message>
     <message>
-        <source>&amp;Try Bad Sectors Again</source>
+        <source>Try Ba&amp;d Sectors Again</source>
         <translation>Reler setores defeit&amp;uosos</translation>
     </message>
     <message>
@@ -2456,7 +2456,7 @@ Executando em %2.</translation>
         <translation>Itens encontrados por tipo</translation>
     </message>
     <message>
-        <source>&amp;Found types only</source>
+        <source>Fo&amp;und types only</source>
         <translation>Só tipos e&amp;ncontrados</translation>
     </message>
     <message>
@@ -3241,7 +3241,7 @@ Executando em %2.</translation>
     </message>
     <message>
         <source>Keep a &amp;copy of the card while searching</source>
-        <translation>Manter uma &amp;cópia do cartão durante a busca</translation>
+        <translation>&amp;Manter uma cópia do cartão durante a busca</translation>
     </message>
     <message>
         <source>Choo&amp;se…</source>
@@ -3494,8 +3494,8 @@ Executando em %2.</translation>
         <translation>Como está o cartão</translation>
     </message>
     <message>
-        <source>&amp;Keep a Copy…</source>
-        <translation>&amp;Manter uma cópia…</translation>
+        <source>Keep a C&amp;opy…</source>
+        <translation>Manter &amp;uma cópia…</translation>
     </message>
     <message>
         <source>The search is stopped for a moment and goes on, reading the card once into the file that you choose</source>
@@ -3618,7 +3618,7 @@ Deseja realmente sair de “%1”?</translation>
         <translation>Selecionar t&amp;odo o dia</translation>
     </message>
     <message>
-        <source>Select All &amp;Type %1</source>
+        <source>Select All T&amp;ype %1</source>
         <translation>Selecionar todo o &amp;tipo %1</translation>
     </message>
     <message>

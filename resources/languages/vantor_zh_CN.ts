@@ -256,7 +256,7 @@ The card is only ever read, never written to. Stop using it until you have your 
         <translation>搜索找到的内容和所用时间</translation>
     </message>
     <message>
-        <source>&amp;Try Bad Sectors Again</source>
+        <source>Try Ba&amp;d Sectors Again</source>
         <translation>重试坏扇区(&amp;R)</translation>
     </message>
     <message>
@@ -2424,7 +2424,7 @@ Running on %2.</source>
         <translation>按类型列出找到的项目</translation>
     </message>
     <message>
-        <source>&amp;Found types only</source>
+        <source>Fo&amp;und types only</source>
         <translation>仅找到的类型(&amp;U)</translation>
     </message>
     <message>
@@ -3460,8 +3460,8 @@ Running on %2.</source>
         <translation>卡的状况</translation>
     </message>
     <message>
-        <source>&amp;Keep a Copy…</source>
-        <translation>保留副本(&amp;K)…</translation>
+        <source>Keep a C&amp;opy…</source>
+        <translation>保留副本(&amp;E)…</translation>
     </message>
     <message>
         <source>The search is stopped for a moment and goes on, reading the card once into the file that you choose</source>
@@ -3582,7 +3582,7 @@ Do you really want to exit from &apos;%1&apos;?</source>
         <translation>选择当天的全部(&amp;D)</translation>
     </message>
     <message>
-        <source>Select All &amp;Type %1</source>
+        <source>Select All T&amp;ype %1</source>
         <translation>选择全部 %1 类型(&amp;T)</translation>
     </message>
     <message>

@@ -40,6 +40,9 @@ class Grid : public ::testing::Test {
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&view));
     }
     QModelIndex row(int number) const { return model.index(number); }
+    // What four columns leave of a line lies between them.
+    int columnWidth() const { return view.viewport()->width() / 4; }
+    int leftOf(int column) const { return column * columnWidth() + (columnWidth() - 100) / 2; }
     QList<QPair<int, int>> selected() const {
         QList<QPair<int, int>> ranges;
         for (const QItemSelectionRange& range : view.selectionModel()->selection()) {
@@ -54,10 +57,14 @@ class Grid : public ::testing::Test {
 };
 
 TEST_F(Grid, EveryRowHasItsPlace_AndEveryPlaceItsRow) {
-    EXPECT_EQ(view.visualRect(row(0)), QRect(0, 0, 100, 60));
-    EXPECT_EQ(view.visualRect(row(6)), QRect(200, 60, 100, 60));
-    EXPECT_EQ(view.indexAt({250, 100}), row(6));
-    EXPECT_FALSE(view.indexAt({405, 10}).isValid()) << "right of the last of a line";
+    ASSERT_GE(columnWidth(), 104);
+    EXPECT_EQ(view.visualRect(row(0)), QRect(leftOf(0), 0, 100, 60));
+    EXPECT_EQ(view.visualRect(row(6)), QRect(leftOf(2), 60, 100, 60));
+    EXPECT_EQ(view.indexAt({leftOf(2), 100}), row(6));
+    EXPECT_EQ(view.indexAt({leftOf(2) + 99, 100}), row(6));
+    EXPECT_FALSE(view.indexAt({leftOf(2) - 1, 100}).isValid()) << "between two of a line";
+    EXPECT_FALSE(view.indexAt({leftOf(2) + 100, 100}).isValid()) << "between two of a line";
+    EXPECT_FALSE(view.indexAt({leftOf(3) + 101, 10}).isValid()) << "right of the last of a line";
     view.scrollTo(row(kRows - 1));
     EXPECT_EQ(view.verticalScrollBar()->value(), view.verticalScrollBar()->maximum());
     const QRect last = view.visualRect(row(kRows - 1));
@@ -72,8 +79,8 @@ TEST_F(Grid, EveryRowHasItsPlace_AndEveryPlaceItsRow) {
 TEST_F(Grid, RightToLeft_LinesBeginAtTheRight) {
     view.setLayoutDirection(Qt::RightToLeft);
     const int width = view.viewport()->width();
-    EXPECT_EQ(view.visualRect(row(1)), QRect(width - 200, 0, 100, 60));
-    EXPECT_EQ(view.indexAt({width - 150, 10}), row(1));
+    EXPECT_EQ(view.visualRect(row(1)), QRect(width - leftOf(1) - 100, 0, 100, 60));
+    EXPECT_EQ(view.indexAt({width - leftOf(1) - 50, 10}), row(1));
 }
 
 TEST_F(Grid, RowsThatComeAreThere_AndAnotherWidthIsLaidOutAnew) {
@@ -82,7 +89,7 @@ TEST_F(Grid, RowsThatComeAreThere_AndAnotherWidthIsLaidOutAnew) {
     view.doItemsLayout();
     EXPECT_EQ(view.verticalScrollBar()->maximum(), before + 60);
     view.resize(260, 300);
-    EXPECT_EQ(view.visualRect(row(2)), QRect(0, 60, 100, 60));
+    EXPECT_EQ(view.visualRect(row(2)), QRect((view.viewport()->width() / 2 - 100) / 2, 60, 100, 60));
 }
 
 TEST_F(Grid, KeysMoveThroughLines) {
@@ -115,10 +122,11 @@ TEST_F(Grid, ShiftSelectsAllBetween_AndTheBandWhatItTouches) {
     view.scrollToTop();
     view.clearSelection();
     // From the room right of the cells leftwards, over the last two columns of two lines.
-    QTest::mousePress(view.viewport(), Qt::LeftButton, {}, {420, 10});
-    QTest::mouseMove(view.viewport(), {350, 40});
-    QTest::mouseMove(view.viewport(), {250, 100});
-    QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, {250, 100});
+    QTest::mousePress(view.viewport(), Qt::LeftButton, {}, {leftOf(3) + 102, 10});
+    QTest::mouseMove(view.viewport(), {leftOf(3) + 50, 40});
+    // What ends between two columns has not touched the one on the left.
+    QTest::mouseMove(view.viewport(), {leftOf(2) - 1, 100});
+    QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, {leftOf(2) - 1, 100});
     EXPECT_EQ(selected(), (QList<QPair<int, int>>{{2, 3}, {6, 7}}));
 }
 

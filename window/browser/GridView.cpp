@@ -40,6 +40,16 @@ int GridView::columns() const {
     return m_oneColumn ? 1 : std::max(1, viewport()->width() / std::max(1, gridSize().width()));
 }
 
+// What the columns leave of a line lies between them.
+int GridView::columnWidth() const {
+    const int cell = std::max(1, gridSize().width());
+    return m_oneColumn ? cell : std::max(cell, viewport()->width() / columns());
+}
+
+int GridView::gapBeside() const {
+    return (columnWidth() - gridSize().width()) / 2;
+}
+
 int GridView::horizontalOffset() const {
     return horizontalScrollBar()->value();
 }
@@ -54,7 +64,7 @@ QRect GridView::visualRect(const QModelIndex& index) const {
     }
     const QSize cell = gridSize();
     const int line = index.row() / columns();
-    const int x = index.row() % columns() * cell.width() - horizontalOffset();
+    const int x = index.row() % columns() * columnWidth() + gapBeside() - horizontalOffset();
     const QPoint corner(isRightToLeft() ? viewport()->width() - x - cell.width() : x,
                         bounded(qint64{line} * cell.height() - verticalOffset()));
     return {corner, cell};
@@ -65,10 +75,12 @@ int GridView::rowAt(const QPoint& point) const {
     const QSize cell = gridSize();
     const qint64 y = qint64{point.y()} + verticalOffset();
     const int x = (isRightToLeft() ? viewport()->width() - 1 - point.x() : point.x()) + horizontalOffset();
-    if (cell.isEmpty() || y < 0 || x < 0 || x / cell.width() >= columns()) {
+    const int inCell = x % columnWidth() - gapBeside();
+    if (cell.isEmpty() || y < 0 || x < 0 || x / columnWidth() >= columns() || inCell < 0 ||
+        inCell >= cell.width()) {
         return -1;
     }
-    const qint64 row = y / cell.height() * columns() + x / cell.width();
+    const qint64 row = y / cell.height() * columns() + x / columnWidth();
     return row < rowCount() ? static_cast<int>(row) : -1;
 }
 
@@ -203,13 +215,15 @@ void GridView::setSelection(const QRect& rect, QItemSelectionModel::SelectionFla
         const QRect reach = isRightToLeft() ? QRect(viewport()->width() - 1 - band.right(), band.top(),
                                                     band.width(), band.height())
                                             : band;
-        const int width = std::max(1, gridSize().width());
-        const int from = std::max(0, reach.left() / width);
-        const int to = std::min(columns() - 1, reach.right() / width);
+        const int width = columnWidth();
+        const int left = reach.left() - gapBeside() - gridSize().width();  // of it, what ends there is passed
+        const int right = reach.right() - gapBeside();
+        const int from = left < 0 ? 0 : left / width + 1;
+        const int to = right < 0 ? -1 : std::min(columns() - 1, right / width);
         const Rows rows = rowsIn(band);
         if (from == 0 && to == columns() - 1 && rows.first < rows.end) {
             add(rows.first, rows.end - 1);
-        } else if (reach.right() >= 0 && from <= to) {
+        } else if (from <= to) {
             for (int line = rows.first; line + from < rows.end; line += columns()) {
                 add(line + from, std::min(rows.end - 1, line + to));
             }

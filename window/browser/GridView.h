@@ -44,6 +44,8 @@ class GridView : public QListView {
 
   private:
     int columns() const;
+    int columnWidth() const;
+    int gapBeside() const;  // on each side of a cell
     int rowAt(const QPoint& point) const;
     void paintBand(QPainter& painter);
 

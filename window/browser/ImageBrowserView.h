@@ -69,6 +69,10 @@ class ImageBrowserView : public GridView {
     int pictureSide() const;
     int largestPictureSide() const;
 
+    // The picture of items that have none: these show the icon of their kind instead.
+    void setPlaceholder(const QByteArray& bytes) { m_placeholder = bytes; }
+    const QByteArray& placeholder() const { return m_placeholder; }
+
     void setEmptyState(const QIcon& picture, const QString& title, const QString& advice);
 
   signals:
@@ -115,6 +119,7 @@ class ImageBrowserView : public GridView {
     DetailsHeader* m_header;
     QAbstractItemDelegate *m_cells, *m_lines;
     bool m_detailsShown = false;
+    QByteArray m_placeholder;
     float m_zoom = 0;
     bool m_originalsShown = false;
     bool m_reordering = false;

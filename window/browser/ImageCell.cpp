@@ -94,7 +94,13 @@ void ImageCell::paintPictureOf(QPainter* painter, const QRect& place, const MyIm
         painter->setBrush(Qt::NoBrush);
         painter->drawRect(QRectF(shown).adjusted(0.5, 0.5, -0.5, -0.5));
     } else if (item.imageRepresentationType() == RepresentationType::EncodedData) {
-        paintPicture(painter, place, item.imageRepresentation().toByteArray());
+        const QByteArray bytes = item.imageRepresentation().toByteArray();
+        // Crossed out, a sound file would look broken.
+        if (bytes == m_view->placeholder()) {
+            ownIcon(QStringLiteral("type-picture")).paint(painter, place);
+        } else {
+            paintPicture(painter, place, bytes);
+        }
     } else {
         item.imageRepresentation().value<QIcon>().paint(painter, place);
     }

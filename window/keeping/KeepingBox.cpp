@@ -30,7 +30,7 @@ KeepingBox::KeepingBox(QWidget* parent) : QFrame(parent) {
     auto* const grid = new QGridLayout(this);
     grid->setContentsMargins(kSideMargin, kTopMargin, kSideMargin, kTopMargin);
     grid->setHorizontalSpacing(kSpacing);
-    grid->setVerticalSpacing(0);
+    grid->setVerticalSpacing(kTopMargin);
     grid->setColumnStretch(1, 1);
 
     rememberBox = new QCheckBox(tr("Re&member this search"), this);

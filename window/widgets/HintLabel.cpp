@@ -2,6 +2,8 @@
 #include "window/widgets/HintLabel.h"
 
 #include <QPainter>
+#include <QStyle>
+#include <algorithm>
 #include <utility>
 
 #include "window/widgets/Theme.h"
@@ -13,12 +15,13 @@ namespace {
 constexpr int kSign = 20;
 constexpr int kGap = theme::kUnit;
 
-int emptyLinesBefore(const QString& text) {
-    int lines = 0;
-    while (lines < text.size() && text.at(lines) == u'\n') {
-        ++lines;
+// Texts may begin with empty lines; these take no room.
+QString wordsOf(const QString& text) {
+    qsizetype begin = 0;
+    while (begin < text.size() && text.at(begin) == u'\n') {
+        ++begin;
     }
-    return lines;
+    return text.mid(begin);
 }
 
 }  // namespace
@@ -27,20 +30,27 @@ HintLabel::HintLabel(QWidget* parent) : QLabel(parent) {
     setContentsMargins(kSign + kGap, 0, 0, 0);
 }
 
-void HintLabel::paintEvent(QPaintEvent* event) {
-    QLabel::paintEvent(event);
-    if (text().isEmpty()) {
+int HintLabel::heightForWidth(int width) const {
+    const QMargins margins = contentsMargins();
+    const QRect room(0, 0, std::max(0, width - margins.left() - margins.right()), theme::kAnyHeight);
+    const int words = fontMetrics().boundingRect(room, Qt::TextWordWrap, wordsOf(text())).height();
+    return std::max(kSign, words) + margins.top() + margins.bottom();
+}
+
+void HintLabel::paintEvent(QPaintEvent*) {
+    const QString words = wordsOf(text());
+    if (words.isEmpty()) {
         return;
     }
-    const QRect words =
-        fontMetrics().boundingRect(contentsRect(), static_cast<int>(alignment()) | Qt::TextWordWrap, text());
-    const int line = fontMetrics().lineSpacing();
-    const int middle = words.top() + emptyLinesBefore(text()) * line + line / 2;
+    const int flags = static_cast<int>(alignment()) | Qt::TextWordWrap;
+    QPainter painter(this);
+    style()->drawItemText(&painter, contentsRect(), flags, palette(), isEnabled(), words, foregroundRole());
+    const int top = fontMetrics().boundingRect(contentsRect(), flags, words).top();
+    const int middle = top + fontMetrics().lineSpacing() / 2;
     // Another text has only the words painted again.
     if (std::exchange(m_middle, middle) != middle) {
         update();
     }
-    QPainter painter(this);
     ownIcon(QStringLiteral("info")).paint(&painter, QRect(0, middle - kSign / 2, kSign, kSign));
 }
 

@@ -5,12 +5,14 @@
 
 namespace vantor {
 
-// A label whose sign stands beside the first line that has words: texts may begin with an empty one.
+// A label of plain text with a sign beside its first line. Empty lines at a text's beginning take no room.
 class HintLabel : public QLabel {
     Q_OBJECT
 
   public:
     explicit HintLabel(QWidget* parent = nullptr);
+
+    int heightForWidth(int width) const override;
 
   protected:
     void paintEvent(QPaintEvent* event) override;

@@ -80,8 +80,7 @@ QString styleSheet(const QApplication& application) {
     text.replace(QStringLiteral("@heading@"), QString::number(base * kHeadingScale));
     text.replace(QStringLiteral("@title@"),
                  QString::number(QFontMetrics(application.font()).height() + theme::kUnit));
-    text = sheetInLook(text, currentLook());
-    return currentLook() == Look::Dark ? text + textOf(QStringLiteral(":/dark.qss")) : text;
+    return sheetInLook(text, currentLook());
 }
 
 void giveBackground(QWidget* window) {
