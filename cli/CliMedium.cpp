@@ -25,6 +25,7 @@ QString nodeOf(const QString& name) {
 CliMedium byPath(const QString& name, const QString& path, StopRequest stop, const QString& map) {
     CliMedium medium;
     medium.path = path;
+    OpenTerms terms;
     QString why;
     if (const auto facts = probeMedium(path, &why, map)) {
         medium.sectors = facts->sectors;
@@ -44,8 +45,9 @@ CliMedium byPath(const QString& name, const QString& path, StopRequest stop, con
             QObject::tr("“%1” is neither a file nor a storage medium of this machine.").arg(name);
     } else {
         medium.complaint = QStringLiteral("%1: %2").arg(name, why);
+        terms.refusal = std::make_shared<LastRefusal>();
+        medium.refusal = terms.refusal;  // tells what to do about it
     }
-    OpenTerms terms;
     terms.stop = std::move(stop);
     terms.map = map;
     medium.open = [path, terms](const QString&) { return openMedium(path, terms); };
