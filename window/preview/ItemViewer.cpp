@@ -13,13 +13,6 @@
 
 namespace vantor {
 
-namespace {
-
-// Pictures are judged on a dark ground, whatever the desktop's.
-const QColor kGround{0x17, 0x1b, 0x22};
-
-}  // namespace
-
 void ItemViewer::open() {
     coverAll();
     show();
@@ -189,7 +182,7 @@ void ItemViewer::keyPressEvent(QKeyEvent* event) {
 }
 
 void ItemViewer::paintEvent(QPaintEvent*) {
-    QPainter(this).fillRect(rect(), kGround);
+    QPainter(this).fillRect(rect(), QColor(kGround));
 }
 
 }  // namespace vantor

@@ -31,6 +31,9 @@ class ItemViewer : public QWidget {
     Q_OBJECT
 
   public:
+    // Pictures are judged on a dark ground, whatever the desktop's.
+    static constexpr QRgb kGround = 0xff171b22;
+
     explicit ItemViewer(QWidget* over);
 
     void open();

@@ -28,10 +28,11 @@ const char* const kLooks =
     "QToolButton:checked { background: #2b323d; border-color: #55617a; }"
     "QToolButton:focus { border-color: #8fb4ff; }"
     "QToolButton:disabled { color: #6b7687; }"
-    "vantor--MovieControls { background: #eef1f6; border-radius: 6px; }"
-    "vantor--MovieControls QLabel { color: #1b2430; }"
+    // Their icons and sliders are those of the desktop's look, so their ground is too.
+    "vantor--MovieControls { background: palette(alternate-base); border-radius: 6px; }"
+    "vantor--MovieControls QLabel { color: palette(window-text); }"
     "vantor--MovieControls QToolButton { border: 1px solid transparent; padding: 2px; }"
-    "vantor--MovieControls QToolButton:hover { background: #d3dbe9; }"
+    "vantor--MovieControls QToolButton:hover { background: palette(mid); }"
     "QToolButton#viewerBack, QToolButton#viewerOn { font-size: 24pt; padding: 12px 8px; }"
     "QScrollArea#viewerFactsPane, QLabel#viewerFacts { background: #1e242d; border: none; }";
 constexpr double kZoomStep = 1.25;

@@ -1,6 +1,8 @@
 // From an item to what the viewer shows of it.
 #include "window/preview/ViewerDesk.h"
 
+#include <QIcon>
+#include <QPainter>
 #include <algorithm>
 #include <utility>
 
@@ -22,6 +24,16 @@ constexpr int kIconEdge = 128;
 // A window that grows while a picture is decoded does not make it coarse at once.
 constexpr int kLeastBound = 1600;
 constexpr int kMostBound = static_cast<int>(decode::kMaxAnswerSide);
+
+// Of a picture what is see-through lies on white; an icon is no picture of the item.
+QImage iconOnGround(const QIcon& icon) {
+    QImage drawn = icon.pixmap(kIconEdge).toImage();
+    drawn.setDevicePixelRatio(1);
+    QImage whole(drawn.size(), QImage::Format_RGB32);
+    whole.fill(ItemViewer::kGround);
+    QPainter(&whole).drawImage(0, 0, drawn);
+    return whole;
+}
 
 bool plays(const QString& type) {
     const FileKind kind = kindOfExtension(type);
@@ -104,7 +116,7 @@ void ViewerDesk::begin() {
     const QVariant picture = item->imageRepresentation();
     m_isIcon = item->imageRepresentationType() != RepresentationType::EncodedData;
     if (m_isIcon) {
-        standIn = picture.value<QIcon>().pixmap(kIconEdge).toImage();
+        standIn = iconOnGround(picture.value<QIcon>());
     } else {
         standIn.loadFromData(picture.toByteArray());  // made by this program
     }
