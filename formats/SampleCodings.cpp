@@ -133,7 +133,7 @@ std::optional<std::uint64_t> lookAtSample(ByteView& view, Coding coding, unsigne
         case Coding::Flac:
             return begins((view.be16(at).value_or(0) & 0xFFFE) == 0xFFF8);
         case Coding::MpegAudio:
-            return begins((view.be16(at).value_or(0) & 0xFFE6) > 0xFFE0);
+            return begins(isMpegAudioFrame(view, at));
         case Coding::Unknown:
             break;
     }

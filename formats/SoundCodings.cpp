@@ -76,6 +76,8 @@ std::uint64_t findDescriptor(ByteView& view, std::uint64_t from, std::uint64_t t
 }  // namespace
 
 bool isAacFrame(ByteView& view, std::uint64_t at, std::uint64_t bytes) {
+    if (view.be64(at) == 0U)  // an element without sound is shorter, and its end is no zero
+        return false;
     Bits bits(view, at, bytes);
     for (int i = 0; i < kMostInFront; ++i) {
         const auto element = bits.take(3);
@@ -113,8 +115,19 @@ bool isAacFrame(ByteView& view, std::uint64_t at, std::uint64_t bytes) {
 }
 
 bool isAlacFrame(ByteView& view, std::uint64_t at) {
+    if (view.be64(at) == 0U)  // the parameters of the prediction are never all zero
+        return false;
     const auto head = view.be32(at).value_or(~0U);
     return head >> 29 <= kAacPair && (head >> 13 & 0xFFF) == 0;
+}
+
+bool isMpegAudioFrame(ByteView& view, std::uint64_t at) {
+    if ((view.be16(at).value_or(0) & 0xFFE6) > 0xFFE0)
+        return true;
+    // What stood behind the sound of an MP3 file becomes samples where it is put into a movie.
+    static constexpr std::string_view kTags[] = {"LYRICSBEGIN", "TAG", "APETAGEX", "ID3"};
+    return std::any_of(std::begin(kTags), std::end(kTags),
+                       [&](std::string_view tag) { return view.matches(at, tag); });
 }
 
 Coding codingOfMpeg4Sound(ByteView& view, std::uint64_t from, std::uint64_t to) {

@@ -263,7 +263,6 @@ void addSounds(std::vector<CardFile>& files) {
     folder.add("TUNE.MP3", tune("mp3", "libmp3lame", 22050), Gap::Zeros, 1);
     folder.add("TUNE.AAC", tune("adts", "aac", 22050));
     folder.add("SILENCE.AMR", [] { return amrFile(false, 150); });
-    folder.add("TUNE.AC3", tune("ac3", "ac3", 32000));
     folder.add("TUNE.TTA", tune("tta", "tta", 11025));
     folder.add("TUNE.WV", tune("wv", "wavpack", 11025));
     folder.add("TUNE.OGG", tune("ogg", "libvorbis", 22050));

@@ -435,7 +435,7 @@ La carte est seulement lue, jamais écrite. Cessez de l&apos;utiliser tant que v
     </message>
     <message>
         <source>Sho&amp;w</source>
-        <translation>Affic&amp;her</translation>
+        <translation>A&amp;fficher</translation>
     </message>
     <message>
         <source>Which items are shown</source>
@@ -2481,7 +2481,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>Sho&amp;w</source>
-        <translation>Affic&amp;her</translation>
+        <translation>A&amp;fficher</translation>
     </message>
     <message>
         <source>Which items are shown</source>
@@ -3346,7 +3346,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>Show Th&amp;em</source>
-        <translation>Les a&amp;fficher</translation>
+        <translation>Les afficher</translation>
     </message>
     <message>
         <source>Show the files that were put together or repaired</source>

@@ -2457,7 +2457,7 @@ Wordt uitgevoerd op %2.</translation>
     </message>
     <message>
         <source>Fo&amp;und types only</source>
-        <translation>Alleen gevon&amp;den typen</translation>
+        <translation>Alleen gevonden typen</translation>
     </message>
     <message>
         <source>Show only the types that were found</source>

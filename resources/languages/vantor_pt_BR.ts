@@ -479,7 +479,7 @@ O cartão é somente lido, nunca gravado. Não o use até ter seus arquivos de v
     </message>
     <message>
         <source>&amp;Invert Ticks</source>
-        <translation>Inverter mar&amp;cas</translation>
+        <translation>Inverter marcas</translation>
     </message>
     <message>
         <source>Invert the ticks of what is shown</source>
@@ -2529,7 +2529,7 @@ Executando em %2.</translation>
     </message>
     <message>
         <source>&amp;Invert Ticks</source>
-        <translation>Inverter mar&amp;cas</translation>
+        <translation>Inverter marcas</translation>
     </message>
     <message>
         <source>Invert the ticks of what is shown</source>

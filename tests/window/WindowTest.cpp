@@ -235,7 +235,7 @@ void WindowTest::toFileTypes(int mode) {
 }
 
 void WindowTest::scanToEnd() {
-    answers.press(QStringLiteral("OK"));
+    answers.press(QCoreApplication::translate("SaveFileInfo", "OK"));  // as the language in use says it
     click(controller->nextButton);
     ASSERT_TRUE(scanEnds());
 }
