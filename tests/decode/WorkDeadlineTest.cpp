@@ -18,9 +18,9 @@ TEST(WorkDeadline, HelperThatWorkedAllTheTime_IsLateAtOnce) {
 }
 
 TEST(WorkDeadline, HelperThatWaitsForAProcessor_GetsTheWorkItWasAllowed) {
-    WorkDeadline deadline(Milliseconds(1000), Milliseconds(70));
+    WorkDeadline deadline(Milliseconds(1000), Milliseconds(5070));  // longer than this for those before
     Milliseconds waited(1000);
-    Milliseconds worked(70);
+    Milliseconds worked(5070);
     int times = 0;
     for (;; ++times) {
         worked += Milliseconds(100);
@@ -31,8 +31,15 @@ TEST(WorkDeadline, HelperThatWaitsForAProcessor_GetsTheWorkItWasAllowed) {
         EXPECT_GT(*more, Milliseconds(0));
         waited += *more;
     }
-    EXPECT_EQ(worked, Milliseconds(1070));
+    EXPECT_EQ(worked, Milliseconds(6070));
     EXPECT_EQ(times, 9);
+}
+
+TEST(WorkDeadline, HelperThatStopsWorking_IsLateAtTheNextLook) {
+    WorkDeadline deadline(Milliseconds(1000), Milliseconds(70));
+    const auto more = deadline.more(Milliseconds(1000), Milliseconds(170));
+    ASSERT_TRUE(more);
+    EXPECT_EQ(deadline.more(Milliseconds(1000) + *more, Milliseconds(170)), std::nullopt);
 }
 
 TEST(WorkDeadline, HelperThatHardlyWorks_IsLateInTheEnd) {
