@@ -193,5 +193,42 @@ TEST(Documents, WhoseEndIsInDoubt_OnlyEndWhereTheySay) {
     EXPECT_FALSE(joined.checked);
 }
 
+Bytes database() {
+    for (const auto& sample : allSamples()) {
+        if (sample.extension == "SQLITE")
+            return sample.bytes;
+    }
+    return {};
+}
+
+TEST(Databases, EveryPage_IsReached) {
+    expectChecked("SQLITE", database());
+    for (const std::size_t page : {512, 1024}) {
+        const Extent extent = walkBytes("SQLITE", withNoise(database(), page, 512));
+        EXPECT_EQ(extent.verdict, Verdict::Damaged) << page;
+        EXPECT_TRUE(extent.endFound);
+    }
+}
+
+TEST(Databases, PagesThatNothingPointsAt_AreNotJudged) {
+    Bytes larger = Build().add(database()).fill(512, 0x55);
+    larger[31] = 4;
+    const Extent extent = walkBytes("SQLITE", larger);
+    EXPECT_EQ(extent.verdict, Verdict::Complete);
+    EXPECT_FALSE(extent.checked);
+    larger[35] = 4;  // the first of the free pages
+    larger = Build().add(larger).put(1536, Build().fill(8));
+    expectChecked("SQLITE", larger);
+}
+
+TEST(Databases, ThatDoNotCountTheirPages_EndBehindTheLastOneInUse) {
+    Bytes old = database();
+    old[95] = 6;
+    const Extent extent = walkBytes("SQLITE", Build().add(old).add(noise(4096, 5)));
+    EXPECT_EQ(extent.verdict, Verdict::Complete);
+    EXPECT_EQ(extent.end, old.size());
+    EXPECT_TRUE(extent.checked);
+}
+
 }  // namespace
 }  // namespace vantor::test
