@@ -230,5 +230,47 @@ TEST(Databases, ThatDoNotCountTheirPages_EndBehindTheLastOneInUse) {
     EXPECT_TRUE(extent.checked);
 }
 
+Bytes soundFrames(int count, int told) {
+    Build out;
+    for (int i = 0; i < count; ++i) {
+        Build frame;
+        frame.be32(0xFFFB9064).fill(413, 3);
+        if (i == 0 && told != 0)
+            frame.put(36, Build().text("Info").be32(1).be32(static_cast<unsigned>(told)));
+        out.add(frame);
+    }
+    return out;
+}
+
+TEST(Frames, CountedByTheFirst_AreAll) {
+    const Bytes all = soundFrames(11, 10);
+    EXPECT_TRUE(walkBytes("MP3", all).checked);
+    EXPECT_FALSE(walkBytes("MP3", soundFrames(11, 12)).checked);
+    EXPECT_FALSE(walkBytes("MP3", soundFrames(11, 0)).checked);
+    // Ended by a sector, as a tag behind them may have been too.
+    const Bytes filled = soundFrames(512, 511);
+    ASSERT_EQ(filled.size() % 512, 0U);
+    EXPECT_FALSE(walkBytes("MP3", filled).checked);
+}
+
+TEST(Frames, LargerThanASector_AreNotCheckedByTheirHeads) {
+    Build large;
+    for (int i = 0; i < 11; ++i)
+        large.be32(0xFFFBE064).fill(1040, 3);  // 320 kbit/s
+    const Bytes tag = Build().text("TAG").fill(125);
+    const Bytes small = Build().add(soundFrames(11, 0)).add(tag);
+    EXPECT_TRUE(walkBytes("MP3", small).checked);
+    const Extent extent = walkBytes("MP3", Build().add(large).add(tag));
+    EXPECT_EQ(extent.verdict, Verdict::Complete);
+    EXPECT_EQ(extent.end, large.size() + tag.size());
+    EXPECT_FALSE(extent.checked);
+}
+
+TEST(Frames, WhoseTagIsTorn_AreNotAll) {
+    const Extent extent = walkBytes("MP3", Build().add(soundFrames(11, 10)).text("TAG").fill(60));
+    EXPECT_FALSE(extent.checked);
+    EXPECT_FALSE(extent.exactEnd);
+}
+
 }  // namespace
 }  // namespace vantor::test
