@@ -272,5 +272,28 @@ TEST(Frames, WhoseTagIsTorn_AreNotAll) {
     EXPECT_FALSE(extent.exactEnd);
 }
 
+TEST(LeftBehind, AFewBytesBeforeAnEmptyRestOfTheSector_AreTheFiles) {
+    const Bytes picture = jpeg();
+    const auto end = [&](const Bytes& tail) { return walkBytes("JPG", Build().add(picture).add(tail)).end; };
+    ASSERT_LT(picture.size() % 512, 300U);
+    EXPECT_EQ(end(Build().text("\n").fill(2000)), picture.size() + 1);
+    EXPECT_EQ(end(Build().text("\r\nend").fill(2000)), picture.size() + 5);
+    // What fills the sector, or reaches far into it, lay there before.
+    EXPECT_EQ(end(noise(2000, 7)), picture.size());
+    EXPECT_EQ(end(Build().fill(100, 0x41).fill(2000)), picture.size());
+    EXPECT_EQ(end(Bytes(2000, 0)), picture.size());
+}
+
+TEST(LeftBehind, RichText_ClosesAsItsWriterDoes) {
+    const auto text = [](std::string_view writer) {
+        return Build().text("{\\rtf1{\\*\\generator ").text(writer).text("}a}\r\n").bytes();
+    };
+    const Bytes zeros(3000, 0);
+    const Bytes system = text("Riched20 6.2.9200"), other = text("Any Other");
+    EXPECT_EQ(walkBytes("RTF", Build().add(system).add(zeros)).end, system.size() + 1);
+    EXPECT_EQ(walkBytes("RTF", Build().add(other).add(zeros)).end, other.size());
+    EXPECT_EQ(walkBytes("RTF", Build().add(other).text("\r\n").add(noise(3000, 8))).end, other.size() + 2);
+}
+
 }  // namespace
 }  // namespace vantor::test
