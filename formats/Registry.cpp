@@ -14,6 +14,24 @@ constexpr const Format* kFormats[] = {
 #undef FORMAT
 };
 
+// Some programs leave a few bytes behind a file's last mark, a line end mostly. They are the file's where
+// nothing but zeros follows them in their sector: what lay there before would fill it.
+Extent withLeftBehind(ByteView& view, Extent extent) {
+    constexpr std::uint64_t kMost = 64, kLeastZeros = 32;
+    if (extent.verdict != Verdict::Complete || !extent.exactEnd || isSectorStart(extent.end))
+        return extent;
+    const auto left = 512 - extent.end % 512;
+    const auto bytes = view.window(extent.end, static_cast<std::size_t>(left));
+    if (bytes.size() < left || left < kLeastZeros)
+        return extent;
+    const auto rest = bytes.first(static_cast<std::size_t>(left));
+    const auto last = std::find_if(rest.rbegin(), rest.rend(), [](std::uint8_t byte) { return byte != 0; });
+    const auto zeros = static_cast<std::uint64_t>(last - rest.rbegin());
+    if (zeros >= kLeastZeros && left - zeros <= kMost)
+        extent.end += left - zeros;
+    return extent;
+}
+
 }  // namespace
 
 std::span<const Format* const> allFormats() {
@@ -55,7 +73,7 @@ Extent walk(std::string_view extension, ByteSource& source) {
         if (other.verdict != Verdict::Unknown || other.facts.width != 0 || other.facts.taken)
             extent = other;
     }
-    return extent;
+    return withLeftBehind(view, extent);
 }
 
 }  // namespace vantor

@@ -4,6 +4,7 @@
 
 #include "formats/Format.h"
 #include "formats/TextReader.h"
+#include "formats/documents/PdfObjects.h"
 
 namespace vantor {
 
@@ -93,6 +94,7 @@ class PdfWalk {
     std::uint64_t linearizedLength();
     Mark judge(std::uint64_t at);
     std::uint64_t behindMark(std::uint64_t at);
+    bool isSureEnd(std::uint64_t at);
     bool isForeignStart(std::uint64_t at);
     std::string_view stretch(std::uint64_t at);
     void noteSigns(std::uint64_t at, std::string_view text);
@@ -157,6 +159,13 @@ PdfWalk::Mark PdfWalk::judge(std::uint64_t at) {
     return beginsUpdate(textAt(m_view, behind, kUpdateLead)) ? Mark::Inner : Mark::Last;
 }
 
+// Whether the end mark at `at` has one line end at most behind it, a second one may be another's, and no PDF
+// that was joined to this one.
+bool PdfWalk::isSureEnd(std::uint64_t at) {
+    return m_lastMark == behindLineEnd(m_view, at + 5) &&
+           (isSectorStart(m_lastMark) || !m_view.matches(m_lastMark, "%PDF-"));
+}
+
 // Another PDF at a sector's start, unless it is the content of a stream of ours.
 bool PdfWalk::isForeignStart(std::uint64_t at) {
     if (!isSectorStart(at) || at < 16 || !m_view.matches(at, "%PDF-"))
@@ -211,8 +220,10 @@ Extent PdfWalk::walk() {
         if (m_view.matches(at, "%%EOF")) {
             m_lastMark = behindMark(at);
             const Mark mark = judge(at);
-            if (mark == Mark::Last)
-                return completeAt(m_view, m_lastMark);
+            if (mark == Mark::Last) {
+                const Extent whole = completeAt(m_view, m_lastMark);
+                return isSureEnd(at) && isRowOfPdfObjects(m_view, at) ? withContent(whole) : whole;
+            }
             m_lastMarkInner = mark == Mark::Inner;
         } else if (isForeignStart(at)) {
             m_lastSign = std::min(m_lastSign, at);  // signs behind are the other's

@@ -1,4 +1,5 @@
 // RTF by its braces. Source: RTF 1.9.1.
+#include <algorithm>
 #include <cctype>
 #include <string>
 
@@ -8,6 +9,19 @@
 namespace vantor {
 
 namespace {
+
+// Behind the line ends after the last brace. The rich edit control of Windows, which names itself, and so the
+// programs that leave the writing to it, closes with a zero.
+std::uint64_t behindLast(ByteView& view, std::uint64_t at) {
+    constexpr std::size_t kHead = 4096;
+    const auto end = behindEmptyLine(view, at);
+    const auto head = view.window(0, kHead);
+    const std::string_view text(reinterpret_cast<const char*>(head.data()), std::min(head.size(), kHead));
+    const bool bySystem =
+        text.find("\\generator Riched20") != text.npos || text.find("\\generator Msftedit") != text.npos;
+    return bySystem && end == at + 2 && !isSectorStart(end) && view.u8(end) == std::uint8_t{0} ? end + 1
+                                                                                               : end;
+}
 
 Extent walkRtf(ByteView& view) {
     if (!view.matches(0, "{\\rtf"))
@@ -24,7 +38,7 @@ Extent walkRtf(ByteView& view) {
         if (byte == '{')
             ++depth;
         if (byte == '}' && --depth == 0)
-            return completeAt(view, behindLineEnd(view, in.at()));
+            return completeAt(view, behindLast(view, in.at()));
         if (byte != '\\')
             continue;
         // A control word; "\bin" is followed by that many bytes of anything.

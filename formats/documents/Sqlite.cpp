@@ -1,5 +1,6 @@
 // SQLite databases. Source: SQLite file format.
 #include "formats/Format.h"
+#include "formats/documents/SqlitePages.h"
 
 namespace vantor {
 
@@ -15,9 +16,24 @@ Extent walkSqlite(ByteView& view) {
         return damagedAt(view, 16);
     const auto changes = view.be32(24), pages = view.be32(28), validFor = view.be32(92);
     // Writers before 3.7.0 leave the count alone; it is valid only when both counters agree.
-    if (!pages || *pages == 0 || changes != validFor)
-        return unknownExtent();
-    return completeAt(view, page * *pages);
+    if (!pages || *pages == 0 || changes != validFor) {
+        const PageCensus census = countPages(view, page, 0);
+        return census.outcome == PageCensus::Outcome::Sound
+                   ? withContent(completeAt(view, page * census.pages))
+                   : unknownExtent();
+    }
+    const Extent whole = completeAt(view, page * *pages);
+    if (whole.verdict != Verdict::Complete)
+        return whole;
+    switch (countPages(view, page, *pages).outcome) {
+        case PageCensus::Outcome::Sound:
+            return withContent(whole);
+        case PageCensus::Outcome::Broken:
+            return spoiltUpTo(view, whole.end);
+        case PageCensus::Outcome::Silent:
+            break;
+    }
+    return whole;
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
-// Sound that is nothing but frames one after the other. Nothing marks the end; the file goes on while frames
-// of the same kind follow each other.
+// Sound that is nothing but frames one after the other. Nothing but a tag marks the end; the file goes on
+// while frames of the same kind follow each other.
 #pragma once
 
 #include <algorithm>
@@ -13,11 +13,26 @@ namespace vantor {
 // Frames that must follow each other before a stream with a weak sync word is believed.
 inline constexpr std::uint64_t kProofFrames = 3;
 
+// What was followed.
+struct FrameRow {
+    std::uint64_t frames = 0;
+    bool headInEachSector = true;  // a tag's or a frame's: another's sector would have ended the row
+    bool tornTag = false;
+};
+
 // Walks frames from `at`, behind a tag or at the first byte; `frameBytes(position)` is the length of the
 // frame there, 0 = none. Unknown tells as its end how long the tag is behind which no frames follow.
 template <typename FrameBytes>
-Extent walkFrames(ByteView& view, std::uint64_t at, std::uint64_t proof, FrameBytes frameBytes) {
-    std::uint64_t frames = 0;
+Extent walkFrames(ByteView& view, std::uint64_t at, std::uint64_t proof, FrameBytes frameBytes,
+                  FrameRow* row = nullptr) {
+    constexpr std::uint64_t kHead = 4;
+    FrameRow followed;
+    auto& frames = followed.frames;
+    std::uint64_t behindHead = 0;
+    const auto meetHead = [&](std::uint64_t head) {
+        followed.headInEachSector &= (behindHead + 511) / 512 * 512 + 512 > head;
+        behindHead = head + kHead;
+    };
     Extent none = unknownExtent();
     none.end = std::min(at, view.size());
     for (;; ++frames) {
@@ -32,13 +47,22 @@ Extent walkFrames(ByteView& view, std::uint64_t at, std::uint64_t proof, FrameBy
             break;
         if (bytes > view.size() - at)
             return frames >= proof ? inexact(cutOffAt(view, view.size())) : none;
+        meetHead(at);
         at += bytes;
     }
     if (frames < proof)
         return none;
     const auto end = skipTrailingTags(view, at);
-    const bool tornHead = end == at && view.size() - at < 4 && view.size() != at;
-    return inexact(tornHead ? cutOffAt(view, at) : completeAt(view, end));
+    meetHead(end);
+    followed.tornTag = view.matches(end, "TAG") || view.matches(end, "LYRICSBEGIN");
+    if (row != nullptr)
+        *row = followed;
+    const bool tornHead = end == at && view.size() - at < kHead && view.size() != at;
+    if (tornHead)
+        return inexact(cutOffAt(view, at));
+    const Extent whole = completeAt(view, end);
+    const bool marked = whole.verdict == Verdict::Complete && end != at && !followed.tornTag;
+    return marked && followed.headInEachSector ? withContent(whole) : inexact(whole);
 }
 
 }  // namespace vantor

@@ -1,4 +1,5 @@
-// MPEG audio (MP3, MP2, MP1): nothing but frames. Sources: ISO/IEC 11172-3, 13818-3.
+// MPEG audio (MP3, MP2, MP1): nothing but frames, the first of which may tell how many. Sources: ISO/IEC
+// 11172-3, 13818-3; the public description of the Xing and Info headers.
 #include <array>
 
 #include "formats/AudioTags.h"
@@ -33,6 +34,14 @@ std::uint64_t mpegAudioFrameBytes(std::uint32_t head) {
     return (layer == 3 && !first ? 72 : 144) * bits / rate + padding;
 }
 
+// How many frames of sound the first frame says that follow it; 0 = it does not.
+std::uint64_t toldFrames(ByteView& view, std::uint64_t at, std::uint32_t head) {
+    const bool first = (head >> 19 & 3) == 3, mono = (head >> 6 & 3) == 3;
+    at += 4 + (first ? (mono ? 17 : 32) : (mono ? 9 : 17));  // behind the side information
+    const bool tells = view.matches(at, "Xing") || view.matches(at, "Info");
+    return tells && (view.be32(at + 4).value_or(0) & 1) != 0 ? view.be32(at + 8).value_or(0) : 0;
+}
+
 Extent walkMpegAudio(ByteView& view) {
     const auto start = skipLeadingTag(view, 0);
     constexpr std::uint32_t kSameKind = 0xFFFE0C00;  // sync, version, layer, sampling rate
@@ -45,10 +54,20 @@ Extent walkMpegAudio(ByteView& view) {
                 return extent;
         }
     }
-    return walkFrames(view, start, start != 0 ? 1 : kProofFrames, [&](std::uint64_t at) -> std::uint64_t {
+    const auto frameBytes = [&](std::uint64_t at) -> std::uint64_t {
         const auto head = view.be32(at).value_or(0);
         return ((head ^ first) & kSameKind) == 0 ? mpegAudioFrameBytes(head) : 0;
-    });
+    };
+    FrameRow row;
+    Extent extent = walkFrames(view, start, start != 0 ? 1 : kProofFrames, frameBytes, &row);
+    const auto told = toldFrames(view, start, first);
+    const bool all = told != 0 && told + 1 == row.frames && !row.tornTag;
+    // Where they end with a sector, a tag may have stood in the next.
+    if (extent.verdict == Verdict::Complete && all && !isSectorStart(extent.end)) {
+        extent.exactEnd = true;
+        extent.checked = row.headInEachSector;
+    }
+    return extent;
 }
 
 }  // namespace

@@ -186,7 +186,11 @@ Bytes compound() {
     return out.fill(3 * 512, 0x44);
 }
 
+// A table of one row, the end of which lies on a page of its own.
 Bytes sqlite() {
+    const Bytes schema = Build().u8(14).u8(1).u8(6).u8(23).u8(15).u8(15).u8(1).u8(0).text("tableaa").u8(2);
+    const Bytes row = Build().u8(0x84).u8(0x58).u8(1).fill(92, 0x31).be32(3);
+    const auto leaf = [](std::size_t at) { return Build().u8(13).be16(0).be16(1).be16(at).u8(0).be16(at); };
     return Build()
         .text(std::string_view("SQLite format 3\0", 16))
         .be16(512)
@@ -195,6 +199,10 @@ Bytes sqlite() {
         .be32(3)
         .to(92)
         .be32(7)
+        .put(100, leaf(512 - schema.size()))
+        .put(512 - schema.size(), schema)
+        .put(512, leaf(512 - row.size()))
+        .put(1024 - row.size(), row)
         .to(1536);
 }
 

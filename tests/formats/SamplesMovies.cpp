@@ -282,7 +282,7 @@ std::vector<Sample> soundSamples() {
     return {
         {"WAV", wav()},
         {"AIFF", aiff()},
-        {"MP3", mpegAudio(), false},
+        {"MP3", mpegAudio()},
         {"AAC", adtsFrames(), false},
         {"AC3", ac3(), false},
         {"AMR", amr(), false},

@@ -128,9 +128,9 @@ TEST_P(ReaderBusRecovery, FromTheMediumToSavedFiles) {
 
 INSTANTIATE_TEST_SUITE_P(
     Modes, ReaderBusRecovery,
-    ::testing::Values(Recovery{"Photo", {"Searching criteria"}, "67 of 67 saved"},
-                      Recovery{"Video", {"Searching criteria", "File types"}, "14 of 14 saved"},
-                      Recovery{"Raw file", {"Searching criteria", "File types"}, "204 of 206 saved"}));
+    ::testing::Values(Recovery{"Photo", {"Searching criteria"}, "70 of 70 saved"},
+                      Recovery{"Video", {"Searching criteria", "File types"}, "18 of 18 saved"},
+                      Recovery{"Raw file", {"Searching criteria", "File types"}, "220 of 222 saved"}));
 
 }  // namespace
 }  // namespace vantor

@@ -1,0 +1,299 @@
+// Files that are proved by what stands in them: sound and fragments of movies, documents, databases, rows of
+// frames; and that the same with another's bytes inside is not.
+#include <gtest/gtest.h>
+#include <zlib.h>
+
+#include <algorithm>
+#include <string>
+
+#include "Corpus.h"
+#include "ExpectedEnd.h"
+#include "Samples.h"
+
+namespace vantor::test {
+namespace {
+
+Bytes boxOf(std::string_view name, const Bytes& body) {
+    return isoBox(name, Build().be32(0).add(body));
+}
+
+void expectChecked(std::string_view extension, const Bytes& file) {
+    expectEnd(extension, file, file.size());
+    EXPECT_TRUE(walkBytes(extension, file).checked);
+}
+
+Bytes withNoise(Bytes bytes, std::size_t from, std::size_t count) {
+    const Bytes foreign = noise(count, 9);
+    std::copy(foreign.begin(), foreign.end(), bytes.begin() + static_cast<std::ptrdiff_t>(from));
+    return bytes;
+}
+
+// A pair of channels with a common window, behind a filling element now and then.
+Bytes aacFrame(int number) {
+    Build frame;
+    if (number % 4 == 1)
+        frame.u8(0xC4).u8(0).u8(0).u8(0x42);  // six: two bytes of filling, then one: a pair
+    else
+        frame.u8(0x21).u8(0x10);
+    return frame.fill(198 - (frame.size() - 2), static_cast<std::uint8_t>(0x41 + number));
+}
+
+// The entry of a sound track whose decoder configuration tells of that kind of object.
+Bytes soundEntry(std::uint64_t object) {
+    const Bytes configuration = Build().u8(5).u8(2).be16(object << 11 | 0x210);
+    const Bytes decoder = Build().u8(4).u8(13 + configuration.size()).u8(0x40).fill(12).add(configuration);
+    const Bytes stream = Build().u8(3).u8(3 + decoder.size()).be16(1).u8(0).add(decoder);
+    return isoBox("mp4a", Build().fill(6).be16(1).fill(20).add(boxOf("esds", stream)));
+}
+
+Bytes soundMedia(const Bytes& entry, const Bytes& tables) {
+    const Bytes description = boxOf("stsd", Build().be32(1).add(entry));
+    const Bytes references =
+        isoBox("dinf", boxOf("dref", Build().be32(1).add(isoBox("url ", Build().be32(1)))));
+    const Bytes table = isoBox("stbl", Build().add(description).add(tables));
+    return isoBox("mdia", Build()
+                              .add(boxOf("hdlr", Build().be32(0).text("soun").fill(13)))
+                              .add(isoBox("minf", Build().add(references).add(table))));
+}
+
+const Bytes kMovieType = isoBox("ftyp", Build().text("M4A ").be32(0).text("isom"));
+
+Bytes recording(std::uint64_t object = 2) {
+    constexpr int kFrames = 60;
+    Build data, sizes;
+    sizes.be32(0).be32(kFrames);
+    for (int i = 0; i < kFrames; ++i) {
+        data.add(aacFrame(i));
+        sizes.be32(aacFrame(i).size());
+    }
+    const Bytes tables = Build()
+                             .add(boxOf("stsc", Build().be32(1).be32(1).be32(kFrames).be32(1)))
+                             .add(boxOf("stsz", sizes))
+                             .add(boxOf("stco", Build().be32(1).be32(kMovieType.size() + 8)));
+    const Bytes movie = isoBox("moov", isoBox("trak", soundMedia(soundEntry(object), tables)));
+    return Build().add(kMovieType).add(isoBox("mdat", data)).add(movie);
+}
+
+TEST(Sound, FramesOfARecording_AreLookedAt) {
+    expectChecked("M4A", recording());
+    EXPECT_EQ(walkBytes("M4A", withNoise(recording(), 4096, 4096)).verdict, Verdict::Damaged);
+}
+
+TEST(Sound, OfAKindThatIsNotFollowed_OnlyEndsWhereItSays) {
+    const Extent extent = walkBytes("M4A", recording(23));
+    EXPECT_EQ(extent.verdict, Verdict::Complete);
+    EXPECT_FALSE(extent.checked);
+}
+
+// A movie of ten fragments of six frames; the sizes stand in each, or once for all in front.
+Bytes fragments(bool sizesInRun) {
+    constexpr int kFragments = 10, kFrames = 6;
+    const std::size_t frameBytes = aacFrame(0).size();
+    const Bytes track = isoBox(
+        "trak",
+        Build().add(boxOf("tkhd", Build().fill(8).be32(7).fill(68))).add(soundMedia(soundEntry(2), {})));
+    const Bytes defaults =
+        isoBox("mvex", boxOf("trex", Build().be32(7).be32(1).be32(1024).be32(frameBytes).be32(0)));
+    Build file;
+    file.add(kMovieType).add(isoBox("moov", Build().add(track).add(defaults)));
+    for (int fragment = 0; fragment < kFragments; ++fragment) {
+        Build run;
+        run.be32(sizesInRun ? 0x201 : 1).be32(kFrames).be32(0);  // where the data begins: put in below
+        for (int i = 0; sizesInRun && i < kFrames; ++i)
+            run.be32(frameBytes);
+        const auto part = [&](const Bytes& body) {
+            return isoBox(
+                "moof",
+                isoBox("traf",
+                       Build().add(isoBox("tfhd", Build().be32(0x20000).be32(7))).add(isoBox("trun", body))));
+        };
+        run.put(8, Build().be32(part(run).size() + 8));
+        Build data;
+        for (int i = 0; i < kFrames; ++i)
+            data.add(aacFrame(4 * i));
+        file.add(part(run)).add(isoBox("mdat", data));
+    }
+    return file;
+}
+
+TEST(Fragments, Samples_AreLookedAt) {
+    for (const bool sizesInRun : {true, false}) {
+        const Bytes whole = fragments(sizesInRun);
+        expectChecked("MP4", whole);
+        // Within the media data of one fragment.
+        const Bytes name = Build().text("mdat");
+        const auto data = std::search(whole.begin() + 4096, whole.end(), name.begin(), name.end());
+        ASSERT_NE(data, whole.end());
+        const auto from = static_cast<std::size_t>(data - whole.begin()) + 4;
+        EXPECT_EQ(walkBytes("MP4", withNoise(whole, from, 1000)).verdict, Verdict::Damaged);
+    }
+}
+
+std::string packed(const std::string& content) {
+    uLongf bytes = compressBound(content.size());
+    std::string out(bytes, '\0');
+    compress(reinterpret_cast<Bytef*>(out.data()), &bytes, reinterpret_cast<const Bytef*>(content.data()),
+             content.size());
+    out.resize(bytes);
+    return out;
+}
+
+// A page whose content is packed; `lead` stands in front of its second object.
+std::string document(const std::string& lead = {}, bool lengthElsewhere = false) {
+    std::string content;
+    for (int i = 0; i < 3000; ++i)
+        content += std::to_string(i * 7919 % 10007) + " ";
+    const std::string stream = packed(content);
+    std::string out = "%PDF-1.4\n%\xE2\xE3\n";
+    const auto catalogue = out.size();
+    out += "1 0 obj\n<< /Type /Catalog /Title (a \\) b) /Id <0A1B> >>\nendobj\n" + lead;
+    const auto page = out.size();
+    out += "2 0 obj\n<< /Filter [/FlateDecode] /Length " +
+           (lengthElsewhere ? std::string("3 0 R") : std::to_string(stream.size())) + " >>\nstream\n" +
+           stream + "\nendstream\nendobj\n";
+    const auto number = out.size();
+    out += "3 0 obj\n" + std::to_string(stream.size()) + "\nendobj\n";
+    const auto table = out.size();
+    const auto line = [](std::size_t place) {
+        const std::string digits = std::to_string(place);
+        return std::string(10 - digits.size(), '0') + digits + " 00000 n \n";
+    };
+    out += "xref\n0 4\n0000000000 65535 f \n" + line(catalogue) + line(page) + line(number);
+    return out + "trailer\n<< /Size 4 /Root 1 0 R >>\nstartxref\n" + std::to_string(table) + "\n%%EOF\n";
+}
+
+bool isDocumentChecked(const std::string& text) {
+    const Bytes bytes = Build().text(text);
+    const Extent extent = walkBytes("PDF", bytes);
+    EXPECT_EQ(extent.verdict, Verdict::Complete);
+    EXPECT_EQ(extent.end, bytes.size());
+    return extent.checked;
+}
+
+TEST(Documents, ObjectsAndTheirStreams_AreRead) {
+    EXPECT_TRUE(isDocumentChecked(document()));
+    EXPECT_TRUE(isDocumentChecked(document("% a remark\n", true)));
+}
+
+TEST(Documents, WhatIsNoObject_OnlyEndsWhereItSays) {
+    EXPECT_FALSE(isDocumentChecked(document("junk\n")));
+    std::string spoilt = document();
+    spoilt[spoilt.find("stream\n") + 2000] ^= 1;
+    EXPECT_FALSE(isDocumentChecked(spoilt));
+    // A place in the table where no object begins.
+    std::string moved = document();
+    moved[moved.find(" 00000 n") - 1] ^= 1;
+    EXPECT_FALSE(isDocumentChecked(moved));
+}
+
+TEST(Documents, WhoseEndIsInDoubt_OnlyEndWhereTheySay) {
+    EXPECT_FALSE(isDocumentChecked(document() + "\n"));
+    const Extent joined = walkBytes("PDF", Build().text(document() + document()));
+    EXPECT_EQ(joined.end, document().size());
+    EXPECT_FALSE(joined.checked);
+}
+
+Bytes database() {
+    for (const auto& sample : allSamples()) {
+        if (sample.extension == "SQLITE")
+            return sample.bytes;
+    }
+    return {};
+}
+
+TEST(Databases, EveryPage_IsReached) {
+    expectChecked("SQLITE", database());
+    for (const std::size_t page : {512, 1024}) {
+        const Extent extent = walkBytes("SQLITE", withNoise(database(), page, 512));
+        EXPECT_EQ(extent.verdict, Verdict::Damaged) << page;
+        EXPECT_TRUE(extent.endFound);
+    }
+}
+
+TEST(Databases, PagesThatNothingPointsAt_AreNotJudged) {
+    Bytes larger = Build().add(database()).fill(512, 0x55);
+    larger[31] = 4;
+    const Extent extent = walkBytes("SQLITE", larger);
+    EXPECT_EQ(extent.verdict, Verdict::Complete);
+    EXPECT_FALSE(extent.checked);
+    larger[35] = 4;  // the first of the free pages
+    larger = Build().add(larger).put(1536, Build().fill(8));
+    expectChecked("SQLITE", larger);
+}
+
+TEST(Databases, ThatDoNotCountTheirPages_EndBehindTheLastOneInUse) {
+    Bytes old = database();
+    old[95] = 6;
+    const Extent extent = walkBytes("SQLITE", Build().add(old).add(noise(4096, 5)));
+    EXPECT_EQ(extent.verdict, Verdict::Complete);
+    EXPECT_EQ(extent.end, old.size());
+    EXPECT_TRUE(extent.checked);
+}
+
+Bytes soundFrames(int count, int told) {
+    Build out;
+    for (int i = 0; i < count; ++i) {
+        Build frame;
+        frame.be32(0xFFFB9064).fill(413, 3);
+        if (i == 0 && told != 0)
+            frame.put(36, Build().text("Info").be32(1).be32(static_cast<unsigned>(told)));
+        out.add(frame);
+    }
+    return out;
+}
+
+TEST(Frames, CountedByTheFirst_AreAll) {
+    const Bytes all = soundFrames(11, 10);
+    EXPECT_TRUE(walkBytes("MP3", all).checked);
+    EXPECT_FALSE(walkBytes("MP3", soundFrames(11, 12)).checked);
+    EXPECT_FALSE(walkBytes("MP3", soundFrames(11, 0)).checked);
+    // Ended by a sector, as a tag behind them may have been too.
+    const Bytes filled = soundFrames(512, 511);
+    ASSERT_EQ(filled.size() % 512, 0U);
+    EXPECT_FALSE(walkBytes("MP3", filled).checked);
+}
+
+TEST(Frames, LargerThanASector_AreNotCheckedByTheirHeads) {
+    Build large;
+    for (int i = 0; i < 11; ++i)
+        large.be32(0xFFFBE064).fill(1040, 3);  // 320 kbit/s
+    const Bytes tag = Build().text("TAG").fill(125);
+    const Bytes small = Build().add(soundFrames(11, 0)).add(tag);
+    EXPECT_TRUE(walkBytes("MP3", small).checked);
+    const Extent extent = walkBytes("MP3", Build().add(large).add(tag));
+    EXPECT_EQ(extent.verdict, Verdict::Complete);
+    EXPECT_EQ(extent.end, large.size() + tag.size());
+    EXPECT_FALSE(extent.checked);
+}
+
+TEST(Frames, WhoseTagIsTorn_AreNotAll) {
+    const Extent extent = walkBytes("MP3", Build().add(soundFrames(11, 10)).text("TAG").fill(60));
+    EXPECT_FALSE(extent.checked);
+    EXPECT_FALSE(extent.exactEnd);
+}
+
+TEST(LeftBehind, AFewBytesBeforeAnEmptyRestOfTheSector_AreTheFiles) {
+    const Bytes picture = jpeg();
+    const auto end = [&](const Bytes& tail) { return walkBytes("JPG", Build().add(picture).add(tail)).end; };
+    ASSERT_LT(picture.size() % 512, 300U);
+    EXPECT_EQ(end(Build().text("\n").fill(2000)), picture.size() + 1);
+    EXPECT_EQ(end(Build().text("\r\nend").fill(2000)), picture.size() + 5);
+    // What fills the sector, or reaches far into it, lay there before.
+    EXPECT_EQ(end(noise(2000, 7)), picture.size());
+    EXPECT_EQ(end(Build().fill(100, 0x41).fill(2000)), picture.size());
+    EXPECT_EQ(end(Bytes(2000, 0)), picture.size());
+}
+
+TEST(LeftBehind, RichText_ClosesAsItsWriterDoes) {
+    const auto text = [](std::string_view writer) {
+        return Build().text("{\\rtf1{\\*\\generator ").text(writer).text("}a}\r\n").bytes();
+    };
+    const Bytes zeros(3000, 0);
+    const Bytes system = text("Riched20 6.2.9200"), other = text("Any Other");
+    EXPECT_EQ(walkBytes("RTF", Build().add(system).add(zeros)).end, system.size() + 1);
+    EXPECT_EQ(walkBytes("RTF", Build().add(other).add(zeros)).end, other.size());
+    EXPECT_EQ(walkBytes("RTF", Build().add(other).text("\r\n").add(noise(3000, 8))).end, other.size() + 2);
+}
+
+}  // namespace
+}  // namespace vantor::test
