@@ -112,6 +112,7 @@ class ClusterVolume {
     bool clearsUpperHalf(const FoundStarts& found);
     // One; none where none is likely; two where it cannot be told which.
     std::vector<std::uint32_t> beginningsOf(const DirectoryEntry& entry, const FoundStarts& found);
+    bool beginsOtherwise(std::uint32_t cluster, const DirectoryEntry& entry, const FoundStarts& found);
 
     SectorSource& m_card;
     const VolumeShape m_shape;

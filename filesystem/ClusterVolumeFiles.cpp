@@ -98,12 +98,24 @@ void ClusterVolume::placeGone(const DirectoryEntry& entry, const FoundStarts& fo
         }
     }
     const std::vector<std::uint32_t> beginnings = beginningsOf(entry, found);
-    file.runsKnownBy = beginnings.size() == 1 ? RunsKnownBy::Guess : RunsKnownBy::StartOnly;
-    if (beginnings.size() == 1) {
-        file.runs = {onePiece(beginnings.front(), clusters)};
-    } else if (beginnings.empty()) {
-        file.runs = {onePiece(entry.cluster, 1)};
+    const bool isGuess = beginnings.size() == 1 && !beginsOtherwise(beginnings.front(), entry, found);
+    file.runsKnownBy = isGuess ? RunsKnownBy::Guess : RunsKnownBy::StartOnly;
+    if (beginnings.size() <= 1) {
+        const std::uint32_t beginning = beginnings.empty() ? entry.cluster : beginnings.front();
+        file.runs = {onePiece(beginning, isGuess ? clusters : 1)};
     }
+}
+
+// Whether what lies there cannot be the beginning of a file of that name: another's piece, since.
+bool ClusterVolume::beginsOtherwise(std::uint32_t cluster, const DirectoryEntry& entry,
+                                    const FoundStarts& found) {
+    const std::uint64_t place = m_shape.sectorOf(cluster);
+    if (m_goneStepsLeft == 0 || found.isAt(place, entry.name)) {
+        return false;
+    }
+    --m_goneStepsLeft;
+    std::array<std::uint8_t, 512> sector;
+    return m_card.readAt(place, sector) && !beginsLike(entry.name, sector).value_or(true);
 }
 
 // The clusters with the same lower half under which such a file begins, two at most; its own comes first.

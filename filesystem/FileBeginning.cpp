@@ -22,14 +22,22 @@ constexpr std::array kBeginnings{
     Beginning{u".mp4.mov.m4v.m4a.3gp.heic.heif.avif.cr3.lrv.", 4, "ftyp"sv},
     Beginning{u".mp4.mov.m4v.m4a.3gp.heic.heif.avif.cr3.lrv.", 4, "mdat"sv},
     Beginning{u".mp4.mov.m4v.m4a.3gp.heic.heif.avif.cr3.lrv.", 4, "moov"sv},
+    Beginning{u".mov.mp4.", 4, "wide"sv},
+    Beginning{u".mov.mp4.", 4, "free"sv},
+    Beginning{u".mov.mp4.", 4, "skip"sv},
+    Beginning{u".mov.", 4, "pnot"sv},
     Beginning{u".tif.tiff.nef.nrw.dng.arw.cr2.pef.srw.kdc.gpr.", 0, "II*\0"sv},
     Beginning{u".tif.tiff.nef.nrw.dng.arw.cr2.pef.srw.kdc.gpr.", 0, "MM\0*"sv},
+    Beginning{u".tif.tiff.", 0, "II+\0"sv},
+    Beginning{u".tif.tiff.", 0, "MM\0+"sv},
     Beginning{u".avi.wav.webp.", 0, "RIFF"sv},
+    Beginning{u".wav.", 0, "RF64"sv},
     Beginning{u".png.", 0, "\x89PNG"sv},
     Beginning{u".gif.", 0, "GIF8"sv},
     Beginning{u".mts.m2ts.", 4, "G"sv},
     Beginning{u".pdf.", 0, "%PDF"sv},
     Beginning{u".zip.docx.xlsx.pptx.odt.", 0, "PK"sv},
+    Beginning{u".docx.xlsx.pptx.", 0, "\xD0\xCF\x11\xE0"sv},  // encrypted
 };
 
 }  // namespace

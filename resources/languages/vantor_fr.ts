@@ -3346,7 +3346,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>Show Th&amp;em</source>
-        <translation>Les afficher</translation>
+        <translation>Les e&amp;xaminer</translation>
     </message>
     <message>
         <source>Show the files that were put together or repaired</source>

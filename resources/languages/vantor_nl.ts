@@ -479,7 +479,7 @@ De kaart wordt alleen gelezen, er wordt nooit op geschreven. Gebruik de kaart ni
     </message>
     <message>
         <source>&amp;Invert Ticks</source>
-        <translation>Vinkjes &amp;omkeren</translation>
+        <translation>Vink&amp;jes omkeren</translation>
     </message>
     <message>
         <source>Invert the ticks of what is shown</source>
@@ -2457,7 +2457,7 @@ Wordt uitgevoerd op %2.</translation>
     </message>
     <message>
         <source>Fo&amp;und types only</source>
-        <translation>Alleen gevonden typen</translation>
+        <translation>Alleen gev&amp;onden typen</translation>
     </message>
     <message>
         <source>Show only the types that were found</source>
@@ -2529,7 +2529,7 @@ Wordt uitgevoerd op %2.</translation>
     </message>
     <message>
         <source>&amp;Invert Ticks</source>
-        <translation>Vinkjes &amp;omkeren</translation>
+        <translation>Vink&amp;jes omkeren</translation>
     </message>
     <message>
         <source>Invert the ticks of what is shown</source>

@@ -479,7 +479,7 @@ O cartão é somente lido, nunca gravado. Não o use até ter seus arquivos de v
     </message>
     <message>
         <source>&amp;Invert Ticks</source>
-        <translation>Inverter marcas</translation>
+        <translation>Inverter mar&amp;cas</translation>
     </message>
     <message>
         <source>Invert the ticks of what is shown</source>
@@ -2529,7 +2529,7 @@ Executando em %2.</translation>
     </message>
     <message>
         <source>&amp;Invert Ticks</source>
-        <translation>Inverter marcas</translation>
+        <translation>Inverter mar&amp;cas</translation>
     </message>
     <message>
         <source>Invert the ticks of what is shown</source>
@@ -3623,7 +3623,7 @@ Deseja realmente sair de “%1”?</translation>
     </message>
     <message>
         <source>&amp;Go On</source>
-        <translation>&amp;Continuar</translation>
+        <translation>Prosse&amp;guir</translation>
     </message>
     <message>
         <source>Go on with the search</source>

@@ -56,6 +56,7 @@ TEST_F(ExfatCard, ChainThatLeadsIntoALiveFile_IsNoChain) {
     putPhotos(exfatSet({"NEW.JPG", 21, 2 * 4096, false}) +
               exfatSet({"OLD.JPG", 20, 3 * 4096, false, false, true}));
     chainExfat(m_card, m_exfat, {20, 21, 30});
+    put(m_card.bytes, m_exfat.sectorOf(20) * 512, std::string("\xFF\xD8\xFF\xE1", 4));
     EXPECT_EQ(fileNamed(tableOf(m_card), "OLD.JPG").runsKnownBy, RunsKnownBy::Guess);
 }
 

@@ -30,6 +30,9 @@ class FatCard : public testing::TestWithParam<unsigned> {
     }
 
     void putPhotos(const Bytes& rows) { putBytes(m_card, m_fat.sectorOf(4), dotRows(4, 3) + rows); }
+    void beginPhoto(std::uint32_t cluster) {
+        put(m_card.bytes, m_fat.sectorOf(cluster) * 512, std::string("\xFF\xD8\xFF\xE1", 4));
+    }
 
     FatPlaces m_fat;
     MemoryCard m_card{22000};
@@ -60,6 +63,7 @@ TEST_P(FatCard, LiveFileInPieces_HasItsFolderTimesAndRuns) {
 
 TEST_P(FatCard, DeletedFile_LosesItsFirstLetterAndIsGuessedInOnePiece) {
     putPhotos(deletedFat(fatRow("IMG_0412JPG", 10, 3 * 2048)));
+    beginPhoto(10);
     const CardTable table = tableOf(m_card);
     ASSERT_EQ(pathsOf(table), "DCIM/100CANON/_MG_0412.JPG");
     const CardFile& file = table.files.front();
@@ -68,6 +72,18 @@ TEST_P(FatCard, DeletedFile_LosesItsFirstLetterAndIsGuessedInOnePiece) {
     EXPECT_EQ(file.runs, (std::vector<SectorRun>{{m_fat.sectorOf(10), m_fat.sectorOf(13)}}));
     EXPECT_EQ(file.runsKnownBy, RunsKnownBy::Guess);
     EXPECT_FALSE(file.beginningIsInUse);
+}
+
+// Another file's piece lies there since, which was deleted in its turn: nothing holds the place.
+TEST_P(FatCard, DeletedFile_IsNotWhereSomethingElseBegins) {
+    putPhotos(deletedFat(fatRow("IMG_0412JPG", 10, 3 * 2048) + fatRow("NOTES   CTG", 20, 3 * 2048)));
+    put(m_card.bytes, m_fat.sectorOf(10) * 512, std::string("\xFD\x30\xB1\xBD", 4));
+    const CardTable table = tableOf(m_card);
+    const CardFile photo = fileNamed(table, "_MG_0412.JPG");
+    EXPECT_EQ(photo.runsKnownBy, RunsKnownBy::StartOnly);
+    EXPECT_EQ(photo.runs, (std::vector<SectorRun>{{m_fat.sectorOf(10), m_fat.sectorOf(11)}}));
+    // What begins in no way of its own may be there.
+    EXPECT_EQ(fileNamed(table, "_OTES.CTG").runsKnownBy, RunsKnownBy::Guess);
 }
 
 TEST_P(FatCard, DeletedLongName_IsWhole) {
@@ -147,6 +163,7 @@ TEST_P(FatCard, DeletedFolder_StillHoldsItsFiles) {
 
 TEST_P(FatCard, QuickFormat_FoldersAreFoundByTheirDotRows) {
     putPhotos(fatRow("IMG_0412JPG", 10, 3 * 2048));
+    beginPhoto(10);
     formatFat(m_card, m_fat);
     const CardTable table = tableOf(m_card);
     ASSERT_EQ(pathsOf(table), "DCIM/100CANON/IMG_0412.JPG");
@@ -180,6 +197,7 @@ TEST_P(FatCard, TablesOfPartitionsGone_EachRootNamesItsOwnFolders) {
 
 TEST_P(FatCard, FormatWithOtherClusters_OldOnesAreVotedFor) {
     putPhotos(fatRow("IMG_0412JPG", 10, 3 * 2048));
+    beginPhoto(10);
     FatPlaces other = m_fat;
     other.clusterSectors = 8;
     other.clusters = m_fat.clusters / 2;
