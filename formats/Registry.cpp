@@ -2,6 +2,7 @@
 #include "formats/Registry.h"
 
 #include <algorithm>
+#include <array>
 #include <string>
 
 namespace vantor {
@@ -15,16 +16,17 @@ constexpr const Format* kFormats[] = {
 };
 
 // Some programs leave a few bytes behind a file's last mark, a line end mostly. They are the file's where
-// nothing but zeros follows them in their sector: what lay there before would fill it.
-Extent withLeftBehind(ByteView& view, Extent extent) {
+// nothing but zeros follows them in their sector: what lay there before would fill it. Only that sector is
+// read.
+Extent withLeftBehind(ByteSource& source, Extent extent) {
     constexpr std::uint64_t kMost = 64, kLeastZeros = 32;
     if (extent.verdict != Verdict::Complete || !extent.exactEnd || isSectorStart(extent.end))
         return extent;
-    const auto left = 512 - extent.end % 512;
-    const auto bytes = view.window(extent.end, static_cast<std::size_t>(left));
-    if (bytes.size() < left || left < kLeastZeros)
+    std::array<std::uint8_t, 512> sector;
+    const std::uint64_t within = extent.end % sector.size(), left = sector.size() - within;
+    if (left < kLeastZeros || source.read(extent.end - within, sector) < sector.size())
         return extent;
-    const auto rest = bytes.first(static_cast<std::size_t>(left));
+    const auto rest = std::span(sector).subspan(static_cast<std::size_t>(within));
     const auto last = std::find_if(rest.rbegin(), rest.rend(), [](std::uint8_t byte) { return byte != 0; });
     const auto zeros = static_cast<std::uint64_t>(last - rest.rbegin());
     if (zeros >= kLeastZeros && left - zeros <= kMost)
@@ -73,7 +75,7 @@ Extent walk(std::string_view extension, ByteSource& source) {
         if (other.verdict != Verdict::Unknown || other.facts.width != 0 || other.facts.taken)
             extent = other;
     }
-    return withLeftBehind(view, extent);
+    return withLeftBehind(source, extent);
 }
 
 }  // namespace vantor
