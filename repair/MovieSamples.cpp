@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "formats/PartOfView.h"
 #include "formats/Registry.h"
 #include "repair/CodedPicture.h"
 
@@ -41,24 +42,6 @@ Likeness unitsBeginAs(const PromisedSample& sample, std::span<const std::uint8_t
     }
     return at == sample.bytes ? Likeness::Certain : Likeness::Possible;
 }
-
-// The bytes of a view in [from, to) as a file of their own.
-class PartOfView final : public ByteSource {
-  public:
-    PartOfView(ByteView& view, std::uint64_t from, std::uint64_t to)
-        : m_view(view), m_from(from), m_to(std::max(from, std::min(to, view.size()))) {}
-    std::uint64_t size() const override { return m_to - m_from; }
-    std::size_t read(std::uint64_t offset, std::span<std::uint8_t> into) override {
-        const std::uint64_t left = size() - std::min(offset, size());
-        const auto count = static_cast<std::size_t>(std::min<std::uint64_t>(into.size(), left));
-        return m_view.copy(m_from + offset, into.first(count)) ? count : 0;
-    }
-
-  private:
-    ByteView& m_view;
-    const std::uint64_t m_from;
-    const std::uint64_t m_to;
-};
 
 // Nothing where they overlap, or are less than half of the data.
 std::optional<std::vector<PromisedSample>> inOrder(std::vector<PromisedSample> samples, std::uint64_t sum,

@@ -214,7 +214,7 @@ bool ObjectsWalk::provesItself(const Dictionary& dictionary, std::uint64_t from,
         return true;
     }
     if (dictionary.filter == "DCTDecode" || dictionary.filter == "DCT") {
-        PartOfView part(m_view, from, to - from);
+        PartOfView part(m_view, from, to);
         ByteView picture(part);
         return to != from && walkAs(*formatFor("JPG"), picture).checked;
     }

@@ -233,11 +233,17 @@ TEST_P(FatCard, SizesAndClustersBeyondTheCard_HaveNoRuns) {
 INSTANTIATE_TEST_SUITE_P(EveryWidth, FatCard, testing::Values(12u, 16u, 32u),
                          [](const auto& width) { return "Fat" + std::to_string(width.param); });
 
-TEST(Fat32Card, ClearedUpperHalf_IsFoundByWhereSuchAFileBegins) {
+// More than the lower half of a number counts.
+FatPlaces manyClusters() {
     FatPlaces fat;
     fat.bits = 32;
     fat.clusterSectors = 1;
     fat.clusters = 140000;
+    return fat;
+}
+
+TEST(Fat32Card, ClearedUpperHalf_IsFoundByWhereSuchAFileBegins) {
+    const FatPlaces fat = manyClusters();
     MemoryCard card(fat.end());
     formatFat(card, fat);
     putBytes(card, fat.sectorOf(2), deletedFat(fatRow("IMG_0001JPG", 70000 & 0xFFFF, 3000)));
@@ -249,10 +255,7 @@ TEST(Fat32Card, ClearedUpperHalf_IsFoundByWhereSuchAFileBegins) {
 
 // What begins under the lower half alone is as likely another file, once one has lost its upper half.
 TEST(Fat32Card, ClearedUpperHalf_IsNotGuessedBetweenTwo) {
-    FatPlaces fat;
-    fat.bits = 32;
-    fat.clusterSectors = 1;
-    fat.clusters = 140000;
+    const FatPlaces fat = manyClusters();
     MemoryCard card(fat.end());
     formatFat(card, fat);
     putBytes(card, fat.sectorOf(2),

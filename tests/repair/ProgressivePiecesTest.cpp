@@ -111,13 +111,8 @@ TEST(ProgressivePieces, TwoPhotosCrossed_ComeApart) {
 
 TEST(ProgressivePieces, ThreePiecesOutOfOrder_AreJoined_AndToBeLookedAt) {
     const QByteArray photo = scansOf(3);
-    const qsizetype third = clustersOf(photo) / 3;
     test::ScatteredCard card;
-    const std::uint64_t first = card.put(photo, 0, third);
-    card.putNoise(3);
-    card.put(photo, 2 * third);
-    card.putNoise(2);
-    card.put(photo, third, 2 * third);
+    const std::uint64_t first = card.putOutOfOrder(photo);
     const auto assembly = card.completed(first);
     ASSERT_TRUE(assembly);
     EXPECT_EQ(card.contentOf(*assembly), photo);

@@ -40,6 +40,16 @@ class ScatteredCard {
         put(other, clustersOf(other) / 2);
         return {firstOfOne, firstOfOther};
     }
+    // Its first third, its last, then what lies between them; where it begins.
+    std::uint64_t putOutOfOrder(const QByteArray& file) {
+        const qsizetype third = clustersOf(file) / 3;
+        const std::uint64_t first = put(file, 0, third);
+        putNoise(3);
+        put(file, 2 * third);
+        putNoise(2);
+        put(file, third, 2 * third);
+        return first;
+    }
     void putNoise(int clusters) {
         std::mt19937 random(7);
         for (qsizetype i = 0; i < clusters * kClusterBytes; ++i) {
