@@ -123,7 +123,7 @@ TEST(MovieSound, OfSamplesBeyondNumber_IsLookedAtInFewPlaces) {
                            .add(type)
                            .add(isoBox("mdat", samplesOf(sound.head)))
                            .add(isoBox("moov", Build().add(track).add(track)));
-    expectWholeInside("M4A", file, false);
+    expectSpoilt("M4A", file, file.size());  // most lie outside the media data
 }
 
 TEST(MovieSound, OfSamplesBeyondNumberInFragments_IsLookedAtInFewPlaces) {
