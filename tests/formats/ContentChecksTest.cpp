@@ -113,7 +113,16 @@ Bytes fragments(bool sizesInRun) {
             data.add(aacFrame(4 * i));
         file.add(part(run)).add(isoBox("mdat", data));
     }
-    return file;
+    return file.add(boxOf("mfra", {}));
+}
+
+TEST(Fragments, OfWhichMoreMayHaveFollowed_OnlyEndWhereTheySay) {
+    Bytes open = fragments(true);
+    open.resize(open.size() - boxOf("mfra", {}).size());
+    const Extent extent = walkBytes("MP4", open);
+    EXPECT_EQ(extent.verdict, Verdict::Complete);
+    EXPECT_EQ(extent.end, open.size());
+    EXPECT_FALSE(extent.checked);
 }
 
 TEST(Fragments, Samples_AreLookedAt) {
