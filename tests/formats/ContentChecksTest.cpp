@@ -147,6 +147,12 @@ std::string packed(const std::string& content) {
     return out;
 }
 
+// An object with a stream, behind whose beginning stands what it holds; 3 0 R tells another length.
+std::string streamObject(const std::string& keys, const std::string& content, bool tellsLength = true) {
+    return "4 0 obj\n<< " + keys + " /Length " + (tellsLength ? std::to_string(content.size()) : "3 0 R") +
+           " >>\nstream\n" + content + "\nendstream\nendobj\n";
+}
+
 // A page whose content is packed; `lead` stands in front of its second object.
 std::string document(const std::string& lead = {}, bool lengthElsewhere = false) {
     std::string content;
@@ -193,6 +199,26 @@ TEST(Documents, WhatIsNoObject_OnlyEndsWhereItSays) {
     std::string moved = document();
     moved[moved.find(" 00000 n") - 1] ^= 1;
     EXPECT_FALSE(isDocumentChecked(moved));
+}
+
+TEST(Documents, OfWhichASmallStreamIsAnothers_OnlyEndWhereTheySay) {
+    const std::string small = packed("a few words only, which are a few words");
+    EXPECT_TRUE(isDocumentChecked(document(streamObject("/Filter /FlateDecode", small))));
+    std::string spoilt = small;
+    spoilt[spoilt.size() / 2] ^= 1;
+    EXPECT_FALSE(isDocumentChecked(document(streamObject("/Filter /FlateDecode", spoilt))));
+    const Bytes picture = jpeg();
+    const std::string photo(picture.begin(), picture.end());
+    EXPECT_TRUE(isDocumentChecked(document(streamObject("/Filter /DCTDecode", photo))));
+    EXPECT_FALSE(isDocumentChecked(document(streamObject("/Filter /DCTDecode", photo.substr(0, 40)))));
+}
+
+TEST(Documents, WhoseStreamsSayNothing_OnlyEndWhereTheySay) {
+    for (const bool tellsLength : {true, false}) {
+        const std::string words(20'000, 'w'), foreign(20'000, '\1');
+        EXPECT_TRUE(isDocumentChecked(document(streamObject("", words, tellsLength))));
+        EXPECT_FALSE(isDocumentChecked(document(streamObject("", foreign, tellsLength))));
+    }
 }
 
 TEST(Documents, WhoseEndIsInDoubt_OnlyEndWhereTheySay) {

@@ -162,6 +162,49 @@ TEST(TiffPadding, OfAPhoto_IsTheFiles) {
     expectEnd("TIF", Build().add(drawing).u8(0).add(noise(300, 5)), drawing.size());
 }
 
+TEST(CompoundTable, FilledWithEndsOfChains_EndsWithTheLastSectorThatIsNamed) {
+    const auto file = [](std::size_t chains, std::uint64_t rest) -> Bytes {
+        Build out;
+        out.add(compoundHead()).le32(1).le32(1).to(68).le32(0xFFFFFFFE).le32(0).le32(0).to(512);
+        out.le32(0xFFFFFFFD).le32(0xFFFFFFFE).le32(3).le32(4).le32(0xFFFFFFFE);
+        for (std::size_t i = 0; i < chains; ++i)
+            out.le32(0xFFFFFFFE);
+        while (out.size() < 1024)
+            out.le32(rest);
+        return out.fill((4 + chains) * 512, 0x44);
+    };
+    for (const Bytes& whole : {file(0, 0xFFFFFFFF), file(6, 0xFFFFFFFF), file(0, 0xFFFFFFFE)})
+        expectEnd("XLS", Build().add(whole).add(noise(80'000, 8)), whole.size());
+}
+
+Bytes losslessSound(std::size_t frameBytes) {
+    constexpr std::size_t kFrames = 20;
+    const Bytes type = isoBox("ftyp", Build().text("M4A ").be32(0).text("M4A "));
+    const auto versioned = [](std::string_view name, const Bytes& body) {
+        return isoBox(name, Build().be32(0).add(body));
+    };
+    Build data;
+    for (std::size_t i = 0; i < kFrames; ++i)
+        data.be32(0x20000000).fill(frameBytes - 4, static_cast<std::uint8_t>(i + 0x41));
+    const Bytes entry = isoBox("alac", Build().fill(6).be16(1).fill(20));
+    Build table;
+    table.add(versioned("stsd", Build().be32(1).add(entry)));
+    table.add(versioned("stsc", Build().be32(1).be32(1).be32(kFrames).be32(1)));
+    table.add(versioned("stsz", Build().be32(frameBytes).be32(kFrames)));
+    table.add(versioned("stco", Build().be32(1).be32(type.size() + 8)));
+    const Bytes handler = versioned("hdlr", Build().be32(0).text("soun").fill(13));
+    const Bytes media = Build().add(handler).add(isoBox("minf", isoBox("stbl", table)));
+    return Build()
+        .add(type)
+        .add(isoBox("mdat", data))
+        .add(isoBox("moov", isoBox("trak", isoBox("mdia", media))));
+}
+
+TEST(LosslessSound, WhoseFramesAreLongerThanACluster_OnlyEndsWhereItSays) {
+    expectWholeInside("M4A", losslessSound(2000));
+    expectWholeInside("M4A", losslessSound(9000), false);
+}
+
 // A frame of 32 kbit/s at 48 kHz whose last two bytes make its sum come out even.
 Bytes provedFrame(std::uint8_t value) {
     Bytes frame = Build().be16(0x0B77).be16(0).u8(0).u8(0x40).fill(120, value).be16(0);
