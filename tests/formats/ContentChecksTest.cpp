@@ -299,6 +299,10 @@ TEST(Frames, LargerThanASector_AreNotCheckedByTheirHeads) {
     EXPECT_EQ(extent.verdict, Verdict::Complete);
     EXPECT_EQ(extent.end, large.size() + tag.size());
     EXPECT_FALSE(extent.checked);
+    // Nor by their number alone.
+    const Bytes counted = Build().add(large).put(36, Build().text("Info").be32(1).be32(10));
+    EXPECT_EQ(walkBytes("MP3", counted).end, large.size());
+    EXPECT_FALSE(walkBytes("MP3", counted).checked);
 }
 
 TEST(Frames, WhoseTagIsTorn_AreNotAll) {

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "ContentExpectations.h"
+#include "Corpus.h"
 #include "ExpectedEnd.h"
 #include "Samples.h"
 #include "formats/Crc.h"
@@ -112,6 +113,18 @@ TEST(MovieIndex, OfWhichTheRestIsAnothers_ProvesNothing) {
     EXPECT_FALSE(walkBytes("MP4", twoTracks(false)).checked);
 }
 
+TEST(MotionPhoto, IsCheckedWhereBothPartsAre) {
+    const Bytes photo = readFile(foreignFolder() / "imagemagick-progressive.jpg");
+    const Bytes movie = twoTracks(true);
+    ASSERT_NE(photo.size() % 512, 0U);
+    expectWholeInside("JPG", photo);
+    expectWholeInside("JPG", Build().add(photo).add(movie));
+    expectWholeInside("JPG", Build().add(photo).add(kPhoneMovie), false);
+    // A part of the movie's sound is another's; its own end is known.
+    const Bytes spoilt = overwritten(Build().add(photo).add(movie), photo.size() + 1000, photo.size() + 2500);
+    expectSpoilt("JPG", Build().add(spoilt).add(noise(2000, 1)), spoilt.size());
+}
+
 Bytes wave() {
     const Bytes format = Build().le16(1).le16(1).le32(8000).le32(8000).le16(1).le16(8);
     const Bytes body =
@@ -175,6 +188,19 @@ TEST(CompoundTable, FilledWithEndsOfChains_EndsWithTheLastSectorThatIsNamed) {
     };
     for (const Bytes& whole : {file(0, 0xFFFFFFFF), file(6, 0xFFFFFFFF), file(0, 0xFFFFFFFE)})
         expectEnd("XLS", Build().add(whole).add(noise(80'000, 8)), whole.size());
+}
+
+TEST(CompoundTable, ThatEndsWithShortChains_IsInUseToItsEnd) {
+    constexpr std::uint64_t kEntries = 128, kShort = 6;
+    Build out;
+    out.add(compoundHead()).le32(1).le32(1).to(68).le32(0xFFFFFFFE).le32(0).le32(0).to(512);
+    out.le32(0xFFFFFFFD).le32(0xFFFFFFFE);
+    for (std::uint64_t i = 3; i < kEntries - kShort; ++i)
+        out.le32(i);
+    while (out.size() < 1024)
+        out.le32(0xFFFFFFFE);
+    const Bytes whole = out.fill((kEntries - 1) * 512, 0x44);
+    expectEnd("XLS", Build().add(whole).add(noise(3000, 8)), whole.size());
 }
 
 Bytes losslessSound(std::size_t frameBytes) {
