@@ -245,6 +245,15 @@ TEST(Databases, EveryPage_IsReached) {
     }
 }
 
+TEST(Databases, APageThatIsReachedTwice_IsAnothers) {
+    // The row's last page, said to be the first of the free ones too, with no other behind it.
+    Bytes twice = database();
+    std::fill_n(twice.begin() + 1024, 8, std::uint8_t{0});
+    expectChecked("SQLITE", twice);
+    twice[35] = 3;
+    EXPECT_EQ(walkBytes("SQLITE", twice).verdict, Verdict::Damaged);
+}
+
 TEST(Databases, PagesThatNothingPointsAt_AreNotJudged) {
     Bytes larger = Build().add(database()).fill(512, 0x55);
     larger[31] = 4;

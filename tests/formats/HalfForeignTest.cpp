@@ -46,6 +46,10 @@ TEST(GifCodes, OfAnotherPicture_AreNotBelieved) {
     const Extent extent = walkBytes("GIF", overwritten(whole, kSecondBlock, kSecondBlock + 255));
     EXPECT_EQ(extent.end, whole.size());
     EXPECT_FALSE(extent.checked);
+    // As many pixels, but the first code behind the table's beginning stands for none yet.
+    Bytes ahead = whole;
+    ahead[13 + 3 * 128 + 11 + 2] = 0x90;
+    expectWholeInside("GIF", ahead, false);
 }
 
 TEST(GifCodes, ThatMakeMoreOrFewerPixels_AreForgivenOnly) {
