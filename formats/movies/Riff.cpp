@@ -199,8 +199,12 @@ void RiffWalk::chunksBehind() {
     constexpr std::array<std::string_view, 7> kTags = {"id3 ", "ID3 ", "LIST", "bext",
                                                        "iXML", "_PMX", "cue "};
     for (std::uint32_t chunks = 0; chunks < kRiffMostChunks && !isSectorStart(m_at); ++chunks) {
+        std::array<char, 4> name{};
+        if (!m_view.copyWithinSector(m_at, {reinterpret_cast<std::uint8_t*>(name.data()), name.size()}) ||
+            !isAmong(kTags, std::string_view(name.data(), name.size())))
+            return;
         const auto chunk = readChunk(m_view, m_at, m_endian);
-        if (!chunk || !isAmong(kTags, chunk->text()) || chunk->end() > m_view.size())
+        if (!chunk || chunk->end() > m_view.size())
             return;
         m_at = chunk->end();
         m_at += chunk->bytes % 2 != 0 && m_view.u8(m_at) == 0 ? 1 : 0;

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <limits>
 
 #include "Build.h"
@@ -108,6 +109,20 @@ TEST(ByteView, ReadingOn_TakesFewReadsAndHoppingLittle) {
     for (std::uint64_t at = 0; at < bytes.size(); at += 1'000'000)
         EXPECT_EQ(hopping.u8(at), 7);
     EXPECT_LE(hops.bytesRead(), 11 * 2 * ByteView::kHopBytes);
+}
+
+TEST(ByteView, ALookWithinASector_ReadsNoMoreThanThat) {
+    const Bytes bytes = noise(300'000, 1), nothing;
+    JoinedSource source(bytes, nothing);
+    ByteView view(source);
+    std::array<std::uint8_t, 4> word{};
+    EXPECT_TRUE(view.copyWithinSector(1000, word));
+    EXPECT_TRUE(std::equal(word.begin(), word.end(), bytes.begin() + 1000));
+    EXPECT_EQ(source.bytesRead(), 512U);
+    EXPECT_FALSE(view.copyWithinSector(1022, word)) << "two of them lie in the next sector";
+    EXPECT_FALSE(view.copyWithinSector(299'998, word));
+    EXPECT_TRUE(view.copyWithinSector(299'996, word)) << "the last sector is short";
+    EXPECT_FALSE(view.copyWithinSector(kMost - 1, word));
 }
 
 TEST(ByteView, UnreadablePlace_ReadsAsTheEndAndBehindItGoesOn) {
