@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
+#include <algorithm>
 
 #include "results/RecoveryMode.h"
 #include "tests/window/GatedWindow.h"
@@ -89,7 +90,8 @@ TEST(EndsLayout, BeginsAnotherLineRatherThanCuttingAButton) {
         outer->activate();
         for (const QPushButton* const button : buttons) {
             EXPECT_EQ(button->width(), button->sizeHint().width()) << width;
-            EXPECT_LE(button->geometry().right(), window.width()) << width;
+            EXPECT_LT(button->geometry().right(), window.width()) << width;
+            EXPECT_GE(button->x(), 0) << width;
         }
         EXPECT_EQ(buttons.constLast()->geometry().right() + 1, window.width());
         EXPECT_EQ(buttons.constFirst()->x(), 0);
@@ -101,6 +103,12 @@ TEST(EndsLayout, BeginsAnotherLineRatherThanCuttingAButton) {
     EXPECT_EQ(buttons[0]->y(), buttons[1]->y());
     EXPECT_EQ(buttons[2]->y(), buttons[0]->y() + buttons[0]->height() + 8);
     EXPECT_EQ(buttons[2]->y(), buttons[3]->y());
+    const int left = buttons[1]->geometry().right() + 1;
+    const int right = buttons[3]->geometry().right() + 1 - buttons[2]->x();
+    showAt(std::max(left, right));
+    EXPECT_EQ(layout->heightForWidth(std::max(left, right)), 2 * buttons[0]->height() + 8);
+    EXPECT_GT(layout->heightForWidth(std::max(left, right) - 1), 2 * buttons[0]->height() + 8)
+        << "one of the parts does not fit any more";
     showAt(layout->minimumSize().width());
     EXPECT_EQ(buttons[3]->y(), 3 * (buttons[0]->height() + 8));
     buttons[1]->hide();
