@@ -14,7 +14,7 @@ constexpr unsigned kMostFarSearches = 8;
 
 }  // namespace
 
-std::optional<PiecedMovie> MoviePieces::assemble(std::uint64_t firstCluster) {
+void MoviePieces::begin() {
     m_layout = {};
     m_samples.clear();
     m_places.clear();
@@ -22,6 +22,29 @@ std::optional<PiecedMovie> MoviePieces::assemble(std::uint64_t firstCluster) {
     m_step = 1;
     m_guessed = 0;
     m_farSearches = 0;
+}
+
+std::vector<std::uint64_t> MoviePieces::anchorsOf(std::uint64_t firstCluster) {
+    begin();
+    std::vector<std::uint64_t> anchors;
+    if (!readHead(firstCluster) || !placeAnchors()) {
+        return anchors;
+    }
+    for (const PromisedSample& sample : m_samples) {
+        const std::uint64_t cluster = m_places[static_cast<std::size_t>(sample.at / m_free.clusterBytes())];
+        if (sample.tellsLength() && cluster != kUnplaced && (anchors.empty() || anchors.back() != cluster)) {
+            anchors.push_back(cluster);
+        }
+    }
+    return anchors;
+}
+
+std::optional<PiecedMovie> MoviePieces::assemble(std::uint64_t firstCluster,
+                                                 std::span<const std::uint64_t> others) {
+    begin();
+    for (const std::uint64_t cluster : others) {
+        m_left.takeCluster(cluster);
+    }
     if (!readHead(firstCluster) || !placeSamples() || m_stop != 0) {
         return std::nullopt;
     }
@@ -35,8 +58,7 @@ std::optional<PiecedMovie> MoviePieces::assemble(std::uint64_t firstCluster) {
     movie.decodable = true;
     for (const PromisedSample& sample : m_samples) {
         if (sample.tells()) {
-            movie.decodable =
-                movie.decodable && (sample.coding == Coding::Avc || sample.coding == Coding::Hevc);
+            movie.decodable = movie.decodable && sample.coding == Coding::Avc;
             ++movie.samples;
             movie.wholeSamples += isWholeSample(view, sample) ? 1 : 0;
         }
@@ -93,7 +115,7 @@ void MoviePieces::place(std::uint64_t number, std::uint64_t cluster) {
 }
 
 bool MoviePieces::accept(std::uint64_t number, std::uint64_t cluster) {
-    if (!m_free.isFree(cluster) || m_used[static_cast<std::size_t>(cluster)] ||
+    if (!m_left.isFree(cluster) || m_used[static_cast<std::size_t>(cluster)] ||
         likeness(number, cluster) != Likeness::Certain) {
         return false;
     }
@@ -130,7 +152,7 @@ bool MoviePieces::placeAnchor(std::uint64_t number, std::uint64_t known) {
     return false;
 }
 
-bool MoviePieces::placeSamples() {
+bool MoviePieces::placeAnchors() {
     std::uint64_t known = 0;
     std::size_t missed = 0;
     for (std::uint64_t number = 1; number < m_places.size() && m_stop == 0; ++number) {
@@ -150,6 +172,13 @@ bool MoviePieces::placeSamples() {
         } else if (++missed > m_places.size() / 50 + 2) {
             return false;
         }
+    }
+    return true;
+}
+
+bool MoviePieces::placeSamples() {
+    if (!placeAnchors()) {
+        return false;
     }
     fillBetween();
     return std::find(m_places.begin(), m_places.end(), kUnplaced) == m_places.end();
