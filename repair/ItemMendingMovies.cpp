@@ -1,8 +1,24 @@
 // Movies without an index: the whole ones tell how their camera writes.
+#include "repair/AviRepair.h"
 #include "repair/ItemMending.h"
 #include "results/MediumBytes.h"
 
 namespace vantor {
+
+namespace {
+
+Mend mendOfRepaired(RepairedMovie repaired, const QString& like) {
+    Mend mend;
+    mend.kind = MendKind::Repaired;
+    mend.pictures = repaired.pictures;
+    mend.pictureSeconds = repaired.pictureSeconds;
+    mend.soundSeconds = repaired.soundSeconds;
+    mend.like = like;
+    mend.twin = std::move(repaired);
+    return mend;
+}
+
+}  // namespace
 
 bool ItemMending::useReference(ByteSource& source, const QString& name) {
     auto movie = readReference(source);
@@ -20,12 +36,14 @@ ItemSource ItemMending::sourceOf(const MendableItem& item) const {
     return source;
 }
 
-// Whole movies to the shelf; what has no index is given back. Several types may share an item.
+// Whole movies to the shelf; what has no index is given back, of AVI whatever is not whole. Several types may
+// share an item.
 std::vector<ItemMending::WithoutIndex> ItemMending::sortOut(const std::vector<MendableItem>& items) {
     std::vector<WithoutIndex> broken;
     std::set<std::uint64_t> seen;
     for (const MendableItem& item : items) {
-        const bool fresh = isMovieOfBoxes(item.type) && !item.carved.runs.empty() &&
+        const bool isAvi = isMovieOfChunks(item.type) && !item.complete;
+        const bool fresh = (isAvi || isMovieOfBoxes(item.type)) && !item.carved.runs.empty() &&
                            !m_completed.contains(item.carved.runs.front().first) &&
                            seen.insert(item.carved.runs.front().first).second;
         if (!fresh || m_stop != 0) {
@@ -33,7 +51,11 @@ std::vector<ItemMending::WithoutIndex> ItemMending::sortOut(const std::vector<Me
         }
         const ItemSource source = sourceOf(item);
         MediumBytes bytes(source, m_kept);
-        if (const auto data = dataWithoutIndex(bytes)) {
+        if (isAvi) {
+            if (isAviWithoutIndex(bytes)) {
+                broken.push_back({&item, {}});
+            }
+        } else if (const auto data = dataWithoutIndex(bytes)) {
             broken.push_back({&item, *data});
         } else if (!m_named) {
             if (auto movie = readReference(bytes)) {
@@ -72,26 +94,24 @@ bool ItemMending::repair(const WithoutIndex& broken, const Refused& refused) {
         }
         return false;
     };
+    WalkLimits limits;
+    limits.stop = &m_stop;
+    if (isMovieOfChunks(item.type)) {
+        auto repaired = repairAvi(bytes, limits);
+        return repaired && m_stop == 0 ? m_take(item, mendOfRepaired(std::move(*repaired), {}))
+                                       : refuse(Why::NoPicture);
+    }
     const ReferenceShelf::Kept* const reference =
         m_named ? m_named.get()
                 : m_shelf.choose(bytes, broken.data, item.carved.runs.front().first, m_splitter, &m_stop);
     if (reference == nullptr) {
         return refuse(Why::NoReference);
     }
-    WalkLimits limits;
-    limits.stop = &m_stop;
     auto repaired = repairMovie(bytes, broken.data, reference->movie, m_splitter, limits);
     if (!repaired || m_stop != 0) {
         return refuse(Why::NoPicture);
     }
-    Mend mend;
-    mend.kind = MendKind::Repaired;
-    mend.pictures = repaired->pictures;
-    mend.pictureSeconds = repaired->pictureSeconds;
-    mend.soundSeconds = repaired->soundSeconds;
-    mend.like = reference->name;
-    mend.twin = std::move(*repaired);
-    return m_take(item, std::move(mend));
+    return m_take(item, mendOfRepaired(std::move(*repaired), reference->name));
 }
 
 }  // namespace vantor

@@ -10,6 +10,7 @@ namespace vantor {
 namespace {
 
 constexpr std::uint64_t kNear = 4096;  // clusters
+constexpr std::uint64_t kVeryNear = 64;
 constexpr unsigned kMostFarSearches = 8;
 
 }  // namespace
@@ -31,8 +32,10 @@ std::vector<std::uint64_t> MoviePieces::anchorsOf(std::uint64_t firstCluster) {
         return anchors;
     }
     for (const PromisedSample& sample : m_samples) {
-        const std::uint64_t cluster = m_places[static_cast<std::size_t>(sample.at / m_free.clusterBytes())];
-        if (sample.tellsLength() && cluster != kUnplaced && (anchors.empty() || anchors.back() != cluster)) {
+        const std::uint64_t number = sample.at / m_free.clusterBytes();
+        const std::uint64_t cluster = m_places[static_cast<std::size_t>(number)];
+        if (sample.tellsLength() && cluster != kUnplaced && (anchors.empty() || anchors.back() != cluster) &&
+            likeness(number, cluster) == Likeness::Certain) {
             anchors.push_back(cluster);
         }
     }
@@ -104,7 +107,7 @@ Likeness MoviePieces::likeness(std::uint64_t number, std::uint64_t cluster) {
         if (one == Likeness::Contradicted) {
             return one;
         }
-        all = one == Likeness::Certain ? one : all;
+        all = one == Likeness::Likely && all == one ? Likeness::Certain : std::max(all, one);
     }
     return all;
 }
@@ -114,9 +117,10 @@ void MoviePieces::place(std::uint64_t number, std::uint64_t cluster) {
     m_used[static_cast<std::size_t>(cluster)] = true;
 }
 
-bool MoviePieces::accept(std::uint64_t number, std::uint64_t cluster) {
+// `least`: of the likeness.
+bool MoviePieces::accept(std::uint64_t number, std::uint64_t cluster, Likeness least) {
     if (!m_left.isFree(cluster) || m_used[static_cast<std::size_t>(cluster)] ||
-        likeness(number, cluster) != Likeness::Certain) {
+        likeness(number, cluster) < least) {
         return false;
     }
     place(number, cluster);
@@ -128,12 +132,12 @@ bool MoviePieces::placeAnchor(std::uint64_t number, std::uint64_t known) {
     const std::uint64_t last = m_places[static_cast<std::size_t>(known)];
     const std::uint64_t apart = number - known;
     const auto expected = m_free.ahead(last, m_step * apart);
-    if (expected && accept(number, *expected)) {
+    if (expected && accept(number, *expected, Likeness::Likely)) {
         return true;
     }
     std::optional<std::uint64_t> next = last;
     for (std::uint64_t steps = 1; steps <= kNear && (next = m_free.ahead(*next, 1)); ++steps) {
-        if (accept(number, *next)) {
+        if (accept(number, *next, steps <= kVeryNear ? Likeness::Likely : Likeness::Certain)) {
             if (steps % apart == 0) {
                 m_step = steps / apart;
             }
@@ -144,7 +148,7 @@ bool MoviePieces::placeAnchor(std::uint64_t number, std::uint64_t known) {
         return false;
     }
     for (std::uint64_t cluster = 0; cluster < m_free.count() && m_stop == 0; ++cluster) {
-        if (accept(number, cluster)) {
+        if (accept(number, cluster, Likeness::Certain)) {
             m_step = 1;
             return true;
         }

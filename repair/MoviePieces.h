@@ -67,7 +67,7 @@ class MoviePieces {
     bool isTelling() const;
     Likeness likeness(std::uint64_t number, std::uint64_t cluster);
     bool placeAnchor(std::uint64_t number, std::uint64_t known);
-    bool accept(std::uint64_t number, std::uint64_t cluster);
+    bool accept(std::uint64_t number, std::uint64_t cluster, Likeness least);
     void place(std::uint64_t number, std::uint64_t cluster);
     void fillBetween();
     void passOverPhotos(std::uint64_t before, std::uint64_t end);

@@ -40,6 +40,7 @@ std::optional<std::vector<PromisedSample>> promisedChunks(ByteSource& file, cons
 enum class Likeness {
     Contradicted,  // not the sample
     Possible,      // nothing that could be checked
+    Likely,        // chance does it once in tens of thousands
     Certain,       // chance is out of the question
 };
 // Whether the sample may begin with these bytes; all of it is not needed.
