@@ -53,10 +53,12 @@ std::vector<ItemMending::WithoutIndex> ItemMending::sortOut(const std::vector<Me
         MediumBytes bytes(source, m_kept);
         if (isAvi) {
             if (isAviWithoutIndex(bytes)) {
-                broken.push_back({&item, {}});
+                broken.push_back({&item, {}, true});
             }
         } else if (const auto data = dataWithoutIndex(bytes)) {
-            broken.push_back({&item, *data});
+            broken.push_back({&item, *data, false});
+        } else if (const auto cut = item.complete ? std::nullopt : dataBehindIndex(bytes)) {
+            broken.push_back({&item, *cut, true});
         } else if (!m_named) {
             if (auto movie = readReference(bytes)) {
                 m_shelf.add({item.name, item.carved.runs.front().first, std::move(*movie)});
@@ -84,6 +86,17 @@ ItemMending::RepairSum ItemMending::repairMovies(const std::vector<MendableItem>
     return sum;
 }
 
+// AVI movies, and those that were cut off behind their own index. That may be of an earlier movie: then
+// nothing stands where it says.
+std::optional<RepairedMovie> ItemMending::repairByItself(const WithoutIndex& broken, ByteSource& bytes,
+                                                         const WalkLimits& limits) {
+    if (isMovieOfChunks(broken.item->type)) {
+        return repairAvi(bytes, limits);
+    }
+    const auto guide = broken.ownGuide ? readReference(bytes) : std::nullopt;
+    return guide ? repairMovie(bytes, broken.data, *guide, m_splitter, limits) : std::nullopt;
+}
+
 bool ItemMending::repair(const WithoutIndex& broken, const Refused& refused) {
     const MendableItem& item = *broken.item;
     const ItemSource source = sourceOf(item);
@@ -96,10 +109,11 @@ bool ItemMending::repair(const WithoutIndex& broken, const Refused& refused) {
     };
     WalkLimits limits;
     limits.stop = &m_stop;
+    if (auto repaired = repairByItself(broken, bytes, limits); repaired && m_stop == 0) {
+        return m_take(item, mendOfRepaired(std::move(*repaired), item.name));
+    }
     if (isMovieOfChunks(item.type)) {
-        auto repaired = repairAvi(bytes, limits);
-        return repaired && m_stop == 0 ? m_take(item, mendOfRepaired(std::move(*repaired), {}))
-                                       : refuse(Why::NoPicture);
+        return refuse(Why::NoPicture);
     }
     const ReferenceShelf::Kept* const reference =
         m_named ? m_named.get()
