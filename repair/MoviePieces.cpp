@@ -33,6 +33,9 @@ std::vector<std::uint64_t> MoviePieces::anchorsOf(std::uint64_t firstCluster) {
     }
     for (const PromisedSample& sample : m_samples) {
         const std::uint64_t number = sample.at / m_free.clusterBytes();
+        if (number >= m_places.size()) {
+            break;  // an empty one behind the last byte
+        }
         const std::uint64_t cluster = m_places[static_cast<std::size_t>(number)];
         if (sample.tellsLength() && cluster != kUnplaced && (anchors.empty() || anchors.back() != cluster) &&
             likeness(number, cluster) == Likeness::Certain) {
