@@ -191,7 +191,9 @@ TEST(MovieCompletion, UnevenTurns_AreToldApartByTheOthersSamples) {
     std::vector<test::PictureSpec> specs = picturesOfManySizes(100, 1);
     specs[20].bytes = 8 * static_cast<int>(kMovieClusterBytes);
     const MadeMovie one = makeMovie(specs, false, 1);
-    const MadeMovie other = makeMovie(picturesOfManySizes(120, 2), false, 2);
+    std::vector<test::PictureSpec> otherSpecs = picturesOfManySizes(120, 2);
+    otherSpecs[80].bytes = specs[20].bytes;
+    const MadeMovie other = makeMovie(otherSpecs, false, 2);
     std::vector<int> places[2];
     const int counts[2] = {movieClustersOf(one.bytes), movieClustersOf(other.bytes)};
     std::mt19937 random(3);
