@@ -4,6 +4,7 @@
 
 #include "filesystem/CleanName.h"
 #include "filesystem/ClusterVolume.h"
+#include "filesystem/FirstLetters.h"
 
 namespace vantor {
 
@@ -51,7 +52,8 @@ void ClusterVolume::joinParts() {
 void ClusterVolume::linkLost() {
     for (std::size_t at = 0; at < m_directories.size(); ++at) {
         for (const DirectoryEntry& entry : m_directories[at].rows.entries) {
-            const auto known = entry.isFolder ? m_byCluster.find(entry.cluster) : m_byCluster.end();
+            const bool leads = entry.isFolder && m_directories[at].hasClusters;
+            const auto known = leads ? m_byCluster.find(entry.cluster) : m_byCluster.end();
             if (known == m_byCluster.end() || known->second == at) {
                 continue;
             }
@@ -61,6 +63,7 @@ void ClusterVolume::linkLost() {
             if (!child.isRoot && !child.isNamed && !disagrees) {
                 child.parent = at;
                 child.name = cleanName(entry.name);
+                child.nameIsWhole = entry.nameIsWhole;
                 child.isNamed = true;
             }
         }
@@ -80,6 +83,7 @@ void ClusterVolume::linkLost() {
         }
     }
     nameFromStandard();
+    restoreFirstLetters();
 }
 
 // The standard of cameras (DCF) names the folder that holds theirs: three digits and five characters.
@@ -95,6 +99,33 @@ void ClusterVolume::nameFromStandard() {
             })) {
             directory.name = QStringLiteral("DCIM");
             directory.isNamed = true;
+        }
+    }
+}
+
+void ClusterVolume::restoreFirstLetters() {
+    FirstLetters letters;
+    for (std::size_t at = 0; at < m_directories.size(); ++at) {
+        for (const DirectoryEntry& entry : m_directories[at].rows.entries) {
+            if (entry.nameIsWhole) {
+                letters.learn(entry.name, at);
+            }
+        }
+    }
+    const auto restore = [&](QString& name, std::size_t folder) {
+        if (const auto letter = letters.of(name, folder)) {
+            name.front() = *letter;
+        }
+    };
+    for (std::size_t at = 0; at < m_directories.size(); ++at) {
+        CardDirectory& directory = m_directories[at];
+        if (!directory.nameIsWhole && directory.parent) {
+            restore(directory.name, *directory.parent);
+        }
+        for (DirectoryEntry& entry : directory.rows.entries) {
+            if (!entry.nameIsWhole) {
+                restore(entry.name, at);
+            }
         }
     }
 }

@@ -5,6 +5,7 @@
 
 #include "filesystem/CleanName.h"
 #include "filesystem/ClusterVote.h"
+#include "filesystem/FirstLetters.h"
 #include "filesystem/PartitionTable.h"
 #include "tests/filesystem/CardImage.h"
 
@@ -32,6 +33,13 @@ TEST(ClusterVote, TruthAmongStraySightings_Wins) {
             sightings.push_back({cluster, random() % 5'000'000});
         }
     }
+    // One that says the same wrong thing again and again, and half of them that agree on another place.
+    for (int again = 0; again < 100; ++again) {
+        sightings.push_back({100, 8193});
+    }
+    for (std::uint32_t i = 0; i < 10; ++i) {
+        sightings.push_back({100 + i * i, 9000 + std::uint64_t{98 + i * i} * 64});
+    }
     const auto places = voteForClusters(sightings, 3, Sightings::Possible);
     ASSERT_TRUE(places);
     EXPECT_EQ(places->clusterSectors, 64u);
@@ -57,6 +65,42 @@ TEST(ClusterVote, FilesOfOneLengthInARow_AreNotTakenForTheNextOnes) {
         }
     }
     EXPECT_FALSE(voteForClusters(sightings, 3, Sightings::Possible));
+}
+
+TEST(FirstLetters, NamesOfTheSameSeriesTellIt) {
+    FirstLetters letters;
+    letters.learn("MVC-012F.JPG", 1);
+    letters.learn("B0000001.BMP", 1);
+    letters.learn("C0000001.BMP", 2);
+    letters.learn("README1", 3);
+    EXPECT_EQ(letters.of("_VC-013F.JPG", 1), QChar(u'M'));
+    EXPECT_EQ(letters.of("_VC-013F.JPG", 9), QChar(u'M'));
+    EXPECT_EQ(letters.of("_vc-013f.jpg", 1), QChar(u'm'));
+    EXPECT_EQ(letters.of("_0000007.BMP", 1), QChar(u'B'));
+    EXPECT_EQ(letters.of("_0000007.BMP", 2), QChar(u'C'));
+    EXPECT_EQ(letters.of("_0000007.BMP", 9), std::nullopt);
+    EXPECT_EQ(letters.of("_0000007.JPG", 1), std::nullopt);
+    EXPECT_EQ(letters.of("_EADME2", 3), QChar(u'R'));
+    EXPECT_EQ(letters.of("_EADME", 3), std::nullopt);
+    EXPECT_EQ(letters.of("_OTE1.TXT", 3), std::nullopt);
+}
+
+TEST(FirstLetters, StandardsTellItWhereNoOtherNameDoes) {
+    FirstLetters letters;
+    EXPECT_EQ(letters.of("_MG_0412.JPG", 1), QChar(u'I'));
+    EXPECT_EQ(letters.of("_SC01234.ARW", 1), QChar(u'D'));
+    EXPECT_EQ(letters.of("_VI_0001.MOV", 1), QChar(u'M'));
+    EXPECT_EQ(letters.of("_00CANON", 1), QChar(u'1'));
+    EXPECT_EQ(letters.of("_CIM", 1), QChar(u'D'));
+    EXPECT_EQ(letters.of("_0001.MTS", 1), QChar(u'0'));
+    EXPECT_EQ(letters.of("_OTES.TXT", 1), std::nullopt);
+    // Photos with more colours begin with the very sign.
+    letters.learn("_MG_0411.JPG", 1);
+    EXPECT_EQ(letters.of("_MG_0412.JPG", 1), QChar(u'_'));
+    letters.learn("IMG_0410.JPG", 1);
+    EXPECT_EQ(letters.of("_MG_0412.JPG", 1), std::nullopt);
+    letters.learn("200CANON", 2);
+    EXPECT_EQ(letters.of("_00CANON", 1), QChar(u'2'));
 }
 
 Bytes partitionRow(std::uint8_t type, std::uint32_t first, std::uint32_t sectors) {
