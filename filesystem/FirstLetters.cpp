@@ -25,6 +25,10 @@ QString seriesOf(const QString& name) {
     return rest;
 }
 
+bool saysMoreThanNumbers(const QString& series) {
+    return !series.section(u'.', 0, 0).remove(u'0').isEmpty();
+}
+
 // Names that the standards prescribe, and beginnings of names that all cameras of a maker write.
 std::optional<QChar> standardLetterOf(const QString& name) {
     static const QStringList wholeNames{
@@ -36,7 +40,7 @@ std::optional<QChar> standardLetterOf(const QString& name) {
     static const QRegularExpression camera(QStringLiteral(
         "^_(?:(?<I>MG_|MGP)|(?<D>SC_|SC[0-9]|SCN|SCF)|(?<M>VI_)|(?<G>OPR))[0-9]{4}\\.[A-Z0-9]{3}$"));
     static const QRegularExpression numbered(
-        QStringLiteral("^_(?:(?<one>00[A-Z0-9_]{5})|(?<nought>[0-9]{4}\\.(?:MTS|CPI|MPL)))$"));
+        QStringLiteral("^_(?:(?<one>[0-9]{2}[A-Z0-9_]{5})|(?<nought>[0-9]{4}\\.(?:MTS|CPI|MPL)))$"));
     for (const QString& whole : wholeNames) {
         if (whole.size() == name.size() && whole.endsWith(name.mid(1))) {
             return whole.front();
@@ -48,7 +52,8 @@ std::optional<QChar> standardLetterOf(const QString& name) {
             return letter;
         }
     }
-    // A card's folders are numbered from 100 on, its streams from 0 on.
+    // A card's folders are numbered from 100 on, its streams from 0 on, and few get as far as to the next
+    // digit.
     const QRegularExpressionMatch number = numbered.match(name);
     if (!number.hasMatch()) {
         return std::nullopt;
@@ -70,6 +75,7 @@ void FirstLetters::learn(const QString& name, std::size_t folder) {
     if (!series.isEmpty()) {
         note(m_onCard, series, name.front().toUpper());
         note(m_inFolder, {folder, series}, name.front().toUpper());
+        m_taken.insert({folder, name.toUpper()});
     }
 }
 
@@ -79,12 +85,14 @@ std::optional<QChar> FirstLetters::of(const QString& name, std::size_t folder) c
     std::optional<QChar> letter;
     if (told != m_inFolder.constEnd()) {
         letter = *told;
-    } else if (const auto onCard = m_onCard.constFind(series); onCard != m_onCard.constEnd()) {
+    } else if (const auto onCard = m_onCard.constFind(series);
+               onCard != m_onCard.constEnd() && saysMoreThanNumbers(series)) {
         letter = *onCard;
     } else {
         letter = standardLetterOf(name.toUpper());
     }
-    if (!letter || letter->isNull()) {
+    // Where another has the name, this one may be of another series.
+    if (!letter || letter->isNull() || m_taken.contains({folder, *letter + name.mid(1).toUpper()})) {
         return std::nullopt;
     }
     const bool isSmall = name != name.toUpper() && name == name.toLower();

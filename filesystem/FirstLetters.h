@@ -3,6 +3,7 @@
 
 #include <QChar>
 #include <QHash>
+#include <QSet>
 #include <QString>
 #include <cstddef>
 #include <optional>
@@ -25,6 +26,7 @@ class FirstLetters {
     // A null character: of several.
     QHash<QString, QChar> m_onCard;
     QHash<std::pair<std::size_t, QString>, QChar> m_inFolder;
+    QSet<std::pair<std::size_t, QString>> m_taken;
 };
 
 }  // namespace vantor
