@@ -125,10 +125,14 @@ bool ClusterVolume::beginsOtherwise(std::uint32_t cluster, const DirectoryEntry&
 // Whether a file of that name may begin there: one was found, or what lies there does not rule it out.
 bool ClusterVolume::mayBegin(std::uint32_t cluster, const DirectoryEntry& entry, const FoundStarts& found) {
     const std::uint64_t place = m_shape.sectorOf(cluster);
+    const bool isOwn = cluster == entry.cluster;
+    if (!isOwn && m_live[cluster - m_shape.firstNumber()]) {
+        return false;  // what begins there is another's
+    }
     if (found.isAt(place, entry.name)) {
         return true;
     }
-    const bool wouldBeFound = cluster != entry.cluster && !found.ofKind(entry.name, 1).empty();
+    const bool wouldBeFound = !isOwn && !found.ofKind(entry.name, 1).empty();
     std::array<std::uint8_t, 512> sector;
     if (wouldBeFound || m_halfLooksLeft == 0 || found.isAnyAt(place)) {
         return false;

@@ -270,6 +270,18 @@ TEST(Fat32Card, ClearedUpperHalf_IsNotGuessedBetweenTwo) {
     EXPECT_TRUE(fileNamed(other, "IMG_0002.JPG").runs.empty());
 }
 
+TEST(Fat32Card, ClearedUpperHalf_IsNotWhereAFileIsThere) {
+    const FatPlaces fat = manyClusters();
+    MemoryCard card(fat.end());
+    formatFat(card, fat);
+    putBytes(card, fat.sectorOf(2),
+             fatRow("IMG_0001JPG", 70000, 3000) + deletedFat(fatRow("IMG_0002JPG", 4464, 3000)));
+    chainFat(card, fat, {70000, 70001, 70002, 70003, 70004, 70005});
+    const CardTable table = tableOf(card, {{fat.sectorOf(70000), "JPG"}, {fat.sectorOf(4464), "JPG"}});
+    EXPECT_EQ(fileNamed(table, "IMG_0002.JPG").runs,
+              (std::vector<SectorRun>{{fat.sectorOf(4464), fat.sectorOf(4470)}}));
+}
+
 // A text begins in no way of its own: it may lie wherever anything does.
 TEST(Fat32Card, ClearedUpperHalf_OfATextIsWhereAloneSomethingLies) {
     const FatPlaces fat = manyClusters();
