@@ -61,6 +61,8 @@ DirectoryRows ClusterVolume::rowsOf(std::span<const std::uint8_t> bytes) const {
 
 void ClusterVolume::append(CardDirectory directory, const std::vector<std::uint8_t>& bytes) {
     directory.rows = rowsOf(bytes);
+    // No other directory has the rows of exFAT's own files.
+    directory.isRoot = directory.isRoot || !directory.rows.ownFiles.empty();
     if (!directory.rows.ended && directory.state != FileState::Live) {
         const std::size_t tail = std::min(bytes.size(), kMostRowsOfEntry * kRowBytes);
         directory.openEnd.assign(bytes.end() - static_cast<std::ptrdiff_t>(tail), bytes.end());

@@ -167,6 +167,29 @@ TEST_F(ExfatCard, DeletedFolderInPieces_IsOneByItsChain) {
     }
 }
 
+// Another file system lies there now, which left the old root alone.
+TEST_F(ExfatCard, RootOfAFormerFileSystem_IsKnownByItsOwnFiles) {
+    Bytes bitmap(32);
+    bitmap[0] = 0x81;
+    put(bitmap, 20, 2, 4);
+    put(bitmap, 24, 250, 8);
+    putRoot(bitmap + exfatSet({"DCIM", 10, 4096, true, true}));
+    Bytes rows;
+    std::vector<FoundStart> found;
+    for (std::uint32_t i = 0; i < 8; ++i) {
+        rows = rows + exfatSet({QString("IMG_%1.JPG").arg(i), 20 + i * i + 3 * i, 9000});
+        found.push_back({m_exfat.sectorOf(20 + i * i + 3 * i), "jpg"});
+    }
+    putPhotos(rows);
+    std::fill(m_card.bytes.begin(),
+              m_card.bytes.begin() + static_cast<std::ptrdiff_t>(m_exfat.firstCluster() * 512), 0);
+    const CardTable table = tableOf(m_card, found);
+    ASSERT_EQ(table.files.size(), 8u);
+    for (const CardFile& file : table.files) {
+        EXPECT_EQ(file.folder, "DCIM/100CANON");
+    }
+}
+
 // Nothing lies where the present clusters would put it.
 TEST_F(ExfatCard, RowsOfAFileSystemThatNobodyKnows_TellNamesAndNoPlaces) {
     putBytes(m_card, m_exfat.sectorOf(200),
