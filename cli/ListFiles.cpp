@@ -105,6 +105,9 @@ int listFiles(const CliMedium& medium, const StopRequest& stop) {
         complain(QObject::tr("The medium cannot be opened."));
         return kExitCannotOpen;
     }
+    if (medium.sectors == 0) {
+        return kExitReadError;  // which was told when it was looked for
+    }
     CardCollector collector;
     bool allRead = true;
     for (std::uint64_t sector = 0; sector < medium.sectors && !stop(); ++sector) {

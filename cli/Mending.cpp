@@ -1,5 +1,6 @@
 // What is broken among what was saved: completed and repaired behind the search, beside the items.
 #include <QFile>
+#include <QFileInfo>
 #include <QObject>
 
 #include "cli/CliSession.h"
@@ -147,7 +148,7 @@ void CliSession::repairItems(ItemMending& mending, const std::vector<MendableIte
 bool CliSession::useReference(ItemMending& mending) {
     const QString& path = m_options.reference;
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
         m_mendingLines.append(QObject::tr("The movie %1 cannot be read.").arg(path));
         return false;
     }

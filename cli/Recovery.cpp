@@ -200,6 +200,30 @@ MediumOpener openerAfterALook(const CliMedium& medium, const MediumOpener& open)
     };
 }
 
+// A pipe would be waited for, and a device has no end.
+bool canBeRead(const QString& path) {
+    const QFileInfo file(path);
+    return file.isFile() && file.isReadable();
+}
+
+// Says why no search can be kept in the file.
+bool sessionFileRefused(const CliOptions& options, const QString& mediumPath) {
+    const QString& path = options.sessionFile;
+    const QFileInfo folder(QFileInfo(path).absolutePath());
+    QString why;
+    if (destinationIsOnMedium(folder.filePath(), mediumPath)) {
+        complain(QObject::tr("%1 lies on the medium that is to be searched.").arg(path));
+    } else if (!folder.isDir() || !folder.isWritable()) {
+        complain(QObject::tr("The folder %1 cannot be written to.").arg(folder.filePath()));
+    } else if (!options.resume && QFileInfo::exists(path) && !readSearchRecord(path, &why)) {
+        // Whatever else lies there stays, above all a medium's image.
+        complain(QStringLiteral("%1: %2").arg(path, why));
+    } else {
+        return false;
+    }
+    return true;
+}
+
 }  // namespace
 
 int recover(CliOptions options) {
@@ -258,6 +282,13 @@ int recover(CliOptions options) {
         return kExitDestinationTrouble;
     }
     session.setDestination(options.saveFolder);
+    if (!options.reference.isEmpty() && !canBeRead(options.reference)) {
+        complain(QObject::tr("The movie %1 cannot be read.").arg(options.reference));
+        return kExitBadUsage;
+    }
+    if (!options.sessionFile.isEmpty() && sessionFileRefused(options, medium.path)) {
+        return kExitDestinationTrouble;
+    }
     std::shared_ptr<MediumCopy> copy;
     if (!options.image.isEmpty() && !(copy = beginCopy(options, medium))) {
         return kExitDestinationTrouble;
@@ -268,17 +299,6 @@ int recover(CliOptions options) {
     const auto refused = copy || options.retryBad ? ScanSession::RefusedSectorsAre::AskedForAgain
                                                   : ScanSession::RefusedSectorsAre::KnownToAll;
     session.setMediumOpener(open, refused);
-    if (!options.sessionFile.isEmpty() &&
-        destinationIsOnMedium(QFileInfo(options.sessionFile).absolutePath(), medium.path)) {
-        complain(QObject::tr("%1 lies on the medium that is to be searched.").arg(options.sessionFile));
-        return kExitDestinationTrouble;
-    }
-    // Whatever else lies there stays, above all a medium's image.
-    if (!options.sessionFile.isEmpty() && !options.resume && QFileInfo::exists(options.sessionFile) &&
-        !readSearchRecord(options.sessionFile, &why)) {
-        complain(QStringLiteral("%1: %2").arg(options.sessionFile, why));
-        return kExitDestinationTrouble;
-    }
     std::shared_ptr<SearchKeeper> keeper;
     runBesideEvents([&] { keeper = keeperFor(options, session, medium, kept, &why); });
     if (!why.isEmpty()) {

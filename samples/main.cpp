@@ -3,18 +3,33 @@
 #include <QGuiApplication>
 #include <QSaveFile>
 #include <cstdio>
+#include <optional>
 #include <stdexcept>
 
 #include "samples/Card.h"
 
 namespace {
 
-// Leaves nothing behind when the file cannot be written whole.
-void write(const QString& path, const QByteArray& bytes) {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        throw std::runtime_error((path + ": " + file.errorString()).toStdString());
-}
+// Opened before the card is made, which takes some seconds; leaves nothing behind when it cannot be written
+// whole.
+class Output {
+  public:
+    explicit Output(const QString& path) : m_file(path) {
+        if (!m_file.open(QIODevice::WriteOnly))
+            refuse();
+    }
+    void write(const QByteArray& bytes) {
+        if (m_file.write(bytes) != bytes.size() || !m_file.commit())
+            refuse();
+    }
+
+  private:
+    [[noreturn]] void refuse() const {
+        throw std::runtime_error((m_file.fileName() + ": " + m_file.errorString()).toStdString());
+    }
+
+    QSaveFile m_file;
+};
 
 }  // namespace
 
@@ -29,11 +44,15 @@ int main(int argc, char* argv[]) {
         return 2;
     }
     try {
+        Output image(parser.positionalArguments().at(0));
+        std::optional<Output> list;
+        if (parser.isSet("list"))
+            list.emplace(parser.value("list"));
         const vantor::samples::SampleCard card =
             vantor::samples::buildSampleCard(vantor::samples::cardContents());
-        if (parser.isSet("list"))
-            write(parser.value("list"), card.list);
-        write(parser.positionalArguments().at(0), card.image);
+        if (list)
+            list->write(card.list);
+        image.write(card.image);
     } catch (const std::runtime_error& error) {
         std::fprintf(stderr, "vantor-sample-card: %s\n", error.what());
         return 1;

@@ -3,6 +3,7 @@
 
 #include <QCryptographicHash>
 #include <QFile>
+#include <QFileInfo>
 #include <QObject>
 #include <algorithm>
 #include <utility>
@@ -258,6 +259,13 @@ std::optional<SearchRecord> uncheckedRecordOf(QByteArrayView body) {
 
 std::optional<SearchRecord> readSearchRecord(const QString& path, QString* why) {
     QFile file(path);
+    // A pipe would be waited for, and a device has no end.
+    if (QFileInfo::exists(path) && !QFileInfo(path).isFile()) {
+        if (why != nullptr) {
+            *why = QObject::tr("it is no file");
+        }
+        return std::nullopt;
+    }
     if (!file.open(QIODevice::ReadOnly)) {
         if (why != nullptr) {
             *why = file.errorString();

@@ -138,6 +138,7 @@ TEST(Command, EmptyImageIsAReadError) {
     const CommandRun run = runCommand({empty.fileName()});
     EXPECT_EQ(run.exitCode, 4);
     EXPECT_TRUE(run.err.contains(("“" + empty.fileName() + "” is empty").toUtf8())) << run.err.constData();
+    EXPECT_EQ(runCommand({"--list-files", empty.fileName()}).exitCode, 4);
 }
 
 TEST(Command, DestinationThatCannotBeMade) {

@@ -1,5 +1,6 @@
 // Searches that are kept in a file: gone on with, and refused where the file or the medium is another.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QDir>
 #include <QFile>
@@ -136,9 +137,23 @@ TEST_F(KeptSearch, WhatToSearchFor_StandsInTheFile) {
 }
 
 TEST_F(KeptSearch, AFileThatCannotBeWritten_IsTold) {
-    const CommandRun keeping = run({"--session", folder.filePath("no/such/folder"), image});
+    const CommandRun keeping = run({"--session", folder.filePath(QString(300, 'x')), image});
     EXPECT_EQ(keeping.exitCode, 0);
     EXPECT_TRUE(keeping.err.contains("could not be kept")) << keeping.err.toStdString();
+    const CommandRun nowhere = run({"--session", folder.filePath("no/such/folder"), image});
+    EXPECT_EQ(nowhere.exitCode, 6) << "what is asked for is known to fail";
+    EXPECT_TRUE(nowhere.err.contains("cannot be written to")) << nowhere.err.toStdString();
+    EXPECT_TRUE(nowhere.out.isEmpty());
+}
+
+TEST_F(KeptSearch, AFileThatIsAPipe_IsNotWaitedFor) {
+    const QString pipe = folder.filePath("pipe");
+    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    for (const QStringList& use : {QStringList{"--session", pipe, image}, QStringList{"--resume", pipe}}) {
+        const CommandRun refused = run(use);
+        EXPECT_NE(refused.exitCode, 0);
+        EXPECT_TRUE(refused.err.contains("it is no file")) << refused.err.toStdString();
+    }
 }
 
 }  // namespace vantor

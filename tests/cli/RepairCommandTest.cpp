@@ -1,5 +1,6 @@
 // Movies without an index, repaired by the command.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -56,6 +57,20 @@ TEST(RepairCommand, ReferenceThatIsNone_IsRefused) {
                     folder.filePath("text"), folder.filePath("card.img")});
     EXPECT_EQ(run.exitCode, 6);
     EXPECT_TRUE(run.out.contains("is no whole MP4")) << run.out.constData();
+}
+
+TEST(RepairCommand, ReferenceThatCannotBeRead_IsToldBeforeTheSearch) {
+    const QTemporaryDir folder;
+    writeFile(folder.filePath("card.img"), QByteArray(64 * 512, '\0'));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(folder.filePath("pipe")).constData(), 0600), 0);
+    for (const char* const name : {"nowhere", "pipe", "."}) {
+        const CommandRun run =
+            runCommand({"--mode", "video", "--save", folder.filePath("saved"), "--repair-movies",
+                        "--reference", folder.filePath(name), folder.filePath("card.img")});
+        EXPECT_EQ(run.exitCode, 2) << name;
+        EXPECT_TRUE(run.err.contains("cannot be read")) << run.err.constData();
+        EXPECT_TRUE(run.out.isEmpty()) << run.out.constData();
+    }
 }
 
 }  // namespace vantor
