@@ -10,23 +10,39 @@ namespace vantor {
 
 namespace {
 
-// Types whose names the MIME database does not know or files under something else.
+// Types whose names the MIME database does not know or files under something else, one list a kind.
 FileKind kindByName(const QString& extension) {
-    static const QHash<QString, FileKind> kinds = {
-        {QStringLiteral("mts"), FileKind::Video},     {QStringLiteral("m2ts"), FileKind::Video},
-        {QStringLiteral("ts"), FileKind::Video},      {QStringLiteral("3gp"), FileKind::Video},
-        {QStringLiteral("mod"), FileKind::Video},     {QStringLiteral("vob"), FileKind::Video},
-        {QStringLiteral("rm"), FileKind::Video},      {QStringLiteral("swf"), FileKind::Video},
-        {QStringLiteral("ps"), FileKind::Document},   {QStringLiteral("eps"), FileKind::Document},
-        {QStringLiteral("cr3"), FileKind::Picture},   {QStringLiteral("crw"), FileKind::Picture},
-        {QStringLiteral("raf"), FileKind::Picture},   {QStringLiteral("x3f"), FileKind::Picture},
-        {QStringLiteral("psd"), FileKind::Picture},   {QStringLiteral("heic"), FileKind::Picture},
-        {QStringLiteral("caf"), FileKind::Sound},     {QStringLiteral("ape"), FileKind::Sound},
-        {QStringLiteral("jar"), FileKind::Archive},   {QStringLiteral("cab"), FileKind::Archive},
-        {QStringLiteral("dmg"), FileKind::Archive},   {QStringLiteral("iso"), FileKind::Archive},
-        {QStringLiteral("pst"), FileKind::Document},  {QStringLiteral("chm"), FileKind::Document},
-        {QStringLiteral("djvu"), FileKind::Document}, {QStringLiteral("mobi"), FileKind::Document},
-    };
+    static const QHash<QString, FileKind> kinds = [] {
+        QHash<QString, FileKind> all;
+        const auto add = [&all](FileKind kind, const char* extensions) {
+            for (const QByteArray& each : QByteArray(extensions).split(' ')) {
+                all.insert(QString::fromLatin1(each), kind);
+            }
+        };
+        add(FileKind::Picture,
+            "apng ari aseprite avci bpg cin cr3 crw dcx dpx fits flif fpx gpr hdr heic heif "
+            "iiq jb2 jpx jxr lfp miff ntf pam pdn pfm psb psd psp qoi raf x3f");
+        add(FileKind::Video,
+            "3gp 4xm amv anm cine cpk dav dvb dxa gxf h264 h265 hik ivf lxf m2ts m2v m4e "
+            "mod mts mve mxf nut pmp psmf r3d rm roq swf thp ts vob wtv y4m");
+        add(FileKind::Sound,
+            "8svx ape bnk brstm caf ds2 dss fsb hca m4p mlp mmf msv nsf ofr okt oma pvf qcp "
+            "rf64 rmi shn spc sph tak vgm vqf w64");
+        add(FileKind::Archive,
+            "ab ace aff alz apk arc bam cab chd crx cso daa deb dmg e01 egg hdd hqx imd img "
+            "ipa iso jar kgb lrz lz lz4 lzo mar mdf mds par par2 qcow2 rpm rvz rz shar simg "
+            "sitx sparseimage sqx sz szdd uu vdi vhd vhdx vmdk warc wbfs wia wim xar zoo "
+            "zpaq");
+        add(FileKind::Document,
+            "123 accdb ai amf asice aspx asx bas bat bib ccd chm csproj db dbx djvu drawio "
+            "dvi edb enex enw eps fcpxml fdx fm fp7 frm gpkg graphml hlp hwp idml idx indd "
+            "inf ini jmx jsp kdb kdbx kdenlive key kfx kra lit lrf lwp mbx mdb mht mif mny "
+            "mobi mpd msf msg musicxml mzml nk2 nmea numbers ofx one onetoc2 osm ost p7m "
+            "pages pbxproj pdb pem plist pls ppd ppk ps pst qgs qif qrc qxd ris sam sbml "
+            "sln snb sqlite sxc sxd sxi sxm sxw tcx tnef torrent ttml vbp vnt vsd vsdx wab "
+            "wk1 wk3 wk4 wpd wpl wri x3d xd xmp");
+        return all;
+    }();
     return kinds.value(extension.toLower(), FileKind::Other);
 }
 

@@ -32,8 +32,10 @@ struct CardFile {
     // As on the card, parts joined by '/'; without one at either end; "" for the root. A folder whose own
     // name is gone is "folder-" and the number of the cluster that it began in.
     QString folder;
-    QString name;             // with its extension; "" when only the place is known
-    bool nameIsWhole = true;  // false where the first letter was lost with the deletion ('_' stands for it)
+    QString name;  // with its extension; "" when only the place is known
+    // false where the first letter was lost with the deletion: '_' stands for it, or the letter that the
+    // names of other files, or a standard of cameras, make certain.
+    bool nameIsWhole = true;
     FileState state = FileState::Live;
     std::uint64_t bytes = 0;       // as the directory says
     std::uint64_t validBytes = 0;  // of these were written (exFAT, NTFS); else as `bytes`

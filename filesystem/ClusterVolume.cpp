@@ -61,6 +61,8 @@ DirectoryRows ClusterVolume::rowsOf(std::span<const std::uint8_t> bytes) const {
 
 void ClusterVolume::append(CardDirectory directory, const std::vector<std::uint8_t>& bytes) {
     directory.rows = rowsOf(bytes);
+    // No other directory has the rows of exFAT's own files.
+    directory.isRoot = directory.isRoot || !directory.rows.ownFiles.empty();
     if (!directory.rows.ended && directory.state != FileState::Live) {
         const std::size_t tail = std::min(bytes.size(), kMostRowsOfEntry * kRowBytes);
         directory.openEnd.assign(bytes.end() - static_cast<std::ptrdiff_t>(tail), bytes.end());
@@ -136,7 +138,8 @@ void ClusterVolume::queueFolders(std::size_t directory, std::vector<Pending>& li
         const bool gone = entry.isDeleted || entry.isBehindEnd;
         const FileState state = own == FileState::Live && gone ? FileState::Deleted : own;
         (state == FileState::Live ? live : deleted)
-            .push_back({entry.cluster, entry.bytes, entry.isOnePiece, state, directory, entry.name});
+            .push_back({entry.cluster, entry.bytes, entry.isOnePiece, state, directory, entry.name,
+                        entry.nameIsWhole});
     }
 }
 
@@ -206,6 +209,7 @@ bool ClusterVolume::readPending(const Pending& pending) {
     directory.sector = m_shape.sectorOf(pending.cluster);
     directory.parent = pending.parent;
     directory.name = cleanName(pending.name);
+    directory.nameIsWhole = pending.nameIsWhole;
     directory.isNamed = pending.parent.has_value();
     directory.isRoot = isRoot;
     std::vector<std::uint8_t> bytes;
@@ -257,11 +261,14 @@ void ClusterVolume::readLostParts(const std::vector<SectorRun>& sectors) {
                 ledTo.insert(m_shape.sectorOf(entry.cluster));
             }
         }
+        if (const auto next = nextOfLostPart(part.first)) {
+            ledTo.insert(m_shape.sectorOf(*next));
+        }
     }
     for (const bool leading : {true, false}) {
         for (const SectorRun& part : parts) {
             const std::size_t index = m_directories.size();
-            if ((leading && ledTo.contains(part.first)) || !readPart(part)) {
+            if ((leading && ledTo.contains(part.first)) || !readPart(part, true)) {
                 continue;
             }
             readFoldersOf(index);
@@ -269,7 +276,25 @@ void ClusterVolume::readLostParts(const std::vector<SectorRun>& sectors) {
     }
 }
 
-bool ClusterVolume::readPart(const SectorRun& sectors) {
+void ClusterVolume::readPlaceless(const std::vector<SectorRun>& sectors) {
+    for (const SectorRun& part : splitAtClusters(sectors)) {
+        readPart(part, false);
+    }
+}
+
+// Deletion leaves exFAT's table as it is: the cluster of rows that the directory in this sector's goes on in.
+std::optional<std::uint32_t> ClusterVolume::nextOfLostPart(std::uint64_t sector) {
+    const std::uint64_t inClusters = sector - m_shape.firstCluster;
+    if (!isExfat() || inClusters % m_shape.clusterSectors != 0) {
+        return std::nullopt;
+    }
+    const std::uint64_t number = inClusters / m_shape.clusterSectors + m_shape.firstNumber();
+    const AllocationTable::Entry link = m_links.at(static_cast<std::uint32_t>(number));
+    const bool goesOn = link.link == AllocationTable::Link::Next && continuesDirectory(link.next);
+    return goesOn ? std::optional(link.next) : std::nullopt;
+}
+
+bool ClusterVolume::readPart(const SectorRun& sectors, bool hasClusters) {
     if (isClaimed(sectors.first) || m_directories.size() >= kMostDirectories) {
         return false;
     }
@@ -279,14 +304,25 @@ bool ClusterVolume::readPart(const SectorRun& sectors) {
     part.state = FileState::Lost;
     part.sector = sectors.first;
     part.runs = {sectors};
-    if (isExfat() && inClusters % m_shape.clusterSectors == 0) {
+    part.hasClusters = hasClusters;
+    claim(number);
+    if (hasClusters && isExfat() && inClusters % m_shape.clusterSectors == 0) {
         part.cluster = static_cast<std::uint32_t>(number);
     }
-    std::vector<std::uint8_t> bytes((sectors.end - sectors.first) * 512);
+    auto next = hasClusters ? nextOfLostPart(sectors.first) : std::nullopt;
+    std::vector<std::uint8_t> bytes(next ? clusterBytes() : (sectors.end - sectors.first) * 512);
     m_card.readAt(sectors.first, bytes);
+    while (next && bytes.size() < kMostDirectoryBytes) {
+        claim(*next);
+        const std::uint64_t sector = m_shape.sectorOf(*next);
+        const std::size_t before = bytes.size();
+        bytes.resize(before + clusterBytes());
+        m_card.readAt(sector, std::span(bytes).subspan(before));
+        part.runs.push_back({sector, sector + m_shape.clusterSectors});
+        next = nextOfLostPart(sector);
+    }
     const std::size_t head = std::min(bytes.size(), kMostRowsOfEntry * kRowBytes);
     part.firstRows.assign(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(head));
-    claim(number);
     append(std::move(part), bytes);
     return true;
 }

@@ -23,8 +23,10 @@ struct CardDirectory {
     std::uint64_t sector = 0;   // its first
     std::optional<std::size_t> parent;
     QString name;  // "" for a root
+    bool nameIsWhole = true;
     bool isRoot = false;
     bool isNamed = false;
+    bool hasClusters = true;  // false: its rows count clusters that lie nobody knows where
     DirectoryRows rows;
     std::vector<SectorRun> runs;
     // Its last rows where no row said that it ends there: it may go on elsewhere.
@@ -55,6 +57,9 @@ class ClusterVolume {
     bool readLost(std::uint32_t cluster);
     // The same for sectors that hold rows of directories of which it is not known where they begin.
     void readLostParts(const std::vector<SectorRun>& sectors);
+    // The same for rows whose clusters are of a file system of which nothing else is known: they tell names,
+    // lengths and times, and no places.
+    void readPlaceless(const std::vector<SectorRun>& sectors);
     // Finds the folders that lost directories lie in, once all are read.
     void linkLost();
 
@@ -77,6 +82,7 @@ class ClusterVolume {
         FileState state = FileState::Live;
         std::optional<std::size_t> parent;
         QString name;
+        bool nameIsWhole = true;
     };
 
     bool isExfat() const { return m_shape.kind == FileSystemKind::Exfat; }
@@ -90,7 +96,8 @@ class ClusterVolume {
     void readRootBeforeClusters(FileState state);
     void readFoldersOf(std::size_t directory);
     bool readPending(const Pending& pending);
-    bool readPart(const SectorRun& sectors);
+    bool readPart(const SectorRun& sectors, bool hasClusters);
+    std::optional<std::uint32_t> nextOfLostPart(std::uint64_t sector);
     std::vector<SectorRun> splitAtClusters(const std::vector<SectorRun>& sectors) const;
     std::vector<std::uint32_t> clustersOf(const Pending& pending);
     bool continuesDirectory(std::uint32_t cluster);
@@ -102,14 +109,14 @@ class ClusterVolume {
 
     void joinParts();
     void nameFromStandard();
+    void restoreFirstLetters();
     QString folderOf(std::size_t directory) const;
     void tellDirectory(const CardDirectory& directory, const QString& folder, bool live,
                        const FoundStarts& found, CardTable& table);
     void placeLive(const DirectoryEntry& entry, CardFile& file);
     void placeGone(const DirectoryEntry& entry, const FoundStarts& found, CardFile& file);
     bool mayBeHalf(const DirectoryEntry& entry) const;
-    std::vector<std::uint32_t> possibleBeginnings(const DirectoryEntry& entry, const FoundStarts& found);
-    bool clearsUpperHalf(const FoundStarts& found);
+    bool mayBegin(std::uint32_t cluster, const DirectoryEntry& entry, const FoundStarts& found);
     // One; none where none is likely; two where it cannot be told which.
     std::vector<std::uint32_t> beginningsOf(const DirectoryEntry& entry, const FoundStarts& found);
     bool beginsOtherwise(std::uint32_t cluster, const DirectoryEntry& entry, const FoundStarts& found);
@@ -126,10 +133,11 @@ class ClusterVolume {
     std::vector<SectorRun> m_liveRuns;
     // A deleted entry has its upper half (FAT32): who deletes here leaves it.
     bool m_keepsUpperHalf = false;
-    bool m_clearsUpperHalf = false;  // one has lost it
     // Clusters that may still be gone through: on a sound card each is a file's once.
     std::uint64_t m_liveStepsLeft = 0;
     std::uint64_t m_goneStepsLeft = 0;
+    // Sectors that may still be read for halves of numbers: on a card each is a wait of its own.
+    std::size_t m_halfLooksLeft = 4096;
 };
 
 }  // namespace vantor

@@ -9,7 +9,6 @@
 namespace vantor {
 
 void ClusterVolume::tell(const FoundStarts& found, CardTable& table) {
-    m_clearsUpperHalf = clearsUpperHalf(found);
     for (const bool live : {true, false}) {
         for (std::size_t at = 0; at < m_directories.size(); ++at) {
             tellDirectory(m_directories[at], folderOf(at), live, found, table);
@@ -52,7 +51,7 @@ void ClusterVolume::tellDirectory(const CardDirectory& directory, const QString&
         file.modified = entry.modified;
         file.created = entry.created;
         file.clusterSectors = m_shape.clusterSectors;
-        if (entry.bytes != 0 && m_shape.holds(entry.cluster)) {
+        if (entry.bytes != 0 && directory.hasClusters && m_shape.holds(entry.cluster)) {
             live ? placeLive(entry, file) : placeGone(entry, found, file);
         }
         table.files.push_back(std::move(file));
@@ -86,16 +85,21 @@ void ClusterVolume::placeGone(const DirectoryEntry& entry, const FoundStarts& fo
     if (entry.isOnePiece) {
         file.runs = {onePiece(entry.cluster, clusters)};
         file.runsKnownBy = RunsKnownBy::Flag;
-        return;
-    }
-    if (m_goneStepsLeft >= clusters) {
+    } else if (m_goneStepsLeft >= clusters) {
         Chain chain = chainFrom(entry.cluster, clusters);
         m_goneStepsLeft -= chain.clusters;
         if (chain.isWhole && clusters > 0) {
             file.runs = std::move(chain.runs);
             file.runsKnownBy = RunsKnownBy::Chain;
-            return;
         }
+    }
+    if (!file.runs.empty()) {
+        // What was found there tells itself whose it is.
+        if (!found.isAnyAt(file.runs.front().first) && beginsOtherwise(entry.cluster, entry, found)) {
+            file.runs = {onePiece(entry.cluster, 1)};
+            file.runsKnownBy = RunsKnownBy::StartOnly;
+        }
+        return;
     }
     const std::vector<std::uint32_t> beginnings = beginningsOf(entry, found);
     const bool isGuess = beginnings.size() == 1 && !beginsOtherwise(beginnings.front(), entry, found);
@@ -118,20 +122,27 @@ bool ClusterVolume::beginsOtherwise(std::uint32_t cluster, const DirectoryEntry&
     return m_card.readAt(place, sector) && !beginsLike(entry.name, sector).value_or(true);
 }
 
-// The clusters with the same lower half under which such a file begins, two at most; its own comes first.
-std::vector<std::uint32_t> ClusterVolume::possibleBeginnings(const DirectoryEntry& entry,
-                                                             const FoundStarts& found) {
-    std::array<std::uint8_t, 512> sector;
-    std::vector<std::uint32_t> clusters;
-    for (std::uint64_t at = entry.cluster; m_shape.holds(at) && m_goneStepsLeft > 0 && clusters.size() < 2;
-         at += 0x10000, --m_goneStepsLeft) {
-        const std::uint64_t place = m_shape.sectorOf(at);
-        if (found.isAt(place, entry.name) || (at == entry.cluster && m_card.readAt(place, sector) &&
-                                              beginsLike(entry.name, sector).value_or(false))) {
-            clusters.push_back(static_cast<std::uint32_t>(at));
-        }
+// Whether a file of that name may begin there: one was found, or what lies there does not rule it out.
+bool ClusterVolume::mayBegin(std::uint32_t cluster, const DirectoryEntry& entry, const FoundStarts& found) {
+    const std::uint64_t place = m_shape.sectorOf(cluster);
+    const bool isOwn = cluster == entry.cluster;
+    if (!isOwn && m_live[cluster - m_shape.firstNumber()]) {
+        return false;  // what begins there is another's
     }
-    return clusters;
+    if (found.isAt(place, entry.name)) {
+        return true;
+    }
+    const bool wouldBeFound = !isOwn && !found.ofKind(entry.name, 1).empty();
+    std::array<std::uint8_t, 512> sector;
+    if (wouldBeFound || m_halfLooksLeft == 0 || found.isAnyAt(place)) {
+        return false;
+    }
+    --m_halfLooksLeft;
+    if (!m_card.readAt(place, sector)) {
+        return false;
+    }
+    const bool isEmpty = std::all_of(sector.begin(), sector.end(), [](auto byte) { return byte == 0; });
+    return beginsLike(entry.name, sector).value_or(!isEmpty);
 }
 
 bool ClusterVolume::mayBeHalf(const DirectoryEntry& entry) const {
@@ -139,30 +150,19 @@ bool ClusterVolume::mayBeHalf(const DirectoryEntry& entry) const {
            m_shape.holds(entry.cluster) && m_shape.holds(0x10000 + m_shape.firstNumber());
 }
 
-// Whether a file that was deleted here begins only where an upper half puts it that its entry has lost.
-bool ClusterVolume::clearsUpperHalf(const FoundStarts& found) {
-    for (const CardDirectory& directory : m_directories) {
-        for (const DirectoryEntry& entry : directory.rows.entries) {
-            const auto clusters =
-                mayBeHalf(entry) ? possibleBeginnings(entry, found) : std::vector<std::uint32_t>{};
-            if (!clusters.empty() && clusters.front() != entry.cluster) {
-                return true;
-            }
-        }
-    }
-    return false;
-}
-
 // Some systems clear the upper half of the number with the deletion. Then the file begins under the number,
-// of those with the same lower half, under which one of its kind was found, if that is one alone.
+// of those with the same lower half, under which one of its kind does, if that is one alone.
 std::vector<std::uint32_t> ClusterVolume::beginningsOf(const DirectoryEntry& entry,
                                                        const FoundStarts& found) {
     if (!mayBeHalf(entry)) {
         return {entry.cluster};
     }
-    std::vector<std::uint32_t> clusters = possibleBeginnings(entry, found);
-    if (!m_clearsUpperHalf && !clusters.empty() && clusters.front() == entry.cluster) {
-        clusters.resize(1);
+    std::vector<std::uint32_t> clusters;
+    for (std::uint64_t at = entry.cluster; m_shape.holds(at) && m_goneStepsLeft > 0 && clusters.size() < 2;
+         at += 0x10000, --m_goneStepsLeft) {
+        if (mayBegin(static_cast<std::uint32_t>(at), entry, found)) {
+            clusters.push_back(static_cast<std::uint32_t>(at));
+        }
     }
     return clusters;
 }

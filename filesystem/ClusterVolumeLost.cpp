@@ -4,12 +4,28 @@
 
 #include "filesystem/CleanName.h"
 #include "filesystem/ClusterVolume.h"
+#include "filesystem/FirstLetters.h"
 
 namespace vantor {
 
 namespace {
 
-constexpr std::size_t kMostJoins = 1'000'000;
+constexpr std::size_t kMostJoins = 100'000;
+
+// Whether an entry begins in the last rows and does not end there.
+bool endsWithinEntry(const std::vector<std::uint8_t>& last, bool isExfat) {
+    const std::size_t rows = last.size() / kRowBytes;
+    if (!isExfat) {
+        return rows > 0 && (last[(rows - 1) * kRowBytes + 11] & 0x3F) == 0x0F;
+    }
+    for (std::size_t at = 0; at < rows; ++at) {
+        // How many rows follow stands in the second byte of a set's first.
+        if ((last[at * kRowBytes] | 0x80) == 0x85 && last[at * kRowBytes + 1] >= rows - at) {
+            return true;
+        }
+    }
+    return false;
+}
 
 // Whether an entry begins in the last rows of one part and ends in the first rows of the other.
 bool goesOn(const std::vector<std::uint8_t>& last, const std::vector<std::uint8_t>& first, bool isExfat) {
@@ -27,21 +43,36 @@ bool goesOn(const std::vector<std::uint8_t>& last, const std::vector<std::uint8_
 
 }  // namespace
 
-// Parts that a directory goes on in: an entry that lies across the seam proves it.
+// Parts that a directory goes on in: an entry that lies across the seam proves it. The likeliest is the next
+// one on the card.
 void ClusterVolume::joinParts() {
+    std::vector<std::size_t> parts;
+    for (std::size_t at = 0; at < m_directories.size(); ++at) {
+        if (!m_directories[at].firstRows.empty() && !m_directories[at].parent) {
+            parts.push_back(at);
+        }
+    }
+    std::sort(parts.begin(), parts.end(), [this](std::size_t a, std::size_t b) {
+        return m_directories[a].sector < m_directories[b].sector;
+    });
     std::size_t left = kMostJoins;
-    for (std::size_t part = 0; part < m_directories.size(); ++part) {
-        if (m_directories[part].firstRows.empty() || m_directories[part].parent) {
+    for (std::size_t before = 0; before < m_directories.size(); ++before) {
+        CardDirectory& directory = m_directories[before];
+        if (!endsWithinEntry(directory.openEnd, isExfat())) {
             continue;
         }
-        for (std::size_t before = 0; before < m_directories.size() && left > 0; ++before) {
-            if (before == part || m_directories[before].openEnd.empty()) {
+        const auto behind = std::upper_bound(
+            parts.begin(), parts.end(), directory.runs.back().first,
+            [this](std::uint64_t sector, std::size_t part) { return sector < m_directories[part].sector; });
+        const auto first = static_cast<std::size_t>(behind - parts.begin());
+        for (std::size_t i = 0; i < parts.size() && left > 0; ++i) {
+            const std::size_t part = parts[(first + i) % parts.size()];
+            if (part == before || m_directories[part].partOf) {
                 continue;
             }
             --left;
-            if (goesOn(m_directories[before].openEnd, m_directories[part].firstRows, isExfat())) {
+            if (goesOn(directory.openEnd, m_directories[part].firstRows, isExfat())) {
                 m_directories[part].partOf = before;
-                m_directories[before].openEnd.clear();
                 break;
             }
         }
@@ -51,7 +82,8 @@ void ClusterVolume::joinParts() {
 void ClusterVolume::linkLost() {
     for (std::size_t at = 0; at < m_directories.size(); ++at) {
         for (const DirectoryEntry& entry : m_directories[at].rows.entries) {
-            const auto known = entry.isFolder ? m_byCluster.find(entry.cluster) : m_byCluster.end();
+            const bool leads = entry.isFolder && m_directories[at].hasClusters;
+            const auto known = leads ? m_byCluster.find(entry.cluster) : m_byCluster.end();
             if (known == m_byCluster.end() || known->second == at) {
                 continue;
             }
@@ -61,6 +93,7 @@ void ClusterVolume::linkLost() {
             if (!child.isRoot && !child.isNamed && !disagrees) {
                 child.parent = at;
                 child.name = cleanName(entry.name);
+                child.nameIsWhole = entry.nameIsWhole;
                 child.isNamed = true;
             }
         }
@@ -80,6 +113,7 @@ void ClusterVolume::linkLost() {
         }
     }
     nameFromStandard();
+    restoreFirstLetters();
 }
 
 // The standard of cameras (DCF) names the folder that holds theirs: three digits and five characters.
@@ -95,6 +129,33 @@ void ClusterVolume::nameFromStandard() {
             })) {
             directory.name = QStringLiteral("DCIM");
             directory.isNamed = true;
+        }
+    }
+}
+
+void ClusterVolume::restoreFirstLetters() {
+    FirstLetters letters;
+    for (std::size_t at = 0; at < m_directories.size(); ++at) {
+        for (const DirectoryEntry& entry : m_directories[at].rows.entries) {
+            if (entry.nameIsWhole) {
+                letters.learn(entry.name, at);
+            }
+        }
+    }
+    const auto restore = [&](QString& name, std::size_t folder) {
+        if (const auto letter = letters.of(name, folder)) {
+            name.front() = *letter;
+        }
+    };
+    for (std::size_t at = 0; at < m_directories.size(); ++at) {
+        CardDirectory& directory = m_directories[at];
+        if (!directory.nameIsWhole && directory.parent) {
+            restore(directory.name, *directory.parent);
+        }
+        for (DirectoryEntry& entry : directory.rows.entries) {
+            if (!entry.nameIsWhole) {
+                restore(entry.name, at);
+            }
         }
     }
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <tuple>
 #include <unordered_set>
 #include <utility>
 
@@ -29,12 +30,38 @@ void beginningsOf(const std::vector<ClusterSighting>& sightings, unsigned shift,
     into.erase(std::unique(into.begin(), into.end()), into.end());
 }
 
+bool isBefore(const ClusterSighting& a, const ClusterSighting& b) {
+    return std::tie(a.cluster, a.sector) < std::tie(b.cluster, b.sector);
+}
+
 Beginnings::const_iterator endOf(const Beginnings& all, Beginnings::const_iterator group) {
     return std::find_if(group, all.end(), [&](const auto& one) { return one.first != group->first; });
 }
 
-// Whether most of the clusters that agree on the place also agree on another.
-bool mayLieElsewhere(const std::vector<ClusterSighting>& sightings, const ClusterPlaces& place) {
+std::uint64_t sectorOf(std::uint32_t cluster, unsigned shift, std::uint64_t firstCluster) {
+    return firstCluster + (std::uint64_t{cluster - 2} << shift);
+}
+
+// Clusters that the place explains and the other one does not, not even as the end of a row: files of one
+// length in a row agree on a place one file further as well, but for the last of them.
+std::size_t onlyHere(const std::vector<ClusterSighting>& sorted,
+                     const std::unordered_set<std::uint32_t>& agreed, const ClusterPlaces& place,
+                     unsigned otherShift, std::uint64_t otherFirst) {
+    const auto shift = static_cast<unsigned>(std::countr_zero(place.clusterSectors));
+    const auto isSighted = [&](std::uint32_t cluster, std::uint64_t sector) {
+        return std::binary_search(sorted.begin(), sorted.end(), ClusterSighting{cluster, sector}, isBefore);
+    };
+    return static_cast<std::size_t>(std::count_if(agreed.begin(), agreed.end(), [&](std::uint32_t cluster) {
+        const std::uint64_t here = sectorOf(cluster, shift, place.firstCluster);
+        const std::uint64_t there = sectorOf(cluster, otherShift, otherFirst);
+        // The sector as far on the other side; it may be none of the card's.
+        return !isSighted(cluster, there) && !isSighted(cluster, 2 * here - there);
+    }));
+}
+
+// Whether most of the clusters that agree on the place also agree on another, and hardly any speak against
+// it.
+bool mayLieElsewhere(std::vector<ClusterSighting> sightings, const ClusterPlaces& place) {
     Beginnings all;
     std::unordered_set<std::uint32_t> agreed;
     beginningsOf(sightings, static_cast<unsigned>(std::countr_zero(place.clusterSectors)), all);
@@ -43,6 +70,7 @@ bool mayLieElsewhere(const std::vector<ClusterSighting>& sightings, const Cluste
             agreed.insert(cluster);
         }
     }
+    std::sort(sightings.begin(), sightings.end(), isBefore);
     for (unsigned shift = 0; shift <= kLargestCluster; ++shift) {
         beginningsOf(sightings, shift, all);
         for (auto group = all.cbegin(); group != all.cend();) {
@@ -51,7 +79,8 @@ bool mayLieElsewhere(const std::vector<ClusterSighting>& sightings, const Cluste
                 std::uint32_t{1} << shift != place.clusterSectors || group->first != place.firstCluster;
             const auto shared = static_cast<std::size_t>(
                 std::count_if(group, end, [&](const auto& one) { return agreed.contains(one.second); }));
-            if (isOther && shared > kMostByChance && 2 * shared > place.votes) {
+            if (isOther && shared > kMostByChance && 2 * shared > place.votes &&
+                onlyHere(sightings, agreed, place, shift, group->first) <= kMostByChance) {
                 return true;
             }
             group = end;

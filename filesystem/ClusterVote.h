@@ -24,7 +24,7 @@ enum class Sightings { True, Possible };
 // The size and beginning of clusters that more sightings agree on than on any other; nothing when fewer than
 // `least` clusters do, or as many agree on another. Wrong sightings among those that are only possible do no
 // harm as long as they do not agree: nothing either when most of the clusters could lie elsewhere as well, as
-// files in a row, each as long as the next, can.
+// files in a row, each as long as the next, can, unless others rule that out.
 std::optional<ClusterPlaces> voteForClusters(const std::vector<ClusterSighting>& sightings, std::size_t least,
                                              Sightings kind);
 

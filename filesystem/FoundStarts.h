@@ -18,6 +18,8 @@ class FoundStarts {
 
     // Whether a file of the kind of such a name was found to begin in the sector.
     bool isAt(std::uint64_t sector, const QString& name) const;
+    // Whether any file was.
+    bool isAnyAt(std::uint64_t sector) const { return m_kinds.contains(sector); }
     // Where files of that kind were found; at most `most`, spread over all of them.
     std::vector<std::uint64_t> ofKind(const QString& name, std::size_t most) const;
     bool isEmpty() const { return m_kinds.empty(); }

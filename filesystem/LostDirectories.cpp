@@ -243,16 +243,15 @@ void LostDirectories::placeParts(bool exfat) {
     }
     ofShape.resize(m_shapes.size());
     placeKnownBeginnings();
-    // Sets whose checksum is right are true names, also where all that they named is overwritten.
-    const auto present = std::find_if(m_shapes.begin(), m_shapes.end(), isOfKind);
-    if (exfat && present != m_shapes.end()) {
-        auto& rest = ofShape[static_cast<std::size_t>(present - m_shapes.begin())];
-        rest.insert(rest.end(), parts.begin(), parts.end());
-    }
     for (std::size_t at = 0; at < m_shapes.size(); ++at) {
         if (!ofShape[at].empty()) {
             volumeOf(m_shapes[at])->readLostParts(ofShape[at]);
         }
+    }
+    // Sets whose checksum is right are true names, also where all that they named is overwritten.
+    const auto present = std::find_if(m_shapes.begin(), m_shapes.end(), isOfKind);
+    if (exfat && present != m_shapes.end()) {
+        volumeOf(*present)->readPlaceless(parts);
     }
 }
 

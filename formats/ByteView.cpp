@@ -2,6 +2,7 @@
 #include "formats/ByteView.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <limits>
 
@@ -83,6 +84,21 @@ bool ByteView::copy(std::uint64_t at, std::span<std::uint8_t> into) {
         into = into.subspan(count);
         at += count;
     }
+    return true;
+}
+
+bool ByteView::copyWithinSector(std::uint64_t at, std::span<std::uint8_t> into) {
+    std::array<std::uint8_t, 512> sector;
+    const std::uint64_t within = at % sector.size();
+    if (into.size() > sector.size() - within || !holds(at, into.size()))
+        return false;
+    if (at >= m_start && at - m_start < m_fill && m_fill - (at - m_start) >= into.size())
+        return copy(at, into);
+    const auto wanted = within + into.size();
+    if (m_budget < sector.size() || m_source.read(at - within, sector) < wanted)
+        return false;
+    m_budget -= sector.size();
+    std::copy_n(sector.begin() + static_cast<std::ptrdiff_t>(within), into.size(), into.begin());
     return true;
 }
 

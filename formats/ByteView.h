@@ -57,6 +57,8 @@ class ByteView {
 
     // Fills `into` from `at`; false when not all of it could be read.
     bool copy(std::uint64_t at, std::span<std::uint8_t> into);
+    // The same of bytes within one sector, of which no more is read: for a look behind a file's end.
+    bool copyWithinSector(std::uint64_t at, std::span<std::uint8_t> into);
     // Whether exactly these bytes stand at `at`.
     bool matches(std::uint64_t at, std::string_view bytes);
 

@@ -120,6 +120,20 @@ bool CardIndex::isWrittenOver(const CardFile& file) const {
     });
 }
 
+namespace {
+
+// Whether the claim is that of a file which had gone when this one was written: it began within it.
+bool hadGone(const CardFile& other, SectorRun claim, const CardFile& file) {
+    const bool bothCreated = other.created && file.created;
+    const auto& before = bothCreated ? other.created : other.modified;
+    const auto& then = bothCreated ? file.created : file.modified;
+    const std::uint64_t first = file.runs.front().first;
+    return other.state != FileState::Live && before && then && *before < *then && claim.first <= first &&
+           first < claim.end;
+}
+
+}  // namespace
+
 bool CardIndex::isDisputed(const CardFile& file) const {
     for (const SectorRun& run : file.runs) {
         auto claim = std::lower_bound(m_claims.begin(), m_claims.end(), run.end,
@@ -129,7 +143,8 @@ bool CardIndex::isDisputed(const CardFile& file) const {
             if (m_reach[static_cast<std::size_t>(claim - m_claims.begin())] <= run.first) {
                 break;
             }
-            if (claim->file != &file && claim->end > run.first) {
+            if (claim->file != &file && claim->end > run.first &&
+                !hadGone(*claim->file, {claim->first, claim->end}, file)) {
                 return true;
             }
         }

@@ -157,8 +157,7 @@ void ItemBytes::askCard(const QString& type) {
         // length where the directory tells one piece, or where a stream is followed no further.
         if (!card->isDisputed(*match.file)) {
             take(match.file);
-            if (card->isInOneFreePiece(*match.file) &&
-                (match.file->runsKnownBy < RunsKnownBy::Guess || isFrameStream(type))) {
+            if (card->isInOneFreePiece(*match.file)) {
                 takeLength(dataBytesOf(*match.file));
             }
         }

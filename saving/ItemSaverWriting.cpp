@@ -1,4 +1,6 @@
 // What is decided to be saved, written: under which name, unless its bytes are saved already.
+#include <QDateTime>
+#include <QFileInfo>
 #include <QObject>
 #include <algorithm>
 #include <cerrno>
@@ -115,6 +117,12 @@ bool ItemSaver::settleBeforeWriting(const Writing& writing, MediumBytes& bytes, 
 // False when the bytes have to be written again all the same.
 bool ItemSaver::settleAs(const SavedFile& earlier, const Writing& writing, SaveOutcome& outcome) const {
     const bool serves = writing.sought().isServedBy(earlier);
+    // A second name has the first one's time, which is not that of the card's other copy.
+    const bool isOtherCopy = !serves && earlier.firstSector != writing.place && outcome.original;
+    if (isOtherCopy && outcome.original->modified &&
+        *outcome.original->modified != QFileInfo(earlier.path).lastModified().toSecsSinceEpoch()) {
+        return false;
+    }
     const auto path = serves ? earlier.path : linkAs(earlier.path, writing.folder, writing.name);
     if (!path) {
         return false;

@@ -31,7 +31,7 @@ TEST(CardNames, APhotoSearchBringsPhotosAndWhatNoSearchFinds_ButNoMovies) {
     const CommandRun run = runCommand({"--mode", "photo", "--save", folder.path(), VANTOR_SAMPLE_CARD});
     ASSERT_EQ(run.exitCode, 0) << run.err.constData();
     const QStringList paths = pathsBelow(folder.path());
-    EXPECT_TRUE(anyEndsWith(paths, QStringLiteral("DCIM/100VANTR/_MG_0001.JPG")));
+    EXPECT_TRUE(anyEndsWith(paths, QStringLiteral("DCIM/100VANTR/IMG_0001.JPG")));
     EXPECT_TRUE(run.out.contains("more files that only the card's directory tells of"));
     EXPECT_TRUE(anyEndsWith(paths, QStringLiteral(".TMP"))) << "a name that no catalogue knows";
     // Types of their own that share their format with pictures.

@@ -80,10 +80,9 @@ TEST(SavingCommand, PhotosOfTheSampleCardComeBackInTheirFoldersUnderTheirNames) 
     const CommandRun run = runCommand({"--save", folder.path(), VANTOR_SAMPLE_CARD});
     ASSERT_EQ(run.exitCode, 0) << run.err.constData();
     int photos = 0;
-    for (SampleFile file : cardFiles()) {
+    for (const SampleFile& file : cardFiles()) {
         if (file.type == "JPG" && file.inOnePiece) {
             ++photos;
-            file.name[0] = '_';  // the deletion took it
             const QByteArray path = file.folder + '/' + file.name;
             EXPECT_EQ(Sha256::of(contentsOf(folder.filePath(path))).toHex(), file.sha256) << path.constData();
         }

@@ -17,6 +17,9 @@ class ExfatCard : public testing::Test {
     }
 
     void putRoot(const Bytes& rows) { putBytes(m_card, m_exfat.sectorOf(5), rows); }
+    void beginPhoto(std::uint32_t cluster) {
+        put(m_card.bytes, m_exfat.sectorOf(cluster) * 512, std::string("\xFF\xD8\xFF\xE1", 4));
+    }
     void putPhotos(const Bytes& rows) { putBytes(m_card, m_exfat.sectorOf(11), rows); }
     std::vector<SectorRun> piece(std::uint32_t first, std::uint32_t end) const {
         return {{m_exfat.sectorOf(first), m_exfat.sectorOf(end)}};
@@ -44,6 +47,7 @@ TEST_F(ExfatCard, LiveFileInOnePiece_IsProvedByItsFlag) {
 TEST_F(ExfatCard, DeletedFileInPieces_ComesFromTheChainThatIsLeft) {
     putPhotos(exfatSet({"IMG_0412.JPG", 20, 4 * 4096, false, false, true}));
     chainExfat(m_card, m_exfat, {20, 21, 30, 29});
+    beginPhoto(20);
     const CardTable table = tableOf(m_card);
     ASSERT_EQ(pathsOf(table), "DCIM/100CANON/IMG_0412.JPG");
     EXPECT_EQ(table.files.front().state, FileState::Deleted);
@@ -56,8 +60,28 @@ TEST_F(ExfatCard, ChainThatLeadsIntoALiveFile_IsNoChain) {
     putPhotos(exfatSet({"NEW.JPG", 21, 2 * 4096, false}) +
               exfatSet({"OLD.JPG", 20, 3 * 4096, false, false, true}));
     chainExfat(m_card, m_exfat, {20, 21, 30});
-    put(m_card.bytes, m_exfat.sectorOf(20) * 512, std::string("\xFF\xD8\xFF\xE1", 4));
+    beginPhoto(20);
     EXPECT_EQ(fileNamed(tableOf(m_card), "OLD.JPG").runsKnownBy, RunsKnownBy::Guess);
+}
+
+// Neither a chain nor the flag of one piece says whose the bytes are by now.
+TEST_F(ExfatCard, DeletedFile_IsNotWhereSomethingElseBegins) {
+    putPhotos(exfatSet({"CHAIN.JPG", 20, 2 * 4096, false, false, true}) +
+              exfatSet({"PIECE.JPG", 30, 9000, true, false, true}) +
+              exfatSet({"PIECE.CTG", 40, 9000, true, false, true}));
+    chainExfat(m_card, m_exfat, {20, 21});
+    for (const std::uint32_t cluster : {20u, 30u, 40u}) {
+        put(m_card.bytes, m_exfat.sectorOf(cluster) * 512, std::string("no photo"));
+    }
+    const CardTable table = tableOf(m_card);
+    for (const auto& [name, cluster] : {std::pair("CHAIN.JPG", 20u), std::pair("PIECE.JPG", 30u)}) {
+        EXPECT_EQ(fileNamed(table, name).runsKnownBy, RunsKnownBy::StartOnly);
+        EXPECT_EQ(fileNamed(table, name).runs, piece(cluster, cluster + 1));
+    }
+    EXPECT_EQ(fileNamed(table, "PIECE.CTG").runsKnownBy, RunsKnownBy::Flag);
+    // What was found there may bear a wrong ending.
+    const CardTable found = tableOf(m_card, {{m_exfat.sectorOf(30), "PNG"}});
+    EXPECT_EQ(fileNamed(found, "PIECE.JPG").runsKnownBy, RunsKnownBy::Flag);
 }
 
 TEST_F(ExfatCard, SetWithAWrongChecksum_IsNoFile) {
@@ -118,6 +142,63 @@ TEST_F(ExfatCard, DirectoryInTwoPieces_IsPutTogetherByTheSetAcrossTheSeam) {
     ASSERT_FALSE(table.files.empty());
     for (const CardFile& file : table.files) {
         EXPECT_EQ(file.folder, "folder-10/100CANON") << file.name.toStdString();
+    }
+}
+
+// Its own row is gone; the table still leads through its clusters.
+TEST_F(ExfatCard, DeletedFolderInPieces_IsOneByItsChain) {
+    Bytes rows;
+    for (int i = 0; rows.size() < 3 * 4096; ++i) {
+        rows = rows + exfatSet({QString("IMG_%1.JPG").arg(i, 4, 10, QChar(u'0')), 100u + 2 * i, 5000, true,
+                                false, true});
+    }
+    rows.resize(3 * 4096);
+    for (int part = 0; part < 3; ++part) {
+        const auto begin = rows.begin() + part * 4096;
+        putBytes(m_card, m_exfat.sectorOf(60 - 10 * part), Bytes(begin, begin + 4096));
+    }
+    chainExfat(m_card, m_exfat, {60, 50, 40});
+    beginPhoto(100);
+    const CardTable table = tableOf(m_card);
+    // Also those across the seams.
+    ASSERT_EQ(table.files.size(), 3 * 128u / 3);
+    for (const CardFile& file : table.files) {
+        EXPECT_EQ(file.folder, "folder-60");
+    }
+}
+
+// Another file system lies there now, which left the old root alone.
+TEST_F(ExfatCard, RootOfAFormerFileSystem_IsKnownByItsOwnFiles) {
+    Bytes bitmap(32);
+    bitmap[0] = 0x81;
+    put(bitmap, 20, 2, 4);
+    put(bitmap, 24, 250, 8);
+    putRoot(bitmap + exfatSet({"DCIM", 10, 4096, true, true}));
+    Bytes rows;
+    std::vector<FoundStart> found;
+    for (std::uint32_t i = 0; i < 8; ++i) {
+        rows = rows + exfatSet({QString("IMG_%1.JPG").arg(i), 20 + i * i + 3 * i, 9000});
+        found.push_back({m_exfat.sectorOf(20 + i * i + 3 * i), "jpg"});
+    }
+    putPhotos(rows);
+    std::fill(m_card.bytes.begin(),
+              m_card.bytes.begin() + static_cast<std::ptrdiff_t>(m_exfat.firstCluster() * 512), 0);
+    const CardTable table = tableOf(m_card, found);
+    ASSERT_EQ(table.files.size(), 8u);
+    for (const CardFile& file : table.files) {
+        EXPECT_EQ(file.folder, "DCIM/100CANON");
+    }
+}
+
+// Nothing lies where the present clusters would put it.
+TEST_F(ExfatCard, RowsOfAFileSystemThatNobodyKnows_TellNamesAndNoPlaces) {
+    putBytes(m_card, m_exfat.sectorOf(200),
+             exfatSet({"OLD.JPG", 700, 9000}) + exfatSet({"NOTES.TXT", 710, 900}) +
+                 exfatSet({"DCIM", 11, 4096, true, true}));
+    const CardTable table = tableOf(m_card);
+    for (const char* const name : {"OLD.JPG", "NOTES.TXT"}) {
+        EXPECT_EQ(fileNamed(table, name).state, FileState::Lost);
+        EXPECT_TRUE(fileNamed(table, name).runs.empty());
     }
 }
 

@@ -62,10 +62,10 @@ TEST_P(FatCard, LiveFileInPieces_HasItsFolderTimesAndRuns) {
 }
 
 TEST_P(FatCard, DeletedFile_LosesItsFirstLetterAndIsGuessedInOnePiece) {
-    putPhotos(deletedFat(fatRow("IMG_0412JPG", 10, 3 * 2048)));
+    putPhotos(deletedFat(fatRow("HOLIDAY JPG", 10, 3 * 2048)));
     beginPhoto(10);
     const CardTable table = tableOf(m_card);
-    ASSERT_EQ(pathsOf(table), "DCIM/100CANON/_MG_0412.JPG");
+    ASSERT_EQ(pathsOf(table), "DCIM/100CANON/_OLIDAY.JPG");
     const CardFile& file = table.files.front();
     EXPECT_EQ(file.state, FileState::Deleted);
     EXPECT_FALSE(file.nameIsWhole);
@@ -79,7 +79,7 @@ TEST_P(FatCard, DeletedFile_IsNotWhereSomethingElseBegins) {
     putPhotos(deletedFat(fatRow("IMG_0412JPG", 10, 3 * 2048) + fatRow("NOTES   CTG", 20, 3 * 2048)));
     put(m_card.bytes, m_fat.sectorOf(10) * 512, std::string("\xFD\x30\xB1\xBD", 4));
     const CardTable table = tableOf(m_card);
-    const CardFile photo = fileNamed(table, "_MG_0412.JPG");
+    const CardFile photo = fileNamed(table, "IMG_0412.JPG");
     EXPECT_EQ(photo.runsKnownBy, RunsKnownBy::StartOnly);
     EXPECT_EQ(photo.runs, (std::vector<SectorRun>{{m_fat.sectorOf(10), m_fat.sectorOf(11)}}));
     // What begins in no way of its own may be there.
@@ -105,7 +105,7 @@ TEST_P(FatCard, LongNameOfAnotherFile_NamesNothing) {
     const Bytes rows(stray.begin(), stray.end() - 32);
     putPhotos(rows + fatRow("IMG_0001JPG", 10, 100) + deletedFat(rows + fatRow("IMG_0002JPG", 11, 100)));
     chainFat(m_card, m_fat, {10});
-    EXPECT_EQ(pathsOf(tableOf(m_card)), "DCIM/100CANON/IMG_0001.JPG\nDCIM/100CANON/_MG_0002.JPG");
+    EXPECT_EQ(pathsOf(tableOf(m_card)), "DCIM/100CANON/IMG_0001.JPG\nDCIM/100CANON/IMG_0002.JPG");
 }
 
 // The sum alone is right for nearly any first letter, and one letter in most sums is not enough.
@@ -120,7 +120,7 @@ TEST_P(FatCard, DeletedRowBehindALongNameItWasNotMadeOf_IsNotCalledSo) {
     }
     putPhotos(rows);
     for (const CardFile& file : tableOf(m_card).files) {
-        EXPECT_TRUE(file.name.startsWith("_MG_000")) << file.name.toStdString();
+        EXPECT_TRUE(file.name.startsWith("IMG_000")) << file.name.toStdString();
     }
 }
 
@@ -157,7 +157,7 @@ TEST_P(FatCard, DeletedFolder_StillHoldsItsFiles) {
     putBytes(m_card, m_fat.sectorOf(3), dotRows(3, 0) + deletedFat(fatRow("100CANON   ", 4, 0, 0x10)));
     linkFat(m_card, m_fat, 4, 0);
     const CardTable table = tableOf(m_card);
-    ASSERT_EQ(pathsOf(table), "DCIM/_00CANON/IMG_0412.JPG");
+    ASSERT_EQ(pathsOf(table), "DCIM/100CANON/IMG_0412.JPG");
     EXPECT_EQ(table.files.front().state, FileState::Deleted);
 }
 
@@ -192,7 +192,7 @@ TEST_P(FatCard, TablesOfPartitionsGone_EachRootNamesItsOwnFolders) {
     second.first = 22400;
     const CardFile file = fileNamed(table, "BROOT.JPG");
     EXPECT_EQ(file.state, FileState::Lost);
-    EXPECT_EQ(file.runs.front().first, second.sectorOf(20));
+    EXPECT_EQ(file.runs, (std::vector<SectorRun>{{second.sectorOf(20), second.sectorOf(21)}}));
 }
 
 TEST_P(FatCard, FormatWithOtherClusters_OldOnesAreVotedFor) {
@@ -247,13 +247,13 @@ TEST(Fat32Card, ClearedUpperHalf_IsFoundByWhereSuchAFileBegins) {
     MemoryCard card(fat.end());
     formatFat(card, fat);
     putBytes(card, fat.sectorOf(2), deletedFat(fatRow("IMG_0001JPG", 70000 & 0xFFFF, 3000)));
-    EXPECT_EQ(fileNamed(tableOf(card), "_MG_0001.JPG").runsKnownBy, RunsKnownBy::StartOnly);
+    EXPECT_EQ(fileNamed(tableOf(card), "IMG_0001.JPG").runsKnownBy, RunsKnownBy::StartOnly);
     const CardFile file =
-        fileNamed(tableOf(card, {{fat.sectorOf(70000), "JPG"}, {fat.sectorOf(9), "JPG"}}), "_MG_0001.JPG");
+        fileNamed(tableOf(card, {{fat.sectorOf(70000), "JPG"}, {fat.sectorOf(9), "JPG"}}), "IMG_0001.JPG");
     EXPECT_EQ(file.runs, (std::vector<SectorRun>{{fat.sectorOf(70000), fat.sectorOf(70006)}}));
 }
 
-// What begins under the lower half alone is as likely another file, once one has lost its upper half.
+// What begins under the lower half is as likely another file.
 TEST(Fat32Card, ClearedUpperHalf_IsNotGuessedBetweenTwo) {
     const FatPlaces fat = manyClusters();
     MemoryCard card(fat.end());
@@ -263,10 +263,38 @@ TEST(Fat32Card, ClearedUpperHalf_IsNotGuessedBetweenTwo) {
                         fatRow("IMG_0002JPG", 71000 & 0xFFFF, 3000)));
     const CardTable table = tableOf(
         card, {{fat.sectorOf(70000), "JPG"}, {fat.sectorOf(71000), "JPG"}, {fat.sectorOf(5464), "JPG"}});
-    EXPECT_EQ(fileNamed(table, "_MG_0001.JPG").runs.front().first, fat.sectorOf(70000));
-    EXPECT_TRUE(fileNamed(table, "_MG_0002.JPG").runs.empty());
+    EXPECT_EQ(fileNamed(table, "IMG_0001.JPG").runs,
+              (std::vector<SectorRun>{{fat.sectorOf(70000), fat.sectorOf(70006)}}));
+    EXPECT_TRUE(fileNamed(table, "IMG_0002.JPG").runs.empty());
     const CardTable other = tableOf(card, {{fat.sectorOf(71000), "JPG"}, {fat.sectorOf(5464), "JPG"}});
-    EXPECT_EQ(fileNamed(other, "_MG_0002.JPG").runs.front().first, fat.sectorOf(5464));
+    EXPECT_TRUE(fileNamed(other, "IMG_0002.JPG").runs.empty());
+}
+
+TEST(Fat32Card, ClearedUpperHalf_IsNotWhereAFileIsThere) {
+    const FatPlaces fat = manyClusters();
+    MemoryCard card(fat.end());
+    formatFat(card, fat);
+    putBytes(card, fat.sectorOf(2),
+             fatRow("IMG_0001JPG", 70000, 3000) + deletedFat(fatRow("IMG_0002JPG", 4464, 3000)));
+    chainFat(card, fat, {70000, 70001, 70002, 70003, 70004, 70005});
+    const CardTable table = tableOf(card, {{fat.sectorOf(70000), "JPG"}, {fat.sectorOf(4464), "JPG"}});
+    EXPECT_EQ(fileNamed(table, "IMG_0002.JPG").runs,
+              (std::vector<SectorRun>{{fat.sectorOf(4464), fat.sectorOf(4470)}}));
+}
+
+// A text begins in no way of its own: it may lie wherever anything does.
+TEST(Fat32Card, ClearedUpperHalf_OfATextIsWhereAloneSomethingLies) {
+    const FatPlaces fat = manyClusters();
+    MemoryCard card(fat.end());
+    formatFat(card, fat);
+    putBytes(card, fat.sectorOf(2), deletedFat(fatRow("NOTES   TXT", 4464, 600)));
+    put(card.bytes, fat.sectorOf(70000) * 512, std::string("Some words"));
+    const std::vector<SectorRun> there{{fat.sectorOf(70000), fat.sectorOf(70002)}};
+    EXPECT_EQ(fileNamed(tableOf(card), "_OTES.TXT").runs, there);
+    put(card.bytes, fat.sectorOf(4464) * 512, std::string("More words"));
+    EXPECT_TRUE(fileNamed(tableOf(card), "_OTES.TXT").runs.empty());
+    // A photo that was found there is no text.
+    EXPECT_EQ(fileNamed(tableOf(card, {{fat.sectorOf(4464), "JPG"}}), "_OTES.TXT").runs, there);
 }
 
 }  // namespace

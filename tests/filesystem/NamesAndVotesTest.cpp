@@ -5,6 +5,7 @@
 
 #include "filesystem/CleanName.h"
 #include "filesystem/ClusterVote.h"
+#include "filesystem/FirstLetters.h"
 #include "filesystem/PartitionTable.h"
 #include "tests/filesystem/CardImage.h"
 
@@ -32,6 +33,13 @@ TEST(ClusterVote, TruthAmongStraySightings_Wins) {
             sightings.push_back({cluster, random() % 5'000'000});
         }
     }
+    // One that says the same wrong thing again and again, and half of them that agree on another place.
+    for (int again = 0; again < 100; ++again) {
+        sightings.push_back({100, 8193});
+    }
+    for (std::uint32_t i = 0; i < 10; ++i) {
+        sightings.push_back({100 + i * i, 9000 + std::uint64_t{98 + i * i} * 64});
+    }
     const auto places = voteForClusters(sightings, 3, Sightings::Possible);
     ASSERT_TRUE(places);
     EXPECT_EQ(places->clusterSectors, 64u);
@@ -57,6 +65,69 @@ TEST(ClusterVote, FilesOfOneLengthInARow_AreNotTakenForTheNextOnes) {
         }
     }
     EXPECT_FALSE(voteForClusters(sightings, 3, Sightings::Possible));
+}
+
+// Behind such a row lie three of another length: they are in no row that goes on, and tell where both lie.
+TEST(ClusterVote, FilesOfOneLengthInARow_LieWhereOthersSay) {
+    std::vector<ClusterSighting> sightings;
+    for (std::uint32_t entry = 0; entry < 12; ++entry) {
+        for (std::uint64_t file = 0; file < 12; ++file) {
+            sightings.push_back({100 + 160 * entry, 8192 + 64 * (98 + 160 * file)});
+        }
+    }
+    for (const std::uint32_t entry : {0u, 70u, 190u}) {
+        for (const std::uint64_t file : {0u, 70u, 190u}) {
+            sightings.push_back({3000 + entry, 8192 + 64 * (2998 + file)});
+        }
+    }
+    const auto places = voteForClusters(sightings, 3, Sightings::Possible);
+    ASSERT_TRUE(places);
+    EXPECT_EQ(places->firstCluster, 8192u);
+    EXPECT_EQ(places->clusterSectors, 64u);
+    // Two of them may be there by chance.
+    std::erase_if(sightings, [](const ClusterSighting& one) { return one.cluster == 3190; });
+    EXPECT_FALSE(voteForClusters(sightings, 3, Sightings::Possible));
+}
+
+TEST(FirstLetters, NamesOfTheSameSeriesTellIt) {
+    FirstLetters letters;
+    letters.learn("MVC-012F.JPG", 1);
+    letters.learn("B0000001.BMP", 1);
+    letters.learn("C0000001.BMP", 2);
+    letters.learn("README1", 3);
+    EXPECT_EQ(letters.of("_VC-013F.JPG", 1), QChar(u'M'));
+    EXPECT_EQ(letters.of("_VC-013F.JPG", 9), QChar(u'M'));
+    EXPECT_EQ(letters.of("_vc-013f.jpg", 1), QChar(u'm'));
+    EXPECT_EQ(letters.of("_0000007.BMP", 1), QChar(u'B'));
+    EXPECT_EQ(letters.of("_0000007.BMP", 2), QChar(u'C'));
+    EXPECT_EQ(letters.of("_0000007.BMP", 9), std::nullopt);
+    EXPECT_EQ(letters.of("_0000007.JPG", 1), std::nullopt);
+    EXPECT_EQ(letters.of("_EADME2", 3), QChar(u'R'));
+    EXPECT_EQ(letters.of("_EADME", 3), std::nullopt);
+    EXPECT_EQ(letters.of("_OTE1.TXT", 3), std::nullopt);
+    // A number says little in other folders, and nothing where the name is another's.
+    EXPECT_EQ(letters.of("_0000001.BMP", 1), std::nullopt);
+    letters.learn("P1010001.ORF", 1);
+    EXPECT_EQ(letters.of("_1010002.ORF", 1), QChar(u'P'));
+    EXPECT_EQ(letters.of("_1010002.ORF", 2), std::nullopt);
+}
+
+TEST(FirstLetters, StandardsTellItWhereNoOtherNameDoes) {
+    FirstLetters letters;
+    EXPECT_EQ(letters.of("_MG_0412.JPG", 1), QChar(u'I'));
+    EXPECT_EQ(letters.of("_SC01234.ARW", 1), QChar(u'D'));
+    EXPECT_EQ(letters.of("_VI_0001.MOV", 1), QChar(u'M'));
+    EXPECT_EQ(letters.of("_12CANON", 1), QChar(u'1'));
+    EXPECT_EQ(letters.of("_CIM", 1), QChar(u'D'));
+    EXPECT_EQ(letters.of("_0001.MTS", 1), QChar(u'0'));
+    EXPECT_EQ(letters.of("_OTES.TXT", 1), std::nullopt);
+    // Photos with more colours begin with the very sign.
+    letters.learn("_MG_0411.JPG", 1);
+    EXPECT_EQ(letters.of("_MG_0412.JPG", 1), QChar(u'_'));
+    letters.learn("IMG_0410.JPG", 1);
+    EXPECT_EQ(letters.of("_MG_0412.JPG", 1), std::nullopt);
+    letters.learn("200CANON", 2);
+    EXPECT_EQ(letters.of("_00CANON", 1), QChar(u'2'));
 }
 
 Bytes partitionRow(std::uint8_t type, std::uint32_t first, std::uint32_t sectors) {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <limits>
 
 #include "Build.h"
@@ -110,6 +111,20 @@ TEST(ByteView, ReadingOn_TakesFewReadsAndHoppingLittle) {
     EXPECT_LE(hops.bytesRead(), 11 * 2 * ByteView::kHopBytes);
 }
 
+TEST(ByteView, ALookWithinASector_ReadsNoMoreThanThat) {
+    const Bytes bytes = noise(300'000, 1), nothing;
+    JoinedSource source(bytes, nothing);
+    ByteView view(source);
+    std::array<std::uint8_t, 4> word{};
+    EXPECT_TRUE(view.copyWithinSector(1000, word));
+    EXPECT_TRUE(std::equal(word.begin(), word.end(), bytes.begin() + 1000));
+    EXPECT_EQ(source.bytesRead(), 512U);
+    EXPECT_FALSE(view.copyWithinSector(1022, word)) << "two of them lie in the next sector";
+    EXPECT_FALSE(view.copyWithinSector(299'998, word));
+    EXPECT_TRUE(view.copyWithinSector(299'996, word)) << "the last sector is short";
+    EXPECT_FALSE(view.copyWithinSector(kMost - 1, word));
+}
+
 TEST(ByteView, UnreadablePlace_ReadsAsTheEndAndBehindItGoesOn) {
     const Bytes bytes = noise(20'000, 2);
     HoledSource source(bytes, 8192);
@@ -210,6 +225,7 @@ TEST(Dates, Nonsense_IsNoDate) {
         EXPECT_EQ(parseDate(text), std::nullopt) << text;
     EXPECT_EQ(dateFromSecondsSince1904(0), std::nullopt);
     EXPECT_EQ(dateFromTicksSince1601(0), std::nullopt);
+    EXPECT_EQ(dateFromTicksSince1601(11'644'473'600 * 10'000'000), std::nullopt) << "never set";
     EXPECT_EQ(dateFromUnixSeconds(std::numeric_limits<std::int64_t>::max()), std::nullopt);
 }
 

@@ -141,6 +141,25 @@ TEST(CardIndex, PlacesOfFilesThatAreThereAreTheirs) {
     }
 }
 
+// Two are gone that were told to lie there: the later one was written when the earlier had gone.
+TEST(CardIndex, WhatWasWrittenLaterIsNotDisputedByWhatItBeganIn) {
+    CardFile earlier = fileAt(80, 50000, FileState::Deleted, "EARLIER.TXT");
+    CardFile later = fileAt(88, 5000, FileState::Deleted, "LATER.TXT");
+    earlier.created = 1000;
+    later.created = 1001;
+    const CardIndex index(tableOf({earlier, later}));
+    EXPECT_TRUE(index.isDisputed(index.table().files[0]));
+    EXPECT_FALSE(index.isDisputed(index.table().files[1]));
+    // It may have lain in the way of one that began before it, and at the same time nobody was first.
+    earlier.runs = {{90, 98}};
+    const CardIndex behind(tableOf({earlier, later}));
+    EXPECT_TRUE(behind.isDisputed(behind.table().files[1]));
+    earlier.runs = {{80, 184}};
+    earlier.created = 1001;
+    const CardIndex same(tableOf({earlier, later}));
+    EXPECT_TRUE(same.isDisputed(same.table().files[1]));
+}
+
 TEST(CardIndex, MillionsOfClaimsTakeNoLongerThanTheirNumber) {
     std::vector<CardFile> files;
     for (std::uint64_t i = 0; i < 100'000; ++i) {

@@ -86,6 +86,26 @@ TEST_F(CardSaving, SameNamesOfDifferentFilesAreNumbered) {
     EXPECT_EQ(saver.save(item("WAV", "b.WAV", {400, 500}, card)).path, path("MUSIC/SONG (2).WAV"));
 }
 
+TEST_F(CardSaving, CopiesOnTheCardKeepTheirTimes) {
+    for (int sector = 0; sector < 40; ++sector) {
+        const QByteArray bytes = m_wav.mid(sector * 512, 512);
+        m_medium.put(static_cast<std::size_t>(400 + sector),
+                     {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    }
+    const ItemSaver saver(m_folder.path());
+    CardFile copy = cardFile("COPY", "SAME.WAV", 20'000, {400, 440});
+    copy.modified = kChanged + 100;
+    const auto card = indexOf({cardFile("MUSIC", "SONG.WAV", 20'000, {80, 120}), copy});
+    for (const SectorRun run : {SectorRun{80, 300}, SectorRun{400, 500}}) {
+        EXPECT_TRUE(saver.save(item("WAV", "a.WAV", run, card)).saved);
+    }
+    for (const auto& [name, time] :
+         {std::pair("MUSIC/SONG.WAV", kChanged), std::pair("COPY/SAME.WAV", kChanged + 100)}) {
+        EXPECT_EQ(contentsOf(path(name)), m_wav) << name;
+        EXPECT_EQ(QFileInfo(path(name)).lastModified().toSecsSinceEpoch(), time) << name;
+    }
+}
+
 TEST_F(CardSaving, TypesThatShareAHeaderGiveOneFileOfThatName) {
     const ItemSaver saver(m_folder.path());
     const auto card = indexOf({cardFile("MUSIC", "SONG.WAV", 20'000, {80, 120})});

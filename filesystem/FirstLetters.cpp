@@ -1,0 +1,128 @@
+#include "filesystem/FirstLetters.h"
+
+#include <QStringList>
+#include <algorithm>
+
+namespace vantor {
+
+namespace {
+
+constexpr qsizetype kShortStem = 8;
+constexpr qsizetype kShortExtension = 3;
+
+bool isDigit(QChar c) {
+    return c >= u'0' && c <= u'9';
+}
+
+bool isLetter(QChar c) {
+    return c >= u'A' && c <= u'Z';
+}
+
+// The name behind its first letter, with a nought for every digit; "" where it is none of a series: no number
+// of three digits, or of fewer behind four letters or more, ends it, before one letter at most, or begins it
+// as those of cameras' folders do.
+QString seriesOf(const QString& name) {
+    const qsizetype dot = name.indexOf(u'.');
+    const qsizetype stem = dot < 0 ? name.size() : dot;
+    if (stem < 2 || stem > kShortStem || (dot >= 0 && name.size() - dot - 1 > kShortExtension)) {
+        return {};
+    }
+    QString rest = name.mid(1).toUpper();
+    const qsizetype length = stem - 1;
+    qsizetype end = length - (isLetter(rest[length - 1]) ? 1 : 0);
+    qsizetype digits = 0;
+    while (digits < end && isDigit(rest[end - 1 - digits])) {
+        ++digits;
+    }
+    const qsizetype letters = std::count_if(rest.begin(), rest.begin() + length,
+                                            [](QChar c) { return isLetter(c) || c == u'_' || c == u'-'; });
+    const bool isWordAndNumber = digits >= 1 && letters >= 4 && letters + digits == length;
+    const bool isFolder = dot < 0 && stem == kShortStem && isDigit(rest[0]) && isDigit(rest[1]);
+    if (digits < 3 && !isWordAndNumber && !isFolder) {
+        return {};
+    }
+    for (QChar& c : rest) {
+        c = isDigit(c) ? QChar(u'0') : c;
+    }
+    return rest;
+}
+
+bool saysMoreThanNumbers(const QString& series) {
+    return !series.section(u'.', 0, 0).remove(u'0').isEmpty();
+}
+
+// Names that the standards prescribe.
+std::optional<QChar> letterOfStandardName(const QString& name) {
+    static const QStringList names{
+        QStringLiteral("DCIM"),     QStringLiteral("PRIVATE"),   QStringLiteral("AVCHD"),
+        QStringLiteral("BDMV"),     QStringLiteral("STREAM"),    QStringLiteral("CLIPINF"),
+        QStringLiteral("PLAYLIST"), QStringLiteral("INDEX.BDM"), QStringLiteral("MOVIEOBJ.BDM"),
+        QStringLiteral("MP_ROOT"),  QStringLiteral("M4ROOT"),    QStringLiteral("THMBNL"),
+        QStringLiteral("AVF_INFO"), QStringLiteral("CANONMSC"),  QStringLiteral("EOSMISC")};
+    const QString rest = name.mid(1).toUpper();
+    const auto found = std::find_if(names.begin(), names.end(), [&](const QString& whole) {
+        return whole.size() == rest.size() + 1 && whole.endsWith(rest);
+    });
+    return found == names.end() ? std::nullopt : std::optional(found->front());
+}
+
+// Beginnings of names that all cameras of a maker write, and numbers that the standards prescribe.
+std::optional<QChar> letterOfStandardSeries(const QString& series) {
+    static const QHash<QString, QChar> cameras{{QStringLiteral("MG_"), u'I'}, {QStringLiteral("MGP"), u'I'},
+                                               {QStringLiteral("SC_"), u'D'}, {QStringLiteral("SC0"), u'D'},
+                                               {QStringLiteral("SCN"), u'D'}, {QStringLiteral("SCF"), u'D'},
+                                               {QStringLiteral("VI_"), u'M'}, {QStringLiteral("OPR"), u'G'}};
+    static const QStringList streams{QStringLiteral("0000.MTS"), QStringLiteral("0000.CPI"),
+                                     QStringLiteral("0000.MPL")};
+    // A card's folders are numbered from 100 on, its streams from 0 on, and few get as far as to the next
+    // digit.
+    if (streams.contains(series)) {
+        return u'0';
+    }
+    if (series.size() == kShortStem - 1 && !series.contains(u'.') && series.startsWith(u"00")) {
+        return u'1';
+    }
+    const auto camera = cameras.constFind(series.left(3));
+    const bool isPhoto = series.indexOf(u"0000.") == 3 && series.size() == 8 + kShortExtension;
+    return isPhoto && camera != cameras.constEnd() ? std::optional(*camera) : std::nullopt;
+}
+
+template <typename Key>
+void note(QHash<Key, QChar>& letters, const Key& series, QChar letter) {
+    const auto known = letters.constFind(series);
+    const bool agrees = known == letters.constEnd() || *known == letter;
+    letters.insert(series, agrees ? letter : QChar());
+}
+
+}  // namespace
+
+void FirstLetters::learn(const QString& name, std::size_t folder) {
+    const QString series = seriesOf(name);
+    if (!series.isEmpty()) {
+        note(m_onCard, series, name.front().toUpper());
+        note(m_inFolder, {folder, series}, name.front().toUpper());
+        m_taken.insert({folder, name.toUpper()});
+    }
+}
+
+std::optional<QChar> FirstLetters::of(const QString& name, std::size_t folder) const {
+    const QString series = seriesOf(name);
+    auto told = m_inFolder.constFind({folder, series});
+    std::optional<QChar> letter;
+    if (told != m_inFolder.constEnd()) {
+        letter = *told;
+    } else if (const auto onCard = m_onCard.constFind(series);
+               onCard != m_onCard.constEnd() && saysMoreThanNumbers(series)) {
+        letter = *onCard;
+    } else {
+        letter = series.isEmpty() ? letterOfStandardName(name) : letterOfStandardSeries(series);
+    }
+    // Where another has the name, this one may be of another series.
+    if (!letter || letter->isNull() || m_taken.contains({folder, *letter + name.mid(1).toUpper()})) {
+        return std::nullopt;
+    }
+    const bool isSmall = name != name.toUpper() && name == name.toLower();
+    return isSmall ? letter->toLower() : *letter;
+}
+
+}  // namespace vantor
