@@ -178,9 +178,9 @@ ParsedOptions parseOptions(const QStringList& arguments) {
     if (options.resume && media.isEmpty()) {
         return parsed;
     }
-    if (media.size() != 1) {
-        return badUsage(media.isEmpty() ? QObject::tr("No medium given.")
-                                        : QObject::tr("More than one medium given."));
+    if (media.size() != 1 || media.first().isEmpty()) {
+        return badUsage(media.size() < 2 ? QObject::tr("No medium given.")
+                                         : QObject::tr("More than one medium given."));
     }
     options.medium = media.first();
     return parsed;

@@ -42,7 +42,7 @@ std::optional<CivilTime> parseDate(std::string_view text) {
 
 std::optional<CivilTime> dateFromUnixSeconds(std::int64_t seconds) {
     constexpr std::int64_t kLatest = 7'258'118'400;  // 2200-01-01
-    if (seconds < 0 || seconds >= kLatest)
+    if (seconds <= 0 || seconds >= kLatest)          // 0 is what a clock says that was never set
         return std::nullopt;
     const std::chrono::sys_seconds moment{std::chrono::seconds(seconds)};
     const auto day = std::chrono::floor<std::chrono::days>(moment);

@@ -35,7 +35,10 @@ ContentCheck SampleCensus::outcome(bool all, std::uint64_t dataBytes) const {
     // Tables and codings of which nothing is as it should be were not understood.
     if ((m_outside != 0 && m_inside != 0) || (m_broken != 0 && m_sound != 0))
         return {ContentCheck::Outcome::Broken};
-    const bool enough = m_sound != 0 && (!all || isEnough(m_widest, dataBytes));
+    // Frames of sound are short, or a cluster of another's fits into one unseen.
+    constexpr std::uint64_t kCluster = 4096;
+    const bool seen = !m_track.isSound() || m_widest <= kCluster;
+    const bool enough = m_sound != 0 && seen && (!all || isEnough(m_widest, dataBytes));
     return {enough ? ContentCheck::Outcome::Sound : ContentCheck::Outcome::Silent};
 }
 

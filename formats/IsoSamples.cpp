@@ -97,6 +97,23 @@ ContentCheck TrackCheck::check() {
     return m_census.outcome(m_all, m_dataBytes);
 }
 
+// Whether the boxes of an index follow each other to the end of the one they stand in, where it holds tracks.
+// An index of which a part is another's would leave tracks out unseen.
+bool comesOutEven(ByteView& view, const IsoBox& box, int depth) {
+    constexpr std::array<std::string_view, 5> kLevels = {"moov", "trak", "mdia", "minf", "stbl"};
+    constexpr std::uint64_t kMostPadding = 8;
+    const auto level = static_cast<std::size_t>(depth);
+    if (level == kLevels.size() || box.text() != kLevels.at(level))
+        return true;
+    bool even = true;
+    std::uint64_t behind = box.body;
+    forIsoBoxes(view, box.body, box.end, [&](const IsoBox& inner) {
+        even = even && comesOutEven(view, inner, depth + 1);
+        behind = inner.end;
+    });
+    return even && box.end - behind <= kMostPadding;
+}
+
 }  // namespace
 
 ContentCheck checkSamples(ByteView& view, const IsoBox& movie, std::span<const DataPlace> data) {
@@ -120,7 +137,7 @@ ContentCheck checkSamples(ByteView& view, const IsoBox& movie, std::span<const D
             all = check;
     });
     // A stream of pictures that could not be judged may be anything.
-    if (all.outcome == ContentCheck::Outcome::Sound && !everyVideo)
+    if (all.outcome == ContentCheck::Outcome::Sound && (!everyVideo || !comesOutEven(view, movie, 0)))
         all.outcome = ContentCheck::Outcome::Silent;
     return all;
 }

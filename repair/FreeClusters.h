@@ -29,6 +29,11 @@ class FreeClusters {
 
     // Explained by a whole file.
     void take(const SectorRun& run);
+    void takeCluster(std::uint64_t cluster) {
+        if (cluster < count()) {
+            m_taken[static_cast<std::size_t>(cluster)] = true;
+        }
+    }
 
     std::uint64_t count() const { return m_taken.size(); }
     bool isFree(std::uint64_t cluster) const { return cluster < count() && !m_taken[cluster]; }

@@ -82,11 +82,14 @@ class ItemMending {
     struct WithoutIndex {
         const MendableItem* item = nullptr;
         DataPlace data;
+        bool ownGuide = false;  // what stands in front of the data tells all that is needed
     };
 
     CompletionSum complete(const Kind& kind, const std::vector<MendableItem>& items);
     std::vector<WithoutIndex> sortOut(const std::vector<MendableItem>& items);
     bool repair(const WithoutIndex& broken, const Refused& refused);
+    std::optional<RepairedMovie> repairByItself(const WithoutIndex& broken, ByteSource& bytes,
+                                                const WalkLimits& limits);
     ItemSource sourceOf(const MendableItem& item) const;
 
     SectorReader& m_medium;

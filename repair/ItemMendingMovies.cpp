@@ -1,8 +1,24 @@
 // Movies without an index: the whole ones tell how their camera writes.
+#include "repair/AviRepair.h"
 #include "repair/ItemMending.h"
 #include "results/MediumBytes.h"
 
 namespace vantor {
+
+namespace {
+
+Mend mendOfRepaired(RepairedMovie repaired, const QString& like) {
+    Mend mend;
+    mend.kind = MendKind::Repaired;
+    mend.pictures = repaired.pictures;
+    mend.pictureSeconds = repaired.pictureSeconds;
+    mend.soundSeconds = repaired.soundSeconds;
+    mend.like = like;
+    mend.twin = std::move(repaired);
+    return mend;
+}
+
+}  // namespace
 
 bool ItemMending::useReference(ByteSource& source, const QString& name) {
     auto movie = readReference(source);
@@ -20,12 +36,14 @@ ItemSource ItemMending::sourceOf(const MendableItem& item) const {
     return source;
 }
 
-// Whole movies to the shelf; what has no index is given back. Several types may share an item.
+// Whole movies to the shelf; what has no index is given back, of AVI whatever is not whole. Several types may
+// share an item.
 std::vector<ItemMending::WithoutIndex> ItemMending::sortOut(const std::vector<MendableItem>& items) {
     std::vector<WithoutIndex> broken;
     std::set<std::uint64_t> seen;
     for (const MendableItem& item : items) {
-        const bool fresh = isMovieOfBoxes(item.type) && !item.carved.runs.empty() &&
+        const bool isAvi = isMovieOfChunks(item.type) && !item.complete;
+        const bool fresh = (isAvi || isMovieOfBoxes(item.type)) && !item.carved.runs.empty() &&
                            !m_completed.contains(item.carved.runs.front().first) &&
                            seen.insert(item.carved.runs.front().first).second;
         if (!fresh || m_stop != 0) {
@@ -33,8 +51,14 @@ std::vector<ItemMending::WithoutIndex> ItemMending::sortOut(const std::vector<Me
         }
         const ItemSource source = sourceOf(item);
         MediumBytes bytes(source, m_kept);
-        if (const auto data = dataWithoutIndex(bytes)) {
-            broken.push_back({&item, *data});
+        if (isAvi) {
+            if (isAviWithoutIndex(bytes)) {
+                broken.push_back({&item, {}, true});
+            }
+        } else if (const auto data = dataWithoutIndex(bytes)) {
+            broken.push_back({&item, *data, false});
+        } else if (const auto cut = item.complete ? std::nullopt : dataBehindIndex(bytes)) {
+            broken.push_back({&item, *cut, true});
         } else if (!m_named) {
             if (auto movie = readReference(bytes)) {
                 m_shelf.add({item.name, item.carved.runs.front().first, std::move(*movie)});
@@ -62,6 +86,17 @@ ItemMending::RepairSum ItemMending::repairMovies(const std::vector<MendableItem>
     return sum;
 }
 
+// AVI movies, and those that were cut off behind their own index. That may be of an earlier movie: then
+// nothing stands where it says.
+std::optional<RepairedMovie> ItemMending::repairByItself(const WithoutIndex& broken, ByteSource& bytes,
+                                                         const WalkLimits& limits) {
+    if (isMovieOfChunks(broken.item->type)) {
+        return repairAvi(bytes, limits);
+    }
+    const auto guide = broken.ownGuide ? readReference(bytes) : std::nullopt;
+    return guide ? repairMovie(bytes, broken.data, *guide, m_splitter, limits) : std::nullopt;
+}
+
 bool ItemMending::repair(const WithoutIndex& broken, const Refused& refused) {
     const MendableItem& item = *broken.item;
     const ItemSource source = sourceOf(item);
@@ -72,26 +107,25 @@ bool ItemMending::repair(const WithoutIndex& broken, const Refused& refused) {
         }
         return false;
     };
+    WalkLimits limits;
+    limits.stop = &m_stop;
+    if (auto repaired = repairByItself(broken, bytes, limits); repaired && m_stop == 0) {
+        return m_take(item, mendOfRepaired(std::move(*repaired), item.name));
+    }
+    if (isMovieOfChunks(item.type)) {
+        return refuse(Why::NoPicture);
+    }
     const ReferenceShelf::Kept* const reference =
         m_named ? m_named.get()
                 : m_shelf.choose(bytes, broken.data, item.carved.runs.front().first, m_splitter, &m_stop);
     if (reference == nullptr) {
         return refuse(Why::NoReference);
     }
-    WalkLimits limits;
-    limits.stop = &m_stop;
     auto repaired = repairMovie(bytes, broken.data, reference->movie, m_splitter, limits);
     if (!repaired || m_stop != 0) {
         return refuse(Why::NoPicture);
     }
-    Mend mend;
-    mend.kind = MendKind::Repaired;
-    mend.pictures = repaired->pictures;
-    mend.pictureSeconds = repaired->pictureSeconds;
-    mend.soundSeconds = repaired->soundSeconds;
-    mend.like = reference->name;
-    mend.twin = std::move(*repaired);
-    return m_take(item, std::move(mend));
+    return m_take(item, mendOfRepaired(std::move(*repaired), reference->name));
 }
 
 }  // namespace vantor

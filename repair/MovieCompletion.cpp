@@ -58,6 +58,26 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
         }
     }
     std::vector<std::optional<FoundMovie>> found(broken.size());
+    // Of each grid and movie: what is surely the movie's is none of the others'.
+    std::vector<std::vector<std::vector<std::uint64_t>>> anchors;
+    for (const FreeClusters& grid : grids) {
+        auto& ofGrid = anchors.emplace_back(broken.size());
+        for (std::size_t i = 0; i < broken.size() && broken.size() > 1 && m_stop == 0; ++i) {
+            const auto first = grid.beginningAt(broken[i]);
+            if (first && grid.isFree(*first)) {
+                ofGrid[i] = MoviePieces(blocks, grid, indexes, m_stop).anchorsOf(*first);
+            }
+        }
+    }
+    const auto anchorsOfOthers = [&](std::size_t g, std::size_t i) {
+        std::vector<std::uint64_t> all;
+        for (std::size_t other = 0; other < broken.size(); ++other) {
+            if (other != i && !(found[other] && found[other]->settled)) {
+                all.insert(all.end(), anchors[g][other].begin(), anchors[g][other].end());
+            }
+        }
+        return all;
+    };
     const auto isProved = [&](FoundMovie& movie) {
         if (!isWhole(movie.movie) || !movie.movie.telling) {
             return false;
@@ -98,13 +118,22 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
         for (std::size_t g = 0; g < grids.size() && !(found[i] && leftNoChoice(*found[i])) && m_stop == 0;
              ++g) {
             const auto first = grids[g].beginningAt(broken[i]);
-            MoviePieces pieces(blocks, grids[g], indexes, m_stop);
-            auto movie = first && grids[g].isFree(*first) ? pieces.assemble(*first) : std::nullopt;
+            if (!first || !grids[g].isFree(*first)) {
+                continue;
+            }
             const auto worth = [](const PiecedMovie& each) {
                 return std::pair(each.wholeSamples, ~each.guessed);
             };
-            if (movie && (!found[i] || worth(*movie) > worth(found[i]->movie))) {
-                found[i] = FoundMovie{std::move(*movie), g, false, {}};
+            const std::vector<std::uint64_t> others = anchorsOfOthers(g, i);
+            for (const bool alone : {false, true}) {
+                if (alone && (others.empty() || (found[i] && isWhole(found[i]->movie)))) {
+                    break;
+                }
+                auto movie = MoviePieces(blocks, grids[g], indexes, m_stop)
+                                 .assemble(*first, alone ? std::vector<std::uint64_t>() : others);
+                if (movie && (!found[i] || worth(*movie) > worth(found[i]->movie))) {
+                    found[i] = FoundMovie{std::move(*movie), g, false, {}};
+                }
             }
         }
     };

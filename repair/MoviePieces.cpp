@@ -10,11 +10,12 @@ namespace vantor {
 namespace {
 
 constexpr std::uint64_t kNear = 4096;  // clusters
+constexpr std::uint64_t kVeryNear = 64;
 constexpr unsigned kMostFarSearches = 8;
 
 }  // namespace
 
-std::optional<PiecedMovie> MoviePieces::assemble(std::uint64_t firstCluster) {
+void MoviePieces::begin() {
     m_layout = {};
     m_samples.clear();
     m_places.clear();
@@ -22,6 +23,34 @@ std::optional<PiecedMovie> MoviePieces::assemble(std::uint64_t firstCluster) {
     m_step = 1;
     m_guessed = 0;
     m_farSearches = 0;
+}
+
+std::vector<std::uint64_t> MoviePieces::anchorsOf(std::uint64_t firstCluster) {
+    begin();
+    std::vector<std::uint64_t> anchors;
+    if (!readHead(firstCluster) || !placeAnchors()) {
+        return anchors;
+    }
+    for (const PromisedSample& sample : m_samples) {
+        const std::uint64_t number = sample.at / m_free.clusterBytes();
+        if (number >= m_places.size()) {
+            break;  // an empty one behind the last byte
+        }
+        const std::uint64_t cluster = m_places[static_cast<std::size_t>(number)];
+        if (sample.tellsLength() && cluster != kUnplaced && (anchors.empty() || anchors.back() != cluster) &&
+            likeness(number, cluster) == Likeness::Certain) {
+            anchors.push_back(cluster);
+        }
+    }
+    return anchors;
+}
+
+std::optional<PiecedMovie> MoviePieces::assemble(std::uint64_t firstCluster,
+                                                 std::span<const std::uint64_t> others) {
+    begin();
+    for (const std::uint64_t cluster : others) {
+        m_left.takeCluster(cluster);
+    }
     if (!readHead(firstCluster) || !placeSamples() || m_stop != 0) {
         return std::nullopt;
     }
@@ -35,8 +64,7 @@ std::optional<PiecedMovie> MoviePieces::assemble(std::uint64_t firstCluster) {
     movie.decodable = true;
     for (const PromisedSample& sample : m_samples) {
         if (sample.tells()) {
-            movie.decodable =
-                movie.decodable && (sample.coding == Coding::Avc || sample.coding == Coding::Hevc);
+            movie.decodable = movie.decodable && sample.coding == Coding::Avc;
             ++movie.samples;
             movie.wholeSamples += isWholeSample(view, sample) ? 1 : 0;
         }
@@ -82,7 +110,7 @@ Likeness MoviePieces::likeness(std::uint64_t number, std::uint64_t cluster) {
         if (one == Likeness::Contradicted) {
             return one;
         }
-        all = one == Likeness::Certain ? one : all;
+        all = one == Likeness::Likely && all == one ? Likeness::Certain : std::max(all, one);
     }
     return all;
 }
@@ -92,9 +120,10 @@ void MoviePieces::place(std::uint64_t number, std::uint64_t cluster) {
     m_used[static_cast<std::size_t>(cluster)] = true;
 }
 
-bool MoviePieces::accept(std::uint64_t number, std::uint64_t cluster) {
-    if (!m_free.isFree(cluster) || m_used[static_cast<std::size_t>(cluster)] ||
-        likeness(number, cluster) != Likeness::Certain) {
+// `least`: of the likeness.
+bool MoviePieces::accept(std::uint64_t number, std::uint64_t cluster, Likeness least) {
+    if (!m_left.isFree(cluster) || m_used[static_cast<std::size_t>(cluster)] ||
+        likeness(number, cluster) < least) {
         return false;
     }
     place(number, cluster);
@@ -106,12 +135,12 @@ bool MoviePieces::placeAnchor(std::uint64_t number, std::uint64_t known) {
     const std::uint64_t last = m_places[static_cast<std::size_t>(known)];
     const std::uint64_t apart = number - known;
     const auto expected = m_free.ahead(last, m_step * apart);
-    if (expected && accept(number, *expected)) {
+    if (expected && accept(number, *expected, Likeness::Likely)) {
         return true;
     }
     std::optional<std::uint64_t> next = last;
     for (std::uint64_t steps = 1; steps <= kNear && (next = m_free.ahead(*next, 1)); ++steps) {
-        if (accept(number, *next)) {
+        if (accept(number, *next, steps <= kVeryNear ? Likeness::Likely : Likeness::Certain)) {
             if (steps % apart == 0) {
                 m_step = steps / apart;
             }
@@ -122,7 +151,7 @@ bool MoviePieces::placeAnchor(std::uint64_t number, std::uint64_t known) {
         return false;
     }
     for (std::uint64_t cluster = 0; cluster < m_free.count() && m_stop == 0; ++cluster) {
-        if (accept(number, cluster)) {
+        if (accept(number, cluster, Likeness::Certain)) {
             m_step = 1;
             return true;
         }
@@ -130,7 +159,7 @@ bool MoviePieces::placeAnchor(std::uint64_t number, std::uint64_t known) {
     return false;
 }
 
-bool MoviePieces::placeSamples() {
+bool MoviePieces::placeAnchors() {
     std::uint64_t known = 0;
     std::size_t missed = 0;
     for (std::uint64_t number = 1; number < m_places.size() && m_stop == 0; ++number) {
@@ -150,6 +179,13 @@ bool MoviePieces::placeSamples() {
         } else if (++missed > m_places.size() / 50 + 2) {
             return false;
         }
+    }
+    return true;
+}
+
+bool MoviePieces::placeSamples() {
+    if (!placeAnchors()) {
+        return false;
     }
     fillBetween();
     return std::find(m_places.begin(), m_places.end(), kUnplaced) == m_places.end();

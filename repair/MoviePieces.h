@@ -4,6 +4,7 @@
 #include <atomic>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "repair/ClusterFile.h"
@@ -26,15 +27,19 @@ struct PiecedMovie {
     std::size_t guessed = 0;       // clusters for which there was more than one choice
 };
 
-// Finds where the clusters of one movie lie. Any one thread.
+// Finds where the clusters of one movie lie: an object a movie. Any one thread.
 class MoviePieces {
   public:
     MoviePieces(MediumBlocks& medium, const FreeClusters& free, const std::vector<std::uint64_t>& indexPlaces,
                 const std::atomic<int>& stop)
-        : m_medium(medium), m_free(free), m_indexPlaces(indexPlaces), m_stop(stop) {}
+        : m_medium(medium), m_free(free), m_left(free), m_indexPlaces(indexPlaces), m_stop(stop) {}
 
     // The movie that begins in the cluster; nothing where no index of it or too little of its data is found.
-    std::optional<PiecedMovie> assemble(std::uint64_t firstCluster);
+    // `others`: clusters that belong to other movies.
+    std::optional<PiecedMovie> assemble(std::uint64_t firstCluster,
+                                        std::span<const std::uint64_t> others = {});
+    // The clusters that are surely this movie's: in them a sample begins that tells its length.
+    std::vector<std::uint64_t> anchorsOf(std::uint64_t firstCluster);
 
   private:
     static constexpr std::uint64_t kUnplaced = ~std::uint64_t{0};
@@ -47,6 +52,7 @@ class MoviePieces {
         std::uint64_t told = 0;  // bytes of an AVI movie by its own account
     };
 
+    void begin();
     bool readHead(std::uint64_t firstCluster);
     bool readChunkHead(std::uint64_t firstCluster, ByteView& view);
     bool findIndexBehind();
@@ -57,12 +63,14 @@ class MoviePieces {
     bool takeIndex(const std::vector<std::uint64_t>& clusters);
 
     bool placeSamples();
+    bool placeAnchors();
     bool isTelling() const;
     Likeness likeness(std::uint64_t number, std::uint64_t cluster);
     bool placeAnchor(std::uint64_t number, std::uint64_t known);
-    bool accept(std::uint64_t number, std::uint64_t cluster);
+    bool accept(std::uint64_t number, std::uint64_t cluster, Likeness least);
     void place(std::uint64_t number, std::uint64_t cluster);
     void fillBetween();
+    void passOverPhotos(std::uint64_t before, std::uint64_t end);
     void fillRow(std::uint64_t before, std::uint64_t end);
     bool lay(std::uint64_t before, std::uint64_t end, std::uint64_t ahead, std::uint64_t step);
     void lift(std::uint64_t before, std::uint64_t end);
@@ -74,6 +82,7 @@ class MoviePieces {
 
     MediumBlocks& m_medium;
     const FreeClusters& m_free;
+    FreeClusters m_left;  // of these, what is not known to belong elsewhere
     const std::vector<std::uint64_t>& m_indexPlaces;
     const std::atomic<int>& m_stop;
 

@@ -5,6 +5,56 @@
 
 namespace vantor {
 
+namespace {
+
+// Coded units of a photo: every 0xFF is followed by zero or is part of a restart mark, and there are too many
+// of them for chance. Source: ITU-T T.81, F.1.2.3.
+bool isOfAPhoto(std::span<const std::uint8_t> bytes) {
+    constexpr unsigned kTelling = 6;
+    unsigned stuffed = 0;
+    for (std::size_t i = 0; i + 1 < bytes.size(); ++i) {
+        if (bytes[i] != 0xFF) {
+            continue;
+        }
+        const std::uint8_t next = bytes[i + 1];
+        if (next != 0 && (next < 0xD0 || next > 0xD7)) {
+            return next == 0xD9 && stuffed >= kTelling;
+        }
+        stuffed += next == 0 ? 1 : 0;
+    }
+    return stuffed >= kTelling;
+}
+
+}  // namespace
+
+// What lies between two anchors of a movie that holds no JPEG pictures is not of it where it is of a photo.
+void MoviePieces::passOverPhotos(std::uint64_t before, std::uint64_t end) {
+    constexpr std::uint64_t kFarthest = 8192;  // clusters
+    const bool hasPhotos = std::any_of(m_samples.begin(), m_samples.end(), [](const PromisedSample& sample) {
+        return sample.isChunk() || sample.coding == Coding::Jpeg;
+    });
+    const std::uint64_t from = m_places[static_cast<std::size_t>(before)] + 1;
+    const bool open = end >= m_places.size();
+    const std::uint64_t to = open ? m_free.count() : m_places[static_cast<std::size_t>(end)];
+    if (hasPhotos || to <= from || (!open && to - from > kFarthest)) {
+        return;
+    }
+    std::uint64_t left = end - before - 1;
+    std::vector<std::uint8_t> content(static_cast<std::size_t>(m_free.clusterBytes()));
+    for (std::uint64_t cluster = from; cluster < std::min(to, from + kFarthest) && (!open || left != 0);
+         ++cluster) {
+        if (!m_left.isFree(cluster) || m_used[static_cast<std::size_t>(cluster)]) {
+            continue;
+        }
+        m_medium.read(m_free.firstSectorOf(cluster) * kSectorBytes, content);
+        if (isOfAPhoto(content)) {
+            m_left.takeCluster(cluster);
+        } else {
+            --left;
+        }
+    }
+}
+
 void MoviePieces::fillBetween() {
     for (std::size_t number = 1; number < m_places.size();) {
         if (m_places[number] != kUnplaced) {
@@ -26,10 +76,11 @@ void MoviePieces::fillBetween() {
 bool MoviePieces::lay(std::uint64_t before, std::uint64_t end, std::uint64_t ahead, std::uint64_t step) {
     for (std::uint64_t number = before + 1; number < end; ++number) {
         const std::uint64_t steps = number - before;
-        const auto cluster = steps <= ahead
-                                 ? m_free.ahead(m_places[static_cast<std::size_t>(number - 1)], step)
-                                 : m_free.back(m_places[static_cast<std::size_t>(end)], end - number);
-        if (!cluster || m_used[static_cast<std::size_t>(*cluster)]) {
+        const auto cluster =
+            steps <= ahead
+                ? (step == 1 ? m_left : m_free).ahead(m_places[static_cast<std::size_t>(number - 1)], step)
+                : m_left.back(m_places[static_cast<std::size_t>(end)], end - number);
+        if (!cluster || !m_left.isFree(*cluster) || m_used[static_cast<std::size_t>(*cluster)]) {
             lift(before, number);
             return false;
         }
@@ -74,6 +125,7 @@ void MoviePieces::fillRow(std::uint64_t before, std::uint64_t end) {
         std::uint64_t step = 1;
     };
     constexpr std::uint64_t kMostWays = 64;
+    passOverPhotos(before, end);
     const std::uint64_t missing = end - before - 1;
     const bool open = end >= m_places.size();
     const std::uint64_t apart = open ? 0
@@ -85,11 +137,16 @@ void MoviePieces::fillRow(std::uint64_t before, std::uint64_t end) {
     } else if (apart > missing && apart % (missing + 1) == 0) {
         ways.push_back({missing, apart / (missing + 1)});
     }
+    // The head of a movie that was written last lies behind it: what follows joins what it leads up to.
+    if (!open && m_places[static_cast<std::size_t>(end)] < m_places[static_cast<std::size_t>(before)]) {
+        ways.push_back({0, 1});
+    }
     ways.push_back({missing, 1});
     for (std::uint64_t back = 1; !open && back <= std::min(missing, kMostWays); ++back) {
         ways.push_back({missing - back, 1});
     }
-    const bool onlyWay = apart == missing + 1;
+    const bool onlyWay = !open && m_left.stepsBetween(m_places[static_cast<std::size_t>(before)],
+                                                      m_places[static_cast<std::size_t>(end)]) == missing + 1;
     std::optional<Way> best;
     std::size_t fewest = 0;
     for (const Way& way : ways) {

@@ -196,6 +196,29 @@ std::optional<DataPlace> dataWithoutIndex(ByteSource& movie) {
     return data;
 }
 
+std::optional<DataPlace> dataBehindIndex(ByteSource& movie) {
+    ByteView view(movie);
+    std::uint64_t at = 0;
+    bool indexed = false;
+    for (int i = 0; i < kMostOuterBoxes; ++i) {
+        const auto box = readIsoBox(view, at);
+        if (!box || box->text() == "moof" || (i == 0 && box->text() != "ftyp")) {
+            break;
+        }
+        if (box->text() == "mdat") {
+            return indexed && !box->toEnd && box->end > box->body
+                       ? std::optional(DataPlace{box->body, std::min(box->end, view.size())})
+                       : std::nullopt;
+        }
+        indexed = indexed || box->text() == "moov";
+        if (box->toEnd || box->end >= view.size()) {
+            break;
+        }
+        at = box->end;
+    }
+    return std::nullopt;
+}
+
 std::optional<RepairedMovie> repairMovie(ByteSource& movie, DataPlace data, const ReferenceMovie& reference,
                                          SoundSplitter& splitter, const WalkLimits& limits) {
     ByteView view(movie);

@@ -28,6 +28,9 @@ struct RepairedMovie : Twin {
 // the movie itself says that it ends, or the end of the source.
 std::optional<DataPlace> dataWithoutIndex(ByteSource& movie);
 
+// Where the data of a movie lies behind its index; nothing for other movies. The data may be cut off.
+std::optional<DataPlace> dataBehindIndex(ByteSource& movie);
+
 // The movie's pictures and sound, found with what the reference tells of the camera. Nothing where no picture
 // is found. The sound needs a helper; without one the movie is silent.
 std::optional<RepairedMovie> repairMovie(ByteSource& movie, DataPlace data, const ReferenceMovie& reference,

@@ -21,6 +21,10 @@ struct PromisedSample {
     bool isChunk() const { return chunk[0] != 0; }
     // Whether anything can be said of bytes that may be it.
     bool tells() const { return coding != Coding::Unknown || isChunk(); }
+    // Whether its first bytes tell how long it is.
+    bool tellsLength() const {
+        return coding == Coding::Avc || coding == Coding::Hevc || coding == Coding::ProRes || isChunk();
+    }
 };
 
 // All samples of all tracks in the order of the file; nothing where the index is broken, points outside
@@ -36,6 +40,7 @@ std::optional<std::vector<PromisedSample>> promisedChunks(ByteSource& file, cons
 enum class Likeness {
     Contradicted,  // not the sample
     Possible,      // nothing that could be checked
+    Likely,        // chance does it once in tens of thousands
     Certain,       // chance is out of the question
 };
 // Whether the sample may begin with these bytes; all of it is not needed.

@@ -56,23 +56,29 @@ std::vector<std::optional<Assembly>> PhotoCompletion::run(std::span<const std::u
     m_progress.looked = 0;
     m_progress.of = broken.size();
     std::vector<std::uint64_t> unitsLeft(broken.size(), PhotoPieces::kMostUnits);
-    // What is put together may uncover where another one was cut.
+    std::vector<std::uint64_t> allowed(broken.size());
     for (FreeClusters& grid : grids) {
         ClusterKinds kinds(blocks, grid);
+        // Few files may all begin on a wider grid than theirs by chance: that one must not use everything up.
+        for (std::size_t i = 0; i < broken.size(); ++i) {
+            allowed[i] = &grid == &grids.back() ? unitsLeft[i] : unitsLeft[i] / 2;
+            unitsLeft[i] -= allowed[i];
+        }
+        // What is put together may uncover where another one was cut.
         for (bool again = true; again && m_stop == 0;) {
             again = false;
             for (std::size_t i = 0; i < broken.size() && m_stop == 0; ++i) {
                 m_progress.looked = std::max<std::size_t>(m_progress.looked, i + 1);
                 const auto first = assemblies[i] ? std::nullopt : grid.beginningAt(broken[i]);
-                if (!first || !grid.isFree(*first) || unitsLeft[i] == 0) {
+                if (!first || !grid.isFree(*first) || allowed[i] == 0) {
                     continue;
                 }
                 std::optional<FoundPhoto> found;
-                if (auto photo = PhotoPieces(blocks, grid, kinds, m_stop).assemble(*first, unitsLeft[i])) {
+                if (auto photo = PhotoPieces(blocks, grid, kinds, m_stop).assemble(*first, allowed[i])) {
                     const bool proved = photo->joinsShow && isWholeFile(blocks, grid, *photo);
                     found = FoundPhoto{std::move(photo->clusters), photo->bytes, proved};
-                } else if (auto scans = ProgressivePieces(blocks, grid, kinds, m_stop)
-                                            .assemble(*first, unitsLeft[i])) {
+                } else if (auto scans =
+                               ProgressivePieces(blocks, grid, kinds, m_stop).assemble(*first, allowed[i])) {
                     const bool proved = scans->joinsShow && isWholeFile(blocks, grid, *scans);
                     found = FoundPhoto{std::move(scans->clusters), scans->bytes, proved};
                 } else if (auto png = PngPieces(blocks, grid, m_stop).assemble(*first)) {
@@ -97,6 +103,9 @@ std::vector<std::optional<Assembly>> PhotoCompletion::run(std::span<const std::u
                     tell(i, *assemblies[i]);
                 }
             }
+        }
+        for (std::size_t i = 0; i < broken.size(); ++i) {
+            unitsLeft[i] += allowed[i];
         }
     }
     return assemblies;

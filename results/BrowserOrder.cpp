@@ -121,6 +121,7 @@ bool BrowserWish::needsSoundness() const {
 QList<int> browserOrder(int count, const BrowserWish& wish, const std::function<ItemFacts(int)>& factsOf,
                         const std::function<bool(int)>& admits) {
     std::vector<std::pair<SortKey, int>> chosen;
+    chosen.reserve(static_cast<std::size_t>(count));
     for (int place = 0; place < count; ++place) {
         if (admits && !admits(place)) {
             continue;
@@ -130,7 +131,10 @@ QList<int> browserOrder(int count, const BrowserWish& wish, const std::function<
             chosen.push_back({wish.sort == SortItems::AsFound ? SortKey{} : keyOf(facts, wish.sort), place});
         }
     }
-    std::sort(chosen.begin(), chosen.end());
+    // Items are found in the order of their names and places, mostly.
+    if (!std::is_sorted(chosen.cbegin(), chosen.cend())) {
+        std::sort(chosen.begin(), chosen.end());
+    }
     if (wish.reversed) {
         const auto known = std::partition_point(chosen.begin(), chosen.end(), [](const auto& item) {
             return std::get<0>(item.first) < kNotKnown - 1;

@@ -66,6 +66,10 @@ QString searchEndHeadline(const SearchEnd& end) {
     return QObject::tr("%1 ended with a read error at %2.").arg(search(end), place(end));
 }
 
+QString goOnWords() {
+    return QObject::tr("Press “Go On” to search the rest.");
+}
+
 QString searchEndAdvice(const SearchEnd& end) {
     QStringList sentences;
     if (end.thorough && end.outcome != PassOutcome::Completed) {
@@ -75,10 +79,7 @@ QString searchEndAdvice(const SearchEnd& end) {
         sentences << QObject::tr("Put the medium back in.");
     }
     if (end.canGoOn()) {
-        // As it is to be typed.
-        sentences << QObject::tr(
-                         "To go on from there, go back, choose “Sector Range” and start at sector %1.")
-                         .arg(end.goOnAt);
+        sentences << goOnWords();
     }
     return sentences.join(u' ');
 }

@@ -151,7 +151,7 @@ class ControllerState {
     std::shared_ptr<std::atomic<bool>> m_leaving = std::make_shared<std::atomic<bool>>(false);
     std::unique_ptr<SearchMemory> m_memory;
     KeptSearchBar* m_keptBar = nullptr;
-    QFrame* m_searchOptions = nullptr;
+    QWidget* m_searchOptions = nullptr;
     KeepingBox* m_keepingBox = nullptr;
     QPushButton* m_goOnButton = nullptr;
     QTimer m_cardBackLater;                 // runs while something holds up the look for a card put back

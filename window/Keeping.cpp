@@ -1,7 +1,7 @@
 // Searches that are remembered: what is asked for, kept of each, and marked again. GoingOn.cpp goes on with
 // them.
 #include <QCheckBox>
-#include <QFrame>
+#include <QGroupBox>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <chrono>
@@ -12,6 +12,7 @@
 #include "window/keeping/KeepingBox.h"
 #include "window/keeping/KeptSearchBar.h"
 #include "window/widgets/Alerts.h"
+#include "window/widgets/Theme.h"
 
 namespace vantor {
 
@@ -28,16 +29,19 @@ void MyTableController::setUpKeeping() {
     bodyLayout->insertWidget(bodyLayout->indexOf(mediaScreen), m_keptBar);
     m_keptBar->hide();
     // One card with a line for each thing that may be wanted of a search.
-    m_searchOptions = new QFrame(body);
+    m_searchOptions = new QGroupBox(tr("Search options"), body);
     m_searchOptions->setObjectName(QStringLiteral("searchOptions"));
-    m_searchOptions->setProperty("role", QStringLiteral("card"));
     bodyLayout->insertWidget(bodyLayout->indexOf(thoroughBox), m_searchOptions);
     m_keepingBox = new KeepingBox(m_searchOptions);
     auto* const options = new QVBoxLayout(m_searchOptions);
-    options->setContentsMargins(0, 0, 0, 0);
-    options->setSpacing(0);
+    options->setContentsMargins(0, theme::kUnit, 0, theme::kUnit);
+    options->setSpacing(KeepingBox::kOptionGap);
     options->addWidget(thoroughBox);
     options->addWidget(m_keepingBox);
+    thoroughBox->setMinimumHeight(m_keepingBox->lineHeight());
+    // The room that is left stays below.
+    bodyLayout->setStretchFactor(m_searchOptions, 1);
+    bodyLayout->setAlignment(m_searchOptions, Qt::AlignTop);
     m_keepingBox->hide();
     m_goOnButton = new QPushButton(tr("&Go On"), searchEndBar);
     m_goOnButton->setObjectName(QStringLiteral("goOnButton"));
@@ -82,6 +86,9 @@ void MyTableController::setUpKeeping() {
 void MyTableController::showKeeping() {
     const bool onRange = screen_counter == 1;
     m_keepingBox->offer(onRange && m_memory->hasFolder(), onRange && m_parts.openSource);
+    if (onRange) {
+        m_keepingBox->setReplaces(m_memory->last() != nullptr);
+    }
     m_searchOptions->setVisible(!thoroughBox->isHidden() || !m_keepingBox->isHidden());
     // Explanations begin below one another.
     const int tick = _Thro_Mode_Chk->sizeHint().width() + thoroughLayout->spacing();

@@ -1,5 +1,7 @@
 // Loading of the interface and the set-up once it is loaded.
 #include <QHeaderView>
+#include <algorithm>
+#include <utility>
 
 #include "results/RecoveryMode.h"
 #include "results/SizeForPeople.h"
@@ -7,6 +9,7 @@
 #include "window/ProgramTitle.h"
 #include "window/panels/CardPicture.h"
 #include "window/widgets/AccessibleControls.h"
+#include "window/widgets/EndsLayout.h"
 #include "window/widgets/Theme.h"
 
 namespace vantor {
@@ -29,6 +32,16 @@ void giveSpareWidthTo(ListTable* table, int column) {
     header->setStretchLastSection(false);
     header->setSectionResizeMode(QHeaderView::ResizeToContents);
     header->setSectionResizeMode(column, QHeaderView::Stretch);
+}
+
+constexpr int kLeftPane = 214;
+
+// From now on the row of a screen takes a second line where the window is narrow.
+void letFold(QVBoxLayout* screen, QHBoxLayout*& row) {
+    const int place = screen->indexOf(row);
+    screen->insertLayout(place, new EndsLayout(row));
+    screen->removeItem(row);
+    delete std::exchange(row, nullptr);
 }
 
 QString groupedDigits(const QVariant& value) {
@@ -75,13 +88,17 @@ void MyTableController::dressWindow() {
     rawSplitter->setStretchFactor(0, 0);
     rawSplitter->setStretchFactor(1, 1);
     rawSplitter->setStretchFactor(2, 0);
-    rawSplitter->setSizes({214, 560, 270});
+    rawTypesHeading->ensurePolished();
+    allTypesButton->ensurePolished();
+    rawSplitter->setSizes({std::max(kLeftPane, rawTypesHeadLayout->sizeHint().width()), 560, 270});
     rawLeftSplitter->setStretchFactor(0, 1);
     rawLeftSplitter->setStretchFactor(1, 0);
     rawLeftSplitter->setSizes({300, 200});
     photoSplitter->setStretchFactor(0, 0);
     photoSplitter->setStretchFactor(1, 1);
-    photoSplitter->setSizes({214, 800});
+    photoSplitter->setSizes({kLeftPane, 800});
+    letFold(photoLayout, photoSaveLayout);
+    letFold(rawLayout, rawSaveLayout);
 }
 
 void MyTableController::dressRangeSets() {

@@ -26,6 +26,7 @@ class CompoundWalk {
     std::uint64_t headerEnd() const { return std::uint64_t{1} << m_shift; }
     bool tableSector(std::uint32_t sector);
     bool isListedInHeader(std::uint64_t sector) const;
+    void forgetFilling();
 
     ByteView& m_view;
     const unsigned m_shift;
@@ -33,6 +34,8 @@ class CompoundWalk {
     std::uint64_t m_marked = 0;  // sectors that the table says are its own
     std::array<std::uint32_t, kInHeader> m_inHeader{};
     std::uint64_t m_lastUsed = 0;
+    std::uint64_t m_lastNamed = 0;  // by another entry, the header or the list of tables
+    std::uint64_t m_ends = 0;       // marks of chains' ends that the table closes with
 };
 
 bool CompoundWalk::isListedInHeader(std::uint64_t sector) const {
@@ -45,6 +48,7 @@ bool CompoundWalk::tableSector(std::uint32_t sector) {
     const auto at = position(sector);
     const auto first = m_tables++ * entries;
     m_lastUsed = std::max<std::uint64_t>(m_lastUsed, sector);
+    m_lastNamed = std::max<std::uint64_t>(m_lastNamed, sector);
     const auto bytes = m_view.window(at, entries * 4);
     if (bytes.size() < entries * 4)
         return false;
@@ -54,10 +58,26 @@ bool CompoundWalk::tableSector(std::uint32_t sector) {
                           static_cast<std::uint32_t>(entry[3]) << 24;
         // Writers in Java marked the table's own sectors as the ends of chains.
         m_marked += next == kTable || (next == kChainEnd && isListedInHeader(first + i)) ? 1 : 0;
+        m_ends = next == kChainEnd ? m_ends + 1 : 0;
+        if (next <= kMostRegular)
+            m_lastNamed = std::max<std::uint64_t>(m_lastNamed, next);
         if (next != kFree)
             m_lastUsed = std::max(m_lastUsed, first + i);
     }
     return true;
+}
+
+// Some writers fill the rest of the table with the marks of chains' ends, of sectors that nothing names.
+void CompoundWalk::forgetFilling() {
+    constexpr std::uint64_t kShortChains = 16;  // of one sector each, that a file may well end with
+    const auto entries = m_tables << (m_shift - 2);
+    if (m_ends < kShortChains || m_lastUsed + 1 != entries)
+        return;
+    for (const std::uint64_t at : {48U, 60U}) {  // the directory, the table of small sectors
+        if (const auto sector = m_view.le32(at).value_or(kFree); sector <= kMostRegular)
+            m_lastNamed = std::max<std::uint64_t>(m_lastNamed, sector);
+    }
+    m_lastUsed = m_ends < entries ? std::max(m_lastNamed, entries - m_ends - 1) : m_lastNamed;
 }
 
 Extent CompoundWalk::walk() {
@@ -78,10 +98,12 @@ Extent CompoundWalk::walk() {
     for (std::uint64_t i = 0; inside && i < std::min(lists, most) && list < kMostRegular; ++i) {
         const auto at = position(list);
         m_lastUsed = std::max<std::uint64_t>(m_lastUsed, list);
+        m_lastNamed = std::max<std::uint64_t>(m_lastNamed, list);
         for (std::uint64_t link = 0; inside && link < links && m_tables < tables; ++link)
             inside = tableSector(m_view.le32(at + link * 4).value_or(kFree));
         list = m_view.le32(at + links * 4).value_or(kFree);
     }
+    forgetFilling();
     const auto end = (m_lastUsed + 2) << m_shift;
     if (!inside)
         return end > m_view.size() && m_lastUsed < kMostRegular ? cutOffAt(m_view, m_view.size())

@@ -153,7 +153,8 @@ class ObjectsWalk {
     bool object();
     bool rest(Token token, Dictionary& dictionary);
     bool stream(const Dictionary& dictionary);
-    bool provesItself(const Dictionary& dictionary, std::uint64_t from, std::uint64_t& to);
+    enum class Content : std::uint8_t { Proven, Blind, Spoilt };
+    Content look(const Dictionary& dictionary, std::uint64_t from, std::uint64_t& to);
     std::optional<std::uint64_t> behindStream(std::uint64_t at);
 
     ByteView& m_view;
@@ -203,26 +204,31 @@ std::optional<std::uint64_t> ObjectsWalk::behindStream(std::uint64_t at) {
     return m_view.matches(at, "endstream") ? std::optional(at + 9) : std::nullopt;
 }
 
-// Of a stream of a kind whose end and soundness can be told. `to` comes as the told end, or as `from` where
-// none is told, and leaves as the real one.
-bool ObjectsWalk::provesItself(const Dictionary& dictionary, std::uint64_t from, std::uint64_t& to) {
+// `to` comes as the told end, or as `from` where none is told, and leaves as the real one where the content
+// tells it. What is encrypted looks spoilt.
+ObjectsWalk::Content ObjectsWalk::look(const Dictionary& dictionary, std::uint64_t from, std::uint64_t& to) {
     if (dictionary.filter == "FlateDecode" || dictionary.filter == "Fl") {
         const auto result = inflateZlib(m_view, from, kAnyOutput);
         if (result.outcome != InflateOutcome::Done || (to != from && result.end > to))
-            return false;
+            return result.outcome == InflateOutcome::TooMuch ? Content::Blind : Content::Spoilt;
         to = to == from ? result.end : to;
-        return true;
+        return Content::Proven;
     }
+    if (to == from)
+        return dictionary.length ? Content::Proven : Content::Blind;
     if (dictionary.filter == "DCTDecode" || dictionary.filter == "DCT") {
         PartOfView part(m_view, from, to);
         ByteView picture(part);
-        return to != from && walkAs(*formatFor("JPG"), picture).checked;
+        const Extent extent = walkAs(*formatFor("JPG"), picture);
+        return extent.checked                        ? Content::Proven
+               : extent.verdict == Verdict::Complete ? Content::Blind
+                                                     : Content::Spoilt;
     }
     for (auto at = from; at < to; ++at) {  // plain text
         if (isForeign(m_view.u8(at).value_or(0)))
-            return false;
+            return Content::Blind;
     }
-    return true;
+    return Content::Proven;
 }
 
 // Behind the word "stream".
@@ -234,7 +240,7 @@ bool ObjectsWalk::stream(const Dictionary& dictionary) {
     if (told > kMostStream || from + told > m_end)
         return false;
     std::uint64_t to = from + told;
-    const bool proven = provesItself(dictionary, from, to);
+    Content content = look(dictionary, from, to);
     auto behind = behindStream(to);
     for (auto search = m_view.find('e', from, m_end); !dictionary.length && !behind && search.found();
          search = m_view.find('e', search.at + 1, m_end)) {
@@ -243,10 +249,12 @@ bool ObjectsWalk::stream(const Dictionary& dictionary) {
     }
     if (!behind)
         return false;
-    if (!proven)
+    if (!dictionary.length && content == Content::Blind)
+        content = look(dictionary, from, to);
+    if (content == Content::Blind)
         m_blind += to - from;
     m_in.goTo(*behind);
-    return m_in.next().is("endobj");
+    return content != Content::Spoilt && m_in.next().is("endobj");
 }
 
 // Behind "12 0 obj".

@@ -40,6 +40,7 @@ extern constexpr Format kDv = {
     .extensions = " DV DIF ",
     .strongMagic = false,
     .large = true,
+    .frameStream = true,
 };
 
 }  // namespace vantor

@@ -40,6 +40,7 @@ struct Seen {
     bool movieIndex = false;
     bool data = false;
     bool fragment = false;
+    bool fragmentIndex = false;   // mfra, which stands behind the last of them
     bool opensFragments = false;  // the movie leaves its data to fragments, perhaps of other files
     bool type = false;
     std::uint64_t dataEnd = 0;  // how far a picture's items reach; 0 = nowhere outside their index
@@ -105,6 +106,7 @@ IsoWalk walkBoxes(ByteView& view, std::uint64_t start, bool wantFacts) {
         walk.seen.index = walk.seen.index || name == "moov" || name == "meta";
         walk.seen.data = walk.seen.data || name == "mdat" || name == "imda";
         walk.seen.fragment = walk.seen.fragment || name == "moof";
+        walk.seen.fragmentIndex = walk.seen.fragmentIndex || name == "mfra";
         if (wantFacts && (name == "moov" || name == "meta"))
             walk.seen.dataEnd = std::max(walk.seen.dataEnd, addIsoFacts(view, *box, walk.facts));
         if (name == "moov") {
@@ -163,7 +165,9 @@ Extent walkIsoMedia(ByteView& view) {
     if (check.outcome == ContentCheck::Outcome::Broken)
         return spoiltUpTo(view, walk.at, walk.facts);
     const Extent extent = completeAt(view, walk.at, walk.facts);
-    return check.outcome == ContentCheck::Outcome::Sound ? withContent(extent) : extent;
+    // Nothing else tells that no fragment followed the last one.
+    const bool lastKnown = !walk.seen.fragment || walk.seen.fragmentIndex;
+    return check.outcome == ContentCheck::Outcome::Sound && lastKnown ? withContent(extent) : extent;
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 
+#include "formats/Among.h"
 #include "formats/Format.h"
 #include "formats/movies/RiffFacts.h"
 
@@ -57,6 +58,7 @@ class RiffWalk {
 
     Step outer();
     Step inner(std::uint64_t told);
+    void chunksBehind();
     bool isFilled(std::uint64_t told);
     void movieData(const Chunk& list);
     void index(const Chunk& index);
@@ -191,6 +193,20 @@ RiffWalk::Step RiffWalk::outer() {
     return inner(start + 8 + size);
 }
 
+// Programs that put tags to a wave do not always count them into the outer chunk. What begins at a sector's
+// start is the next file.
+void RiffWalk::chunksBehind() {
+    constexpr std::array<std::string_view, 7> kTags = {"id3 ", "ID3 ", "LIST", "bext",
+                                                       "iXML", "_PMX", "cue "};
+    for (std::uint32_t chunks = 0; chunks < kRiffMostChunks && !isSectorStart(m_at); ++chunks) {
+        const auto chunk = readChunk(m_view, m_at, m_endian);
+        if (!chunk || !isAmong(kTags, chunk->text()) || chunk->end() > m_view.size())
+            return;
+        m_at = chunk->end();
+        m_at += chunk->bytes % 2 != 0 && m_view.u8(m_at) == 0 ? 1 : 0;
+    }
+}
+
 // All chunks were passed.
 Extent RiffWalk::ended() const {
     if (!m_sawPayload)
@@ -210,6 +226,8 @@ Extent RiffWalk::walk() {
             break;
         step = outer();
     }
+    if (step == Step::Done && std::string_view(m_form.data(), m_form.size()) == "WAVE")
+        chunksBehind();
     switch (step) {
         case Step::Done:
             return ended();

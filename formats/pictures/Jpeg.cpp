@@ -2,8 +2,9 @@
 // Sources: ITU-T T.81 annex B; CIPA DC-007 (multi-picture format).
 #include <algorithm>
 
-#include "formats/Format.h"
 #include "formats/IsoBox.h"
+#include "formats/PartOfView.h"
+#include "formats/Registry.h"
 #include "formats/TiffDirectory.h"
 #include "formats/pictures/JpegScan.h"
 #include "formats/pictures/MakerTrailer.h"
@@ -231,7 +232,7 @@ std::optional<Extent> JpegWalk::motionPhoto() {
     constexpr std::string_view kBlockName = "MotionPhoto_Data";
     std::uint64_t at = m_at;
     if (const auto end = endOfMakerTrailer(m_view, at))
-        return completeAt(m_view, end, m_facts);
+        return withContent(completeAt(m_view, end, m_facts));
     if (m_view.matches(at + 8, kBlockName))
         at += 8 + kBlockName.size();
     else if (!m_sawMotionNote && isSectorStart(at))
@@ -241,13 +242,20 @@ std::optional<Extent> JpegWalk::motionPhoto() {
     const std::uint64_t movieEnd = endOfIsoBoxes(m_view, at);
     if (movieEnd <= at)
         return std::nullopt;
+    PartOfView part(m_view, at, movieEnd);
+    ByteView inside(part);
+    const Extent movie = walkAs(kIsoMedia, inside);
+    if (movie.verdict != Verdict::Complete && movie.endFound)
+        return spoiltUpTo(m_view, at + movie.end, m_facts);
+    if (movie.verdict != Verdict::Complete || at + movie.end != movieEnd)
+        return damagedAt(m_view, at + movie.end, m_facts);
     // The maker's trailer of a block ends with these four bytes, close behind the movie.
     constexpr std::uint64_t kTrailerReach = 4096;
-    for (std::uint64_t end = movieEnd; at != m_at && end < movieEnd + kTrailerReach; ++end) {
-        if (m_view.matches(end, "SEFT"))
-            return completeAt(m_view, end + 4, m_facts);
-    }
-    return completeAt(m_view, movieEnd, m_facts);
+    std::uint64_t end = movieEnd;
+    for (auto sign = movieEnd; at != m_at && end == movieEnd && sign < movieEnd + kTrailerReach; ++sign)
+        end = m_view.matches(sign, "SEFT") ? sign + 4 : end;
+    const Extent whole = completeAt(m_view, end, m_facts);
+    return movie.checked ? withContent(whole) : whole;
 }
 
 // One picture from SOI to EOI.
@@ -299,7 +307,7 @@ Extent JpegWalk::walkFile() {
         return all;
     m_at = all.end;
     if (auto motion = motionPhoto()) {
-        motion->checked = all.checked;
+        motion->checked = motion->checked && all.checked;
         return *motion;
     }
     return all;

@@ -95,6 +95,7 @@ class TiffWalk {
     std::uint64_t m_end = 0;
     bool m_broken = false;
     bool m_padsPieces = false;  // to even lengths, the last one as those before it
+    bool m_hasExif = false;     // what writes it, cameras and editors, leaves an even length
     bool m_padded = false;      // to four bytes, as the writer of Photoshop's own tag does
     Facts m_facts;
 };
@@ -188,6 +189,8 @@ void TiffWalk::entry(const TiffEntry& entry, Found& found) {
             found.xrAlpha.bytes = entry;
             break;
         case kTiffExif:
+            m_hasExif = true;
+            [[fallthrough]];
         case kGps:
         case kInterop:
             enqueue(number());
@@ -336,7 +339,7 @@ Extent TiffWalk::walk() {
     }
     if (repeatsItsLastBytes())
         m_end += kRepeated;
-    else if (m_padsPieces && m_end % 2 != 0 && m_view.u8(m_end) == 0)
+    else if ((m_padsPieces || m_hasExif) && m_end % 2 != 0 && m_view.u8(m_end) == 0)
         ++m_end;
     return inexact(completeAt(m_view, m_end, m_facts));
 }

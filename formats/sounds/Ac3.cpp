@@ -32,14 +32,22 @@ Extent walkAc3(ByteView& view) {
         return (kilobits * 320 / 147 + code % 2) * 2;  // 44.1 kHz
     };
     const auto start = skipLeadingTag(view, 0);
+    const auto isProved = [&](std::uint64_t at) {
+        const auto bytes = static_cast<std::size_t>(frameBytes(at));
+        const auto frame = view.window(at, bytes);
+        std::uint16_t crc = 0;
+        for (std::size_t i = 2; i < std::min(frame.size(), bytes); ++i)
+            crc = crc16(crc, frame[i]);
+        return bytes != 0 && frame.size() >= bytes && crc == 0;
+    };
     // The checksum behind the sync word makes even a single frame trustworthy.
-    const auto bytes = frameBytes(start);
-    std::uint16_t crc = 0;
-    const auto first = view.window(start, static_cast<std::size_t>(bytes));
-    for (std::size_t i = 2; i < std::min<std::size_t>(first.size(), bytes); ++i)
-        crc = crc16(crc, first[i]);
-    const bool proved = bytes != 0 && first.size() >= bytes && crc == 0;
-    return walkFrames(view, start, proved ? 1 : kProofFrames, frameBytes);
+    const bool proved = isProved(start);
+    FrameRow row;
+    const Extent extent = walkFrames(view, start, proved ? 1 : kProofFrames, frameBytes, &row);
+    // A frame cut short was made whole out of another file's bytes.
+    if (proved && extent.verdict == Verdict::Complete && !isProved(row.last))
+        return damagedAt(view, row.last);
+    return extent;
 }
 
 }  // namespace

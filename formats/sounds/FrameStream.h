@@ -16,6 +16,7 @@ inline constexpr std::uint64_t kProofFrames = 3;
 // What was followed.
 struct FrameRow {
     std::uint64_t frames = 0;
+    std::uint64_t last = 0;        // where the last of them begins
     bool headInEachSector = true;  // a tag's or a frame's: another's sector would have ended the row
     bool tornTag = false;
 };
@@ -48,6 +49,7 @@ Extent walkFrames(ByteView& view, std::uint64_t at, std::uint64_t proof, FrameBy
         if (bytes > view.size() - at)
             return frames >= proof ? inexact(cutOffAt(view, view.size())) : none;
         meetHead(at);
+        followed.last = at;
         at += bytes;
     }
     if (frames < proof)

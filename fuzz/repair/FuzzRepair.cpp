@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "formats/IsoBox.h"
+#include "repair/AviRepair.h"
 #include "repair/MoviePieces.h"
 #include "repair/MovieSamples.h"
 #include "repair/MovieWalk.h"
@@ -78,6 +79,9 @@ void completeMovie(std::span<const std::uint8_t> bytes) {
     const FreeClusters grid({0, 1}, medium.mediumSectors());
     const std::atomic<int> goOn{0};
     const auto indexes = indexPlaces(blocks, goOn);
+    for (const std::uint64_t cluster : MoviePieces(blocks, grid, indexes, goOn).anchorsOf(0)) {
+        expect(cluster < grid.count());
+    }
     if (const auto movie = MoviePieces(blocks, grid, indexes, goOn).assemble(0)) {
         checkClusters(movie->clusters, movie->bytes, grid);
     }
@@ -114,6 +118,15 @@ void readSamples(std::span<const std::uint8_t> bytes) {
     }
 }
 
+// What is written of an AVI movie lies within it.
+void repairChunks(std::span<const std::uint8_t> bytes) {
+    SpanSource source(bytes);
+    if (const auto movie = repairAvi(source, {.pictures = 1000})) {
+        expect(movie->data.from <= movie->data.to && movie->data.to <= bytes.size() + 1);
+        expect(movie->pictures != 0 && movie->index.size() >= 24);
+    }
+}
+
 // A movie walked with what it tells itself, or as plain pictures of a kind where it tells nothing.
 void walk(std::span<const std::uint8_t> bytes, Coding coding) {
     SpanSource source(bytes);
@@ -146,7 +159,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     }
     const std::span<const std::uint8_t> bytes(data + 1, size - 1);
-    switch (data[0] % 7) {
+    switch (data[0] % 8) {
         case 0:
             fuzz::readSamples(bytes);
             break;
@@ -164,6 +177,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             break;
         case 6:
             fuzz::completeMovie(bytes);
+            break;
+        case 7:
+            fuzz::repairChunks(bytes);
             break;
         default:
             fuzz::completePhoto(bytes);

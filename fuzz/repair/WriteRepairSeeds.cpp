@@ -30,7 +30,7 @@ int main(int argc, char** argv) {
     const bool written =
         write(folder, "samples", 0, movie) && write(folder, "walk", 1, movie) &&
         write(folder, "movie", 6, movie) && write(folder, "chunks", 6, avi) &&
-        write(folder, "scans", 5, scans) &&
+        write(folder, "unindexed", 7, avi.left(avi.indexOf("idx1"))) && write(folder, "scans", 5, scans) &&
         write(folder, "scan-pieces", 5, scans.left(cut) + QByteArray(1024, '\0') + scans.mid(cut)) &&
         write(folder, "whole", 5, photo) &&
         write(folder, "pieces", 5,

@@ -58,7 +58,7 @@
     <name>FileTypeScreen</name>
     <message>
         <source>File types to search for</source>
-        <translation>Dateitypen, nach denen gesucht wird</translation>
+        <translation>Gesuchte Dateitypen</translation>
     </message>
     <message>
         <source>How many types are selected</source>
@@ -1467,10 +1467,6 @@ Fehler beim Lesen des Speichermediums.</translation>
         <translation>Stecken Sie das Medium wieder ein.</translation>
     </message>
     <message>
-        <source>To go on from there, go back, choose “Sector Range” and start at sector %1.</source>
-        <translation>Um von dort aus weiterzusuchen, gehen Sie zurück, wählen Sie „Sektorbereich“ und beginnen Sie bei Sektor %1.</translation>
-    </message>
-    <message>
         <source>It is not a search that this program has kept.</source>
         <translation>Es ist keine Suche, die dieses Programm aufbewahrt hat.</translation>
     </message>
@@ -1916,10 +1912,6 @@ Versuchen Sie --help.</translation>
         <translation>Kopie: %1</translation>
     </message>
     <message>
-        <source>search the rest from sector %1 on</source>
-        <translation>den Rest ab Sektor %1 durchsuchen</translation>
-    </message>
-    <message>
         <source>search the entire disk</source>
         <translation>den ganzen Datenträger durchsuchen</translation>
     </message>
@@ -1993,7 +1985,7 @@ Versuchen Sie --help.</translation>
     </message>
     <message>
         <source>Press “Show All Types” to see all that was found: %1.</source>
-        <translation>Drücken Sie „Alle Typen zeigen“, um alles zu sehen: %1.</translation>
+        <translation>Drücken Sie „Alle Typen“, um alles zu sehen: %1.</translation>
     </message>
     <message>
         <source>None of the found items is of this type and kind</source>
@@ -2001,7 +1993,7 @@ Versuchen Sie --help.</translation>
     </message>
     <message>
         <source>Press “Show All Types” and choose “All items” above to see all that was found: %1.</source>
-        <translation>Drücken Sie „Alle Typen zeigen“ und wählen Sie oben „Alle Funde“, um alles zu sehen: %1.</translation>
+        <translation>Drücken Sie „Alle Typen“ und wählen Sie oben „Alle Funde“, um alles zu sehen: %1.</translation>
     </message>
     <message>
         <source>Date not known</source>
@@ -2301,6 +2293,10 @@ Läuft auf %2.</translation>
         <source>Camera</source>
         <translation>Kamera</translation>
     </message>
+    <message>
+        <source>Press “Go On” to search the rest.</source>
+        <translation>Mit „Weitersuchen“ wird der Rest durchsucht.</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -2465,7 +2461,7 @@ Läuft auf %2.</translation>
     </message>
     <message>
         <source>Show All T&amp;ypes</source>
-        <translation>Alle T&amp;ypen zeigen</translation>
+        <translation>Alle T&amp;ypen</translation>
     </message>
     <message>
         <source>Show the items of all types again</source>
@@ -2497,7 +2493,7 @@ Läuft auf %2.</translation>
     </message>
     <message>
         <source>No file is selected to preview</source>
-        <translation>Es ist keine Datei für die Vorschau ausgewählt</translation>
+        <translation>Keine Datei ausgewählt</translation>
     </message>
     <message>
         <source>Preview movie</source>
@@ -3255,6 +3251,10 @@ Läuft auf %2.</translation>
         <source>Best for a card that fails or is slow: it is read once, all else reads the copy.</source>
         <translation>Am besten für eine Karte, die versagt oder langsam ist: Sie wird nur einmal gelesen, alles andere liest die Kopie.</translation>
     </message>
+    <message>
+        <source>To go on later, also after a power cut.</source>
+        <translation>Um später weiterzusuchen, auch nach einem Stromausfall.</translation>
+    </message>
 </context>
 <context>
     <name>vantor::KeptSearchBar</name>
@@ -3829,7 +3829,7 @@ Möchten Sie „%1“ wirklich beenden?</translation>
     </message>
     <message>
         <source>No file is selected to preview</source>
-        <translation>Es ist keine Datei für die Vorschau ausgewählt</translation>
+        <translation>Keine Datei ausgewählt</translation>
     </message>
     <message>
         <source>
@@ -4140,6 +4140,10 @@ Bitte wählen Sie die Dateitypen für die Wiederherstellung aus. Mit ‚Weiter�
     <message>
         <source>Save &amp;As…</source>
         <translation>Speichern &amp;unter …</translation>
+    </message>
+    <message>
+        <source>Search options</source>
+        <translation>Suchoptionen</translation>
     </message>
 </context>
 <context>

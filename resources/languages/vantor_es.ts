@@ -1467,10 +1467,6 @@ Error al leer el medio de almacenamiento.</translation>
         <translation>Vuelva a conectar el medio.</translation>
     </message>
     <message>
-        <source>To go on from there, go back, choose “Sector Range” and start at sector %1.</source>
-        <translation>Para continuar desde ahí, vuelva atrás, elija «Rango de sectores» y empiece en el sector %1.</translation>
-    </message>
-    <message>
         <source>It is not a search that this program has kept.</source>
         <translation>No es una búsqueda que este programa haya conservado.</translation>
     </message>
@@ -1916,10 +1912,6 @@ Pruebe --help.</translation>
         <translation>Copia: %1</translation>
     </message>
     <message>
-        <source>search the rest from sector %1 on</source>
-        <translation>examinar el resto desde el sector %1</translation>
-    </message>
-    <message>
         <source>search the entire disk</source>
         <translation>examinar todo el disco</translation>
     </message>
@@ -1993,7 +1985,7 @@ Pruebe --help.</translation>
     </message>
     <message>
         <source>Press “Show All Types” to see all that was found: %1.</source>
-        <translation>Pulse «Ver todos los tipos» para ver todo lo encontrado: %1.</translation>
+        <translation>Pulse «Todos los tipos» para ver todo lo encontrado: %1.</translation>
     </message>
     <message>
         <source>None of the found items is of this type and kind</source>
@@ -2001,7 +1993,7 @@ Pruebe --help.</translation>
     </message>
     <message>
         <source>Press “Show All Types” and choose “All items” above to see all that was found: %1.</source>
-        <translation>Pulse «Ver todos los tipos» y elija arriba «Todos los elementos» para ver todo lo encontrado: %1.</translation>
+        <translation>Pulse «Todos los tipos» y elija arriba «Todos los elementos» para ver todo lo encontrado: %1.</translation>
     </message>
     <message>
         <source>Date not known</source>
@@ -2301,6 +2293,10 @@ Se ejecuta en %2.</translation>
         <source>Camera</source>
         <translation>Cámara</translation>
     </message>
+    <message>
+        <source>Press “Go On” to search the rest.</source>
+        <translation>Pulse «Continuar» para buscar en el resto.</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -2465,7 +2461,7 @@ Se ejecuta en %2.</translation>
     </message>
     <message>
         <source>Show All T&amp;ypes</source>
-        <translation>Ver todos los tip&amp;os</translation>
+        <translation>Todos los tip&amp;os</translation>
     </message>
     <message>
         <source>Show the items of all types again</source>
@@ -2497,7 +2493,7 @@ Se ejecuta en %2.</translation>
     </message>
     <message>
         <source>No file is selected to preview</source>
-        <translation>No hay ningún archivo seleccionado para la vista previa</translation>
+        <translation>Ningún archivo seleccionado</translation>
     </message>
     <message>
         <source>Preview movie</source>
@@ -3255,6 +3251,10 @@ Se ejecuta en %2.</translation>
         <source>Best for a card that fails or is slow: it is read once, all else reads the copy.</source>
         <translation>Lo mejor para una tarjeta que falla o es lenta: se lee una sola vez, todo lo demás lee la copia.</translation>
     </message>
+    <message>
+        <source>To go on later, also after a power cut.</source>
+        <translation>Para continuar más tarde, también tras un corte de corriente.</translation>
+    </message>
 </context>
 <context>
     <name>vantor::KeptSearchBar</name>
@@ -3829,7 +3829,7 @@ Do you really want to exit from &apos;%1&apos;?</source>
     </message>
     <message>
         <source>No file is selected to preview</source>
-        <translation>No hay ningún archivo seleccionado para la vista previa</translation>
+        <translation>Ningún archivo seleccionado</translation>
     </message>
     <message>
         <source>
@@ -4140,6 +4140,10 @@ Seleccione los tipos de archivo que desea recuperar. Pulse el botón «Siguiente
     <message>
         <source>Save &amp;As…</source>
         <translation>Guardar &amp;como…</translation>
+    </message>
+    <message>
+        <source>Search options</source>
+        <translation>Opciones de búsqueda</translation>
     </message>
 </context>
 <context>

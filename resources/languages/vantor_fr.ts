@@ -1467,10 +1467,6 @@ Erreur de lecture du support de stockage.</translation>
         <translation>Remettez le support en place.</translation>
     </message>
     <message>
-        <source>To go on from there, go back, choose “Sector Range” and start at sector %1.</source>
-        <translation>Pour continuer à partir de là, revenez en arrière, choisissez « Plage de secteurs » et commencez au secteur %1.</translation>
-    </message>
-    <message>
         <source>It is not a search that this program has kept.</source>
         <translation>Ce n&apos;est pas une recherche conservée par ce programme.</translation>
     </message>
@@ -1916,10 +1912,6 @@ Essayez --help.</translation>
         <translation>Copie : %1</translation>
     </message>
     <message>
-        <source>search the rest from sector %1 on</source>
-        <translation>parcourir le reste à partir du secteur %1</translation>
-    </message>
-    <message>
         <source>search the entire disk</source>
         <translation>parcourir le disque entier</translation>
     </message>
@@ -1993,7 +1985,7 @@ Essayez --help.</translation>
     </message>
     <message>
         <source>Press “Show All Types” to see all that was found: %1.</source>
-        <translation>Appuyez sur « Afficher tous les types » pour voir tout ce qui a été trouvé : %1.</translation>
+        <translation>Appuyez sur « Tous les types » pour voir tout ce qui a été trouvé : %1.</translation>
     </message>
     <message>
         <source>None of the found items is of this type and kind</source>
@@ -2001,7 +1993,7 @@ Essayez --help.</translation>
     </message>
     <message>
         <source>Press “Show All Types” and choose “All items” above to see all that was found: %1.</source>
-        <translation>Appuyez sur « Afficher tous les types » et choisissez « Tous les éléments » ci-dessus pour voir tout ce qui a été trouvé : %1.</translation>
+        <translation>Appuyez sur « Tous les types » et choisissez « Tous les éléments » ci-dessus pour voir tout ce qui a été trouvé : %1.</translation>
     </message>
     <message>
         <source>Date not known</source>
@@ -2301,6 +2293,10 @@ Fonctionne avec %2.</translation>
         <source>Camera</source>
         <translation>Appareil</translation>
     </message>
+    <message>
+        <source>Press “Go On” to search the rest.</source>
+        <translation>« Continuer » recherche dans le reste.</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -2465,7 +2461,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>Show All T&amp;ypes</source>
-        <translation>Afficher tous les t&amp;ypes</translation>
+        <translation>Tous les t&amp;ypes</translation>
     </message>
     <message>
         <source>Show the items of all types again</source>
@@ -2497,7 +2493,7 @@ Fonctionne avec %2.</translation>
     </message>
     <message>
         <source>No file is selected to preview</source>
-        <translation>Aucun fichier n&apos;est sélectionné pour l&apos;aperçu</translation>
+        <translation>Aucun fichier sélectionné</translation>
     </message>
     <message>
         <source>Preview movie</source>
@@ -3255,6 +3251,10 @@ Fonctionne avec %2.</translation>
         <source>Best for a card that fails or is slow: it is read once, all else reads the copy.</source>
         <translation>Le mieux pour une carte défaillante ou lente : elle est lue une seule fois, tout le reste lit la copie.</translation>
     </message>
+    <message>
+        <source>To go on later, also after a power cut.</source>
+        <translation>Pour continuer plus tard, même après une coupure de courant.</translation>
+    </message>
 </context>
 <context>
     <name>vantor::KeptSearchBar</name>
@@ -3829,7 +3829,7 @@ Voulez-vous vraiment quitter « %1 » ?</translation>
     </message>
     <message>
         <source>No file is selected to preview</source>
-        <translation>Aucun fichier n&apos;est sélectionné pour l&apos;aperçu</translation>
+        <translation>Aucun fichier sélectionné</translation>
     </message>
     <message>
         <source>
@@ -4140,6 +4140,10 @@ Veuillez sélectionner les types de fichiers à récupérer. Appuyez sur ‘Suiv
     <message>
         <source>Save &amp;As…</source>
         <translation>Enregistrer &amp;sous…</translation>
+    </message>
+    <message>
+        <source>Search options</source>
+        <translation>Options de recherche</translation>
     </message>
 </context>
 <context>

@@ -1467,10 +1467,6 @@ Errore di lettura del supporto di memoria.</translation>
         <translation>Reinserire il supporto.</translation>
     </message>
     <message>
-        <source>To go on from there, go back, choose “Sector Range” and start at sector %1.</source>
-        <translation>Per proseguire da lì, tornare indietro, scegliere «Intervallo di settori» e iniziare dal settore %1.</translation>
-    </message>
-    <message>
         <source>It is not a search that this program has kept.</source>
         <translation>Non è una ricerca conservata da questo programma.</translation>
     </message>
@@ -1916,10 +1912,6 @@ Provare --help.</translation>
         <translation>Copia: %1</translation>
     </message>
     <message>
-        <source>search the rest from sector %1 on</source>
-        <translation>esaminare il resto dal settore %1</translation>
-    </message>
-    <message>
         <source>search the entire disk</source>
         <translation>esaminare tutto il disco</translation>
     </message>
@@ -1993,7 +1985,7 @@ Provare --help.</translation>
     </message>
     <message>
         <source>Press “Show All Types” to see all that was found: %1.</source>
-        <translation>Premere «Vedi tutti i tipi» per vedere tutto ciò che è stato trovato: %1.</translation>
+        <translation>Premere «Vedi tutti» per vedere tutto ciò che è stato trovato: %1.</translation>
     </message>
     <message>
         <source>None of the found items is of this type and kind</source>
@@ -2001,7 +1993,7 @@ Provare --help.</translation>
     </message>
     <message>
         <source>Press “Show All Types” and choose “All items” above to see all that was found: %1.</source>
-        <translation>Premere «Vedi tutti i tipi» e scegliere in alto «Tutti gli elementi» per vedere tutto ciò che è stato trovato: %1.</translation>
+        <translation>Premere «Vedi tutti» e scegliere in alto «Tutti gli elementi» per vedere tutto ciò che è stato trovato: %1.</translation>
     </message>
     <message>
         <source>Date not known</source>
@@ -2301,6 +2293,10 @@ In esecuzione su %2.</translation>
         <source>Camera</source>
         <translation>Fotocamera</translation>
     </message>
+    <message>
+        <source>Press “Go On” to search the rest.</source>
+        <translation>Premere «Continua» per cercare nel resto.</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -2465,7 +2461,7 @@ In esecuzione su %2.</translation>
     </message>
     <message>
         <source>Show All T&amp;ypes</source>
-        <translation>Ve&amp;di tutti i tipi</translation>
+        <translation>Ve&amp;di tutti</translation>
     </message>
     <message>
         <source>Show the items of all types again</source>
@@ -2497,7 +2493,7 @@ In esecuzione su %2.</translation>
     </message>
     <message>
         <source>No file is selected to preview</source>
-        <translation>Nessun file selezionato per l’anteprima</translation>
+        <translation>Nessun file selezionato</translation>
     </message>
     <message>
         <source>Preview movie</source>
@@ -3255,6 +3251,10 @@ In esecuzione su %2.</translation>
         <source>Best for a card that fails or is slow: it is read once, all else reads the copy.</source>
         <translation>Ideale per una scheda guasta o lenta: viene letta una sola volta, tutto il resto legge la copia.</translation>
     </message>
+    <message>
+        <source>To go on later, also after a power cut.</source>
+        <translation>Per proseguire più tardi, anche dopo un’interruzione di corrente.</translation>
+    </message>
 </context>
 <context>
     <name>vantor::KeptSearchBar</name>
@@ -3829,7 +3829,7 @@ Uscire davvero da «%1»?</translation>
     </message>
     <message>
         <source>No file is selected to preview</source>
-        <translation>Nessun file selezionato per l’anteprima</translation>
+        <translation>Nessun file selezionato</translation>
     </message>
     <message>
         <source>
@@ -4140,6 +4140,10 @@ Selezionare i tipi di file da recuperare. Premere il pulsante «Avanti» per con
     <message>
         <source>Save &amp;As…</source>
         <translation>Salva &amp;con nome…</translation>
+    </message>
+    <message>
+        <source>Search options</source>
+        <translation>Opzioni di ricerca</translation>
     </message>
 </context>
 <context>

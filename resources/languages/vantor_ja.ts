@@ -1445,10 +1445,6 @@ Error in storage media reading.</source>
         <translation>メディアをもう一度差し込んでください。</translation>
     </message>
     <message>
-        <source>To go on from there, go back, choose “Sector Range” and start at sector %1.</source>
-        <translation>そこから続けるには、戻って「セクター範囲」を選び、セクター %1 から始めてください。</translation>
-    </message>
-    <message>
         <source>It is not a search that this program has kept.</source>
         <translation>このプログラムが保存した検索ではありません。</translation>
     </message>
@@ -1891,10 +1887,6 @@ Try --help.</source>
         <translation>コピー: %1</translation>
     </message>
     <message>
-        <source>search the rest from sector %1 on</source>
-        <translation>セクター %1 以降の残りを検索する</translation>
-    </message>
-    <message>
         <source>search the entire disk</source>
         <translation>ディスク全体を検索する</translation>
     </message>
@@ -1968,7 +1960,7 @@ Try --help.</source>
     </message>
     <message>
         <source>Press “Show All Types” to see all that was found: %1.</source>
-        <translation>見つかったものをすべて表示するには、「すべての種類を表示」を押してください: %1。</translation>
+        <translation>見つかったものをすべて表示するには、「すべての種類」を押してください: %1。</translation>
     </message>
     <message>
         <source>None of the found items is of this type and kind</source>
@@ -1976,7 +1968,7 @@ Try --help.</source>
     </message>
     <message>
         <source>Press “Show All Types” and choose “All items” above to see all that was found: %1.</source>
-        <translation>見つかったものをすべて表示するには、「すべての種類を表示」を押し、上の「すべての項目」を選んでください: %1。</translation>
+        <translation>見つかったものをすべて表示するには、「すべての種類」を押し、上の「すべての項目」を選んでください: %1。</translation>
     </message>
     <message>
         <source>Date not known</source>
@@ -2269,6 +2261,10 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <source>Camera</source>
         <translation>カメラ</translation>
     </message>
+    <message>
+        <source>Press “Go On” to search the rest.</source>
+        <translation>残りを検索するには「続ける」を押してください。</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -2433,7 +2429,7 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     </message>
     <message>
         <source>Show All T&amp;ypes</source>
-        <translation>すべての種類を表示(&amp;Y)</translation>
+        <translation>すべての種類(&amp;Y)</translation>
     </message>
     <message>
         <source>Show the items of all types again</source>
@@ -2465,7 +2461,7 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     </message>
     <message>
         <source>No file is selected to preview</source>
-        <translation>プレビューするファイルが選択されていません</translation>
+        <translation>ファイルが選択されていません</translation>
     </message>
     <message>
         <source>Preview movie</source>
@@ -3059,7 +3055,7 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     </message>
     <message>
         <source>By pixels</source>
-        <translation>画素数順</translation>
+        <translation>画素数別</translation>
     </message>
 </context>
 <context>
@@ -3220,6 +3216,10 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     <message>
         <source>Best for a card that fails or is slow: it is read once, all else reads the copy.</source>
         <translation>故障しかけたカードや遅いカードに最適です。カードは 1 回だけ読み取り、あとはすべてコピーを読みます。</translation>
+    </message>
+    <message>
+        <source>To go on later, also after a power cut.</source>
+        <translation>停電のあとでも、後で続けられるようにします。</translation>
     </message>
 </context>
 <context>
@@ -3791,7 +3791,7 @@ Do you really want to exit from &apos;%1&apos;?</source>
     </message>
     <message>
         <source>No file is selected to preview</source>
-        <translation>プレビューするファイルが選択されていません</translation>
+        <translation>ファイルが選択されていません</translation>
     </message>
     <message>
         <source>
@@ -4098,6 +4098,10 @@ Please select the required extension type for recovery process. Press ‘Next’
     <message>
         <source>Save &amp;As…</source>
         <translation>名前を付けて保存(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>Search options</source>
+        <translation>検索オプション</translation>
     </message>
 </context>
 <context>

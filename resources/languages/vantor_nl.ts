@@ -58,7 +58,7 @@
     <name>FileTypeScreen</name>
     <message>
         <source>File types to search for</source>
-        <translation>Bestandstypen om naar te zoeken</translation>
+        <translation>Gezochte bestandstypen</translation>
     </message>
     <message>
         <source>How many types are selected</source>
@@ -1467,10 +1467,6 @@ Fout bij het lezen van het opslagmedium.</translation>
         <translation>Plaats het medium terug.</translation>
     </message>
     <message>
-        <source>To go on from there, go back, choose “Sector Range” and start at sector %1.</source>
-        <translation>Om vandaar verder te gaan, gaat u terug, kiest u “Sectorbereik” en begint u bij sector %1.</translation>
-    </message>
-    <message>
         <source>It is not a search that this program has kept.</source>
         <translation>Het is geen zoekactie die dit programma heeft bewaard.</translation>
     </message>
@@ -1916,10 +1912,6 @@ Probeer --help.</translation>
         <translation>Kopie: %1</translation>
     </message>
     <message>
-        <source>search the rest from sector %1 on</source>
-        <translation>de rest vanaf sector %1 doorzoeken</translation>
-    </message>
-    <message>
         <source>search the entire disk</source>
         <translation>de hele schijf doorzoeken</translation>
     </message>
@@ -1993,7 +1985,7 @@ Probeer --help.</translation>
     </message>
     <message>
         <source>Press “Show All Types” to see all that was found: %1.</source>
-        <translation>Druk op “Alle typen tonen” om alles te zien wat is gevonden: %1.</translation>
+        <translation>Druk op “Alle typen” om alles te zien wat is gevonden: %1.</translation>
     </message>
     <message>
         <source>None of the found items is of this type and kind</source>
@@ -2001,7 +1993,7 @@ Probeer --help.</translation>
     </message>
     <message>
         <source>Press “Show All Types” and choose “All items” above to see all that was found: %1.</source>
-        <translation>Druk op “Alle typen tonen” en kies hierboven “Alle items” om alles te zien wat is gevonden: %1.</translation>
+        <translation>Druk op “Alle typen” en kies hierboven “Alle items” om alles te zien wat is gevonden: %1.</translation>
     </message>
     <message>
         <source>Date not known</source>
@@ -2301,6 +2293,10 @@ Wordt uitgevoerd op %2.</translation>
         <source>Camera</source>
         <translation>Camera</translation>
     </message>
+    <message>
+        <source>Press “Go On” to search the rest.</source>
+        <translation>Druk op ‘Doorgaan’ om de rest te doorzoeken.</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -2465,7 +2461,7 @@ Wordt uitgevoerd op %2.</translation>
     </message>
     <message>
         <source>Show All T&amp;ypes</source>
-        <translation>Alle t&amp;ypen tonen</translation>
+        <translation>Alle t&amp;ypen</translation>
     </message>
     <message>
         <source>Show the items of all types again</source>
@@ -2497,7 +2493,7 @@ Wordt uitgevoerd op %2.</translation>
     </message>
     <message>
         <source>No file is selected to preview</source>
-        <translation>Er is geen bestand geselecteerd voor het voorbeeld</translation>
+        <translation>Geen bestand geselecteerd</translation>
     </message>
     <message>
         <source>Preview movie</source>
@@ -3255,6 +3251,10 @@ Wordt uitgevoerd op %2.</translation>
         <source>Best for a card that fails or is slow: it is read once, all else reads the copy.</source>
         <translation>Het best voor een kaart die faalt of traag is: ze wordt één keer gelezen, al het andere leest de kopie.</translation>
     </message>
+    <message>
+        <source>To go on later, also after a power cut.</source>
+        <translation>Om later door te gaan, ook na een stroomuitval.</translation>
+    </message>
 </context>
 <context>
     <name>vantor::KeptSearchBar</name>
@@ -3829,7 +3829,7 @@ Wilt u “%1” echt afsluiten?</translation>
     </message>
     <message>
         <source>No file is selected to preview</source>
-        <translation>Er is geen bestand geselecteerd voor het voorbeeld</translation>
+        <translation>Geen bestand geselecteerd</translation>
     </message>
     <message>
         <source>
@@ -4140,6 +4140,10 @@ Selecteer de bestandstypen die u wilt herstellen. Druk op de knop “Volgende”
     <message>
         <source>Save &amp;As…</source>
         <translation>O&amp;pslaan als…</translation>
+    </message>
+    <message>
+        <source>Search options</source>
+        <translation>Zoekopties</translation>
     </message>
 </context>
 <context>

@@ -1489,10 +1489,6 @@ Błąd odczytu nośnika danych.</translation>
         <translation>Proszę włożyć nośnik z powrotem.</translation>
     </message>
     <message>
-        <source>To go on from there, go back, choose “Sector Range” and start at sector %1.</source>
-        <translation>Aby kontynuować od tego miejsca, proszę wrócić, wybrać „Zakres sektorów” i zacząć od sektora %1.</translation>
-    </message>
-    <message>
         <source>It is not a search that this program has kept.</source>
         <translation>To nie jest wyszukiwanie zachowane przez ten program.</translation>
     </message>
@@ -1941,10 +1937,6 @@ Proszę użyć --help.</translation>
         <translation>Kopia: %1</translation>
     </message>
     <message>
-        <source>search the rest from sector %1 on</source>
-        <translation>przeszukać resztę od sektora %1</translation>
-    </message>
-    <message>
         <source>search the entire disk</source>
         <translation>przeszukać cały dysk</translation>
     </message>
@@ -2332,6 +2324,10 @@ Działa w systemie %2.</translation>
     <message>
         <source>Camera</source>
         <translation>Aparat</translation>
+    </message>
+    <message>
+        <source>Press “Go On” to search the rest.</source>
+        <translation>Naciśnij „Kontynuuj”, aby przeszukać resztę.</translation>
     </message>
 </context>
 <context>
@@ -3289,6 +3285,10 @@ Działa w systemie %2.</translation>
         <source>Best for a card that fails or is slow: it is read once, all else reads the copy.</source>
         <translation>Najlepsze dla karty, która zawodzi lub jest wolna: jest odczytywana raz, wszystko inne czyta kopię.</translation>
     </message>
+    <message>
+        <source>To go on later, also after a power cut.</source>
+        <translation>Aby kontynuować później, także po zaniku zasilania.</translation>
+    </message>
 </context>
 <context>
     <name>vantor::KeptSearchBar</name>
@@ -4182,6 +4182,10 @@ Proszę wybrać typy plików do odzyskania. Przycisk „Dalej” prowadzi dalej.
     <message>
         <source>Save &amp;As…</source>
         <translation>Zapisz &amp;jako…</translation>
+    </message>
+    <message>
+        <source>Search options</source>
+        <translation>Opcje wyszukiwania</translation>
     </message>
 </context>
 <context>

@@ -1467,10 +1467,6 @@ Erro ao ler a mídia de armazenamento.</translation>
         <translation>Recoloque a mídia.</translation>
     </message>
     <message>
-        <source>To go on from there, go back, choose “Sector Range” and start at sector %1.</source>
-        <translation>Para continuar dali, volte, escolha “Intervalo de setores” e comece no setor %1.</translation>
-    </message>
-    <message>
         <source>It is not a search that this program has kept.</source>
         <translation>Não é uma busca guardada por este programa.</translation>
     </message>
@@ -1916,10 +1912,6 @@ Tente --help.</translation>
         <translation>Cópia: %1</translation>
     </message>
     <message>
-        <source>search the rest from sector %1 on</source>
-        <translation>examinar o resto a partir do setor %1</translation>
-    </message>
-    <message>
         <source>search the entire disk</source>
         <translation>examinar o disco inteiro</translation>
     </message>
@@ -1993,7 +1985,7 @@ Tente --help.</translation>
     </message>
     <message>
         <source>Press “Show All Types” to see all that was found: %1.</source>
-        <translation>Pressione “Exibir todos os tipos” para ver tudo o que foi encontrado: %1.</translation>
+        <translation>Pressione “Todos os tipos” para ver tudo o que foi encontrado: %1.</translation>
     </message>
     <message>
         <source>None of the found items is of this type and kind</source>
@@ -2001,7 +1993,7 @@ Tente --help.</translation>
     </message>
     <message>
         <source>Press “Show All Types” and choose “All items” above to see all that was found: %1.</source>
-        <translation>Pressione “Exibir todos os tipos” e escolha “Todos os itens” acima para ver tudo o que foi encontrado: %1.</translation>
+        <translation>Pressione “Todos os tipos” e escolha “Todos os itens” acima para ver tudo o que foi encontrado: %1.</translation>
     </message>
     <message>
         <source>Date not known</source>
@@ -2301,6 +2293,10 @@ Executando em %2.</translation>
         <source>Camera</source>
         <translation>Câmera</translation>
     </message>
+    <message>
+        <source>Press “Go On” to search the rest.</source>
+        <translation>Pressione “Continuar” para buscar no restante.</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -2465,7 +2461,7 @@ Executando em %2.</translation>
     </message>
     <message>
         <source>Show All T&amp;ypes</source>
-        <translation>Ex&amp;ibir todos os tipos</translation>
+        <translation>Todos os t&amp;ipos</translation>
     </message>
     <message>
         <source>Show the items of all types again</source>
@@ -2497,7 +2493,7 @@ Executando em %2.</translation>
     </message>
     <message>
         <source>No file is selected to preview</source>
-        <translation>Nenhum arquivo selecionado para a prévia</translation>
+        <translation>Nenhum arquivo selecionado</translation>
     </message>
     <message>
         <source>Preview movie</source>
@@ -3255,6 +3251,10 @@ Executando em %2.</translation>
         <source>Best for a card that fails or is slow: it is read once, all else reads the copy.</source>
         <translation>Ideal para um cartão com falhas ou lento: ele é lido uma só vez, todo o resto lê a cópia.</translation>
     </message>
+    <message>
+        <source>To go on later, also after a power cut.</source>
+        <translation>Para continuar depois, também após uma queda de energia.</translation>
+    </message>
 </context>
 <context>
     <name>vantor::KeptSearchBar</name>
@@ -3829,7 +3829,7 @@ Deseja realmente sair de “%1”?</translation>
     </message>
     <message>
         <source>No file is selected to preview</source>
-        <translation>Nenhum arquivo selecionado para a prévia</translation>
+        <translation>Nenhum arquivo selecionado</translation>
     </message>
     <message>
         <source>
@@ -4140,6 +4140,10 @@ Selecione os tipos de arquivo a recuperar. Pressione o botão “Próximo” par
     <message>
         <source>Save &amp;As…</source>
         <translation>Salvar &amp;como…</translation>
+    </message>
+    <message>
+        <source>Search options</source>
+        <translation>Opções de busca</translation>
     </message>
 </context>
 <context>

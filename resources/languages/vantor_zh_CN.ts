@@ -1445,10 +1445,6 @@ Error in storage media reading.</source>
         <translation>请将介质重新插入。</translation>
     </message>
     <message>
-        <source>To go on from there, go back, choose “Sector Range” and start at sector %1.</source>
-        <translation>要从该处继续，请返回，选择“扇区范围”，并从扇区 %1 开始。</translation>
-    </message>
-    <message>
         <source>It is not a search that this program has kept.</source>
         <translation>这不是本程序保留的搜索。</translation>
     </message>
@@ -1891,10 +1887,6 @@ Try --help.</source>
         <translation>副本：%1</translation>
     </message>
     <message>
-        <source>search the rest from sector %1 on</source>
-        <translation>从扇区 %1 起搜索其余部分</translation>
-    </message>
-    <message>
         <source>search the entire disk</source>
         <translation>搜索整个磁盘</translation>
     </message>
@@ -2268,6 +2260,10 @@ Running on %2.</source>
     <message>
         <source>Camera</source>
         <translation>相机</translation>
+    </message>
+    <message>
+        <source>Press “Go On” to search the rest.</source>
+        <translation>按“继续”搜索其余部分。</translation>
     </message>
 </context>
 <context>
@@ -3221,6 +3217,10 @@ Running on %2.</source>
         <source>Best for a card that fails or is slow: it is read once, all else reads the copy.</source>
         <translation>最适合出故障或速度慢的卡：卡只读一次，其余操作都读取副本。</translation>
     </message>
+    <message>
+        <source>To go on later, also after a power cut.</source>
+        <translation>以便日后继续，断电后也可以。</translation>
+    </message>
 </context>
 <context>
     <name>vantor::KeptSearchBar</name>
@@ -4098,6 +4098,10 @@ Please select the required extension type for recovery process. Press ‘Next’
     <message>
         <source>Save &amp;As…</source>
         <translation>另存为(&amp;V)…</translation>
+    </message>
+    <message>
+        <source>Search options</source>
+        <translation>搜索选项</translation>
     </message>
 </context>
 <context>

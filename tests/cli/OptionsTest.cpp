@@ -68,6 +68,7 @@ TEST(Options, QuietIsSaidInTwoWays) {
 
 TEST(Options, EmptySaveFolderIsRefused) {
     EXPECT_EQ(parseOptions({"--save", "", "x"}).exitCode, kExitBadUsage);
+    EXPECT_EQ(parseOptions({""}).exitCode, kExitBadUsage);
 }
 
 }  // namespace vantor

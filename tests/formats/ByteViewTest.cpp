@@ -210,6 +210,7 @@ TEST(Dates, Nonsense_IsNoDate) {
         EXPECT_EQ(parseDate(text), std::nullopt) << text;
     EXPECT_EQ(dateFromSecondsSince1904(0), std::nullopt);
     EXPECT_EQ(dateFromTicksSince1601(0), std::nullopt);
+    EXPECT_EQ(dateFromTicksSince1601(11'644'473'600 * 10'000'000), std::nullopt) << "never set";
     EXPECT_EQ(dateFromUnixSeconds(std::numeric_limits<std::int64_t>::max()), std::nullopt);
 }
 

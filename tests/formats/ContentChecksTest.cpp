@@ -113,7 +113,16 @@ Bytes fragments(bool sizesInRun) {
             data.add(aacFrame(4 * i));
         file.add(part(run)).add(isoBox("mdat", data));
     }
-    return file;
+    return file.add(boxOf("mfra", {}));
+}
+
+TEST(Fragments, OfWhichMoreMayHaveFollowed_OnlyEndWhereTheySay) {
+    Bytes open = fragments(true);
+    open.resize(open.size() - boxOf("mfra", {}).size());
+    const Extent extent = walkBytes("MP4", open);
+    EXPECT_EQ(extent.verdict, Verdict::Complete);
+    EXPECT_EQ(extent.end, open.size());
+    EXPECT_FALSE(extent.checked);
 }
 
 TEST(Fragments, Samples_AreLookedAt) {
@@ -136,6 +145,12 @@ std::string packed(const std::string& content) {
              content.size());
     out.resize(bytes);
     return out;
+}
+
+// An object with a stream, behind whose beginning stands what it holds; 3 0 R tells another length.
+std::string streamObject(const std::string& keys, const std::string& content, bool tellsLength = true) {
+    return "4 0 obj\n<< " + keys + " /Length " + (tellsLength ? std::to_string(content.size()) : "3 0 R") +
+           " >>\nstream\n" + content + "\nendstream\nendobj\n";
 }
 
 // A page whose content is packed; `lead` stands in front of its second object.
@@ -186,6 +201,26 @@ TEST(Documents, WhatIsNoObject_OnlyEndsWhereItSays) {
     EXPECT_FALSE(isDocumentChecked(moved));
 }
 
+TEST(Documents, OfWhichASmallStreamIsAnothers_OnlyEndWhereTheySay) {
+    const std::string small = packed("a few words only, which are a few words");
+    EXPECT_TRUE(isDocumentChecked(document(streamObject("/Filter /FlateDecode", small))));
+    std::string spoilt = small;
+    spoilt[spoilt.size() / 2] ^= 1;
+    EXPECT_FALSE(isDocumentChecked(document(streamObject("/Filter /FlateDecode", spoilt))));
+    const Bytes picture = jpeg();
+    const std::string photo(picture.begin(), picture.end());
+    EXPECT_TRUE(isDocumentChecked(document(streamObject("/Filter /DCTDecode", photo))));
+    EXPECT_FALSE(isDocumentChecked(document(streamObject("/Filter /DCTDecode", photo.substr(0, 40)))));
+}
+
+TEST(Documents, WhoseStreamsSayNothing_OnlyEndWhereTheySay) {
+    for (const bool tellsLength : {true, false}) {
+        const std::string words(20'000, 'w'), foreign(20'000, '\1');
+        EXPECT_TRUE(isDocumentChecked(document(streamObject("", words, tellsLength))));
+        EXPECT_FALSE(isDocumentChecked(document(streamObject("", foreign, tellsLength))));
+    }
+}
+
 TEST(Documents, WhoseEndIsInDoubt_OnlyEndWhereTheySay) {
     EXPECT_FALSE(isDocumentChecked(document() + "\n"));
     const Extent joined = walkBytes("PDF", Build().text(document() + document()));
@@ -208,6 +243,15 @@ TEST(Databases, EveryPage_IsReached) {
         EXPECT_EQ(extent.verdict, Verdict::Damaged) << page;
         EXPECT_TRUE(extent.endFound);
     }
+}
+
+TEST(Databases, APageThatIsReachedTwice_IsAnothers) {
+    // The row's last page, said to be the first of the free ones too, with no other behind it.
+    Bytes twice = database();
+    std::fill_n(twice.begin() + 1024, 8, std::uint8_t{0});
+    expectChecked("SQLITE", twice);
+    twice[35] = 3;
+    EXPECT_EQ(walkBytes("SQLITE", twice).verdict, Verdict::Damaged);
 }
 
 TEST(Databases, PagesThatNothingPointsAt_AreNotJudged) {
@@ -264,6 +308,10 @@ TEST(Frames, LargerThanASector_AreNotCheckedByTheirHeads) {
     EXPECT_EQ(extent.verdict, Verdict::Complete);
     EXPECT_EQ(extent.end, large.size() + tag.size());
     EXPECT_FALSE(extent.checked);
+    // Nor by their number alone.
+    const Bytes counted = Build().add(large).put(36, Build().text("Info").be32(1).be32(10));
+    EXPECT_EQ(walkBytes("MP3", counted).end, large.size());
+    EXPECT_FALSE(walkBytes("MP3", counted).checked);
 }
 
 TEST(Frames, WhoseTagIsTorn_AreNotAll) {

@@ -106,6 +106,8 @@ TEST(MovieSound, OfAnotherKindOfMpeg4_OnlyEndsWhereItSays) {
 
 enum class SizesIn { Runs, Fragments, Movie };
 
+const Bytes kIndexBody(16, 0);  // of the box behind the last fragment
+
 // A movie in so many fragments of five pictures each, whose sizes stand in the runs or apply to all.
 Bytes fragmentedMovie(std::size_t fragments, SizesIn sizes, std::size_t picture = 900) {
     constexpr std::size_t kInFragment = 5;
@@ -134,7 +136,7 @@ Bytes fragmentedMovie(std::size_t fragments, SizesIn sizes, std::size_t picture 
             data.be32(picture - 4).u8(0x65).fill(picture - 5, static_cast<std::uint8_t>(0x41 + (i + n) % 7));
         file.add(isoBox("mdat", data));
     }
-    return file;
+    return file.add(isoBox("mfra", kIndexBody));
 }
 
 class Fragments : public testing::TestWithParam<SizesIn> {};
@@ -162,7 +164,7 @@ TEST_P(Fragments, OfALongMovie_AreLookedAtInFewPlaces) {
 TEST(Fragments, PicturesOutsideTheMediaData_AreDamage) {
     const Bytes whole = fragmentedMovie(12, SizesIn::Runs);
     // The last run's data lie behind the file's end, as the place says that precedes its five sizes.
-    const std::size_t place = whole.size() - 5 * 900 - 8 - 5 * 4 - 4;
+    const std::size_t place = whole.size() - 8 - kIndexBody.size() - 5 * 900 - 8 - 5 * 4 - 4;
     Bytes astray = whole;
     astray[place] = 0x10;
     expectSpoilt("MP4", astray, astray.size());

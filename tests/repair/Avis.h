@@ -19,10 +19,21 @@ inline QByteArray aviChunk(const char* name, const QByteArray& body) {
     return name + little(static_cast<std::uint32_t>(body.size())) + body + QByteArray(body.size() % 2, '\0');
 }
 
+// A stream of 25 units a second: pictures, or sound of 1 byte a unit.
+inline QByteArray aviStream(bool sound) {
+    const QByteArray head = QByteArray(sound ? "auds" : "vids") + QByteArray(16, '\0') + little(1) +
+                            little(sound ? 10000 : 25) + QByteArray(16, '\0') + little(sound ? 1 : 0) +
+                            QByteArray(8, '\0');
+    const QByteArray format =
+        sound ? QByteArray(8, '\0') + little(10000) + QByteArray(4, '\0') : QByteArray(40, '\0');
+    return aviChunk("LIST", "strl" + aviChunk("strh", head) + aviChunk("strf", format));
+}
+
 inline QByteArray headerOf(std::uint32_t pictures, std::uint32_t allPictures) {
     const QByteArray main = QByteArray(16, '\0') + little(pictures) + QByteArray(36, '\0');
     const QByteArray extended = "odml" + aviChunk("dmlh", little(allPictures));
-    return aviChunk("LIST", "hdrl" + aviChunk("avih", main) + aviChunk("LIST", extended));
+    return aviChunk("LIST", "hdrl" + aviChunk("avih", main) + aviStream(false) + aviStream(true) +
+                                aviChunk("LIST", extended));
 }
 
 using Chunks = std::vector<std::pair<const char*, QByteArray>>;

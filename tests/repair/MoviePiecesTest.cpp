@@ -5,6 +5,7 @@
 #include "repair/MoviePieces.h"
 #include "tests/repair/MemoryReader.h"
 #include "tests/repair/Movies.h"
+#include "tests/repair/Photos.h"
 
 namespace vantor {
 namespace {
@@ -125,6 +126,104 @@ TEST(MoviePieces, IndexOfAnotherMovie_IsNotTaken) {
     const QByteArray index = other.bytes.mid(other.indexAt);
     medium.replace(at, index.size(), index);
     EXPECT_EQ(assembled(medium, 4), std::nullopt);
+}
+
+// The codes of a photo are none of a movie: what remains between two samples leaves no choice.
+TEST(MoviePieces, PhotoInALargePicture_IsPassedOver) {
+    std::vector<test::PictureSpec> specs = picturesOfManySizes(40, 1);
+    specs[6].bytes = 9 * static_cast<int>(kMovieClusterBytes);
+    const MadeMovie movie = makeMovie(specs, false, 1);
+    const QByteArray photo = test::makePhoto(1);
+    const int count = movieClustersOf(movie.bytes);
+    std::vector<int> clusters = every(1, 4, count);
+    for (int i = 5; i < count; ++i) {
+        clusters[static_cast<std::size_t>(i)] += 3;
+    }
+    QByteArray medium = mediumOf(2 * count + 30);
+    scatter(movie.bytes, clusters, medium);
+    medium.replace(9 * kMovieClusterBytes, 3 * kMovieClusterBytes,
+                   photo.mid(4 * kMovieClusterBytes, 3 * kMovieClusterBytes));
+    EXPECT_EQ(assembled(medium, 4), movie.bytes);
+}
+
+// Nothing tells where the first picture goes on; its head lies behind it all.
+TEST(MoviePieces, HeadBehindALargePicture_JoinsWhatItLeadsUpTo) {
+    std::vector<test::PictureSpec> specs = picturesOfManySizes(40, 1);
+    specs[0].bytes = 4 * static_cast<int>(kMovieClusterBytes);
+    const MadeMovie movie = makeMovie(specs, false, 1);
+    const int count = movieClustersOf(movie.bytes);
+    std::vector<int> clusters = every(1, 2, count);
+    clusters.front() = count + 5;
+    QByteArray medium = mediumOf(2 * count + 30);
+    scatter(movie.bytes, clusters, medium);
+    EXPECT_EQ(assembled(medium, static_cast<std::uint64_t>(count) + 5), movie.bytes);
+}
+
+// Of a picture in several units a cluster seldom shows the end, but the lengths of some.
+TEST(MoviePieces, PicturesOfSeveralUnits_AreFound) {
+    const MadeMovie movie = makeMovie(picturesOfManySizes(200, 1), false, 1);
+    const MadeMovie other = makeMovie(picturesOfManySizes(200, 2), false, 2);
+    const auto joinedOf = [](const MadeMovie& made) {
+        // Six pictures are taken for the units of one.
+        IndexedTrack track;
+        const ReferenceTrack shape = test::videoTrack();
+        track.described = &shape;
+        track.video = true;
+        for (std::size_t i = 0; i + 6 <= made.pictures.size(); i += 6) {
+            const auto& last = made.pictures[i + 5];
+            track.chunks.push_back({made.pictures[i].at, 1});
+            track.sizes.push_back(static_cast<std::uint32_t>(last.at + last.bytes - made.pictures[i].at));
+        }
+        return made.withoutIndex() + writeIndex({track});
+    };
+    const QByteArray one = joinedOf(movie);
+    const QByteArray two = joinedOf(other);
+    const int count = movieClustersOf(one);
+    QByteArray medium = mediumOf(3 * count + 10);
+    scatter(one, every(2, 4, count), medium);
+    scatter(two, every(2, 5, movieClustersOf(two)), medium);
+    EXPECT_EQ(assembled(medium, 4), one);
+    EXPECT_EQ(assembled(medium, 5), two);
+}
+
+// Clusters in which samples of the one begin are none of the other's, in which nothing begins.
+TEST(MovieCompletion, UnevenTurns_AreToldApartByTheOthersSamples) {
+    std::vector<test::PictureSpec> specs = picturesOfManySizes(100, 1);
+    specs[20].bytes = 8 * static_cast<int>(kMovieClusterBytes);
+    const MadeMovie one = makeMovie(specs, false, 1);
+    std::vector<test::PictureSpec> otherSpecs = picturesOfManySizes(120, 2);
+    otherSpecs[80].bytes = specs[20].bytes;
+    const MadeMovie other = makeMovie(otherSpecs, false, 2);
+    std::vector<int> places[2];
+    const int counts[2] = {movieClustersOf(one.bytes), movieClustersOf(other.bytes)};
+    std::mt19937 random(3);
+    int next = 8;
+    for (int turn = 0;
+         static_cast<int>(places[0].size()) < counts[0] || static_cast<int>(places[1].size()) < counts[1];
+         ++turn) {
+        auto& own = places[turn % 2];
+        for (unsigned i = 0; i <= random() % 3 && static_cast<int>(own.size()) < counts[turn % 2]; ++i) {
+            own.push_back(next++);
+        }
+    }
+    QByteArray medium = mediumOf(next + 20);
+    scatter(one.bytes, places[0], medium);
+    scatter(other.bytes, places[1], medium);
+    MemoryReader reader(medium);
+    MovieReaderOptions noHelper;
+    noHelper.helper = QStringLiteral("/nowhere");
+    CompletionProgress progress;
+    const std::vector<std::uint64_t> starts{8 * kMovieClusterSectors,
+                                            static_cast<std::uint64_t>(places[1][0]) * kMovieClusterSectors};
+    const auto found = MovieCompletion(reader, kGoOn, progress, noHelper).run(starts, {});
+    ASSERT_TRUE(found[0]);
+    EXPECT_EQ(found[0]->proof, AssemblyProof::Proved);
+    QByteArray bytes;
+    for (const SectorRun& run : found[0]->runs) {
+        bytes += medium.mid(static_cast<qsizetype>(run.first * kSectorBytes),
+                            static_cast<qsizetype>((run.end - run.first) * kSectorBytes));
+    }
+    EXPECT_EQ(bytes.first(static_cast<qsizetype>(found[0]->bytes)), one.bytes);
 }
 
 TEST(MovieCompletion, EachMovieLeavesFewerPlacesForTheNext) {

@@ -1,6 +1,8 @@
 // Movies whose index was never written.
 #include <gtest/gtest.h>
 
+#include <QtEndian>
+
 #include "repair/MovieRepair.h"
 #include "tests/repair/Movies.h"
 
@@ -214,6 +216,42 @@ TEST(DataWithoutIndex, OnlyOfMoviesThatHaveNone) {
     // A picture, not a movie.
     EXPECT_FALSE(
         dataOf(whole.bytes.first(24) + QByteArray("\0\0\0\x08meta", 8) + whole.withoutIndex().mid(24)));
+}
+
+TEST(DataBehindIndex, OfAMovieThatWasCutOff_IsRepairedByItsOwn) {
+    const MadeMovie movie = makeMovie(plainPictures(40), true, 1);
+    // The same with the index in front: it tells of places that much further.
+    const auto shift = static_cast<std::uint32_t>(movie.bytes.size() - movie.indexAt);
+    const QByteArray type = movie.bytes.left(24);
+    QByteArray index = movie.bytes.mid(movie.indexAt);
+    for (qsizetype at = index.indexOf("stco"); at >= 0; at = index.indexOf("stco", at + 1)) {
+        const auto count = qFromBigEndian<quint32>(index.constData() + at + 8);
+        for (quint32 i = 0; i < count; ++i) {
+            char* const place = index.data() + at + 12 + 4 * i;
+            qToBigEndian(qFromBigEndian<quint32>(place) + shift, place);
+        }
+    }
+    const QByteArray whole = type + index + movie.bytes.mid(24, movie.indexAt - 24);
+    const auto& last = movie.pictures[30];
+    const QByteArray broken = whole.left(static_cast<qsizetype>(last.at + shift) + 20);
+    SpanSource source(asSpan(broken));
+    EXPECT_FALSE(dataWithoutIndex(source));
+    const auto data = dataBehindIndex(source);
+    ASSERT_TRUE(data);
+    EXPECT_EQ(data->from, 24 + shift + 8);
+    EXPECT_EQ(data->to, static_cast<std::uint64_t>(broken.size()));
+    const auto guide = readReference(source);
+    ASSERT_TRUE(guide);
+    SoundSplitter noHelper(MovieReaderOptions{QStringLiteral("/nowhere")});
+    const auto twin = repairMovie(source, *data, *guide, noHelper);
+    ASSERT_TRUE(twin);
+    EXPECT_EQ(twin->pictures, 30U);
+    const Tracks tracks = tracksOf(twinOf(broken, *twin));
+    EXPECT_EQ(tracks.pictures.size(), 30U);
+    EXPECT_EQ(tracks.pictures.back(), movie.bytes.mid(static_cast<qsizetype>(movie.pictures[29].at),
+                                                      static_cast<qsizetype>(movie.pictures[29].bytes)));
+    SpanSource behind(asSpan(movie.bytes));
+    EXPECT_FALSE(dataBehindIndex(behind));
 }
 
 TEST(ReferenceMovie, TellsWhatTheOthersLack) {

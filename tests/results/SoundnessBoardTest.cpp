@@ -201,6 +201,18 @@ TEST_F(SoundnessBoardTest, WhatOthersFoundOut_IsNotExamined) {
     EXPECT_EQ(asked, std::vector<std::size_t>{1});
 }
 
+TEST_F(SoundnessBoardTest, TheCameraStays_WhenWhoeverSavesDoesNotTellIt) {
+    Soundness looked{Verdict::Complete, false, false, 9, 0, 0, {}};
+    looked.camera = QStringLiteral("Maker One");
+    board.note(0, looked);
+    board.note(0, Soundness{Verdict::Complete, false, false, 10, 0, 0, {}});
+    EXPECT_EQ(board.find(0)->camera, "Maker One");
+    EXPECT_EQ(board.find(0)->bytes, 10U);
+    looked.camera = QStringLiteral("Maker Two");
+    board.note(0, looked);
+    EXPECT_EQ(board.find(0)->camera, "Maker Two");
+}
+
 TEST_F(SoundnessBoardTest, TheEnd_DoesNotWaitForAnItem) {
     std::atomic<bool> reading{false}, mayGoOn{false};
     medium.beforeRead = [&](std::uint64_t) {

@@ -117,6 +117,21 @@ TEST_F(Details, WhichViewAndItsColumns_AreRemembered) {
     EXPECT_FALSE(browser->detailsHeader()->isSortIndicatorShown());
 }
 
+TEST_F(Details, NamesOnTheCard_HaveAColumnWhereThereAreAny) {
+    openThree();
+    DetailsHeader* const header = browser->detailsHeader();
+    constexpr int kColumn = static_cast<int>(DetailsColumn::OriginalName);
+    EXPECT_TRUE(header->isSectionHidden(kColumn));
+    const int narrow = header->length();
+    browser->setOriginalsShown(true);
+    EXPECT_FALSE(header->isSectionHidden(kColumn));
+    EXPECT_GT(header->length(), narrow);
+    const QByteArray state = header->saveState();
+    browser->setOriginalsShown(false);
+    header->recall(state);
+    EXPECT_TRUE(header->isSectionHidden(kColumn)) << "what an earlier card had";
+}
+
 TEST(DetailsColumns, WhatIsKnown_StandsInItsColumn) {
     const auto item =
         MyImageObject::initWithImage({}, QStringLiteral("GND00001.JPG"), QStringLiteral("1"), 50, 60);

@@ -43,7 +43,10 @@ TEST(EmptyWords, WithoutTheThoroughSearch_ItIsAdvised) {
 TEST(EmptyWords, AfterAStop_TheRestIsAdvised) {
     SearchWish wish;
     wish.photo = false;
-    EXPECT_EQ(nothingFound(wish, stopped()).advice, "You can go back and search the rest from sector 34 on.");
+    EXPECT_EQ(nothingFound(wish, stopped()).advice, "Press “Go On” to search the rest.");
+    wish.allTypes = false;
+    EXPECT_EQ(nothingFound(wish, stopped()).advice,
+              "Press “Go On” to search the rest. You can go back and select more file types.");
 }
 
 TEST(EmptyWords, FileTypesAreAdvisedWhereSomeWereLeftOut) {

@@ -299,7 +299,10 @@ TEST(TextPicture, Lines_AreCutAndHoldNoStrangeLetters) {
     EXPECT_EQ(textLines("caf\xe9 noir", 5, 99).value(0), QString::fromUtf8("café noir"));
     EXPECT_EQ(textLines("end" + QByteArray(509, '\0'), 5, 99), QStringList{"end"});
     EXPECT_EQ(textLines(QByteArray("\xff\xfeh\0i\0", 6), 5, 99), QStringList{"hi"});
+    EXPECT_EQ(textLines(QByteArray("end\0", 4), 5, 99), QStringList{"end"});
     EXPECT_TRUE(textLines({}, 5, 99).isEmpty());
+    EXPECT_TRUE(textLines("ten \x01 words", 5, 99).isEmpty()) << "more than one strange letter in fifty";
+    EXPECT_EQ(textLines(QByteArray(49, 'x') + '\x01', 5, 99).size(), 1);
     EXPECT_TRUE(textLines(QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16), 5, 99).isEmpty());
 }
 

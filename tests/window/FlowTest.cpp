@@ -87,12 +87,13 @@ TEST_F(Flow, Back_FromTheRangeScreen_ForgetsTheMediumAndTheMode) {
     EXPECT_FALSE(controller->_rec_mode_Video->isChecked());
     EXPECT_FALSE(controller->_Search_Type->isVisible());
     EXPECT_EQ(controller->_help_info->text(), kMediaHelp);
-    for (const QLabel* value :
-         {controller->_sectors_val, controller->_disk_identifier, controller->_disk_val,
-          controller->_vol_name_val, controller->_file_system_val, controller->_size_val,
-          controller->_start_sector_entire_val, controller->_end_sector_entire_val, controller->_disk_val_Sig,
-          controller->_vol_name_val_Sig, controller->_file_system_val_Sig, controller->_size_val_Sig,
-          controller->_start_sector_entire_val_Sig, controller->_end_sector_entire_val_Sig}) {
+    for (const QLabel* value : std::initializer_list<const QLabel*>{
+             controller->_sectors_val, controller->_disk_identifier, controller->_disk_val,
+             controller->_vol_name_val, controller->_file_system_val, controller->_size_val,
+             controller->_start_sector_entire_val, controller->_end_sector_entire_val,
+             controller->_disk_val_Sig, controller->_vol_name_val_Sig, controller->_file_system_val_Sig,
+             controller->_size_val_Sig, controller->_start_sector_entire_val_Sig,
+             controller->_end_sector_entire_val_Sig}) {
         EXPECT_EQ(value->text(), QStringLiteral("<None>")) << value->objectName().toStdString();
     }
     EXPECT_FALSE(controller->backButton->isEnabled());

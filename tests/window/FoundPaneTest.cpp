@@ -137,6 +137,23 @@ TEST_F(FoundPaneTest, AnOpenedHeadingHasEveryItemLookedAt_AndRowsOfDifferentHead
     EXPECT_EQ(textOf(row({tr("By day"), tr("Date not known")}), 1), QStringLiteral("4"));
 }
 
+TEST_F(FoundPaneTest, AClickOnTheWordsOfAHeading_OpensAndClosesIt) {
+    scan();
+    QTreeWidgetItem* const sizes = row({tr("By size")});
+    clickRow(sizes);
+    EXPECT_TRUE(sizes->isExpanded());
+    EXPECT_TRUE(row({tr("All items")})->isSelected());
+    clickRow(sizes);
+    EXPECT_FALSE(sizes->isExpanded());
+    // A row that can be picked is picked and stays as it was.
+    QTreeWidgetItem* const sound = row({tr("Sound")});
+    ASSERT_NE(sound, nullptr);
+    const bool before = sound->isExpanded();
+    clickRow(sound);
+    EXPECT_TRUE(sound->isSelected());
+    EXPECT_EQ(sound->isExpanded(), before);
+}
+
 TEST_F(FoundPaneTest, ANameIsSearchedForAsItIsTyped_AndReturnLeadsToTheList) {
     scan();
     controller->window->activateWindow();

@@ -83,6 +83,27 @@ TEST_F(Keeping, WithoutTheBox_NothingOutlivesTheProgram) {
     EXPECT_FALSE(isOffered());
 }
 
+TEST_F(Keeping, TheBoxSaysWhatItReplaces) {
+    openWithCard();
+    toRange(kPhotoMode);
+    const auto* words = part<QLabel>("rememberExplanation");
+    EXPECT_EQ(words->text(), "To go on later, also after a power cut.");
+    click(part<QCheckBox>("rememberBox"));
+    searchAndStopAt(22);
+    close();
+    open();
+    toRange(kPhotoMode);
+    words = part<QLabel>("rememberExplanation");
+    EXPECT_EQ(
+        words->text(),
+        "To go on later, also after a power cut. It takes the place of the search that is remembered now.");
+    EXPECT_EQ(part<QCheckBox>("rememberBox")->accessibleDescription(), words->text());
+    click(controller->backButton);
+    click(button("forgetKeptButton"));
+    toRange(kPhotoMode);
+    EXPECT_EQ(words->text(), "To go on later, also after a power cut.");
+}
+
 TEST_F(Keeping, WithoutAFolder_TheBoxIsNotOffered) {
     parts.stateFolder.clear();
     openWithCard();

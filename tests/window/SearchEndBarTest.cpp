@@ -89,11 +89,9 @@ TEST_F(SearchEndBar, AStoppedSearch_SaysWhereAndHowToGoOn) {
     ASSERT_TRUE(scanEnds());
     EXPECT_EQ(heading, "The search was stopped at 73 % (sector 47 of 64).");
     EXPECT_FALSE(tick);
-    EXPECT_TRUE(text.endsWith("start at sector 28.")) << text.toStdString();
-    EXPECT_EQ(
-        controller->searchEndLabel->text(),
-        "The search was stopped at 73 % (sector 47 of 64). To go on from there, go back, choose “Sector "
-        "Range” and start at sector 28.");
+    EXPECT_TRUE(text.endsWith("Press “Go On” to search the rest.")) << text.toStdString();
+    EXPECT_EQ(controller->searchEndLabel->text(),
+              "The search was stopped at 73 % (sector 47 of 64). Press “Go On” to search the rest.");
     EXPECT_FALSE(isTick(controller->searchEndIcon));
 }
 

@@ -129,7 +129,10 @@ TEST(Theme, TheDarkSheetHasNoColourOfTheLightOne) {
     }
     EXPECT_EQ(before.hasNext(), after.hasNext());
     EXPECT_GT(count, 50);
-    EXPECT_FALSE(dark.contains(QLatin1String("/down.svg")));
+    for (const char* icon : {"down", "grip-vertical", "grip-horizontal"}) {
+        EXPECT_FALSE(dark.contains(QStringLiteral("/%1.svg").arg(QLatin1String(icon)))) << icon;
+        EXPECT_TRUE(QFile::exists(QStringLiteral(":/icons/%1-dark.svg").arg(QLatin1String(icon)))) << icon;
+    }
 }
 
 TEST(Theme, AChangeOfTheLook_ReachesWindowsThatAreOpen) {

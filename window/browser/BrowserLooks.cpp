@@ -329,8 +329,9 @@ void BrowserLooks::putInOrder() {
     } else {
         const bool asksBoard = m_wish.needsSoundness();
         const bool byName = !m_wish.name.isEmpty();
-        const bool asksItem = !m_wish.type.isEmpty() || m_wish.sort == SortItems::Name ||
-                              m_wish.sort == SortItems::Type || m_wish.sort == SortItems::Place;
+        const bool asksType = !m_wish.type.isEmpty() || m_wish.sort == SortItems::Type;
+        const bool asksName = m_wish.sort == SortItems::Name;
+        const bool asksItem = asksType || asksName || m_wish.sort == SortItems::Place;
         const FoundFacets::Filter picked(m_facets, m_wish.facets);
         m_pickedFacets = m_facets.changes();
         browser->reloadData();
@@ -358,8 +359,8 @@ void BrowserLooks::putInOrder() {
                 }
                 if (asksItem) {
                     if (const auto item = m_items.at(at)) {
-                        facts.type = pathExtension(item->imageTitle());
-                        facts.name = item->imageTitle();
+                        facts.type = asksType ? pathExtension(item->imageTitle()) : QString();
+                        facts.name = asksName ? item->imageTitle() : QString();
                         facts.place = firstSectorOf(*item);
                     }
                 }

@@ -98,6 +98,7 @@ DetailsHeader::DetailsHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, pare
         resizeSection(at, column.letters * fontMetrics().horizontalAdvance(u'0') + kMargins);
     }
     setSortIndicatorShown(false);
+    setOriginalsShown(false);
     connect(this, &QHeaderView::sectionClicked, this,
             [this](int column) { emit sortWanted(sortOf(static_cast<DetailsColumn>(column))); });
 }
@@ -114,6 +115,12 @@ void DetailsHeader::recall(const QByteArray& state) {
         setSectionHidden(at, false);
         resizeSection(at, std::clamp(sectionSize(at), before, kWidestColumn));
     }
+    setOriginalsShown(m_originalsShown);
+}
+
+void DetailsHeader::setOriginalsShown(bool shown) {
+    m_originalsShown = shown;
+    setSectionHidden(static_cast<int>(DetailsColumn::OriginalName), !shown);
 }
 
 void DetailsHeader::showSorted(SortItems sort, bool reversed) {

@@ -32,8 +32,14 @@ class DetailsHeader : public QHeaderView {
     // What saveState() gave in an earlier run; anything else changes nothing.
     void recall(const QByteArray& state);
 
+    // Whether any item has a name of its own on the card: without one that column is left out.
+    void setOriginalsShown(bool shown);
+
   signals:
     void sortWanted(SortItems sort);
+
+  private:
+    bool m_originalsShown = false;
 };
 
 }  // namespace vantor

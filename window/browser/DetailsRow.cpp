@@ -66,6 +66,9 @@ void DetailsRow::paint(QPainter* painter, const QStyleOptionViewItem& option,
     paintTick(painter, tickPlace(line), facts.ticked, pointedAt);
     painter->setFont(option.font);
     for (int at = 0; at < kDetailsColumns; ++at) {
+        if (header.isSectionHidden(at)) {
+            continue;
+        }
         const auto column = static_cast<DetailsColumn>(at);
         const int left = line.left() + header.sectionPosition(at);
         QRect words(left + kColumnGap, line.top(), header.sectionSize(at) - 2 * kColumnGap, line.height());

@@ -11,11 +11,8 @@ namespace vantor {
 namespace {
 
 // What has not been tried yet.
-QStringList untried(const SearchWish& wish, const SearchEnd& end) {
+QStringList untried(const SearchWish& wish) {
     QStringList steps;
-    if (end.canGoOn()) {
-        steps << QObject::tr("search the rest from sector %1 on").arg(end.goOnAt);
-    }
     if (!wish.entireDisk) {
         steps << QObject::tr("search the entire disk");
     }
@@ -42,16 +39,19 @@ EmptyWords nothingYet(bool photo) {
 
 EmptyWords nothingFound(const SearchWish& wish, const SearchEnd& end) {
     EmptyWords words{wish.photo ? QObject::tr("No photos were found") : QObject::tr("Nothing was found"), {}};
-    QStringList steps = untried(wish, end);
-    if (steps.isEmpty()) {
-        words.advice = QObject::tr("All of it was searched for all types. Try another medium.");
-    } else {
-        const QString last = steps.takeLast();
-        words.advice =
-            steps.isEmpty()
-                ? QObject::tr("You can go back and %1.").arg(last)
-                : QObject::tr("You can go back and %1, or %2.").arg(steps.join(QStringLiteral(", ")), last);
+    QStringList sentences;
+    if (end.canGoOn()) {
+        sentences << goOnWords();
     }
+    if (QStringList steps = untried(wish); !steps.isEmpty()) {
+        const QString last = steps.takeLast();
+        sentences << (steps.isEmpty() ? QObject::tr("You can go back and %1.").arg(last)
+                                      : QObject::tr("You can go back and %1, or %2.")
+                                            .arg(steps.join(QStringLiteral(", ")), last));
+    }
+    words.advice = sentences.isEmpty()
+                       ? QObject::tr("All of it was searched for all types. Try another medium.")
+                       : sentences.join(u' ');
     return words;
 }
 

@@ -91,6 +91,12 @@ FoundPane::FoundPane(QWidget* parent)
     connect(m_search, &QLineEdit::textChanged, this, &FoundPane::chosen);
     connect(new QShortcut(Qt::Key_Escape, m_search, nullptr, nullptr, Qt::WidgetShortcut),
             &QShortcut::activated, m_search, &QLineEdit::clear);
+    // A heading cannot be picked: a click on its words is as one on its arrow.
+    connect(m_tree, &QTreeWidget::itemClicked, this, [](QTreeWidgetItem* row) {
+        if (!(row->flags() & Qt::ItemIsSelectable)) {
+            row->setExpanded(!row->isExpanded());
+        }
+    });
     // Whoever opens a heading waits for what is under it.
     connect(m_tree, &QTreeWidget::itemExpanded, this, &FoundPane::chosen);
 }

@@ -116,6 +116,7 @@ QRect ImageBrowserView::tickPlace(const QModelIndex& item) const {
 void ImageBrowserView::setOriginalsShown(bool shown) {
     if (m_originalsShown != shown) {
         m_originalsShown = shown;
+        m_header->setOriginalsShown(shown);
         setZoomValue(m_zoom);
         scheduleDelayedItemsLayout();
     }

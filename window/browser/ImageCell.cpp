@@ -48,7 +48,10 @@ ImageCell::ImageCell(ImageBrowserView* view)
 
 QSize ImageCell::cellSize(int edge, const QFont& font, int lines) {
     const QFontMetrics metrics(font);
-    return {std::max(edge + 2 * kPadding, kNarrowest), edge + lines * metrics.height() + 3 * kPadding};
+    // The names that are given to found items are read whole, whatever the font.
+    const int name = metrics.horizontalAdvance(QStringLiteral("GND00000.JPEG")) + 2 * kPadding;
+    return {std::max({edge + 2 * kPadding, kNarrowest, name}),
+            edge + lines * metrics.height() + 3 * kPadding};
 }
 
 QRect ImageCell::tickPlace(const QRect& cell) {

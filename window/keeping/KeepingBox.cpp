@@ -11,7 +11,6 @@ namespace vantor {
 namespace {
 
 constexpr int kSideMargin = 16;
-constexpr int kTopMargin = 4;
 constexpr int kSpacing = 12;
 
 QLabel* explanation(const char* name, QWidget* parent) {
@@ -28,17 +27,14 @@ QLabel* explanation(const char* name, QWidget* parent) {
 KeepingBox::KeepingBox(QWidget* parent) : QFrame(parent) {
     setObjectName(QStringLiteral("keepingBox"));
     auto* const grid = new QGridLayout(this);
-    grid->setContentsMargins(kSideMargin, kTopMargin, kSideMargin, kTopMargin);
+    grid->setContentsMargins(kSideMargin, 0, kSideMargin, 0);
     grid->setHorizontalSpacing(kSpacing);
-    grid->setVerticalSpacing(kTopMargin);
+    grid->setVerticalSpacing(kOptionGap);
     grid->setColumnStretch(1, 1);
 
     rememberBox = new QCheckBox(tr("Re&member this search"), this);
     rememberBox->setObjectName(QStringLiteral("rememberBox"));
     m_rememberExplanation = explanation("rememberExplanation", this);
-    m_rememberExplanation->setText(tr(
-        "To go on later, also after a power cut. It takes the place of the search that is remembered now."));
-    rememberBox->setAccessibleDescription(m_rememberExplanation->text());
     grid->addWidget(rememberBox, 0, 0);
     grid->addWidget(m_rememberExplanation, 0, 1, 1, 2);
 
@@ -52,7 +48,23 @@ KeepingBox::KeepingBox(QWidget* parent) : QFrame(parent) {
     grid->addWidget(copyBox, 1, 0);
     grid->addWidget(m_copyExplanation, 1, 1);
     grid->addWidget(copyPlaceButton, 1, 2);
+    for (const int row : {0, 1}) {
+        grid->setRowMinimumHeight(row, lineHeight());
+    }
+    setReplaces(false);
     setCopyPlace({}, {});
+}
+
+int KeepingBox::lineHeight() const {
+    return copyPlaceButton->sizeHint().height();
+}
+
+void KeepingBox::setReplaces(bool another) {
+    m_rememberExplanation->setText(
+        another ? tr("To go on later, also after a power cut. It takes the place of the search that is "
+                     "remembered now.")
+                : tr("To go on later, also after a power cut."));
+    rememberBox->setAccessibleDescription(m_rememberExplanation->text());
 }
 
 void KeepingBox::offer(bool remembering, bool copying) {

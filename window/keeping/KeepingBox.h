@@ -19,6 +19,13 @@ class KeepingBox : public QFrame {
     // Which of the two there is at all; the box is hidden where there is neither.
     void offer(bool remembering, bool copying);
 
+    // Whether another search is remembered now, whose place this one would take.
+    void setReplaces(bool another);
+
+    // How high a line of options is at least, in pixels, and what is between two of them.
+    int lineHeight() const;
+    static constexpr int kOptionGap = 4;
+
     // Where the copy goes, and what there is to say of the place; "" while none is chosen.
     void setCopyPlace(const QString& path, const QString& words);
     const QString& copyPath() const { return m_copyPath; }

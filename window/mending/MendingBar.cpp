@@ -16,6 +16,7 @@ namespace {
 constexpr int kMendingSideMargin = 2 * theme::kUnit;
 constexpr int kMendingTopMargin = theme::kUnit;
 constexpr int kMendingSpacing = 12;
+constexpr int kMendingSign = 3 * theme::kUnit;
 constexpr int kProgressWidth = 22 * theme::kUnit;
 
 }  // namespace
@@ -26,6 +27,10 @@ MendingBar::MendingBar(QWidget* parent) : QFrame(parent) {
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(kMendingSideMargin, kMendingTopMargin, kMendingSideMargin, kMendingTopMargin);
     row->setSpacing(kMendingSpacing);
+    // Where the bar above has the sign of how the search ended.
+    auto* const sign = new QLabel(this);
+    sign->setPixmap(ownIcon(QStringLiteral("info")).pixmap(kMendingSign, kMendingSign));
+    row->addWidget(sign);
     label = new QLabel(this);
     label->setObjectName(QStringLiteral("mendingLabel"));
     label->setWordWrap(true);

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLayout>
 #include <QPushButton>
+#include <algorithm>
 
 #include "ui_BrowseInfo.h"
 #include "ui_ClearPreview.h"
@@ -27,8 +28,9 @@ void setPicture(QLabel* label, const QString& name) {
 // As high as its wrapped text needs at the width it was drawn with, and no higher.
 void fitToWords(QDialog* window) {
     window->ensurePolished();
-    const int width = window->minimumWidth();
     window->layout()->activate();
+    // Wider where a line that cannot be wrapped is.
+    const int width = std::max(window->minimumWidth(), window->layout()->totalMinimumSize().width());
     const QLayout* const layout = window->layout();
     const int height =
         layout->hasHeightForWidth() ? layout->totalHeightForWidth(width) : layout->totalSizeHint().height();

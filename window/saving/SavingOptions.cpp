@@ -26,6 +26,12 @@ SavingOptions::SavingOptions(QWidget* parent) : Panel(parent), m_ui(std::make_un
           std::pair{tr("By type and date"), SaveFolders::Date}}) {
         m_ui->foldersBox->addItem(text, static_cast<int>(value));
     }
+    // Lines of one height, whatever stands in them.
+    for (QWidget* const line : std::initializer_list<QWidget*>{
+             m_ui->namesBox, m_ui->minPixelsField, m_ui->minBytesField, m_ui->skipUnsoundBox, m_ui->partsBox,
+             m_ui->keepDuplicatesBox, m_ui->reportBox}) {
+        line->setMinimumHeight(m_ui->foldersBox->sizeHint().height());
+    }
     connect(m_ui->minPixelsBox, &QCheckBox::toggled, m_ui->minPixelsField, &QWidget::setEnabled);
     connect(m_ui->minBytesBox, &QCheckBox::toggled, m_ui->minBytesField, &QWidget::setEnabled);
     connect(m_ui->okButton, &QPushButton::clicked, this, [this] { stopModalWithCode(kButtonPressed); });

@@ -142,7 +142,8 @@ QString sheetInLook(const QString& sheet, Look look) {
         from = match.capturedEnd(3);
     }
     text += QStringView(sheet).mid(from);
-    return text.replace(QStringLiteral("/down.svg"), QStringLiteral("/down-dark.svg"));
+    static const QRegularExpression picture(QStringLiteral("/(down|grip-vertical|grip-horizontal)\\.svg"));
+    return text.replace(picture, QStringLiteral("/\\1-dark.svg"));
 }
 
 void setCommonBackground(QWidget* window) {
