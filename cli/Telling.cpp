@@ -9,6 +9,7 @@
 #include <cstdio>
 
 #include "catalogue/TextHelpers.h"
+#include "media/LabelText.h"
 #include "media/PathArgument.h"
 #include "results/SizeForPeople.h"
 #include "saving/CopyWords.h"
@@ -133,7 +134,12 @@ void tellEnd(const SearchEnd& end, const CliOptions& options, const CliMedium& m
 }  // namespace
 
 void complain(const QString& text) {
-    std::fprintf(stderr, "vantor-recovery-cli: %s\n", qPrintable(withShownPaths(Trim_Str(text))));
+    // A path may be named to speak to the terminal.
+    QStringList lines = withShownPaths(Trim_Str(text)).split(u'\n');
+    for (QString& line : lines) {
+        line = steeringSpeltOut(line);
+    }
+    std::fprintf(stderr, "vantor-recovery-cli: %s\n", qPrintable(lines.join(u'\n')));
 }
 
 int tell(const CliSession& session, const CliOptions& options, const CliMedium& medium,

@@ -16,6 +16,8 @@ constexpr std::uint32_t kMostInRun = 1 << 16;
 constexpr std::uint64_t kSmallMovie = 4 * 1024 * 1024;
 constexpr std::size_t kFragmentsLookedAt = 192;
 constexpr std::uint32_t kSamplesLookedAt = 4;
+// Of all runs whose samples are alike: their number is a word that no table of sizes bears out.
+constexpr std::uint32_t kMostAlike = 1 << 20;
 
 struct FragmentedTrack {
     std::uint32_t id = 0;
@@ -74,6 +76,8 @@ class FragmentCheck {
     ByteView& m_view;
     const std::span<const FragmentedTrack> m_tracks;
     const bool m_all;
+    std::uint32_t m_alikeLeft = kMostAlike;
+    bool m_cut = false;  // samples were left out
     std::vector<SampleCensus> m_counted;
 };
 
@@ -112,6 +116,12 @@ bool FragmentCheck::run(const IsoBox& box, Part& part) {
     const std::uint64_t behind = ((flags & 0x400) != 0 ? 4U : 0U) + ((flags & 0x800) != 0 ? 4U : 0U);
     if (samples > kMostInRun)
         return false;
+    if (!told && before + behind == 0) {
+        m_cut = m_cut || samples > m_alikeLeft;
+        if (m_cut)
+            return false;
+        m_alikeLeft -= samples;
+    }
     std::vector<std::uint64_t> sizes;  // read in one go, as the samples lie elsewhere
     for (std::uint32_t i = 0; i < samples; ++i) {
         in.skip(before);
@@ -150,7 +160,7 @@ ContentCheck FragmentCheck::outcome(std::uint64_t dataBytes) const {
     ContentCheck all;
     bool everyVideo = true;
     for (std::size_t i = 0; i < m_counted.size(); ++i) {
-        const ContentCheck check = m_counted[i].outcome(m_all, dataBytes);
+        const ContentCheck check = m_counted[i].outcome(m_all && !m_cut, dataBytes);
         if (check.outcome == ContentCheck::Outcome::Broken)
             return check;
         everyVideo =

@@ -20,12 +20,21 @@ constexpr std::uint64_t kIsoSamplesSmallMovie = 4 * 1024 * 1024;
 constexpr std::uint64_t kFewSamples = 4096;
 constexpr std::uint64_t kChunksLookedAt = 48;
 constexpr std::size_t kIsoSamplesSamplesLookedAt = 4;
+// A movie looked at as a whole gets no more than this for all its tracks: where all samples are alike, their
+// number is a word of the tables that nothing else bears out.
+constexpr std::uint64_t kMostSamplesOfAWhole = 1 << 16;
 
 class TrackCheck {
   public:
+    // Takes what it looks at as a whole from `left`.
     TrackCheck(ByteView& view, const IsoTrack& track, std::span<const DataPlace> data, bool all,
-               std::uint64_t dataBytes)
-        : m_view(view), m_track(track), m_all(all), m_dataBytes(dataBytes), m_census(view, track, data) {}
+               std::uint64_t dataBytes, std::uint64_t& left)
+        : m_view(view),
+          m_track(track),
+          m_all(all),
+          m_dataBytes(dataBytes),
+          m_left(left),
+          m_census(view, track, data) {}
 
     ContentCheck check();
 
@@ -36,6 +45,7 @@ class TrackCheck {
     const IsoTrack& m_track;
     const bool m_all;
     const std::uint64_t m_dataBytes;
+    std::uint64_t& m_left;
     SampleCensus m_census;
 };
 
@@ -53,7 +63,8 @@ void TrackCheck::chunk(std::uint64_t index, std::uint64_t firstSample, std::uint
     for (std::uint64_t done = 0; done < samples;) {
         std::array<std::uint64_t, 64> sizes{};
         std::size_t known = 0;
-        const std::uint64_t wanted = m_all ? sizes.size() : kIsoSamplesSamplesLookedAt;
+        const std::uint64_t wanted =
+            m_all ? std::min<std::uint64_t>(sizes.size(), m_left) : kIsoSamplesSamplesLookedAt;
         for (; known < std::min<std::uint64_t>(wanted, samples - done); ++known) {
             const auto size = alike ? std::optional(m_track.sampleBytes)
                                     : m_track.sizes.entry(m_view, firstSample + done + known);
@@ -68,6 +79,9 @@ void TrackCheck::chunk(std::uint64_t index, std::uint64_t firstSample, std::uint
         done += known;
         if (known < wanted || !m_all)
             return;
+        m_left -= known;
+        if (m_left == 0)
+            return;
     }
 }
 
@@ -77,7 +91,7 @@ ContentCheck TrackCheck::check() {
     std::uint64_t pick = 0;
     std::uint64_t sample = 0;
     const auto runs = std::min(m_track.runs.count, kMostRuns);
-    for (std::uint64_t run = 0; run < runs && pick < picks; ++run) {
+    for (std::uint64_t run = 0; run < runs && pick < picks && m_left != 0; ++run) {
         Cursor in(m_view, m_track.runs.at + run * 12);
         const std::uint64_t first = in.u32();
         const std::uint64_t samples = in.u32();
@@ -85,7 +99,7 @@ ContentCheck TrackCheck::check() {
         const std::uint64_t next = run + 1 < m_track.runs.count ? in.u32() : chunks + 1;
         if (!in.ok() || first == 0 || next < first)
             return {};
-        while (pick < picks) {
+        while (pick < picks && m_left != 0) {
             const auto index = m_all ? pick : pick * chunks / picks;
             if (index + 1 < first || index + 1 >= next)
                 break;
@@ -94,7 +108,7 @@ ContentCheck TrackCheck::check() {
         }
         sample = addClamped(sample, mulClamped(next - first, samples));
     }
-    return m_census.outcome(m_all, m_dataBytes);
+    return m_census.outcome(m_all && m_left != 0, m_dataBytes);
 }
 
 // Whether the boxes of an index follow each other to the end of the one they stand in, where it holds tracks.
@@ -123,6 +137,7 @@ ContentCheck checkSamples(ByteView& view, const IsoBox& movie, std::span<const D
     ContentCheck all;
     bool everyVideo = true;
     int tracks = 0;
+    std::uint64_t left = kMostSamplesOfAWhole;
     forIsoBoxes(view, movie.body, movie.end, [&](const IsoBox& box) {
         if (box.text() != "trak" || ++tracks > kIsoSamplesMostTracks)
             return;
@@ -131,7 +146,7 @@ ContentCheck checkSamples(ByteView& view, const IsoBox& movie, std::span<const D
             return;
         const bool whole =
             bytes <= kIsoSamplesSmallMovie && std::max(track.sizes.count, track.chunks.count) <= kFewSamples;
-        const ContentCheck check = TrackCheck(view, track, data, whole, bytes).check();
+        const ContentCheck check = TrackCheck(view, track, data, whole, bytes, left).check();
         everyVideo = everyVideo && (!track.isVideo() || check.outcome != ContentCheck::Outcome::Silent);
         if (check.outcome == ContentCheck::Outcome::Broken || all.outcome == ContentCheck::Outcome::Silent)
             all = check;

@@ -6,8 +6,9 @@
 namespace vantor {
 
 // The text with everything that is not seen but steers (control characters, marks that turn the direction of
-// reading) spelt out as "\u202e", and cut behind kMostLabelLetters: nothing in it speaks to a terminal, turns
-// the words around it or holds up the screen.
+// reading) spelt out as "\u202e": nothing in it speaks to a terminal or turns the words around it.
+QString steeringSpeltOut(QStringView text);
+// The same, cut behind kMostLabelLetters, so that it does not hold up the screen either.
 inline constexpr qsizetype kMostLabelLetters = 200;
 QString shownLabel(const QString& text);
 

@@ -129,6 +129,13 @@ TEST(Command, MediumThatIsNotThereIsToldAsTyped) {
     EXPECT_FALSE(run.err.contains("/dev/nosuch")) << run.err.constData();
 }
 
+TEST(Command, NamesThatSpeakToATerminalAreSpeltOut) {
+    const CommandRun run = runCommand({QStringLiteral("a\x1b[31m\u202egmi.img")});
+    EXPECT_EQ(run.exitCode, 5);
+    EXPECT_TRUE(run.err.contains("“a\\u001b[31m\\u202egmi.img”")) << run.err.constData();
+    EXPECT_FALSE(run.err.contains('\x1b')) << run.err.constData();
+}
+
 TEST(Command, EmptyImageIsAReadError) {
     const QTemporaryDir folder;
     QFile empty(folder.filePath("empty.img"));

@@ -104,6 +104,52 @@ TEST(MovieSound, OfAnotherKindOfMpeg4_OnlyEndsWhereItSays) {
     }
 }
 
+// Their number is a word of the tables; without a bound these would be looked at for weeks.
+TEST(MovieSound, OfSamplesBeyondNumber_IsLookedAtInFewPlaces) {
+    constexpr std::size_t kChunks = 4096;
+    const Bytes type = isoBox("ftyp", Build().text("M4A ").be32(0).text("M4A "));
+    Build chunks;
+    chunks.be32(kChunks);
+    for (std::size_t i = 0; i < kChunks; ++i)
+        chunks.be32(type.size() + 8);
+    const Bytes tables = Build()
+                             .add(versioned("stsc", Build().be32(1).be32(1).be32(0xFFFFFFFF).be32(1)))
+                             .add(versioned("stsz", Build().be32(1).be32(0xFFFFFFFF)))
+                             .add(versioned("stco", chunks));
+    const Sound sound = sounds().front();
+    const Bytes entry = isoBox(sound.name, Build().fill(6).be16(1).fill(20).add(sound.configuration));
+    const Bytes track = trackOf("soun", entry, tables);
+    const Bytes file = Build()
+                           .add(type)
+                           .add(isoBox("mdat", samplesOf(sound.head)))
+                           .add(isoBox("moov", Build().add(track).add(track)));
+    expectSpoilt("M4A", file, file.size());  // most lie outside the media data
+}
+
+TEST(MovieSound, OfSamplesBeyondNumberInFragments_IsLookedAtInFewPlaces) {
+    constexpr std::size_t kMostChildren = 256;
+    constexpr std::size_t kMostInRun = 65536;
+    const Sound sound = sounds().front();
+    const Bytes entry = isoBox(sound.name, Build().fill(6).be16(1).fill(20).add(sound.configuration));
+    const Bytes forAll = versioned("trex", Build().be32(1).be32(1).be32(0).be32(0).be32(0));
+    Build runs;
+    for (std::size_t i = 0; i + 1 < kMostChildren; ++i)
+        runs.add(isoBox("trun", Build().be32(0).be32(kMostInRun)));
+    const Bytes part = isoBox(
+        "traf", Build().add(isoBox("tfhd", Build().be32(0x020000).be32(1))).add(static_cast<Bytes>(runs)));
+    Build parts;
+    parts.add(versioned("mfhd", Build().be32(1)));
+    for (std::size_t i = 0; i + 1 < kMostChildren; ++i)
+        parts.add(part);
+    const Bytes fragment = isoBox("moof", static_cast<Bytes>(parts));
+    Build file;
+    file.add(isoBox("ftyp", Build().text("iso5").be32(0).text("iso5")));
+    file.add(isoBox("moov", Build().add(trackOf("soun", entry, {})).add(isoBox("mvex", forAll))));
+    for (int i = 0; i < 4; ++i)
+        file.add(fragment).add(isoBox("mdat", samplesOf(sound.head)));
+    expectWholeInside("M4A", file, false);
+}
+
 enum class SizesIn { Runs, Fragments, Movie };
 
 const Bytes kIndexBody(16, 0);  // of the box behind the last fragment
