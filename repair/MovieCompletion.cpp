@@ -99,6 +99,9 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
             }
         }
         const AssemblyProof proof = isProved(movie) ? AssemblyProof::Proved : AssemblyProof::Likely;
+        if (runs.size() == 1 && proof == AssemblyProof::Likely) {
+            return;  // as it lies
+        }
         assemblies[i] = Assembly{runs, movie.movie.bytes, proof, false};
         if (tell) {
             tell(i, *assemblies[i]);

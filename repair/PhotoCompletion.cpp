@@ -61,7 +61,7 @@ std::vector<std::optional<Assembly>> PhotoCompletion::run(std::span<const std::u
         ClusterKinds kinds(blocks, grid);
         // Few files may all begin on a wider grid than theirs by chance: that one must not use everything up.
         for (std::size_t i = 0; i < broken.size(); ++i) {
-            allowed[i] = &grid == &grids.back() ? unitsLeft[i] : unitsLeft[i] / 2;
+            allowed[i] = &grid == &grids.back() ? unitsLeft[i] : unitsLeft[i] - unitsLeft[i] / 8;
             unitsLeft[i] -= allowed[i];
         }
         // What is put together may uncover where another one was cut.

@@ -28,7 +28,7 @@ struct PiecedPhoto {
 class PhotoPieces {
   public:
     // Of one photo: coded units that are read in all its trials, and in one call.
-    static constexpr std::uint64_t kMostUnits = 8'000'000;
+    static constexpr std::uint64_t kMostUnits = 9'200'000;
     static constexpr std::uint64_t kMostUnitsAtOnce = 4'000'000;
     static constexpr std::size_t kMostJoins = 4;
 

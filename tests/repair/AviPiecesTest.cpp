@@ -76,6 +76,22 @@ TEST(AviPieces, PieceThatIsGone_IsNotProved) {
     EXPECT_TRUE(!found[0] || found[0]->proof == AssemblyProof::Likely);
 }
 
+// Nothing tells what stands in a chunk that is longer than its cluster: anything may have been taken for it.
+TEST(AviPieces, ChunkWithAForeignPiece_IsToBeLookedAt) {
+    test::Chunks chunks = noiseChunks(1, 30);
+    chunks[20].second = QByteArray(10 * test::kClusterBytes, '\x21');
+    const QByteArray movie = makeAvi(chunks);
+    const qsizetype within = movie.indexOf(QByteArray(5000, '\x21')) / test::kClusterBytes + 4;
+    test::ScatteredCard card;
+    const std::uint64_t first = card.put(movie, 0, within);
+    card.putNoise(5);
+    card.put(movie, within + 2);
+    const auto found = completedMovies(card, {first})[0];
+    ASSERT_TRUE(found);
+    EXPECT_EQ(found->runs.size(), 2U);
+    EXPECT_EQ(found->proof, AssemblyProof::Likely);
+}
+
 TEST(AviPieces, FirstPartOfALongerMovie_IsLeft) {
     const QByteArray movie = makeAvi(noiseChunks(1, 40), 90);
     test::ScatteredCard card;

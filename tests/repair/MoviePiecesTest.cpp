@@ -315,6 +315,22 @@ TEST(MovieCompletion, ChoiceThatNoDecoderChecked_IsNotProved) {
     }
 }
 
+TEST(MovieCompletion, MovieInOnePiece_IsNotPutTogether) {
+    std::vector<test::PictureSpec> specs = picturesOfManySizes(40, 1);
+    const MadeMovie movie = makeMovie(specs, false, 1);
+    QByteArray medium = mediumOf(movieClustersOf(movie.bytes) + 40);
+    scatter(movie.bytes, every(1, 8, movieClustersOf(movie.bytes)), medium);
+    // A picture is overwritten in part: its length stands, what is coded behind it does not.
+    medium.replace(8 * kMovieClusterBytes + static_cast<qsizetype>(movie.pictures[20].at) + 30, 20,
+                   QByteArray(20, '\0'));
+    MemoryReader reader(medium);
+    MovieReaderOptions noHelper;
+    noHelper.helper = QStringLiteral("/nowhere");
+    CompletionProgress progress;
+    const std::vector<std::uint64_t> starts{8 * kMovieClusterSectors};
+    EXPECT_FALSE(MovieCompletion(reader, kGoOn, progress, noHelper).run(starts, {})[0]);
+}
+
 TEST(MovieCompletion, IndexThatOtherMoviesFit_ProvesNothing) {
     // Two movies of the same sizes: each index fits the pieces of both.
     const MadeMovie one = makeMovie(std::vector<test::PictureSpec>(200), false, 1);

@@ -86,6 +86,19 @@ TEST(ItemBytes, EntryOfAnotherLengthGivesNoName) {
     EXPECT_EQ(look.bytes, wav);
 }
 
+// It was never finished: its own head speaks of more than the medium has.
+TEST(ItemBytes, FileThatIsCutOffIsAsLongAsItsEntrySays) {
+    const QByteArray wav = wavFile(600'000);
+    ScriptedMedium medium = mediumInPieces(wav, {{80, 120}});
+    const Look look =
+        lookAt(medium, "WAV",
+               tableOf(cardFile("SONG.WAV", 17'000, {{80, 120}}, FileState::Deleted, RunsKnownBy::Guess)),
+               {80, medium.bytes.size()});
+    EXPECT_EQ(look.truth.length.extent.verdict, Verdict::CutOff);
+    ASSERT_NE(look.truth.file, nullptr);
+    EXPECT_EQ(look.bytes, wav.left(17'000));
+}
+
 TEST(ItemBytes, ChainGivesThePieces) {
     const std::vector<SectorRun> runs{{80, 96}, {400, 408}, {200, 216}};
     const QByteArray wav = wavFile(20'000);
