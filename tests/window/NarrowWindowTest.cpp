@@ -47,6 +47,7 @@ TEST_P(NarrowWindow, HoldsEveryScreen) {
     ASSERT_TRUE(waitFor([this] { return gate.someoneWaits(); }));
     ASSERT_TRUE(waitFor([this] { return !controller->scanFactsLabel->text().isEmpty(); }));
     expectThatItFits("the running search");
+    EXPECT_EQ(controller->_stop_scan->visibleRegion(), QRegion(controller->_stop_scan->rect()));
     answers.press(QStringLiteral("OK"));
     gate.open();
     ASSERT_TRUE(scanEnds());
