@@ -77,10 +77,19 @@ LengthClaims& ItemSaver::claimsOn(std::uint64_t mediumSectors) const {
 }
 
 // A destination that was pulled out leaves a folder of its name on another disk.
-std::optional<SavingFolder> ItemSaver::openDestination(SaveOutcome& outcome) const {
+std::optional<SavingFolder> ItemSaver::sameDestination() const {
     auto folder = SavingFolder::open(m_destination);
     const auto device = folder ? folder->device() : std::nullopt;
-    if (!device || m_state->device.value_or(*device) != *device) {
+    return device && m_state->device.value_or(*device) == *device ? std::move(folder) : std::nullopt;
+}
+
+bool ItemSaver::destinationIsThere() const {
+    return sameDestination().has_value();
+}
+
+std::optional<SavingFolder> ItemSaver::openDestination(SaveOutcome& outcome) const {
+    auto folder = sameDestination();
+    if (!folder) {
         outcome.error = QObject::tr("The folder %1 is no longer there").arg(m_destination);
         return std::nullopt;
     }
@@ -88,7 +97,7 @@ std::optional<SavingFolder> ItemSaver::openDestination(SaveOutcome& outcome) con
         outcome.error = QObject::tr("The folder %1 lies on the medium that is searched").arg(m_destination);
         return std::nullopt;
     }
-    m_state->device = device;
+    m_state->device = folder->device();
     return folder;
 }
 

@@ -109,6 +109,10 @@ class ItemSaver {
     void beginRound() const;
     void beginSecondRound() const;
 
+    // False once the folder that was written into has gone, with what was saved in it, or another disk's has
+    // taken its place.
+    bool destinationIsThere() const;
+
     // To be called behind the last item: the names of all files survive a loss of power from here on.
     void flush() const;
 
@@ -120,6 +124,7 @@ class ItemSaver {
     struct State;
     struct Writing;
 
+    std::optional<SavingFolder> sameDestination() const;
     std::optional<SavingFolder> openDestination(SaveOutcome& outcome) const;
     LengthClaims& claimsOn(std::uint64_t mediumSectors) const;
     bool moveAsOnCard(const FoundItem& item, const CardFile& file, SaveOutcome& outcome) const;

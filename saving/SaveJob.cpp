@@ -56,6 +56,9 @@ void SaveJob::run() {
     if (medium || std::any_of(m_request.items.begin(), m_request.items.end(), held)) {
         saveAll(medium.get());
         saveTold(medium.get());
+        if (!m_request.saver->destinationIsThere()) {
+            loseWhatWasSaved();
+        }
         compileReport();
         m_request.saver->flush();
         writeTheReport();
@@ -175,6 +178,26 @@ void SaveJob::saveTold(SectorReader* medium) {
                                          carved.runs.front().end, std::move(outcome)});
         }
     }
+}
+
+// A destination that goes takes along what was saved in it: all of it is to be saved again.
+void SaveJob::loseWhatWasSaved() {
+    const auto lose = [this](SaveOutcome& outcome) {
+        if (std::exchange(outcome.saved, false)) {
+            outcome.error = QObject::tr("The folder %1 is no longer there").arg(m_request.destination);
+            outcome.duplicate = false;
+            outcome.path.clear();
+        }
+    };
+    for (auto& outcome : m_outcomes) {
+        if (outcome) {
+            lose(*outcome);
+        }
+    }
+    for (ReportedItem& further : m_furtherOutcomes) {
+        lose(further.outcome);
+    }
+    m_report.toldFailed = m_request.told;
 }
 
 void SaveJob::compileReport() {

@@ -38,7 +38,7 @@ struct SaveRequest {
     std::function<std::unique_ptr<SectorReader>()> openMedium;
     // Written behind the last item; none when absent.
     std::optional<ReportHead> report;
-    QString destination;     // of the report
+    QString destination;     // that of the saver, for the report and what is said
     QByteArray placeholder;  // the picture of items without a thumbnail, which the report leaves out
 };
 
@@ -90,6 +90,7 @@ class SaveJob {
     void saveTold(SectorReader* medium);
     void saveTwin(const FoundItem& found, const MyImageObject& item, const SaveOutcome& outcome);
     void begin(const QString& name, std::uint64_t sectors);
+    void loseWhatWasSaved();
     void compileReport();
     void writeTheReport();
 

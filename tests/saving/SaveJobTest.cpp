@@ -209,6 +209,34 @@ TEST_F(MendedJob, ARepairedMovie_LiesBesideTheItem_HeadAndIndexAroundItsBytes) {
     EXPECT_EQ(contentsOf(folder.filePath("WAV/a repaired.WAV")), "HEAD" + m_file.mid(100, 3900) + "INDEX");
 }
 
+TEST_F(SaveJobTest, WhatWasSavedIntoAFolderThatWent_IsNotSaved) {
+    SaveRequest wish = withToldFiles(request({{4, item("a.WAV", {10, 50})}, {2, item("b.WAV", {10, 50})}}));
+    wish.report = ReportHead{};
+    SaveJob job(std::move(wish));
+    medium.beforeRead = [&](std::uint64_t) {
+        if (job.progress().done == 3) {
+            folder.remove();
+        }
+    };
+    job.run();
+    const SaveReport& report = job.report();
+    EXPECT_EQ(report.tally.saved, 0U);
+    EXPECT_EQ(report.tally.duplicates, 0U);
+    EXPECT_EQ(report.tally.failed, report.items.size());
+    ASSERT_GE(report.items.size(), 3U);
+    for (const ReportedItem& reported : report.items) {
+        EXPECT_FALSE(reported.outcome.saved);
+        EXPECT_TRUE(reported.outcome.path.isEmpty());
+        EXPECT_FALSE(reported.outcome.error.isEmpty());
+    }
+    for (std::size_t place = 0; place < 3; ++place) {
+        EXPECT_TRUE(report.items[place].outcome.error.contains(QStringLiteral("is no longer there")))
+            << report.items[place].outcome.error.toStdString();
+    }
+    EXPECT_EQ(report.toldFailed.size(), 2U) << "to be saved elsewhere";
+    EXPECT_FALSE(QFileInfo::exists(folder.path())) << "not made anew";
+}
+
 TEST_F(SaveJobTest, WithoutAReport_NoneIsWritten) {
     SaveJob job(request({{0, item("a.WAV", {10, 50})}}));
     job.run();

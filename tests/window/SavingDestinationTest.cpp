@@ -182,6 +182,28 @@ TEST_F(Saving, AChosenDestinationThatHasVanished_IsToldAndShownAsGone) {
     EXPECT_FALSE(controller->destinationLabel->text().contains(QStringLiteral("not there")));
 }
 
+TEST_F(Saving, ADestinationThatGoesWhileItIsWrittenInto_HoldsNothing_AndAnotherTakesItAll) {
+    QTemporaryDir other;
+    openPhotoResults();
+    const QString stick = destination.filePath(QStringLiteral("stick"));
+    ASSERT_TRUE(QDir().mkpath(stick));
+    destinationIs(stick);
+    card.beforeRead = [&](std::uint64_t) {
+        if (QFileInfo::exists(stick + QStringLiteral("/JPG"))) {
+            QDir(stick).removeRecursively();
+        }
+    };
+    answers.press(QStringLiteral("Change Folder…"));
+    answers.then([&](QDialog* chooser) { chooseFolder(chooser, other.path()); });
+    answers.press(QStringLiteral("OK"));
+    click(controller->saveAllButton);
+    ASSERT_EQ(answers.seen().size(), 4U) << "the end of the search, and of each saving, and the chooser";
+    EXPECT_EQ(answers.seen()[1].text, QStringLiteral("\nNothing was saved."));
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\n3 files were saved."));
+    EXPECT_FALSE(controller->hasUnsavedItems());
+    EXPECT_FALSE(QFileInfo::exists(stick));
+}
+
 TEST_F(Saving, WhatFailed_CanBeSavedElsewhereAtOnce) {
     QTemporaryDir other;
     openPhotoResults();
