@@ -1,6 +1,7 @@
 // Going on with a search that was stopped, that lost its card, or that is remembered.
 #include <QCheckBox>
 #include <QFileInfo>
+#include <algorithm>
 #include <chrono>
 
 #include "results/RecoveryMode.h"
@@ -19,6 +20,17 @@ namespace {
 // A card that answers at once is known before anybody could read what is said meanwhile.
 constexpr std::chrono::milliseconds kUnnoticed{400};
 
+// Where reading failed up to the end, what was refused there is what is left to be searched.
+void askAgainForTheRest(SearchRecord& record, const SearchEnd& end) {
+    if (end.outcome == PassOutcome::ReadError) {
+        std::erase_if(record.refused, [&end](const SectorRun& run) { return run.first >= end.sector; });
+        if (!record.refused.empty()) {
+            SectorRun& last = record.refused.back();
+            last.end = std::min(last.end, end.sector);
+        }
+    }
+}
+
 }  // namespace
 
 // Begins anew, with what is known: names, numbers and order are those of a search that nobody stopped.
@@ -27,6 +39,7 @@ void MyTableController::goOn() {
         return;
     }
     SearchRecord record = recordOfNow();
+    askAgainForTheRest(record, searchEnd());
     // The list is emptied only when there is something to go on with.
     const Likeness likeness = likenessOf(_disk_identifier->text(), record);
     if (m_ending) {

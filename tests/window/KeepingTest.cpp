@@ -128,6 +128,28 @@ TEST_P(KeepingByMode, AStoppedSearch_GoesOn) {
     EXPECT_FALSE(QFile::exists(parts.stateFolder));
 }
 
+// What could not be read up to the end is what is left to be searched.
+TEST_P(KeepingByMode, ASearchThatCouldNotReadOn_GoesOnWithWhatWasRefused) {
+    const QStringList all = undisturbed(GetParam());
+    openWithCard();
+    GetParam() == kPhotoMode ? toRange(kPhotoMode) : toFileTypes(GetParam());
+    for (std::uint64_t sector = 14; sector < 64; ++sector) {
+        card.badForEver.insert(sector);
+    }
+    answers.press(QStringLiteral("OK"));
+    answers.press(QStringLiteral("OK"));
+    click(controller->nextButton);
+    ASSERT_TRUE(scanEnds());
+    ASSERT_TRUE(controller->searchEndLabel->text().contains(QStringLiteral("read error at sector")))
+        << controller->searchEndLabel->text().toStdString();
+    EXPECT_NE(found(), all);
+    card.badForEver.clear();
+    pressAndSearch(button("goOnButton"));
+    EXPECT_EQ(found(), all);
+    EXPECT_TRUE(controller->searchEndLabel->text().startsWith(QStringLiteral("The search has completed.")))
+        << controller->searchEndLabel->text().toStdString();
+}
+
 TEST_P(KeepingByMode, ARememberedSearch_GoesOnAtTheNextStart) {
     const QStringList all = undisturbed(GetParam());
     open();
