@@ -303,6 +303,8 @@ TEST(TextPicture, Lines_AreCutAndHoldNoStrangeLetters) {
     EXPECT_TRUE(textLines({}, 5, 99).isEmpty());
     EXPECT_TRUE(textLines("ten \x01 words", 5, 99).isEmpty()) << "more than one strange letter in fifty";
     EXPECT_EQ(textLines(QByteArray(49, 'x') + '\x01', 5, 99).size(), 1);
+    EXPECT_TRUE(textLines(QByteArray(48, 'x') + '\x01', 5, 99).isEmpty());
+    EXPECT_EQ(textLines("soft\xc2\xadhyphen", 5, 99).value(0), QString::fromUtf8("soft·hyphen"));
     EXPECT_TRUE(textLines(QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16), 5, 99).isEmpty());
 }
 

@@ -204,6 +204,7 @@ TEST_F(Saving, TheSheetSaysHowFarItIs_AndCancelEndsIt) {
         EXPECT_EQ(sheet->findChild<QLabel*>(QStringLiteral("saveFactsLabel"))->text(),
                   QStringLiteral("Cancelling…"));
         EXPECT_TRUE(sheet->isVisible());
+        EXPECT_FALSE(sheet->findChild<QPushButton*>(QStringLiteral("skipButton"))->isEnabled());
         gate.open();
     });
     look.start(5);
@@ -215,6 +216,33 @@ TEST_F(Saving, TheSheetSaysHowFarItIs_AndCancelEndsIt) {
     EXPECT_TRUE(answers.seen().back().informative.contains(QStringLiteral("because you cancelled")));
     EXPECT_EQ(savedFiles(), QStringList{QStringLiteral("JPG/GND00001.JPG")});
     EXPECT_TRUE(controller->hasUnsavedItems());
+}
+
+TEST_F(Saving, TheSheetThatIsClosed_StaysUntilItHasCancelled) {
+    openPhotoResults();
+    destinationIs(destination.path());
+    Gate gate;
+    card.beforeRead = gate.atRead(card.reads + 1);
+    QWidget* sheet = nullptr;
+    when(
+        [&] {
+            for (QWidget* widget : QApplication::topLevelWidgets()) {
+                sheet = widget->objectName() == u"saveProgress" && widget->isVisible() ? widget : sheet;
+            }
+            return sheet != nullptr && gate.someoneWaits();
+        },
+        [&] {
+            EXPECT_FALSE(sheet->close());
+            EXPECT_TRUE(sheet->isVisible());
+            EXPECT_EQ(sheet->findChild<QLabel*>(QStringLiteral("saveFactsLabel"))->text(),
+                      QStringLiteral("Cancelling…"));
+            gate.open();
+        });
+    answers.press(QStringLiteral("OK"));
+    click(controller->saveAllButton);
+    ASSERT_FALSE(answers.seen().empty());
+    EXPECT_EQ(answers.seen().back().text, QStringLiteral("\nNothing was saved."));
+    EXPECT_TRUE(savedFiles().isEmpty());
 }
 
 TEST_F(Saving, SaveAll_SavesWhatTheFilterShowsAndSaysSo) {
