@@ -15,6 +15,7 @@
 #include "media/PlatformMedia.h"
 #include "media/UdisksEjector.h"
 #include "saving/DestinationCheck.h"
+#include "window/CommandLine.h"
 #include "window/MyTableController.h"
 #include "window/ProgramTitle.h"
 #include "window/keeping/SearchMemory.h"
@@ -122,6 +123,11 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "%s\n", qPrintable(*refusal));
         return kExitBadUsage;
     }
+    const CommandLine line = readCommandLine(arguments.rest, QApplication::applicationVersion());
+    if (line.exitCode) {
+        std::fprintf(*line.exitCode == 0 ? stdout : stderr, "%s\n", qPrintable(line.message));
+        return *line.exitCode;
+    }
     applyTheme(application);
     const DesktopLook look(application);
 
@@ -132,7 +138,7 @@ int main(int argc, char** argv) {
     running->store(controller.get());
     fitToScreen(controller->window);
     controller->awakeFromNib();
-    controller->openImages(arguments.rest);
+    controller->openImages(line.images);
     const int code = QApplication::exec();
     leaveTheScreen();
     *leaving = true;
