@@ -205,7 +205,8 @@ ZipWalk::Step ZipWalk::local() {
         return Step::Cut;
     prove(*entry);
     m_at = end;
-    if (!entry->sizesFollow())
+    // Some writers add the descriptor without a word of it in front.
+    if (!entry->sizesFollow() && m_view.le32(m_at) != kZipDescriptor)
         return Step::Next;
     return isRecordAt(m_at) || skipDescriptor(*entry) ? Step::Next : Step::Broken;
 }

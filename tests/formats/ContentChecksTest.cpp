@@ -223,6 +223,13 @@ TEST(Documents, WhoseStreamsSayNothing_OnlyEndWhereTheySay) {
 
 TEST(Documents, WhoseEndIsInDoubt_OnlyEndWhereTheySay) {
     EXPECT_FALSE(isDocumentChecked(document() + "\n"));
+    // Three line ends, of which the first is the mark's.
+    for (const Bytes& tail : {noise(3000, 6), Bytes(3000, 0)}) {
+        const Bytes bytes = Build().text(document() + "\r\n").add(tail);
+        EXPECT_EQ(walkBytes("PDF", bytes).verdict, Verdict::Complete);
+        EXPECT_FALSE(walkBytes("PDF", bytes).checked);
+    }
+    EXPECT_TRUE(walkBytes("PDF", Build().text(document()).fill(3000)).checked);
     const Extent joined = walkBytes("PDF", Build().text(document() + document()));
     EXPECT_EQ(joined.end, document().size());
     EXPECT_FALSE(joined.checked);
@@ -314,6 +321,36 @@ TEST(Frames, LargerThanASector_AreNotCheckedByTheirHeads) {
     EXPECT_FALSE(walkBytes("MP3", counted).checked);
 }
 
+// Frames that tell no bit rate, of 300 bytes beside the padding that every third has.
+Bytes freeFrames(int count, int told) {
+    Build out;
+    for (int i = 0; i < count; ++i) {
+        const bool padded = i % 3 == 1;
+        Build frame;
+        frame.be32(padded ? 0xFFFB0264 : 0xFFFB0064).fill(padded ? 297 : 296, 3);
+        if (i == 0)
+            frame.put(36, Build().text("Info").be32(1).be32(static_cast<unsigned>(told)));
+        out.add(frame);
+    }
+    return out;
+}
+
+TEST(Frames, OfTheFreeFormat_AreAsLongAsTheFirst) {
+    const Bytes all = freeFrames(12, 11);
+    for (const Bytes& tail : {noise(3000, 4), Bytes(3000, 0)}) {
+        const Extent extent = walkBytes("MP3", Build().add(all).add(tail));
+        EXPECT_EQ(extent.verdict, Verdict::Complete);
+        EXPECT_EQ(extent.end, all.size());
+        EXPECT_TRUE(extent.checked);
+    }
+    EXPECT_FALSE(walkBytes("MP3", freeFrames(12, 12)).checked);
+    // A reserved layer or rate makes none.
+    EXPECT_EQ(walkBytes("MP3", Build().be32(0xFFF90064).fill(400, 3).be32(0xFFF90064).fill(9000, 3)).verdict,
+              Verdict::Unknown);
+    EXPECT_EQ(walkBytes("MP3", Build().be32(0xFFFB0C64).fill(400, 3).be32(0xFFFB0C64).fill(9000, 3)).verdict,
+              Verdict::Unknown);
+}
+
 TEST(Frames, WhoseTagIsTorn_AreNotAll) {
     const Extent extent = walkBytes("MP3", Build().add(soundFrames(11, 10)).text("TAG").fill(60));
     EXPECT_FALSE(extent.checked);
@@ -339,6 +376,7 @@ TEST(LeftBehind, RichText_ClosesAsItsWriterDoes) {
     const Bytes zeros(3000, 0);
     const Bytes system = text("Riched20 6.2.9200"), other = text("Any Other");
     EXPECT_EQ(walkBytes("RTF", Build().add(system).add(zeros)).end, system.size() + 1);
+    EXPECT_EQ(walkBytes("RTF", Build().add(system).text("\0\r\n"_b).fill(3000, 9)).end, system.size() + 3);
     EXPECT_EQ(walkBytes("RTF", Build().add(other).add(zeros)).end, other.size());
     EXPECT_EQ(walkBytes("RTF", Build().add(other).text("\r\n").add(noise(3000, 8))).end, other.size() + 2);
 }
