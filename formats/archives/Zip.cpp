@@ -205,8 +205,7 @@ ZipWalk::Step ZipWalk::local() {
         return Step::Cut;
     prove(*entry);
     m_at = end;
-    // Some writers add the descriptor without a word of it in front.
-    if (!entry->sizesFollow() && m_view.le32(m_at) != kZipDescriptor)
+    if (!entry->sizesFollow())
         return Step::Next;
     return isRecordAt(m_at) || skipDescriptor(*entry) ? Step::Next : Step::Broken;
 }

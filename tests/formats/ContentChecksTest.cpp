@@ -4,6 +4,7 @@
 #include <zlib.h>
 
 #include <algorithm>
+#include <array>
 #include <string>
 
 #include "Corpus.h"
@@ -58,13 +59,16 @@ Bytes soundMedia(const Bytes& entry, const Bytes& tables) {
 
 const Bytes kMovieType = isoBox("ftyp", Build().text("M4A ").be32(0).text("isom"));
 
-Bytes recording(std::uint64_t object = 2) {
+// The twenty frames in the middle may begin in another way.
+Bytes recording(std::uint64_t object = 2, const Bytes& beginning = {}) {
     constexpr int kFrames = 60;
     Build data, sizes;
     sizes.be32(0).be32(kFrames);
     for (int i = 0; i < kFrames; ++i) {
-        data.add(aacFrame(i));
-        sizes.be32(aacFrame(i).size());
+        const bool middle = i >= 20 && i < 40;
+        const Bytes frame = Build().add(aacFrame(i)).put(0, middle ? beginning : Bytes());
+        data.add(frame);
+        sizes.be32(frame.size());
     }
     const Bytes tables = Build()
                              .add(boxOf("stsc", Build().be32(1).be32(1).be32(kFrames).be32(1)))
@@ -77,6 +81,25 @@ Bytes recording(std::uint64_t object = 2) {
 TEST(Sound, FramesOfARecording_AreLookedAt) {
     expectChecked("M4A", recording());
     EXPECT_EQ(walkBytes("M4A", withNoise(recording(), 4096, 4096)).verdict, Verdict::Damaged);
+}
+
+TEST(Sound, FramesThatBeginAsNoneDoes_AreAnothers) {
+    const Bytes longFilling = Build().u8(0xDE).u8(0).fill(14).u8(0x42).u8(0);
+    const std::array whole = {Bytes{0x21, 0x10},                 // a pair
+                              Bytes{0x01, 0x40, 0x22},           // a single channel
+                              longFilling,                       // and a pair
+                              Bytes{0xC1, 0xC0}};                // filling of no bytes, and the end
+    const std::array foreign = {Bytes{0x41, 0x10},               // coupling, of nothing
+                                Bytes{0x61, 0x10},               // low frequencies alone
+                                Bytes{0x23, 0x10},               // the second pair first
+                                Bytes{0x21, 0x90},               // a reserved bit
+                                Bytes{0xE0},                     // an end of nothing
+                                Bytes{0xDF, 0xFF, 0xFF, 0x21}};  // filling longer than the frame
+    for (const Bytes& beginning : whole)
+        EXPECT_TRUE(walkBytes("M4A", recording(2, beginning)).checked) << int{beginning[0]};
+    for (const Bytes& beginning : foreign)
+        EXPECT_EQ(walkBytes("M4A", recording(2, beginning)).verdict, Verdict::Damaged) << int{beginning[0]};
+    EXPECT_EQ(walkBytes("M4A", recording(2, Bytes(198, 0))).verdict, Verdict::Damaged);
 }
 
 TEST(Sound, OfAKindThatIsNotFollowed_OnlyEndsWhereItSays) {

@@ -84,15 +84,6 @@ TEST(ZipHabits, UntoldSizeOfTheTypesName_IsPassed) {
     EXPECT_FALSE(walkBytes("KRA", Build().add(file).add(rest)).checked);
 }
 
-TEST(ZipHabits, ADescriptorThatNothingTellsOf_IsPassed) {
-    const Bytes plain = zip("a.txt", Bytes(300, 'x'));
-    const auto behind = std::search(plain.begin() + 4, plain.end(), plain.begin(), plain.begin() + 2);
-    const Bytes first(plain.begin(), behind), rest(behind, plain.end());
-    const Bytes descriptor = Build().text("PK\7\10").fill(12, 1);
-    const Bytes file = Build().add(first).add(descriptor).add(rest);
-    expectEnd("ZIP", Build().add(file).add(noise(3000, 4)), file.size());
-}
-
 // A program stream of packs that begin every so many bytes; the last is short of that by 20.
 Bytes programStream(std::size_t sector) {
     Build out;
