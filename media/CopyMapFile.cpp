@@ -70,7 +70,9 @@ std::optional<CopyMap> loadCopyMap(const QString& path, QString* why) {
 std::optional<QString> storeCopyMap(const QString& path, const CopyMap& map) {
     QSaveFile file(path);
     const QByteArray text = writeCopyMap(map);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit()) {
+    // A commit of this Qt does not ask whether the rest of the buffer found room.
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.flush() ||
+        !file.commit()) {
         return QObject::tr("The map “%1” cannot be written: %2").arg(path, file.errorString());
     }
     return std::nullopt;

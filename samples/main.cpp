@@ -19,7 +19,7 @@ class Output {
             refuse();
     }
     void write(const QByteArray& bytes) {
-        if (m_file.write(bytes) != bytes.size() || !m_file.commit())
+        if (m_file.write(bytes) != bytes.size() || !m_file.flush() || !m_file.commit())
             refuse();
     }
 

@@ -67,8 +67,9 @@ void SearchKeeper::write(const RefusedSectors& refusals) {
     }
     QSaveFile file(m_path);
     const QByteArray bytes = recordBytes(record(refusals));
+    // A commit of this Qt does not ask whether the rest of the buffer found room.
     const bool written =
-        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit();
     m_error = written ? QString() : file.errorString();
     m_written = Clock::now();
 }

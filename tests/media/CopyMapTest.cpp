@@ -14,6 +14,7 @@
 #include "media/MappedImage.h"
 #include "media/RawDevice.h"
 #include "tests/support/Files.h"
+#include "tests/support/FullDisk.h"
 
 namespace vantor {
 namespace {
@@ -253,6 +254,22 @@ TEST_F(MappedImages, TheMapIsTheOneNamedOrTheFirstBeside) {
     OpenTerms terms;
     terms.map = pathOf("other.map");
     EXPECT_EQ(unreadable(terms), (std::vector<std::uint64_t>{0}));
+}
+
+TEST_F(MappedImages, AFullDiskLeavesTheMapThatWasThere) {
+    CopyMap map(64 * 512);
+    map.set(0, 512, CopyState::Copied);
+    ASSERT_FALSE(storeCopyMap(pathOf("card.img.map"), map));
+    map.set(512, 1024, CopyState::Copied);
+    std::optional<QString> trouble;
+    {
+        const test::FullDisk full;
+        trouble = storeCopyMap(pathOf("card.img.map"), map);
+    }
+    EXPECT_TRUE(trouble);
+    const auto kept = loadCopyMap(pathOf("card.img.map"));
+    ASSERT_TRUE(kept);
+    EXPECT_EQ(kept->bytesIn(CopyState::Copied), 512U);
 }
 
 TEST_F(MappedImages, ABadMapIsAReasonNotToOpen) {

@@ -6,6 +6,7 @@
 
 #include "scan/SearchKeeper.h"
 #include "tests/scan/BothPasses.h"
+#include "tests/support/FullDisk.h"
 
 namespace vantor {
 namespace {
@@ -109,6 +110,21 @@ INSTANTIATE_TEST_SUITE_P(Readings, KeptSearch,
                              return std::string(
                                  fetching.param == WindowedReader::Fetching::Ahead ? "Ahead" : "WhenAsked");
                          });
+
+TEST(SearchKeeper, AFullDiskLeavesWhatWasKeptBefore) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("search");
+    SearchKeeper keeper(path, someRecord());
+    const RefusedSectors refusals;
+    keeper.write(refusals);
+    ASSERT_TRUE(keeper.error().isEmpty()) << keeper.error().toStdString();
+    {
+        const test::FullDisk full;
+        keeper.write(refusals);
+    }
+    EXPECT_FALSE(keeper.error().isEmpty());
+    EXPECT_TRUE(readSearchRecord(path));
+}
 
 TEST_P(KeptSearch, KilledAtAnyMoment_GoesOnAsIfItHadNotBeen) {
     const QTemporaryDir folder;
