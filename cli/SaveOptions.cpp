@@ -101,12 +101,13 @@ SaveOptions::SaveOptions()
               "\"... "
               "complete.MP4\", or as \"... put together.MP4\" where it could not be proved that all pieces "
               "are the right ones."))),
-      repairMovies(
-          option("repair-movies",
-                 QT_TRANSLATE_NOOP(
-                     "QObject",
-                     "Write a playable twin, \"... repaired.MP4\", of each MP4 or QuickTime movie whose "
-                     "index was never written; a whole movie of the same camera has to be found as well."))),
+      repairMovies(option(
+          "repair-movies",
+          QT_TRANSLATE_NOOP(
+              "QObject",
+              "Write a playable twin, \"... repaired.MP4\", of each MP4, QuickTime or AVI movie whose "
+              "index was never written; for MP4 and QuickTime a whole movie of the same camera has to be "
+              "found as well."))),
       reference(
           option("reference",
                  QT_TRANSLATE_NOOP(

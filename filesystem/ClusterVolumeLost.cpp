@@ -136,25 +136,28 @@ void ClusterVolume::nameFromStandard() {
 void ClusterVolume::restoreFirstLetters() {
     FirstLetters letters;
     for (std::size_t at = 0; at < m_directories.size(); ++at) {
-        for (const DirectoryEntry& entry : m_directories[at].rows.entries) {
-            if (entry.nameIsWhole) {
-                letters.learn(entry.name, at);
+        const auto& entries = m_directories[at].rows.entries;
+        for (std::size_t entry = 0; entry < entries.size(); ++entry) {
+            if (entries[entry].nameIsWhole) {
+                letters.learn(entries[entry].name, at, entry);
             }
         }
     }
-    const auto restore = [&](QString& name, std::size_t folder) {
-        if (const auto letter = letters.of(name, folder)) {
+    const auto restore = [&](QString& name, std::size_t folder, std::size_t entry) {
+        if (const auto letter = letters.of(name, folder, entry)) {
             name.front() = *letter;
         }
     };
     for (std::size_t at = 0; at < m_directories.size(); ++at) {
         CardDirectory& directory = m_directories[at];
         if (!directory.nameIsWhole && directory.parent) {
-            restore(directory.name, *directory.parent);
+            // Only its series and the standards tell a folder's.
+            restore(directory.name, *directory.parent, m_directories[*directory.parent].rows.entries.size());
         }
-        for (DirectoryEntry& entry : directory.rows.entries) {
-            if (!entry.nameIsWhole) {
-                restore(entry.name, at);
+        auto& entries = directory.rows.entries;
+        for (std::size_t entry = 0; entry < entries.size(); ++entry) {
+            if (!entries[entry].nameIsWhole) {
+                restore(entries[entry].name, at, entry);
             }
         }
     }

@@ -2,6 +2,7 @@
 
 #include <QStringList>
 #include <algorithm>
+#include <iterator>
 
 namespace vantor {
 
@@ -45,6 +46,28 @@ QString seriesOf(const QString& name) {
         c = isDigit(c) ? QChar(u'0') : c;
     }
     return rest;
+}
+
+struct Numbered {
+    QString rest;  // the name without its first letter and the number that ends its stem
+    std::size_t number = 0;
+    qsizetype digits = 0;
+};
+
+std::optional<Numbered> numberedOf(const QString& name) {
+    const qsizetype dot = name.indexOf(u'.');
+    const qsizetype stem = dot < 0 ? name.size() : dot;
+    const bool isShort = stem <= kShortStem && (dot < 0 || name.size() - dot - 1 <= kShortExtension);
+    qsizetype digits = 0;
+    while (isShort && digits + 1 < stem && isDigit(name[stem - 1 - digits])) {
+        ++digits;
+    }
+    if (digits == 0) {
+        return std::nullopt;
+    }
+    const QString number = name.mid(stem - digits, digits);
+    return Numbered{(name.mid(1, stem - digits - 1) + u'#' + name.mid(stem)).toUpper(), number.toUInt(),
+                    digits};
 }
 
 bool saysMoreThanNumbers(const QString& series) {
@@ -96,29 +119,77 @@ void note(QHash<Key, QChar>& letters, const Key& series, QChar letter) {
 
 }  // namespace
 
-void FirstLetters::learn(const QString& name, std::size_t folder) {
+void FirstLetters::learn(const QString& name, std::size_t folder, std::size_t entry) {
     const QString series = seriesOf(name);
+    const auto numbered = numberedOf(name);
+    if (series.isEmpty() && !numbered) {
+        return;
+    }
+    const QChar letter = name.front().toUpper();
+    m_taken.insert({folder, name.toUpper()});
     if (!series.isEmpty()) {
-        note(m_onCard, series, name.front().toUpper());
-        note(m_inFolder, {folder, series}, name.front().toUpper());
-        m_taken.insert({folder, name.toUpper()});
+        note(m_onCard, series, letter);
+        note(m_inFolder, {folder, series}, letter);
+    }
+    if (numbered) {
+        m_numbered[{folder, numbered->rest}][letter].push_back({entry, numbered->number, numbered->digits});
     }
 }
 
-std::optional<QChar> FirstLetters::of(const QString& name, std::size_t folder) const {
+// Files that were written one after another stand so in their folder: the number fits between those before
+// and behind it of one letter, with an entry for each between them, and into no row of another letter's.
+// Where the number is nearly all of the name there may be no other entry among them.
+std::optional<QChar> FirstLetters::letterOfNeighbours(const QString& name, std::size_t folder,
+                                                      std::size_t entry) const {
+    const auto own = numberedOf(name);
+    const auto known = own ? m_numbered.constFind({folder, own->rest}) : m_numbered.constEnd();
+    if (known == m_numbered.constEnd()) {
+        return std::nullopt;
+    }
+    const bool isWeak = seriesOf(name).isEmpty();
+    const auto follows = [&](const Place& before, const Place& after, QChar letter) {
+        const bool sameLength = before.digits == after.digits || isLetter(letter);
+        const bool rises = sameLength && before.number < after.number;
+        const std::size_t entries = after.entry - before.entry;
+        return rises &&
+               (isWeak ? entries == after.number - before.number : entries >= after.number - before.number);
+    };
+    const Place here{entry, own->number, own->digits};
+    std::optional<QChar> told;
+    for (const auto& [letter, places] : *known) {
+        const auto behind = std::upper_bound(places.begin(), places.end(), entry,
+                                             [](std::size_t at, const Place& one) { return at < one.entry; });
+        const bool isFirst = behind == places.begin();
+        const bool isLast = behind == places.end();
+        if ((!isFirst && !follows(*std::prev(behind), here, letter)) ||
+            (!isLast && !follows(here, *behind, letter))) {
+            continue;
+        }
+        if (isFirst || isLast || told) {
+            return std::nullopt;
+        }
+        told = letter;
+    }
+    return told;
+}
+
+std::optional<QChar> FirstLetters::of(const QString& name, std::size_t folder, std::size_t entry) const {
     const QString series = seriesOf(name);
-    auto told = m_inFolder.constFind({folder, series});
+    auto toldHere = m_inFolder.constFind({folder, series});
     std::optional<QChar> letter;
-    if (told != m_inFolder.constEnd()) {
-        letter = *told;
+    if (toldHere != m_inFolder.constEnd()) {
+        letter = *toldHere;
     } else if (const auto onCard = m_onCard.constFind(series);
                onCard != m_onCard.constEnd() && saysMoreThanNumbers(series)) {
         letter = *onCard;
     } else {
         letter = series.isEmpty() ? letterOfStandardName(name) : letterOfStandardSeries(series);
     }
+    if (!letter || letter->isNull()) {
+        letter = letterOfNeighbours(name, folder, entry);
+    }
     // Where another has the name, this one may be of another series.
-    if (!letter || letter->isNull() || m_taken.contains({folder, *letter + name.mid(1).toUpper()})) {
+    if (!letter || m_taken.contains({folder, *letter + name.mid(1).toUpper()})) {
         return std::nullopt;
     }
     const bool isSmall = name != name.toUpper() && name == name.toLower();

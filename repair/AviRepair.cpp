@@ -126,16 +126,19 @@ class AviHeadReader {
 
 class AviWalk {
   public:
-    AviWalk(ByteView& view, AviHead& head) : m_view(view), m_head(head) {}
+    AviWalk(ByteView& view, const AviHead& head) : m_view(view), m_head(head) {}
 
     // Those of the streams, in order.
     std::vector<AviChunk> walk(const WalkLimits& limits) {
         std::vector<AviChunk> taken;
+        m_listEnd = endOf({{}, m_head.data - kListName - kAviChunkHead, m_head.dataSize});
         auto chunk = at(m_head.data);
         while (chunk && taken.size() < kMostAviChunks && (limits.stop == nullptr || *limits.stop == 0)) {
-            // Groups of chunks that are to be read together.
-            const bool group = chunk->text() == "LIST";
+            const bool group = isGroup(*chunk);
             auto next = at(group ? chunk->body() + kListName : chunk->end());
+            if (group && m_view.matches(chunk->body(), "movi")) {
+                m_listEnd = endOf(*chunk);
+            }
             if (!group && chunk->stream()) {
                 const bool shows = next || endsHere(*chunk);
                 if (!isSound(*chunk) || !shows) {
@@ -149,23 +152,39 @@ class AviWalk {
     }
 
   private:
+    // What is entered: chunks that are to be read together, and beyond the first gigabyte the parts in which
+    // the movie goes on.
+    bool isGroup(const AviChunk& chunk) {
+        return (chunk.text() == "LIST" &&
+                (m_view.matches(chunk.body(), "rec ") || m_view.matches(chunk.body(), "movi"))) ||
+               (chunk.text() == "RIFF" && m_view.matches(chunk.body(), "AVIX"));
+    }
+
+    // Nothing where the length was never written.
+    static std::optional<std::uint64_t> endOf(const AviChunk& list) {
+        return list.bytes == 0 ? std::nullopt : std::optional(list.body() + list.bytes);
+    }
+
     std::optional<AviChunk> at(std::uint64_t place) {
         AviChunk chunk;
         chunk.at = place;
         const auto bytes = m_view.le32(place + 4);
-        if (!bytes || *bytes > kMostAviChunkBytes || place > kMostAviBytes - kMostAviChunkBytes ||
+        if (!bytes || place > kMostAviBytes - kMostAviChunkBytes ||
             !m_view.copy(place, {reinterpret_cast<std::uint8_t*>(chunk.name.data()), chunk.name.size()})) {
             return std::nullopt;
         }
         chunk.bytes = *bytes;
-        const std::string_view name = chunk.text();
-        if (name == "LIST" && m_view.matches(chunk.body(), "rec ")) {
+        if (isGroup(chunk)) {
             return chunk;
         }
+        if (*bytes > kMostAviChunkBytes) {
+            return std::nullopt;
+        }
+        const std::string_view name = chunk.text();
         const auto stream = chunk.stream();
         const std::string_view kind = name.substr(2);
         const bool known = stream ? *stream < m_head.streams.size() && isKind(kind, m_head.streams[*stream])
-                                  : name == "JUNK" || name.substr(0, 2) == "ix";
+                                  : name == "JUNK" || name == "idx1" || name.substr(0, 2) == "ix";
         return known && m_view.holds(place, kAviChunkHead) ? std::optional(chunk) : std::nullopt;
     }
 
@@ -193,20 +212,25 @@ class AviWalk {
 
     // Where no further chunk follows.
     bool endsHere(const AviChunk& chunk) {
-        const bool isListEnd =
-            m_head.dataSize != 0 && chunk.end() >= m_head.data - kListName + m_head.dataSize;
-        return isListEnd ||
+        return (m_listEnd && chunk.end() >= *m_listEnd) ||
                (isPicture(chunk) && m_view.matches(chunk.body(), "\xFF\xD8\xFF") && isWholeJpeg(chunk));
     }
 
     ByteView& m_view;
-    AviHead& m_head;
+    const AviHead& m_head;
+    std::optional<std::uint64_t> m_listEnd;  // of the chunks that are being walked
 };
 
-// Whether an index stands where the list of the data ends.
+// Whether an index stands where the list of the data ends, and the movie does not go on behind it.
 bool hasIndex(ByteView& view, const AviHead& head) {
     const std::uint64_t end = head.data - kListName + head.dataSize;
-    return head.dataSize > kListName && (view.matches(end + end % 2, "idx1") || view.matches(end, "idx1"));
+    for (const std::uint64_t at : {end + end % 2, end}) {
+        if (head.dataSize > kListName && view.matches(at, "idx1")) {
+            const std::uint64_t behind = at + kAviChunkHead + view.le32(at + 4).value_or(0);
+            return !(view.matches(behind, "RIFF") && view.matches(behind + kAviChunkHead, "AVIX"));
+        }
+    }
+    return false;
 }
 
 // Whether reading can begin with the picture: those of MPEG-4 tell, all others are taken for it.

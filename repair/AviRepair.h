@@ -12,7 +12,7 @@ namespace vantor {
 constexpr std::size_t kMostAviChunks = 4'000'000;
 constexpr std::uint64_t kMostAviBytes = 0xFFFF0000;
 
-// Whether the bytes are an AVI movie behind whose data no index stands.
+// Whether the bytes are an AVI movie behind whose data no index stands, or one of its first gigabyte alone.
 bool isAviWithoutIndex(ByteSource& movie);
 
 // Nothing where the bytes are no AVI movie, where its index stands, or no whole picture does. Takes the

@@ -106,6 +106,17 @@ bool readUnitHead(std::span<const std::uint8_t> bytes, const PictureSyntax& synt
     return good;
 }
 
+// Where a recording was cut off, what flash memory holds when it was erased may stand for the rest of a unit.
+bool endsInErased(ByteView& view, const Unit& unit) {
+    constexpr std::uint64_t kMoreThanCoded = 16;
+    for (std::uint64_t i = 1; i <= kMoreThanCoded; ++i) {
+        if (unit.end - unit.body < i || view.u8(unit.end - i) != 0xFF) {
+            return false;
+        }
+    }
+    return true;
+}
+
 // No coded unit holds two zeros followed by a byte of 0, 1 or 2; the first bytes of the next unit's length,
 // or of sound, often do.
 bool isCodedAllThrough(ByteView& view, std::uint64_t at, std::uint64_t end) {
@@ -179,7 +190,7 @@ std::optional<CodedPicture> unitsAt(ByteView& view, const PictureSyntax& syntax,
         if (unit->slice && !unit->firstSlice && !first) {
             return std::nullopt;
         }
-        if (!isCodedAllThrough(view, unit->body, unit->end)) {
+        if (!isCodedAllThrough(view, unit->body, unit->end) || endsInErased(view, *unit)) {
             break;
         }
         if (unit->slice) {

@@ -89,7 +89,7 @@ class ItemMending {
     std::vector<WithoutIndex> sortOut(const std::vector<MendableItem>& items);
     bool repair(const WithoutIndex& broken, const Refused& refused);
     std::optional<RepairedMovie> repairByItself(const WithoutIndex& broken, ByteSource& bytes,
-                                                const WalkLimits& limits);
+                                                const WalkLimits& limits, const PartPlays& plays);
     ItemSource sourceOf(const MendableItem& item) const;
 
     SectorReader& m_medium;

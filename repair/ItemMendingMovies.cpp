@@ -1,6 +1,7 @@
 // Movies without an index: the whole ones tell how their camera writes.
 #include "repair/AviRepair.h"
 #include "repair/ItemMending.h"
+#include "repair/MovieProof.h"
 #include "results/MediumBytes.h"
 
 namespace vantor {
@@ -89,12 +90,12 @@ ItemMending::RepairSum ItemMending::repairMovies(const std::vector<MendableItem>
 // AVI movies, and those that were cut off behind their own index. That may be of an earlier movie: then
 // nothing stands where it says.
 std::optional<RepairedMovie> ItemMending::repairByItself(const WithoutIndex& broken, ByteSource& bytes,
-                                                         const WalkLimits& limits) {
+                                                         const WalkLimits& limits, const PartPlays& plays) {
     if (isMovieOfChunks(broken.item->type)) {
         return repairAvi(bytes, limits);
     }
     const auto guide = broken.ownGuide ? readReference(bytes) : std::nullopt;
-    return guide ? repairMovie(bytes, broken.data, *guide, m_splitter, limits) : std::nullopt;
+    return guide ? repairMovie(bytes, broken.data, *guide, m_splitter, limits, plays) : std::nullopt;
 }
 
 bool ItemMending::repair(const WithoutIndex& broken, const Refused& refused) {
@@ -109,7 +110,8 @@ bool ItemMending::repair(const WithoutIndex& broken, const Refused& refused) {
     };
     WalkLimits limits;
     limits.stop = &m_stop;
-    if (auto repaired = repairByItself(broken, bytes, limits); repaired && m_stop == 0) {
+    const PartPlays plays = [&](const RepairedMovie& part) { return mayPlayWholly(bytes, part, m_helper); };
+    if (auto repaired = repairByItself(broken, bytes, limits, plays); repaired && m_stop == 0) {
         return m_take(item, mendOfRepaired(std::move(*repaired), item.name));
     }
     if (isMovieOfChunks(item.type)) {
@@ -121,7 +123,7 @@ bool ItemMending::repair(const WithoutIndex& broken, const Refused& refused) {
     if (reference == nullptr) {
         return refuse(Why::NoReference);
     }
-    auto repaired = repairMovie(bytes, broken.data, reference->movie, m_splitter, limits);
+    auto repaired = repairMovie(bytes, broken.data, reference->movie, m_splitter, limits, plays);
     if (!repaired || m_stop != 0) {
         return refuse(Why::NoPicture);
     }

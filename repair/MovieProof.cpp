@@ -60,6 +60,11 @@ bool playsWithoutErrors(ByteSource& movie, const RepairedMovie& repaired, const 
     return trial && trial->pictures != 0 && trial->errors == 0;
 }
 
+bool mayPlayWholly(ByteSource& movie, const RepairedMovie& repaired, const MovieReaderOptions& options) {
+    const auto trial = tried(movie, repaired, TrialLength::Whole, options);
+    return !trial || trial->errors == 0;
+}
+
 bool decodesWholly(ByteSource& movie, std::size_t pictures, const MovieReaderOptions& options) {
     RepairedMovie asItIs;
     asItIs.data = {0, movie.size()};

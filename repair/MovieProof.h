@@ -12,6 +12,9 @@ constexpr std::uint64_t kMostTriedBytes = std::uint64_t{128} << 20;
 // Whether a repaired movie's pictures decode without an error; of a long one its beginning.
 bool playsWithoutErrors(ByteSource& movie, const RepairedMovie& repaired, const MovieReaderOptions& options);
 
+// The same of all pictures; also true where it cannot be tried.
+bool mayPlayWholly(ByteSource& movie, const RepairedMovie& repaired, const MovieReaderOptions& options);
+
 // Whether all pictures of the movie, so many, decode without an error.
 bool decodesWholly(ByteSource& movie, std::size_t pictures, const MovieReaderOptions& options);
 

@@ -1,11 +1,12 @@
 #include "repair/MovieRepair.h"
 
 #include <algorithm>
-#include <numeric>
 
 #include "formats/IsoBox.h"
 #include "repair/BoxWriter.h"
 #include "repair/IndexWriter.h"
+#include "repair/PictureTrack.h"
+#include "repair/PlayedThrough.h"
 
 namespace vantor {
 
@@ -14,79 +15,6 @@ namespace {
 constexpr int kMostOuterBoxes = 64;
 constexpr double kNoLimitSeconds = 1e9;
 constexpr std::uint64_t kMostSoundAtOnce = std::uint64_t{8} << 20;
-
-// Places of the pictures in the order of display, counted from 0 over the whole movie. Between two places
-// where the order begins anew, pictures are shown by the numbers that they carry; those are only low bits, so
-// each is taken as near to the one before as it can be.
-std::vector<std::uint32_t> orderOfDisplay(const std::vector<CodedPicture>& pictures,
-                                          const PictureSyntax& syntax) {
-    std::vector<std::uint32_t> shown(pictures.size());
-    std::iota(shown.begin(), shown.end(), 0U);
-    if (syntax.orderBits == 0) {
-        return shown;
-    }
-    std::vector<std::pair<std::int64_t, std::uint32_t>> sequence;
-    std::size_t first = 0;
-    const auto settle = [&](std::size_t end) {
-        std::stable_sort(sequence.begin(), sequence.end(),
-                         [](const auto& a, const auto& b) { return a.first < b.first; });
-        for (std::size_t rank = 0; rank < sequence.size(); ++rank) {
-            shown[sequence[rank].second] = static_cast<std::uint32_t>(first + rank);
-        }
-        sequence.clear();
-        first = end;
-    };
-    const std::int64_t range = std::int64_t{1} << syntax.orderBits;
-    std::int64_t near = 0;
-    for (std::size_t i = 0; i < pictures.size(); ++i) {
-        const CodedPicture& picture = pictures[i];
-        if (picture.restartsOrder) {
-            settle(i);
-            near = 0;
-        }
-        const std::int64_t step = ((picture.order - near) % range + range) % range;
-        const std::int64_t order = near + (step < range / 2 ? step : step - range);
-        sequence.emplace_back(order, static_cast<std::uint32_t>(i));
-        if (picture.refersOnly && !picture.aside) {
-            near = order;
-        }
-    }
-    settle(pictures.size());
-    return shown;
-}
-
-class TrackBuilder {
-  public:
-    explicit TrackBuilder(IndexedTrack& track) : m_track(track) {}
-
-    void add(std::uint64_t at, std::uint64_t bytes, std::uint64_t samples) {
-        if (m_track.chunks.empty() || at != m_end) {
-            m_track.chunks.push_back({at, 0});
-        }
-        m_track.chunks.back().samples += samples;
-        m_end = at + bytes;
-    }
-
-  private:
-    IndexedTrack& m_track;
-    std::uint64_t m_end = 0;
-};
-
-IndexedTrack pictureTrack(const std::vector<CodedPicture>& pictures, const ReferenceMovie& reference) {
-    IndexedTrack track;
-    track.described = &reference.video;
-    track.video = true;
-    TrackBuilder builder(track);
-    for (const CodedPicture& picture : pictures) {
-        builder.add(picture.at, picture.end - picture.at, 1);
-        track.sizes.push_back(static_cast<std::uint32_t>(picture.end - picture.at));
-        if (picture.sync) {
-            track.sync.push_back(static_cast<std::uint32_t>(track.sizes.size()));
-        }
-    }
-    track.shown = orderOfDisplay(pictures, reference.syntax);
-    return track;
-}
 
 double secondsOf(const IndexedTrack& track) {
     return static_cast<double>(track.duration()) / track.described->timescale;
@@ -220,11 +148,15 @@ std::optional<DataPlace> dataBehindIndex(ByteSource& movie) {
 }
 
 std::optional<RepairedMovie> repairMovie(ByteSource& movie, DataPlace data, const ReferenceMovie& reference,
-                                         SoundSplitter& splitter, const WalkLimits& limits) {
+                                         SoundSplitter& splitter, const WalkLimits& limits,
+                                         const PartPlays& plays) {
     ByteView view(movie);
-    const MovieWalk walk = walkMovie(view, reference, data, splitterOf(movie, reference, splitter), limits);
+    MovieWalk walk = walkMovie(view, reference, data, splitterOf(movie, reference, splitter), limits);
     if (walk.pictures.empty()) {
         return std::nullopt;
+    }
+    if (plays) {
+        PlayedThrough(headOf(movie, reference, 0), reference, plays).shorten(walk, limits.stop);
     }
     const std::uint64_t lastPictureEnd = walk.pictures.back().end;
     std::vector<IndexedTrack> tracks{pictureTrack(walk.pictures, reference)};

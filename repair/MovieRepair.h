@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <atomic>
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 #include "decode/SoundSplitter.h"
@@ -31,9 +32,15 @@ std::optional<DataPlace> dataWithoutIndex(ByteSource& movie);
 // Where the data of a movie lies behind its index; nothing for other movies. The data may be cut off.
 std::optional<DataPlace> dataBehindIndex(ByteSource& movie);
 
+// Whether all pictures of a part of the movie, a twin without sound, decode without an error.
+using PartPlays = std::function<bool(const RepairedMovie& part)>;
+
 // The movie's pictures and sound, found with what the reference tells of the camera. Nothing where no picture
-// is found. The sound needs a helper; without one the movie is silent.
+// is found. The sound needs a helper; without one the movie is silent. Ends where the pictures go on as no
+// decoder takes them: at the last picture and behind bytes that nothing explains `plays` is asked, unless it
+// is empty.
 std::optional<RepairedMovie> repairMovie(ByteSource& movie, DataPlace data, const ReferenceMovie& reference,
-                                         SoundSplitter& splitter, const WalkLimits& limits = {});
+                                         SoundSplitter& splitter, const WalkLimits& limits = {},
+                                         const PartPlays& plays = {});
 
 }  // namespace vantor

@@ -101,6 +101,7 @@ bool Walker::step(std::uint64_t at, MovieWalk& walk) {
     constexpr std::uint64_t kLeastUnproved = 256;
     std::optional<CodedPicture> first;
     MovieGap firstGap;
+    bool explained = false;
     int candidates = 0;
     const std::uint64_t far = reachFrom(at);
     for (std::uint64_t here = at; here < far && candidates < kMostCandidates; ++here) {
@@ -119,6 +120,7 @@ bool Walker::step(std::uint64_t at, MovieWalk& walk) {
         // A few bytes look like a picture soon.
         if (even || (!first && picture->end - picture->at >= kLeastUnproved)) {
             first = picture;
+            explained = even && here - at <= m_reference.widestGap;
             firstGap = std::move(gap);
         }
         if (even) {
@@ -135,6 +137,9 @@ bool Walker::step(std::uint64_t at, MovieWalk& walk) {
     }
     if (firstGap.place.to > firstGap.place.from) {
         walk.gaps.push_back(std::move(firstGap));
+    }
+    if (!explained && !m_reference.more && !walk.pictures.empty()) {
+        walk.doubtful.push_back(walk.pictures.size());
     }
     walk.pictures.push_back(*first);
     return true;

@@ -22,7 +22,10 @@ struct MovieGap {
 struct MovieWalk {
     std::vector<CodedPicture> pictures;
     std::vector<MovieGap> gaps;  // between, before and behind them, never empty, in order
-    std::uint64_t end = 0;       // behind the last picture, or as far behind it as sound may reach
+    // Places, in order, of pictures behind bytes that the movie's sound does not explain: another file's may
+    // have begun there. None where the camera writes notes of its own.
+    std::vector<std::size_t> doubtful;
+    std::uint64_t end = 0;  // behind the last picture, or as far behind it as sound may reach
 };
 
 // Lengths of the packets of coded sound that follow each other from the first byte of the place on.

@@ -106,6 +106,22 @@ void ItemBytes::measureTold(const QString& type) {
     }
 }
 
+// Whether it was carved through sectors of files that are there.
+bool ItemBytes::runsIntoOthers(const CardTable& card) const {
+    const auto isFree = [&card](const SectorRun& run) { return card.freeRunFrom(run.first, run.end) == run; };
+    std::uint64_t left = m_truth.length.bytes / kSectorBytes + (m_truth.length.bytes % kSectorBytes != 0);
+    std::uint64_t end = 0;
+    for (const SectorRun& run : m_source.carved.runs) {
+        const std::uint64_t count = std::min(left, run.end - run.first);
+        if (count > 0 && !isFree({run.first, run.first + count})) {
+            return true;
+        }
+        left -= count;
+        end = run.end;
+    }
+    return left > 0 && !isFree({end, end + left});
+}
+
 bool ItemBytes::tryPieces(const QString& type, const Assembly& assembly, bool placesAreKnown, bool believed) {
     auto pieces = std::make_unique<Pieces>(m_source, assembly, m_keptOfPieces);
     const TrueLength length = trueLengthOf(type, pieces->bytes, false);
@@ -135,7 +151,11 @@ void ItemBytes::askCard(const QString& type) {
         return;
     }
     const std::uint64_t first = m_source.carved.runs.front().first;
-    for (const auto& candidate : card->candidates(first, m_source.mediumSectors)) {
+    // A length in its head makes it complete wherever it lies.
+    const bool crosses = isComplete(m_truth.length) && !m_truth.length.extent.checked &&
+                         !card->isLiveAt(first) && runsIntoOthers(card->table());
+    const auto candidates = card->candidates(first, m_source.mediumSectors);
+    for (const auto& candidate : candidates) {
         const bool live = candidate.file->state == FileState::Live;
         const bool known = live || candidate.file->runsKnownBy < RunsKnownBy::Guess;
         if (lieAsCarved(candidate.assembly)) {
@@ -145,11 +165,21 @@ void ItemBytes::askCard(const QString& type) {
             continue;
         }
         // What is whole where it was carved is not looked for elsewhere.
-        const bool settled = (isComplete(m_truth.length) && (m_truth.length.extent.checked || !known));
-        if ((live || !settled) && tryPieces(type, candidate.assembly, known, live)) {
+        const bool settled =
+            !crosses && isComplete(m_truth.length) && (m_truth.length.extent.checked || !known);
+        // Round what is there it goes on in the next free clusters, where only these can be its.
+        const bool isOnlyWay =
+            crosses && candidates.size() == 1 && candidate.assembly.bytes == m_truth.length.bytes;
+        if ((live || !settled) && tryPieces(type, candidate.assembly, known || isOnlyWay, live)) {
+            if (!known && !m_truth.length.extent.checked) {
+                m_truth.assembly->proof = AssemblyProof::Likely;
+            }
             take(candidate.file);
             return;
         }
+    }
+    if (crosses && !candidates.empty()) {
+        m_truth.length.extent.verdict = Verdict::Damaged;
     }
     const CardIndex::Match match = card->match(first, type, &m_truth.length);
     if (match.fit == CardFit::Maybe) {

@@ -56,6 +56,7 @@ class ItemBytes {
 
     void askCard(const QString& type);
     bool takeMend(const QString& type);
+    bool runsIntoOthers(const CardTable& card) const;
     bool lieAsCarved(const Assembly& assembly) const;
     void measureTold(const QString& type);
     bool tryPieces(const QString& type, const Assembly& assembly, bool placesAreKnown, bool believed);

@@ -116,9 +116,26 @@ bool ItemSaver::isStillThere(const FoundItem& item) const {
            item.source.hints.card->isLiveAt(firstSectorOf(item));
 }
 
+// How long the file is that the directory alone tells of in the place where the item begins.
+std::optional<std::uint64_t> ItemSaver::toldLengthOf(const FoundItem& item) {
+    const auto& card = item.source.hints.card;
+    if (!card || item.source.carved.runs.empty()) {
+        return std::nullopt;
+    }
+    const CardFile* const file = card->match(firstSectorOf(item), item.type).file;
+    return file != nullptr && card->isInOneFreePiece(*file) ? std::optional(dataBytesOf(*file))
+                                                            : std::nullopt;
+}
+
 TrueLength ItemSaver::lengthOf(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const {
     LengthClaims& claims = claimsOn(item.source.mediumSectors);
-    TrueLength length = trueLengthOf(item.type, bytes, claims.mayGoBeyond(item.type, firstSectorOf(item)));
+    bool mayGoBeyond = claims.mayGoBeyond(item.type, firstSectorOf(item));
+    // A stream runs on into the next one. That is no part of it where it is a file of its own.
+    if (const auto told = mayGoBeyond ? std::nullopt : toldLengthOf(item)) {
+        bytes.limitTo(*told);
+        mayGoBeyond = true;
+    }
+    TrueLength length = trueLengthOf(item.type, bytes, mayGoBeyond);
     const auto answer = claims.ask(item.type, bytes, length, item.mayWait);
     outcome.later = answer == LengthClaims::Answer::Later;
     if (answer == LengthClaims::Answer::Refused) {

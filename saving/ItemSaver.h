@@ -129,6 +129,7 @@ class ItemSaver {
     bool isPart(const FoundItem& item, SaveOutcome& outcome) const;
     void noteWhole(const FoundItem& item, const SaveOutcome& outcome) const;
     bool decideLength(const FoundItem& item, ItemBytes& bytes, SaveOutcome& outcome) const;
+    static std::optional<std::uint64_t> toldLengthOf(const FoundItem& item);
     TrueLength lengthOf(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const;
     void saveBytes(const FoundItem& item, const SavingFolder& destination, ItemBytes& bytes,
                    SaveOutcome& outcome) const;

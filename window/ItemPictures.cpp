@@ -39,17 +39,21 @@ void MyTableController::showDetails(bool shown) {
     }
 }
 
-// A photo has its thumbnail already, which does as long as cells are small and it is one.
+// A photo has its thumbnail already, which does as long as cells are small and it is one; that of a photo
+// that was put together shows what was found.
 std::optional<ViewOrder> MyTableController::pictureOrderOf(std::size_t index) const {
     const auto item = itemAt(index);
     if (!item || (scanRunning() && item->carved().readFailed)) {
         return std::nullopt;
     }
-    const bool hasThumbnail = Recovery_MODE == kPhotoMode && item->imageData() != Null_Image_Data;
+    ViewOrder order = viewOrderOf(*item);
+    order.file.hints.mend = m_mended->of(*item);
+    const bool hasThumbnail = Recovery_MODE == kPhotoMode && item->imageData() != Null_Image_Data &&
+                              order.file.hints.mend == nullptr;
     if (hasThumbnail && imageBrowser->pictureSide() <= kThumbnailSide * 3 / 2) {
         return std::nullopt;
     }
-    return viewOrderOf(*item);
+    return order;
 }
 
 const CellPicture* MyTableController::pictureOfItem(qsizetype index) {

@@ -110,6 +110,8 @@ void MyTableController::showMending() {
     if (mends != m_shownMends) {
         m_shownMends = mends;
         m_looks->mendsChanged();
+        m_pictures->mendsChanged();
+        wantItemPictures();
         m_viewer->refresh();
     }
     if (m_mending.isRunning()) {

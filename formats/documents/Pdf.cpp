@@ -159,11 +159,13 @@ PdfWalk::Mark PdfWalk::judge(std::uint64_t at) {
     return beginsUpdate(textAt(m_view, behind, kUpdateLead)) ? Mark::Inner : Mark::Last;
 }
 
-// Whether the end mark at `at` has one line end at most behind it, a second one may be another's, and no PDF
-// that was joined to this one.
+// Whether the end mark at `at` has one line end at most behind it, and no PDF that was joined to this one:
+// further blanks are the file's or another's.
 bool PdfWalk::isSureEnd(std::uint64_t at) {
-    return m_lastMark == behindLineEnd(m_view, at + 5) &&
-           (isSectorStart(m_lastMark) || !m_view.matches(m_lastMark, "%PDF-"));
+    if (m_lastMark != behindLineEnd(m_view, at + 5))
+        return false;
+    return isSectorStart(m_lastMark) ||
+           (!isTextSpace(m_view.u8(m_lastMark).value_or(0)) && !m_view.matches(m_lastMark, "%PDF-"));
 }
 
 // Another PDF at a sector's start, unless it is the content of a stream of ours.

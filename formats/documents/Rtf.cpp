@@ -11,7 +11,7 @@ namespace vantor {
 namespace {
 
 // Behind the line ends after the last brace. The rich edit control of Windows, which names itself, and so the
-// programs that leave the writing to it, closes with a zero.
+// programs that leave the writing to it, closes with a zero; an editor may have put a line end behind that.
 std::uint64_t behindLast(ByteView& view, std::uint64_t at) {
     constexpr std::size_t kHead = 4096;
     const auto end = behindEmptyLine(view, at);
@@ -19,8 +19,9 @@ std::uint64_t behindLast(ByteView& view, std::uint64_t at) {
     const std::string_view text(reinterpret_cast<const char*>(head.data()), std::min(head.size(), kHead));
     const bool bySystem =
         text.find("\\generator Riched20") != text.npos || text.find("\\generator Msftedit") != text.npos;
-    return bySystem && end == at + 2 && !isSectorStart(end) && view.u8(end) == std::uint8_t{0} ? end + 1
-                                                                                               : end;
+    if (!bySystem || end != at + 2 || isSectorStart(end) || view.u8(end) != std::uint8_t{0})
+        return end;
+    return !isSectorStart(end + 1) && view.matches(end + 1, "\r\n") ? end + 3 : end + 1;
 }
 
 Extent walkRtf(ByteView& view) {

@@ -10,6 +10,7 @@ namespace {
 
 constexpr std::uint64_t kMostStuffing = 64 * 1024;                // zero bytes between packets
 constexpr std::uint64_t kMpegPsAndVideoMostSilence = 256 * 1024;  // without a start code in bare video
+constexpr std::uint64_t kVideoDiscSector = 2324;                  // of a Video CD, one pack each
 constexpr std::uint64_t kFewCodes = 4;                            // fewer start codes do not make a video
 
 // The code behind 00 00 01 at `at`; nothing when no start code stands there.
@@ -55,12 +56,25 @@ std::uint64_t skipStuffing(ByteView& view, std::uint64_t at) {
     return code && *code >= 0xB9 ? end - 2 : at;
 }
 
+// Behind the zeros that fill the last sector of a Video CD's stream, whose packs all begin with one; `at`
+// itself where something else stands there.
+std::uint64_t behindVideoDiscFilling(ByteView& view, std::uint64_t at) {
+    const auto end = (at + kVideoDiscSector - 1) / kVideoDiscSector * kVideoDiscSector;
+    for (auto filling = at; filling < end; ++filling) {
+        if (view.u8(filling) != std::uint8_t{0})
+            return at;
+    }
+    return end;
+}
+
 Extent walkMpegPs(ByteView& view) {
     if (startCode(view, 0) != 0xBA || packHeaderBytes(view, 0) == 0)
         return unknownExtent();
     std::uint64_t at = 0;
     std::uint64_t packets = 0;
     std::uint64_t clock = 0;
+    std::uint64_t packs = 0;
+    bool discSectors = true;
     bool navigation = false;
     for (;;) {
         const auto here = skipStuffing(view, at);
@@ -83,6 +97,8 @@ Extent walkMpegPs(ByteView& view) {
             if (bytes == 0 || (again && !navigation && isSectorStart(here)))
                 break;
             clock = now;
+            ++packs;
+            discSectors = discSectors && here % kVideoDiscSector == 0;
             end = here + bytes;
         } else {
             const auto bytes = view.be16(here + 4);
@@ -98,7 +114,7 @@ Extent walkMpegPs(ByteView& view) {
     }
     if (packets < 2)
         return view.holds(at, 6) ? unknownExtent() : cutOffAt(view, at);
-    return inexact(completeAt(view, at));
+    return inexact(completeAt(view, discSectors && packs > 1 ? behindVideoDiscFilling(view, at) : at));
 }
 
 // Where the zero bytes in front of `at` begin, not before `from`.

@@ -20,6 +20,7 @@ constexpr std::uint64_t kRiffSmallMovie = 4 * 1024 * 1024;
 constexpr int kFirstChunks = 64;
 constexpr std::uint64_t kIndexEntries = 64;
 constexpr std::uint32_t kUnsetSize = 0xFFFFFFFF;
+constexpr std::uint64_t kMostMiscounted = 64;  // bytes that a writer of sound told too many
 
 bool isChunkName(std::string_view name) {
     return std::all_of(name.begin(), name.end(), [](char c) { return c >= ' ' && c <= '~'; }) &&
@@ -60,6 +61,7 @@ class RiffWalk {
     Step inner(std::uint64_t told);
     void chunksBehind();
     bool isFilled(std::uint64_t told);
+    bool isMiscounted(std::uint64_t told);
     void movieData(const Chunk& list);
     void index(const Chunk& index);
 
@@ -70,6 +72,8 @@ class RiffWalk {
     std::uint64_t m_wideOuter = 0;  // 64-bit sizes of an RF64 file
     std::uint64_t m_wideData = 0;
     bool m_sawPayload = false;
+    bool m_sawSamples = false;  // of a sound
+    bool m_miscounted = false;  // the outer chunk tells more than there is
     std::uint64_t m_movie = 0;  // where the list of a movie's data has its name
     bool m_sound = true;        // so far as it was looked at
     bool m_looked = false;
@@ -136,6 +140,11 @@ bool RiffWalk::isFilled(std::uint64_t told) {
     return true;
 }
 
+// Whether a little of what is told up to `told` is missing, and something else lies there.
+bool RiffWalk::isMiscounted(std::uint64_t told) {
+    return told - m_at <= kMostMiscounted && m_view.holds(m_at, 8) && !isFilled(told);
+}
+
 // The chunks of one outer chunk that should end at `told`; m_at moves behind the last.
 RiffWalk::Step RiffWalk::inner(std::uint64_t told) {
     for (std::uint32_t chunks = 0; chunks < kRiffMostChunks; ++chunks) {
@@ -143,6 +152,11 @@ RiffWalk::Step RiffWalk::inner(std::uint64_t told) {
         if (m_at >= told || told - m_at < 8)
             return Step::Done;
         const auto chunk = readChunk(m_view, m_at, m_endian);
+        // Others count the outer chunk's own head as well, or that of an inner one twice.
+        if (!chunk && m_sawSamples && (told - m_at == 8 || isMiscounted(told))) {
+            m_miscounted = true;
+            return Step::Done;
+        }
         if (!chunk && isFilled(told)) {
             m_at = told;
             return Step::Done;
@@ -162,6 +176,7 @@ RiffWalk::Step RiffWalk::inner(std::uint64_t told) {
         addRiffFacts(m_view, {m_form.data(), m_form.size()}, chunk->text(), chunk->body, chunk->bytes,
                      m_facts);
         const bool list = chunk->text() == "LIST" && m_view.matches(chunk->body, "movi");
+        m_sawSamples = m_sawSamples || chunk->text() == "data" || chunk->text() == "SSND";
         m_sawPayload = m_sawPayload || chunk->text() != "LIST" ||
                        !(m_view.matches(chunk->body, "INFO") || m_view.matches(chunk->body, "hdrl"));
         if (end > m_view.size())
@@ -218,6 +233,8 @@ Extent RiffWalk::ended() const {
     const Extent whole = completeAt(m_view, m_at, m_facts);
     if (whole.verdict == Verdict::Complete && !m_sound)
         return spoiltUpTo(m_view, m_at, m_facts);
+    if (m_miscounted)
+        return inexact(whole);
     return m_looked ? withContent(whole) : whole;
 }
 

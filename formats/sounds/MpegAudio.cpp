@@ -34,6 +34,22 @@ std::uint64_t mpegAudioFrameBytes(std::uint32_t head) {
     return (layer == 3 && !first ? 72 : 144) * bits / rate + padding;
 }
 
+// Bytes of a frame in the free format, without padding, whose head tells no bit rate: found by the head of
+// the next; 0 = it is none. All frames have the same rate then.
+std::uint64_t freeFrameBytes(ByteView& view, std::uint64_t at) {
+    constexpr std::uint32_t kAllButPadding = 0xFFFFFDC0;  // and what joins the channels
+    constexpr std::uint64_t kLeast = 32, kMost = 4096;
+    const auto head = view.be32(at).value_or(0);
+    // A bit rate in its place makes a head of one that is valid otherwise.
+    if ((head >> 12 & 15) != 0 || (head >> 17 & 3) == 3 || mpegAudioFrameBytes(head | 1 << 12) == 0)
+        return 0;
+    for (auto bytes = kLeast; bytes < kMost; ++bytes) {
+        if (((view.be32(at + bytes).value_or(0) ^ head) & kAllButPadding) == 0)
+            return bytes - (head >> 9 & 1);
+    }
+    return 0;
+}
+
 // How many frames of sound the first frame says that follow it; 0 = it does not.
 std::uint64_t toldFrames(ByteView& view, std::uint64_t at, std::uint32_t head) {
     const bool first = (head >> 19 & 3) == 3, mono = (head >> 6 & 3) == 3;
@@ -46,8 +62,9 @@ Extent walkMpegAudio(ByteView& view) {
     const auto start = skipLeadingTag(view, 0);
     constexpr std::uint32_t kSameKind = 0xFFFE0C00;  // sync, version, layer, sampling rate
     const auto first = view.be32(start).value_or(0);
+    const auto freeBytes = freeFrameBytes(view, start);
     // The same tag stands before other sound, whose frames tell themselves apart.
-    if (start != 0 && mpegAudioFrameBytes(first) == 0) {
+    if (start != 0 && freeBytes == 0 && mpegAudioFrameBytes(first) == 0) {
         for (const Format* other : {&kAdts, &kAc3}) {
             const Extent extent = other->walk(view);
             if (extent.verdict != Verdict::Unknown)
@@ -56,7 +73,10 @@ Extent walkMpegAudio(ByteView& view) {
     }
     const auto frameBytes = [&](std::uint64_t at) -> std::uint64_t {
         const auto head = view.be32(at).value_or(0);
-        return ((head ^ first) & kSameKind) == 0 ? mpegAudioFrameBytes(head) : 0;
+        if (((head ^ first) & kSameKind) != 0)
+            return 0;
+        return freeBytes != 0 && (head >> 12 & 15) == 0 ? freeBytes + (head >> 9 & 1)
+                                                        : mpegAudioFrameBytes(head);
     };
     FrameRow row;
     Extent extent = walkFrames(view, start, start != 0 ? 1 : kProofFrames, frameBytes, &row);

@@ -1837,8 +1837,8 @@ Versuchen Sie --help.</translation>
         <translation>MP4-, QuickTime- und AVI-Filme sowie JPEG- und PNG-Bilder zusammensetzen, die in Stücken liegen, als „... complete.MP4“ oder als „... put together.MP4“, wo sich nicht beweisen ließ, dass alle Stücke die richtigen sind.</translation>
     </message>
     <message>
-        <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
-        <translation>Zu jedem MP4- oder QuickTime-Film, dessen Index nie geschrieben wurde, eine abspielbare Fassung „... repaired.MP4“ schreiben; dazu muss auch ein ganzer Film derselben Kamera gefunden werden.</translation>
+        <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4, QuickTime or AVI movie whose index was never written; for MP4 and QuickTime a whole movie of the same camera has to be found as well.</source>
+        <translation>Zu jedem MP4-, QuickTime- oder AVI-Film, dessen Index nie geschrieben wurde, eine abspielbare Fassung „... repaired.MP4“ schreiben; für MP4 und QuickTime muss dazu auch ein ganzer Film derselben Kamera gefunden werden.</translation>
     </message>
     <message>
         <source>A whole movie of the camera, in place of those that are found (with --repair-movies).</source>

@@ -1837,8 +1837,8 @@ Pruebe --help.</translation>
         <translation>Unir los vídeos MP4, QuickTime y AVI y las imágenes JPEG o PNG que están en fragmentos, como «... complete.MP4», o como «... put together.MP4» si no se pudo probar que todos los fragmentos son los correctos.</translation>
     </message>
     <message>
-        <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
-        <translation>Escribir una versión reproducible, «... repaired.MP4», de cada vídeo MP4 o QuickTime cuyo índice nunca se escribió; también debe encontrarse un vídeo entero de la misma cámara.</translation>
+        <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4, QuickTime or AVI movie whose index was never written; for MP4 and QuickTime a whole movie of the same camera has to be found as well.</source>
+        <translation>Escribir una versión reproducible, «... repaired.MP4», de cada vídeo MP4, QuickTime o AVI cuyo índice nunca se escribió; para MP4 y QuickTime también debe encontrarse un vídeo entero de la misma cámara.</translation>
     </message>
     <message>
         <source>A whole movie of the camera, in place of those that are found (with --repair-movies).</source>

@@ -1837,8 +1837,8 @@ Essayez --help.</translation>
         <translation>Assembler les films MP4, QuickTime et AVI et les images JPEG ou PNG en morceaux, sous « ... complete.MP4 », ou « ... put together.MP4 » quand il n&apos;a pas pu être prouvé que tous les morceaux sont les bons.</translation>
     </message>
     <message>
-        <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
-        <translation>Écrire un jumeau lisible, « ... repaired.MP4 », de chaque film MP4 ou QuickTime dont l&apos;index n&apos;a jamais été écrit ; un film entier du même appareil doit aussi être trouvé.</translation>
+        <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4, QuickTime or AVI movie whose index was never written; for MP4 and QuickTime a whole movie of the same camera has to be found as well.</source>
+        <translation>Écrire un jumeau lisible, « ... repaired.MP4 », de chaque film MP4, QuickTime ou AVI dont l&apos;index n&apos;a jamais été écrit ; pour MP4 et QuickTime, un film entier du même appareil doit aussi être trouvé.</translation>
     </message>
     <message>
         <source>A whole movie of the camera, in place of those that are found (with --repair-movies).</source>

@@ -1837,8 +1837,8 @@ Provare --help.</translation>
         <translation>Ricomporre i video MP4, QuickTime e AVI e le immagini JPEG o PNG che sono in pezzi, come «... complete.MP4», oppure come «... put together.MP4» dove non è stato possibile provare che tutti i pezzi siano quelli giusti.</translation>
     </message>
     <message>
-        <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
-        <translation>Scrivere un gemello riproducibile, «... repaired.MP4», di ogni video MP4 o QuickTime il cui indice non è mai stato scritto; deve essere trovato anche un video intero della stessa fotocamera.</translation>
+        <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4, QuickTime or AVI movie whose index was never written; for MP4 and QuickTime a whole movie of the same camera has to be found as well.</source>
+        <translation>Scrivere un gemello riproducibile, «... repaired.MP4», di ogni video MP4, QuickTime o AVI il cui indice non è mai stato scritto; per MP4 e QuickTime deve essere trovato anche un video intero della stessa fotocamera.</translation>
     </message>
     <message>
         <source>A whole movie of the camera, in place of those that are found (with --repair-movies).</source>

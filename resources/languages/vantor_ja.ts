@@ -1813,8 +1813,8 @@ Try --help.</source>
         <translation>断片に分かれた MP4、QuickTime、AVI の動画、JPEG と PNG の画像を組み立て、&quot;... complete.MP4&quot;、またはすべての断片が正しいと証明できない場合は &quot;... put together.MP4&quot; として保存します。</translation>
     </message>
     <message>
-        <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
-        <translation>インデックスが書かれなかった MP4 または QuickTime 動画ごとに、再生できる &quot;... repaired.MP4&quot; を書き出します。同じカメラの完全な動画も見つかる必要があります。</translation>
+        <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4, QuickTime or AVI movie whose index was never written; for MP4 and QuickTime a whole movie of the same camera has to be found as well.</source>
+        <translation>インデックスが書かれなかった MP4、QuickTime、AVI 動画ごとに、再生できる &quot;... repaired.MP4&quot; を書き出します。MP4 と QuickTime では同じカメラの完全な動画も見つかる必要があります。</translation>
     </message>
     <message>
         <source>A whole movie of the camera, in place of those that are found (with --repair-movies).</source>

@@ -1837,8 +1837,8 @@ Probeer --help.</translation>
         <translation>MP4-, QuickTime- en AVI-video’s en JPEG- of PNG-afbeeldingen die in stukken liggen samenvoegen, als “... complete.MP4”, of als “... put together.MP4” waar niet kon worden aangetoond dat alle stukken de juiste zijn.</translation>
     </message>
     <message>
-        <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
-        <translation>Een afspeelbare tweeling, “... repaired.MP4”, schrijven van elke MP4- of QuickTime-video waarvan de index nooit is geschreven; er moet ook een hele video van dezelfde camera worden gevonden.</translation>
+        <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4, QuickTime or AVI movie whose index was never written; for MP4 and QuickTime a whole movie of the same camera has to be found as well.</source>
+        <translation>Een afspeelbare tweeling, “... repaired.MP4”, schrijven van elke MP4-, QuickTime- of AVI-video waarvan de index nooit is geschreven; voor MP4 en QuickTime moet er ook een hele video van dezelfde camera worden gevonden.</translation>
     </message>
     <message>
         <source>A whole movie of the camera, in place of those that are found (with --repair-movies).</source>

@@ -1861,8 +1861,8 @@ Proszę użyć --help.</translation>
         <translation>Składaj filmy MP4, QuickTime i AVI oraz obrazy JPEG lub PNG, które leżą w kawałkach, jako „... complete.MP4” lub jako „... put together.MP4”, gdy nie dało się dowieść, że wszystkie kawałki są właściwe.</translation>
     </message>
     <message>
-        <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
-        <translation>Zapisz odtwarzalny odpowiednik, „... repaired.MP4”, każdego filmu MP4 lub QuickTime, którego indeksu nigdy nie zapisano; musi zostać znaleziony także cały film z tego samego aparatu.</translation>
+        <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4, QuickTime or AVI movie whose index was never written; for MP4 and QuickTime a whole movie of the same camera has to be found as well.</source>
+        <translation>Zapisz odtwarzalny odpowiednik, „... repaired.MP4”, każdego filmu MP4, QuickTime lub AVI, którego indeksu nigdy nie zapisano; dla MP4 i QuickTime musi zostać znaleziony także cały film z tego samego aparatu.</translation>
     </message>
     <message>
         <source>A whole movie of the camera, in place of those that are found (with --repair-movies).</source>

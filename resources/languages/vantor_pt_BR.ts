@@ -1837,8 +1837,8 @@ Tente --help.</translation>
         <translation>Montar os vídeos MP4, QuickTime e AVI e as imagens JPEG ou PNG que estão em pedaços, como “... complete.MP4”, ou como “... put together.MP4” quando não foi possível provar que todos os pedaços são os corretos.</translation>
     </message>
     <message>
-        <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
-        <translation>Gravar um gêmeo reproduzível, “... repaired.MP4”, de cada vídeo MP4 ou QuickTime cujo índice nunca foi gravado; também é preciso encontrar um vídeo inteiro da mesma câmera.</translation>
+        <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4, QuickTime or AVI movie whose index was never written; for MP4 and QuickTime a whole movie of the same camera has to be found as well.</source>
+        <translation>Gravar um gêmeo reproduzível, “... repaired.MP4”, de cada vídeo MP4, QuickTime ou AVI cujo índice nunca foi gravado; para MP4 e QuickTime também é preciso encontrar um vídeo inteiro da mesma câmera.</translation>
     </message>
     <message>
         <source>A whole movie of the camera, in place of those that are found (with --repair-movies).</source>

@@ -1813,8 +1813,8 @@ Try --help.</source>
         <translation>将分散为碎片的 MP4、QuickTime 和 AVI 视频以及 JPEG 或 PNG 图片拼合，保存为“... complete.MP4”；无法证实所有碎片都正确时，保存为“... put together.MP4”。</translation>
     </message>
     <message>
-        <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4 or QuickTime movie whose index was never written; a whole movie of the same camera has to be found as well.</source>
-        <translation>为每个从未写入索引的 MP4 或 QuickTime 视频写入一个可播放的版本“... repaired.MP4”；还须找到同一相机拍摄的一个完整视频。</translation>
+        <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4, QuickTime or AVI movie whose index was never written; for MP4 and QuickTime a whole movie of the same camera has to be found as well.</source>
+        <translation>为每个从未写入索引的 MP4、QuickTime 或 AVI 视频写入一个可播放的版本“... repaired.MP4”；对于 MP4 和 QuickTime，还须找到同一相机拍摄的一个完整视频。</translation>
     </message>
     <message>
         <source>A whole movie of the camera, in place of those that are found (with --repair-movies).</source>

@@ -91,43 +91,79 @@ TEST(ClusterVote, FilesOfOneLengthInARow_LieWhereOthersSay) {
 
 TEST(FirstLetters, NamesOfTheSameSeriesTellIt) {
     FirstLetters letters;
-    letters.learn("MVC-012F.JPG", 1);
-    letters.learn("B0000001.BMP", 1);
-    letters.learn("C0000001.BMP", 2);
-    letters.learn("README1", 3);
-    EXPECT_EQ(letters.of("_VC-013F.JPG", 1), QChar(u'M'));
-    EXPECT_EQ(letters.of("_VC-013F.JPG", 9), QChar(u'M'));
-    EXPECT_EQ(letters.of("_vc-013f.jpg", 1), QChar(u'm'));
-    EXPECT_EQ(letters.of("_0000007.BMP", 1), QChar(u'B'));
-    EXPECT_EQ(letters.of("_0000007.BMP", 2), QChar(u'C'));
-    EXPECT_EQ(letters.of("_0000007.BMP", 9), std::nullopt);
-    EXPECT_EQ(letters.of("_0000007.JPG", 1), std::nullopt);
-    EXPECT_EQ(letters.of("_EADME2", 3), QChar(u'R'));
-    EXPECT_EQ(letters.of("_EADME", 3), std::nullopt);
-    EXPECT_EQ(letters.of("_OTE1.TXT", 3), std::nullopt);
+    letters.learn("MVC-012F.JPG", 1, 0);
+    letters.learn("B0000001.BMP", 1, 0);
+    letters.learn("C0000001.BMP", 2, 0);
+    letters.learn("README1", 3, 0);
+    EXPECT_EQ(letters.of("_VC-013F.JPG", 1, 0), QChar(u'M'));
+    EXPECT_EQ(letters.of("_VC-013F.JPG", 9, 0), QChar(u'M'));
+    EXPECT_EQ(letters.of("_vc-013f.jpg", 1, 0), QChar(u'm'));
+    EXPECT_EQ(letters.of("_0000007.BMP", 1, 0), QChar(u'B'));
+    EXPECT_EQ(letters.of("_0000007.BMP", 2, 0), QChar(u'C'));
+    EXPECT_EQ(letters.of("_0000007.BMP", 9, 0), std::nullopt);
+    EXPECT_EQ(letters.of("_0000007.JPG", 1, 0), std::nullopt);
+    EXPECT_EQ(letters.of("_EADME2", 3, 0), QChar(u'R'));
+    EXPECT_EQ(letters.of("_EADME", 3, 0), std::nullopt);
+    EXPECT_EQ(letters.of("_OTE1.TXT", 3, 0), std::nullopt);
     // A number says little in other folders, and nothing where the name is another's.
-    EXPECT_EQ(letters.of("_0000001.BMP", 1), std::nullopt);
-    letters.learn("P1010001.ORF", 1);
-    EXPECT_EQ(letters.of("_1010002.ORF", 1), QChar(u'P'));
-    EXPECT_EQ(letters.of("_1010002.ORF", 2), std::nullopt);
+    EXPECT_EQ(letters.of("_0000001.BMP", 1, 0), std::nullopt);
+    letters.learn("P1010001.ORF", 1, 0);
+    EXPECT_EQ(letters.of("_1010002.ORF", 1, 0), QChar(u'P'));
+    EXPECT_EQ(letters.of("_1010002.ORF", 2, 0), std::nullopt);
 }
 
 TEST(FirstLetters, StandardsTellItWhereNoOtherNameDoes) {
     FirstLetters letters;
-    EXPECT_EQ(letters.of("_MG_0412.JPG", 1), QChar(u'I'));
-    EXPECT_EQ(letters.of("_SC01234.ARW", 1), QChar(u'D'));
-    EXPECT_EQ(letters.of("_VI_0001.MOV", 1), QChar(u'M'));
-    EXPECT_EQ(letters.of("_12CANON", 1), QChar(u'1'));
-    EXPECT_EQ(letters.of("_CIM", 1), QChar(u'D'));
-    EXPECT_EQ(letters.of("_0001.MTS", 1), QChar(u'0'));
-    EXPECT_EQ(letters.of("_OTES.TXT", 1), std::nullopt);
+    EXPECT_EQ(letters.of("_MG_0412.JPG", 1, 0), QChar(u'I'));
+    EXPECT_EQ(letters.of("_SC01234.ARW", 1, 0), QChar(u'D'));
+    EXPECT_EQ(letters.of("_VI_0001.MOV", 1, 0), QChar(u'M'));
+    EXPECT_EQ(letters.of("_12CANON", 1, 0), QChar(u'1'));
+    EXPECT_EQ(letters.of("_CIM", 1, 0), QChar(u'D'));
+    EXPECT_EQ(letters.of("_0001.MTS", 1, 0), QChar(u'0'));
+    EXPECT_EQ(letters.of("_OTES.TXT", 1, 0), std::nullopt);
     // Photos with more colours begin with the very sign.
-    letters.learn("_MG_0411.JPG", 1);
-    EXPECT_EQ(letters.of("_MG_0412.JPG", 1), QChar(u'_'));
-    letters.learn("IMG_0410.JPG", 1);
-    EXPECT_EQ(letters.of("_MG_0412.JPG", 1), std::nullopt);
-    letters.learn("200CANON", 2);
-    EXPECT_EQ(letters.of("_00CANON", 1), QChar(u'2'));
+    letters.learn("_MG_0411.JPG", 1, 0);
+    EXPECT_EQ(letters.of("_MG_0412.JPG", 1, 0), QChar(u'_'));
+    letters.learn("IMG_0410.JPG", 1, 0);
+    EXPECT_EQ(letters.of("_MG_0412.JPG", 1, 0), std::nullopt);
+    letters.learn("200CANON", 2, 0);
+    EXPECT_EQ(letters.of("_00CANON", 1, 0), QChar(u'2'));
+}
+
+// Two cameras wrote into one folder, the second into the places of what had been deleted by then.
+TEST(FirstLetters, NeighboursTellItWhereTwoSeriesShareAFolder) {
+    FirstLetters letters;
+    const char* const entries[] = {"J00001.JPG", "N00001.JPG", "J00003.JPG", "",           "J00005.JPG",
+                                   "N00002.JPG", "",           "J00008.JPG", "N00005.JPG", "NOTES"};
+    for (std::size_t at = 0; at < std::size(entries); ++at) {
+        if (*entries[at] != 0) {
+            letters.learn(entries[at], 1, at);
+        }
+    }
+    EXPECT_EQ(letters.of("_00004.JPG", 1, 3), QChar(u'J'));
+    EXPECT_EQ(letters.of("_00007.JPG", 1, 6), QChar(u'J'));
+    EXPECT_EQ(letters.of("_00003.JPG", 1, 6), QChar(u'N'));
+    EXPECT_EQ(letters.of("_00009.JPG", 1, 6), std::nullopt) << "in nobody's row";
+    EXPECT_EQ(letters.of("_00009.JPG", 1, 10), std::nullopt) << "nothing stands behind it";
+    EXPECT_EQ(letters.of("_00007.JPG", 2, 6), std::nullopt) << "of another folder";
+    letters.learn("N00003.JPG", 2, 0);
+    letters.learn("J00003.JPG", 2, 1);
+    letters.learn("N00009.JPG", 2, 9);
+    letters.learn("J00009.JPG", 2, 10);
+    EXPECT_EQ(letters.of("_00005.JPG", 2, 5), std::nullopt) << "fits both";
+}
+
+TEST(FirstLetters, NeighboursTellAShortNameOnlyWithoutAGap) {
+    FirstLetters letters;
+    letters.learn("X9.XMP", 1, 4);
+    letters.learn("X11.XMP", 1, 6);
+    letters.learn("X14.XMP", 1, 10);
+    letters.learn("19.TXT", 1, 20);
+    letters.learn("111.TXT", 1, 22);
+    EXPECT_EQ(letters.of("_10.XMP", 1, 5), QChar(u'X'));
+    EXPECT_EQ(letters.of("_12.XMP", 1, 7), std::nullopt) << "there is room for another";
+    EXPECT_EQ(letters.of("_8.XMP", 1, 3), std::nullopt);
+    EXPECT_EQ(letters.of("_10.TXT", 1, 21), std::nullopt) << "what is lost is part of the number";
 }
 
 Bytes partitionRow(std::uint8_t type, std::uint32_t first, std::uint32_t sectors) {

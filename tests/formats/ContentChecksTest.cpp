@@ -4,6 +4,7 @@
 #include <zlib.h>
 
 #include <algorithm>
+#include <array>
 #include <string>
 
 #include "Corpus.h"
@@ -58,13 +59,16 @@ Bytes soundMedia(const Bytes& entry, const Bytes& tables) {
 
 const Bytes kMovieType = isoBox("ftyp", Build().text("M4A ").be32(0).text("isom"));
 
-Bytes recording(std::uint64_t object = 2) {
+// The twenty frames in the middle may begin in another way.
+Bytes recording(std::uint64_t object = 2, const Bytes& beginning = {}) {
     constexpr int kFrames = 60;
     Build data, sizes;
     sizes.be32(0).be32(kFrames);
     for (int i = 0; i < kFrames; ++i) {
-        data.add(aacFrame(i));
-        sizes.be32(aacFrame(i).size());
+        const bool middle = i >= 20 && i < 40;
+        const Bytes frame = Build().add(aacFrame(i)).put(0, middle ? beginning : Bytes());
+        data.add(frame);
+        sizes.be32(frame.size());
     }
     const Bytes tables = Build()
                              .add(boxOf("stsc", Build().be32(1).be32(1).be32(kFrames).be32(1)))
@@ -77,6 +81,25 @@ Bytes recording(std::uint64_t object = 2) {
 TEST(Sound, FramesOfARecording_AreLookedAt) {
     expectChecked("M4A", recording());
     EXPECT_EQ(walkBytes("M4A", withNoise(recording(), 4096, 4096)).verdict, Verdict::Damaged);
+}
+
+TEST(Sound, FramesThatBeginAsNoneDoes_AreAnothers) {
+    const Bytes longFilling = Build().u8(0xDE).u8(0).fill(14).u8(0x42).u8(0);
+    const std::array whole = {Bytes{0x21, 0x10},                 // a pair
+                              Bytes{0x01, 0x40, 0x22},           // a single channel
+                              longFilling,                       // and a pair
+                              Bytes{0xC1, 0xC0}};                // filling of no bytes, and the end
+    const std::array foreign = {Bytes{0x41, 0x10},               // coupling, of nothing
+                                Bytes{0x61, 0x10},               // low frequencies alone
+                                Bytes{0x23, 0x10},               // the second pair first
+                                Bytes{0x21, 0x90},               // a reserved bit
+                                Bytes{0xE0},                     // an end of nothing
+                                Bytes{0xDF, 0xFF, 0xFF, 0x21}};  // filling longer than the frame
+    for (const Bytes& beginning : whole)
+        EXPECT_TRUE(walkBytes("M4A", recording(2, beginning)).checked) << int{beginning[0]};
+    for (const Bytes& beginning : foreign)
+        EXPECT_EQ(walkBytes("M4A", recording(2, beginning)).verdict, Verdict::Damaged) << int{beginning[0]};
+    EXPECT_EQ(walkBytes("M4A", recording(2, Bytes(198, 0))).verdict, Verdict::Damaged);
 }
 
 TEST(Sound, OfAKindThatIsNotFollowed_OnlyEndsWhereItSays) {
@@ -223,6 +246,13 @@ TEST(Documents, WhoseStreamsSayNothing_OnlyEndWhereTheySay) {
 
 TEST(Documents, WhoseEndIsInDoubt_OnlyEndWhereTheySay) {
     EXPECT_FALSE(isDocumentChecked(document() + "\n"));
+    // Three line ends, of which the first is the mark's.
+    for (const Bytes& tail : {noise(3000, 6), Bytes(3000, 0)}) {
+        const Bytes bytes = Build().text(document() + "\r\n").add(tail);
+        EXPECT_EQ(walkBytes("PDF", bytes).verdict, Verdict::Complete);
+        EXPECT_FALSE(walkBytes("PDF", bytes).checked);
+    }
+    EXPECT_TRUE(walkBytes("PDF", Build().text(document()).fill(3000)).checked);
     const Extent joined = walkBytes("PDF", Build().text(document() + document()));
     EXPECT_EQ(joined.end, document().size());
     EXPECT_FALSE(joined.checked);
@@ -314,6 +344,36 @@ TEST(Frames, LargerThanASector_AreNotCheckedByTheirHeads) {
     EXPECT_FALSE(walkBytes("MP3", counted).checked);
 }
 
+// Frames that tell no bit rate, of 300 bytes beside the padding that every third has.
+Bytes freeFrames(int count, int told) {
+    Build out;
+    for (int i = 0; i < count; ++i) {
+        const bool padded = i % 3 == 1;
+        Build frame;
+        frame.be32(padded ? 0xFFFB0264 : 0xFFFB0064).fill(padded ? 297 : 296, 3);
+        if (i == 0)
+            frame.put(36, Build().text("Info").be32(1).be32(static_cast<unsigned>(told)));
+        out.add(frame);
+    }
+    return out;
+}
+
+TEST(Frames, OfTheFreeFormat_AreAsLongAsTheFirst) {
+    const Bytes all = freeFrames(12, 11);
+    for (const Bytes& tail : {noise(3000, 4), Bytes(3000, 0)}) {
+        const Extent extent = walkBytes("MP3", Build().add(all).add(tail));
+        EXPECT_EQ(extent.verdict, Verdict::Complete);
+        EXPECT_EQ(extent.end, all.size());
+        EXPECT_TRUE(extent.checked);
+    }
+    EXPECT_FALSE(walkBytes("MP3", freeFrames(12, 12)).checked);
+    // A reserved layer or rate makes none.
+    EXPECT_EQ(walkBytes("MP3", Build().be32(0xFFF90064).fill(400, 3).be32(0xFFF90064).fill(9000, 3)).verdict,
+              Verdict::Unknown);
+    EXPECT_EQ(walkBytes("MP3", Build().be32(0xFFFB0C64).fill(400, 3).be32(0xFFFB0C64).fill(9000, 3)).verdict,
+              Verdict::Unknown);
+}
+
 TEST(Frames, WhoseTagIsTorn_AreNotAll) {
     const Extent extent = walkBytes("MP3", Build().add(soundFrames(11, 10)).text("TAG").fill(60));
     EXPECT_FALSE(extent.checked);
@@ -339,6 +399,7 @@ TEST(LeftBehind, RichText_ClosesAsItsWriterDoes) {
     const Bytes zeros(3000, 0);
     const Bytes system = text("Riched20 6.2.9200"), other = text("Any Other");
     EXPECT_EQ(walkBytes("RTF", Build().add(system).add(zeros)).end, system.size() + 1);
+    EXPECT_EQ(walkBytes("RTF", Build().add(system).text("\0\r\n"_b).fill(3000, 9)).end, system.size() + 3);
     EXPECT_EQ(walkBytes("RTF", Build().add(other).add(zeros)).end, other.size());
     EXPECT_EQ(walkBytes("RTF", Build().add(other).text("\r\n").add(noise(3000, 8))).end, other.size() + 2);
 }

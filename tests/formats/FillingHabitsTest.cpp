@@ -31,12 +31,32 @@ TEST(RiffHabits, PaddingBeyondTheToldEnd_IsNotTheFiles) {
 }
 
 TEST(RiffHabits, ZerosBehindTheLastChunk_BelongToTheFile) {
-    const Bytes file = Build().add(sound(50, 36 + 50 + 24)).fill(24);
+    const Bytes file = Build().add(sound(50, 36 + 50 + 84)).fill(84);
     for (const Bytes& tail : {Bytes(), Bytes(3000, 0), noise(3000, 3)})
         expectEnd("WAV", Build().add(file).add(tail), file.size());
     Bytes spoilt = file;
     spoilt.back() = 1;
     EXPECT_EQ(walkBytes("WAV", spoilt).verdict, Verdict::Damaged);
+}
+
+TEST(RiffHabits, ASoundThatTellsALittleTooMuch_EndsBehindItsSamples) {
+    const std::size_t head = 8, most = 64;
+    for (const std::size_t surplus : {head, head + 22, most}) {
+        const Bytes file = sound(50, 36 + 50 + surplus);
+        const Bytes joined = Build().add(file).fill(3000, 3);
+        expectEnd("WAV", joined, file.size());
+        EXPECT_FALSE(walkBytes("WAV", joined).exactEnd);
+    }
+    // Its own head, counted as well; more than that may be zeros of its own.
+    const Bytes counted = sound(50, 36 + 50 + head), filled = sound(50, 36 + 50 + head + 2);
+    expectEnd("WAV", Build().add(counted).fill(3000), counted.size());
+    expectEnd("WAV", Build().add(filled).fill(3000), filled.size() + head + 2);
+    EXPECT_EQ(walkBytes("WAV", Build().add(sound(50, 36 + 50 + most + 2)).fill(3000, 3)).verdict,
+              Verdict::Damaged);
+    // Without samples so far, what is missing may be all of them.
+    const Bytes silent =
+        Build().text("RIFF").le32(4 + 24 + 30).text("WAVE").add(riffChunk("fmt ", Bytes(16, 1)));
+    EXPECT_EQ(walkBytes("WAV", Build().add(silent).fill(3000, 3)).verdict, Verdict::Damaged);
 }
 
 TEST(RiffHabits, ListsOfSamplesAreContent) {
@@ -62,6 +82,28 @@ TEST(ZipHabits, UntoldSizeOfTheTypesName_IsPassed) {
     const std::size_t end = file.size() + rest.size();
     expectEnd("KRA", Build().add(file).add(rest).add(noise(3000, 4)), end);
     EXPECT_FALSE(walkBytes("KRA", Build().add(file).add(rest)).checked);
+}
+
+// A program stream of packs that begin every so many bytes; the last is short of that by 20.
+Bytes programStream(std::size_t sector) {
+    Build out;
+    for (unsigned pack = 0; pack < 4; ++pack) {
+        const std::size_t left = sector - 12 - 6 - (pack == 3 ? 20 : 0);
+        out.be32(0x1BA).u8(0x21).be32(0x10001 + 2 * pack).be24(0x800001);
+        out.be32(0x1E0).be16(left).fill(left, 0x55);
+    }
+    return out;
+}
+
+TEST(ProgramStreams, OfAVideoDisc_FillTheirLastSector) {
+    constexpr std::size_t kVideoDisc = 2324;
+    for (const std::size_t sector : {kVideoDisc, kVideoDisc - 20}) {
+        const Bytes stream = programStream(sector);
+        const std::size_t filling = sector == kVideoDisc ? 20 : 0;
+        expectEnd("MPG", Build().add(stream).fill(20).add(noise(3000, 5)), stream.size() + filling);
+        expectEnd("MPG", Build().add(stream).fill(3000), stream.size() + filling);
+        expectEnd("MPG", Build().add(stream).fill(19).fill(3000, 7), stream.size());
+    }
 }
 
 // A metafile of three records, the last of which ends it, and whose header tells `words`.

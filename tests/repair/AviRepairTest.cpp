@@ -13,6 +13,7 @@ namespace vantor {
 namespace {
 
 using test::asSpan;
+using test::aviChunk;
 using test::makeAvi;
 
 std::optional<RepairedMovie> repairedAvi(const QByteArray& movie) {
@@ -110,6 +111,52 @@ TEST(AviRepair, PicturesOfMpeg4_TellWhereReadingCanBegin) {
     for (qsizetype i = 0; i < 4; ++i) {
         EXPECT_EQ(repaired->index.at(8 + 16 * i + 4) == 0x10, begins[static_cast<std::size_t>(i)] != 0) << i;
     }
+}
+
+// Beyond its first gigabyte a movie goes on in parts of their own, which the first index knows nothing of.
+TEST(AviRepair, CutOffInALaterPart_HasThePicturesOfAll) {
+    QByteArray more = "movi";
+    for (const auto& [name, body] : jpegChunks(5)) {
+        more += aviChunk(name, body);
+    }
+    const QByteArray first = makeAvi(jpegChunks(6), 11);
+    const QByteArray second = aviChunk("RIFF", "AVIX" + aviChunk("LIST", more));
+    for (const bool counted : {true, false}) {
+        QByteArray broken = first + second;
+        broken.truncate(broken.lastIndexOf("00dc") + 300);
+        if (!counted) {
+            broken.replace(first.size() + 4, 4, QByteArray(4, '\0'));
+            broken.replace(first.size() + 16, 4, QByteArray(4, '\0'));
+        }
+        const auto repaired = repairedAvi(broken);
+        ASSERT_TRUE(repaired) << counted;
+        EXPECT_EQ(repaired->pictures, 10U) << counted;
+        const QByteArray twin = aviTwinOf(broken, *repaired);
+        ASSERT_EQ(repaired->index.size(), 8 + 20 * 16);
+        const auto from = twin.indexOf("movi");
+        for (qsizetype entry = 8; entry < repaired->index.size(); entry += 16) {
+            const QByteArray name = repaired->index.mid(entry, 4);
+            const auto at = qFromLittleEndian<quint32>(repaired->index.constData() + entry + 8);
+            EXPECT_EQ(twin.mid(from + at, 4), name) << entry;
+        }
+    }
+    EXPECT_FALSE(repairedAvi(first)) << "whole as far as it knows";
+}
+
+// The end of the first part's list is none of a chunk behind it.
+TEST(AviRepair, ChunkCutOffInALaterPart_IsNotTaken) {
+    const QByteArray picture = QByteArray("\0\0\1\xB6\x10", 5) + QByteArray(495, '\x20');
+    const QByteArray first = makeAvi({{"00dc", picture}, {"00dc", picture}}, 5);
+    const QByteArray more = aviChunk("00dc", picture) + aviChunk("00dc", picture) + aviChunk("00dc", picture);
+    const QByteArray second = aviChunk("RIFF", "AVIX" + aviChunk("LIST", "movi" + more));
+    // The last picture's bytes are another file's.
+    const QByteArray broken = (first + second).chopped(250) + QByteArray(4096, '\x77');
+    const auto repaired = repairedAvi(broken.first((first + second).size() + 300));
+    ASSERT_TRUE(repaired);
+    EXPECT_EQ(repaired->pictures, 5U) << "up to where its list ends";
+    const auto cut = repairedAvi((first + second).chopped(508 + 400) + QByteArray(4096, '\x77'));
+    ASSERT_TRUE(cut);
+    EXPECT_EQ(cut->pictures, 3U);
 }
 
 TEST(AviRepair, WholeMoviesAndOtherFiles_AreLeft) {

@@ -1,8 +1,6 @@
 // Movies whose index was never written.
 #include <gtest/gtest.h>
 
-#include <QtEndian>
-
 #include "repair/MovieRepair.h"
 #include "tests/repair/Movies.h"
 
@@ -22,12 +20,13 @@ ReferenceMovie referenceOf(const MadeMovie& movie) {
     return reference.value_or(ReferenceMovie());
 }
 
-std::optional<RepairedMovie> repaired(const QByteArray& broken, const ReferenceMovie& reference) {
+std::optional<RepairedMovie> repaired(const QByteArray& broken, const ReferenceMovie& reference,
+                                      const PartPlays& plays = {}) {
     SpanSource source(asSpan(broken));
     const auto data = dataWithoutIndex(source);
     EXPECT_TRUE(data);
     SoundSplitter noHelper(MovieReaderOptions{QStringLiteral("/nowhere")});
-    return data ? repairMovie(source, *data, reference, noHelper) : std::nullopt;
+    return data ? repairMovie(source, *data, reference, noHelper, {}, plays) : std::nullopt;
 }
 
 QByteArray twinOf(const QByteArray& broken, const RepairedMovie& movie) {
@@ -110,13 +109,52 @@ TEST(MovieRepair, WithoutIndex_EveryPictureAndAllSoundComeBack) {
 TEST(MovieRepair, RecordingStoppedInAPicture_EndsBeforeIt) {
     const ReferenceMovie reference = referenceOf(makeMovie(plainPictures(30), true, 1));
     const MadeMovie whole = makeMovie(plainPictures(40), true, 2);
-    // Zeros, as they stand where space was set aside.
     const auto cut = static_cast<qsizetype>(whole.pictures[25].at + whole.pictures[25].bytes / 2);
-    const QByteArray broken = whole.bytes.first(cut) + QByteArray(100'000, '\0');
-    const auto movie = repaired(broken, reference);
+    // As it stands where space was set aside, and where flash memory was erased.
+    for (const char rest : {'\0', '\xFF'}) {
+        const QByteArray broken = whole.bytes.first(cut) + QByteArray(100'000, rest);
+        const auto movie = repaired(broken, reference);
+        ASSERT_TRUE(movie);
+        EXPECT_EQ(movie->pictures, 25U);
+        EXPECT_EQ(movie->data.to, whole.pictures[25].at) << "nothing of the picture that was cut off";
+    }
+}
+
+// An earlier movie of the same camera may stand where the one was cut off.
+TEST(MovieRepair, PicturesBehindUnknownBytes_AreItsOwnOnlyIfTheyPlay) {
+    const MadeMovie other = makeMovie(plainPictures(20), true, 1);
+    const ReferenceMovie reference = referenceOf(other);
+    const MadeMovie whole = makeMovie(plainPictures(40), true, 2);
+    const auto end = static_cast<qsizetype>(whole.sound[19].at + whole.sound[19].bytes);
+    const QByteArray broken = whole.bytes.first(end) + QByteArray(9000, '\x55') +
+                              other.bytes.mid(static_cast<qsizetype>(other.pictures[0].at), 20'000);
+    const auto taken = repaired(broken, reference, [](const RepairedMovie&) { return true; });
+    ASSERT_TRUE(taken);
+    EXPECT_GT(taken->pictures, 20U);
+    const auto playsToTheCut = [&](const RepairedMovie& part) {
+        EXPECT_EQ(tracksOf(twinOf(broken, part)).pictures.size(), part.pictures);
+        return part.data.to <= static_cast<std::uint64_t>(end);
+    };
+    const auto movie = repaired(broken, reference, playsToTheCut);
     ASSERT_TRUE(movie);
-    EXPECT_EQ(movie->pictures, 25U);
-    EXPECT_EQ(movie->data.to, whole.pictures[25].at) << "nothing of the picture that was cut off";
+    EXPECT_EQ(movie->pictures, 20U);
+    EXPECT_NEAR(movie->soundSeconds, 20 / 30.0, 0.001);
+}
+
+TEST(MovieRepair, LastPictureThatDoesNotDecode_IsLeftOut_UnlessNoneDoes) {
+    const MadeMovie whole = makeMovie(plainPictures(40), true, 2);
+    const QByteArray broken = whole.withoutIndex();
+    int asked = 0;
+    const auto movie = repaired(broken, referenceOf(whole), [&](const RepairedMovie& part) {
+        ++asked;
+        return part.data.to <= whole.pictures[39].at;
+    });
+    ASSERT_TRUE(movie);
+    EXPECT_EQ(movie->pictures, 39U);
+    EXPECT_EQ(asked, 2);
+    const auto all = repaired(broken, referenceOf(whole), [](const RepairedMovie&) { return false; });
+    ASSERT_TRUE(all);
+    EXPECT_EQ(all->pictures, 40U);
 }
 
 TEST(MovieRepair, AnotherMovieBehind_IsNotTakenAlong) {
@@ -220,18 +258,8 @@ TEST(DataWithoutIndex, OnlyOfMoviesThatHaveNone) {
 
 TEST(DataBehindIndex, OfAMovieThatWasCutOff_IsRepairedByItsOwn) {
     const MadeMovie movie = makeMovie(plainPictures(40), true, 1);
-    // The same with the index in front: it tells of places that much further.
-    const auto shift = static_cast<std::uint32_t>(movie.bytes.size() - movie.indexAt);
-    const QByteArray type = movie.bytes.left(24);
-    QByteArray index = movie.bytes.mid(movie.indexAt);
-    for (qsizetype at = index.indexOf("stco"); at >= 0; at = index.indexOf("stco", at + 1)) {
-        const auto count = qFromBigEndian<quint32>(index.constData() + at + 8);
-        for (quint32 i = 0; i < count; ++i) {
-            char* const place = index.data() + at + 12 + 4 * i;
-            qToBigEndian(qFromBigEndian<quint32>(place) + shift, place);
-        }
-    }
-    const QByteArray whole = type + index + movie.bytes.mid(24, movie.indexAt - 24);
+    const auto shift = static_cast<std::uint64_t>(movie.bytes.size() - movie.indexAt);
+    const QByteArray whole = test::withIndexInFront(movie);
     const auto& last = movie.pictures[30];
     const QByteArray broken = whole.left(static_cast<qsizetype>(last.at + shift) + 20);
     SpanSource source(asSpan(broken));

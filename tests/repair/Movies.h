@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QtEndian>
 #include <cstdint>
 #include <random>
 #include <vector>
@@ -175,6 +176,21 @@ inline MadeMovie makeMovie(const std::vector<PictureSpec>& specs, bool withSound
     movie.indexAt = movie.bytes.size();
     movie.bytes += writeIndex({video, sound});
     return movie;
+}
+
+// The same with the index in front: it tells of places that much further.
+inline QByteArray withIndexInFront(const MadeMovie& movie) {
+    constexpr qsizetype kTypeBytes = 24;
+    const auto shift = static_cast<quint32>(movie.bytes.size() - movie.indexAt);
+    QByteArray index = movie.bytes.mid(movie.indexAt);
+    for (qsizetype at = index.indexOf("stco"); at >= 0; at = index.indexOf("stco", at + 1)) {
+        const auto count = qFromBigEndian<quint32>(index.constData() + at + 8);
+        for (quint32 i = 0; i < count; ++i) {
+            char* const place = index.data() + at + 12 + 4 * i;
+            qToBigEndian(qFromBigEndian<quint32>(place) + shift, place);
+        }
+    }
+    return movie.bytes.left(kTypeBytes) + index + movie.bytes.mid(kTypeBytes, movie.indexAt - kTypeBytes);
 }
 
 // `count` pictures: every tenth begins anew, the others refer to the one before.

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "repair/ClusterKinds.h"
+#include "repair/PhotoPieces.h"
 #include "tests/repair/Photos.h"
 #include "tests/repair/ScatteredCard.h"
 
@@ -89,6 +90,29 @@ TEST(PhotoPieces, ContinuationGone_NoOtherIsTaken) {
 TEST(PhotoPieces, WholePhoto_IsNotPutTogether) {
     test::ScatteredCard card;
     EXPECT_FALSE(card.completed(card.put(makePhoto(1))));
+}
+
+// What a search may cost is shared by all that look for the same photo.
+TEST(PhotoPieces, WhatIsTried_IsCounted_AndEndsTheSearch) {
+    const QByteArray photo = makePhoto(1);
+    test::ScatteredCard card;
+    const std::uint64_t first = card.put(photo, 0, clustersOf(photo) / 2);
+    card.putNoise(9);
+    card.put(photo, clustersOf(photo) / 2);
+    const QByteArray bytes = card.bytes();
+    MemoryReader reader(bytes);
+    MediumBlocks blocks(reader);
+    const FreeClusters grid({0, kClusterSectors}, reader.mediumSectors());
+    ClusterKinds kinds(blocks, grid);
+    const std::atomic<int> goOn{0};
+    std::uint64_t units = PhotoPieces::kMostUnits;
+    EXPECT_TRUE(PhotoPieces(blocks, grid, kinds, goOn).assemble(first / kClusterSectors, units));
+    const std::uint64_t used = PhotoPieces::kMostUnits - units;
+    EXPECT_GT(used, 0U);
+    EXPECT_LT(used, PhotoPieces::kMostUnits / 8);
+    std::uint64_t tooFew = 10;
+    EXPECT_FALSE(PhotoPieces(blocks, grid, kinds, goOn).assemble(first / kClusterSectors, tooFew));
+    EXPECT_EQ(tooFew, 0U);
 }
 
 TEST(PhotoCompletion, EachPhoto_IsCountedOnce) {

@@ -124,6 +124,26 @@ TEST(ItemBytes, ChainThatIsWrittenOverIsNotBelieved) {
     EXPECT_FALSE(look.truth.assembly);
 }
 
+// Nothing but the length in its head marks a sound's end, so that it is complete wherever it is carved.
+TEST(ItemBytes, FileThatIsThereIsPassedByWhatWasWrittenRoundIt) {
+    const QByteArray wav = wavFile(20'000);
+    ScriptedMedium medium = mediumInPieces(wav, {{80, 96}, {104, 128}});
+    CardTable table =
+        tableOf(cardFile("SONG.WAV", 20'000, {{80, 120}}, FileState::Deleted, RunsKnownBy::Guess),
+                {{96, 104}, {128, 300}});
+    const Look look = lookAt(medium, "WAV", table, {80, 97});
+    ASSERT_TRUE(look.truth.assembly);
+    EXPECT_EQ(look.truth.assembly->proof, AssemblyProof::Likely);
+    EXPECT_EQ(look.bytes, wav);
+    ASSERT_NE(look.truth.file, nullptr);
+    EXPECT_EQ(look.truth.file->name, "SONG.WAV");
+    // Where the next free clusters may be another's, nobody knows the rest.
+    table.files.push_back(cardFile("NEXT.WAV", 3'000, {{104, 110}}, FileState::Deleted, RunsKnownBy::Guess));
+    const Look other = lookAt(medium, "WAV", table, {80, 97});
+    EXPECT_FALSE(other.truth.assembly);
+    EXPECT_EQ(verdictOf(other.truth), Verdict::Damaged);
+}
+
 TEST(ItemBytes, FileThatIsThereIsReadAsTheFileSystemHoldsIt) {
     const std::vector<SectorRun> runs{{80, 96}, {400, 416}};
     const QByteArray bytes = wavFile(10'000) + noise(3'000, 5);

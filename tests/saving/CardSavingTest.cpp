@@ -139,6 +139,21 @@ TEST_F(CardSaving, FolderOfTheCardThatIsALinkIsNotFollowed) {
     EXPECT_TRUE(filesUnder(elsewhere.path()).isEmpty());
 }
 
+// Behind a stream lies another, so that the first seems to go on: only the directory tells them apart.
+TEST_F(CardSaving, StreamBehindAnotherIsAsLongAsTheDirectorySays) {
+    const QByteArray frames =
+        (QByteArray("\x0B\x77\0\0\0\x40\x40\0", 8) + QByteArray(120, 'x')).repeated(4000);
+    m_medium = mediumWith(frames, 10, 1200);
+    const auto card = indexOf(
+        {cardFile("A", "A.AC3", 104 * 512, {10, 114}), cardFile("A", "B.AC3", 800 * 512, {114, 914})});
+    const ItemSaver saver(m_folder.path());
+    EXPECT_EQ(saver.save(item("AC3", "a.AC3", {10, 12}, card)).path, path("A/A.AC3"));
+    const SaveOutcome second = saver.save(item("AC3", "b.AC3", {114, 116}, card));
+    EXPECT_EQ(second.path, path("A/B.AC3"));
+    EXPECT_EQ(second.bytes, 800U * 512);
+    EXPECT_EQ(second.verdict, Verdict::Complete);
+}
+
 TEST_F(CardSaving, OnlyWhatIsLostLeavesOutWhatIsStillThere) {
     SavePolicy policy;
     policy.lostOnly = true;

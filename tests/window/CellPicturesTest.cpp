@@ -48,6 +48,7 @@ class CellPicturesTest : public testing::Test {
         order.file.type = QStringLiteral("xyz");
         order.file.carved.runs = {{index, index + 1}};
         order.file.start = index;
+        order.file.hints.mend = mends[index];
         order.file.previewFile = folder.filePath(QStringLiteral("dprv.xyz"));
         order.file.folder = folder.path();
         order.openMedium = [this]() -> std::unique_ptr<SectorReader> {
@@ -74,11 +75,35 @@ class CellPicturesTest : public testing::Test {
     std::vector<int> looked;
     std::vector<QSize> bounds;
     std::set<std::size_t> notNeeded;
+    std::map<std::size_t, std::shared_ptr<const Mend>> mends;
     std::atomic<int> opened{0};
     std::atomic<bool> refused{false};
     CellPictures pictures{[this](const QString& path, QSize bound) { return look(path, bound); },
                           [this](std::size_t index) { return orderOf(index); }};
 };
+
+TEST_F(CellPicturesTest, OfWhatSomethingWasMadeOf_ThePictureIsMadeAgain_AndOfThatAlone) {
+    pictures.want({8, 2}, kSide, false);
+    ASSERT_TRUE(waitFor([&] { return isMade(8) && isMade(2); }));
+    mends[2] = std::make_shared<const Mend>();
+    pictures.mendsChanged();
+    EXPECT_FALSE(isMade(2));
+    EXPECT_TRUE(isMade(8));
+    ASSERT_TRUE(waitFor([&] { return isMade(2); }));
+    pictures.mendsChanged();
+    EXPECT_TRUE(isMade(2)) << "it shows what there is";
+}
+
+TEST_F(CellPicturesTest, WhatIsMadeWhileItIsLookedAt_IsLookedAtAgain) {
+    medium.beforeRead = gate.atRead(0);
+    pictures.want({4}, kSide, false);
+    ASSERT_TRUE(waitFor([&] { return gate.someoneWaits(); }));
+    mends[4] = std::make_shared<const Mend>();
+    pictures.mendsChanged();
+    gate.open();
+    ASSERT_TRUE(waitFor([&] { return isMade(4); }));
+    EXPECT_EQ(looked, (std::vector<int>{4, 4}));
+}
 
 TEST_F(CellPicturesTest, WhatIsInView_GetsItsPicturesInThatOrder_ThroughOneReader) {
     notNeeded = {6};

@@ -1,6 +1,7 @@
 // Broken photos completed in the window: the button, the bar, what is shown of it, saved of it, and what ends
 // it.
 #include <QComboBox>
+#include <QFileInfo>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -100,6 +101,22 @@ TEST_F(Mending, CompletesBrokenPhotos_AndTheItemsStayAsTheyAre) {
     EXPECT_EQ(facts.soundness->pieces, 2U);
     EXPECT_EQ(controller->factsOfItem(2).mend, nullptr);
     EXPECT_TRUE(waitFor([this] { return !button()->isVisible(); })) << "nothing is left to complete";
+}
+
+TEST_F(Mending, TheCellShowsThePhotoAsItWasPutTogether) {
+    parts.look = [](const QString& file, QSize) {
+        QImage picture(4, 4, QImage::Format_RGB32);
+        picture.fill(Qt::magenta);
+        return FileLook{picture, QFileInfo(file).size()};
+    };
+    openCrossed();
+    const auto bytesShown = [this](qsizetype index) {
+        const CellPicture* const picture = controller->pictureOfItem(index);
+        return picture != nullptr ? picture->durationMs : 0;
+    };
+    EXPECT_NE(bytesShown(0), m_one.size());
+    mendAll();
+    EXPECT_TRUE(waitFor([&] { return bytesShown(0) == m_one.size() && bytesShown(1) == m_other.size(); }));
 }
 
 TEST_F(Mending, ShowThem_LeavesOnlyWhatWasPutTogether_AndCloseEndsTheMessage) {

@@ -87,6 +87,21 @@ void CellPictures::begin() {
     goOn();
 }
 
+// Whether that is still what there is of the item.
+bool CellPictures::shows(std::size_t index, const std::shared_ptr<const Mend>& mend) const {
+    const auto order = m_orderOf(index);
+    return !order || order->file.hints.mend == mend;
+}
+
+void CellPictures::mendsChanged() {
+    for (const std::size_t index : m_made.keys()) {
+        if (!shows(index, m_made.object(index)->mend)) {
+            m_made.remove(index);
+        }
+    }
+    goOn();
+}
+
 void CellPictures::want(std::vector<std::size_t> inView, int side, bool mediumBusy) {
     m_wanted = std::move(inView);
     m_side = side;
@@ -154,8 +169,9 @@ void CellPictures::take(const Work& work, Outcome outcome, const CellPicture& pi
     m_whole.reset();
     if (work.ticket == m_ticket) {
         m_mediumIsGone = outcome == Outcome::MediumIsGone;
-        if (outcome == Outcome::Looked) {
-            m_made.insert(work.index, new CellPicture(picture), picture.encoded.size() + kOverhead);
+        if (outcome == Outcome::Looked && shows(work.index, work.order.file.hints.mend)) {
+            m_made.insert(work.index, new Made{picture, work.order.file.hints.mend},
+                          picture.encoded.size() + kOverhead);
             emit changed();
         }
     }

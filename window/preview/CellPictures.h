@@ -41,6 +41,8 @@ class CellPictures : public QObject {
 
     // The list begins anew.
     void begin();
+    // Something was made of items: forgets the pictures that show them as they were before.
+    void mendsChanged();
     // The items in view, in place of those of the last call; `side`: pixels of a picture's longer side.
     void want(std::vector<std::size_t> inView, int side, bool mediumBusy);
     // While somebody waits for the medium: the look under way is given up.
@@ -49,7 +51,10 @@ class CellPictures : public QObject {
     void tryAgain() { m_mediumIsGone = false; }
 
     // Null: not known yet.
-    const CellPicture* find(std::size_t index) const { return m_made.object(index); }
+    const CellPicture* find(std::size_t index) const {
+        const Made* const made = m_made.object(index);
+        return made != nullptr ? &made->picture : nullptr;
+    }
 
     // Ends the thread; hasEnded() is false as long as a medium that hangs holds it.
     void requestEnd();
@@ -66,10 +71,15 @@ class CellPictures : public QObject {
         std::shared_ptr<WholePreview> whole;
         std::uint64_t ticket = 0;
     };
+    struct Made {
+        CellPicture picture;
+        std::shared_ptr<const Mend> mend;  // that it shows; null: the item as it was found
+    };
     enum class Outcome { Looked, GivenUp, MediumIsGone };
     class KeptMedium;
 
     void goOn();
+    bool shows(std::size_t index, const std::shared_ptr<const Mend>& mend) const;
     void giveUp();
     void give(Work work);
     void take(const Work& work, Outcome outcome, const CellPicture& picture,
@@ -81,7 +91,7 @@ class CellPictures : public QObject {
     const OrderOf m_orderOf;
 
     // Interface thread.
-    QCache<std::size_t, CellPicture> m_made;
+    QCache<std::size_t, Made> m_made;
     std::vector<std::size_t> m_wanted;
     int m_side = 0;
     bool m_mediumBusy = false;
