@@ -158,4 +158,7 @@ class CliSession : private CliView, public ScanSession {
     CompletionProgress m_completing;
 };
 
+// Why the movie cannot be the guide for others, in a sentence; empty when it can.
+QString refuseReference(const QString& path);
+
 }  // namespace vantor

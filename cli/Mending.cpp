@@ -1,9 +1,10 @@
 // What is broken among what was saved: completed and repaired behind the search, beside the items.
 #include <QFile>
-#include <QFileInfo>
 #include <QObject>
 
 #include "cli/CliSession.h"
+#include "media/PlainFile.h"
+#include "repair/ReferenceMovie.h"
 #include "results/SizeForPeople.h"
 #include "saving/TwinFile.h"
 
@@ -148,17 +149,25 @@ void CliSession::repairItems(ItemMending& mending, const std::vector<MendableIte
 bool CliSession::useReference(ItemMending& mending) {
     const QString& path = m_options.reference;
     QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
+    FileSource source(file);
+    // It was of use before the search.
+    if (!openPlainFile(file) || !mending.useReference(source, path)) {
         m_mendingLines.append(QObject::tr("The movie %1 cannot be read.").arg(path));
         return false;
     }
-    FileSource source(file);
-    if (!mending.useReference(source, path)) {
-        m_mendingLines.append(
-            QObject::tr("%1 is no whole MP4 or QuickTime movie of a kind that can be repaired.").arg(path));
-        return false;
-    }
     return true;
+}
+
+QString refuseReference(const QString& path) {
+    QFile file(path);
+    FileSource source(file);
+    if (!openPlainFile(file)) {
+        return QObject::tr("The movie %1 cannot be read.").arg(path);
+    }
+    return readReference(source)
+               ? QString()
+               : QObject::tr("%1 is no whole MP4 or QuickTime movie of a kind that can be repaired.")
+                     .arg(path);
 }
 
 }  // namespace vantor

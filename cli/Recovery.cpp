@@ -200,22 +200,18 @@ MediumOpener openerAfterALook(const CliMedium& medium, const MediumOpener& open)
     };
 }
 
-// A pipe would be waited for, and a device has no end.
-bool canBeRead(const QString& path) {
-    const QFileInfo file(path);
-    return file.isFile() && file.isReadable();
-}
-
 // Says why no search can be kept in the file.
 bool sessionFileRefused(const CliOptions& options, const QString& mediumPath) {
     const QString& path = options.sessionFile;
-    const QFileInfo folder(QFileInfo(path).absolutePath());
+    const QFileInfo file(path);
+    // Where a link leads to is written into.
+    const QFileInfo folder(file.exists() ? QFileInfo(file.canonicalFilePath()).path() : file.absolutePath());
     QString why;
     if (destinationIsOnMedium(folder.filePath(), mediumPath)) {
         complain(QObject::tr("%1 lies on the medium that is to be searched.").arg(path));
     } else if (!folder.isDir() || !folder.isWritable()) {
         complain(QObject::tr("The folder %1 cannot be written to.").arg(folder.filePath()));
-    } else if (!options.resume && QFileInfo::exists(path) && !readSearchRecord(path, &why)) {
+    } else if (!options.resume && (file.exists() || file.isSymLink()) && !readSearchRecord(path, &why)) {
         // Whatever else lies there stays, above all a medium's image.
         complain(QStringLiteral("%1: %2").arg(path, why));
     } else {
@@ -282,9 +278,12 @@ int recover(CliOptions options) {
         return kExitDestinationTrouble;
     }
     session.setDestination(options.saveFolder);
-    if (!options.reference.isEmpty() && !canBeRead(options.reference)) {
-        complain(QObject::tr("The movie %1 cannot be read.").arg(options.reference));
-        return kExitBadUsage;
+    if (!options.reference.isEmpty()) {
+        const QString refusal = refuseReference(options.reference);
+        if (!refusal.isEmpty()) {
+            complain(refusal);
+            return kExitBadUsage;
+        }
     }
     if (!options.sessionFile.isEmpty() && sessionFileRefused(options, medium.path)) {
         return kExitDestinationTrouble;
@@ -325,12 +324,14 @@ int recover(CliOptions options) {
             }
         });
     }
-    if (keeper && !keeper->error().isEmpty()) {
+    const bool isKept = !keeper || keeper->error().isEmpty();
+    if (!isKept) {
         complain(
             QObject::tr("The search could not be kept in %1: %2").arg(options.sessionFile, keeper->error()));
     }
     const int code = tell(session, options, medium, head);
-    return !copy || tellCopy(*copy, options) || code != kExitCompleted ? code : kExitDestinationTrouble;
+    const bool copied = !copy || tellCopy(*copy, options);
+    return (isKept && copied) || code != kExitCompleted ? code : kExitDestinationTrouble;
 }
 
 }  // namespace vantor

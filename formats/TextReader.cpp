@@ -56,10 +56,11 @@ std::uint64_t textEnd(ByteView& view, std::uint64_t from) {
 
 std::optional<std::uint64_t> numberBehind(ByteView& view, std::uint64_t at, std::string_view name) {
     constexpr std::uint64_t kMost = 1ULL << 40;
+    constexpr int kMostBlanks = 80;
     if (!view.matches(at, name))
         return std::nullopt;
     at += name.size();
-    while (view.u8(at) == ' ' || view.u8(at) == '-')
+    for (int blanks = 0; blanks < kMostBlanks && (view.u8(at) == ' ' || view.u8(at) == '-'); ++blanks)
         ++at;
     std::uint64_t value = 0;
     for (auto digit = view.u8(at); digit && *digit >= '0' && *digit <= '9' && value < kMost;

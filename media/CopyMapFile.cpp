@@ -5,8 +5,10 @@
 #include <QFileInfo>
 #include <QObject>
 #include <QSaveFile>
+#include <algorithm>
 
 #include "media/CopyMapText.h"
+#include "media/PlainFile.h"
 
 namespace vantor {
 
@@ -18,10 +20,11 @@ constexpr qint64 kClaimBytes = 32;
 
 bool isMap(const QString& path) {
     QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
+    if (!openPlainFile(file)) {
         return false;
     }
-    return !path.endsWith(QStringLiteral(".log")) || claimsToBeCopyMap(file.read(kClaimBytes));
+    return !path.endsWith(QStringLiteral(".log")) ||
+           claimsToBeCopyMap(file.read(std::min(file.size(), kClaimBytes)));
 }
 
 }  // namespace
@@ -52,18 +55,15 @@ std::optional<CopyMap> loadCopyMap(const QString& path, QString* why) {
         return std::nullopt;
     };
     QFile file(path);
-    if (!QFileInfo(path).isFile()) {
-        return refuse(QFileInfo::exists(path) ? QObject::tr("it is no file")
-                                              : QObject::tr("it is not there"));
-    }
-    if (!file.open(QIODevice::ReadOnly)) {
-        return refuse(file.errorString());
+    QString wrong;
+    if (!openPlainFile(file, &wrong)) {
+        return refuse(
+            QFileInfo(path).isSymLink() || QFileInfo::exists(path) ? wrong : QObject::tr("it is not there"));
     }
     if (file.size() > kMostBytes) {
         return refuse(QObject::tr("it is too large for a map"));
     }
-    QString wrong;
-    auto map = readCopyMap(file.read(kMostBytes), &wrong);
+    auto map = readCopyMap(file.read(file.size()), &wrong);
     return map ? map : refuse(wrong);
 }
 

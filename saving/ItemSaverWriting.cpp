@@ -49,10 +49,12 @@ std::optional<SavingFolder> ItemSaver::folderFor(const FoundItem& item, const Sa
         folder = destination.below(name.folder, &made);
     }
     if (!folder) {
-        const bool leadsAway = errno == ELOOP || errno == ENOTDIR || errno == EXDEV;
-        outcome.error = (leadsAway ? QObject::tr("The folder %1/%2 leads elsewhere")
-                                   : QObject::tr("The folder %1/%2 cannot be created"))
-                            .arg(m_destination, name.folder);
+        const bool leadsAway = errno == ELOOP || errno == EXDEV;
+        outcome.error = errno == ENOTDIR
+                            ? QObject::tr("%1 is not a folder.").arg(m_destination + u'/' + name.folder)
+                            : (leadsAway ? QObject::tr("The folder %1/%2 leads elsewhere")
+                                         : QObject::tr("The folder %1/%2 cannot be created"))
+                                  .arg(m_destination, name.folder);
         return std::nullopt;
     }
     if (m_state->folders.insert(name.folder).second) {

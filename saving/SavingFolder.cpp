@@ -16,6 +16,11 @@ namespace {
 
 constexpr mode_t kFolderMode = 0777;  // less the user's mask
 
+bool isLink(int folder, const QByteArray& name) {
+    struct stat info {};
+    return ::fstatat(folder, name.constData(), &info, AT_SYMLINK_NOFOLLOW) == 0 && S_ISLNK(info.st_mode);
+}
+
 }  // namespace
 
 SavingFolder::SavingFolder(FileDescriptor folder, QString path)
@@ -50,6 +55,9 @@ std::optional<SavingFolder> SavingFolder::below(const QString& relative, QString
         FileDescriptor next(
             ::openat(at.descriptor(), name.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
         if (!next) {
+            if (errno == ENOTDIR && isLink(at.descriptor(), name)) {
+                errno = ELOOP;
+            }
             return std::nullopt;
         }
         at = SavingFolder(std::move(next), at.m_path + u'/' + part);

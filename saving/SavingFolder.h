@@ -19,8 +19,8 @@ class SavingFolder {
     static std::optional<SavingFolder> open(const QString& path);
 
     // A folder below this one, such as "JPG/2026-05-17", made where it is absent. No part of the way may be a
-    // link (ELOOP or ENOTDIR) or lead to another file system (EXDEV): somebody may have planted it. `made`
-    // gets those that were absent, the outer ones first.
+    // link (ELOOP), something else than a folder (ENOTDIR) or lead to another file system (EXDEV): somebody
+    // may have planted it. `made` gets those that were absent, the outer ones first.
     std::optional<SavingFolder> below(const QString& relative, QStringList* made = nullptr) const;
     // Removes a folder below this one if there is nothing in it; no link is followed on the way to it. True
     // when it was removed.

@@ -3,6 +3,7 @@
 #include "scan/KeptThumbnails.h"
 
 #include <QCryptographicHash>
+#include <QFileInfo>
 #include <QtEndian>
 
 namespace vantor {
@@ -29,7 +30,13 @@ QByteArray sumOf(const QByteArray& headAndBytes) {
 
 KeptThumbnails::KeptThumbnails(const QString& path, const QByteArray& searchId)
     : m_head(kThumbnailsMagic + searchId.toHex() + '\n'), m_file(path) {
-    if (!m_file.exists() || !m_file.open(QIODevice::ReadWrite)) {
+    // A pipe would be waited for, and a link written through.
+    const QFileInfo there(path);
+    if (there.isSymLink() || !there.isFile()) {
+        m_file.remove();
+        return;
+    }
+    if (!m_file.open(QIODevice::ReadWrite)) {
         return;
     }
     if (m_file.size() <= kMostFileBytes && m_file.read(m_head.size()) == m_head) {

@@ -3,10 +3,11 @@
 
 #include <QCryptographicHash>
 #include <QFile>
-#include <QFileInfo>
 #include <QObject>
 #include <algorithm>
 #include <utility>
+
+#include "media/PlainFile.h"
 
 namespace vantor {
 
@@ -259,20 +260,13 @@ std::optional<SearchRecord> uncheckedRecordOf(QByteArrayView body) {
 
 std::optional<SearchRecord> readSearchRecord(const QString& path, QString* why) {
     QFile file(path);
-    // A pipe would be waited for, and a device has no end.
-    if (QFileInfo::exists(path) && !QFileInfo(path).isFile()) {
-        if (why != nullptr) {
-            *why = QObject::tr("it is no file");
-        }
+    if (!openPlainFile(file, why)) {
         return std::nullopt;
     }
-    if (!file.open(QIODevice::ReadOnly)) {
-        if (why != nullptr) {
-            *why = file.errorString();
-        }
-        return std::nullopt;
-    }
-    return recordOf(file.size() > kMostFileBytes ? QByteArray() : file.readAll(), why);
+    // What begins otherwise is not worth the memory.
+    const bool begins =
+        file.size() >= kMagic.size() && file.size() <= kMostFileBytes && file.peek(kMagic.size()) == kMagic;
+    return recordOf(begins ? file.read(file.size()) : QByteArray(), why);
 }
 
 }  // namespace vantor

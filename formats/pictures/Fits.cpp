@@ -1,4 +1,7 @@
 // FITS pictures and tables of astronomers. Source: FITS Standard 4.0 (IAU).
+#include <algorithm>
+#include <span>
+
 #include "formats/Format.h"
 #include "formats/TextReader.h"
 
@@ -11,10 +14,16 @@ constexpr std::uint64_t kFitsCard = 80;
 
 // What one header says of the data behind it.
 struct FitsHeader {
-    std::uint64_t end = 0;  // behind the header's last block
+    std::uint64_t end = 0;  // behind the header's last block, or behind its last card of one that is broken
+    bool broken = false;    // by something else than text
     std::uint64_t dataBytes = 0;
     Facts facts;
 };
+
+// Cards are of the printable characters alone.
+bool isFitsCard(std::span<const std::uint8_t> bytes) {
+    return std::all_of(bytes.begin(), bytes.end(), [](auto byte) { return byte >= 0x20 && byte < 0x7F; });
+}
 
 std::optional<FitsHeader> fitsHeader(ByteView& view, std::uint64_t start) {
     constexpr std::uint64_t kMostCards = 36 * 4096;
@@ -23,8 +32,14 @@ std::optional<FitsHeader> fitsHeader(ByteView& view, std::uint64_t start) {
     FitsHeader header;
     for (std::uint64_t card = 0; card < kMostCards; ++card) {
         const auto at = start + card * kFitsCard;
-        if (!view.holds(at, kFitsCard))
+        const auto bytes = view.window(at, kFitsCard);
+        if (bytes.size() < kFitsCard)
             return std::nullopt;
+        if (!isFitsCard(bytes.first(kFitsCard))) {
+            header.end = at;
+            header.broken = true;
+            return header;
+        }
         // The sign of the bits per value only tells whole numbers from others.
         if (const auto valueBits = numberBehind(view, at, "BITPIX  = "))
             bits = *valueBits;
@@ -66,6 +81,8 @@ Extent walkFits(ByteView& view) {
             return cutOffAt(view, view.size(), facts);
         if (facts.width == 0)
             facts = header->facts;
+        if (header->broken)
+            return damagedAt(view, header->end, facts);
         const auto blocks = addClamped(header->dataBytes, kFitsBlock - 1) / kFitsBlock;
         at = addClamped(header->end, mulClamped(blocks, kFitsBlock));
         if (at > view.size())

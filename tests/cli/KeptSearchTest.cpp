@@ -138,7 +138,7 @@ TEST_F(KeptSearch, WhatToSearchFor_StandsInTheFile) {
 
 TEST_F(KeptSearch, AFileThatCannotBeWritten_IsTold) {
     const CommandRun keeping = run({"--session", folder.filePath(QString(300, 'x')), image});
-    EXPECT_EQ(keeping.exitCode, 0);
+    EXPECT_EQ(keeping.exitCode, 6);
     EXPECT_TRUE(keeping.err.contains("could not be kept")) << keeping.err.toStdString();
     const CommandRun nowhere = run({"--session", folder.filePath("no/such/folder"), image});
     EXPECT_EQ(nowhere.exitCode, 6) << "what is asked for is known to fail";
@@ -154,6 +154,24 @@ TEST_F(KeptSearch, AFileThatIsAPipe_IsNotWaitedFor) {
         EXPECT_NE(refused.exitCode, 0);
         EXPECT_TRUE(refused.err.contains("it is no file")) << refused.err.toStdString();
     }
+}
+
+TEST_F(KeptSearch, ACircleOfLinks_StaysAsItIs) {
+    const QString one = folder.filePath("one"), other = folder.filePath("other");
+    ASSERT_TRUE(QFile::link(one, other));
+    ASSERT_TRUE(QFile::link(other, one));
+    EXPECT_EQ(run({"--session", one, image}).exitCode, 6);
+    EXPECT_EQ(run({"--resume", one}).exitCode, 2);
+    EXPECT_EQ(run({"--map", one, image}).exitCode, 5);
+    EXPECT_TRUE(QFileInfo(one).isSymLink());
+    EXPECT_TRUE(QFileInfo(other).isSymLink());
+}
+
+TEST_F(KeptSearch, AFileOfTheKernelsThatTellsWithoutEnd_IsNotWaitedFor) {
+    const QString endless = QStringLiteral("/proc/kmsg");
+    EXPECT_EQ(run({"--session", endless, image}).exitCode, 6);
+    EXPECT_EQ(run({"--resume", endless}).exitCode, 2);
+    EXPECT_EQ(run({"--map", endless, image}).exitCode, 5);
 }
 
 }  // namespace vantor

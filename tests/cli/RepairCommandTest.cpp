@@ -48,15 +48,24 @@ TEST(RepairCommand, MovieWithoutIndex_GetsATwinBesideIt) {
     }
 }
 
-TEST(RepairCommand, ReferenceThatIsNone_IsRefused) {
+TEST(RepairCommand, ReferenceThatIsNone_IsRefusedBeforeTheSearch) {
     const QTemporaryDir folder;
     writeFile(folder.filePath("card.img"), QByteArray(64 * 512, '\0'));
     writeFile(folder.filePath("text"), "no movie");
-    const CommandRun run =
-        runCommand({"--mode", "video", "--save", folder.filePath("saved"), "--repair-movies", "--reference",
-                    folder.filePath("text"), folder.filePath("card.img")});
-    EXPECT_EQ(run.exitCode, 6);
-    EXPECT_TRUE(run.out.contains("is no whole MP4")) << run.out.constData();
+    writeFile(folder.filePath("empty"), {});
+    for (const char* const mode : {"photo", "video"}) {
+        for (const QString& reference :
+             {folder.filePath("text"), folder.filePath("empty"), QStringLiteral("/proc/kmsg")}) {
+            const CommandRun run =
+                runCommand({"-q", "--mode", mode, "--save", folder.filePath("saved"), "--repair-movies",
+                            "--reference", reference, folder.filePath("card.img")});
+            EXPECT_EQ(run.exitCode, 2) << mode << ' ' << reference.toStdString();
+            // Who is not privileged cannot read the kernel's messages.
+            EXPECT_TRUE(run.err.contains("is no whole MP4") || run.err.contains("cannot be read"))
+                << run.err.constData();
+            EXPECT_TRUE(run.out.isEmpty()) << run.out.constData();
+        }
+    }
 }
 
 TEST(RepairCommand, ReferenceThatCannotBeRead_IsToldBeforeTheSearch) {

@@ -56,6 +56,17 @@ TEST(Fits, HeaderWithoutData_EndsWithItsBlock) {
                                    "NAXIS   =                    0", "END"}));
 }
 
+TEST(Fits, HeaderThatIsNoTextAnyMore_EndsThere) {
+    const Bytes head =
+        Build().add(fitsCards({"SIMPLE  =                    T", "BITPIX  =                   16",
+                               "NAXIS   =                    0"}));
+    const Bytes bytes =
+        Build().add(head).fill(80, 'x').fill(160, 0x80).fill(8000, ' ').add(fitsCards({"END"}));
+    const Extent extent = walkBytes("FITS", bytes);
+    EXPECT_EQ(extent.verdict, Verdict::Damaged);
+    EXPECT_EQ(extent.end, head.size() + 80);
+}
+
 TEST(Exr, ChunksOfEveryKind_AreMeasured) {
     const auto file = [](std::uint64_t flags, const Bytes& chunk) {
         Build out;

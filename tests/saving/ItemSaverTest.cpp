@@ -44,7 +44,7 @@ TEST(ItemSaver, FolderThatCannotBeMadeIsTold) {
     ScriptedReader reader(medium);
     const SaveOutcome outcome = ItemSaver(folder.path()).saveRuns("JPG", "x", run(0, 2), reader);
     EXPECT_FALSE(outcome.saved);
-    EXPECT_TRUE(outcome.error.contains("JPG"));
+    EXPECT_EQ(outcome.error, folder.path() + "/JPG is not a folder.");
 }
 
 TEST(ItemSaver, FolderThatIsALinkIsNotFollowed) {

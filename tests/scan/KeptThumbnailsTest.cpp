@@ -1,6 +1,8 @@
 // Thumbnails kept beside a search: whatever became of the file, what comes out was put in.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <random>
 
@@ -44,6 +46,17 @@ class KeptThumbnailsTest : public testing::Test {
     const QTemporaryDir folder;
     const QString path = folder.filePath("thumbnails");
 };
+
+TEST_F(KeptThumbnailsTest, WhateverIsNoFile_IsNeitherWaitedForNorWrittenThrough) {
+    const QString other = folder.filePath("other");
+    ASSERT_TRUE(QFile::link(other, path));
+    keepHundred();
+    EXPECT_FALSE(QFileInfo::exists(other));
+    ASSERT_TRUE(QFile::remove(path));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    keepHundred();
+    EXPECT_EQ(countRight(KeptThumbnails(path, "one")), 100);
+}
 
 TEST_F(KeptThumbnailsTest, SameSearch_HasThemAgainAndGoesOn) {
     keepHundred();
