@@ -1,5 +1,6 @@
 // Creation with the initial state, and teardown.
 
+#include <QFileInfo>
 #include <QSettings>
 #include <QThread>
 
@@ -20,6 +21,13 @@ constexpr std::chrono::milliseconds kTeardownPatience{5000};
 // Few enough to be made while the user waits for the end of a stopped scan.
 constexpr std::size_t kPhotosWaiting = 16;
 
+// A pipe would be waited for, and all of a file is taken into memory.
+bool canHoldSettings(const QString& path) {
+    constexpr qint64 kMostBytes = qint64{1} << 20;
+    const QFileInfo file(path);
+    return !path.isEmpty() && (!file.exists() || (file.isFile() && file.size() <= kMostBytes));
+}
+
 ThumbnailQueueOptions thumbnailQueueOptions() {
     ThumbnailQueueOptions options;
     options.workers = std::max(1, QThread::idealThreadCount());
@@ -36,7 +44,7 @@ MyTableController::MyTableController(ProgramParts parts)
           QMetaObject::invokeMethod(this, &MyTableController::drainQueue, Qt::QueuedConnection);
       }) {
     Recovery_MODE = kPhotoMode;
-    if (!m_parts.settingsFile.isEmpty()) {
+    if (canHoldSettings(m_parts.settingsFile)) {
         m_settings = std::make_unique<QSettings>(m_parts.settingsFile, QSettings::IniFormat);
     }
     m_previewFolder = previewFolder(m_parts.resourcesFolder);

@@ -1,4 +1,6 @@
 // What a second run knows of the first, and what it does not.
+#include <sys/stat.h>
+
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSettings>
@@ -65,6 +67,23 @@ TEST_F(Remembering, ADestinationIsWhereTheChooserBegins_NotWhatIsChosen) {
     toRange(kPhotoMode);
     EXPECT_EQ(controller->_path->text(), QString()) << "every run begins without a destination";
     EXPECT_EQ(beginsWith(), chosen);
+}
+
+TEST_F(Remembering, SettingsThatAreNoFileOrFarTooLarge_AreDoneWithout) {
+    openWithCard();
+    controller->window->resize(1010, 710);
+    exitProgram();
+    constexpr qint64 kFarTooLarge = qint64{64} << 20;
+    ASSERT_TRUE(QFile::resize(parts.settingsFile, kFarTooLarge));
+    open();
+    EXPECT_NE(controller->window->size(), QSize(1010, 710));
+    exitProgram();
+    EXPECT_EQ(QFileInfo(parts.settingsFile).size(), kFarTooLarge) << "and left as they are";
+    ASSERT_TRUE(QFile::remove(parts.settingsFile));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(parts.settingsFile).constData(), 0600), 0);
+    open();  // which nobody writing to the pipe holds up
+    EXPECT_TRUE(controller->window->isVisible());
+    exitProgram();
 }
 
 TEST_F(Remembering, WhatASearchBeginsWith_IsNotRemembered) {
