@@ -47,7 +47,10 @@ class GifCodes {
   public:
     explicit GifCodes(unsigned bits) : m_clear(1U << bits), m_firstBits(bits + 1) { clear(); }
 
+    // What stands behind the end mark, or behind a code that means nothing, is passed over.
     void take(std::uint8_t byte) {
+        if (!m_sound || m_ended)
+            return;
         m_waiting |= static_cast<std::uint32_t>(byte) << m_waitingBits;
         m_waitingBits += 8;
         while (m_sound && !m_ended && m_waitingBits >= m_bits) {
