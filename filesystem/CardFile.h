@@ -1,6 +1,7 @@
 // A file as a card's own directory tells of it.
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <cstdint>
 #include <optional>
@@ -44,6 +45,9 @@ struct CardFile {
     std::optional<std::int64_t> created;
     std::vector<SectorRun> runs;  // in the order of the file's bytes; whole clusters
     RunsKnownBy runsKnownBy = RunsKnownBy::Guess;
+    // The file's bytes, with zeros up to a whole sector, where its own record holds them (NTFS); in the
+    // record some of them stand elsewhere. `runs` are then as many sectors of the record.
+    QByteArray contents;
     // Where the file began there is something now that a current file system still holds as there.
     bool beginningIsInUse = false;
     std::uint32_t clusterSectors = 0;  // of the file system it lived on

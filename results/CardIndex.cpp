@@ -69,7 +69,8 @@ bool isNamedLike(const QString& name, const QString& type) {
 
 CardIndex::CardIndex(CardTable table) : m_table(std::move(table)) {
     for (const CardFile& file : m_table.files) {
-        if (file.runs.empty() || dataBytesOf(file) == 0) {
+        // One that its own record holds takes no place, and nothing begins where it does.
+        if (file.runs.empty() || !file.contents.isEmpty() || dataBytesOf(file) == 0) {
             continue;
         }
         m_starts.push_back({file.runs.front().first, 0, &file});
