@@ -135,16 +135,19 @@ void ClusterVolume::nameFromStandard() {
 
 void ClusterVolume::restoreFirstLetters() {
     FirstLetters letters;
+    const auto where = [](std::size_t folder, std::size_t number, const DirectoryEntry& entry) {
+        return FirstLetters::Where{folder, number, entry.created.value_or(entry.modified.value_or(0))};
+    };
     for (std::size_t at = 0; at < m_directories.size(); ++at) {
         const auto& entries = m_directories[at].rows.entries;
         for (std::size_t entry = 0; entry < entries.size(); ++entry) {
             if (entries[entry].nameIsWhole) {
-                letters.learn(entries[entry].name, at, entry);
+                letters.learn(entries[entry].name, where(at, entry, entries[entry]));
             }
         }
     }
-    const auto restore = [&](QString& name, std::size_t folder, std::size_t entry) {
-        if (const auto letter = letters.of(name, folder, entry)) {
+    const auto restore = [&](QString& name, const FirstLetters::Where& at) {
+        if (const auto letter = letters.of(name, at)) {
             name.front() = *letter;
         }
     };
@@ -152,12 +155,13 @@ void ClusterVolume::restoreFirstLetters() {
         CardDirectory& directory = m_directories[at];
         if (!directory.nameIsWhole && directory.parent) {
             // Only its series and the standards tell a folder's.
-            restore(directory.name, *directory.parent, m_directories[*directory.parent].rows.entries.size());
+            restore(directory.name,
+                    {*directory.parent, m_directories[*directory.parent].rows.entries.size(), 0});
         }
         auto& entries = directory.rows.entries;
         for (std::size_t entry = 0; entry < entries.size(); ++entry) {
             if (!entries[entry].nameIsWhole) {
-                restore(entries[entry].name, at, entry);
+                restore(entries[entry].name, where(at, entry, entries[entry]));
             }
         }
     }
