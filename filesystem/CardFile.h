@@ -31,7 +31,7 @@ enum class RunsKnownBy {
 // medium and do not repeat, names hold nothing that a path may not hold.
 struct CardFile {
     // As on the card, parts joined by '/'; without one at either end; "" for the root. A folder whose own
-    // name is gone is "folder-" and the number of the cluster that it began in.
+    // name is gone is "folder-" and the number of the cluster that it began in, on NTFS of its record.
     QString folder;
     QString name;  // with its extension; "" when only the place is known
     // false where the first letter was lost with the deletion: '_' stands for it, or the letter that the

@@ -49,7 +49,7 @@ QString seriesOf(const QString& name) {
 }
 
 struct Numbered {
-    QString rest;  // the name without its first letter and the number that ends its stem
+    QString rest;  // the name without its first letter and the number that ends its stem, or follows that
     std::size_t number = 0;
     qsizetype digits = 0;
 };
@@ -62,12 +62,18 @@ std::optional<Numbered> numberedOf(const QString& name) {
     while (isShort && digits + 1 < stem && isDigit(name[stem - 1 - digits])) {
         ++digits;
     }
+    qsizetype at = stem - digits;
+    if (isShort && digits == 0 && (isDigit(name.front()) || name.front() == u'_')) {
+        at = 1;
+        while (at + digits < stem && isDigit(name[at + digits])) {
+            ++digits;
+        }
+    }
     if (digits == 0) {
         return std::nullopt;
     }
-    const QString number = name.mid(stem - digits, digits);
-    return Numbered{(name.mid(1, stem - digits - 1) + u'#' + name.mid(stem)).toUpper(), number.toUInt(),
-                    digits};
+    const QString number = name.mid(at, digits);
+    return Numbered{(name.mid(1, at - 1) + u'#' + name.mid(at + digits)).toUpper(), number.toUInt(), digits};
 }
 
 bool saysMoreThanNumbers(const QString& series) {

@@ -146,7 +146,7 @@ void NtfsVolume::joinParts() {
     }
 }
 
-// "" where a folder on the way has become another.
+// What one folder held stays together also where that has become another: "folder-" and its record's number.
 std::optional<QString> NtfsVolume::folderOf(const NtfsReference& parent) const {
     constexpr int kDeepest = 64;
     QString path;
@@ -156,16 +156,16 @@ std::optional<QString> NtfsVolume::folderOf(const NtfsReference& parent) const {
             return std::nullopt;
         }
         const auto folder = m_records.find(at.record);
-        if (folder == m_records.end()) {
-            return QString();
-        }
-        const NtfsRecord& record = folder->second;
         // A record that is given back counts its next use already.
         const bool isMeant =
-            record.use == at.use || (!record.isInUse && record.use == static_cast<std::uint16_t>(at.use + 1));
-        if (!record.isFolder || record.name.isEmpty() || !isMeant) {
-            return QString();
+            folder != m_records.end() && folder->second.isFolder && !folder->second.name.isEmpty() &&
+            (folder->second.use == at.use ||
+             (!folder->second.isInUse && folder->second.use == static_cast<std::uint16_t>(at.use + 1)));
+        if (!isMeant) {
+            prependFolder(QStringLiteral("folder-%1").arg(at.record), path);
+            break;
         }
+        const NtfsRecord& record = folder->second;
         if (!prependFolder(cleanName(record.name), path)) {
             break;
         }

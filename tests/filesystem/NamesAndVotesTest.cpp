@@ -210,6 +210,12 @@ TEST(FirstLetters, NumbersThatRiseWithEachEntryTellIt) {
     }
     EXPECT_EQ(letters.of("_6.TXT", {1, 46}), QChar(u'1'));
     EXPECT_EQ(letters.of("_10.TXT", {1, 50}), std::nullopt);
+    for (const std::size_t number : {7, 8, 9}) {
+        letters.learn(QString("00%1NOTE.DOC").arg(number), {1, 60 + number});
+    }
+    EXPECT_EQ(letters.of("_06NOTE.DOC", {1, 66}), QChar(u'0'));
+    EXPECT_EQ(letters.of("_06NOTE.DOC", {1, 67}), std::nullopt);
+    EXPECT_EQ(letters.of("_06NOTE.TXT", {1, 66}), std::nullopt);
 }
 
 class CountedCard final : public SectorSource {

@@ -177,10 +177,10 @@ TEST_F(NtfsCard, WhatFilesAndFoldersHoldBesideTheirContents_IsInUse) {
     EXPECT_EQ(fileNamed(table, "a.txt").runs, (std::vector<SectorRun>{{808, 816}}));
 }
 
-TEST_F(NtfsCard, FolderThatHasBecomeAnother_NamesNothing) {
+TEST_F(NtfsCard, FolderThatHasBecomeAnother_HasNoName) {
     putRecord(26,
               record(kGone, 2, nameAttribute("IMG_1.JPG", 24, 2) + dataAttribute(4096, {0x11, 1, 100, 0})));
-    EXPECT_EQ(pathsOf(tableOf(m_card)), "IMG_1.JPG");
+    EXPECT_EQ(pathsOf(tableOf(m_card)), "folder-24/IMG_1.JPG");
 }
 
 TEST_F(NtfsCard, RunsBeyondTheCardAndFoldersInALoop_AreCut) {
@@ -238,7 +238,7 @@ TEST_F(LostNtfsRecords, OfTheSameClusters_TellFilesInTheirFolders) {
     putPicture(800);
     const CardTable table = tableOf(m_card, m_found);
     // The second one's folder is another by now.
-    EXPECT_EQ(pathsOf(table), "IMG_2.JPG\nUrlaub/IMG_1.JPG");
+    EXPECT_EQ(pathsOf(table), "Urlaub/IMG_1.JPG\nfolder-60/IMG_2.JPG");
     const CardFile file = fileNamed(table, "IMG_1.JPG");
     EXPECT_EQ(file.state, FileState::Lost);
     EXPECT_EQ(file.bytes, 2 * 4096u - 7);

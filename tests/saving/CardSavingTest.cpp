@@ -227,6 +227,7 @@ TEST_F(CardSaving, WhatADirectoryHoldsItselfIsSavedFromThere) {
         ASSERT_TRUE(outcome.saved) << outcome.error.toStdString();
         EXPECT_EQ(outcome.path, path("NOTES/" + note.name));
         EXPECT_EQ(contentsOf(outcome.path), text);
+        EXPECT_EQ(card->isLiveAt(80), state == FileState::Live);
         // It takes no place from what was found.
         EXPECT_FALSE(card->tellsOf(80));
     }
