@@ -14,15 +14,15 @@ void ArchiveCompletion::run(std::span<const std::uint64_t> broken, std::span<con
     }
     MediumBlocks blocks(m_medium);
     const ArchivePlaces places = archivePlaces(blocks, m_stop);
-    std::vector<std::uint64_t> starts(broken.begin(), broken.end());
-    for (const SectorRun& each : whole) {
-        starts.push_back(each.first);
-    }
     std::vector<FreeClusters> grids;
-    for (const ClusterGrid& grid : gridsOf(starts)) {
+    // Members begin anywhere, and look like files of their own; sums tell a grid that is too wide.
+    constexpr std::size_t kStrays = 4;
+    for (const ClusterGrid& grid : gridsOf(broken, kStrays)) {
         FreeClusters& free = grids.emplace_back(grid, m_medium.mediumSectors());
         for (const SectorRun& each : whole) {
-            free.take(each);
+            if (free.beginningAt(each.first)) {
+                free.take(each);
+            }
         }
     }
     std::vector<bool> done(broken.size(), false);

@@ -92,11 +92,13 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
         }
         return all;
     };
+    // What one that is but likely took away may have been another's: that leaves no choice wrongly.
+    bool allSure = true;
     const auto isProved = [&](FoundMovie& movie) {
         if (!isWhole(movie.movie) || !movie.movie.telling) {
             return false;
         }
-        const bool mustDecode = movie.movie.guessed != 0 || movie.movie.faint;
+        const bool mustDecode = !allSure || movie.movie.guessed != 0 || movie.movie.faint;
         if (mustDecode && !movie.decodes) {
             ClusterFile file(blocks, grids[movie.grid], movie.movie.clusters, movie.movie.bytes);
             movie.decodes = movie.movie.decodable && decodesWholly(file, movie.movie.samples, m_options);
@@ -114,6 +116,7 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
             }
         }
         const AssemblyProof proof = isProved(movie) ? AssemblyProof::Proved : AssemblyProof::Likely;
+        allSure = allSure && proof == AssemblyProof::Proved;
         if (runs.size() == 1 && proof == AssemblyProof::Likely) {
             return;  // as it lies
         }
