@@ -40,7 +40,7 @@ enum Tag : std::uint16_t {
 };
 
 constexpr std::uint64_t kRepeated = 4;
-constexpr std::uint16_t kPanasonicMagic = 0x55;
+constexpr std::uint16_t kPanasonicMagic = 0x55, kJpegXrMagic = 0x01BC;
 constexpr std::size_t kMostDirectories = 512;
 constexpr std::uint64_t kMostPieces = 1 << 21;  // strips and tiles of one directory
 constexpr std::uint64_t kMostValueBytes = 1 << 30;
@@ -52,7 +52,7 @@ constexpr std::size_t kMostStretches = 64;
 // TIFF, BigTIFF, the makers' own (Panasonic; Olympus two, one of them in either order of bytes), and JPEG XR.
 bool isKnownMagic(std::uint16_t magic) {
     return magic == 42 || magic == 43 || magic == kPanasonicMagic || magic == 0x4F52 || magic == 0x5352 ||
-           magic == 0x01BC;
+           magic == kJpegXrMagic;
 }
 
 class TiffWalk {
@@ -191,7 +191,7 @@ void TiffWalk::entry(const TiffEntry& entry, Found& found) {
             found.xrAlpha.bytes = entry;
             break;
         case kXmp:
-            m_hasNotes = true;
+            m_hasNotes = m_hasNotes || m_header.magic != kJpegXrMagic;
             break;
         case kTiffExif:
             m_hasNotes = true;

@@ -40,7 +40,7 @@ TEST(CodedUnits, StreamBehindAFilledSector_IsTheNextFile) {
 
 TEST(CodedUnits, BytesThatNoUnitHolds_AreAnothers) {
     for (const Bytes& foreign :
-         {Build().be24(2).fill(5000, 7).bytes(), Build().be32(0x00000309).fill(5000, 7).bytes(),
+         {Build().be32(0x00000201).fill(5000, 7).bytes(), Build().be32(0x00000309).fill(5000, 7).bytes(),
           Build().be32(0x00000180).fill(5000, 7).bytes()}) {
         const Bytes file = avcStream();
         const Extent extent = walkBytes("H264", Build().add(file).fill(50, 7).add(foreign));
@@ -148,6 +148,9 @@ TEST(TiffHabits, WhoWritesXmp_LeavesAnEvenLength) {
     expectEnd("TIF", Build().add(pages({8}, 37, 700)).fill(900), 8 + 80 + 38);
     expectEnd("TIF", Build().add(pages({8}, 37, 700)).fill(900, 1), 8 + 80 + 37);
     expectEnd("TIF", Build().add(pages({8}, 37, 701)).fill(900), 8 + 80 + 37);
+    // Writers of JPEG XR do not pad.
+    const Bytes xr = Build().add(pages({8}, 37, 700)).put(2, {0xBC, 0x01}).fill(900);
+    expectEnd("JXR", xr, 8 + 80 + 37);
 }
 
 TEST(OneNoteHabits, SectionFromAServer_TellsNoLength) {
