@@ -14,6 +14,7 @@ enum Tag : std::uint16_t {
     kSubfileType = 254,
     kBitsPerSample = 258,
     kCompression = 259,
+    kMake = 271,
     kStripOffsets = 273,
     kSamplesPerPixel = 277,
     kStripByteCounts = 279,
@@ -98,6 +99,7 @@ class TiffWalk {
     bool m_broken = false;
     bool m_padsPieces = false;  // to even lengths, the last one as those before it
     bool m_hasNotes = false;    // Exif or XMP: what writes them, cameras and editors, leaves an even length
+    bool m_fromCamera = false;  // or from a scanner
     bool m_padded = false;      // to four bytes, as the writer of Photoshop's own tag does
     Facts m_facts;
 };
@@ -189,6 +191,9 @@ void TiffWalk::entry(const TiffEntry& entry, Found& found) {
             break;
         case kXrAlphaBytes:
             found.xrAlpha.bytes = entry;
+            break;
+        case kMake:
+            m_fromCamera = true;
             break;
         case kXmp:
             m_hasNotes = m_hasNotes || m_header.magic != kJpegXrMagic;
@@ -341,7 +346,7 @@ std::uint64_t TiffWalk::behindFrameFilling() {
         if (m_view.u8(at) != std::uint8_t{0})
             return m_end;
     }
-    return m_known > 1 ? end : m_end;
+    return m_known > 1 && !m_fromCamera ? end : m_end;
 }
 
 Extent TiffWalk::walk() {

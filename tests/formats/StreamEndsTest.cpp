@@ -139,7 +139,8 @@ TEST(TiffHabits, PagesAppendedAtMultiplesOfSixteen_FillTheLastOne) {
     for (const std::size_t filling : {3, 2000})
         expectEnd("TIF", Build().add(file).fill(filling).add(noise(900, 2)), 448);
     expectEnd("TIF", Build().add(file).fill(1).fill(900, 4), file.size());
-    // One page, or pages elsewhere, say nothing.
+    // One page, pages elsewhere, or a camera's say nothing.
+    expectEnd("TIF", Build().add(pages({8, 168, 328}, 37, 271)).fill(900), file.size());
     expectEnd("TIF", Build().add(pages({8}, 37)).fill(900), 8 + 80 + 37);
     expectEnd("TIF", Build().add(pages({8, 170}, 37)).fill(900), 170 + 80 + 37);
 }
