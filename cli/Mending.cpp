@@ -96,7 +96,7 @@ bool CliSession::takeMend(const MendableItem& item, Mend made, SectorReader& med
     source.carved = item.carved;
     source.medium = [&medium] { return &medium; };
     source.mediumSectors = medium.mediumSectors();
-    const TwinPlace place = placeOfTwin(m_options.saveFolder, {item.type, item.name, source}, {});
+    const TwinPlace place = placeOfTwin(m_savedInto, {item.type, item.name, source}, {});
     SaveOutcome outcome = writeTwin(
         place, mend, source, [this] { return stop_now != 0; }, m_options.report);
     const bool saved = outcome.saved;
@@ -124,6 +124,11 @@ void CliSession::completeItems(ItemMending& mending, const std::vector<MendableI
     if (m_options.mode != kVideoMode) {
         tell(mending.completePhotos(items),
              QObject::tr("%1 of %2 broken photos completed, %3 more put together: please look"));
+    }
+    if (m_options.mode == kRawFileMode) {
+        tell(mending.completeArchives(items),
+             QObject::tr(
+                 "%1 of %2 broken documents and archives completed, %3 more put together: please look"));
     }
 }
 
