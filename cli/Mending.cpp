@@ -126,6 +126,11 @@ void CliSession::completeItems(ItemMending& mending, const std::vector<MendableI
         tell(mending.completePhotos(items),
              QObject::tr("%1 of %2 broken photos completed, %3 more put together: please look"));
     }
+    if (m_options.mode == kRawFileMode) {
+        tell(mending.completeArchives(items),
+             QObject::tr(
+                 "%1 of %2 broken documents and archives completed, %3 more put together: please look"));
+    }
 }
 
 void CliSession::repairItems(ItemMending& mending, const std::vector<MendableItem>& items) {

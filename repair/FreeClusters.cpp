@@ -14,7 +14,7 @@ constexpr std::uint64_t kNarrowest = 8;
 
 }  // namespace
 
-std::vector<ClusterGrid> gridsOf(std::span<const std::uint64_t> firstSectors) {
+std::vector<ClusterGrid> gridsOf(std::span<const std::uint64_t> firstSectors, std::size_t strays) {
     std::vector<ClusterGrid> grids;
     for (std::uint64_t sectors = kWidest; sectors >= kNarrowest; sectors /= 2) {
         std::map<std::uint64_t, std::size_t> origins;
@@ -23,7 +23,7 @@ std::vector<ClusterGrid> gridsOf(std::span<const std::uint64_t> firstSectors) {
         }
         const auto most = std::max_element(origins.begin(), origins.end(),
                                            [](const auto& a, const auto& b) { return a.second < b.second; });
-        if (most != origins.end() && most->second >= firstSectors.size() - firstSectors.size() / 10) {
+        if (most != origins.end() && most->second >= firstSectors.size() - firstSectors.size() / strays) {
             grids.push_back({most->first, sectors});
         }
     }

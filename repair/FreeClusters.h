@@ -19,8 +19,8 @@ struct ClusterGrid {
 };
 
 // The grids that nearly all of these first sectors of files lie on, the widest first: from clusters of
-// 512 KiB to 4 KiB.
-std::vector<ClusterGrid> gridsOf(std::span<const std::uint64_t> firstSectors);
+// 512 KiB to 4 KiB. One in `strays` may lie elsewhere.
+std::vector<ClusterGrid> gridsOf(std::span<const std::uint64_t> firstSectors, std::size_t strays = 10);
 
 // Clusters are numbered from 0.
 class FreeClusters {

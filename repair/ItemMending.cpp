@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "formats/Registry.h"
+#include "repair/ArchiveCompletion.h"
 #include "repair/MovieCompletion.h"
 #include "repair/PhotoCompletion.h"
 
@@ -66,6 +67,14 @@ CompletionSum ItemMending::completePhotos(const std::vector<MendableItem>& items
                     items);
 }
 
+CompletionSum ItemMending::completeArchives(const std::vector<MendableItem>& items) {
+    return complete({isArchiveOfMembers, [](const MendableItem& item) { return item.checked; },
+                     [this](auto broken, auto whole, const AssemblyFound& tell) {
+                         ArchiveCompletion(m_medium, m_stop, m_progress).run(broken, whole, tell);
+                     }},
+                    items);
+}
+
 CompletionSum ItemMending::complete(const Kind& kind, const std::vector<MendableItem>& items) {
     std::vector<std::uint64_t> broken;
     std::vector<const MendableItem*> brokenItems;
@@ -101,6 +110,11 @@ bool isPictureWithSyntax(const QString& type) {
     static const Format* const jpeg = formatFor("JPG");
     static const Format* const png = formatFor("PNG");
     return isOfFormat(type, jpeg) || isOfFormat(type, png);
+}
+
+bool isArchiveOfMembers(const QString& type) {
+    static const Format* const archive = formatFor("ZIP");
+    return isOfFormat(type, archive);
 }
 
 bool isMovieOfChunks(const QString& type) {

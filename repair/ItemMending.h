@@ -63,6 +63,7 @@ class ItemMending {
 
     CompletionSum completeMovies(const std::vector<MendableItem>& items);
     CompletionSum completePhotos(const std::vector<MendableItem>& items);
+    CompletionSum completeArchives(const std::vector<MendableItem>& items);
 
     // Movies without an index that no step before completed. What could not be done is told with the item:
     // no whole movie of its camera was found, or no picture.
@@ -107,6 +108,7 @@ class ItemMending {
 
 // Whether pieces of such a file can be put together, or a movie be repaired.
 bool isPictureWithSyntax(const QString& type);  // JPEG and PNG
+bool isArchiveOfMembers(const QString& type);   // ZIP, office documents and the like
 bool isMovieOfChunks(const QString& type);      // AVI
 bool isMovieOfBoxes(const QString& type);       // MP4, QuickTime and what is built like them
 

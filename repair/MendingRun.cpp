@@ -113,7 +113,7 @@ MendingEnd MendingRun::work() {
         medium, m_stop, m_progress,
         [&](const MendableItem& item, Mend mend) { return take(item, std::move(mend), medium); },
         m_order.helper);
-    CompletionSum movies, photos;
+    CompletionSum movies, photos, archives;
     ItemMending::RepairSum repairs;
     for (const auto& mend : m_order.mended->allProved()) {
         mending.explain(mend->assembly.runs);
@@ -129,13 +129,14 @@ MendingEnd MendingRun::work() {
     }
     if (m_order.photos && enter(MendingStep::Photos)) {
         photos = mending.completePhotos(items);
+        archives = mending.completeArchives(items);
     }
     if (m_order.movies && enter(MendingStep::Repairing)) {
         repairs = mending.repairMovies(items);
     }
     {
         const std::lock_guard lock(m_mutex);
-        m_result.broken = movies.broken + photos.broken;
+        m_result.broken = movies.broken + photos.broken + archives.broken;
     }
     return medium.isGone() ? MendingEnd::MediumGone
            : m_stop != 0   ? MendingEnd::Stopped

@@ -3,6 +3,9 @@
 #include "repair/MovieCompletion.h"
 
 #include <algorithm>
+#include <array>
+#include <iterator>
+#include <string_view>
 
 #include "repair/MoviePieces.h"
 #include "repair/MovieProof.h"
@@ -29,6 +32,15 @@ struct FoundMovie {
     std::optional<bool> decodes;  // once that was tried
 };
 
+// An index is found as a movie of its own wherever it stands at a sector's start: that is no cluster's.
+bool mayBeginMovie(MediumBlocks& medium, std::uint64_t sector) {
+    std::array<std::uint8_t, 8> head{};
+    medium.read(sector * kSectorBytes, head);
+    const std::string_view text(reinterpret_cast<const char*>(head.data()), head.size());
+    const std::string_view name = text.substr(4);
+    return name == "ftyp" || name == "wide" || name == "mdat" || text.substr(0, 4) == "RIFF";
+}
+
 bool leftNoChoice(const FoundMovie& found) {
     return isWhole(found.movie) && found.movie.guessed == 0;
 }
@@ -46,7 +58,9 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
     m_progress.of = broken.size();
     MediumBlocks blocks(m_medium);
     const auto indexes = indexPlaces(blocks, m_stop);
-    std::vector<std::uint64_t> starts(broken.begin(), broken.end());
+    std::vector<std::uint64_t> starts;
+    std::copy_if(broken.begin(), broken.end(), std::back_inserter(starts),
+                 [&](std::uint64_t sector) { return mayBeginMovie(blocks, sector); });
     for (const SectorRun& run : whole) {
         starts.push_back(run.first);
     }
@@ -78,15 +92,18 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
         }
         return all;
     };
+    // What one that is but likely took away may have been another's: that leaves no choice wrongly.
+    bool allSure = true;
     const auto isProved = [&](FoundMovie& movie) {
         if (!isWhole(movie.movie) || !movie.movie.telling) {
             return false;
         }
-        if (movie.movie.guessed != 0 && !movie.decodes) {
+        const bool mustDecode = !allSure || movie.movie.guessed != 0 || movie.movie.faint;
+        if (mustDecode && !movie.decodes) {
             ClusterFile file(blocks, grids[movie.grid], movie.movie.clusters, movie.movie.bytes);
             movie.decodes = movie.movie.decodable && decodesWholly(file, movie.movie.samples, m_options);
         }
-        return movie.movie.guessed == 0 || *movie.decodes;
+        return !mustDecode || *movie.decodes;
     };
     const auto settle = [&](std::size_t i) {
         FoundMovie& movie = *found[i];
@@ -99,6 +116,7 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
             }
         }
         const AssemblyProof proof = isProved(movie) ? AssemblyProof::Proved : AssemblyProof::Likely;
+        allSure = allSure && proof == AssemblyProof::Proved;
         if (runs.size() == 1 && proof == AssemblyProof::Likely) {
             return;  // as it lies
         }

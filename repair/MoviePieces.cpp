@@ -64,7 +64,9 @@ std::optional<PiecedMovie> MoviePieces::assemble(std::uint64_t firstCluster,
     movie.decodable = true;
     for (const PromisedSample& sample : m_samples) {
         if (sample.tells()) {
-            movie.decodable = movie.decodable && sample.coding == Coding::Avc;
+            const bool faint = sample.coding == Coding::Mpeg4 || sample.coding == Coding::H263;
+            movie.decodable = movie.decodable && (faint || sample.coding == Coding::Avc);
+            movie.faint = movie.faint || faint;
             ++movie.samples;
             movie.wholeSamples += isWholeSample(view, sample) ? 1 : 0;
         }
@@ -85,8 +87,8 @@ bool MoviePieces::isTelling() const {
             sizes.insert(sample.bytes);
         }
     }
-    const std::uint64_t data = m_layout.data.to - m_layout.data.from;
-    return sum >= data - data / 50 && sizes.size() >= 2 && sizes.size() >= looked / 8;
+    const std::uint64_t data = m_layout.mediaBytes;
+    return m_layout.endTold && sum >= data - data / 50 && sizes.size() >= 2 && sizes.size() >= looked / 8;
 }
 
 // What the samples that begin in the cluster of the file say of a cluster of the medium.

@@ -3,10 +3,12 @@
 
 #include <atomic>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 #include <vector>
 
+#include "formats/IsoFragments.h"
 #include "repair/ClusterFile.h"
 #include "repair/FreeClusters.h"
 #include "repair/MediumBlocks.h"
@@ -23,6 +25,7 @@ struct PiecedMovie {
     std::size_t samples = 0;       // that could be looked at
     std::size_t wholeSamples = 0;  // of these
     bool decodable = false;        // a decoder would notice a foreign piece in its pictures
+    bool faint = false;            // its samples show little of what they are
     bool telling = false;          // no other movie is likely to fit the index
     std::size_t guessed = 0;       // clusters for which there was more than one choice
 };
@@ -50,6 +53,15 @@ class MoviePieces {
         std::uint64_t bytes = 0;
         bool chunks = false;     // an AVI movie; else one of boxes
         std::uint64_t told = 0;  // bytes of an AVI movie by its own account
+        std::uint64_t mediaBytes = 0;
+        bool endTold = true;  // nothing of the movie can follow
+    };
+    // What is known of a movie in fragments up to the one looked for.
+    struct Fragments {
+        std::vector<FragmentedTrack> tracks;
+        std::uint32_t sequence = 0;  // of the one before
+        std::uint32_t alikeLeft = kMostAlikeSamples;
+        unsigned triesLeft = 0;  // for clusters of one fragment's head
     };
 
     void begin();
@@ -61,6 +73,14 @@ class MoviePieces {
     bool placeIndex(std::uint64_t firstOfIndex, std::uint64_t number);
     bool continueIndex(std::vector<std::uint64_t>& clusters, std::size_t wanted, unsigned& tries);
     bool takeIndex(const std::vector<std::uint64_t>& clusters);
+
+    bool readFragments(ByteView& head, const IsoBox& movie, std::uint64_t at);
+    bool placeBox(std::uint64_t at, std::string_view name, Fragments& known,
+                  const std::function<bool(ByteView& view)>& take);
+    bool continueBox(std::uint64_t at, std::string_view name, Fragments& known,
+                     const std::function<bool(ByteView& view)>& take);
+    bool takeFragment(ByteView& view, std::uint64_t& at, Fragments& known);
+    bool takeFragmentIndex(ByteView& view, std::uint64_t at);
 
     bool placeSamples();
     bool placeAnchors();

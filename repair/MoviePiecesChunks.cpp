@@ -47,6 +47,7 @@ bool MoviePieces::readChunkHead(std::uint64_t firstCluster, ByteView& view) {
         if (isList && view.matches(body, "movi")) {
             m_layout.chunks = true;
             m_layout.data = {body + 4, end + end % 2};
+            m_layout.mediaBytes = m_layout.data.to - m_layout.data.from;
             m_layout.told = outerEnd;
             break;
         }

@@ -21,7 +21,9 @@ bool isTrailer(std::string_view name) {
 
 std::vector<std::uint64_t> indexPlaces(MediumBlocks& medium, const std::atomic<int>& stop) {
     constexpr std::size_t kHeadBytes = 16;
-    constexpr std::size_t kMostPlaces = 100'000;
+    constexpr std::size_t kMostPlaces = 400'000;
+    // A fragment's head, and the list of fragments at a movie's end.
+    constexpr std::pair<const char*, const char*> kFragmentBoxes[] = {{"moof", "mfhd"}, {"mfra", "tfra"}};
     std::vector<std::uint64_t> places;
     // What stands so many bytes before the name, and behind it, has to be looked at too.
     constexpr std::size_t kBefore = 4;
@@ -46,6 +48,14 @@ std::vector<std::uint64_t> indexPlaces(MediumBlocks& medium, const std::atomic<i
                 return std::memcmp(here + 8, "mvhd", 4) == 0 ? std::optional(at + i - 4) : std::nullopt;
             },
             bytes);
+        for (const auto& [name, child] : kFragmentBoxes) {
+            lookFor(
+                name,
+                [&](const std::uint8_t* here, std::size_t i) {
+                    return std::memcmp(here + 8, child, 4) == 0 ? std::optional(at + i - 4) : std::nullopt;
+                },
+                bytes);
+        }
         lookFor(
             "idx1",
             // Its length is less than 16 MiB.
@@ -96,6 +106,13 @@ bool MoviePieces::readHead(std::uint64_t firstCluster) {
             index = box;
         } else if (box->text() == "mdat") {
             data = box;
+        } else if (box->text() == "moof") {
+            // What stands in front of it lies in one row.
+            for (std::uint64_t number = 0; index && number <= at / m_free.clusterBytes(); ++number) {
+                m_places.push_back(kUnplaced);
+                place(number, firstCluster + number);
+            }
+            return index && readFragments(view, *index, at);
         }
         at = box->end;
     }
@@ -103,6 +120,7 @@ bool MoviePieces::readHead(std::uint64_t firstCluster) {
         return false;
     }
     m_layout.data = {data->body, data->end};
+    m_layout.mediaBytes = data->end - data->body;
     m_layout.bytes = std::max(data->end, index ? index->end : 0);
     const auto clusters =
         static_cast<std::size_t>((m_layout.bytes + m_free.clusterBytes() - 1) / m_free.clusterBytes());

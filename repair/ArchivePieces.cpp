@@ -1,0 +1,290 @@
+// The directory tells the place of every member, each of which begins with its name: that gives the clusters
+// where members begin. What lies between is tried, the likeliest first, until the sum of the member is right.
+#include "repair/ArchivePieces.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "formats/Crc.h"
+#include "formats/Inflate.h"
+#include "repair/ClusterFile.h"
+
+namespace vantor {
+
+namespace {
+
+constexpr std::uint64_t kWidestArchiveTurn = 6;  // files written at the same time
+constexpr std::uint64_t kMostWaysAMember = 4096;
+
+}  // namespace
+
+ArchivePlaces archivePlaces(MediumBlocks& medium, const std::atomic<int>& stop) {
+    constexpr std::size_t kSignBytes = 4;
+    constexpr std::size_t kMostOfAKind = 1'000'000;
+    ArchivePlaces places;
+    const auto look = [&](std::span<const std::uint8_t> bytes, std::uint64_t at) {
+        for (std::size_t i = 0; i + kSignBytes <= bytes.size(); ++i) {
+            const void* const found = memmem(bytes.data() + i, bytes.size() - i, "PK", 2);
+            if (found == nullptr) {
+                break;
+            }
+            i = static_cast<std::size_t>(static_cast<const std::uint8_t*>(found) - bytes.data());
+            if (i + kSignBytes > bytes.size()) {
+                break;
+            }
+            if (bytes[i + 2] == 3 && bytes[i + 3] == 4 && places.members.size() < kMostOfAKind) {
+                places.members.push_back(at + i);
+            } else if (bytes[i + 2] == 5 && bytes[i + 3] == 6 && places.ends.size() < kMostOfAKind) {
+                places.ends.push_back(at + i);
+            }
+        }
+    };
+    std::vector<std::uint8_t> seam(2 * (kSignBytes - 1), 0);
+    for (std::uint64_t sector = 0; sector < medium.sectors() && stop == 0;
+         sector += MediumBlocks::kBlockSectors) {
+        const auto block = medium.blockOf(sector);
+        std::copy_n(block.begin(), kSignBytes - 1, seam.begin() + kSignBytes - 1);
+        if (sector != 0) {
+            look(seam, sector * kSectorBytes - (kSignBytes - 1));
+        }
+        look(block, sector * kSectorBytes);
+        std::copy_n(block.end() - (kSignBytes - 1), kSignBytes - 1, seam.begin());
+    }
+    return places;
+}
+
+void ArchivePieces::place(std::uint64_t number, std::uint64_t cluster) {
+    m_clusters[static_cast<std::size_t>(number)] = cluster;
+    m_used[static_cast<std::size_t>(cluster)] = true;
+}
+
+void ArchivePieces::lift(std::uint64_t before, std::uint64_t end) {
+    for (std::uint64_t number = before + 1; number < end; ++number) {
+        std::uint64_t& cluster = m_clusters[static_cast<std::size_t>(number)];
+        if (cluster != kUnplaced) {
+            m_used[static_cast<std::size_t>(cluster)] = false;
+            cluster = kUnplaced;
+        }
+    }
+}
+
+std::optional<PiecedArchive> ArchivePieces::assemble(std::uint64_t firstCluster) {
+    // Those behind the first cluster in front, as files are mostly written.
+    const std::uint64_t first = m_free.firstSectorOf(firstCluster) * kSectorBytes;
+    const auto behind = std::lower_bound(m_places.ends.begin(), m_places.ends.end(), first);
+    const auto skipped = static_cast<std::size_t>(behind - m_places.ends.begin());
+    for (std::size_t i = 0; i < m_places.ends.size() && m_stop == 0; ++i) {
+        m_used.assign(static_cast<std::size_t>(m_free.count()), false);
+        if (tryEnd(firstCluster, m_places.ends[(skipped + i) % m_places.ends.size()])) {
+            return PiecedArchive{m_clusters, m_end.bytes, m_proved};
+        }
+    }
+    return std::nullopt;
+}
+
+bool ArchivePieces::tryEnd(std::uint64_t firstCluster, std::uint64_t endPlace) {
+    std::vector<std::uint8_t> record(ArchiveEnd::kBytes);
+    m_medium.read(endPlace, record);
+    SpanSource source(record);
+    ByteView view(source);
+    const auto end = archiveEndAt(view, 0);
+    const std::uint64_t cluster = m_free.clusterBytes();
+    if (!end || end->bytes / cluster >= m_free.count()) {
+        return false;
+    }
+    const std::uint64_t within = end->at % cluster;
+    const auto last = endPlace < within || (endPlace - within) % kSectorBytes != 0
+                          ? std::nullopt
+                          : m_free.beginningAt((endPlace - within) / kSectorBytes);
+    if (!last || !m_free.isFree(*last)) {
+        return false;
+    }
+    m_end = *end;
+    m_proved = true;
+    m_clusters.assign(static_cast<std::size_t>((end->bytes + cluster - 1) / cluster), kUnplaced);
+    return placeDirectory(firstCluster, *last) && placeMembers();
+}
+
+// The directory lies in a row up to its end, or in turn with another file.
+bool ArchivePieces::placeDirectory(std::uint64_t firstCluster, std::uint64_t lastCluster) {
+    const std::uint64_t cluster = m_free.clusterBytes();
+    const std::uint64_t first = m_end.directory / cluster;
+    const std::uint64_t last = m_end.at / cluster;
+    for (std::uint64_t step = 1; step <= kWidestArchiveTurn && m_stop == 0; ++step) {
+        std::fill(m_clusters.begin(), m_clusters.end(), kUnplaced);
+        std::fill(m_used.begin(), m_used.end(), false);
+        place(0, firstCluster);
+        std::optional<std::uint64_t> at = lastCluster;
+        bool there = true;
+        for (std::uint64_t number = last + 1; number-- > first && there;) {
+            there = at && m_free.isFree(*at) &&
+                    (number == 0 ? *at == firstCluster : !m_used[static_cast<std::size_t>(*at)]);
+            if (there) {
+                place(number, *at);
+                at = m_free.back(*at, step);
+            }
+        }
+        // What little may follow the record goes on behind it.
+        for (std::uint64_t number = last + 1; number < m_clusters.size() && there; ++number) {
+            const auto next = m_free.ahead(m_clusters[static_cast<std::size_t>(number - 1)], step);
+            there = next && !m_used[static_cast<std::size_t>(*next)];
+            if (there) {
+                place(number, *next);
+            }
+        }
+        ClusterFile file(m_medium, m_free, m_clusters, m_end.bytes);
+        ByteView view(file);
+        auto members = there ? archiveMembers(view, m_end) : std::nullopt;
+        std::vector<std::uint8_t> head(static_cast<std::size_t>(std::min<std::uint64_t>(cluster, 1024)));
+        m_medium.read(m_free.firstSectorOf(firstCluster) * kSectorBytes, head);
+        if (members && beginsMember(members->front(), head)) {
+            m_members = std::move(*members);
+            return true;
+        }
+        if (first == last) {
+            break;
+        }
+    }
+    return false;
+}
+
+bool ArchivePieces::placeMembers() {
+    return std::all_of(m_members.begin(), m_members.end(),
+                       [this](const ArchiveMember& member) { return placeHead(member); }) &&
+           std::all_of(m_members.begin(), m_members.end(),
+                       [this](const ArchiveMember& member) { return m_stop == 0 && fill(member); });
+}
+
+// Where the member begins. A head that goes on in the next cluster may lie there with the content.
+bool ArchivePieces::placeHead(const ArchiveMember& member) {
+    constexpr std::uint64_t kTelling = 26;  // to the end of its sizes
+    const std::uint64_t cluster = m_free.clusterBytes();
+    const std::uint64_t within = member.at % cluster;
+    const auto number = static_cast<std::size_t>(member.at / cluster);
+    std::vector<std::uint8_t> head(
+        static_cast<std::size_t>(std::min<std::uint64_t>(cluster - within, 30 + member.name.size())));
+    const auto isAt = [&](std::uint64_t place) {
+        m_medium.read(place, head);
+        return beginsMember(member, head);
+    };
+    if (m_clusters[number] != kUnplaced) {
+        return isAt(m_free.firstSectorOf(m_clusters[number]) * kSectorBytes + within);
+    }
+    if (head.size() < kTelling) {
+        return true;
+    }
+    const std::uint64_t first = m_free.firstSectorOf(m_clusters.front()) * kSectorBytes;
+    const auto behind = std::lower_bound(m_places.members.begin(), m_places.members.end(), first);
+    const auto skipped = static_cast<std::size_t>(behind - m_places.members.begin());
+    for (std::size_t i = 0; i < m_places.members.size() && m_stop == 0; ++i) {
+        const std::uint64_t place = m_places.members[(skipped + i) % m_places.members.size()];
+        if (place < within || (place - within) % kSectorBytes != 0) {
+            continue;
+        }
+        const auto begins = m_free.beginningAt((place - within) / kSectorBytes);
+        if (begins && m_free.isFree(*begins) && !m_used[static_cast<std::size_t>(*begins)] && isAt(place)) {
+            this->place(number, *begins);
+            return true;
+        }
+    }
+    return false;
+}
+
+// As far as its sum or its codes tell.
+ArchivePieces::Look ArchivePieces::look(const ArchiveMember& member) {
+    ClusterFile file(m_medium, m_free, m_clusters, member.end);
+    ByteView view(file);
+    const auto content = memberContent(view, member);
+    if (!content) {
+        return {false, member.at};
+    }
+    if (!member.isProvable()) {
+        m_proved = m_proved && member.packed == 0;
+        return {true, member.end};
+    }
+    if (member.isStored()) {
+        m_unpackedLeft -= std::min(m_unpackedLeft, member.packed);
+        bool read = true;
+        return {crc32(view, *content, *content + member.packed, read) == member.sum && read, member.end};
+    }
+    const InflateResult result = inflate(view, *content, member.unpacked);
+    m_unpackedLeft -= std::min(m_unpackedLeft, result.produced + (result.end - *content));
+    return {result.outcome == InflateOutcome::Done && result.produced == member.unpacked &&
+                result.end == *content + member.packed && result.crc == member.sum,
+            result.outcome == InflateOutcome::Done ? member.end : result.end};
+}
+
+// Places the clusters of the file in (before, end): `ahead` of them `step` free ones apart from the one
+// before, the others in a row up to the one behind. False where some of these are not to be had.
+bool ArchivePieces::lay(std::uint64_t before, std::uint64_t end, std::uint64_t ahead, std::uint64_t step) {
+    for (std::uint64_t number = before + 1; number < end; ++number) {
+        const auto cluster = number - before <= ahead
+                                 ? m_free.ahead(m_clusters[static_cast<std::size_t>(number - 1)], step)
+                                 : m_free.back(m_clusters[static_cast<std::size_t>(end)], end - number);
+        if (!cluster || m_used[static_cast<std::size_t>(*cluster)]) {
+            lift(before, end);
+            return false;
+        }
+        place(number, *cluster);
+    }
+    return true;
+}
+
+// What of the member is not placed: evenly, as while files are written in turn; on behind the cluster before,
+// up to where that breaks; and in a row from somewhere else up to the one behind.
+bool ArchivePieces::fill(const ArchiveMember& member) {
+    const std::uint64_t cluster = m_free.clusterBytes();
+    const std::uint64_t last = (member.end - 1) / cluster;
+    std::uint64_t before = member.at / cluster;
+    if (m_clusters[static_cast<std::size_t>(before)] == kUnplaced) {
+        --before;  // the end of the member before it, which is placed
+    }
+    std::uint64_t end = before + 1;
+    while (end <= last && m_clusters[static_cast<std::size_t>(end)] == kUnplaced) {
+        ++end;
+    }
+    if (end == before + 1) {
+        return look(member).whole;
+    }
+    const bool open = end >= m_clusters.size() || m_clusters[static_cast<std::size_t>(end)] == kUnplaced;
+    const std::uint64_t missing = end - before - 1;
+    const auto tryWay = [&](std::uint64_t ahead, std::uint64_t step) {
+        if (!lay(before, end, ahead, step)) {
+            return Look{false, member.at};
+        }
+        const Look seen = look(member);
+        if (!seen.whole) {
+            lift(before, end);
+        }
+        return seen;
+    };
+    const Look onwards = tryWay(missing, 1);
+    if (onwards.whole) {
+        return true;
+    }
+    const std::uint64_t apart = open ? 0
+                                     : m_free.stepsBetween(m_clusters[static_cast<std::size_t>(before)],
+                                                           m_clusters[static_cast<std::size_t>(end)]);
+    for (std::uint64_t step = 2; step <= kWidestArchiveTurn; ++step) {
+        if ((open || apart == step * (missing + 1)) && tryWay(missing, step).whole) {
+            return true;
+        }
+    }
+    if (open) {
+        return false;
+    }
+    // The cut is where it breaks or before.
+    const std::uint64_t farthest = onwards.brokenAt / cluster;
+    std::uint64_t ahead = farthest <= before ? 0 : std::min(missing, farthest - before);
+    for (std::uint64_t ways = 0; ways < kMostWaysAMember && m_unpackedLeft != 0 && m_stop == 0; ++ways) {
+        if (tryWay(ahead, 1).whole) {
+            return true;
+        }
+        if (ahead-- == 0) {
+            break;
+        }
+    }
+    return false;
+}
+
+}  // namespace vantor
