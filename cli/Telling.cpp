@@ -115,7 +115,7 @@ int exitCodeOf(const CliSession& session) {
     }
     switch (session.lastOutcome()) {
         case PassOutcome::Completed:
-            return kExitCompleted;
+            return session.leftUndone() ? kExitStopped : kExitCompleted;
         case PassOutcome::Stopped:
             return kExitStopped;
         case PassOutcome::OpenError:
