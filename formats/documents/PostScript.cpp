@@ -42,8 +42,10 @@ Extent walkPostScriptText(ByteView& view) {
     constexpr std::uint64_t kFewBytes = 4096;
     const auto text = textEnd(view, 0);
     const bool foreign = view.u8(text) && !announcesBytes(view, text);
-    const auto reach = foreign ? std::min(view.size(), text + kFewBytes) : view.size();
+    bool announced = false;  // by a comment, however much like text the bytes begin
     for (std::uint64_t at = 0;;) {
+        const bool others = foreign && !announced;
+        const auto reach = others ? std::min(view.size(), text + kFewBytes) : view.size();
         const auto silence = addClamped(sign, kMostSilence);
         const auto limit = lines.value_or(std::min(std::max(reach, sign), silence));
         const auto comment = view.find('%', at, limit);
@@ -51,7 +53,7 @@ Extent walkPostScriptText(ByteView& view) {
             return inexact(completeAt(view, *lines));
         if (comment.stopped())
             return cutOffAt(view, comment.at);
-        if (!comment.found() && foreign && sign <= text)
+        if (!comment.found() && others && sign <= text)
             return inexact(completeAt(view, endOfLines(view, 0)));
         if (!comment.found())
             return comment.at < view.size() ? damagedAt(view, sign) : cutOffAt(view, view.size());
@@ -65,6 +67,7 @@ Extent walkPostScriptText(ByteView& view) {
         sign = at;
         if (!lines && embedded == 0 && view.matches(at, "%%Trailer"))
             lines = endOfLines(view, at);
+        announced = announced || view.matches(at, "%%BeginData") || view.matches(at, "%%BeginBinary");
         if (view.matches(at, "%%BeginDocument"))
             ++embedded;
         else if (view.matches(at, "%%EndDocument") && embedded != 0)

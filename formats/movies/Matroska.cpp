@@ -93,6 +93,30 @@ void addFacts(ByteView& view, const Element& parent, Facts& facts) {
     }
 }
 
+// Whether a child of an element of unknown size looks like what it is said to be: nothing else tells the
+// end from bytes of another file.
+bool isPlausible(ByteView& view, const Element& element) {
+    constexpr std::uint64_t kMostNumberBytes = 8, kBlockHead = 4;
+    constexpr std::array<std::uint8_t, 7> kInGroup = {0xA1, 0x9B, 0xFB, 0xFA, 0xA4, 0x75, 0xBF};
+    const auto first = view.u8(element.body).value_or(0);
+    switch (element.id) {
+        case 0xA3:  // a block: its track's number in one byte, flags of which three are kept free
+        case 0xAF:
+            return element.bytes >= kBlockHead && first > 0x80 &&
+                   (view.u8(element.body + 3).value_or(0xFF) & 0x70) == 0;
+        case 0xA0:
+            return std::find(kInGroup.begin(), kInGroup.end(), first) != kInGroup.end();
+        case 0xE7:
+        case 0xA7:
+        case 0xAB:
+            return element.bytes <= kMostNumberBytes;
+        case kVoid:
+            return element.bytes == 0 || first == 0;
+        default:
+            return true;
+    }
+}
+
 class MatroskaWalk {
   public:
     explicit MatroskaWalk(ByteView& view) : m_view(view) {}
@@ -119,7 +143,7 @@ void MatroskaWalk::openCluster() {
     for (;;) {
         const auto element = readElement(m_view, m_at);
         if (!element || element->unknownSize || !isAmong(kInCluster, element->id) ||
-            element->end() > m_view.size())
+            element->end() > m_view.size() || !isPlausible(m_view, *element))
             return;
         m_at = element->end();
     }
@@ -172,6 +196,8 @@ Extent MatroskaWalk::segment(const Element& segment) {
             break;
         // Elements of later versions and of vendors are taken only where the segment's size vouches for them.
         const bool foreign = !isAmong(kInSegment, element->id);
+        if (segment.unknownSize && !isPlausible(m_view, *element))
+            break;
         if (foreign && (segment.unknownSize || element->id < kLeastLongId || ++strangers > kMostStrangers))
             break;
         if (element->id == kInfo || element->id == kTracks)

@@ -12,6 +12,7 @@ constexpr std::uint64_t kMostStuffing = 64 * 1024;                // zero bytes 
 constexpr std::uint64_t kMpegPsAndVideoMostSilence = 256 * 1024;  // without a start code in bare video
 constexpr std::uint64_t kVideoDiscSector = 2324;                  // of a Video CD, one pack each
 constexpr std::uint64_t kFewCodes = 4;                            // fewer start codes do not make a video
+constexpr std::uint8_t kFirstSlice = 0x01, kLastSlice = 0xAF;
 
 // The code behind 00 00 01 at `at`; nothing when no start code stands there.
 std::optional<std::uint8_t> startCode(ByteView& view, std::uint64_t at) {
@@ -154,6 +155,13 @@ Extent walkMpegVideo(ByteView& view) {
             const auto filled = startOfZeros(view, at + 4, next.at);
             if (next.at - filled > 2)
                 return inexact(completeAt(view, filled, facts));
+        }
+        const auto before = startCode(view, at).value_or(0);
+        if (codes >= kFewCodes && before >= kFirstSlice && before <= kLastSlice) {
+            const auto filled = startOfZeros(view, at + 4, next.at);
+            const auto end = endOfSlice(view, at + 4, filled);
+            if (end < filled)
+                return inexact(completeAt(view, end, facts));
         }
         longest = std::max(longest, next.at - at);
         at = next.at;

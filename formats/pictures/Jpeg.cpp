@@ -276,12 +276,11 @@ Extent JpegWalk::walkPicture() {
     return step == Step::Cut ? cutOffAt(m_view, m_at, m_facts) : damagedAt(m_view, m_at, m_facts);
 }
 
-// Pictures that follow at once, as maps of brightness or depth do, belong to the file though no index lists
-// them. What begins at a sector's start is the next file.
+// Pictures that follow at once, as maps of brightness or depth and the frames of a bare movie do, belong to
+// the file though no index lists them. What begins at a sector's start is the next file.
 Extent JpegWalk::picturesDirectlyBehind(Extent extent) {
-    for (std::uint64_t i = 0; i < kMostPictures && extent.verdict == Verdict::Complete; ++i) {
-        if (isSectorStart(extent.end) || !m_view.matches(extent.end, "\xFF\xD8\xFF"))
-            break;
+    while (extent.verdict == Verdict::Complete && !isSectorStart(extent.end) &&
+           m_view.matches(extent.end, "\xFF\xD8\xFF")) {
         const Extent further = JpegWalk(m_view, extent.end).walkPicture();
         if (further.verdict == Verdict::Unknown)
             break;

@@ -1,4 +1,6 @@
 // Sun raster pictures. Source: Sun rasterfile(5).
+#include <algorithm>
+
 #include "formats/Format.h"
 
 namespace vantor {
@@ -21,12 +23,14 @@ Extent walkSunRaster(ByteView& view) {
     if (facts.width == 0 || facts.height == 0 || (depth != 1 && depth != 8 && depth != 24 && depth != 32) ||
         type > 5 || colours > 1 << 20)
         return unknownExtent();
-    // Old files leave the length out; their rows are padded to sixteen bits.
-    constexpr std::uint32_t kPacked = 2;
+    // Old files leave the length out; rows are padded to sixteen bits, which some writers do not count in it.
+    constexpr std::uint32_t kPacked = 2, kColoursInOrder = 3;
     if (told == 0 && type == kPacked)
         return unknownExtent();
     const std::uint64_t rows = mulClamped((facts.width * depth + 15) / 16 * 2, facts.height);
-    return completeAt(view, addClamped(32 + colours, told != 0 ? told : rows), facts);
+    const bool plain = type != kPacked && type <= kColoursInOrder;
+    const auto bytes = plain ? std::max(told, rows) : told != 0 ? told : rows;
+    return completeAt(view, addClamped(32 + colours, bytes), facts);
 }
 
 }  // namespace

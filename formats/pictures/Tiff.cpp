@@ -20,6 +20,7 @@ enum Tag : std::uint16_t {
     kTileOffsets = 324,
     kTileByteCounts = 325,
     kSubDirectories = 330,
+    kXmp = 700,
     kJpegOffset = 513,
     kJpegBytes = 514,
     kPanasonicWidth = 2,
@@ -39,7 +40,7 @@ enum Tag : std::uint16_t {
 };
 
 constexpr std::uint64_t kRepeated = 4;
-constexpr std::uint16_t kPanasonicMagic = 0x55;
+constexpr std::uint16_t kPanasonicMagic = 0x55, kJpegXrMagic = 0x01BC;
 constexpr std::size_t kMostDirectories = 512;
 constexpr std::uint64_t kMostPieces = 1 << 21;  // strips and tiles of one directory
 constexpr std::uint64_t kMostValueBytes = 1 << 30;
@@ -51,7 +52,7 @@ constexpr std::size_t kMostStretches = 64;
 // TIFF, BigTIFF, the makers' own (Panasonic; Olympus two, one of them in either order of bytes), and JPEG XR.
 bool isKnownMagic(std::uint16_t magic) {
     return magic == 42 || magic == 43 || magic == kPanasonicMagic || magic == 0x4F52 || magic == 0x5352 ||
-           magic == 0x01BC;
+           magic == kJpegXrMagic;
 }
 
 class TiffWalk {
@@ -82,6 +83,7 @@ class TiffWalk {
     void cover(std::uint64_t from, std::uint64_t end);
     std::uint64_t coveredEnd() const;
     bool repeatsItsLastBytes();
+    std::uint64_t behindFrameFilling();
 
     ByteView& m_view;
     const TiffHeader m_header;
@@ -95,7 +97,7 @@ class TiffWalk {
     std::uint64_t m_end = 0;
     bool m_broken = false;
     bool m_padsPieces = false;  // to even lengths, the last one as those before it
-    bool m_hasExif = false;     // what writes it, cameras and editors, leaves an even length
+    bool m_hasNotes = false;    // Exif or XMP: what writes them, cameras and editors, leaves an even length
     bool m_padded = false;      // to four bytes, as the writer of Photoshop's own tag does
     Facts m_facts;
 };
@@ -188,8 +190,11 @@ void TiffWalk::entry(const TiffEntry& entry, Found& found) {
         case kXrAlphaBytes:
             found.xrAlpha.bytes = entry;
             break;
+        case kXmp:
+            m_hasNotes = m_hasNotes || m_header.magic != kJpegXrMagic;
+            break;
         case kTiffExif:
-            m_hasExif = true;
+            m_hasNotes = true;
             [[fallthrough]];
         case kGps:
         case kInterop:
@@ -323,6 +328,22 @@ bool TiffWalk::repeatsItsLastBytes() {
     return last && last == again;
 }
 
+// Some programs append each page as a file of its own that begins at a multiple of sixteen bytes, its
+// directory eight behind, and fill the last one too. `m_end` where the pages do not lie so.
+std::uint64_t TiffWalk::behindFrameFilling() {
+    constexpr std::uint64_t kFrame = 16, kHeader = 8;
+    for (std::size_t i = 0; i < m_known; ++i) {
+        if (m_directories[i] % kFrame != kHeader || m_directories[i] + kFrame > m_end)
+            return m_end;
+    }
+    const auto end = (m_end + kFrame - 1) / kFrame * kFrame;
+    for (auto at = m_end; at < end; ++at) {
+        if (m_view.u8(at) != std::uint8_t{0})
+            return m_end;
+    }
+    return m_known > 1 ? end : m_end;
+}
+
 Extent TiffWalk::walk() {
     enqueue(m_header.firstDirectory);
     for (std::size_t i = 0; i < m_known; ++i)
@@ -339,7 +360,9 @@ Extent TiffWalk::walk() {
     }
     if (repeatsItsLastBytes())
         m_end += kRepeated;
-    else if ((m_padsPieces || m_hasExif) && m_end % 2 != 0 && m_view.u8(m_end) == 0)
+    else if (const auto filled = behindFrameFilling(); filled != m_end)
+        m_end = filled;
+    else if ((m_padsPieces || m_hasNotes) && m_end % 2 != 0 && m_view.u8(m_end) == 0)
         ++m_end;
     return inexact(completeAt(m_view, m_end, m_facts));
 }

@@ -52,6 +52,8 @@ Bytes exrAttribute(std::string_view name, std::string_view type, const Bytes& va
 // The head of a compound file of 512-byte sectors, up to the count of its tables.
 Bytes compoundHead();
 // One small file, closed and padded to a record of 10,240 bytes.
+// Units of H.264 (heads of a byte) or H.265 (of two), each behind a start code.
+Bytes codedUnits(std::initializer_list<std::uint64_t> heads, int headBytes);
 Bytes tar();
 Bytes zipEntry(std::string_view name, const Bytes& content);
 Bytes zip(std::string_view name, const Bytes& content, std::string_view comment = {});

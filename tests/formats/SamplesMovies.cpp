@@ -69,7 +69,9 @@ Bytes element(std::uint64_t id, int idBytes, const Bytes& body) {
 }
 
 Bytes matroska(bool open) {
-    const Bytes cluster = Build().add(element(0xE7, 1, {0})).add(element(0xA3, 1, Bytes(40, 7)));
+    const Bytes cluster = Build()
+                              .add(element(0xE7, 1, {0}))
+                              .add(element(0xA3, 1, Build().u8(0x81).be16(0).u8(0x80).fill(36, 7)));
     Build inner;
     inner.add(element(0x1549A966, 4, element(0x4461, 2, Build().be64(0))));
     inner.add(element(
@@ -260,6 +262,16 @@ Bytes flash() {
 
 }  // namespace
 
+Bytes codedUnits(std::initializer_list<std::uint64_t> heads, int headBytes) {
+    Build out;
+    for (const std::uint64_t head : heads) {
+        out.be32(1);
+        headBytes == 1 ? out.u8(head) : out.be16(head);
+        out.fill(300, 0x5A).be32(0x00000301).fill(20, 0x5A).u8(0x80);
+    }
+    return out;
+}
+
 std::vector<Sample> movieSamples() {
     return {{"MP4", mp4()},
             {"HEIC", heic()},
@@ -275,7 +287,9 @@ std::vector<Sample> movieSamples() {
             {"TS", transport(0), false},
             {"MTS", transport(4), false},
             {"MPG", program()},
-            {"M2V", video()}};
+            {"M2V", video()},
+            {"H264", codedUnits({0x67, 0x68, 0x65, 0x41, 0x01, 0x41}, 1), false},
+            {"H265", codedUnits({0x4001, 0x4201, 0x4401, 0x2601, 0x0201, 0x0202}, 2), false}};
 }
 
 std::vector<Sample> soundSamples() {

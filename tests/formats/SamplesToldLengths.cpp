@@ -31,6 +31,9 @@ Bytes le64(std::uint64_t value) {
     return Build().le64(value);
 }
 
+// Of a OneNote section that a computer wrote.
+const Bytes kRevisionStore = Build().be64(0x3FDD9A101B91F549).be64(0xA5D01791EDC8AED8);
+
 }  // namespace
 
 std::vector<Sample> toldLengthSamples() {
@@ -94,10 +97,12 @@ std::vector<Sample> toldLengthSamples() {
         {"FIT", grown(40, {{0, {14}}, {4, le32(24)}, {8, text(".FIT")}})},
         {"CRAMFS", grown(90, {{0, le32(0x28CD3D45)}, {4, le32(90)}, {16, text("Compressed ROMFS")}})},
         {"UIMAGE", grown(100, {{0, be32(0x27051956)}, {12, be32(36)}})},
-        {"ONE",
-         grown(1100, {{0, Build().be64(0xE4525C7B8CD8A74D).be64(0xAEB15378D02996D3)}, {196, le64(1100)}})},
-        {"ONETOC2",
-         grown(1100, {{0, Build().be64(0xA12FFF43D9EF764C).be64(0x9EE210EA5722765F)}, {196, le64(1100)}})},
+        {"ONE", grown(1100, {{0, Build().be64(0xE4525C7B8CD8A74D).be64(0xAEB15378D02996D3)},
+                             {48, kRevisionStore},
+                             {196, le64(1100)}})},
+        {"ONETOC2", grown(1100, {{0, Build().be64(0xA12FFF43D9EF764C).be64(0x9EE210EA5722765F)},
+                                 {48, kRevisionStore},
+                                 {196, le64(1100)}})},
         {"HDF5", grown(120, {{0, text("\x89HDF\r\n\x1A\n")}, {13, {8, 8}}, {40, le64(120)}})},
         {"E57", grown(1100, {{0, text("ASTM-E57")}, {16, le64(1100)}})},
         {"ROOT", grown(150, {{0, text("root")}, {4, be32(60000)}, {8, be32(100)}, {12, be32(150)}})},
