@@ -22,7 +22,8 @@ namespace {
 // error.
 void say(const CliOptions& options, const QString& line) {
     if (!options.quiet) {
-        std::fprintf(options.listJson ? stderr : stdout, "%s\n", qPrintable(line));
+        // A folder may be named to speak to the terminal.
+        std::fprintf(options.listJson ? stderr : stdout, "%s\n", qPrintable(steeringSpeltOut(line)));
     }
 }
 
