@@ -96,6 +96,7 @@ void CliSession::run() {
                 giveBackPhotoBytes(std::move(task.firstBytes));
             },
             m_liesOnMedium);
+        m_savedInto = m_queue->saver().destination();
     }
     if (m_options.mode == kPhotoMode) {
         Photo_Rec_Thread();
@@ -129,6 +130,15 @@ void CliSession::finishSaving() {
     m_outcomes.clear();
     saveToldFiles();
     m_queue.reset();
+}
+
+bool CliSession::destinationKeepsAll() {
+    if (!m_savedInto || m_savedInto->keeps(m_tally, m_reported)) {
+        return true;
+    }
+    m_told = 0;
+    m_mendingLines.clear();
+    return false;
 }
 
 void CliSession::saveToldFiles() {

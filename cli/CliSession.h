@@ -88,7 +88,7 @@ class CliSession : private CliView, public ScanSession {
     // Where to save, in place of the folder that the options name.
     void setDestination(const QString& folder) { m_options.saveFolder = folder; }
     // Asked before each file is saved.
-    void setLiesOnMedium(ItemSaver::LiesOnMedium asked) { m_liesOnMedium = std::move(asked); }
+    void setLiesOnMedium(Destination::LiesOnMedium asked) { m_liesOnMedium = std::move(asked); }
 
     // Ticks the chosen types and cuts the catalogues; the types that no catalogue has, when there are any.
     QStringList chooseTypes(const QStringList& types);
@@ -104,6 +104,10 @@ class CliSession : private CliView, public ScanSession {
     const QStringList& mendingLines() const { return m_mendingLines; }
     bool mendingFailed() const { return m_mendingFailed; }
     const CompletionProgress& completing() const { return m_completing; }
+
+    // To be asked behind everything that is saved: false once the destination has gone, and what was saved
+    // counts as failed then.
+    bool destinationKeepsAll();
 
     // An object for each item, and one for the end. Raw items get their checksums from a copy of their
     // sectors as the preview makes it; false when not all could be read.
@@ -148,8 +152,9 @@ class CliSession : private CliView, public ScanSession {
     std::size_t m_firstThorough = 0;          // items before it are of the general pass
     std::deque<std::array<char, 32>> m_sums;  // of photos, where they are listed
     std::deque<SaveOutcome> m_outcomes;       // where a report is wanted; the saving thread's until it ends
-    ItemSaver::LiesOnMedium m_liesOnMedium;
-    std::unique_ptr<SaveQueue> m_queue;  // while a scan runs that saves
+    Destination::LiesOnMedium m_liesOnMedium;
+    std::shared_ptr<Destination> m_savedInto;  // null before run(), and where nothing is saved
+    std::unique_ptr<SaveQueue> m_queue;        // while a scan runs that saves
     std::vector<ReportedItem> m_reported;
     SaveTally m_tally;  // the saving thread's until it ends
     std::size_t m_told = 0;

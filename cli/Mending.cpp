@@ -96,7 +96,7 @@ bool CliSession::takeMend(const MendableItem& item, Mend made, SectorReader& med
     source.carved = item.carved;
     source.medium = [&medium] { return &medium; };
     source.mediumSectors = medium.mediumSectors();
-    const TwinPlace place = placeOfTwin(m_options.saveFolder, {item.type, item.name, source}, {});
+    const TwinPlace place = placeOfTwin(m_savedInto, {item.type, item.name, source}, {});
     SaveOutcome outcome = writeTwin(
         place, mend, source, [this] { return stop_now != 0; }, m_options.report);
     const bool saved = outcome.saved;

@@ -69,7 +69,7 @@ void tellSaving(const CliSession& session, const CliOptions& options) {
         for (const QString& failure : tally.failures) {
             complain(QStringLiteral("  ") + failure);
         }
-        if (static_cast<std::uint64_t>(tally.failures.size()) < tally.failed) {
+        if (tally.failedBeside(tally.failures.size()) != 0) {
             complain(QObject::tr("  and others"));
         }
     }
@@ -81,19 +81,32 @@ void tellMending(const CliSession& session, const CliOptions& options) {
     }
 }
 
-// False after saying why the report could not be written.
-bool writeReportOf(const CliSession& session, const CliOptions& options, ReportHead head) {
+WrittenReport writeReportOf(const CliSession& session, const CliOptions& options, ReportHead head) {
     head.mode = wordsForMode(options.mode);
     head.ended = QDateTime::currentDateTime();
     head.searchEnd = searchEndHeadline(session.searchEnd());
-    const WrittenReport written =
-        writeReport(QDir(options.saveFolder).absolutePath(), head, session.reportedItems());
+    return writeReport(QDir(options.saveFolder).absolutePath(), head, session.reportedItems());
+}
+
+// False after saying why the report could not be written. What was saved is told last, when nothing can
+// happen to it any more that the user would not see.
+bool tellDestination(CliSession& session, const CliOptions& options, const ReportHead& head) {
+    WrittenReport written;
+    if (session.destinationKeepsAll() && options.report) {
+        written = writeReportOf(session, options, head);
+        if (!session.destinationKeepsAll()) {
+            written = {};
+        }
+    }
+    tellSaving(session, options);
+    tellMending(session, options);
+    if (!written.html.isEmpty() && written.error.isEmpty()) {
+        say(options, QObject::tr("Report: %1").arg(withShownPaths(written.html)));
+    }
     if (!written.error.isEmpty()) {
         complain(written.error);
-        return false;
     }
-    say(options, QObject::tr("Report: %1").arg(withShownPaths(written.html)));
-    return true;
+    return written.error.isEmpty();
 }
 
 int exitCodeOf(const CliSession& session) {
@@ -142,8 +155,7 @@ void complain(const QString& text) {
     std::fprintf(stderr, "vantor-recovery-cli: %s\n", qPrintable(lines.join(u'\n')));
 }
 
-int tell(const CliSession& session, const CliOptions& options, const CliMedium& medium,
-         const ReportHead& head) {
+int tell(CliSession& session, const CliOptions& options, const CliMedium& medium, const ReportHead& head) {
     for (const QString& alert : session.alerts()) {
         complain(alert);
     }
@@ -154,11 +166,7 @@ int tell(const CliSession& session, const CliOptions& options, const CliMedium& 
     } else if (!options.quiet) {
         printTable(session);
     }
-    if (!options.saveFolder.isEmpty()) {
-        tellSaving(session, options);
-        tellMending(session, options);
-    }
-    if (options.report && !writeReportOf(session, options, head)) {
+    if (!options.saveFolder.isEmpty() && !tellDestination(session, options, head)) {
         return kExitDestinationTrouble;
     }
     // A list that a full disk cut short looks complete to a script.

@@ -15,8 +15,7 @@ namespace vantor {
 void complain(const QString& text);
 
 // All that there is to say of the search, its list and report included; the exit code.
-int tell(const CliSession& session, const CliOptions& options, const CliMedium& medium,
-         const ReportHead& head);
+int tell(CliSession& session, const CliOptions& options, const CliMedium& medium, const ReportHead& head);
 
 // False after saying that the copy could not be written to its end.
 bool tellCopy(const MediumCopy& copy, const CliOptions& options);

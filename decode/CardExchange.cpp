@@ -13,6 +13,8 @@ namespace {
 
 constexpr std::size_t kMostListed = 16'000'000;
 constexpr qsizetype kMostNameLength = 255;
+// A file record has no more room.
+constexpr qsizetype kMostContentBytes = 4096;
 constexpr std::uint32_t kMostClusterSectors = 1 << 16;
 // Times outside the years 1600 to 3000 are damage.
 constexpr std::int64_t kEarliest = -11'700'000'000;
@@ -30,6 +32,10 @@ class ByteGiver {
         for (const QChar c : text) {
             number(c.unicode(), 2);
         }
+    }
+    void bytes(const QByteArray& bytes) {
+        number(static_cast<std::uint64_t>(bytes.size()), 4);
+        m_bytes.insert(m_bytes.end(), bytes.begin(), bytes.end());
     }
     void time(const std::optional<std::int64_t>& seconds) {
         number(seconds ? 1 : 0, 1);
@@ -72,6 +78,7 @@ void give(const CardFile& file, ByteGiver& to) {
     for (std::size_t i = 0; i < runs; ++i) {
         to.run(file.runs[i]);
     }
+    to.bytes(file.contents.left(kMostContentBytes));
 }
 
 void give(const CardFileSystem& system, ByteGiver& to) {
@@ -138,6 +145,16 @@ class ByteTaker {
             text += QChar(static_cast<char16_t>(number(2)));
         }
         return text;
+    }
+    QByteArray bytes(qsizetype most) {
+        const std::uint64_t length = number(4);
+        if (length > static_cast<std::uint64_t>(most) || length > m_bytes.size() - m_at) {
+            m_ok = false;
+            return {};
+        }
+        m_at += length;
+        return {reinterpret_cast<const char*>(m_bytes.data() + m_at - length),
+                static_cast<qsizetype>(length)};
     }
     bool flag() {
         const std::uint64_t value = number(1);
@@ -255,9 +272,12 @@ bool TableReader::takeFile(ByteTaker& from) {
         }
         sectors += file.runs.back().end - file.runs.back().first;
     }
+    file.contents = from.bytes(kMostContentBytes);
+    const auto held = static_cast<std::uint64_t>(file.contents.size());
+    const bool fits = held == 0 || (held == sectors * 512 && file.bytes <= held);
     // No file is larger than the medium, nor are its pieces together.
-    if (!from.ok() || file.bytes / 512 > m_sectors || file.validBytes > file.bytes || sectors > m_sectors ||
-        file.clusterSectors == 0 || file.clusterSectors > kMostClusterSectors ||
+    if (!from.ok() || !fits || file.bytes / 512 > m_sectors || file.validBytes > file.bytes ||
+        sectors > m_sectors || file.clusterSectors == 0 || file.clusterSectors > kMostClusterSectors ||
         m_table.files.size() >= kMostFiles || cleanName(file.name) != file.name ||
         (!isKnownFolder && !isCleanFolder(file.folder))) {
         return false;

@@ -14,9 +14,6 @@ bool looksErased(SectorReader& medium, std::uint64_t sectors, const CardHelperOp
     if (medium.isGone() || written.size() > kLooksForErasure / 8) {
         return false;
     }
-    if (written.empty()) {
-        return isErased(source, written, {});
-    }
     const auto table = readCardInHelper(medium, sectors, {}, {}, options);
     return table && isErased(source, written, *table);
 }

@@ -40,7 +40,17 @@ const CachedSource::Piece& CachedSource::piece(std::uint64_t number) {
     return made;
 }
 
+bool CachedSource::isFirstLook(std::uint64_t number) {
+    std::uint64_t& looked = m_looked[number % m_looked.size()];
+    const bool isFirst = looked != number + 1 && !m_pieces.contains(number);
+    looked = number + 1;
+    return isFirst;
+}
+
 bool CachedSource::readAt(std::uint64_t sector, std::span<std::uint8_t> into) {
+    if (into.size() == kCachedSector && sector < sectors() && isFirstLook(sector / kPieceSectors)) {
+        return m_source.readAt(sector, into);
+    }
     bool all = true;
     for (std::size_t done = 0; done < into.size(); done += kCachedSector, ++sector) {
         const Piece* from = sector < sectors() ? &piece(sector / kPieceSectors) : nullptr;

@@ -1,6 +1,7 @@
 // Keeps the pieces of a medium that were read last.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <list>
 #include <unordered_map>
@@ -10,7 +11,9 @@
 
 namespace vantor {
 
-// Directories lie close to each other, and a medium gives much at a time as fast as little.
+// Directories lie close to each other, and a medium gives much at a time as fast as little. A look at one
+// sector far from all others, as at where a file began, reads that one: the piece around it comes with the
+// second look.
 class CachedSource final : public SectorSource {
   public:
     static constexpr std::uint64_t kPieceSectors = 512;  // 256 KiB
@@ -27,11 +30,14 @@ class CachedSource final : public SectorSource {
         std::vector<bool> isRead;  // one a sector
     };
 
+    bool isFirstLook(std::uint64_t number);
     const Piece& piece(std::uint64_t number);
 
     SectorSource& m_source;
     std::unordered_map<std::uint64_t, Piece> m_pieces;
     std::list<std::uint64_t> m_order;  // the piece asked for last is first
+    // Pieces that one sector was read of, by the lowest part of their number; one more than that.
+    std::array<std::uint64_t, 256> m_looked{};
 };
 
 }  // namespace vantor

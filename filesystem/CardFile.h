@@ -1,6 +1,7 @@
 // A file as a card's own directory tells of it.
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <cstdint>
 #include <optional>
@@ -30,7 +31,7 @@ enum class RunsKnownBy {
 // medium and do not repeat, names hold nothing that a path may not hold.
 struct CardFile {
     // As on the card, parts joined by '/'; without one at either end; "" for the root. A folder whose own
-    // name is gone is "folder-" and the number of the cluster that it began in.
+    // name is gone is "folder-" and the number of the cluster that it began in, on NTFS of its record.
     QString folder;
     QString name;  // with its extension; "" when only the place is known
     // false where the first letter was lost with the deletion: '_' stands for it, or the letter that the
@@ -44,6 +45,9 @@ struct CardFile {
     std::optional<std::int64_t> created;
     std::vector<SectorRun> runs;  // in the order of the file's bytes; whole clusters
     RunsKnownBy runsKnownBy = RunsKnownBy::Guess;
+    // The file's bytes, with zeros up to a whole sector, where its own record holds them (NTFS); in the
+    // record some of them stand elsewhere. `runs` are then as many sectors of the record.
+    QByteArray contents;
     // Where the file began there is something now that a current file system still holds as there.
     bool beginningIsInUse = false;
     std::uint32_t clusterSectors = 0;  // of the file system it lived on

@@ -128,7 +128,7 @@ class VolumesReader {
                               [](const CardFileSystem& system) { return system.isCurrent; });
         for (CardFile& file : m_table.files) {
             file.beginningIsInUse = file.state != FileState::Live && !file.runs.empty() &&
-                                    m_table.isInUse(file.runs.front().first);
+                                    file.contents.isEmpty() && m_table.isInUse(file.runs.front().first);
         }
         const auto key = [](const CardFile& file) {
             return std::tie(file.state, file.folder, file.name, file.bytes, file.modified);

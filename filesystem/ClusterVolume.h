@@ -107,6 +107,7 @@ class ClusterVolume {
     void queueFolders(std::size_t directory, std::vector<Pending>& live, std::vector<Pending>& deleted);
     void readAll(std::vector<Pending> live, std::vector<Pending> deleted);
 
+    std::optional<std::uint64_t> endOfLastFile(const CardDirectory& directory) const;
     void joinParts();
     void nameFromStandard();
     void restoreFirstLetters();

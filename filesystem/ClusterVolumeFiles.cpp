@@ -114,7 +114,7 @@ void ClusterVolume::placeGone(const DirectoryEntry& entry, const FoundStarts& fo
 bool ClusterVolume::beginsOtherwise(std::uint32_t cluster, const DirectoryEntry& entry,
                                     const FoundStarts& found) {
     const std::uint64_t place = m_shape.sectorOf(cluster);
-    if (m_goneStepsLeft == 0 || found.isAt(place, entry.name)) {
+    if (m_goneStepsLeft == 0 || found.isAt(place, entry.name) || !knowsBeginningOf(entry.name)) {
         return false;
     }
     --m_goneStepsLeft;

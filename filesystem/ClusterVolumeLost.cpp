@@ -43,8 +43,24 @@ bool goesOn(const std::vector<std::uint8_t>& last, const std::vector<std::uint8_
 
 }  // namespace
 
-// Parts that a directory goes on in: an entry that lies across the seam proves it. The likeliest is the next
-// one on the card.
+// Of a directory that may go on elsewhere: the sector behind the file that was its last when its rows were
+// full. The next cluster that was taken is the directory's own.
+std::optional<std::uint64_t> ClusterVolume::endOfLastFile(const CardDirectory& directory) const {
+    if (directory.openEnd.empty() || !directory.hasClusters || directory.rows.entries.empty()) {
+        return std::nullopt;
+    }
+    const DirectoryEntry& last = directory.rows.entries.back();
+    if (last.isFolder || last.bytes == 0 || !m_shape.holds(last.cluster)) {
+        return std::nullopt;
+    }
+    const std::uint64_t clusters = clustersFor(last.bytes);
+    return clusters < m_shape.clusters
+               ? std::optional(m_shape.sectorOf(last.cluster) + clusters * m_shape.clusterSectors)
+               : std::nullopt;
+}
+
+// Parts that a directory goes on in: an entry that lies across the seam proves it, or the place. The
+// likeliest is the next one on the card.
 void ClusterVolume::joinParts() {
     std::vector<std::size_t> parts;
     for (std::size_t at = 0; at < m_directories.size(); ++at) {
@@ -58,6 +74,16 @@ void ClusterVolume::joinParts() {
     std::size_t left = kMostJoins;
     for (std::size_t before = 0; before < m_directories.size(); ++before) {
         CardDirectory& directory = m_directories[before];
+        if (const auto next = endOfLastFile(directory)) {
+            const auto part = std::lower_bound(
+                parts.begin(), parts.end(), *next,
+                [this](std::size_t at, std::uint64_t sector) { return m_directories[at].sector < sector; });
+            if (part != parts.end() && *part != before && m_directories[*part].sector == *next &&
+                !m_directories[*part].partOf) {
+                m_directories[*part].partOf = before;
+                continue;
+            }
+        }
         if (!endsWithinEntry(directory.openEnd, isExfat())) {
             continue;
         }
@@ -135,16 +161,19 @@ void ClusterVolume::nameFromStandard() {
 
 void ClusterVolume::restoreFirstLetters() {
     FirstLetters letters;
+    const auto where = [](std::size_t folder, std::size_t number, const DirectoryEntry& entry) {
+        return FirstLetters::Where{folder, number, entry.created.value_or(entry.modified.value_or(0))};
+    };
     for (std::size_t at = 0; at < m_directories.size(); ++at) {
         const auto& entries = m_directories[at].rows.entries;
         for (std::size_t entry = 0; entry < entries.size(); ++entry) {
             if (entries[entry].nameIsWhole) {
-                letters.learn(entries[entry].name, at, entry);
+                letters.learn(entries[entry].name, where(at, entry, entries[entry]));
             }
         }
     }
-    const auto restore = [&](QString& name, std::size_t folder, std::size_t entry) {
-        if (const auto letter = letters.of(name, folder, entry)) {
+    const auto restore = [&](QString& name, const FirstLetters::Where& at) {
+        if (const auto letter = letters.of(name, at)) {
             name.front() = *letter;
         }
     };
@@ -152,12 +181,13 @@ void ClusterVolume::restoreFirstLetters() {
         CardDirectory& directory = m_directories[at];
         if (!directory.nameIsWhole && directory.parent) {
             // Only its series and the standards tell a folder's.
-            restore(directory.name, *directory.parent, m_directories[*directory.parent].rows.entries.size());
+            restore(directory.name,
+                    {*directory.parent, m_directories[*directory.parent].rows.entries.size(), 0});
         }
         auto& entries = directory.rows.entries;
         for (std::size_t entry = 0; entry < entries.size(); ++entry) {
             if (!entries[entry].nameIsWhole) {
-                restore(entries[entry].name, at, entry);
+                restore(entries[entry].name, where(at, entry, entries[entry]));
             }
         }
     }

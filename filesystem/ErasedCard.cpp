@@ -33,7 +33,10 @@ std::vector<std::uint64_t> writtenPlaces(SectorSource& card) {
 }
 
 bool isErased(const SectorSource& card, const std::vector<std::uint64_t>& written, const CardTable& table) {
+    // Where few files were, none of the places need be theirs: the directory tells of them.
+    const auto isLost = [](const CardFile& file) { return file.state != FileState::Live && file.bytes != 0; };
     return card.sectors() >= kSmallestErased && written.size() <= kMostWritten &&
+           std::none_of(table.files.begin(), table.files.end(), isLost) &&
            std::all_of(written.begin(), written.end(),
                        [&](std::uint64_t sector) { return table.isInUse(sector); });
 }

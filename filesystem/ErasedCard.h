@@ -20,7 +20,7 @@ std::vector<std::uint64_t> writtenPlaces(SectorSource& card);
 
 // Whether the card reads as erased, given what of those places its own file systems hold: some cameras and
 // programs erase all of a card when they format it. Never for a card that has hardly more sectors than are
-// looked at.
+// looked at, nor where its directories tell of a file that is gone.
 bool isErased(const SectorSource& card, const std::vector<std::uint64_t>& written, const CardTable& table);
 
 }  // namespace vantor

@@ -1,6 +1,7 @@
 // Sources: the formats' own public descriptions.
 #include "filesystem/FileBeginning.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <string_view>
@@ -40,10 +41,20 @@ constexpr std::array kBeginnings{
     Beginning{u".docx.xlsx.pptx.", 0, "\xD0\xCF\x11\xE0"sv},  // encrypted
 };
 
+QString endingOf(const QString& name) {
+    return u'.' + name.mid(name.lastIndexOf(u'.') + 1).toLower() + u'.';
+}
+
 }  // namespace
 
+bool knowsBeginningOf(const QString& name) {
+    const QString ending = endingOf(name);
+    return std::any_of(kBeginnings.begin(), kBeginnings.end(),
+                       [&](const Beginning& one) { return one.endings.contains(ending); });
+}
+
 std::optional<bool> beginsLike(const QString& name, std::span<const std::uint8_t, 512> sector) {
-    const QString ending = u'.' + name.mid(name.lastIndexOf(u'.') + 1).toLower() + u'.';
+    const QString ending = endingOf(name);
     std::optional<bool> answer;
     for (const Beginning& one : kBeginnings) {
         if (!one.endings.contains(ending)) {

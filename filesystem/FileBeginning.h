@@ -8,6 +8,9 @@
 
 namespace vantor {
 
+// Whether beginsLike() knows how files of such a name begin.
+bool knowsBeginningOf(const QString& name);
+
 // Nothing for names whose files begin in no way of their own.
 std::optional<bool> beginsLike(const QString& name, std::span<const std::uint8_t, 512> sector);
 

@@ -49,7 +49,7 @@ QString seriesOf(const QString& name) {
 }
 
 struct Numbered {
-    QString rest;  // the name without its first letter and the number that ends its stem
+    QString rest;  // the name without its first letter and the number that ends its stem, or follows that
     std::size_t number = 0;
     qsizetype digits = 0;
 };
@@ -62,12 +62,18 @@ std::optional<Numbered> numberedOf(const QString& name) {
     while (isShort && digits + 1 < stem && isDigit(name[stem - 1 - digits])) {
         ++digits;
     }
+    qsizetype at = stem - digits;
+    if (isShort && digits == 0 && (isDigit(name.front()) || name.front() == u'_')) {
+        at = 1;
+        while (at + digits < stem && isDigit(name[at + digits])) {
+            ++digits;
+        }
+    }
     if (digits == 0) {
         return std::nullopt;
     }
-    const QString number = name.mid(stem - digits, digits);
-    return Numbered{(name.mid(1, stem - digits - 1) + u'#' + name.mid(stem)).toUpper(), number.toUInt(),
-                    digits};
+    const QString number = name.mid(at, digits);
+    return Numbered{(name.mid(1, at - 1) + u'#' + name.mid(at + digits)).toUpper(), number.toUInt(), digits};
 }
 
 bool saysMoreThanNumbers(const QString& series) {
@@ -119,30 +125,33 @@ void note(QHash<Key, QChar>& letters, const Key& series, QChar letter) {
 
 }  // namespace
 
-void FirstLetters::learn(const QString& name, std::size_t folder, std::size_t entry) {
+void FirstLetters::learn(const QString& name, const Where& where) {
     const QString series = seriesOf(name);
     const auto numbered = numberedOf(name);
     if (series.isEmpty() && !numbered) {
         return;
     }
     const QChar letter = name.front().toUpper();
-    m_taken.insert({folder, name.toUpper()});
+    m_taken.insert({where.folder, name.toUpper()});
     if (!series.isEmpty()) {
         note(m_onCard, series, letter);
-        note(m_inFolder, {folder, series}, letter);
+        note(m_inFolder, {where.folder, series}, letter);
     }
     if (numbered) {
-        m_numbered[{folder, numbered->rest}][letter].push_back({entry, numbered->number, numbered->digits});
+        const std::pair key(where.folder, numbered->rest);
+        m_numbered[key][letter].push_back({where.entry, numbered->number, numbered->digits});
+        if (where.time != 0) {
+            m_times[key][letter][numbered->number] = where.time;
+        }
     }
 }
 
 // Files that were written one after another stand so in their folder: the number fits between those before
 // and behind it of one letter, with an entry for each between them, and into no row of another letter's.
 // Where the number is nearly all of the name there may be no other entry among them.
-std::optional<QChar> FirstLetters::letterOfNeighbours(const QString& name, std::size_t folder,
-                                                      std::size_t entry) const {
+std::optional<QChar> FirstLetters::letterOfNeighbours(const QString& name, const Where& where) const {
     const auto own = numberedOf(name);
-    const auto known = own ? m_numbered.constFind({folder, own->rest}) : m_numbered.constEnd();
+    const auto known = own ? m_numbered.constFind({where.folder, own->rest}) : m_numbered.constEnd();
     if (known == m_numbered.constEnd()) {
         return std::nullopt;
     }
@@ -154,10 +163,10 @@ std::optional<QChar> FirstLetters::letterOfNeighbours(const QString& name, std::
         return rises &&
                (isWeak ? entries == after.number - before.number : entries >= after.number - before.number);
     };
-    const Place here{entry, own->number, own->digits};
+    const Place here{where.entry, own->number, own->digits};
     std::optional<QChar> told;
     for (const auto& [letter, places] : *known) {
-        const auto behind = std::upper_bound(places.begin(), places.end(), entry,
+        const auto behind = std::upper_bound(places.begin(), places.end(), where.entry,
                                              [](std::size_t at, const Place& one) { return at < one.entry; });
         const bool isFirst = behind == places.begin();
         const bool isLast = behind == places.end();
@@ -173,9 +182,67 @@ std::optional<QChar> FirstLetters::letterOfNeighbours(const QString& name, std::
     return told;
 }
 
-std::optional<QChar> FirstLetters::of(const QString& name, std::size_t folder, std::size_t entry) const {
+// Of several series in a folder only one has its numbers rise with the time through this one too.
+std::optional<QChar> FirstLetters::letterOfTime(const QString& name, const Where& where) const {
+    constexpr std::size_t kLeastOfSeries = 3;
+    const auto own = numberedOf(name);
+    const auto known = own ? m_times.constFind({where.folder, own->rest}) : m_times.constEnd();
+    if (known == m_times.constEnd() || where.time == 0 || seriesOf(name).isEmpty()) {
+        return std::nullopt;
+    }
+    std::optional<QChar> told;
+    for (const auto& [letter, times] : *known) {
+        const auto next = times.lower_bound(own->number);
+        const bool isLate = next != times.end() && next->second < where.time;
+        const bool isEarly = next != times.begin() && std::prev(next)->second > where.time;
+        if (isLate || isEarly) {
+            continue;
+        }
+        if (told || times.size() < kLeastOfSeries) {
+            return std::nullopt;
+        }
+        told = letter;
+    }
+    return told;
+}
+
+// Numbers that rise with each entry: those of the next entries known have the same distance from their
+// entries as this one, two of them beside each other, so that it is no series that takes turns with another.
+std::optional<QChar> FirstLetters::letterOfRow(const QString& name, const Where& where) const {
+    constexpr std::size_t kLeastOfRow = 3;
+    const auto own = numberedOf(name);
+    const auto known = own ? m_numbered.constFind({where.folder, own->rest}) : m_numbered.constEnd();
+    if (known == m_numbered.constEnd()) {
+        return std::nullopt;
+    }
+    std::optional<QChar> told;
+    for (const auto& [letter, places] : *known) {
+        const auto behind = std::upper_bound(places.begin(), places.end(), where.entry,
+                                             [](std::size_t at, const Place& one) { return at < one.entry; });
+        const auto before = static_cast<std::size_t>(behind - places.begin());
+        const std::size_t from = before - std::min(before, kLeastOfRow);
+        const std::size_t to = std::min(places.size(), before + kLeastOfRow);
+        bool isOne = to - from >= kLeastOfRow;
+        bool isDense = false;
+        for (std::size_t at = from; at < to && isOne; ++at) {
+            const bool sameLength = places[at].digits == own->digits || isLetter(letter);
+            isOne = sameLength && places[at].number - own->number == places[at].entry - where.entry;
+            isDense = isDense || (at > from && places[at].entry == places[at - 1].entry + 1);
+        }
+        if (!isOne || !isDense) {
+            continue;
+        }
+        if (told) {
+            return std::nullopt;
+        }
+        told = letter;
+    }
+    return told;
+}
+
+std::optional<QChar> FirstLetters::of(const QString& name, const Where& where) const {
     const QString series = seriesOf(name);
-    auto toldHere = m_inFolder.constFind({folder, series});
+    auto toldHere = m_inFolder.constFind({where.folder, series});
     std::optional<QChar> letter;
     if (toldHere != m_inFolder.constEnd()) {
         letter = *toldHere;
@@ -186,10 +253,12 @@ std::optional<QChar> FirstLetters::of(const QString& name, std::size_t folder, s
         letter = series.isEmpty() ? letterOfStandardName(name) : letterOfStandardSeries(series);
     }
     if (!letter || letter->isNull()) {
-        letter = letterOfNeighbours(name, folder, entry);
+        letter = letterOfNeighbours(name, where);
+        letter = letter ? letter : letterOfTime(name, where);
+        letter = letter ? letter : letterOfRow(name, where);
     }
     // Where another has the name, this one may be of another series.
-    if (!letter || m_taken.contains({folder, *letter + name.mid(1).toUpper()})) {
+    if (!letter || m_taken.contains({where.folder, *letter + name.mid(1).toUpper()})) {
         return std::nullopt;
     }
     const bool isSmall = name != name.toUpper() && name == name.toLower();

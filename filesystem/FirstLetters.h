@@ -6,6 +6,7 @@
 #include <QSet>
 #include <QString>
 #include <cstddef>
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <utility>
@@ -17,13 +18,20 @@ namespace vantor {
 // standard for cameras' folders and files (DCF) and that for AVCHD's.
 class FirstLetters {
   public:
-    // A name with all its letters, and the numbers of the folder that it stands in and of its entry there;
-    // those of a folder in their order.
-    void learn(const QString& name, std::size_t folder, std::size_t entry);
+    // Where a name stands: the numbers of its folder and of its entry there, and when its file was made or
+    // changed, in seconds since 1970 (0: not known).
+    struct Where {
+        std::size_t folder = 0;
+        std::size_t entry = 0;
+        std::int64_t time = 0;
+    };
+
+    // A name with all its letters; those of a folder in the order of its entries.
+    void learn(const QString& name, const Where& where);
 
     // The first letter of a name in which '_' stands for it; nothing where nobody tells, or two tell
     // differently. Those of the same folder are asked first.
-    std::optional<QChar> of(const QString& name, std::size_t folder, std::size_t entry) const;
+    std::optional<QChar> of(const QString& name, const Where& where) const;
 
   private:
     struct Place {
@@ -32,13 +40,18 @@ class FirstLetters {
         qsizetype digits = 0;
     };
     using Places = std::map<QChar, std::vector<Place>>;
+    // When the file of each number was made; of a number that came twice the last.
+    using Times = std::map<QChar, std::map<std::size_t, std::int64_t>>;
 
-    std::optional<QChar> letterOfNeighbours(const QString& name, std::size_t folder, std::size_t entry) const;
+    std::optional<QChar> letterOfNeighbours(const QString& name, const Where& where) const;
+    std::optional<QChar> letterOfTime(const QString& name, const Where& where) const;
+    std::optional<QChar> letterOfRow(const QString& name, const Where& where) const;
 
     // A null character: of several.
     QHash<QString, QChar> m_onCard;
     QHash<std::pair<std::size_t, QString>, QChar> m_inFolder;
     QHash<std::pair<std::size_t, QString>, Places> m_numbered;  // by the name without its number
+    QHash<std::pair<std::size_t, QString>, Times> m_times;      // likewise
     QSet<std::pair<std::size_t, QString>> m_taken;
 };
 

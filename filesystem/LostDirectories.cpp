@@ -163,17 +163,38 @@ bool LostDirectories::standsThere(const DirectoryEntry& entry, const VolumeShape
                                                : fatDirectoryBeginning(bytes.data()) == entry.cluster;
 }
 
+// Whether a file lies directly behind the part's cluster and the next one directly behind that: a directory
+// gets a further cluster when rows are added to it, and then their files get theirs. Tells of files, such as
+// texts, that nothing tells by how they begin.
+bool LostDirectories::followsPart(const std::vector<DirectoryEntry>& entries, const SectorRun& part,
+                                  const VolumeShape& shape) {
+    const std::uint64_t cluster = (part.end - 1 - shape.firstCluster) / shape.clusterSectors;
+    std::uint64_t next = shape.firstCluster + (cluster + 1) * shape.clusterSectors;
+    int found = 0;
+    for (const DirectoryEntry& entry : entries) {
+        const bool isThere = !entry.isFolder && entry.bytes != 0 && shape.holds(entry.cluster) &&
+                             shape.sectorOf(entry.cluster) == next;
+        if (isThere) {
+            const std::uint64_t clusterBytes = std::uint64_t{shape.clusterSectors} * 512;
+            next += ((entry.bytes - 1) / clusterBytes + 1) * shape.clusterSectors;
+            ++found;
+        }
+    }
+    return found >= 2;
+}
+
 std::size_t LostDirectories::evidence(const SectorRun& part, const VolumeShape& shape) {
     const bool exfat = shape.kind == FileSystemKind::Exfat;
+    const std::vector<DirectoryEntry> entries = rowsOf(part, exfat).entries;
     std::size_t hits = 0;
     std::size_t looks = 0;
-    for (const DirectoryEntry& entry : rowsOf(part, exfat).entries) {
+    for (const DirectoryEntry& entry : entries) {
         if (looks < kMostLooks && shape.holds(entry.cluster)) {
             ++looks;
             hits += standsThere(entry, shape) ? 1 : 0;
         }
     }
-    return hits;
+    return hits == 0 && followsPart(entries, part, shape) ? 1 : hits;
 }
 
 std::vector<ClusterSighting> LostDirectories::sightings(const std::vector<SectorRun>& parts, bool exfat) {

@@ -33,6 +33,8 @@ class LostDirectories {
     std::vector<ClusterSighting> sightings(const std::vector<SectorRun>& parts, bool exfat);
     // How much of what the parts say is found where the shape puts it.
     std::size_t evidence(const SectorRun& part, const VolumeShape& shape);
+    static bool followsPart(const std::vector<DirectoryEntry>& entries, const SectorRun& part,
+                            const VolumeShape& shape);
     bool standsThere(const DirectoryEntry& entry, const VolumeShape& shape);
     DirectoryRows rowsOf(const SectorRun& part, bool exfat);
     ClusterVolume* volumeOf(const VolumeShape& shape);

@@ -16,6 +16,7 @@ namespace {
 
 constexpr std::uint64_t kMostRecordSectors = std::uint64_t{1} << 21;
 constexpr std::size_t kMostLostRecords = 1'000'000;
+constexpr qsizetype kMostLostContents = qsizetype{64} << 20;
 // Files that are looked at where a shape puts them, for each shape.
 constexpr std::size_t kMostRecordLooks = 256;
 constexpr std::size_t kMostRecordSightings = 400'000;
@@ -64,6 +65,7 @@ std::vector<LostRecords::Records> LostRecords::tablesAt(const std::vector<Sector
     std::map<std::optional<std::int64_t>, Records> byBeginning;
     std::uint64_t left = kMostRecordSectors;
     std::size_t count = 0;
+    qsizetype contents = 0;
     std::vector<std::uint8_t> bytes;
     for (const SectorRun& run : traces) {
         const std::uint64_t end = std::min(run.end, m_card.sectors());
@@ -81,6 +83,11 @@ std::vector<LostRecords::Records> LostRecords::tablesAt(const std::vector<Sector
             if (!record) {
                 ++at;
                 continue;
+            }
+            record->sector = at;
+            contents += record->contents.size();
+            if (contents > kMostLostContents) {
+                record->contents.clear();
             }
             std::optional<std::int64_t> beginning;
             if (record->number) {

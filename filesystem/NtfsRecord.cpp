@@ -20,6 +20,7 @@ constexpr std::uint8_t kShortNamesOnly = 2;
 constexpr std::size_t kHeadBytes = 42;
 constexpr std::size_t kNumberedHeadBytes = 48;
 constexpr std::uint16_t kPackedOrEncrypted = 0x40FF;
+constexpr std::uint16_t kEncrypted = 0x4000;
 
 // Each sector's last two bytes are a mark; what belongs there stands in the record's head.
 bool putBackLastBytes(std::vector<std::uint8_t>& record) {
@@ -63,17 +64,21 @@ void readName(Bytes value, NtfsRecord& record) {
 }
 
 // Each run: a byte with the lengths of the two numbers that follow, how many clusters and how far from the
-// last run's beginning; without the second a hole.
-void readRuns(Bytes attribute, NtfsRecord& record) {
+// last run's beginning; without the second a hole. False where there are holes or nonsense.
+bool readRuns(Bytes attribute, std::vector<NtfsRun>& runs) {
+    bool isPlain = true;
     std::uint64_t cluster = 0;
+    constexpr std::size_t kHead = 64;
     std::size_t at = le16(attribute, 32);
+    if (at < kHead) {
+        return false;
+    }
     while (at < attribute.size() && attribute[at] != 0) {
         const std::size_t countBytes = attribute[at] & 15;
         const std::size_t stepBytes = attribute[at] >> 4;
         if (countBytes == 0 || countBytes > 8 || stepBytes > 8 ||
             at + 1 + countBytes + stepBytes > attribute.size()) {
-            record.isPlain = false;
-            return;
+            return false;
         }
         const std::uint64_t count = littleEndian(attribute, at + 1, countBytes);
         std::uint64_t step = littleEndian(attribute, at + 1 + countBytes, stepBytes);
@@ -82,12 +87,13 @@ void readRuns(Bytes attribute, NtfsRecord& record) {
         }
         cluster += step;
         if (stepBytes == 0) {
-            record.isPlain = false;
+            isPlain = false;
         } else {
-            record.runs.push_back({cluster, count});
+            runs.push_back({cluster, count});
         }
         at += 1 + countBytes + stepBytes;
     }
+    return isPlain;
 }
 
 void readData(Bytes attribute, NtfsRecord& record) {
@@ -95,6 +101,13 @@ void readData(Bytes attribute, NtfsRecord& record) {
     record.isResident = attribute[8] == 0;
     if (record.isResident) {
         record.bytes = record.validBytes = le32(attribute, 16);
+        // What lies in the record is never packed.
+        record.isPlain = (le16(attribute, 12) & kEncrypted) == 0;
+        const std::size_t at = le16(attribute, 20);
+        if (at <= attribute.size() && record.bytes <= attribute.size() - at) {
+            record.contents = QByteArray(reinterpret_cast<const char*>(attribute.data()) + at,
+                                         static_cast<qsizetype>(record.bytes));
+        }
         return;
     }
     record.firstCluster = le64(attribute, 16);
@@ -103,21 +116,24 @@ void readData(Bytes attribute, NtfsRecord& record) {
         record.bytes = le64(attribute, 48);
         record.validBytes = std::min(le64(attribute, 56), record.bytes);
     }
-    readRuns(attribute, record);
+    const bool isWhole = readRuns(attribute, record.runs);
+    record.isPlain = record.isPlain && isWhole;
 }
 
 void readAttribute(Bytes attribute, NtfsRecord& record) {
     const std::uint32_t type = le32(attribute, 0);
-    if (type == kData) {
-        // One with a name is another stream of the file.
-        if (attribute[9] == 0 && !record.hasData) {
-            readData(attribute, record);
-        }
+    // Data with a name are another stream of the file.
+    if (type == kData && attribute[9] == 0 && !record.hasData) {
+        readData(attribute, record);
+        return;
+    }
+    if (attribute[8] != 0) {
+        readRuns(attribute, record.otherRuns);
         return;
     }
     const std::size_t at = le16(attribute, 20);
     const std::size_t length = le32(attribute, 16);
-    if (attribute[8] != 0 || at > attribute.size() || length > attribute.size() - at) {
+    if (at > attribute.size() || length > attribute.size() - at) {
         return;
     }
     const Bytes value = attribute.subspan(at, length);

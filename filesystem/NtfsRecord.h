@@ -1,6 +1,7 @@
 // One file record of NTFS.
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <cstdint>
 #include <optional>
@@ -22,6 +23,7 @@ struct NtfsReference {
 };
 
 struct NtfsRecord {
+    std::uint64_t sector = 0;  // of the medium, where it begins; filled in by who read it
     bool isInUse = false;
     bool isFolder = false;
     std::uint16_t use = 0;                // grows each time that the record is given to another file
@@ -34,11 +36,14 @@ struct NtfsRecord {
     // Its contents: the attribute without a name, or a part of it.
     bool hasData = false;
     bool isResident = false;  // they lie in the record itself
+    QByteArray contents;      // of such a one
     bool isPlain = true;      // neither compressed nor encrypted nor with holes
     std::uint64_t bytes = 0;  // told by the first part alone
     std::uint64_t validBytes = 0;
     std::uint64_t firstCluster = 0;  // of the contents, with which this part begins
     std::vector<NtfsRun> runs;
+    // Of everything else that it holds: a folder's rows, further streams.
+    std::vector<NtfsRun> otherRuns;
 };
 
 // How many sectors the record beginning in this one takes, by its own head; 0 when none begins here.

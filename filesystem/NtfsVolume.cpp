@@ -15,6 +15,7 @@ constexpr std::uint64_t kFirstOfUsers = 24;
 constexpr std::uint64_t kRoot = 5;
 constexpr std::size_t kMostRecords = 2'000'000;
 constexpr std::uint64_t kMostRuns = 16'000'000;
+constexpr std::uint64_t kMostContents = std::uint64_t{128} << 20;
 
 std::uint64_t clustersOf(const std::vector<NtfsRun>& runs) {
     return std::accumulate(runs.begin(), runs.end(), std::uint64_t{0},
@@ -65,11 +66,8 @@ void NtfsVolume::tellLost(std::vector<NtfsRecord> records, CardTable& table) {
 }
 
 void NtfsVolume::tellFiles(CardTable& table) {
+    table.inUse.insert(table.inUse.end(), m_held.begin(), m_held.end());
     for (const auto& [number, record] : m_records) {
-        if (m_isCurrent && record.isInUse) {
-            const std::vector<SectorRun> runs = sectorsOf(record.runs);
-            table.inUse.insert(table.inUse.end(), runs.begin(), runs.end());
-        }
         if (number >= kFirstOfUsers && !record.isFolder && !record.name.isEmpty()) {
             tellFile(record, table);
         }
@@ -91,6 +89,7 @@ void NtfsVolume::readRecords(const std::vector<SectorRun>& places, std::uint64_t
             m_card.readAt(at, bytes);
             for (std::uint64_t in = 0; in < sectors && number < records; in += recordSectors, ++number) {
                 if (auto record = readNtfsRecord(std::span(bytes).subspan(in * 512, m_shape.recordBytes))) {
+                    record->sector = at + in;
                     keep(number, std::move(*record));
                 }
             }
@@ -100,10 +99,21 @@ void NtfsVolume::readRecords(const std::vector<SectorRun>& places, std::uint64_t
 }
 
 void NtfsVolume::keep(std::uint64_t number, NtfsRecord record) {
-    m_runsKept += record.runs.size();
+    m_runsKept += record.runs.size() + record.otherRuns.size();
+    m_contentsKept += static_cast<std::uint64_t>(record.contents.size());
+    if (m_contentsKept > kMostContents) {
+        record.contents.clear();
+    }
     if (m_records.size() >= kMostRecords || m_runsKept > kMostRuns) {
         return;
     }
+    for (const auto* const runs : {&record.runs, &record.otherRuns}) {
+        if (m_isCurrent && record.isInUse) {
+            const std::vector<SectorRun> sectors = sectorsOf(*runs);
+            m_held.insert(m_held.end(), sectors.begin(), sectors.end());
+        }
+    }
+    record.otherRuns = {};
     if (record.base.record == 0) {
         m_records.emplace(number, std::move(record));
     } else if (record.hasData) {
@@ -136,7 +146,7 @@ void NtfsVolume::joinParts() {
     }
 }
 
-// "" where a folder on the way has become another.
+// What one folder held stays together also where that has become another: "folder-" and its record's number.
 std::optional<QString> NtfsVolume::folderOf(const NtfsReference& parent) const {
     constexpr int kDeepest = 64;
     QString path;
@@ -146,16 +156,16 @@ std::optional<QString> NtfsVolume::folderOf(const NtfsReference& parent) const {
             return std::nullopt;
         }
         const auto folder = m_records.find(at.record);
-        if (folder == m_records.end()) {
-            return QString();
-        }
-        const NtfsRecord& record = folder->second;
         // A record that is given back counts its next use already.
         const bool isMeant =
-            record.use == at.use || (!record.isInUse && record.use == static_cast<std::uint16_t>(at.use + 1));
-        if (!record.isFolder || record.name.isEmpty() || !isMeant) {
-            return QString();
+            folder != m_records.end() && folder->second.isFolder && !folder->second.name.isEmpty() &&
+            (folder->second.use == at.use ||
+             (!folder->second.isInUse && folder->second.use == static_cast<std::uint16_t>(at.use + 1)));
+        if (!isMeant) {
+            prependFolder(QStringLiteral("folder-%1").arg(at.record), path);
+            break;
         }
+        const NtfsRecord& record = folder->second;
         if (!prependFolder(cleanName(record.name), path)) {
             break;
         }
@@ -170,6 +180,32 @@ const std::optional<QString>& NtfsVolume::knownFolderOf(const NtfsReference& par
         known->second = folderOf(parent);
     }
     return known->second;
+}
+
+void NtfsVolume::placeFile(const NtfsRecord& record, std::uint64_t sectors, CardFile& file) const {
+    if (record.isResident) {
+        constexpr qsizetype kSector = 512;
+        const qsizetype count = (record.contents.size() + kSector - 1) / kSector;
+        // No system makes records of more than 4 KiB.
+        if (count != 0 && count <= 8 &&
+            record.sector + static_cast<std::uint64_t>(count) <= m_card.sectors()) {
+            file.contents = record.contents.leftJustified(count * kSector, '\0');
+            file.runs = {{record.sector, record.sector + static_cast<std::uint64_t>(count)}};
+        }
+        return;
+    }
+    for (SectorRun run : sectorsOf(record.runs)) {
+        if (sectors == 0) {
+            break;
+        }
+        run.end = std::min(run.end, run.first + sectors);
+        sectors -= run.end - run.first;
+        file.runs.push_back(run);
+    }
+    if (sectors != 0 && !file.runs.empty()) {
+        // Not all of its runs are known.
+        file.runsKnownBy = RunsKnownBy::Guess;
+    }
 }
 
 void NtfsVolume::tellFile(const NtfsRecord& record, CardTable& table) {
@@ -189,19 +225,8 @@ void NtfsVolume::tellFile(const NtfsRecord& record, CardTable& table) {
     file.created = record.created;
     file.runsKnownBy = RunsKnownBy::Record;
     file.clusterSectors = m_shape.clusterSectors;
-    std::uint64_t left = clusters * m_shape.clusterSectors;
-    for (SectorRun run :
-         record.isPlain && !record.isResident ? sectorsOf(record.runs) : std::vector<SectorRun>{}) {
-        if (left == 0) {
-            break;
-        }
-        run.end = std::min(run.end, run.first + left);
-        left -= run.end - run.first;
-        file.runs.push_back(run);
-    }
-    if (left != 0 && !file.runs.empty()) {
-        // Not all of its runs are known.
-        file.runsKnownBy = RunsKnownBy::Guess;
+    if (record.isPlain) {
+        placeFile(record, clusters * m_shape.clusterSectors, file);
     }
     table.files.push_back(std::move(file));
 }

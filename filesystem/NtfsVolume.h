@@ -40,16 +40,19 @@ class NtfsVolume {
     std::optional<QString> folderOf(const NtfsReference& parent) const;
     // The same, made once.
     const std::optional<QString>& knownFolderOf(const NtfsReference& parent);
+    void placeFile(const NtfsRecord& record, std::uint64_t sectors, CardFile& file) const;
     void tellFile(const NtfsRecord& record, CardTable& table);
 
     SectorSource& m_card;
     const VolumeShape m_shape;
     const bool m_isCurrent;
     std::vector<SectorRun> m_places;
+    std::vector<SectorRun> m_held;  // by what is there
     std::map<std::uint64_t, NtfsRecord> m_records;
     // Further parts of a file's contents, by the record that they go on, in the order of its clusters.
     std::unordered_map<std::uint64_t, std::map<std::uint64_t, NtfsRecord>> m_parts;
     std::uint64_t m_runsKept = 0;
+    std::uint64_t m_contentsKept = 0;  // bytes
     std::map<std::pair<std::uint64_t, std::uint16_t>, std::optional<QString>> m_folders;
 };
 

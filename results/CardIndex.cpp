@@ -72,12 +72,16 @@ CardIndex::CardIndex(CardTable table) : m_table(std::move(table)) {
         if (file.runs.empty() || dataBytesOf(file) == 0) {
             continue;
         }
+        if (file.state == FileState::Live) {
+            m_live.insert(m_live.end(), file.runs.begin(), file.runs.end());
+        }
+        // One that its own record holds takes no place, and nothing begins where it does.
+        if (!file.contents.isEmpty()) {
+            continue;
+        }
         m_starts.push_back({file.runs.front().first, 0, &file});
         for (const SectorRun& run : file.runs) {
             m_claims.push_back({run.first, run.end, &file});
-        }
-        if (file.state == FileState::Live) {
-            m_live.insert(m_live.end(), file.runs.begin(), file.runs.end());
         }
     }
     joinRuns(m_live);

@@ -28,7 +28,9 @@ bool proves(const TrueLength& length, const Assembly& pieces, bool placesAreKnow
 }
 
 ItemSource sourceOf(const ItemSource& source, const Assembly& assembly) {
-    ItemSource pieces{{assembly.runs, source.carved.readFailed}, {}, source.medium, source.mediumSectors};
+    // Of a told file the bytes at hand are its own.
+    const QByteArrayView atHand = source.hints.told ? source.firstBytes : QByteArrayView();
+    ItemSource pieces{{assembly.runs, source.carved.readFailed}, atHand, source.medium, source.mediumSectors};
     pieces.asPublished = true;
     return pieces;
 }

@@ -18,7 +18,7 @@ bool holdsAnyOf(const CardFile& file, const std::vector<std::uint64_t>& starts) 
 
 // Whether its bytes are where the directory says, as far as can be told without looking at them.
 bool hasItsPlace(const CardFile& file, const CardIndex& card, const std::vector<std::uint64_t>& starts) {
-    if (file.state == FileState::Live) {
+    if (file.state == FileState::Live || !file.contents.isEmpty()) {
         return true;
     }
     if (card.isWrittenOver(file) || card.isDisputed(file) || holdsAnyOf(file, starts)) {

@@ -18,10 +18,10 @@ std::uint64_t firstByteOf(const FoundItem& item) {
 
 }  // namespace
 
-ItemSaver::ItemSaver(const QString& destination, const SavePolicy& policy, LiesOnMedium liesOnMedium)
-    : m_destination(destination),
+ItemSaver::ItemSaver(const QString& destination, const SavePolicy& policy,
+                     Destination::LiesOnMedium liesOnMedium)
+    : m_destination(std::make_shared<Destination>(destination, std::move(liesOnMedium))),
       m_policy(policy),
-      m_liesOnMedium(std::move(liesOnMedium)),
       m_state(std::make_unique<State>()) {}
 
 ItemSaver::~ItemSaver() = default;
@@ -33,8 +33,7 @@ SaveOutcome ItemSaver::saveRuns(const QString& type, const QString& name, const 
 
 SaveOutcome ItemSaver::save(const FoundItem& item) const {
     SaveOutcome outcome;
-    // Not held open in between: the user may want to unmount it.
-    const auto destination = openDestination(outcome);
+    const auto destination = m_destination->openToWrite(outcome.error);
     if (!destination) {
         return outcome;
     }
@@ -76,39 +75,14 @@ LengthClaims& ItemSaver::claimsOn(std::uint64_t mediumSectors) const {
     return *m_state->claims;
 }
 
-// A destination that was pulled out leaves a folder of its name on another disk.
-std::optional<SavingFolder> ItemSaver::sameDestination() const {
-    auto folder = SavingFolder::open(m_destination);
-    const auto device = folder ? folder->device() : std::nullopt;
-    return device && m_state->device.value_or(*device) == *device ? std::move(folder) : std::nullopt;
-}
-
-bool ItemSaver::destinationIsThere() const {
-    return sameDestination().has_value();
-}
-
-std::optional<SavingFolder> ItemSaver::openDestination(SaveOutcome& outcome) const {
-    auto folder = sameDestination();
-    if (!folder) {
-        outcome.error = QObject::tr("The folder %1 is no longer there").arg(m_destination);
-        return std::nullopt;
-    }
-    if (m_liesOnMedium && m_liesOnMedium(m_destination)) {
-        outcome.error = QObject::tr("The folder %1 lies on the medium that is searched").arg(m_destination);
-        return std::nullopt;
-    }
-    m_state->device = folder->device();
-    return folder;
-}
-
 void ItemSaver::flush() const {
-    const auto destination = SavingFolder::open(m_destination);
+    const auto destination = m_destination->open();
     for (const QString& folder : std::exchange(m_state->folders, {})) {
         if (const auto below = destination ? destination->below(folder) : std::nullopt) {
             below->flush();
         }
     }
-    if (!destination || destination->device() != m_state->device) {
+    if (!destination) {
         return;
     }
     // Where every item failed, or went where the card had it, there is nothing for them to hold.

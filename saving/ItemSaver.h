@@ -16,6 +16,7 @@
 #include "results/ItemBytes.h"
 #include "results/MediumBytes.h"
 #include "results/Soundness.h"
+#include "saving/Destination.h"
 #include "saving/SavePolicy.h"
 #include "saving/SavedName.h"
 
@@ -88,17 +89,15 @@ struct FoundItem {
 // An item that claims far more than was carved of it waits for the others, where it may; see LengthClaims.
 class ItemSaver {
   public:
-    // Asked before each file with the destination: whether it lies on the medium by now, for somebody may
-    // have mounted another place there.
-    using LiesOnMedium = std::function<bool(const QString& destination)>;
-
     explicit ItemSaver(const QString& destination, const SavePolicy& policy = {},
-                       LiesOnMedium liesOnMedium = {});
+                       Destination::LiesOnMedium liesOnMedium = {});
     ItemSaver(const ItemSaver&) = delete;
     ItemSaver& operator=(const ItemSaver&) = delete;
     ~ItemSaver();
 
     const SavePolicy& policy() const { return m_policy; }
+    // For what is written beside the items, and to be asked behind the last of all.
+    const std::shared_ptr<Destination>& destination() const { return m_destination; }
 
     SaveOutcome save(const FoundItem& item) const;
 
@@ -108,10 +107,6 @@ class ItemSaver {
     // Before the first item of a choice and before those of it that were told to come again.
     void beginRound() const;
     void beginSecondRound() const;
-
-    // False once the folder that was written into has gone, with what was saved in it, or another disk's has
-    // taken its place.
-    bool destinationIsThere() const;
 
     // To be called behind the last item: the names of all files survive a loss of power from here on.
     void flush() const;
@@ -124,8 +119,6 @@ class ItemSaver {
     struct State;
     struct Writing;
 
-    std::optional<SavingFolder> sameDestination() const;
-    std::optional<SavingFolder> openDestination(SaveOutcome& outcome) const;
     LengthClaims& claimsOn(std::uint64_t mediumSectors) const;
     bool moveAsOnCard(const FoundItem& item, const CardFile& file, SaveOutcome& outcome) const;
     std::optional<SavingFolder> folderOf(const QString& path) const;
@@ -147,9 +140,8 @@ class ItemSaver {
                             bool summing) const;
     bool writeFile(const Writing& writing, MediumBytes& bytes, SaveOutcome& outcome) const;
 
-    QString m_destination;
+    const std::shared_ptr<Destination> m_destination;
     SavePolicy m_policy;
-    LiesOnMedium m_liesOnMedium;
     std::unique_ptr<State> m_state;  // what was saved before, and memory that serves all items
 };
 

@@ -60,7 +60,7 @@ void ItemSaver::saveAsOnCard(const FoundItem& item, SaveOutcome& outcome) const 
 // By a second name in place of the first; false where the file system knows none.
 bool ItemSaver::moveAsOnCard(const FoundItem& item, const CardFile& file, SaveOutcome& outcome) const {
     SaveOutcome unused;
-    const auto destination = openDestination(unused);
+    const auto destination = m_destination->openToWrite(unused.error);
     SavedName name = savedNameOf(item.type, item.name, m_policy, outcome.taken, &file);
     const auto folder = destination ? folderFor(item, *destination, name, unused) : std::nullopt;
     if (!folder) {
@@ -88,10 +88,10 @@ bool ItemSaver::moveAsOnCard(const FoundItem& item, const CardFile& file, SaveOu
 
 // Of a file that was saved here; no link is followed on the way to it.
 std::optional<SavingFolder> ItemSaver::folderOf(const QString& path) const {
-    const auto destination = SavingFolder::open(m_destination);
+    const auto destination = m_destination->open();
     const QString folder = path.section(u'/', 0, -2);
-    return destination && folder.startsWith(m_destination)
-               ? destination->below(folder.mid(m_destination.size()))
+    return destination && folder.startsWith(m_destination->path())
+               ? destination->below(folder.mid(m_destination->path().size()))
                : std::nullopt;
 }
 

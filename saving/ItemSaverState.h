@@ -1,8 +1,6 @@
 // What the saver's own files share.
 #pragma once
 
-#include <sys/types.h>
-
 #include <QObject>
 #include <QStringList>
 #include <array>
@@ -40,7 +38,6 @@ struct ItemSaver::State {
     FilesWithin within;                  // those of the choice at hand
     FilesWithin waiting;                 // that will perhaps be
     std::optional<LengthClaims> claims;  // of the choice at hand
-    std::optional<dev_t> device;         // that the destination was on first
     std::set<QString> folders;           // below it, that were written into
     QStringList madeFolders;             // that were not there before this saver; the outer ones first
 };

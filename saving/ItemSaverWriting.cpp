@@ -50,11 +50,12 @@ std::optional<SavingFolder> ItemSaver::folderFor(const FoundItem& item, const Sa
     }
     if (!folder) {
         const bool leadsAway = errno == ELOOP || errno == EXDEV;
-        outcome.error = errno == ENOTDIR
-                            ? QObject::tr("%1 is not a folder.").arg(m_destination + u'/' + name.folder)
-                            : (leadsAway ? QObject::tr("The folder %1/%2 leads elsewhere")
-                                         : QObject::tr("The folder %1/%2 cannot be created"))
-                                  .arg(m_destination, name.folder);
+        outcome.error =
+            errno == ENOTDIR
+                ? QObject::tr("%1 is not a folder.").arg(m_destination->path() + u'/' + name.folder)
+                : (leadsAway ? QObject::tr("The folder %1/%2 leads elsewhere")
+                             : QObject::tr("The folder %1/%2 cannot be created"))
+                      .arg(m_destination->path(), name.folder);
         return std::nullopt;
     }
     if (m_state->folders.insert(name.folder).second) {
@@ -78,7 +79,7 @@ void ItemSaver::saveBytes(const FoundItem& item, const SavingFolder& destination
         if (name.asOnCard) {
             m_state->saved.lookIntoCardFolder(folder->path());
         } else {
-            m_state->saved.lookInto(m_destination + u'/' + safePathComponent(item.type), item.type);
+            m_state->saved.lookInto(m_destination->path() + u'/' + safePathComponent(item.type), item.type);
         }
         writing.likeness = {outcome.bytes, sumOfHead(bytes, outcome.bytes)};
         if (settleBeforeWriting(writing, bytes, outcome)) {

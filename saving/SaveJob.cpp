@@ -56,12 +56,12 @@ void SaveJob::run() {
     if (medium || std::any_of(m_request.items.begin(), m_request.items.end(), held)) {
         saveAll(medium.get());
         saveTold(medium.get());
-        if (!m_request.saver->destinationIsThere()) {
-            loseWhatWasSaved();
-        }
         compileReport();
         m_request.saver->flush();
-        writeTheReport();
+        if (destinationKeepsAll()) {
+            writeTheReport();
+            destinationKeepsAll();
+        }
     }
     m_finished = true;
 }
@@ -139,7 +139,7 @@ void SaveJob::saveTwin(const FoundItem& found, const MyImageObject& item, const 
     if (!mend || unwanted || mend->kind == MendKind::Completed || !m_twinsSaved.insert(mend.get()).second) {
         return;
     }
-    const TwinPlace place = placeOfTwin(m_request.destination, found, outcome);
+    const TwinPlace place = placeOfTwin(m_request.saver->destination(), found, outcome);
     SaveOutcome twin = writeTwin(
         place, mend, found.source, [this] { return m_watch.ended.load(); },
         m_request.saver->policy().checksums);
@@ -180,26 +180,6 @@ void SaveJob::saveTold(SectorReader* medium) {
     }
 }
 
-// A destination that goes takes along what was saved in it: all of it is to be saved again.
-void SaveJob::loseWhatWasSaved() {
-    const auto lose = [this](SaveOutcome& outcome) {
-        if (std::exchange(outcome.saved, false)) {
-            outcome.error = QObject::tr("The folder %1 is no longer there").arg(m_request.destination);
-            outcome.duplicate = false;
-            outcome.path.clear();
-        }
-    };
-    for (auto& outcome : m_outcomes) {
-        if (outcome) {
-            lose(*outcome);
-        }
-    }
-    for (ReportedItem& further : m_furtherOutcomes) {
-        lose(further.outcome);
-    }
-    m_report.toldFailed = m_request.told;
-}
-
 void SaveJob::compileReport() {
     for (std::size_t place = 0; place < m_outcomes.size(); ++place) {
         if (!m_outcomes[place]) {
@@ -218,6 +198,15 @@ void SaveJob::compileReport() {
         m_report.items.push_back(std::move(further));
     }
     m_furtherOutcomes.clear();
+}
+
+// Else all of it is to be saved again.
+bool SaveJob::destinationKeepsAll() {
+    const bool keeps = m_request.saver->destination()->keeps(m_report.tally, m_report.items);
+    if (!keeps) {
+        m_report.toldFailed = m_request.told;
+    }
+    return keeps;
 }
 
 void SaveJob::writeTheReport() {

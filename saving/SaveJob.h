@@ -90,8 +90,8 @@ class SaveJob {
     void saveTold(SectorReader* medium);
     void saveTwin(const FoundItem& found, const MyImageObject& item, const SaveOutcome& outcome);
     void begin(const QString& name, std::uint64_t sectors);
-    void loseWhatWasSaved();
     void compileReport();
+    bool destinationKeepsAll();
     void writeTheReport();
 
     SaveRequest m_request;

@@ -20,7 +20,7 @@ std::uint64_t costOf(const SaveTask& task) {
 }  // namespace
 
 SaveQueue::SaveQueue(const QString& destination, const SavePolicy& policy, Open open, Done done,
-                     ItemSaver::LiesOnMedium liesOnMedium)
+                     Destination::LiesOnMedium liesOnMedium)
     : m_saver(destination, policy, std::move(liesOnMedium)),
       m_open(std::move(open)),
       m_done(std::move(done)),

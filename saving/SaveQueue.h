@@ -41,7 +41,7 @@ class SaveQueue {
     using Done = std::function<void(SaveTask&, const SaveOutcome&)>;
 
     SaveQueue(const QString& destination, const SavePolicy& policy, Open open, Done done,
-              ItemSaver::LiesOnMedium liesOnMedium = {});
+              Destination::LiesOnMedium liesOnMedium = {});
     SaveQueue(const SaveQueue&) = delete;
     SaveQueue& operator=(const SaveQueue&) = delete;
     ~SaveQueue();  // finishes

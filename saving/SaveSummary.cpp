@@ -24,10 +24,8 @@ QStringList failureLines(const SaveTally& tally) {
     for (const QString& failure : tally.failures.first(shown)) {
         lines << QStringLiteral("   ") + failure;
     }
-    if (tally.failed > static_cast<std::uint64_t>(shown)) {
-        lines << QObject::tr("   and %1 more", nullptr,
-                             pluralOf(tally.failed - static_cast<std::uint64_t>(shown)))
-                     .arg(numberForPeople(tally.failed - static_cast<std::uint64_t>(shown)));
+    if (const std::uint64_t more = tally.failedBeside(shown); more > 0) {
+        lines << QObject::tr("   and %1 more", nullptr, pluralOf(more)).arg(numberForPeople(more));
     }
     return lines;
 }

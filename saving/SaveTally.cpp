@@ -2,6 +2,7 @@
 #include "saving/SaveTally.h"
 
 #include <QObject>
+#include <algorithm>
 
 #include "results/SizeForPeople.h"
 
@@ -62,6 +63,23 @@ void SaveTally::add(const QString& name, const SaveOutcome& outcome) {
             ++unknownLength;
             break;
     }
+}
+
+void SaveTally::loseSaved(const QString& why) {
+    const std::uint64_t lost = saved + duplicates;
+    if (lost == 0) {
+        return;
+    }
+    m_lost += lost;
+    failed += lost;
+    failures.prepend(why);
+    saved = bytes = complete = unchecked = cutOff = damaged = unknownLength = mended = withUnreadableSectors =
+        duplicates = named = 0;
+}
+
+std::uint64_t SaveTally::failedBeside(qsizetype sentences) const {
+    const auto said = static_cast<std::uint64_t>(std::min(sentences, failures.size()));
+    return failed - (m_lost == 0 ? said : m_lost + (std::max<std::uint64_t>(said, 1) - 1));
 }
 
 QStringList SaveTally::bySoundness() const {

@@ -30,14 +30,21 @@ struct SaveTally {
     std::uint64_t parts = 0;
     std::uint64_t named = 0;  // of those saved: the card told their names
     std::uint64_t failed = 0;
-    QStringList failures;  // the first few, a sentence each
+    QStringList failures;  // the first few, a sentence each; one for all that went with the destination
 
     void add(const QString& name, const SaveOutcome& outcome);
+    // Whatever was saved has gone since then, for that reason.
+    void loseSaved(const QString& why);
+    // Of those that failed, how many the first so many sentences say nothing of.
+    std::uint64_t failedBeside(qsizetype sentences) const;
 
     // How many of the saved are how sound: "10 complete", "2 cut off", ...
     QStringList bySoundness() const;
     // "12 saved in /out (3.4 MB): 10 complete, 2 cut off", and a line for each thing left out.
     QStringList lines(const QString& destination) const;
+
+  private:
+    std::uint64_t m_lost = 0;  // of those that failed: they were saved before
 };
 
 }  // namespace vantor

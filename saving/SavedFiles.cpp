@@ -11,6 +11,7 @@
 
 #include "results/ResultRow.h"
 #include "saving/Sha256.h"
+#include "saving/WholeFile.h"
 
 namespace vantor {
 
@@ -43,13 +44,11 @@ QByteArray checksumOfFile(const QString& path) {
 
 // Whether the path is the other one with a number, "IMG_0412 (2).JPG".
 bool isNumbered(const QString& path, const QString& plain) {
-    const qsizetype slash = plain.lastIndexOf(u'/');
-    const qsizetype dot = plain.lastIndexOf(u'.');
-    const qsizetype cut = dot > slash + 1 ? dot : plain.size();
-    static const QRegularExpression kNumber(QStringLiteral("^ \\([0-9]+\\)$"));
-    const QStringView end = QStringView(plain).mid(cut);
-    return path.size() > plain.size() && path.startsWith(QStringView(plain).left(cut)) &&
-           path.endsWith(end) && kNumber.match(path.mid(cut, path.size() - plain.size())).hasMatch();
+    static const QRegularExpression kNumber(QStringLiteral(" \\(([0-9]{1,9})\\)(\\.[^./]*)?$"));
+    const auto number = kNumber.match(path);
+    const qsizetype name = plain.lastIndexOf(u'/') + 1;
+    return number.hasMatch() &&
+           path == plain.left(name) + numberedName(plain.mid(name), number.capturedView(1).toInt());
 }
 
 // The candidate when the file is still there; the best so far otherwise. One that serves is the best.

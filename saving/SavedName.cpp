@@ -4,6 +4,8 @@
 #include <QDateTime>
 #include <QStringList>
 
+#include "saving/WholeFile.h"
+
 namespace vantor {
 
 namespace {
@@ -19,8 +21,6 @@ QDateTime localTimeOf(const CivilTime& date) {
     return time.toLocalTime();
 }
 
-// Bytes of UTF-8 of a name as on the card; with a number the usual 255 are kept.
-constexpr qsizetype kLongestCardName = 240;
 // A longer way is nobody's folder, and no longer opens by its path.
 constexpr qsizetype kLongestCardFolder = 1024;
 
@@ -34,16 +34,12 @@ bool isReserved(const QString& name) {
 
 // Marks that are not seen and change how the text around them reads, and halves of characters.
 bool isUnseen(QChar c) {
+    // These two several languages are written with, and pictures of more than one.
+    if (c == QChar(0x200C) || c == QChar(0x200D)) {
+        return false;
+    }
     return c.category() == QChar::Other_Control || c.category() == QChar::Other_Format ||
            c.category() == QChar::Separator_Line || c.category() == QChar::Separator_Paragraph;
-}
-
-// The text up to so many bytes of UTF-8, whole characters.
-QString cutToBytes(QString text, qsizetype most) {
-    while (text.toUtf8().size() > most) {
-        text.chop(text.size() > 1 && text.back().isLowSurrogate() ? 2 : 1);
-    }
-    return text;
 }
 
 QString withoutUnsafe(const QString& text) {
@@ -99,13 +95,7 @@ QString safeCardName(const QString& name) {
     if (safe.startsWith(u'.') || isReserved(safe)) {
         safe.prepend(u'_');
     }
-    const qsizetype bytes = safe.toUtf8().size();
-    if (bytes > kLongestCardName) {
-        const qsizetype dot = safe.lastIndexOf(u'.');
-        const QString extension = dot > 0 && safe.size() - dot <= 16 ? safe.mid(dot) : QString();
-        safe.chop(extension.size());
-        safe = cutToBytes(safe, kLongestCardName - extension.toUtf8().size()) + extension;
-    }
+    safe = cutToComponent(safe);
     return safe.isEmpty() ? QStringLiteral("_") : safe;
 }
 

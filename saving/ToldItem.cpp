@@ -11,7 +11,7 @@ FoundItem toldItem(const std::shared_ptr<const CardFile>& file, const std::share
     const QString extension = pathExtension(file->name).toUpper();
     FoundItem item{extension.isEmpty() ? QStringLiteral("FILE") : extension,
                    file->name,
-                   {runsOf(*file), {}, [&medium] { return &medium; }, medium.mediumSectors()}};
+                   {runsOf(*file), file->contents, [&medium] { return &medium; }, medium.mediumSectors()}};
     item.source.hints = {card, file};
     return item;
 }

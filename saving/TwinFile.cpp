@@ -64,11 +64,12 @@ QString twinNameOf(const QString& name, const QString& mark) {
     return dot <= 0 ? name + u' ' + mark : name.left(dot) + u' ' + mark + name.mid(dot);
 }
 
-TwinPlace placeOfTwin(const QString& destination, const FoundItem& item, const SaveOutcome& saved) {
+TwinPlace placeOfTwin(const std::shared_ptr<Destination>& destination, const FoundItem& item,
+                      const SaveOutcome& saved) {
     if (!saved.saved) {
         return {destination, safePathComponent(item.type), item.name};
     }
-    const QString path = QDir(destination).relativeFilePath(saved.path);
+    const QString path = QDir(destination->path()).relativeFilePath(saved.path);
     return {destination, path.section(u'/', 0, -2), path.section(u'/', -1)};
 }
 
@@ -78,11 +79,14 @@ SaveOutcome writeTwin(const TwinPlace& place, std::shared_ptr<const Mend> mend, 
     outcome.mend = mend;
     outcome.runs = mend->assembly.runs;
     outcome.pieces = std::max<std::size_t>(1, mend->assembly.runs.size());
-    const auto top = SavingFolder::open(place.destination);
-    const auto folder = top ? top->below(place.folder) : std::nullopt;
+    const auto top = place.destination->openToWrite(outcome.error);
+    if (!top) {
+        return outcome;
+    }
+    const auto folder = top->below(place.folder);
     if (!folder) {
         outcome.error =
-            QObject::tr("The folder %1/%2 cannot be created").arg(place.destination, place.folder);
+            QObject::tr("The folder %1/%2 cannot be created").arg(place.destination->path(), place.folder);
         return outcome;
     }
     const Twin& twin = mend->twin;

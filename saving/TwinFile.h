@@ -9,12 +9,13 @@
 namespace vantor {
 
 struct TwinPlace {
-    QString destination;
+    std::shared_ptr<Destination> destination;
     QString folder;  // below it
     QString name;    // as the item's, without a mark
 };
 // Beside the item where that was saved, else in its type's folder.
-TwinPlace placeOfTwin(const QString& destination, const FoundItem& item, const SaveOutcome& saved);
+TwinPlace placeOfTwin(const std::shared_ptr<Destination>& destination, const FoundItem& item,
+                      const SaveOutcome& saved);
 
 // "MP400002 repaired.MP4" for "MP400002.MP4" and the mark "repaired".
 QString twinNameOf(const QString& name, const QString& mark);

@@ -23,14 +23,14 @@ constexpr int kTriedInTurn = 16;  // numbers, before it is asked how many there 
 constexpr int kLargestNumber = 1'000'000'000;
 constexpr mode_t kMode = 0644;  // less the user's mask
 
-// "name.ext" with " (n)" before the extension; n = 1 is the name itself.
-QString numberedName(const QString& name, int n) {
-    if (n == 1) {
-        return name;
+constexpr qsizetype kLongestExtension = 16;  // with its dot; longer ones are part of the name
+
+// The text up to so many bytes of UTF-8, whole characters.
+QString cutToBytes(QString text, qsizetype most) {
+    while (text.toUtf8().size() > most) {
+        text.chop(text.size() > 1 && text.back().isLowSurrogate() ? 2 : 1);
     }
-    const qsizetype dot = name.lastIndexOf(u'.');
-    const qsizetype cut = dot > 0 ? dot : name.size();
-    return name.left(cut) + QStringLiteral(" (%1)").arg(n) + name.mid(cut);
+    return text;
 }
 
 bool isTaken(const SavingFolder& folder, const QString& name) {
@@ -91,6 +91,22 @@ bool isLeftover(const SavingFolder& folder, const QByteArray& name) {
 }
 
 }  // namespace
+
+QString cutToComponent(const QString& name, const QString& number) {
+    constexpr qsizetype kLongest = 255;
+    const qsizetype dot = name.lastIndexOf(u'.');
+    qsizetype stem = dot > 0 ? dot : name.size();
+    const qsizetype over = (name + number).toUtf8().size() - kLongest;
+    if (over > 0 && name.size() - stem > kLongestExtension) {
+        stem = name.size();
+    }
+    const QString end = number + name.mid(stem);
+    return (over > 0 ? cutToBytes(name.left(stem), kLongest - end.toUtf8().size()) : name.left(stem)) + end;
+}
+
+QString numberedName(const QString& name, int n) {
+    return n == 1 ? name : cutToComponent(name, QStringLiteral(" (%1)").arg(n));
+}
 
 WholeFile::WholeFile(const SavingFolder& folder) : m_folder(folder) {
     create();

@@ -10,6 +10,12 @@
 
 namespace vantor {
 
+// The name, with the number before its extension, in the 255 bytes that file systems take for a name: what is
+// longer loses characters before the number.
+QString cutToComponent(const QString& name, const QString& number = {});
+// "name.ext" with " (n)" before the extension; n = 1 is the name itself.
+QString numberedName(const QString& name, int n);
+
 // Writes unnamed (or, where the file system cannot, under a hidden temporary name) and takes its name at the
 // end. An object that is destroyed without commit() leaves nothing behind. Any one thread.
 class WholeFile {

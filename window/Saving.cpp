@@ -21,7 +21,7 @@ SavingParts MyTableController::savingParts() {
     };
     parts.card = [this] { return card(); };
     parts.mended = [this] { return m_mended; };
-    parts.liesOnMedium = [this]() -> ItemSaver::LiesOnMedium {
+    parts.liesOnMedium = [this]() -> Destination::LiesOnMedium {
         if (!m_parts.isOnMedium) {
             return {};
         }

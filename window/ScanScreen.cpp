@@ -194,7 +194,7 @@ void MyTableController::returnFromScanScreen(ControlSet set) {
 void MyTableController::hideScanProgress() {
     for (QWidget* widget :
          std::initializer_list<QWidget*>{clearingLabel, _Mode_label, _Progress_Horz, _sector_label,
-                                         _stop_scan, scanFactsLabel, scanStrip}) {
+                                         _stop_scan, scanFactsLabel, scanStripRow}) {
         widget->hide();
     }
     if (pFile_op) {

@@ -34,7 +34,7 @@ void MyTableController::show_hide_2_screen(bool hide) {
 void MyTableController::show_hide_3_screen_Photo(bool hide) {
     for (QWidget* widget :
          std::initializer_list<QWidget*>{imageBrowser, _Progress_Horz, _sector_label, _Mode_label,
-                                         scanFactsLabel, _stop_scan, scanStrip, photoScreen}) {
+                                         scanFactsLabel, _stop_scan, scanStripRow, photoScreen}) {
         widget->setHidden(hide);
     }
     nextButton->setEnabled(hide);
@@ -50,7 +50,7 @@ void MyTableController::show_hide_3_screen_RawFile(bool hide) {
 
 void MyTableController::show_hide_4_screen_RawFile(bool hide) {
     for (QWidget* widget : std::initializer_list<QWidget*>{_open_folder_Sig, _Progress_Horz, _sector_label,
-                                                           _Mode_label, scanFactsLabel, _stop_scan, scanStrip,
+                                                           _Mode_label, scanFactsLabel, _stop_scan, scanStripRow,
                                                            imageBrowser_2, _QuickLook_View_Box, rawScreen}) {
         widget->setHidden(hide);
     }

@@ -10,6 +10,7 @@
 #include "window/panels/CardPicture.h"
 #include "window/widgets/AccessibleControls.h"
 #include "window/widgets/EndsLayout.h"
+#include "window/widgets/MessageLayout.h"
 #include "window/widgets/Theme.h"
 
 namespace vantor {
@@ -66,6 +67,7 @@ void MyTableController::loadInterface() {
     setUpBrowsers();
     setUpKeeping();
     setUpMending();
+    MessageLayout::replace(std::exchange(searchEndLayout, nullptr));
     setUpCardStrip();
     setEmptyStates();
     buildGroupBoxes();
@@ -97,8 +99,13 @@ void MyTableController::dressWindow() {
     photoSplitter->setStretchFactor(0, 0);
     photoSplitter->setStretchFactor(1, 1);
     photoSplitter->setSizes({kLeftPane, 800});
+    letFold(photoLayout, photoHeadLayout);
     letFold(photoLayout, photoSaveLayout);
+    letFold(rawTypesLayout, rawTypesHeadLayout);
+    letFold(rawItemsLayout, rawHeadLayout);
+    letFold(rawItemsLayout, rawOrderLayout);
     letFold(rawLayout, rawSaveLayout);
+    MessageLayout::replace(std::exchange(leftItemsLayout, nullptr));
 }
 
 void MyTableController::dressRangeSets() {

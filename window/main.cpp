@@ -107,26 +107,53 @@ void leaveTheScreen() {
     QApplication::sync();
 }
 
+// The user's language, or the exit code where it is none of the program's.
+std::optional<int> speakAsAsked(const AskedLanguage& arguments) {
+    const auto refusal = speak(arguments.language, resourcesFolder());
+    if (refusal) {
+        std::fprintf(stderr, "%s\n", qPrintable(*refusal));
+    }
+    return refusal ? std::optional(kExitBadUsage) : std::nullopt;
+}
+
+int print(const CommandLine& line) {
+    std::fprintf(*line.exitCode == 0 ? stdout : stderr, "%s\n", qPrintable(line.message));
+    return *line.exitCode;
+}
+
+// Help and version need no display, which not everybody has who asks for them. What is no option may be one of the
+// toolkit's, which takes its own away when there is a display.
+std::optional<int> answerWithoutWindow(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    const AskedLanguage arguments = takeLanguage(argumentsFromBytes(argc, argv));
+    if (const auto code = speakAsAsked(arguments)) {
+        return code;
+    }
+    const CommandLine line = readCommandLine(arguments.rest, QCoreApplication::applicationVersion());
+    return line.exitCode == 0 ? std::optional(print(line)) : std::nullopt;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+    QCoreApplication::setApplicationName(QStringLiteral("vantor-recovery"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(VANTOR_VERSION));
+    if (const auto code = answerWithoutWindow(argc, argv)) {
+        return *code;
+    }
     QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("vantor-recovery"));
     QApplication::setApplicationDisplayName(kProgramTitle);
-    QApplication::setApplicationVersion(QStringLiteral(VANTOR_VERSION));
     // The desktop finds the window's icon and name by this.
     QApplication::setDesktopFileName(QStringLiteral("org.vantor.recovery"));
     // The window is closed by the exit routine alone.
     QApplication::setQuitOnLastWindowClosed(false);
     const AskedLanguage arguments = takeLanguage(argumentsFromBytes(argc, argv));
-    if (const auto refusal = speak(arguments.language, resourcesFolder())) {
-        std::fprintf(stderr, "%s\n", qPrintable(*refusal));
-        return kExitBadUsage;
+    if (const auto code = speakAsAsked(arguments)) {
+        return *code;
     }
     const CommandLine line = readCommandLine(arguments.rest, QApplication::applicationVersion());
     if (line.exitCode) {
-        std::fprintf(*line.exitCode == 0 ? stdout : stderr, "%s\n", qPrintable(line.message));
-        return *line.exitCode;
+        return print(line);
     }
     applyTheme(application);
     const DesktopLook look(application);

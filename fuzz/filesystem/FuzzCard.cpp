@@ -51,6 +51,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             sectors += run.end - run.first;
         }
         hold(sectors <= kSectors && file.clusterSectors != 0);
+        hold(file.contents.isEmpty() || (static_cast<std::uint64_t>(file.contents.size()) == sectors * 512 &&
+                                         file.bytes <= sectors * 512));
     }
     for (std::size_t i = 0; i < table.inUse.size(); ++i) {
         hold(table.inUse[i].first < table.inUse[i].end && table.inUse[i].end <= kSectors);

@@ -31,6 +31,8 @@ CardTable someTable() {
         file.clusterSectors = 8;
         table.files.push_back(file);
     }
+    table.files[9].runs = {{300, 302}};
+    table.files[9].contents = QByteArray(1024, 'c');
     return table;
 }
 
@@ -54,6 +56,9 @@ TEST(CardExchange, TableOfManyBlocks_ArrivesWhole) {
     EXPECT_EQ(one.modified, table.files[7].modified);
     EXPECT_FALSE(one.created);
     EXPECT_EQ(one.runsKnownBy, table.files[7].runsKnownBy);
+    EXPECT_TRUE(one.contents.isEmpty());
+    EXPECT_EQ(got.files[9].contents, table.files[9].contents);
+    EXPECT_EQ(got.files[10].bytes, 1000u);
 }
 
 // A folder of a million files would take a thousand times as much as they do.
@@ -97,6 +102,13 @@ TEST(CardExchange, WhatCannotBe_IsNotTaken) {
     EXPECT_FALSE(isTaken(bad));
     bad.runs = {{0, 1500}, {0, 1500}};
     EXPECT_FALSE(isTaken(bad));
+    bad = good;
+    bad.contents = QByteArray(512, 'c');  // of three times as many sectors
+    EXPECT_FALSE(isTaken(bad));
+    bad.runs = {{5, 6}};
+    EXPECT_FALSE(isTaken(bad));  // and of more bytes
+    bad.bytes = bad.validBytes = 512;
+    EXPECT_TRUE(isTaken(bad));
     bad = good;
     bad.bytes = 2001 * 512;
     EXPECT_FALSE(isTaken(bad));

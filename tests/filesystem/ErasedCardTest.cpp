@@ -38,6 +38,14 @@ TEST_P(ErasedCard, FilesThatAreThere_AreNothingToFind) {
     EXPECT_TRUE(erased());
 }
 
+TEST_P(ErasedCard, FileThatIsGone_IsSomethingToFind) {
+    ExfatFile gone{"IMG_0001.JPG", 10, 4096};
+    gone.deleted = true;
+    putBytes(m_card, m_exfat.sectorOf(5), exfatSet(gone));
+    m_card.bytes[m_exfat.sectorOf(10) * 512] = 1;
+    EXPECT_FALSE(erased());
+}
+
 TEST_P(ErasedCard, SomethingElseWritten_IsNotErased) {
     for (std::size_t sector = 9000; sector < 9200; ++sector) {
         m_card.bytes[sector * 512 + 511] = 1;

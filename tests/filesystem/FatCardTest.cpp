@@ -161,6 +161,35 @@ TEST_P(FatCard, DeletedFolder_StillHoldsItsFiles) {
     EXPECT_EQ(table.files.front().state, FileState::Deleted);
 }
 
+// Of texts, which nothing tells by how they begin: where the files lie tells whose the rows are, and where
+// the rows lie, behind the file that was the last before them, which folder's.
+TEST_P(FatCard, DeletedFolderThatGoesOnElsewhere_StillHoldsItsFiles) {
+    const auto texts = [](const char* name, int count, std::uint32_t cluster) {
+        Bytes rows;
+        for (int i = 0; i < count; ++i) {
+            const QString number = QString("%1").arg(i, 2, 10, QChar(u'0'));
+            rows = rows + fatRow(name + number.toStdString() + "  TXT",
+                                 cluster + static_cast<std::uint32_t>(i), 1000);
+        }
+        return deletedFat(rows);
+    };
+    putPhotos(texts("NOTE", 62, 10));
+    putBytes(m_card, m_fat.sectorOf(3), dotRows(3, 0) + deletedFat(fatRow("100CANON   ", 4, 0, 0x10)));
+    linkFat(m_card, m_fat, 4, 0);
+    putBytes(m_card, m_fat.sectorOf(72), texts("TEXT", 3, 73));
+    const CardFile file = fileNamed(tableOf(m_card), "_EXT01.TXT");
+    EXPECT_EQ(file.folder, "DCIM/100CANON");
+    EXPECT_EQ(file.runs, (std::vector<SectorRun>{{m_fat.sectorOf(74), m_fat.sectorOf(75)}}));
+    // Whose files do not lie one behind the other there may be of another file system.
+    putBytes(m_card, m_fat.sectorOf(72), texts("TEXT", 1, 73) + texts("MORE", 2, 90));
+    EXPECT_EQ(fileNamed(tableOf(m_card), "_EXT00.TXT").name, "");
+    // Behind another file they are of no known folder.
+    putBytes(m_card, m_fat.sectorOf(72), Bytes(512));
+    putBytes(m_card, m_fat.sectorOf(80), texts("TEXT", 3, 81));
+    EXPECT_EQ(fileNamed(tableOf(m_card), "_EXT01.TXT").folder, "");
+    EXPECT_EQ(fileNamed(tableOf(m_card), "_EXT01.TXT").bytes, 1000u);
+}
+
 TEST_P(FatCard, QuickFormat_FoldersAreFoundByTheirDotRows) {
     putPhotos(fatRow("IMG_0412JPG", 10, 3 * 2048));
     beginPhoto(10);

@@ -3,6 +3,7 @@
 
 #include <random>
 
+#include "filesystem/CachedSource.h"
 #include "filesystem/CleanName.h"
 #include "filesystem/ClusterVote.h"
 #include "filesystem/FirstLetters.h"
@@ -91,43 +92,43 @@ TEST(ClusterVote, FilesOfOneLengthInARow_LieWhereOthersSay) {
 
 TEST(FirstLetters, NamesOfTheSameSeriesTellIt) {
     FirstLetters letters;
-    letters.learn("MVC-012F.JPG", 1, 0);
-    letters.learn("B0000001.BMP", 1, 0);
-    letters.learn("C0000001.BMP", 2, 0);
-    letters.learn("README1", 3, 0);
-    EXPECT_EQ(letters.of("_VC-013F.JPG", 1, 0), QChar(u'M'));
-    EXPECT_EQ(letters.of("_VC-013F.JPG", 9, 0), QChar(u'M'));
-    EXPECT_EQ(letters.of("_vc-013f.jpg", 1, 0), QChar(u'm'));
-    EXPECT_EQ(letters.of("_0000007.BMP", 1, 0), QChar(u'B'));
-    EXPECT_EQ(letters.of("_0000007.BMP", 2, 0), QChar(u'C'));
-    EXPECT_EQ(letters.of("_0000007.BMP", 9, 0), std::nullopt);
-    EXPECT_EQ(letters.of("_0000007.JPG", 1, 0), std::nullopt);
-    EXPECT_EQ(letters.of("_EADME2", 3, 0), QChar(u'R'));
-    EXPECT_EQ(letters.of("_EADME", 3, 0), std::nullopt);
-    EXPECT_EQ(letters.of("_OTE1.TXT", 3, 0), std::nullopt);
+    letters.learn("MVC-012F.JPG", {1, 0});
+    letters.learn("B0000001.BMP", {1, 0});
+    letters.learn("C0000001.BMP", {2, 0});
+    letters.learn("README1", {3, 0});
+    EXPECT_EQ(letters.of("_VC-013F.JPG", {1, 0}), QChar(u'M'));
+    EXPECT_EQ(letters.of("_VC-013F.JPG", {9, 0}), QChar(u'M'));
+    EXPECT_EQ(letters.of("_vc-013f.jpg", {1, 0}), QChar(u'm'));
+    EXPECT_EQ(letters.of("_0000007.BMP", {1, 0}), QChar(u'B'));
+    EXPECT_EQ(letters.of("_0000007.BMP", {2, 0}), QChar(u'C'));
+    EXPECT_EQ(letters.of("_0000007.BMP", {9, 0}), std::nullopt);
+    EXPECT_EQ(letters.of("_0000007.JPG", {1, 0}), std::nullopt);
+    EXPECT_EQ(letters.of("_EADME2", {3, 0}), QChar(u'R'));
+    EXPECT_EQ(letters.of("_EADME", {3, 0}), std::nullopt);
+    EXPECT_EQ(letters.of("_OTE1.TXT", {3, 0}), std::nullopt);
     // A number says little in other folders, and nothing where the name is another's.
-    EXPECT_EQ(letters.of("_0000001.BMP", 1, 0), std::nullopt);
-    letters.learn("P1010001.ORF", 1, 0);
-    EXPECT_EQ(letters.of("_1010002.ORF", 1, 0), QChar(u'P'));
-    EXPECT_EQ(letters.of("_1010002.ORF", 2, 0), std::nullopt);
+    EXPECT_EQ(letters.of("_0000001.BMP", {1, 0}), std::nullopt);
+    letters.learn("P1010001.ORF", {1, 0});
+    EXPECT_EQ(letters.of("_1010002.ORF", {1, 0}), QChar(u'P'));
+    EXPECT_EQ(letters.of("_1010002.ORF", {2, 0}), std::nullopt);
 }
 
 TEST(FirstLetters, StandardsTellItWhereNoOtherNameDoes) {
     FirstLetters letters;
-    EXPECT_EQ(letters.of("_MG_0412.JPG", 1, 0), QChar(u'I'));
-    EXPECT_EQ(letters.of("_SC01234.ARW", 1, 0), QChar(u'D'));
-    EXPECT_EQ(letters.of("_VI_0001.MOV", 1, 0), QChar(u'M'));
-    EXPECT_EQ(letters.of("_12CANON", 1, 0), QChar(u'1'));
-    EXPECT_EQ(letters.of("_CIM", 1, 0), QChar(u'D'));
-    EXPECT_EQ(letters.of("_0001.MTS", 1, 0), QChar(u'0'));
-    EXPECT_EQ(letters.of("_OTES.TXT", 1, 0), std::nullopt);
+    EXPECT_EQ(letters.of("_MG_0412.JPG", {1, 0}), QChar(u'I'));
+    EXPECT_EQ(letters.of("_SC01234.ARW", {1, 0}), QChar(u'D'));
+    EXPECT_EQ(letters.of("_VI_0001.MOV", {1, 0}), QChar(u'M'));
+    EXPECT_EQ(letters.of("_12CANON", {1, 0}), QChar(u'1'));
+    EXPECT_EQ(letters.of("_CIM", {1, 0}), QChar(u'D'));
+    EXPECT_EQ(letters.of("_0001.MTS", {1, 0}), QChar(u'0'));
+    EXPECT_EQ(letters.of("_OTES.TXT", {1, 0}), std::nullopt);
     // Photos with more colours begin with the very sign.
-    letters.learn("_MG_0411.JPG", 1, 0);
-    EXPECT_EQ(letters.of("_MG_0412.JPG", 1, 0), QChar(u'_'));
-    letters.learn("IMG_0410.JPG", 1, 0);
-    EXPECT_EQ(letters.of("_MG_0412.JPG", 1, 0), std::nullopt);
-    letters.learn("200CANON", 2, 0);
-    EXPECT_EQ(letters.of("_00CANON", 1, 0), QChar(u'2'));
+    letters.learn("_MG_0411.JPG", {1, 0});
+    EXPECT_EQ(letters.of("_MG_0412.JPG", {1, 0}), QChar(u'_'));
+    letters.learn("IMG_0410.JPG", {1, 0});
+    EXPECT_EQ(letters.of("_MG_0412.JPG", {1, 0}), std::nullopt);
+    letters.learn("200CANON", {2, 0});
+    EXPECT_EQ(letters.of("_00CANON", {1, 0}), QChar(u'2'));
 }
 
 // Two cameras wrote into one folder, the second into the places of what had been deleted by then.
@@ -137,33 +138,114 @@ TEST(FirstLetters, NeighboursTellItWhereTwoSeriesShareAFolder) {
                                    "N00002.JPG", "",           "J00008.JPG", "N00005.JPG", "NOTES"};
     for (std::size_t at = 0; at < std::size(entries); ++at) {
         if (*entries[at] != 0) {
-            letters.learn(entries[at], 1, at);
+            letters.learn(entries[at], {1, at});
         }
     }
-    EXPECT_EQ(letters.of("_00004.JPG", 1, 3), QChar(u'J'));
-    EXPECT_EQ(letters.of("_00007.JPG", 1, 6), QChar(u'J'));
-    EXPECT_EQ(letters.of("_00003.JPG", 1, 6), QChar(u'N'));
-    EXPECT_EQ(letters.of("_00009.JPG", 1, 6), std::nullopt) << "in nobody's row";
-    EXPECT_EQ(letters.of("_00009.JPG", 1, 10), std::nullopt) << "nothing stands behind it";
-    EXPECT_EQ(letters.of("_00007.JPG", 2, 6), std::nullopt) << "of another folder";
-    letters.learn("N00003.JPG", 2, 0);
-    letters.learn("J00003.JPG", 2, 1);
-    letters.learn("N00009.JPG", 2, 9);
-    letters.learn("J00009.JPG", 2, 10);
-    EXPECT_EQ(letters.of("_00005.JPG", 2, 5), std::nullopt) << "fits both";
+    EXPECT_EQ(letters.of("_00004.JPG", {1, 3}), QChar(u'J'));
+    EXPECT_EQ(letters.of("_00007.JPG", {1, 6}), QChar(u'J'));
+    EXPECT_EQ(letters.of("_00003.JPG", {1, 6}), QChar(u'N'));
+    EXPECT_EQ(letters.of("_00009.JPG", {1, 6}), std::nullopt) << "in nobody's row";
+    EXPECT_EQ(letters.of("_00009.JPG", {1, 10}), std::nullopt) << "nothing stands behind it";
+    EXPECT_EQ(letters.of("_00007.JPG", {2, 6}), std::nullopt) << "of another folder";
+    letters.learn("N00003.JPG", {2, 0});
+    letters.learn("J00003.JPG", {2, 1});
+    letters.learn("N00009.JPG", {2, 9});
+    letters.learn("J00009.JPG", {2, 10});
+    EXPECT_EQ(letters.of("_00005.JPG", {2, 5}), std::nullopt) << "fits both";
 }
 
 TEST(FirstLetters, NeighboursTellAShortNameOnlyWithoutAGap) {
     FirstLetters letters;
-    letters.learn("X9.XMP", 1, 4);
-    letters.learn("X11.XMP", 1, 6);
-    letters.learn("X14.XMP", 1, 10);
-    letters.learn("19.TXT", 1, 20);
-    letters.learn("111.TXT", 1, 22);
-    EXPECT_EQ(letters.of("_10.XMP", 1, 5), QChar(u'X'));
-    EXPECT_EQ(letters.of("_12.XMP", 1, 7), std::nullopt) << "there is room for another";
-    EXPECT_EQ(letters.of("_8.XMP", 1, 3), std::nullopt);
-    EXPECT_EQ(letters.of("_10.TXT", 1, 21), std::nullopt) << "what is lost is part of the number";
+    letters.learn("X9.XMP", {1, 4});
+    letters.learn("X11.XMP", {1, 6});
+    letters.learn("X14.XMP", {1, 10});
+    letters.learn("19.TXT", {1, 20});
+    letters.learn("111.TXT", {1, 22});
+    EXPECT_EQ(letters.of("_10.XMP", {1, 5}), QChar(u'X'));
+    EXPECT_EQ(letters.of("_12.XMP", {1, 7}), std::nullopt) << "there is room for another";
+    EXPECT_EQ(letters.of("_8.XMP", {1, 3}), std::nullopt);
+    EXPECT_EQ(letters.of("_10.TXT", {1, 21}), std::nullopt) << "what is lost is part of the number";
+}
+
+// The second camera's files stand where those of the first did that had been deleted.
+TEST(FirstLetters, TimesTellItWhereTwoSeriesShareAFolder) {
+    FirstLetters letters;
+    for (const std::size_t number : {2, 3, 9, 12, 13, 14}) {
+        letters.learn(QString("J%1.JPG").arg(number, 5, 10, QChar(u'0')),
+                      {1, 20 - number, static_cast<std::int64_t>(100 + number)});
+    }
+    for (const std::size_t number : {4, 6, 8}) {
+        letters.learn(QString("N%1.JPG").arg(number, 5, 10, QChar(u'0')),
+                      {1, 20 + number % 3, static_cast<std::int64_t>(200 + number)});
+    }
+    EXPECT_EQ(letters.of("_00001.JPG", {1, 30, 201}), QChar(u'N'));
+    EXPECT_EQ(letters.of("_00005.JPG", {1, 30, 205}), QChar(u'N'));
+    EXPECT_EQ(letters.of("_00005.JPG", {1, 30, 105}), QChar(u'J'));
+    EXPECT_EQ(letters.of("_00015.JPG", {1, 30, 115}), QChar(u'J'));
+    EXPECT_EQ(letters.of("_00015.JPG", {1, 30, 215}), std::nullopt) << "behind both";
+    EXPECT_EQ(letters.of("_00001.JPG", {1, 30, 300}), std::nullopt) << "in neither";
+    EXPECT_EQ(letters.of("_00005.JPG", {1, 30, 0}), std::nullopt);
+    letters.learn("N00002.JPG", {2, 0, 1});
+    letters.learn("J00001.JPG", {2, 1, 9});
+    EXPECT_EQ(letters.of("_00003.JPG", {2, 2, 5}), std::nullopt) << "one alone is no series";
+}
+
+TEST(FirstLetters, NumbersThatRiseWithEachEntryTellIt) {
+    FirstLetters letters;
+    for (const std::size_t number : {4, 5, 8, 9}) {
+        letters.learn(QString("X%1.XMP").arg(number), {1, number + 2});
+    }
+    EXPECT_EQ(letters.of("_1.XMP", {1, 3}), QChar(u'X'));
+    EXPECT_EQ(letters.of("_10.XMP", {1, 12}), QChar(u'X'));
+    EXPECT_EQ(letters.of("_1.XMP", {1, 2}), std::nullopt) << "another stands between";
+    EXPECT_EQ(letters.of("_1.XMP", {2, 3}), std::nullopt);
+    // Two that take turns.
+    for (const std::size_t number : {1, 3, 5, 7}) {
+        letters.learn(QString("F%1.MOV").arg(number), {1, 20 + number});
+    }
+    EXPECT_EQ(letters.of("_9.MOV", {1, 29}), std::nullopt);
+    // The letter may be the number's first digit.
+    for (const std::size_t number : {7, 8, 9}) {
+        letters.learn(QString("1%1.TXT").arg(number), {1, 40 + number});
+    }
+    EXPECT_EQ(letters.of("_6.TXT", {1, 46}), QChar(u'1'));
+    EXPECT_EQ(letters.of("_10.TXT", {1, 50}), std::nullopt);
+    for (const std::size_t number : {7, 8, 9}) {
+        letters.learn(QString("00%1NOTE.DOC").arg(number), {1, 60 + number});
+    }
+    EXPECT_EQ(letters.of("_06NOTE.DOC", {1, 66}), QChar(u'0'));
+    EXPECT_EQ(letters.of("_06NOTE.DOC", {1, 67}), std::nullopt);
+    EXPECT_EQ(letters.of("_06NOTE.TXT", {1, 66}), std::nullopt);
+}
+
+class CountedCard final : public SectorSource {
+  public:
+    std::uint64_t sectors() const override { return 100'000; }
+    bool readAt(std::uint64_t sector, std::span<std::uint8_t> into) override {
+        read += into.size() / 512;
+        std::fill(into.begin(), into.end(), static_cast<std::uint8_t>(sector));
+        return sector != 77'777;
+    }
+    std::uint64_t read = 0;
+};
+
+TEST(CachedSource, LookAtOneSector_ReadsNoMore) {
+    CountedCard card;
+    CachedSource cached(card);
+    std::array<std::uint8_t, 512> sector{};
+    for (std::uint64_t at = 1000; at < 100'000; at += 1000) {
+        EXPECT_TRUE(cached.readAt(at, sector));
+        EXPECT_EQ(sector[511], static_cast<std::uint8_t>(at));
+    }
+    EXPECT_EQ(card.read, 99u);
+    EXPECT_FALSE(cached.readAt(77'777, sector));
+    EXPECT_FALSE(cached.readAt(200'000, sector));
+    card.read = 0;
+    // Looks beside each other are of one piece.
+    for (std::uint64_t at = 50'000; at < 50'040; ++at) {
+        EXPECT_TRUE(cached.readAt(at, sector));
+    }
+    EXPECT_EQ(card.read, CachedSource::kPieceSectors);
 }
 
 Bytes partitionRow(std::uint8_t type, std::uint32_t first, std::uint32_t sectors) {

@@ -122,10 +122,65 @@ TEST_F(NtfsCard, FilesThereAndGone_KeepTheirRuns) {
     ASSERT_EQ(table.fileSystems.size(), 1u);
 }
 
-TEST_F(NtfsCard, FolderThatHasBecomeAnother_NamesNothing) {
+// Through the end of the record's first sector, where two bytes stand elsewhere.
+TEST_F(NtfsCard, FilesInTheirRecords_BringTheirBytesAlong) {
+    Bytes text(600);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        text[i] = static_cast<std::uint8_t>('a' + i % 26);
+    }
+    const Bytes there = record(kThere, 1, nameAttribute("there.txt", 24, 3) + attribute(0x80, text));
+    putRecord(26, there);
+    putRecord(27, record(kGone, 2, nameAttribute("gone.txt", 25, 7) + attribute(0x80, text)));
+    // One whose length does not fit into the record tells no bytes; nor does an encrypted one.
+    Bytes longer = attribute(0x80, text);
+    put(longer, 16, 700, 4);
+    putRecord(28, record(kThere, 1, nameAttribute("longer.txt", 24, 3) + longer));
+    Bytes secret = attribute(0x80, text);
+    put(secret, 12, 0x4000, 2);
+    putRecord(29, record(kThere, 1, nameAttribute("secret.txt", 24, 3) + secret));
+    const CardTable table = tableOf(m_card);
+    QByteArray expected(reinterpret_cast<const char*>(text.data()), 600);
+    expected.append(424, '\0');
+    const CardFile live = fileNamed(table, "there.txt");
+    EXPECT_EQ(live.contents, expected);
+    EXPECT_EQ(live.bytes, 600u);
+    EXPECT_EQ(live.runs, (std::vector<SectorRun>{{80 + 52, 80 + 54}}));
+    const CardFile gone = fileNamed(table, "gone.txt");
+    EXPECT_EQ(gone.state, FileState::Deleted);
+    EXPECT_EQ(gone.contents, expected);
+    EXPECT_FALSE(gone.beginningIsInUse);
+    for (const char* const name : {"longer.txt", "secret.txt"}) {
+        EXPECT_TRUE(fileNamed(table, name).contents.isEmpty()) << name;
+        EXPECT_TRUE(fileNamed(table, name).runs.empty()) << name;
+    }
+}
+
+// The rows of a folder that is there, a further stream of a file, and a part of either in another record.
+TEST_F(NtfsCard, WhatFilesAndFoldersHoldBesideTheirContents_IsInUse) {
+    const auto held = [](std::uint32_t type, std::uint8_t cluster) {
+        Bytes made = dataAttribute(4096, {0x11, 1, cluster, 0});
+        put(made, 0, type, 4);
+        made[9] = 4;  // it has a name
+        return made;
+    };
+    putRecord(26, record(kThereFolder, 1, nameAttribute("Rows", 24, 3) + held(0xA0, 100)));
+    putRecord(
+        27, record(kThere, 1,
+                   nameAttribute("a.txt", 24, 3) + dataAttribute(4096, {0x11, 1, 101, 0}) + held(0x80, 102)));
+    putRecord(28, record(kThere, 1, held(0xA0, 103), 26));
+    putRecord(29, record(kGoneFolder, 1, nameAttribute("Gone", 24, 3) + held(0xA0, 104)));
+    const CardTable table = tableOf(m_card);
+    for (const std::uint64_t cluster : {100, 101, 102, 103}) {
+        EXPECT_TRUE(table.isInUse(cluster * 8)) << cluster;
+    }
+    EXPECT_FALSE(table.isInUse(104 * 8));
+    EXPECT_EQ(fileNamed(table, "a.txt").runs, (std::vector<SectorRun>{{808, 816}}));
+}
+
+TEST_F(NtfsCard, FolderThatHasBecomeAnother_HasNoName) {
     putRecord(26,
               record(kGone, 2, nameAttribute("IMG_1.JPG", 24, 2) + dataAttribute(4096, {0x11, 1, 100, 0})));
-    EXPECT_EQ(pathsOf(tableOf(m_card)), "IMG_1.JPG");
+    EXPECT_EQ(pathsOf(tableOf(m_card)), "folder-24/IMG_1.JPG");
 }
 
 TEST_F(NtfsCard, RunsBeyondTheCardAndFoldersInALoop_AreCut) {
@@ -183,13 +238,23 @@ TEST_F(LostNtfsRecords, OfTheSameClusters_TellFilesInTheirFolders) {
     putPicture(800);
     const CardTable table = tableOf(m_card, m_found);
     // The second one's folder is another by now.
-    EXPECT_EQ(pathsOf(table), "IMG_2.JPG\nUrlaub/IMG_1.JPG");
+    EXPECT_EQ(pathsOf(table), "Urlaub/IMG_1.JPG\nfolder-60/IMG_2.JPG");
     const CardFile file = fileNamed(table, "IMG_1.JPG");
     EXPECT_EQ(file.state, FileState::Lost);
     EXPECT_EQ(file.bytes, 2 * 4096u - 7);
     EXPECT_EQ(file.runs, (std::vector<SectorRun>{{800, 816}}));
     EXPECT_EQ(file.runsKnownBy, RunsKnownBy::Record);
     EXPECT_EQ(file.modified, 1'700'000'100);
+}
+
+TEST_F(LostNtfsRecords, OfFilesThatTheyHold_BringTheirBytesAlong) {
+    putLost(61, record(kThere, 1, nameAttribute("IMG_1.JPG", 5, 5) + dataAttribute(4096, {0x11, 1, 100, 0})));
+    putLost(62, record(kThere, 1, nameAttribute("note.txt", 5, 5) + attribute(0x80, {'n', 'o', 't', 'e'})));
+    putPicture(800);
+    const CardFile file = fileNamed(tableOf(m_card, m_found), "note.txt");
+    EXPECT_EQ(file.state, FileState::Lost);
+    EXPECT_EQ(file.contents, QByteArray("note").leftJustified(512, '\0'));
+    EXPECT_EQ(file.runs, (std::vector<SectorRun>{{280 + 124, 280 + 125}}));
 }
 
 TEST_F(LostNtfsRecords, WithoutAnyFirstSector_AreVotedFor) {

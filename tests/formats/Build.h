@@ -18,13 +18,11 @@ constexpr std::string_view operator""_b(const char* text, std::size_t length) {
 class Build {
   public:
     Build& text(std::string_view value) {
-        for (const char letter : value)
-            m_bytes.push_back(static_cast<std::uint8_t>(letter));
+        m_bytes.insert(m_bytes.end(), value.begin(), value.end());
         return *this;
     }
     Build& add(const Bytes& value) {
-        for (const std::uint8_t byte : value)
-            m_bytes.push_back(byte);
+        m_bytes.insert(m_bytes.end(), value.begin(), value.end());
         return *this;
     }
     Build& fill(std::size_t count, std::uint8_t value = 0) {

@@ -8,6 +8,7 @@
 #include "results/ResultRow.h"
 #include "results/ToldFiles.h"
 #include "saving/ItemSaver.h"
+#include "saving/ToldItem.h"
 #include "tests/support/SmallFiles.h"
 
 namespace vantor {
@@ -206,6 +207,30 @@ TEST_F(CardSaving, WhatOnlyTheDirectoryTellsIsSavedAsItSays) {
     EXPECT_EQ(text.path, path("NOTES/a.txt"));
     EXPECT_EQ(QFileInfo(text.path).size(), 700);
     EXPECT_EQ(told(1).leftOut, LeftOut::Unsound) << "a longer file begins there";
+}
+
+TEST_F(CardSaving, WhatADirectoryHoldsItselfIsSavedFromThere) {
+    // Nothing of it is read: the sectors of the medium hold something else.
+    const QByteArray text = QByteArray("the card tells of files that are gone ").repeated(16);
+    for (const FileState state : {FileState::Live, FileState::Deleted}) {
+        CardFile note = cardFile("NOTES", state == FileState::Live ? "here.txt" : "gone.txt",
+                                 static_cast<std::uint64_t>(text.size()), {80, 82}, state);
+        note.contents = text.leftJustified(1024, '\0');
+        CardTable table;
+        table.files = {note};
+        table.inUse = {{70, 100}};  // the file records
+        const auto card = std::make_shared<const CardIndex>(std::move(table));
+        const auto files = toldOnly(card, {}, {{0, 1000}, [](const QString&) { return true; }});
+        ASSERT_EQ(files.size(), 1u);
+        const ItemSaver saver(m_folder.path());
+        const SaveOutcome outcome = saver.save(toldItem(files.front(), card, m_reader));
+        ASSERT_TRUE(outcome.saved) << outcome.error.toStdString();
+        EXPECT_EQ(outcome.path, path("NOTES/" + note.name));
+        EXPECT_EQ(contentsOf(outcome.path), text);
+        EXPECT_EQ(card->isLiveAt(80), state == FileState::Live);
+        // It takes no place from what was found.
+        EXPECT_FALSE(card->tellsOf(80));
+    }
 }
 
 TEST_F(CardSaving, PiecesThatTheCardTellsLaterReplaceWhatWasSaved) {

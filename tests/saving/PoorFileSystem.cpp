@@ -11,6 +11,7 @@
 #include <cerrno>
 #include <cstdarg>
 #include <optional>
+#include <utility>
 
 namespace vantor::test {
 
@@ -18,6 +19,8 @@ namespace {
 
 std::optional<PoorFileSystem::Has> has;
 std::atomic<int> flushes{0};
+int actAt = 0;
+std::function<void()> act;
 
 template <typename Call>
 Call real(const char* name) {
@@ -43,6 +46,17 @@ int flushesSoFar() {
     return flushes;
 }
 
+void beforeFlush(int further, std::function<void()> action) {
+    actAt = flushes + further + 1;
+    act = std::move(action);
+}
+
+void countFlush() {
+    if (++flushes == actAt && act) {
+        std::exchange(act, nullptr)();
+    }
+}
+
 }  // namespace vantor::test
 
 using vantor::test::has;
@@ -50,7 +64,7 @@ using vantor::test::has;
 extern "C" {
 
 int fsync(int fd) {
-    ++vantor::test::flushes;
+    vantor::test::countFlush();
     return vantor::test::real<int (*)(int)>("fsync")(fd);
 }
 

@@ -1,6 +1,8 @@
 // A file system that lacks what others have: in this program's calls, while an object of the class lives.
 #pragma once
 
+#include <functional>
+
 namespace vantor::test {
 
 class PoorFileSystem {
@@ -19,5 +21,8 @@ class PoorFileSystem {
 
 // How often something was flushed to its medium by this program so far.
 int flushesSoFar();
+
+// Does something before that many further flushes, once.
+void beforeFlush(int further, std::function<void()> act);
 
 }  // namespace vantor::test

@@ -12,6 +12,7 @@
 #include "saving/SaveSummary.h"
 #include "saving/SavedMarks.h"
 #include "saving/Sha256.h"
+#include "tests/saving/PoorFileSystem.h"
 #include "tests/support/SmallFiles.h"
 
 namespace vantor {
@@ -235,6 +236,36 @@ TEST_F(SaveJobTest, WhatWasSavedIntoAFolderThatWent_IsNotSaved) {
     }
     EXPECT_EQ(report.toldFailed.size(), 2U) << "to be saved elsewhere";
     EXPECT_FALSE(QFileInfo::exists(folder.path())) << "not made anew";
+}
+
+TEST_F(SaveJobTest, WhatWasSavedIntoAFolderThatWentBehindTheLastItem_IsNotSaved) {
+    const auto flushesOf = [&](QTemporaryDir& into, int gone) {
+        SaveRequest wish = request({{4, item("a.WAV", {10, 50})}, {2, item("b.QQQ", {60, 62})}});
+        wish.saver = std::make_shared<const ItemSaver>(into.path());
+        wish.destination = into.path();
+        wish.report = ReportHead{};
+        SaveJob job(std::move(wish));
+        const int before = test::flushesSoFar();
+        test::beforeFlush(gone, [&into] { into.remove(); });
+        job.run();
+        test::beforeFlush(0, {});
+        const SaveTally& tally = job.report().tally;
+        EXPECT_EQ(tally.saved + tally.failed, 2U);
+        EXPECT_EQ(tally.saved, QFileInfo::exists(into.path()) ? 2U : 0U) << "gone before flush " << gone;
+        EXPECT_EQ(tally.failedBeside(tally.failures.size()), 0U);
+        for (const ReportedItem& reported : job.report().items) {
+            EXPECT_EQ(reported.outcome.saved, tally.saved != 0);
+        }
+        return test::flushesSoFar() - before;
+    };
+    QTemporaryDir undisturbed;
+    const int all = flushesOf(undisturbed, 1000);
+    ASSERT_GE(all, 2 + 2 + 2) << "files, folders, and the page and table of the report";
+    for (int gone = 2; gone < all; ++gone) {
+        QTemporaryDir into;
+        flushesOf(into, gone);
+        EXPECT_FALSE(QFileInfo::exists(into.path()));
+    }
 }
 
 TEST_F(SaveJobTest, WithoutAReport_NoneIsWritten) {

@@ -51,6 +51,25 @@ TEST(SaveTally, SaysWhatBecameOfEach) {
     EXPECT_EQ(tally.failures, QStringList{"h: No room"});
 }
 
+TEST(SaveTally, WhatWentWithTheDestination_FailedAllOfIt) {
+    SaveTally tally;
+    tally.loseSaved("gone");
+    EXPECT_EQ(tally.failed, 0U) << "nothing was there to go";
+    SaveOutcome again = savedAs(Verdict::Complete);
+    again.duplicate = true;
+    tally.add("a", savedAs(Verdict::Complete));
+    tally.add("b", again);
+    tally.add("c", {});
+    tally.loseSaved("gone");
+    EXPECT_EQ(tally.lines("/out"), QStringList{"0 saved in /out"});
+    EXPECT_EQ(tally.failed, 3U);
+    EXPECT_EQ(tally.failures, (QStringList{"gone", "c: "}));
+    EXPECT_EQ(tally.failedBeside(2), 0U);
+    EXPECT_EQ(tally.failedBeside(1), 1U);
+    tally.loseSaved("gone");
+    EXPECT_EQ(tally.failed, 3U);
+}
+
 TEST(SaveTally, KeepsTheFirstFailuresOnly) {
     SaveTally tally;
     for (int i = 0; i < 1000; ++i) {

@@ -41,6 +41,20 @@ TEST(WholeFile, TakenNamesGetANumberBeforeTheExtension) {
     }
 }
 
+TEST(WholeFile, LongNames_KeepTheirExtensionBesideANumber) {
+    const QTemporaryDir folder;
+    const QString stem = QString(248, u'x') + QStringLiteral("1.");
+    const QString longest = stem + QStringLiteral("jpeg");
+    ASSERT_EQ(longest.size(), 254);
+    for (const QString& expected : {longest, QString(246, u'x') + QStringLiteral(" (2).jpeg"),
+                                    QString(246, u'x') + QStringLiteral(" (3).jpeg")}) {
+        WholeFile file(folder.path());
+        EXPECT_EQ(file.commit(longest), folder.filePath(expected)) << file.error().toStdString();
+    }
+    EXPECT_EQ(numberedName(QStringLiteral("a.jpg"), 2), QStringLiteral("a (2).jpg"));
+    EXPECT_EQ(cutToComponent(QString(300, u'x')).size(), 255);
+}
+
 // One after the other they would take as many tries as the square of their number.
 TEST(WholeFile, NameThatIsTakenManyTimes_TakesFewTries) {
     const QTemporaryDir folder;

@@ -150,6 +150,17 @@ TEST_P(KeepingByMode, ASearchThatCouldNotReadOn_GoesOnWithWhatWasRefused) {
         << controller->searchEndLabel->text().toStdString();
 }
 
+// What was refused before the stop is not asked for again, and could not be read all the same.
+TEST_P(KeepingByMode, AfterGoingOn_SectorsThatWereRefusedBefore_AreCountedToo) {
+    openWithCard();
+    card.badForEver = {5, 6, 7, 50};
+    GetParam() == kPhotoMode ? toRange(GetParam()) : toFileTypes(GetParam());
+    searchAndStopAt(30);
+    pressAndSearch(button("goOnButton"));
+    EXPECT_EQ(controller->searchEndLabel->text(),
+              "The search has completed, but 4 sectors could not be read.");
+}
+
 TEST_P(KeepingByMode, ARememberedSearch_GoesOnAtTheNextStart) {
     const QStringList all = undisturbed(GetParam());
     open();

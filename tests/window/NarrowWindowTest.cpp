@@ -2,6 +2,7 @@
 // sideways.
 #include <QBoxLayout>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
@@ -11,8 +12,10 @@
 #include "tests/window/GatedWindow.h"
 #include "window/browser/ImageCell.h"
 #include "window/saving/SavingOptions.h"
+#include "window/widgets/ComboWidth.h"
 #include "window/widgets/EndsLayout.h"
 #include "window/widgets/HintLabel.h"
+#include "window/widgets/MessageLayout.h"
 #include "window/widgets/NumberLabel.h"
 
 namespace vantor {
@@ -24,11 +27,31 @@ class NarrowWindow : public GatedWindow, public testing::WithParamInterface<int>
   protected:
     void expectThatItFits(const char* screen) const {
         settle();
+        for (const char* name :
+             {"allTypesButton", "showBox", "sortBox", "showBox_Sig", "sortBox_Sig", "_zoom_slider",
+              "zoomSlider_Sig", "tryBadSectorsButton", "completeBrokenButton"}) {
+            const auto* const control = part<QWidget>(name);
+            ASSERT_NE(control, nullptr) << name;
+            if (control->isVisible()) {
+                const QWidget* const pane = control->parentWidget();
+                EXPECT_LE(control->geometry().right(), pane->rect().right())
+                    << screen << ": " << name << " is cut";
+                EXPECT_GE(control->width(), std::max(control->minimumWidth(), 90)) << screen << ": " << name;
+            }
+        }
         EXPECT_FALSE(controller->bodyScroll->horizontalScrollBar()->isVisible()) << screen;
         const QLabel* const hint = controller->_help_info;
         EXPECT_GE(hint->height(), hint->heightForWidth(hint->width())) << screen << ": the hint is cut";
     }
 };
+
+int topOf(const QWidget* widget) {
+    return widget->mapTo(widget->window(), QPoint(0, 0)).y();
+}
+
+int bottomOf(const QWidget* widget) {
+    return topOf(widget) + widget->height();
+}
 
 INSTANTIATE_TEST_SUITE_P(Modes, NarrowWindow, testing::Values(kPhotoMode, kVideoMode, kRawFileMode));
 
@@ -48,10 +71,13 @@ TEST_P(NarrowWindow, HoldsEveryScreen) {
     ASSERT_TRUE(waitFor([this] { return !controller->scanFactsLabel->text().isEmpty(); }));
     expectThatItFits("the running search");
     EXPECT_EQ(controller->_stop_scan->visibleRegion(), QRegion(controller->_stop_scan->rect()));
+    EXPECT_EQ(bottomOf(part<QWidget>("bodyScroll")), topOf(part<QWidget>("scanStripRow")));
     answers.press(QStringLiteral("OK"));
     gate.open();
     ASSERT_TRUE(scanEnds());
     expectThatItFits("results");
+    EXPECT_EQ(bottomOf(part<QWidget>("bodyScroll")), topOf(part<QWidget>("footerBar")))
+        << "no empty line between";
 }
 
 TEST_P(NarrowWindow, TheRoomThatIsLeftOnTheRangeScreen_IsBelowItsOptions) {
@@ -114,6 +140,106 @@ TEST(EndsLayout, BeginsAnotherLineRatherThanCuttingAButton) {
     EXPECT_EQ(buttons[3]->y(), 3 * (buttons[0]->height() + 8));
     buttons[1]->hide();
     EXPECT_EQ(layout->heightForWidth(wanted), buttons[0]->height());
+}
+
+TEST(EndsLayout, WhatStandsTogetherStaysSo_AndGivesWayBeforeALineIsBegun) {
+    QWidget window;
+    auto* const outer = new QVBoxLayout(&window);
+    outer->setContentsMargins(0, 0, 0, 0);
+    QHBoxLayout row;
+    row.setSpacing(8);
+    auto* const heading = new QLabel(QStringLiteral("Found items"), &window);
+    row.addWidget(heading);
+    row.addStretch();
+    QList<QComboBox*> boxes;
+    for (int i = 0; i < 2; ++i) {
+        auto* const together = new QHBoxLayout;
+        together->addWidget(new QLabel(QStringLiteral("Show"), &window));
+        boxes << new QComboBox(&window);
+        boxes.constLast()->addItems({QStringLiteral("All"), QStringLiteral("Everything of the kind")});
+        boxes.constLast()->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+        keepWordsWhole(boxes.constLast());
+        together->addWidget(boxes.constLast());
+        row.addLayout(together);
+    }
+    auto* const layout = new EndsLayout(&row);
+    outer->addLayout(layout);
+    const int wanted = layout->sizeHint().width();
+    const int spare = boxes[0]->sizeHint().width() - boxes[0]->minimumWidth();
+    ASSERT_GT(spare, 20);
+    const auto showAt = [&](int width) {
+        window.resize(width, layout->heightForWidth(width));
+        window.show();
+        outer->activate();
+        EXPECT_EQ(boxes[1]->geometry().right() + 1, width);
+        EXPECT_GE(boxes[0]->x(), 0);
+        EXPECT_GE(boxes[0]->width(), boxes[0]->minimumWidth());
+    };
+    showAt(wanted);
+    EXPECT_EQ(boxes[0]->width(), boxes[0]->sizeHint().width());
+    showAt(wanted - spare);
+    EXPECT_EQ(boxes[0]->y(), boxes[1]->y());
+    EXPECT_NEAR(boxes[0]->geometry().center().y(), heading->geometry().center().y(), 1);
+    EXPECT_EQ(boxes[0]->width(), boxes[1]->width()) << "both gave the same";
+    EXPECT_NEAR(boxes[0]->width(), boxes[0]->sizeHint().width() - spare / 2, 1);
+    showAt(wanted - 2 * spare);
+    EXPECT_EQ(boxes[0]->width(), boxes[0]->minimumWidth());
+    EXPECT_NEAR(boxes[0]->geometry().center().y(), heading->geometry().center().y(), 1);
+    showAt(wanted - 2 * spare - 1);
+    EXPECT_GT(boxes[0]->y(), heading->geometry().bottom());
+    EXPECT_EQ(boxes[0]->y(), boxes[1]->y());
+    boxes[0]->setCurrentIndex(1);
+    keepWordsWhole(boxes[0]);
+    EXPECT_EQ(boxes[0]->minimumWidth(), boxes[0]->sizeHint().width());
+}
+
+TEST(MessageLayout, PutsItsButtonsBelowRatherThanSqueezingTheSentence) {
+    QFrame bar;
+    auto* const row = new QHBoxLayout(&bar);
+    row->setContentsMargins(16, 8, 16, 8);
+    row->setSpacing(12);
+    auto* const icon = new QLabel(&bar);
+    icon->setMinimumSize(24, 24);
+    auto* const sentence = new QLabel(&bar);
+    sentence->setWordWrap(true);
+    auto* const first = new QPushButton(QStringLiteral("Try Bad Sectors Again"), &bar);
+    auto* const second = new QPushButton(QStringLiteral("Complete Broken Files"), &bar);
+    for (QWidget* const part : std::initializer_list<QWidget*>{icon, sentence, first, second}) {
+        row->addWidget(part);
+    }
+    MessageLayout::replace(row);
+    const auto showAt = [&](int width) {
+        bar.resize(width, bar.layout()->heightForWidth(width));
+        bar.show();
+        bar.layout()->activate();
+        EXPECT_GE(sentence->height(), sentence->heightForWidth(sentence->width())) << width;
+        EXPECT_GT(sentence->x(), icon->geometry().right()) << width;
+        for (const QPushButton* const button : {first, second}) {
+            EXPECT_EQ(button->width(), button->sizeHint().width()) << width;
+            EXPECT_LE(button->geometry().right() + 1, width - 16) << width;
+        }
+        EXPECT_EQ(std::max(first->geometry().right(), second->geometry().right()) + 1, width - 16) << width;
+    };
+    sentence->setText(QStringLiteral("Done."));
+    const int buttons = first->sizeHint().width() + 12 + second->sizeHint().width();
+    const int room =
+        16 + 24 + 12 + sentence->fontMetrics().horizontalAdvance(sentence->text()) + 1 + 12 + buttons + 16;
+    showAt(room);
+    EXPECT_LT(sentence->geometry().right(), first->x());
+    EXPECT_EQ(first->y(), second->y());
+    showAt(room - 1);
+    EXPECT_GT(first->y(), sentence->geometry().bottom());
+    EXPECT_EQ(first->y(), second->y());
+    EXPECT_EQ(sentence->geometry().right() + 1, room - 1 - 16) << "it has the whole width";
+    showAt(16 + buttons - 1 + 16);
+    EXPECT_EQ(second->y(), first->geometry().bottom() + 1 + 12);
+    sentence->setText(QStringLiteral("The search was stopped at 34 % (sector 47 of 64). ").repeated(4));
+    showAt(room);
+    EXPECT_GT(first->y(), sentence->geometry().bottom()) << "a long sentence is not set in a narrow column";
+    first->hide();
+    second->hide();
+    EXPECT_EQ(bar.layout()->heightForWidth(room),
+              std::max(24, sentence->heightForWidth(room - 16 - 24 - 12 - 16)) + 16);
 }
 
 TEST(SavingOptionsSheet, ItsLinesLieAtEqualDistances) {

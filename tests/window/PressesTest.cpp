@@ -98,6 +98,22 @@ TEST_F(FirstScreen, AShortcutThatIsHeld_GoesOneStepToo) {
     }
 }
 
+// As when Alt is let go first: what is left is an arrow key on a choice.
+TEST_F(FirstScreen, AnArrowThatIsHeldFromTheScreenBefore_ChoosesNothing) {
+    openWithCard();
+    selectMedium();
+    QTest::keyPress(controller->idTableView, Qt::Key_Right, Qt::AltModifier);
+    ASSERT_TRUE(waitFor([this] { return controller->screen_counter == 1; }));
+    hasKeyboardAgain();
+    ASSERT_EQ(keyboardAt(), controller->_entire_disk_rd);
+    hold(keyboardAt(), Qt::Key_Right);
+    EXPECT_TRUE(controller->_entire_disk_rd->isChecked());
+    QTest::keyClick(keyboardAt(), Qt::Key_Right);
+    EXPECT_TRUE(controller->_sector_range_rd->isChecked()) << "pressed anew";
+    hold(keyboardAt(), Qt::Key_Left);
+    EXPECT_TRUE(controller->_entire_disk_rd->isChecked()) << "and held there";
+}
+
 // The toolkit leads back to the card that had the keyboard last, which need not be the chosen one.
 TEST_F(FirstScreen, TabLeadsToTheChosenMode) {
     openWithCard();

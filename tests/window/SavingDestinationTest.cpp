@@ -6,8 +6,11 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QThread>
+#include <map>
 
+#include "results/MyImageObject.h"
 #include "results/RecoveryMode.h"
+#include "results/SizeForPeople.h"
 #include "tests/window/SavingWindow.h"
 
 namespace vantor {
@@ -93,6 +96,31 @@ TEST_F(Saving, TheRoomThatFilesNeed_IsToldAsFarAsItIsKnown) {
                controller->factsOfItem(2).soundness;
     })) << "and is examined";
     EXPECT_TRUE(told().startsWith(QStringLiteral("Some ")));
+}
+
+TEST_F(Saving, TheRoomOfWhatTwoTypesFound_IsNeededOnce) {
+    parts.freeBytes = [](const QString&) { return std::optional<std::uint64_t>(1); };
+    parts.openBeside = [](const QString&) { return std::unique_ptr<SectorReader>(); };
+    openWithCard();
+    toFileTypes(kRawFileMode);
+    scanToEnd();
+    destinationIs(destination.path());
+    std::map<std::uint64_t, std::uint64_t> sectorsAt;
+    std::uint64_t all = 0, once = 0;
+    for (std::size_t at = 0; at < controller->itemCount(); ++at) {
+        const CarvedRun& carved = controller->itemAt(at)->carved();
+        all += carved.sectors();
+        sectorsAt[carved.runs.front().first] = carved.sectors();
+    }
+    for (const auto& place : sectorsAt) {
+        once += place.second;
+    }
+    ASSERT_LT(once, all) << "both passes found the document";
+    answers.press(QStringLiteral("Cancel"));
+    click(controller->saveAllButton_Sig);
+    EXPECT_TRUE(answers.seen().back().informative.contains(
+        QStringLiteral("need some %1;").arg(sizeForPeople(once * kSectorBytes))))
+        << answers.seen().back().informative.toStdString();
 }
 
 TEST_F(Saving, TheFolderOfAnEarlierSearch_IsNotTakenUnseen) {

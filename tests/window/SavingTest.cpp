@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTableView>
@@ -13,15 +14,33 @@
 #include "results/RecoveryMode.h"
 #include "tests/support/Gate.h"
 #include "tests/window/SavingWindow.h"
+#include "window/widgets/Theme.h"
 
 namespace vantor {
 namespace {
 
+// Which of the program's pictures an alert bears.
+QString pictureOf(QDialog* alert) {
+    const auto* const box = qobject_cast<QMessageBox*>(alert);
+    const QImage seen = box != nullptr ? box->iconPixmap().toImage() : QImage();
+    for (const char* name : {"ok", "info", "question"}) {
+        if (seen == ownIcon(QLatin1String(name)).pixmap(box->iconPixmap().size()).toImage()) {
+            return QLatin1String(name);
+        }
+    }
+    return {};
+}
+
 TEST_F(Saving, SaveAll_WritesEveryItemIntoAFolderOfItsType) {
     openPhotoResults();
     destinationIs(destination.path());
-    answers.press(QStringLiteral("OK"));
+    QString picture;
+    answers.then([&](QDialog* end) {
+        picture = pictureOf(end);
+        pressButton(end, QStringLiteral("OK"));
+    });
     click(controller->saveAllButton);
+    EXPECT_EQ(picture, QStringLiteral("ok"));
     EXPECT_EQ(answers.seen().back().text, QStringLiteral("\n3 files were saved."));
     EXPECT_EQ(answers.seen().back().buttons,
               (QStringList{QStringLiteral("Open Folder"), QStringLiteral("OK")}));
@@ -208,8 +227,13 @@ TEST_F(Saving, TheSheetSaysHowFarItIs_AndCancelEndsIt) {
         gate.open();
     });
     look.start(5);
-    answers.press(QStringLiteral("OK"));
+    QString picture;
+    answers.then([&](QDialog* end) {
+        picture = pictureOf(end);
+        pressButton(end, QStringLiteral("OK"));
+    });
     click(controller->saveAllButton);
+    EXPECT_EQ(picture, QStringLiteral("info")) << "no tick for what was broken off";
     EXPECT_EQ(heading, QStringLiteral("Saving 2 of 3"));
     EXPECT_EQ(file, QStringLiteral("GND00002.JPG"));
     EXPECT_EQ(answers.seen().back().text, QStringLiteral("\n1 file was saved."));

@@ -77,6 +77,21 @@ TEST_F(SearchEndBar, OnlyBadSectors_CanBeTriedAgain) {
     EXPECT_TRUE(controller->searchEndBar->isVisible());
 }
 
+TEST_F(SearchEndBar, EverySectorThatCouldNotBeRead_IsCounted_InEachOfTwoSearches) {
+    openWithCard();
+    card.badForEver = {20, 21, 22, 40};
+    toRange(kPhotoMode);
+    runToEnd();
+    EXPECT_EQ(heading, "The search has completed, but 4 sectors could not be read.");
+    answers.press(QStringLiteral("Go Back Without Saving"));
+    click(controller->backButton);
+    click(controller->backButton);
+    toFileTypes(kRawFileMode);
+    runToEnd();
+    EXPECT_EQ(heading, "The search has completed, but 4 sectors could not be read.");
+    EXPECT_EQ(controller->searchEndLabel->text(), heading);
+}
+
 TEST_F(SearchEndBar, AStoppedSearch_SaysWhereAndHowToGoOn) {
     openWithCard();
     toFileTypes(kRawFileMode);

@@ -12,6 +12,7 @@
 #include "window/browser/DetailsHeader.h"
 #include "window/browser/FoundPane.h"
 #include "window/browser/ImageBrowserView.h"
+#include "window/widgets/ComboWidth.h"
 
 namespace vantor {
 
@@ -86,6 +87,7 @@ void BrowserLooks::fillBoxes() {
             box->view()->setAccessibleName(box->accessibleName());
             // A narrow box has a list that can be read.
             box->view()->setMinimumWidth(box->view()->sizeHintForColumn(0) + kListMargins);
+            keepWordsWhole(box);
             connect(box, &QComboBox::currentIndexChanged, this, &BrowserLooks::choose);
         }
         connect(screen.pane, &FoundPane::chosen, this, &BrowserLooks::pick);
@@ -100,6 +102,7 @@ void BrowserLooks::begin(SoundnessBoard::Open open) {
         for (QComboBox* box : {screen.show, screen.sort}) {
             const QSignalBlocker quiet(box);
             box->setCurrentIndex(0);
+            keepWordsWhole(box);
         }
         screen.pane->begin();
         screen.browser->setOrder(std::nullopt);
@@ -261,6 +264,8 @@ void BrowserLooks::look() {
 
 // The user chose what to show.
 void BrowserLooks::choose() {
+    keepWordsWhole(screen().show);
+    keepWordsWhole(screen().sort);
     m_wish.show = static_cast<ShowItems>(screen().show->currentData().toInt());
     const auto sort = static_cast<SortItems>(screen().sort->currentData().toInt());
     m_wish.reversed = m_wish.reversed && sort == m_wish.sort;

@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "window/keeping/SearchMemory.h"
+#include "window/widgets/MessageLayout.h"
 
 namespace vantor {
 
@@ -28,7 +29,7 @@ KeptSearchBar::KeptSearchBar(QWidget* parent) : QFrame(parent) {
     label->setWordWrap(true);
     label->setTextFormat(Qt::PlainText);
     label->setAccessibleDescription(tr("The remembered search"));
-    row->addWidget(label, 1);
+    row->addWidget(label);
     const auto button = [&](const char* name, const QString& text, const QString& tip) {
         auto* const made = new QPushButton(text, this);
         made->setObjectName(QString::fromLatin1(name));
@@ -42,6 +43,7 @@ KeptSearchBar::KeptSearchBar(QWidget* parent) : QFrame(parent) {
                         tr("List what the search had found, without searching on"));
     forgetButton = button("forgetKeptButton", tr("&Forget"),
                           tr("Delete what is remembered of this search; files that were saved stay"));
+    MessageLayout::replace(row);
     goOnButton->setAccessibleName(tr("Go on with the remembered search"));
     lookButton->setAccessibleName(tr("Show what the remembered search found"));
     forgetButton->setAccessibleName(tr("Forget the remembered search"));

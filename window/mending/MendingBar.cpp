@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <algorithm>
 
+#include "window/widgets/MessageLayout.h"
 #include "window/widgets/Theme.h"
 
 namespace vantor {
@@ -36,7 +37,7 @@ MendingBar::MendingBar(QWidget* parent) : QFrame(parent) {
     label->setWordWrap(true);
     label->setTextFormat(Qt::PlainText);
     label->setAccessibleDescription(tr("How far the completing of broken files is, and what came of it"));
-    row->addWidget(label, 1);
+    row->addWidget(label);
     progress = new QProgressBar(this);
     progress->setObjectName(QStringLiteral("mendingProgress"));
     progress->setAccessibleName(tr("Progress of completing broken files"));
@@ -56,6 +57,7 @@ MendingBar::MendingBar(QWidget* parent) : QFrame(parent) {
     showButton =
         button("showMendedButton", tr("Show Th&em"), tr("Show the files that were put together or repaired"));
     closeButton = button("closeMendingButton", tr("Clo&se"), tr("Close this message"));
+    MessageLayout::replace(row);
     connect(closeButton, &QPushButton::clicked, this, &QWidget::hide);
 }
 

@@ -36,7 +36,7 @@ struct SavingParts {
     std::function<std::shared_ptr<const CardIndex>()> card;      // of that medium; null: nothing is known
     std::function<std::shared_ptr<const MendedItems>()> mended;  // what was made of broken items
     // Gives what tells whether a folder lies on the medium of the moment; asked on the thread of the job.
-    std::function<ItemSaver::LiesOnMedium()> liesOnMedium;
+    std::function<Destination::LiesOnMedium()> liesOnMedium;
     std::function<std::optional<std::uint64_t>(const QString& folder)> freeBytes;
     std::function<QByteArray()> placeholder;  // the picture of items without a thumbnail
     std::function<ReportHead()> reportHead;

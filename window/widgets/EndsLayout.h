@@ -10,11 +10,13 @@ class QBoxLayout;
 namespace vantor {
 
 // What stands before the stretch keeps to the left, what stands behind it to the right. Where both do not fit
-// into one line, the right part begins another; nothing becomes narrower than it wants to be.
+// into one line, the right part begins another; nothing becomes narrower than it wants to be. What lies in a
+// row of its own within the row, as a control with its label, stays together.
 class EndsLayout : public QLayout {
   public:
-    // Takes all items of a row, of which one is a stretch.
+    // Takes all items of a row, of which one may be a stretch.
     explicit EndsLayout(QBoxLayout* row);
+    ~EndsLayout() override;
 
     void addItem(QLayoutItem* item) override;
     int count() const override { return static_cast<int>(m_items.size()); }
@@ -32,7 +34,7 @@ class EndsLayout : public QLayout {
   private:
     struct Line {
         std::vector<QLayoutItem*> items;
-        int width = 0, height = 0;
+        int width = 0, least = 0, height = 0;
         bool right = false;
     };
     std::vector<Line> linesFor(int width) const;

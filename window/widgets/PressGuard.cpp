@@ -13,15 +13,19 @@ namespace {
 // Nobody lets a key go and presses it again within so many milliseconds.
 constexpr quint64 kRepeatMilliseconds = 5;
 
+// To where they would lead on again.
+bool leadsOn(const QKeyEvent& key) {
+    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter ||
+           key.modifiers().testFlag(Qt::AltModifier);
+}
+
 }  // namespace
 
-// These lead on, to where they would lead on again. A display server repeats a key by letting it go and
-// pressing it; the toolkit does not always see that the two belong together.
-bool PressGuard::leadsOnWhenHeld(const QKeyEvent& key) const {
-    const bool repeated = key.isAutoRepeat() || (key.key() == m_letGo && key.timestamp() != 0 &&
-                                                 key.timestamp() - m_letGoTime <= kRepeatMilliseconds);
-    return repeated && (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter ||
-                        key.modifiers().testFlag(Qt::AltModifier));
+// A display server repeats a key by letting it go and pressing it; the toolkit does not always see that the
+// two belong together.
+bool PressGuard::isRepeated(const QKeyEvent& key) const {
+    return key.isAutoRepeat() || (key.key() == m_letGo && key.timestamp() != 0 &&
+                                  key.timestamp() - m_letGoTime <= kRepeatMilliseconds);
 }
 
 PressGuard::PressGuard(std::function<int()> screen, QObject* parent)
@@ -37,7 +41,11 @@ bool PressGuard::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
         case QEvent::ShortcutOverride:
         case QEvent::KeyPress: {
-            const bool held = leadsOnWhenHeld(*static_cast<QKeyEvent*>(event));
+            const auto& key = *static_cast<QKeyEvent*>(event);
+            if (!isRepeated(key)) {
+                m_keyBegan = here();
+            }
+            const bool held = isRepeated(key) && (leadsOn(key) || m_keyBegan != here());
             if (held) {
                 event->accept();  // no shortcut is looked for
             }

@@ -12,8 +12,8 @@ class QWidget;
 namespace vantor {
 
 // While it lives, in all windows of the program: a key that is held down neither presses Return again nor
-// goes from screen to screen, and what is left of a burst of clicks when the first of them has changed the
-// screen, opened a panel or closed one does nothing there. Interface thread only.
+// goes from screen to screen, and what is left of it or of a burst of clicks when the screen has changed, a
+// panel was opened or one closed does nothing there. Interface thread only.
 class PressGuard : public QObject {
   public:
     // `screen` tells the screens of the main window apart.
@@ -32,12 +32,13 @@ class PressGuard : public QObject {
 
     Place here() const;
     bool pressed(const QMouseEvent& event);
-    bool leadsOnWhenHeld(const QKeyEvent& key) const;
+    bool isRepeated(const QKeyEvent& key) const;
 
     std::function<int()> m_screen;
     Place m_began;  // where the burst of clicks did
     QPoint m_lastSpot;
     quint64 m_lastTime = 0;  // milliseconds
+    Place m_keyBegan;        // where the key was pressed that is held
     int m_letGo = 0;         // the key
     quint64 m_letGoTime = 0;
 };
