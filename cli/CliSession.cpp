@@ -132,6 +132,13 @@ void CliSession::finishSaving() {
     m_queue.reset();
 }
 
+// To be asked before a piece of work that is then left undone.
+bool CliSession::isStopped() {
+    const bool stopped = m_stop && m_stop();
+    m_leftUndone = m_leftUndone || stopped;
+    return stopped;
+}
+
 bool CliSession::destinationKeepsAll() {
     if (!m_savedInto || m_savedInto->keeps(m_tally, m_reported)) {
         return true;
@@ -147,6 +154,9 @@ void CliSession::saveToldFiles() {
         return;
     }
     for (const auto& file : toldFiles()) {
+        if (isStopped()) {
+            break;
+        }
         const FoundItem item = toldItem(file, card(), *medium);
         SaveOutcome outcome = m_queue->saver().save(item);
         if (outcome.leftOut == LeftOut::Unsound) {
@@ -175,6 +185,9 @@ void CliSession::nameWhatTheCardTellsNow() {
         SaveOutcome& outcome = m_outcomes[i];
         if (!listed) {
             continue;
+        }
+        if (isStopped()) {
+            break;
         }
         const QString before = outcome.path;
         FoundItem item{listed->type(), listed->imageTitle(), {listed->carved(), listed->heldBytes(), [this] {

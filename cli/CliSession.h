@@ -12,6 +12,7 @@
 #include <set>
 
 #include "cli/Options.h"
+#include "media/AbandonableSource.h"
 #include "repair/CompletionProgress.h"
 #include "repair/ItemMending.h"
 #include "saving/RecoveryReport.h"
@@ -90,6 +91,9 @@ class CliSession : private CliView, public ScanSession {
     // Asked before each file is saved.
     void setLiesOnMedium(Destination::LiesOnMedium asked) { m_liesOnMedium = std::move(asked); }
 
+    // Whether the user wants the end, whatever is at hand. The search itself is stopped by stop_now.
+    void setStopRequest(StopRequest stop) { m_stop = std::move(stop); }
+
     // Ticks the chosen types and cuts the catalogues; the types that no catalogue has, when there are any.
     QStringList chooseTypes(const QStringList& types);
     void chooseAllTypes();
@@ -104,6 +108,8 @@ class CliSession : private CliView, public ScanSession {
     const QStringList& mendingLines() const { return m_mendingLines; }
     bool mendingFailed() const { return m_mendingFailed; }
     const CompletionProgress& completing() const { return m_completing; }
+    // Whether a stop behind the search left some of what comes there undone.
+    bool leftUndone() const { return m_leftUndone; }
 
     // To be asked behind everything that is saved: false once the destination has gone, and what was saved
     // counts as failed then.
@@ -137,6 +143,7 @@ class CliSession : private CliView, public ScanSession {
     // Whether somebody asks what became of each item.
     bool isReported() const { return m_options.report || m_options.complete || m_options.repairMovies; }
     void finishSaving();
+    bool isStopped();
     void nameWhatTheCardTellsNow();
     void saveToldFiles();
     std::vector<MendableItem> mendableItems() const;
@@ -160,6 +167,8 @@ class CliSession : private CliView, public ScanSession {
     std::size_t m_told = 0;
     QStringList m_mendingLines;
     bool m_mendingFailed = false;
+    StopRequest m_stop;
+    bool m_leftUndone = false;
     CompletionProgress m_completing;
 };
 

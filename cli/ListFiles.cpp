@@ -120,7 +120,12 @@ int listFiles(const CliMedium& medium, const StopRequest& stop) {
             reader->seek(sector + 1);
         }
     }
-    const auto read = readCardInHelper(*reader, medium.sectors, collector.traces(), {});
+    CardHelperOptions options;
+    options.stop = stop;
+    const auto read = readCardInHelper(*reader, medium.sectors, collector.traces(), {}, std::move(options));
+    if (!read && stop()) {
+        return kExitStopped;
+    }
     if (!read) {
         complain(QObject::tr("The medium's directories could not be read."));
         return kExitReadError;

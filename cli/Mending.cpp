@@ -55,7 +55,7 @@ QString lineOf(const QString& path, const Mend& mend) {
 }  // namespace
 
 void CliSession::mend() {
-    if (stop_now != 0) {
+    if (isStopped()) {
         return;
     }
     const auto medium = openMedium();
@@ -75,6 +75,7 @@ void CliSession::mend() {
     if (m_options.repairMovies) {
         repairItems(mending, items);
     }
+    isStopped();
 }
 
 std::vector<MendableItem> CliSession::mendableItems() const {

@@ -263,6 +263,7 @@ int recover(CliOptions options) {
     head.begun = QDateTime::currentDateTime();
     CliSession session(options, medium.sectors);
     session.setAskCard(!options.saveFolder.isEmpty());
+    session.setStopRequest(stop);
     session.setLiesOnMedium([path = medium.path](const QString& destination) {
         return destinationIsOnMedium(destination, path);
     });

@@ -97,8 +97,8 @@ SaveOptions::SaveOptions()
           "complete",
           QT_TRANSLATE_NOOP(
               "QObject",
-              "Put MP4, QuickTime and AVI movies and JPEG or PNG pictures together that lie in pieces, as "
-              "\"... "
+              "Put MP4, QuickTime and AVI movies, JPEG or PNG pictures, ZIP archives and "
+              "office documents together that lie in pieces, as \"... "
               "complete.MP4\", or as \"... put together.MP4\" where it could not be proved that all pieces "
               "are the right ones."))),
       repairMovies(option(

@@ -22,7 +22,8 @@ namespace {
 // error.
 void say(const CliOptions& options, const QString& line) {
     if (!options.quiet) {
-        std::fprintf(options.listJson ? stderr : stdout, "%s\n", qPrintable(line));
+        // A folder may be named to speak to the terminal.
+        std::fprintf(options.listJson ? stderr : stdout, "%s\n", qPrintable(steeringSpeltOut(line)));
     }
 }
 
@@ -115,7 +116,7 @@ int exitCodeOf(const CliSession& session) {
     }
     switch (session.lastOutcome()) {
         case PassOutcome::Completed:
-            return kExitCompleted;
+            return session.leftUndone() ? kExitStopped : kExitCompleted;
         case PassOutcome::Stopped:
             return kExitStopped;
         case PassOutcome::OpenError:

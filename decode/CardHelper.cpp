@@ -6,6 +6,7 @@
 #include "decode/CardExchange.h"
 #include "decode/DecodePool.h"
 #include "decode/HelperProcess.h"
+#include "decode/SoonAfterStop.h"
 #include "filesystem/ReaderSource.h"
 
 namespace vantor {
@@ -41,8 +42,9 @@ std::optional<CardTable> readCardInHelper(SectorReader& medium, std::uint64_t se
     if (options.helper.isEmpty()) {
         options.helper = DecodePool::helperPath(QStringLiteral("vantor-read-card"));
     }
-    const auto process = HelperProcess::start(options.helper, options.startDeadline,
-                                              options.cancel ? options.cancel->descriptor() : -1);
+    const SoonAfterStop end(options.stop, options.afterStop);
+    const auto process =
+        HelperProcess::start(options.helper, options.startDeadline, end.signal().descriptor());
     if (!process) {
         return std::nullopt;
     }

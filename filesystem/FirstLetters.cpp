@@ -207,9 +207,11 @@ std::optional<QChar> FirstLetters::letterOfTime(const QString& name, const Where
 }
 
 // Numbers that rise with each entry: those of the next entries known have the same distance from their
-// entries as this one, two of them beside each other, so that it is no series that takes turns with another.
+// entries as this one, and two of them, or not far off, stand beside each other, so that it is no series that
+// takes turns with another.
 std::optional<QChar> FirstLetters::letterOfRow(const QString& name, const Where& where) const {
     constexpr std::size_t kLeastOfRow = 3;
+    constexpr std::size_t kLookedAt = 16;
     const auto own = numberedOf(name);
     const auto known = own ? m_numbered.constFind({where.folder, own->rest}) : m_numbered.constEnd();
     if (known == m_numbered.constEnd()) {
@@ -220,14 +222,18 @@ std::optional<QChar> FirstLetters::letterOfRow(const QString& name, const Where&
         const auto behind = std::upper_bound(places.begin(), places.end(), where.entry,
                                              [](std::size_t at, const Place& one) { return at < one.entry; });
         const auto before = static_cast<std::size_t>(behind - places.begin());
-        const std::size_t from = before - std::min(before, kLeastOfRow);
-        const std::size_t to = std::min(places.size(), before + kLeastOfRow);
+        const std::size_t from = before - std::min(before, kLookedAt);
+        const std::size_t to = std::min(places.size(), before + kLookedAt);
         bool isOne = to - from >= kLeastOfRow;
         bool isDense = false;
+        bool didFit = false;
         for (std::size_t at = from; at < to && isOne; ++at) {
             const bool sameLength = places[at].digits == own->digits || isLetter(letter);
-            isOne = sameLength && places[at].number - own->number == places[at].entry - where.entry;
-            isDense = isDense || (at > from && places[at].entry == places[at - 1].entry + 1);
+            const bool fits = sameLength && places[at].number - own->number == places[at].entry - where.entry;
+            const bool isNext = at + kLeastOfRow >= before && at < before + kLeastOfRow;
+            isOne = fits || !isNext;
+            isDense = isDense || (fits && didFit && places[at].entry == places[at - 1].entry + 1);
+            didFit = fits;
         }
         if (!isOne || !isDense) {
             continue;

@@ -123,11 +123,48 @@ void LostDirectories::placeKnownBeginnings() {
     });
 }
 
+// One directory alone tells its clusters where its files were written one behind the other: the numbers that
+// they begin with are as far apart as their lengths take clusters, and of one size alone.
+std::optional<ClusterPlaces> LostDirectories::placesOfRow(const ClusterSighting& directory) {
+    constexpr std::size_t kLeastInRow = 3;
+    constexpr std::size_t kLeastOfSeveral = 2;  // clusters
+    constexpr unsigned kLargestFatCluster = 8;  // as a power of two, in sectors
+    const std::uint64_t sectors = std::min<std::uint64_t>(kPieceSectors, m_card.sectors() - directory.sector);
+    std::vector<std::uint8_t> bytes(sectors * 512);
+    m_card.readAt(directory.sector, bytes);
+    const std::vector<DirectoryEntry> entries = readFatRows(bytes, true).entries;
+    std::optional<ClusterPlaces> told;
+    for (unsigned shift = 0; shift < kLargestFatCluster; ++shift) {
+        const std::uint64_t clusterBytes = std::uint64_t{512} << shift;
+        const std::uint64_t before = std::uint64_t{directory.cluster - 2} << shift;
+        std::size_t inRow = 0;
+        std::size_t ofSeveral = 0;
+        for (std::size_t at = 0; at + 1 < entries.size(); ++at) {
+            const std::uint64_t clusters = (entries[at].bytes + clusterBytes - 1) / clusterBytes;
+            const bool fits = clusters != 0 && entries[at].cluster > directory.cluster &&
+                              entries[at + 1].cluster == entries[at].cluster + clusters;
+            inRow += fits ? 1 : 0;
+            ofSeveral += fits && clusters > 1 ? 1 : 0;
+        }
+        if (inRow < kLeastInRow || ofSeveral < kLeastOfSeveral || before >= directory.sector) {
+            continue;
+        }
+        if (told) {
+            return std::nullopt;
+        }
+        told = ClusterPlaces{std::uint32_t{1} << shift, directory.sector - before, 1};
+    }
+    return told;
+}
+
 // Each says itself which cluster it begins in.
 void LostDirectories::placeBeginnings() {
     placeKnownBeginnings();
     for (int i = 0; i < kMostFormerSystems; ++i) {
-        const auto places = voteForClusters(m_beginnings, 2, Sightings::True);
+        auto places = voteForClusters(m_beginnings, 2, Sightings::True);
+        for (auto one = m_beginnings.begin(); one != m_beginnings.end() && !places; ++one) {
+            places = placesOfRow(*one);
+        }
         if (!places) {
             return;
         }

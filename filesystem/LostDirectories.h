@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "filesystem/ClusterVolume.h"
@@ -29,6 +30,7 @@ class LostDirectories {
     void placeRoots();
     void placeBeginnings();
     void placeKnownBeginnings();
+    std::optional<ClusterPlaces> placesOfRow(const ClusterSighting& directory);
     void placeParts(bool exfat);
     std::vector<ClusterSighting> sightings(const std::vector<SectorRun>& parts, bool exfat);
     // How much of what the parts say is found where the shape puts it.

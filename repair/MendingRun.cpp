@@ -1,4 +1,5 @@
-// First what is broken and what is whole, then the movies, then the photos, then the movies without an index.
+// First what is broken and what is whole, then the movies, the photos, the archives, then the movies without
+// an index.
 #include "repair/MendingRun.h"
 
 #include <algorithm>
@@ -129,6 +130,8 @@ MendingEnd MendingRun::work() {
     }
     if (m_order.photos && enter(MendingStep::Photos)) {
         photos = mending.completePhotos(items);
+    }
+    if (m_order.photos && enter(MendingStep::Archives)) {
         archives = mending.completeArchives(items);
     }
     if (m_order.movies && enter(MendingStep::Repairing)) {

@@ -33,11 +33,11 @@ struct MendingOrder {
     std::shared_ptr<const CardIndex> card;  // null: nothing is known
     std::shared_ptr<MendedItems> mended;    // what is made goes there
     bool movies = true;                     // are searched for
-    bool photos = true;
+    bool photos = true;                     // and archives
     MovieReaderOptions helper = {};
 };
 
-enum class MendingStep { Examining, Movies, Photos, Repairing };
+enum class MendingStep { Examining, Movies, Photos, Archives, Repairing };
 enum class MendingEnd { Finished, Stopped, CannotOpen, MediumGone };
 
 struct MendingResult {

@@ -88,7 +88,7 @@ void ScanSession::forgetCard() {
     m_card.reset();
 }
 
-void ScanSession::learnOfCard() {
+void ScanSession::learnOfCard(bool stopped) {
     if (!m_askCard) {
         return;
     }
@@ -104,7 +104,10 @@ void ScanSession::learnOfCard() {
         }
     }
     WatchedReader watched(*medium, m_cardWatch, kMostCardSectors);
-    auto table = readCardInHelper(watched, medium->mediumSectors(), m_traces->traces(), found);
+    CardHelperOptions options;
+    options.stop = [this, stopped] { return stopped || stop_now == 1; };
+    auto table =
+        readCardInHelper(watched, medium->mediumSectors(), m_traces->traces(), found, std::move(options));
     if (!table) {
         return;
     }

@@ -60,7 +60,7 @@ bool ScanSession::beginPass(ControlSet set, const QString& passName) {
     }
     if (!thorough) {
         forgetCard();
-        learnOfCard();
+        learnOfCard(false);
     }
     m_view.setScanOptionsEnabled(false);
     if (set == ControlSet::Sig) {
@@ -201,7 +201,7 @@ void ScanSession::passEnds(PassOutcome outcome, std::optional<std::uint64_t> ope
         m_end.goOnAt = std::min(m_end.goOnAt, pFile_Disk->position());
     }
     if (outcome != PassOutcome::OpenError && !m_end.mediumGone) {
-        learnOfCard();
+        learnOfCard(outcome == PassOutcome::Stopped);
     }
 }
 

@@ -262,7 +262,7 @@ class ScanSession : public HexText {
     void prepareRecords(const QString& passName, const QStringList& general, const QStringList& thorough);
     void openFailed(ControlSet set);
     // An item that is still open begins at the sector.
-    void learnOfCard();
+    void learnOfCard(bool stopped);
     std::shared_ptr<const SectorScreen> screenFor(std::shared_ptr<const SectorScreen> headers) const;
     // Of the sector that was read last.
     void noteTrace(const SectorReader& medium, std::uint64_t sector) {

@@ -88,6 +88,7 @@ LookedAtItems MyTableController::lookedAtItems() {
         return scanRunning() || m_desk->isRunning() || m_dragged->isRunning() || m_filling > 0 ||
                m_viewer->isBusy() || m_mending.isRunning();
     };
+    items.searching = [this] { return scanRunning(); };
     items.mendOf = [this](const MyImageObject& item) { return m_mended->of(item); };
     items.card = [this] { return card(); };
     items.policy = [this] { return m_desk->choices().policy; };

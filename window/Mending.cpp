@@ -159,6 +159,9 @@ QString MyTableController::mendingWords() const {
         case MendingStep::Photos:
             return m_mending.of() == 0 ? tr("Completing broken photos…")
                                        : tr("Completing broken photos: %1 of %2").arg(looked, of);
+        case MendingStep::Archives:
+            return m_mending.of() == 0 ? tr("Completing broken documents…")
+                                       : tr("Completing broken documents: %1 of %2").arg(looked, of);
         case MendingStep::Repairing:
             break;
     }

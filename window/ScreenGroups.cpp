@@ -49,9 +49,9 @@ void MyTableController::show_hide_3_screen_RawFile(bool hide) {
 }
 
 void MyTableController::show_hide_4_screen_RawFile(bool hide) {
-    for (QWidget* widget : std::initializer_list<QWidget*>{_open_folder_Sig, _Progress_Horz, _sector_label,
-                                                           _Mode_label, scanFactsLabel, _stop_scan, scanStripRow,
-                                                           imageBrowser_2, _QuickLook_View_Box, rawScreen}) {
+    for (QWidget* widget : std::initializer_list<QWidget*>{
+             _open_folder_Sig, _Progress_Horz, _sector_label, _Mode_label, scanFactsLabel, _stop_scan,
+             scanStripRow, imageBrowser_2, _QuickLook_View_Box, rawScreen}) {
         widget->setHidden(hide);
     }
     showPreviewPane(hide);

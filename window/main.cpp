@@ -121,8 +121,8 @@ int print(const CommandLine& line) {
     return *line.exitCode;
 }
 
-// Help and version need no display, which not everybody has who asks for them. What is no option may be one of the
-// toolkit's, which takes its own away when there is a display.
+// Help and version need no display, which not everybody has who asks for them. What is no option may be one
+// of the toolkit's, which takes its own away when there is a display.
 std::optional<int> answerWithoutWindow(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     const AskedLanguage arguments = takeLanguage(argumentsFromBytes(argc, argv));

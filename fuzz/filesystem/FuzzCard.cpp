@@ -4,7 +4,7 @@
 #include <cstring>
 
 #include "filesystem/CleanName.h"
-#include "tests/filesystem/CardImage.h"
+#include "tests/filesystem/NtfsImage.h"
 
 namespace {
 
@@ -35,8 +35,26 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     exfat.clusters = 1900;
     formatExfat(card, exfat);
     at = exfat.table() * 512;
+#elif defined(VANTOR_FUZZ_NTFS)
+    constexpr std::size_t kRecords = 40;
+    constexpr std::size_t kFirst = 16;
+    putBytes(card, 0, ntfsBoot(1, kFirst, kSectors - 1));
+    at = (kFirst + 2) * 512;
 #endif
     std::memcpy(card.bytes.data() + at, data, std::min(size, card.bytes.size() - at));
+#if defined(VANTOR_FUZZ_NTFS)
+    // Records whose heads are whole, so that the input is read.
+    putBytes(card, kFirst,
+             record(kThere, 1, dataAttribute(kRecords * kRecord, {0x11, 2 * kRecords, kFirst, 0})));
+    for (std::size_t i = 1; i < kRecords; ++i) {
+        const std::size_t head = kFirst * 512 + i * kRecord;
+        put(card.bytes, head, "FILE");
+        put(card.bytes, head + 4, 48, 2);
+        put(card.bytes, head + 6, 3, 2);
+        put(card.bytes, head + 510, card.bytes[head + 48] | card.bytes[head + 49] << 8, 2);
+        put(card.bytes, head + 1022, card.bytes[head + 48] | card.bytes[head + 49] << 8, 2);
+    }
+#endif
     std::vector<FoundStart> found;
     for (std::size_t i = 0; i + 1 < std::min<std::size_t>(size, 32); i += 2) {
         found.push_back({data[i] * 8U, data[i + 1] % 2 ? QStringLiteral("jpg") : QStringLiteral("mp4")});

@@ -2,7 +2,7 @@
 #include <cstdio>
 #include <string>
 
-#include "tests/filesystem/CardImage.h"
+#include "tests/filesystem/NtfsImage.h"
 
 namespace {
 
@@ -50,5 +50,13 @@ int main(int argc, char** argv) {
     chainExfat(card, exfat, {8, 10});
     write(argv[1], "exfat", card, exfat.table());
     write(argv[1], "wholeExfat", card, 0);
+    MemoryCard ntfs(2048);
+    putBytes(ntfs, 62, record(kThereFolder, 1, nameAttribute("DCIM", 5, 5)));
+    putBytes(
+        ntfs, 64,
+        record(kThere, 1,
+               nameAttribute("a.jpg", 23, 1) + timesAttribute() + dataAttribute(900, {0x11, 2, 100, 0})));
+    putBytes(ntfs, 66, record(kGone, 1, nameAttribute("b.txt", 23, 1) + attribute(0x80, Bytes(500, 'b'))));
+    write(argv[1], "ntfs", ntfs, 18);
     return 0;
 }

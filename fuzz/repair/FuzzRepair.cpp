@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "formats/IsoBox.h"
+#include "repair/ArchivePieces.h"
 #include "repair/AviRepair.h"
 #include "repair/MoviePieces.h"
 #include "repair/MovieSamples.h"
@@ -98,6 +99,17 @@ void completePng(std::span<const std::uint8_t> bytes) {
     }
 }
 
+void completeArchive(std::span<const std::uint8_t> bytes) {
+    MemoryMedium medium(bytes);
+    MediumBlocks blocks(medium);
+    const FreeClusters grid({0, 1}, medium.mediumSectors());
+    const std::atomic<int> goOn{0};
+    const ArchivePlaces places = archivePlaces(blocks, goOn);
+    if (const auto archive = ArchivePieces(blocks, grid, places, goOn).assemble(0)) {
+        checkClusters(archive->clusters, archive->bytes, grid);
+    }
+}
+
 void readSamples(std::span<const std::uint8_t> bytes) {
     SpanSource source(bytes);
     ByteView view(source);
@@ -159,7 +171,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     }
     const std::span<const std::uint8_t> bytes(data + 1, size - 1);
-    switch (data[0] % 8) {
+    switch (data[0] % 9) {
         case 0:
             fuzz::readSamples(bytes);
             break;
@@ -180,6 +192,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             break;
         case 7:
             fuzz::repairChunks(bytes);
+            break;
+        case 8:
+            fuzz::completeArchive(bytes);
             break;
         default:
             fuzz::completePhoto(bytes);

@@ -2,7 +2,9 @@
 #include <QFile>
 #include <cstdio>
 
+#include "tests/repair/Archives.h"
 #include "tests/repair/Avis.h"
+#include "tests/repair/FragmentedMovies.h"
 #include "tests/repair/Movies.h"
 #include "tests/repair/Photos.h"
 
@@ -27,7 +29,10 @@ int main(int argc, char** argv) {
     const QByteArray scans = vantor::test::makePhoto(2, 96, 96, vantor::test::Scans::Progressive);
     const QByteArray avi = vantor::test::makeAvi(vantor::test::noiseChunks(1, 2));
     const auto movie = vantor::test::makeMovie(vantor::test::picturesOfManySizes(4, 1), false, 1).bytes;
+    const QByteArray archive = vantor::test::makeArchive(1, {{500}, {3000}, {900, false}});
     const bool written =
+        write(folder, "fragments", 6, vantor::test::makeFragmented(1, 25, true)) &&
+        write(folder, "archive", 8, archive.left(1024) + QByteArray(512, '\0') + archive.mid(1024)) &&
         write(folder, "samples", 0, movie) && write(folder, "walk", 1, movie) &&
         write(folder, "movie", 6, movie) && write(folder, "chunks", 6, avi) &&
         write(folder, "unindexed", 7, avi.left(avi.indexOf("idx1"))) && write(folder, "scans", 5, scans) &&

@@ -1833,10 +1833,6 @@ Versuchen Sie --help.</translation>
         <translation>Auch Teile von Dateien speichern, etwa das Vorschaubild eines Fotos oder den Inhalt eines Archivs: was ganz in einer Datei liegt, deren Vollständigkeit erwiesen ist, und sonst ausgelassen wird.</translation>
     </message>
     <message>
-        <source>Put MP4, QuickTime and AVI movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
-        <translation>MP4-, QuickTime- und AVI-Filme sowie JPEG- und PNG-Bilder zusammensetzen, die in Stücken liegen, als „... complete.MP4“ oder als „... put together.MP4“, wo sich nicht beweisen ließ, dass alle Stücke die richtigen sind.</translation>
-    </message>
-    <message>
         <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4, QuickTime or AVI movie whose index was never written; for MP4 and QuickTime a whole movie of the same camera has to be found as well.</source>
         <translation>Zu jedem MP4-, QuickTime- oder AVI-Film, dessen Index nie geschrieben wurde, eine abspielbare Fassung „... repaired.MP4“ schreiben; für MP4 und QuickTime muss dazu auch ein ganzer Film derselben Kamera gefunden werden.</translation>
     </message>
@@ -2296,6 +2292,14 @@ Läuft auf %2.</translation>
     <message>
         <source>Press “Go On” to search the rest.</source>
         <translation>Mit „Weitersuchen“ wird der Rest durchsucht.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 broken documents and archives completed, %3 more put together: please look</source>
+        <translation>%1 von %2 defekten Dokumenten und Archiven vervollständigt, %3 weitere zusammengesetzt: bitte ansehen</translation>
+    </message>
+    <message>
+        <source>Put MP4, QuickTime and AVI movies, JPEG or PNG pictures, ZIP archives and office documents together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
+        <translation>MP4-, QuickTime- und AVI-Filme, JPEG- und PNG-Bilder, ZIP-Archive und Office-Dokumente zusammensetzen, die in Stücken liegen, als „... complete.MP4“ oder als „... put together.MP4“, wo sich nicht beweisen ließ, dass alle Stücke die richtigen sind.</translation>
     </message>
 </context>
 <context>
@@ -4144,6 +4148,14 @@ Bitte wählen Sie die Dateitypen für die Wiederherstellung aus. Mit ‚Weiter�
     <message>
         <source>Search options</source>
         <translation>Suchoptionen</translation>
+    </message>
+    <message>
+        <source>Completing broken documents…</source>
+        <translation>Dokumente werden vervollständigt …</translation>
+    </message>
+    <message>
+        <source>Completing broken documents: %1 of %2</source>
+        <translation>Dokumente werden vervollständigt: %1 von %2</translation>
     </message>
 </context>
 <context>

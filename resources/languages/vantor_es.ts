@@ -1833,10 +1833,6 @@ Pruebe --help.</translation>
         <translation>Guardar también partes de archivos, como la vista previa de una imagen o un miembro de un archivo comprimido: lo que está por entero dentro de un archivo que se comprobó completo, y que si no se omite.</translation>
     </message>
     <message>
-        <source>Put MP4, QuickTime and AVI movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
-        <translation>Unir los vídeos MP4, QuickTime y AVI y las imágenes JPEG o PNG que están en fragmentos, como «... complete.MP4», o como «... put together.MP4» si no se pudo probar que todos los fragmentos son los correctos.</translation>
-    </message>
-    <message>
         <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4, QuickTime or AVI movie whose index was never written; for MP4 and QuickTime a whole movie of the same camera has to be found as well.</source>
         <translation>Escribir una versión reproducible, «... repaired.MP4», de cada vídeo MP4, QuickTime o AVI cuyo índice nunca se escribió; para MP4 y QuickTime también debe encontrarse un vídeo entero de la misma cámara.</translation>
     </message>
@@ -2296,6 +2292,14 @@ Se ejecuta en %2.</translation>
     <message>
         <source>Press “Go On” to search the rest.</source>
         <translation>Pulse «Continuar» para buscar en el resto.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 broken documents and archives completed, %3 more put together: please look</source>
+        <translation>%1 de %2 documentos y archivos comprimidos rotos completados, %3 más unidos: conviene revisarlos</translation>
+    </message>
+    <message>
+        <source>Put MP4, QuickTime and AVI movies, JPEG or PNG pictures, ZIP archives and office documents together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
+        <translation>Unir los vídeos MP4, QuickTime y AVI, las imágenes JPEG o PNG, los archivos ZIP y los documentos de oficina que están en fragmentos, como «... complete.MP4», o como «... put together.MP4» si no se pudo probar que todos los fragmentos son los correctos.</translation>
     </message>
 </context>
 <context>
@@ -4144,6 +4148,14 @@ Seleccione los tipos de archivo que desea recuperar. Pulse el botón «Siguiente
     <message>
         <source>Search options</source>
         <translation>Opciones de búsqueda</translation>
+    </message>
+    <message>
+        <source>Completing broken documents…</source>
+        <translation>Completando documentos rotos…</translation>
+    </message>
+    <message>
+        <source>Completing broken documents: %1 of %2</source>
+        <translation>Completando documentos rotos: %1 de %2</translation>
     </message>
 </context>
 <context>

@@ -1833,10 +1833,6 @@ Essayez --help.</translation>
         <translation>Enregistrer aussi des parties de fichiers, comme l&apos;aperçu d&apos;une photo ou un membre d&apos;archive : ce qui se trouve entièrement dans un fichier prouvé complet, et qui est sinon laissé de côté.</translation>
     </message>
     <message>
-        <source>Put MP4, QuickTime and AVI movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
-        <translation>Assembler les films MP4, QuickTime et AVI et les images JPEG ou PNG en morceaux, sous « ... complete.MP4 », ou « ... put together.MP4 » quand il n&apos;a pas pu être prouvé que tous les morceaux sont les bons.</translation>
-    </message>
-    <message>
         <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4, QuickTime or AVI movie whose index was never written; for MP4 and QuickTime a whole movie of the same camera has to be found as well.</source>
         <translation>Écrire un jumeau lisible, « ... repaired.MP4 », de chaque film MP4, QuickTime ou AVI dont l&apos;index n&apos;a jamais été écrit ; pour MP4 et QuickTime, un film entier du même appareil doit aussi être trouvé.</translation>
     </message>
@@ -2296,6 +2292,14 @@ Fonctionne avec %2.</translation>
     <message>
         <source>Press “Go On” to search the rest.</source>
         <translation>« Continuer » recherche dans le reste.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 broken documents and archives completed, %3 more put together: please look</source>
+        <translation>%1 documents et archives incomplets sur %2 complétés, %3 autres assemblés : à regarder</translation>
+    </message>
+    <message>
+        <source>Put MP4, QuickTime and AVI movies, JPEG or PNG pictures, ZIP archives and office documents together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
+        <translation>Assembler les films MP4, QuickTime et AVI, les images JPEG ou PNG, les archives ZIP et les documents bureautiques en morceaux, sous « ... complete.MP4 », ou « ... put together.MP4 » quand il n&apos;a pas pu être prouvé que tous les morceaux sont les bons.</translation>
     </message>
 </context>
 <context>
@@ -4144,6 +4148,14 @@ Veuillez sélectionner les types de fichiers à récupérer. Appuyez sur ‘Suiv
     <message>
         <source>Search options</source>
         <translation>Options de recherche</translation>
+    </message>
+    <message>
+        <source>Completing broken documents…</source>
+        <translation>Complétion des documents incomplets…</translation>
+    </message>
+    <message>
+        <source>Completing broken documents: %1 of %2</source>
+        <translation>Complétion des documents incomplets : %1 sur %2</translation>
     </message>
 </context>
 <context>

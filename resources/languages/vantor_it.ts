@@ -1833,10 +1833,6 @@ Provare --help.</translation>
         <translation>Salvare anche le parti di file, come l’anteprima di un’immagine o un membro di un archivio: ciò che si trova per intero in un file di cui è provata la completezza, e che altrimenti viene tralasciato.</translation>
     </message>
     <message>
-        <source>Put MP4, QuickTime and AVI movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
-        <translation>Ricomporre i video MP4, QuickTime e AVI e le immagini JPEG o PNG che sono in pezzi, come «... complete.MP4», oppure come «... put together.MP4» dove non è stato possibile provare che tutti i pezzi siano quelli giusti.</translation>
-    </message>
-    <message>
         <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4, QuickTime or AVI movie whose index was never written; for MP4 and QuickTime a whole movie of the same camera has to be found as well.</source>
         <translation>Scrivere un gemello riproducibile, «... repaired.MP4», di ogni video MP4, QuickTime o AVI il cui indice non è mai stato scritto; per MP4 e QuickTime deve essere trovato anche un video intero della stessa fotocamera.</translation>
     </message>
@@ -2296,6 +2292,14 @@ In esecuzione su %2.</translation>
     <message>
         <source>Press “Go On” to search the rest.</source>
         <translation>Premere «Continua» per cercare nel resto.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 broken documents and archives completed, %3 more put together: please look</source>
+        <translation>%1 di %2 documenti e archivi rotti completati, altri %3 ricomposti: da controllare</translation>
+    </message>
+    <message>
+        <source>Put MP4, QuickTime and AVI movies, JPEG or PNG pictures, ZIP archives and office documents together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
+        <translation>Ricomporre i video MP4, QuickTime e AVI, le immagini JPEG o PNG, gli archivi ZIP e i documenti d&apos;ufficio che sono in pezzi, come «... complete.MP4», oppure come «... put together.MP4» dove non è stato possibile provare che tutti i pezzi siano quelli giusti.</translation>
     </message>
 </context>
 <context>
@@ -4144,6 +4148,14 @@ Selezionare i tipi di file da recuperare. Premere il pulsante «Avanti» per con
     <message>
         <source>Search options</source>
         <translation>Opzioni di ricerca</translation>
+    </message>
+    <message>
+        <source>Completing broken documents…</source>
+        <translation>Completamento dei documenti rotti…</translation>
+    </message>
+    <message>
+        <source>Completing broken documents: %1 of %2</source>
+        <translation>Completamento dei documenti rotti: %1 di %2</translation>
     </message>
 </context>
 <context>

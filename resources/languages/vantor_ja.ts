@@ -1809,10 +1809,6 @@ Try --help.</source>
         <translation>写真の中のプレビューやアーカイブの中身など、ファイルの一部も保存します。完全と確認されたファイルの中にすべて含まれるもので、通常は除外されます。</translation>
     </message>
     <message>
-        <source>Put MP4, QuickTime and AVI movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
-        <translation>断片に分かれた MP4、QuickTime、AVI の動画、JPEG と PNG の画像を組み立て、&quot;... complete.MP4&quot;、またはすべての断片が正しいと証明できない場合は &quot;... put together.MP4&quot; として保存します。</translation>
-    </message>
-    <message>
         <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4, QuickTime or AVI movie whose index was never written; for MP4 and QuickTime a whole movie of the same camera has to be found as well.</source>
         <translation>インデックスが書かれなかった MP4、QuickTime、AVI 動画ごとに、再生できる &quot;... repaired.MP4&quot; を書き出します。MP4 と QuickTime では同じカメラの完全な動画も見つかる必要があります。</translation>
     </message>
@@ -2264,6 +2260,14 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     <message>
         <source>Press “Go On” to search the rest.</source>
         <translation>残りを検索するには「続ける」を押してください。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 broken documents and archives completed, %3 more put together: please look</source>
+        <translation>破損した文書とアーカイブ %2 件のうち %1 件を完全にし、さらに %3 件を組み立てました: ご確認ください</translation>
+    </message>
+    <message>
+        <source>Put MP4, QuickTime and AVI movies, JPEG or PNG pictures, ZIP archives and office documents together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
+        <translation>断片に分かれた MP4、QuickTime、AVI の動画、JPEG と PNG の画像、ZIP アーカイブ、オフィス文書を組み立て、&quot;... complete.MP4&quot;、またはすべての断片が正しいと証明できない場合は &quot;... put together.MP4&quot; として保存します。</translation>
     </message>
 </context>
 <context>
@@ -4102,6 +4106,14 @@ Please select the required extension type for recovery process. Press ‘Next’
     <message>
         <source>Search options</source>
         <translation>検索オプション</translation>
+    </message>
+    <message>
+        <source>Completing broken documents…</source>
+        <translation>不完全な文書を補完しています…</translation>
+    </message>
+    <message>
+        <source>Completing broken documents: %1 of %2</source>
+        <translation>不完全な文書を補完しています: %1 / %2</translation>
     </message>
 </context>
 <context>

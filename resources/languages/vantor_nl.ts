@@ -1833,10 +1833,6 @@ Probeer --help.</translation>
         <translation>Ook delen van bestanden opslaan, zoals het voorbeeld van een afbeelding of een onderdeel van een archief: wat geheel binnen een aantoonbaar volledig bestand ligt, en anders wordt weggelaten.</translation>
     </message>
     <message>
-        <source>Put MP4, QuickTime and AVI movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
-        <translation>MP4-, QuickTime- en AVI-video’s en JPEG- of PNG-afbeeldingen die in stukken liggen samenvoegen, als “... complete.MP4”, of als “... put together.MP4” waar niet kon worden aangetoond dat alle stukken de juiste zijn.</translation>
-    </message>
-    <message>
         <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4, QuickTime or AVI movie whose index was never written; for MP4 and QuickTime a whole movie of the same camera has to be found as well.</source>
         <translation>Een afspeelbare tweeling, “... repaired.MP4”, schrijven van elke MP4-, QuickTime- of AVI-video waarvan de index nooit is geschreven; voor MP4 en QuickTime moet er ook een hele video van dezelfde camera worden gevonden.</translation>
     </message>
@@ -2296,6 +2292,14 @@ Wordt uitgevoerd op %2.</translation>
     <message>
         <source>Press “Go On” to search the rest.</source>
         <translation>Druk op ‘Doorgaan’ om de rest te doorzoeken.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 broken documents and archives completed, %3 more put together: please look</source>
+        <translation>%1 van %2 kapotte documenten en archieven aangevuld, nog %3 samengevoegd: controleer ze</translation>
+    </message>
+    <message>
+        <source>Put MP4, QuickTime and AVI movies, JPEG or PNG pictures, ZIP archives and office documents together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
+        <translation>MP4-, QuickTime- en AVI-video’s, JPEG- of PNG-afbeeldingen, ZIP-archieven en kantoordocumenten die in stukken liggen samenvoegen, als “... complete.MP4”, of als “... put together.MP4” waar niet kon worden aangetoond dat alle stukken de juiste zijn.</translation>
     </message>
 </context>
 <context>
@@ -4144,6 +4148,14 @@ Selecteer de bestandstypen die u wilt herstellen. Druk op de knop “Volgende”
     <message>
         <source>Search options</source>
         <translation>Zoekopties</translation>
+    </message>
+    <message>
+        <source>Completing broken documents…</source>
+        <translation>Kapotte documenten worden aangevuld…</translation>
+    </message>
+    <message>
+        <source>Completing broken documents: %1 of %2</source>
+        <translation>Kapotte documenten worden aangevuld: %1 van %2</translation>
     </message>
 </context>
 <context>

@@ -1857,10 +1857,6 @@ Proszę użyć --help.</translation>
         <translation>Zapisz też części plików, na przykład podgląd zdjęcia lub element archiwum: to, co leży w całości w pliku o dowiedzionej kompletności, a co inaczej jest pomijane.</translation>
     </message>
     <message>
-        <source>Put MP4, QuickTime and AVI movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
-        <translation>Składaj filmy MP4, QuickTime i AVI oraz obrazy JPEG lub PNG, które leżą w kawałkach, jako „... complete.MP4” lub jako „... put together.MP4”, gdy nie dało się dowieść, że wszystkie kawałki są właściwe.</translation>
-    </message>
-    <message>
         <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4, QuickTime or AVI movie whose index was never written; for MP4 and QuickTime a whole movie of the same camera has to be found as well.</source>
         <translation>Zapisz odtwarzalny odpowiednik, „... repaired.MP4”, każdego filmu MP4, QuickTime lub AVI, którego indeksu nigdy nie zapisano; dla MP4 i QuickTime musi zostać znaleziony także cały film z tego samego aparatu.</translation>
     </message>
@@ -2328,6 +2324,14 @@ Działa w systemie %2.</translation>
     <message>
         <source>Press “Go On” to search the rest.</source>
         <translation>Naciśnij „Kontynuuj”, aby przeszukać resztę.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 broken documents and archives completed, %3 more put together: please look</source>
+        <translation>Uzupełnione uszkodzone dokumenty i archiwa: %1 z %2, złożone dodatkowo: %3, proszę sprawdzić</translation>
+    </message>
+    <message>
+        <source>Put MP4, QuickTime and AVI movies, JPEG or PNG pictures, ZIP archives and office documents together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
+        <translation>Składaj filmy MP4, QuickTime i AVI, obrazy JPEG lub PNG, archiwa ZIP i dokumenty biurowe, które leżą w kawałkach, jako „... complete.MP4” lub jako „... put together.MP4”, gdy nie dało się dowieść, że wszystkie kawałki są właściwe.</translation>
     </message>
 </context>
 <context>
@@ -4186,6 +4190,14 @@ Proszę wybrać typy plików do odzyskania. Przycisk „Dalej” prowadzi dalej.
     <message>
         <source>Search options</source>
         <translation>Opcje wyszukiwania</translation>
+    </message>
+    <message>
+        <source>Completing broken documents…</source>
+        <translation>Uzupełnianie uszkodzonych dokumentów…</translation>
+    </message>
+    <message>
+        <source>Completing broken documents: %1 of %2</source>
+        <translation>Uzupełnianie uszkodzonych dokumentów: %1 z %2</translation>
     </message>
 </context>
 <context>

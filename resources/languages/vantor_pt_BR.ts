@@ -1833,10 +1833,6 @@ Tente --help.</translation>
         <translation>Salvar também partes de arquivos, como a prévia de uma imagem ou um membro de um arquivo compactado: o que fica inteiramente dentro de um arquivo comprovadamente completo, e que do contrário é omitido.</translation>
     </message>
     <message>
-        <source>Put MP4, QuickTime and AVI movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
-        <translation>Montar os vídeos MP4, QuickTime e AVI e as imagens JPEG ou PNG que estão em pedaços, como “... complete.MP4”, ou como “... put together.MP4” quando não foi possível provar que todos os pedaços são os corretos.</translation>
-    </message>
-    <message>
         <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4, QuickTime or AVI movie whose index was never written; for MP4 and QuickTime a whole movie of the same camera has to be found as well.</source>
         <translation>Gravar um gêmeo reproduzível, “... repaired.MP4”, de cada vídeo MP4, QuickTime ou AVI cujo índice nunca foi gravado; para MP4 e QuickTime também é preciso encontrar um vídeo inteiro da mesma câmera.</translation>
     </message>
@@ -2296,6 +2292,14 @@ Executando em %2.</translation>
     <message>
         <source>Press “Go On” to search the rest.</source>
         <translation>Pressione “Continuar” para buscar no restante.</translation>
+    </message>
+    <message>
+        <source>%1 of %2 broken documents and archives completed, %3 more put together: please look</source>
+        <translation>%1 de %2 documentos e arquivos compactados quebrados completados, mais %3 montados: convém verificar</translation>
+    </message>
+    <message>
+        <source>Put MP4, QuickTime and AVI movies, JPEG or PNG pictures, ZIP archives and office documents together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
+        <translation>Montar os vídeos MP4, QuickTime e AVI, as imagens JPEG ou PNG, os arquivos ZIP e os documentos de escritório que estão em pedaços, como “... complete.MP4”, ou como “... put together.MP4” quando não foi possível provar que todos os pedaços são os corretos.</translation>
     </message>
 </context>
 <context>
@@ -4144,6 +4148,14 @@ Selecione os tipos de arquivo a recuperar. Pressione o botão “Próximo” par
     <message>
         <source>Search options</source>
         <translation>Opções de busca</translation>
+    </message>
+    <message>
+        <source>Completing broken documents…</source>
+        <translation>Completando documentos quebrados…</translation>
+    </message>
+    <message>
+        <source>Completing broken documents: %1 of %2</source>
+        <translation>Completando documentos quebrados: %1 de %2</translation>
     </message>
 </context>
 <context>

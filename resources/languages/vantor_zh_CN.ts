@@ -1809,10 +1809,6 @@ Try --help.</source>
         <translation>也保存文件的组成部分，例如图片的预览图或压缩包中的成员：即完全位于已证实完整的文件之内的内容，否则会被略过。</translation>
     </message>
     <message>
-        <source>Put MP4, QuickTime and AVI movies and JPEG or PNG pictures together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
-        <translation>将分散为碎片的 MP4、QuickTime 和 AVI 视频以及 JPEG 或 PNG 图片拼合，保存为“... complete.MP4”；无法证实所有碎片都正确时，保存为“... put together.MP4”。</translation>
-    </message>
-    <message>
         <source>Write a playable twin, &quot;... repaired.MP4&quot;, of each MP4, QuickTime or AVI movie whose index was never written; for MP4 and QuickTime a whole movie of the same camera has to be found as well.</source>
         <translation>为每个从未写入索引的 MP4、QuickTime 或 AVI 视频写入一个可播放的版本“... repaired.MP4”；对于 MP4 和 QuickTime，还须找到同一相机拍摄的一个完整视频。</translation>
     </message>
@@ -2264,6 +2260,14 @@ Running on %2.</source>
     <message>
         <source>Press “Go On” to search the rest.</source>
         <translation>按“继续”搜索其余部分。</translation>
+    </message>
+    <message>
+        <source>%1 of %2 broken documents and archives completed, %3 more put together: please look</source>
+        <translation>已补全 %1 个损坏的文档和压缩包（共 %2 个），另拼合 %3 个：请查看</translation>
+    </message>
+    <message>
+        <source>Put MP4, QuickTime and AVI movies, JPEG or PNG pictures, ZIP archives and office documents together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
+        <translation>将分散为碎片的 MP4、QuickTime 和 AVI 视频、JPEG 或 PNG 图片、ZIP 压缩包以及办公文档拼合，保存为“... complete.MP4”；无法证实所有碎片都正确时，保存为“... put together.MP4”。</translation>
     </message>
 </context>
 <context>
@@ -4102,6 +4106,14 @@ Please select the required extension type for recovery process. Press ‘Next’
     <message>
         <source>Search options</source>
         <translation>搜索选项</translation>
+    </message>
+    <message>
+        <source>Completing broken documents…</source>
+        <translation>正在补全损坏的文档…</translation>
+    </message>
+    <message>
+        <source>Completing broken documents: %1 of %2</source>
+        <translation>正在补全损坏的文档：%1 / %2</translation>
     </message>
 </context>
 <context>

@@ -148,6 +148,15 @@ TEST(SavingCommand, SummaryAndReportAgree) {
     EXPECT_GT(contentsOf(folder.filePath("Recovery report.html")).count("<tr>"), files);
 }
 
+TEST(SavingCommand, AFolderThatSpeaksToTheTerminal_IsSpeltOut) {
+    const QTemporaryDir folder;
+    const CommandRun run = runCommand({"--range", "0:2000", "--report", "--save",
+                                       folder.filePath(QStringLiteral("out\x1b[2J")), VANTOR_SAMPLE_CARD});
+    EXPECT_EQ(run.exitCode, 0) << run.err.constData();
+    EXPECT_TRUE(run.out.contains("saved in ") && run.out.contains("Report: ")) << run.out.constData();
+    EXPECT_FALSE((run.out + run.err).contains('\x1b')) << run.out.constData();
+}
+
 TEST(SavingCommand, FiltersAndDates) {
     const QTemporaryDir folder;
     const QString dated = folder.filePath("dated"), large = folder.filePath("large");

@@ -1,6 +1,9 @@
 // A card's directories read in a helper, and what is believed of one that is somebody else's.
 #include <gtest/gtest.h>
 
+#include <QFile>
+#include <QTemporaryDir>
+#include <atomic>
 #include <random>
 
 #include "decode/CardExchange.h"
@@ -167,9 +170,9 @@ class CardHelper : public testing::Test {
         }
     }
 
-    std::optional<CardTable> read(const QString& helper = VANTOR_CARD_HELPER) {
+    std::optional<CardTable> read(const QString& helper = VANTOR_CARD_HELPER,
+                                  CardHelperOptions options = {}) {
         ScriptedReader reader(m_medium);
-        CardHelperOptions options;
         options.helper = helper;
         return readCardInHelper(reader, m_medium.bytes.size(), {}, {}, options);
     }
@@ -191,6 +194,26 @@ TEST_F(CardHelper, BadSectorBesideADirectory_CostsThatAlone) {
     const auto table = read();
     ASSERT_TRUE(table);
     EXPECT_EQ(pathsOf(*table), "IMG_0412.JPG");
+}
+
+TEST_F(CardHelper, Stop_EndsOneThatNeverAnswers) {
+    const QTemporaryDir folder;
+    const QString silent = folder.filePath("silent");
+    ASSERT_TRUE(QFile::link(VANTOR_LYING_HELPER, silent));
+    CardHelperOptions patient;
+    patient.stepDeadline = std::chrono::hours(10);
+    patient.afterStop = std::chrono::milliseconds(0);
+    std::atomic<int> asked{0};
+    patient.stop = [&asked] { return ++asked > 3; };
+    EXPECT_FALSE(read(silent, patient));
+    EXPECT_EQ(asked, 4);
+}
+
+TEST_F(CardHelper, Stop_LeavesTimeForASmallTable) {
+    CardHelperOptions options;
+    options.afterStop = std::chrono::hours(10);
+    options.stop = [] { return true; };
+    EXPECT_TRUE(read(VANTOR_CARD_HELPER, options));
 }
 
 TEST_F(CardHelper, LyingOrMissing_GivesNoTable) {

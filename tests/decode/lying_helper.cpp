@@ -111,6 +111,9 @@ int main(int argc, char** argv) {
     answer.flags = lie == "uncaged" ? 0U : static_cast<std::uint32_t>(kCaged);
     send(kHelperSocket, &answer, sizeof answer, 0);
     for (Request request; recv(kHelperSocket, &request, sizeof request, 0) > 0;) {
+        if (lie == "silent") {
+            continue;
+        }
         answer = random ? liar.about(request) : told(lie, request);
         send(kHelperSocket, &answer, lie == "length" ? sizeof answer - 1 : sizeof answer, 0);
     }

@@ -239,6 +239,26 @@ TEST_P(FatCard, FormatWithOtherClusters_OldOnesAreVotedFor) {
     EXPECT_EQ(table.fileSystems.back().clusterSectors, 4u);
 }
 
+// Of clusters of 1 KiB, where the present ones have 2.
+TEST_P(FatCard, FormatWithOtherClusters_OneFolderOfTextsTellsThem) {
+    const auto rows = [](std::uint32_t third) {
+        return dotRows(500, 0) + fatRow("ONE     TXT", 501, 9000) + fatRow("TWO     TXT", 510, 700) +
+               fatRow("THREE   TXT", third, 5000) + fatRow("FOUR    TXT", 516, 300);
+    };
+    putBytes(m_card, 5000, rows(511));
+    const CardFile file = fileNamed(tableOf(m_card), "THREE.TXT");
+    EXPECT_EQ(file.runs, (std::vector<SectorRun>{{5022, 5032}}));
+    EXPECT_EQ(file.folder, "folder-500");
+    // They do not lie one behind the other.
+    putBytes(m_card, 5000, rows(612));
+    EXPECT_EQ(fileNamed(tableOf(m_card), "THREE.TXT").name, "");
+    // Of one cluster each, whatever its size.
+    putBytes(m_card, 5000,
+             dotRows(500, 0) + fatRow("A       TXT", 501, 90) + fatRow("B       TXT", 502, 90) +
+                 fatRow("C       TXT", 503, 90) + fatRow("D       TXT", 504, 90));
+    EXPECT_EQ(fileNamed(tableOf(m_card), "B.TXT").name, "");
+}
+
 TEST_P(FatCard, LoopsOfFoldersAndClusters_End) {
     putPhotos(fatRow("IMG_0412JPG", 10, 100 * 2048) + fatRow("AGAIN      ", 4, 0, 0x10) +
               fatRow("UP         ", 3, 0, 0x10));

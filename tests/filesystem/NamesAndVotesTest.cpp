@@ -192,9 +192,10 @@ TEST(FirstLetters, TimesTellItWhereTwoSeriesShareAFolder) {
 
 TEST(FirstLetters, NumbersThatRiseWithEachEntryTellIt) {
     FirstLetters letters;
-    for (const std::size_t number : {4, 5, 8, 9}) {
+    for (const std::size_t number : {4, 5, 8, 9, 12, 14, 17}) {
         letters.learn(QString("X%1.XMP").arg(number), {1, number + 2});
     }
+    EXPECT_EQ(letters.of("_18.XMP", {1, 20}), QChar(u'X')) << "those beside each other are further off";
     EXPECT_EQ(letters.of("_1.XMP", {1, 3}), QChar(u'X'));
     EXPECT_EQ(letters.of("_10.XMP", {1, 12}), QChar(u'X'));
     EXPECT_EQ(letters.of("_1.XMP", {1, 2}), std::nullopt) << "another stands between";

@@ -259,6 +259,21 @@ TEST(MovieCompletion, EachMovieLeavesFewerPlacesForTheNext) {
     }
 }
 
+// An index that happens to begin with a sector is taken for a movie.
+TEST(MovieCompletion, IndexAtASectorsStart_HidesNoClusters) {
+    const MadeMovie movie = makeMovie(picturesOfManySizes(200, 1), false, 1);
+    const int count = movieClustersOf(movie.bytes);
+    QByteArray medium = mediumOf(2 * count + 30);
+    scatter(movie.bytes, every(2, 8, count), medium);
+    MemoryReader reader(medium);
+    MovieReaderOptions noHelper;
+    noHelper.helper = QStringLiteral("/nowhere");
+    CompletionProgress progress;
+    const std::vector<std::uint64_t> starts{8 * kMovieClusterSectors, 11 * kMovieClusterSectors + 3,
+                                            15 * kMovieClusterSectors + 5};
+    EXPECT_TRUE(MovieCompletion(reader, kGoOn, progress, noHelper).run(starts, {})[0]);
+}
+
 TEST(MovieCompletion, WhatLeavesNoChoice_IsPlacedFirst) {
     // A picture of the one is so large that nothing tells its clusters; the other ends beside it.
     std::vector<test::PictureSpec> specs = picturesOfManySizes(60, 1);

@@ -1,4 +1,5 @@
 // How the browsers follow a list that grows, and leave those alone who look back.
+#include <QComboBox>
 #include <QScrollBar>
 
 #include "results/RecoveryMode.h"
@@ -54,6 +55,26 @@ TEST_F(Browser, WhoLooksBack_IsLeftThereUntilHeIsAtTheEndAgain) {
     addPhotos(60);
     settle();
     EXPECT_EQ(bar->value(), halfWay);
+}
+
+TEST_F(Browser, AnotherChoice_IsSeenFromItsBeginning_OrAtTheSelectedItem) {
+    open();
+    showPhotoScreen();
+    ImageBrowserView* const browser = controller->imageBrowser;
+    const auto show = [this](ShowItems what) {
+        controller->showBox->setCurrentIndex(controller->showBox->findData(static_cast<int>(what)));
+        settle();
+    };
+    addPhotos(60);
+    settle();
+    ASSERT_TRUE(atEnd(browser));
+    show(ShowItems::NotSaved);
+    ASSERT_EQ(browser->shownCount(), 60);
+    EXPECT_EQ(browser->verticalScrollBar()->value(), 0);
+    browser->chooseIndex(59);
+    browser->scrollToTop();
+    show(ShowItems::All);
+    EXPECT_TRUE(browser->viewport()->rect().contains(browser->visualRect(browser->currentIndex())));
 }
 
 // The list followed the search while the current item stayed where the keyboard had begun.

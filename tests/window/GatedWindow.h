@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tests/support/Gate.h"
+#include "tests/support/ReadAheadMedium.h"
 #include "tests/window/WindowTest.h"
 
 namespace vantor {
@@ -12,6 +13,11 @@ class GatedWindow : public WindowTest {
     void TearDown() override {
         gate.open();
         WindowTest::TearDown();
+    }
+
+    // Searches read as they do outside of tests: ahead, and nobody asks for what was refused twice.
+    void readAhead() {
+        parts.openMedium = [this](const QString&) { return openReadAhead(card); };
     }
 
     // The widget of this name, which has to be there.

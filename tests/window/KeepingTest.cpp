@@ -131,6 +131,7 @@ TEST_P(KeepingByMode, AStoppedSearch_GoesOn) {
 // What could not be read up to the end is what is left to be searched.
 TEST_P(KeepingByMode, ASearchThatCouldNotReadOn_GoesOnWithWhatWasRefused) {
     const QStringList all = undisturbed(GetParam());
+    readAhead();
     openWithCard();
     GetParam() == kPhotoMode ? toRange(kPhotoMode) : toFileTypes(GetParam());
     for (std::uint64_t sector = 14; sector < 64; ++sector) {
@@ -152,6 +153,7 @@ TEST_P(KeepingByMode, ASearchThatCouldNotReadOn_GoesOnWithWhatWasRefused) {
 
 // What was refused before the stop is not asked for again, and could not be read all the same.
 TEST_P(KeepingByMode, AfterGoingOn_SectorsThatWereRefusedBefore_AreCountedToo) {
+    readAhead();
     openWithCard();
     card.badForEver = {5, 6, 7, 50};
     GetParam() == kPhotoMode ? toRange(GetParam()) : toFileTypes(GetParam());

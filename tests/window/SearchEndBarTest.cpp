@@ -78,6 +78,7 @@ TEST_F(SearchEndBar, OnlyBadSectors_CanBeTriedAgain) {
 }
 
 TEST_F(SearchEndBar, EverySectorThatCouldNotBeRead_IsCounted_InEachOfTwoSearches) {
+    readAhead();
     openWithCard();
     card.badForEver = {20, 21, 22, 40};
     toRange(kPhotoMode);

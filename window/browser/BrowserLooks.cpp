@@ -273,7 +273,7 @@ void BrowserLooks::choose() {
     const SavePolicy policy = m_items.policy();
     m_wish.smallPixels = policy.minPixels != 0 ? policy.minPixels : kSmallPixels;
     m_wish.smallBytes = policy.minBytes != 0 ? policy.minBytes : kSmallBytes;
-    putInOrder();
+    putInChosenOrder();
     look();
 }
 
@@ -301,14 +301,14 @@ void BrowserLooks::pick() {
         m_named.clear();
         takeNames();
     }
-    putInOrder();
+    putInChosenOrder();
     look();
 }
 
 void BrowserLooks::showType(const QString& type) {
     if (m_wish.type != type) {
         m_wish.type = type;
-        putInOrder();
+        putInChosenOrder();
         look();
     }
 }
@@ -321,6 +321,15 @@ void BrowserLooks::showOnly(ShowItems items) {
 void BrowserLooks::mendsChanged() {
     putInOrder();
     screen().browser->viewport()->update();
+}
+
+// Another list is seen from its beginning, unless the user has an item in it. While a search runs, who sees
+// the newest items goes on doing so.
+void BrowserLooks::putInChosenOrder() {
+    putInOrder();
+    if (!m_items.searching || !m_items.searching()) {
+        screen().browser->showCurrentOrFirst();
+    }
 }
 
 void BrowserLooks::putInOrder() {

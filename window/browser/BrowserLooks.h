@@ -36,6 +36,7 @@ struct LookedAtItems {
     std::function<bool(std::size_t)> isSaved;
     std::function<bool(std::size_t)> isTicked;
     std::function<bool()> mediumBusy;    // somebody else reads it
+    std::function<bool()> searching;     // items are added
     std::function<SavePolicy()> policy;  // says what counts as small
     // What the card's directories tell, null as long as nothing is known; any thread.
     std::function<std::shared_ptr<const CardIndex>()> card;
@@ -104,6 +105,7 @@ class BrowserLooks : public QObject {
     void pick();
     void sortBy(SortItems sort);
     void putInOrder();
+    void putInChosenOrder();
     void takeCard();
     bool takeFacets();
     bool takeNames();

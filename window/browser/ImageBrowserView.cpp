@@ -129,6 +129,15 @@ void ImageBrowserView::scrollIndexToVisible(qsizetype index) {
     }
 }
 
+void ImageBrowserView::showCurrentOrFirst() {
+    const QModelIndex current = currentIndex();
+    if (current.isValid() && selectionModel()->isSelected(current)) {
+        scrollTo(current);
+    } else {
+        scrollToTop();
+    }
+}
+
 void ImageBrowserView::followIndex(qsizetype index) {
     if (m_atEnd) {
         scrollIndexToVisible(index);

@@ -44,6 +44,9 @@ class ImageBrowserView : public GridView {
     // shown.
     void setOrder(std::optional<QList<int>> order);
 
+    // Brings the selected item that has the keyboard into view; without one, the first.
+    void showCurrentOrFirst();
+
     // Items by their places in the list, whatever the order.
     void scrollIndexToVisible(qsizetype index);
     // The same for whom the end of the list is in view; who has looked back is left there.
