@@ -26,27 +26,35 @@ void ArchiveCompletion::run(std::span<const std::uint64_t> broken, std::span<con
         }
     }
     std::vector<bool> done(broken.size(), false);
+    ArchiveEffort effort;
     for (const FreeClusters& grid : grids) {
-        for (std::size_t i = 0; i < broken.size() && m_stop == 0; ++i) {
-            m_progress.looked = std::max<std::size_t>(m_progress.looked, i + 1);
-            const auto first = done[i] ? std::nullopt : grid.beginningAt(broken[i]);
-            if (!first || !grid.isFree(*first)) {
-                continue;
-            }
-            const auto archive = ArchivePieces(blocks, grid, places, m_stop).assemble(*first);
-            if (!archive) {
-                continue;
-            }
-            done[i] = true;
-            const auto runs = runsOfClusters(archive->clusters, archive->bytes, grid);
-            for (FreeClusters& other : grids) {
-                for (const SectorRun& each : runs) {
-                    other.take(each);
+        ArchivePieces pieces(blocks, grid, places, m_stop);
+        // Once more where some gave way.
+        bool any = true;
+        for (int turn = 0; turn < 2 && any; ++turn) {
+            any = false;
+            pieces.forgetMissing();
+            for (std::size_t i = 0; i < broken.size() && m_stop == 0; ++i) {
+                m_progress.looked = std::max<std::size_t>(m_progress.looked, i + 1);
+                const auto first = done[i] ? std::nullopt : grid.beginningAt(broken[i]);
+                if (!first || !grid.isFree(*first)) {
+                    continue;
                 }
-            }
-            if (runs.size() > 1) {
-                tell(i, {runs, archive->bytes,
-                         archive->proved ? AssemblyProof::Proved : AssemblyProof::Likely, false});
+                const auto archive = pieces.assemble(*first, effort);
+                if (!archive) {
+                    continue;
+                }
+                done[i] = any = true;
+                const auto runs = runsOfClusters(archive->clusters, archive->bytes, grid);
+                for (FreeClusters& other : grids) {
+                    for (const SectorRun& each : runs) {
+                        other.take(each);
+                    }
+                }
+                if (runs.size() > 1) {
+                    tell(i, {runs, archive->bytes,
+                             archive->proved ? AssemblyProof::Proved : AssemblyProof::Likely, false});
+                }
             }
         }
     }

@@ -12,6 +12,7 @@ constexpr std::uint32_t kDirectorySign = 0x02014B50;
 constexpr std::uint32_t kEndSign = 0x06054B50;
 constexpr std::uint64_t kMemberHeadBytes = 30;
 constexpr std::size_t kMostMembers = 65534;
+constexpr std::uint32_t kMostDirectoryBytes = 64U << 20;
 constexpr std::uint32_t kToldElsewhere = 0xFFFFFFFF;
 constexpr std::uint16_t kSizesFollow = 8;
 
@@ -27,7 +28,8 @@ std::optional<ArchiveEnd> archiveEndAt(ByteView& view, std::uint64_t at) {
     const std::uint32_t directory = in.u32();
     const std::uint16_t comment = in.u16();
     if (!in.ok() || sign != kEndSign || disks != 0 || here != members || members == 0 ||
-        members > kMostMembers || bytes == kToldElsewhere || directory == kToldElsewhere || directory == 0) {
+        members > kMostMembers || bytes > kMostDirectoryBytes || directory == kToldElsewhere ||
+        directory == 0) {
         return std::nullopt;
     }
     const std::uint64_t place = std::uint64_t{directory} + bytes;
@@ -51,6 +53,7 @@ std::optional<std::vector<ArchiveMember>> archiveMembers(ByteView& view, const A
         const std::uint16_t name = in.u16();
         const std::uint16_t extra = in.u16();
         const std::uint16_t comment = in.u16();
+        member.aside = std::uint64_t{extra} + comment;
         in.skip(8);
         member.at = in.u32();
         const std::uint64_t next = in.at() + name + extra + comment;

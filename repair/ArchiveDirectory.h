@@ -20,6 +20,9 @@ struct ArchiveMember {
     std::uint64_t unpacked = 0;
     std::string name;
 
+    // Bytes of its record in the directory that nothing bears out.
+    std::uint64_t aside = 0;
+
     bool isStored() const { return method == 0 && packed == unpacked; }
     bool isPacked() const { return method == 8; }
     // Whether its content tells by its sum that it is whole.
@@ -36,7 +39,8 @@ struct ArchiveEnd {
     std::size_t members = 0;
 };
 
-// Source: PKWARE APPNOTE 6.3.10, 4.3.7 to 4.3.16. Archives beyond 4 GiB are left out.
+// Source: PKWARE APPNOTE 6.3.10, 4.3.7 to 4.3.16. Archives beyond 4 GiB are left out, and directories far
+// longer than what they may tell of.
 std::optional<ArchiveEnd> archiveEndAt(ByteView& view, std::uint64_t at);
 
 // The members in the order of the file, the first of which begins it; nothing unless the directory is whole

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 #include "formats/Crc.h"
 #include "formats/Inflate.h"
@@ -20,6 +21,7 @@ constexpr std::uint64_t kMostWaysAMember = 4096;
 
 ArchivePlaces archivePlaces(MediumBlocks& medium, const std::atomic<int>& stop) {
     constexpr std::size_t kSignBytes = 4;
+    constexpr std::size_t kSeam = ArchiveEnd::kBytes - 1;
     constexpr std::size_t kMostOfAKind = 1'000'000;
     ArchivePlaces places;
     const auto look = [&](std::span<const std::uint8_t> bytes, std::uint64_t at) {
@@ -34,22 +36,32 @@ ArchivePlaces archivePlaces(MediumBlocks& medium, const std::atomic<int>& stop) 
             }
             if (bytes[i + 2] == 3 && bytes[i + 3] == 4 && places.members.size() < kMostOfAKind) {
                 places.members.push_back(at + i);
-            } else if (bytes[i + 2] == 5 && bytes[i + 3] == 6 && places.ends.size() < kMostOfAKind) {
-                places.ends.push_back(at + i);
+            } else if (bytes[i + 2] == 5 && bytes[i + 3] == 6 && places.ends.size() < kMostOfAKind &&
+                       i + ArchiveEnd::kBytes <= bytes.size()) {
+                SpanSource source(bytes.subspan(i, ArchiveEnd::kBytes));
+                ByteView view(source);
+                if (const auto end = archiveEndAt(view, 0)) {
+                    places.ends.push_back({at + i, *end});
+                }
             }
         }
     };
-    std::vector<std::uint8_t> seam(2 * (kSignBytes - 1), 0);
+    std::vector<std::uint8_t> seam(2 * kSeam, 0);
     for (std::uint64_t sector = 0; sector < medium.sectors() && stop == 0;
          sector += MediumBlocks::kBlockSectors) {
         const auto block = medium.blockOf(sector);
-        std::copy_n(block.begin(), kSignBytes - 1, seam.begin() + kSignBytes - 1);
+        std::copy_n(block.begin(), kSeam, seam.begin() + kSeam);
         if (sector != 0) {
-            look(seam, sector * kSectorBytes - (kSignBytes - 1));
+            // What the block itself holds whole is found in it as well, and taken once.
+            look(seam, sector * kSectorBytes - kSeam);
         }
         look(block, sector * kSectorBytes);
-        std::copy_n(block.end() - (kSignBytes - 1), kSignBytes - 1, seam.begin());
+        std::copy_n(block.end() - kSeam, kSeam, seam.begin());
     }
+    std::sort(places.members.begin(), places.members.end());
+    places.members.erase(std::unique(places.members.begin(), places.members.end()), places.members.end());
+    std::sort(places.ends.begin(), places.ends.end(),
+              [](const auto& a, const auto& b) { return a.at < b.at; });
     return places;
 }
 
@@ -68,57 +80,96 @@ void ArchivePieces::lift(std::uint64_t before, std::uint64_t end) {
     }
 }
 
-std::optional<PiecedArchive> ArchivePieces::assemble(std::uint64_t firstCluster) {
-    // Those behind the first cluster in front, as files are mostly written.
-    const std::uint64_t first = m_free.firstSectorOf(firstCluster) * kSectorBytes;
-    const auto behind = std::lower_bound(m_places.ends.begin(), m_places.ends.end(), first);
-    const auto skipped = static_cast<std::size_t>(behind - m_places.ends.begin());
-    for (std::size_t i = 0; i < m_places.ends.size() && m_stop == 0; ++i) {
-        m_used.assign(static_cast<std::size_t>(m_free.count()), false);
-        if (tryEnd(firstCluster, m_places.ends[(skipped + i) % m_places.ends.size()])) {
-            return PiecedArchive{m_clusters, m_end.bytes, m_proved};
+void ArchivePieces::liftAll() {
+    for (std::uint64_t& cluster : m_clusters) {
+        if (cluster != kUnplaced) {
+            m_used[static_cast<std::size_t>(cluster)] = false;
+            cluster = kUnplaced;
         }
     }
-    return std::nullopt;
 }
 
-bool ArchivePieces::tryEnd(std::uint64_t firstCluster, std::uint64_t endPlace) {
-    std::vector<std::uint8_t> record(ArchiveEnd::kBytes);
-    m_medium.read(endPlace, record);
-    SpanSource source(record);
-    ByteView view(source);
-    const auto end = archiveEndAt(view, 0);
+// Pays for the blocks read since.
+bool ArchivePieces::mayGoOn() {
+    m_effort.spend((m_medium.fetched() - std::exchange(m_fetched, m_medium.fetched())) *
+                   ArchiveEffort::kBlock);
+    return m_stop == 0 && m_effort.left != 0;
+}
+
+std::optional<PiecedArchive> ArchivePieces::assemble(std::uint64_t firstCluster, ArchiveEffort& effort) {
+    m_effort.left = std::min(effort.left, ArchiveEffort::kOfOne);
+    const std::uint64_t before = m_effort.left;
+    m_fetched = m_medium.fetched();
+    std::vector<std::uint8_t> head(
+        static_cast<std::size_t>(std::min<std::uint64_t>(m_free.clusterBytes(), 1024)));
+    const std::uint64_t first = m_free.firstSectorOf(firstCluster) * kSectorBytes;
+    m_medium.read(first, head);
+    // Those behind the first cluster in front, as files are mostly written.
+    const auto behind = std::lower_bound(m_places.ends.begin(), m_places.ends.end(), first,
+                                         [](const auto& end, std::uint64_t at) { return end.at < at; });
+    const auto skipped = static_cast<std::size_t>(behind - m_places.ends.begin());
+    m_used.resize(static_cast<std::size_t>(m_free.count()), false);
+    std::optional<PiecedArchive> found;
+    for (std::size_t i = 0; i < m_places.ends.size() && !found && mayGoOn(); ++i) {
+        m_effort.spend(1);
+        if (tryEnd(firstCluster, head, (skipped + i) % m_places.ends.size())) {
+            found = PiecedArchive{m_clusters, m_end.bytes, m_proved && isShown()};
+        }
+        liftAll();
+    }
+    mayGoOn();
+    effort.spend(before - m_effort.left);
+    return found;
+}
+
+bool ArchivePieces::tryEnd(std::uint64_t firstCluster, std::span<const std::uint8_t> head,
+                           std::size_t which) {
+    const std::uint64_t endPlace = m_places.ends[which].at;
+    const ArchiveEnd& end = m_places.ends[which].told;
     const std::uint64_t cluster = m_free.clusterBytes();
-    if (!end || end->bytes / cluster >= m_free.count()) {
+    const auto known = m_fronts.find(which);
+    const std::uint64_t within = end.at % cluster;
+    if ((known != m_fronts.end() && (!known->second || !beginsMember(*known->second, head))) ||
+        end.bytes / cluster >= m_free.count() || endPlace < within ||
+        (endPlace - within) % kSectorBytes != 0) {
         return false;
     }
-    const std::uint64_t within = end->at % cluster;
-    const auto last = endPlace < within || (endPlace - within) % kSectorBytes != 0
-                          ? std::nullopt
-                          : m_free.beginningAt((endPlace - within) / kSectorBytes);
+    const auto last = m_free.beginningAt((endPlace - within) / kSectorBytes);
     if (!last || !m_free.isFree(*last)) {
         return false;
     }
-    m_end = *end;
+    m_end = end;
     m_proved = true;
-    m_clusters.assign(static_cast<std::size_t>((end->bytes + cluster - 1) / cluster), kUnplaced);
-    return placeDirectory(firstCluster, *last) && placeMembers();
+    m_clusters.assign(static_cast<std::size_t>((end.bytes + cluster - 1) / cluster), kUnplaced);
+    m_effort.spend(m_clusters.size());
+    // One that begins with the archive is only found with it.
+    if (known == m_fronts.end() && end.directory >= cluster) {
+        const bool there = placeDirectory({}, *last);
+        if (there || mayGoOn()) {
+            m_fronts[which] = there ? std::optional(m_members.front()) : std::nullopt;
+        }
+        if (!there || !beginsMember(m_members.front(), head)) {
+            return false;
+        }
+    }
+    return placeDirectory(firstCluster, *last) && beginsMember(m_members.front(), head) && placeMembers();
 }
 
 // The directory lies in a row up to its end, or in turn with another file.
-bool ArchivePieces::placeDirectory(std::uint64_t firstCluster, std::uint64_t lastCluster) {
+bool ArchivePieces::placeDirectory(std::optional<std::uint64_t> firstCluster, std::uint64_t lastCluster) {
     const std::uint64_t cluster = m_free.clusterBytes();
     const std::uint64_t first = m_end.directory / cluster;
     const std::uint64_t last = m_end.at / cluster;
-    for (std::uint64_t step = 1; step <= kWidestArchiveTurn && m_stop == 0; ++step) {
-        std::fill(m_clusters.begin(), m_clusters.end(), kUnplaced);
-        std::fill(m_used.begin(), m_used.end(), false);
-        place(0, firstCluster);
+    for (std::uint64_t step = 1; step <= kWidestArchiveTurn && mayGoOn(); ++step) {
+        liftAll();
+        if (firstCluster) {
+            place(0, *firstCluster);
+        }
         std::optional<std::uint64_t> at = lastCluster;
         bool there = true;
         for (std::uint64_t number = last + 1; number-- > first && there;) {
             there = at && m_free.isFree(*at) &&
-                    (number == 0 ? *at == firstCluster : !m_used[static_cast<std::size_t>(*at)]);
+                    (number == 0 ? at == firstCluster : !m_used[static_cast<std::size_t>(*at)]);
             if (there) {
                 place(number, *at);
                 at = m_free.back(*at, step);
@@ -132,12 +183,12 @@ bool ArchivePieces::placeDirectory(std::uint64_t firstCluster, std::uint64_t las
                 place(number, *next);
             }
         }
+        m_effort.spend(m_clusters.size());
         ClusterFile file(m_medium, m_free, m_clusters, m_end.bytes);
         ByteView view(file);
         auto members = there ? archiveMembers(view, m_end) : std::nullopt;
-        std::vector<std::uint8_t> head(static_cast<std::size_t>(std::min<std::uint64_t>(cluster, 1024)));
-        m_medium.read(m_free.firstSectorOf(firstCluster) * kSectorBytes, head);
-        if (members && beginsMember(members->front(), head)) {
+        if (members) {
+            m_effort.spend(members->size() + (m_end.at - m_end.directory) / ArchiveEffort::kBytesAStep);
             m_members = std::move(*members);
             return true;
         }
@@ -148,11 +199,24 @@ bool ArchivePieces::placeDirectory(std::uint64_t firstCluster, std::uint64_t las
     return false;
 }
 
+// Whether more than its place speaks for every cluster: none holds nothing but what no sum is of.
+bool ArchivePieces::isShown() {
+    const std::uint64_t cluster = m_free.clusterBytes();
+    ClusterFile file(m_medium, m_free, m_clusters, m_end.bytes);
+    ByteView view(file);
+    return (m_end.bytes - 1) / cluster == (m_end.at + ArchiveEnd::kBytes - 1) / cluster &&
+           std::all_of(m_members.begin(), m_members.end(), [&](const ArchiveMember& member) {
+               const auto content = memberContent(view, member);
+               return content && member.aside < cluster && *content - member.at < cluster &&
+                      member.end - *content - member.packed < cluster;
+           });
+}
+
 bool ArchivePieces::placeMembers() {
     return std::all_of(m_members.begin(), m_members.end(),
                        [this](const ArchiveMember& member) { return placeHead(member); }) &&
            std::all_of(m_members.begin(), m_members.end(),
-                       [this](const ArchiveMember& member) { return m_stop == 0 && fill(member); });
+                       [this](const ArchiveMember& member) { return mayGoOn() && fill(member); });
 }
 
 // Where the member begins. A head that goes on in the next cluster may lie there with the content.
@@ -176,7 +240,8 @@ bool ArchivePieces::placeHead(const ArchiveMember& member) {
     const std::uint64_t first = m_free.firstSectorOf(m_clusters.front()) * kSectorBytes;
     const auto behind = std::lower_bound(m_places.members.begin(), m_places.members.end(), first);
     const auto skipped = static_cast<std::size_t>(behind - m_places.members.begin());
-    for (std::size_t i = 0; i < m_places.members.size() && m_stop == 0; ++i) {
+    for (std::size_t i = 0; i < m_places.members.size() && mayGoOn(); ++i) {
+        m_effort.spend(1);
         const std::uint64_t place = m_places.members[(skipped + i) % m_places.members.size()];
         if (place < within || (place - within) % kSectorBytes != 0) {
             continue;
@@ -198,17 +263,18 @@ ArchivePieces::Look ArchivePieces::look(const ArchiveMember& member) {
     if (!content) {
         return {false, member.at};
     }
+
     if (!member.isProvable()) {
         m_proved = m_proved && member.packed == 0;
         return {true, member.end};
     }
     if (member.isStored()) {
-        m_unpackedLeft -= std::min(m_unpackedLeft, member.packed);
+        m_effort.spend(member.packed / ArchiveEffort::kBytesAStep);
         bool read = true;
         return {crc32(view, *content, *content + member.packed, read) == member.sum && read, member.end};
     }
     const InflateResult result = inflate(view, *content, member.unpacked);
-    m_unpackedLeft -= std::min(m_unpackedLeft, result.produced + (result.end - *content));
+    m_effort.spend((result.produced + (result.end - *content)) / ArchiveEffort::kBytesAStep);
     return {result.outcome == InflateOutcome::Done && result.produced == member.unpacked &&
                 result.end == *content + member.packed && result.crc == member.sum,
             result.outcome == InflateOutcome::Done ? member.end : result.end};
@@ -217,15 +283,24 @@ ArchivePieces::Look ArchivePieces::look(const ArchiveMember& member) {
 // Places the clusters of the file in (before, end): `ahead` of them `step` free ones apart from the one
 // before, the others in a row up to the one behind. False where some of these are not to be had.
 bool ArchivePieces::lay(std::uint64_t before, std::uint64_t end, std::uint64_t ahead, std::uint64_t step) {
-    for (std::uint64_t number = before + 1; number < end; ++number) {
-        const auto cluster = number - before <= ahead
-                                 ? m_free.ahead(m_clusters[static_cast<std::size_t>(number - 1)], step)
-                                 : m_free.back(m_clusters[static_cast<std::size_t>(end)], end - number);
+    m_effort.spend(end - before);
+    const auto put = [&](std::uint64_t number, std::optional<std::uint64_t> cluster) {
         if (!cluster || m_used[static_cast<std::size_t>(*cluster)]) {
             lift(before, end);
             return false;
         }
         place(number, *cluster);
+        return true;
+    };
+    for (std::uint64_t number = before + 1; number < end && number - before <= ahead; ++number) {
+        if (!put(number, m_free.ahead(m_clusters[static_cast<std::size_t>(number - 1)], step))) {
+            return false;
+        }
+    }
+    for (std::uint64_t number = end - 1; number > before + ahead; --number) {
+        if (!put(number, m_free.back(m_clusters[static_cast<std::size_t>(number + 1)], 1))) {
+            return false;
+        }
     }
     return true;
 }
@@ -276,7 +351,7 @@ bool ArchivePieces::fill(const ArchiveMember& member) {
     // The cut is where it breaks or before.
     const std::uint64_t farthest = onwards.brokenAt / cluster;
     std::uint64_t ahead = farthest <= before ? 0 : std::min(missing, farthest - before);
-    for (std::uint64_t ways = 0; ways < kMostWaysAMember && m_unpackedLeft != 0 && m_stop == 0; ++ways) {
+    for (std::uint64_t ways = 0; ways < kMostWaysAMember && mayGoOn(); ++ways) {
         if (tryWay(ahead, 1).whole) {
             return true;
         }

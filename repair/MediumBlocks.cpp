@@ -17,6 +17,7 @@ std::span<const std::uint8_t> MediumBlocks::blockOf(std::uint64_t sector) {
     } else {
         m_blocks.emplace_front();
     }
+    ++m_fetched;
     Block& block = m_blocks.front();
     block.number = number;
     block.bytes.assign(kBlockSectors * kSectorBytes, 0);

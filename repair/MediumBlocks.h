@@ -24,6 +24,8 @@ class MediumBlocks {
     void read(std::uint64_t at, std::span<std::uint8_t> into);
     // The block that the sector lies in, from its first sector on; valid until the next call.
     std::span<const std::uint8_t> blockOf(std::uint64_t sector);
+    // How many were read so far, those read anew counted again.
+    std::uint64_t fetched() const { return m_fetched; }
 
   private:
     struct Block {
@@ -32,6 +34,7 @@ class MediumBlocks {
     };
 
     SectorReader& m_medium;
+    std::uint64_t m_fetched = 0;
     std::list<Block> m_blocks;  // the one asked for last in front
     std::unordered_map<std::uint64_t, std::list<Block>::iterator> m_places;
 };

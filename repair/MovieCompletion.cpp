@@ -24,6 +24,9 @@ bool isWhole(const PiecedMovie& movie) {
     return movie.samples != 0 && movie.wholeSamples == movie.samples;
 }
 
+constexpr unsigned kMostLooks = 8;    // for one movie, as others give way
+constexpr std::size_t kSharing = 16;  // so many parts of what may be searched
+
 // The best that was found of one movie so far.
 struct FoundMovie {
     PiecedMovie movie;
@@ -72,18 +75,32 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
         }
     }
     std::vector<std::optional<FoundMovie>> found(broken.size());
-    // Of each grid and movie: what is surely the movie's is none of the others'.
-    std::vector<std::vector<std::vector<std::uint64_t>>> anchors;
-    for (const FreeClusters& grid : grids) {
-        auto& ofGrid = anchors.emplace_back(broken.size());
+    std::vector<unsigned> looks(broken.size(), 0);
+    // None takes so much that nothing is left for the others.
+    std::uint64_t searchLeft = MoviePieces::kMostSearched;
+    const auto withPieces = [&](const FreeClusters& grid, auto&& use) {
+        const std::uint64_t share = searchLeft / std::min<std::size_t>(broken.size(), kSharing);
+        MoviePieces pieces(blocks, grid, indexes, m_stop, share);
+        auto result = use(pieces);
+        searchLeft -= share - pieces.searchLeft();
+        return result;
+    };
+    // Of each grid and movie, once asked for: what is surely the movie's is none of the others'.
+    std::vector<std::vector<std::vector<std::uint64_t>>> anchors(grids.size());
+    const auto findAnchors = [&](std::size_t g) {
+        anchors[g].resize(broken.size());
         for (std::size_t i = 0; i < broken.size() && broken.size() > 1 && m_stop == 0; ++i) {
-            const auto first = grid.beginningAt(broken[i]);
-            if (first && grid.isFree(*first)) {
-                ofGrid[i] = MoviePieces(blocks, grid, indexes, m_stop).anchorsOf(*first);
+            const auto first = found[i] && found[i]->settled ? std::nullopt : grids[g].beginningAt(broken[i]);
+            if (first && grids[g].isFree(*first)) {
+                anchors[g][i] =
+                    withPieces(grids[g], [&](MoviePieces& pieces) { return pieces.anchorsOf(*first); });
             }
         }
-    }
+    };
     const auto anchorsOfOthers = [&](std::size_t g, std::size_t i) {
+        if (anchors[g].empty()) {
+            findAnchors(g);
+        }
         std::vector<std::uint64_t> all;
         for (std::size_t other = 0; other < broken.size(); ++other) {
             if (other != i && !(found[other] && found[other]->settled)) {
@@ -136,6 +153,9 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
         if (found[i] && !isFree(*found[i])) {
             found[i].reset();
         }
+        if (++looks[i] > kMostLooks) {
+            return;
+        }
         for (std::size_t g = 0; g < grids.size() && !(found[i] && leftNoChoice(*found[i])) && m_stop == 0;
              ++g) {
             const auto first = grids[g].beginningAt(broken[i]);
@@ -150,8 +170,9 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
                 if (alone && (others.empty() || (found[i] && isWhole(found[i]->movie)))) {
                     break;
                 }
-                auto movie = MoviePieces(blocks, grids[g], indexes, m_stop)
-                                 .assemble(*first, alone ? std::vector<std::uint64_t>() : others);
+                auto movie = withPieces(grids[g], [&](MoviePieces& pieces) {
+                    return pieces.assemble(*first, alone ? std::vector<std::uint64_t>() : others);
+                });
                 if (movie && (!found[i] || worth(*movie) > worth(found[i]->movie))) {
                     found[i] = FoundMovie{std::move(*movie), g, false, {}};
                 }

@@ -19,6 +19,7 @@ void MoviePieces::begin() {
     m_layout = {};
     m_samples.clear();
     m_places.clear();
+    m_indexRow.clear();
     m_used.assign(m_free.count(), false);
     m_step = 1;
     m_guessed = 0;
@@ -141,7 +142,11 @@ bool MoviePieces::placeAnchor(std::uint64_t number, std::uint64_t known) {
         return true;
     }
     std::optional<std::uint64_t> next = last;
-    for (std::uint64_t steps = 1; steps <= kNear && (next = m_free.ahead(*next, 1)); ++steps) {
+    for (std::uint64_t steps = 1; steps <= (m_searchLeft != 0 ? kNear : kVeryNear); ++steps) {
+        if (!(next = m_free.ahead(*next, 1))) {
+            break;
+        }
+        search(steps <= kVeryNear ? 0 : m_free.clusterBytes());
         if (accept(number, *next, steps <= kVeryNear ? Likeness::Likely : Likeness::Certain)) {
             if (steps % apart == 0) {
                 m_step = steps / apart;
@@ -152,7 +157,8 @@ bool MoviePieces::placeAnchor(std::uint64_t number, std::uint64_t known) {
     if (++m_farSearches > kMostFarSearches) {
         return false;
     }
-    for (std::uint64_t cluster = 0; cluster < m_free.count() && m_stop == 0; ++cluster) {
+    for (std::uint64_t cluster = 0; cluster < m_free.count() && m_searchLeft != 0 && m_stop == 0; ++cluster) {
+        search(m_free.clusterBytes());
         if (accept(number, cluster, Likeness::Certain)) {
             m_step = 1;
             return true;

@@ -1,6 +1,7 @@
 // A movie in pieces, put together by what its index promises of every place in it.
 #pragma once
 
+#include <algorithm>
 #include <atomic>
 #include <cstdint>
 #include <functional>
@@ -34,8 +35,18 @@ struct PiecedMovie {
 class MoviePieces {
   public:
     MoviePieces(MediumBlocks& medium, const FreeClusters& free, const std::vector<std::uint64_t>& indexPlaces,
-                const std::atomic<int>& stop)
-        : m_medium(medium), m_free(free), m_left(free), m_indexPlaces(indexPlaces), m_stop(stop) {}
+                const std::atomic<int>& stop, std::uint64_t searchBytes = kMostSearched)
+        : m_medium(medium),
+          m_free(free),
+          m_left(free),
+          m_indexPlaces(indexPlaces),
+          m_stop(stop),
+          m_searchLeft(searchBytes) {}
+
+    // Bytes that may still be looked at where nothing says that a piece is near: without any left only what
+    // is likely is tried.
+    static constexpr std::uint64_t kMostSearched = std::uint64_t{32} << 30;
+    std::uint64_t searchLeft() const { return m_searchLeft; }
 
     // The movie that begins in the cluster; nothing where no index of it or too little of its data is found.
     // `others`: clusters that belong to other movies.
@@ -72,6 +83,7 @@ class MoviePieces {
     bool takeChunkIndex(ByteSource& file);
     bool placeIndex(std::uint64_t firstOfIndex, std::uint64_t number);
     bool continueIndex(std::vector<std::uint64_t>& clusters, std::size_t wanted, unsigned& tries);
+    void search(std::uint64_t bytes) { m_searchLeft -= std::min(m_searchLeft, bytes); }
     bool takeIndex(const std::vector<std::uint64_t>& clusters);
 
     bool readFragments(ByteView& head, const IsoBox& movie, std::uint64_t at);
@@ -113,6 +125,8 @@ class MoviePieces {
     std::uint64_t m_step = 1;             // free clusters from one piece to the next, where placed last
     std::size_t m_guessed = 0;
     unsigned m_farSearches = 0;
+    std::uint64_t m_searchLeft = 0;
+    std::vector<std::uint64_t> m_indexRow;  // clusters of the file up to the index's last that are tried
 };
 
 }  // namespace vantor

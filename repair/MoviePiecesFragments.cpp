@@ -14,8 +14,13 @@ constexpr std::uint64_t kWideHeadBytes = 16;
 constexpr std::size_t kMostFragments = 200'000;
 constexpr std::size_t kMostFragmentSamples = 4'000'000;
 constexpr unsigned kMostHeadTries = 256;
+constexpr unsigned kLikelyHeadTries = 16;
 constexpr std::uint64_t kWidestStep = 6;  // movies written at the same time
 constexpr std::size_t kPlacesLookedAt = 4096;
+constexpr std::size_t kLikelyPlaces = 64;
+// In bytes that are read: of a place that is looked at, and of a byte that is understood.
+constexpr std::uint64_t kPlaceCost = 64;
+constexpr std::uint64_t kHeadCost = 16;
 
 }  // namespace
 
@@ -25,7 +30,7 @@ bool MoviePieces::placeBox(std::uint64_t at, std::string_view name, Fragments& k
                            const std::function<bool(ByteView& view)>& take) {
     const std::uint64_t cluster = m_free.clusterBytes();
     const auto number = static_cast<std::size_t>(at / cluster);
-    known.triesLeft = kMostHeadTries;
+    known.triesLeft = m_searchLeft != 0 ? kMostHeadTries : kLikelyHeadTries;
     const auto last = std::find_if(m_places.rbegin(), m_places.rend(),
                                    [](std::uint64_t place) { return place != kUnplaced; });
     const std::uint64_t behind = m_free.firstSectorOf(*last) * kSectorBytes;
@@ -41,6 +46,10 @@ bool MoviePieces::placeBox(std::uint64_t at, std::string_view name, Fragments& k
     const std::size_t first = static_cast<std::size_t>(middle - m_indexPlaces.begin());
     std::size_t looked = 0;
     for (std::size_t i = 0; i < m_indexPlaces.size() && looked < kPlacesLookedAt && m_stop == 0; ++i) {
+        if (i >= kLikelyPlaces && m_searchLeft == 0) {
+            break;
+        }
+        search(i < kLikelyPlaces ? 0 : kPlaceCost);
         const std::uint64_t place = m_indexPlaces[(first + i) % m_indexPlaces.size()];
         const std::uint64_t within = at % cluster;
         if (place < within || (place - within) % kSectorBytes != 0) {
@@ -87,6 +96,7 @@ bool MoviePieces::continueBox(std::uint64_t at, std::string_view name, Fragments
                 continue;
             }
             --known.triesLeft;
+            search((end - at) * kHeadCost);
             place(number, *next);
             if (continueBox(at, name, known, take)) {
                 return true;

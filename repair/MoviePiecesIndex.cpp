@@ -10,6 +10,8 @@ namespace {
 
 constexpr std::uint64_t kMostIndexBytes = std::uint64_t{64} << 20;
 constexpr unsigned kMostIndexTries = 4096;
+constexpr unsigned kLikelyIndexTries = 64;
+constexpr std::uint64_t kIndexCost = 16;  // of a byte that is understood, in bytes that are read
 constexpr std::uint64_t kWidestTurn = 6;  // movies written at the same time, for the pieces of an index
 constexpr int kMostBoxes = 32;
 
@@ -22,8 +24,6 @@ bool isTrailer(std::string_view name) {
 std::vector<std::uint64_t> indexPlaces(MediumBlocks& medium, const std::atomic<int>& stop) {
     constexpr std::size_t kHeadBytes = 16;
     constexpr std::size_t kMostPlaces = 400'000;
-    // A fragment's head, and the list of fragments at a movie's end.
-    constexpr std::pair<const char*, const char*> kFragmentBoxes[] = {{"moof", "mfhd"}, {"mfra", "tfra"}};
     std::vector<std::uint64_t> places;
     // What stands so many bytes before the name, and behind it, has to be looked at too.
     constexpr std::size_t kBefore = 4;
@@ -42,20 +42,18 @@ std::vector<std::uint64_t> indexPlaces(MediumBlocks& medium, const std::atomic<i
         }
     };
     const auto look = [&](std::span<const std::uint8_t> bytes, std::uint64_t at) {
-        lookFor(
-            "moov",
-            [&](const std::uint8_t* here, std::size_t i) {
-                return std::memcmp(here + 8, "mvhd", 4) == 0 ? std::optional(at + i - 4) : std::nullopt;
-            },
-            bytes);
-        for (const auto& [name, child] : kFragmentBoxes) {
+        // An index, a fragment's head, and the list of fragments at a movie's end.
+        const auto lookForBox = [&](const char* name, const char* child) {
             lookFor(
                 name,
                 [&](const std::uint8_t* here, std::size_t i) {
                     return std::memcmp(here + 8, child, 4) == 0 ? std::optional(at + i - 4) : std::nullopt;
                 },
                 bytes);
-        }
+        };
+        lookForBox("moov", "mvhd");
+        lookForBox("moof", "mfhd");
+        lookForBox("mfra", "tfra");
         lookFor(
             "idx1",
             // Its length is less than 16 MiB.
@@ -197,17 +195,21 @@ std::uint64_t MoviePieces::indexBytes(ByteView& view, std::uint64_t at) const {
 // Tries the next piece at growing distances; the distance used last comes first.
 bool MoviePieces::continueIndex(std::vector<std::uint64_t>& clusters, std::size_t wanted, unsigned& tries) {
     if (clusters.size() == wanted) {
-        return ++tries <= kMostIndexTries && takeIndex(clusters);
+        ++tries;
+        search(tries <= kLikelyIndexTries ? 0 : (m_layout.index.end - m_layout.index.at) * kIndexCost);
+        return takeIndex(clusters);
     }
+    const auto mayTry = [&] { return tries < (m_searchLeft != 0 ? kMostIndexTries : kLikelyIndexTries); };
     const std::uint64_t usual =
         clusters.size() < 2 ? 0 : m_free.stepsBetween(clusters[clusters.size() - 2], clusters.back());
-    for (std::uint64_t turn = 0; turn <= kWidestTurn && tries < kMostIndexTries && m_stop == 0; ++turn) {
+    for (std::uint64_t turn = 0; turn <= kWidestTurn && mayTry() && m_stop == 0; ++turn) {
         const std::uint64_t step = turn == 0 ? usual : turn;
         if (step == 0 || (turn != 0 && step == usual)) {
             continue;
         }
         const auto next = m_free.ahead(clusters.back(), step);
         if (!next) {
+            ++tries;  // there are as many ways to the medium's end as to the index's
             break;
         }
         clusters.push_back(*next);
@@ -223,9 +225,9 @@ bool MoviePieces::takeIndex(const std::vector<std::uint64_t>& clusters) {
     const std::uint64_t cluster = m_free.clusterBytes();
     const std::uint64_t number = m_layout.data.to / cluster;
     // Only the index is looked at: what lies before it is not placed yet.
-    std::vector<std::uint64_t> all(static_cast<std::size_t>(number), m_places.front());
-    all.insert(all.end(), clusters.begin(), clusters.end());
-    ClusterFile file(m_medium, m_free, all, m_layout.bytes);
+    m_indexRow.resize(static_cast<std::size_t>(number), m_places.front());
+    m_indexRow.insert(m_indexRow.end(), clusters.begin(), clusters.end());
+    ClusterFile file(m_medium, m_free, m_indexRow, m_layout.bytes);
     if (m_layout.chunks) {
         return takeChunkIndex(file);
     }
@@ -235,7 +237,7 @@ bool MoviePieces::takeIndex(const std::vector<std::uint64_t>& clusters) {
     }
     m_samples = std::move(*samples);
     // A camera's notes may follow in the same cluster.
-    ClusterFile last(m_medium, m_free, all, all.size() * cluster);
+    ClusterFile last(m_medium, m_free, m_indexRow, m_indexRow.size() * cluster);
     ByteView view(last);
     for (int boxes = 0; boxes < kMostBoxes; ++boxes) {
         const auto box = readIsoBox(view, m_layout.bytes);

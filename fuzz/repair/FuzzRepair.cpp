@@ -105,7 +105,8 @@ void completeArchive(std::span<const std::uint8_t> bytes) {
     const FreeClusters grid({0, 1}, medium.mediumSectors());
     const std::atomic<int> goOn{0};
     const ArchivePlaces places = archivePlaces(blocks, goOn);
-    if (const auto archive = ArchivePieces(blocks, grid, places, goOn).assemble(0)) {
+    ArchiveEffort effort{std::uint64_t{1} << 22};
+    if (const auto archive = ArchivePieces(blocks, grid, places, goOn).assemble(0, effort)) {
         checkClusters(archive->clusters, archive->bytes, grid);
     }
 }

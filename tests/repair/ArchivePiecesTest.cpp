@@ -3,6 +3,7 @@
 
 #include "repair/ArchiveCompletion.h"
 #include "repair/ArchiveDirectory.h"
+#include "repair/ArchivePieces.h"
 #include "tests/repair/Archives.h"
 #include "tests/repair/ScatteredCard.h"
 
@@ -100,6 +101,68 @@ TEST(ArchivePieces, MemberThatCannotBeChecked_ProvesNothing) {
     ASSERT_TRUE(found);
     EXPECT_EQ(card.contentOf(*found), archive);
     EXPECT_EQ(found->proof, AssemblyProof::Likely);
+}
+
+// What stands behind the directory and in front of a member's content has no sum.
+TEST(ArchivePieces, ClusterThatNoSumIsOf_ProvesNothing) {
+    const QByteArray plain = makeArchive(1, kDocument);
+    QByteArray withComment = plain + QByteArray(9000, 'c');
+    withComment.replace(plain.size() - 2, 2, test::little(9000, 2));
+    for (const QByteArray& archive : {plain, withComment}) {
+        ScatteredCard card;
+        const std::uint64_t first = card.put(archive, 0, 3);
+        card.putNoise(7);
+        card.put(archive, 3);
+        const auto found = completedArchive(card, {first});
+        ASSERT_TRUE(found);
+        EXPECT_EQ(card.contentOf(*found), archive);
+        EXPECT_EQ(found->proof, archive == plain ? AssemblyProof::Proved : AssemblyProof::Likely);
+    }
+}
+
+// Each directory is looked for once, however many archives there are.
+TEST(ArchivePieces, DirectoriesOfOthers_CostTheFirstSearchAlone) {
+    const QByteArray archive = makeArchive(1, kDocument);
+    const QByteArray tail = makeArchive(2, std::vector<test::MemberSpec>(200, {40, false}));
+    ScatteredCard card;
+    const std::uint64_t first = card.put(archive, 0, 3);
+    for (int i = 0; i < 40; ++i) {
+        card.put(tail, 2);
+    }
+    const QByteArray bytes = card.bytes();
+    test::MemoryReader reader(bytes);
+    const std::atomic<int> goOn{0};
+    MediumBlocks blocks(reader);
+    const FreeClusters grid({0, 8}, reader.mediumSectors());
+    const ArchivePlaces places = archivePlaces(blocks, goOn);
+    ASSERT_EQ(places.ends.size(), 40U);
+    ArchivePieces pieces(blocks, grid, places, goOn);
+    ArchiveEffort effort;
+    EXPECT_FALSE(pieces.assemble(first / 8, effort));
+    const std::uint64_t spent = ArchiveEffort::kOfAll - effort.left;
+    EXPECT_GT(spent, 40U * 200U);
+    EXPECT_FALSE(pieces.assemble(first / 8, effort));
+    EXPECT_LT(ArchiveEffort::kOfAll - effort.left - spent, spent / 20);
+}
+
+TEST(ArchivePieces, EffortThatIsUsedUp_EndsTheSearch) {
+    const QByteArray archive = makeArchive(1, kDocument);
+    ScatteredCard card;
+    const std::uint64_t first = card.put(archive, 0, 3);
+    card.putNoise(7);
+    card.put(archive, 3);
+    const QByteArray bytes = card.bytes();
+    test::MemoryReader reader(bytes);
+    const std::atomic<int> goOn{0};
+    MediumBlocks blocks(reader);
+    const FreeClusters grid({0, 8}, reader.mediumSectors());
+    const ArchivePlaces places = archivePlaces(blocks, goOn);
+    ArchiveEffort little{1000};
+    EXPECT_FALSE(ArchivePieces(blocks, grid, places, goOn).assemble(first / 8, little));
+    EXPECT_EQ(little.left, 0U);
+    ArchiveEffort enough;
+    EXPECT_TRUE(ArchivePieces(blocks, grid, places, goOn).assemble(first / 8, enough));
+    EXPECT_LT(enough.left, ArchiveEffort::kOfAll);
 }
 
 // A picture within an archive begins anywhere; a file of its own keeps its place.

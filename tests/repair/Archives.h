@@ -20,7 +20,7 @@ struct MemberSpec {
 inline QByteArray little(std::uint64_t value, int bytes) {
     QByteArray out;
     for (int i = 0; i < bytes; ++i) {
-        out += static_cast<char>(value >> 8 * i);
+        out += static_cast<char>(i < 8 ? value >> 8 * i : 0);
     }
     return out;
 }

@@ -365,6 +365,89 @@ TEST(MovieCompletion, IndexThatOtherMoviesFit_ProvesNothing) {
     EXPECT_NE(assembled, 0U);
 }
 
+// What was put together before but is only likely may have taken what was another's.
+TEST(MovieCompletion, WhatFollowsALikelyMovie_HasToDecode) {
+    const MadeMovie alike = makeMovie(std::vector<test::PictureSpec>(200), false, 1);
+    const MadeMovie telling = makeMovie(picturesOfManySizes(100, 2), false, 2);
+    const int first = movieClustersOf(alike.bytes);
+    const int second = movieClustersOf(telling.bytes);
+    QByteArray medium = mediumOf(2 * (first + second) + 60);
+    scatter(alike.bytes, every(2, 8, first), medium);
+    scatter(telling.bytes, every(2, 8 + 2 * first, second), medium);
+    const std::uint64_t starts[] = {8 * kMovieClusterSectors,
+                                    (8 + 2 * static_cast<std::uint64_t>(first)) * kMovieClusterSectors};
+    for (const bool likelyFirst : {true, false}) {
+        MemoryReader reader(medium);
+        MovieReaderOptions noHelper;
+        noHelper.helper = QStringLiteral("/nowhere");
+        CompletionProgress progress;
+        const std::vector<std::uint64_t> broken{starts[likelyFirst ? 0 : 1], starts[likelyFirst ? 1 : 0]};
+        const auto found = MovieCompletion(reader, kGoOn, progress, noHelper).run(broken, {});
+        ASSERT_TRUE(found[0] && found[1]);
+        EXPECT_EQ(found[likelyFirst ? 0 : 1]->proof, AssemblyProof::Likely);
+        EXPECT_EQ(found[likelyFirst ? 1 : 0]->proof,
+                  likelyFirst ? AssemblyProof::Likely : AssemblyProof::Proved);
+    }
+}
+
+// Their samples tell no more than that they begin.
+TEST(MovieCompletion, PicturesThatTellLittle_HaveToDecode) {
+    MadeMovie movie = makeMovie(picturesOfManySizes(200, 1), false, 1);
+    for (const bool faint : {false, true}) {
+        if (faint) {
+            movie.bytes.replace("avc1", "mp4v");
+            for (const IsoSample& picture : movie.pictures) {
+                movie.bytes.replace(static_cast<qsizetype>(picture.at), 4, QByteArray("\0\0\1\xB6", 4));
+            }
+        }
+        QByteArray medium = mediumOf(2 * movieClustersOf(movie.bytes) + 40);
+        scatter(movie.bytes, every(2, 8, movieClustersOf(movie.bytes)), medium);
+        MemoryReader reader(medium);
+        MovieReaderOptions noHelper;
+        noHelper.helper = QStringLiteral("/nowhere");
+        CompletionProgress progress;
+        const auto found =
+            MovieCompletion(reader, kGoOn, progress, noHelper).run(std::vector{8 * kMovieClusterSectors}, {});
+        ASSERT_TRUE(found[0]) << faint;
+        EXPECT_EQ(found[0]->proof, faint ? AssemblyProof::Likely : AssemblyProof::Proved);
+    }
+}
+
+// An index that claims more clusters than follow: the ways to the medium's end are too many to be tried.
+TEST(MoviePieces, IndexBeyondTheMedium_EndsTheSearch) {
+    const MadeMovie movie = makeMovie(picturesOfManySizes(200, 1), false, 1);
+    const int count = movieClustersOf(movie.bytes);
+    QByteArray broken = movie.bytes;
+    qToBigEndian(std::uint32_t{8} << 20, broken.data() + movie.indexAt);
+    QByteArray medium = mediumOf(count + 90);
+    scatter(broken, every(1, 4, count), medium);
+    EXPECT_EQ(assembled(medium, 4), std::nullopt);
+}
+
+// What is searched is counted, and what lies near is found when nothing of that is left.
+TEST(MoviePieces, WithNothingLeftToSearch_OnlyWhatIsFarIsMissed) {
+    const MadeMovie movie = makeMovie(picturesOfManySizes(200, 1), false, 1);
+    const int count = movieClustersOf(movie.bytes);
+    for (const bool far : {false, true}) {
+        QByteArray medium = mediumOf(2 * count + 200);
+        std::vector<int> clusters = every(1, 4, count);
+        for (int i = count / 2; far && i < count; ++i) {
+            clusters[static_cast<std::size_t>(i)] += 120;
+        }
+        scatter(movie.bytes, clusters, medium);
+        for (const std::uint64_t bytes : {std::uint64_t{0}, MoviePieces::kMostSearched}) {
+            MemoryReader reader(medium);
+            MediumBlocks blocks(reader);
+            const FreeClusters free({0, kMovieClusterSectors}, reader.mediumSectors());
+            const auto indexes = indexPlaces(blocks, kGoOn);
+            MoviePieces pieces(blocks, free, indexes, kGoOn, bytes);
+            const auto found = pieces.assemble(4);
+            EXPECT_EQ(found && found->wholeSamples == found->samples, !far || bytes != 0) << far << bytes;
+            EXPECT_EQ(pieces.searchLeft() < bytes, far && bytes != 0);
+        }
+    }
+}
+
 TEST(FreeClusters, GridIsWhatFilesBeginOn) {
     const std::vector<std::uint64_t> starts{131, 195, 323, 1091};
     const auto grids = gridsOf(starts);
