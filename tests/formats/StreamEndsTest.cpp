@@ -21,16 +21,6 @@ Bytes hevcStream() {
     return codedUnits({0x4001, 0x4201, 0x4401, 0x2601, 0x0201, 0x0202}, 2);
 }
 
-// Walkers read by windows of 4 to 64 KB.
-TEST(Texts, ErasedBytes_EndTheTextWhereverTheyStand) {
-    for (const std::size_t length : {9U, 4095U, 4096U, 4097U, 8191U, 12287U, 65535U, 131071U}) {
-        const Bytes text = Build().fill(length, 'a').bytes();
-        expectEnd("TXT", Build().add(text).fill(3000, 0xFF), length);
-        expectEnd("TXT", Build().add(text).fill(1, 0xFF).fill(9, 'b').fill(2, 0), length + 10);
-        expectEnd("TXT", Build().add(text).fill(7, 1), length);
-    }
-}
-
 TEST(CodedUnits, ZerosThatNoStartCodeFollows_EndTheStream) {
     for (const auto& [type, file] : {std::pair("H264", avcStream()), std::pair("H265", hevcStream())}) {
         expectEnd(type, Build().add(file).fill(5000), file.size());
