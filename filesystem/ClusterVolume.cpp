@@ -330,6 +330,7 @@ bool ClusterVolume::readPart(const SectorRun& sectors, bool hasClusters) {
 ClusterVolume::Chain ClusterVolume::chainFrom(std::uint32_t cluster, std::uint64_t most) {
     Chain chain;
     while (chain.clusters < most && m_shape.holds(cluster) && !m_live[cluster - m_shape.firstNumber()]) {
+        m_live[cluster - m_shape.firstNumber()] = true;
         const std::uint64_t sector = m_shape.sectorOf(cluster);
         if (!chain.runs.empty() && chain.runs.back().end == sector) {
             chain.runs.back().end += m_shape.clusterSectors;
@@ -345,6 +346,15 @@ ClusterVolume::Chain ClusterVolume::chainFrom(std::uint32_t cluster, std::uint64
         cluster = link.next;
     }
     return chain;
+}
+
+void ClusterVolume::setLive(const std::vector<SectorRun>& runs, bool live) {
+    for (const SectorRun& run : runs) {
+        const std::uint64_t first = (run.first - m_shape.firstCluster) / m_shape.clusterSectors;
+        const std::uint64_t end = (run.end - m_shape.firstCluster) / m_shape.clusterSectors;
+        std::fill(m_live.begin() + static_cast<std::ptrdiff_t>(first),
+                  m_live.begin() + static_cast<std::ptrdiff_t>(end), live);
+    }
 }
 
 }  // namespace vantor

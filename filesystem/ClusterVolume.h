@@ -90,7 +90,10 @@ class ClusterVolume {
     std::uint64_t clustersFor(std::uint64_t bytes) const;
     bool isClusterClaimed(std::uint64_t cluster) const;
     void claim(std::uint64_t cluster);
+    // Up to a cluster that something holds which is there; holds those it passes, so that a loop ends.
     Chain chainFrom(std::uint32_t cluster, std::uint64_t most);
+    // Of runs in whole clusters.
+    void setLive(const std::vector<SectorRun>& runs, bool live);
     SectorRun onePiece(std::uint32_t cluster, std::uint64_t clusters) const;
 
     void readRootBeforeClusters(FileState state);

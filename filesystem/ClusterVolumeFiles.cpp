@@ -60,22 +60,18 @@ void ClusterVolume::tellDirectory(const CardDirectory& directory, const QString&
 
 void ClusterVolume::placeLive(const DirectoryEntry& entry, CardFile& file) {
     const std::uint64_t clusters = clustersFor(entry.bytes);
-    if (entry.isOnePiece) {
-        file.runs = {onePiece(entry.cluster, clusters)};
-        file.runsKnownBy = RunsKnownBy::Flag;
-    } else {
+    if (!entry.isOnePiece) {
+        // Whatever the sizes say, all chains together are no longer than the table.
         file.runs = chainFrom(entry.cluster, clusters).runs;
         file.runsKnownBy = RunsKnownBy::Chain;
-    }
-    if (m_liveStepsLeft < clusters) {
-        return;
-    }
-    m_liveStepsLeft -= clusters;
-    for (const SectorRun& run : file.runs) {
-        const std::uint64_t first = (run.first - m_shape.firstCluster) / m_shape.clusterSectors;
-        const std::uint64_t end = (run.end - m_shape.firstCluster) / m_shape.clusterSectors;
-        std::fill(m_live.begin() + static_cast<std::ptrdiff_t>(first),
-                  m_live.begin() + static_cast<std::ptrdiff_t>(end), true);
+    } else {
+        file.runs = {onePiece(entry.cluster, clusters)};
+        file.runsKnownBy = RunsKnownBy::Flag;
+        if (m_liveStepsLeft < clusters) {
+            return;
+        }
+        m_liveStepsLeft -= clusters;
+        setLive(file.runs, true);
     }
     m_liveRuns.insert(m_liveRuns.end(), file.runs.begin(), file.runs.end());
 }
@@ -87,6 +83,7 @@ void ClusterVolume::placeGone(const DirectoryEntry& entry, const FoundStarts& fo
         file.runsKnownBy = RunsKnownBy::Flag;
     } else if (m_goneStepsLeft >= clusters) {
         Chain chain = chainFrom(entry.cluster, clusters);
+        setLive(chain.runs, false);
         m_goneStepsLeft -= chain.clusters;
         if (chain.isWhole && clusters > 0) {
             file.runs = std::move(chain.runs);

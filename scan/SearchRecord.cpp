@@ -156,6 +156,22 @@ SectorBits readBits(Reader& reader) {
     return bits;
 }
 
+// Whether the checksum at a file's end is that of what stands before it, read in pieces: a file that only
+// begins like a search is never taken into memory. Leaves the file at its beginning.
+bool sumHolds(QFile& file) {
+    constexpr qint64 kPiece = qint64{1} << 20;
+    QCryptographicHash sum(kSum);
+    for (qint64 left = file.size() - kSumBytes; left > 0;) {
+        const QByteArray piece = file.read(std::min(left, kPiece));
+        if (piece.isEmpty()) {
+            return false;
+        }
+        sum.addData(piece);
+        left -= piece.size();
+    }
+    return file.read(kSumBytes) == sum.result() && file.seek(0);
+}
+
 }  // namespace
 
 QByteArray recordBytes(const SearchRecord& record) {
@@ -263,10 +279,10 @@ std::optional<SearchRecord> readSearchRecord(const QString& path, QString* why) 
     if (!openPlainFile(file, why)) {
         return std::nullopt;
     }
-    // What begins otherwise is not worth the memory.
+    // What begins or ends otherwise is not worth the memory.
     const bool begins =
         file.size() >= kMagic.size() && file.size() <= kMostFileBytes && file.peek(kMagic.size()) == kMagic;
-    return recordOf(begins ? file.read(file.size()) : QByteArray(), why);
+    return recordOf(!begins ? QByteArray() : sumHolds(file) ? file.read(file.size()) : kMagic, why);
 }
 
 }  // namespace vantor

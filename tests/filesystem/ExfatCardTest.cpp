@@ -56,6 +56,17 @@ TEST_F(ExfatCard, DeletedFileInPieces_ComesFromTheChainThatIsLeft) {
     EXPECT_EQ(table.files.front().runs, runs);
 }
 
+TEST_F(ExfatCard, DeletedFilesOfOneChain_BothComeFromIt) {
+    putPhotos(exfatSet({"A.JPG", 20, 3 * 4096, false, false, true}) +
+              exfatSet({"B.JPG", 20, 3 * 4096, false, false, true}));
+    chainExfat(m_card, m_exfat, {20, 21, 30});
+    beginPhoto(20);
+    const CardTable table = tableOf(m_card);
+    for (const char* const name : {"A.JPG", "B.JPG"}) {
+        EXPECT_EQ(fileNamed(table, name).runsKnownBy, RunsKnownBy::Chain) << name;
+    }
+}
+
 TEST_F(ExfatCard, ChainThatLeadsIntoALiveFile_IsNoChain) {
     putPhotos(exfatSet({"NEW.JPG", 21, 2 * 4096, false}) +
               exfatSet({"OLD.JPG", 20, 3 * 4096, false, false, true}));

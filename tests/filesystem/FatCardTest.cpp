@@ -262,14 +262,31 @@ TEST_P(FatCard, FormatWithOtherClusters_OneFolderOfTextsTellsThem) {
 TEST_P(FatCard, LoopsOfFoldersAndClusters_End) {
     putPhotos(fatRow("IMG_0412JPG", 10, 100 * 2048) + fatRow("AGAIN      ", 4, 0, 0x10) +
               fatRow("UP         ", 3, 0, 0x10));
-    chainFat(m_card, m_fat, {10, 11, 10});
+    chainFat(m_card, m_fat, {10, 11});
     linkFat(m_card, m_fat, 11, 10);
     linkFat(m_card, m_fat, 4, 4);
     const CardTable table = tableOf(m_card);
     ASSERT_EQ(pathsOf(table), "DCIM/100CANON/IMG_0412.JPG");
-    for (const SectorRun& run : table.files.front().runs) {
-        EXPECT_LE(run.end, m_card.sectors());
+    EXPECT_EQ(table.files.front().runs, (std::vector<SectorRun>{{m_fat.sectorOf(10), m_fat.sectorOf(12)}}));
+}
+
+TEST_P(FatCard, SizesThatLie_LetNoClusterBeTwoFiles) {
+    Bytes rows;
+    for (const char letter : std::string("ABCDEFGHIJ")) {
+        rows = rows + fatRow(std::string(1, letter) + "       JPG",
+                             letter < 'F' ? 10 + static_cast<std::uint32_t>(letter - 'A') : 20, 2048 * 2000);
     }
+    putPhotos(rows);
+    for (std::uint32_t cluster = 10; cluster < 15; ++cluster) {
+        chainFat(m_card, m_fat, {cluster});
+    }
+    chainFat(m_card, m_fat, {20, 22, 24});
+    linkFat(m_card, m_fat, 24, 22);
+    std::size_t runs = 0;
+    for (const CardFile& file : tableOf(m_card).files) {
+        runs += file.runs.size();
+    }
+    EXPECT_EQ(runs, 5 + 3);
 }
 
 TEST_P(FatCard, SizesAndClustersBeyondTheCard_HaveNoRuns) {

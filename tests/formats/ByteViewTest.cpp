@@ -11,6 +11,7 @@
 #include "formats/Crc.h"
 #include "formats/Dates.h"
 #include "formats/Inflate.h"
+#include "formats/TextReader.h"
 
 namespace vantor::test {
 namespace {
@@ -51,6 +52,23 @@ TEST(ByteView, Windows_HoldWhatTheSourceHoldsAtAnyHop) {
             std::equal(window.begin(), window.end(), bytes.begin() + static_cast<std::ptrdiff_t>(at)));
     }
     EXPECT_TRUE(view.window(300'000).empty());
+}
+
+TEST(ByteView, Text_EndsAtAControlByteOrTwoErasedOnes) {
+    // Windows end at 4096 and 12288 bytes when a text is read from its beginning.
+    for (const std::size_t length : {0U, 9U, 4094U, 4095U, 4096U, 4097U, 12287U, 12288U, 131071U}) {
+        for (const Bytes& whole :
+             {Build().fill(length, 'a').fill(3000, 0xFF).bytes(),
+              Build().fill(length, 'a').fill(3000, 1).bytes(), Build().fill(length, 'a').bytes()}) {
+            SpanSource source(whole);
+            ByteView view(source);
+            EXPECT_EQ(textEnd(view, 0), length);
+        }
+        const Bytes one = Build().fill(length, 'a').fill(1, 0xFF).fill(9000, 'b').fill(2, 0).bytes();
+        SpanSource source(one);
+        ByteView view(source);
+        EXPECT_EQ(textEnd(view, 0), length + 9001);
+    }
 }
 
 // Holds its first half in memory.

@@ -3,6 +3,8 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <fstream>
+#include <string>
 
 #include "scan/SearchKeeper.h"
 #include "tests/scan/BothPasses.h"
@@ -34,6 +36,21 @@ SearchRecord someRecord() {
                     {5},
                     QByteArray("some id")};
     return record;
+}
+
+// The most memory this process has held since the last call, in kilobytes; nothing where the system does not
+// tell.
+std::optional<long> mostMemorySince() {
+    long most = -1;
+    std::ifstream facts("/proc/self/status");
+    for (std::string word; facts >> word;) {
+        if (word == "VmHWM:") {
+            facts >> most;
+        }
+    }
+    std::ofstream reset("/proc/self/clear_refs");
+    reset << "5" << std::flush;
+    return most >= 0 && reset ? std::optional(most) : std::nullopt;
 }
 
 std::vector<std::uint64_t> membersOf(const SectorBits& bits) {
@@ -110,6 +127,25 @@ INSTANTIATE_TEST_SUITE_P(Readings, KeptSearch,
                              return std::string(
                                  fetching.param == WindowedReader::Fetching::Ahead ? "Ahead" : "WhenAsked");
                          });
+
+TEST(SearchRecord, FileThatOnlyBeginsLikeOne_IsNotTakenIntoMemory) {
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("search"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_GT(file.write(recordBytes(someRecord())), 0);
+    ASSERT_TRUE(file.flush());
+    ASSERT_TRUE(readSearchRecord(file.fileName()));
+    constexpr qint64 kBytes = qint64{200} << 20;
+    ASSERT_TRUE(file.resize(kBytes));
+    if (!mostMemorySince()) {
+        GTEST_SKIP() << "the system does not tell how much memory is held";
+    }
+    const auto before = mostMemorySince();
+    QString why;
+    EXPECT_FALSE(readSearchRecord(file.fileName(), &why));
+    EXPECT_EQ(why, QStringLiteral("The file is damaged."));
+    EXPECT_LT(*mostMemorySince() - *before, kBytes / 1024 / 4);
+}
 
 TEST(SearchKeeper, AFullDiskLeavesWhatWasKeptBefore) {
     const QTemporaryDir folder;
