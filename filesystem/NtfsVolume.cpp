@@ -14,7 +14,8 @@ namespace {
 constexpr std::uint64_t kFirstOfUsers = 24;
 constexpr std::uint64_t kRoot = 5;
 constexpr std::size_t kMostRecords = 2'000'000;
-constexpr std::uint64_t kMostRuns = 16'000'000;
+// Beyond these, files have names and no places.
+constexpr std::uint64_t kMostRuns = 4'000'000;
 constexpr std::uint64_t kMostContents = std::uint64_t{128} << 20;
 
 std::uint64_t clustersOf(const std::vector<NtfsRun>& runs) {
@@ -99,17 +100,24 @@ void NtfsVolume::readRecords(const std::vector<SectorRun>& places, std::uint64_t
 }
 
 void NtfsVolume::keep(std::uint64_t number, NtfsRecord record) {
-    m_runsKept += record.runs.size() + record.otherRuns.size();
+    if (m_records.size() + m_partsKept >= kMostRecords) {
+        return;
+    }
+    const std::size_t runs = record.runs.size() + record.otherRuns.size();
+    if (m_runsKept + runs > kMostRuns) {
+        record.runs = {};
+        record.otherRuns = {};
+        record.isPlain = false;
+    } else {
+        m_runsKept += runs;
+    }
     m_contentsKept += static_cast<std::uint64_t>(record.contents.size());
     if (m_contentsKept > kMostContents) {
         record.contents.clear();
     }
-    if (m_records.size() >= kMostRecords || m_runsKept > kMostRuns) {
-        return;
-    }
-    for (const auto* const runs : {&record.runs, &record.otherRuns}) {
+    for (const auto* const clusters : {&record.runs, &record.otherRuns}) {
         if (m_isCurrent && record.isInUse) {
-            const std::vector<SectorRun> sectors = sectorsOf(*runs);
+            const std::vector<SectorRun> sectors = sectorsOf(*clusters);
             m_held.insert(m_held.end(), sectors.begin(), sectors.end());
         }
     }
@@ -117,7 +125,7 @@ void NtfsVolume::keep(std::uint64_t number, NtfsRecord record) {
     if (record.base.record == 0) {
         m_records.emplace(number, std::move(record));
     } else if (record.hasData) {
-        m_parts[record.base.record].emplace(record.firstCluster, std::move(record));
+        m_partsKept += m_parts[record.base.record].emplace(record.firstCluster, std::move(record)).second;
     }
 }
 

@@ -51,6 +51,7 @@ class NtfsVolume {
     std::map<std::uint64_t, NtfsRecord> m_records;
     // Further parts of a file's contents, by the record that they go on, in the order of its clusters.
     std::unordered_map<std::uint64_t, std::map<std::uint64_t, NtfsRecord>> m_parts;
+    std::size_t m_partsKept = 0;
     std::uint64_t m_runsKept = 0;
     std::uint64_t m_contentsKept = 0;  // bytes
     std::map<std::pair<std::uint64_t, std::uint16_t>, std::optional<QString>> m_folders;

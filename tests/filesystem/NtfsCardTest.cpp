@@ -47,6 +47,39 @@ TEST_F(NtfsCard, FilesThereAndGone_KeepTheirRuns) {
     ASSERT_EQ(table.fileSystems.size(), 1u);
 }
 
+// Each of more pieces than any file is likely to lie in: all keep their names, and memory has an end.
+TEST(NtfsCards, FilesInMillionsOfPieces_KeepTheirNamesAndNotAllOfTheirPlaces) {
+    constexpr std::size_t kFiles = 16'500;
+    constexpr std::size_t kPieces = 250;
+    constexpr std::size_t kSectors = 80 + 2 * (24 + kFiles) + 8;
+    MemoryCard card{kSectors};
+    putBytes(card, 0, ntfsBoot(8, 10, kSectors - 1));
+    const std::size_t clusters = (24 + kFiles) / 4;
+    Bytes place{0x12, 0, 0, 10};
+    put(place, 1, clusters, 2);
+    putBytes(card, 80,
+             record(kThere, 1, nameAttribute("$MFT", 5, 5) + dataAttribute((24 + kFiles) * kRecord, place)));
+    Bytes runs{0x11, 1, 100};
+    for (std::size_t i = 1; i < kPieces; ++i) {
+        runs.insert(runs.end(), {0x11, 1, 2});
+    }
+    for (std::size_t i = 0; i < kFiles; ++i) {
+        putBytes(
+            card, 80 + 2 * (24 + i),
+            record(kThere, 1,
+                   nameAttribute(QStringLiteral("f%1").arg(i), 5, 5) + dataAttribute(kPieces * 4096, runs)));
+    }
+    const CardTable table = tableOf(card);
+    ASSERT_EQ(table.files.size(), kFiles);
+    EXPECT_EQ(fileNamed(table, "f0").runs.size(), kPieces);
+    EXPECT_TRUE(fileNamed(table, QStringLiteral("f%1").arg(kFiles - 1)).runs.empty());
+    std::size_t told = 0;
+    for (const CardFile& file : table.files) {
+        told += file.runs.size();
+    }
+    EXPECT_LE(told, 4'000'000u);
+}
+
 // Through the end of the record's first sector, where two bytes stand elsewhere.
 TEST_F(NtfsCard, FilesInTheirRecords_BringTheirBytesAlong) {
     Bytes text(600);
