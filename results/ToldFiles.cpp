@@ -2,6 +2,7 @@
 #include "results/ToldFiles.h"
 
 #include <algorithm>
+#include <numeric>
 
 #include "media/SectorReader.h"
 
@@ -27,12 +28,30 @@ bool hasItsPlace(const CardFile& file, const CardIndex& card, const std::vector<
     return file.runsKnownBy < RunsKnownBy::Guess || card.isInOneFreePiece(file);
 }
 
+std::uint64_t sectorsOf(const CardFile& file) {
+    return std::accumulate(file.runs.begin(), file.runs.end(), std::uint64_t{0},
+                           [](std::uint64_t sum, const SectorRun& run) { return sum + run.end - run.first; });
+}
+
+// All files of a sound file system lie beside each other; where many are said to lie in the same place, as on
+// a card that was made so, together they take no more than twice the room that there is.
+std::uint64_t roomFor(const std::vector<CardFile>& files) {
+    std::uint64_t furthest = 0;
+    for (const CardFile& file : files) {
+        for (const SectorRun& run : file.runs) {
+            furthest = std::max(furthest, run.end);
+        }
+    }
+    return 2 * furthest;
+}
+
 }  // namespace
 
 std::vector<std::shared_ptr<const CardFile>> toldOnly(const std::shared_ptr<const CardIndex>& card,
                                                       const std::vector<std::uint64_t>& foundStarts,
                                                       const ToldWish& wish) {
     std::vector<std::shared_ptr<const CardFile>> told;
+    std::uint64_t left = roomFor(card->table().files);
     for (const CardFile& file : card->table().files) {
         if (file.name.isEmpty() || file.runs.empty() || dataBytesOf(file) == 0) {
             continue;
@@ -40,7 +59,8 @@ std::vector<std::shared_ptr<const CardFile>> toldOnly(const std::shared_ptr<cons
         const std::uint64_t first = file.runs.front().first;
         const bool searched = first >= wish.searched.first && first < wish.searched.end;
         if (searched && !std::binary_search(foundStarts.begin(), foundStarts.end(), first) &&
-            wish.isWanted(file.name) && hasItsPlace(file, *card, foundStarts)) {
+            sectorsOf(file) <= left && wish.isWanted(file.name) && hasItsPlace(file, *card, foundStarts)) {
+            left -= sectorsOf(file);
             told.emplace_back(card, &file);
         }
     }

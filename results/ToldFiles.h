@@ -20,7 +20,8 @@ struct ToldWish {
 
 // Those that begin at none of the found starts (sorted sectors), in the order of the card's table. Of files
 // that are gone only those whose place is certain enough: nothing that is there now, no other file that a
-// directory tells of and nothing found lies in it. They share the index.
+// directory tells of and nothing found lies in it. Those that would take more than twice the room of the
+// medium together are left out. They share the index.
 std::vector<std::shared_ptr<const CardFile>> toldOnly(const std::shared_ptr<const CardIndex>& card,
                                                       const std::vector<std::uint64_t>& foundStarts,
                                                       const ToldWish& wish);

@@ -1,0 +1,44 @@
+// Which of the files that only a card's directory tells of are there to be saved.
+#include <gtest/gtest.h>
+
+#include "results/ToldFiles.h"
+
+namespace vantor {
+namespace {
+
+CardFile liveFile(const QString& name, const SectorRun& run) {
+    CardFile file;
+    file.name = name;
+    file.state = FileState::Live;
+    file.bytes = (run.end - run.first) * 512;
+    file.runs = {run};
+    return file;
+}
+
+std::size_t toldOf(std::vector<CardFile> files) {
+    CardTable table;
+    table.files = std::move(files);
+    const auto card = std::make_shared<const CardIndex>(std::move(table));
+    return toldOnly(card, {}, {{0, 1000}, [](const QString&) { return true; }}).size();
+}
+
+TEST(ToldFiles, BesideEachOther_AreAllTold) {
+    std::vector<CardFile> files;
+    for (std::uint64_t i = 0; i < 100; ++i) {
+        files.push_back(liveFile(QStringLiteral("f%1.txt").arg(i), {10 * i, 10 * (i + 1)}));
+    }
+    EXPECT_EQ(toldOf(files), 100u);
+}
+
+// A damaged table may give a place to two; a made one to thousands, which would fill the disk.
+TEST(ToldFiles, ManyInOnePlace_TakeNoMoreThanTwiceTheRoom) {
+    EXPECT_EQ(toldOf({liveFile("a.txt", {0, 100}), liveFile("b.txt", {0, 100})}), 2u);
+    std::vector<CardFile> files{liveFile("furthest.txt", {990, 1000})};
+    for (int i = 0; i < 1000; ++i) {
+        files.push_back(liveFile(QStringLiteral("f%1.txt").arg(i), {100, 300}));
+    }
+    EXPECT_EQ(toldOf(files), 1u + 9);
+}
+
+}  // namespace
+}  // namespace vantor
