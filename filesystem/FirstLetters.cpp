@@ -3,6 +3,7 @@
 #include <QStringList>
 #include <algorithm>
 #include <iterator>
+#include <numeric>
 
 namespace vantor {
 
@@ -246,6 +247,24 @@ std::optional<QChar> FirstLetters::letterOfRow(const QString& name, const Where&
     return told;
 }
 
+// Whether another letter's names stand between those of this one, as where a front and a rear camera count
+// together and all that one of them wrote is gone: the numbers known are all a step apart, and this one is
+// not.
+bool FirstLetters::takesTurns(const QString& name, const Where& where, QChar letter) const {
+    const auto own = numberedOf(name);
+    const auto known = own ? m_numbered.constFind({where.folder, own->rest}) : m_numbered.constEnd();
+    if (!isLetter(letter) || known == m_numbered.constEnd() || !known->contains(letter)) {
+        return false;
+    }
+    const std::vector<Place>& places = known->at(letter);
+    const auto away = [](std::size_t a, std::size_t b) { return a > b ? a - b : b - a; };
+    std::size_t step = 0;
+    for (const Place& place : places) {
+        step = std::gcd(step, away(place.number, places.front().number));
+    }
+    return step > 1 && away(own->number, places.front().number) % step != 0;
+}
+
 std::optional<QChar> FirstLetters::of(const QString& name, const Where& where) const {
     const QString series = seriesOf(name);
     auto toldHere = m_inFolder.constFind({where.folder, series});
@@ -260,7 +279,12 @@ std::optional<QChar> FirstLetters::of(const QString& name, const Where& where) c
     }
     if (!letter || letter->isNull()) {
         letter = letterOfNeighbours(name, where);
-        letter = letter ? letter : letterOfTime(name, where);
+    }
+    if (letter && !saysMoreThanNumbers(series) && takesTurns(name, where, *letter)) {
+        return std::nullopt;
+    }
+    if (!letter) {
+        letter = letterOfTime(name, where);
         letter = letter ? letter : letterOfRow(name, where);
     }
     // Where another has the name, this one may be of another series.

@@ -43,6 +43,7 @@ class FirstLetters {
     // When the file of each number was made; of a number that came twice the last.
     using Times = std::map<QChar, std::map<std::size_t, std::int64_t>>;
 
+    bool takesTurns(const QString& name, const Where& where, QChar letter) const;
     std::optional<QChar> letterOfNeighbours(const QString& name, const Where& where) const;
     std::optional<QChar> letterOfTime(const QString& name, const Where& where) const;
     std::optional<QChar> letterOfRow(const QString& name, const Where& where) const;

@@ -17,6 +17,8 @@ constexpr int kMostFormerSystems = 8;
 constexpr std::size_t kMostLooks = 16;
 constexpr std::size_t kMostSightings = 400'000;
 constexpr std::size_t kMostPlaces = 2048;
+// Directories that are read for whether their files lie in a row: they may lie all over the card.
+constexpr std::size_t kMostRowLooks = 64;
 // Sightings that only may be true have to agree more often than those that say so themselves.
 constexpr std::size_t kLeastVotes = 3;
 
@@ -160,9 +162,11 @@ std::optional<ClusterPlaces> LostDirectories::placesOfRow(const ClusterSighting&
 // Each says itself which cluster it begins in.
 void LostDirectories::placeBeginnings() {
     placeKnownBeginnings();
+    std::size_t looks = 0;
     for (int i = 0; i < kMostFormerSystems; ++i) {
         auto places = voteForClusters(m_beginnings, 2, Sightings::True);
-        for (auto one = m_beginnings.begin(); one != m_beginnings.end() && !places; ++one) {
+        for (auto one = m_beginnings.begin(); one != m_beginnings.end() && !places && looks < kMostRowLooks;
+             ++one, ++looks) {
             places = placesOfRow(*one);
         }
         if (!places) {

@@ -241,6 +241,7 @@ struct ExfatFile {
     bool onePiece = true;
     bool folder = false;
     bool deleted = false;
+    std::uint8_t zone = 0x84;  // an hour east
 };
 
 inline Bytes exfatSet(const ExfatFile& file) {
@@ -251,7 +252,7 @@ inline Bytes exfatSet(const ExfatFile& file) {
     put(set, 4, file.folder ? 0x10 : 0x20, 2);
     put(set, 8, static_cast<std::uint32_t>(kSomeDay) << 16 | kSomeTime, 4);
     put(set, 12, static_cast<std::uint32_t>(kSomeDay) << 16 | kSomeTime, 4);
-    set[22] = set[23] = 0x84;  // an hour east
+    set[22] = set[23] = file.zone;
     set[32] = 0xC0;
     set[33] = file.onePiece ? 3 : 1;
     set[35] = static_cast<std::uint8_t>(file.name.size());

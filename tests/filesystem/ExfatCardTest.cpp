@@ -44,6 +44,23 @@ TEST_F(ExfatCard, LiveFileInOnePiece_IsProvedByItsFlag) {
     EXPECT_FALSE(table.isInUse(m_exfat.sectorOf(23)));
 }
 
+TEST_F(ExfatCard, TimesWestOfGreenwich_AreLaterThere) {
+    ExfatFile file{"IMG_0412.JPG", 20, 9000};
+    const QDateTime atGreenwich(QDate(2026, 3, 22), QTime(8, 2, 18), Qt::UTC);
+    for (const int quarters : {-1, -14, -38, -48, 23, 56, 0}) {
+        file.zone = static_cast<std::uint8_t>(0x80 | (quarters & 0x7F));
+        putPhotos(exfatSet(file));
+        EXPECT_EQ(fileNamed(tableOf(m_card), file.name).modified,
+                  atGreenwich.addSecs(std::int64_t{-900} * quarters).toSecsSinceEpoch())
+            << quarters;
+    }
+    // Without the mark it is no zone, and the time is the place's own.
+    file.zone = 0x7C;
+    putPhotos(exfatSet(file));
+    EXPECT_EQ(fileNamed(tableOf(m_card), file.name).modified,
+              QDateTime(QDate(2026, 3, 22), QTime(8, 2, 18)).toSecsSinceEpoch());
+}
+
 TEST_F(ExfatCard, DeletedFileInPieces_ComesFromTheChainThatIsLeft) {
     putPhotos(exfatSet({"IMG_0412.JPG", 20, 4 * 4096, false, false, true}));
     chainExfat(m_card, m_exfat, {20, 21, 30, 29});

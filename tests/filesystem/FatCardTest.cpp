@@ -259,6 +259,20 @@ TEST_P(FatCard, FormatWithOtherClusters_OneFolderOfTextsTellsThem) {
     EXPECT_EQ(fileNamed(tableOf(m_card), "B.TXT").name, "");
 }
 
+// Each says another place of the clusters.
+TEST(FatCardReading, ManyFoldersThatAgreeInNothing_AreReadInPart) {
+    constexpr std::size_t kFolders = 200;
+    constexpr std::size_t kApart = 600;
+    MemoryCard card((kFolders + 1) * kApart);
+    for (std::size_t i = 0; i < kFolders; ++i) {
+        const auto cluster = static_cast<std::uint32_t>(50'000 + i * i * 7);
+        putBytes(card, (i + 1) * kApart, dotRows(cluster, 0) + fatRow("ONE     TXT", cluster + 1, 90));
+    }
+    tableOf(card);
+    // Of 64 KiB each, were they all looked into.
+    EXPECT_LT(card.sectorsRead, kFolders * 64);
+}
+
 TEST_P(FatCard, LoopsOfFoldersAndClusters_End) {
     putPhotos(fatRow("IMG_0412JPG", 10, 100 * 2048) + fatRow("AGAIN      ", 4, 0, 0x10) +
               fatRow("UP         ", 3, 0, 0x10));

@@ -190,6 +190,22 @@ TEST(FirstLetters, TimesTellItWhereTwoSeriesShareAFolder) {
     EXPECT_EQ(letters.of("_00003.JPG", {2, 2, 5}), std::nullopt) << "one alone is no series";
 }
 
+// A front and a rear camera count together, and all that the rear one wrote was deleted.
+TEST(FirstLetters, NumbersAStepApart_TellNothingBetweenThem) {
+    FirstLetters letters;
+    for (const std::size_t number : {1, 3, 7}) {
+        letters.learn(QString("F%1.MOV").arg(number), {1, number});
+        letters.learn(QString("F%1.MP4").arg(number, 7, 10, QChar(u'0')), {1, 20 + number});
+        letters.learn(QString("MOVI000%1.AVI").arg(number), {1, 40 + number});
+    }
+    EXPECT_EQ(letters.of("_2.MOV", {1, 2}), std::nullopt);
+    EXPECT_EQ(letters.of("_0000002.MP4", {1, 22}), std::nullopt);
+    EXPECT_EQ(letters.of("_0000005.MP4", {1, 25}), QChar(u'F')) << "in step";
+    EXPECT_EQ(letters.of("_OVI0002.AVI", {1, 42}), QChar(u'M')) << "a word says more than a number";
+    letters.learn("F0000004.MP4", {1, 24});
+    EXPECT_EQ(letters.of("_0000002.MP4", {1, 22}), QChar(u'F')) << "no step any more";
+}
+
 TEST(FirstLetters, NumbersThatRiseWithEachEntryTellIt) {
     FirstLetters letters;
     for (const std::size_t number : {4, 5, 8, 9, 12, 14, 17}) {
