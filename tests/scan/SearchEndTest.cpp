@@ -67,6 +67,27 @@ TEST_F(SearchEndTest, WhatTheGeneralPassCouldNotReadIsKeptWhenTheThoroughOneRead
               "The search has completed, but 1 sector could not be read.");
 }
 
+TEST_F(SearchEndTest, ASectorThatBothPassesCouldNotReadCountsOnce) {
+    medium.badForEver = {7, 20};
+    TestSession session(medium);
+    session.Ext_Array = session.Adv_Ext_Array = kJpeg;
+    session.Photo_Rec_Thread();
+    EXPECT_TRUE(session.searchEnd().thorough);
+    EXPECT_EQ(session.searchEnd().unreadable, 2U);
+}
+
+TEST_F(SearchEndTest, ANewSearchForgetsWhatTheOneBeforeCouldNotRead) {
+    medium.badForEver = {7};
+    TestSession session(medium);
+    session.Ext_Array = kJpeg;
+    session.Photo_Recovey_Mode("GEN");
+    ASSERT_EQ(session.searchEnd().unreadable, 1U);
+    medium.badForEver.clear();
+    session.Photo_Recovey_Mode("GEN");
+    EXPECT_EQ(session.searchEnd().unreadable, 0U);
+    EXPECT_TRUE(session.searchEnd().isFlawless());
+}
+
 TEST_F(SearchEndTest, ASearchThatAnExceptionEndedIsNotSaidToHaveCompleted) {
     medium.put(2, "\xFF\xD8").put(5, "\xFF\xD8");
     TestSession session(medium);
