@@ -12,7 +12,7 @@
 namespace vantor {
 
 bool MyTableController::refuseCopy(const QString& what, const QString& why) {
-    runAlert({QStringLiteral("\n") + what, why}, window);
+    tellFailure(what, why, window);
     return false;
 }
 

@@ -31,7 +31,7 @@ void MyTableController::ejectCard() {
                  window);
         return;
     }
-    runAlert({QStringLiteral("\n") + tr("The card could not be ejected."), *refusal}, window);
+    tellFailure(tr("The card could not be ejected."), *refusal, window);
 }
 
 }  // namespace vantor

@@ -46,12 +46,12 @@ void MyTableController::goOn() {
         return;
     }
     if (likeness != Likeness::Same) {
-        runAlert({QStringLiteral("\n") + tr("The search cannot go on."),
-                  likeness == Likeness::Another
-                      ? tr("This is not the medium that was searched. Put the right one in "
-                           "and try again.")
-                      : tr("The medium cannot be opened. Put it back in and try again.")},
-                 window);
+        tellFailure(tr("The search cannot go on."),
+                    likeness == Likeness::Another
+                        ? tr("This is not the medium that was searched. Put the right one in "
+                             "and try again.")
+                        : tr("The medium cannot be opened. Put it back in and try again."),
+                    window);
         return;
     }
     goOnWith(std::move(record));
@@ -198,7 +198,7 @@ bool MyTableController::chooseMediumOf(const SearchRecord& record) {
             advice = m_parts.whyNotOpened ? m_parts.whyNotOpened() : QString();
         }
     }
-    runAlert({QStringLiteral("\n") + trouble, advice}, window);
+    tellFailure(trouble, advice, window);
     return false;
 }
 

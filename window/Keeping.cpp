@@ -151,10 +151,10 @@ void MyTableController::keepThisSearch() {
     }
     bool remember = m_keepingBox->rememberBox->isChecked();
     if (remember && m_parts.isOnMedium && m_parts.isOnMedium(m_memory->folder(), devicePath())) {
-        runAlert(
-            {QStringLiteral("\n") + tr("This search is not remembered."),
-             tr("Your home folder lies on the medium that is to be searched; writing there would overwrite "
-                "what is still to be found.")},
+        tellFailure(
+            tr("This search is not remembered."),
+            tr("Your home folder lies on the medium that is to be searched; writing there would overwrite "
+               "what is still to be found."),
             window);
         remember = false;
     }

@@ -61,10 +61,11 @@ void MyTableController::showLeftItems() {
 // False: the user stays with what was found and is not saved.
 bool MyTableController::mayBeginScan() {
     if (!waitForThreads()) {
-        runAlert({QStringLiteral("\n") + tr("The storage medium does not answer."),
-                  tr("The search before has not ended yet. Take the medium out and put it back in, then try "
-                     "again.")},
-                 window);
+        tellFailure(
+            tr("The storage medium does not answer."),
+            tr("The search before has not ended yet. Take the medium out and put it back in, then try "
+               "again."),
+            window);
         return false;
     }
     return (!hasUnsavedItems() || mayLeaveUnsaved(tr("A new search empties the list of found items."),

@@ -98,7 +98,7 @@ void MyTableController::openImages(const QStringList& files) {
                                  : tr("%1 images could not be opened.", nullptr,
                                       pluralOf(static_cast<std::uint64_t>(refusals.size())))
                                        .arg(numberForPeople(static_cast<std::uint64_t>(refusals.size())));
-        runAlert({QStringLiteral("\n") + what, refusals.join(u'\n')}, window);
+        tellFailure(what, refusals.join(u'\n'), window);
     }
 }
 

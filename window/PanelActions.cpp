@@ -90,16 +90,15 @@ bool MyTableController::acceptDestination(const QString& folder) {
 // Tells the user where it may not.
 bool MyTableController::mayBeDestination(const QString& folder) {
     if (m_parts.isOnMedium && m_parts.isOnMedium(folder, devicePath())) {
-        runAlert({QStringLiteral("\n") + tr("This folder cannot be the destination."),
-                  tr("It lies on the storage medium you are recovering from. Writing there would overwrite "
-                     "the files you want back. Choose a folder on another disk.")},
-                 window);
+        tellFailure(tr("This folder cannot be the destination."),
+                    tr("It lies on the storage medium you are recovering from. Writing there would overwrite "
+                       "the files you want back. Choose a folder on another disk."),
+                    window);
         return false;
     }
     if (const auto refusal = refuseDestination(folder)) {
-        runAlert({QStringLiteral("\n") + tr("This folder cannot be the destination."),
-                  *refusal + u' ' + tr("Choose another folder.")},
-                 window);
+        tellFailure(tr("This folder cannot be the destination."),
+                    *refusal + u' ' + tr("Choose another folder."), window);
         return false;
     }
     return true;
@@ -122,7 +121,7 @@ bool MyTableController::destinationStillThere() {
                             ? tr("The disk that held %1 was taken out. Put it back in, or change the folder.")
                             : tr("%1 was deleted or renamed, or its disk was taken out. Bring it back, or "
                                  "change the folder.");
-    runAlert({QStringLiteral("\n") + tr("The destination is no longer there."), why.arg(folder)}, window);
+    tellFailure(tr("The destination is no longer there."), why.arg(folder), window);
     return false;
 }
 
@@ -166,7 +165,7 @@ void MyTableController::openDestination() {
     }
     const QString why = QFileInfo(folder).isDir() ? tr("This desktop has no program that shows folders.")
                                                   : tr("It is not there any more.");
-    runAlert({QStringLiteral("\n") + tr("The folder could not be opened."), why + u'\n' + folder}, window);
+    tellFailure(tr("The folder could not be opened."), why + u'\n' + folder, window);
 }
 
 void MyTableController::Help_btn(QObject*) {

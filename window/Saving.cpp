@@ -72,10 +72,10 @@ void MyTableController::saveItems(const QList<qsizetype>& indexes, const SavingD
         return;
     }
     if (m_desk->isRunning()) {
-        runAlert(
-            {QStringLiteral("\n") + tr("The storage medium does not answer."),
-             tr("It still holds up the saving that you cancelled. Take the medium out and put it back in, "
-                "then try again.")},
+        tellFailure(
+            tr("The storage medium does not answer."),
+            tr("It still holds up the saving that you cancelled. Take the medium out and put it back in, "
+               "then try again."),
             window);
         return;
     }

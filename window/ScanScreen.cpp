@@ -170,7 +170,9 @@ void MyTableController::fileTypeRowsChanged() {
 void MyTableController::showAlert(const QString& message) {
     onInterfaceThread([this, message] {
         showWhereWeAre();
-        runAlert({message}, window);
+        Alert failure{message};
+        failure.picture = QStringLiteral("warning");
+        runAlert(failure, window);
     });
 }
 

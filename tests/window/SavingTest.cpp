@@ -23,7 +23,7 @@ namespace {
 QString pictureOf(QDialog* alert) {
     const auto* const box = qobject_cast<QMessageBox*>(alert);
     const QImage seen = box != nullptr ? box->iconPixmap().toImage() : QImage();
-    for (const char* name : {"ok", "info", "question"}) {
+    for (const char* name : {"ok", "info", "question", "warning"}) {
         if (seen == ownIcon(QLatin1String(name)).pixmap(box->iconPixmap().size()).toImage()) {
             return QLatin1String(name);
         }
@@ -86,8 +86,13 @@ TEST_F(Saving, AMediumThatIsGone_IsReportedAndNothingCountsAsSaved) {
     openPhotoResults();
     destinationIs(destination.path());
     refuseOpen = true;
-    answers.press(QStringLiteral("OK"));
+    QString picture;
+    answers.then([&](QDialog* end) {
+        picture = pictureOf(end);
+        pressButton(end, QStringLiteral("OK"));
+    });
     click(controller->saveAllButton);
+    EXPECT_EQ(picture, QStringLiteral("warning"));
     EXPECT_EQ(answers.seen().back().text, QStringLiteral("\nNothing was saved."));
     EXPECT_TRUE(controller->hasUnsavedItems());
 }
@@ -97,8 +102,13 @@ TEST_F(Saving, WhatCannotBeWritten_IsCountedWithItsReason) {
     QFile blocked(destination.filePath(QStringLiteral("JPG")));
     ASSERT_TRUE(blocked.open(QIODevice::WriteOnly));  // where the folder of the type should be
     destinationIs(destination.path());
-    answers.press(QStringLiteral("OK"));
+    QString picture;
+    answers.then([&](QDialog* end) {
+        picture = pictureOf(end);
+        pressButton(end, QStringLiteral("OK"));
+    });
     click(controller->saveAllButton);
+    EXPECT_EQ(picture, QStringLiteral("warning"));
     EXPECT_EQ(answers.seen().back().text, QStringLiteral("\n1 file was saved."));
     EXPECT_TRUE(answers.seen().back().informative.contains(QStringLiteral("2 items could not be saved:")))
         << answers.seen().back().informative.toStdString();

@@ -57,10 +57,10 @@ void Help_Support::HelpFilePressed(QObject*) {
         QFileInfo::exists(inLanguage) ? inLanguage : m_resourcesFolder + QStringLiteral("/Help.pdf");
     if (QFileInfo::exists(document)) {
         if (!m_openDocument(document)) {
-            runAlert({QStringLiteral("\n") + tr("The help document could not be opened."),
-                      tr("This desktop has no program that shows PDF documents. It lies here:") + u'\n' +
-                          document},
-                     window);
+            tellFailure(
+                tr("The help document could not be opened."),
+                tr("This desktop has no program that shows PDF documents. It lies here:") + u'\n' + document,
+                window);
         }
         return;
     }

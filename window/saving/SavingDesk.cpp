@@ -122,12 +122,12 @@ void SavingDesk::saveAs(qsizetype index, const QString& folder, const QString& n
         note(*job);
         return;
     }
-    runAlert(
-        {QStringLiteral("\n") + tr("Nothing was saved."),
-         outcome.error.isEmpty() ? tr("The storage medium cannot be read any more. Put it back in and try "
-                                      "again.")
-                                 : outcome.error},
-        m_parts.window);
+    tellFailure(tr("Nothing was saved."),
+                outcome.error.isEmpty()
+                    ? tr("The storage medium cannot be read any more. Put it back in and try "
+                         "again.")
+                    : outcome.error,
+                m_parts.window);
 }
 
 void SavingDesk::forget() {
@@ -226,9 +226,9 @@ std::optional<SavingDesk::Next> SavingDesk::tell(const SaveJob& job, const QStri
     const SaveReport& report = job.report();
     const bool somethingThere = report.tally.saved + report.tally.duplicates > 0;
     if (!report.mediumOpened && !somethingThere) {
-        runAlert({QStringLiteral("\n") + tr("Nothing was saved."),
-                  tr("The storage medium cannot be read any more. Put it back in and try again.")},
-                 m_parts.window);
+        tellFailure(tr("Nothing was saved."),
+                    tr("The storage medium cannot be read any more. Put it back in and try again."),
+                    m_parts.window);
         return std::nullopt;
     }
     const bool mediumGone = std::any_of(report.items.begin(), report.items.end(),
@@ -240,10 +240,10 @@ std::optional<SavingDesk::Next> SavingDesk::tell(const SaveJob& job, const QStri
     Alert alert{QStringLiteral("\n") + summaryHeadline(summary), summaryDetails(summary), {}};
     if (somethingThere) {
         alert.buttons << tr("Open Folder");
-        const bool all = report.tally.failed == 0 && !summary.cancelled;
-        alert.picture = all ? QStringLiteral("ok") : QStringLiteral("info");
+        alert.picture = summary.cancelled ? QStringLiteral("info") : QStringLiteral("ok");
     }
     if (report.tally.failed > 0) {
+        alert.picture = QStringLiteral("warning");
         alert.buttons << tr("Change Folder…");
     } else if (somethingThere && m_parts.canEject && m_parts.canEject()) {
         alert.buttons << tr("Eject Card");

@@ -46,6 +46,12 @@ qsizetype runAlert(const Alert& alert, QWidget* over) {
     return buttons.indexOf(box.clickedButton());
 }
 
+void tellFailure(const QString& what, const QString& why, QWidget* over) {
+    Alert alert{QStringLiteral("\n") + what, why};
+    alert.picture = QStringLiteral("warning");
+    runAlert(alert, over);
+}
+
 int Show_MessageBox(const QString& message) {
     return runAlert({QStringLiteral("\n") + message}) == 0 ? 1 : 0;
 }

@@ -29,4 +29,7 @@ struct Alert {
 };
 qsizetype runAlert(const Alert& alert, QWidget* over = nullptr);
 
+// What could not be done, and why; a line break in front, the picture of a warning, and "OK".
+void tellFailure(const QString& what, const QString& why, QWidget* over);
+
 }  // namespace vantor
