@@ -101,12 +101,11 @@ bool beginsMember(const ArchiveMember& member, std::span<const std::uint8_t> byt
             return false;
         }
     }
-    const std::size_t there =
-        bytes.size() > kMemberHeadBytes ? std::min(bytes.size() - kMemberHeadBytes, member.name.size()) : 0;
-    return std::equal(member.name.begin(), member.name.begin() + static_cast<std::ptrdiff_t>(there),
-                      bytes.begin() + kMemberHeadBytes, [](char letter, std::uint8_t byte) {
-                          return static_cast<std::uint8_t>(letter) == byte;
-                      });
+    const auto name = bytes.subspan(std::min<std::size_t>(bytes.size(), kMemberHeadBytes));
+    const auto there = static_cast<std::ptrdiff_t>(std::min(name.size(), member.name.size()));
+    return std::equal(
+        name.begin(), name.begin() + there, member.name.begin(),
+        [](std::uint8_t byte, char letter) { return byte == static_cast<std::uint8_t>(letter); });
 }
 
 std::optional<std::uint64_t> memberContent(ByteView& view, const ArchiveMember& member) {
