@@ -4,14 +4,13 @@
 #include <algorithm>
 #include <numeric>
 
-#include "media/SectorReader.h"
-
 namespace vantor {
 
 namespace {
 
 bool holdsAnyOf(const CardFile& file, const std::vector<std::uint64_t>& starts) {
-    return std::any_of(file.runs.begin(), file.runs.end(), [&](const SectorRun& run) {
+    const std::vector<SectorRun> runs = runsOfData(file);
+    return std::any_of(runs.begin(), runs.end(), [&](const SectorRun& run) {
         const auto next = std::lower_bound(starts.begin(), starts.end(), run.first);
         return next != starts.end() && *next < run.end;
     });
@@ -68,17 +67,7 @@ std::vector<std::shared_ptr<const CardFile>> toldOnly(const std::shared_ptr<cons
 }
 
 CarvedRun runsOf(const CardFile& file) {
-    CarvedRun carved;
-    const std::uint64_t bytes = dataBytesOf(file);
-    std::uint64_t left = bytes / kSectorBytes + (bytes % kSectorBytes != 0 ? 1 : 0);
-    for (const SectorRun& run : file.runs) {
-        const std::uint64_t count = std::min(left, run.end - run.first);
-        if (count > 0) {
-            carved.runs.push_back({run.first, run.first + count});
-        }
-        left -= count;
-    }
-    return carved;
+    return {runsOfData(file), false};
 }
 
 }  // namespace vantor

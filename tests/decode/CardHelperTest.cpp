@@ -8,7 +8,7 @@
 
 #include "decode/CardExchange.h"
 #include "decode/CardHelper.h"
-#include "tests/filesystem/CardImage.h"
+#include "tests/filesystem/NtfsImage.h"
 #include "tests/support/ScriptedMedium.h"
 
 namespace vantor {
@@ -165,6 +165,11 @@ class CardHelper : public testing::Test {
         MemoryCard card(m_exfat.end());
         formatExfat(card, m_exfat);
         putBytes(card, m_exfat.sectorOf(5), exfatSet({"IMG_0412.JPG", 20, 9000}));
+        fillMedium(card);
+    }
+
+    void fillMedium(const MemoryCard& card) {
+        m_medium = ScriptedMedium(card.sectors());
         for (std::size_t sector = 0; sector < card.sectors(); ++sector) {
             std::memcpy(m_medium.bytes[sector].data(), card.bytes.data() + sector * 512, 512);
         }
@@ -178,7 +183,7 @@ class CardHelper : public testing::Test {
     }
 
     ExfatPlaces m_exfat;
-    ScriptedMedium m_medium{m_exfat.end()};
+    ScriptedMedium m_medium{0};
 };
 
 TEST_F(CardHelper, TellsTheTable) {
@@ -194,6 +199,39 @@ TEST_F(CardHelper, BadSectorBesideADirectory_CostsThatAlone) {
     const auto table = read();
     ASSERT_TRUE(table);
     EXPECT_EQ(pathsOf(*table), "IMG_0412.JPG");
+}
+
+// Read as often as they are named, the records would take as many readings of the card as it has partitions,
+// and nothing of it fits into what is kept.
+TEST_F(CardHelper, PartitionsThatShareTheirRecords_CostTheLastOfThemTheirNames) {
+    constexpr std::size_t kPartitions = 128;
+    constexpr std::size_t kFirst = 100;
+    constexpr std::size_t kTable = 1000;
+    constexpr std::size_t kRecords = 24'000;
+    MemoryCard card(kTable + 2 * kRecords + 100);
+    put(card.bytes, 512, "EFI PART");
+    put(card.bytes, 512 + 72, 2, 8);
+    put(card.bytes, 512 + 80, kPartitions, 4);
+    put(card.bytes, 512 + 84, 128, 4);
+    for (std::size_t i = 0; i < kPartitions; ++i) {
+        put(card.bytes, 1024 + 128 * i, 1, 8);
+        put(card.bytes, 1024 + 128 * i + 32, kFirst + i, 8);
+        put(card.bytes, 1024 + 128 * i + 40, card.sectors() - 1, 8);
+        putBytes(card, kFirst + i, ntfsBoot(1, kTable - kFirst - i, card.sectors()));
+    }
+    Bytes place{0x23, 0, 0, 0, 0, 0, 0};
+    put(place, 1, 2 * kRecords, 3);
+    put(place, 4, kTable - kFirst, 2);
+    putBytes(card, kTable,
+             record(kThere, 1, nameAttribute("$MFT", 5, 5) + dataAttribute(kRecords * kRecord, place)));
+    putBytes(card, kTable + 2 * 30,
+             record(kThere, 1, nameAttribute("IMG.JPG", 5, 5) + dataAttribute(4096, {0x11, 8, 30, 0})));
+    fillMedium(card);
+    const auto table = read();
+    ASSERT_TRUE(table);
+    EXPECT_EQ(table->files.front().name, "IMG.JPG");
+    // Of the first partition: the others count their clusters from elsewhere.
+    EXPECT_EQ(table->files.front().runs.front().first, kFirst + 30);
 }
 
 TEST_F(CardHelper, Stop_EndsOneThatNeverAnswers) {

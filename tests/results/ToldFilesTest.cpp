@@ -15,11 +15,11 @@ CardFile liveFile(const QString& name, const SectorRun& run) {
     return file;
 }
 
-std::size_t toldOf(std::vector<CardFile> files) {
+std::size_t toldOf(std::vector<CardFile> files, const std::vector<std::uint64_t>& starts = {}) {
     CardTable table;
     table.files = std::move(files);
     const auto card = std::make_shared<const CardIndex>(std::move(table));
-    return toldOnly(card, {}, {{0, 1000}, [](const QString&) { return true; }}).size();
+    return toldOnly(card, starts, {{0, 1000}, [](const QString&) { return true; }}).size();
 }
 
 TEST(ToldFiles, BesideEachOther_AreAllTold) {
@@ -38,6 +38,14 @@ TEST(ToldFiles, ManyInOnePlace_TakeNoMoreThanTwiceTheRoom) {
         files.push_back(liveFile(QStringLiteral("f%1.txt").arg(i), {100, 300}));
     }
     EXPECT_EQ(toldOf(files), 1u + 9);
+}
+
+TEST(ToldFiles, WhatBeginsBehindTheirBytes_IsNotTheirs) {
+    CardFile gone = liveFile("a.txt", {0, 16});
+    gone.state = FileState::Deleted;
+    gone.bytes = 5000;
+    EXPECT_EQ(toldOf({gone}, {10}), 1u);
+    EXPECT_EQ(toldOf({gone}, {9}), 0u);
 }
 
 }  // namespace
