@@ -77,6 +77,7 @@ class TableReader {
 
   private:
     bool takeFile(class ByteTaker& from);
+    bool takeHole(class ByteTaker& from, std::vector<SectorRun>& into);
     bool takeRun(class ByteTaker& from, std::vector<SectorRun>& into);
 
     const std::uint64_t m_sectors;

@@ -29,6 +29,9 @@ std::uint64_t clustersOf(const std::vector<NtfsRun>& runs) {
 std::vector<SectorRun> NtfsVolume::sectorsOf(const std::vector<NtfsRun>& runs) const {
     std::vector<SectorRun> sectors;
     for (const NtfsRun& run : runs) {
+        if (run.isHole) {
+            continue;
+        }
         if (!m_shape.holds(run.first) || run.count == 0 || run.count > m_shape.clusters - run.first) {
             break;
         }
@@ -107,7 +110,7 @@ void NtfsVolume::keep(std::uint64_t number, NtfsRecord record) {
     if (m_runsKept + runs > kMostRuns) {
         record.runs = {};
         record.otherRuns = {};
-        record.isPlain = false;
+        record.isPlain = record.isLegible = false;
     } else {
         m_runsKept += runs;
     }
@@ -148,6 +151,8 @@ void NtfsVolume::joinParts() {
             }
             file.hasData = true;
             file.isPlain = file.isPlain && part.isPlain;
+            file.isLegible = file.isLegible && part.isLegible;
+            file.unitClusters = std::max(file.unitClusters, part.unitClusters);
             file.runs.insert(file.runs.end(), part.runs.begin(), part.runs.end());
             clusters += clustersOf(part.runs);
         }
@@ -216,6 +221,38 @@ void NtfsVolume::placeFile(const NtfsRecord& record, std::uint64_t sectors, Card
     }
 }
 
+// Of a packed file the last unit counts to its end: where it has a hole is part of how it is packed.
+void NtfsVolume::layOut(const NtfsRecord& record, std::uint64_t clusters, CardFile& file) const {
+    constexpr std::size_t kMost = 16'000;  // pieces and holes; a packed file has one of each a unit
+    constexpr std::uint64_t kMostUnitSectors = 2048;
+    const std::uint64_t unit = std::max<std::uint64_t>(record.unitClusters, 1);
+    const std::uint64_t end = (clusters + unit - 1) / unit * unit;
+    std::uint64_t at = 0;
+    std::uint64_t placed = 0;
+    for (const NtfsRun& run : record.runs) {
+        const std::uint64_t count = std::min(run.count, end - at);
+        const bool isThere = m_shape.holds(run.first) && count <= m_shape.clusters - run.first;
+        if (count == 0 || (!run.isHole && !isThere)) {
+            break;
+        }
+        const std::uint64_t first = run.isHole ? at * m_shape.clusterSectors : m_shape.sectorOf(run.first);
+        std::vector<SectorRun>& to = run.isHole ? file.holes : file.runs;
+        to.push_back({first, first + count * m_shape.clusterSectors});
+        at += count;
+        placed += run.isHole ? 0 : count;
+    }
+    const std::uint64_t unitSectors = unit * m_shape.clusterSectors;
+    const bool isKnown = at >= clusters && placed <= m_shape.clusters && file.runs.size() <= kMost &&
+                         file.holes.size() <= kMost &&
+                         (record.unitClusters == 0 || unitSectors <= kMostUnitSectors);
+    if (!isKnown) {
+        file.runs.clear();
+        file.holes.clear();
+    } else if (!file.holes.empty() && record.unitClusters != 0) {
+        file.unitSectors = static_cast<std::uint32_t>(unitSectors);
+    }
+}
+
 void NtfsVolume::tellFile(const NtfsRecord& record, CardTable& table) {
     const std::uint64_t clusterBytes = std::uint64_t{m_shape.clusterSectors} * 512;
     const std::uint64_t clusters = record.bytes / clusterBytes + (record.bytes % clusterBytes != 0 ? 1 : 0);
@@ -235,6 +272,8 @@ void NtfsVolume::tellFile(const NtfsRecord& record, CardTable& table) {
     file.clusterSectors = m_shape.clusterSectors;
     if (record.isPlain) {
         placeFile(record, clusters * m_shape.clusterSectors, file);
+    } else if (record.isLegible) {
+        layOut(record, clusters, file);
     }
     table.files.push_back(std::move(file));
 }

@@ -41,6 +41,8 @@ class NtfsVolume {
     // The same, made once.
     const std::optional<QString>& knownFolderOf(const NtfsReference& parent);
     void placeFile(const NtfsRecord& record, std::uint64_t sectors, CardFile& file) const;
+    // The same for one that is packed or has holes.
+    void layOut(const NtfsRecord& record, std::uint64_t clusters, CardFile& file) const;
     void tellFile(const NtfsRecord& record, CardTable& table);
 
     SectorSource& m_card;

@@ -56,6 +56,9 @@ std::uint64_t dataBytesOf(const CardFile& file) {
 }
 
 std::vector<SectorRun> runsOfData(const CardFile& file) {
+    if (!file.holes.empty()) {
+        return file.runs;
+    }
     std::vector<SectorRun> runs;
     std::uint64_t left = sectorsFor(dataBytesOf(file));
     for (const SectorRun& run : file.runs) {
@@ -93,7 +96,10 @@ CardIndex::CardIndex(CardTable table) : m_table(std::move(table)) {
         if (!file.contents.isEmpty()) {
             continue;
         }
-        m_starts.push_back({file.runs.front().first, 0, &file});
+        // What is found where it begins is not all of one with holes, nor as it was where it is packed.
+        if (file.holes.empty()) {
+            m_starts.push_back({file.runs.front().first, 0, &file});
+        }
         for (const SectorRun& run : runs) {
             m_claims.push_back({run.first, run.end, &file});
         }

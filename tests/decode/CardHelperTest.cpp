@@ -36,6 +36,8 @@ CardTable someTable() {
     }
     table.files[9].runs = {{300, 302}};
     table.files[9].contents = QByteArray(1024, 'c');
+    table.files[11].holes = {{4, 8}, {8, 30}};
+    table.files[11].unitSectors = 128;
     return table;
 }
 
@@ -62,6 +64,8 @@ TEST(CardExchange, TableOfManyBlocks_ArrivesWhole) {
     EXPECT_TRUE(one.contents.isEmpty());
     EXPECT_EQ(got.files[9].contents, table.files[9].contents);
     EXPECT_EQ(got.files[10].bytes, 1000u);
+    EXPECT_EQ(got.files[11].holes, table.files[11].holes);
+    EXPECT_EQ(got.files[11].unitSectors, 128u);
 }
 
 // A folder of a million files would take a thousand times as much as they do.
@@ -112,6 +116,18 @@ TEST(CardExchange, WhatCannotBe_IsNotTaken) {
     EXPECT_FALSE(isTaken(bad));  // and of more bytes
     bad.bytes = bad.validBytes = 512;
     EXPECT_TRUE(isTaken(bad));
+    bad.holes = {{1, 2}};
+    EXPECT_FALSE(isTaken(bad));  // nor has it holes
+    bad = good;
+    bad.holes = {{6, 8}, {7, 9}};
+    EXPECT_FALSE(isTaken(bad));
+    bad.holes = {{6, 6}};
+    EXPECT_FALSE(isTaken(bad));
+    bad.holes = {{6, 5000}};
+    EXPECT_FALSE(isTaken(bad));
+    bad = good;
+    bad.unitSectors = 4096;
+    EXPECT_FALSE(isTaken(bad));
     bad = good;
     bad.bytes = 2001 * 512;
     EXPECT_FALSE(isTaken(bad));

@@ -40,6 +40,22 @@ TEST(ToldFiles, ManyInOnePlace_TakeNoMoreThanTwiceTheRoom) {
     EXPECT_EQ(toldOf(files), 1u + 9);
 }
 
+// What is found there is not all of it.
+TEST(ToldFiles, OneWithHoles_IsToldThoughItsBeginningIsFound) {
+    CardFile sparse = liveFile("a.mp4", {10, 16});
+    EXPECT_EQ(toldOf({sparse}, {10}), 0u);
+    sparse.holes = {{2, 4}};
+    EXPECT_EQ(toldOf({sparse}, {10}), 1u);
+    sparse.state = FileState::Deleted;
+    sparse.runsKnownBy = RunsKnownBy::Record;
+    EXPECT_EQ(toldOf({sparse}, {10}), 1u);
+    EXPECT_EQ(toldOf({sparse}, {11}), 0u);
+    // Its holes take room where it is saved.
+    sparse.state = FileState::Live;
+    sparse.holes = {{2, 100}};
+    EXPECT_EQ(toldOf({sparse}), 0u);
+}
+
 TEST(ToldFiles, WhatBeginsBehindTheirBytes_IsNotTheirs) {
     CardFile gone = liveFile("a.txt", {0, 16});
     gone.state = FileState::Deleted;
