@@ -23,6 +23,12 @@ std::uint64_t clustersOf(const std::vector<NtfsRun>& runs) {
                            [](std::uint64_t sum, const NtfsRun& run) { return sum + run.count; });
 }
 
+// A record that is given back counts its next use already.
+bool isMeantBy(const NtfsReference& reference, const NtfsRecord& record) {
+    return record.use == reference.use ||
+           (!record.isInUse && record.use == static_cast<std::uint16_t>(reference.use + 1));
+}
+
 }  // namespace
 
 // Cut to the volume; a run outside it ends the list.
@@ -127,13 +133,29 @@ void NtfsVolume::keep(std::uint64_t number, NtfsRecord record) {
     record.otherRuns = {};
     if (record.base.record == 0) {
         m_records.emplace(number, std::move(record));
-    } else if (record.hasData) {
-        m_partsKept += m_parts[record.base.record].emplace(record.firstCluster, std::move(record)).second;
+        return;
+    }
+    if (!record.name.isEmpty() && m_names.size() < kMostRecords) {
+        m_names.emplace(record.base.record, Named{record.base, record.parent, record.name});
+    }
+    if (record.hasData) {
+        m_parts[record.base.record].emplace(record.firstCluster, std::move(record));
+        ++m_partsKept;
     }
 }
 
-// A file of many pieces has more records than one; each part begins where the one before ends.
+// A file of many pieces, or of many names, has more records than one; each part begins where the one before
+// ends.
 void NtfsVolume::joinParts() {
+    for (auto& [number, file] : m_records) {
+        const auto [begin, end] = m_names.equal_range(number);
+        for (auto one = begin; one != end && file.name.isEmpty(); ++one) {
+            if (isMeantBy(one->second.base, file)) {
+                file.parent = one->second.parent;
+                file.name = one->second.name;
+            }
+        }
+    }
     for (auto& [number, parts] : m_parts) {
         const auto base = m_records.find(number);
         if (base == m_records.end()) {
@@ -142,7 +164,8 @@ void NtfsVolume::joinParts() {
         NtfsRecord& file = base->second;
         std::uint64_t clusters = clustersOf(file.runs);
         for (auto& [first, part] : parts) {
-            if (part.base.use != file.use || part.isInUse != file.isInUse || part.firstCluster != clusters) {
+            if (!isMeantBy(part.base, file) || part.isInUse != file.isInUse ||
+                part.firstCluster != clusters) {
                 continue;
             }
             if (part.firstCluster == 0) {
@@ -169,11 +192,8 @@ std::optional<QString> NtfsVolume::folderOf(const NtfsReference& parent) const {
             return std::nullopt;
         }
         const auto folder = m_records.find(at.record);
-        // A record that is given back counts its next use already.
-        const bool isMeant =
-            folder != m_records.end() && folder->second.isFolder && !folder->second.name.isEmpty() &&
-            (folder->second.use == at.use ||
-             (!folder->second.isInUse && folder->second.use == static_cast<std::uint16_t>(at.use + 1)));
+        const bool isMeant = folder != m_records.end() && folder->second.isFolder &&
+                             !folder->second.name.isEmpty() && isMeantBy(at, folder->second);
         if (!isMeant) {
             prependFolder(QStringLiteral("folder-%1").arg(at.record), path);
             break;

@@ -113,6 +113,29 @@ TEST_F(NtfsCard, FilesInTheirRecords_BringTheirBytesAlong) {
     }
 }
 
+// A file of many names has no room for them in its first record, nor has one of many pieces.
+TEST_F(NtfsCard, NameInAFurtherRecord_IsTheFilesOwn) {
+    const Bytes contents = timesAttribute() + dataAttribute(9000, {0x11, 3, 100, 0});
+    putRecord(26, record(kThere, 1, contents));
+    putRecord(30, record(kThere, 4, nameAttribute("IMG_1.JPG", 24, 3), 26));
+    // Of another use of the record; and one that has a name already.
+    putRecord(27, record(kThere, 3, contents));
+    putRecord(31, record(kThere, 4, nameAttribute("OTHER.JPG", 24, 3), 27));
+    putRecord(28, record(kThere, 1, nameAttribute("IMG_2.JPG", 24, 3) + contents));
+    putRecord(32, record(kThere, 4, nameAttribute("SECOND.JPG", 24, 3), 28));
+    // Of a file that is gone the record counts its next use.
+    putRecord(29, record(kGone, 2, timesAttribute() + dataAttribute(9000, {0x11, 2, 110, 0})));
+    putRecord(33, record(kGone, 5, nameAttribute("GONE.JPG", 24, 3), 29));
+    Bytes older = record(kGone, 5, dataAttribute(0, {0x11, 1, 90, 0}, 2), 29);
+    put(older, 38, 7, 2);
+    putRecord(34, older);
+    putRecord(35, record(kGone, 5, dataAttribute(0, {0x11, 1, 120, 0}, 2), 29));
+    const CardTable table = tableOf(m_card);
+    EXPECT_EQ(pathsOf(table), "Fotos/GONE.JPG\nFotos/IMG_1.JPG\nFotos/IMG_2.JPG");
+    EXPECT_EQ(fileNamed(table, "GONE.JPG").runs, (std::vector<SectorRun>{{880, 896}, {960, 968}}));
+    EXPECT_EQ(fileNamed(table, "IMG_1.JPG").modified, 1'700'000'100);
+}
+
 // Clusters of 8 sectors: two that are there, three that are not, one that is there.
 TEST_F(NtfsCard, FilesWithHoles_TellThemBesideTheirRuns) {
     const Bytes runs{0x11, 2, 100, 0x01, 3, 0x11, 1, 10, 0};
