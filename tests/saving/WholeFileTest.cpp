@@ -53,6 +53,12 @@ TEST(WholeFile, LongNames_KeepTheirExtensionBesideANumber) {
     }
     EXPECT_EQ(numberedName(QStringLiteral("a.jpg"), 2), QStringLiteral("a (2).jpg"));
     EXPECT_EQ(cutToComponent(QString(300, u'x')).size(), 255);
+    // What is no extension is cut with the rest, and a character is never cut in two.
+    EXPECT_EQ(cutToComponent(QStringLiteral("a.") + QString(300, u'x')),
+              QStringLiteral("a.") + QString(253, u'x'));
+    const QString pictures = QStringLiteral("\U0001F600").repeated(64);
+    EXPECT_EQ(cutToComponent(pictures), pictures.left(2 * 63));
+    EXPECT_EQ(numberedName(QStringLiteral(".hidden"), 2), QStringLiteral(".hidden (2)"));
 }
 
 // One after the other they would take as many tries as the square of their number.
@@ -87,6 +93,20 @@ TEST(WholeFile, KeepsItsDate) {
     const auto path = file.commit("a");
     ASSERT_TRUE(path);
     EXPECT_EQ(QFileInfo(*path).lastModified().toSecsSinceEpoch(), 1'000'000'000);
+}
+
+TEST(WholeFile, DateGivenLater_IsTheFilesAndNotThatOfWhereALinkLeads) {
+    const QTemporaryDir folder;
+    for (const char* name : {"a", "elsewhere"}) {
+        ASSERT_TRUE(QFile(folder.filePath(name)).open(QIODevice::WriteOnly));
+    }
+    ASSERT_TRUE(QFile::link(folder.filePath("elsewhere"), folder.filePath("link")));
+    const auto open = SavingFolder::open(folder.path());
+    ASSERT_TRUE(open);
+    setModificationTime(*open, "a", 1'000'000'000);
+    setModificationTime(*open, "link", 1'000'000'000);
+    EXPECT_EQ(QFileInfo(folder.filePath("a")).lastModified().toSecsSinceEpoch(), 1'000'000'000);
+    EXPECT_NE(QFileInfo(folder.filePath("elsewhere")).lastModified().toSecsSinceEpoch(), 1'000'000'000);
 }
 
 TEST(LinkAs, SecondNameTakesNoOthersPlace) {
