@@ -83,6 +83,17 @@ std::optional<dev_t> SavingFolder::device() const {
     return info.st_dev;
 }
 
+std::optional<std::int64_t> SavingFolder::birth() const {
+    constexpr std::int64_t kNanoseconds = 1'000'000'000;
+    struct statx info {};
+    if (::statx(descriptor(), "", AT_EMPTY_PATH, STATX_BTIME, &info) != 0 ||
+        (info.stx_mask & STATX_BTIME) == 0 || info.stx_btime.tv_sec >= INT64_MAX / kNanoseconds ||
+        info.stx_btime.tv_sec <= INT64_MIN / kNanoseconds) {
+        return std::nullopt;
+    }
+    return info.stx_btime.tv_sec * kNanoseconds + info.stx_btime.tv_nsec;
+}
+
 void SavingFolder::flush() const {
     ::fsync(descriptor());
 }
