@@ -32,8 +32,8 @@ class SavingFolder {
     // The number of the file system it lies on; nothing when it cannot be asked any more.
     std::optional<dev_t> device() const;
     // When it was made, in nanoseconds since 1970 UTC, by which a folder that was made anew in its place is
-    // told from it (numbers of inodes are given out again, and FAT has none). Nothing where the file system
-    // does not tell.
+    // told from it (numbers of inodes are given out again). Nothing where the file system does not keep it
+    // to the letter.
     std::optional<std::int64_t> birth() const;
     // What was created in it survives a loss of power from here on, as far as the file system can.
     void flush() const;
