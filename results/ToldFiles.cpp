@@ -3,19 +3,20 @@
 
 #include <QObject>
 #include <algorithm>
-#include <numeric>
 #include <set>
 
-#include "media/SectorReader.h"
 #include "results/SizeForPeople.h"
 
 namespace vantor {
 
 namespace {
 
+// Beyond what may be found of one with holes where it begins.
 bool holdsAnyOf(const CardFile& file, const std::vector<std::uint64_t>& starts) {
-    return std::any_of(file.runs.begin(), file.runs.end(), [&](const SectorRun& run) {
-        const auto next = std::lower_bound(starts.begin(), starts.end(), run.first);
+    const std::vector<SectorRun> runs = runsOfData(file);
+    return std::any_of(runs.begin(), runs.end(), [&](const SectorRun& run) {
+        const bool isOwn = !file.holes.empty() && run.first == file.runs.front().first;
+        const auto next = std::lower_bound(starts.begin(), starts.end(), run.first + (isOwn ? 1 : 0));
         return next != starts.end() && *next < run.end;
     });
 }
@@ -31,9 +32,15 @@ bool hasItsPlace(const CardFile& file, const CardIndex& card, const std::vector<
     return file.runsKnownBy < RunsKnownBy::Guess || card.isInOneFreePiece(file);
 }
 
+// What it takes where it is saved: holes are written there.
 std::uint64_t sectorsOf(const CardFile& file) {
-    return std::accumulate(file.runs.begin(), file.runs.end(), std::uint64_t{0},
-                           [](std::uint64_t sum, const SectorRun& run) { return sum + run.end - run.first; });
+    std::uint64_t sum = 0;
+    for (const auto* const stretches : {&file.runs, &file.holes}) {
+        for (const SectorRun& run : *stretches) {
+            sum += run.end - run.first;
+        }
+    }
+    return sum;
 }
 
 // All files of a sound file system lie beside each other; where many are said to lie in the same place, as on
@@ -75,8 +82,9 @@ std::vector<std::shared_ptr<const CardFile>> toldOnly(const std::shared_ptr<cons
         }
         const std::uint64_t first = file.runs.front().first;
         const bool searched = first >= wish.searched.first && first < wish.searched.end;
-        if (searched && !std::binary_search(foundStarts.begin(), foundStarts.end(), first) &&
-            wish.isWanted(file.name) && hasItsPlace(file, *card, foundStarts)) {
+        const bool isFound =
+            file.holes.empty() && std::binary_search(foundStarts.begin(), foundStarts.end(), first);
+        if (searched && !isFound && wish.isWanted(file.name) && hasItsPlace(file, *card, foundStarts)) {
             wanted.push_back(&file);
         }
     }
@@ -101,17 +109,7 @@ QString wordsForBeyondRoom(std::uint64_t files) {
 }
 
 CarvedRun runsOf(const CardFile& file) {
-    CarvedRun carved;
-    const std::uint64_t bytes = dataBytesOf(file);
-    std::uint64_t left = bytes / kSectorBytes + (bytes % kSectorBytes != 0 ? 1 : 0);
-    for (const SectorRun& run : file.runs) {
-        const std::uint64_t count = std::min(left, run.end - run.first);
-        if (count > 0) {
-            carved.runs.push_back({run.first, run.first + count});
-        }
-        left -= count;
-    }
-    return carved;
+    return {runsOfData(file), false};
 }
 
 }  // namespace vantor
