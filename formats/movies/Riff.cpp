@@ -153,7 +153,7 @@ RiffWalk::Step RiffWalk::inner(std::uint64_t told) {
             return Step::Done;
         const auto chunk = readChunk(m_view, m_at, m_endian);
         // Others count the outer chunk's own head as well, or that of an inner one twice.
-        if (!chunk && m_sawSamples && (told - m_at == 8 || isMiscounted(told))) {
+        if (!chunk && ((m_sawPayload && told - m_at == 8) || (m_sawSamples && isMiscounted(told)))) {
             m_miscounted = true;
             return Step::Done;
         }
