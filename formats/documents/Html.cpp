@@ -5,6 +5,7 @@
 
 #include "formats/Format.h"
 #include "formats/TextReader.h"
+#include "formats/documents/Text.h"
 
 namespace vantor {
 
@@ -21,7 +22,7 @@ Extent walkHtml(ByteView& view) {
         if (matchesAnyCase(view, tag.at, kClose))
             return completeAt(view, behindBlanks(view, tag.at + kClose.size()));
     }
-    return inexact(end == view.size() ? cutOffAt(view, end) : completeAt(view, end));
+    return inexact(end == view.size() ? cutOffAt(view, end) : completeAt(view, readableEnd(view, at)));
 }
 
 extern constexpr Format kHtml = {
