@@ -1,6 +1,7 @@
-// X pixmaps (XPM). Source: XPM manual 3.4.
+// X pixmaps (XPM) of the second and third version. Source: XPM manual 3.4.
 #include "formats/Format.h"
 #include "formats/TextReader.h"
+#include "formats/documents/Text.h"
 
 namespace vantor {
 
@@ -23,6 +24,8 @@ std::uint64_t behindRemarks(ByteView& view, std::uint64_t at) {
 
 // C source: an array of texts that ends with "};".
 Extent walkXpm(ByteView& view) {
+    if (view.matches(0, "! XPM2\n") || view.matches(0, "! XPM2\r"))
+        return walkText(view);  // the second version is lines without an end
     if (!view.matches(0, "/* XPM */"))
         return unknownExtent();
     bool quoted = false, closed = false;
