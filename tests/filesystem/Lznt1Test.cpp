@@ -1,7 +1,7 @@
 // Unpacking what NTFS packs.
 #include <gtest/gtest.h>
 
-#include <numeric>
+#include <algorithm>
 #include <random>
 #include <string>
 
