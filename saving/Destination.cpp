@@ -1,6 +1,7 @@
 // One folder, known by its path, the disk that it lay on first and the time when it was made.
 #include "saving/Destination.h"
 
+#include <QDir>
 #include <QObject>
 #include <utility>
 
@@ -11,6 +12,12 @@ namespace vantor {
 
 Destination::Destination(QString path, LiesOnMedium liesOnMedium)
     : m_path(std::move(path)), m_liesOnMedium(std::move(liesOnMedium)) {}
+
+// As it was opened: the path may be one from where the program runs, which is no path from anywhere else.
+QString Destination::wayTo(const QString& saved) const {
+    return saved.startsWith(m_path + u'/') ? saved.mid(m_path.size() + 1)
+                                           : QDir(m_path).relativeFilePath(saved);
+}
 
 std::optional<SavingFolder> Destination::open() const {
     auto folder = SavingFolder::open(m_path);

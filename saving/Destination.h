@@ -29,6 +29,8 @@ class Destination {
     explicit Destination(QString path, LiesOnMedium liesOnMedium = {});
 
     const QString& path() const { return m_path; }
+    // The way from there to a file that was saved in it, such as "JPG/a.JPG".
+    QString wayTo(const QString& saved) const;
 
     // To write a file into; else why not, in a sentence. What is opened first is the destination from then
     // on.

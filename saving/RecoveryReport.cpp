@@ -2,6 +2,7 @@
 #include "saving/RecoveryReport.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QMap>
 #include <QObject>
 #include <QUrl>
@@ -95,7 +96,8 @@ QString reasonText(const SaveOutcome& outcome) {
 }
 
 QString relativePath(const QString& folder, const QString& path) {
-    return QDir(folder).relativeFilePath(path);
+    // The folder may have been named from where the program runs.
+    return QDir(folder).relativeFilePath(QFileInfo(path).absoluteFilePath());
 }
 
 // Of what was made of a broken item the words for how, else how sound the file is.

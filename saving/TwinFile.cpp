@@ -1,6 +1,5 @@
 #include "saving/TwinFile.h"
 
-#include <QDir>
 #include <QObject>
 #include <algorithm>
 #include <vector>
@@ -69,7 +68,7 @@ TwinPlace placeOfTwin(const std::shared_ptr<Destination>& destination, const Fou
     if (!saved.saved) {
         return {destination, safePathComponent(item.type), item.name};
     }
-    const QString path = QDir(destination->path()).relativeFilePath(saved.path);
+    const QString path = destination->wayTo(saved.path);
     return {destination, path.section(u'/', 0, -2), path.section(u'/', -1)};
 }
 

@@ -4,10 +4,14 @@
 #include <sys/mount.h>
 #include <unistd.h>
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QThread>
+#include <QUrl>
 #include <random>
 
 #include "formats/Registry.h"
@@ -46,6 +50,23 @@ QSet<QByteArray> undisturbed(const QString& mode) {
 }
 
 }  // namespace
+
+TEST(SavingCommand, ReportLeadsToTheFilesOfAFolderThatWasNamedFromHere) {
+    const QTemporaryDir folder;
+    const QString here = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(folder.path()));
+    const CommandRun run = runCommand({"--report", "--save", "out", VANTOR_SAMPLE_CARD});
+    ASSERT_TRUE(QDir::setCurrent(here));
+    ASSERT_EQ(run.exitCode, 0) << run.err.toStdString();
+    const QString page = QString::fromUtf8(contentsOf(folder.filePath("out/Recovery report.html")));
+    static const QRegularExpression kLink("href=\"\\./([^\"]*)\"");
+    int links = 0;
+    for (auto link = kLink.globalMatch(page); link.hasNext(); ++links) {
+        const QString target = QUrl::fromPercentEncoding(link.next().captured(1).toLatin1());
+        EXPECT_TRUE(QFileInfo(folder.filePath("out/" + target)).isFile()) << target.toStdString();
+    }
+    EXPECT_GT(links, 10);
+}
 
 TEST(SavingCommand, FilesOfTheSampleCardComeBackToTheByte) {
     const QList<SampleFile> files = cardFiles();
