@@ -125,7 +125,7 @@ Extent walkAsf(ByteView& view) {
     if (!properties.broadcast && properties.fileBytes > view.size() && at <= view.size())
         return cutOffAt(view, view.size(), facts);
     const Extent whole = completeAt(view, at, facts);
-    return found == Packets::Found ? withContent(whole) : whole;
+    return found == Packets::Found ? withFrames(whole) : whole;
 }
 
 }  // namespace

@@ -68,6 +68,8 @@ class RiffWalk {
     ByteView& m_view;
     const Endian m_endian;
     std::uint64_t m_at = 0;
+    bool isMovie() const { return std::string_view(m_form.data(), m_form.size()) == "AVI "; }
+
     std::array<char, 4> m_form{};
     std::uint64_t m_wideOuter = 0;  // 64-bit sizes of an RF64 file
     std::uint64_t m_wideData = 0;
@@ -235,14 +237,15 @@ Extent RiffWalk::ended() const {
         return spoiltUpTo(m_view, m_at, m_facts);
     if (m_miscounted)
         return inexact(whole);
-    return m_looked ? withContent(whole) : whole;
+    if (!m_looked)
+        return whole;
+    return isMovie() ? withFrames(whole) : withContent(whole);
 }
 
 Extent RiffWalk::walk() {
     Step step = outer();
     // An AVI beyond its first gigabyte goes on in further outer chunks.
-    const bool avi = std::string_view(m_form.data(), m_form.size()) == "AVI ";
-    for (std::uint32_t more = 0; step == Step::Done && avi && more < kRiffMostChunks; ++more) {
+    for (std::uint32_t more = 0; step == Step::Done && isMovie() && more < kRiffMostChunks; ++more) {
         if (!m_view.matches(m_at, "RIFF") || !m_view.matches(m_at + 8, "AVIX"))
             break;
         step = outer();
