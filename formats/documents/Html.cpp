@@ -5,11 +5,15 @@
 
 #include "formats/Format.h"
 #include "formats/TextReader.h"
+#include "formats/documents/Text.h"
 
 namespace vantor {
 
 Extent walkHtml(ByteView& view) {
     constexpr std::string_view kClose = "</html>";
+    constexpr std::string_view kLittle("\xFF\xFE<\0", 4), kBig("\xFE\xFF\0<", 4);
+    if (view.matches(0, kLittle) || view.matches(0, kBig))
+        return walkText(view);
     std::uint64_t at = behindByteOrderMark(view);
     while (isTextSpace(view.u8(at).value_or(0)) && at < 256)
         ++at;
@@ -21,7 +25,7 @@ Extent walkHtml(ByteView& view) {
         if (matchesAnyCase(view, tag.at, kClose))
             return completeAt(view, behindBlanks(view, tag.at + kClose.size()));
     }
-    return inexact(end == view.size() ? cutOffAt(view, end) : completeAt(view, end));
+    return inexact(end == view.size() ? cutOffAt(view, end) : completeAt(view, readableEnd(view, at)));
 }
 
 extern constexpr Format kHtml = {

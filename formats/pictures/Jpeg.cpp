@@ -15,6 +15,7 @@ namespace {
 
 constexpr std::uint8_t kEoi = 0xD9;
 constexpr std::uint8_t kSos = 0xDA;
+constexpr std::uint8_t kLosslessFrame = 0xF7;  // of JPEG-LS
 
 // Coded pictures hold an 0xFF every 256 bytes on average. A stretch this long without one is foreign (zeros,
 // text) unless the picture goes on properly behind it, as blank areas can.
@@ -50,8 +51,10 @@ class JpegWalk {
     std::uint64_t m_suspect = 0;       // start of the first suspicious run in the scan; 0 = none
     std::uint64_t m_multiPicture = 0;  // base of the multi-picture index; 0 = none
     bool m_sawFrame = false;
+    bool m_stuffsBits = false;  // a frame of JPEG-LS
     bool m_sawScan = false;
     bool m_sawMotionNote = false;
+    bool m_seesAround = false;  // was taken by a camera that sees all around
     JpegScan m_scan;
     bool m_scansSound = true;   // so far as they could be judged
     bool m_scansJudged = true;  // all of them
@@ -60,7 +63,7 @@ class JpegWalk {
 
 bool isFrame(std::uint8_t marker) {
     return (marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC) ||
-           marker == 0xF7;
+           marker == kLosslessFrame;
 }
 
 // Tables, applications, comments, JPEG-LS parameters.
@@ -69,12 +72,21 @@ bool isTable(std::uint8_t marker) {
            marker == 0xFE;
 }
 
+bool holdsText(ByteView& view, std::uint64_t at, std::uint64_t bytes, std::string_view text) {
+    const auto to = addClamped(at, bytes);
+    auto first = view.find(static_cast<std::uint8_t>(text[0]), at, to);
+    while (first.found() && !view.matches(first.at, text))
+        first = view.find(static_cast<std::uint8_t>(text[0]), first.at + 1, to);
+    return first.found();
+}
+
 void JpegWalk::application(std::uint8_t marker, std::uint64_t at, std::uint64_t length) {
     if (marker == 0xE1 && m_view.matches(at, std::string_view("Exif\0\0", kExifHeaderBytes))) {
         Facts exif;
         addTiffFacts(m_view, at + kExifHeaderBytes, exif);
         if (!m_facts.taken)
             m_facts.taken = exif.taken;
+        m_seesAround = m_seesAround || holdsText(m_view, at, length, "Insta360");
     } else if (marker == 0xE2 && m_view.matches(at, std::string_view("MPF\0", 4))) {
         m_multiPicture = at + 4;
     } else if (marker == 0xE1 && m_view.matches(at, "http://ns.adobe.com/xap/1.0/")) {
@@ -121,6 +133,7 @@ JpegWalk::Step JpegWalk::segment() {
     const std::uint64_t end = at + 2 + *length;
     if (isFrame(*marker) && !m_sawFrame) {
         m_sawFrame = true;
+        m_stuffsBits = *marker == kLosslessFrame;
         m_facts.height = m_view.be16(body + 1).value_or(0);
         m_facts.width = m_view.be16(body + 3).value_or(0);
     }
@@ -167,7 +180,8 @@ JpegWalk::Step JpegWalk::scan() {
         const auto next = search.found() ? m_view.u8(hit + 1) : std::nullopt;
         if (!next)
             return Step::Cut;
-        if (*next == 0) {
+        // Behind 0xFF, JPEG-LS stuffs a bit where JPEG stuffs a byte (ITU-T T.87, A.1).
+        if (*next == 0 || (m_stuffsBits && *next < 0x80)) {
             m_at = hit + 2;
             continue;
         }
@@ -226,13 +240,16 @@ Extent JpegWalk::furtherPictures() {
     return extent;
 }
 
-// A short movie that phones put behind the picture, either at once or inside a named block of a maker's
-// trailer.
+// What a camera put behind the picture: a trailer, or a short movie, either at once or inside a named block
+// of a maker's trailer.
 std::optional<Extent> JpegWalk::motionPhoto() {
     constexpr std::string_view kBlockName = "MotionPhoto_Data";
     std::uint64_t at = m_at;
     if (const auto end = endOfMakerTrailer(m_view, at))
         return withContent(completeAt(m_view, end, m_facts));
+    const auto sphere = m_seesAround ? endOfSphereTrailer(m_view, at) : 0;
+    if (sphere != 0)
+        return completeAt(m_view, sphere, m_facts);
     if (m_view.matches(at + 8, kBlockName))
         at += 8 + kBlockName.size();
     else if (!m_sawMotionNote && isSectorStart(at))
@@ -322,7 +339,7 @@ extern constexpr Format kJpeg = {
     .name = "JPEG",
     .group = Group::Pictures,
     .walk = walkJpeg,
-    .extensions = " JPG JPEG JPE JFIF JIF MPO THM INSP ",
+    .extensions = " JPG JPEG JPE JFIF JIF JLS MPO THM INSP ",
 };
 
 }  // namespace vantor
