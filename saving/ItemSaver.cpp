@@ -58,6 +58,10 @@ SaveOutcome ItemSaver::save(const FoundItem& item) const {
     return outcome;
 }
 
+void ItemSaver::setStopDecoding(StopRequest stop) const {
+    m_state->stopDecoding = std::move(stop);
+}
+
 void ItemSaver::beginRound() const {
     m_state->claims.reset();
     m_state->within.clear();
@@ -215,7 +219,9 @@ bool ItemSaver::decodes(const FoundItem& item, const SaveOutcome& outcome) const
     const auto [known, fresh] =
         m_state->decoded.try_emplace({outcome.pieces > 1 ? ~first : first, outcome.bytes}, false);
     if (fresh) {
-        known->second = m_state->trials.decodes(file.descriptor(), [&item] { return isUnwanted(item); });
+        known->second = m_state->trials.decodes(file.descriptor(), [&] {
+            return isUnwanted(item) || (m_state->stopDecoding && m_state->stopDecoding());
+        });
     }
     return known->second;
 }

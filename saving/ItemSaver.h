@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "formats/Extent.h"
+#include "media/AbandonableSource.h"
 #include "media/SectorReader.h"
 #include "results/CarvedRun.h"
 #include "results/ItemBytes.h"
@@ -99,6 +100,9 @@ class ItemSaver {
     ~ItemSaver();
 
     const SavePolicy& policy() const { return m_policy; }
+    // Saved movies are not decoded any more, to see whether they are whole, once it says so; asked on any
+    // thread.
+    void setStopDecoding(StopRequest stop) const;
     // For what is written beside the items, and to be asked behind the last of all.
     const std::shared_ptr<Destination>& destination() const { return m_destination; }
 

@@ -42,6 +42,7 @@ struct ItemSaver::State {
     FilesWithin waiting;                 // that will perhaps be
     std::optional<LengthClaims> claims;  // of the choice at hand
     ContentTrials trials;
+    StopRequest stopDecoding;
     std::map<std::pair<std::uint64_t, std::uint64_t>, bool> decoded;  // what was tried, by place and length
     std::set<QString> folders;                                        // below it, that were written into
     QStringList madeFolders;  // that were not there before this saver; the outer ones first

@@ -1,8 +1,10 @@
 // What is said of a saved movie of which only the frames' heads and lengths could be followed.
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QTemporaryDir>
+#include <memory>
 
 #include "decode/DecodePool.h"
 #include "saving/ItemSaver.h"
@@ -33,6 +35,13 @@ class SavedMovie : public testing::Test {
                               {{{0, reader.mediumSectors()}}, false}, reader);
     }
 
+    // The helper is looked for beside the program.
+    int argumentCount = 1;
+    char name[12] = "saving_test";
+    char* arguments[2] = {name, nullptr};
+    const std::unique_ptr<QCoreApplication> program =
+        QCoreApplication::instance() == nullptr ? std::make_unique<QCoreApplication>(argumentCount, arguments)
+                                                : nullptr;
     const QTemporaryDir folder;
     const ItemSaver saver{folder.path()};
     QByteArray movie;
@@ -47,6 +56,13 @@ TEST_F(SavedMovie, ThatDecodes_IsChecked_UnderEachOfItsTypes) {
         EXPECT_TRUE(outcome.contentChecked());
         EXPECT_TRUE(soundnessOf(outcome)->checked);
     }
+}
+
+TEST_F(SavedMovie, OnceThereIsToBeAnEnd_IsNotDecoded) {
+    saver.setStopDecoding([] { return true; });
+    const SaveOutcome outcome = save("MOV");
+    EXPECT_TRUE(outcome.saved);
+    EXPECT_FALSE(outcome.contentChecked());
 }
 
 TEST_F(SavedMovie, WithAForeignCluster_EndsWhereItSays) {
