@@ -97,6 +97,7 @@ void CliSession::run() {
             },
             m_liesOnMedium);
         m_savedInto = m_queue->saver().destination();
+        m_queue->saver().setStopDecoding([this] { return stop_now != 0; });
     }
     if (m_options.mode == kPhotoMode) {
         Photo_Rec_Thread();

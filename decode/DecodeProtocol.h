@@ -58,6 +58,7 @@ struct MovieTrialCounts {
     std::uint32_t pictures = 0;
     std::uint32_t soundFrames = 0;
     std::uint32_t errors = 0;
+    std::uint32_t whole = 0;  // 1: all was decoded, by decoders that notice what is not theirs
 };
 constexpr std::uint32_t kMovieTrialWords = sizeof(MovieTrialCounts) / kBytesPerPixel;
 
@@ -84,6 +85,7 @@ constexpr int kMaxDescriptors = 3;
 
 enum RequestFlags : std::uint32_t {
     kReducedWillDo = 1,  // (pictures) a smaller one that the file brings along, where the full one is no use
+    kOnlyWhole = 2,      // (TryMovie) ends as soon as it is known that not all of it decodes and is judged
 };
 
 struct Request {

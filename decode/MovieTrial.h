@@ -24,4 +24,8 @@ constexpr std::chrono::milliseconds kMostTrialTime{60000};
 std::optional<MovieTrial> tryMovie(int descriptor, TrialLength length,
                                    const MovieReaderOptions& options = {});
 
+// Whether all pictures and sound of the opened file decode without a complaint in so much time, by decoders
+// that notice what is not theirs; those of some codings take any bytes.
+bool decodesInFull(int descriptor, std::chrono::milliseconds most, const MovieReaderOptions& options = {});
+
 }  // namespace vantor

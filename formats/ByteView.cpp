@@ -211,6 +211,11 @@ Extent withContent(Extent extent) {
     return extent;
 }
 
+Extent withFrames(Extent extent) {
+    extent.framesOnly = true;
+    return withContent(extent);
+}
+
 Extent spoiltUpTo(const ByteView& view, std::uint64_t end, const Facts& facts) {
     Extent extent = damagedAt(view, end, facts);
     extent.endFound = true;

@@ -131,5 +131,6 @@ Extent spoiltUpTo(const ByteView& view, std::uint64_t end,
                   const Facts& facts = {});  // damaged inside, its end found
 Extent inexact(Extent extent);               // the same with exactEnd false
 Extent withContent(Extent extent);           // the same, its content checked
+Extent withFrames(Extent extent);            // the same, by its frames' heads and lengths alone
 
 }  // namespace vantor

@@ -52,6 +52,10 @@ struct Extent {
     // whatever stands between may be another's. Never true where the end is not exact.
     bool checked = false;
 
+    // Of a checked movie or sound: only the heads and lengths of its frames were followed, and what stands
+    // within one may be another's. Whether they decode tells.
+    bool framesOnly = false;
+
     // Of a damaged file: whether its own end was found all the same, behind what is spoilt. `end` is then the
     // file's length; else what follows a break may still be the file's.
     bool endFound = false;

@@ -27,7 +27,7 @@ struct MendableItem {
     QString name;
     CarvedRun carved;
     bool complete = false;    // by its own format
-    bool checked = false;     // complete, and its content was looked at
+    bool checked = false;     // complete, and its content was looked at, or a movie's frames followed
     std::uint64_t bytes = 0;  // of a complete one
     std::size_t pieces = 1;   // that it lies in; of more than one the carved run tells the first alone
 };

@@ -109,6 +109,7 @@ MendingEnd MendingRun::work() {
         return MendingEnd::CannotOpen;
     }
     Medium medium(std::move(opened), *this);
+    m_trials.emplace(ContentTrials::kInPassing, m_order.helper);
     const std::vector<MendableItem> items = examineAll(medium);
     ItemMending mending(
         medium, m_stop, m_progress,
@@ -170,7 +171,7 @@ std::vector<MendableItem> MendingRun::examineAll(SectorReader& medium) {
             m_sharing.emplace(item->carved().runs.front().first, place);
         }
         items.push_back({place, item->fileType(), item->imageTitle(), item->carved(), complete,
-                         complete && soundness->checked, soundness->bytes, soundness->pieces});
+                         complete && soundness->followed, soundness->bytes, soundness->pieces});
     }
     return items;
 }
@@ -182,7 +183,7 @@ std::optional<Soundness> MendingRun::look(const MyImageObject& item, SectorReade
     hints.card = m_order.card;
     hints.mend = m_order.mended->provedOf(item);
     auto soundness =
-        examine(item.fileType(), item.carved(), medium, m_watch, kept, kMostExaminedBytes, hints);
+        examine(item.fileType(), item.carved(), medium, m_watch, kept, kMostExaminedBytes, hints, &*m_trials);
     return m_stop == 0 ? std::move(soundness) : std::nullopt;
 }
 

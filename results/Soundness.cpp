@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QStringList>
 
+#include "decode/ContentTrials.h"
 #include "formats/ExifCamera.h"
 #include "results/ItemBytes.h"
 #include "results/SizeForPeople.h"
@@ -22,7 +23,7 @@ QString words(const Soundness& soundness) {
 
 std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, SectorReader& medium,
                                  ReadWatch& watch, std::vector<std::uint8_t>& kept, std::uint64_t mostBytes,
-                                 const ItemHints& hints) {
+                                 const ItemHints& hints, ContentTrials* trials) {
     WatchedReader watched(medium, watch, mostBytes / kSectorBytes);
     const ItemSource source{carved,  {},   [&watched] { return &watched; }, medium.mediumSectors(), false,
                             nullptr, hints};
@@ -47,7 +48,17 @@ std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, S
     if (soundness.unreadable && soundness.verdict == Verdict::Complete) {
         soundness.verdict = Verdict::Damaged;
     }
-    soundness.checked = soundness.verdict == Verdict::Complete && length.extent.checked;
+    soundness.followed = soundness.verdict == Verdict::Complete && length.extent.checked;
+    soundness.checked = soundness.followed;
+    const bool proved = hints.mend && truth.assembly;
+    if (soundness.checked && length.extent.framesOnly && !proved) {
+        const StopRequest stop = [&watch] { return watch.ended.load(); };
+        soundness.checked = trials != nullptr && trials->decodes(found.bytes(), length.bytes, stop) &&
+                            bytes.sectorsUnreadable(length.bytes) == 0;
+        if (watch.ended) {
+            return std::nullopt;
+        }
+    }
     soundness.notOfItsType = !soundness.unreadable && isCertainlyUnsound(type, length.extent);
     soundness.bytes = length.bytes;
     soundness.width = facts.width;

@@ -15,6 +15,8 @@
 
 namespace vantor {
 
+class ContentTrials;
+
 struct Soundness {
     Verdict verdict = Verdict::Unknown;
     bool unreadable = false;    // some of its sectors could not be read
@@ -23,19 +25,22 @@ struct Soundness {
     std::uint32_t width = 0;    // pixels; 0: not told
     std::uint32_t height = 0;
     std::optional<CivilTime> taken;
-    bool checked = false;  // complete, and its content was looked at; else it only ends where it says
+    // Complete, and its content was looked at, a movie's by decoding it; else it only ends where it says.
+    bool checked = false;
     std::shared_ptr<const CardFile> original = {};  // what the card tells of it; null: nothing certain
     std::size_t pieces = 1;                         // on the medium
     QString camera = {};                            // that took it, as the file says; "": not told
+    bool followed = false;  // as `checked`, where a movie's frames need not have been decoded
 };
 
 // Follows the item's own structure on the medium as saving does, without saving. A file that takes more than
 // `mostBytes` of reading is of unknown soundness. Nothing when the watch was ended meanwhile. `kept`
-// is memory that serves many items.
+// is memory that serves many items; without `trials` no movie counts as checked, but what was put together.
 inline constexpr std::uint64_t kMostExaminedBytes = std::uint64_t{256} << 20;
 std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, SectorReader& medium,
                                  ReadWatch& watch, std::vector<std::uint8_t>& kept,
-                                 std::uint64_t mostBytes = kMostExaminedBytes, const ItemHints& hints = {});
+                                 std::uint64_t mostBytes = kMostExaminedBytes, const ItemHints& hints = {},
+                                 ContentTrials* trials = nullptr);
 
 // "complete", "cut off", "damaged" or "unknown", for machines.
 QString soundnessText(Verdict verdict);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "decode/ContentTrials.h"
 #include "results/MyImageObject.h"
 
 namespace vantor {
@@ -26,6 +27,7 @@ struct SoundnessBoard::Turn {
     std::optional<std::uint64_t> goodSector;
     int silentItems = 0;
     std::vector<std::uint8_t> kept;
+    ContentTrials trials{ContentTrials::kInPassing};
 };
 
 SoundnessBoard::SoundnessBoard(ItemAt itemAt, HintsOf hintsOf)
@@ -107,9 +109,11 @@ void SoundnessBoard::rest(bool resting) {
 void SoundnessBoard::note(std::size_t index, const Soundness& soundness) {
     const std::lock_guard lock(m_mutex);
     Soundness noted = soundness;
-    // Whoever saves a file does not ask for its camera.
-    if (const auto known = m_known.find(index); known != m_known.end() && noted.camera.isEmpty()) {
-        noted.camera = known->second.camera;
+    if (const auto known = m_known.find(index); known != m_known.end()) {
+        // Whoever saves a file does not ask for its camera, and may have no time left to decode it.
+        noted.camera = noted.camera.isEmpty() ? known->second.camera : noted.camera;
+        noted.checked =
+            noted.checked || (noted.followed && known->second.checked && known->second.bytes == noted.bytes);
     }
     store(index, noted);
 }
@@ -236,7 +240,7 @@ std::optional<Soundness> SoundnessBoard::look(const MyImageObject& item, Turn& t
     }
     const std::uint64_t readBefore = m_watch.sectorsRead;
     const auto found = examine(item.fileType(), item.carved(), *turn.medium, m_watch, turn.kept,
-                               kMostExaminedBytes, m_hintsOf ? m_hintsOf(item) : ItemHints{});
+                               kMostExaminedBytes, m_hintsOf ? m_hintsOf(item) : ItemHints{}, &turn.trials);
     if (turn.kept.capacity() > kMostKeptMemory) {
         turn.kept = {};
     }

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "decode/RegularFile.h"
 #include "results/TrueLength.h"
 #include "saving/ItemSaverState.h"
 
@@ -52,8 +53,13 @@ SaveOutcome ItemSaver::save(const FoundItem& item) const {
     } else if (chosen) {
         saveBytes(item, *destination, bytes, outcome);
         noteWhole(item, outcome);
+        outcome.framesOnly = outcome.framesOnly && !decodes(item, outcome);
     }
     return outcome;
+}
+
+void ItemSaver::setStopDecoding(StopRequest stop) const {
+    m_state->stopDecoding = std::move(stop);
 }
 
 void ItemSaver::beginRound() const {
@@ -143,6 +149,8 @@ bool ItemSaver::decideLength(const FoundItem& item, ItemBytes& found, SaveOutcom
     outcome.bytes = length.bytes;
     outcome.verdict = verdictOf(truth);
     outcome.checked = length.extent.checked;
+    // What was put together was proved then.
+    outcome.framesOnly = length.extent.framesOnly && !(item.source.hints.mend && truth.assembly);
     outcome.exactLength =
         truth.lengthIsTold || (length.extent.verdict == Verdict::Complete && length.extent.exactEnd);
     outcome.taken = facts.taken;
@@ -201,6 +209,23 @@ void ItemSaver::noteWhole(const FoundItem& item, const SaveOutcome& outcome) con
     }
 }
 
+// Of a movie that was saved whole. Types that share a header share the bytes, which are tried once.
+bool ItemSaver::decodes(const FoundItem& item, const SaveOutcome& outcome) const {
+    const decode::RegularFile file(outcome.saved && outcome.checked ? outcome.path : QString());
+    if (!file.isOpen() || outcome.sectorsUnreadable != 0) {
+        return false;
+    }
+    const std::uint64_t first = firstSectorOf(item);
+    const auto [known, fresh] =
+        m_state->decoded.try_emplace({outcome.pieces > 1 ? ~first : first, outcome.bytes}, false);
+    if (fresh) {
+        known->second = m_state->trials.decodes(file.descriptor(), [&] {
+            return isUnwanted(item) || (m_state->stopDecoding && m_state->stopDecoding());
+        });
+    }
+    return known->second;
+}
+
 std::optional<Soundness> soundnessOf(const SaveOutcome& outcome) {
     const bool known =
         outcome.saved || (outcome.leftOut != LeftOut::No && outcome.leftOut != LeftOut::StillThere);
@@ -214,9 +239,11 @@ std::optional<Soundness> soundnessOf(const SaveOutcome& outcome) {
                      outcome.width,
                      outcome.height,
                      outcome.taken,
-                     outcome.checked,
+                     outcome.contentChecked(),
                      outcome.original,
-                     outcome.pieces};
+                     outcome.pieces,
+                     {},
+                     outcome.checked};
 }
 
 }  // namespace vantor

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "formats/Extent.h"
+#include "media/AbandonableSource.h"
 #include "media/SectorReader.h"
 #include "results/CarvedRun.h"
 #include "results/ItemBytes.h"
@@ -45,7 +46,9 @@ struct SaveOutcome {
     bool mediumGone = false;              // before all of it was read: another time may give more
     // Of the file as saved: Complete only when all of its sectors could be read.
     Verdict verdict = Verdict::Unknown;
-    bool checked = false;            // complete, and its content was looked at
+    // Complete, and its content was looked at, but of a movie's no more than its frames' heads and lengths
+    // where only these were followed and it was not decoded without an error.
+    bool checked = false, framesOnly = false;
     bool exactLength = true;         // false: the format does not mark its end to the byte
     std::optional<CivilTime> taken;  // also the file's modification time
     std::uint32_t width = 0;         // pixels; 0: not told
@@ -56,6 +59,7 @@ struct SaveOutcome {
     std::vector<SectorRun> runs;               // of more than one piece
     std::shared_ptr<const Mend> mend;          // of a file made of a broken item
 
+    bool contentChecked() const { return checked && !framesOnly; }
     // Among those that wait: whole files before broken ones, and before what may be their parts.
     bool comesFirst() const { return verdict == Verdict::Complete && partOf.isEmpty(); }
 };
@@ -96,6 +100,9 @@ class ItemSaver {
     ~ItemSaver();
 
     const SavePolicy& policy() const { return m_policy; }
+    // Saved movies are not decoded any more, to see whether they are whole, once it says so; asked on any
+    // thread.
+    void setStopDecoding(StopRequest stop) const;
     // For what is written beside the items, and to be asked behind the last of all.
     const std::shared_ptr<Destination>& destination() const { return m_destination; }
 
@@ -126,6 +133,7 @@ class ItemSaver {
     bool isStillThere(const FoundItem& item) const;
     bool isPart(const FoundItem& item, SaveOutcome& outcome) const;
     void noteWhole(const FoundItem& item, const SaveOutcome& outcome) const;
+    bool decodes(const FoundItem& item, const SaveOutcome& outcome) const;
     bool decideLength(const FoundItem& item, ItemBytes& bytes, SaveOutcome& outcome) const;
     static std::optional<std::uint64_t> toldLengthOf(const FoundItem& item);
     TrueLength lengthOf(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const;

@@ -102,7 +102,7 @@ QString relativePath(const QString& folder, const QString& path) {
 
 // Of what was made of a broken item the words for how, else how sound the file is.
 QString soundnessOrMend(const SaveOutcome& outcome) {
-    return outcome.mend ? describe(*outcome.mend) : soundnessWords(outcome.verdict, outcome.checked);
+    return outcome.mend ? describe(*outcome.mend) : soundnessWords(outcome.verdict, outcome.contentChecked());
 }
 
 QString stateText(const SaveOutcome& outcome) {
@@ -196,7 +196,7 @@ QString itemRow(const ReportedItem& item, const QString& folder, const ReportThu
                              .arg(QLatin1String(kind), QString::fromLatin1(bytes.toBase64())));
     }
     static const char* const kClasses[] = {"unknown", "complete", "cut", "damaged"};
-    const bool unchecked = outcome.verdict == Verdict::Complete && !outcome.checked;
+    const bool unchecked = outcome.verdict == Verdict::Complete && !outcome.contentChecked();
     const QString soundness =
         outcome.saved
             ? QStringLiteral("<span class=\"%1\">%2</span>")
@@ -296,7 +296,7 @@ void csvTo(const Pieces& add, const ReportHead& head, const std::vector<Reported
             QString::number(o.height),
             resultText(o),
             quoted(o.saved ? relativePath(folder, o.path) : reasonText(o)),
-            o.checked ? QStringLiteral("yes") : QStringLiteral("no"),
+            o.contentChecked() ? QStringLiteral("yes") : QStringLiteral("no"),
             o.original ? quoted(originalPath(*o.original)) : QString(),
             o.original ? stateOf(*o.original) : QString(),
             o.original && o.original->modified ? dateText(*o.original->modified) : QString(),

@@ -51,7 +51,7 @@ void SaveTally::add(const QString& name, const SaveOutcome& outcome) {
     }
     switch (outcome.verdict) {
         case Verdict::Complete:
-            ++(outcome.checked ? complete : unchecked);
+            ++(outcome.contentChecked() ? complete : unchecked);
             break;
         case Verdict::CutOff:
             ++cutOff;

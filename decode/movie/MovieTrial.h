@@ -6,8 +6,9 @@
 
 namespace vantor::decode {
 
-// Takes the descriptor over. Ends after so many milliseconds, or a step's time when that is longer. The
-// numbers of a MovieTrialCounts; empty when the bytes are no movie.
-std::vector<std::uint32_t> tryMovie(int descriptor, std::int64_t mostMs);
+// Takes the descriptor over. Ends after so many milliseconds, or a step's time when that is longer; with
+// `onlyWhole` as soon as not all of it can be judged and without complaint. The numbers of a
+// MovieTrialCounts; empty when the bytes are no movie.
+std::vector<std::uint32_t> tryMovie(int descriptor, std::int64_t mostMs, bool onlyWhole);
 
 }  // namespace vantor::decode

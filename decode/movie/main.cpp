@@ -60,7 +60,8 @@ class MovieJobDecoder : public JobDecoder {
                 return numbers(job, job.file < 0
                                         ? std::vector<std::uint32_t>()
                                         : tryMovie(dup(job.file),
-                                                   std::clamp<std::int64_t>(job.request.timeMs, 0, kMostMs)));
+                                                   std::clamp<std::int64_t>(job.request.timeMs, 0, kMostMs),
+                                                   (job.request.flags & kOnlyWhole) != 0));
             case RequestKind::Picture:
             case RequestKind::ReadCard:
             case RequestKind::MoreOfCard:

@@ -140,7 +140,7 @@ Extent walkAsf(ByteView& view) {
     const Extent whole = completeAt(view, at, facts);
     if (open)
         return inexact(whole);
-    return found == Packets::Found ? withContent(whole) : whole;
+    return found == Packets::Found ? withFrames(whole) : whole;
 }
 
 }  // namespace

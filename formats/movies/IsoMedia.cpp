@@ -167,7 +167,9 @@ Extent walkIsoMedia(ByteView& view) {
     const Extent extent = completeAt(view, walk.at, walk.facts);
     // Nothing else tells that no fragment followed the last one.
     const bool lastKnown = !walk.seen.fragment || walk.seen.fragmentIndex;
-    return check.outcome == ContentCheck::Outcome::Sound && lastKnown ? withContent(extent) : extent;
+    if (check.outcome != ContentCheck::Outcome::Sound || !lastKnown)
+        return extent;
+    return walk.movie || walk.seen.fragment ? withFrames(extent) : withContent(extent);
 }
 
 }  // namespace

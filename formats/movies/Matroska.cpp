@@ -225,7 +225,7 @@ Extent MatroskaWalk::segment(const Element& segment) {
         return spoiltUpTo(m_view, m_at, m_facts);
     const Extent whole = completeAt(m_view, m_at, m_facts);
     // One block that is most of the file says little of it.
-    return m_sawCluster && m_widest <= segment.bytes / 4 ? withContent(whole) : whole;
+    return m_sawCluster && m_widest <= segment.bytes / 4 ? withFrames(whole) : whole;
 }
 
 Extent MatroskaWalk::walk() {

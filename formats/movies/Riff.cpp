@@ -69,7 +69,8 @@ class RiffWalk {
     ByteView& m_view;
     const Endian m_endian;
     std::uint64_t m_at = 0;
-    std::array<char, 4> m_form{};
+    std::array<char, 4> m_form{};  // of the outer chunk at hand
+    bool m_isMovie = false;
     std::uint64_t m_wideOuter = 0;  // 64-bit sizes of an RF64 file
     std::uint64_t m_wideData = 0;
     bool m_sawPayload = false;
@@ -272,14 +273,16 @@ Extent RiffWalk::ended() const {
         return spoiltUpTo(m_view, m_at, m_facts);
     if (m_miscounted)
         return inexact(whole);
-    return m_looked ? withContent(whole) : whole;
+    if (!m_looked)
+        return whole;
+    return m_isMovie ? withFrames(whole) : withContent(whole);
 }
 
 Extent RiffWalk::walk() {
     Step step = outer();
+    m_isMovie = std::string_view(m_form.data(), m_form.size()) == "AVI ";
     // An AVI beyond its first gigabyte goes on in further outer chunks.
-    const bool avi = std::string_view(m_form.data(), m_form.size()) == "AVI ";
-    for (std::uint32_t more = 0; step == Step::Done && avi && more < kRiffMostChunks; ++more) {
+    for (std::uint32_t more = 0; step == Step::Done && m_isMovie && more < kRiffMostChunks; ++more) {
         if (!m_view.matches(m_at, "RIFF") || !m_view.matches(m_at + 8, "AVIX"))
             break;
         step = outer();
