@@ -10,7 +10,7 @@
 namespace vantor {
 
 Extent walkHtml(ByteView& view) {
-    constexpr std::string_view kClose = "</html>";
+    constexpr std::string_view kClose = "</html";
     std::uint64_t at = behindByteOrderMark(view);
     while (isTextSpace(view.u8(at).value_or(0)) && at < 256)
         ++at;
@@ -19,8 +19,13 @@ Extent walkHtml(ByteView& view) {
         return unknownExtent();
     const auto end = textEnd(view, at);
     for (auto tag = view.find('<', at, end); tag.found(); tag = view.find('<', tag.at + 1, end)) {
-        if (matchesAnyCase(view, tag.at, kClose))
-            return completeAt(view, behindBlanks(view, tag.at + kClose.size()));
+        if (!matchesAnyCase(view, tag.at, kClose))
+            continue;
+        auto close = tag.at + kClose.size();
+        while (close < end && isTextSpace(view.u8(close).value_or(0)))
+            ++close;
+        if (view.u8(close) == '>')
+            return completeAt(view, behindBlanks(view, close + 1));
     }
     return inexact(end == view.size() ? cutOffAt(view, end) : completeAt(view, readableEnd(view, at)));
 }

@@ -158,6 +158,13 @@ TEST(LeftBehind, LineEnds_NeedFewZerosToBeTheFiles) {
     EXPECT_EQ(end(full, Build().text("\n\n\n\n\n").fill(900)), 1024U);
 }
 
+TEST(HtmlHabits, BlanksInsideTheClosingTag_AreAllowed) {
+    for (const std::string close : {"</HTML\n>", "</html >\n", "</Html>"}) {
+        const Bytes file = Build().text("<html><body>a</htmlx></body\n>" + close);
+        expectEnd("HTML", Build().add(file).text("x\xA7z\x91q\1").add(noise(900, 5)), file.size());
+    }
+}
+
 TEST(HtmlHabits, WithoutItsClosingTag_ItEndsBeforeForeignLetters) {
     const Bytes file =
         Build().text("<html><body>\n" + std::string(1500, 'a') + "\n<p>Bl\xC3\xBCten</p></body>\n");
