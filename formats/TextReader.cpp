@@ -29,6 +29,19 @@ std::uint64_t behindBlanks(ByteView& view, std::uint64_t at) {
     return at;
 }
 
+std::uint64_t behindRemarks(ByteView& view, std::uint64_t at, std::string_view open, std::string_view close) {
+    for (std::uint64_t end = at; !isSectorStart(end) && view.matches(end, open);) {
+        for (end += open.size(); !view.matches(end, close); ++end) {
+            const auto byte = view.u8(end);
+            if (!byte || isForeign(*byte) || isSectorStart(end))
+                return at;
+        }
+        end += close.size();
+        at = end = behindBlanks(view, end);
+    }
+    return at;
+}
+
 std::uint64_t behindByteOrderMark(ByteView& view) {
     return view.matches(0, "\xEF\xBB\xBF") ? 3 : 0;
 }

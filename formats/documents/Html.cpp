@@ -11,6 +11,9 @@ namespace vantor {
 
 Extent walkHtml(ByteView& view) {
     constexpr std::string_view kClose = "</html";
+    constexpr std::string_view kLittle("\xFF\xFE<\0", 4), kBig("\xFE\xFF\0<", 4);
+    if (view.matches(0, kLittle) || view.matches(0, kBig))
+        return walkText(view);
     std::uint64_t at = behindByteOrderMark(view);
     while (isTextSpace(view.u8(at).value_or(0)) && at < 256)
         ++at;
@@ -25,7 +28,7 @@ Extent walkHtml(ByteView& view) {
         while (close < end && isTextSpace(view.u8(close).value_or(0)))
             ++close;
         if (view.u8(close) == '>')
-            return completeAt(view, behindBlanks(view, close + 1));
+            return completeAt(view, behindRemarks(view, behindBlanks(view, close + 1), "<!--", "-->"));
     }
     return inexact(end == view.size() ? cutOffAt(view, end) : completeAt(view, readableEnd(view, at)));
 }

@@ -83,7 +83,9 @@ Extent walkPostScriptText(ByteView& view) {
 }
 
 Extent walkPostScript(ByteView& view) {
-    if (view.matches(0, "%!PS"))
+    // Written by hand, its first line often says no more than that it is PostScript.
+    const auto third = view.u8(2).value_or(0);
+    if (view.matches(0, "%!PS") || (view.matches(0, "%!") && isTextSpace(third)))
         return walkPostScriptText(view);
     if (!view.matches(0, "\xC5\xD0\xD3\xC6"))
         return unknownExtent();

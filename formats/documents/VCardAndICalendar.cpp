@@ -1,4 +1,7 @@
 // Contacts (vCard) and calendars (iCalendar) by their last line. Sources: RFC 6350; RFC 5545.
+#include <algorithm>
+#include <iterator>
+
 #include "formats/Format.h"
 #include "formats/TextReader.h"
 
@@ -6,18 +9,34 @@ namespace vantor {
 
 namespace {
 
-// Cards or calendars one behind the other.
-Extent walkRecords(ByteView& view, std::string_view begin, std::string_view end) {
+// The name of the record that begins at `at`, in small letters; empty where none of these does.
+template <typename Names>
+std::string_view recordAt(ByteView& view, std::uint64_t at, const Names& names) {
+    constexpr std::string_view kBegin = "begin:";
+    if (!matchesAnyCase(view, at, kBegin))
+        return {};
+    const auto name = std::find_if(std::begin(names), std::end(names), [&](std::string_view each) {
+        return matchesAnyCase(view, at + kBegin.size(), each);
+    });
+    return name != std::end(names) ? *name : std::string_view();
+}
+
+// Cards or calendars one behind the other. Some writers leave empty lines in front.
+template <typename Names>
+Extent walkRecords(ByteView& view, const Names& names) {
+    constexpr std::uint64_t kMostLead = 64;
+    constexpr std::string_view kEnd = "end:";
     std::uint64_t at = behindByteOrderMark(view);
-    if (!matchesAnyCase(view, at, begin))
-        return unknownExtent();
+    for (std::uint64_t lead = 0; lead < kMostLead && isTextSpace(view.u8(at).value_or(0)); ++lead)
+        ++at;
     std::uint64_t whole = 0;
-    while (matchesAnyCase(view, at, begin)) {
+    for (auto name = recordAt(view, at, names); !name.empty(); name = recordAt(view, at, names)) {
         TextReader in(view, at);
         for (int last = '\n';;) {
             const auto here = in.at();
-            if (last == '\n' && matchesAnyCase(view, here, end)) {
-                at = whole = behindLineEnd(view, here + end.size());
+            if (last == '\n' && matchesAnyCase(view, here, kEnd) &&
+                matchesAnyCase(view, here + kEnd.size(), name)) {
+                at = whole = behindLineEnd(view, here + kEnd.size() + name.size());
                 break;
             }
             last = in.next();
@@ -27,16 +46,21 @@ Extent walkRecords(ByteView& view, std::string_view begin, std::string_view end)
                 return damagedAt(view, whole != 0 ? whole : here);
         }
     }
-    return completeAt(view, whole);
+    return whole != 0 ? completeAt(view, whole) : unknownExtent();
 }
 
 Extent walkContacts(ByteView& view) {
-    return inexact(
-        walkRecords(view, "begin:vcard", "end:vcard"));  // how many cards there are is told nowhere
+    constexpr std::string_view kCards[] = {"vcard"};
+    return inexact(walkRecords(view, kCards));  // how many cards there are is told nowhere
 }
 
+// Entries are also kept and sent without the calendar round them; how many there are is told nowhere then.
 Extent walkCalendar(ByteView& view) {
-    return walkRecords(view, "begin:vcalendar", "end:vcalendar");
+    constexpr std::string_view kCalendars[] = {"vcalendar"};
+    constexpr std::string_view kEntries[] = {"vevent",    "vtodo",     "vjournal",
+                                             "vtimezone", "vfreebusy", "valarm"};
+    const Extent calendars = walkRecords(view, kCalendars);
+    return calendars.verdict != Verdict::Unknown ? calendars : inexact(walkRecords(view, kEntries));
 }
 
 }  // namespace

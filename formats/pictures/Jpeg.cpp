@@ -15,6 +15,7 @@ namespace {
 
 constexpr std::uint8_t kEoi = 0xD9;
 constexpr std::uint8_t kSos = 0xDA;
+constexpr std::uint8_t kLosslessFrame = 0xF7;  // of JPEG-LS
 
 // Coded pictures hold an 0xFF every 256 bytes on average. A stretch this long without one is foreign (zeros,
 // text) unless the picture goes on properly behind it, as blank areas can.
@@ -50,6 +51,7 @@ class JpegWalk {
     std::uint64_t m_suspect = 0;       // start of the first suspicious run in the scan; 0 = none
     std::uint64_t m_multiPicture = 0;  // base of the multi-picture index; 0 = none
     bool m_sawFrame = false;
+    bool m_stuffsBits = false;  // a frame of JPEG-LS
     bool m_sawScan = false;
     bool m_sawMotionNote = false;
     bool m_seesAround = false;  // was taken by a camera that sees all around
@@ -61,7 +63,7 @@ class JpegWalk {
 
 bool isFrame(std::uint8_t marker) {
     return (marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC) ||
-           marker == 0xF7;
+           marker == kLosslessFrame;
 }
 
 // Tables, applications, comments, JPEG-LS parameters.
@@ -131,6 +133,7 @@ JpegWalk::Step JpegWalk::segment() {
     const std::uint64_t end = at + 2 + *length;
     if (isFrame(*marker) && !m_sawFrame) {
         m_sawFrame = true;
+        m_stuffsBits = *marker == kLosslessFrame;
         m_facts.height = m_view.be16(body + 1).value_or(0);
         m_facts.width = m_view.be16(body + 3).value_or(0);
     }
@@ -177,7 +180,8 @@ JpegWalk::Step JpegWalk::scan() {
         const auto next = search.found() ? m_view.u8(hit + 1) : std::nullopt;
         if (!next)
             return Step::Cut;
-        if (*next == 0) {
+        // Behind 0xFF, JPEG-LS stuffs a bit where JPEG stuffs a byte (ITU-T T.87, A.1).
+        if (*next == 0 || (m_stuffsBits && *next < 0x80)) {
             m_at = hit + 2;
             continue;
         }
@@ -335,7 +339,7 @@ extern constexpr Format kJpeg = {
     .name = "JPEG",
     .group = Group::Pictures,
     .walk = walkJpeg,
-    .extensions = " JPG JPEG JPE JFIF JIF MPO THM INSP ",
+    .extensions = " JPG JPEG JPE JFIF JIF JLS MPO THM INSP ",
 };
 
 }  // namespace vantor

@@ -18,6 +18,7 @@ struct KnownConfusion {
 inline constexpr KnownConfusion kKnownConfusions[] = {
     {"AC3", "MP3", "a stream cut for the web begins with an ID3 tag, as MP3 does; its sound comes after it"},
     {"ASF", "WMV", "one container: only the streams listed at changing places tell a WMV from an ASF"},
+    {"CSV", "", "lines of values without words that name their program"},
     {"DB", "SQLITE", "a database of SQLite is the same file under every ending"},
     {"DMG", "", "a compressed image has its mark in its last 512 bytes"},
     {"FPX", "DOC", "a compound document: its first sector says nothing of the program that wrote it"},
@@ -34,6 +35,7 @@ inline constexpr KnownConfusion kKnownConfusions[] = {
     {"OGG", "OPUS", "an Opus stream under the general ending"},
     {"TGZ", "GZ", "an archive behind GZip begins as any other file behind it"},
     {"THM", "JPG", "the small JPEG that a camera puts beside a movie or raw picture"},
+    {"TXT", "", "a text without a mark of its encoding"},
     {"VSD", "DOC", "a compound document: its first sector says nothing of the program that wrote it"},
     {"WMA", "WMV", "one container, and the list of videos has no sound"},
 };

@@ -40,6 +40,10 @@ Bytes isoBox(std::string_view name, const Bytes& body);
 Bytes pngChunk(std::string_view name, const Bytes& body);
 Bytes riffChunk(std::string_view name, const Bytes& body);
 Bytes jpeg(const Bytes& segments = {}, const Bytes& entropy = {0x12, 0x34, 0xFF, 0x00, 0x56});
+// C source of an X bitmap with these numbers.
+Bytes xBitmap(int width, int height, std::string_view numbers);
+// A table of dBASE with two records of five letters.
+Bytes dbaseTable();
 // A TIFF of 4 x 4 grey pixels with a date.
 Bytes tiff(bool little = true);
 // Drawings of R2000, R2013 and R2007.

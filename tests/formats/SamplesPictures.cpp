@@ -245,6 +245,17 @@ Bytes qoi() {
 
 }  // namespace
 
+Bytes xBitmap(int width, int height, std::string_view numbers) {
+    return Build()
+        .text("#define a_width ")
+        .text(std::to_string(width))
+        .text("\n#define a_height ")
+        .text(std::to_string(height))
+        .text("\nstatic unsigned char a_bits[] = {\n   ")
+        .text(numbers)
+        .text(" };\n");
+}
+
 std::vector<Sample> pictureSamples() {
     return {{"JPG", jpeg()},
             {"PNG", png()},
@@ -272,6 +283,7 @@ std::vector<Sample> pictureSamples() {
             {"HDR", radiance()},
             {"SGI", sgi()},
             {"QOI", qoi()},
+            {"XBM", xBitmap(10, 2, "0x01, 0x02,\n   0x03, 0x04")},
             {"XPM", Build().text("/* XPM */\nstatic char *x[] = {\n\"1 1 1 1\",\n\"\\\" c };\"\n};\n")}};
 }
 

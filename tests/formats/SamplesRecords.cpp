@@ -326,7 +326,27 @@ Bytes consoleSound() {
     return Build().text("SNES-SPC700 Sound File Data v0.30").to(66047).u8(1);
 }
 
+Bytes rawMovie() {
+    return Build()
+        .text("MLVI")
+        .le32(52)
+        .text("v2.0")
+        .to(52)
+        .text("RAWI")
+        .le32(180)
+        .to(232)
+        .text("VIDF")
+        .le32(300)
+        .to(532);
+}
+
 }  // namespace
+
+Bytes dbaseTable() {
+    const Bytes field = Build().text("NAME").to(11).text("C").to(16).u8(5).to(32);
+    return Build().u8(3).u8(126).u8(11).u8(23).le32(2).le16(65).le16(6).to(32).add(field).text(
+        "\r alpha*omega\x1A");
+}
 
 std::vector<Sample> recordSamples() {
     return {{"LZ4", lz4()},
@@ -364,6 +384,8 @@ std::vector<Sample> recordSamples() {
             {"BLEND", blend()},
             {"GDS", chipLayout()},
             {"UNITY3D", unityData()},
+            {"DBF", dbaseTable()},
+            {"MLV", rawMovie(), false},
             {"TTA", trueAudio()},
             {"WV", wavPack()},
             {"XM", extendedModule()},

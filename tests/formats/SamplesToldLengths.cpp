@@ -94,6 +94,7 @@ std::vector<Sample> toldLengthSamples() {
         {"VOX", grown(70, {{0, text("VOX ")}, {4, le32(150)}, {8, text("MAIN")}, {16, le32(50)}})},
         {"BLF", grown(200, {{0, text("LOGG")}, {4, le32(144)}, {16, le64(200)}})},
         {"MED", grown(70, {{0, text("MMD1")}, {4, be32(70)}})},
+        {"IFO", grown(4096, {{0, text("DVDVIDEO-VTS")}, {28, be32(1)}})},
         {"FIT", grown(40, {{0, {14}}, {4, le32(24)}, {8, text(".FIT")}})},
         {"CRAMFS", grown(90, {{0, le32(0x28CD3D45)}, {4, le32(90)}, {16, text("Compressed ROMFS")}})},
         {"UIMAGE", grown(100, {{0, be32(0x27051956)}, {12, be32(36)}})},

@@ -158,6 +158,15 @@ TEST(LeftBehind, LineEnds_NeedFewZerosToBeTheFiles) {
     EXPECT_EQ(end(full, Build().text("\n\n\n\n\n").fill(900)), 1024U);
 }
 
+TEST(HtmlHabits, RemarksBehindTheClosingTag_BelongToTheFile) {
+    const std::string page = "<html><body>a</body></html>\n";
+    const Bytes file = Build().text(page + "<!-- cached today -->\n <!-- twice\n -->\n");
+    for (const Bytes& tail : {Bytes(), Bytes(3000, 0), Build().text("<!-- no end\1-->").bytes()})
+        expectEnd("HTML", Build().add(file).add(tail), file.size());
+    const Bytes open = Build().text(page + "<!-- ").fill(600, 'a').text("-->");
+    expectEnd("HTML", open, page.size());
+}
+
 TEST(HtmlHabits, BlanksInsideTheClosingTag_AreAllowed) {
     for (const std::string close : {"</HTML\n>", "</html >\n", "</Html>"}) {
         const Bytes file = Build().text("<html><body>a</htmlx></body\n>" + close);
