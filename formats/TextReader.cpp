@@ -23,9 +23,28 @@ std::uint64_t behindEmptyLine(ByteView& view, std::uint64_t at) {
 }
 
 std::uint64_t behindBlanks(ByteView& view, std::uint64_t at) {
+    constexpr std::size_t kZeros = 32;
+    const auto isEmpty = [&](std::uint64_t from) {
+        const auto bytes = view.window(from, kZeros);
+        return bytes.size() >= kZeros &&
+               std::all_of(bytes.begin(), bytes.begin() + kZeros, [](int byte) { return byte == 0; });
+    };
     at = behindLineEnd(view, at);
-    while (!isSectorStart(at) && isTextSpace(view.u8(at).value_or(0)))
+    while (isTextSpace(view.u8(at).value_or(0)) && (!isSectorStart(at) || isEmpty(at + 1)))
         ++at;
+    return at;
+}
+
+std::uint64_t behindRemarks(ByteView& view, std::uint64_t at, std::string_view open, std::string_view close) {
+    for (std::uint64_t end = at; !isSectorStart(end) && view.matches(end, open);) {
+        for (end += open.size(); !view.matches(end, close); ++end) {
+            const auto byte = view.u8(end);
+            if (!byte || isForeign(*byte) || isSectorStart(end))
+                return at;
+        }
+        end += close.size();
+        at = end = behindBlanks(view, end);
+    }
     return at;
 }
 

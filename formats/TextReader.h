@@ -49,9 +49,12 @@ inline bool isTextSpace(int byte) {
 std::uint64_t behindLineEnd(ByteView& view, std::uint64_t at);
 // The same behind an empty line that some writers leave after their last one.
 std::uint64_t behindEmptyLine(ByteView& view, std::uint64_t at);
-// The same behind all blanks and line ends, which editors leave behind the last mark, but not in the next
-// sector.
+// The same behind all blanks and line ends, which editors leave behind the last mark; in the next sector
+// only one before zeros.
 std::uint64_t behindBlanks(ByteView& view, std::uint64_t at);
+// Behind the remarks at `at` between `open` and `close`, each with the blanks that follow, so far as they end
+// in text before the next sector; else `at`.
+std::uint64_t behindRemarks(ByteView& view, std::uint64_t at, std::string_view open, std::string_view close);
 // Position behind a UTF-8 byte order mark at the beginning.
 std::uint64_t behindByteOrderMark(ByteView& view);
 // Whether `lower` stands at `at` in letters of either case.

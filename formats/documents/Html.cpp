@@ -10,7 +10,7 @@
 namespace vantor {
 
 Extent walkHtml(ByteView& view) {
-    constexpr std::string_view kClose = "</html>";
+    constexpr std::string_view kClose = "</html";
     constexpr std::string_view kLittle("\xFF\xFE<\0", 4), kBig("\xFE\xFF\0<", 4);
     if (view.matches(0, kLittle) || view.matches(0, kBig))
         return walkText(view);
@@ -22,8 +22,13 @@ Extent walkHtml(ByteView& view) {
         return unknownExtent();
     const auto end = textEnd(view, at);
     for (auto tag = view.find('<', at, end); tag.found(); tag = view.find('<', tag.at + 1, end)) {
-        if (matchesAnyCase(view, tag.at, kClose))
-            return completeAt(view, behindBlanks(view, tag.at + kClose.size()));
+        if (!matchesAnyCase(view, tag.at, kClose))
+            continue;
+        auto close = tag.at + kClose.size();
+        while (close < end && isTextSpace(view.u8(close).value_or(0)))
+            ++close;
+        if (view.u8(close) == '>')
+            return completeAt(view, behindRemarks(view, behindBlanks(view, close + 1), "<!--", "-->"));
     }
     return inexact(end == view.size() ? cutOffAt(view, end) : completeAt(view, readableEnd(view, at)));
 }

@@ -151,11 +151,34 @@ TEST(LeftBehind, LineEnds_NeedFewZerosToBeTheFiles) {
     EXPECT_EQ(end(close, Build().text("\r\n").fill(2000)), 1014U);
     EXPECT_EQ(end(close, Build().text("\n").fill(11, 1).add(noise(900, 5))), 1012U);
     EXPECT_EQ(end(close, Build().text("x").fill(11)), 1012U);
-    EXPECT_EQ(end(full, Build().text("\n").fill(511).add(noise(900, 5))), 1025U);
     // There another file may begin, if only a short one.
-    EXPECT_EQ(end(full, Build().text("end").fill(2000)), 1024U);
-    EXPECT_EQ(end(full, Build().text("\n").fill(510).u8(1)), 1024U);
-    EXPECT_EQ(end(full, Build().text("\n\n\n\n\n").fill(900)), 1024U);
+    EXPECT_EQ(end(full, Build().text("\n").fill(2000)), 1024U);
+}
+
+TEST(LeftBehind, ALineEndInTheNextSector_IsATextsBeforeZeros) {
+    const Bytes text = Build().text("<?xml version='1.0'?><a>").fill(512 - 29, 'x').text("</a>\n");
+    ASSERT_EQ(text.size(), 512U);
+    const auto end = [&](const Bytes& tail) { return walkBytes("XML", Build().add(text).add(tail)).end; };
+    EXPECT_EQ(end(Build().text("\n").fill(511)), 513U);
+    EXPECT_EQ(end(Build().text("\n").fill(20).fill(900, 1)), 512U);
+    EXPECT_EQ(end(Build().text("\nnext").fill(900)), 512U);
+    EXPECT_EQ(end(Bytes(900, 0)), 512U);
+}
+
+TEST(HtmlHabits, RemarksBehindTheClosingTag_BelongToTheFile) {
+    const std::string page = "<html><body>a</body></html>\n";
+    const Bytes file = Build().text(page + "<!-- cached today -->\n <!-- twice\n -->\n");
+    for (const Bytes& tail : {Bytes(), Bytes(3000, 0), Build().text("<!-- no end\1-->").bytes()})
+        expectEnd("HTML", Build().add(file).add(tail), file.size());
+    const Bytes open = Build().text(page + "<!-- ").fill(600, 'a').text("-->");
+    expectEnd("HTML", open, page.size());
+}
+
+TEST(HtmlHabits, BlanksInsideTheClosingTag_AreAllowed) {
+    for (const std::string close : {"</HTML\n>", "</html >\n", "</Html>"}) {
+        const Bytes file = Build().text("<html><body>a</htmlx></body\n>" + close);
+        expectEnd("HTML", Build().add(file).text("x\xA7z\x91q\1").add(noise(900, 5)), file.size());
+    }
 }
 
 TEST(HtmlHabits, WithoutItsClosingTag_ItEndsBeforeForeignLetters) {
