@@ -107,6 +107,21 @@ TEST(WebPage, Remark_MayBeginIt) {
     expectEnd("HTML", Build().add(page).add(noise(3000, 6)), page.size());
 }
 
+TEST(WebPage, DrawingBehindARemark_IsWalkedAsOne) {
+    const Bytes drawing = Build().text("<!-- licence > -->\n<!-- more -->\n<svg><g/></svg>\n");
+    const Extent extent = walkBytes("HTML", Build().add(drawing).add(noise(3000, 6)));
+    EXPECT_EQ(extent.verdict, Verdict::Complete);
+    EXPECT_EQ(extent.end, drawing.size());
+    EXPECT_TRUE(extent.checked);
+    const Bytes page = Build().text("<!-- <svg> -->\n<html><p>x<br></html>\n");
+    expectEnd("HTML", Build().add(page).add(noise(3000, 6)), page.size());
+}
+
+TEST(WebPage, PartOfOne_EndsWithItsLastLine) {
+    const Bytes part = Build().text("<h2>A list</h2>\n<ul>\n<li>one</li>\n</ul>\n");
+    expectEnd("HTML", Build().add(part).text("x7").add(noise(3000, 6)), part.size());
+}
+
 TEST(PostScript, FirstLineWithoutItsName_IsEnough) {
     const Bytes page = Build().text("%!\n% a sample\n0 0 moveto showpage\n%%EOF\n");
     expectEnd("PS", Build().add(page).add(noise(3000, 7)), page.size());
