@@ -153,7 +153,7 @@ void CliSession::saveToldFiles() {
     if (medium == nullptr) {
         return;
     }
-    for (const auto& file : toldFiles()) {
+    for (const auto& file : toldFiles(&m_toldBeyondRoom)) {
         if (isStopped()) {
             break;
         }

@@ -125,6 +125,8 @@ class CliSession : private CliView, public ScanSession {
     const std::vector<ReportedItem>& reportedItems() const { return m_reported; }
     // Files that only the card's directories tell of and that were saved all the same.
     std::size_t toldCount() const { return m_told; }
+    // And those that were left out, as with toldOnly().
+    std::uint64_t toldBeyondRoom() const { return m_toldBeyondRoom; }
     using CliView::alerts;
     std::size_t publishedCount() const { return m_publishedCount; }  // any thread
 
@@ -165,6 +167,7 @@ class CliSession : private CliView, public ScanSession {
     std::vector<ReportedItem> m_reported;
     SaveTally m_tally;  // the saving thread's until it ends
     std::size_t m_told = 0;
+    std::uint64_t m_toldBeyondRoom = 0;
     QStringList m_mendingLines;
     bool m_mendingFailed = false;
     StopRequest m_stop;

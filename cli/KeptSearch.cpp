@@ -1,12 +1,15 @@
 // From options to the wishes of a search, and back.
 #include "cli/KeptSearch.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QObject>
 #include <tuple>
 #include <utility>
 
 #include "cli/CliMedium.h"
 #include "cli/CliSession.h"
+#include "media/PathArgument.h"
 
 namespace vantor {
 
@@ -25,6 +28,20 @@ SearchWishes wishesOf(const CliOptions& options, const CliSession& session) {
     return wishes;
 }
 
+// An image as it is found from any folder; a device as the user named it.
+QString nameToKeep(const QString& medium) {
+    const QFileInfo file(medium);
+    return withShownPaths(file.isFile() ? file.absoluteFilePath() : medium);
+}
+
+// Where the medium is looked for: an image that went away together with what was kept of its search lies
+// beside that.
+QString placeOf(const QString& medium, const QString& sessionFile) {
+    const QString beside = QFileInfo(sessionFile).absoluteDir().filePath(QFileInfo(medium).fileName());
+    const bool isAway = medium.contains(u'/') && !QFileInfo::exists(medium);
+    return isAway && QFileInfo(beside).isFile() ? beside : medium;
+}
+
 }  // namespace
 
 void takeWishes(const SearchRecord& kept, CliOptions& options) {
@@ -34,7 +51,7 @@ void takeWishes(const SearchRecord& kept, CliOptions& options) {
     options.thorough = wishes.thorough;
     options.range = wishes.entire ? std::nullopt : std::optional(std::pair(wishes.start, wishes.end));
     if (options.medium.isEmpty()) {
-        options.medium = kept.medium;
+        options.medium = placeOf(kept.medium, options.sessionFile);
     }
 }
 
@@ -45,7 +62,7 @@ std::shared_ptr<SearchKeeper> keeperFor(const CliOptions& options, const CliSess
         return nullptr;
     }
     SearchRecord record = kept.value_or(SearchRecord());
-    record.medium = options.medium;
+    record.medium = nameToKeep(options.medium);
     const SearchWishes wishes = wishesOf(options, session);
     if (kept) {
         const auto reader = medium.open({});

@@ -3,12 +3,12 @@
 
 #include <QDateTime>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QObject>
 #include <QTimeZone>
 #include <cstdio>
 
+#include "cli/JsonLine.h"
 #include "cli/Options.h"
 #include "cli/Telling.h"
 #include "decode/CardHelper.h"
@@ -17,10 +17,6 @@
 namespace vantor {
 
 namespace {
-
-void print(const QJsonObject& line) {
-    std::printf("%s\n", QJsonDocument(line).toJson(QJsonDocument::Compact).constData());
-}
 
 QString wordFor(FileSystemKind kind) {
     switch (kind) {
@@ -132,10 +128,10 @@ int listFiles(const CliMedium& medium, const StopRequest& stop) {
     }
     const CardTable& table = *read;
     for (const CardFileSystem& system : table.fileSystems) {
-        print(objectFor(system));
+        printJsonLine(objectFor(system));
     }
     for (const CardFile& file : table.files) {
-        print(objectFor(file));
+        printJsonLine(objectFor(file));
     }
     return stop() ? kExitStopped : allRead ? kExitCompleted : kExitReadError;
 }

@@ -1,13 +1,13 @@
 // The media list as a table for people and as JSON for programs.
 #include "cli/ListMedia.h"
 
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QObject>
 #include <algorithm>
 #include <cstdio>
 
 #include "catalogue/NumberText.h"
+#include "cli/JsonLine.h"
 #include "cli/Options.h"
 #include "media/LabelText.h"
 #include "media/MediaList.h"
@@ -26,7 +26,7 @@ void printJson(const Records& records) {
                                {QStringLiteral("size"), record->nsStrSize.simplified()},
                                {QStringLiteral("disk"), record->nsStrParentDisk},
                                {QStringLiteral("sectors"), textToInt64(record->nsStrSectors)}};
-        std::printf("%s\n", QJsonDocument(line).toJson(QJsonDocument::Compact).constData());
+        printJsonLine(line);
     }
 }
 
@@ -34,9 +34,9 @@ void printTable(const Records& records) {
     QList<QStringList> rows{{QObject::tr("Medium"), QObject::tr("Name"), QObject::tr("File system"),
                              QObject::tr("Size"), QObject::tr("Disk"), QObject::tr("Sectors")}};
     for (const auto& record : records) {
-        rows.append({record->nsStrDiskIdentifier, shownLabel(record->nsStrVolName),
+        rows.append({shownLabel(record->nsStrDiskIdentifier), shownLabel(record->nsStrVolName),
                      shownLabel(record->nsStrFileSystem), record->nsStrSize.simplified(),
-                     record->nsStrParentDisk, record->nsStrSectors});
+                     shownLabel(record->nsStrParentDisk), record->nsStrSectors});
     }
     QList<qsizetype> widths(rows.first().size(), 0);
     for (const QStringList& row : rows) {

@@ -1,12 +1,12 @@
 // Presets first, as --types takes them.
 #include "cli/ListTypes.h"
 
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <cstdio>
 
 #include "catalogue/TypePresets.h"
 #include "cli/CliSession.h"
+#include "cli/JsonLine.h"
 #include "cli/Telling.h"
 
 namespace vantor {
@@ -16,7 +16,7 @@ namespace {
 void print(const CliOptions& options, const QString& type, const QString& description) {
     if (options.listJson) {
         const QJsonObject line{{QStringLiteral("type"), type}, {QStringLiteral("description"), description}};
-        std::printf("%s\n", QJsonDocument(line).toJson(QJsonDocument::Compact).constData());
+        printJsonLine(line);
     } else {
         std::printf("%-12s  %s\n", qPrintable(type), qPrintable(description));
     }

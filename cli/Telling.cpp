@@ -3,15 +3,16 @@
 
 #include <QDateTime>
 #include <QDir>
-#include <QJsonDocument>
 #include <QMap>
 #include <QObject>
 #include <cstdio>
 
 #include "catalogue/TextHelpers.h"
+#include "cli/JsonLine.h"
 #include "media/LabelText.h"
 #include "media/PathArgument.h"
 #include "results/SizeForPeople.h"
+#include "results/ToldFiles.h"
 #include "saving/CopyWords.h"
 
 namespace vantor {
@@ -29,9 +30,7 @@ void say(const CliOptions& options, const QString& line) {
 
 // False when not all items could be read for their checksums.
 bool printJson(const CliSession& session) {
-    return session.forEachJsonLine([](const QJsonObject& line) {
-        std::printf("%s\n", QJsonDocument(line).toJson(QJsonDocument::Compact).constData());
-    });
+    return session.forEachJsonLine(printJsonLine);
 }
 
 void printTable(const CliSession& session) {
@@ -61,6 +60,9 @@ void tellSaving(const CliSession& session, const CliOptions& options) {
         say(options, QObject::tr("%1 more files that only the card's directory tells of", nullptr,
                                  pluralOf(session.toldCount()))
                          .arg(numberForPeople(session.toldCount())));
+    }
+    if (session.toldBeyondRoom() != 0) {
+        complain(wordsForBeyondRoom(session.toldBeyondRoom()));
     }
     for (const QString& line : tally.lines(QDir(options.saveFolder).absolutePath())) {
         say(options, withShownPaths(line));

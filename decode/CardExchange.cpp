@@ -16,6 +16,7 @@ constexpr qsizetype kMostNameLength = 255;
 // A file record has no more room.
 constexpr qsizetype kMostContentBytes = 4096;
 constexpr std::uint32_t kMostClusterSectors = 1 << 16;
+constexpr std::uint32_t kMostUnitSectors = 2048;
 // Times outside the years 1600 to 3000 are damage.
 constexpr std::int64_t kEarliest = -11'700'000'000;
 constexpr std::int64_t kLatest = 32'600'000'000;
@@ -79,6 +80,11 @@ void give(const CardFile& file, ByteGiver& to) {
         to.run(file.runs[i]);
     }
     to.bytes(file.contents.left(kMostContentBytes));
+    to.number(file.holes.size(), 4);
+    for (const SectorRun& hole : file.holes) {
+        to.run(hole);
+    }
+    to.number(file.unitSectors, 4);
 }
 
 void give(const CardFileSystem& system, ByteGiver& to) {
@@ -247,6 +253,18 @@ bool TableReader::takeRun(ByteTaker& from, std::vector<SectorRun>& into) {
     return true;
 }
 
+// In the order of the file's sectors, one at a time.
+bool TableReader::takeHole(ByteTaker& from, std::vector<SectorRun>& into) {
+    const std::uint64_t first = from.number(8);
+    const std::uint64_t end = from.number(8);
+    if (!from.ok() || first >= end || end > m_sectors + kMostUnitSectors ||
+        (!into.empty() && first < into.back().end) || ++m_runs > kMostRunsOfAll) {
+        return false;
+    }
+    into.push_back({first, end});
+    return true;
+}
+
 bool TableReader::takeFile(ByteTaker& from) {
     CardFile file;
     file.folder = from.text(kLongestFolder);
@@ -273,8 +291,15 @@ bool TableReader::takeFile(ByteTaker& from) {
         sectors += file.runs.back().end - file.runs.back().first;
     }
     file.contents = from.bytes(kMostContentBytes);
+    for (std::uint64_t left = from.number(4); left > 0; --left) {
+        if (!takeHole(from, file.holes)) {
+            return false;
+        }
+    }
+    file.unitSectors = static_cast<std::uint32_t>(from.number(4));
     const auto held = static_cast<std::uint64_t>(file.contents.size());
-    const bool fits = held == 0 || (held == sectors * 512 && file.bytes <= held);
+    const bool fits = (held == 0 || (held == sectors * 512 && file.bytes <= held && file.holes.empty())) &&
+                      file.unitSectors <= kMostUnitSectors;
     // No file is larger than the medium, nor are its pieces together.
     if (!from.ok() || !fits || file.bytes / 512 > m_sectors || file.validBytes > file.bytes ||
         sectors > m_sectors || file.clusterSectors == 0 || file.clusterSectors > kMostClusterSectors ||

@@ -19,6 +19,10 @@ constexpr std::uint32_t kBlockHeight = 256;
 constexpr std::size_t kBlockBytes = std::size_t{kBlockWidth} * kBlockHeight * 4;
 // A question asks for so many sectors at most.
 constexpr std::uint32_t kMostSectorsAsked = 512;
+// No card's directories take more questions, in sectors together, than four readings of all of it would.
+constexpr std::uint64_t mostAskedOf(std::uint64_t sectors) {
+    return 4 * sectors + kMostSectorsAsked;
+}
 // More than any card has: what comes beyond is not taken.
 constexpr std::size_t kMostFiles = 4'000'000;
 constexpr std::uint64_t kMostRunsOfAll = 64'000'000;
@@ -73,6 +77,7 @@ class TableReader {
 
   private:
     bool takeFile(class ByteTaker& from);
+    bool takeHole(class ByteTaker& from, std::vector<SectorRun>& into);
     bool takeRun(class ByteTaker& from, std::vector<SectorRun>& into);
 
     const std::uint64_t m_sectors;

@@ -15,8 +15,6 @@ using namespace decode;
 
 namespace {
 
-// No card's directories take more questions than four readings of all its sectors would.
-constexpr std::uint64_t kMostReadings = 4;
 constexpr std::uint64_t kMostTableBlocks = 8192;  // 8 GiB: more than kMostFiles take
 
 // The block of an answer, out of the memory that the helper can still write to.
@@ -55,7 +53,7 @@ std::optional<CardTable> readCardInHelper(SectorReader& medium, std::uint64_t se
     request.kind = RequestKind::ReadCard;
     request.maxWidth = kBlockWidth;
     request.maxHeight = kBlockHeight;
-    std::uint64_t sectorsLeft = kMostReadings * sectors + kMostSectorsAsked;
+    std::uint64_t sectorsLeft = mostAskedOf(sectors);
     std::uint64_t blocksLeft = kMostTableBlocks;
     while (!table.isWhole()) {
         Answer answer;

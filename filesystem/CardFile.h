@@ -48,6 +48,11 @@ struct CardFile {
     // The file's bytes, with zeros up to a whole sector, where its own record holds them (NTFS); in the
     // record some of them stand elsewhere. `runs` are then as many sectors of the record.
     QByteArray contents;
+    // Stretches of the file's sectors, counted from its beginning, that have no place among the runs (NTFS);
+    // sorted, apart from each other. They are zeros; where the file is packed, those of a unit are what the
+    // unit's other sectors unpack to.
+    std::vector<SectorRun> holes;
+    std::uint32_t unitSectors = 0;  // that are packed together; 0: the file is not packed
     // Where the file began there is something now that a current file system still holds as there.
     bool beginningIsInUse = false;
     std::uint32_t clusterSectors = 0;  // of the file system it lived on

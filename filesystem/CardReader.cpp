@@ -76,6 +76,14 @@ class VolumesReader {
         return shapeFromBootSector(bytes, first, m_card.sectors());
     }
 
+    // Two partitions may begin in the same sector.
+    static void addNew(const VolumeShape& shape, std::vector<VolumeShape>& to) {
+        if (std::none_of(to.begin(), to.end(),
+                         [&](const VolumeShape& one) { return one.sameClusters(shape); })) {
+            to.push_back(shape);
+        }
+    }
+
     // The whole card is one file system, or its tables name several. Where a first sector is gone, the places
     // of its copies are asked: six and twelve sectors behind it, and the last one.
     std::vector<VolumeShape> presentShapes() {
@@ -87,7 +95,7 @@ class VolumesReader {
             for (const std::uint64_t at :
                  {partition.first, partition.first + 6, partition.first + 12, partition.end - 1}) {
                 if (const auto shape = shapeAt(at, partition.first)) {
-                    shapes.push_back(*shape);
+                    addNew(*shape, shapes);
                     break;
                 }
             }

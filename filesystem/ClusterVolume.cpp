@@ -55,12 +55,26 @@ SectorRun ClusterVolume::onePiece(std::uint32_t cluster, std::uint64_t clusters)
     return {first, first + std::min(clusters, room) * m_shape.clusterSectors};
 }
 
-DirectoryRows ClusterVolume::rowsOf(std::span<const std::uint8_t> bytes) const {
-    return isExfat() ? readExfatRows(bytes) : readFatRows(bytes, m_shape.kind == FileSystemKind::Fat32);
+DirectoryRows ClusterVolume::rowsOf(std::span<const std::uint8_t> bytes, RowTimes times) const {
+    return isExfat() ? readExfatRows(bytes)
+                     : readFatRows(bytes, m_shape.kind == FileSystemKind::Fat32, times);
+}
+
+// The table has to speak for what its times speak against.
+DirectoryRows ClusterVolume::liveRowsOf(std::span<const std::uint8_t> bytes) {
+    DirectoryRows rows = rowsOf(bytes, RowTimes::MayBeAnything);
+    std::erase_if(rows.entries, [this](const DirectoryEntry& entry) {
+        if (!entry.hasOddTimes || !m_shape.holds(entry.cluster)) {
+            return entry.hasOddTimes;
+        }
+        const AllocationTable::Link link = m_links.at(entry.cluster).link;
+        return link != AllocationTable::Link::Next && link != AllocationTable::Link::End;
+    });
+    return rows;
 }
 
 void ClusterVolume::append(CardDirectory directory, const std::vector<std::uint8_t>& bytes) {
-    directory.rows = rowsOf(bytes);
+    directory.rows = directory.state == FileState::Live ? liveRowsOf(bytes) : rowsOf(bytes);
     // No other directory has the rows of exFAT's own files.
     directory.isRoot = directory.isRoot || !directory.rows.ownFiles.empty();
     if (!directory.rows.ended && directory.state != FileState::Live) {
@@ -144,7 +158,7 @@ void ClusterVolume::queueFolders(std::size_t directory, std::vector<Pending>& li
 }
 
 // False for a folder's row whose place holds something else by now.
-bool ClusterVolume::beginsFolder(std::uint32_t cluster) {
+bool ClusterVolume::beginsFolder(std::uint32_t cluster, FileState state) {
     std::array<std::uint8_t, 512> sector;
     if (!m_card.readAt(m_shape.sectorOf(cluster), sector)) {
         return false;
@@ -152,7 +166,8 @@ bool ClusterVolume::beginsFolder(std::uint32_t cluster) {
     if (isExfat()) {
         return looksLikeExfatRows(sector.data());
     }
-    const auto self = fatDirectoryBeginning(sector.data());
+    const auto self = fatDirectoryBeginning(
+        sector.data(), state == FileState::Live ? RowTimes::MayBeAnything : RowTimes::AreTimes);
     const std::uint32_t known = m_shape.kind == FileSystemKind::Fat32 ? 0xFFFFFFFF : 0xFFFF;
     return self && (*self & known) == cluster;
 }
@@ -199,7 +214,7 @@ bool ClusterVolume::readPending(const Pending& pending) {
     }
     // A live exFAT folder may be empty, and then nothing proves it.
     const bool isTold = isRoot || (isExfat() && pending.state == FileState::Live);
-    if (!isTold && !beginsFolder(pending.cluster)) {
+    if (!isTold && !beginsFolder(pending.cluster, pending.state)) {
         return false;
     }
     claim(pending.cluster);

@@ -104,8 +104,9 @@ class ClusterVolume {
     std::vector<SectorRun> splitAtClusters(const std::vector<SectorRun>& sectors) const;
     std::vector<std::uint32_t> clustersOf(const Pending& pending);
     bool continuesDirectory(std::uint32_t cluster);
-    bool beginsFolder(std::uint32_t cluster);
-    DirectoryRows rowsOf(std::span<const std::uint8_t> bytes) const;
+    bool beginsFolder(std::uint32_t cluster, FileState state);
+    DirectoryRows rowsOf(std::span<const std::uint8_t> bytes, RowTimes times = RowTimes::AreTimes) const;
+    DirectoryRows liveRowsOf(std::span<const std::uint8_t> bytes);
     void append(CardDirectory directory, const std::vector<std::uint8_t>& bytes);
     void queueFolders(std::size_t directory, std::vector<Pending>& live, std::vector<Pending>& deleted);
     void readAll(std::vector<Pending> live, std::vector<Pending> deleted);

@@ -20,6 +20,7 @@ struct DirectoryEntry {
     bool isDeleted = false;
     bool isBehindEnd = false;    // it stands where the directory has ended already
     bool isOnePiece = false;     // exFAT: no chain is needed to find its clusters
+    bool hasOddTimes = false;    // FAT: some of its times are none that there are
     bool isHalfCluster = false;  // FAT32: deleted, and the number's upper half is nought, as if cleared
     std::uint32_t cluster = 0;   // the first; 0: none
     std::uint64_t bytes = 0;     // FAT: 0 for folders
@@ -42,7 +43,13 @@ struct DirectoryRows {
 
 // The rows of a directory, or of one part of it; what is no row is left out. Public description: Microsoft's
 // of FAT. `wide`: cluster numbers have 32 bits (FAT32).
-DirectoryRows readFatRows(std::span<const std::uint8_t> bytes, bool wide);
+//
+// Some cameras write times that there are not, such as the 31st of no month. In a directory that is there
+// they may be anything (RowTimes::MayBeAnything) in the rows of files that are; elsewhere it is by them too
+// that rows are told from other bytes.
+enum class RowTimes { AreTimes, MayBeAnything };
+DirectoryRows readFatRows(std::span<const std::uint8_t> bytes, bool wide,
+                          RowTimes times = RowTimes::AreTimes);
 
 // The same for exFAT. Only sets whose checksum is right, the marks of deletion taken back, are entries.
 // Public description: Microsoft's of exFAT.
@@ -50,7 +57,8 @@ DirectoryRows readExfatRows(std::span<const std::uint8_t> bytes);
 
 // The cluster that the subdirectory beginning in this sector says it begins with; nothing when it is not the
 // first sector of a FAT subdirectory.
-std::optional<std::uint32_t> fatDirectoryBeginning(const std::uint8_t* sector);
+std::optional<std::uint32_t> fatDirectoryBeginning(const std::uint8_t* sector,
+                                                   RowTimes times = RowTimes::AreTimes);
 
 // Whether a sector holds nothing but rows of a directory of that kind, at least one of them.
 bool looksLikeFatRows(const std::uint8_t* sector);

@@ -40,10 +40,13 @@ bool isSequence(std::uint8_t byte) {
     return byte == kDeleted || ((byte & 0xBF) >= 1 && (byte & 0xBF) <= 20);
 }
 
-bool isPlainRow(Row row) {
-    if ((row[11] & 0xC0) != 0 || (row[12] & ~0x18) != 0 || row[13] > 199 || !isDate(le16(row, 16)) ||
-        !isDate(le16(row, 18)) || !isDate(le16(row, 24)) || !isTime(le16(row, 14)) ||
-        !isTime(le16(row, 22))) {
+bool hasTimes(Row row) {
+    return row[13] <= 199 && isDate(le16(row, 16)) && isDate(le16(row, 18)) && isDate(le16(row, 24)) &&
+           isTime(le16(row, 14)) && isTime(le16(row, 22));
+}
+
+bool isNamedRow(Row row) {
+    if ((row[11] & 0xC0) != 0 || (row[12] & ~0x18) != 0) {
         return false;
     }
     if ((row[11] & kFolder) != 0 && ((row[11] & kLabel) != 0 || le32(row, 28) != 0)) {
@@ -57,6 +60,10 @@ bool isPlainRow(Row row) {
     // 05 stands for a first letter E5.
     return (row[0] == 0x05 || (row[0] != ' ' && row[0] != '.' && isShortNameByte(row[0]))) &&
            std::all_of(row.begin() + 1, row.begin() + 11, isShortNameByte);
+}
+
+bool isPlainRow(Row row) {
+    return isNamedRow(row) && hasTimes(row);
 }
 
 bool isRow(Row row) {
@@ -208,7 +215,7 @@ std::uint32_t clusterOfDots(Row row) {
 
 }  // namespace
 
-DirectoryRows readFatRows(std::span<const std::uint8_t> bytes, bool wide) {
+DirectoryRows readFatRows(std::span<const std::uint8_t> bytes, bool wide, RowTimes times) {
     DirectoryRows read;
     for (std::size_t at = 0; at < bytes.size() / kRowBytes; ++at) {
         const Row row = bytes.subspan(at * kRowBytes, kRowBytes);
@@ -216,7 +223,8 @@ DirectoryRows readFatRows(std::span<const std::uint8_t> bytes, bool wide) {
             read.ended = true;
             break;
         }
-        if (isLongNameRow(row) || !isPlainRow(row)) {
+        const bool timesMatter = times == RowTimes::AreTimes || row[0] == kDeleted;
+        if (isLongNameRow(row) || !(timesMatter ? isPlainRow(row) : isNamedRow(row))) {
             continue;
         }
         if (row[0] == '.') {
@@ -231,6 +239,7 @@ DirectoryRows readFatRows(std::span<const std::uint8_t> bytes, bool wide) {
             }
         } else {
             DirectoryEntry entry = entryOf(row, wide);
+            entry.hasOddTimes = !hasTimes(row);
             nameEntry(entry, bytes, at);
             read.entries.push_back(std::move(entry));
         }
@@ -238,11 +247,12 @@ DirectoryRows readFatRows(std::span<const std::uint8_t> bytes, bool wide) {
     return read;
 }
 
-std::optional<std::uint32_t> fatDirectoryBeginning(const std::uint8_t* sector) {
+std::optional<std::uint32_t> fatDirectoryBeginning(const std::uint8_t* sector, RowTimes times) {
     const Row self(sector, kRowBytes);
     const Row parent(sector + kRowBytes, kRowBytes);
     const bool isOne = sector[0] == '.' && sector[1] == ' ' && sector[kRowBytes] == '.' &&
-                       sector[kRowBytes + 1] == '.' && isPlainRow(self) && isPlainRow(parent);
+                       sector[kRowBytes + 1] == '.' && isNamedRow(self) && isNamedRow(parent) &&
+                       (times == RowTimes::MayBeAnything || (hasTimes(self) && hasTimes(parent)));
     return isOne && clusterOfDots(self) >= 2 ? std::optional(clusterOfDots(self)) : std::nullopt;
 }
 

@@ -19,7 +19,7 @@ constexpr std::uint8_t kShortNamesOnly = 2;
 // A record's head: before version 3.1, and with the record's own number in it.
 constexpr std::size_t kHeadBytes = 42;
 constexpr std::size_t kNumberedHeadBytes = 48;
-constexpr std::uint16_t kPackedOrEncrypted = 0x40FF;
+constexpr std::uint16_t kPacked = 0x00FF;
 constexpr std::uint16_t kEncrypted = 0x4000;
 
 // Each sector's last two bytes are a mark; what belongs there stands in the record's head.
@@ -64,9 +64,8 @@ void readName(Bytes value, NtfsRecord& record) {
 }
 
 // Each run: a byte with the lengths of the two numbers that follow, how many clusters and how far from the
-// last run's beginning; without the second a hole. False where there are holes or nonsense.
+// last run's beginning; without the second a hole. False where there is nonsense.
 bool readRuns(Bytes attribute, std::vector<NtfsRun>& runs) {
-    bool isPlain = true;
     std::uint64_t cluster = 0;
     constexpr std::size_t kHead = 64;
     std::size_t at = le16(attribute, 32);
@@ -86,14 +85,10 @@ bool readRuns(Bytes attribute, std::vector<NtfsRun>& runs) {
             step |= ~std::uint64_t{0} << (8 * stepBytes);
         }
         cluster += step;
-        if (stepBytes == 0) {
-            isPlain = false;
-        } else {
-            runs.push_back({cluster, count});
-        }
+        runs.push_back({cluster, count, stepBytes == 0});
         at += 1 + countBytes + stepBytes;
     }
-    return isPlain;
+    return true;
 }
 
 void readData(Bytes attribute, NtfsRecord& record) {
@@ -102,7 +97,7 @@ void readData(Bytes attribute, NtfsRecord& record) {
     if (record.isResident) {
         record.bytes = record.validBytes = le32(attribute, 16);
         // What lies in the record is never packed.
-        record.isPlain = (le16(attribute, 12) & kEncrypted) == 0;
+        record.isPlain = record.isLegible = (le16(attribute, 12) & kEncrypted) == 0;
         const std::size_t at = le16(attribute, 20);
         if (at <= attribute.size() && record.bytes <= attribute.size() - at) {
             record.contents = QByteArray(reinterpret_cast<const char*>(attribute.data()) + at,
@@ -111,13 +106,18 @@ void readData(Bytes attribute, NtfsRecord& record) {
         return;
     }
     record.firstCluster = le64(attribute, 16);
-    record.isPlain = (le16(attribute, 12) & kPackedOrEncrypted) == 0;
+    const std::uint16_t kinds = le16(attribute, 12);
+    const unsigned unit = le16(attribute, 34);  // as a power of two
+    const bool isPacked = (kinds & kPacked) != 0;
+    record.unitClusters = isPacked && unit < 16 ? std::uint64_t{1} << unit : 0;
     if (record.firstCluster == 0) {
         record.bytes = le64(attribute, 48);
         record.validBytes = std::min(le64(attribute, 56), record.bytes);
     }
-    const bool isWhole = readRuns(attribute, record.runs);
-    record.isPlain = record.isPlain && isWhole;
+    record.isLegible = readRuns(attribute, record.runs) && (kinds & kEncrypted) == 0;
+    const bool hasHoles =
+        std::any_of(record.runs.begin(), record.runs.end(), [](const NtfsRun& run) { return run.isHole; });
+    record.isPlain = record.isLegible && !isPacked && !hasHoles;
 }
 
 void readAttribute(Bytes attribute, NtfsRecord& record) {

@@ -10,10 +10,11 @@
 
 namespace vantor {
 
-// Clusters [first, first + count) of the volume.
+// Clusters [first, first + count) of the volume, or as many that the file has and the volume does not.
 struct NtfsRun {
     std::uint64_t first = 0;
     std::uint64_t count = 0;
+    bool isHole = false;
 };
 
 // The number of a record, and which use of it is meant.
@@ -35,10 +36,12 @@ struct NtfsRecord {
     std::optional<std::int64_t> created;
     // Its contents: the attribute without a name, or a part of it.
     bool hasData = false;
-    bool isResident = false;  // they lie in the record itself
-    QByteArray contents;      // of such a one
-    bool isPlain = true;      // neither compressed nor encrypted nor with holes
-    std::uint64_t bytes = 0;  // told by the first part alone
+    bool isResident = false;         // they lie in the record itself
+    QByteArray contents;             // of such a one
+    bool isPlain = true;             // neither packed nor encrypted nor with holes
+    bool isLegible = true;           // not encrypted, and its runs make sense
+    std::uint64_t unitClusters = 0;  // of a packed file: that are packed together
+    std::uint64_t bytes = 0;         // told by the first part alone
     std::uint64_t validBytes = 0;
     std::uint64_t firstCluster = 0;  // of the contents, with which this part begins
     std::vector<NtfsRun> runs;

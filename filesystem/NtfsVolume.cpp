@@ -23,12 +23,21 @@ std::uint64_t clustersOf(const std::vector<NtfsRun>& runs) {
                            [](std::uint64_t sum, const NtfsRun& run) { return sum + run.count; });
 }
 
+// A record that is given back counts its next use already.
+bool isMeantBy(const NtfsReference& reference, const NtfsRecord& record) {
+    return record.use == reference.use ||
+           (!record.isInUse && record.use == static_cast<std::uint16_t>(reference.use + 1));
+}
+
 }  // namespace
 
 // Cut to the volume; a run outside it ends the list.
 std::vector<SectorRun> NtfsVolume::sectorsOf(const std::vector<NtfsRun>& runs) const {
     std::vector<SectorRun> sectors;
     for (const NtfsRun& run : runs) {
+        if (run.isHole) {
+            continue;
+        }
         if (!m_shape.holds(run.first) || run.count == 0 || run.count > m_shape.clusters - run.first) {
             break;
         }
@@ -107,7 +116,7 @@ void NtfsVolume::keep(std::uint64_t number, NtfsRecord record) {
     if (m_runsKept + runs > kMostRuns) {
         record.runs = {};
         record.otherRuns = {};
-        record.isPlain = false;
+        record.isPlain = record.isLegible = false;
     } else {
         m_runsKept += runs;
     }
@@ -124,13 +133,29 @@ void NtfsVolume::keep(std::uint64_t number, NtfsRecord record) {
     record.otherRuns = {};
     if (record.base.record == 0) {
         m_records.emplace(number, std::move(record));
-    } else if (record.hasData) {
-        m_partsKept += m_parts[record.base.record].emplace(record.firstCluster, std::move(record)).second;
+        return;
+    }
+    if (!record.name.isEmpty() && m_names.size() < kMostRecords) {
+        m_names.emplace(record.base.record, Named{record.base, record.parent, record.name});
+    }
+    if (record.hasData) {
+        m_parts[record.base.record].emplace(record.firstCluster, std::move(record));
+        ++m_partsKept;
     }
 }
 
-// A file of many pieces has more records than one; each part begins where the one before ends.
+// A file of many pieces, or of many names, has more records than one; each part begins where the one before
+// ends.
 void NtfsVolume::joinParts() {
+    for (auto& [number, file] : m_records) {
+        const auto [begin, end] = m_names.equal_range(number);
+        for (auto one = begin; one != end && file.name.isEmpty(); ++one) {
+            if (isMeantBy(one->second.base, file)) {
+                file.parent = one->second.parent;
+                file.name = one->second.name;
+            }
+        }
+    }
     for (auto& [number, parts] : m_parts) {
         const auto base = m_records.find(number);
         if (base == m_records.end()) {
@@ -139,7 +164,8 @@ void NtfsVolume::joinParts() {
         NtfsRecord& file = base->second;
         std::uint64_t clusters = clustersOf(file.runs);
         for (auto& [first, part] : parts) {
-            if (part.base.use != file.use || part.isInUse != file.isInUse || part.firstCluster != clusters) {
+            if (!isMeantBy(part.base, file) || part.isInUse != file.isInUse ||
+                part.firstCluster != clusters) {
                 continue;
             }
             if (part.firstCluster == 0) {
@@ -148,6 +174,8 @@ void NtfsVolume::joinParts() {
             }
             file.hasData = true;
             file.isPlain = file.isPlain && part.isPlain;
+            file.isLegible = file.isLegible && part.isLegible;
+            file.unitClusters = std::max(file.unitClusters, part.unitClusters);
             file.runs.insert(file.runs.end(), part.runs.begin(), part.runs.end());
             clusters += clustersOf(part.runs);
         }
@@ -164,11 +192,8 @@ std::optional<QString> NtfsVolume::folderOf(const NtfsReference& parent) const {
             return std::nullopt;
         }
         const auto folder = m_records.find(at.record);
-        // A record that is given back counts its next use already.
-        const bool isMeant =
-            folder != m_records.end() && folder->second.isFolder && !folder->second.name.isEmpty() &&
-            (folder->second.use == at.use ||
-             (!folder->second.isInUse && folder->second.use == static_cast<std::uint16_t>(at.use + 1)));
+        const bool isMeant = folder != m_records.end() && folder->second.isFolder &&
+                             !folder->second.name.isEmpty() && isMeantBy(at, folder->second);
         if (!isMeant) {
             prependFolder(QStringLiteral("folder-%1").arg(at.record), path);
             break;
@@ -216,6 +241,38 @@ void NtfsVolume::placeFile(const NtfsRecord& record, std::uint64_t sectors, Card
     }
 }
 
+// Of a packed file the last unit counts to its end: where it has a hole is part of how it is packed.
+void NtfsVolume::layOut(const NtfsRecord& record, std::uint64_t clusters, CardFile& file) const {
+    constexpr std::size_t kMost = 16'000;  // pieces and holes; a packed file has one of each a unit
+    constexpr std::uint64_t kMostUnitSectors = 2048;
+    const std::uint64_t unit = std::max<std::uint64_t>(record.unitClusters, 1);
+    const std::uint64_t end = (clusters + unit - 1) / unit * unit;
+    std::uint64_t at = 0;
+    std::uint64_t placed = 0;
+    for (const NtfsRun& run : record.runs) {
+        const std::uint64_t count = std::min(run.count, end - at);
+        const bool isThere = m_shape.holds(run.first) && count <= m_shape.clusters - run.first;
+        if (count == 0 || (!run.isHole && !isThere)) {
+            break;
+        }
+        const std::uint64_t first = run.isHole ? at * m_shape.clusterSectors : m_shape.sectorOf(run.first);
+        std::vector<SectorRun>& to = run.isHole ? file.holes : file.runs;
+        to.push_back({first, first + count * m_shape.clusterSectors});
+        at += count;
+        placed += run.isHole ? 0 : count;
+    }
+    const std::uint64_t unitSectors = unit * m_shape.clusterSectors;
+    const bool isKnown = at >= clusters && placed <= m_shape.clusters && file.runs.size() <= kMost &&
+                         file.holes.size() <= kMost &&
+                         (record.unitClusters == 0 || unitSectors <= kMostUnitSectors);
+    if (!isKnown) {
+        file.runs.clear();
+        file.holes.clear();
+    } else if (!file.holes.empty() && record.unitClusters != 0) {
+        file.unitSectors = static_cast<std::uint32_t>(unitSectors);
+    }
+}
+
 void NtfsVolume::tellFile(const NtfsRecord& record, CardTable& table) {
     const std::uint64_t clusterBytes = std::uint64_t{m_shape.clusterSectors} * 512;
     const std::uint64_t clusters = record.bytes / clusterBytes + (record.bytes % clusterBytes != 0 ? 1 : 0);
@@ -235,6 +292,8 @@ void NtfsVolume::tellFile(const NtfsRecord& record, CardTable& table) {
     file.clusterSectors = m_shape.clusterSectors;
     if (record.isPlain) {
         placeFile(record, clusters * m_shape.clusterSectors, file);
+    } else if (record.isLegible) {
+        layOut(record, clusters, file);
     }
     table.files.push_back(std::move(file));
 }

@@ -31,6 +31,12 @@ class NtfsVolume {
     const std::vector<SectorRun>& recordPlaces() const { return m_places; }
 
   private:
+    struct Named {
+        NtfsReference base;
+        NtfsReference parent;
+        QString name;
+    };
+
     std::vector<SectorRun> sectorsOf(const std::vector<NtfsRun>& runs) const;
     void readRecords(const std::vector<SectorRun>& places, std::uint64_t records);
     void keep(std::uint64_t number, NtfsRecord record);
@@ -41,6 +47,8 @@ class NtfsVolume {
     // The same, made once.
     const std::optional<QString>& knownFolderOf(const NtfsReference& parent);
     void placeFile(const NtfsRecord& record, std::uint64_t sectors, CardFile& file) const;
+    // The same for one that is packed or has holes.
+    void layOut(const NtfsRecord& record, std::uint64_t clusters, CardFile& file) const;
     void tellFile(const NtfsRecord& record, CardTable& table);
 
     SectorSource& m_card;
@@ -50,8 +58,10 @@ class NtfsVolume {
     std::vector<SectorRun> m_held;  // by what is there
     std::map<std::uint64_t, NtfsRecord> m_records;
     // Further parts of a file's contents, by the record that they go on, in the order of its clusters.
-    std::unordered_map<std::uint64_t, std::map<std::uint64_t, NtfsRecord>> m_parts;
+    std::unordered_map<std::uint64_t, std::multimap<std::uint64_t, NtfsRecord>> m_parts;
     std::size_t m_partsKept = 0;
+    // Names that stand in a further record, by the record that they belong to.
+    std::multimap<std::uint64_t, Named> m_names;
     std::uint64_t m_runsKept = 0;
     std::uint64_t m_contentsKept = 0;  // bytes
     std::map<std::pair<std::uint64_t, std::uint16_t>, std::optional<QString>> m_folders;

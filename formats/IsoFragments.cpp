@@ -24,7 +24,9 @@ FragmentPart partOf(ByteView& view, std::span<const FragmentedTrack> tracks, con
     const auto id = in.u32();
     FragmentPart part;
     part.track = tracks.size();
-    part.base = fragment;
+    // Without a position of its own the data goes on where that of the track before ended.
+    constexpr std::uint32_t kFromFragment = 0x020000;
+    part.base = (flags & kFromFragment) != 0 ? fragment : next;
     part.next = next;
     if ((flags & 1) != 0)
         part.base = part.next = in.u64();

@@ -5,6 +5,8 @@
 #include <array>
 #include <string>
 
+#include "formats/TextReader.h"
+
 namespace vantor {
 
 namespace {
@@ -16,20 +18,22 @@ constexpr const Format* kFormats[] = {
 };
 
 // Some programs leave a few bytes behind a file's last mark, a line end mostly. They are the file's where
-// nothing but zeros follows them in their sector: what lay there before would fill it. Only that sector is
-// read.
+// nothing but zeros follows them in their sector: what lay there before would fill it. Few zeros prove it of
+// blanks alone, and where a sector begins another file may. Only that sector is read.
 Extent withLeftBehind(ByteSource& source, Extent extent) {
-    constexpr std::uint64_t kMost = 64, kLeastZeros = 32;
-    if (extent.verdict != Verdict::Complete || !extent.exactEnd || isSectorStart(extent.end))
+    constexpr std::uint64_t kMost = 64, kLeastZeros = 32, kMostBlanks = 4, kFewZeros = 4;
+    if (extent.verdict != Verdict::Complete || !extent.exactEnd)
         return extent;
     std::array<std::uint8_t, 512> sector;
     const std::uint64_t within = extent.end % sector.size(), left = sector.size() - within;
-    if (left < kLeastZeros || source.read(extent.end - within, sector) < sector.size())
+    if (left <= kFewZeros || source.read(extent.end - within, sector) < sector.size())
         return extent;
     const auto rest = std::span(sector).subspan(static_cast<std::size_t>(within));
     const auto last = std::find_if(rest.rbegin(), rest.rend(), [](std::uint8_t byte) { return byte != 0; });
     const auto zeros = static_cast<std::uint64_t>(last - rest.rbegin());
-    if (zeros >= kLeastZeros && left - zeros <= kMost)
+    const bool blanks = left - zeros <= kMostBlanks && std::all_of(last, rest.rend(), isTextSpace);
+    const bool few = within != 0 && zeros >= kLeastZeros && left - zeros <= kMost;
+    if (few || (blanks && zeros >= kFewZeros))
         extent.end += left - zeros;
     return extent;
 }

@@ -3,14 +3,28 @@
 
 namespace vantor {
 
-QString steeringSpeltOut(QStringView text) {
+namespace {
+
+template <class Is>
+QString speltOut(QStringView text, const Is& isToBe) {
     QString shown;
     for (const QChar c : text) {
-        const bool invisible = c.category() == QChar::Other_Control || c.category() == QChar::Other_Format ||
-                               c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
-        shown += invisible ? QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0')) : QString(c);
+        shown += isToBe(c) ? QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0')) : QString(c);
     }
     return shown;
+}
+
+}  // namespace
+
+QString steeringSpeltOut(QStringView text) {
+    return speltOut(text, [](QChar c) {
+        return c.category() == QChar::Other_Control || c.category() == QChar::Other_Format ||
+               c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
+    });
+}
+
+QString controlsSpeltOut(QStringView text) {
+    return speltOut(text, [](QChar c) { return c.category() == QChar::Other_Control; });
 }
 
 QString shownLabel(const QString& text) {

@@ -15,6 +15,7 @@ using namespace std::chrono_literals;
 
 constexpr auto kPatience = 3s;
 constexpr auto kSettleTime = 200ms;
+constexpr std::chrono::milliseconds kLongestUnsettled = 1s;
 constexpr auto kRetryTime = 5s;
 
 }  // namespace
@@ -115,8 +116,14 @@ DescriptorRequest UdisksBackend::descriptorRequest() const {
     };
 }
 
+// A device that never comes to rest does not keep the others from the list.
 void UdisksBackend::onSignal() {
-    m_settle.start();
+    if (!m_settle.isActive()) {
+        m_unsettled.start();
+    }
+    if (!m_settle.isActive() || !m_unsettled.hasExpired(kLongestUnsettled.count())) {
+        m_settle.start();
+    }
 }
 
 void UdisksBackend::onRetry() {

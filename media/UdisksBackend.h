@@ -3,6 +3,7 @@
 
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
+#include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 #include <memory>
@@ -41,6 +42,7 @@ class UdisksBackend : public QObject, public MediaBackend {
     QString m_listeningOn;                            // name of the connection whose signals arrive
     std::unique_ptr<QDBusPendingCallWatcher> m_late;  // a call that is still waited for
     QTimer m_settle;                                  // many signals, one change
+    QElapsedTimer m_unsettled;                        // since the first of them
     QTimer m_retry;                                   // while there is no bus
 };
 

@@ -40,7 +40,7 @@ bool WindowedReader::fetch() {
     if (fetchQuiet() || fetchKept()) {
         return true;
     }
-    if (position() < m_singleUntil) {
+    if (position() >= m_singleFrom && position() < m_singleUntil) {
         return fetchSingle();
     }
     m_attemptedFrom = m_attemptedUntil = 0;
@@ -250,7 +250,11 @@ bool WindowedReader::readSingle(std::uint64_t sector) {
     return m_source->readAt(sector, {m_back, kSectorBytes}) == static_cast<std::int64_t>(kSectorBytes);
 }
 
+// Of two stretches far from each other the later counts: what was refused in the former is known by now.
 void WindowedReader::goSingle(std::uint64_t from) {
+    if (from < m_singleFrom || from > m_singleUntil) {
+        m_singleFrom = m_singleUntil = from;
+    }
     m_singleUntil = std::max(m_singleUntil, from + m_windowSectors);
 }
 

@@ -95,7 +95,9 @@ class WindowedReader : public SectorReader {
     std::unique_ptr<std::uint8_t[]> m_storage;
     std::uint8_t* m_front;
     std::uint8_t* m_back;
-    std::uint64_t m_singleUntil = 0;  // sectors before this one are read one by one
+    // Sectors that are read one by one.
+    std::uint64_t m_singleFrom = 0;
+    std::uint64_t m_singleUntil = 0;
     // The sectors for the first of which to be refused alone that is the second attempt, after their window.
     std::uint64_t m_attemptedFrom = 0;
     std::uint64_t m_attemptedUntil = 0;

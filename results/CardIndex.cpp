@@ -55,6 +55,22 @@ std::uint64_t dataBytesOf(const CardFile& file) {
     return file.validBytes != 0 ? std::min(file.bytes, file.validBytes) : file.bytes;
 }
 
+std::vector<SectorRun> runsOfData(const CardFile& file) {
+    if (!file.holes.empty()) {
+        return file.runs;
+    }
+    std::vector<SectorRun> runs;
+    std::uint64_t left = sectorsFor(dataBytesOf(file));
+    for (const SectorRun& run : file.runs) {
+        const std::uint64_t count = std::min(left, run.end - run.first);
+        if (count > 0) {
+            runs.push_back({run.first, run.first + count});
+        }
+        left -= count;
+    }
+    return runs;
+}
+
 QString originalPath(const CardFile& file) {
     return file.folder.isEmpty() ? file.name : file.folder + u'/' + file.name;
 }
@@ -72,15 +88,19 @@ CardIndex::CardIndex(CardTable table) : m_table(std::move(table)) {
         if (file.runs.empty() || dataBytesOf(file) == 0) {
             continue;
         }
+        const std::vector<SectorRun> runs = runsOfData(file);
         if (file.state == FileState::Live) {
-            m_live.insert(m_live.end(), file.runs.begin(), file.runs.end());
+            m_live.insert(m_live.end(), runs.begin(), runs.end());
         }
         // One that its own record holds takes no place, and nothing begins where it does.
         if (!file.contents.isEmpty()) {
             continue;
         }
-        m_starts.push_back({file.runs.front().first, 0, &file});
-        for (const SectorRun& run : file.runs) {
+        // What is found where it begins is not all of one with holes, nor as it was where it is packed.
+        if (file.holes.empty()) {
+            m_starts.push_back({file.runs.front().first, 0, &file});
+        }
+        for (const SectorRun& run : runs) {
             m_claims.push_back({run.first, run.end, &file});
         }
     }
@@ -139,7 +159,7 @@ bool hadGone(const CardFile& other, SectorRun claim, const CardFile& file) {
 }  // namespace
 
 bool CardIndex::isDisputed(const CardFile& file) const {
-    for (const SectorRun& run : file.runs) {
+    for (const SectorRun& run : runsOfData(file)) {
         auto claim = std::lower_bound(m_claims.begin(), m_claims.end(), run.end,
                                       [](const Claim& c, std::uint64_t s) { return c.first < s; });
         while (claim != m_claims.begin()) {
@@ -258,10 +278,14 @@ class CardIndex::FreeWalk {
 
   private:
     bool isOthers(const Claim& claim) const { return claim.file->runs.front().first > m_begin; }
+    static std::uint64_t endOfClusters(const Claim& claim) {
+        const std::uint64_t cluster = std::max(claim.file->clusterSectors, 1U);
+        return claim.first + (claim.end - claim.first + cluster - 1) / cluster * cluster;
+    }
     void passClaimsUpTo(std::uint64_t sector) {
         for (; m_claim != m_index.m_claims.end() && m_claim->first <= sector; ++m_claim) {
             if (isOthers(*m_claim)) {
-                m_claimedUpTo = std::max(m_claimedUpTo, m_claim->end);
+                m_claimedUpTo = std::max(m_claimedUpTo, endOfClusters(*m_claim));
             }
         }
     }

@@ -73,12 +73,15 @@ class CardIndex {
     const CardTable m_table;
     std::vector<SectorRun> m_live;       // of files that are there; sorted, apart
     std::vector<Claim> m_starts;         // by first sector; `end` is not used
-    std::vector<Claim> m_claims;         // all runs of all files, by first sector
+    std::vector<Claim> m_claims;         // all runs of all files' bytes, by first sector
     std::vector<std::uint64_t> m_reach;  // how far the claims up to each reach
 };
 
 // The bytes that the file's own writer put there: exFAT and NTFS reserve more than they have written.
 std::uint64_t dataBytesOf(const CardFile& file);
+
+// Where they lie, in whole sectors. What the last cluster holds behind them may be left of an older file.
+std::vector<SectorRun> runsOfData(const CardFile& file);
 
 // "DCIM/100CANON/IMG_0412.JPG".
 QString originalPath(const CardFile& file);

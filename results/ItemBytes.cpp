@@ -27,7 +27,19 @@ bool proves(const TrueLength& length, const Assembly& pieces, bool placesAreKnow
     return placesAreKnown ? sameEnd || !length.extent.exactEnd : sameEnd && length.extent.checked;
 }
 
-ItemSource sourceOf(const ItemSource& source, const Assembly& assembly) {
+std::unique_ptr<LaidOutReader> laidOutReaderOf(const ItemSource& source) {
+    const auto& told = source.hints.told;
+    SectorReader* const medium = told && !told->holes.empty() && source.medium ? source.medium() : nullptr;
+    return medium != nullptr ? std::make_unique<LaidOutReader>(*told, *medium) : nullptr;
+}
+
+ItemSource sourceOf(const ItemSource& source, const Assembly& assembly, LaidOutReader* laidOut) {
+    if (laidOut != nullptr) {
+        const std::uint64_t sectors = laidOut->mediumSectors();
+        ItemSource whole{{{{0, sectors}}, false}, {}, [laidOut] { return laidOut; }, sectors};
+        whole.asPublished = true;
+        return whole;
+    }
     // Of a told file the bytes at hand are its own.
     const QByteArrayView atHand = source.hints.told ? source.firstBytes : QByteArrayView();
     ItemSource pieces{{assembly.runs, source.carved.readFailed}, atHand, source.medium, source.mediumSectors};
@@ -43,7 +55,7 @@ Verdict verdictOf(const ItemTruth& truth) {
 }
 
 ItemBytes::Pieces::Pieces(const ItemSource& from, const Assembly& assembly, std::vector<std::uint8_t>& kept)
-    : source(sourceOf(from, assembly)), bytes(source, kept) {}
+    : laidOut(laidOutReaderOf(from)), source(sourceOf(from, assembly, laidOut.get())), bytes(source, kept) {}
 
 ItemBytes::ItemBytes(const ItemSource& source, std::vector<std::uint8_t>& kept)
     : m_source(source), m_carved(source, kept) {}

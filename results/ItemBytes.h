@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "results/CardIndex.h"
+#include "results/LaidOutReader.h"
 #include "results/MediumBytes.h"
 #include "results/TrueLength.h"
 
@@ -50,6 +51,7 @@ class ItemBytes {
     struct Pieces {
         Pieces(const ItemSource& source, const Assembly& assembly, std::vector<std::uint8_t>& kept);
 
+        const std::unique_ptr<LaidOutReader> laidOut;  // of a told file that is; else null
         const ItemSource source;
         MediumBytes bytes;
     };

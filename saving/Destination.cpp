@@ -1,4 +1,4 @@
-// One folder, known by its path and the disk that it lay on first.
+// One folder, known by its path, the disk that it lay on first and the time when it was made.
 #include "saving/Destination.h"
 
 #include <QObject>
@@ -14,8 +14,13 @@ Destination::Destination(QString path, LiesOnMedium liesOnMedium)
 
 std::optional<SavingFolder> Destination::open() const {
     auto folder = SavingFolder::open(m_path);
-    const auto device = folder ? folder->device() : std::nullopt;
-    return device && m_device.value_or(*device) == *device ? std::move(folder) : std::nullopt;
+    return folder && isTheFirst(*folder) ? std::move(folder) : std::nullopt;
+}
+
+bool Destination::isTheFirst(const SavingFolder& folder) const {
+    const auto device = folder.device();
+    const auto birth = folder.birth();
+    return device && m_device.value_or(*device) == *device && (!birth || m_birth.value_or(*birth) == *birth);
 }
 
 std::optional<SavingFolder> Destination::openToWrite(QString& why) {
@@ -29,6 +34,7 @@ std::optional<SavingFolder> Destination::openToWrite(QString& why) {
         return std::nullopt;
     }
     m_device = folder->device();
+    m_birth = folder->birth();
     return folder;
 }
 

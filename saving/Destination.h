@@ -4,6 +4,7 @@
 #include <sys/types.h>
 
 #include <QString>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -16,7 +17,8 @@ struct ReportedItem;
 struct SaveOutcome;
 struct SaveTally;
 
-// Never made anew, and never taken for one of its name on another disk, such as a mount point leaves behind.
+// Never made anew, and never taken for one of its name on another disk, such as a mount point leaves behind,
+// nor for one that somebody made in its place.
 // Not held open in between: the user may want to unmount it. Any one thread at a time.
 class Destination {
   public:
@@ -40,10 +42,12 @@ class Destination {
 
   private:
     QString goneWords() const;
+    bool isTheFirst(const SavingFolder& folder) const;
 
     QString m_path;
     LiesOnMedium m_liesOnMedium;
     std::optional<dev_t> m_device;  // that it was on first
+    std::optional<std::int64_t> m_birth;
 };
 
 }  // namespace vantor

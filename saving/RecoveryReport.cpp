@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QUrl>
 
+#include "media/LabelText.h"
 #include "results/Mend.h"
 #include "results/RecoveryMode.h"
 #include "results/SizeForPeople.h"
@@ -68,7 +69,8 @@ QString originalText(const std::shared_ptr<const CardFile>& original) {
     if (original->modified) {
         parts << QObject::tr("changed %1").arg(dateText(*original->modified));
     }
-    return QStringLiteral("%1 (%2)").arg(originalPath(*original), parts.join(QStringLiteral(", ")));
+    return QStringLiteral("%1 (%2)").arg(controlsSpeltOut(originalPath(*original)),
+                                         parts.join(QStringLiteral(", ")));
 }
 
 // One word for machines.
@@ -89,7 +91,7 @@ QString reasonText(const SaveOutcome& outcome) {
                : outcome.leftOut == LeftOut::Part    ? QObject::tr("part of %1").arg(outcome.partOf)
                                                      : QObject::tr("still there as a file");
     }
-    return outcome.error;
+    return controlsSpeltOut(outcome.error);
 }
 
 QString relativePath(const QString& folder, const QString& path) {
@@ -227,7 +229,7 @@ QString headText(const ReportHead& head) {
     const auto time = [](const QDateTime& t) {
         return t.isValid() ? t.toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")) : QString();
     };
-    return QStringLiteral("<table>\n") + line(QObject::tr("Medium"), head.medium) +
+    return QStringLiteral("<table>\n") + line(QObject::tr("Medium"), controlsSpeltOut(head.medium)) +
            line(QObject::tr("Sectors of 512 bytes"),
                 head.sectors != 0 ? numberForPeople(head.sectors) : QString()) +
            line(QObject::tr("Searched for"), head.mode) + line(QObject::tr("Begun"), time(head.begun)) +
@@ -235,7 +237,8 @@ QString headText(const ReportHead& head) {
            QStringLiteral("</table>\n");
 }
 
-QString quoted(QString field) {
+QString quoted(const QString& text) {
+    QString field = controlsSpeltOut(text);
     return u'"' + field.replace(u'"', QStringLiteral("\"\"")) + u'"';
 }
 

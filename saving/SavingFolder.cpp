@@ -2,7 +2,9 @@
 #include "saving/SavingFolder.h"
 
 #include <fcntl.h>
+#include <linux/magic.h>
 #include <sys/stat.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 
 #include <QFile>
@@ -81,6 +83,30 @@ std::optional<dev_t> SavingFolder::device() const {
         return std::nullopt;
     }
     return info.st_dev;
+}
+
+namespace {
+
+// Others tell other times once a folder was forgotten and read again, as exFAT does, or tell none.
+bool keepsTimesOfBirth(int folder) {
+    struct statfs info {};
+    return ::fstatfs(folder, &info) == 0 &&
+           (info.f_type == EXT4_SUPER_MAGIC || info.f_type == BTRFS_SUPER_MAGIC ||
+            info.f_type == XFS_SUPER_MAGIC || info.f_type == TMPFS_MAGIC);
+}
+
+}  // namespace
+
+std::optional<std::int64_t> SavingFolder::birth() const {
+    constexpr std::int64_t kNanoseconds = 1'000'000'000;
+    struct statx info {};
+    if (!keepsTimesOfBirth(descriptor()) ||
+        ::statx(descriptor(), "", AT_EMPTY_PATH, STATX_BTIME, &info) != 0 ||
+        (info.stx_mask & STATX_BTIME) == 0 || info.stx_btime.tv_sec >= INT64_MAX / kNanoseconds ||
+        info.stx_btime.tv_sec <= INT64_MIN / kNanoseconds) {
+        return std::nullopt;
+    }
+    return info.stx_btime.tv_sec * kNanoseconds + info.stx_btime.tv_nsec;
 }
 
 void SavingFolder::flush() const {

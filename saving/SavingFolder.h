@@ -5,6 +5,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <cstdint>
 #include <memory>
 #include <optional>
 
@@ -30,6 +31,10 @@ class SavingFolder {
     const QString& path() const { return m_path; }
     // The number of the file system it lies on; nothing when it cannot be asked any more.
     std::optional<dev_t> device() const;
+    // When it was made, in nanoseconds since 1970 UTC, by which a folder that was made anew in its place is
+    // told from it (numbers of inodes are given out again). Nothing where the file system does not keep it
+    // to the letter.
+    std::optional<std::int64_t> birth() const;
     // What was created in it survives a loss of power from here on, as far as the file system can.
     void flush() const;
 

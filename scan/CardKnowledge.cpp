@@ -41,7 +41,7 @@ std::shared_ptr<const SectorScreen> ScanSession::screenFor(
     return m_traces ? std::make_shared<const TraceScreen>(std::move(headers)) : std::move(headers);
 }
 
-std::vector<std::shared_ptr<const CardFile>> ScanSession::toldFiles() const {
+std::vector<std::shared_ptr<const CardFile>> ScanSession::toldFiles(std::uint64_t* beyondRoom) const {
     const auto known = card();
     if (!known) {
         return {};
@@ -79,7 +79,7 @@ std::vector<std::shared_ptr<const CardFile>> ScanSession::toldFiles() const {
     };
     // A thorough pass over no signatures, which ends at once, comes after a general one that was whole.
     const std::uint64_t searchedTo = m_end.nothingToSearch ? m_end.end : m_end.sector;
-    return toldOnly(known, starts, {{m_end.start, searchedTo}, isWanted});
+    return toldOnly(known, starts, {{m_end.start, searchedTo}, isWanted}, beyondRoom);
 }
 
 void ScanSession::forgetCard() {

@@ -134,8 +134,9 @@ class ScanSession : public HexText {
     void setAskCard(bool ask) { m_askCard = ask; }
     // What they told, of the last search; null as long as that is not known. Any thread.
     std::shared_ptr<const CardIndex> card() const;
-    // Files in the searched range that no item is and that only the directories tell of.
-    std::vector<std::shared_ptr<const CardFile>> toldFiles() const;
+    // Files in the searched range that no item is and that only the directories tell of; `beyondRoom` as with
+    // toldOnly().
+    std::vector<std::shared_ptr<const CardFile>> toldFiles(std::uint64_t* beyondRoom = nullptr) const;
 
     // --- Naming (Naming.cpp) ---
 

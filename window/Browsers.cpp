@@ -193,9 +193,9 @@ void MyTableController::showChosenType() {
     allTypesButton->setEnabled(!m_looks->shownType().isEmpty());
 }
 
-void MyTableController::takeToldFiles(SavingDesk::ToldFiles files) {
+void MyTableController::takeToldFiles(SavingDesk::ToldFiles files, std::uint64_t beyondRoom) {
     m_told = std::move(files);
-    m_looks->showTold(m_told);
+    m_looks->showTold(m_told, beyondRoom);
     showItemCounts();
 }
 

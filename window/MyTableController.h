@@ -397,7 +397,7 @@ class MyTableController : public QObject,
     ImageBrowserView* browserOf(ControlSet set) const;
     void filterResultRows();
     void showChosenType();
-    void takeToldFiles(SavingDesk::ToldFiles files);
+    void takeToldFiles(SavingDesk::ToldFiles files, std::uint64_t beyondRoom);
     void forgetItems();
     void keepChosenType();
     void showItemCounts();

@@ -52,7 +52,9 @@ void MyTableController::startScan(void (ScanSession::*driver)()) {
     m_driver = std::thread([this, driver] {
         (this->*driver)();
         mSetLabelTimer->invalidate();
-        later([this, told = toldFiles()] { takeToldFiles(told); });
+        std::uint64_t beyondRoom = 0;
+        auto told = toldFiles(&beyondRoom);
+        later([this, told = std::move(told), beyondRoom] { takeToldFiles(told, beyondRoom); });
         m_driverRunning = false;
     });
     m_timerThread = std::thread([this] {

@@ -55,14 +55,21 @@ class Conversation {
     Job m_job;
 };
 
+// What many partitions share, or say so, would be asked for as often. Whoever asks too much gets no table at
+// all; what can no longer be asked for counts as unreadable, and what was read until then is told.
 class AskedSource final : public SectorSource {
   public:
     AskedSource(Conversation& conversation, std::uint64_t sectors)
-        : m_conversation(conversation), m_sectors(sectors) {}
+        : m_conversation(conversation), m_sectors(sectors), m_left(mostAskedOf(sectors)) {}
 
     std::uint64_t sectors() const override { return m_sectors; }
     // Not more than one question's worth.
     bool readAt(std::uint64_t sector, std::span<std::uint8_t> into) override {
+        if (into.size() / 512 > m_left) {
+            std::fill(into.begin(), into.end(), std::uint8_t{0});
+            return false;
+        }
+        m_left -= into.size() / 512;
         m_conversation.say(bytesOf(CardQuestion{sector, static_cast<std::uint32_t>(into.size() / 512)}));
         const std::span<const std::uint8_t> reply = m_conversation.input();
         if (reply.size() != into.size() + 1) {
@@ -75,6 +82,7 @@ class AskedSource final : public SectorSource {
   private:
     Conversation& m_conversation;
     const std::uint64_t m_sectors;
+    std::uint64_t m_left;  // sectors that may still be asked for
 };
 
 bool readOne(Channel& channel) {

@@ -29,11 +29,6 @@ std::uint64_t behindRemarks(ByteView& view, std::uint64_t at) {
     return at;
 }
 
-// What a page without its closing tag, or a part of a page, comes to.
-Extent endOfPart(ByteView& view, std::uint64_t end) {
-    return end == view.size() ? inexact(cutOffAt(view, end)) : walkText(view);
-}
-
 }  // namespace
 
 Extent walkHtml(ByteView& view) {
@@ -58,7 +53,7 @@ Extent walkHtml(ByteView& view) {
         if (matchesAnyCase(view, tag.at, kClose))
             return completeAt(view, behindBlanks(view, tag.at + kClose.size()));
     }
-    return endOfPart(view, end);
+    return inexact(end == view.size() ? cutOffAt(view, end) : completeAt(view, readableEnd(view, at)));
 }
 
 extern constexpr Format kHtml = {

@@ -90,6 +90,11 @@ std::optional<std::uint64_t> behindLastLine(ByteView& view, std::uint64_t end) {
 
 }  // namespace
 
+std::uint64_t readableEnd(ByteView& view, std::uint64_t from) {
+    const auto end = textEnd(view, from);
+    return view.u8(end).value_or(0) != 0 ? withoutForeignLetters(view, end) : end;
+}
+
 Extent walkText(ByteView& view) {
     constexpr std::uint64_t kLeast = 4;
     // Sixteen-bit text with its mark: until the first unit that is a control character.
@@ -103,11 +108,9 @@ Extent walkText(ByteView& view) {
         }
         return at >= kLeast ? inexact(completeAt(view, at)) : unknownExtent();
     }
-    auto end = textEnd(view, 0);
-    if (const auto marked = behindLastLine(view, end))
+    if (const auto marked = behindLastLine(view, textEnd(view, 0)))
         return inexact(completeAt(view, *marked));
-    if (view.u8(end).value_or(0) != 0)
-        end = withoutForeignLetters(view, end);
+    const auto end = readableEnd(view, 0);
     return end >= kLeast ? inexact(completeAt(view, end)) : unknownExtent();
 }
 

@@ -86,6 +86,17 @@ Packets lookAtPackets(ByteView& view, const Properties& properties, std::uint64_
     return Packets::Found;
 }
 
+// Behind the packets from `from` on, each beginning as the first does; `from` itself where nothing tells
+// them.
+std::uint64_t behindPackets(ByteView& view, const Properties& properties, std::uint64_t from) {
+    const auto first = view.number(from, 3, Endian::Big);
+    if (properties.packetBytes == 0 || first != 0x820000U)
+        return from;
+    while (view.number(from, 3, Endian::Big) == first && view.holds(from, properties.packetBytes))
+        from += properties.packetBytes;
+    return from;
+}
+
 Extent walkAsf(ByteView& view) {
     if (!view.matches(0, kHeader))
         return unknownExtent();
@@ -99,15 +110,17 @@ Extent walkAsf(ByteView& view) {
     if (!view.matches(at, kData))
         return damagedAt(view, at, facts);
     const auto dataBytes = view.le64(at + 16).value_or(0);
-    if (dataBytes < kObjectHead) {  // a recording that was never closed
+    const auto packets = addClamped(at, kDataHead);
+    // A recording that was never closed, or written to where nobody could come back to the head.
+    const bool open = dataBytes <= kDataHead;
+    at = open ? behindPackets(view, properties, packets) : addClamped(at, dataBytes);
+    if (open && (at == packets || view.exhausted())) {
         Extent extent = unknownExtent();
         extent.facts = facts;
         return extent;
     }
-    const auto packets = addClamped(at, kDataHead);
-    at = addClamped(at, dataBytes);
     std::uint64_t firstBad = 0;
-    const Packets found = properties.broadcast
+    const Packets found = properties.broadcast || open
                               ? Packets::Untold
                               : lookAtPackets(view, properties, packets, std::min(at, view.size()), firstBad);
     if (found == Packets::Missing)
@@ -116,15 +129,17 @@ Extent walkAsf(ByteView& view) {
         const auto bytes = view.le64(at + 16).value_or(0);
         const auto end = addClamped(at, bytes);
         // An object of a kind unknown here belongs to the file as long as the told length covers it.
-        const bool covered = !properties.broadcast && end <= properties.fileBytes;
+        const bool covered = !properties.broadcast && !open && end <= properties.fileBytes;
         if (bytes < kObjectHead || (!isIndex(view, at) && !covered))
             break;
         at = end;
     }
     // Without its index, of which the told length knows.
-    if (!properties.broadcast && properties.fileBytes > view.size() && at <= view.size())
+    if (!properties.broadcast && !open && properties.fileBytes > view.size() && at <= view.size())
         return cutOffAt(view, view.size(), facts);
     const Extent whole = completeAt(view, at, facts);
+    if (open)
+        return inexact(whole);
     return found == Packets::Found ? withContent(whole) : whole;
 }
 

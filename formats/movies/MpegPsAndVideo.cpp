@@ -1,6 +1,7 @@
 // MPEG program streams (MPG, VOB, MOD) by their packet lengths, and bare MPEG video by its start codes.
 // Sources: ISO/IEC 11172-1 and -2, 13818-1 and -2.
 #include <algorithm>
+#include <array>
 
 #include "formats/Format.h"
 
@@ -8,10 +9,10 @@ namespace vantor {
 
 namespace {
 
-constexpr std::uint64_t kMostStuffing = 64 * 1024;                // zero bytes between packets
-constexpr std::uint64_t kMpegPsAndVideoMostSilence = 256 * 1024;  // without a start code in bare video
-constexpr std::uint64_t kVideoDiscSector = 2324;                  // of a Video CD, one pack each
-constexpr std::uint64_t kFewCodes = 4;                            // fewer start codes do not make a video
+constexpr std::uint64_t kMostStuffing = 64 * 1024;                   // zero bytes between packets
+constexpr std::uint64_t kMpegPsAndVideoMostSilence = 256 * 1024;     // without a start code in bare video
+constexpr std::array<std::uint64_t, 2> kDiscSectors = {2324, 2048};  // of a Video CD and others, a pack each
+constexpr std::uint64_t kFewCodes = 4;                               // fewer start codes do not make a video
 constexpr std::uint8_t kFirstSlice = 0x01, kLastSlice = 0xAF;
 
 // The code behind 00 00 01 at `at`; nothing when no start code stands there.
@@ -57,10 +58,10 @@ std::uint64_t skipStuffing(ByteView& view, std::uint64_t at) {
     return code && *code >= 0xB9 ? end - 2 : at;
 }
 
-// Behind the zeros that fill the last sector of a Video CD's stream, whose packs all begin with one; `at`
-// itself where something else stands there.
-std::uint64_t behindVideoDiscFilling(ByteView& view, std::uint64_t at) {
-    const auto end = (at + kVideoDiscSector - 1) / kVideoDiscSector * kVideoDiscSector;
+// Behind the zeros that fill the last sector of a stream on a disc, whose packs all begin with one of so many
+// bytes; `at` itself where something else stands there.
+std::uint64_t behindDiscFilling(ByteView& view, std::uint64_t at, std::uint64_t sector) {
+    const auto end = (at + sector - 1) / sector * sector;
     for (auto filling = at; filling < end; ++filling) {
         if (view.u8(filling) != std::uint8_t{0})
             return at;
@@ -75,7 +76,7 @@ Extent walkMpegPs(ByteView& view) {
     std::uint64_t packets = 0;
     std::uint64_t clock = 0;
     std::uint64_t packs = 0;
-    bool discSectors = true;
+    auto discSectors = kDiscSectors;  // those that no pack contradicts, the others 1
     bool navigation = false;
     for (;;) {
         const auto here = skipStuffing(view, at);
@@ -99,7 +100,8 @@ Extent walkMpegPs(ByteView& view) {
                 break;
             clock = now;
             ++packs;
-            discSectors = discSectors && here % kVideoDiscSector == 0;
+            for (auto& sector : discSectors)
+                sector = here % sector == 0 ? sector : 1;
             end = here + bytes;
         } else {
             const auto bytes = view.be16(here + 4);
@@ -115,7 +117,8 @@ Extent walkMpegPs(ByteView& view) {
     }
     if (packets < 2)
         return view.holds(at, 6) ? unknownExtent() : cutOffAt(view, at);
-    return inexact(completeAt(view, discSectors && packs > 1 ? behindVideoDiscFilling(view, at) : at));
+    const auto sector = std::max(discSectors[0], discSectors[1]);
+    return inexact(completeAt(view, packs > 1 ? behindDiscFilling(view, at, sector) : at));
 }
 
 // Where the zero bytes in front of `at` begin, not before `from`.

@@ -59,6 +59,7 @@ class RiffWalk {
 
     Step outer();
     Step inner(std::uint64_t told);
+    Step openMovie();
     void chunksBehind();
     bool isFilled(std::uint64_t told);
     bool isMiscounted(std::uint64_t told);
@@ -153,7 +154,7 @@ RiffWalk::Step RiffWalk::inner(std::uint64_t told) {
             return Step::Done;
         const auto chunk = readChunk(m_view, m_at, m_endian);
         // Others count the outer chunk's own head as well, or that of an inner one twice.
-        if (!chunk && m_sawSamples && (told - m_at == 8 || isMiscounted(told))) {
+        if (!chunk && ((m_sawPayload && told - m_at == 8) || (m_sawSamples && isMiscounted(told)))) {
             m_miscounted = true;
             return Step::Done;
         }
@@ -194,6 +195,39 @@ RiffWalk::Step RiffWalk::inner(std::uint64_t told) {
     return Step::Broken;
 }
 
+// The chunks of a movie whose sizes were never written, since its writer could not come back to them: as long
+// as they are such as belong into one.
+RiffWalk::Step RiffWalk::openMovie() {
+    constexpr std::uint32_t kMostOpenChunks = 1 << 22, kFewPieces = 3;
+    constexpr std::array<std::string_view, 3> kOthers = {"LIST", "JUNK", "idx1"};
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    std::uint32_t pieces = 0;
+    for (std::uint32_t chunks = 0; chunks < kMostOpenChunks; ++chunks) {
+        const auto chunk = readChunk(m_view, m_at, m_endian);
+        const bool piece = chunk && m_movie != 0 &&
+                           ((isDigit(chunk->name[0]) && isDigit(chunk->name[1])) ||
+                            (isDigit(chunk->name[2]) && isDigit(chunk->name[3])));
+        if (!chunk || (!piece && !isAmong(kOthers, chunk->text())))
+            break;
+        addRiffFacts(m_view, {m_form.data(), m_form.size()}, chunk->text(), chunk->body, chunk->bytes,
+                     m_facts);
+        const bool list = chunk->text() == "LIST";
+        if (list && m_view.matches(chunk->body, "movi") && m_movie == 0)
+            m_movie = chunk->body;
+        const bool into = list && (m_movie == chunk->body || m_view.matches(chunk->body, "rec "));
+        if (!into && chunk->end() > m_view.size())
+            return pieces >= kFewPieces ? Step::Cut : Step::Unbounded;
+        pieces += piece ? 1 : 0;
+        m_at = into ? chunk->body + 4 : chunk->end() + chunk->bytes % 2;
+        if (chunk->text() == "idx1")
+            break;
+    }
+    m_miscounted = true;
+    m_sawPayload = pieces >= kFewPieces;
+    m_at = std::min(m_at, m_view.size());
+    return m_sawPayload && !m_view.exhausted() ? Step::Done : Step::Unbounded;
+}
+
 RiffWalk::Step RiffWalk::outer() {
     Cursor in(m_view, m_at + 4, m_endian);
     const std::uint64_t size = in.u32();
@@ -202,7 +236,10 @@ RiffWalk::Step RiffWalk::outer() {
     m_view.copy(m_at + 8, {reinterpret_cast<std::uint8_t*>(m_form.data()), m_form.size()});
     const std::uint64_t start = m_at;
     m_at += kRiffHead;
-    if (size == 0 || size == kUnsetSize)
+    const bool open = size == 0 || size == kUnsetSize;
+    if (open && std::string_view(m_form.data(), m_form.size()) == "AVI ")
+        return openMovie();
+    if (open)
         return m_view.matches(start, "RF64") || m_view.matches(start, "BW64") ? inner(m_view.size())
                                                                               : Step::Unbounded;
     return inner(start + 8 + size);

@@ -54,6 +54,7 @@ class JpegWalk {
     bool m_stuffsBits = false;  // a frame of JPEG-LS
     bool m_sawScan = false;
     bool m_sawMotionNote = false;
+    bool m_seesAround = false;  // was taken by a camera that sees all around
     JpegScan m_scan;
     bool m_scansSound = true;   // so far as they could be judged
     bool m_scansJudged = true;  // all of them
@@ -71,12 +72,21 @@ bool isTable(std::uint8_t marker) {
            marker == 0xFE;
 }
 
+bool holdsText(ByteView& view, std::uint64_t at, std::uint64_t bytes, std::string_view text) {
+    const auto to = addClamped(at, bytes);
+    auto first = view.find(static_cast<std::uint8_t>(text[0]), at, to);
+    while (first.found() && !view.matches(first.at, text))
+        first = view.find(static_cast<std::uint8_t>(text[0]), first.at + 1, to);
+    return first.found();
+}
+
 void JpegWalk::application(std::uint8_t marker, std::uint64_t at, std::uint64_t length) {
     if (marker == 0xE1 && m_view.matches(at, std::string_view("Exif\0\0", kExifHeaderBytes))) {
         Facts exif;
         addTiffFacts(m_view, at + kExifHeaderBytes, exif);
         if (!m_facts.taken)
             m_facts.taken = exif.taken;
+        m_seesAround = m_seesAround || holdsText(m_view, at, length, "Insta360");
     } else if (marker == 0xE2 && m_view.matches(at, std::string_view("MPF\0", 4))) {
         m_multiPicture = at + 4;
     } else if (marker == 0xE1 && m_view.matches(at, "http://ns.adobe.com/xap/1.0/")) {
@@ -230,13 +240,16 @@ Extent JpegWalk::furtherPictures() {
     return extent;
 }
 
-// A short movie that phones put behind the picture, either at once or inside a named block of a maker's
-// trailer.
+// What a camera put behind the picture: a trailer, or a short movie, either at once or inside a named block
+// of a maker's trailer.
 std::optional<Extent> JpegWalk::motionPhoto() {
     constexpr std::string_view kBlockName = "MotionPhoto_Data";
     std::uint64_t at = m_at;
     if (const auto end = endOfMakerTrailer(m_view, at))
         return withContent(completeAt(m_view, end, m_facts));
+    const auto sphere = m_seesAround ? endOfSphereTrailer(m_view, at) : 0;
+    if (sphere != 0)
+        return completeAt(m_view, sphere, m_facts);
     if (m_view.matches(at + 8, kBlockName))
         at += 8 + kBlockName.size();
     else if (!m_sawMotionNote && isSectorStart(at))

@@ -54,4 +54,18 @@ std::uint64_t endOfMakerTrailer(ByteView& view, std::uint64_t at) {
     return 0;
 }
 
+std::uint64_t endOfSphereTrailer(ByteView& view, std::uint64_t at) {
+    constexpr std::string_view kSign = "8db42d694ccc418790edff439fe026bf";
+    constexpr std::uint64_t kLengthBack = 40, kLeast = 78, kMost = 16 * 1024 * 1024;
+    const auto limit = std::min(view.size(), addClamped(at, kMost));
+    for (auto sign = view.find('8', at, limit); sign.found(); sign = view.find('8', sign.at + 1, limit)) {
+        if (!view.matches(sign.at, kSign))
+            continue;
+        const auto end = sign.at + kSign.size();
+        if (end - at >= kLeast && view.le32(end - kLengthBack) == end - at)
+            return end;
+    }
+    return 0;
+}
+
 }  // namespace vantor

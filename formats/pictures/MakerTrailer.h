@@ -1,4 +1,4 @@
-// What phones of one maker put behind a photo's end: named blocks, and a list of them.
+// What phones and cameras of some makers put behind a photo's end.
 #pragma once
 
 #include <cstdint>
@@ -12,5 +12,10 @@ namespace vantor {
 // block how far before it that begins; its own length and "SEFT" end it. Source: public notes on the Samsung
 // Extended Format, among them those of the ExifTool forum, and on motion photos.
 std::uint64_t endOfMakerTrailer(ByteView& view, std::uint64_t at);
+
+// Behind the trailer that begins at `at` in photos of cameras that see all around; 0 where none does. It
+// holds what the camera noted of its movement, and ends with 32 letters that are always the same; forty bytes
+// before its end stands how long it is (little-endian). Source: public notes on INSV and INSP files.
+std::uint64_t endOfSphereTrailer(ByteView& view, std::uint64_t at);
 
 }  // namespace vantor

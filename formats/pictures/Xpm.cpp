@@ -7,6 +7,21 @@ namespace vantor {
 
 namespace {
 
+// Behind the remarks that follow a line end at `at`, each with its own, so far as they end within the sector
+// in text; else `at`.
+std::uint64_t behindRemarks(ByteView& view, std::uint64_t at) {
+    for (std::uint64_t end = at; !isSectorStart(end) && view.matches(end, "/*");) {
+        for (end += 2; !view.matches(end, "*/"); ++end) {
+            const auto byte = view.u8(end);
+            if (!byte || isForeign(*byte) || isSectorStart(end))
+                return at;
+        }
+        end += 2;
+        at = end = behindLineEnd(view, end);
+    }
+    return at;
+}
+
 // C source: an array of texts that ends with "};".
 Extent walkXpm(ByteView& view) {
     if (view.matches(0, "! XPM2\n") || view.matches(0, "! XPM2\r"))
@@ -27,7 +42,7 @@ Extent walkXpm(ByteView& view) {
         else if (!quoted && *byte == '}')
             closed = true;
         else if (closed && *byte == ';')
-            return completeAt(view, behindEmptyLine(view, at + 1));
+            return completeAt(view, behindRemarks(view, behindEmptyLine(view, at + 1)));
     }
 }
 

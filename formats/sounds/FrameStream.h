@@ -55,6 +55,12 @@ Extent walkFrames(ByteView& view, std::uint64_t at, std::uint64_t proof, FrameBy
     if (frames < proof)
         return none;
     const auto end = skipTrailingTags(view, at);
+    // Sound that broke off inside a frame may have been given a tag all the same.
+    for (auto tag = view.find('T', followed.last + kHead, at); end == at && tag.found();
+         tag = view.find('T', tag.at + 1, at)) {
+        if (isOldTag(view, tag.at))
+            return inexact(completeAt(view, skipTrailingTags(view, tag.at)));
+    }
     meetHead(end);
     followed.tornTag = view.matches(end, "TAG") || view.matches(end, "LYRICSBEGIN");
     if (row != nullptr)

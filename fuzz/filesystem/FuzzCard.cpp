@@ -68,7 +68,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             hold(run.first < run.end && run.end <= kSectors);
             sectors += run.end - run.first;
         }
-        hold(sectors <= kSectors && file.clusterSectors != 0);
+        for (std::size_t i = 0; i < file.holes.size(); ++i) {
+            hold(file.holes[i].first < file.holes[i].end && file.holes[i].end <= kSectors + 2048);
+            hold(i == 0 || file.holes[i - 1].end <= file.holes[i].first);
+        }
+        hold(sectors <= kSectors && file.unitSectors <= 2048 && file.clusterSectors != 0);
         hold(file.contents.isEmpty() || (static_cast<std::uint64_t>(file.contents.size()) == sectors * 512 &&
                                          file.bytes <= sectors * 512));
     }

@@ -57,6 +57,10 @@ int main(int argc, char** argv) {
         record(kThere, 1,
                nameAttribute("a.jpg", 23, 1) + timesAttribute() + dataAttribute(900, {0x11, 2, 100, 0})));
     putBytes(ntfs, 66, record(kGone, 1, nameAttribute("b.txt", 23, 1) + attribute(0x80, Bytes(500, 'b'))));
+    Bytes packed = dataAttribute(4000, {0x11, 1, 120, 0x01, 7, 0x11, 8, 10, 0});
+    put(packed, 12, 1, 2);
+    put(packed, 34, 3, 2);
+    putBytes(ntfs, 68, record(kThere, 1, nameAttribute("c.txt", 23, 1) + packed));
     write(argv[1], "ntfs", ntfs, 18);
     return 0;
 }

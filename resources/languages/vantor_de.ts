@@ -2301,6 +2301,13 @@ Läuft auf %2.</translation>
         <source>Put MP4, QuickTime and AVI movies, JPEG or PNG pictures, ZIP archives and office documents together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
         <translation>MP4-, QuickTime- und AVI-Filme, JPEG- und PNG-Bilder, ZIP-Archive und Office-Dokumente zusammensetzen, die in Stücken liegen, als „... complete.MP4“ oder als „... put together.MP4“, wo sich nicht beweisen ließ, dass alle Stücke die richtigen sind.</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 left out: all that only the card&apos;s directory tells of would fill the card more than twice</source>
+        <translation>
+            <numerusform>%1 ausgelassen: alles, wovon nur das Verzeichnis der Karte weiß, würde die Karte mehr als zweimal füllen</numerusform>
+            <numerusform>%1 ausgelassen: alles, wovon nur das Verzeichnis der Karte weiß, würde die Karte mehr als zweimal füllen</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>

@@ -2301,6 +2301,13 @@ Se ejecuta en %2.</translation>
         <source>Put MP4, QuickTime and AVI movies, JPEG or PNG pictures, ZIP archives and office documents together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
         <translation>Unir los vídeos MP4, QuickTime y AVI, las imágenes JPEG o PNG, los archivos ZIP y los documentos de oficina que están en fragmentos, como «... complete.MP4», o como «... put together.MP4» si no se pudo probar que todos los fragmentos son los correctos.</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 left out: all that only the card&apos;s directory tells of would fill the card more than twice</source>
+        <translation>
+            <numerusform>%1 omitido: todo lo que solo conoce el directorio de la tarjeta la llenaría más de dos veces</numerusform>
+            <numerusform>%1 omitidos: todo lo que solo conoce el directorio de la tarjeta la llenaría más de dos veces</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>

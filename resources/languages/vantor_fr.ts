@@ -2301,6 +2301,13 @@ Fonctionne avec %2.</translation>
         <source>Put MP4, QuickTime and AVI movies, JPEG or PNG pictures, ZIP archives and office documents together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
         <translation>Assembler les films MP4, QuickTime et AVI, les images JPEG ou PNG, les archives ZIP et les documents bureautiques en morceaux, sous « ... complete.MP4 », ou « ... put together.MP4 » quand il n&apos;a pas pu être prouvé que tous les morceaux sont les bons.</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 left out: all that only the card&apos;s directory tells of would fill the card more than twice</source>
+        <translation>
+            <numerusform>%1 laissé de côté : tout ce que seul le répertoire de la carte indique remplirait la carte plus de deux fois</numerusform>
+            <numerusform>%1 laissés de côté : tout ce que seul le répertoire de la carte indique remplirait la carte plus de deux fois</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>

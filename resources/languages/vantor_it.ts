@@ -2301,6 +2301,13 @@ In esecuzione su %2.</translation>
         <source>Put MP4, QuickTime and AVI movies, JPEG or PNG pictures, ZIP archives and office documents together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
         <translation>Ricomporre i video MP4, QuickTime e AVI, le immagini JPEG o PNG, gli archivi ZIP e i documenti d&apos;ufficio che sono in pezzi, come «... complete.MP4», oppure come «... put together.MP4» dove non è stato possibile provare che tutti i pezzi siano quelli giusti.</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 left out: all that only the card&apos;s directory tells of would fill the card more than twice</source>
+        <translation>
+            <numerusform>%1 tralasciato: tutto ciò che è noto solo alla directory della scheda la riempirebbe più di due volte</numerusform>
+            <numerusform>%1 tralasciati: tutto ciò che è noto solo alla directory della scheda la riempirebbe più di due volte</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>

@@ -2269,6 +2269,12 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <source>Put MP4, QuickTime and AVI movies, JPEG or PNG pictures, ZIP archives and office documents together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
         <translation>断片に分かれた MP4、QuickTime、AVI の動画、JPEG と PNG の画像、ZIP アーカイブ、オフィス文書を組み立て、&quot;... complete.MP4&quot;、またはすべての断片が正しいと証明できない場合は &quot;... put together.MP4&quot; として保存します。</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 left out: all that only the card&apos;s directory tells of would fill the card more than twice</source>
+        <translation>
+            <numerusform>%1 件を除外: カードのディレクトリーだけが示すファイルの合計が、カードの容量の 2 倍を超えます</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>

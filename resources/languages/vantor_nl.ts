@@ -2301,6 +2301,13 @@ Wordt uitgevoerd op %2.</translation>
         <source>Put MP4, QuickTime and AVI movies, JPEG or PNG pictures, ZIP archives and office documents together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
         <translation>MP4-, QuickTime- en AVI-video’s, JPEG- of PNG-afbeeldingen, ZIP-archieven en kantoordocumenten die in stukken liggen samenvoegen, als “... complete.MP4”, of als “... put together.MP4” waar niet kon worden aangetoond dat alle stukken de juiste zijn.</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 left out: all that only the card&apos;s directory tells of would fill the card more than twice</source>
+        <translation>
+            <numerusform>%1 weggelaten: alles wat alleen de mappenlijst van de kaart kent, zou de kaart meer dan twee keer vullen</numerusform>
+            <numerusform>%1 weggelaten: alles wat alleen de mappenlijst van de kaart kent, zou de kaart meer dan twee keer vullen</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>

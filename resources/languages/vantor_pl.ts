@@ -2333,6 +2333,14 @@ Działa w systemie %2.</translation>
         <source>Put MP4, QuickTime and AVI movies, JPEG or PNG pictures, ZIP archives and office documents together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
         <translation>Składaj filmy MP4, QuickTime i AVI, obrazy JPEG lub PNG, archiwa ZIP i dokumenty biurowe, które leżą w kawałkach, jako „... complete.MP4” lub jako „... put together.MP4”, gdy nie dało się dowieść, że wszystkie kawałki są właściwe.</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 left out: all that only the card&apos;s directory tells of would fill the card more than twice</source>
+        <translation>
+            <numerusform>%1 pominięty: wszystko, o czym mówi tylko katalog karty, zapełniłoby kartę ponad dwukrotnie</numerusform>
+            <numerusform>%1 pominięte: wszystko, o czym mówi tylko katalog karty, zapełniłoby kartę ponad dwukrotnie</numerusform>
+            <numerusform>%1 pominiętych: wszystko, o czym mówi tylko katalog karty, zapełniłoby kartę ponad dwukrotnie</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>

@@ -2301,6 +2301,13 @@ Executando em %2.</translation>
         <source>Put MP4, QuickTime and AVI movies, JPEG or PNG pictures, ZIP archives and office documents together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
         <translation>Montar os vídeos MP4, QuickTime e AVI, as imagens JPEG ou PNG, os arquivos ZIP e os documentos de escritório que estão em pedaços, como “... complete.MP4”, ou como “... put together.MP4” quando não foi possível provar que todos os pedaços são os corretos.</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 left out: all that only the card&apos;s directory tells of would fill the card more than twice</source>
+        <translation>
+            <numerusform>%1 omitido: tudo o que só o diretório do cartão conhece encheria o cartão mais de duas vezes</numerusform>
+            <numerusform>%1 omitidos: tudo o que só o diretório do cartão conhece encheria o cartão mais de duas vezes</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>

@@ -2269,6 +2269,12 @@ Running on %2.</source>
         <source>Put MP4, QuickTime and AVI movies, JPEG or PNG pictures, ZIP archives and office documents together that lie in pieces, as &quot;... complete.MP4&quot;, or as &quot;... put together.MP4&quot; where it could not be proved that all pieces are the right ones.</source>
         <translation>将分散为碎片的 MP4、QuickTime 和 AVI 视频、JPEG 或 PNG 图片、ZIP 压缩包以及办公文档拼合，保存为“... complete.MP4”；无法证实所有碎片都正确时，保存为“... put together.MP4”。</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 left out: all that only the card&apos;s directory tells of would fill the card more than twice</source>
+        <translation>
+            <numerusform>%1 个已略过：仅在卡的目录中有记录的文件总共会超过卡容量的两倍</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>

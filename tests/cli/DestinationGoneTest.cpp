@@ -83,6 +83,22 @@ TEST(DestinationGone, WhatWasSavedIsNotSaidToBeSaved) {
     EXPECT_FALSE(QFileInfo::exists(out)) << "not made anew";
 }
 
+TEST(DestinationGone, AFolderThatWasMadeAnewInItsPlaceHoldsNothingOfWhatWasSaved) {
+    const QTemporaryDir folder;
+    const QString out = folder.filePath("out");
+    HeldUpCommand command(folder, {"--list-json", "--report", "--save", out, VANTOR_SAMPLE_CARD});
+    ASSERT_FALSE(filesUnder(out).isEmpty());
+    const bool tells = QFileInfo(out).birthTime().isValid();
+    ASSERT_TRUE(QDir(out).removeRecursively());
+    ASSERT_TRUE(QDir().mkdir(out));
+    command.goOn();
+    if (!tells) {
+        GTEST_SKIP() << "a file system that does not tell when a folder was made";
+    }
+    expectAllIsLost(command, out);
+    EXPECT_TRUE(filesUnder(out).isEmpty());
+}
+
 TEST(DestinationGone, NothingIsWrittenIntoThePlaceOfADiskThatWasTakenOut) {
     const QTemporaryDir folder;
     const QString out = folder.filePath("out");

@@ -65,6 +65,40 @@ TEST_F(KeptSearch, IsGoneOnWithByItsFileAlone) {
     EXPECT_EQ(resumed.out, plain.out);
 }
 
+TEST_F(KeptSearch, IsGoneOnWithFromAnotherFolder_AndBesideItsImage) {
+    const QString relative = QDir::current().relativeFilePath(image);
+    const CommandRun plain = run({"--list-json", "--session", kept, relative});
+    ASSERT_EQ(plain.exitCode, 0);
+    const QString before = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(folder.path() + "/catalogue"));
+    const CommandRun resumed = run({"--list-json", "--resume", kept});
+    EXPECT_EQ(resumed.exitCode, 0) << resumed.err.toStdString();
+    EXPECT_EQ(resumed.out, plain.out);
+    ASSERT_TRUE(QDir::setCurrent(before));
+
+    const QString elsewhere = folder.filePath("elsewhere");
+    ASSERT_TRUE(QDir().mkdir(elsewhere));
+    ASSERT_TRUE(QFile::rename(image, elsewhere + "/card.img"));
+    ASSERT_TRUE(QFile::rename(kept, elsewhere + "/kept"));
+    const CommandRun moved = run({"--list-json", "--resume", elsewhere + "/kept"});
+    EXPECT_EQ(moved.exitCode, 0) << moved.err.toStdString();
+    EXPECT_EQ(moved.out, plain.out);
+}
+
+// Whatever bears that name in a later run is another.
+TEST_F(KeptSearch, AnImageWhoseNameIsNoText_IsNotKeptByItsDescriptor) {
+    const QByteArray path = QFile::encodeName(folder.path()) + "/c\xff.img";
+    ASSERT_EQ(::rename(QFile::encodeName(image).constData(), path.constData()), 0);
+    QProcess process;
+    process.start("/bin/sh",
+                  {"-c", "exec \"$0\" --catalogue \"$1\" --session \"$2\" \"$(printf \"$3/c\\377.img\")\"",
+                   VANTOR_CLI, folder.filePath("catalogue"), kept, folder.path()});
+    ASSERT_TRUE(process.waitForFinished(-1));
+    ASSERT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+    EXPECT_FALSE(read(kept).contains("/proc/self"));
+    EXPECT_TRUE(read(kept).contains(QFile::encodeName(folder.path())));
+}
+
 TEST_F(KeptSearch, SavesWhatItFinds_AlsoWhenGoneOnWith) {
     ASSERT_EQ(run({"--session", kept, image}).exitCode, 0);
     const QString out = folder.filePath("out");

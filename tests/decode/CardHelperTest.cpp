@@ -8,7 +8,7 @@
 
 #include "decode/CardExchange.h"
 #include "decode/CardHelper.h"
-#include "tests/filesystem/CardImage.h"
+#include "tests/filesystem/NtfsImage.h"
 #include "tests/support/ScriptedMedium.h"
 
 namespace vantor {
@@ -36,6 +36,8 @@ CardTable someTable() {
     }
     table.files[9].runs = {{300, 302}};
     table.files[9].contents = QByteArray(1024, 'c');
+    table.files[11].holes = {{4, 8}, {8, 30}};
+    table.files[11].unitSectors = 128;
     return table;
 }
 
@@ -62,6 +64,8 @@ TEST(CardExchange, TableOfManyBlocks_ArrivesWhole) {
     EXPECT_TRUE(one.contents.isEmpty());
     EXPECT_EQ(got.files[9].contents, table.files[9].contents);
     EXPECT_EQ(got.files[10].bytes, 1000u);
+    EXPECT_EQ(got.files[11].holes, table.files[11].holes);
+    EXPECT_EQ(got.files[11].unitSectors, 128u);
 }
 
 // A folder of a million files would take a thousand times as much as they do.
@@ -112,6 +116,18 @@ TEST(CardExchange, WhatCannotBe_IsNotTaken) {
     EXPECT_FALSE(isTaken(bad));  // and of more bytes
     bad.bytes = bad.validBytes = 512;
     EXPECT_TRUE(isTaken(bad));
+    bad.holes = {{1, 2}};
+    EXPECT_FALSE(isTaken(bad));  // nor has it holes
+    bad = good;
+    bad.holes = {{6, 8}, {7, 9}};
+    EXPECT_FALSE(isTaken(bad));
+    bad.holes = {{6, 6}};
+    EXPECT_FALSE(isTaken(bad));
+    bad.holes = {{6, 5000}};
+    EXPECT_FALSE(isTaken(bad));
+    bad = good;
+    bad.unitSectors = 4096;
+    EXPECT_FALSE(isTaken(bad));
     bad = good;
     bad.bytes = 2001 * 512;
     EXPECT_FALSE(isTaken(bad));
@@ -165,6 +181,11 @@ class CardHelper : public testing::Test {
         MemoryCard card(m_exfat.end());
         formatExfat(card, m_exfat);
         putBytes(card, m_exfat.sectorOf(5), exfatSet({"IMG_0412.JPG", 20, 9000}));
+        fillMedium(card);
+    }
+
+    void fillMedium(const MemoryCard& card) {
+        m_medium = ScriptedMedium(card.sectors());
         for (std::size_t sector = 0; sector < card.sectors(); ++sector) {
             std::memcpy(m_medium.bytes[sector].data(), card.bytes.data() + sector * 512, 512);
         }
@@ -178,7 +199,7 @@ class CardHelper : public testing::Test {
     }
 
     ExfatPlaces m_exfat;
-    ScriptedMedium m_medium{m_exfat.end()};
+    ScriptedMedium m_medium{0};
 };
 
 TEST_F(CardHelper, TellsTheTable) {
@@ -194,6 +215,39 @@ TEST_F(CardHelper, BadSectorBesideADirectory_CostsThatAlone) {
     const auto table = read();
     ASSERT_TRUE(table);
     EXPECT_EQ(pathsOf(*table), "IMG_0412.JPG");
+}
+
+// Read as often as they are named, the records would take as many readings of the card as it has partitions,
+// and nothing of it fits into what is kept.
+TEST_F(CardHelper, PartitionsThatShareTheirRecords_CostTheLastOfThemTheirNames) {
+    constexpr std::size_t kPartitions = 128;
+    constexpr std::size_t kFirst = 100;
+    constexpr std::size_t kTable = 1000;
+    constexpr std::size_t kRecords = 24'000;
+    MemoryCard card(kTable + 2 * kRecords + 100);
+    put(card.bytes, 512, "EFI PART");
+    put(card.bytes, 512 + 72, 2, 8);
+    put(card.bytes, 512 + 80, kPartitions, 4);
+    put(card.bytes, 512 + 84, 128, 4);
+    for (std::size_t i = 0; i < kPartitions; ++i) {
+        put(card.bytes, 1024 + 128 * i, 1, 8);
+        put(card.bytes, 1024 + 128 * i + 32, kFirst + i, 8);
+        put(card.bytes, 1024 + 128 * i + 40, card.sectors() - 1, 8);
+        putBytes(card, kFirst + i, ntfsBoot(1, kTable - kFirst - i, card.sectors()));
+    }
+    Bytes place{0x23, 0, 0, 0, 0, 0, 0};
+    put(place, 1, 2 * kRecords, 3);
+    put(place, 4, kTable - kFirst, 2);
+    putBytes(card, kTable,
+             record(kThere, 1, nameAttribute("$MFT", 5, 5) + dataAttribute(kRecords * kRecord, place)));
+    putBytes(card, kTable + 2 * 30,
+             record(kThere, 1, nameAttribute("IMG.JPG", 5, 5) + dataAttribute(4096, {0x11, 8, 30, 0})));
+    fillMedium(card);
+    const auto table = read();
+    ASSERT_TRUE(table);
+    EXPECT_EQ(table->files.front().name, "IMG.JPG");
+    // Of the first partition: the others count their clusters from elsewhere.
+    EXPECT_EQ(table->files.front().runs.front().first, kFirst + 30);
 }
 
 TEST_F(CardHelper, Stop_EndsOneThatNeverAnswers) {

@@ -3,6 +3,7 @@
 
 #include <QDateTime>
 
+#include "filesystem/DirectoryRows.h"
 #include "tests/filesystem/CardImage.h"
 
 namespace vantor {
@@ -59,6 +60,27 @@ TEST_P(FatCard, LiveFileInPieces_HasItsFolderTimesAndRuns) {
     EXPECT_FALSE(table.isInUse(m_fat.sectorOf(22)));
     EXPECT_EQ(table.freeRunFrom(m_fat.sectorOf(20), m_fat.sectorOf(30)),
               (SectorRun{m_fat.sectorOf(22), m_fat.sectorOf(30)}));
+}
+
+// The 31st of the 15th month, at 31:63:62, as from a clock that nobody set.
+TEST_P(FatCard, TimesThatThereAreNot_TakeNoNameFromWhatIsThere) {
+    const auto odd = [](Bytes rows) {
+        for (std::size_t at = 0; at < rows.size(); at += kRowBytes) {
+            std::fill_n(rows.begin() + static_cast<std::ptrdiff_t>(at + 13), 7, std::uint8_t{0xFF});
+            std::fill_n(rows.begin() + static_cast<std::ptrdiff_t>(at + 22), 4, std::uint8_t{0xFF});
+        }
+        return rows;
+    };
+    putBytes(m_card, m_fat.sectorOf(3), odd(dotRows(3, 0) + fatRow("100CANON   ", 4, 0, 0x10)));
+    putBytes(m_card, m_fat.sectorOf(4),
+             odd(dotRows(4, 3) + fatRow("IMG_0412JPG", 10, 2048) + fatRow("NOWHERE JPG", 12, 2048) +
+                 deletedFat(fatRow("HOLIDAY JPG", 14, 2048)) + fatRow("BEYOND  JPG", 0xFFF0, 2048)));
+    chainFat(m_card, m_fat, {10});
+    const CardTable table = tableOf(m_card);
+    ASSERT_EQ(pathsOf(table), "DCIM/100CANON/IMG_0412.JPG") << "and no row that the table does not speak for";
+    EXPECT_EQ(table.files.front().state, FileState::Live);
+    EXPECT_FALSE(table.files.front().modified.has_value());
+    EXPECT_EQ(table.files.front().runs, (std::vector<SectorRun>{{m_fat.sectorOf(10), m_fat.sectorOf(11)}}));
 }
 
 TEST_P(FatCard, DeletedFile_LosesItsFirstLetterAndIsGuessedInOnePiece) {

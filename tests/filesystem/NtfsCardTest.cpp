@@ -113,6 +113,75 @@ TEST_F(NtfsCard, FilesInTheirRecords_BringTheirBytesAlong) {
     }
 }
 
+// A file of many names has no room for them in its first record, nor has one of many pieces.
+TEST_F(NtfsCard, NameInAFurtherRecord_IsTheFilesOwn) {
+    const Bytes contents = timesAttribute() + dataAttribute(9000, {0x11, 3, 100, 0});
+    putRecord(26, record(kThere, 1, contents));
+    putRecord(30, record(kThere, 4, nameAttribute("IMG_1.JPG", 24, 3), 26));
+    // Of another use of the record; and one that has a name already.
+    putRecord(27, record(kThere, 3, contents));
+    putRecord(31, record(kThere, 4, nameAttribute("OTHER.JPG", 24, 3), 27));
+    putRecord(28, record(kThere, 1, nameAttribute("IMG_2.JPG", 24, 3) + contents));
+    putRecord(32, record(kThere, 4, nameAttribute("SECOND.JPG", 24, 3), 28));
+    // Of a file that is gone the record counts its next use.
+    putRecord(29, record(kGone, 2, timesAttribute() + dataAttribute(9000, {0x11, 2, 110, 0})));
+    putRecord(33, record(kGone, 5, nameAttribute("GONE.JPG", 24, 3), 29));
+    Bytes older = record(kGone, 5, dataAttribute(0, {0x11, 1, 90, 0}, 2), 29);
+    put(older, 38, 7, 2);
+    putRecord(34, older);
+    putRecord(35, record(kGone, 5, dataAttribute(0, {0x11, 1, 120, 0}, 2), 29));
+    const CardTable table = tableOf(m_card);
+    EXPECT_EQ(pathsOf(table), "Fotos/GONE.JPG\nFotos/IMG_1.JPG\nFotos/IMG_2.JPG");
+    EXPECT_EQ(fileNamed(table, "GONE.JPG").runs, (std::vector<SectorRun>{{880, 896}, {960, 968}}));
+    EXPECT_EQ(fileNamed(table, "IMG_1.JPG").modified, 1'700'000'100);
+}
+
+// Clusters of 8 sectors: two that are there, three that are not, one that is there.
+TEST_F(NtfsCard, FilesWithHoles_TellThemBesideTheirRuns) {
+    const Bytes runs{0x11, 2, 100, 0x01, 3, 0x11, 1, 10, 0};
+    Bytes sparse = dataAttribute(6 * 4096 - 9, runs);
+    put(sparse, 12, 0x8000, 2);
+    putRecord(26, record(kThere, 1, nameAttribute("sparse.img", 24, 3) + sparse));
+    // Units of four clusters: one in two clusters, one whole, one that goes on behind the file's end.
+    Bytes packed = dataAttribute(10 * 4096, {0x11, 2, 120, 0x01, 2, 0x11, 5, 10, 0x01, 3, 0});
+    put(packed, 12, 1, 2);
+    put(packed, 34, 2, 2);
+    putRecord(27, record(kGone, 2, nameAttribute("packed.txt", 25, 7) + packed));
+    // One that could not be packed is as any other.
+    Bytes raw = dataAttribute(3 * 4096, {0x11, 4, 80, 0});
+    put(raw, 12, 1, 2);
+    put(raw, 34, 2, 2);
+    putRecord(28, record(kThere, 1, nameAttribute("raw.jpg", 24, 3) + raw));
+    Bytes cut = dataAttribute(10 * 4096, {0x11, 2, 120, 0x01, 2, 0});
+    putRecord(29, record(kThere, 1, nameAttribute("cut.txt", 24, 3) + cut));
+    Bytes secret = sparse;
+    put(secret, 12, 0x4000, 2);
+    putRecord(30, record(kThere, 1, nameAttribute("secret.txt", 24, 3) + secret));
+    Bytes huge = packed;
+    put(huge, 34, 9, 2);
+    putRecord(31, record(kThere, 1, nameAttribute("huge.txt", 24, 3) + huge));
+    const CardTable table = tableOf(m_card);
+    const CardFile holes = fileNamed(table, "sparse.img");
+    EXPECT_EQ(holes.runs, (std::vector<SectorRun>{{800, 816}, {880, 888}}));
+    EXPECT_EQ(holes.holes, (std::vector<SectorRun>{{16, 40}}));
+    EXPECT_EQ(holes.unitSectors, 0u);
+    EXPECT_TRUE(table.isInUse(887));
+    const CardFile units = fileNamed(table, "packed.txt");
+    EXPECT_EQ(units.runs, (std::vector<SectorRun>{{960, 976}, {1040, 1080}}));
+    EXPECT_EQ(units.holes, (std::vector<SectorRun>{{16, 32}, {72, 96}}));
+    EXPECT_EQ(units.unitSectors, 32u);
+    EXPECT_EQ(units.runsKnownBy, RunsKnownBy::Record);
+    const CardFile plain = fileNamed(table, "raw.jpg");
+    EXPECT_EQ(plain.runs, (std::vector<SectorRun>{{640, 672}}));
+    EXPECT_TRUE(plain.holes.empty());
+    EXPECT_EQ(plain.unitSectors, 0u);
+    for (const char* const name : {"cut.txt", "secret.txt", "huge.txt"}) {
+        EXPECT_EQ(fileNamed(table, name).name, name);
+        EXPECT_TRUE(fileNamed(table, name).runs.empty()) << name;
+        EXPECT_TRUE(fileNamed(table, name).holes.empty()) << name;
+    }
+}
+
 // The rows of a folder that is there, a further stream of a file, and a part of either in another record.
 TEST_F(NtfsCard, WhatFilesAndFoldersHoldBesideTheirContents_IsInUse) {
     const auto held = [](std::uint32_t type, std::uint8_t cluster) {

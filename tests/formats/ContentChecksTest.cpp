@@ -148,6 +148,41 @@ TEST(Fragments, OfWhichMoreMayHaveFollowed_OnlyEndWhereTheySay) {
     EXPECT_FALSE(extent.checked);
 }
 
+// A movie of two sounds in fragments whose parts tell no position: that of each goes on where the one before
+// ended, the first at the fragment.
+Bytes fragmentsInTurn() {
+    constexpr int kFragments = 6, kFrames = 6;
+    const std::size_t frameBytes = aacFrame(0).size();
+    Build movie, defaults;
+    for (const std::uint64_t id : {7, 8}) {
+        const Bytes head = boxOf("tkhd", Build().fill(8).be32(id).fill(68));
+        movie.add(isoBox("trak", Build().add(head).add(soundMedia(soundEntry(2), {}))));
+        defaults.add(boxOf("trex", Build().be32(id).be32(1).be32(1024).be32(frameBytes).be32(0)));
+    }
+    Build file;
+    file.add(kMovieType).add(isoBox("moov", movie.add(isoBox("mvex", defaults))));
+    for (int fragment = 0; fragment < kFragments; ++fragment) {
+        const auto head = [&](std::uint64_t dataAt) {
+            Build parts;
+            for (const std::uint64_t id : {7, 8}) {
+                const Bytes run = Build().be32(1).be32(kFrames).be32(id == 7 ? dataAt : 0);
+                parts.add(isoBox(
+                    "traf", Build().add(isoBox("tfhd", Build().be32(0).be32(id))).add(isoBox("trun", run))));
+            }
+            return isoBox("moof", parts);
+        };
+        Build data;
+        for (int i = 0; i < 2 * kFrames; ++i)
+            data.add(aacFrame(4 * i));
+        file.add(head(head(0).size() + 8)).add(isoBox("mdat", data));
+    }
+    return file.add(boxOf("mfra", {}));
+}
+
+TEST(Fragments, PartsWithoutAPosition_GoOnWhereTheOneBeforeEnded) {
+    expectChecked("MP4", fragmentsInTurn());
+}
+
 TEST(Fragments, Samples_AreLookedAt) {
     for (const bool sizesInRun : {true, false}) {
         const Bytes whole = fragments(sizesInRun);

@@ -59,6 +59,18 @@ TEST(RiffHabits, ASoundThatTellsALittleTooMuch_EndsBehindItsSamples) {
     EXPECT_EQ(walkBytes("WAV", Build().add(silent).fill(3000, 3)).verdict, Verdict::Damaged);
 }
 
+TEST(RiffHabits, AFileThatCountsItsOwnHead_EndsBehindItsLastChunk) {
+    const Bytes chunks = Build().text("ACON").add(riffChunk("anih", Bytes(36, 4)));
+    const auto told = [&](std::size_t bytes) { return Build().text("RIFF").le32(bytes).add(chunks).bytes(); };
+    const Bytes file = told(chunks.size() + 8);
+    for (const Bytes& tail : {Bytes(3000, 0), noise(3000, 3)}) {
+        expectEnd("ANI", Build().add(file).add(tail), file.size());
+        EXPECT_FALSE(walkBytes("ANI", Build().add(file).add(tail)).exactEnd);
+    }
+    EXPECT_EQ(walkBytes("ANI", Build().add(told(chunks.size() + 10)).fill(3000, 3)).verdict,
+              Verdict::Damaged);
+}
+
 TEST(RiffHabits, ListsOfSamplesAreContent) {
     const Bytes info = riffChunk("LIST", Build().text("INFO").add(riffChunk("ifil", Bytes(4, 2))));
     const Bytes samples = riffChunk("LIST", Build().text("sdta").add(riffChunk("smpl", Bytes(80, 3))));
@@ -185,6 +197,18 @@ TEST(TextHabits, EmptyLineBehindAPixmap_BelongsToTheFile) {
     const Bytes file = Build().text("/* XPM */\nstatic char *x[] = {\n\"1 1 1 1\"};\n\n");
     for (const Bytes& tail : {Bytes(), Bytes(3000, 0), noise(3000, 3)})
         expectEnd("XPM", Build().add(file).add(tail), file.size());
+}
+
+TEST(TextHabits, RemarksBehindAPixmap_BelongToTheFile) {
+    const std::string pixmap = "/* XPM */\nstatic char *x[] = {\n\"1 1 1 1\"};";
+    for (const std::string more : {"\n/* by me */\n", "/* one */\r\n/* and\ntwo */", "\n"}) {
+        const Bytes file = Build().text(pixmap + more);
+        for (const Bytes& tail : {Bytes(), Bytes(3000, 0), Build().text("/* no end\1*/").bytes()})
+            expectEnd("XPM", Build().add(file).add(tail), file.size());
+    }
+    // One that begins or ends in the next sector is another's.
+    const Bytes next = Build().text(pixmap).fill(512 - pixmap.size() - 1, '\n').text("/");
+    expectEnd("XPM", Build().add(next).text("* a */"), pixmap.size() + 2);
 }
 
 TEST(TextHabits, SchematicsEndAtTheirLastLine) {

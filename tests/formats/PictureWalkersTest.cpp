@@ -142,6 +142,28 @@ TEST(Jpeg, MovieInAMakersTrailer_BelongsToTheFile) {
     EXPECT_EQ(walkBytes("JPG", followed).end, whole.size());
 }
 
+TEST(Jpeg, TrailerOfACameraThatSeesAllAround_IsAsLongAsItSays) {
+    const auto photo = [](std::string_view maker) {
+        Build exif;
+        exif.text("Exif\0\0II*\0"_b).le32(8).le16(1).le16(271).le16(2).le32(9).le32(26).le32(0).text(maker);
+        return jpeg(Build().be16(0xFFE1).be16(2 + exif.size()).add(exif));
+    };
+    constexpr std::string_view kSign = "8db42d694ccc418790edff439fe026bf";
+    const auto trailer = [&](std::size_t told) {
+        return Build().add(noise(900, 3)).text(kSign).fill(100).le32(told).fill(4).text(kSign).bytes();
+    };
+    const std::size_t bytes = trailer(0).size();
+    const Bytes own = photo("Insta360"), other = photo("Instax36");
+    const auto end = [&](const Bytes& picture, std::size_t told) {
+        const Bytes whole = Build().add(picture).add(trailer(told)).add(noise(2000, 8));
+        return walkBytes("JPG", whole).end;
+    };
+    EXPECT_EQ(end(own, bytes), own.size() + bytes);
+    EXPECT_FALSE(walkBytes("JPG", Build().add(own).add(trailer(bytes))).checked);
+    EXPECT_EQ(end(own, bytes - 1), own.size());
+    EXPECT_EQ(end(other, bytes), other.size());
+}
+
 TEST(Jpeg, MovieAtTheNextSector_IsTheNextFile) {
     Bytes picture = jpeg({}, Bytes(512 - jpeg({}, {}).size() % 512, 0x31));
     ASSERT_EQ(picture.size() % 512, 0U);

@@ -88,7 +88,8 @@ def moment(mode, copy, reference, number):
     if code is None:
         result["wrong"].append("did not end")
     want = identities(reference["items"])
-    if identities(items) != want[:len(items)] and mode != "photo":
+    # The item that was open when the medium went is listed up to its limit.
+    if identities(items)[:-1] != want[:max(0, len(items) - 1)] and mode != "photo":
         result["wrong"].append("the list begins otherwise")
     session_there = os.path.exists(SESSION)
     if number % 4 == 0 and session_there:

@@ -108,6 +108,22 @@ TEST_F(UdisksBackendTest, CardInAndOut_ChangesTheListOnce) {
     EXPECT_EQ(rows(), QStringLiteral("mmcblk0 mmcblk0p1 sdb sdb1"));
 }
 
+TEST_F(UdisksBackendTest, ADeviceThatNeverComesToRest_DoesNotKeepACardFromTheList) {
+    EXPECT_EQ(rows(), kAllRows);
+    UdisksObjects objects = usbStick();
+    int told = 0;
+    QTimer restless;
+    restless.callOnTimeout([&] {
+        objects[blockPath("sdb")][interfaceName("Block")]["IdLabel"] = QString::number(++told);
+        service->setObjects(objects);
+    });
+    restless.start(1);
+    EXPECT_TRUE(eventually([&] { return changes > 0 || told == 2000; }));
+    EXPECT_GT(changes, 0);
+    restless.stop();
+    EXPECT_EQ(rows(), QStringLiteral("sdb sdb1"));
+}
+
 TEST_F(UdisksBackendTest, MountedOrRenamed_ReachesTheList) {
     EXPECT_EQ(rows(), kAllRows);
     const QString card = QStringLiteral("mmcblk0p1");

@@ -147,6 +147,24 @@ TEST(WindowedReader, HealthyMedium_IsReadInWholeWindows) {
     EXPECT_EQ(medium.requests, 10U);
 }
 
+// As a look at places all over a card does before its search.
+TEST(WindowedReader, AfterALookAtTheEndOrAtAFault_ReadsTheRestInWindows) {
+    for (const std::uint64_t looked : {8 * kWindow - 1, 6 * kWindow + 3}) {
+        ScriptedDrive medium;
+        medium.sectors = 8 * kWindow;
+        medium.refusals[6 * kWindow + 3] = kAlways;
+        WindowedReader reader(std::make_unique<ScriptedSource>(medium));
+        ASSERT_TRUE(reader.seek(looked));
+        EXPECT_EQ(reader.read(), looked != 6 * kWindow + 3);
+        const std::uint64_t requests = medium.requests;
+        ASSERT_TRUE(reader.seek(0));
+        for (std::uint64_t i = 0; i < 6 * kWindow; ++i) {
+            ASSERT_TRUE(reader.read()) << i;
+        }
+        EXPECT_EQ(medium.requests - requests, 6) << looked;
+    }
+}
+
 TEST(WindowedReader, AfterAFault_GoesBackToWindows) {
     ScriptedDrive medium;
     medium.sectors = 100 * kWindow;

@@ -130,7 +130,7 @@ TEST(CardIndex, FileLongerThanTheRestOfTheMediumHasNoCandidate) {
 }
 
 TEST(CardIndex, PlacesOfFilesThatAreThereAreTheirs) {
-    CardFile live = fileAt(80, 5000, FileState::Live);
+    CardFile live = fileAt(80, 8192, FileState::Live);
     live.runs = {{80, 88}, {160, 168}};
     const CardIndex index(tableOf({live, fileAt(200, 5000, FileState::Deleted)}));
     for (const std::uint64_t sector : {80, 87, 160, 167}) {
@@ -139,6 +139,27 @@ TEST(CardIndex, PlacesOfFilesThatAreThereAreTheirs) {
     for (const std::uint64_t sector : {79, 88, 159, 168, 200}) {
         EXPECT_FALSE(index.isLiveAt(sector)) << sector;
     }
+}
+
+// Of a file system with smaller clusters something may stand there yet.
+TEST(CardIndex, RestOfTheLastClusterIsNobodys) {
+    CardFile older = fileAt(92, 1024, FileState::Lost, "B.JPG");
+    older.clusterSectors = 2;
+    older.runs = {{92, 94}};
+    const CardIndex index(tableOf({fileAt(80, 5000, FileState::Deleted), older}));
+    EXPECT_FALSE(index.isDisputed(index.table().files[0]));
+    EXPECT_FALSE(index.isDisputed(index.table().files[1]));
+    const CardIndex full(tableOf({fileAt(80, 6200, FileState::Deleted), older}));
+    EXPECT_TRUE(full.isDisputed(full.table().files[0]));
+    const CardIndex live(tableOf({fileAt(80, 5000, FileState::Live)}));
+    EXPECT_TRUE(live.isLiveAt(89));
+    EXPECT_FALSE(live.isLiveAt(90));
+    // A piece of a file begins with a cluster all the same.
+    const CardIndex between(
+        tableOf({fileAt(80, 9000, FileState::Deleted), fileAt(88, 100, FileState::Deleted, "B.JPG")}));
+    const auto candidates = between.candidates(80, kMediumEnd);
+    ASSERT_EQ(candidates.size(), 2u);
+    EXPECT_EQ(candidates[1].assembly.runs, (std::vector<SectorRun>{{80, 88}, {96, 106}}));
 }
 
 // Two are gone that were told to lie there: the later one was written when the earlier had gone.

@@ -233,6 +233,45 @@ TEST_F(CardSaving, WhatADirectoryHoldsItselfIsSavedFromThere) {
     }
 }
 
+TEST_F(CardSaving, WhatHasHolesOrIsPackedIsSavedAsItWas) {
+    CardFile sparse = cardFile("A", "sparse.img", 4096 + 700, {80, 84});
+    sparse.runs.push_back({90, 92});
+    sparse.holes = {{4, 8}};
+    // A unit of eight sectors in one, a whole one, one of zeros, and one that is nonsense.
+    const char packed[] = {0x05, char(0xB0), 0x08, 'a', 'b', 'c', char(0xFA), 0x2F, 0, 0};
+    m_medium.put(600, {packed, sizeof packed});
+    m_medium.put(620, "no chunk");
+    CardFile units = cardFile("A", "packed.txt", 28 * 512 + 1, {600, 601});
+    units.runs.push_back({88, 96});
+    units.runs.push_back({620, 621});
+    units.holes = {{1, 8}, {16, 24}, {25, 32}};
+    units.unitSectors = 8;
+    CardFile legible = units;
+    legible.name = "legible.txt";
+    legible.bytes = legible.validBytes = 24 * 512;
+    for (CardFile* const file : {&sparse, &units, &legible}) {
+        file->runsKnownBy = RunsKnownBy::Record;
+    }
+    const auto card = indexOf({sparse, units, legible});
+    EXPECT_FALSE(card->tellsOf(600));
+    const ItemSaver saver(m_folder.path());
+    std::vector<SaveOutcome> saved;
+    for (const CardFile& file : card->table().files) {
+        saved.push_back(saver.save(toldItem(std::shared_ptr<const CardFile>(card, &file), card, m_reader)));
+        ASSERT_TRUE(saved.back().saved) << saved.back().error.toStdString();
+    }
+    EXPECT_EQ(saved[0].path, path("A/sparse.img"));
+    EXPECT_EQ(contentsOf(saved[0].path), m_wav.first(2048) + QByteArray(2048, '\0') + m_wav.mid(5120, 700));
+    const QByteArray first = QByteArray("abc").repeated(1366).first(4096);
+    const QByteArray whole = first + m_wav.mid(4096, 4096) + QByteArray(4096, '\0');
+    EXPECT_EQ(contentsOf(saved[1].path), whole + QByteArray(4 * 512 + 1, '\0'));
+    EXPECT_EQ(saved[1].sectorsUnreadable, 5u);
+    EXPECT_EQ(saved[1].verdict, Verdict::Damaged);
+    EXPECT_EQ(contentsOf(saved[2].path), whole);
+    EXPECT_EQ(saved[2].sectorsUnreadable, 0u);
+    EXPECT_EQ(saved[2].runs, units.runs);
+}
+
 TEST_F(CardSaving, PiecesThatTheCardTellsLaterReplaceWhatWasSaved) {
     // The second half lies elsewhere.
     for (std::size_t sector = 0; sector < 20; ++sector) {

@@ -81,6 +81,30 @@ TEST_F(RecoveryReport, TellsWhatTheCardTold) {
     EXPECT_TRUE(contentsOf(mended.html).contains("please look"));
 }
 
+TEST_F(RecoveryReport, NamesSayNothingToATerminal) {
+    CardFile file;
+    file.folder = QString::fromUtf8("D\x1b[31m");
+    file.name = QString::fromUtf8(
+        "a\xc2\x9b"
+        "2J\nb\xe2\x80\x8d.JPG");
+    std::vector<ReportedItem> told = items();
+    told[0].outcome.original = std::make_shared<const CardFile>(file);
+    told[1].outcome.error = "No \a";
+    ReportHead named = head();
+    named.medium = "card\x1b]0;x\a.img";
+    const WrittenReport written = writeReport(folder.path(), named, told);
+    for (const QString& path : {written.csv, written.html}) {
+        const QString text = QString::fromUtf8(contentsOf(path));
+        EXPECT_TRUE(text.contains(QString::fromUtf8("D\\u001b[31m/a\\u009b2J\\u000ab\xe2\x80\x8d.JPG")));
+        EXPECT_TRUE(text.contains("card\\u001b]0;x\\u0007.img"));
+        EXPECT_TRUE(text.contains("No \\u0007"));
+        for (const QChar c : text) {
+            EXPECT_TRUE(c == u'\n' || c == u'\r' || c.category() != QChar::Other_Control)
+                << static_cast<int>(c.unicode());
+        }
+    }
+}
+
 TEST_F(RecoveryReport, FilesOfWhichOnlyLengthsWereFollowed_AreSaidToEndWhereTheySay) {
     EXPECT_TRUE(page().contains("<span class=\"complete\">complete</span>"));
     EXPECT_FALSE(page().contains("content not checked"));

@@ -289,8 +289,9 @@ void BrowserLooks::sortBy(SortItems sort) {
     choose();
 }
 
-void BrowserLooks::showTold(const std::vector<std::shared_ptr<const CardFile>>& files) {
-    screen().pane->showTold(files);
+void BrowserLooks::showTold(const std::vector<std::shared_ptr<const CardFile>>& files,
+                            std::uint64_t beyondRoom) {
+    screen().pane->showTold(files, beyondRoom);
 }
 
 // The user picked something of what was found, or typed a name.

@@ -76,8 +76,8 @@ class BrowserLooks : public QObject {
     // Something was made of broken items.
     void mendsChanged();
     QString shownType() const { return m_wish.type; }
-    // Files that only the card's directory tells of, of the list of the moment.
-    void showTold(const std::vector<std::shared_ptr<const CardFile>>& files);
+    // Files that only the card's directory tells of, of the list of the moment, as with FoundPane.
+    void showTold(const std::vector<std::shared_ptr<const CardFile>>& files, std::uint64_t beyondRoom);
     // Types, days and the like of all items, as far as they are known.
     const FoundFacets& facets() const { return m_facets; }
     // Every item was looked at and is whole.

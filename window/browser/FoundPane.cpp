@@ -12,6 +12,7 @@
 
 #include "results/CardIndex.h"
 #include "results/SizeForPeople.h"
+#include "results/ToldFiles.h"
 #include "window/widgets/Theme.h"
 
 namespace vantor {
@@ -238,7 +239,8 @@ void FoundPane::showFacets(const FoundFacets& facets, std::size_t all) {
     m_filling = false;
 }
 
-void FoundPane::showTold(const std::vector<std::shared_ptr<const CardFile>>& files) {
+void FoundPane::showTold(const std::vector<std::shared_ptr<const CardFile>>& files,
+                         std::uint64_t beyondRoom) {
     m_filling = true;
     delete m_told;
     m_told = nullptr;
@@ -248,7 +250,9 @@ void FoundPane::showTold(const std::vector<std::shared_ptr<const CardFile>>& fil
                                                 : tr("%1 more files that only the card's directory tells of",
                                                      nullptr, pluralOf(files.size()))
                                                       .arg(numberForPeople(files.size()));
-        m_told->setToolTip(0, words + u'\n' + tr("Save All saves them too."));
+        const QString leftOut = wordsForBeyondRoom(beyondRoom);
+        m_told->setToolTip(0, words + u'\n' + tr("Save All saves them too.") +
+                                  (leftOut.isEmpty() ? QString() : u'\n' + leftOut));
         showCount(m_told, files.size());
         m_told->setData(0, Qt::AccessibleTextRole, words);
         for (std::size_t i = 0; i < files.size() && i < kMostToldRows; ++i) {

@@ -23,8 +23,9 @@ class FoundPane : public QWidget {
 
     // The counts of `all` items, of which the facets know perhaps not all yet.
     void showFacets(const FoundFacets& facets, std::size_t all);
-    // Files that only the card's directory tells of; no line for none.
-    void showTold(const std::vector<std::shared_ptr<const CardFile>>& files);
+    // Files that only the card's directory tells of, and so many others that were left out as with
+    // toldOnly(); no line for none.
+    void showTold(const std::vector<std::shared_ptr<const CardFile>>& files, std::uint64_t beyondRoom);
     // Nothing is picked and nothing is shown.
     void begin();
 
