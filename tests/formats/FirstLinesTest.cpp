@@ -94,6 +94,12 @@ TEST(Calendar, EmptyLinesAndMarkInFront_AreItsOwn) {
     }
 }
 
+TEST(Contacts, EmptyLinesBetweenAndBehind_AreTheirOwn) {
+    const Bytes cards =
+        Build().text("BEGIN:VCARD\r\nFN:A\r\nEND:VCARD\r\n\r\n\r\nBEGIN:VCARD\r\nFN:B\r\nEND:VCARD\r\n\r\n");
+    expectEnd("VCF", Build().add(cards).add(noise(3000, 9)), cards.size());
+}
+
 TEST(WebPage, OfSixteenBits_EndsWithItsText) {
     Build page;
     page.be16(0xFFFE);
