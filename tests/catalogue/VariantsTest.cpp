@@ -69,7 +69,6 @@ const Variant kVariants[] = {
          "NAME\0\0\0\0\0\0\0C\0\0\0\0\5"_z},
     {kRawFileMode, "DBF",
      std::string("\3\x7E\x0B\x17\2\0\0\0\x41\0\6\0", 12) + std::string(17, '\0') + "\x57\0\0NAME"_z},
-    {kRawFileMode, "MTS", "\0\0\0\0\x47\x40\0\x17\0\0\xB0"_z},
     {kRawFileMode, "EAC3", "\x0B\x77\1\x7F\x34\x87"},
     {kRawFileMode, "AC3", "\x0B\x77\xC2\xEA\x54\x40\x43\xE1"},
     {kRawFileMode, "LATM", "\x56\xE1\x37\x20\0\x11\x90"_z},
