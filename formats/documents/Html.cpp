@@ -6,8 +6,30 @@
 #include "formats/Format.h"
 #include "formats/TextReader.h"
 #include "formats/documents/Text.h"
+#include "formats/documents/Xml.h"
 
 namespace vantor {
+
+namespace {
+
+// Behind the remarks at `at`, as licences are put in front.
+std::uint64_t behindRemarks(ByteView& view, std::uint64_t at) {
+    constexpr std::uint64_t kMost = 64 * 1024;
+    const auto limit = addClamped(at, kMost);
+    while (view.matches(at, "<!--")) {
+        auto close = view.find('>', at + 4, limit);
+        while (close.found() && !view.matches(close.at - 2, "--"))
+            close = view.find('>', close.at + 1, limit);
+        if (!close.found())
+            break;
+        at = close.at + 1;
+        while (isTextSpace(view.u8(at).value_or(0)) && at < limit)
+            ++at;
+    }
+    return at;
+}
+
+}  // namespace
 
 Extent walkHtml(ByteView& view) {
     constexpr std::string_view kClose = "</html";
@@ -20,6 +42,12 @@ Extent walkHtml(ByteView& view) {
     const auto second = view.u8(at + 1).value_or(0);
     if (view.u8(at) != '<' || (second != '!' && second != '?' && std::isalpha(second) == 0))
         return unknownExtent();
+    // A remark begins drawings too.
+    if (const auto root = behindRemarks(view, at);
+        root != at && (matchesAnyCase(view, root, "<svg") || matchesAnyCase(view, root, "<?xml"))) {
+        const Extent drawing = walkXml(view);
+        return drawing.verdict == Verdict::Complete ? withContent(drawing) : drawing;
+    }
     const auto end = textEnd(view, at);
     for (auto tag = view.find('<', at, end); tag.found(); tag = view.find('<', tag.at + 1, end)) {
         if (!matchesAnyCase(view, tag.at, kClose))

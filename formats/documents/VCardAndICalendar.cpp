@@ -36,7 +36,8 @@ Extent walkRecords(ByteView& view, const Names& names) {
             const auto here = in.at();
             if (last == '\n' && matchesAnyCase(view, here, kEnd) &&
                 matchesAnyCase(view, here + kEnd.size(), name)) {
-                at = whole = behindLineEnd(view, here + kEnd.size() + name.size());
+                whole = behindEmptyLine(view, here + kEnd.size() + name.size());
+                at = behindBlanks(view, whole);
                 break;
             }
             last = in.next();

@@ -1,4 +1,6 @@
 // XML and SVG by their root element. Source: XML 1.0.
+#include "formats/documents/Xml.h"
+
 #include <cctype>
 #include <string>
 
@@ -154,6 +156,8 @@ Extent XmlWalk::walk() {
     }
 }
 
+}  // namespace
+
 Extent walkXml(ByteView& view) {
     std::uint64_t at = behindByteOrderMark(view);
     constexpr std::uint64_t kMostLead = 256;
@@ -165,8 +169,6 @@ Extent walkXml(ByteView& view) {
     const bool begins = next == '?' || next == '!' || std::isalpha(next) != 0;
     return view.u8(at) == '<' && begins ? XmlWalk(view, at).walk() : unknownExtent();
 }
-
-}  // namespace
 
 extern constexpr Format kXml = {
     .name = "XML",

@@ -18,7 +18,6 @@ struct KnownConfusion {
 inline constexpr KnownConfusion kKnownConfusions[] = {
     {"AC3", "MP3", "a stream cut for the web begins with an ID3 tag, as MP3 does; its sound comes after it"},
     {"ASF", "WMV", "one container: only the streams listed at changing places tell a WMV from an ASF"},
-    {"CSV", "", "lines of values without words that name their program"},
     {"DB", "SQLITE", "a database of SQLite is the same file under every ending"},
     {"DMG", "", "a compressed image has its mark in its last 512 bytes"},
     {"FPX", "DOC", "a compound document: its first sector says nothing of the program that wrote it"},
@@ -35,18 +34,26 @@ inline constexpr KnownConfusion kKnownConfusions[] = {
     {"OGG", "OPUS", "an Opus stream under the general ending"},
     {"TGZ", "GZ", "an archive behind GZip begins as any other file behind it"},
     {"THM", "JPG", "the small JPEG that a camera puts beside a movie or raw picture"},
-    {"TXT", "", "a text without a mark of its encoding"},
     {"VSD", "DOC", "a compound document: its first sector says nothing of the program that wrote it"},
     {"WMA", "WMV", "one container, and the list of videos has no sound"},
 };
 
+// The same of the sample card's files.
+inline constexpr KnownConfusion kSampleCardConfusions[] = {
+    {"CSV", "", "lines of values without words that name their program"},
+    {"TXT", "", "a text without a mark of its encoding"},
+};
+
 // The confusion of files of `type` that are found as `foundAs`; null when none is known.
 inline const KnownConfusion* confusionOf(const QString& type, const QString& foundAs) {
-    const auto* known =
-        std::find_if(std::begin(kKnownConfusions), std::end(kKnownConfusions), [&](const KnownConfusion& c) {
+    const auto among = [&](const auto& list) -> const KnownConfusion* {
+        const auto* known = std::find_if(std::begin(list), std::end(list), [&](const KnownConfusion& c) {
             return type == QLatin1String(c.type) && foundAs == QLatin1String(c.foundAs);
         });
-    return known == std::end(kKnownConfusions) ? nullptr : known;
+        return known == std::end(list) ? nullptr : known;
+    };
+    const KnownConfusion* known = among(kKnownConfusions);
+    return known != nullptr ? known : among(kSampleCardConfusions);
 }
 
 }  // namespace vantor

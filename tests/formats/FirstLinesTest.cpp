@@ -94,6 +94,12 @@ TEST(Calendar, EmptyLinesAndMarkInFront_AreItsOwn) {
     }
 }
 
+TEST(Contacts, EmptyLinesBetweenAndBehind_AreTheirOwn) {
+    const Bytes cards =
+        Build().text("BEGIN:VCARD\r\nFN:A\r\nEND:VCARD\r\n\r\n\r\nBEGIN:VCARD\r\nFN:B\r\nEND:VCARD\r\n\r\n");
+    expectEnd("VCF", Build().add(cards).add(noise(3000, 9)), cards.size());
+}
+
 TEST(WebPage, OfSixteenBits_EndsWithItsText) {
     Build page;
     page.be16(0xFFFE);
@@ -105,6 +111,21 @@ TEST(WebPage, OfSixteenBits_EndsWithItsText) {
 TEST(WebPage, Remark_MayBeginIt) {
     const Bytes page = Build().text("<!-- saved -->\n<html><p>x</html>\n");
     expectEnd("HTML", Build().add(page).add(noise(3000, 6)), page.size());
+}
+
+TEST(WebPage, DrawingBehindARemark_IsWalkedAsOne) {
+    const Bytes drawing = Build().text("<!-- licence > -->\n<!-- more -->\n<svg><g/></svg>\n");
+    const Extent extent = walkBytes("HTML", Build().add(drawing).add(noise(3000, 6)));
+    EXPECT_EQ(extent.verdict, Verdict::Complete);
+    EXPECT_EQ(extent.end, drawing.size());
+    EXPECT_TRUE(extent.checked);
+    const Bytes page = Build().text("<!-- <svg> -->\n<html><p>x<br></html>\n");
+    expectEnd("HTML", Build().add(page).add(noise(3000, 6)), page.size());
+}
+
+TEST(WebPage, PartOfOne_EndsWithItsLastLine) {
+    const Bytes part = Build().text("<h2>A list</h2>\n<ul>\n<li>one</li>\n</ul>\n");
+    expectEnd("HTML", Build().add(part).text("x7").add(noise(3000, 6)), part.size());
 }
 
 TEST(PostScript, FirstLineWithoutItsName_IsEnough) {

@@ -326,6 +326,13 @@ Bytes consoleSound() {
     return Build().text("SNES-SPC700 Sound File Data v0.30").to(66047).u8(1);
 }
 
+Bytes televisionSound() {
+    Build stream;
+    for (const std::uint64_t bytes : {20, 31, 18})
+        stream.be24(0x56E000 + bytes).be32(0x20001190).fill(bytes - 4, 0x55);
+    return stream;
+}
+
 Bytes rawMovie() {
     return Build()
         .text("MLVI")
@@ -385,6 +392,7 @@ std::vector<Sample> recordSamples() {
             {"GDS", chipLayout()},
             {"UNITY3D", unityData()},
             {"DBF", dbaseTable()},
+            {"LATM", televisionSound(), false},
             {"MLV", rawMovie(), false},
             {"TTA", trueAudio()},
             {"WV", wavPack()},
