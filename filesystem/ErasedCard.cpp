@@ -33,10 +33,12 @@ std::vector<std::uint64_t> writtenPlaces(SectorSource& card) {
 }
 
 bool isErased(const SectorSource& card, const std::vector<std::uint64_t>& written, const CardTable& table) {
-    // Where few files were, none of the places need be theirs: the directory tells of them.
-    const auto isLost = [](const CardFile& file) { return file.state != FileState::Live && file.bytes != 0; };
+    // Where there are few files, or were, none of the places need be theirs: the directory tells of them.
+    const auto isUsed = [](const CardFile& file) {
+        return file.bytes >= (file.state == FileState::Live ? kSmallestUsed : 1);
+    };
     return card.sectors() >= kSmallestErased && written.size() <= kMostWritten &&
-           std::none_of(table.files.begin(), table.files.end(), isLost) &&
+           std::none_of(table.files.begin(), table.files.end(), isUsed) &&
            std::all_of(written.begin(), written.end(),
                        [&](std::uint64_t sector) { return table.isInUse(sector); });
 }

@@ -29,13 +29,27 @@ TEST_P(ErasedCard, OnlyItsFileSystem_IsErased) {
     EXPECT_LE(m_card.sectorsRead, 2000u);
 }
 
-TEST_P(ErasedCard, FilesThatAreThere_AreNothingToFind) {
+// What cameras and desktops leave on a card that nobody has used since it was formatted.
+TEST_P(ErasedCard, SmallFilesThatAreThere_AreNothingToFind) {
+    putBytes(m_card, m_exfat.sectorOf(5), exfatSet({"INDEX.DAT", 10, kSmallestUsed - 1}));
+    for (std::size_t sector = m_exfat.sectorOf(10); sector < m_exfat.sectorOf(13); ++sector) {
+        m_card.bytes[sector * 512 + 100] = 1;
+    }
+    EXPECT_TRUE(erased());
+}
+
+TEST_P(ErasedCard, PhotosThatAreThere_AreOfACardInUse) {
     putBytes(m_card, m_exfat.sectorOf(5), exfatSet({"IMG_0001.JPG", 10, 40 * 4096}));
     for (std::size_t sector = m_exfat.sectorOf(10); sector < m_exfat.sectorOf(50); ++sector) {
         m_card.bytes[sector * 512 + 100] = 1;
     }
     EXPECT_FALSE(writtenPlaces(m_card).empty());
-    EXPECT_TRUE(erased());
+    EXPECT_FALSE(erased());
+}
+
+TEST_P(ErasedCard, OnePhotoBetweenThePlacesLookedAt_IsOfACardInUse) {
+    putBytes(m_card, m_exfat.sectorOf(5), exfatSet({"IMG_0001.JPG", 10, kSmallestUsed}));
+    EXPECT_FALSE(erased());
 }
 
 TEST_P(ErasedCard, FileThatIsGone_IsSomethingToFind) {
