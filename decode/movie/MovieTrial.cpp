@@ -152,7 +152,8 @@ std::vector<std::uint32_t> tryMovie(int descriptor, std::int64_t mostMs, bool on
             blind.add(*packet);
         }
         for (TriedStream* const stream : {&pictures, &sound}) {
-            if (stream->has(*packet)) {
+            // What a decoder that complains of nothing makes of it says nothing about the file.
+            if (stream->has(*packet) && (!onlyWhole || stream->judges(*packet))) {
                 stream->decode(packet.get());
             }
         }

@@ -43,7 +43,8 @@ class CorpusCards {
     bool isEmpty() const { return m_files.empty(); }
     const std::vector<CorpusFile>& files() const { return m_files; }
 
-    // All files on one card, one empty sector before the first; hands the card over piece by piece.
+    // All files on one card, one empty sector before the first; hands the card over piece by piece. Movies
+    // of minutes are on the one with noise only.
     std::vector<Placed> writeAll(Tail tail, const Write& write) const;
     // One file behind an empty sector, and nothing behind it.
     Placed writeAtEnd(const CorpusFile& file, const Write& write) const;

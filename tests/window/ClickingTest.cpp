@@ -23,7 +23,7 @@ namespace vantor {
 namespace {
 
 // Clicked through in each mode; VANTOR_CLICKS says more where the time is there.
-const int kItems = std::max(250, qEnvironmentVariableIntValue("VANTOR_CLICKS"));
+const int kItems = std::max(120, qEnvironmentVariableIntValue("VANTOR_CLICKS"));
 
 // The helpers that this process started and that still run.
 std::vector<pid_t> runningHelpers(const char* name) {
