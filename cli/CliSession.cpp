@@ -8,6 +8,7 @@
 
 #include "catalogue/TypePresets.h"
 #include "results/PreviewCopy.h"
+#include "saving/SavedContents.h"
 #include "saving/Sha256.h"
 #include "saving/ToldItem.h"
 
@@ -97,7 +98,7 @@ void CliSession::run() {
             },
             m_liesOnMedium);
         m_savedInto = m_queue->saver().destination();
-        m_queue->saver().setStopDecoding([this] { return stop_now != 0; });
+        m_contents = m_queue->saver().contents();
     }
     if (m_options.mode == kPhotoMode) {
         Photo_Rec_Thread();
@@ -110,10 +111,8 @@ void CliSession::run() {
 void CliSession::noteOutcome(const SaveTask& task, const SaveOutcome& outcome) {
     m_tally.add(task.name, outcome);
     // What is saved before the card was read to its end may get its name from it yet.
-    if (isReported() || !m_options.savePolicy.asPublished) {
-        m_outcomes.resize(std::max(m_outcomes.size(), task.place + 1));
-        m_outcomes[task.place] = outcome;
-    }
+    m_outcomes.resize(std::max(m_outcomes.size(), task.place + 1));
+    m_outcomes[task.place] = outcome;
 }
 
 void CliSession::finishSaving() {
@@ -122,15 +121,44 @@ void CliSession::finishSaving() {
     }
     m_queue->finish();
     nameWhatTheCardTellsNow();
-    for (std::size_t i = 0; isReported() && !m_outcomes.empty(); ++i) {
-        const PublishedItem item = published(i);
-        m_reported.push_back(
-            {item.name, item.type, item.firstSector, item.endSector, std::move(m_outcomes.front())});
+    for (std::size_t i = 0; !m_outcomes.empty(); ++i) {
+        const PublishedItem item = isReported() ? published(i) : PublishedItem();
+        report({item.name, item.type, item.firstSector, item.endSector, std::move(m_outcomes.front())},
+               isReported());
         m_outcomes.pop_front();
     }
-    m_outcomes.clear();
     saveToldFiles();
     m_queue.reset();
+}
+
+// Keeps what is asked for behind all, and what is still to be looked at.
+void CliSession::report(ReportedItem item, bool wanted) {
+    if (wanted) {
+        m_reported.push_back(std::move(item));
+    } else if (SavedContents::isDue(item.outcome)) {
+        m_unreported.push_back(std::move(item.outcome));
+    }
+}
+
+void CliSession::checkContents() {
+    std::vector<SaveOutcome*> due;
+    for (ReportedItem& item : m_reported) {
+        if (SavedContents::isDue(item.outcome)) {
+            due.push_back(&item.outcome);
+        }
+    }
+    for (SaveOutcome& outcome : m_unreported) {
+        due.push_back(&outcome);
+    }
+    m_checking.of = due.size();
+    for (SaveOutcome* const outcome : due) {
+        if (m_stop && m_stop()) {
+            break;  // it is said how many were not looked at
+        }
+        m_contents->look(*outcome, m_stop);
+        m_tally.noteChecked(*outcome);
+        ++m_checking.looked;
+    }
 }
 
 // To be asked before a piece of work that is then left undone.
@@ -166,10 +194,7 @@ void CliSession::saveToldFiles() {
         m_tally.add(item.name, outcome);
         m_told += outcome.saved ? 1 : 0;
         const SectorRun& first = item.source.carved.runs.front();
-        if (!m_options.report) {
-            continue;
-        }
-        m_reported.push_back({item.name, item.type, first.first, first.end, std::move(outcome)});
+        report({item.name, item.type, first.first, first.end, std::move(outcome)}, m_options.report);
     }
     m_queue->saver().flush();
 }

@@ -111,6 +111,10 @@ class CliSession : private CliView, public ScanSession {
     // Whether a stop behind the search left some of what comes there undone.
     bool leftUndone() const { return m_leftUndone; }
 
+    // Behind everything that is saved: decodes the movies of which no more than the frames were followed.
+    void checkContents();
+    const CompletionProgress& checking() const { return m_checking; }
+
     // To be asked behind everything that is saved: false once the destination has gone, and what was saved
     // counts as failed then.
     bool destinationKeepsAll();
@@ -144,6 +148,7 @@ class CliSession : private CliView, public ScanSession {
     void noteOutcome(const SaveTask& task, const SaveOutcome& outcome);
     // Whether somebody asks what became of each item.
     bool isReported() const { return m_options.report || m_options.complete || m_options.repairMovies; }
+    void report(ReportedItem item, bool wanted);
     void finishSaving();
     bool isStopped();
     void nameWhatTheCardTellsNow();
@@ -160,11 +165,13 @@ class CliSession : private CliView, public ScanSession {
     std::atomic<std::size_t> m_publishedCount{0};
     std::size_t m_firstThorough = 0;          // items before it are of the general pass
     std::deque<std::array<char, 32>> m_sums;  // of photos, where they are listed
-    std::deque<SaveOutcome> m_outcomes;       // where a report is wanted; the saving thread's until it ends
+    std::deque<SaveOutcome> m_outcomes;       // the saving thread's until it ends
     Destination::LiesOnMedium m_liesOnMedium;
     std::shared_ptr<Destination> m_savedInto;  // null before run(), and where nothing is saved
     std::unique_ptr<SaveQueue> m_queue;        // while a scan runs that saves
     std::vector<ReportedItem> m_reported;
+    std::vector<SaveOutcome> m_unreported;  // but to be looked into
+    std::shared_ptr<SavedContents> m_contents;
     SaveTally m_tally;  // the saving thread's until it ends
     std::size_t m_told = 0;
     std::uint64_t m_toldBeyondRoom = 0;
@@ -172,7 +179,7 @@ class CliSession : private CliView, public ScanSession {
     bool m_mendingFailed = false;
     StopRequest m_stop;
     bool m_leftUndone = false;
-    CompletionProgress m_completing;
+    CompletionProgress m_completing, m_checking;
 };
 
 // Why the movie cannot be the guide for others, in a sentence; empty when it can.

@@ -33,12 +33,18 @@ ProgressLine::ProgressLine(const CliSession& session, std::shared_ptr<const Medi
 ProgressLine::~ProgressLine() = default;
 
 void ProgressLine::draw() {
-    if (const std::size_t of = m_session.completing().of; of != 0) {
+    const auto drawn = [](const CompletionProgress& progress, const char* words) {
+        if (progress.of == 0) {
+            return false;
+        }
         std::fprintf(stderr, "\r\033[K%s",
-                     qPrintable(QObject::tr("Completing broken files: %1 of %2")
-                                    .arg(m_session.completing().looked.load())
-                                    .arg(of)));
+                     qPrintable(QObject::tr(words).arg(progress.looked.load()).arg(progress.of.load())));
         std::fflush(stderr);
+        return true;
+    };
+    if (drawn(m_session.checking(),
+              QT_TRANSLATE_NOOP("QObject", "Checking the content of saved files: %1 of %2")) ||
+        drawn(m_session.completing(), QT_TRANSLATE_NOOP("QObject", "Completing broken files: %1 of %2"))) {
         return;
     }
     const std::uint64_t index = m_session.for_index;

@@ -323,6 +323,7 @@ int recover(CliOptions options) {
             if (options.complete || options.repairMovies) {
                 session.mend();
             }
+            session.checkContents();
         });
     }
     const bool isKept = !keeper || keeper->error().isEmpty();

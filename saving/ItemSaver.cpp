@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "decode/RegularFile.h"
 #include "results/TrueLength.h"
 #include "saving/ItemSaverState.h"
+#include "saving/SavedContents.h"
 
 namespace vantor {
 
@@ -22,6 +22,7 @@ std::uint64_t firstByteOf(const FoundItem& item) {
 ItemSaver::ItemSaver(const QString& destination, const SavePolicy& policy,
                      Destination::LiesOnMedium liesOnMedium)
     : m_destination(std::make_shared<Destination>(destination, std::move(liesOnMedium))),
+      m_contents(std::make_shared<SavedContents>()),
       m_policy(policy),
       m_state(std::make_unique<State>()) {}
 
@@ -53,13 +54,8 @@ SaveOutcome ItemSaver::save(const FoundItem& item) const {
     } else if (chosen) {
         saveBytes(item, *destination, bytes, outcome);
         noteWhole(item, outcome);
-        outcome.framesOnly = outcome.framesOnly && !decodes(item, outcome);
     }
     return outcome;
-}
-
-void ItemSaver::setStopDecoding(StopRequest stop) const {
-    m_state->stopDecoding = std::move(stop);
 }
 
 void ItemSaver::beginRound() const {
@@ -207,23 +203,6 @@ void ItemSaver::noteWhole(const FoundItem& item, const SaveOutcome& outcome) con
         outcome.sectorsUnreadable == 0 && !item.source.carved.readFailed) {
         m_state->within.note(item.type, item.name, firstByteOf(item), outcome.bytes, outcome.checked);
     }
-}
-
-// Of a movie that was saved whole. Types that share a header share the bytes, which are tried once.
-bool ItemSaver::decodes(const FoundItem& item, const SaveOutcome& outcome) const {
-    const decode::RegularFile file(outcome.saved && outcome.checked ? outcome.path : QString());
-    if (!file.isOpen() || outcome.sectorsUnreadable != 0) {
-        return false;
-    }
-    const std::uint64_t first = firstSectorOf(item);
-    const auto [known, fresh] =
-        m_state->decoded.try_emplace({outcome.pieces > 1 ? ~first : first, outcome.bytes}, false);
-    if (fresh) {
-        known->second = m_state->trials.decodes(file.descriptor(), [&] {
-            return isUnwanted(item) || (m_state->stopDecoding && m_state->stopDecoding());
-        });
-    }
-    return known->second;
 }
 
 std::optional<Soundness> soundnessOf(const SaveOutcome& outcome) {

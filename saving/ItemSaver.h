@@ -11,7 +11,6 @@
 #include <vector>
 
 #include "formats/Extent.h"
-#include "media/AbandonableSource.h"
 #include "media/SectorReader.h"
 #include "results/CarvedRun.h"
 #include "results/ItemBytes.h"
@@ -26,6 +25,7 @@ namespace vantor {
 struct SavedFile;
 struct TrueLength;
 class LengthClaims;
+class SavedContents;
 class SavingFolder;
 class WholeFile;
 
@@ -47,7 +47,7 @@ struct SaveOutcome {
     // Of the file as saved: Complete only when all of its sectors could be read.
     Verdict verdict = Verdict::Unknown;
     // Complete, and its content was looked at, but of a movie's no more than its frames' heads and lengths
-    // where only these were followed and it was not decoded without an error.
+    // until it was decoded without an error; see SavedContents.
     bool checked = false, framesOnly = false;
     bool exactLength = true;         // false: the format does not mark its end to the byte
     std::optional<CivilTime> taken;  // also the file's modification time
@@ -100,11 +100,10 @@ class ItemSaver {
     ~ItemSaver();
 
     const SavePolicy& policy() const { return m_policy; }
-    // Saved movies are not decoded any more, to see whether they are whole, once it says so; asked on any
-    // thread.
-    void setStopDecoding(StopRequest stop) const;
     // For what is written beside the items, and to be asked behind the last of all.
     const std::shared_ptr<Destination>& destination() const { return m_destination; }
+    // For a look into what was saved, behind the last of all.
+    const std::shared_ptr<SavedContents>& contents() const { return m_contents; }
 
     SaveOutcome save(const FoundItem& item) const;
 
@@ -133,7 +132,6 @@ class ItemSaver {
     bool isStillThere(const FoundItem& item) const;
     bool isPart(const FoundItem& item, SaveOutcome& outcome) const;
     void noteWhole(const FoundItem& item, const SaveOutcome& outcome) const;
-    bool decodes(const FoundItem& item, const SaveOutcome& outcome) const;
     bool decideLength(const FoundItem& item, ItemBytes& bytes, SaveOutcome& outcome) const;
     static std::optional<std::uint64_t> toldLengthOf(const FoundItem& item);
     TrueLength lengthOf(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const;
@@ -149,6 +147,7 @@ class ItemSaver {
     bool writeFile(const Writing& writing, MediumBytes& bytes, SaveOutcome& outcome) const;
 
     const std::shared_ptr<Destination> m_destination;
+    const std::shared_ptr<SavedContents> m_contents;
     SavePolicy m_policy;
     std::unique_ptr<State> m_state;  // what was saved before, and memory that serves all items
 };

@@ -4,13 +4,10 @@
 #include <QObject>
 #include <QStringList>
 #include <array>
-#include <map>
 #include <optional>
 #include <set>
-#include <utility>
 #include <vector>
 
-#include "decode/ContentTrials.h"
 #include "saving/FilesWithin.h"
 #include "saving/ItemSaver.h"
 #include "saving/LengthClaims.h"
@@ -41,11 +38,8 @@ struct ItemSaver::State {
     FilesWithin within;                  // those of the choice at hand
     FilesWithin waiting;                 // that will perhaps be
     std::optional<LengthClaims> claims;  // of the choice at hand
-    ContentTrials trials;
-    StopRequest stopDecoding;
-    std::map<std::pair<std::uint64_t, std::uint64_t>, bool> decoded;  // what was tried, by place and length
-    std::set<QString> folders;                                        // below it, that were written into
-    QStringList madeFolders;  // that were not there before this saver; the outer ones first
+    std::set<QString> folders;           // below it, that were written into
+    QStringList madeFolders;             // that were not there before this saver; the outer ones first
 };
 
 // What is being written, and where to.

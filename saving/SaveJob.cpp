@@ -9,6 +9,7 @@
 #include "results/MyImageObject.h"
 #include "results/ToldFiles.h"
 #include "saving/ItemSaver.h"
+#include "saving/SavedContents.h"
 #include "saving/ToldItem.h"
 #include "saving/TwinFile.h"
 
@@ -29,7 +30,7 @@ SaveJob::SaveJob(SaveRequest request) : m_request(std::move(request)) {
 
 void SaveJob::cancel() {
     const std::lock_guard lock(m_lock);
-    m_cancelled = true;
+    (m_progress.toCheck == 0 ? m_cancelled : m_checkedEnough) = true;
     m_watch.ended = true;
 }
 
@@ -50,14 +51,16 @@ SaveProgress SaveJob::progress() const {
 }
 
 void SaveJob::run() {
-    const std::unique_ptr<SectorReader> medium = m_request.openMedium ? m_request.openMedium() : nullptr;
+    std::unique_ptr<SectorReader> medium = m_request.openMedium ? m_request.openMedium() : nullptr;
     m_report.mediumOpened = medium != nullptr;
     const auto held = [](const ChosenItem& chosen) { return !chosen.item->heldBytes().isEmpty(); };
     if (medium || std::any_of(m_request.items.begin(), m_request.items.end(), held)) {
         saveAll(medium.get());
         saveTold(medium.get());
-        compileReport();
         m_request.saver->flush();
+        medium.reset();
+        checkContents();
+        compileReport();
         if (destinationKeepsAll()) {
             writeTheReport();
             destinationKeepsAll();
@@ -72,7 +75,7 @@ void SaveJob::begin(const QString& name, std::uint64_t sectors) {
     m_sectorsOfCurrent = sectors;
     m_watch.sectorsRead = 0;
     m_watch.sectorsRefused = 0;
-    m_watch.ended = m_cancelled.load();
+    m_watch.ended = m_cancelled || m_checkedEnough;
 }
 
 void SaveJob::saveAll(SectorReader* medium) {
@@ -177,6 +180,36 @@ void SaveJob::saveTold(SectorReader* medium) {
             m_furtherOutcomes.push_back({item.name, item.type, carved.runs.front().first,
                                          carved.runs.front().end, std::move(outcome)});
         }
+    }
+}
+
+void SaveJob::checkContents() {
+    std::vector<std::pair<SaveOutcome*, QString>> due;
+    for (std::size_t place = 0; place < m_outcomes.size(); ++place) {
+        if (m_outcomes[place] && SavedContents::isDue(*m_outcomes[place])) {
+            due.emplace_back(&*m_outcomes[place], m_request.items[place].item->imageTitle());
+        }
+    }
+    for (ReportedItem& further : m_furtherOutcomes) {
+        if (SavedContents::isDue(further.outcome)) {
+            due.emplace_back(&further.outcome, further.name);
+        }
+    }
+    SavedContents& contents = *m_request.saver->contents();
+    contents.begin();
+    for (const auto& [outcome, name] : due) {
+        begin(name, 0);
+        {
+            const std::lock_guard lock(m_lock);
+            if (m_cancelled || m_checkedEnough) {
+                return;
+            }
+            m_progress.toCheck = due.size();
+        }
+        contents.look(*outcome, [this] { return m_watch.ended.load(); });
+        const std::lock_guard lock(m_lock);
+        ++m_progress.turn;
+        ++m_progress.checked;
     }
 }
 

@@ -60,6 +60,9 @@ struct SaveProgress {
     QString current;            // name of the item at hand
     std::uint64_t share = 0;    // of total(), in sectors of the items as they were found
     std::uint64_t refused = 0;  // sectors of the item at hand that the medium could not read
+    // Behind the last item: of so many saved files the content is looked at, and so many were. 0: not yet.
+    std::size_t toCheck = 0;
+    std::size_t checked = 0;
 };
 
 // run() belongs to one thread; everything else may be used by any other meanwhile.
@@ -70,6 +73,7 @@ class SaveJob {
     void run();
 
     // The item at hand is given up at once, unless the medium keeps it waiting; nothing of it stays behind.
+    // Once all is saved only the look at the contents ends, which is no cancel.
     void cancel();
     bool isCancelled() const { return m_cancelled; }
     // Gives up the item of that turn (see SaveProgress) as cancel() does, and goes on with the next; no
@@ -90,6 +94,7 @@ class SaveJob {
     void saveTold(SectorReader* medium);
     void saveTwin(const FoundItem& found, const MyImageObject& item, const SaveOutcome& outcome);
     void begin(const QString& name, std::uint64_t sectors);
+    void checkContents();
     void compileReport();
     bool destinationKeepsAll();
     void writeTheReport();
@@ -103,6 +108,7 @@ class SaveJob {
     std::set<const Mend*> m_twinsSaved;
     ReadWatch m_watch;
     std::atomic<bool> m_cancelled{false};
+    std::atomic<bool> m_checkedEnough{false};
     std::atomic<bool> m_finished{false};
     std::atomic<std::uint64_t> m_sectorsOfCurrent{0};
 

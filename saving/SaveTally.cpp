@@ -65,6 +65,13 @@ void SaveTally::add(const QString& name, const SaveOutcome& outcome) {
     }
 }
 
+void SaveTally::noteChecked(const SaveOutcome& outcome) {
+    if (outcome.saved && !outcome.duplicate && !outcome.mend && outcome.contentChecked()) {
+        --unchecked;
+        ++complete;
+    }
+}
+
 void SaveTally::loseSaved(const QString& why) {
     const std::uint64_t lost = saved + duplicates;
     if (lost == 0) {

@@ -33,6 +33,8 @@ struct SaveTally {
     QStringList failures;  // the first few, a sentence each; one for all that went with the destination
 
     void add(const QString& name, const SaveOutcome& outcome);
+    // Only now the content of a file that was added was looked at.
+    void noteChecked(const SaveOutcome& outcome);
     // Whatever was saved has gone since then, for that reason.
     void loseSaved(const QString& why);
     // Of those that failed, how many the first so many sentences say nothing of.

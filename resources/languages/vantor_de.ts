@@ -2308,6 +2308,10 @@ Läuft auf %2.</translation>
             <numerusform>%1 ausgelassen: alles, wovon nur das Verzeichnis der Karte weiß, würde die Karte mehr als zweimal füllen</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Checking the content of saved files: %1 of %2</source>
+        <translation>Inhalt gespeicherter Dateien wird geprüft: %1 von %2</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -4259,6 +4263,14 @@ Bitte wählen Sie die Dateitypen für die Wiederherstellung aus. Mit ‚Weiter�
     <message>
         <source>Cancelling…</source>
         <translation>Wird abgebrochen …</translation>
+    </message>
+    <message>
+        <source>Checking the content of %1 of %2</source>
+        <translation>Inhalt wird geprüft: %1 von %2</translation>
+    </message>
+    <message>
+        <source>Nothing more is read from the medium. Cancel ends this check only.</source>
+        <translation>Vom Medium wird nichts mehr gelesen. „Abbrechen“ beendet nur diese Prüfung.</translation>
     </message>
 </context>
 <context>

@@ -2308,6 +2308,10 @@ Se ejecuta en %2.</translation>
             <numerusform>%1 omitidos: todo lo que solo conoce el directorio de la tarjeta la llenaría más de dos veces</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Checking the content of saved files: %1 of %2</source>
+        <translation>Comprobando el contenido de los archivos guardados: %1 de %2</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -4259,6 +4263,14 @@ Seleccione los tipos de archivo que desea recuperar. Pulse el botón «Siguiente
     <message>
         <source>Cancelling…</source>
         <translation>Cancelando…</translation>
+    </message>
+    <message>
+        <source>Checking the content of %1 of %2</source>
+        <translation>Comprobando el contenido: %1 de %2</translation>
+    </message>
+    <message>
+        <source>Nothing more is read from the medium. Cancel ends this check only.</source>
+        <translation>Ya no se lee nada del medio. «Cancelar» solo termina esta comprobación.</translation>
     </message>
 </context>
 <context>

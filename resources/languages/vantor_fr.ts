@@ -2308,6 +2308,10 @@ Fonctionne avec %2.</translation>
             <numerusform>%1 laissés de côté : tout ce que seul le répertoire de la carte indique remplirait la carte plus de deux fois</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Checking the content of saved files: %1 of %2</source>
+        <translation>Vérification du contenu des fichiers enregistrés : %1 sur %2</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -4259,6 +4263,14 @@ Veuillez sélectionner les types de fichiers à récupérer. Appuyez sur ‘Suiv
     <message>
         <source>Cancelling…</source>
         <translation>Annulation…</translation>
+    </message>
+    <message>
+        <source>Checking the content of %1 of %2</source>
+        <translation>Vérification du contenu : %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Nothing more is read from the medium. Cancel ends this check only.</source>
+        <translation>Plus rien n’est lu sur le support. « Annuler » n’arrête que cette vérification.</translation>
     </message>
 </context>
 <context>

@@ -2308,6 +2308,10 @@ In esecuzione su %2.</translation>
             <numerusform>%1 tralasciati: tutto ciò che è noto solo alla directory della scheda la riempirebbe più di due volte</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Checking the content of saved files: %1 of %2</source>
+        <translation>Verifica del contenuto dei file salvati: %1 di %2</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -4259,6 +4263,14 @@ Selezionare i tipi di file da recuperare. Premere il pulsante «Avanti» per con
     <message>
         <source>Cancelling…</source>
         <translation>Annullamento…</translation>
+    </message>
+    <message>
+        <source>Checking the content of %1 of %2</source>
+        <translation>Verifica del contenuto: %1 di %2</translation>
+    </message>
+    <message>
+        <source>Nothing more is read from the medium. Cancel ends this check only.</source>
+        <translation>Dal supporto non si legge più nulla. «Annulla» termina solo questa verifica.</translation>
     </message>
 </context>
 <context>

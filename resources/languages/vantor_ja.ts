@@ -2275,6 +2275,10 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
             <numerusform>%1 件を除外: カードのディレクトリーだけが示すファイルの合計が、カードの容量の 2 倍を超えます</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Checking the content of saved files: %1 of %2</source>
+        <translation>保存したファイルの内容を確認しています: %1 / %2</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -4216,6 +4220,14 @@ Please select the required extension type for recovery process. Press ‘Next’
     <message>
         <source>Cancelling…</source>
         <translation>キャンセルしています…</translation>
+    </message>
+    <message>
+        <source>Checking the content of %1 of %2</source>
+        <translation>内容を確認しています: %1 / %2</translation>
+    </message>
+    <message>
+        <source>Nothing more is read from the medium. Cancel ends this check only.</source>
+        <translation>メディアからはもう何も読み取りません。「キャンセル」で終わるのはこの確認だけです。</translation>
     </message>
 </context>
 <context>

@@ -2308,6 +2308,10 @@ Wordt uitgevoerd op %2.</translation>
             <numerusform>%1 weggelaten: alles wat alleen de mappenlijst van de kaart kent, zou de kaart meer dan twee keer vullen</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Checking the content of saved files: %1 of %2</source>
+        <translation>Inhoud van opgeslagen bestanden controleren: %1 van %2</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -4259,6 +4263,14 @@ Selecteer de bestandstypen die u wilt herstellen. Druk op de knop “Volgende”
     <message>
         <source>Cancelling…</source>
         <translation>Bezig met annuleren…</translation>
+    </message>
+    <message>
+        <source>Checking the content of %1 of %2</source>
+        <translation>Inhoud controleren: %1 van %2</translation>
+    </message>
+    <message>
+        <source>Nothing more is read from the medium. Cancel ends this check only.</source>
+        <translation>Er wordt niets meer van het medium gelezen. ‘Annuleren’ beëindigt alleen deze controle.</translation>
     </message>
 </context>
 <context>

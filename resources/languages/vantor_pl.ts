@@ -2341,6 +2341,10 @@ Działa w systemie %2.</translation>
             <numerusform>%1 pominiętych: wszystko, o czym mówi tylko katalog karty, zapełniłoby kartę ponad dwukrotnie</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Checking the content of saved files: %1 of %2</source>
+        <translation>Sprawdzanie zawartości zapisanych plików: %1 z %2</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -4302,6 +4306,14 @@ Proszę wybrać typy plików do odzyskania. Przycisk „Dalej” prowadzi dalej.
     <message>
         <source>Cancelling…</source>
         <translation>Anulowanie…</translation>
+    </message>
+    <message>
+        <source>Checking the content of %1 of %2</source>
+        <translation>Sprawdzanie zawartości: %1 z %2</translation>
+    </message>
+    <message>
+        <source>Nothing more is read from the medium. Cancel ends this check only.</source>
+        <translation>Z nośnika nic już nie jest czytane. „Anuluj” kończy tylko to sprawdzanie.</translation>
     </message>
 </context>
 <context>

@@ -2308,6 +2308,10 @@ Executando em %2.</translation>
             <numerusform>%1 omitidos: tudo o que só o diretório do cartão conhece encheria o cartão mais de duas vezes</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Checking the content of saved files: %1 of %2</source>
+        <translation>Verificando o conteúdo dos arquivos salvos: %1 de %2</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -4259,6 +4263,14 @@ Selecione os tipos de arquivo a recuperar. Pressione o botão “Próximo” par
     <message>
         <source>Cancelling…</source>
         <translation>Cancelando…</translation>
+    </message>
+    <message>
+        <source>Checking the content of %1 of %2</source>
+        <translation>Verificando o conteúdo: %1 de %2</translation>
+    </message>
+    <message>
+        <source>Nothing more is read from the medium. Cancel ends this check only.</source>
+        <translation>Nada mais é lido da mídia. “Cancelar” encerra apenas esta verificação.</translation>
     </message>
 </context>
 <context>

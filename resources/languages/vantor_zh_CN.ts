@@ -2275,6 +2275,10 @@ Running on %2.</source>
             <numerusform>%1 个已略过：仅在卡的目录中有记录的文件总共会超过卡容量的两倍</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Checking the content of saved files: %1 of %2</source>
+        <translation>正在检查已保存文件的内容：%1/%2</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -4216,6 +4220,14 @@ Please select the required extension type for recovery process. Press ‘Next’
     <message>
         <source>Cancelling…</source>
         <translation>正在取消…</translation>
+    </message>
+    <message>
+        <source>Checking the content of %1 of %2</source>
+        <translation>正在检查内容：%1/%2</translation>
+    </message>
+    <message>
+        <source>Nothing more is read from the medium. Cancel ends this check only.</source>
+        <translation>不再从介质读取任何数据。“取消”只会结束这项检查。</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,7 @@
 #include "decode/DecodePool.h"
 #include "saving/ItemSaver.h"
 #include "saving/SaveTally.h"
+#include "saving/SavedContents.h"
 #include "tests/repair/MemoryReader.h"
 #include "tests/repair/RealMovie.h"
 
@@ -35,6 +36,11 @@ class SavedMovie : public testing::Test {
                               {{{0, reader.mediumSectors()}}, false}, reader);
     }
 
+    SaveOutcome lookedInto(SaveOutcome outcome, const StopRequest& stop = {}) const {
+        saver.contents()->look(outcome, stop);
+        return outcome;
+    }
+
     // The helper is looked for beside the program.
     int argumentCount = 1;
     char name[12] = "saving_test";
@@ -50,24 +56,25 @@ class SavedMovie : public testing::Test {
 
 TEST_F(SavedMovie, ThatDecodes_IsChecked_UnderEachOfItsTypes) {
     for (const char* const type : {"MOV", "MP4"}) {
-        const SaveOutcome outcome = save(type);
-        ASSERT_TRUE(outcome.saved) << outcome.error.toStdString();
-        EXPECT_EQ(outcome.bytes, length);
+        const SaveOutcome saved = save(type);
+        ASSERT_TRUE(saved.saved) << saved.error.toStdString();
+        EXPECT_EQ(saved.bytes, length);
+        EXPECT_FALSE(saved.contentChecked()) << "not while others wait";
+        const SaveOutcome outcome = lookedInto(saved);
         EXPECT_TRUE(outcome.contentChecked());
         EXPECT_TRUE(soundnessOf(outcome)->checked);
     }
 }
 
 TEST_F(SavedMovie, OnceThereIsToBeAnEnd_IsNotDecoded) {
-    saver.setStopDecoding([] { return true; });
-    const SaveOutcome outcome = save("MOV");
+    const SaveOutcome outcome = lookedInto(save("MOV"), [] { return true; });
     EXPECT_TRUE(outcome.saved);
     EXPECT_FALSE(outcome.contentChecked());
 }
 
 TEST_F(SavedMovie, WithAForeignCluster_EndsWhereItSays) {
     movie = test::withForeignCluster(movie);
-    const SaveOutcome outcome = save("MOV");
+    const SaveOutcome outcome = lookedInto(save("MOV"));
     ASSERT_TRUE(outcome.saved) << outcome.error.toStdString();
     EXPECT_EQ(outcome.verdict, Verdict::Complete);
     EXPECT_TRUE(outcome.checked);

@@ -119,14 +119,23 @@ void SavingSheet::showProgress() {
     m_meter.update(m_clock.elapsed(), progress.share);
     const std::size_t at = std::min(progress.done + 1, m_job->count());
     showTrouble(progress);
+    const bool checking = progress.toCheck > 0;
+    const std::size_t checked = std::min(progress.checked + 1, progress.toCheck);
     m_ui->saveHeading->setText(
-        tr("Saving %1 of %2").arg(numberForPeople(at), numberForPeople(m_job->count())));
+        checking ? tr("Checking the content of %1 of %2")
+                       .arg(numberForPeople(checked), numberForPeople(progress.toCheck))
+                 : tr("Saving %1 of %2").arg(numberForPeople(at), numberForPeople(m_job->count())));
     m_ui->saveFileLabel->setText(m_ui->saveFileLabel->fontMetrics().elidedText(
         progress.current, Qt::ElideMiddle, m_ui->saveFileLabel->width()));
-    const double share =
-        m_job->total() > 0 ? static_cast<double>(progress.share) / static_cast<double>(m_job->total()) : 0;
-    m_ui->saveBar->setValue(static_cast<int>(share * kBarSteps));
-    m_ui->saveFactsLabel->setText(m_job->isCancelled() ? tr("Cancelling…") : m_meter.speedAndTimeLeft());
+    const auto [done, of] = checking
+                                ? std::pair<std::uint64_t, std::uint64_t>(progress.checked, progress.toCheck)
+                                : std::pair(progress.share, m_job->total());
+    m_ui->saveBar->setValue(
+        of > 0 ? static_cast<int>(static_cast<double>(done) / static_cast<double>(of) * kBarSteps) : 0);
+    m_ui->saveFactsLabel->setText(m_job->isCancelled() ? tr("Cancelling…")
+                                  : checking           ? tr("Nothing more is read from the medium. "
+                                                                      "Cancel ends this check only.")
+                                                       : m_meter.speedAndTimeLeft());
 }
 
 }  // namespace vantor
