@@ -26,8 +26,10 @@ CliMedium byPath(const QString& name, const QString& path, StopRequest stop, con
     CliMedium medium;
     medium.path = path;
     OpenTerms terms;
+    terms.image = std::make_shared<HeldImage>();
+    medium.image = terms.image;
     QString why;
-    if (const auto facts = probeMedium(path, &why, map)) {
+    if (const auto facts = probeMedium(path, &why, map, terms.image.get())) {
         medium.sectors = facts->sectors;
         if (facts->isImage && facts->sectors == 0) {
             medium.complaint = QObject::tr("“%1” is empty: it holds no whole sector.").arg(name);

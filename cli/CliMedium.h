@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "media/HeldImage.h"
 #include "media/MediaSource.h"
 #include "media/MediumCopy.h"
 #include "scan/ScanSession.h"
@@ -19,6 +20,7 @@ struct CliMedium {
     QString complaint;                  // a sentence for the user; empty when all is well
     // How the last opening went; null where the complaint says it.
     std::shared_ptr<const LastRefusal> refusal;
+    std::shared_ptr<const HeldImage> image;  // null of a device that the machine lists
 };
 
 // Finds the medium by path or identifier. `stop` ends waits for a device that hangs and for the user's

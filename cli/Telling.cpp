@@ -10,6 +10,7 @@
 #include "catalogue/TextHelpers.h"
 #include "cli/JsonLine.h"
 #include "media/LabelText.h"
+#include "media/OpenRefusal.h"
 #include "media/PathArgument.h"
 #include "results/SizeForPeople.h"
 #include "results/ToldFiles.h"
@@ -178,6 +179,10 @@ int tell(CliSession& session, const CliOptions& options, const CliMedium& medium
         return kExitDestinationTrouble;
     }
     const int code = exitCodeOf(session);
+    if (medium.image && medium.image->wasWrittenTo()) {
+        complain(wordsForWrittenTo());
+        return code == kExitCompleted ? kExitReadError : code;
+    }
     if (!allRead) {
         complain(QObject::tr("Not all items could be read once more; those have no checksum."));
         return code == kExitCompleted ? kExitReadError : code;

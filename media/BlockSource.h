@@ -29,6 +29,10 @@ class BlockSource {
 
     // Sectors of the medium's smallest unit, which are read together and refused together. Any thread.
     virtual std::uint64_t blockSectors() const { return 1; }
+
+    // Whether several threads may ask at once, and no answer is waited for so long that a search would not
+    // rather have the next one fetched meanwhile. Any thread.
+    virtual bool mayBeReadAhead() const { return false; }
 };
 
 }  // namespace vantor

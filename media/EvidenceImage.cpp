@@ -6,9 +6,6 @@
 #include <future>
 #include <utility>
 
-#include "media/ImageFile.h"
-#include "media/ImageParts.h"
-
 namespace vantor {
 
 namespace {
@@ -24,8 +21,8 @@ void setEvidenceOpener(EvidenceOpener by) {
     opener() = std::move(by);
 }
 
-std::unique_ptr<BlockSource> openEvidenceImage(const QString& path, StopRequest stop, QString* why) {
-    auto segments = openParts(imageParts(path));
+std::unique_ptr<BlockSource> openEvidenceImage(const HeldImage& image, StopRequest stop, QString* why) {
+    auto segments = image.openApart();
     if (!segments) {
         return nullptr;
     }

@@ -9,6 +9,7 @@
 #include "media/AbandonableSource.h"
 #include "media/BlockSource.h"
 #include "media/FileDescriptor.h"
+#include "media/HeldImage.h"
 
 namespace vantor {
 
@@ -24,6 +25,6 @@ void setEvidenceOpener(EvidenceOpener opener);
 
 // The medium in the evidence image of which `path` is a segment, read by a thread of its own; `stop` ends its
 // waits. Null, with a sentence as above or else errno.
-std::unique_ptr<BlockSource> openEvidenceImage(const QString& path, StopRequest stop, QString* why);
+std::unique_ptr<BlockSource> openEvidenceImage(const HeldImage& image, StopRequest stop, QString* why);
 
 }  // namespace vantor

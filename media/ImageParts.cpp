@@ -1,11 +1,17 @@
 // How the parts of an image are named and found.
 #include "media/ImageParts.h"
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
+#include <array>
 #include <optional>
+
+#include "media/PlainFile.h"
 
 namespace vantor {
 
@@ -83,7 +89,7 @@ std::optional<Row> evidenceRow(const QString& path) {
 
 bool saysThatAnotherFollows(const QString& path) {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) && file.size() > kSectionHeadBytes &&
+    return openPlainFile(file) && file.size() > kSectionHeadBytes &&
            file.seek(file.size() - kSectionHeadBytes) && file.read(kAnotherFollows.size()) == kAnotherFollows;
 }
 
@@ -116,8 +122,16 @@ QString missingNumbered(const Row& row) {
 
 bool isEvidenceSegment(const QString& path) {
     QFile file(path);
-    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly) &&
-           file.read(kEvidenceMark.size()) == kEvidenceMark;
+    return openPlainFile(file) && isEvidenceSegment(file.handle());
+}
+
+bool isEvidenceSegment(int descriptor) {
+    std::array<char, kEvidenceMark.size()> begin{};
+    struct stat info {};
+    // What has no size may have to be waited for.
+    return ::fstat(descriptor, &info) == 0 && info.st_size >= kEvidenceMark.size() &&
+           ::pread(descriptor, begin.data(), begin.size(), 0) == kEvidenceMark.size() &&
+           QByteArrayView(begin) == kEvidenceMark;
 }
 
 QStringList imageParts(const QString& path) {

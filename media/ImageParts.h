@@ -18,5 +18,6 @@ QString missingPart(const QString& path);
 // Whether the file is a segment of an evidence image that evidence tools call E01: of a medium, as opposed to
 // single files. Source: the public notes on the Expert Witness Compression Format.
 bool isEvidenceSegment(const QString& path);
+bool isEvidenceSegment(int descriptor);
 
 }  // namespace vantor

@@ -26,7 +26,10 @@ ImageShelf::ImageShelf(std::unique_ptr<MediaSource> machine) : m_machine(std::mo
 
 QStringList ImageShelf::mountedRemovableMedia() {
     QStringList paths = m_machine->mountedRemovableMedia();
-    for (const Image& image : m_images) {
+    for (Image& image : m_images) {
+        if (!image.held->isAsNamed()) {
+            image.held = std::make_shared<HeldImage>();
+        }
         paths << image.path;
     }
     updateTargets();
@@ -68,7 +71,8 @@ OpenedImage ImageShelf::addImage(const QString& path) {
     if (facts->sectors == 0) {
         return {{}, QObject::tr("“%1” is empty. Please choose an image file of a storage medium.").arg(path)};
     }
-    m_images << Image{QStringLiteral("image%1").arg(m_images.size() + 1), first};
+    m_images << Image{QStringLiteral("image%1").arg(m_images.size() + 1), first,
+                      std::make_shared<HeldImage>()};
     if (isEvidenceSegment(first)) {
         m_images.last().sectors = facts->sectors;
     }
@@ -80,7 +84,7 @@ void ImageShelf::updateTargets() {
     const auto machine = m_machine->targets();
     auto targets = machine ? machine->all() : QHash<QString, MediumTarget>();
     for (const Image& image : m_images) {
-        targets[image.identifier] = {image.path, {}};
+        targets[image.identifier] = {image.path, {}, {}, image.held};
     }
     m_targets->replace(targets);
 }

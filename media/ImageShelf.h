@@ -27,7 +27,8 @@ class ImageShelf : public MediaSource {
   private:
     struct Image {
         QString identifier;
-        QString path;  // canonical; the first part of a split image
+        QString path;                     // canonical; the first part of a split image
+        std::shared_ptr<HeldImage> held;  // since it was listed
         // Of one that takes long to be opened; of others what the file says now.
         std::optional<std::uint64_t> sectors = {};
     };

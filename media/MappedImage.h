@@ -19,6 +19,7 @@ class MappedImage : public BlockSource {
     std::int64_t readAt(std::uint64_t sector, std::span<std::uint8_t> into) override;
     bool usable() override { return m_image->usable(); }
     std::uint64_t sectors() const override;
+    bool mayBeReadAhead() const override { return m_image->mayBeReadAhead(); }
 
   private:
     const std::unique_ptr<BlockSource> m_image;

@@ -27,4 +27,10 @@ QString wordsForRefusal(OpenRefusal refusal) {
     return {};
 }
 
+QString wordsForWrittenTo() {
+    return QObject::tr(
+        "The image file was changed during the search, so what was found may be damaged. Search again when "
+        "nothing writes to it any more.");
+}
+
 }  // namespace vantor

@@ -18,6 +18,9 @@ enum class OpenRefusal {
 // What is the case and what helps; empty where nothing is known beyond that it failed.
 QString wordsForRefusal(OpenRefusal refusal);
 
+// Of an image file that something wrote to while it was searched.
+QString wordsForWrittenTo();
+
 // How the last opening went. Any thread.
 class LastRefusal {
   public:

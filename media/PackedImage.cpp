@@ -1,11 +1,11 @@
 // Telling packed images from plain ones by their first and last bytes.
 #include <QFile>
-#include <QFileInfo>
 #include <QObject>
 #include <QString>
 #include <optional>
 
 #include "media/ImageFile.h"
+#include "media/PlainFile.h"
 
 namespace vantor {
 
@@ -55,7 +55,7 @@ constexpr QByteArrayView kVhdCookie = "conectix";
 
 bool standsAt(QFile& file, qint64 offset, QByteArrayView bytes) {
     const qint64 at = offset < 0 ? file.size() + offset : offset;
-    return at >= 0 && file.seek(at) && file.read(bytes.size()) == bytes;
+    return at >= 0 && at + bytes.size() <= file.size() && file.seek(at) && file.read(bytes.size()) == bytes;
 }
 
 QString advice(Packing packing) {
@@ -87,9 +87,8 @@ QString sentence(const QString& path, const QString& format, Packing packing) {
 }  // namespace
 
 std::optional<QString> refusePackedImage(const QString& path) {
-    const QFileInfo info(path);
     QFile file(path);
-    if (!info.isFile() || !file.open(QIODevice::ReadOnly)) {
+    if (!openPlainFile(file)) {
         return std::nullopt;
     }
     for (const Mark& mark : kMarks) {

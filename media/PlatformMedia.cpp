@@ -54,7 +54,7 @@ Terms makeTerms(const MediaSource& source, StopRequest stop, std::shared_ptr<Las
             return std::nullopt;
         }
         return std::pair{target->path, OpenTerms{stop, request, target->identity, refusal, target->memory,
-                                                 mediaPresent, QString()}};
+                                                 mediaPresent, QString(), target->image}};
     };
 }
 

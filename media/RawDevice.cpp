@@ -81,11 +81,20 @@ std::optional<OpenedNode> openDevice(const QString& path, const OpenTerms& terms
 }
 
 // Null with errno, or with a sentence for the user where that says more.
-std::unique_ptr<BlockSource> openImage(const QString& path, StopRequest stop, QString* why = nullptr) {
-    if (isEvidenceSegment(path)) {
-        return openEvidenceImage(path, std::move(stop), why);
+std::unique_ptr<BlockSource> openImage(const QString& path, HeldImage* heldBySearch, StopRequest stop,
+                                       QString* why = nullptr) {
+    HeldImage once;
+    HeldImage& held = heldBySearch != nullptr ? *heldBySearch : once;
+    const auto parts = held.open(imageParts(path));
+    if (!parts) {
+        return nullptr;
     }
-    return ImageFile::open(imageParts(path));
+    return isEvidenceSegment(parts->front().descriptor.get()) ? openEvidenceImage(held, std::move(stop), why)
+                                                              : ImageFile::open(parts);
+}
+
+bool isHeld(const OpenTerms& terms) {
+    return terms.image && terms.image->isOpen();
 }
 
 // `map` as in OpenTerms. Null when the map cannot be used, with a sentence for the user.
@@ -109,14 +118,14 @@ std::unique_ptr<BlockSource> withMap(std::unique_ptr<BlockSource> image, const Q
 }
 
 std::unique_ptr<BlockSource> openSource(const QString& path, OpenTerms terms) {
-    switch (kindOf(path)) {
+    switch (isHeld(terms) ? Kind::Image : kindOf(path)) {
         case Kind::Image: {
-            if (!missingPart(path).isEmpty()) {
+            if (!isHeld(terms) && !missingPart(path).isEmpty()) {
                 errno = ENOENT;
                 return nullptr;
             }
             errno = 0;
-            std::unique_ptr<BlockSource> image = openImage(path, terms.stop);
+            std::unique_ptr<BlockSource> image = openImage(path, terms.image.get(), terms.stop);
             if (!image && isForbidden(errno)) {
                 note(terms, OpenRefusal::MayNotReadImage);
             }
@@ -152,8 +161,9 @@ std::unique_ptr<BlockSource> openSource(const QString& path, OpenTerms terms) {
     return nullptr;
 }
 
-std::optional<MediumFacts> imageFacts(const QString& path, const QString& map, QString* why) {
-    std::unique_ptr<BlockSource> image = openImage(path, {}, why);
+std::optional<MediumFacts> imageFacts(const QString& path, const QString& map, HeldImage* held,
+                                      QString* why) {
+    std::unique_ptr<BlockSource> image = openImage(path, held, {}, why);
     MediumFacts facts{true, 0, 0};
     if (image) {
         image = withMap(std::move(image), path, map, &facts.notRead, why);
@@ -176,7 +186,8 @@ std::optional<MediumFacts> deviceFacts(const QString& path) {
 
 }  // namespace
 
-std::optional<MediumFacts> probeMedium(const QString& path, QString* why, const QString& map) {
+std::optional<MediumFacts> probeMedium(const QString& path, QString* why, const QString& map,
+                                       HeldImage* held) {
     const auto refuse = [why](const QString& sentence) {
         if (why != nullptr) {
             *why = sentence;
@@ -198,7 +209,7 @@ std::optional<MediumFacts> probeMedium(const QString& path, QString* why, const 
     std::optional<MediumFacts> facts;
     QString sentence;
     if (kind != Kind::Missing) {
-        facts = kind == Kind::Image ? imageFacts(path, map, &sentence) : deviceFacts(path);
+        facts = kind == Kind::Image ? imageFacts(path, map, held, &sentence) : deviceFacts(path);
     } else {
         errno = ENOENT;
     }
@@ -219,11 +230,14 @@ std::unique_ptr<BlockSource> openMediumSource(const QString& path, OpenTerms ter
 }
 
 std::unique_ptr<SectorReader> openMedium(const QString& path, OpenTerms terms) {
-    // A device has its reading thread already, and is slower than any search; so is what has to be unpacked.
-    const bool plain = kindOf(path) == Kind::Image && !isEvidenceSegment(path);
-    const auto fetching = plain ? WindowedReader::Fetching::Ahead : WindowedReader::Fetching::WhenAsked;
     auto source = openMediumSource(path, std::move(terms));
-    return source ? std::make_unique<WindowedReader>(std::move(source), fetching) : nullptr;
+    if (!source) {
+        return nullptr;
+    }
+    // A device has its reading thread already, and is slower than any search; so is what has to be unpacked.
+    const auto fetching =
+        source->mayBeReadAhead() ? WindowedReader::Fetching::Ahead : WindowedReader::Fetching::WhenAsked;
+    return std::make_unique<WindowedReader>(std::move(source), fetching);
 }
 
 }  // namespace vantor

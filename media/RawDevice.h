@@ -25,7 +25,9 @@ struct MediumFacts {
 // The facts of the device or image at `path`, all parts of a split image together; nothing, and a sentence
 // for the user, when it is neither or cannot be opened for reading. `map` is the path of an image's map;
 // empty: the one that lies beside it, if there is one. A map that cannot be read is a reason to refuse.
-std::optional<MediumFacts> probeMedium(const QString& path, QString* why = nullptr, const QString& map = {});
+// `held` keeps an image from now on; null: nobody comes back to it.
+std::optional<MediumFacts> probeMedium(const QString& path, QString* why = nullptr, const QString& map = {},
+                                       HeldImage* held = nullptr);
 
 // Gets a read-only descriptor of a device node that the user may not open, by asking the user for consent; an
 // empty one when that is refused. May take minutes and is to return soon after a stop request. Any thread.
@@ -39,6 +41,7 @@ struct OpenTerms {
     std::shared_ptr<MediumMemory> memory = {};  // absent: a medium that left its slot is gone for good
     PresentMedia present = {};                  // where one that was put back is looked for
     QString map = {};                           // of an image; empty: the one beside it, if there is one
+    std::shared_ptr<HeldImage> image = {};  // shared by all openings of one search; null: by name each time
 };
 
 // The medium itself, below any reader; null when it cannot be opened. As openMedium().

@@ -8,6 +8,7 @@
 #include <optional>
 
 #include "media/BlockDevice.h"
+#include "media/HeldImage.h"
 #include "media/MediumIdentity.h"
 #include "media/MediumMemory.h"
 
@@ -18,6 +19,8 @@ struct MediumTarget {
     MediumIdentity identity;
     // Shared by all who read it; null of an image file.
     std::shared_ptr<MediumMemory> memory = {};
+    // Likewise; null of a device.
+    std::shared_ptr<HeldImage> image = {};
 };
 
 // The media that are in the machine's slots at the moment. Any thread.

@@ -46,6 +46,8 @@ struct ProgramParts {
 
     // True when files written into the folder would land on the medium behind "/dev/r" + identifier.
     std::function<bool(const QString& folder, const QString& devicePath)> isOnMedium;
+    // Whether something wrote to the image file behind "/dev/r" + identifier since its search began.
+    std::function<bool(const QString& devicePath)> wasWrittenTo;
     // Bytes that may still be written into the folder; nothing when that is not known.
     std::function<std::optional<std::uint64_t>(const QString& folder)> freeBytes = freeBytesAt;
     // Hands over files that the user drags out of the window; none: the toolkit does.

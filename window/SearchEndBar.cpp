@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "decode/ErasedCardCheck.h"
+#include "media/OpenRefusal.h"
 #include "results/SizeForPeople.h"
 #include "saving/SaveSummary.h"
 #include "window/MyTableController.h"
@@ -30,6 +31,10 @@ void MyTableController::showSearchEnd() {
     if (end.outcome == PassOutcome::OpenError && m_parts.whyNotOpened) {
         sentences << m_parts.whyNotOpened();
     }
+    const bool written = m_parts.wasWrittenTo && m_parts.wasWrittenTo(devicePath());
+    if (written) {
+        sentences << wordsForWrittenTo();
+    }
     if (m_readsAsErased && itemCount() == 0) {
         sentences << erasedCardWords();
     }
@@ -38,7 +43,7 @@ void MyTableController::showSearchEnd() {
     }
     sentences.removeAll(QString());
     searchEndLabel->setText(sentences.join(u' '));
-    const QString picture = end.isFlawless() ? QStringLiteral("ok") : QStringLiteral("info");
+    const QString picture = end.isFlawless() && !written ? QStringLiteral("ok") : QStringLiteral("info");
     const int edge = searchEndIcon->minimumWidth();
     searchEndIcon->setPixmap(ownIcon(picture).pixmap(edge, edge));
     tryBadSectorsButton->setVisible(end.unreadable != 0);

@@ -78,6 +78,10 @@ ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTable
         return std::any_of(nodes.begin(), nodes.end(),
                            [&folder](const QString& node) { return destinationIsOnMedium(folder, node); });
     };
+    parts.wasWrittenTo = [targets = parts.media->targets()](const QString& devicePath) {
+        const auto target = targets->find(devicePath.mid(QStringLiteral("/dev/r").size()));
+        return target && target->image && target->image->wasWrittenTo();
+    };
     const auto ejector = std::make_shared<UdisksEjector>();
     const auto nodeOf = [targets = parts.media->targets()](const QString& devicePath) {
         const auto target = targets->find(devicePath.mid(QStringLiteral("/dev/r").size()));

@@ -727,6 +727,10 @@ Bitte wählen Sie mindestens einen Dateityp aus.</translation>
         <translation>An seiner Stelle ist jetzt ein anderes Medium. Gehen Sie zur Liste der Medien zurück und wählen Sie neu.</translation>
     </message>
     <message>
+        <source>The image file was changed during the search, so what was found may be damaged. Search again when nothing writes to it any more.</source>
+        <translation>Die Abbilddatei wurde während der Suche verändert; was gefunden wurde, kann deshalb beschädigt sein. Suchen Sie noch einmal, wenn nichts mehr in sie schreibt.</translation>
+    </message>
+    <message>
         <source>Please unpack it first and open the image file that is inside.</source>
         <translation>Bitte entpacken Sie es zuerst und öffnen Sie die Abbilddatei darin.</translation>
     </message>

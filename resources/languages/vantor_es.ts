@@ -727,6 +727,10 @@ Seleccione al menos un tipo de archivo.</translation>
         <translation>Ahora hay otro medio en su lugar. Vuelva a la lista de medios y elija de nuevo.</translation>
     </message>
     <message>
+        <source>The image file was changed during the search, so what was found may be damaged. Search again when nothing writes to it any more.</source>
+        <translation>El archivo de imagen cambió durante la búsqueda, así que lo encontrado puede estar dañado. Busque de nuevo cuando ya nada escriba en él.</translation>
+    </message>
+    <message>
         <source>Please unpack it first and open the image file that is inside.</source>
         <translation>Descomprímalo primero y abra el archivo de imagen que contiene.</translation>
     </message>

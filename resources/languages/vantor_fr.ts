@@ -727,6 +727,10 @@ Veuillez sélectionner au moins un type de fichier.</translation>
         <translation>Un autre support est maintenant à sa place. Revenez à la liste des supports et choisissez à nouveau.</translation>
     </message>
     <message>
+        <source>The image file was changed during the search, so what was found may be damaged. Search again when nothing writes to it any more.</source>
+        <translation>Le fichier image a été modifié pendant la recherche : ce qui a été trouvé peut être endommagé. Relancez la recherche quand plus rien n’y écrit.</translation>
+    </message>
+    <message>
         <source>Please unpack it first and open the image file that is inside.</source>
         <translation>Veuillez d&apos;abord le décompresser et ouvrir le fichier image qu&apos;il contient.</translation>
     </message>

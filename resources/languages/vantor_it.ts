@@ -727,6 +727,10 @@ Selezionare almeno un tipo di file.</translation>
         <translation>Al suo posto ora c’è un altro supporto. Tornare all’elenco dei supporti e scegliere di nuovo.</translation>
     </message>
     <message>
+        <source>The image file was changed during the search, so what was found may be damaged. Search again when nothing writes to it any more.</source>
+        <translation>Il file immagine è stato modificato durante la ricerca: ciò che è stato trovato può essere danneggiato. Ripeta la ricerca quando nulla vi scrive più.</translation>
+    </message>
+    <message>
         <source>Please unpack it first and open the image file that is inside.</source>
         <translation>Prima decomprimerlo e aprire il file immagine che contiene.</translation>
     </message>

@@ -727,6 +727,10 @@ Please select atleast one extension type.</source>
         <translation>別のメディアに替わっています。メディアの一覧に戻って、選び直してください。</translation>
     </message>
     <message>
+        <source>The image file was changed during the search, so what was found may be damaged. Search again when nothing writes to it any more.</source>
+        <translation>検索中にイメージファイルが変更されたため、見つかったものは壊れている可能性があります。何も書き込まれなくなってから、もう一度検索してください。</translation>
+    </message>
+    <message>
         <source>Please unpack it first and open the image file that is inside.</source>
         <translation>先に展開して、中にあるイメージファイルを開いてください。</translation>
     </message>

@@ -727,6 +727,10 @@ Selecteer ten minste één bestandstype.</translation>
         <translation>Op die plaats zit nu een ander medium. Ga terug naar de lijst van media en kies opnieuw.</translation>
     </message>
     <message>
+        <source>The image file was changed during the search, so what was found may be damaged. Search again when nothing writes to it any more.</source>
+        <translation>Het imagebestand is tijdens het zoeken gewijzigd; wat gevonden is, kan daardoor beschadigd zijn. Zoek opnieuw wanneer niets er meer in schrijft.</translation>
+    </message>
+    <message>
         <source>Please unpack it first and open the image file that is inside.</source>
         <translation>Pak het eerst uit en open het imagebestand dat erin zit.</translation>
     </message>

@@ -727,6 +727,10 @@ Proszę wybrać co najmniej jeden typ pliku.</translation>
         <translation>Na jego miejscu jest teraz inny nośnik. Proszę wrócić do listy nośników i wybrać ponownie.</translation>
     </message>
     <message>
+        <source>The image file was changed during the search, so what was found may be damaged. Search again when nothing writes to it any more.</source>
+        <translation>Plik obrazu zmienił się w trakcie wyszukiwania, więc to, co znaleziono, może być uszkodzone. Wyszukaj ponownie, gdy nic już do niego nie zapisuje.</translation>
+    </message>
+    <message>
         <source>Please unpack it first and open the image file that is inside.</source>
         <translation>Proszę najpierw go rozpakować i otworzyć plik obrazu, który jest w środku.</translation>
     </message>

@@ -727,6 +727,10 @@ Selecione pelo menos um tipo de arquivo.</translation>
         <translation>Agora há outra mídia em seu lugar. Volte à lista de mídias e escolha novamente.</translation>
     </message>
     <message>
+        <source>The image file was changed during the search, so what was found may be damaged. Search again when nothing writes to it any more.</source>
+        <translation>O arquivo de imagem foi alterado durante a busca; o que foi encontrado pode estar danificado. Busque de novo quando nada mais gravar nele.</translation>
+    </message>
+    <message>
         <source>Please unpack it first and open the image file that is inside.</source>
         <translation>Descompacte-o primeiro e abra o arquivo de imagem que está dentro.</translation>
     </message>

@@ -727,6 +727,10 @@ Please select atleast one extension type.</source>
         <translation>现在该位置上是另一个介质。请返回介质列表重新选择。</translation>
     </message>
     <message>
+        <source>The image file was changed during the search, so what was found may be damaged. Search again when nothing writes to it any more.</source>
+        <translation>映像文件在搜索期间被更改，因此找到的内容可能已损坏。请在不再有程序写入该文件后重新搜索。</translation>
+    </message>
+    <message>
         <source>Please unpack it first and open the image file that is inside.</source>
         <translation>请先将其解压，再打开其中的映像文件。</translation>
     </message>

@@ -50,7 +50,8 @@ class EvidenceHelper : public testing::Test {
 
     std::unique_ptr<BlockSource> open(const QStringList& paths,
                                       const EvidenceHelperOptions& how = options()) {
-        auto segments = openParts(paths);
+        HeldImage image;
+        auto segments = image.open(paths) ? image.openApart() : std::nullopt;
         return segments ? openEvidenceInHelper(std::move(*segments), &why, how) : nullptr;
     }
 

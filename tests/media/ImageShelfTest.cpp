@@ -72,6 +72,23 @@ TEST_F(ImageShelfTest, SameImageTwice_IsOneMedium) {
     EXPECT_EQ(rows().size(), 2);
 }
 
+TEST_F(ImageShelfTest, WhatWasListed_IsReadUntilTheNextListing) {
+    const QString path = write(QStringLiteral("a.img"), QByteArray(512, 'i'));
+    const QString device = QStringLiteral("/dev/r") + source->addImage(path).identifier;
+    const auto opener = makeMediumOpener(*source, {});
+    const auto firstByte = [&] {
+        const auto reader = opener(device);
+        return reader && reader->read() ? static_cast<char>(*reader->current()) : '-';
+    };
+    EXPECT_EQ(firstByte(), 'i');
+    rows();
+    const QString other = write(QStringLiteral("b.img"), QByteArray(512, 'j'));
+    ASSERT_EQ(std::rename(QFile::encodeName(other).constData(), QFile::encodeName(path).constData()), 0);
+    EXPECT_EQ(firstByte(), 'i');
+    rows();
+    EXPECT_EQ(firstByte(), 'j');
+}
+
 TEST_F(ImageShelfTest, AnyPartOfASplitImage_OpensTheWhole) {
     write(QStringLiteral("a.001"), QByteArray(700, 'i'));
     const QString second = write(QStringLiteral("a.002"), QByteArray(700, 'j'));

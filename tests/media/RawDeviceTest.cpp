@@ -77,6 +77,57 @@ TEST_F(RawDeviceTest, WhatIsNoMedium_CannotBeOpened) {
     EXPECT_EQ(openMedium(pipe), nullptr);
 }
 
+TEST_F(RawDeviceTest, AnotherFileUnderTheName_IsNotRead) {
+    const QString path = writeImage(QStringLiteral("card.img"), 0, 3);
+    OpenTerms terms;
+    terms.image = std::make_shared<HeldImage>();
+    ASSERT_TRUE(probeMedium(path, nullptr, {}, terms.image.get()));
+    const auto secondSector = [&] {
+        const auto reader = openMedium(path, terms);
+        return reader && reader->seek(1) && reader->read() ? std::optional(numberAt(*reader)) : std::nullopt;
+    };
+    ASSERT_EQ(secondSector(), 1U);
+    const QString other = writeImage(QStringLiteral("other.img"), 100, 104);
+    ASSERT_EQ(std::rename(QFile::encodeName(other).constData(), QFile::encodeName(path).constData()), 0);
+    EXPECT_FALSE(terms.image->isAsNamed());
+    EXPECT_EQ(secondSector(), 1U);
+    QFile::remove(path);
+    EXPECT_EQ(secondSector(), 1U);
+    ASSERT_TRUE(QDir().mkdir(path));
+    EXPECT_EQ(secondSector(), 1U);
+    EXPECT_FALSE(terms.image->wasWrittenTo());
+    const auto apart = terms.image->openApart();
+    ASSERT_TRUE(apart);
+    std::uint64_t number = 0;
+    ASSERT_EQ(::pread(apart->front().get(), &number, sizeof(number), 2 * kSectorBytes), 8);
+    EXPECT_EQ(number, 2U);
+}
+
+TEST_F(RawDeviceTest, WritingIntoAnImage_IsNoticed) {
+    const QString path = writeImage(QStringLiteral("card.img"), 0, 3);
+    HeldImage image;
+    EXPECT_FALSE(image.wasWrittenTo()) << "nothing is open yet";
+    ASSERT_NE(image.open({path}), nullptr);
+    EXPECT_FALSE(image.wasWrittenTo());
+    EXPECT_TRUE(image.isAsNamed());
+    const struct timespec later[2] = {{0, UTIME_OMIT}, {4102444800, 0}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, QFile::encodeName(path).constData(), later, 0), 0);
+    EXPECT_TRUE(image.wasWrittenTo());
+    EXPECT_FALSE(image.isAsNamed());
+}
+
+// Some of what the kernel tells of itself is waited for by whoever reads a byte of it.
+TEST_F(RawDeviceTest, PlainFilesWithoutASize_AreNotRead) {
+    const QString path = QStringLiteral("/proc/kmsg");
+    struct stat info {};
+    if (::stat("/proc/kmsg", &info) != 0 || !S_ISREG(info.st_mode) || ::access("/proc/kmsg", R_OK) != 0) {
+        GTEST_SKIP() << "nothing here that would be waited for";
+    }
+    EXPECT_FALSE(isEvidenceSegment(path));
+    EXPECT_FALSE(refusePackedImage(path));
+    EXPECT_EQ(probeMedium(path)->sectors, 0U);
+}
+
 TEST_F(RawDeviceTest, Descriptor_IsReadOnlyAndClosedOnExec) {
     const QString path = writeImage(QStringLiteral("card.img"), 0, 3);
     const auto reader = openMedium(path);

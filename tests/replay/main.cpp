@@ -89,7 +89,7 @@ class ReplayOpener {
     }
 
     std::unique_ptr<HookedReader> openAhead() {
-        auto image = ImageFile::open(imageParts(m_image));
+        auto image = ImageFile::open(HeldImage().open(imageParts(m_image)));
         return image ? openReadAhead(std::move(image), faults()) : nullptr;
     }
 

@@ -141,6 +141,22 @@ TEST_F(SearchEndBar, AMediumThatMayNotBeRead_IsToldBesideTheAlert) {
     EXPECT_EQ(controller->searchEndLabel->text(), "The search has completed.");
 }
 
+TEST_F(SearchEndBar, AnImageThatWasWrittenTo_IsTold) {
+    QString asked;
+    parts.wasWrittenTo = [&asked](const QString& device) {
+        asked = device;
+        return true;
+    };
+    openWithCard();
+    toRange(kPhotoMode);
+    runToEnd();
+    EXPECT_EQ(controller->searchEndLabel->text(),
+              "The search has completed. The image file was changed during the search, so what was found may "
+              "be damaged. Search again when nothing writes to it any more.");
+    EXPECT_FALSE(isTick(controller->searchEndIcon));
+    EXPECT_EQ(asked, "/dev/rsdb1");
+}
+
 TEST_F(SearchEndBar, TheBarIsGoneWhileASearchRuns) {
     parts.whyNotOpened = [] { return QString(); };
     openWithCard();
