@@ -10,18 +10,18 @@
 
 #include "decode/MovieTrial.h"
 #include "decode/SoonAfterStop.h"
-#include "media/FileDescriptor.h"
 
 namespace vantor {
 
-bool ContentTrials::mayTry(std::uint64_t bytes, const StopRequest& stop) const {
-    return bytes != 0 && bytes <= m_bounds.bytes && m_bounds.forAll.count() > 0 && !(stop && stop());
+bool ContentTrials::mayTry(std::uint64_t bytes) const {
+    return bytes != 0 && bytes <= m_bounds.bytes && m_bounds.forAll.count() > 0;
 }
 
 bool ContentTrials::decodes(int descriptor, const StopRequest& stop) {
     using Clock = std::chrono::steady_clock;
     struct stat facts {};
-    if (fstat(descriptor, &facts) != 0 || !mayTry(static_cast<std::uint64_t>(facts.st_size), stop)) {
+    if (fstat(descriptor, &facts) != 0 || !mayTry(static_cast<std::uint64_t>(facts.st_size)) ||
+        (stop && stop())) {
         return false;
     }
     const decode::SoonAfterStop stopped(stop, std::chrono::milliseconds(0));
@@ -35,22 +35,19 @@ bool ContentTrials::decodes(int descriptor, const StopRequest& stop) {
     return whole;
 }
 
-bool ContentTrials::decodes(ByteSource& movie, std::uint64_t bytes, const StopRequest& stop) {
-    const FileDescriptor file(mayTry(bytes, stop) ? memfd_create("movie", MFD_CLOEXEC) : -1);
-    if (!file) {
-        return false;
-    }
+FileDescriptor inMemory(ByteSource& source, std::uint64_t bytes, const StopRequest& stop) {
+    FileDescriptor file(memfd_create("movie", MFD_CLOEXEC));
     std::vector<std::uint8_t> chunk(1 << 20);
-    for (std::uint64_t at = 0; at < bytes;) {
+    for (std::uint64_t at = 0; file && at < bytes;) {
         const auto part = std::span(chunk).first(
             static_cast<std::size_t>(std::min<std::uint64_t>(chunk.size(), bytes - at)));
-        if ((stop && stop()) || movie.read(at, part) != part.size() ||
+        if ((stop && stop()) || source.read(at, part) != part.size() ||
             write(file.get(), part.data(), part.size()) != static_cast<ssize_t>(part.size())) {
-            return false;
+            return {};
         }
         at += part.size();
     }
-    return decodes(file.get(), stop);
+    return file;
 }
 
 }  // namespace vantor

@@ -3,10 +3,12 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 
 #include "decode/MovieHelper.h"
 #include "formats/ByteSource.h"
 #include "media/AbandonableSource.h"
+#include "media/FileDescriptor.h"
 
 namespace vantor {
 
@@ -16,6 +18,10 @@ struct TrialBounds {
     std::chrono::milliseconds forOne{20000};
     std::chrono::milliseconds forAll{300000};
 };
+
+// Whether all of the opened file decodes without an error; false where that was not tried to the end. Ends
+// soon after `stop` says so.
+using ContentDecoder = std::function<bool(int descriptor, const StopRequest& stop)>;
 
 // Any one thread.
 class ContentTrials {
@@ -27,17 +33,18 @@ class ContentTrials {
     explicit ContentTrials(TrialBounds bounds = {}, MovieReaderOptions options = {})
         : m_options(std::move(options)), m_bounds(bounds) {}
 
-    // Whether all of the opened file decodes without an error; false where that was not tried to the end.
-    // Ends soon after `stop` says so.
+    // As a ContentDecoder does.
     bool decodes(int descriptor, const StopRequest& stop);
-    // The same of the first `bytes` bytes of the source, which are copied to memory.
-    bool decodes(ByteSource& movie, std::uint64_t bytes, const StopRequest& stop);
+    // Whether there is time for a file of so many bytes.
+    bool mayTry(std::uint64_t bytes) const;
 
   private:
-    bool mayTry(std::uint64_t bytes, const StopRequest& stop) const;
-
     MovieReaderOptions m_options;
     TrialBounds m_bounds;  // what is left of them
 };
+
+// The first `bytes` bytes of the source as a file in memory; not open when not all of them arrived, or once
+// `stop` says so.
+FileDescriptor inMemory(ByteSource& source, std::uint64_t bytes, const StopRequest& stop);
 
 }  // namespace vantor

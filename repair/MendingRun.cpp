@@ -109,7 +109,6 @@ MendingEnd MendingRun::work() {
         return MendingEnd::CannotOpen;
     }
     Medium medium(std::move(opened), *this);
-    m_trials.emplace(ContentTrials::kInPassing, m_order.helper);
     const std::vector<MendableItem> items = examineAll(medium);
     ItemMending mending(
         medium, m_stop, m_progress,
@@ -183,7 +182,7 @@ std::optional<Soundness> MendingRun::look(const MyImageObject& item, SectorReade
     hints.card = m_order.card;
     hints.mend = m_order.mended->provedOf(item);
     auto soundness =
-        examine(item.fileType(), item.carved(), medium, m_watch, kept, kMostExaminedBytes, hints, &*m_trials);
+        examine(item.fileType(), item.carved(), medium, m_watch, kept, kMostExaminedBytes, hints);
     return m_stop == 0 ? std::move(soundness) : std::nullopt;
 }
 

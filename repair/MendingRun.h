@@ -12,7 +12,6 @@
 #include <vector>
 
 #include "decode/CancelSignal.h"
-#include "decode/ContentTrials.h"
 #include "media/WatchedReader.h"
 #include "repair/ItemMending.h"
 #include "results/CardIndex.h"
@@ -82,7 +81,6 @@ class MendingRun {
     std::function<void()> m_over;
     std::unordered_multimap<std::uint64_t, std::size_t> m_sharing;  // places by first sector
     std::unique_ptr<CancelSignal> m_cancel;                         // of the helpers of the run
-    std::optional<ContentTrials> m_trials;                          // of the run
     ReadWatch m_watch;
     std::atomic<int> m_stop{0};
     std::atomic<bool> m_running{false};

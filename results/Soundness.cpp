@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QStringList>
+#include <utility>
 
 #include "decode/ContentTrials.h"
 #include "formats/ExifCamera.h"
@@ -19,15 +20,26 @@ QString words(const Soundness& soundness) {
                                   : soundnessWords(soundness.verdict, soundness.checked);
 }
 
+// An item as somebody who watches reads it.
+struct WatchedItem {
+    WatchedItem(const CarvedRun& carved, SectorReader& medium, ReadWatch& watch, std::uint64_t mostSectors,
+                const ItemHints& hints, std::vector<std::uint8_t>& kept)
+        : reader(medium, watch, mostSectors),
+          source{carved, {}, [this] { return &reader; }, medium.mediumSectors(), false, nullptr, hints},
+          found(source, kept) {}
+
+    WatchedReader reader;
+    const ItemSource source;
+    ItemBytes found;
+};
+
 }  // namespace
 
 std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, SectorReader& medium,
                                  ReadWatch& watch, std::vector<std::uint8_t>& kept, std::uint64_t mostBytes,
-                                 const ItemHints& hints, ContentTrials* trials) {
-    WatchedReader watched(medium, watch, mostBytes / kSectorBytes);
-    const ItemSource source{carved,  {},   [&watched] { return &watched; }, medium.mediumSectors(), false,
-                            nullptr, hints};
-    ItemBytes found(source, kept);
+                                 const ItemHints& hints) {
+    WatchedItem item(carved, medium, watch, mostBytes / kSectorBytes, hints, kept);
+    ItemBytes& found = item.found;
     Soundness soundness;
     soundness.unreadable = carved.readFailed;
     soundness.bytes = found.bytes().carvedBytes();
@@ -37,7 +49,7 @@ std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, S
     if (watch.ended) {
         return std::nullopt;
     }
-    if (watched.wasEnded()) {
+    if (item.reader.wasEnded()) {
         return soundness;
     }
     const Facts& facts = length.extent.facts;
@@ -49,16 +61,7 @@ std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, S
         soundness.verdict = Verdict::Damaged;
     }
     soundness.followed = soundness.verdict == Verdict::Complete && length.extent.checked;
-    soundness.checked = soundness.followed;
-    const bool proved = hints.mend && truth.assembly;
-    if (soundness.checked && length.extent.framesOnly && !proved) {
-        const StopRequest stop = [&watch] { return watch.ended.load(); };
-        soundness.checked = trials != nullptr && trials->decodes(found.bytes(), length.bytes, stop) &&
-                            bytes.sectorsUnreadable(length.bytes) == 0;
-        if (watch.ended) {
-            return std::nullopt;
-        }
-    }
+    soundness.checked = soundness.followed && (!length.extent.framesOnly || (hints.mend && truth.assembly));
     soundness.notOfItsType = !soundness.unreadable && isCertainlyUnsound(type, length.extent);
     soundness.bytes = length.bytes;
     soundness.width = facts.width;
@@ -68,6 +71,17 @@ std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, S
     SpanSource beginning(bytes.keptFrom(0));
     soundness.camera = QString::fromStdString(cameraOf(beginning));
     return soundness;
+}
+
+FileDescriptor contentInMemory(const QString& type, const CarvedRun& carved, SectorReader& medium,
+                               ReadWatch& watch, std::vector<std::uint8_t>& kept, std::uint64_t bytes,
+                               const ItemHints& hints, const StopRequest& stop) {
+    WatchedItem item(carved, medium, watch, kMostExaminedBytes / kSectorBytes, hints, kept);
+    if (item.found.measure(type, true).length.bytes != bytes) {
+        return {};
+    }
+    FileDescriptor content = inMemory(item.found.bytes(), bytes, stop);
+    return item.found.bytes().sectorsUnreadable(bytes) == 0 ? std::move(content) : FileDescriptor();
 }
 
 QString soundnessText(Verdict verdict) {

@@ -9,13 +9,13 @@
 
 #include "filesystem/CardFile.h"
 #include "formats/Extent.h"
+#include "media/AbandonableSource.h"
+#include "media/FileDescriptor.h"
 #include "media/WatchedReader.h"
 #include "results/CarvedRun.h"
 #include "results/MediumBytes.h"
 
 namespace vantor {
-
-class ContentTrials;
 
 struct Soundness {
     Verdict verdict = Verdict::Unknown;
@@ -35,12 +35,16 @@ struct Soundness {
 
 // Follows the item's own structure on the medium as saving does, without saving. A file that takes more than
 // `mostBytes` of reading is of unknown soundness. Nothing when the watch was ended meanwhile. `kept`
-// is memory that serves many items; without `trials` no movie counts as checked, but what was put together.
+// is memory that serves many items. No movie counts as checked yet, but what was put together.
 inline constexpr std::uint64_t kMostExaminedBytes = std::uint64_t{256} << 20;
 std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, SectorReader& medium,
                                  ReadWatch& watch, std::vector<std::uint8_t>& kept,
-                                 std::uint64_t mostBytes = kMostExaminedBytes, const ItemHints& hints = {},
-                                 ContentTrials* trials = nullptr);
+                                 std::uint64_t mostBytes = kMostExaminedBytes, const ItemHints& hints = {});
+// The bytes of an item that is so long, as a file in memory, to be decoded; not open when not all of them can
+// be read, or once `stop` says so.
+FileDescriptor contentInMemory(const QString& type, const CarvedRun& carved, SectorReader& medium,
+                               ReadWatch& watch, std::vector<std::uint8_t>& kept, std::uint64_t bytes,
+                               const ItemHints& hints, const StopRequest& stop);
 
 // "complete", "cut off", "damaged" or "unknown", for machines.
 QString soundnessText(Verdict verdict);

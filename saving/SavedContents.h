@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <functional>
 #include <map>
 
 #include "decode/ContentTrials.h"
@@ -13,11 +12,8 @@ namespace vantor {
 // Remembers from choice to choice what was decoded. Any one thread.
 class SavedContents {
   public:
-    // Whether all of the opened file decodes; soon after `stop` says so false.
-    using Decodes = std::function<bool(int descriptor, const StopRequest& stop)>;
-
     // Without a decoder of its own, by the movie helper as far as time allows.
-    explicit SavedContents(Decodes decodes = {}) : m_decodes(std::move(decodes)) {}
+    explicit SavedContents(ContentDecoder decodes = {}) : m_decodes(std::move(decodes)) {}
 
     // Whether no more than the frames' heads and lengths of the saved file were followed.
     static bool isDue(const SaveOutcome& outcome);
@@ -29,7 +25,7 @@ class SavedContents {
     void look(SaveOutcome& outcome, const StopRequest& stop);
 
   private:
-    Decodes m_decodes;
+    ContentDecoder m_decodes;
     ContentTrials m_trials;
     std::map<QByteArray, bool> m_known;  // by checksum
 };

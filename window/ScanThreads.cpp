@@ -67,7 +67,8 @@ void MyTableController::startScan(void (ScanSession::*driver)()) {
 void MyTableController::beginLooks() {
     m_looks->begin(m_parts.openBeside
                        ? [open = m_parts.openBeside, device = devicePath()] { return open(device); }
-                       : SoundnessBoard::Open());
+                       : SoundnessBoard::Open(),
+                   [this] { return !refusals().isEmpty(); });
     m_pictures->begin();
 }
 

@@ -5,8 +5,6 @@
 
 #include "decode/ContentTrials.h"
 #include "formats/Registry.h"
-#include "results/Soundness.h"
-#include "tests/repair/MemoryReader.h"
 #include "tests/repair/Movies.h"
 #include "tests/repair/RealMovie.h"
 
@@ -36,17 +34,8 @@ class Contents : public testing::Test {
 
     bool decodes(const QByteArray& bytes, TrialBounds bounds = kPatient, const StopRequest& stop = {}) const {
         SpanSource source(asSpan(bytes));
-        return ContentTrials(bounds, options).decodes(source, source.size(), stop);
-    }
-
-    std::optional<Soundness> look(const QByteArray& bytes, ContentTrials* trials) const {
-        QByteArray card = bytes;
-        card.resize((bytes.size() + 511) / 512 * 512);
-        test::MemoryReader medium(card);
-        ReadWatch watch;
-        std::vector<std::uint8_t> kept;
-        const CarvedRun carved{{{0, medium.mediumSectors()}}, false};
-        return examine(QStringLiteral("MOV"), carved, medium, watch, kept, kMostExaminedBytes, {}, trials);
+        const FileDescriptor file = inMemory(source, source.size(), {});
+        return ContentTrials(bounds, options).decodes(file.get(), stop);
     }
 
     static constexpr TrialBounds kPatient{std::uint64_t{128} << 20, std::chrono::minutes(5),
@@ -83,20 +72,11 @@ TEST_F(Contents, BeyondTheBounds_NothingIsTried) {
     EXPECT_FALSE(decodes(h264, kPatient, [] { return true; }));
 }
 
-TEST_F(Contents, OfAnItem_AreCheckedByDecoding) {
-    ContentTrials trials(kPatient, options);
-    const auto whole = look(h264, &trials);
-    ASSERT_TRUE(whole);
-    EXPECT_TRUE(whole->followed);
-    EXPECT_TRUE(whole->checked);
-    const auto spoilt = look(test::withForeignCluster(h264), &trials);
-    ASSERT_TRUE(spoilt);
-    EXPECT_EQ(spoilt->verdict, Verdict::Complete);
-    EXPECT_TRUE(spoilt->followed);
-    EXPECT_FALSE(spoilt->checked);
-    const auto untried = look(h264, nullptr);
-    ASSERT_TRUE(untried);
-    EXPECT_FALSE(untried->checked);
+TEST_F(Contents, OfASourceThatEndsEarly_AreNotInMemory) {
+    SpanSource source(asSpan(h264));
+    EXPECT_TRUE(inMemory(source, source.size(), {}));
+    EXPECT_FALSE(inMemory(source, source.size() + 1, {}));
+    EXPECT_FALSE(inMemory(source, source.size(), [] { return true; }));
 }
 
 }  // namespace

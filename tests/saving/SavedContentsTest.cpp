@@ -49,7 +49,7 @@ class SavedContentsTest : public testing::Test {
         made.report = ReportHead{};
         return made;
     }
-    void decodeBy(SavedContents::Decodes decodes) const {
+    void decodeBy(ContentDecoder decodes) const {
         *saver->contents() = SavedContents(std::move(decodes));
     }
 

@@ -96,7 +96,7 @@ void BrowserLooks::fillBoxes() {
 }
 
 // Nothing of the last list is known any more.
-void BrowserLooks::begin(SoundnessBoard::Open open) {
+void BrowserLooks::begin(SoundnessBoard::Open open, SoundnessBoard::Failing failing) {
     m_wish = {};
     for (const BrowserScreen& screen : m_screens) {
         for (QComboBox* box : {screen.show, screen.sort}) {
@@ -111,7 +111,7 @@ void BrowserLooks::begin(SoundnessBoard::Open open) {
     m_facets.clear();
     m_named.clear();
     m_nextFacet = 0;
-    m_board.begin(std::move(open));
+    m_board.begin(std::move(open), std::move(failing));
     m_look.start();
 }
 

@@ -53,7 +53,7 @@ class BrowserLooks : public QObject {
     BrowserLooks(const std::array<BrowserScreen, 2>& screens, LookedAtItems items);
 
     // The list begins anew, on the medium that `open` opens; without it nothing is examined.
-    void begin(SoundnessBoard::Open open);
+    void begin(SoundnessBoard::Open open, SoundnessBoard::Failing failing);
     // The items are gone.
     void end();
     // Nothing is looked at any more; the board ends when its medium answers.
