@@ -156,6 +156,7 @@ bool ItemSaver::decideLength(const FoundItem& item, ItemBytes& found, SaveOutcom
     }
     outcome.original = truth.file;
     outcome.width = facts.width;
+    outcome.playMs = facts.playMs;
     outcome.height = facts.height;
     bytes.expect(length.bytes);
     if (outcome.later) {
@@ -222,7 +223,8 @@ std::optional<Soundness> soundnessOf(const SaveOutcome& outcome) {
                      outcome.original,
                      outcome.pieces,
                      {},
-                     outcome.checked};
+                     outcome.checked,
+                     outcome.playMs};
 }
 
 }  // namespace vantor

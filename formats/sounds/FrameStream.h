@@ -46,8 +46,11 @@ Extent walkFrames(ByteView& view, std::uint64_t at, std::uint64_t proof, FrameBy
         }
         if (bytes == 0)
             break;
-        if (bytes > view.size() - at)
+        if (bytes > view.size() - at) {
+            if (row != nullptr)
+                *row = followed;
             return frames >= proof ? inexact(cutOffAt(view, view.size())) : none;
+        }
         meetHead(at);
         followed.last = at;
         at += bytes;

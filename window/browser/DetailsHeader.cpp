@@ -69,8 +69,11 @@ QString detailsText(DetailsColumn column, const MyImageObject& item, const ItemF
         case DetailsColumn::Camera:
             return facts.soundness ? facts.soundness->camera : QString();
         case DetailsColumn::Extent:
-            return picture != nullptr && picture->durationMs > 0 ? timeText(picture->durationMs)
-                                                                 : pixelWords(facts);
+            if (const QString length = lengthWords(facts, picture != nullptr ? picture->durationMs : 0);
+                !length.isEmpty()) {
+                return length;
+            }
+            return pixelWords(facts);
         case DetailsColumn::State:
             return facts.saved ? DetailsHeader::tr("%1, saved").arg(stateWords(facts)) : stateWords(facts);
         case DetailsColumn::Place:
@@ -100,7 +103,12 @@ DetailsHeader::DetailsHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, pare
     setSortIndicatorShown(false);
     setOriginalsShown(false);
     connect(this, &QHeaderView::sectionClicked, this,
-            [this](int column) { emit sortWanted(sortOf(static_cast<DetailsColumn>(column))); });
+            [this](int column) { emit sortWanted(sortOfColumn(column)); });
+}
+
+SortItems DetailsHeader::sortOfColumn(int column) const {
+    const auto shown = static_cast<DetailsColumn>(column);
+    return shown == DetailsColumn::Extent ? m_extentSort : sortOf(shown);
 }
 
 // The state has the mark of a sorting as well, which every list begins without; and no column is lost.
@@ -126,7 +134,7 @@ void DetailsHeader::setOriginalsShown(bool shown) {
 void DetailsHeader::showSorted(SortItems sort, bool reversed) {
     setSortIndicatorShown(false);
     for (int at = 0; at < kDetailsColumns; ++at) {
-        if (sortOf(static_cast<DetailsColumn>(at)) == sort) {
+        if (sortOfColumn(at) == sort) {
             setSortIndicator(at, reversed ? Qt::DescendingOrder : Qt::AscendingOrder);
             setSortIndicatorShown(true);
         }
