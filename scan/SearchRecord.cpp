@@ -17,7 +17,13 @@ const QByteArray kMagic = QByteArrayLiteral("Vantor Recovery search 1\n");
 constexpr qsizetype kSumBytes = 32;
 constexpr auto kSum = QCryptographicHash::Sha256;
 // A terabyte's worth is some 50 MB.
-constexpr qint64 kMostFileBytes = qint64{512} << 20;
+constexpr qint64 kMostFileBytes = qint64{256} << 20;
+// More than any search has; what says more would take many times its own size in memory.
+constexpr std::uint64_t kMostTypes = 4096;
+constexpr std::uint64_t kMostSamples = 1024;
+constexpr std::uint64_t kMostRuns = std::uint64_t{4} << 20;
+constexpr std::uint64_t kMostPlaces = std::uint64_t{16} << 20;
+constexpr std::uint64_t kMostBitBytes = std::uint64_t{128} << 20;  // in memory
 
 class Writer {
   public:
@@ -85,10 +91,11 @@ class Reader {
         return fail();
     }
     // Of things that take at least a byte each.
-    std::uint64_t count() {
+    std::uint64_t count(std::uint64_t most = ~std::uint64_t{0}) {
         const std::uint64_t n = number();
-        return n <= static_cast<std::uint64_t>(m_rest.size()) ? n : fail();
+        return n <= std::min<std::uint64_t>(m_rest.size(), most) ? n : fail();
     }
+    void refuse() { fail(); }
     QByteArray bytes() {
         const auto size = static_cast<qsizetype>(count());
         const QByteArray value = m_rest.first(size).toByteArray();
@@ -99,7 +106,7 @@ class Reader {
     std::vector<SectorRun> runs() {
         std::vector<SectorRun> runs;
         std::uint64_t at = 0;
-        for (std::uint64_t n = count(); n > 0 && !m_failed; --n) {
+        for (std::uint64_t n = count(kMostRuns); n > 0 && !m_failed; --n) {
             const std::uint64_t first = sum(at, number());
             at = sum(first, number());
             if (at <= first) {
@@ -113,7 +120,9 @@ class Reader {
     std::vector<std::uint64_t> places() {
         std::vector<std::uint64_t> places;
         std::uint64_t at = 0;
-        for (std::uint64_t n = count(); n > 0 && !m_failed; --n) {
+        std::uint64_t n = count(kMostPlaces);
+        places.reserve(n);
+        for (; n > 0 && !m_failed; --n) {
             const std::uint64_t place = sum(at, number());
             at = sum(place, 1);
             places.push_back(place);
@@ -144,6 +153,7 @@ void writeBits(Writer& writer, const SectorBits& bits) {
 }
 
 SectorBits readBits(Reader& reader) {
+    constexpr std::uint64_t kPlacesPerLook = 65536;
     SectorBits bits;
     std::uint64_t at = 0;
     for (std::uint64_t n = reader.count(); n > 0 && !reader.failed(); --n) {
@@ -151,6 +161,9 @@ SectorBits readBits(Reader& reader) {
         at = reader.sum(sector, 1);
         if (!reader.failed()) {
             bits.append(sector);
+        }
+        if (n % kPlacesPerLook == 0 && bits.bytes() > kMostBitBytes) {
+            reader.refuse();
         }
     }
     return bits;
@@ -237,7 +250,7 @@ std::optional<SearchRecord> uncheckedRecordOf(QByteArrayView body) {
     SearchRecord record;
     const std::uint64_t mode = reader.number();
     record.wishes.mode = static_cast<int>(std::min<std::uint64_t>(mode, 3));
-    for (std::uint64_t n = reader.count(); n > 0 && !reader.failed(); --n) {
+    for (std::uint64_t n = reader.count(kMostTypes); n > 0 && !reader.failed(); --n) {
         record.wishes.types.append(reader.text());
     }
     record.wishes.thorough = reader.number() != 0;
@@ -247,7 +260,7 @@ std::optional<SearchRecord> uncheckedRecordOf(QByteArrayView body) {
     record.wishes.catalogueSum = reader.bytes();
     record.medium = reader.text();
     record.sectors = reader.number();
-    for (std::uint64_t n = reader.count(); n > 0 && !reader.failed(); --n) {
+    for (std::uint64_t n = reader.count(kMostSamples); n > 0 && !reader.failed(); --n) {
         const std::uint64_t sector = reader.number();
         record.samples.push_back({sector, reader.bytes()});
     }

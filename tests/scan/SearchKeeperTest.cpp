@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <fstream>
+#include <numeric>
 #include <string>
 
 #include "scan/SearchKeeper.h"
@@ -96,6 +97,33 @@ TEST(SearchRecord, SpoiltOrShortenedBytes_AreRefusedWithASentence) {
         EXPECT_FALSE(why.isEmpty()) << at;
     }
     EXPECT_FALSE(recordOf(whole + 'x'));
+}
+
+// What takes a byte or two in the file and many times as much in memory.
+TEST(SearchRecord, WhatNoSearchHasSoManyOf_IsRefusedUnderItsRightChecksum) {
+    const auto isRefused = [](const SearchRecord& record) { return !recordOf(recordBytes(record)); };
+    SearchRecord record;
+    record.wishes.types = QStringList(5000, QString());
+    EXPECT_TRUE(isRefused(record));
+    record = {};
+    record.samples.resize(2000);
+    EXPECT_TRUE(isRefused(record));
+    record = {};
+    for (std::uint64_t sector = 0; sector < 9'000'000; sector += 2) {
+        record.read.push_back({sector, sector + 1});
+    }
+    EXPECT_TRUE(isRefused(record));
+    record = {};
+    for (std::uint64_t page = 0; page < 2'500'000; ++page) {
+        record.worthALook.append(page << 16);
+    }
+    EXPECT_TRUE(isRefused(record));
+    record = {};
+    record.notes.ticked.resize(17'000'000);
+    std::iota(record.notes.ticked.begin(), record.notes.ticked.end(), 0U);
+    EXPECT_TRUE(isRefused(record));
+    record.notes.ticked.resize(16'000'000);
+    EXPECT_FALSE(isRefused(record));
 }
 
 // Past the checksum: numbers that are not to be believed.
