@@ -17,13 +17,16 @@ bool isBlank(const std::array<std::uint8_t, 512>& sector) {
 
 }  // namespace
 
+// In steps that come by every place, far apart: files lie at the beginning of most cards.
+std::uint64_t lookForErasure(std::uint64_t number, std::uint64_t sectors) {
+    const std::uint64_t place = number * 97 % kLooksForErasure;
+    return sectors / kLooksForErasure * place + sectors / (2 * kLooksForErasure);
+}
+
 std::vector<std::uint64_t> writtenPlaces(SectorSource& card) {
     std::vector<std::uint64_t> written;
     for (std::uint64_t i = 0; i < kLooksForErasure && written.size() <= kMostWritten; ++i) {
-        // In steps that come by every place, far apart: files lie at the beginning of most cards.
-        const std::uint64_t place = i * 97 % kLooksForErasure;
-        const std::uint64_t sector =
-            card.sectors() / kLooksForErasure * place + card.sectors() / (2 * kLooksForErasure);
+        const std::uint64_t sector = lookForErasure(i, card.sectors());
         std::array<std::uint8_t, 512> bytes;
         if (sector < card.sectors() && (!card.readAt(sector, bytes) || !isBlank(bytes))) {
             written.push_back(sector);

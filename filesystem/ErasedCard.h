@@ -16,6 +16,10 @@ inline constexpr std::uint64_t kSmallestErased = 16 * kLooksForErasure;
 // Bytes of a file that people put there; cameras and desktops leave smaller ones on a card by themselves.
 inline constexpr std::uint64_t kSmallestUsed = 10'000;
 
+// Which sector is looked at as the one of this number on a card of so many; each number below
+// kLooksForErasure has another.
+std::uint64_t lookForErasure(std::uint64_t number, std::uint64_t sectors);
+
 // The places among them that hold anything but one byte, 00 or FF, over and over, or that cannot be read.
 // Ends early where there are so many that the card is not erased.
 std::vector<std::uint64_t> writtenPlaces(SectorSource& card);
