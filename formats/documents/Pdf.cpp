@@ -224,7 +224,8 @@ Extent PdfWalk::walk() {
             const Mark mark = judge(at);
             if (mark == Mark::Last) {
                 const Extent whole = completeAt(m_view, m_lastMark);
-                return isSureEnd(at) && isRowOfPdfObjects(m_view, at) ? withContent(whole) : whole;
+                return isSureEnd(at) && isRowOfPdfObjects(m_view, at, PdfTables::Hold) ? withContent(whole)
+                                                                                       : whole;
             }
             m_lastMarkInner = mark == Mark::Inner;
         } else if (isForeignStart(at)) {
@@ -234,9 +235,11 @@ Extent PdfWalk::walk() {
         ++at;
     }
     // A table of places that is wrong, as hand-written files and changed line ends have it, and nothing of a
-    // PDF behind the end mark.
-    const bool foreignBehind = m_view.size() > m_lastMark + kUpdateLead && m_lastMark >= m_lastSign;
-    if (m_lastMark != 0 && m_linearized == 0 && !m_lastMarkInner && foreignBehind)
+    // PDF behind the end mark. Where each object and stream ends where it says, nothing else is missing.
+    const bool ended = m_lastMark != 0 && m_lastMark >= m_lastSign && m_linearized == 0 && !m_lastMarkInner;
+    if (ended && isRowOfPdfObjects(m_view, m_lastMark, PdfTables::MayBeWrong))
+        return completeAt(m_view, m_lastMark);
+    if (ended && m_view.size() > m_lastMark + kUpdateLead)
         return spoiltUpTo(m_view, m_lastMark);
     const auto kept = std::max(m_lastMark, std::min(m_lastSign, m_view.size()));
     return at >= m_view.size() ? cutOffAt(m_view, m_lastMark != 0 ? kept : m_view.size())

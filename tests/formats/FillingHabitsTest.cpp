@@ -206,9 +206,9 @@ TEST(TextHabits, RemarksBehindAPixmap_BelongToTheFile) {
         for (const Bytes& tail : {Bytes(), Bytes(3000, 0), Build().text("/* no end\1*/").bytes()})
             expectEnd("XPM", Build().add(file).add(tail), file.size());
     }
-    // One that begins or ends in the next sector is another's.
-    const Bytes next = Build().text(pixmap).fill(512 - pixmap.size() - 1, '\n').text("/");
-    expectEnd("XPM", Build().add(next).text("* a */"), pixmap.size() + 2);
+    // One that begins in the next sector is another's.
+    const Bytes next = Build().text(pixmap).fill(512 - pixmap.size(), '\n');
+    expectEnd("XPM", Build().add(next).text("/* a */"), pixmap.size() + 2);
 }
 
 TEST(TextHabits, SchematicsEndAtTheirLastLine) {
@@ -242,7 +242,8 @@ TEST(PropertyListHabits, BinaryOnesEndBehindTheirTrailer) {
 }
 
 TEST(PdfHabits, WrongTableOfPlaces_EndsAtTheLastMark) {
-    const Bytes file = Build().text("%PDF-1.4\n1 0 obj\n<<>>\nendobj\ntrailer\n<<>>\nstartxref\n5\n%%EOF\n");
+    const Bytes file =
+        Build().text("%PDF-1.4\n1 0 obj\n<<>>\n\1endobj\ntrailer\n<<>>\nstartxref\n5\n%%EOF\n");
     for (const Bytes& tail : {Bytes(3000, 0), noise(3000, 3)}) {
         const Extent extent = walkBytes("PDF", Build().add(file).add(tail));
         EXPECT_EQ(extent.verdict, Verdict::Damaged);
@@ -251,6 +252,30 @@ TEST(PdfHabits, WrongTableOfPlaces_EndsAtTheLastMark) {
     }
     // What goes on behind it shows that the file did not end there.
     EXPECT_FALSE(walkBytes("PDF", Build().add(file).fill(900, 1).text("\nendobj\n").fill(900, 1)).endFound);
+}
+
+TEST(PdfHabits, WrongTableOfPlaces_BehindARowOfObjectsIsNoBreak) {
+    const auto file = [](int length) {
+        return Build().text(
+            "%PDF-1.4\n1 0 obj\n<</Length " + std::to_string(length) +
+            ">>\nstream\n(hello) Tj\nendstream\nendobj\ntrailer\n<<>>\nstartxref\n5\n%%EOF\n");
+    };
+    for (const Bytes& tail : {Bytes(), Bytes(3000, 0), noise(3000, 3)}) {
+        const Bytes whole = file(10);
+        const Extent extent = walkBytes("PDF", Build().add(whole).add(tail));
+        EXPECT_EQ(extent.verdict, Verdict::Complete);
+        EXPECT_FALSE(extent.checked);
+        EXPECT_EQ(extent.end, whole.size());
+        // A stream that is shorter than it says has lost a piece.
+        EXPECT_NE(walkBytes("PDF", Build().add(file(700)).add(tail)).verdict, Verdict::Complete);
+    }
+}
+
+TEST(PdfHabits, CarriageReturnOfAnother_IsNoLineEndOfThisFile) {
+    const Bytes file = Build().text("%PDF-1.4\n1 0 obj\nendobj\nxref\n0 1\nstartxref\n24\n%%EOF");
+    expectEnd("PDF", Build().add(file).text("\r").add(noise(3000, 3)), file.size());
+    const Bytes old = Build().text("%PDF-1.4\r1 0 obj\rendobj\rxref\r0 1\rstartxref\r24\r%%EOF\r");
+    expectEnd("PDF", Build().add(old).add(noise(3000, 3)), old.size());
 }
 
 TEST(FrameHabits, TagsOfJoinedSounds_AreNoEnd) {
