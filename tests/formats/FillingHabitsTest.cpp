@@ -278,6 +278,30 @@ TEST(PdfHabits, CarriageReturnOfAnother_IsNoLineEndOfThisFile) {
     expectEnd("PDF", Build().add(old).add(noise(3000, 3)), old.size());
 }
 
+TEST(PdfHabits, LineEndsOrAMarkInFrontOfTheHead_BelongToTheFile) {
+    for (const std::string lead : {"\n", "\r\n", "\xEF\xBB\xBF", " "}) {
+        for (const std::size_t place : {std::size_t{9}, lead.size() + 9}) {
+            const Bytes file = Build().text(lead + "%PDF-1.4\n1 0 obj\nendobj\ntrailer\nstartxref\n" +
+                                            std::to_string(place) + "\n%%EOF\n");
+            expectEnd("PDF", Build().add(file).add(noise(3000, 3)), file.size());
+        }
+    }
+}
+
+TEST(GifHabits, ZerosBehindALoadingSign_BelongToTheFile) {
+    const auto sign = [](std::string_view remark) {
+        Build out;
+        out.text("GIF89a").le16(2).le16(2).u8(0x80).u8(0).u8(0).fill(6, 9);
+        out.u8(0x21).u8(0xFE).u8(static_cast<std::uint8_t>(remark.size())).text(remark).u8(0);
+        return out.u8(0x2C).fill(4).le16(2).le16(2).u8(0).u8(2).u8(2).fill(2, 0x44).u8(0).u8(0x3B).bytes();
+    };
+    const Bytes file = sign("Created with ajaxload.info");
+    expectEnd("GIF", Build().add(file).fill(9).add(noise(900, 3)), file.size() + 9);
+    expectEnd("GIF", Build().add(file).fill(5).add(noise(900, 3)), file.size());
+    const Bytes other = sign("Created by hand");
+    expectEnd("GIF", Build().add(other).fill(900), other.size());
+}
+
 TEST(FrameHabits, TagsOfJoinedSounds_AreNoEnd) {
     const auto frames = [](int count) {
         Build out;
