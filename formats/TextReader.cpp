@@ -6,12 +6,25 @@
 
 namespace vantor {
 
+namespace {
+
+// Whether the line before `at` ends with the carriage return alone, as old systems wrote it; a text of one
+// line may.
+bool endsLinesWithReturns(ByteView& view, std::uint64_t at) {
+    constexpr std::uint64_t kLongLine = 1024;
+    const auto least = at - std::min(at, kLongLine);
+    while (at > least && view.u8(at - 1) != '\r' && view.u8(at - 1) != '\n')
+        --at;
+    return at == least || view.u8(at - 1) == '\r';
+}
+
+}  // namespace
+
 std::uint64_t behindLineEnd(ByteView& view, std::uint64_t at) {
-    if (view.u8(at) == '\r')
-        ++at;
-    if (view.u8(at) == '\n')
-        ++at;
-    return at;
+    const bool returns = view.u8(at) == '\r';
+    if (view.u8(returns ? at + 1 : at) == '\n')
+        return returns ? at + 2 : at + 1;
+    return returns && endsLinesWithReturns(view, at) ? at + 1 : at;
 }
 
 std::uint64_t behindEmptyLine(ByteView& view, std::uint64_t at) {
@@ -30,22 +43,33 @@ std::uint64_t behindBlanks(ByteView& view, std::uint64_t at) {
                std::all_of(bytes.begin(), bytes.begin() + kZeros, [](int byte) { return byte == 0; });
     };
     at = behindLineEnd(view, at);
+    const auto least = at;
     while (isTextSpace(view.u8(at).value_or(0)) && (!isSectorStart(at) || isEmpty(at + 1)))
         ++at;
+    // Of blanks that run into foreign bytes those behind the last line end are foreign too, more likely.
+    if (!isSectorStart(at) && view.u8(at).value_or(0) != 0) {
+        while (at > least && view.u8(at - 1) != '\n')
+            --at;
+    }
     return at;
 }
 
 std::uint64_t behindRemarks(ByteView& view, std::uint64_t at, std::string_view open, std::string_view close) {
-    for (std::uint64_t end = at; !isSectorStart(end) && view.matches(end, open);) {
+    constexpr std::uint64_t kMostRemark = 4096;
+    for (std::uint64_t end = at;;) {
+        const auto limit = addClamped(end, kMostRemark);
+        while (end < limit && isTextSpace(view.u8(end).value_or(0)))
+            ++end;
+        if (isSectorStart(end) || !view.matches(end, open))
+            return at;
         for (end += open.size(); !view.matches(end, close); ++end) {
             const auto byte = view.u8(end);
-            if (!byte || isForeign(*byte) || isSectorStart(end))
+            if (!byte || isForeign(*byte) || end > limit)
                 return at;
         }
         end += close.size();
-        at = end = behindBlanks(view, end);
+        at = behindBlanks(view, end);
     }
-    return at;
 }
 
 std::uint64_t behindByteOrderMark(ByteView& view) {

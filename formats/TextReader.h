@@ -45,15 +45,16 @@ inline bool isTextSpace(int byte) {
     return byte == ' ' || byte == '\t' || byte == '\n' || byte == '\r';
 }
 
-// Position behind one line end of any kind at `at`, else `at`.
+// Position behind one line end of any kind at `at`, else `at`. A carriage return alone is one where the line
+// before ends with one.
 std::uint64_t behindLineEnd(ByteView& view, std::uint64_t at);
 // The same behind an empty line that some writers leave after their last one.
 std::uint64_t behindEmptyLine(ByteView& view, std::uint64_t at);
 // The same behind all blanks and line ends, which editors leave behind the last mark; in the next sector
 // only one before zeros.
 std::uint64_t behindBlanks(ByteView& view, std::uint64_t at);
-// Behind the remarks at `at` between `open` and `close`, each with the blanks that follow, so far as they end
-// in text before the next sector; else `at`.
+// Behind the remarks at `at` between `open` and `close`, each with the blanks that follow, so far as each
+// begins before the next sector and is text to its end; else `at`.
 std::uint64_t behindRemarks(ByteView& view, std::uint64_t at, std::string_view open, std::string_view close);
 // Position behind a UTF-8 byte order mark at the beginning.
 std::uint64_t behindByteOrderMark(ByteView& view);

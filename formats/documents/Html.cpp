@@ -12,6 +12,8 @@ namespace vantor {
 
 namespace {
 
+constexpr std::string_view kHtmlClose = "</html";
+
 // Behind the remarks at `at`, as licences are put in front.
 std::uint64_t behindRemarks(ByteView& view, std::uint64_t at) {
     constexpr std::uint64_t kMost = 64 * 1024;
@@ -29,10 +31,20 @@ std::uint64_t behindRemarks(ByteView& view, std::uint64_t at) {
     return at;
 }
 
+// Whether the closing tag that ends at `at` stands in a script's text: letters follow it on its line, and
+// before `end`, where the text does, another closing tag.
+bool isQuoted(ByteView& view, std::uint64_t at, std::uint64_t end) {
+    if (isSectorStart(at) || view.u8(at) == '<' || at >= end)
+        return false;
+    auto tag = view.find('<', at, end);
+    while (tag.found() && !matchesAnyCase(view, tag.at, kHtmlClose))
+        tag = view.find('<', tag.at + 1, end);
+    return tag.found();
+}
+
 }  // namespace
 
 Extent walkHtml(ByteView& view) {
-    constexpr std::string_view kClose = "</html";
     constexpr std::string_view kLittle("\xFF\xFE<\0", 4), kBig("\xFE\xFF\0<", 4);
     if (view.matches(0, kLittle) || view.matches(0, kBig))
         return walkText(view);
@@ -50,13 +62,17 @@ Extent walkHtml(ByteView& view) {
     }
     const auto end = textEnd(view, at);
     for (auto tag = view.find('<', at, end); tag.found(); tag = view.find('<', tag.at + 1, end)) {
-        if (!matchesAnyCase(view, tag.at, kClose))
+        if (!matchesAnyCase(view, tag.at, kHtmlClose))
             continue;
-        auto close = tag.at + kClose.size();
+        auto close = tag.at + kHtmlClose.size();
         while (close < end && isTextSpace(view.u8(close).value_or(0)))
             ++close;
-        if (view.u8(close) == '>')
-            return completeAt(view, behindRemarks(view, behindBlanks(view, close + 1), "<!--", "-->"));
+        if (view.u8(close) != '>')
+            continue;
+        const Extent whole =
+            completeAt(view, behindRemarks(view, behindBlanks(view, close + 1), "<!--", "-->"));
+        if (whole.end != close + 1 || !isQuoted(view, whole.end, end))
+            return whole;
     }
     return inexact(end == view.size() ? cutOffAt(view, end) : completeAt(view, readableEnd(view, at)));
 }

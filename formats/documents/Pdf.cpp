@@ -10,9 +10,10 @@ namespace vantor {
 
 namespace {
 
-constexpr std::size_t kLookBack = 64;     // from the end mark to "startxref"
-constexpr std::size_t kUpdateLead = 256;  // comments and the first words of an update
-constexpr std::size_t kHeadBytes = 1024;  // where the linearization dictionary stands
+constexpr std::size_t kLookBack = 64;       // from the end mark to "startxref"
+constexpr std::size_t kUpdateLead = 256;    // comments and the first words of an update
+constexpr std::uint64_t kPdfMostLead = 16;  // line ends or a byte order mark in front
+constexpr std::size_t kHeadBytes = 1024;    // where the linearization dictionary stands
 // A file goes on as long as ends of objects turn up; this is the largest stream believed to lie between two.
 constexpr std::uint64_t kPdfMostSilence = 64 * 1024 * 1024;
 
@@ -100,6 +101,7 @@ class PdfWalk {
     void noteSigns(std::uint64_t at, std::string_view text);
 
     ByteView& m_view;
+    std::uint64_t m_lead = 0;      // where the head stands
     std::uint64_t m_lastMark = 0;  // behind the last end mark, valid or not
     bool m_lastMarkInner = false;
     std::uint64_t m_lastSign = 0;    // behind the last end of an object or stream
@@ -151,7 +153,9 @@ PdfWalk::Mark PdfWalk::judge(std::uint64_t at) {
         return Mark::Foreign;
     if (*target == 0)
         return Mark::Inner;  // the first section of a linearized file
-    if (!beginsSection(textAt(m_view, *target, kLookBack)))
+    // Places count from the first byte, or from the head where something stands in front of it.
+    if (!beginsSection(textAt(m_view, *target, kLookBack)) &&
+        !beginsSection(textAt(m_view, m_lead + *target, kLookBack)))
         return Mark::Foreign;
     const auto behind = behindMark(at);
     if (m_linearized > behind + kLookBack)
@@ -192,10 +196,12 @@ void PdfWalk::noteSigns(std::uint64_t at, std::string_view text) {
 }
 
 Extent PdfWalk::walk() {
-    if (!m_view.matches(0, "%PDF-"))
+    while (m_lead < kPdfMostLead && !m_view.matches(m_lead, "%PDF-"))
+        ++m_lead;
+    if (!m_view.matches(m_lead, "%PDF-"))
         return unknownExtent();
     m_linearized = linearizedLength();
-    std::uint64_t at = 5;
+    std::uint64_t at = m_lead + 5;
     if (m_linearized > kHeadBytes && m_linearized <= m_view.size()) {
         // Hop to the told end; when no end mark stands there the file was changed and is read through.
         const auto tail = textAt(m_view, m_linearized - 32, 32);
@@ -224,7 +230,8 @@ Extent PdfWalk::walk() {
             const Mark mark = judge(at);
             if (mark == Mark::Last) {
                 const Extent whole = completeAt(m_view, m_lastMark);
-                return isSureEnd(at) && isRowOfPdfObjects(m_view, at) ? withContent(whole) : whole;
+                return isSureEnd(at) && isRowOfPdfObjects(m_view, at, PdfTables::Hold) ? withContent(whole)
+                                                                                       : whole;
             }
             m_lastMarkInner = mark == Mark::Inner;
         } else if (isForeignStart(at)) {
@@ -234,9 +241,11 @@ Extent PdfWalk::walk() {
         ++at;
     }
     // A table of places that is wrong, as hand-written files and changed line ends have it, and nothing of a
-    // PDF behind the end mark.
-    const bool foreignBehind = m_view.size() > m_lastMark + kUpdateLead && m_lastMark >= m_lastSign;
-    if (m_lastMark != 0 && m_linearized == 0 && !m_lastMarkInner && foreignBehind)
+    // PDF behind the end mark. Where each object and stream ends where it says, nothing else is missing.
+    const bool ended = m_lastMark != 0 && m_lastMark >= m_lastSign && m_linearized == 0 && !m_lastMarkInner;
+    if (ended && isRowOfPdfObjects(m_view, m_lastMark, PdfTables::MayBeWrong))
+        return completeAt(m_view, m_lastMark);
+    if (ended && m_view.size() > m_lastMark + kUpdateLead)
         return spoiltUpTo(m_view, m_lastMark);
     const auto kept = std::max(m_lastMark, std::min(m_lastSign, m_view.size()));
     return at >= m_view.size() ? cutOffAt(m_view, m_lastMark != 0 ? kept : m_view.size())

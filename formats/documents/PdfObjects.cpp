@@ -141,7 +141,7 @@ class ObjectsWalk {
   public:
     ObjectsWalk(ByteView& view, std::uint64_t end) : m_view(view), m_end(end), m_in(view, end) {}
 
-    bool walk();
+    bool walk(PdfTables tables);
 
   private:
     // What an object's own dictionary says of its stream.
@@ -269,7 +269,7 @@ bool ObjectsWalk::object() {
     return true;
 }
 
-bool ObjectsWalk::walk() {
+bool ObjectsWalk::walk(PdfTables tables) {
     std::optional<Token> first, second;  // numbers that stood last
     for (;;) {
         Token token = m_in.next();
@@ -297,16 +297,18 @@ bool ObjectsWalk::walk() {
         first.reset();
         second.reset();
     }
-    const bool placesHold = std::all_of(m_places.begin(), m_places.end(), [&](std::uint64_t place) {
-        return place == 0 || std::binary_search(m_objects.begin(), m_objects.end(), place);
-    });
+    const bool placesHold =
+        tables == PdfTables::MayBeWrong ||
+        std::all_of(m_places.begin(), m_places.end(), [&](std::uint64_t place) {
+            return place == 0 || std::binary_search(m_objects.begin(), m_objects.end(), place);
+        });
     return !m_objects.empty() && placesHold && m_blind <= m_end / 4;
 }
 
 }  // namespace
 
-bool isRowOfPdfObjects(ByteView& view, std::uint64_t end) {
-    return ObjectsWalk(view, end).walk();
+bool isRowOfPdfObjects(ByteView& view, std::uint64_t end, PdfTables tables) {
+    return ObjectsWalk(view, end).walk(tables);
 }
 
 }  // namespace vantor

@@ -8,8 +8,9 @@
 namespace vantor {
 
 // Whether [0, end) of the view holds nothing but objects, tables and trailers, whose tables name places where
-// objects begin, and whose streams are mostly of kinds that prove themselves. False says nothing: writers
-// leave all kinds of things between objects, and what is encrypted cannot be judged.
-bool isRowOfPdfObjects(ByteView& view, std::uint64_t end);
+// objects begin unless they may be wrong, and whose streams are mostly of kinds that prove themselves. False
+// says nothing: writers leave all kinds of things between objects, and what is encrypted cannot be judged.
+enum class PdfTables : std::uint8_t { Hold, MayBeWrong };
+bool isRowOfPdfObjects(ByteView& view, std::uint64_t end, PdfTables tables);
 
 }  // namespace vantor

@@ -113,6 +113,13 @@ bool areCodesOf(std::uint64_t pixels, unsigned codeBits, ByteView& view, std::ui
     return codes.make(pixels);
 }
 
+// Behind the zeros that a generator of "loading" signs, which names itself in a remark, leaves behind each;
+// at `at` where there are none.
+std::uint64_t behindSpinnerZeros(ByteView& view, std::uint64_t at) {
+    constexpr std::string_view kZeros("\0\0\0\0\0\0\0\0\0", 9);
+    return view.matches(at, kZeros) ? at + kZeros.size() : at;
+}
+
 Extent walkGif(ByteView& view) {
     if (!view.matches(0, "GIF87a") && !view.matches(0, "GIF89a"))
         return unknownExtent();
@@ -122,6 +129,7 @@ Extent walkGif(ByteView& view) {
     std::uint64_t at = kScreenEnd + colourTableBytes(view.u8(10).value_or(0));
     bool sawPicture = false;
     bool codesSound = true;
+    bool isSpinner = false;
     std::uint64_t padding = 0;
     for (;;) {
         const auto kind = view.u8(at);
@@ -130,12 +138,14 @@ Extent walkGif(ByteView& view) {
         Skipped next;
         if (*kind == 0x3B && sawPicture) {
             // Writers that leave pixels out are forgiven by readers, so this alone spoils nothing.
-            const Extent whole = completeAt(view, at + 1, facts);
+            const auto end = isSpinner ? behindSpinnerZeros(view, at + 1) : at + 1;
+            const Extent whole = completeAt(view, end, facts);
             return codesSound ? withContent(whole) : whole;
         }
         if (*kind == 0x3B)
             return damagedAt(view, at + 1, facts);
         if (*kind == 0x21) {
+            isSpinner = isSpinner || view.matches(at + 3, "Created with ajaxload.info");
             next = skipSubBlocks(view, at + 2);
         } else if (*kind == 0x2C) {
             sawPicture = true;

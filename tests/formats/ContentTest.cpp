@@ -234,5 +234,16 @@ TEST(Texts, BlanksBehindTheRoot_BelongToTheFile) {
         EXPECT_EQ(walkBytes("KML", Build().add(map).add(tail)).end, map.size());
 }
 
+TEST(Texts, BlanksInFrontOfForeignBytes_AreForeignToo) {
+    const Bytes map = Build().text("<?xml version='1.0'?>\n<kml>\n</kml>\n");
+    for (const std::string_view blanks : {" ", "\t", "\r", "\t "}) {
+        const auto end = [&](const Bytes& tail) {
+            return walkBytes("KML", Build().add(map).text(blanks).add(tail)).end;
+        };
+        EXPECT_EQ(end(Build().fill(900, 0xA7)), map.size());
+        EXPECT_EQ(end(Bytes(900, 0)), map.size() + blanks.size());
+    }
+}
+
 }  // namespace
 }  // namespace vantor::test

@@ -206,9 +206,9 @@ TEST(TextHabits, RemarksBehindAPixmap_BelongToTheFile) {
         for (const Bytes& tail : {Bytes(), Bytes(3000, 0), Build().text("/* no end\1*/").bytes()})
             expectEnd("XPM", Build().add(file).add(tail), file.size());
     }
-    // One that begins or ends in the next sector is another's.
-    const Bytes next = Build().text(pixmap).fill(512 - pixmap.size() - 1, '\n').text("/");
-    expectEnd("XPM", Build().add(next).text("* a */"), pixmap.size() + 2);
+    // One that begins in the next sector is another's.
+    const Bytes next = Build().text(pixmap).fill(512 - pixmap.size(), '\n');
+    expectEnd("XPM", Build().add(next).text("/* a */"), pixmap.size() + 2);
 }
 
 TEST(TextHabits, SchematicsEndAtTheirLastLine) {
@@ -242,7 +242,8 @@ TEST(PropertyListHabits, BinaryOnesEndBehindTheirTrailer) {
 }
 
 TEST(PdfHabits, WrongTableOfPlaces_EndsAtTheLastMark) {
-    const Bytes file = Build().text("%PDF-1.4\n1 0 obj\n<<>>\nendobj\ntrailer\n<<>>\nstartxref\n5\n%%EOF\n");
+    const Bytes file =
+        Build().text("%PDF-1.4\n1 0 obj\n<<>>\n\1endobj\ntrailer\n<<>>\nstartxref\n5\n%%EOF\n");
     for (const Bytes& tail : {Bytes(3000, 0), noise(3000, 3)}) {
         const Extent extent = walkBytes("PDF", Build().add(file).add(tail));
         EXPECT_EQ(extent.verdict, Verdict::Damaged);
@@ -251,6 +252,54 @@ TEST(PdfHabits, WrongTableOfPlaces_EndsAtTheLastMark) {
     }
     // What goes on behind it shows that the file did not end there.
     EXPECT_FALSE(walkBytes("PDF", Build().add(file).fill(900, 1).text("\nendobj\n").fill(900, 1)).endFound);
+}
+
+TEST(PdfHabits, WrongTableOfPlaces_BehindARowOfObjectsIsNoBreak) {
+    const auto file = [](int length) {
+        return Build().text(
+            "%PDF-1.4\n1 0 obj\n<</Length " + std::to_string(length) +
+            ">>\nstream\n(hello) Tj\nendstream\nendobj\ntrailer\n<<>>\nstartxref\n5\n%%EOF\n");
+    };
+    for (const Bytes& tail : {Bytes(), Bytes(3000, 0), noise(3000, 3)}) {
+        const Bytes whole = file(10);
+        const Extent extent = walkBytes("PDF", Build().add(whole).add(tail));
+        EXPECT_EQ(extent.verdict, Verdict::Complete);
+        EXPECT_FALSE(extent.checked);
+        EXPECT_EQ(extent.end, whole.size());
+        // A stream that is shorter than it says has lost a piece.
+        EXPECT_NE(walkBytes("PDF", Build().add(file(700)).add(tail)).verdict, Verdict::Complete);
+    }
+}
+
+TEST(PdfHabits, CarriageReturnOfAnother_IsNoLineEndOfThisFile) {
+    const Bytes file = Build().text("%PDF-1.4\n1 0 obj\nendobj\nxref\n0 1\nstartxref\n24\n%%EOF");
+    expectEnd("PDF", Build().add(file).text("\r").add(noise(3000, 3)), file.size());
+    const Bytes old = Build().text("%PDF-1.4\r1 0 obj\rendobj\rxref\r0 1\rstartxref\r24\r%%EOF\r");
+    expectEnd("PDF", Build().add(old).add(noise(3000, 3)), old.size());
+}
+
+TEST(PdfHabits, LineEndsOrAMarkInFrontOfTheHead_BelongToTheFile) {
+    for (const std::string lead : {"\n", "\r\n", "\xEF\xBB\xBF", " "}) {
+        for (const std::size_t place : {std::size_t{9}, lead.size() + 9}) {
+            const Bytes file = Build().text(lead + "%PDF-1.4\n1 0 obj\nendobj\ntrailer\nstartxref\n" +
+                                            std::to_string(place) + "\n%%EOF\n");
+            expectEnd("PDF", Build().add(file).add(noise(3000, 3)), file.size());
+        }
+    }
+}
+
+TEST(GifHabits, ZerosBehindALoadingSign_BelongToTheFile) {
+    const auto sign = [](std::string_view remark) {
+        Build out;
+        out.text("GIF89a").le16(2).le16(2).u8(0x80).u8(0).u8(0).fill(6, 9);
+        out.u8(0x21).u8(0xFE).u8(static_cast<std::uint8_t>(remark.size())).text(remark).u8(0);
+        return out.u8(0x2C).fill(4).le16(2).le16(2).u8(0).u8(2).u8(2).fill(2, 0x44).u8(0).u8(0x3B).bytes();
+    };
+    const Bytes file = sign("Created with ajaxload.info");
+    expectEnd("GIF", Build().add(file).fill(9).add(noise(900, 3)), file.size() + 9);
+    expectEnd("GIF", Build().add(file).fill(5).add(noise(900, 3)), file.size());
+    const Bytes other = sign("Created by hand");
+    expectEnd("GIF", Build().add(other).fill(900), other.size());
 }
 
 TEST(FrameHabits, TagsOfJoinedSounds_AreNoEnd) {

@@ -170,8 +170,20 @@ TEST(HtmlHabits, RemarksBehindTheClosingTag_BelongToTheFile) {
     const Bytes file = Build().text(page + "<!-- cached today -->\n <!-- twice\n -->\n");
     for (const Bytes& tail : {Bytes(), Bytes(3000, 0), Build().text("<!-- no end\1-->").bytes()})
         expectEnd("HTML", Build().add(file).add(tail), file.size());
-    const Bytes open = Build().text(page + "<!-- ").fill(600, 'a').text("-->");
+    const Bytes longer = Build().text(page + "<!-- ").fill(600, 'a').text("-->");
+    expectEnd("HTML", Build().add(longer).add(noise(900, 5)), longer.size());
+    const Bytes open = Build().text(page + "<!-- ").fill(6000, 'a').text("-->");
     expectEnd("HTML", open, page.size());
+}
+
+TEST(HtmlHabits, ClosingTagInAScript_IsNotTheEnd) {
+    const Bytes file = Build().text("<html><script>a('</html>$', b);</script>\n</html>\n");
+    for (const Bytes& tail : {Bytes(), Bytes(3000, 0), Build().text("\1</html>").bytes()})
+        expectEnd("HTML", Build().add(file).add(tail), file.size());
+    const Bytes whole = Build().text("<html>a</html>");
+    expectEnd("HTML", Build().add(whole).text("letters of another\1</html>"), whole.size());
+    const Bytes joined = Build().text("<html>a</html>\n");
+    expectEnd("HTML", Build().add(joined).text("<html>b</html>"), joined.size());
 }
 
 TEST(HtmlHabits, BlanksInsideTheClosingTag_AreAllowed) {
