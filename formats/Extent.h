@@ -30,7 +30,6 @@ struct CivilTime {
 struct Facts {
     std::uint32_t width = 0;   // pixels, as stored (before any rotation); 0 = not told
     std::uint32_t height = 0;  // pixels
-    std::uint64_t playMs = 0;  // how long a movie or a sound plays, milliseconds; 0 = not told
     std::optional<CivilTime> taken;
 };
 

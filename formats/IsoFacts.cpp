@@ -1,12 +1,10 @@
-// Date, pixel size and playing time from the index boxes of movies and HEIF pictures. Sources: ISO/IEC
-// 14496-12, 23008-12.
+// Date and pixel size from the index boxes of movies and HEIF pictures. Sources: ISO/IEC 14496-12, 23008-12.
 #include <algorithm>
 #include <cstring>
 #include <limits>
 
 #include "formats/Dates.h"
 #include "formats/IsoItemPlaces.h"
-#include "formats/PlayTime.h"
 #include "formats/TiffDirectory.h"
 
 namespace vantor {
@@ -45,27 +43,6 @@ void movieHeader(ByteView& view, const IsoBox& box, Facts& facts) {
     const std::uint64_t created = wide ? in.u64() : in.u32();
     if (in.ok() && !facts.taken)
         facts.taken = dateFromSecondsSince1904(created);
-    wide ? in.u64() : in.u32();  // changed
-    const std::uint64_t scale = in.u32();
-    const std::uint64_t units = wide ? in.u64() : in.u32();
-    const bool isTold = in.ok() && units != (wide ? std::numeric_limits<std::uint64_t>::max() : 0xFFFFFFFF);
-    facts.playMs = isTold ? playTime(units, scale) : 0;
-}
-
-// Of a movie in fragments the movie's own header does not tell; another one may, once all are written.
-void fragmentedLength(ByteView& view, const IsoBox& movie, Facts& facts) {
-    std::uint64_t scale = 0, units = 0;
-    forChildren(view, movie.body, movie.end, [&](const IsoBox& child) {
-        if (child.text() == "mvhd")
-            scale = view.be32(child.body + (view.u8(child.body) == 1 ? 20 : 12)).value_or(0);
-        if (child.text() != "mvex")
-            return;
-        forChildren(view, child.body, child.end, [&](const IsoBox& part) {
-            if (part.text() == "mehd")
-                units = view.number(part.body + 4, view.u8(part.body) == 1 ? 8 : 4, Endian::Big).value_or(0);
-        });
-    });
-    facts.playMs = playTime(units, scale);
 }
 
 void trackHeader(ByteView& view, const IsoBox& box, Facts& facts) {
@@ -76,9 +53,9 @@ void trackHeader(ByteView& view, const IsoBox& box, Facts& facts) {
         largest(facts, width, height);
 }
 
-bool canonBoxes(ByteView& view, const IsoBox& box, Facts& facts) {
+void canonBoxes(ByteView& view, const IsoBox& box, Facts& facts) {
     if (!view.matches(box.body, kCanonUuid))
-        return false;
+        return;
     forChildren(view, box.body + kCanonUuid.size(), box.end, [&](const IsoBox& child) {
         if (child.text() == "CMT1" || child.text() == "CMT2") {
             Facts exif;
@@ -88,7 +65,6 @@ bool canonBoxes(ByteView& view, const IsoBox& box, Facts& facts) {
                 facts.taken = exif.taken;
         }
     });
-    return true;
 }
 
 // Item number of the Exif block among a HEIF picture's items; 0 = none.
@@ -165,12 +141,11 @@ std::uint64_t heifMeta(ByteView& view, const IsoBox& meta, Facts& facts) {
 std::uint64_t addIsoFacts(ByteView& view, const IsoBox& box, Facts& facts) {
     if (box.text() == "meta")
         return heifMeta(view, box, facts);
-    bool isPhoto = false;  // whose one picture has a time as well
     forChildren(view, box.body, box.end, [&](const IsoBox& child) {
         if (child.text() == "mvhd")
             movieHeader(view, child, facts);
         if (child.text() == "uuid")
-            isPhoto = canonBoxes(view, child, facts) || isPhoto;
+            canonBoxes(view, child, facts);
         if (child.text() != "trak")
             return;
         forChildren(view, child.body, child.end, [&](const IsoBox& part) {
@@ -178,10 +153,6 @@ std::uint64_t addIsoFacts(ByteView& view, const IsoBox& box, Facts& facts) {
                 trackHeader(view, part, facts);
         });
     });
-    if (facts.playMs == 0)
-        fragmentedLength(view, box, facts);
-    if (isPhoto)
-        facts.playMs = 0;
     return 0;
 }
 

@@ -94,10 +94,6 @@ SortKey keyOf(const ItemFacts& facts, SortItems sort) {
                     -static_cast<std::int64_t>(std::min<std::uint64_t>(pixels, INT64_MAX)),
                     {}};
         }
-        case SortItems::Length:
-            return {soundness.playMs == 0 ? kNotKnown - 1 : 0,
-                    -static_cast<std::int64_t>(std::min<std::uint64_t>(soundness.playMs, INT64_MAX)),
-                    {}};
         default:
             break;  // by the date
     }

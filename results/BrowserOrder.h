@@ -25,20 +25,8 @@ enum class ShowItems {
     Lost,
     Mended
 };
-// By Soundness whole items come first, by Size, Pixels and Length the largest ones, by DateTaken the oldest.
-enum class SortItems {
-    AsFound,
-    Soundness,
-    Size,
-    DateTaken,
-    OriginalName,
-    Name,
-    Type,
-    Camera,
-    Pixels,
-    Length,  // how long movies and sounds play
-    Place
-};
+// By Soundness whole items come first, by Size and Pixels the largest ones, by DateTaken the oldest.
+enum class SortItems { AsFound, Soundness, Size, DateTaken, OriginalName, Name, Type, Camera, Pixels, Place };
 
 // Below these an item counts as small in the browser: what cameras and documents embed, not what people make.
 inline constexpr std::uint32_t kSmallPixels = 320;

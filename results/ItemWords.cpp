@@ -36,18 +36,6 @@ QString dateWords(const ItemFacts& known) {
     return {};
 }
 
-QString lengthWords(const ItemFacts& known, std::int64_t playedMs) {
-    if (playedMs > 0) {
-        return timeText(playedMs);
-    }
-    return known.soundness ? lengthWords(*known.soundness) : QString();
-}
-
-QString lengthWords(const Soundness& soundness) {
-    constexpr std::uint64_t kSecond = 1000;  // what is shorter would play no time
-    return soundness.playMs >= kSecond ? timeText(static_cast<std::int64_t>(soundness.playMs)) : QString();
-}
-
 QString pixelWords(const ItemFacts& known) {
     return known.soundness && known.soundness->width != 0
                ? QObject::tr("%1 × %2").arg(numberForPeople(known.soundness->width),
@@ -88,12 +76,12 @@ QString timeText(std::int64_t timeMs) {
                : QStringLiteral("%1:%2").arg(minutes / 60).arg(minutes % 60, 2, 10, QLatin1Char('0')) + rest;
 }
 
-CaptionWords captionWords(const ItemFacts& known, std::int64_t playedMs) {
+CaptionWords captionWords(const ItemFacts& known, std::int64_t durationMs) {
     constexpr qsizetype kDayLetters = 10;
     const QString day = dateWords(known).left(kDayLetters);
-    QString extent = lengthWords(known, playedMs);
-    if (!extent.isEmpty()) {
-        // Of a movie or a sound that says more than its pixels.
+    QString extent;
+    if (durationMs > 0) {
+        extent = timeText(durationMs);
     } else if (known.soundness && known.soundness->width != 0) {
         extent = QObject::tr("%1 × %2").arg(known.soundness->width).arg(known.soundness->height);
     } else if (known.soundness) {

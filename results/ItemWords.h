@@ -13,9 +13,6 @@ class MyImageObject;
 
 // "2026-05-17 14:03": when it was taken, else the card's own date; empty where neither tells.
 QString dateWords(const ItemFacts& known);
-// "0:05" where the player tells so many milliseconds, else what the file tells; empty where neither does.
-QString lengthWords(const ItemFacts& known, std::int64_t playedMs);
-QString lengthWords(const Soundness& soundness);
 // "4,000 × 3,000"; empty where the file does not tell.
 QString pixelWords(const ItemFacts& known);
 // "sectors 4,096 to 8,191", as far as that is known, else what was found.
@@ -31,6 +28,6 @@ struct CaptionWords {
     QString all;
     QString first;
 };
-CaptionWords captionWords(const ItemFacts& known, std::int64_t playedMs);
+CaptionWords captionWords(const ItemFacts& known, std::int64_t durationMs);
 
 }  // namespace vantor

@@ -8,7 +8,6 @@
 #include "decode/ContentTrials.h"
 #include "formats/ExifCamera.h"
 #include "results/ItemBytes.h"
-#include "results/ItemWords.h"
 #include "results/SizeForPeople.h"
 #include "results/TrueLength.h"
 
@@ -67,7 +66,6 @@ std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, S
     soundness.bytes = length.bytes;
     soundness.width = facts.width;
     soundness.height = facts.height;
-    soundness.playMs = facts.playMs;
     soundness.taken = facts.taken;
     // What was followed is in memory; nothing more is read for it.
     SpanSource beginning(bytes.keptFrom(0));
@@ -126,9 +124,6 @@ QString describe(const Soundness& soundness) {
     parts << sizeForPeople(soundness.bytes);
     if (soundness.width != 0) {
         parts << QObject::tr("%1 × %2 pixels").arg(soundness.width).arg(soundness.height);
-    }
-    if (const QString length = lengthWords(soundness); !length.isEmpty()) {
-        parts << QObject::tr("%1 long").arg(length);
     }
     if (!soundness.camera.isEmpty()) {
         parts << soundness.camera;

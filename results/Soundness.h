@@ -30,8 +30,7 @@ struct Soundness {
     std::shared_ptr<const CardFile> original = {};  // what the card tells of it; null: nothing certain
     std::size_t pieces = 1;                         // on the medium
     QString camera = {};                            // that took it, as the file says; "": not told
-    bool followed = false;     // as `checked`, where a movie's frames need not have been decoded
-    std::uint64_t playMs = 0;  // how long a movie or a sound plays, milliseconds; 0: not told
+    bool followed = false;  // as `checked`, where a movie's frames need not have been decoded
 };
 
 // Follows the item's own structure on the medium as saving does, without saving. A file that takes more than

@@ -156,7 +156,6 @@ bool ItemSaver::decideLength(const FoundItem& item, ItemBytes& found, SaveOutcom
     }
     outcome.original = truth.file;
     outcome.width = facts.width;
-    outcome.playMs = facts.playMs;
     outcome.height = facts.height;
     bytes.expect(length.bytes);
     if (outcome.later) {
@@ -223,8 +222,7 @@ std::optional<Soundness> soundnessOf(const SaveOutcome& outcome) {
                      outcome.original,
                      outcome.pieces,
                      {},
-                     outcome.checked,
-                     outcome.playMs};
+                     outcome.checked};
 }
 
 }  // namespace vantor

@@ -52,7 +52,6 @@ struct SaveOutcome {
     bool exactLength = true;         // false: the format does not mark its end to the byte
     std::optional<CivilTime> taken;  // also the file's modification time
     std::uint32_t width = 0;         // pixels; 0: not told
-    std::uint64_t playMs = 0;        // how long a movie or a sound plays, milliseconds; 0: not told
     std::uint32_t height = 0;
     QByteArray sha256;                         // raw; may be empty where the policy asks for none
     std::shared_ptr<const CardFile> original;  // null where the card does not tell

@@ -203,7 +203,6 @@ void MyTableController::setUpBrowsers() {
         std::array{BrowserScreen{imageBrowser, showBox, sortBox, foundPane},
                    BrowserScreen{imageBrowser_2, showBox_Sig, sortBox_Sig, foundPane_Sig}},
         lookedAtItems());
-    imageBrowser_2->detailsHeader()->sortExtentBy(SortItems::Length);
     connect(m_looks.get(), &BrowserLooks::changed, this, &MyTableController::showItemCounts);
     connect(m_looks.get(), &BrowserLooks::looked, this, [this] {
         if (!session && !m_obstacle.isEmpty() && Prev_Index != kNoPreview) {

@@ -4,7 +4,6 @@
 
 #include "formats/Dates.h"
 #include "formats/Format.h"
-#include "formats/PlayTime.h"
 
 namespace vantor {
 
@@ -42,14 +41,6 @@ Properties readHeader(ByteView& view, std::uint64_t end, Facts& facts) {
             Cursor in(view, at + 40, Endian::Little);
             properties.fileBytes = in.u64();
             facts.taken = dateFromTicksSince1601(in.u64());
-            in.skip(8);  // number of packets
-            // The time that a player fills its buffer before it begins is counted in.
-            constexpr std::uint64_t kTicksASecond = 10'000'000, kTicksAMillisecond = 10'000;
-            const std::uint64_t ticks = in.u64();
-            in.skip(8);
-            const std::uint64_t before = in.u64();
-            if (in.ok() && before < ticks / kTicksAMillisecond)
-                facts.playMs = playTime(ticks - before * kTicksAMillisecond, kTicksASecond);
             const auto least = view.le32(at + 92), most = view.le32(at + 96);
             properties.packetBytes = least == most ? least.value_or(0) : 0;
             properties.broadcast = (view.le32(at + 88).value_or(0) & 1) != 0;

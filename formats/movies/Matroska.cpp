@@ -2,13 +2,11 @@
 // Sources: RFC 8794 (EBML), RFC 9559 (Matroska).
 #include <algorithm>
 #include <array>
-#include <bit>
 
 #include "formats/Among.h"
 #include "formats/Crc.h"
 #include "formats/Dates.h"
 #include "formats/Format.h"
-#include "formats/PlayTime.h"
 
 namespace vantor {
 
@@ -17,7 +15,7 @@ namespace {
 constexpr std::uint32_t kEbml = 0x1A45DFA3, kSegment = 0x18538067, kVoid = 0xEC, kCrc = 0xBF;
 constexpr std::uint32_t kInfo = 0x1549A966, kTracks = 0x1654AE6B, kCluster = 0x1F43B675;
 constexpr std::uint32_t kTrackEntry = 0xAE, kMatroskaVideo = 0xE0, kPixelWidth = 0xB0, kPixelHeight = 0xBA,
-                        kDate = 0x4461, kTimestampScale = 0x2AD7B1, kDuration = 0x4489;
+                        kDate = 0x4461;
 
 // Children of a segment: seek head, info, tracks, cluster, cues, attachments, chapters, tags.
 constexpr std::array<std::uint32_t, 10> kInSegment = {
@@ -74,20 +72,9 @@ std::optional<Element> readElement(ByteView& view, std::uint64_t at) {
     return element;
 }
 
-// A number with a fraction, of four or eight bytes; 0 where it is none that can be counted in.
-std::uint64_t wholePartOf(std::uint64_t bits, std::uint64_t bytes) {
-    const double value = bytes == 4   ? std::bit_cast<float>(static_cast<std::uint32_t>(bits))
-                         : bytes == 8 ? std::bit_cast<double>(bits)
-                                      : 0;
-    return value >= 1 && value < 1e18 ? static_cast<std::uint64_t>(value) : 0;
-}
-
-// Pixel size, playing time and date out of the info and track elements, entering only the masters that lead
-// to them.
+// Pixel size and date out of the info and track elements, entering only the masters that lead to them.
 void addFacts(ByteView& view, const Element& parent, Facts& facts) {
-    constexpr std::uint64_t kNanosecondsASecond = 1'000'000'000;
     std::uint64_t at = parent.body;
-    std::uint64_t nanosecondsAStep = 1'000'000, steps = 0;
     for (int i = 0; i < kMostFactElements && at < parent.end(); ++i) {
         const auto element = readElement(view, at);
         if (!element || element->unknownSize)
@@ -103,13 +90,6 @@ void addFacts(ByteView& view, const Element& parent, Facts& facts) {
             facts.height = std::max(facts.height, static_cast<std::uint32_t>(value));
         else if (element->id == kDate && parent.id == kInfo)
             facts.taken = dateFromNanosecondsSince2001(static_cast<std::int64_t>(value));
-        else if (element->id == kTimestampScale && parent.id == kInfo)
-            nanosecondsAStep = value;
-        else if (element->id == kDuration && parent.id == kInfo)
-            steps = wholePartOf(value, element->bytes);
-        if (steps != 0 && nanosecondsAStep != 0)
-            facts.playMs =
-                playTime(steps, std::max<std::uint64_t>(1, kNanosecondsASecond / nanosecondsAStep));
     }
 }
 

@@ -80,7 +80,7 @@ class RiffWalk {
     bool m_sound = true;        // so far as it was looked at
     bool m_looked = false;
     bool m_small = false;  // its data was followed to the end
-    RiffFacts m_facts;
+    Facts m_facts;
 };
 
 // Whether the chunks of a movie's data fill their list, or its first ones are such.
@@ -175,7 +175,7 @@ RiffWalk::Step RiffWalk::inner(std::uint64_t told) {
                 return Step::Unbounded;
             end = addClamped(chunk->body, m_wideData);
         }
-        addRiffFacts(m_view, {m_form.data(), m_form.size()}, chunk->text(), chunk->body, end - chunk->body,
+        addRiffFacts(m_view, {m_form.data(), m_form.size()}, chunk->text(), chunk->body, chunk->bytes,
                      m_facts);
         const bool list = chunk->text() == "LIST" && m_view.matches(chunk->body, "movi");
         m_sawSamples = m_sawSamples || chunk->text() == "data" || chunk->text() == "SSND";

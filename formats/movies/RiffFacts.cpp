@@ -1,12 +1,11 @@
-// Pixel size, playing time and date of AVI, WebP and WAV files. Sources: AVI RIFF File Reference, WebP
-// container specification, EBU Tech 3285 (broadcast extension).
+// Pixel size and date of AVI, WebP and WAV files. Sources: AVI RIFF File Reference, WebP container
+// specification, EBU Tech 3285 (broadcast extension).
 #include "formats/movies/RiffFacts.h"
 
 #include <algorithm>
 #include <array>
 
 #include "formats/Dates.h"
-#include "formats/PlayTime.h"
 #include "formats/TiffDirectory.h"
 
 namespace vantor {
@@ -49,20 +48,11 @@ std::optional<CivilTime> parseAviDate(std::string_view text) {
 
 void aviHeaders(ByteView& view, std::uint64_t from, std::uint64_t to, Facts& facts) {
     constexpr int kMostHeaders = 64;
-    constexpr std::uint64_t kMicrosecondsASecond = 1'000'000;
-    std::uint64_t perPicture = 0;
     for (int i = 0; i < kMostHeaders && from + 8 <= to; ++i) {
         const std::uint64_t bytes = view.le32(from + 4).value_or(0);
         if (view.matches(from, "avih")) {
             facts.width = view.le32(from + 8 + 32).value_or(0);
             facts.height = view.le32(from + 8 + 36).value_or(0);
-            perPicture = view.le32(from + 8).value_or(0);
-            facts.playMs = playTime(perPicture * view.le32(from + 8 + 16).value_or(0), kMicrosecondsASecond);
-        }
-        // The first header counts those of the first part only, where there are more.
-        if (view.matches(from, "LIST") && view.matches(from + 8, "odmldmlh")) {
-            const std::uint64_t pictures = view.le32(from + 20).value_or(0);
-            facts.playMs = playTime(perPicture * pictures, kMicrosecondsASecond);
         }
         std::array<std::uint8_t, 24> text{};
         if (view.matches(from, "IDIT") && view.copy(from + 8, text))
@@ -111,17 +101,13 @@ void broadcastDate(ByteView& view, std::uint64_t body, Facts& facts) {
 }  // namespace
 
 void addRiffFacts(ByteView& view, std::string_view form, std::string_view name, std::uint64_t body,
-                  std::uint64_t bytes, RiffFacts& facts) {
+                  std::uint64_t bytes, Facts& facts) {
     if (form == "WEBP")
         webpChunk(view, name, body, facts);
     else if (form == "AVI " && name == "LIST" && view.matches(body, "hdrl"))
         aviHeaders(view, body + 4, std::min(body + bytes, view.size()), facts);
     else if (form == "WAVE" && name == "bext")
         broadcastDate(view, body, facts);
-    else if (form == "WAVE" && name == "fmt ")
-        facts.soundRate = view.le32(body + 8).value_or(0);
-    else if (form == "WAVE" && name == "data")
-        facts.playMs = playTime(bytes, facts.soundRate);
 }
 
 }  // namespace vantor

@@ -8,13 +8,9 @@
 
 namespace vantor {
 
-struct RiffFacts : Facts {
-    std::uint32_t soundRate = 0;  // of a wave, bytes a second; 0: not met yet
-};
-
-// Adds pixel size, playing time and date from one top-level chunk of a RIFF file with the given form ("AVI ",
-// "WEBP", "WAVE").
+// Adds pixel size and date from one top-level chunk of a RIFF file with the given form ("AVI ", "WEBP",
+// "WAVE").
 void addRiffFacts(ByteView& view, std::string_view form, std::string_view name, std::uint64_t body,
-                  std::uint64_t bytes, RiffFacts& facts);
+                  std::uint64_t bytes, Facts& facts);
 
 }  // namespace vantor

@@ -1,9 +1,6 @@
 // AAC in ADTS frames. Source: ISO/IEC 13818-7.
-#include <array>
-
 #include "formats/AudioTags.h"
 #include "formats/Format.h"
-#include "formats/PlayTime.h"
 #include "formats/sounds/FrameStream.h"
 
 namespace vantor {
@@ -17,18 +14,11 @@ Extent walkAdts(ByteView& view) {
     const auto rate = first >> 10 & 15;
     if (first >> 20 != 0xFFF || (first >> 17 & 3) != 0 || rate > 12)
         return unknownExtent();
-    const auto frameBytes = [&](std::uint64_t at) -> std::uint64_t {
+    return walkFrames(view, start, start != 0 ? 1 : kProofFrames, [&](std::uint64_t at) -> std::uint64_t {
         const auto head = view.number(at, 6, Endian::Big).value_or(0);
         const auto bytes = head >> 5 & 0x1FFF;
         return ((head >> 16 ^ first) & kSameKind) == 0 && bytes >= 7 ? bytes : 0;
-    };
-    static constexpr std::array<std::uint32_t, 13> kRates = {96000, 88200, 64000, 48000, 44100, 32000, 24000,
-                                                             22050, 16000, 12000, 11025, 8000,  7350};
-    constexpr std::uint64_t kSamplesAFrame = 1024;
-    FrameRow row;
-    Extent extent = walkFrames(view, start, start != 0 ? 1 : kProofFrames, frameBytes, &row);
-    extent.facts.playMs = playTime(row.frames * kSamplesAFrame, kRates[rate]);
-    return extent;
+    });
 }
 
 }  // namespace

@@ -3,26 +3,12 @@
 #include <array>
 
 #include "formats/AudioTags.h"
-#include "formats/PlayTime.h"
 #include "formats/Registry.h"
 #include "formats/sounds/FrameStream.h"
 
 namespace vantor {
 
 namespace {
-
-constexpr std::array<std::uint32_t, 4> kMpegRates = {44100, 48000, 32000, 0};  // of version 1
-
-std::uint32_t mpegAudioRate(std::uint32_t head) {
-    const auto version = head >> 19 & 3;
-    return kMpegRates[head >> 10 & 3] >> (version == 3 ? 0 : version == 2 ? 1 : 2);
-}
-
-// Of one channel of a frame.
-std::uint32_t mpegAudioSamples(std::uint32_t head) {
-    const auto layer = 4 - (head >> 17 & 3);
-    return layer == 1 ? 384 : layer == 3 && (head >> 19 & 3) != 3 ? 576 : 1152;
-}
 
 std::uint64_t mpegAudioFrameBytes(std::uint32_t head) {
     static constexpr std::uint16_t kKilobits[5][16] = {
@@ -31,6 +17,7 @@ std::uint64_t mpegAudioFrameBytes(std::uint32_t head) {
         {0, 32, 40, 48, 56, 64, 80, 96, 112, 128, 160, 192, 224, 256, 320, 0},      // version 1, layer III
         {0, 32, 48, 56, 64, 80, 96, 112, 128, 144, 160, 176, 192, 224, 256, 0},     // version 2, layer I
         {0, 8, 16, 24, 32, 40, 48, 56, 64, 80, 96, 112, 128, 144, 160, 0}};  // version 2, layers II, III
+    static constexpr std::array<std::uint32_t, 4> kRates = {44100, 48000, 32000, 0};
     const auto version = head >> 19 & 3, layer = 4 - (head >> 17 & 3);
     const auto rateBits = head >> 10 & 3;
     if (head >> 21 != 0x7FF || version == 1 || layer == 4 || rateBits == 3)
@@ -38,7 +25,7 @@ std::uint64_t mpegAudioFrameBytes(std::uint32_t head) {
     const bool first = version == 3;
     const auto table = first ? layer - 1 : layer == 1 ? 3 : 4;
     const std::uint32_t bits = kKilobits[table][head >> 12 & 15] * 1000U;
-    const auto rate = mpegAudioRate(head);
+    const auto rate = kRates[rateBits] >> (version == 3 ? 0 : version == 2 ? 1 : 2);
     const auto padding = head >> 9 & 1;
     if (bits == 0)
         return 0;
@@ -93,7 +80,6 @@ Extent walkMpegAudio(ByteView& view) {
     };
     FrameRow row;
     Extent extent = walkFrames(view, start, start != 0 ? 1 : kProofFrames, frameBytes, &row);
-    extent.facts.playMs = playTime(row.frames * mpegAudioSamples(first), mpegAudioRate(first));
     const auto told = toldFrames(view, start, first);
     const bool all = told != 0 && told + 1 == row.frames && !row.tornTag;
     // Where they end with a sector, a tag may have stood in the next.

@@ -874,10 +874,6 @@ Der Endsektor muss größer als der Startsektor sein.</translation>
         <translation>%1 × %2 Pixel</translation>
     </message>
     <message>
-        <source>%1 long</source>
-        <translation>%1 lang</translation>
-    </message>
-    <message>
         <source>taken %1-%2-%3</source>
         <translation>aufgenommen %1-%2-%3</translation>
     </message>
@@ -2935,10 +2931,6 @@ Läuft auf %2.</translation>
     <message>
         <source>By pixels</source>
         <translation>Nach Pixeln</translation>
-    </message>
-    <message>
-        <source>By length</source>
-        <translation>Nach Länge</translation>
     </message>
     <message>
         <source>By place on the card</source>

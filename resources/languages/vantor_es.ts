@@ -874,10 +874,6 @@ El sector final debe ser mayor que el sector inicial.</translation>
         <translation>%1 × %2 píxeles</translation>
     </message>
     <message>
-        <source>%1 long</source>
-        <translation>%1 de duración</translation>
-    </message>
-    <message>
         <source>taken %1-%2-%3</source>
         <translation>tomado %1-%2-%3</translation>
     </message>
@@ -2935,10 +2931,6 @@ Se ejecuta en %2.</translation>
     <message>
         <source>By pixels</source>
         <translation>Por píxeles</translation>
-    </message>
-    <message>
-        <source>By length</source>
-        <translation>Por duración</translation>
     </message>
     <message>
         <source>By place on the card</source>

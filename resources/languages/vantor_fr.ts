@@ -874,10 +874,6 @@ Le secteur de fin doit être supérieur au secteur de début.</translation>
         <translation>%1 × %2 pixels</translation>
     </message>
     <message>
-        <source>%1 long</source>
-        <translation>durée %1</translation>
-    </message>
-    <message>
         <source>taken %1-%2-%3</source>
         <translation>pris le %1-%2-%3</translation>
     </message>
@@ -2935,10 +2931,6 @@ Fonctionne avec %2.</translation>
     <message>
         <source>By pixels</source>
         <translation>Par pixels</translation>
-    </message>
-    <message>
-        <source>By length</source>
-        <translation>Par durée</translation>
     </message>
     <message>
         <source>By place on the card</source>

@@ -874,10 +874,6 @@ Il settore finale deve essere maggiore del settore iniziale.</translation>
         <translation>%1 × %2 pixel</translation>
     </message>
     <message>
-        <source>%1 long</source>
-        <translation>durata %1</translation>
-    </message>
-    <message>
         <source>taken %1-%2-%3</source>
         <translation>ripreso il %1-%2-%3</translation>
     </message>
@@ -2935,10 +2931,6 @@ In esecuzione su %2.</translation>
     <message>
         <source>By pixels</source>
         <translation>Per pixel</translation>
-    </message>
-    <message>
-        <source>By length</source>
-        <translation>Per durata</translation>
     </message>
     <message>
         <source>By place on the card</source>

@@ -873,10 +873,6 @@ End Sector should be greater than Start Sector.</source>
         <translation>%1 × %2 ピクセル</translation>
     </message>
     <message>
-        <source>%1 long</source>
-        <translation>長さ %1</translation>
-    </message>
-    <message>
         <source>taken %1-%2-%3</source>
         <translation>撮影日 %1-%2-%3</translation>
     </message>
@@ -2902,10 +2898,6 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     <message>
         <source>By pixels</source>
         <translation>画素数順</translation>
-    </message>
-    <message>
-        <source>By length</source>
-        <translation>長さ順</translation>
     </message>
     <message>
         <source>By place on the card</source>

@@ -874,10 +874,6 @@ De eindsector moet groter zijn dan de beginsector.</translation>
         <translation>%1 × %2 pixels</translation>
     </message>
     <message>
-        <source>%1 long</source>
-        <translation>duur %1</translation>
-    </message>
-    <message>
         <source>taken %1-%2-%3</source>
         <translation>opgenomen %1-%2-%3</translation>
     </message>
@@ -2935,10 +2931,6 @@ Wordt uitgevoerd op %2.</translation>
     <message>
         <source>By pixels</source>
         <translation>Op pixels</translation>
-    </message>
-    <message>
-        <source>By length</source>
-        <translation>Op duur</translation>
     </message>
     <message>
         <source>By place on the card</source>

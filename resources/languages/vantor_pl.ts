@@ -875,10 +875,6 @@ Sektor końcowy musi być większy od sektora początkowego.</translation>
         <translation>%1 × %2 pikseli</translation>
     </message>
     <message>
-        <source>%1 long</source>
-        <translation>czas trwania %1</translation>
-    </message>
-    <message>
         <source>taken %1-%2-%3</source>
         <translation>wykonano %1-%2-%3</translation>
     </message>
@@ -2968,10 +2964,6 @@ Działa w systemie %2.</translation>
     <message>
         <source>By pixels</source>
         <translation>Według pikseli</translation>
-    </message>
-    <message>
-        <source>By length</source>
-        <translation>Według czasu</translation>
     </message>
     <message>
         <source>By place on the card</source>

@@ -874,10 +874,6 @@ O setor final deve ser maior que o setor inicial.</translation>
         <translation>%1 × %2 pixels</translation>
     </message>
     <message>
-        <source>%1 long</source>
-        <translation>%1 de duração</translation>
-    </message>
-    <message>
         <source>taken %1-%2-%3</source>
         <translation>capturado em %1-%2-%3</translation>
     </message>
@@ -2935,10 +2931,6 @@ Executando em %2.</translation>
     <message>
         <source>By pixels</source>
         <translation>Por pixels</translation>
-    </message>
-    <message>
-        <source>By length</source>
-        <translation>Por duração</translation>
     </message>
     <message>
         <source>By place on the card</source>

@@ -873,10 +873,6 @@ End Sector should be greater than Start Sector.</source>
         <translation>%1 × %2 像素</translation>
     </message>
     <message>
-        <source>%1 long</source>
-        <translation>时长 %1</translation>
-    </message>
-    <message>
         <source>taken %1-%2-%3</source>
         <translation>拍摄于 %1-%2-%3</translation>
     </message>
@@ -2902,10 +2898,6 @@ Running on %2.</source>
     <message>
         <source>By pixels</source>
         <translation>按像素</translation>
-    </message>
-    <message>
-        <source>By length</source>
-        <translation>按时长</translation>
     </message>
     <message>
         <source>By place on the card</source>

@@ -138,15 +138,5 @@ TEST_F(BrowserOrder, NamesTypesAndPlaces_NeedNoLookAtTheItems) {
     EXPECT_EQ(browserOrder(6, wish, factsOf).constLast(), 2) << "nothing at all is known of it";
 }
 
-TEST_F(BrowserOrder, ByLength_TheLongestComesFirst) {
-    items[0].soundness->playMs = 5'000;
-    items[3].soundness->playMs = 3'600'000;
-    items[4].soundness->playMs = 15'000;
-    EXPECT_EQ(order(ShowItems::All, SortItems::Length), (QList<int>{3, 4, 0, 1, 5, 2}));
-    BrowserWish wish;
-    wish.sort = SortItems::Length;
-    EXPECT_TRUE(wish.needsSoundness());
-}
-
 }  // namespace
 }  // namespace vantor

@@ -92,10 +92,6 @@ TEST_F(Details, AClickOnAColumn_Sorts_AndAnotherTurnsItRound) {
     EXPECT_EQ(browser->detailsHeader()->sortIndicatorOrder(), Qt::DescendingOrder);
     clickColumn(DetailsColumn::Type);
     EXPECT_EQ(shown().join(u' '), QStringLiteral("C.AVI B.JPG A.PDF"));
-    clickColumn(DetailsColumn::Extent);
-    EXPECT_EQ(controller->sortBox_Sig->currentText(), QStringLiteral("By length"));
-    EXPECT_EQ(browser->detailsHeader()->sortIndicatorSection(), static_cast<int>(DetailsColumn::Extent));
-    EXPECT_TRUE(browser->detailsHeader()->isSortIndicatorShown());
     clickColumn(DetailsColumn::Place);
     EXPECT_EQ(shown().join(u' '), QStringLiteral("C.AVI B.JPG A.PDF"));
     clickColumn(DetailsColumn::Place);
@@ -154,10 +150,6 @@ TEST(DetailsColumns, WhatIsKnown_StandsInItsColumn) {
     EXPECT_EQ(detailsText(DetailsColumn::Camera, *item, facts, nullptr), QStringLiteral("Canon"));
     EXPECT_EQ(detailsText(DetailsColumn::Extent, *item, facts, nullptr), QStringLiteral("4,000 × 3,000"));
     EXPECT_EQ(detailsText(DetailsColumn::Extent, *item, facts, &movie), QStringLiteral("1:05"));
-    facts.soundness->playMs = 3'723'000;
-    EXPECT_EQ(detailsText(DetailsColumn::Extent, *item, facts, nullptr), QStringLiteral("1:02:03"));
-    EXPECT_EQ(detailsText(DetailsColumn::Extent, *item, facts, &movie), QStringLiteral("1:05"))
-        << "as it is played";
     EXPECT_TRUE(detailsText(DetailsColumn::State, *item, facts, nullptr).endsWith(QStringLiteral(", saved")));
     EXPECT_EQ(detailsText(DetailsColumn::Place, *item, facts, nullptr), QStringLiteral("sectors 50 to 59"));
 }
@@ -175,11 +167,6 @@ TEST(CaptionWords, SayTheDay_AndPixelsOrLengthOrSize) {
     EXPECT_EQ(captionWords(facts, 0).all, QStringLiteral("2026-05-07 · 4000 × 3000"));
     EXPECT_EQ(captionWords(facts, 0).first, QStringLiteral("2026-05-07"));
     EXPECT_EQ(captionWords(facts, 65'000).all, QStringLiteral("2026-05-07 · 1:05"));
-    facts.soundness->playMs = 999;
-    EXPECT_EQ(captionWords(facts, 0).all, QStringLiteral("2026-05-07 · 4000 × 3000"));
-    facts.soundness->playMs = 12'000;
-    EXPECT_TRUE(describe(*facts.soundness).contains(QStringLiteral(", 0:12 long, ")));
-    EXPECT_EQ(captionWords(facts, 0).all, QStringLiteral("2026-05-07 · 0:12"));
 }
 
 // Cells in raw mode: what they look like in place of icons.

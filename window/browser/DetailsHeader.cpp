@@ -69,11 +69,8 @@ QString detailsText(DetailsColumn column, const MyImageObject& item, const ItemF
         case DetailsColumn::Camera:
             return facts.soundness ? facts.soundness->camera : QString();
         case DetailsColumn::Extent:
-            if (const QString length = lengthWords(facts, picture != nullptr ? picture->durationMs : 0);
-                !length.isEmpty()) {
-                return length;
-            }
-            return pixelWords(facts);
+            return picture != nullptr && picture->durationMs > 0 ? timeText(picture->durationMs)
+                                                                 : pixelWords(facts);
         case DetailsColumn::State:
             return facts.saved ? DetailsHeader::tr("%1, saved").arg(stateWords(facts)) : stateWords(facts);
         case DetailsColumn::Place:
@@ -103,12 +100,7 @@ DetailsHeader::DetailsHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, pare
     setSortIndicatorShown(false);
     setOriginalsShown(false);
     connect(this, &QHeaderView::sectionClicked, this,
-            [this](int column) { emit sortWanted(sortOfColumn(column)); });
-}
-
-SortItems DetailsHeader::sortOfColumn(int column) const {
-    const auto shown = static_cast<DetailsColumn>(column);
-    return shown == DetailsColumn::Extent ? m_extentSort : sortOf(shown);
+            [this](int column) { emit sortWanted(sortOf(static_cast<DetailsColumn>(column))); });
 }
 
 // The state has the mark of a sorting as well, which every list begins without; and no column is lost.
@@ -134,7 +126,7 @@ void DetailsHeader::setOriginalsShown(bool shown) {
 void DetailsHeader::showSorted(SortItems sort, bool reversed) {
     setSortIndicatorShown(false);
     for (int at = 0; at < kDetailsColumns; ++at) {
-        if (sortOfColumn(at) == sort) {
+        if (sortOf(static_cast<DetailsColumn>(at)) == sort) {
             setSortIndicator(at, reversed ? Qt::DescendingOrder : Qt::AscendingOrder);
             setSortIndicatorShown(true);
         }

@@ -35,16 +35,10 @@ class DetailsHeader : public QHeaderView {
     // Whether any item has a name of its own on the card: without one that column is left out.
     void setOriginalsShown(bool shown);
 
-    // What is sorted by a click on the column that shows pixels or lengths; by pixels unless told.
-    void sortExtentBy(SortItems sort) { m_extentSort = sort; }
-
   signals:
     void sortWanted(SortItems sort);
 
   private:
-    SortItems sortOfColumn(int column) const;
-
-    SortItems m_extentSort = SortItems::Pixels;
     bool m_originalsShown = false;
 };
 

@@ -54,7 +54,7 @@ QList<ViewerFact> viewerFacts(const MyImageObject& item, const ItemFacts& known,
     add(QObject::tr("Size"), sizeOf(known, viewed));
     add(QObject::tr("Pixels"), pixelWords(known));
     add(QObject::tr("Camera"), known.soundness ? known.soundness->camera : QString());
-    add(QObject::tr("Length"), lengthWords(known, viewed.durationMs));
+    add(QObject::tr("Length"), viewed.durationMs > 0 ? timeText(viewed.durationMs) : QString());
     add(QObject::tr("On the card"), placeWords(item, known));
     add(QObject::tr("Pieces"),
         known.soundness ? numberForPeople(static_cast<std::uint64_t>(known.soundness->pieces)) : QString());
