@@ -31,6 +31,7 @@ struct Facts {
     std::uint32_t width = 0;   // pixels, as stored (before any rotation); 0 = not told
     std::uint32_t height = 0;  // pixels
     std::optional<CivilTime> taken;
+    std::uint64_t durationMs = 0;  // of a movie or sound, as its head tells; 0 = not told
 };
 
 // The answer of a walker.

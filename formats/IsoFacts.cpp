@@ -1,10 +1,12 @@
-// Date and pixel size from the index boxes of movies and HEIF pictures. Sources: ISO/IEC 14496-12, 23008-12.
+// Date, pixel size and length from the index boxes of movies and HEIF pictures. Sources: ISO/IEC 14496-12,
+// 23008-12.
 #include <algorithm>
 #include <cstring>
 #include <limits>
 
 #include "formats/Dates.h"
 #include "formats/IsoItemPlaces.h"
+#include "formats/PlayingTime.h"
 #include "formats/TiffDirectory.h"
 
 namespace vantor {
@@ -36,13 +38,36 @@ void largest(Facts& facts, std::uint32_t width, std::uint32_t height) {
     facts.height = height;
 }
 
-void movieHeader(ByteView& view, const IsoBox& box, Facts& facts) {
+// Of a length that nobody filled in all bits are set.
+std::uint64_t lengthMs(std::uint64_t units, bool wide, std::uint32_t perSecond) {
+    const std::uint64_t unset = wide ? ~std::uint64_t{0} : ~std::uint32_t{0};
+    return units == unset ? 0 : playingTimeMs(units, perSecond);
+}
+
+// Gives the units in a second, in which lengths are told.
+std::uint32_t movieHeader(ByteView& view, const IsoBox& box, Facts& facts) {
     Cursor in(view, box.body);
     const bool wide = in.u8() == 1;
     in.skip(3);
     const std::uint64_t created = wide ? in.u64() : in.u32();
     if (in.ok() && !facts.taken)
         facts.taken = dateFromSecondsSince1904(created);
+    in.skip(wide ? 8 : 4);
+    const auto perSecond = in.u32();
+    const std::uint64_t units = wide ? in.u64() : in.u32();
+    if (in.ok())
+        facts.durationMs = lengthMs(units, wide, perSecond);
+    return perSecond;
+}
+
+// A movie in fragments tells its length here, if at all.
+void fragmentsHeader(ByteView& view, const IsoBox& box, std::uint32_t perSecond, Facts& facts) {
+    Cursor in(view, box.body);
+    const bool wide = in.u8() == 1;
+    in.skip(3);
+    const std::uint64_t units = wide ? in.u64() : in.u32();
+    if (in.ok())
+        facts.durationMs = std::max(facts.durationMs, lengthMs(units, wide, perSecond));
 }
 
 void trackHeader(ByteView& view, const IsoBox& box, Facts& facts) {
@@ -141,16 +166,19 @@ std::uint64_t heifMeta(ByteView& view, const IsoBox& meta, Facts& facts) {
 std::uint64_t addIsoFacts(ByteView& view, const IsoBox& box, Facts& facts) {
     if (box.text() == "meta")
         return heifMeta(view, box, facts);
+    std::uint32_t perSecond = 0;
     forChildren(view, box.body, box.end, [&](const IsoBox& child) {
         if (child.text() == "mvhd")
-            movieHeader(view, child, facts);
+            perSecond = movieHeader(view, child, facts);
         if (child.text() == "uuid")
             canonBoxes(view, child, facts);
-        if (child.text() != "trak")
+        if (child.text() != "trak" && child.text() != "mvex")
             return;
         forChildren(view, child.body, child.end, [&](const IsoBox& part) {
             if (part.text() == "tkhd")
                 trackHeader(view, part, facts);
+            if (part.text() == "mehd")
+                fragmentsHeader(view, part, perSecond, facts);
         });
     });
     return 0;

@@ -54,6 +54,12 @@ bool isShown(const ItemFacts& facts, const BrowserWish& wish) {
 using SortKey = std::tuple<int, std::int64_t, QString>;
 constexpr int kNotKnown = 100;
 
+SortKey largestFirst(int rank, std::uint64_t number) {
+    return {number == 0 ? kNotKnown - 1 : rank,
+            -static_cast<std::int64_t>(std::min<std::uint64_t>(number, INT64_MAX)),
+            {}};
+}
+
 SortKey keyOf(const ItemFacts& facts, SortItems sort) {
     switch (sort) {
         case SortItems::AsFound:
@@ -88,12 +94,12 @@ SortKey keyOf(const ItemFacts& facts, SortItems sort) {
             return {kNotKnown - 1, 0, {}};
         case SortItems::Camera:
             return {soundness.camera.isEmpty() ? kNotKnown - 1 : 0, 0, soundness.camera.toCaseFolded()};
-        case SortItems::Pixels: {
-            const std::uint64_t pixels = std::uint64_t{soundness.width} * soundness.height;
-            return {pixels == 0 ? kNotKnown - 1 : 0,
-                    -static_cast<std::int64_t>(std::min<std::uint64_t>(pixels, INT64_MAX)),
-                    {}};
-        }
+        case SortItems::Pixels:
+            return largestFirst(0, std::uint64_t{soundness.width} * soundness.height);
+        case SortItems::Length:
+            return soundness.durationMs != 0
+                       ? largestFirst(0, soundness.durationMs)
+                       : largestFirst(1, std::uint64_t{soundness.width} * soundness.height);
         default:
             break;  // by the date
     }

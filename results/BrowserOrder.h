@@ -25,8 +25,21 @@ enum class ShowItems {
     Lost,
     Mended
 };
-// By Soundness whole items come first, by Size and Pixels the largest ones, by DateTaken the oldest.
-enum class SortItems { AsFound, Soundness, Size, DateTaken, OriginalName, Name, Type, Camera, Pixels, Place };
+// By Soundness whole items come first, by Size and Pixels the largest ones, by DateTaken the oldest, by
+// Length the longest, and behind what plays the largest pictures.
+enum class SortItems {
+    AsFound,
+    Soundness,
+    Size,
+    DateTaken,
+    OriginalName,
+    Name,
+    Type,
+    Camera,
+    Pixels,
+    Length,
+    Place
+};
 
 // Below these an item counts as small in the browser: what cameras and documents embed, not what people make.
 inline constexpr std::uint32_t kSmallPixels = 320;

@@ -43,6 +43,18 @@ QString pixelWords(const ItemFacts& known) {
                : QString();
 }
 
+QString lengthWords(const ItemFacts& known, std::int64_t durationMs) {
+    if (durationMs <= 0 && known.soundness) {
+        durationMs = static_cast<std::int64_t>(known.soundness->durationMs);
+    }
+    return durationMs > 0 ? timeText(durationMs) : QString();
+}
+
+QString extentWords(const ItemFacts& known, std::int64_t durationMs) {
+    const QString length = lengthWords(known, durationMs);
+    return length.isEmpty() ? pixelWords(known) : length;
+}
+
 // What the search published where nothing more is known.
 QString placeWords(const MyImageObject& item, const ItemFacts& known) {
     const auto& runs = item.carved().runs;
@@ -79,13 +91,11 @@ QString timeText(std::int64_t timeMs) {
 CaptionWords captionWords(const ItemFacts& known, std::int64_t durationMs) {
     constexpr qsizetype kDayLetters = 10;
     const QString day = dateWords(known).left(kDayLetters);
-    QString extent;
-    if (durationMs > 0) {
-        extent = timeText(durationMs);
-    } else if (known.soundness && known.soundness->width != 0) {
-        extent = QObject::tr("%1 × %2").arg(known.soundness->width).arg(known.soundness->height);
-    } else if (known.soundness) {
-        extent = sizeForPeople(known.soundness->bytes);
+    QString extent = lengthWords(known, durationMs);
+    if (extent.isEmpty() && known.soundness) {
+        extent = known.soundness->width != 0
+                     ? QObject::tr("%1 × %2").arg(known.soundness->width).arg(known.soundness->height)
+                     : sizeForPeople(known.soundness->bytes);
     }
     if (day.isEmpty() || extent.isEmpty()) {
         return {day + extent, day + extent};

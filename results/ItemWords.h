@@ -15,6 +15,10 @@ class MyImageObject;
 QString dateWords(const ItemFacts& known);
 // "4,000 × 3,000"; empty where the file does not tell.
 QString pixelWords(const ItemFacts& known);
+// "1:05", by what was played of it, else by what its head tells; empty where neither tells. The second gives
+// the pixels then.
+QString lengthWords(const ItemFacts& known, std::int64_t durationMs);
+QString extentWords(const ItemFacts& known, std::int64_t durationMs);
 // "sectors 4,096 to 8,191", as far as that is known, else what was found.
 QString placeWords(const MyImageObject& item, const ItemFacts& known);
 // "complete", "no file of its type", "not examined yet".

@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <utility>
 
+#include "catalogue/FileKind.h"
 #include "decode/ContentTrials.h"
 #include "formats/ExifCamera.h"
 #include "results/ItemBytes.h"
@@ -34,6 +35,12 @@ struct WatchedItem {
 };
 
 }  // namespace
+
+// Some pictures stand in a movie's boxes.
+std::uint64_t playingTimeOf(const QString& type, const Facts& facts) {
+    const FileKind kind = kindOfExtension(type);
+    return kind == FileKind::Video || kind == FileKind::Sound ? facts.durationMs : 0;
+}
 
 std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, SectorReader& medium,
                                  ReadWatch& watch, std::vector<std::uint8_t>& kept, std::uint64_t mostBytes,
@@ -67,6 +74,7 @@ std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, S
     soundness.width = facts.width;
     soundness.height = facts.height;
     soundness.taken = facts.taken;
+    soundness.durationMs = playingTimeOf(type, facts);
     // What was followed is in memory; nothing more is read for it.
     SpanSource beginning(bytes.keptFrom(0));
     soundness.camera = QString::fromStdString(cameraOf(beginning));

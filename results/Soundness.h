@@ -30,7 +30,8 @@ struct Soundness {
     std::shared_ptr<const CardFile> original = {};  // what the card tells of it; null: nothing certain
     std::size_t pieces = 1;                         // on the medium
     QString camera = {};                            // that took it, as the file says; "": not told
-    bool followed = false;  // as `checked`, where a movie's frames need not have been decoded
+    bool followed = false;         // as `checked`, where a movie's frames need not have been decoded
+    std::uint64_t durationMs = 0;  // of a movie or sound, as its head tells; 0: not told
 };
 
 // Follows the item's own structure on the medium as saving does, without saving. A file that takes more than
@@ -45,6 +46,9 @@ std::optional<Soundness> examine(const QString& type, const CarvedRun& carved, S
 FileDescriptor contentInMemory(const QString& type, const CarvedRun& carved, SectorReader& medium,
                                ReadWatch& watch, std::vector<std::uint8_t>& kept, std::uint64_t bytes,
                                const ItemHints& hints, const StopRequest& stop);
+
+// Milliseconds that a movie or sound plays, as its head tells; 0 of anything else.
+std::uint64_t playingTimeOf(const QString& type, const Facts& facts);
 
 // "complete", "cut off", "damaged" or "unknown", for machines.
 QString soundnessText(Verdict verdict);

@@ -155,6 +155,7 @@ bool ItemSaver::decideLength(const FoundItem& item, ItemBytes& found, SaveOutcom
         outcome.runs = truth.assembly->runs;
     }
     outcome.original = truth.file;
+    outcome.durationMs = playingTimeOf(item.type, facts);
     outcome.width = facts.width;
     outcome.height = facts.height;
     bytes.expect(length.bytes);
@@ -222,7 +223,8 @@ std::optional<Soundness> soundnessOf(const SaveOutcome& outcome) {
                      outcome.original,
                      outcome.pieces,
                      {},
-                     outcome.checked};
+                     outcome.checked,
+                     outcome.durationMs};
 }
 
 }  // namespace vantor

@@ -51,6 +51,7 @@ struct SaveOutcome {
     bool checked = false, framesOnly = false;
     bool exactLength = true;         // false: the format does not mark its end to the byte
     std::optional<CivilTime> taken;  // also the file's modification time
+    std::uint64_t durationMs = 0;    // of a movie or sound; 0: not told
     std::uint32_t width = 0;         // pixels; 0: not told
     std::uint32_t height = 0;
     QByteArray sha256;                         // raw; may be empty where the policy asks for none

@@ -1,9 +1,11 @@
 // ASF, WMV, WMA: header, data and index objects by their size. Source: Advanced Systems Format
 // specification 1.20.
+#include <algorithm>
 #include <array>
 
 #include "formats/Dates.h"
 #include "formats/Format.h"
+#include "formats/PlayingTime.h"
 
 namespace vantor {
 
@@ -44,6 +46,9 @@ Properties readHeader(ByteView& view, std::uint64_t end, Facts& facts) {
             const auto least = view.le32(at + 92), most = view.le32(at + 96);
             properties.packetBytes = least == most ? least.value_or(0) : 0;
             properties.broadcast = (view.le32(at + 88).value_or(0) & 1) != 0;
+            // Counted from before the beginning, by so many milliseconds as are to be read ahead.
+            const auto all = playingTimeMs(view.le64(at + 64).value_or(0), 10'000'000);
+            facts.durationMs = properties.broadcast ? 0 : all - std::min(all, view.le64(at + 80).value_or(0));
         } else if (view.matches(at, kAsfStream) && view.matches(at + kObjectHead, kVideo)) {
             facts.width = view.le32(at + 78).value_or(0);
             facts.height = view.le32(at + 82).value_or(0);

@@ -2,11 +2,13 @@
 // Sources: RFC 8794 (EBML), RFC 9559 (Matroska).
 #include <algorithm>
 #include <array>
+#include <bit>
 
 #include "formats/Among.h"
 #include "formats/Crc.h"
 #include "formats/Dates.h"
 #include "formats/Format.h"
+#include "formats/PlayingTime.h"
 
 namespace vantor {
 
@@ -15,7 +17,7 @@ namespace {
 constexpr std::uint32_t kEbml = 0x1A45DFA3, kSegment = 0x18538067, kVoid = 0xEC, kCrc = 0xBF;
 constexpr std::uint32_t kInfo = 0x1549A966, kTracks = 0x1654AE6B, kCluster = 0x1F43B675;
 constexpr std::uint32_t kTrackEntry = 0xAE, kMatroskaVideo = 0xE0, kPixelWidth = 0xB0, kPixelHeight = 0xBA,
-                        kDate = 0x4461;
+                        kDate = 0x4461, kTimeScale = 0x2AD7B1, kDuration = 0x4489;
 
 // Children of a segment: seek head, info, tracks, cluster, cues, attachments, chapters, tags.
 constexpr std::array<std::uint32_t, 10> kInSegment = {
@@ -72,13 +74,26 @@ std::optional<Element> readElement(ByteView& view, std::uint64_t at) {
     return element;
 }
 
-// Pixel size and date out of the info and track elements, entering only the masters that lead to them.
+// A floating-point number of four or eight bytes, of units of so many nanoseconds.
+std::uint64_t matroskaMs(std::uint64_t bits, std::uint64_t bytes, std::uint64_t unitNanoseconds) {
+    constexpr double kMostMilliseconds = 1e15;
+    const double units = bytes == 4   ? std::bit_cast<float>(static_cast<std::uint32_t>(bits))
+                         : bytes == 8 ? std::bit_cast<double>(bits)
+                                      : 0.0;
+    const double milliseconds = units * static_cast<double>(unitNanoseconds) / 1e6;
+    const bool sensible = milliseconds > 0 && milliseconds < kMostMilliseconds;
+    return sensible ? playingTimeMs(static_cast<std::uint64_t>(milliseconds), 1000) : 0;
+}
+
+// Pixel size, date and length out of the info and track elements, entering only the masters that lead to
+// them.
 void addFacts(ByteView& view, const Element& parent, Facts& facts) {
     std::uint64_t at = parent.body;
+    std::uint64_t unitNanoseconds = 1'000'000, length = 0, lengthBytes = 0;
     for (int i = 0; i < kMostFactElements && at < parent.end(); ++i) {
         const auto element = readElement(view, at);
         if (!element || element->unknownSize)
-            return;
+            break;
         const bool small = element->bytes >= 1 && element->bytes <= 8;
         const auto value = small ? view.number(element->body, element->bytes, Endian::Big).value_or(0) : 0;
         at = element->end();
@@ -90,7 +105,15 @@ void addFacts(ByteView& view, const Element& parent, Facts& facts) {
             facts.height = std::max(facts.height, static_cast<std::uint32_t>(value));
         else if (element->id == kDate && parent.id == kInfo)
             facts.taken = dateFromNanosecondsSince2001(static_cast<std::int64_t>(value));
+        else if (element->id == kTimeScale && parent.id == kInfo)
+            unitNanoseconds = value;
+        else if (element->id == kDuration && parent.id == kInfo) {
+            length = value;
+            lengthBytes = element->bytes;
+        }
     }
+    if (lengthBytes != 0)
+        facts.durationMs = matroskaMs(length, lengthBytes, unitNanoseconds);
 }
 
 // Whether a child of an element of unknown size looks like what it is said to be: nothing else tells the

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "formats/Format.h"
+#include "formats/PlayingTime.h"
 
 namespace vantor {
 
@@ -48,6 +49,40 @@ class TableContinuity {
     int m_last = -1;
 };
 
+// From the first to the last time that the stream's own clock tells.
+class StreamClock {
+  public:
+    void pass(ByteView& view, std::uint64_t packet, std::uint32_t head) {
+        constexpr std::uint32_t kAdaptation = 0x20;
+        constexpr std::uint8_t kTellsTime = 0x10;
+        constexpr std::uint64_t kLeastBytes = 7;
+        const std::uint32_t stream = head >> 8 & 0x1FFF;
+        if ((head & kAdaptation) == 0 || view.u8(packet + 4).value_or(0) < kLeastBytes ||
+            (view.u8(packet + 5).value_or(0) & kTellsTime) == 0 || (m_known && stream != m_stream))
+            return;
+        const auto told = view.number(packet + 6, 5, Endian::Big);
+        if (!told)
+            return;
+        m_last = *told >> 7;
+        if (!m_known)
+            m_first = m_last;
+        m_known = true;
+        m_stream = stream;
+    }
+    Facts facts() const {
+        constexpr std::uint64_t kPerSecond = 90000,
+                                kMost = (std::uint64_t{1} << 33) - 1;  // where it begins anew
+        Facts facts;
+        facts.durationMs = playingTimeMs((m_last - m_first) & kMost, kPerSecond);
+        return facts;
+    }
+
+  private:
+    bool m_known = false;
+    std::uint32_t m_stream = 0;
+    std::uint64_t m_first = 0, m_last = 0;
+};
+
 Extent walkMpegTs(ByteView& view) {
     const Layout* layout = nullptr;
     for (const auto& candidate : kLayouts) {
@@ -57,20 +92,22 @@ Extent walkMpegTs(ByteView& view) {
     if (layout == nullptr)
         return unknownExtent();
     TableContinuity tables;
+    StreamClock clock;
     std::uint64_t at = 0;
     for (;; at += layout->stride) {
         const auto head = view.be32(at + layout->lead);
         if (!head) {
             const bool whole = at == view.size();
-            return inexact(whole ? completeAt(view, at) : cutOffAt(view, at));
+            return inexact(whole ? completeAt(view, at, clock.facts()) : cutOffAt(view, at, clock.facts()));
         }
         const bool valid = *head >> 24 == 0x47 && (*head & 0x30) != 0;
         // A new recording begins at a sector's start; inside one the counter may jump.
         const bool other = valid && tables.breaks(*head) && isSectorStart(at);
         if (!valid || other)
-            return inexact(completeAt(view, at));
+            return inexact(completeAt(view, at, clock.facts()));
         if (!view.holds(at, layout->lead + kPacketBytes))
-            return inexact(cutOffAt(view, at));
+            return inexact(cutOffAt(view, at, clock.facts()));
+        clock.pass(view, at + layout->lead, *head);
     }
 }
 

@@ -79,7 +79,8 @@ class RiffWalk {
     std::uint64_t m_movie = 0;  // where the list of a movie's data has its name
     bool m_sound = true;        // so far as it was looked at
     bool m_looked = false;
-    bool m_small = false;  // its data was followed to the end
+    bool m_small = false;                // its data was followed to the end
+    std::uint32_t m_bytesPerSecond = 0;  // of a sound
     Facts m_facts;
 };
 
@@ -175,8 +176,8 @@ RiffWalk::Step RiffWalk::inner(std::uint64_t told) {
                 return Step::Unbounded;
             end = addClamped(chunk->body, m_wideData);
         }
-        addRiffFacts(m_view, {m_form.data(), m_form.size()}, chunk->text(), chunk->body, chunk->bytes,
-                     m_facts);
+        addRiffFacts(m_view, {m_form.data(), m_form.size()}, chunk->text(), chunk->body, end - chunk->body,
+                     m_bytesPerSecond, m_facts);
         const bool list = chunk->text() == "LIST" && m_view.matches(chunk->body, "movi");
         m_sawSamples = m_sawSamples || chunk->text() == "data" || chunk->text() == "SSND";
         m_sawPayload = m_sawPayload || chunk->text() != "LIST" ||
@@ -211,7 +212,7 @@ RiffWalk::Step RiffWalk::openMovie() {
         if (!chunk || (!piece && !isAmong(kOthers, chunk->text())))
             break;
         addRiffFacts(m_view, {m_form.data(), m_form.size()}, chunk->text(), chunk->body, chunk->bytes,
-                     m_facts);
+                     m_bytesPerSecond, m_facts);
         const bool list = chunk->text() == "LIST";
         if (list && m_view.matches(chunk->body, "movi") && m_movie == 0)
             m_movie = chunk->body;

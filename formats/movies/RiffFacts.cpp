@@ -1,11 +1,13 @@
-// Pixel size and date of AVI, WebP and WAV files. Sources: AVI RIFF File Reference, WebP container
-// specification, EBU Tech 3285 (broadcast extension).
+// Pixel size, date and length of AVI, WebP, WAV and AIFF files. Sources: AVI RIFF File Reference,
+// OpenDML 1.02, WebP container specification, EBU Tech 3285 (broadcast extension), Audio Interchange File
+// Format 1.3.
 #include "formats/movies/RiffFacts.h"
 
 #include <algorithm>
 #include <array>
 
 #include "formats/Dates.h"
+#include "formats/PlayingTime.h"
 #include "formats/TiffDirectory.h"
 
 namespace vantor {
@@ -48,17 +50,37 @@ std::optional<CivilTime> parseAviDate(std::string_view text) {
 
 void aviHeaders(ByteView& view, std::uint64_t from, std::uint64_t to, Facts& facts) {
     constexpr int kMostHeaders = 64;
+    std::uint64_t frameMicroseconds = 0, frames = 0;
     for (int i = 0; i < kMostHeaders && from + 8 <= to; ++i) {
         const std::uint64_t bytes = view.le32(from + 4).value_or(0);
         if (view.matches(from, "avih")) {
             facts.width = view.le32(from + 8 + 32).value_or(0);
             facts.height = view.le32(from + 8 + 36).value_or(0);
+            frameMicroseconds = view.le32(from + 8).value_or(0);
+            frames = view.le32(from + 8 + 16).value_or(0);
         }
+        // The first header counts the frames of the first gigabyte alone.
+        if (view.matches(from, "LIST") && view.matches(from + 8, "odmldmlh"))
+            frames = std::max<std::uint64_t>(frames, view.le32(from + 20).value_or(0));
         std::array<std::uint8_t, 24> text{};
         if (view.matches(from, "IDIT") && view.copy(from + 8, text))
             facts.taken = parseAviDate({reinterpret_cast<const char*>(text.data()), text.size()});
         from += 8 + bytes + bytes % 2;
     }
+    facts.durationMs = playingTimeMs(frameMicroseconds * frames, 1'000'000);
+}
+
+// The rate stands there as a floating-point number of ten bytes.
+void aiffCommon(ByteView& view, std::uint64_t body, Facts& facts) {
+    constexpr unsigned kExponentOfOne = 16383, kFractionBits = 63;
+    Cursor in(view, body);
+    in.skip(2);
+    const std::uint64_t samples = in.u32();
+    in.skip(2);
+    const unsigned exponent = in.u16();
+    const auto fraction = in.u64();
+    if (in.ok() && exponent >= kExponentOfOne && exponent <= kExponentOfOne + kFractionBits)
+        facts.durationMs = playingTimeMs(samples, fraction >> (kExponentOfOne + kFractionBits - exponent));
 }
 
 void webpChunk(ByteView& view, std::string_view name, std::uint64_t body, Facts& facts) {
@@ -101,13 +123,19 @@ void broadcastDate(ByteView& view, std::uint64_t body, Facts& facts) {
 }  // namespace
 
 void addRiffFacts(ByteView& view, std::string_view form, std::string_view name, std::uint64_t body,
-                  std::uint64_t bytes, Facts& facts) {
+                  std::uint64_t bytes, std::uint32_t& bytesPerSecond, Facts& facts) {
     if (form == "WEBP")
         webpChunk(view, name, body, facts);
     else if (form == "AVI " && name == "LIST" && view.matches(body, "hdrl"))
         aviHeaders(view, body + 4, std::min(body + bytes, view.size()), facts);
     else if (form == "WAVE" && name == "bext")
         broadcastDate(view, body, facts);
+    else if (form == "WAVE" && name == "fmt ")
+        bytesPerSecond = view.le32(body + 8).value_or(0);
+    else if (form == "WAVE" && name == "data")
+        facts.durationMs = playingTimeMs(bytes, bytesPerSecond);
+    else if (name == "COMM" && (form == "AIFF" || form == "AIFC"))
+        aiffCommon(view, body, facts);
 }
 
 }  // namespace vantor

@@ -2,6 +2,7 @@
 #include <array>
 
 #include "formats/Format.h"
+#include "formats/PlayingTime.h"
 #include "formats/sounds/FrameStream.h"
 
 namespace vantor {
@@ -16,13 +17,18 @@ Extent walkAmr(ByteView& view) {
     const bool wide = view.matches(0, "#!AMR-WB\n");
     if (!wide && !view.matches(0, "#!AMR\n"))
         return unknownExtent();
-    return walkFrames(view, wide ? 9 : 6, 1, [&](std::uint64_t at) -> std::uint64_t {
+    const auto frameBytes = [&](std::uint64_t at) -> std::uint64_t {
         const auto head = view.u8(at).value_or(0xFF);
         // A bad-quality frame of the lowest rate looks like the zeros of an empty sector: take it for these.
         if ((head & 0x83) != 0 || head == 0)
             return 0;
         return (wide ? kWide : kNarrow)[head >> 3 & 15];
-    });
+    };
+    constexpr std::uint64_t kFramesPerSecond = 50;
+    FrameRow row;
+    Extent extent = walkFrames(view, wide ? 9 : 6, 1, frameBytes, &row);
+    extent.facts.durationMs = playingTimeMs(row.frames, kFramesPerSecond);
+    return extent;
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "formats/AudioTags.h"
 #include "formats/Crc.h"
 #include "formats/Format.h"
+#include "formats/PlayingTime.h"
 
 namespace vantor {
 
@@ -240,20 +241,22 @@ Extent walkFlac(ByteView& view) {
     const auto packed = view.be64(first + 4 + 10).value_or(0);
     const auto bits = static_cast<unsigned>((packed >> 36 & 31) + 1);
     const std::uint64_t total = packed & 0xFFFFFFFFF;  // samples a channel; 0 = not told
+    Facts facts;
+    facts.durationMs = playingTimeMs(total, packed >> 44);
     std::uint64_t samples = 0;
     while (total == 0 || samples < total) {
         const Frame frame = readFrame(view, at, bits);
         if (!frame.valid && total == 0 && samples != 0 && !frame.cut)
-            return inexact(completeAt(view, skipTrailingTags(view, at)));
+            return inexact(completeAt(view, skipTrailingTags(view, at), facts));
         if (!frame.valid && samples == 0 && reserved != 0)
-            return damagedAt(view, reserved);
+            return damagedAt(view, reserved, facts);
         if (!frame.valid)
-            return frame.cut ? cutOffAt(view, total == 0 && at == view.size() ? at : view.size())
-                             : damagedAt(view, at);
+            return frame.cut ? cutOffAt(view, total == 0 && at == view.size() ? at : view.size(), facts)
+                             : damagedAt(view, at, facts);
         samples += frame.samples;
         at = frame.end;
     }
-    return completeAt(view, skipTrailingTags(view, at));
+    return completeAt(view, skipTrailingTags(view, at), facts);
 }
 
 }  // namespace

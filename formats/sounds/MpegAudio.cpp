@@ -3,12 +3,25 @@
 #include <array>
 
 #include "formats/AudioTags.h"
+#include "formats/PlayingTime.h"
 #include "formats/Registry.h"
 #include "formats/sounds/FrameStream.h"
 
 namespace vantor {
 
 namespace {
+
+// Samples a second; 0 = none of the rates there are.
+std::uint32_t sampleRate(std::uint32_t head) {
+    static constexpr std::array<std::uint32_t, 4> kRates = {44100, 48000, 32000, 0};
+    const auto version = head >> 19 & 3;
+    return kRates[head >> 10 & 3] >> (version == 3 ? 0 : version == 2 ? 1 : 2);
+}
+
+std::uint32_t samplesOfFrame(std::uint32_t head) {
+    const auto layer = 4 - (head >> 17 & 3);
+    return layer == 1 ? 384 : layer == 3 && (head >> 19 & 3) != 3 ? 576 : 1152;
+}
 
 std::uint64_t mpegAudioFrameBytes(std::uint32_t head) {
     static constexpr std::uint16_t kKilobits[5][16] = {
@@ -17,15 +30,13 @@ std::uint64_t mpegAudioFrameBytes(std::uint32_t head) {
         {0, 32, 40, 48, 56, 64, 80, 96, 112, 128, 160, 192, 224, 256, 320, 0},      // version 1, layer III
         {0, 32, 48, 56, 64, 80, 96, 112, 128, 144, 160, 176, 192, 224, 256, 0},     // version 2, layer I
         {0, 8, 16, 24, 32, 40, 48, 56, 64, 80, 96, 112, 128, 144, 160, 0}};  // version 2, layers II, III
-    static constexpr std::array<std::uint32_t, 4> kRates = {44100, 48000, 32000, 0};
     const auto version = head >> 19 & 3, layer = 4 - (head >> 17 & 3);
-    const auto rateBits = head >> 10 & 3;
-    if (head >> 21 != 0x7FF || version == 1 || layer == 4 || rateBits == 3)
+    const auto rate = sampleRate(head);
+    if (head >> 21 != 0x7FF || version == 1 || layer == 4 || rate == 0)
         return 0;
     const bool first = version == 3;
     const auto table = first ? layer - 1 : layer == 1 ? 3 : 4;
     const std::uint32_t bits = kKilobits[table][head >> 12 & 15] * 1000U;
-    const auto rate = kRates[rateBits] >> (version == 3 ? 0 : version == 2 ? 1 : 2);
     const auto padding = head >> 9 & 1;
     if (bits == 0)
         return 0;
@@ -80,6 +91,7 @@ Extent walkMpegAudio(ByteView& view) {
     };
     FrameRow row;
     Extent extent = walkFrames(view, start, start != 0 ? 1 : kProofFrames, frameBytes, &row);
+    extent.facts.durationMs = playingTimeMs(row.frames * samplesOfFrame(first), sampleRate(first));
     const auto told = toldFrames(view, start, first);
     const bool all = told != 0 && told + 1 == row.frames && !row.tornTag;
     // Where they end with a sector, a tag may have stood in the next.

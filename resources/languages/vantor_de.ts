@@ -2933,6 +2933,10 @@ Läuft auf %2.</translation>
         <translation>Nach Pixeln</translation>
     </message>
     <message>
+        <source>By length</source>
+        <translation>Nach Länge</translation>
+    </message>
+    <message>
         <source>By place on the card</source>
         <translation>Nach Ort auf der Karte</translation>
     </message>

@@ -2933,6 +2933,10 @@ Se ejecuta en %2.</translation>
         <translation>Por píxeles</translation>
     </message>
     <message>
+        <source>By length</source>
+        <translation>Por duración</translation>
+    </message>
+    <message>
         <source>By place on the card</source>
         <translation>Por lugar en la tarjeta</translation>
     </message>

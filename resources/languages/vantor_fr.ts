@@ -2933,6 +2933,10 @@ Fonctionne avec %2.</translation>
         <translation>Par pixels</translation>
     </message>
     <message>
+        <source>By length</source>
+        <translation>Par durée</translation>
+    </message>
+    <message>
         <source>By place on the card</source>
         <translation>Par emplacement sur la carte</translation>
     </message>

@@ -2933,6 +2933,10 @@ In esecuzione su %2.</translation>
         <translation>Per pixel</translation>
     </message>
     <message>
+        <source>By length</source>
+        <translation>Per durata</translation>
+    </message>
+    <message>
         <source>By place on the card</source>
         <translation>Per posizione sulla scheda</translation>
     </message>

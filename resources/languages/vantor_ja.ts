@@ -2900,6 +2900,10 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <translation>画素数順</translation>
     </message>
     <message>
+        <source>By length</source>
+        <translation>長さ順</translation>
+    </message>
+    <message>
         <source>By place on the card</source>
         <translation>カード上の位置順</translation>
     </message>

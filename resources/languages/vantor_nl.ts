@@ -2933,6 +2933,10 @@ Wordt uitgevoerd op %2.</translation>
         <translation>Op pixels</translation>
     </message>
     <message>
+        <source>By length</source>
+        <translation>Op lengte</translation>
+    </message>
+    <message>
         <source>By place on the card</source>
         <translation>Op plaats op de kaart</translation>
     </message>

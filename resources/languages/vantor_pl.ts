@@ -2966,6 +2966,10 @@ Działa w systemie %2.</translation>
         <translation>Według pikseli</translation>
     </message>
     <message>
+        <source>By length</source>
+        <translation>Według długości</translation>
+    </message>
+    <message>
         <source>By place on the card</source>
         <translation>Według miejsca na karcie</translation>
     </message>

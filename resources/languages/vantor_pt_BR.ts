@@ -2933,6 +2933,10 @@ Executando em %2.</translation>
         <translation>Por pixels</translation>
     </message>
     <message>
+        <source>By length</source>
+        <translation>Por duração</translation>
+    </message>
+    <message>
         <source>By place on the card</source>
         <translation>Por local no cartão</translation>
     </message>

@@ -2900,6 +2900,10 @@ Running on %2.</source>
         <translation>按像素</translation>
     </message>
     <message>
+        <source>By length</source>
+        <translation>按时长</translation>
+    </message>
+    <message>
         <source>By place on the card</source>
         <translation>按卡上位置</translation>
     </message>

@@ -115,6 +115,20 @@ TEST_F(BrowserOrder, TheOtherWayRound_WhatIsNotKnownStaysLast) {
     EXPECT_EQ(browserOrder(6, wish, factsOf), (QList<int>{5, 4, 3, 2, 1, 0}));
 }
 
+TEST_F(BrowserOrder, ByLength_TheLongestFirst_ThenThePictures) {
+    const auto factsOf = [this](int place) { return items[static_cast<std::size_t>(place)]; };
+    items[1].soundness->durationMs = 5000;
+    items[5].soundness->durationMs = 65'000;
+    BrowserWish wish;
+    wish.sort = SortItems::Length;
+    EXPECT_TRUE(wish.needsSoundness());
+    EXPECT_EQ(browserOrder(6, wish, factsOf), (QList<int>{5, 1, 0, 3, 4, 2}));
+    items[4].soundness->width = 0;
+    wish.reversed = true;
+    EXPECT_EQ(browserOrder(6, wish, factsOf), (QList<int>{3, 0, 1, 5, 4, 2}))
+        << "what tells neither stays last";
+}
+
 TEST_F(BrowserOrder, NamesTypesAndPlaces_NeedNoLookAtTheItems) {
     const auto factsOf = [this](int place) { return items[static_cast<std::size_t>(place)]; };
     items[2].name = QStringLiteral("b.jpg");

@@ -150,6 +150,11 @@ TEST(DetailsColumns, WhatIsKnown_StandsInItsColumn) {
     EXPECT_EQ(detailsText(DetailsColumn::Camera, *item, facts, nullptr), QStringLiteral("Canon"));
     EXPECT_EQ(detailsText(DetailsColumn::Extent, *item, facts, nullptr), QStringLiteral("4,000 × 3,000"));
     EXPECT_EQ(detailsText(DetailsColumn::Extent, *item, facts, &movie), QStringLiteral("1:05"));
+    facts.soundness->durationMs = 3'725'000;
+    EXPECT_EQ(detailsText(DetailsColumn::Extent, *item, facts, nullptr), QStringLiteral("1:02:05"));
+    EXPECT_EQ(detailsText(DetailsColumn::Extent, *item, facts, &movie), QStringLiteral("1:05"))
+        << "what played knows better than the head";
+    EXPECT_EQ(captionWords(facts, 0).all, QStringLiteral("2026-05-07 · 1:02:05"));
     EXPECT_TRUE(detailsText(DetailsColumn::State, *item, facts, nullptr).endsWith(QStringLiteral(", saved")));
     EXPECT_EQ(detailsText(DetailsColumn::Place, *item, facts, nullptr), QStringLiteral("sectors 50 to 59"));
 }

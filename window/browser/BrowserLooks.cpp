@@ -74,6 +74,7 @@ void BrowserLooks::fillBoxes() {
         {tr("By type"), SortItems::Type},
         {tr("By camera"), SortItems::Camera},
         {tr("By pixels"), SortItems::Pixels},
+        {tr("By length"), SortItems::Length},
         {tr("By place on the card"), SortItems::Place},
     };
     for (const BrowserScreen& screen : m_screens) {

@@ -38,7 +38,7 @@ Column columnAt(DetailsColumn column) {
         case DetailsColumn::Camera:
             return {DetailsHeader::tr("Camera"), SortItems::Camera, 18};
         case DetailsColumn::Extent:
-            return {DetailsHeader::tr("Pixels or length"), SortItems::Pixels, 14};
+            return {DetailsHeader::tr("Pixels or length"), SortItems::Length, 14};
         case DetailsColumn::State:
             return {DetailsHeader::tr("State"), SortItems::Soundness, 22};
         case DetailsColumn::Place:
@@ -69,8 +69,7 @@ QString detailsText(DetailsColumn column, const MyImageObject& item, const ItemF
         case DetailsColumn::Camera:
             return facts.soundness ? facts.soundness->camera : QString();
         case DetailsColumn::Extent:
-            return picture != nullptr && picture->durationMs > 0 ? timeText(picture->durationMs)
-                                                                 : pixelWords(facts);
+            return extentWords(facts, picture != nullptr ? picture->durationMs : 0);
         case DetailsColumn::State:
             return facts.saved ? DetailsHeader::tr("%1, saved").arg(stateWords(facts)) : stateWords(facts);
         case DetailsColumn::Place:
