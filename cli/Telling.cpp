@@ -178,16 +178,21 @@ int tell(CliSession& session, const CliOptions& options, const CliMedium& medium
         complain(QObject::tr("What was found cannot be written to the standard output."));
         return kExitDestinationTrouble;
     }
-    const int code = exitCodeOf(session);
+    QStringList troubles;
     if (medium.image && medium.image->wasWrittenTo()) {
-        complain(wordsForWrittenTo());
-        return code == kExitCompleted ? kExitReadError : code;
+        troubles << wordsForWrittenTo();
+    }
+    if (session.cardIsUnread()) {
+        troubles << unreadCardWords();
     }
     if (!allRead) {
-        complain(QObject::tr("Not all items could be read once more; those have no checksum."));
-        return code == kExitCompleted ? kExitReadError : code;
+        troubles << QObject::tr("Not all items could be read once more; those have no checksum.");
     }
-    return code;
+    for (const QString& trouble : troubles) {
+        complain(trouble);
+    }
+    const int code = exitCodeOf(session);
+    return code == kExitCompleted && !troubles.isEmpty() ? kExitReadError : code;
 }
 
 bool tellCopy(const MediumCopy& copy, const CliOptions& options) {

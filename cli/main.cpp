@@ -8,8 +8,10 @@
 #include "cli/Recovery.h"
 #include "decode/EvidenceHelper.h"
 #include "media/PathArgument.h"
+#include "media/ProcessManners.h"
 
 int main(int argc, char** argv) {
+    vantor::settleIntoTheProcess();
     const QCoreApplication application(argc, argv);
     const vantor::AskedLanguage arguments = vantor::takeLanguage(vantor::argumentsFromBytes(argc, argv));
     // What programs read is the same everywhere.
@@ -19,6 +21,7 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "vantor-recovery-cli: %s\n", qPrintable(*refusal));
         return vantor::kExitBadUsage;
     }
+    vantor::endClearlyWithoutMemory(vantor::kExitDestinationTrouble);
     const vantor::ParsedOptions parsed = vantor::parseOptions(arguments.rest);
     if (parsed.exitCode) {
         std::fprintf(*parsed.exitCode == vantor::kExitCompleted ? stdout : stderr, "%s\n",

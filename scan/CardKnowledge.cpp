@@ -84,6 +84,7 @@ std::vector<std::shared_ptr<const CardFile>> ScanSession::toldFiles(std::uint64_
 
 void ScanSession::forgetCard() {
     m_traces = m_askCard ? std::make_unique<CardCollector>() : nullptr;
+    m_cardIsUnread = false;
     const std::lock_guard lock(m_listLock);
     m_card.reset();
 }
@@ -108,6 +109,7 @@ void ScanSession::learnOfCard(bool stopped) {
     options.stop = [this, stopped] { return stopped || stop_now == 1; };
     auto table =
         readCardInHelper(watched, medium->mediumSectors(), m_traces->traces(), found, std::move(options));
+    m_cardIsUnread = !table && !medium->isGone() && !stopped && stop_now != 1;
     if (!table) {
         return;
     }

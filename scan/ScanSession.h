@@ -134,6 +134,8 @@ class ScanSession : public HexText {
     void setAskCard(bool ask) { m_askCard = ask; }
     // What they told, of the last search; null as long as that is not known. Any thread.
     std::shared_ptr<const CardIndex> card() const;
+    // Whether they could not be read although nobody stopped that, in the last search. Any thread.
+    bool cardIsUnread() const { return m_cardIsUnread; }
     // Files in the searched range that no item is and that only the directories tell of; `beyondRoom` as with
     // toldOnly().
     std::vector<std::shared_ptr<const CardFile>> toldFiles(std::uint64_t* beyondRoom = nullptr) const;
@@ -294,6 +296,7 @@ class ScanSession : public HexText {
     std::unique_ptr<CardCollector> m_traces;  // in the passes of a search that asks the card
     ReadWatch m_cardWatch;
     std::shared_ptr<const CardIndex> m_card;  // guarded by listLock()
+    std::atomic<bool> m_cardIsUnread = false;
     MediumOpener m_openMedium;
     const std::shared_ptr<RefusedSectors> m_refusals = std::make_shared<RefusedSectors>();
     bool m_hasSearched = false;

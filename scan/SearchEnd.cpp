@@ -66,6 +66,11 @@ QString searchEndHeadline(const SearchEnd& end) {
     return QObject::tr("%1 ended with a read error at %2.").arg(search(end), place(end));
 }
 
+QString unreadCardWords() {
+    return QObject::tr("The medium's directories could not be read.") + u' ' +
+           QObject::tr("Names of files, and files that only the directories tell of, may be missing.");
+}
+
 QString goOnWords() {
     return QObject::tr("Press “Go On” to search the rest.");
 }

@@ -50,6 +50,8 @@ struct SearchEnd {
 
 // "The search was stopped at 34 % (sector 12,345 of 36,000)."
 QString searchEndHeadline(const SearchEnd& end);
+// Where the card's own directories could not be read.
+QString unreadCardWords();
 // For searches that can go on: the window has a button of that name.
 QString goOnWords();
 // What the window's user may do next; empty when there is nothing to do.

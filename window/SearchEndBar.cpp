@@ -35,6 +35,9 @@ void MyTableController::showSearchEnd() {
     if (written) {
         sentences << wordsForWrittenTo();
     }
+    if (cardIsUnread()) {
+        sentences << unreadCardWords();
+    }
     if (m_readsAsErased && itemCount() == 0) {
         sentences << erasedCardWords();
     }

@@ -13,6 +13,7 @@
 #include "decode/EvidenceHelper.h"
 #include "media/PathArgument.h"
 #include "media/PlatformMedia.h"
+#include "media/ProcessManners.h"
 #include "media/UdisksEjector.h"
 #include "saving/DestinationCheck.h"
 #include "window/CommandLine.h"
@@ -140,6 +141,7 @@ std::optional<int> answerWithoutWindow(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    settleIntoTheProcess();
     QCoreApplication::setApplicationName(QStringLiteral("vantor-recovery"));
     QCoreApplication::setApplicationVersion(QStringLiteral(VANTOR_VERSION));
     if (const auto code = answerWithoutWindow(argc, argv)) {
@@ -155,6 +157,7 @@ int main(int argc, char** argv) {
     if (const auto code = speakAsAsked(arguments)) {
         return *code;
     }
+    endClearlyWithoutMemory(EXIT_FAILURE);
     const CommandLine line = readCommandLine(arguments.rest, QApplication::applicationVersion());
     if (line.exitCode) {
         return print(line);

@@ -1573,6 +1573,14 @@ Fehler beim Lesen des Speichermediums.</translation>
         <translation>Die Verzeichnisse des Mediums konnten nicht gelesen werden.</translation>
     </message>
     <message>
+        <source>Names of files, and files that only the directories tell of, may be missing.</source>
+        <translation>Namen von Dateien und Dateien, von denen nur die Verzeichnisse wissen, können fehlen.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to go on. What was saved until now is whole.</source>
+        <translation>Der Arbeitsspeicher reicht nicht, um weiterzumachen. Was bis jetzt gespeichert wurde, ist vollständig.</translation>
+    </message>
+    <message>
         <source>Name</source>
         <translation>Name</translation>
     </message>

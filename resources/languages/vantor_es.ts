@@ -1573,6 +1573,14 @@ Error al leer el medio de almacenamiento.</translation>
         <translation>No se pudieron leer los directorios del medio.</translation>
     </message>
     <message>
+        <source>Names of files, and files that only the directories tell of, may be missing.</source>
+        <translation>Pueden faltar nombres de archivos y archivos de los que solo informan los directorios.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to go on. What was saved until now is whole.</source>
+        <translation>No hay memoria suficiente para continuar. Lo guardado hasta ahora está completo.</translation>
+    </message>
+    <message>
         <source>Name</source>
         <translation>Nombre</translation>
     </message>

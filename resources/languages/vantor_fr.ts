@@ -1573,6 +1573,14 @@ Erreur de lecture du support de stockage.</translation>
         <translation>Les répertoires du support n&apos;ont pas pu être lus.</translation>
     </message>
     <message>
+        <source>Names of files, and files that only the directories tell of, may be missing.</source>
+        <translation>Des noms de fichiers, et des fichiers que seuls les répertoires indiquent, peuvent manquer.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to go on. What was saved until now is whole.</source>
+        <translation>Il n’y a pas assez de mémoire pour continuer. Ce qui a été enregistré jusqu’ici est entier.</translation>
+    </message>
+    <message>
         <source>Name</source>
         <translation>Nom</translation>
     </message>

@@ -1573,6 +1573,14 @@ Errore di lettura del supporto di memoria.</translation>
         <translation>Impossibile leggere le directory del supporto.</translation>
     </message>
     <message>
+        <source>Names of files, and files that only the directories tell of, may be missing.</source>
+        <translation>Possono mancare nomi di file e file indicati soltanto dalle directory.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to go on. What was saved until now is whole.</source>
+        <translation>La memoria non basta per continuare. Quanto salvato finora è integro.</translation>
+    </message>
+    <message>
         <source>Name</source>
         <translation>Nome</translation>
     </message>

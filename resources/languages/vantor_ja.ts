@@ -1549,6 +1549,14 @@ Error in storage media reading.</source>
         <translation>メディアのディレクトリーを読み取れませんでした。</translation>
     </message>
     <message>
+        <source>Names of files, and files that only the directories tell of, may be missing.</source>
+        <translation>ファイル名や、ディレクトリだけに記録されているファイルが欠けている可能性があります。</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to go on. What was saved until now is whole.</source>
+        <translation>メモリが足りないため続行できません。これまでに保存されたものは完全です。</translation>
+    </message>
+    <message>
         <source>Name</source>
         <translation>名前</translation>
     </message>

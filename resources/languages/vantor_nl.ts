@@ -1573,6 +1573,14 @@ Fout bij het lezen van het opslagmedium.</translation>
         <translation>De mappenlijsten van het medium konden niet worden gelezen.</translation>
     </message>
     <message>
+        <source>Names of files, and files that only the directories tell of, may be missing.</source>
+        <translation>Namen van bestanden, en bestanden die alleen in de mappenlijsten staan, kunnen ontbreken.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to go on. What was saved until now is whole.</source>
+        <translation>Er is te weinig geheugen om door te gaan. Wat tot nu toe is opgeslagen, is volledig.</translation>
+    </message>
+    <message>
         <source>Name</source>
         <translation>Naam</translation>
     </message>

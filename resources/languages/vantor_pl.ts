@@ -1597,6 +1597,14 @@ Błąd odczytu nośnika danych.</translation>
         <translation>Nie dało się odczytać katalogów nośnika.</translation>
     </message>
     <message>
+        <source>Names of files, and files that only the directories tell of, may be missing.</source>
+        <translation>Może brakować nazw plików oraz plików, o których mówią tylko katalogi.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to go on. What was saved until now is whole.</source>
+        <translation>Brakuje pamięci, aby kontynuować. To, co zapisano do tej pory, jest całe.</translation>
+    </message>
+    <message>
         <source>Name</source>
         <translation>Nazwa</translation>
     </message>

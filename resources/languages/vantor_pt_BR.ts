@@ -1573,6 +1573,14 @@ Erro ao ler a mídia de armazenamento.</translation>
         <translation>Não foi possível ler os diretórios da mídia.</translation>
     </message>
     <message>
+        <source>Names of files, and files that only the directories tell of, may be missing.</source>
+        <translation>Podem faltar nomes de arquivos e arquivos que só os diretórios indicam.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to go on. What was saved until now is whole.</source>
+        <translation>Não há memória suficiente para continuar. O que foi salvo até agora está inteiro.</translation>
+    </message>
+    <message>
         <source>Name</source>
         <translation>Nome</translation>
     </message>

@@ -1549,6 +1549,14 @@ Error in storage media reading.</source>
         <translation>无法读取介质的目录。</translation>
     </message>
     <message>
+        <source>Names of files, and files that only the directories tell of, may be missing.</source>
+        <translation>可能缺少文件名，以及只有目录中才有记录的文件。</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to go on. What was saved until now is whole.</source>
+        <translation>内存不足，无法继续。到目前为止保存的内容是完整的。</translation>
+    </message>
+    <message>
         <source>Name</source>
         <translation>名称</translation>
     </message>

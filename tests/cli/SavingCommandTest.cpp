@@ -285,4 +285,15 @@ TEST(SavingCommand, FullDiskLeavesWholeFilesOnlyAndTellsTheRest) {
     }
 }
 
+// The list is told before the report is written.
+TEST(Command, ReportIsWrittenWhereNobodyReadsTheList) {
+    const QTemporaryDir folder;
+    const CommandRun run =
+        runCommand({"-c", R"("$0" --list-json --save "$1" --report "$2" | true; exit "${PIPESTATUS[0]}")",
+                    VANTOR_CLI, folder.path(), VANTOR_SAMPLE_CARD},
+                   QStringLiteral("bash"));
+    EXPECT_EQ(run.exitCode, 6);
+    EXPECT_TRUE(QFile::exists(folder.filePath("Recovery report.csv")));
+}
+
 }  // namespace vantor
