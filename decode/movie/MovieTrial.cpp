@@ -7,8 +7,11 @@
 #include <chrono>
 #include <cstdarg>
 #include <limits>
+#include <optional>
+#include <span>
 
 #include "decode/DecodeProtocol.h"
+#include "decode/movie/CodedUnits.h"
 #include "decode/movie/LimitedFormat.h"
 
 extern "C" {
@@ -97,6 +100,12 @@ class TriedStream {
     TriedStream(AVFormatContext& format, AVMediaType kind)
         : m_index(av_find_best_stream(&format, kind, -1, -1, nullptr, 0)) {
         m_codec = m_index < 0 ? nullptr : decoderOf(*format.streams[m_index]);
+        if (m_codec && m_codec->codec_id == AV_CODEC_ID_H264) {
+            // The container's record begins with its version, 1, and tells how long the lengths are.
+            constexpr int kRecordBytes = 7;
+            const bool isRecord = m_codec->extradata_size >= kRecordBytes && m_codec->extradata[0] == 1;
+            m_lengthBytes = isRecord ? (m_codec->extradata[4] & 3U) + 1 : 0;
+        }
     }
 
     bool has(const AVPacket& packet) const { return m_codec && packet.stream_index == m_index; }
@@ -110,6 +119,10 @@ class TriedStream {
         if (!m_codec) {
             return;
         }
+        if (packet != nullptr && m_lengthBytes) {
+            const std::span units(packet->data, static_cast<std::size_t>(std::max(packet->size, 0)));
+            m_errors += hasForbiddenZeros(units, *m_lengthBytes) ? 1 : 0;
+        }
         m_errors += avcodec_send_packet(m_codec.get(), packet) < 0 ? 1 : 0;
         int received = 0;
         while ((received = avcodec_receive_frame(m_codec.get(), m_frame.get())) >= 0) {
@@ -122,6 +135,7 @@ class TriedStream {
   private:
     int m_index;
     Codec m_codec;
+    std::optional<unsigned> m_lengthBytes;  // of H.264's units; 0: start codes
     RawFrame m_frame{av_frame_alloc()};
     std::uint32_t m_frames = 0;
     std::uint32_t m_errors = 0;

@@ -169,7 +169,7 @@ Extent walkIsoMedia(ByteView& view) {
     const bool lastKnown = !walk.seen.fragment || walk.seen.fragmentIndex;
     if (check.outcome != ContentCheck::Outcome::Sound || !lastKnown)
         return extent;
-    return walk.movie || walk.seen.fragment ? withFrames(extent) : withContent(extent);
+    return withFrames(extent);
 }
 
 }  // namespace

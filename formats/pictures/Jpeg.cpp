@@ -272,7 +272,7 @@ std::optional<Extent> JpegWalk::motionPhoto() {
     for (auto sign = movieEnd; at != m_at && end == movieEnd && sign < movieEnd + kTrailerReach; ++sign)
         end = m_view.matches(sign, "SEFT") ? sign + 4 : end;
     const Extent whole = completeAt(m_view, end, m_facts);
-    return movie.checked ? withContent(whole) : whole;
+    return !movie.checked ? whole : movie.framesOnly ? withFrames(whole) : withContent(whole);
 }
 
 // One picture from SOI to EOI.
