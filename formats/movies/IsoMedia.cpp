@@ -13,12 +13,12 @@ namespace vantor {
 
 namespace {
 
-constexpr std::array<std::string_view, 29> kTopLevelNames = {
-    "ftyp", "moov", "mdat", "free", "skip", "wide", "pnot", "PICT", "uuid", "moof",
-    "mfra", "sidx", "ssix", "styp", "meta", "prft", "emsg", "pdin", "udta", "junk",
-    "meco", "imda", "idat", "thum", "mfro", "bloc", "prev", "sefd", "mpvd"};  // trailers of phones: their
-                                                                              // notes, a movie behind a
-                                                                              // picture
+// The last ones are a phone's notes and the movie behind a picture, and what action cameras, recorders and
+// drones leave behind a movie. Source of these: ExifTool's public tables of QuickTime tags.
+constexpr std::array<std::string_view, 34> kTopLevelNames = {
+    "ftyp", "moov", "mdat", "free", "skip", "wide", "pnot", "PICT", "uuid", "moof", "mfra", "sidx",
+    "ssix", "styp", "meta", "prft", "emsg", "pdin", "udta", "junk", "meco", "imda", "idat", "thum",
+    "mfro", "bloc", "prev", "sefd", "mpvd", "inst", "ardt", "frea", "gps ", "GPS "};
 
 // Boxes that can stand first in a file of this family.
 constexpr std::array<std::string_view, 10> kFirstNames = {"ftyp", "moov", "mdat", "wide", "free",

@@ -245,8 +245,11 @@ Extent JpegWalk::furtherPictures() {
 std::optional<Extent> JpegWalk::motionPhoto() {
     constexpr std::string_view kBlockName = "MotionPhoto_Data";
     std::uint64_t at = m_at;
-    if (const auto end = endOfMakerTrailer(m_view, at))
-        return withContent(completeAt(m_view, end, m_facts));
+    auto trailer = endOfMakerTrailer(m_view, at);
+    if (trailer == 0)
+        trailer = endOfRecipeTrailer(m_view, at);
+    if (trailer != 0)
+        return withContent(completeAt(m_view, trailer, m_facts));
     const auto sphere = m_seesAround ? endOfSphereTrailer(m_view, at) : 0;
     if (sphere != 0)
         return completeAt(m_view, sphere, m_facts);
@@ -326,6 +329,10 @@ Extent JpegWalk::walkFile() {
         motion->checked = motion->checked && all.checked;
         return *motion;
     }
+    // Some programs write the end mark twice.
+    if (!isSectorStart(all.end) && m_view.matches(all.end, "\xFF\xD9"))
+        all.end += 2;
+    all.end = behindStrayText(m_view, all.end);
     return all;
 }
 

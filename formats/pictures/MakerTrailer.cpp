@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "formats/TextReader.h"
+
 namespace vantor {
 
 namespace {
@@ -66,6 +68,30 @@ std::uint64_t endOfSphereTrailer(ByteView& view, std::uint64_t at) {
             return end;
     }
     return 0;
+}
+
+std::uint64_t endOfRecipeTrailer(ByteView& view, std::uint64_t at) {
+    constexpr std::string_view kSign("CANON OPTIONAL DATA\0", 20);
+    constexpr std::uint64_t kHead = 28, kFoot = 64, kMost = 64 * 1024 * 1024;
+    if (!view.matches(at, kSign))
+        return 0;
+    const std::uint64_t bytes = view.be32(at + kHead - 4).value_or(0);
+    const auto foot = at + kHead + bytes;
+    return bytes <= kMost && view.matches(foot, kSign) && view.holds(foot, kFoot) ? foot + kFoot : 0;
+}
+
+std::uint64_t behindStrayText(ByteView& view, std::uint64_t at) {
+    constexpr std::uint64_t kLeast = 12, kMost = 4096, kFewLetters = 3;
+    if (isSectorStart(at))
+        return at;
+    const auto isAscii = [](int byte) { return isTextSpace(byte) || (byte > ' ' && byte < 0x7F); };
+    auto end = at, line = at;
+    while (end - at < kMost && isAscii(view.u8(end).value_or(0)))
+        line = view.u8(end++) == '\n' ? end : line;
+    if (end - at < kLeast)
+        return view.matches(at, "\r\n") ? at + 2 : at;
+    // Foreign bytes may begin with some letters.
+    return view.u8(end).value_or(0) != 0 && end - line <= kFewLetters && line != at ? line : end;
 }
 
 }  // namespace vantor

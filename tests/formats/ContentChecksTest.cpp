@@ -423,7 +423,7 @@ TEST(LeftBehind, AFewBytesBeforeAnEmptyRestOfTheSector_AreTheFiles) {
     EXPECT_EQ(end(Build().text("\r\nend").fill(2000)), picture.size() + 5);
     // What fills the sector, or reaches far into it, lay there before.
     EXPECT_EQ(end(noise(2000, 7)), picture.size());
-    EXPECT_EQ(end(Build().fill(100, 0x41).fill(2000)), picture.size());
+    EXPECT_EQ(end(Build().fill(100, 0xC1).fill(2000)), picture.size());
     EXPECT_EQ(end(Bytes(2000, 0)), picture.size());
 }
 

@@ -134,6 +134,46 @@ TEST(Jpeg, MovieBehindThePicture_BelongsToAMotionPhoto) {
     EXPECT_EQ(walkBytes("JPG", whole).end, whole.size());
 }
 
+TEST(Jpeg, RecipeOfARawConverter_BelongsToTheFile) {
+    const auto photo = [](std::uint64_t told) {
+        const std::string sign("CANON OPTIONAL DATA\0", 20);
+        Build out;
+        out.add(jpeg()).text(sign).be32(0x10000).be32(told).fill(700, 0xE1);
+        return out.text(sign).be32(told).fill(38, 1).be16(0xFFD9).bytes();
+    };
+    const Bytes whole = photo(700);
+    for (const Bytes& tail : {Bytes(), Bytes(3000, 0), noise(3000, 4)})
+        EXPECT_EQ(walkBytes("JPG", Build().add(whole).add(tail)).end, whole.size());
+    EXPECT_LT(walkBytes("JPG", photo(699)).end, 700U);
+}
+
+TEST(Jpeg, WordsBehindTheEnd_BelongToTheFile) {
+    const Bytes picture = jpeg();
+    for (const std::string_view words :
+         {"\r\n", "\xFF\xD9", "\r\n--5D9144052FC54--", "\xFF\xD9 two words more\n"}) {
+        const Bytes whole = Build().add(picture).text(words);
+        EXPECT_EQ(walkBytes("JPG", Build().add(whole).fill(900, 0xA7)).end, whole.size());
+        EXPECT_EQ(walkBytes("JPG", Build().add(whole).fill(900)).end, whole.size());
+    }
+    const Bytes line = Build().add(picture).text("a whole line\n");
+    EXPECT_EQ(walkBytes("JPG", Build().add(line).text("xy").fill(900, 0xA7)).end, line.size());
+    for (const std::string_view few : {"\n", "letters"})
+        EXPECT_EQ(walkBytes("JPG", Build().add(picture).text(few).fill(900, 0xA7)).end, picture.size());
+    // In the next sector they are another's.
+    const Bytes note = Build().fill(512 - 4 - picture.size() % 512, 7);
+    const Bytes full = jpeg(Build().be16(0xFFFE).be16(2 + note.size()).add(note));
+    ASSERT_EQ(full.size() % 512, 0U);
+    EXPECT_EQ(walkBytes("JPG", Build().add(full).text("letters of another file\n")).end, full.size());
+}
+
+TEST(IsoMedia, BoxOfAnActionCameraBehindTheMovie_BelongsToTheFile) {
+    for (const char* const name : {"inst", "GPS "}) {
+        const Bytes whole = Build().add(movie()).add(isoBox(name, Bytes(300, 0xA7)));
+        EXPECT_EQ(walkBytes("MP4", Build().add(whole).fill(900, 0xA7)).end, whole.size());
+    }
+    EXPECT_EQ(walkBytes("MP4", Build().add(movie()).add(isoBox("xyza", Bytes(300)))).end, movie().size());
+}
+
 TEST(Jpeg, MovieInAMakersTrailer_BelongsToTheFile) {
     Build whole;
     whole.add(jpeg()).be32(0x0000300A).le32(16).text("MotionPhoto_Data").add(movie());
