@@ -21,12 +21,12 @@ FileKind kindByName(const QString& extension) {
         };
         add(FileKind::Picture,
             "apng ari aseprite avci bpg cin cr3 crw dcx dpx fits flif fpx gpr hdr heic heif "
-            "iiq jb2 jls jpx jxr lfp miff ntf pam pdn pfm psb psd psp qoi raf x3f");
+            "iiq jb2 jls jpx jxr lfp miff ntf pam pdn pfm psb psd psp pvr qoi raf viff x3f");
         add(FileKind::Video,
             "3gp 4xm amv anm cine cpk dav dvb dxa gxf h264 h265 hik ivf lxf m2ts m2v m4e mlv "
-            "mod mts mve mxf nut pmp psmf r3d rm roq swf thp ts vob wtv y4m");
+            "mts mve mxf nut pmp psmf r3d rm roq swf thp ts vob wtv y4m");
         add(FileKind::Sound,
-            "8svx ape bnk brstm caf ds2 dss fsb hca m4p mlp mmf msv nsf ofr okt oma pvf qcp "
+            "8svx ape bnk brstm caf ds2 dss fsb hca m4p mlp mmf mod msv nsf ofr okt oma pvf qcp "
             "rf64 rmi shn spc sph tak vgm vqf w64");
         add(FileKind::Archive,
             "ab ace aff alz apk arc bam cab chd crx cso daa deb dmg e01 egg hdd hqx imd img "
@@ -35,10 +35,10 @@ FileKind kindByName(const QString& extension) {
             "zpaq");
         add(FileKind::Document,
             "123 accdb ai amf asice aspx asx bas bat bib ccd chm csproj db dbx djvu drawio "
-            "dbf dvi edb enex enw eps fcpxml fdx fm fp7 frm gpkg graphml hlp hwp idml idx indd "
+            "dbf der dvi edb enex enw eps fcpxml fdx fm fp7 frm gpkg graphml hlp hwp idml idx indd "
             "inf ini jmx jsp kdb kdbx kdenlive key kfx kra lit lrf lwp mbx mdb mht mif mny "
             "mobi mpd msf msg musicxml mzml nk2 nmea numbers ofx one onetoc2 osm ost p7m "
-            "pages pbxproj pdb pem plist pls ppd ppk ps pst qgs qif qrc qxd ris sam sbml "
+            "pages pbxproj pdb pem pgp plist pls ppd ppk ps pst qgs qif qrc qxd ris sam sbml "
             "sln snb sqlite sxc sxd sxi sxm sxw tcx tnef torrent ttml vbp vnt vsd vsdx wab "
             "geojson gv hl7 plt prj vhdr wpt wk1 wk3 wk4 wpd wpl wri x3d xd xmp");
         return all;

@@ -1,4 +1,4 @@
-// LZ4 files. Source: LZ4 Frame Format 1.6.
+// LZ4 files. Source: LZ4 Frame Format 1.6, with its section on the legacy frame.
 #include "formats/Format.h"
 #include "formats/archives/PackedFrames.h"
 
@@ -6,8 +6,23 @@ namespace vantor {
 
 namespace {
 
+// The frame of the first versions: blocks of up to 8 MiB each, without an end mark.
+PackedFrame lz4LegacyFrame(ByteView& view, std::uint64_t at) {
+    constexpr std::uint32_t kUnpacked = 8 << 20, kMostBlock = kUnpacked + kUnpacked / 255 + 16;
+    for (at += 4;;) {
+        const auto bytes = view.le32(at);
+        if (!bytes || *bytes == 0 || *bytes > kMostBlock)
+            return {PackedFrame::State::Whole, at};
+        if (!view.holds(at + 4, *bytes))
+            return cutFrame(view);
+        at += 4 + std::uint64_t{*bytes};
+    }
+}
+
 // Nothing when no frame begins at `at`.
 std::optional<PackedFrame> lz4Frame(ByteView& view, std::uint64_t at) {
+    if (view.matches(at, "\x02\x21\x4C\x18"))
+        return lz4LegacyFrame(view, at);
     if (!view.matches(at, "\x04\x22\x4D\x18"))
         return skippableFrame(view, at);
     const auto flags = view.u8(at + 4), block = view.u8(at + 5);

@@ -145,7 +145,7 @@ extern constexpr Format kNetCdf = {
     .name = "NetCDF",
     .group = Group::Documents,
     .walk = walkNetCdf,
-    .extensions = " NC CDF ",
+    .extensions = " NC ",
     .large = true,
     .mayNotTellEnd = true,
 };

@@ -63,7 +63,7 @@ std::optional<std::uint64_t> behindLastLine(ByteView& view, std::uint64_t end) {
     struct Marked {
         std::string_view first, last;
     };
-    static constexpr std::array<Marked, 10> kMarked = {Marked{"ISO-10303-21;", "END-ISO-10303-21;"},
+    static constexpr std::array<Marked, 13> kMarked = {Marked{"ISO-10303-21;", "END-ISO-10303-21;"},
                                                        Marked{"  0\r\nSECTION", "EOF"},
                                                        Marked{"  0\nSECTION", "EOF"},
                                                        Marked{"999", "EOF"},
@@ -72,7 +72,10 @@ std::optional<std::uint64_t> behindLastLine(ByteView& view, std::uint64_t end) {
                                                        Marked{" 0\nSECTION", "EOF"},
                                                        Marked{" 0\r\nSECTION", "EOF"},
                                                        Marked{"StartFontMetrics ", "EndFontMetrics"},
-                                                       Marked{"EESchema Schematic", "$EndSCHEMATC"}};
+                                                       Marked{"EESchema Schematic", "$EndSCHEMATC"},
+                                                       Marked{"Microsoft Visual", "EndGlobal"},
+                                                       Marked{"\xEF\xBB\xBF\nMicrosoft", "EndGlobal"},
+                                                       Marked{"\xEF\xBB\xBF\r\nMicrosoft", "EndGlobal"}};
     for (const auto& [first, last] : kMarked) {
         if (!view.matches(0, first))
             continue;
@@ -86,6 +89,26 @@ std::optional<std::uint64_t> behindLastLine(ByteView& view, std::uint64_t end) {
         }
     }
     return std::nullopt;
+}
+
+// Behind the last closing line of keys and certificates in letters, unless whole lines of text follow it.
+// Source: RFC 7468, RFC 4880 section 6.2.
+std::optional<std::uint64_t> behindLastKey(ByteView& view, std::uint64_t end) {
+    constexpr std::string_view kBegin = "-----BEGIN ", kEnd = "-----END ", kClose = "-----";
+    if (!view.matches(0, kBegin) && !view.matches(0, "Certificate:\n"))
+        return std::nullopt;
+    std::optional<std::uint64_t> last;
+    for (auto sign = view.find('\n', 0, end); sign.found(); sign = view.find('\n', sign.at + 1, end)) {
+        if (view.matches(sign.at + 1, kEnd)) {
+            auto dash = view.find('-', sign.at + 1 + kEnd.size(), end);
+            while (dash.found() && !view.matches(dash.at, kClose))
+                dash = view.find('-', dash.at + 1, end);
+            last = dash.found() ? std::optional(behindLineEnd(view, dash.at + kClose.size())) : std::nullopt;
+        } else if (last && sign.at >= *last) {
+            last.reset();  // a whole line behind it
+        }
+    }
+    return last;
 }
 
 }  // namespace
@@ -110,6 +133,8 @@ Extent walkText(ByteView& view) {
     }
     if (const auto marked = behindLastLine(view, textEnd(view, 0)))
         return inexact(completeAt(view, *marked));
+    if (const auto key = behindLastKey(view, textEnd(view, 0)))
+        return inexact(completeAt(view, *key));
     const auto end = readableEnd(view, 0);
     return end >= kLeast ? inexact(completeAt(view, end)) : unknownExtent();
 }

@@ -26,7 +26,7 @@ class DicomWalk {
     std::optional<std::pair<std::uint32_t, std::uint64_t>> lengthHere();
 
     ByteView& m_view;
-    std::uint64_t m_at = 132;
+    std::uint64_t m_at = 132;  // behind the preamble and its mark
     Endian m_endian = Endian::Little;
     bool m_explicit = true;
     bool m_inMeta = true;
@@ -59,6 +59,13 @@ std::optional<std::pair<std::uint32_t, std::uint64_t>> DicomWalk::lengthHere() {
     const auto bytes = m_view.number(m_at + 6, 2, m_endian);
     return bytes ? std::optional(std::pair(static_cast<std::uint32_t>(*bytes), std::uint64_t{8}))
                  : std::nullopt;
+}
+
+// Older files have no preamble: the first element is the length of its group or the character set.
+bool beginsBare(ByteView& view) {
+    using namespace std::string_view_literals;
+    return view.matches(0, "\x08\0\0\0UL\4\0"sv) || view.matches(0, "\x08\0\5\0CS\xA\0ISO_IR"sv) ||
+           view.matches(0, "\x08\0\5\0\xA\0\0\0ISO_IR"sv);
 }
 
 // Signatures, padding, and what makers put into the odd groups behind that of the picture.
@@ -123,8 +130,11 @@ Extent DicomWalk::behindPacked() {
 
 Extent DicomWalk::walk() {
     constexpr std::uint32_t kMostElements = 1 << 22, kDeepest = 1 << 16;
-    if (!m_view.matches(128, std::string_view("DICM\2\0", 6)))
-        return unknownExtent();
+    if (!m_view.matches(128, std::string_view("DICM\2\0", 6))) {
+        if (!beginsBare(m_view))
+            return unknownExtent();
+        m_at = 0;
+    }
     Step step = Step::Good;
     for (std::uint32_t elements = 0; step == Step::Good && elements < kMostElements; ++elements)
         step = m_depth > kDeepest ? Step::Broken : element();

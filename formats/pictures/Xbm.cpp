@@ -39,7 +39,7 @@ std::string wordsUpToBrace(TextReader& in) {
 }
 
 // The number behind the first name that ends so.
-std::uint64_t numberOf(const std::string& words, std::string_view nameEnd) {
+std::uint64_t numberNamed(const std::string& words, std::string_view nameEnd) {
     auto at = words.find(nameEnd);
     if (at == words.npos)
         return 0;
@@ -57,8 +57,8 @@ Extent walkXbm(ByteView& view) {
         return unknownExtent();
     const std::string words = wordsUpToBrace(in);
     Facts facts;
-    facts.width = static_cast<std::uint32_t>(numberOf(words, "_width "));
-    facts.height = static_cast<std::uint32_t>(numberOf(words, "_height "));
+    facts.width = static_cast<std::uint32_t>(numberNamed(words, "_width "));
+    facts.height = static_cast<std::uint32_t>(numberNamed(words, "_height "));
     if (words.find("#define ") == words.npos || words.find("_bits") == words.npos || facts.width == 0 ||
         facts.height == 0 || facts.width > kMostXbmSide || facts.height > kMostXbmSide)
         return unknownExtent();

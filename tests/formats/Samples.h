@@ -33,6 +33,7 @@ std::vector<Sample> toldLengthSamples();
 std::vector<Sample> drawingSamples();
 std::vector<Sample> modelSamples();
 std::vector<Sample> moduleSamples();
+std::vector<Sample> tableSamples();
 std::vector<Sample> allSamples();
 
 // Building blocks that single tests use as well.

@@ -373,7 +373,7 @@ std::vector<Sample> allSamples() {
     std::vector<Sample> all;
     for (const auto& part : {pictureSamples(), movieSamples(), soundSamples(), archiveSamples(),
                              documentSamples(), rasterSamples(), recordSamples(), toldLengthSamples(),
-                             drawingSamples(), modelSamples(), moduleSamples()})
+                             drawingSamples(), modelSamples(), moduleSamples(), tableSamples()})
         all.insert(all.end(), part.begin(), part.end());
     return all;
 }

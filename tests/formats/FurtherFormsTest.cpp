@@ -1,0 +1,107 @@
+// Forms of formats that have another one beside: each ends where it says.
+#include <gtest/gtest.h>
+
+#include "Corpus.h"
+#include "Samples.h"
+#include "WalkBytes.h"
+
+namespace vantor::test {
+namespace {
+
+void expectEndsItself(std::string_view extension, const Bytes& whole) {
+    for (const Bytes& behind : {Bytes(), Bytes(3000, 0), noise(3000, 9)}) {
+        const Extent extent = walkBytes(extension, Build().add(whole).add(behind));
+        EXPECT_EQ(extent.verdict, Verdict::Complete) << extension;
+        EXPECT_EQ(extent.end, whole.size()) << extension << " before " << behind.size();
+    }
+}
+
+TEST(FurtherForms, FirstFormOfLz4_EndsBehindItsLastBlock) {
+    expectEndsItself("LZ4", Build().be32(0x02214C18).le32(20).fill(20, 7).le32(9).fill(9, 8));
+}
+
+TEST(FurtherForms, SecondVersionOfAVolume_CountsItsValues) {
+    Build out;
+    out.le32(540).text("n+2\0\r\n\x1A\n"_b).le16(4).le16(16).le64(3).le64(2).le64(3).le64(4);
+    expectEndsItself("NII", out.to(168).le64(544).to(544).fill(2 * 3 * 4 * 2, 5));
+}
+
+TEST(FurtherForms, MatlabDataBehindALineOfText_TellTheirLengthWithIt) {
+    Build out;
+    out.text("MATLAB 7.3 MAT-file").to(512).text("\x89HDF\r\n\x1A\n\0"_b).to(525).u8(8).u8(8).to(552);
+    expectEndsItself("MAT", out.le64(700).to(699).u8(1));
+}
+
+TEST(FurtherForms, MedicalPictureWithoutPreamble_IsFollowedByItsElements) {
+    Build out;
+    out.be32(0x08000500).text("CS").le16(10).text("ISO_IR 100").be32(0x28001000).text("US").le16(2).le16(4);
+    expectEndsItself("DCM", out.be32(0xE07F1000).text("OW\0\0"_b).le32(32).fill(32, 3));
+}
+
+TEST(FurtherForms, PackedSpaceData_EndBehindWhatTellsTheirPacking) {
+    Build out;
+    out.be64(0xCDF30001CCCC0001).be64(92).be32(10).be64(100).to(100);
+    expectEndsItself("CDF", out.be64(28).be32(11).be32(5).fill(12, 1));
+}
+
+TEST(FurtherForms, DiskPackedForAStream_EndsWithTheMarkOfItsEnd) {
+    Build out;
+    out.text("KDMV").le32(3).le32(0x30001).le64(32).le64(8).le64(1).le64(1).le32(512).le64(0);
+    out.le64(~0ULL).le64(2).to(1024).le64(0).le32(30).fill(30, 5).to(1536);
+    out.le64(1).le32(0).le32(1).to(2560).le64(1).le32(0).le32(3).to(3584);
+    expectEndsItself("VMDK", out.to(4096 - 1).u8(0));
+}
+
+TEST(FurtherForms, PackedDataOfADisk_ReachAsFarAsTheirSectors) {
+    constexpr std::size_t kCluster = 512;
+    Build out;
+    out.text("QFI\xFB").be32(2).be64(0).be32(0).be32(9).be64(4096).be32(0).be32(1).be64(3 * kCluster);
+    out.be64(kCluster).be32(1).be32(0).be64(0).to(kCluster).be64(2 * kCluster);
+    out.to(3 * kCluster).be64(4 * kCluster).to(4 * kCluster);
+    out.be64(1ULL << 62 | 1ULL << 61 | (5 * kCluster + 100));
+    expectEndsItself("QCOW2", out.to(7 * kCluster - 1).u8(1));
+}
+
+TEST(FurtherForms, TableOfStatisticsInPlainOrDeflatedForm_TellsItsLength) {
+    const auto head = [](std::string_view mark, std::uint64_t packing) {
+        Build out;
+        out.text(mark).to(64).le32(2).le32(1).le32(packing).le32(0).le32(3).to(176);
+        out.le32(2).le32(0).le32(0).le32(0).le32(0).le32(0).text("A       ").le32(999).le32(0);
+        return out;
+    };
+    expectEndsItself("SAV", head("$FL2@(#)", 0).fill(3 * 8, 4));
+    Build deflated = head("$FL3@(#)", 2);
+    const auto start = deflated.size();
+    expectEndsItself("SAV", deflated.le64(start).le64(start + 60).le64(30).fill(66, 5));
+}
+
+TEST(FurtherForms, KeysInLetters_EndWithTheirLastClosingLine) {
+    const std::string_view one = "-----BEGIN X-----\nAAAA\n-----END X-----\n";
+    for (const std::string_view noise : {"ab", "ab cd e", "q"}) {
+        const Bytes two = Build().text(one).text("\n").text(one);
+        EXPECT_EQ(walkBytes("PEM", Build().add(two).text(noise).u8(3)).end, two.size());
+    }
+    // Without a line end, and with whole lines behind.
+    EXPECT_EQ(walkBytes("PEM", Build().text("-----BEGIN X-----\nAA\n-----END X-----").text("zz").u8(1)).end,
+              36U);
+    const Bytes noted = Build().text(one).text("A remark of the owner\n");
+    EXPECT_EQ(walkBytes("PEM", Build().add(noted).fill(100)).end, noted.size());
+}
+
+TEST(FurtherForms, Solution_EndsWithItsGlobalPart) {
+    const Bytes text = Build().text(
+        "Microsoft Visual Studio Solution File, Format Version "
+        "8.00\nGlobal\n\tEndGlobalSection\nEndGlobal\n");
+    EXPECT_EQ(walkBytes("SLN", Build().add(text).text("zx yw").u8(1)).end, text.size());
+}
+
+TEST(FurtherForms, EncryptedFile_EndsWithItsPacketsInParts) {
+    Build out;
+    out.be16(0x8C0D).be32(0x04090308).fill(9, 1);           // a passphrase's packet of 13 bytes
+    out.be16(0xD2E4).u8(1).fill(15, 3).u8(20).fill(20, 4);  // 16 bytes and 20
+    EXPECT_EQ(walkBytes("PGP", Build().add(out).fill(600)).end, out.size());
+    EXPECT_EQ(walkBytes("PGP", Build().be32(0xA3020102).fill(60, 1)).verdict, Verdict::Unknown);
+}
+
+}  // namespace
+}  // namespace vantor::test
