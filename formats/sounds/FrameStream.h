@@ -46,6 +46,8 @@ Extent walkFrames(ByteView& view, std::uint64_t at, std::uint64_t proof, FrameBy
         }
         if (bytes == 0)
             break;
+        if (bytes > view.size() - at && row != nullptr)
+            *row = followed;
         if (bytes > view.size() - at)
             return frames >= proof ? inexact(cutOffAt(view, view.size())) : none;
         meetHead(at);

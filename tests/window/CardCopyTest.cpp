@@ -252,6 +252,21 @@ TEST_F(PulledOut, AndPutBack_TheSearchGoesOnByItself) {
     EXPECT_EQ(found().size(), 3);
 }
 
+TEST_F(PulledOut, AndPutBackWhileTheMediumIsAskedFor_TheSearchGoesOnBehindIt) {
+    openWithCard();
+    toRange(kPhotoMode);
+    searchUntilPulledOut(16);
+    asked.pulledOut = false;
+    controller->session = true;
+    source->changed();
+    settle();
+    ASSERT_FALSE(controller->scanShown());
+    answers.press(QStringLiteral("OK"));
+    controller->session = false;
+    ASSERT_TRUE(waitFor([this] { return answers.allGiven() && !controller->scanShown(); }));
+    EXPECT_EQ(controller->searchEnd().outcome, PassOutcome::Completed);
+}
+
 TEST_F(PulledOut, AndPutBackBeforeItsAlertIsAnswered_TheSearchGoesOnBehindIt) {
     openWithCard();
     toRange(kPhotoMode);

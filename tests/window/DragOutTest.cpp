@@ -178,6 +178,37 @@ TEST_F(DragOut, SaveAs_GivesOneItemTheNameThatIsWanted_AndNeverReplacesAFile) {
     EXPECT_FALSE(controller->factsOfItem(1).saved);
 }
 
+TEST_F(DragOut, WhileTheMediumIsAskedFor_NothingLeavesTheWindow) {
+    openResults();
+    browser->selectIndexes({0});
+    settle();
+    const auto menuNow = [this] { return browser->findChild<QMenu*>(QStringLiteral("itemMenu")); };
+    emit browser->menuWanted(0, {});
+    const QPointer<QMenu> menu = menuNow();
+    ASSERT_NE(menu, nullptr);
+    const std::size_t dialogs = answers.seen().size();
+    controller->session = true;
+    for (QAction* const action : menu->actions()) {
+        if (action->text() == QStringLiteral("Save &As…")) {
+            action->trigger();
+        }
+    }
+    menu->close();
+    ASSERT_TRUE(waitFor([&] { return menu.isNull(); }));
+    emit browser->menuWanted(0, {});
+    EXPECT_EQ(menuNow(), nullptr);
+    pull(pictureOf(0));
+    release(pictureOf(0));
+    EXPECT_TRUE(dragged.empty());
+    controller->saveAll();
+    settle();
+    EXPECT_EQ(answers.seen().size(), dialogs) << "nobody was asked where to";
+    controller->session = false;
+    pull(pictureOf(0));
+    release(pictureOf(0));
+    EXPECT_EQ(dragged.size(), 1U);
+}
+
 TEST_F(DragOut, OnceAllIsSaved_TheCardCanBeEjected) {
     QStringList ejected;
     QString refusal;

@@ -128,6 +128,21 @@ TEST_P(KeepingByMode, AStoppedSearch_GoesOn) {
     EXPECT_FALSE(QFile::exists(parts.stateFolder));
 }
 
+TEST_F(Keeping, WhileTheMediumIsAskedFor_NoSearchGoesOn) {
+    openWithCard();
+    toRange(kPhotoMode);
+    searchAndStopAt(22);
+    const QStringList before = found();
+    controller->session = true;
+    click(button("goOnButton"));
+    settle();
+    ASSERT_FALSE(controller->scanShown());
+    EXPECT_EQ(found(), before);
+    controller->session = false;
+    pressAndSearch(button("goOnButton"));
+    EXPECT_GT(found().size(), before.size());
+}
+
 // What could not be read up to the end is what is left to be searched.
 TEST_P(KeepingByMode, ASearchThatCouldNotReadOn_GoesOnWithWhatWasRefused) {
     const QStringList all = undisturbed(GetParam());

@@ -43,6 +43,20 @@ TEST_F(Selecting, AClick_StartsNothingBeforeItIsOver) {
     EXPECT_EQ(title(), QStringLiteral("A.PDF"));
 }
 
+TEST_F(Selecting, WhileTheMediumIsAskedFor_TheSelectionWaits) {
+    openFour();
+    controller->session = true;
+    press(1);
+    release(1);
+    settle();
+    controller->imageBrowserSelectionDidChange(controller->imageBrowser_2);
+    EXPECT_EQ(opened, 0);
+    EXPECT_NE(title(), QStringLiteral("B.PDF"));
+    controller->session = false;
+    ASSERT_TRUE(waitFor([this] { return opened == 1 && !controller->session; }));
+    EXPECT_EQ(title(), QStringLiteral("B.PDF"));
+}
+
 TEST_F(Selecting, AQuickSwipe_SelectsWhatItTouchedAndNoMore) {
     openFour();
     Gate gate;
