@@ -190,6 +190,12 @@ TEST_F(LoopDeviceTest, OtherCardThanTheListedOne_CannotBeOpened) {
     ASSERT_TRUE(device->swap(other));
     EXPECT_EQ(openMedium(device->node(), {{}, {}, listed}), nullptr);
     EXPECT_EQ(openMedium(device->node(), {{}, {}, {0, 65}}), nullptr);
+    OpenTerms terms;
+    terms.identity = listed;
+    terms.refusal = std::make_shared<LastRefusal>();
+    EXPECT_EQ(openMedium(device->node(), terms), nullptr);
+    EXPECT_EQ(terms.refusal->get(), OpenRefusal::AnotherMedium);
+    EXPECT_TRUE(wordsForRefusal(terms.refusal->get()).startsWith("Another medium is in its place now."));
     EXPECT_NE(openMedium(device->node()), nullptr);
 }
 
