@@ -6,6 +6,7 @@
 #include "decode/ContentTrials.h"
 #include "formats/Registry.h"
 #include "tests/repair/Movies.h"
+#include "tests/repair/Photos.h"
 #include "tests/repair/RealMovie.h"
 
 namespace vantor {
@@ -69,6 +70,17 @@ TEST_F(Contents, BehindAPhoto_AreThoseOfItsMovie) {
     EXPECT_FALSE(decodes(photo + test::withForeignCluster(h264)));
     EXPECT_FALSE(decodes(photo));
     EXPECT_FALSE(decodes(photo.first(5000)));
+}
+
+TEST_F(Contents, OfAPhotoWithAMovieBehindIt_AreNotCheckedByTheirLengths) {
+    const QByteArray whole = test::makePhoto(1) + h264;
+    SpanSource source(asSpan(whole));
+    const Extent extent = walk("JPG", source);
+    EXPECT_EQ(extent.verdict, Verdict::Complete);
+    EXPECT_EQ(extent.end, source.size());
+    EXPECT_TRUE(extent.checked);
+    EXPECT_TRUE(extent.framesOnly);
+    EXPECT_TRUE(decodes(whole));
 }
 
 TEST_F(Contents, BeyondTheBounds_NothingIsTried) {
