@@ -8,6 +8,7 @@
 #include <array>
 #include <span>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "decode/MovieTrial.h"
@@ -47,6 +48,14 @@ bool isJpeg(const Bytes& head) {
     return head.size() > 2 && head[0] == 0xFF && head[1] == 0xD8 && head[2] == 0xFF;
 }
 
+FileDescriptor fileInMemory() {
+    return FileDescriptor(memfd_create("movie", MFD_CLOEXEC));
+}
+
+bool append(const FileDescriptor& file, std::span<const std::uint8_t> bytes) {
+    return write(file.get(), bytes.data(), bytes.size()) == static_cast<ssize_t>(bytes.size());
+}
+
 // The movie behind a photo, from its box "ftyp" on; not open where there is none.
 FileDescriptor movieBehind(int photo, std::uint64_t bytes) {
     constexpr std::string_view kBox = "ftyp";
@@ -55,8 +64,8 @@ FileDescriptor movieBehind(int photo, std::uint64_t bytes) {
     if (all.size() != bytes || at == all.end() || at - all.begin() < 4) {
         return {};
     }
-    SpanSource movie({at - 4, all.end()});
-    return inMemory(movie, movie.size(), {});
+    FileDescriptor movie = fileInMemory();
+    return append(movie, {at - 4, all.end()}) ? std::move(movie) : FileDescriptor();
 }
 
 }  // namespace
@@ -97,13 +106,12 @@ bool ContentTrials::decodesMovie(int descriptor, const StopRequest& stop) {
 }
 
 FileDescriptor inMemory(ByteSource& source, std::uint64_t bytes, const StopRequest& stop) {
-    FileDescriptor file(memfd_create("movie", MFD_CLOEXEC));
+    FileDescriptor file = fileInMemory();
     std::vector<std::uint8_t> chunk(1 << 20);
     for (std::uint64_t at = 0; file && at < bytes;) {
         const auto part = std::span(chunk).first(
             static_cast<std::size_t>(std::min<std::uint64_t>(chunk.size(), bytes - at)));
-        if ((stop && stop()) || source.read(at, part) != part.size() ||
-            write(file.get(), part.data(), part.size()) != static_cast<ssize_t>(part.size())) {
+        if ((stop && stop()) || source.read(at, part) != part.size() || !append(file, part)) {
             return {};
         }
         at += part.size();
