@@ -33,12 +33,14 @@ class ContentTrials {
     explicit ContentTrials(TrialBounds bounds = {}, MovieReaderOptions options = {})
         : m_options(std::move(options)), m_bounds(bounds) {}
 
-    // As a ContentDecoder does.
+    // As a ContentDecoder does, of a photo with a movie behind it the movie.
     bool decodes(int descriptor, const StopRequest& stop);
     // Whether there is time for a file of so many bytes.
     bool mayTry(std::uint64_t bytes) const;
 
   private:
+    bool decodesMovie(int descriptor, const StopRequest& stop);
+
     MovieReaderOptions m_options;
     TrialBounds m_bounds;  // what is left of them
 };

@@ -177,6 +177,7 @@ Bytes heif(std::uint32_t dataSize = 1, const Bytes& behind = {}) {
 TEST(Heif, TilesAreLookedAt) {
     const Bytes whole = heif();
     expectWholeInside("HEIC", whole);
+    EXPECT_TRUE(walkBytes("HEIC", whole).framesOnly) << "and not decoded";
     expectSpoilt("HEIC", overwritten(whole, whole.size() - 3000, whole.size() - 1500), whole.size());
 }
 

@@ -6,6 +6,7 @@
 #include "decode/ContentTrials.h"
 #include "formats/Registry.h"
 #include "tests/repair/Movies.h"
+#include "tests/repair/Photos.h"
 #include "tests/repair/RealMovie.h"
 
 namespace vantor {
@@ -55,21 +56,31 @@ TEST_F(Contents, ForeignClusterWithinAPicture_ShowsInDecodingAlone) {
     EXPECT_FALSE(decodes(spoilt));
 }
 
-// The decoder goes on over them without a complaint; an encoder writes no three.
-TEST_F(Contents, ZerosWithinAPicture_Show) {
-    for (const auto& [at, count] : {std::pair{9500, 40}, std::pair{15500, 600}}) {
-        QByteArray spoilt = h264;
-        spoilt.replace(at, count, QByteArray(count, '\0'));
-        ASSERT_TRUE(extentOf(spoilt).checked);
-        EXPECT_FALSE(decodes(spoilt)) << count;
-    }
-}
-
 TEST_F(Contents, PicturesWhoseDecoderTakesAnyBytes_AreNotWhole) {
     const QByteArray h265 = test::realMovie(
         "mp4/media__libraries__test_data__src__test__assets__media__mp4__h265_with_metadata_track.mp4");
     ASSERT_FALSE(h265.isEmpty());
     EXPECT_FALSE(decodes(h265));
+}
+
+TEST_F(Contents, BehindAPhoto_AreThoseOfItsMovie) {
+    const QByteArray photo =
+        QByteArray("\xFF\xD8\xFF") + QByteArray(5000, 'p') + "ftyp" + QByteArray(5000, 'q');
+    EXPECT_TRUE(decodes(photo + h264));
+    EXPECT_FALSE(decodes(photo + test::withForeignCluster(h264)));
+    EXPECT_FALSE(decodes(photo));
+    EXPECT_FALSE(decodes(photo.first(5000)));
+}
+
+TEST_F(Contents, OfAPhotoWithAMovieBehindIt_AreNotCheckedByTheirLengths) {
+    const QByteArray whole = test::makePhoto(1) + h264;
+    SpanSource source(asSpan(whole));
+    const Extent extent = walk("JPG", source);
+    EXPECT_EQ(extent.verdict, Verdict::Complete);
+    EXPECT_EQ(extent.end, source.size());
+    EXPECT_TRUE(extent.checked);
+    EXPECT_TRUE(extent.framesOnly);
+    EXPECT_TRUE(decodes(whole));
 }
 
 TEST_F(Contents, BeyondTheBounds_NothingIsTried) {
