@@ -24,7 +24,8 @@ bool isWhole(const PiecedMovie& movie) {
     return movie.samples != 0 && movie.wholeSamples == movie.samples;
 }
 
-constexpr unsigned kMostLooks = 8;    // for one movie, as others give way
+constexpr unsigned kMostVainLooks = 8;  // for one movie, as others give way
+constexpr unsigned kMostLooks = 64;
 constexpr std::size_t kSharing = 16;  // so many parts of what may be searched
 
 // The best that was found of one movie so far.
@@ -32,6 +33,7 @@ struct FoundMovie {
     PiecedMovie movie;
     std::size_t grid = 0;
     bool settled = false;
+    SectorRun span;               // from its first piece on the medium to its last
     std::optional<bool> decodes;  // once that was tried
 };
 
@@ -42,6 +44,11 @@ bool mayBeginMovie(MediumBlocks& medium, std::uint64_t sector) {
     const std::string_view text(reinterpret_cast<const char*>(head.data()), head.size());
     const std::string_view name = text.substr(4);
     return name == "ftyp" || name == "wide" || name == "mdat" || text.substr(0, 4) == "RIFF";
+}
+
+SectorRun spanOf(const PiecedMovie& movie, const FreeClusters& grid) {
+    const auto [first, last] = std::minmax_element(movie.clusters.begin(), movie.clusters.end());
+    return {grid.firstSectorOf(*first), grid.firstSectorOf(*last + 1)};
 }
 
 bool leftNoChoice(const FoundMovie& found) {
@@ -75,7 +82,13 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
         }
     }
     std::vector<std::optional<FoundMovie>> found(broken.size());
-    std::vector<unsigned> looks(broken.size(), 0);
+    struct Looks {
+        unsigned all = 0;
+        unsigned inVain = 0;
+        std::size_t settled = 0;  // movies at the last one
+    };
+    std::vector<Looks> looks(broken.size());
+    std::vector<SectorRun> settledSpans;
     // None takes so much that nothing is left for the others.
     std::uint64_t searchLeft = MoviePieces::kMostSearched;
     const auto withPieces = [&](const FreeClusters& grid, auto&& use) {
@@ -125,6 +138,7 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
     const auto settle = [&](std::size_t i) {
         FoundMovie& movie = *found[i];
         movie.settled = true;
+        settledSpans.push_back(movie.span);
         const std::vector<SectorRun> runs =
             runsOfClusters(movie.movie.clusters, movie.movie.bytes, grids[movie.grid]);
         for (FreeClusters& grid : grids) {
@@ -142,6 +156,18 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
             tell(i, *assemblies[i]);
         }
     };
+    // Only what gave way among its own pieces can change what is found of a movie.
+    const auto isWorthALook = [&](std::size_t i) {
+        const auto news = settledSpans.begin() + static_cast<std::ptrdiff_t>(looks[i].settled);
+        const bool any = found[i] ? std::any_of(news, settledSpans.end(),
+                                                [&](const SectorRun& span) {
+                                                    return span.first < found[i]->span.end &&
+                                                           found[i]->span.first < span.end;
+                                                })
+                                  : news != settledSpans.end() && looks[i].inVain < kMostVainLooks;
+        const bool first = looks[i].all == 0;
+        return (first || any) && looks[i].all < kMostLooks;
+    };
     const auto lookFor = [&](std::size_t i) {
         if (found[i] && found[i]->settled) {
             return;
@@ -153,7 +179,7 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
         if (found[i] && !isFree(*found[i])) {
             found[i].reset();
         }
-        if (++looks[i] > kMostLooks) {
+        if (!isWorthALook(i)) {
             return;
         }
         for (std::size_t g = 0; g < grids.size() && !(found[i] && leftNoChoice(*found[i])) && m_stop == 0;
@@ -174,10 +200,14 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
                     return pieces.assemble(*first, alone ? std::vector<std::uint64_t>() : others);
                 });
                 if (movie && (!found[i] || worth(*movie) > worth(found[i]->movie))) {
-                    found[i] = FoundMovie{std::move(*movie), g, false, {}};
+                    const SectorRun span = spanOf(*movie, grids[g]);
+                    found[i] = FoundMovie{std::move(*movie), g, false, span, {}};
                 }
             }
         }
+        ++looks[i].all;
+        looks[i].inVain += found[i] ? 0 : 1;
+        looks[i].settled = settledSpans.size();
     };
     const auto settleAll = [&](auto&& isSure, bool lookAgain) {
         bool any = false;

@@ -195,6 +195,7 @@ bool MoviePieces::placeSamples() {
     if (!placeAnchors()) {
         return false;
     }
+    placeInTurns();
     fillBetween();
     return std::find(m_places.begin(), m_places.end(), kUnplaced) == m_places.end();
 }

@@ -14,6 +14,7 @@
 #include "repair/FreeClusters.h"
 #include "repair/MediumBlocks.h"
 #include "repair/MovieSamples.h"
+#include "repair/WrittenInTurns.h"
 
 namespace vantor {
 
@@ -101,9 +102,13 @@ class MoviePieces {
     bool placeAnchor(std::uint64_t number, std::uint64_t known);
     bool accept(std::uint64_t number, std::uint64_t cluster, Likeness least);
     void place(std::uint64_t number, std::uint64_t cluster);
+    void placeInTurns();
+    void placeInTurns(const std::vector<KnownCluster>& known);
     void fillBetween();
     void passOverPhotos(std::uint64_t before, std::uint64_t end);
     void fillRow(std::uint64_t before, std::uint64_t end);
+    using PlaceOf = std::function<std::optional<std::uint64_t>(std::uint64_t number)>;
+    bool layWith(std::uint64_t before, std::uint64_t end, const PlaceOf& placeOf);
     bool lay(std::uint64_t before, std::uint64_t end, std::uint64_t ahead, std::uint64_t step);
     void lift(std::uint64_t before, std::uint64_t end);
     struct RowLook {

@@ -70,16 +70,11 @@ void MoviePieces::fillBetween() {
     }
 }
 
-// Places the clusters of the file in (before, end): `ahead` of them `step` free ones apart from the one
-// before, the others in a row up to the one behind. False where some of these are not to be had; nothing is
-// placed then.
-bool MoviePieces::lay(std::uint64_t before, std::uint64_t end, std::uint64_t ahead, std::uint64_t step) {
+// Places the clusters of the file in (before, end), each where it is said to lie once those before are
+// placed. False where some are not to be had; nothing is placed then.
+bool MoviePieces::layWith(std::uint64_t before, std::uint64_t end, const PlaceOf& placeOf) {
     for (std::uint64_t number = before + 1; number < end; ++number) {
-        const std::uint64_t steps = number - before;
-        const auto cluster =
-            steps <= ahead
-                ? (step == 1 ? m_left : m_free).ahead(m_places[static_cast<std::size_t>(number - 1)], step)
-                : m_left.back(m_places[static_cast<std::size_t>(end)], end - number);
+        const auto cluster = placeOf(number);
         if (!cluster || !m_left.isFree(*cluster) || m_used[static_cast<std::size_t>(*cluster)]) {
             lift(before, number);
             return false;
@@ -87,6 +82,15 @@ bool MoviePieces::lay(std::uint64_t before, std::uint64_t end, std::uint64_t ahe
         place(number, *cluster);
     }
     return true;
+}
+
+// `ahead` of them `step` free ones apart from the one before, the others in a row up to the one behind.
+bool MoviePieces::lay(std::uint64_t before, std::uint64_t end, std::uint64_t ahead, std::uint64_t step) {
+    return layWith(before, end, [&](std::uint64_t number) {
+        return number - before <= ahead
+                   ? (step == 1 ? m_left : m_free).ahead(m_places[static_cast<std::size_t>(number - 1)], step)
+                   : m_left.back(m_places[static_cast<std::size_t>(end)], end - number);
+    });
 }
 
 void MoviePieces::lift(std::uint64_t before, std::uint64_t end) {
