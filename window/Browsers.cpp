@@ -219,7 +219,9 @@ void MyTableController::showItemCounts() {
             return tr("%1 of %2 selected").arg(numberOf(selected), numberOf(shown));
         }
         const QString count = countOfItems(static_cast<std::uint64_t>(found));
-        return m_looks->isPlain() ? count : tr("%1 of %2").arg(numberOf(shown), count);
+        // A list that is only sorted lacks nothing.
+        const bool all = m_looks->isPlain() || shown == found;
+        return all ? count : tr("%1 of %2").arg(numberOf(shown), count);
     };
     const QString obstacle = obstacleFor({});
     photoCountLabel->setText(obstacle.isEmpty() ? words(imageBrowser)

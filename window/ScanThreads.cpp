@@ -150,9 +150,14 @@ void MyTableController::scanThreadsEnded() {
     showWhereWeAre();
     if (!onScanScreen()) {
         scanFellBack();
-    } else if (goesOnByItself()) {
+        return;
+    }
+    if (goesOnByItself()) {
         goOn();
-    } else if (stop_screen_already_show == 0) {
+        return;
+    }
+    browserOf(activeSet())->endFollowing();
+    if (stop_screen_already_show == 0) {
         // The driver leaves the end screen to a preview that was being copied; should that have ended first,
         // it is due now.
         Final_or_Stop_Screen();

@@ -57,6 +57,26 @@ TEST_F(Browser, WhoLooksBack_IsLeftThereUntilHeIsAtTheEndAgain) {
     EXPECT_EQ(bar->value(), halfWay);
 }
 
+TEST_F(Browser, AtItsEnd_ASearchIsSeenFromItsBeginning_UnlessTheUserLooksElsewhere) {
+    open();
+    showPhotoScreen();
+    ImageBrowserView* const browser = controller->imageBrowser;
+    QScrollBar* const bar = browser->verticalScrollBar();
+    addPhotos(60);
+    settle();
+    ASSERT_TRUE(atEnd(browser));
+    browser->endFollowing();
+    EXPECT_EQ(bar->value(), 0);
+    bar->setValue(bar->maximum() / 2);
+    const int halfWay = bar->value();
+    browser->endFollowing();
+    EXPECT_EQ(bar->value(), halfWay);
+    browser->scrollToBottom();
+    browser->chooseIndex(59);
+    browser->endFollowing();
+    EXPECT_TRUE(atEnd(browser)) << "where the selected item is";
+}
+
 TEST_F(Browser, AnotherChoice_IsSeenFromItsBeginning_OrAtTheSelectedItem) {
     open();
     showPhotoScreen();

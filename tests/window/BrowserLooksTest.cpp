@@ -91,6 +91,9 @@ TEST_F(BrowserLooks, FilterAndSort_KeepTheSelectionWithItsItem) {
     show(ShowItems::OfItsType);
     EXPECT_EQ(shown(), (QStringList{torn, wav}));
     show(ShowItems::All);
+    sort(SortItems::Length);
+    EXPECT_EQ(controller->rawCountLabel->text(), QStringLiteral("3 items")) << "only sorted";
+    EXPECT_EQ(controller->sortBox_Sig->maxVisibleItems(), controller->sortBox_Sig->count());
     sort(SortItems::AsFound);
     EXPECT_EQ(shown(), (QStringList{wav, png, torn}));
 }

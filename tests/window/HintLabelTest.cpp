@@ -76,6 +76,26 @@ TEST(HintLabel, SignStandsBesideTheFirstWords) {
     }
 }
 
+TEST(HintLabel, SignIsWhole_AlsoBesideManySmallLines) {
+    const auto heightOfSign = [](const char* text) {
+        HintLabel label;
+        QFont font = label.font();
+        font.setPixelSize(10);
+        label.setFont(font);
+        label.setWordWrap(true);
+        label.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+        label.setText(QString::fromLatin1(text));
+        label.resize(200, label.heightForWidth(200));
+        const QImage picture = painted(label);
+        int rows = 0;
+        for (int y = 0; y < picture.height(); ++y) {
+            rows += middleOfInk(picture.copy(0, y, 20, 1), 0, 20) == 0 ? 1 : 0;
+        }
+        return rows;
+    };
+    EXPECT_EQ(heightOfSign("one\ntwo\nthree\nfour"), heightOfSign("one"));
+}
+
 TEST(HintLabel, SignMovesWithTheWords) {
     HintLabel label;
     label.setTextFormat(Qt::PlainText);

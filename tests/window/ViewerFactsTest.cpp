@@ -1,6 +1,7 @@
 // The words beside a picture.
 #include <gtest/gtest.h>
 
+#include "results/Mend.h"
 #include "results/MyImageObject.h"
 #include "window/preview/ViewerFacts.h"
 
@@ -78,6 +79,21 @@ TEST(ViewerFacts, ThePlaceIsThatOfTheFile_NotOfAllThatWasFound) {
     EXPECT_EQ(valueOf(found.facts(), "On the card"), QStringLiteral("sectors 5,000 to 5,002"));
     found.known.soundness->bytes = 512;
     EXPECT_EQ(valueOf(found.facts(), "On the card"), QStringLiteral("sector 5,000"));
+}
+
+TEST(ViewerFacts, PiecesAreThoseOfWhatWasPutTogether_AndTheLengthThatOfTheHead_UntilItPlays) {
+    Found found;
+    found.known.soundness = Soundness{};
+    found.known.soundness->durationMs = 65'000;
+    EXPECT_EQ(valueOf(found.facts(), "Pieces"), QStringLiteral("1"));
+    EXPECT_EQ(valueOf(found.facts(), "Length"), QStringLiteral("1:05"));
+    found.viewed.durationMs = 10'000;
+    EXPECT_EQ(valueOf(found.facts(), "Length"), QStringLiteral("0:10"));
+    auto mend = std::make_shared<Mend>();
+    found.known.mend = mend;
+    EXPECT_EQ(valueOf(found.facts(), "Pieces"), QStringLiteral("1")) << "one that was only repaired";
+    mend->assembly.runs = {{100, 200}, {300, 400}};
+    EXPECT_EQ(valueOf(found.facts(), "Pieces"), QStringLiteral("2"));
 }
 
 TEST(ViewerFacts, WhoseLengthIsOpen_SaysSo_AndWhatCouldNotBeRead) {

@@ -138,6 +138,12 @@ void ImageBrowserView::showCurrentOrFirst() {
     }
 }
 
+void ImageBrowserView::endFollowing() {
+    if (m_atEnd) {
+        showCurrentOrFirst();
+    }
+}
+
 void ImageBrowserView::followIndex(qsizetype index) {
     if (m_atEnd) {
         scrollIndexToVisible(index);

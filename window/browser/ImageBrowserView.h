@@ -51,6 +51,8 @@ class ImageBrowserView : public GridView {
     void scrollIndexToVisible(qsizetype index);
     // The same for whom the end of the list is in view; who has looked back is left there.
     void followIndex(qsizetype index);
+    // The list grows no more: whom it led to its end sees it from the beginning, or at the selected item.
+    void endFollowing();
     QList<qsizetype> selectionIndexes() const;  // ascending
     qsizetype selectedCount() const;
     std::vector<std::size_t> indexesInView() const;

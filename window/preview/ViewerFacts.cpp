@@ -39,6 +39,14 @@ QString unreadableOf(const MyImageObject& item, const ItemFacts& known) {
     return known.soundness ? QObject::tr("none") : QString();
 }
 
+// Of what was made of the item, where that has pieces.
+QString piecesOf(const ItemFacts& known) {
+    if (known.mend && !known.mend->assembly.runs.empty()) {
+        return numberForPeople(static_cast<std::uint64_t>(known.mend->assembly.runs.size()));
+    }
+    return known.soundness ? numberForPeople(static_cast<std::uint64_t>(known.soundness->pieces)) : QString();
+}
+
 }  // namespace
 
 QList<ViewerFact> viewerFacts(const MyImageObject& item, const ItemFacts& known, const ViewedFacts& viewed) {
@@ -54,10 +62,9 @@ QList<ViewerFact> viewerFacts(const MyImageObject& item, const ItemFacts& known,
     add(QObject::tr("Size"), sizeOf(known, viewed));
     add(QObject::tr("Pixels"), pixelWords(known));
     add(QObject::tr("Camera"), known.soundness ? known.soundness->camera : QString());
-    add(QObject::tr("Length"), viewed.durationMs > 0 ? timeText(viewed.durationMs) : QString());
+    add(QObject::tr("Length"), lengthWords(known, viewed.durationMs));
     add(QObject::tr("On the card"), placeWords(item, known));
-    add(QObject::tr("Pieces"),
-        known.soundness ? numberForPeople(static_cast<std::uint64_t>(known.soundness->pieces)) : QString());
+    add(QObject::tr("Pieces"), piecesOf(known));
     add(QObject::tr("Unreadable sectors"), unreadableOf(item, known));
     add(QObject::tr("State"), stateWords(known));
     add(QObject::tr("Mended"), known.mend ? describe(*known.mend) : QString());

@@ -34,7 +34,9 @@ int HintLabel::heightForWidth(int width) const {
     const QMargins margins = contentsMargins();
     const QRect room(0, 0, std::max(0, width - margins.left() - margins.right()), theme::kAnyHeight);
     const int words = fontMetrics().boundingRect(room, Qt::TextWordWrap, wordsOf(text())).height();
-    return std::max(kSign, words) + margins.top() + margins.bottom();
+    // The sign is higher than the line beside which it stands.
+    const int above = std::max(0, kSign - fontMetrics().lineSpacing());
+    return std::max(kSign, words + above) + margins.top() + margins.bottom();
 }
 
 void HintLabel::paintEvent(QPaintEvent*) {
