@@ -86,6 +86,7 @@ void BrowserLooks::fillBoxes() {
         }
         for (QComboBox* box : {screen.show, screen.sort}) {
             box->view()->setAccessibleName(box->accessibleName());
+            openWholeList(box);
             // A narrow box has a list that can be read.
             box->view()->setMinimumWidth(box->view()->sizeHintForColumn(0) + kListMargins);
             keepWordsWhole(box);
