@@ -69,10 +69,11 @@ struct BrowserWish {
     FacetChoice facets = {};
     QString name = {};  // part of a name, in either case; empty: every name
 
-    bool isPlain() const {
-        return show == ShowItems::All && sort == SortItems::AsFound && !reversed && type.isEmpty() &&
-               facets.isEmpty() && name.isEmpty();
+    // No item is left out.
+    bool showsAll() const {
+        return show == ShowItems::All && type.isEmpty() && facets.isEmpty() && name.isEmpty();
     }
+    bool isPlain() const { return showsAll() && sort == SortItems::AsFound && !reversed; }
     // Whether it takes the soundness of all items to grant it.
     bool needsSoundness() const;
 };

@@ -219,9 +219,7 @@ void MyTableController::showItemCounts() {
             return tr("%1 of %2 selected").arg(numberOf(selected), numberOf(shown));
         }
         const QString count = countOfItems(static_cast<std::uint64_t>(found));
-        // A list that is only sorted lacks nothing.
-        const bool all = m_looks->isPlain() || shown == found;
-        return all ? count : tr("%1 of %2").arg(numberOf(shown), count);
+        return m_looks->showsAll() ? count : tr("%1 of %2").arg(numberOf(shown), count);
     };
     const QString obstacle = obstacleFor({});
     photoCountLabel->setText(obstacle.isEmpty() ? words(imageBrowser)
@@ -230,12 +228,12 @@ void MyTableController::showItemCounts() {
     rawCountLabel->setText(words(imageBrowser_2));
     saveSelectedButton->setEnabled(imageBrowser->selectionModel()->hasSelection());
     saveSelectedButton_Sig->setEnabled(imageBrowser_2->selectionModel()->hasSelection());
-    const qsizetype shown = m_looks->isPlain() ? found : browserOf(activeSet())->shownCount();
+    const qsizetype shown = m_looks->showsAll() ? found : browserOf(activeSet())->shownCount();
     for (QPushButton* button : {saveAllButton, saveAllButton_Sig}) {
-        button->setEnabled(shown > 0 || (m_looks->isPlain() && !m_told.empty()));
-        button->setText(m_looks->isPlain() ? tr("Save &All…")
+        button->setEnabled(shown > 0 || (m_looks->showsAll() && !m_told.empty()));
+        button->setText(m_looks->showsAll() ? tr("Save &All…")
                                            : tr("Save &All Shown (%1)…").arg(numberOf(shown)));
-        button->setAccessibleName(m_looks->isPlain() ? tr("Save all found items")
+        button->setAccessibleName(m_looks->showsAll() ? tr("Save all found items")
                                                      : tr("Save all items that are shown"));
     }
     const auto savedCount = static_cast<qsizetype>(m_desk->marks().saved());

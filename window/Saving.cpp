@@ -52,7 +52,7 @@ void MyTableController::saveSelected() {
 // All that the browser shows, and only where that is all there is, as the button says, also what the card
 // alone tells of.
 void MyTableController::saveAll() {
-    if (!m_looks->isPlain()) {
+    if (!m_looks->showsAll()) {
         saveItems(browserOf(activeSet())->shownIndexes());
         return;
     }

@@ -283,6 +283,9 @@ TEST_F(Saving, SaveAll_SavesWhatTheFilterShowsAndSaysSo) {
     openPhotoResults();
     destinationIs(destination.path());
     EXPECT_EQ(controller->saveAllButton->text(), QStringLiteral("Save &All…"));
+    controller->sortBox->setCurrentText(QStringLiteral("By name"));
+    EXPECT_EQ(controller->saveAllButton->text(), QStringLiteral("Save &All…")) << "nothing is left out";
+    EXPECT_EQ(controller->photoCountLabel->text(), QStringLiteral("3 items"));
     controller->imageBrowser->setCurrentIndex(controller->imageBrowser->model()->index(0, 0));
     answers.press(QStringLiteral("OK"));
     click(controller->saveSelectedButton);

@@ -86,7 +86,7 @@ void BrowserLooks::fillBoxes() {
         }
         for (QComboBox* box : {screen.show, screen.sort}) {
             box->view()->setAccessibleName(box->accessibleName());
-            box->setMaxVisibleItems(box->count());
+            openWholeList(box);
             // A narrow box has a list that can be read.
             box->view()->setMinimumWidth(box->view()->sizeHintForColumn(0) + kListMargins);
             keepWordsWhole(box);

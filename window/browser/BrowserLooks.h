@@ -88,8 +88,8 @@ class BrowserLooks : public QObject {
     bool isPicked() const { return !m_wish.facets.isEmpty() || !m_wish.name.isEmpty(); }
     // No kind is left out.
     bool showsEveryKind() const { return m_wish.show == ShowItems::All; }
-    // All items, in the order in which they were found.
-    bool isPlain() const { return m_wish.isPlain(); }
+    // No item is left out, in whatever order.
+    bool showsAll() const { return m_wish.showsAll(); }
 
   signals:
     // Other items are shown, or others are selected.

@@ -2,6 +2,7 @@
 #include "window/widgets/ComboWidth.h"
 
 #include <QComboBox>
+#include <QStyledItemDelegate>
 #include <algorithm>
 
 namespace vantor {
@@ -14,6 +15,11 @@ void keepWordsWhole(QComboBox* box) {
     }
     const int beside = box->sizeHint().width() - longest;
     box->setMinimumWidth(letters.horizontalAdvance(box->currentText()) + beside);
+}
+
+void openWholeList(QComboBox* box) {
+    box->setMaxVisibleItems(box->count());
+    box->setItemDelegate(new QStyledItemDelegate(box));
 }
 
 }  // namespace vantor
