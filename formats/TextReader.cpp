@@ -72,6 +72,24 @@ std::uint64_t behindRemarks(ByteView& view, std::uint64_t at, std::string_view o
     }
 }
 
+std::uint64_t behindStrayText(ByteView& view, std::uint64_t at) {
+    constexpr std::uint64_t kLeast = 12, kMost = 4096, kFewLetters = 3;
+    if (isSectorStart(at))
+        return at;
+    const auto isAscii = [](int byte) { return isTextSpace(byte) || (byte > ' ' && byte < 0x7F); };
+    auto end = at, line = at;
+    std::uint64_t letters = 0;
+    for (int byte = 0; end - at < kMost && isAscii(byte = view.u8(end).value_or(0));) {
+        letters += isTextSpace(byte) ? 0 : 1;
+        line = byte == '\n' ? end + 1 : line;
+        ++end;
+    }
+    if (letters < kLeast)
+        return at;
+    // Foreign bytes may begin with some letters.
+    return view.u8(end).value_or(0) != 0 && end - line <= kFewLetters && line != at ? line : end;
+}
+
 std::uint64_t behindByteOrderMark(ByteView& view) {
     return view.matches(0, "\xEF\xBB\xBF") ? 3 : 0;
 }

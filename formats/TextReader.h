@@ -56,6 +56,9 @@ std::uint64_t behindBlanks(ByteView& view, std::uint64_t at);
 // Behind the remarks at `at` between `open` and `close`, each with the blanks that follow, so far as each
 // begins before the next sector and is text to its end; else `at`.
 std::uint64_t behindRemarks(ByteView& view, std::uint64_t at, std::string_view open, std::string_view close);
+// Behind the words that a server, a mail program or an editor left behind a file's end at `at`: a dozen
+// letters of ASCII and more; else `at`. What begins at a sector's start is another's.
+std::uint64_t behindStrayText(ByteView& view, std::uint64_t at);
 // Position behind a UTF-8 byte order mark at the beginning.
 std::uint64_t behindByteOrderMark(ByteView& view);
 // Whether `lower` stands at `at` in letters of either case.

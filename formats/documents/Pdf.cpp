@@ -229,6 +229,10 @@ Extent PdfWalk::walk() {
             m_lastMark = behindMark(at);
             const Mark mark = judge(at);
             if (mark == Mark::Last) {
+                const bool joined = m_view.matches(m_lastMark, "%PDF-");
+                const auto words = joined ? m_lastMark : behindStrayText(m_view, m_lastMark);
+                if (words != m_lastMark)
+                    return completeAt(m_view, words);
                 const Extent whole = completeAt(m_view, m_lastMark);
                 return isSureEnd(at) && isRowOfPdfObjects(m_view, at, PdfTables::Hold) ? withContent(whole)
                                                                                        : whole;

@@ -5,6 +5,7 @@
 #include "formats/IsoBox.h"
 #include "formats/PartOfView.h"
 #include "formats/Registry.h"
+#include "formats/TextReader.h"
 #include "formats/TiffDirectory.h"
 #include "formats/pictures/JpegScan.h"
 #include "formats/pictures/MakerTrailer.h"
@@ -248,6 +249,8 @@ std::optional<Extent> JpegWalk::motionPhoto() {
     auto trailer = endOfMakerTrailer(m_view, at);
     if (trailer == 0)
         trailer = endOfRecipeTrailer(m_view, at);
+    if (trailer == 0)
+        trailer = endOfPhoneNotes(m_view, at);
     if (trailer != 0)
         return withContent(completeAt(m_view, trailer, m_facts));
     const auto sphere = m_seesAround ? endOfSphereTrailer(m_view, at) : 0;
@@ -332,7 +335,9 @@ Extent JpegWalk::walkFile() {
     // Some programs write the end mark twice.
     if (!isSectorStart(all.end) && m_view.matches(all.end, "\xFF\xD9"))
         all.end += 2;
-    all.end = behindStrayText(m_view, all.end);
+    const auto words = behindStrayText(m_view, all.end);
+    const bool lineEnd = !isSectorStart(all.end) && m_view.matches(all.end, "\r\n");
+    all.end = words == all.end && lineEnd ? all.end + 2 : words;
     return all;
 }
 

@@ -3,8 +3,6 @@
 
 #include <algorithm>
 
-#include "formats/TextReader.h"
-
 namespace vantor {
 
 namespace {
@@ -80,18 +78,18 @@ std::uint64_t endOfRecipeTrailer(ByteView& view, std::uint64_t at) {
     return bytes <= kMost && view.matches(foot, kSign) && view.holds(foot, kFoot) ? foot + kFoot : 0;
 }
 
-std::uint64_t behindStrayText(ByteView& view, std::uint64_t at) {
-    constexpr std::uint64_t kLeast = 12, kMost = 4096, kFewLetters = 3;
-    if (isSectorStart(at))
-        return at;
-    const auto isAscii = [](int byte) { return isTextSpace(byte) || (byte > ' ' && byte < 0x7F); };
-    auto end = at, line = at;
-    while (end - at < kMost && isAscii(view.u8(end).value_or(0)))
-        line = view.u8(end++) == '\n' ? end : line;
-    if (end - at < kLeast)
-        return view.matches(at, "\r\n") ? at + 2 : at;
-    // Foreign bytes may begin with some letters.
-    return view.u8(end).value_or(0) != 0 && end - line <= kFewLetters && line != at ? line : end;
+std::uint64_t endOfPhoneNotes(ByteView& view, std::uint64_t at) {
+    constexpr std::string_view kSign("\xFF\xFF\xFF\xFF\x1B*9HWfu\x84\x93\xA2\xB1");
+    constexpr std::uint64_t kMost = 16 * 1024 * 1024;
+    if (!view.matches(at, "vivo{") && !view.matches(at, "streamdata"))
+        return 0;
+    const auto limit = std::min(view.size(), addClamped(at, kMost));
+    for (auto sign = view.find(0x1B, at + 4, limit); sign.found();
+         sign = view.find(0x1B, sign.at + 1, limit)) {
+        if (view.matches(sign.at - 4, kSign))
+            return sign.at - 4 + kSign.size();
+    }
+    return 0;
 }
 
 }  // namespace vantor

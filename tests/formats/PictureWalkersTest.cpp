@@ -147,6 +147,16 @@ TEST(Jpeg, RecipeOfARawConverter_BelongsToTheFile) {
     EXPECT_LT(walkBytes("JPG", photo(699)).end, 700U);
 }
 
+TEST(Jpeg, NotesOfAPhone_BelongToTheFile) {
+    const Bytes notes = Build()
+                            .add(jpeg())
+                            .text("vivo{\"version\":1}")
+                            .fill(700, 0xE1)
+                            .text("\xFF\xFF\xFF\xFF\x1B*9HWfu\x84\x93\xA2\xB1");
+    for (const Bytes& tail : {Bytes(), Bytes(3000, 0), noise(3000, 4)})
+        EXPECT_EQ(walkBytes("JPG", Build().add(notes).add(tail)).end, notes.size());
+}
+
 TEST(Jpeg, WordsBehindTheEnd_BelongToTheFile) {
     const Bytes picture = jpeg();
     for (const std::string_view words :
