@@ -88,6 +88,32 @@ TEST(FurtherForms, KeysInLetters_EndWithTheirLastClosingLine) {
     EXPECT_EQ(walkBytes("PEM", Build().add(noted).fill(100)).end, noted.size());
 }
 
+TEST(FurtherForms, KeysBehindTheirDescription_EndWithTheirClosingLine) {
+    for (const std::string_view first : {"X.509 Certificate Information:\n", "Public Key Info:\n"}) {
+        const Bytes text = Build().text(first).text("\tVersion: 3\n-----BEGIN X-----\nAA\n-----END X-----\n");
+        EXPECT_EQ(walkBytes("PEM", Build().add(text).text("zx").u8(1)).end, text.size()) << first;
+    }
+}
+
+TEST(FurtherForms, CertificatesBehindOneAnother_AreOneFile) {
+    Build one;
+    one.be32(0x308200C8).be32(0x308200A0).be32(0xA0030201).u8(2).to(204);
+    expectEndsItself("CER", Build().add(one).add(one));
+}
+
+TEST(FurtherForms, OlderTableOfStata_EndsBehindItsRowsAndNames) {
+    for (const std::size_t format : {49, 12}) {
+        Build out;
+        out.u8(format == 12 ? 113 : 114).u8(2).le16(1).le16(2).le32(3).to(109).u8(255).u8(10);
+        out.fill(2 * 33 + 2 * 3 + 2 * format + 2 * 33 + 2 * 81).u8(1).le32(6).fill(6, 1).fill(5);
+        out.fill(3 * 18, 7).le32(8 + 8 + 4).text("name").fill(32).le32(1).le32(4).le32(0).le32(5).text(
+            "yes\0"_b);
+        const Extent extent = walkBytes("DTA", Build().add(out).add(noise(3000, 9)));
+        EXPECT_EQ(extent.verdict, Verdict::Complete);
+        EXPECT_EQ(extent.end, out.size()) << format;
+    }
+}
+
 TEST(FurtherForms, Solution_EndsWithItsGlobalPart) {
     const Bytes text = Build().text(
         "Microsoft Visual Studio Solution File, Format Version "
