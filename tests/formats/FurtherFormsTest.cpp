@@ -114,6 +114,24 @@ TEST(FurtherForms, OlderTableOfStata_EndsBehindItsRowsAndNames) {
     }
 }
 
+TEST(FurtherForms, PatchOfAnInstrument_IsNoPatternAndNoText) {
+    Build out;
+    out.text("GF1PATCH110").to(82).u8(1).to(129 + 22).u8(1).to(129 + 63 + 6).u8(1).to(129 + 63 + 47 + 8);
+    expectEndsItself("PAT", out.le32(40).to(129 + 63 + 47 + 96).fill(40, 3));
+}
+
+TEST(FurtherForms, PictureWithASmallOneBehind_EndsWithTheFooterThatTellsOfIt) {
+    constexpr std::size_t kPixels = 18 + 8, kFar = 9000;
+    const auto picture = [](std::size_t extension) {
+        Build out;
+        out.be24(0x000003).to(12).le16(4).le16(2).u8(8).u8(0).fill(8, 5).fill(kFar, 6);
+        return out.le32(extension).le32(0).text("TRUEVISION-XFILE.\0"_b);
+    };
+    const Bytes own = picture(kPixels + 100), others = picture(18);
+    EXPECT_EQ(walkBytes("TGA", Build().add(own).add(noise(3000, 9))).end, own.size());
+    EXPECT_EQ(walkBytes("TGA", others).end, kPixels);
+}
+
 TEST(FurtherForms, Solution_EndsWithItsGlobalPart) {
     const Bytes text = Build().text(
         "Microsoft Visual Studio Solution File, Format Version "
