@@ -48,8 +48,8 @@ TEST(FurtherForms, DiskPackedForAStream_EndsWithTheMarkOfItsEnd) {
     Build out;
     out.text("KDMV").le32(3).le32(0x30001).le64(32).le64(8).le64(1).le64(1).le32(512).le64(0);
     out.le64(~0ULL).le64(2).to(1024).le64(0).le32(30).fill(30, 5).to(1536);
-    out.le64(1).le32(0).le32(1).to(2560).le64(1).le32(0).le32(3).to(3584);
-    expectEndsItself("VMDK", out.to(4096 - 1).u8(0));
+    out.le64(2).le32(0).le32(1).to(3072).le64(1).le32(0).le32(3).to(4096);
+    expectEndsItself("VMDK", out.to(4608 - 1).u8(0));
 }
 
 TEST(FurtherForms, PackedDataOfADisk_ReachAsFarAsTheirSectors) {
@@ -91,7 +91,7 @@ TEST(FurtherForms, KeysInLetters_EndWithTheirLastClosingLine) {
 TEST(FurtherForms, KeysBehindTheirDescription_EndWithTheirClosingLine) {
     for (const std::string_view first : {"X.509 Certificate Information:\n", "Public Key Info:\n"}) {
         const Bytes text = Build().text(first).text("\tVersion: 3\n-----BEGIN X-----\nAA\n-----END X-----\n");
-        EXPECT_EQ(walkBytes("PEM", Build().add(text).text("zx").u8(1)).end, text.size()) << first;
+        EXPECT_EQ(walkBytes("PEM", Build().add(text).text("ab cd e").u8(1)).end, text.size()) << first;
     }
 }
 
@@ -142,7 +142,7 @@ TEST(FurtherForms, Solution_EndsWithItsGlobalPart) {
 TEST(FurtherForms, EncryptedFile_EndsWithItsPacketsInParts) {
     Build out;
     out.be16(0x8C0D).be32(0x04090308).fill(9, 1);           // a passphrase's packet of 13 bytes
-    out.be16(0xD2E4).u8(1).fill(15, 3).u8(20).fill(20, 4);  // 16 bytes and 20
+    out.be16(0xD2E4).u8(1).fill(15, 3).u8(20).fill(20, 9);  // 16 bytes and 20
     EXPECT_EQ(walkBytes("PGP", Build().add(out).fill(600)).end, out.size());
     EXPECT_EQ(walkBytes("PGP", Build().be32(0xA3020102).fill(60, 1)).verdict, Verdict::Unknown);
 }
