@@ -20,7 +20,12 @@ Extent walkCertificate(ByteView& view) {
     const auto inner = view.u8(2 + digits);
     if (*bytes < 0x80 || (inner != 0x30 && inner != 0x02 && inner != 0x06))
         return unknownExtent();
-    return completeAt(view, 2 + digits + *bytes);
+    // Further certificates may follow it.
+    std::uint64_t end = 2 + digits + *bytes;
+    while (view.matches(end, "\x30\x82") && view.matches(end + 4, "\x30\x82") &&
+           view.matches(end + 8, "\xA0\x03\x02\x01\x02"))
+        end += 4 + std::uint64_t{view.be16(end + 2).value_or(0)};
+    return completeAt(view, end);
 }
 
 }  // namespace

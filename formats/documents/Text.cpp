@@ -95,7 +95,10 @@ std::optional<std::uint64_t> behindLastLine(ByteView& view, std::uint64_t end) {
 // Source: RFC 7468, RFC 4880 section 6.2.
 std::optional<std::uint64_t> behindLastKey(ByteView& view, std::uint64_t end) {
     constexpr std::string_view kBegin = "-----BEGIN ", kEnd = "-----END ", kClose = "-----";
-    if (!view.matches(0, kBegin) && !view.matches(0, "Certificate:\n"))
+    constexpr std::string_view kBeginnings[] = {kBegin, "Certificate:\n", "X.509 Certificate Info",
+                                                "Public Key Info:"};
+    if (std::none_of(std::begin(kBeginnings), std::end(kBeginnings),
+                     [&](std::string_view each) { return view.matches(0, each); }))
         return std::nullopt;
     std::optional<std::uint64_t> last;
     for (auto sign = view.find('\n', 0, end); sign.found(); sign = view.find('\n', sign.at + 1, end)) {

@@ -1,5 +1,6 @@
 // Brushes and patterns of the GIMP (GBR, PAT): a header that tells its own length, then pixels. Plotter files
-// share the first ending and are text. Source: GIMP developer documentation (gbr.txt, pat.txt).
+// share the first ending and are text; patches of instruments share the second and are neither. Source: GIMP
+// developer documentation (gbr.txt, pat.txt).
 #include "formats/Format.h"
 #include "formats/documents/Text.h"
 
@@ -11,7 +12,7 @@ Extent walkGimpBrush(ByteView& view) {
     constexpr std::uint32_t kMostHeader = 4096, kMostSide = 10000, kMostBytes = 18;
     const bool pattern = view.matches(20, "GPAT");
     if (!pattern && !view.matches(20, "GIMP"))
-        return view.u8(0).value_or(0) != 0 ? walkText(view) : unknownExtent();
+        return view.u8(0).value_or(0) != 0 && !view.matches(0, "GF1PATCH") ? walkText(view) : unknownExtent();
     Cursor in(view);
     const std::uint64_t head = in.u32();
     const auto version = in.u32();

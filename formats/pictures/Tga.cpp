@@ -40,12 +40,16 @@ Extent walkTga(ByteView& view) {
             done += count;
         }
     }
-    // Version 2 closes with a footer, behind an extension area at most.
-    constexpr std::uint64_t kFooter = 26, kMostExtras = 4096;
+    // Version 2 closes with a footer, behind areas for a developer, a small picture and an extension. Beyond
+    // a few bytes it has to name a place of such an area behind this picture, else it is another's.
+    constexpr std::uint64_t kFooter = 26, kFew = 4096, kMostExtras = 65536;
     constexpr std::string_view kMark("TRUEVISION-XFILE.\0", 18);
     for (auto mark = view.find('T', at, at + kMostExtras); mark.found();
          mark = view.find('T', mark.at + 1, at + kMostExtras)) {
-        if (mark.at >= at + kFooter - kMark.size() && view.matches(mark.at, kMark))
+        if (mark.at < at + kFooter - kMark.size() || !view.matches(mark.at, kMark))
+            continue;
+        const std::uint64_t extension = view.le32(mark.at - 8).value_or(0);
+        if (mark.at <= at + kFew || (extension >= at && extension < mark.at))
             return completeAt(view, mark.at + kMark.size(), facts);
     }
     return inexact(completeAt(view, at, facts));

@@ -48,8 +48,8 @@ TEST(FurtherForms, DiskPackedForAStream_EndsWithTheMarkOfItsEnd) {
     Build out;
     out.text("KDMV").le32(3).le32(0x30001).le64(32).le64(8).le64(1).le64(1).le32(512).le64(0);
     out.le64(~0ULL).le64(2).to(1024).le64(0).le32(30).fill(30, 5).to(1536);
-    out.le64(1).le32(0).le32(1).to(2560).le64(1).le32(0).le32(3).to(3584);
-    expectEndsItself("VMDK", out.to(4096 - 1).u8(0));
+    out.le64(2).le32(0).le32(1).to(3072).le64(1).le32(0).le32(3).to(4096);
+    expectEndsItself("VMDK", out.to(4608 - 1).u8(0));
 }
 
 TEST(FurtherForms, PackedDataOfADisk_ReachAsFarAsTheirSectors) {
@@ -88,6 +88,50 @@ TEST(FurtherForms, KeysInLetters_EndWithTheirLastClosingLine) {
     EXPECT_EQ(walkBytes("PEM", Build().add(noted).fill(100)).end, noted.size());
 }
 
+TEST(FurtherForms, KeysBehindTheirDescription_EndWithTheirClosingLine) {
+    for (const std::string_view first : {"X.509 Certificate Information:\n", "Public Key Info:\n"}) {
+        const Bytes text = Build().text(first).text("\tVersion: 3\n-----BEGIN X-----\nAA\n-----END X-----\n");
+        EXPECT_EQ(walkBytes("PEM", Build().add(text).text("ab cd e").u8(1)).end, text.size()) << first;
+    }
+}
+
+TEST(FurtherForms, CertificatesBehindOneAnother_AreOneFile) {
+    Build one;
+    one.be32(0x308200C8).be32(0x308200A0).be32(0xA0030201).u8(2).to(204);
+    expectEndsItself("CER", Build().add(one).add(one));
+}
+
+TEST(FurtherForms, OlderTableOfStata_EndsBehindItsRowsAndNames) {
+    for (const std::size_t format : {49, 12}) {
+        Build out;
+        out.u8(format == 12 ? 113 : 114).u8(2).le16(1).le16(2).le32(3).to(109).u8(255).u8(10);
+        out.fill(2 * 33 + 2 * 3 + 2 * format + 2 * 33 + 2 * 81).u8(1).le32(6).fill(6, 1).fill(5);
+        out.fill(3 * 18, 7).le32(8 + 8 + 4).text("name").fill(32).le32(1).le32(4).le32(0).le32(5).text(
+            "yes\0"_b);
+        const Extent extent = walkBytes("DTA", Build().add(out).add(noise(3000, 9)));
+        EXPECT_EQ(extent.verdict, Verdict::Complete);
+        EXPECT_EQ(extent.end, out.size()) << format;
+    }
+}
+
+TEST(FurtherForms, PatchOfAnInstrument_IsNoPatternAndNoText) {
+    Build out;
+    out.text("GF1PATCH110").to(82).u8(1).to(129 + 22).u8(1).to(129 + 63 + 6).u8(1).to(129 + 63 + 47 + 8);
+    expectEndsItself("PAT", out.le32(40).to(129 + 63 + 47 + 96).fill(40, 3));
+}
+
+TEST(FurtherForms, PictureWithASmallOneBehind_EndsWithTheFooterThatTellsOfIt) {
+    constexpr std::size_t kPixels = 18 + 8, kFar = 9000;
+    const auto picture = [](std::size_t extension) {
+        Build out;
+        out.be24(0x000003).to(12).le16(4).le16(2).u8(8).u8(0).fill(8, 5).fill(kFar, 6);
+        return out.le32(extension).le32(0).text("TRUEVISION-XFILE.\0"_b);
+    };
+    const Bytes own = picture(kPixels + 100), others = picture(18);
+    EXPECT_EQ(walkBytes("TGA", Build().add(own).add(noise(3000, 9))).end, own.size());
+    EXPECT_EQ(walkBytes("TGA", others).end, kPixels);
+}
+
 TEST(FurtherForms, Solution_EndsWithItsGlobalPart) {
     const Bytes text = Build().text(
         "Microsoft Visual Studio Solution File, Format Version "
@@ -98,7 +142,7 @@ TEST(FurtherForms, Solution_EndsWithItsGlobalPart) {
 TEST(FurtherForms, EncryptedFile_EndsWithItsPacketsInParts) {
     Build out;
     out.be16(0x8C0D).be32(0x04090308).fill(9, 1);           // a passphrase's packet of 13 bytes
-    out.be16(0xD2E4).u8(1).fill(15, 3).u8(20).fill(20, 4);  // 16 bytes and 20
+    out.be16(0xD2E4).u8(1).fill(15, 3).u8(20).fill(20, 9);  // 16 bytes and 20
     EXPECT_EQ(walkBytes("PGP", Build().add(out).fill(600)).end, out.size());
     EXPECT_EQ(walkBytes("PGP", Build().be32(0xA3020102).fill(60, 1)).verdict, Verdict::Unknown);
 }

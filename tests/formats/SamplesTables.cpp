@@ -106,6 +106,23 @@ Bytes module() {
     return out.to(1080).text("M.K.").fill(1024, 5).fill(8, 6);
 }
 
+// One instrument of one layer with two samples.
+Bytes instrumentPatch() {
+    Build out;
+    out.text("GF1PATCH110").to(82).u8(1).to(129 + 22).u8(1).to(129 + 63 + 6).u8(2).to(129 + 63 + 47);
+    for (const std::size_t wave : {10, 20}) {
+        Build sample;
+        out.add(sample.text("sample").to(8).le32(wave).to(96).fill(wave, 3));
+    }
+    return out;
+}
+
+Bytes qtTranslations() {
+    Build out;
+    out.be64(0x3CB86418CAEF9C95).be64(0xCD211CBF60A1BDDD);
+    return out.u8(0x42).be32(8).fill(8, 1).u8(0x69).be32(12).fill(12, 2).u8(0x88).be32(2).fill(2, 5);
+}
+
 }  // namespace
 
 std::vector<Sample> tableSamples() {
@@ -125,7 +142,10 @@ std::vector<Sample> tableSamples() {
             {"QCOW2", qemuDisk()},
             {"VMDK", vmwareDisk()},
             {"PGP", publicKey(), false},
-            {"NST", module()}};
+            {"NST", module()},
+            {"GF1", instrumentPatch()},
+            {"QM", qtTranslations(), false},
+            {"WPFM", Build().le16(0x100).le32(200).text("Copyright (c) 1").to(199).u8(1)}};
 }
 
 }  // namespace vantor::test
