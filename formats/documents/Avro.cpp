@@ -26,7 +26,7 @@ bool skipAvroBytes(ByteView& view, std::uint64_t& at) {
     return at <= view.size();
 }
 
-// Moves `at` behind the names and values of the head.
+// Moves `at` behind the names and values of the head; one without any is none.
 bool skipAvroHead(ByteView& view, std::uint64_t& at) {
     constexpr std::int64_t kMostNames = 4096;
     for (std::int64_t names = 0;;) {
@@ -34,7 +34,7 @@ bool skipAvroHead(ByteView& view, std::uint64_t& at) {
         if (!count || *count > kMostNames || *count < -kMostNames)
             return false;
         if (*count == 0)
-            return true;
+            return names != 0;
         if (*count < 0) {  // its bytes are told as well
             count = -*count;
             if (!avroNumber(view, at))
@@ -60,7 +60,7 @@ Extent walkAvro(ByteView& view) {
     for (at += mark.size();;) {
         std::uint64_t next = at;
         const auto records = avroNumber(view, next);
-        if (!records || *records < 0 || !skipAvroBytes(view, next) || !view.copy(next, found) ||
+        if (!records || *records <= 0 || !skipAvroBytes(view, next) || !view.copy(next, found) ||
             found != mark)
             return inexact(completeAt(view, at));
         at = next + mark.size();
