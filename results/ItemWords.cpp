@@ -47,7 +47,8 @@ QString lengthWords(const ItemFacts& known, std::int64_t durationMs) {
     if (durationMs <= 0 && known.soundness) {
         durationMs = static_cast<std::int64_t>(known.soundness->durationMs);
     }
-    return durationMs > 0 ? timeText(durationMs) : QString();
+    constexpr std::int64_t kSecond = 1000;  // what plays less has no length that could be told
+    return durationMs >= kSecond ? timeText(durationMs) : QString();
 }
 
 QString extentWords(const ItemFacts& known, std::int64_t durationMs) {

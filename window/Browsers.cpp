@@ -232,9 +232,9 @@ void MyTableController::showItemCounts() {
     for (QPushButton* button : {saveAllButton, saveAllButton_Sig}) {
         button->setEnabled(shown > 0 || (m_looks->showsAll() && !m_told.empty()));
         button->setText(m_looks->showsAll() ? tr("Save &All…")
-                                           : tr("Save &All Shown (%1)…").arg(numberOf(shown)));
+                                            : tr("Save &All Shown (%1)…").arg(numberOf(shown)));
         button->setAccessibleName(m_looks->showsAll() ? tr("Save all found items")
-                                                     : tr("Save all items that are shown"));
+                                                      : tr("Save all items that are shown"));
     }
     const auto savedCount = static_cast<qsizetype>(m_desk->marks().saved());
     const QString saved =

@@ -1,5 +1,6 @@
 // The destination folder and the help window.
 #include <QFileInfo>
+#include <algorithm>
 
 #include "results/SizeForPeople.h"
 #include "saving/DestinationCheck.h"
@@ -25,6 +26,15 @@ class FolderChooser : public QFileDialog {
     }
 };
 
+// Empty where none is. Folders that a path passes through while it is typed stay selected, and stand first:
+// the one that is meant lies deepest.
+QString chosenFolder(const QFileDialog& chooser) {
+    const QStringList folders = chooser.selectedFiles();
+    const auto deepest = std::max_element(folders.cbegin(), folders.cend(),
+                                          [](const auto& a, const auto& b) { return a.size() < b.size(); });
+    return deepest == folders.cend() ? QString() : *deepest;
+}
+
 }  // namespace
 
 QString MyTableController::devicePath() const {
@@ -46,8 +56,9 @@ void MyTableController::browseForDestination() {
     auto* chooser = new FolderChooser(window, folderToBeginWith());
     chooser->setAttribute(Qt::WA_DeleteOnClose);
     connect(chooser, &QDialog::finished, this, [this, chooser](int result) {
-        if (result == QDialog::Accepted && !chooser->selectedFiles().isEmpty()) {
-            acceptDestination(chooser->selectedFiles().constFirst());
+        const QString folder = chosenFolder(*chooser);
+        if (result == QDialog::Accepted && !folder.isEmpty()) {
+            acceptDestination(folder);
         }
     });
     chooser->open();
@@ -55,8 +66,9 @@ void MyTableController::browseForDestination() {
 
 void MyTableController::openPanelDidEnd(QFileDialog* panel, int returnCode, void*) {
     panel->hide();
-    if (returnCode == kChosen && !panel->selectedFiles().isEmpty()) {
-        acceptDestination(panel->selectedFiles().constFirst());
+    const QString folder = chosenFolder(*panel);
+    if (returnCode == kChosen && !folder.isEmpty()) {
+        acceptDestination(folder);
     }
 }
 
@@ -151,11 +163,11 @@ QString MyTableController::askDestination() {
 
 QString MyTableController::chooseDestination() {
     FolderChooser chooser(window, folderToBeginWith());
-    if (chooser.exec() != QDialog::Accepted || chooser.selectedFiles().isEmpty()) {
+    if (chooser.exec() != QDialog::Accepted) {
         return {};
     }
-    const QString folder = chooser.selectedFiles().constFirst();
-    return acceptDestination(folder) ? folder : QString();
+    const QString folder = chosenFolder(chooser);
+    return !folder.isEmpty() && acceptDestination(folder) ? folder : QString();
 }
 
 void MyTableController::openDestination() {

@@ -49,9 +49,7 @@ class SavedContentsTest : public testing::Test {
         made.report = ReportHead{};
         return made;
     }
-    void decodeBy(ContentDecoder decodes) const {
-        *saver->contents() = SavedContents(std::move(decodes));
-    }
+    void decodeBy(ContentDecoder decodes) const { *saver->contents() = SavedContents(std::move(decodes)); }
 
     static constexpr std::uint64_t kSectorsEach = 20;
 

@@ -150,6 +150,8 @@ TEST(DetailsColumns, WhatIsKnown_StandsInItsColumn) {
     EXPECT_EQ(detailsText(DetailsColumn::Camera, *item, facts, nullptr), QStringLiteral("Canon"));
     EXPECT_EQ(detailsText(DetailsColumn::Extent, *item, facts, nullptr), QStringLiteral("4,000 × 3,000"));
     EXPECT_EQ(detailsText(DetailsColumn::Extent, *item, facts, &movie), QStringLiteral("1:05"));
+    facts.soundness->durationMs = 999;
+    EXPECT_EQ(detailsText(DetailsColumn::Extent, *item, facts, nullptr), QStringLiteral("4,000 × 3,000"));
     facts.soundness->durationMs = 3'725'000;
     EXPECT_EQ(detailsText(DetailsColumn::Extent, *item, facts, nullptr), QStringLiteral("1:02:05"));
     EXPECT_EQ(detailsText(DetailsColumn::Extent, *item, facts, &movie), QStringLiteral("1:05"))

@@ -1,6 +1,8 @@
 // Where files are saved to: asked for, refused, shown with its room, gone.
 #include <QApplication>
+#include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
@@ -163,6 +165,20 @@ TEST_F(Saving, TheDestinationIsShownWithItsRoomAndCanBeChanged) {
     click(controller->saveAllButton);
     EXPECT_TRUE(savedFiles().isEmpty());
     EXPECT_TRUE(QFileInfo::exists(other.filePath(QStringLiteral("JPG/GND00001.JPG"))));
+}
+
+// The file dialog keeps folders selected that a path passes through while it is typed.
+TEST_F(Saving, OfFoldersWithinOneAnother_TheDeepestIsTheDestination) {
+    openPhotoResults();
+    const QString wanted = destination.filePath(QStringLiteral("out"));
+    ASSERT_TRUE(QDir().mkpath(wanted));
+    QFileDialog panel;
+    panel.setFileMode(QFileDialog::ExistingFiles);
+    panel.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))
+        ->setText(QStringLiteral("\"%1\" \"%2\"").arg(destination.path(), wanted));
+    ASSERT_EQ(panel.selectedFiles(), (QStringList{destination.path(), wanted}));
+    controller->openPanelDidEnd(&panel, 1, nullptr);
+    EXPECT_EQ(controller->_path->text(), wanted);
 }
 
 TEST_F(Saving, AFolderThatTakesNoFiles_IsRefusedWhenItIsChosen) {
