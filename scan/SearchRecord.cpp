@@ -174,13 +174,14 @@ SectorBits readBits(Reader& reader) {
 bool sumHolds(QFile& file) {
     constexpr qint64 kPiece = qint64{1} << 20;
     QCryptographicHash sum(kSum);
+    QByteArray piece(kPiece, Qt::Uninitialized);  // one for all, so that nothing has to be given back
     for (qint64 left = file.size() - kSumBytes; left > 0;) {
-        const QByteArray piece = file.read(std::min(left, kPiece));
-        if (piece.isEmpty()) {
+        const qint64 got = file.read(piece.data(), std::min(left, kPiece));
+        if (got <= 0) {
             return false;
         }
-        sum.addData(piece);
-        left -= piece.size();
+        sum.addData(QByteArrayView(piece).first(got));
+        left -= got;
     }
     return file.read(kSumBytes) == sum.result() && file.seek(0);
 }
