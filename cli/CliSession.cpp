@@ -294,29 +294,40 @@ PublishedItem CliSession::published(std::size_t index) const {
             item->carved().readFailed};
 }
 
-// Empty where it could not be read once more.
-QByteArray CliSession::checksumOf(const PublishedItem& item) const {
+// Empty where it could not be read once more. Once more from a medium as it is when just opened: one that
+// refused nothing is that again when it is sought in, so that a list of a million items does not open it as
+// often.
+QByteArray CliSession::checksumOf(const PublishedItem& item, std::unique_ptr<SectorReader>& medium) const {
     const std::atomic<int> neverStop{0};
     Sha256 hash;
-    const auto medium = openMedium();
+    if (medium) {
+        medium->seek(item.firstSector);
+    } else {
+        medium = openMedium();
+    }
+    const bool opened = medium != nullptr;
     const bool read =
-        medium && copyPreviewSectors(
+        opened && copyPreviewSectors(
                       *medium, item.firstSector, item.endSector, neverStop, [&](const std::uint8_t* sector) {
                           hash.add(QByteArrayView(reinterpret_cast<const char*>(sector), kSectorBytes));
                           return true;
                       });
+    if (!read) {
+        medium.reset();
+    }
     // Bytes that were repeated while they were searched repeat here; what fails only now is not the item.
-    return read || (medium && item.readFailed) ? hash.result() : QByteArray();
+    return read || (opened && item.readFailed) ? hash.result() : QByteArray();
 }
 
 bool CliSession::forEachJsonLine(const std::function<void(const QJsonObject&)>& take) const {
     const auto number = [](std::uint64_t value) { return QJsonValue(static_cast<qint64>(value)); };
+    std::unique_ptr<SectorReader> medium;  // while nothing was refused
     bool all = true;
     for (std::size_t i = 0; i < m_publishedCount; ++i) {
         const PublishedItem item = published(i);
         const QByteArray sha256 = m_options.mode == kPhotoMode
                                       ? QByteArray(m_sums[i].data(), static_cast<qsizetype>(m_sums[i].size()))
-                                      : checksumOf(item);
+                                      : checksumOf(item, medium);
         all = all && !sha256.isEmpty();
         take({{QStringLiteral("pass"), item.pass},
               {QStringLiteral("name"), item.name},

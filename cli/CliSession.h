@@ -158,7 +158,7 @@ class CliSession : private CliView, public ScanSession {
     void completeItems(ItemMending& mending, const std::vector<MendableItem>& items);
     void repairItems(ItemMending& mending, const std::vector<MendableItem>& items);
     bool useReference(ItemMending& mending);
-    QByteArray checksumOf(const PublishedItem& item) const;
+    QByteArray checksumOf(const PublishedItem& item, std::unique_ptr<SectorReader>& medium) const;
     QJsonObject endLine() const;
 
     CliOptions m_options;

@@ -20,6 +20,7 @@ ScriptedMedium twoItems() {
 struct Listed {
     bool all = false;
     QList<QJsonValue> sums;
+    int opened = 0;  // for the sums
 };
 
 // The first `goodOpens` openings give a medium that reads, those behind them one with these sectors bad.
@@ -41,12 +42,14 @@ Listed list(std::set<std::uint64_t> badBeforehand, int goodOpens, std::set<std::
     session.RawFile_Array = recordsOf({{"XYZ", "48454144"}});
     session.chooseAllTypes();
     session.run();
+    const int openedBefore = opened;
     Listed listed;
     listed.all = session.forEachJsonLine([&](const QJsonObject& line) {
         if (line.contains("sha256")) {
             listed.sums << line["sha256"];
         }
     });
+    listed.opened = opened - openedBefore;
     return listed;
 }
 
@@ -55,6 +58,7 @@ TEST(Checksums, OfItemsThatReadWhole) {
     EXPECT_TRUE(listed.all);
     ASSERT_EQ(listed.sums.size(), 2);
     EXPECT_EQ(listed.sums[0].toString().size(), 64);
+    EXPECT_EQ(listed.opened, 1);
 }
 
 TEST(Checksums, WhatFailsOnlyOnceMoreIsNotSummed) {
@@ -69,6 +73,8 @@ TEST(Checksums, WhatFailsOnlyOnceMoreIsNotSummed) {
 TEST(Checksums, WhatFailedInTheSearchRepeatsAndIsSummed) {
     const Listed listed = list({4}, 100, {});
     EXPECT_TRUE(listed.all);
+    // The reads behind a refused one lag, so the item behind it is read from a medium opened anew.
+    EXPECT_EQ(listed.opened, 2);
     ASSERT_EQ(listed.sums.size(), 2);
     EXPECT_EQ(listed.sums[0].toString().size(), 64);
 }
