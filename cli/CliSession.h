@@ -141,7 +141,11 @@ class CliSession : private CliView, public ScanSession {
                             std::uint64_t File_Start_Sec, std::uint64_t File_End_Sec) override;
     // Checksums and saving need all of a photo, a list nothing but its name.
     PhotoBytes photoBytesNeeded() const override {
-        return m_options.listJson || !m_options.saveFolder.isEmpty() ? PhotoBytes::All : PhotoBytes::First;
+        // Their checksums are listed; a saver reads for itself what the search does not have to.
+        if (m_options.listJson) {
+            return PhotoBytes::All;
+        }
+        return m_options.saveFolder.isEmpty() ? PhotoBytes::First : PhotoBytes::AtHand;
     }
     void publish(const QByteArray& sha256);
     void save(const QString& name, const QByteArray& firstBytes);

@@ -19,9 +19,11 @@ std::size_t threadsToUse() {
     return std::clamp(std::thread::hardware_concurrency() - 1, 1U, kMostThreads);
 }
 
-// The one beside them is that of the window taken before the last.
+// Windows that were taken and stay in place.
+constexpr std::uint64_t kKept = 2;
+
 std::size_t slotsToUse() {
-    return threadsToUse() * kSlotsPerThread + 1;
+    return threadsToUse() * kSlotsPerThread + kKept;
 }
 
 }  // namespace
@@ -89,10 +91,36 @@ std::vector<SectorRun> ReadAhead::pause() {
     return refused;
 }
 
-ReadAhead::Window ReadAhead::take() {
+bool ReadAhead::goOnTo(std::uint64_t sector) {
+    if (!m_running || sector < m_nextTaken) {
+        return false;
+    }
+    if (sector == m_nextTaken) {
+        return true;
+    }
+    const std::uint64_t sectors = m_windowBytes / kSectorBytes;
+    const std::uint64_t passed = (sector - m_nextTaken) / sectors;
     std::unique_lock lock(m_mutex);
-    // The window taken last is kept: its last sector stays the current one should this window be refused.
-    if (m_windowsTaken > m_windowsGivenBack + 1) {
+    const std::uint64_t wanted = m_windowsTaken + passed;
+    if (wanted >= m_windowsBegun) {
+        return false;
+    }
+    for (std::uint64_t window = m_windowsTaken; window <= wanted; ++window) {
+        const Slot& slot = m_slots[window % m_slots.size()];
+        m_arrived.wait(lock, [&] { return slot.fetched; });
+        if (slot.length != static_cast<std::int64_t>(m_windowBytes)) {
+            return false;
+        }
+    }
+    m_windowsTaken = wanted;
+    m_nextTaken += passed * sectors;
+    return true;
+}
+
+ReadAhead::Window ReadAhead::takeFrom(std::uint64_t sector) {
+    std::unique_lock lock(m_mutex);
+    // The last sector of the window before stays the current one should this window be refused.
+    while (m_windowsTaken > m_windowsGivenBack + kKept) {
         m_slots[m_windowsGivenBack % m_slots.size()].fetched = false;
         ++m_windowsGivenBack;
         m_wanted.notify_one();
@@ -106,9 +134,12 @@ ReadAhead::Window ReadAhead::take() {
             m_arrived.wait(lock, [&] { return slot.fetched; });
         }
     }
+    const std::uint64_t passed = sector - m_nextTaken;
     ++m_windowsTaken;
     m_nextTaken += m_windowBytes / kSectorBytes;
-    return {slot.bytes, slot.length, slot.screened ? slot.looks.data() : nullptr};
+    return {slot.bytes + passed * kSectorBytes,
+            slot.length - static_cast<std::int64_t>(passed * kSectorBytes),
+            slot.screened ? slot.looks.data() + passed : nullptr};
 }
 
 // Called with the lock held, which is given up while the medium is read.

@@ -37,6 +37,11 @@ class ReadAhead {
 
     // True when the next window to be taken begins at the sector.
     bool isAt(std::uint64_t sector) const { return m_running && m_nextTaken == sector; }
+    std::uint64_t nextTaken() const { return m_nextTaken; }  // sector
+
+    // Makes the window that holds the sector the next to be taken, waiting for it where necessary. False, and
+    // nothing changes, where it is not among those being read, or one up to it is not full.
+    bool goOnTo(std::uint64_t sector);
 
     struct Window {
         const std::uint8_t* bytes = nullptr;
@@ -44,9 +49,9 @@ class ReadAhead {
         const std::uint8_t* looks = nullptr;  // one a sector, as SectorScreen sets them; null: look at all
     };
 
-    // The next window, waiting for it where necessary; valid until the take after the next, or the next
-    // start. After one that is not full the reading has to be paused and started again.
-    Window take();
+    // The next window, from a sector of it on, waiting for it where necessary; valid until the third take
+    // after it, or the next start. After one that is not full the reading has to be paused and started again.
+    Window takeFrom(std::uint64_t sector);
 
   private:
     struct Slot {

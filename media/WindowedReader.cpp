@@ -37,15 +37,19 @@ bool WindowedReader::fetch() {
     if (m_gone) {
         return false;
     }
-    if (fetchQuiet() || fetchKept()) {
+    if (fetchQuiet() || fetchKept() || fetchHeld()) {
         return true;
     }
     if (position() >= m_singleFrom && position() < m_singleUntil) {
         return fetchSingle();
     }
     m_attemptedFrom = m_attemptedUntil = 0;
+    const bool isReadAhead = m_ahead && m_ahead->goOnTo(position());
+    if (!isReadAhead) {
+        stopReadingAhead();  // first, since what was refused to it counts
+    }
     const std::size_t wanted = sectorsToFetch();
-    return wanted == 0 ? fetchSingle() : fetchWindow(wanted);
+    return wanted == 0 ? fetchSingle() : fetchWindow(wanted, isReadAhead);
 }
 
 bool WindowedReader::fetchQuiet() {
@@ -71,6 +75,38 @@ bool WindowedReader::fetchKept() {
     std::copy_n(kept, kSectorBytes, m_kept.begin());
     handOver(m_kept.data(), 1, screened(m_kept.data(), 1));
     return true;
+}
+
+// For a reader that went back a little, or on by less than was fetched.
+bool WindowedReader::fetchHeld() {
+    const auto holds = [this](const Held& held) {
+        return held.run.first <= position() && position() < held.run.end;
+    };
+    if (m_recall || m_screen || (!holds(m_held) && !holds(m_heldBefore))) {
+        return false;
+    }
+    if (!holds(m_held)) {
+        std::swap(m_held, m_heldBefore);
+        if (m_held.bytes == m_back) {
+            std::swap(m_front, m_back);
+        }
+    }
+    const std::uint64_t passed = position() - m_held.run.first;
+    handOver(m_held.bytes + passed * kSectorBytes, m_held.run.end - position());
+    return true;
+}
+
+void WindowedReader::hold(const std::uint8_t* bytes, std::size_t sectors, const std::uint8_t* looks) {
+    m_heldBefore = std::exchange(m_held, {{position(), position() + sectors}, bytes});
+    handOver(bytes, sectors, looks);
+}
+
+// The window that is not current, to be read into.
+std::uint8_t* WindowedReader::spare() {
+    if (m_heldBefore.bytes == m_back) {
+        m_heldBefore = {};
+    }
+    return m_back;
 }
 
 // Up to the first sector that is known to be refused, at one attempt or two, and to the first whose bytes are
@@ -111,13 +147,21 @@ void WindowedReader::bringCurrent() {
     }
 }
 
-bool WindowedReader::fetchWindow(std::size_t wanted) {
+bool WindowedReader::fetchWindow(std::size_t wanted, bool isReadAhead) {
     ReadAhead::Window window;
-    if (m_ahead && m_ahead->isAt(position())) {
-        window = m_ahead->take();
+    if (isReadAhead) {
+        if (m_held.run.end != m_ahead->nextTaken()) {
+            m_held = {};  // what lies further back makes room
+        }
+        window = m_ahead->takeFrom(position());
+        const std::uint64_t whole = m_ahead->nextTaken() - position();
+        wanted = std::min(wanted, static_cast<std::size_t>(whole));
+        if (window.length != static_cast<std::int64_t>(whole * kSectorBytes)) {
+            stopReadingAhead();
+        }
     } else {
-        stopReadingAhead();
-        window = {m_back, m_source->readAt(position(), {m_back, wanted * kSectorBytes}), nullptr};
+        window.bytes = spare();
+        window.length = m_source->readAt(position(), {m_back, wanted * kSectorBytes});
     }
     const auto sectors = window.length < 0 ? 0 : static_cast<std::size_t>(window.length) / kSectorBytes;
     if (sectors < wanted) {
@@ -141,9 +185,12 @@ bool WindowedReader::fetchWindow(std::size_t wanted) {
     if (m_ahead && sequential && sectors == m_windowSectors && nothingRefused &&
         !m_ahead->isAt(m_windowEnd)) {
         stopReadingAhead();
+        if (m_held.bytes != m_back) {
+            m_held = {};  // of an earlier reading ahead, whose place is read into now
+        }
         m_ahead->start(m_windowEnd, m_screen);
     }
-    handOver(window.bytes, sectors, window.looks != nullptr ? window.looks : screened(window.bytes, sectors));
+    hold(window.bytes, sectors, window.looks != nullptr ? window.looks : screened(window.bytes, sectors));
     return true;
 }
 
@@ -162,7 +209,7 @@ bool WindowedReader::fetchSingle() {
         return false;
     }
     std::swap(m_front, m_back);
-    handOver(m_front, 1, screened(m_front, 1));
+    hold(m_front, 1, screened(m_front, 1));
     return true;
 }
 
@@ -236,6 +283,7 @@ void WindowedReader::noteRefused(std::uint64_t first, std::uint64_t end) {
 
 void WindowedReader::setScreen(std::shared_ptr<const SectorScreen> screen) {
     stopReadingAhead();
+    m_held = m_heldBefore = {};
     m_screen = std::move(screen);
 }
 
@@ -247,7 +295,7 @@ void WindowedReader::stopReadingAhead() {
 }
 
 bool WindowedReader::readSingle(std::uint64_t sector) {
-    return m_source->readAt(sector, {m_back, kSectorBytes}) == static_cast<std::int64_t>(kSectorBytes);
+    return m_source->readAt(sector, {spare(), kSectorBytes}) == static_cast<std::int64_t>(kSectorBytes);
 }
 
 // Of two stretches far from each other the later counts: what was refused in the former is known by now.
@@ -274,12 +322,16 @@ bool WindowedReader::isInDeadStretch(std::uint64_t sector) const {
     return refused >= (m_refusals < kMostRefusals ? kDeadStretch : 1);
 }
 
+// What is read ahead may serve there too.
 bool WindowedReader::moveTo(std::uint64_t sector) {
-    stopReadingAhead();
     if (noteWhetherGone()) {
         return false;
     }
-    return !isInDeadStretch(sector) || readSingleOrRefuse(sector);
+    if (!isInDeadStretch(sector)) {
+        return true;
+    }
+    stopReadingAhead();
+    return readSingleOrRefuse(sector);
 }
 
 }  // namespace vantor

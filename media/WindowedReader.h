@@ -61,8 +61,11 @@ class WindowedReader : public SectorReader {
   private:
     bool fetchQuiet();
     bool fetchKept();
+    bool fetchHeld();
+    void hold(const std::uint8_t* bytes, std::size_t sectors, const std::uint8_t* looks);
+    std::uint8_t* spare();
     std::size_t sectorsToFetch() const;
-    bool fetchWindow(std::size_t wanted);
+    bool fetchWindow(std::size_t wanted, bool isReadAhead);
     bool fetchSingle();
     const std::uint8_t* screened(const std::uint8_t* bytes, std::size_t sectors);
     bool readSingleOrRefuse(std::uint64_t sector);
@@ -95,6 +98,13 @@ class WindowedReader : public SectorReader {
     std::unique_ptr<std::uint8_t[]> m_storage;
     std::uint8_t* m_front;
     std::uint8_t* m_back;
+    // The sectors that were handed over last, and those before them, as long as their bytes are in place.
+    struct Held {
+        SectorRun run;
+        const std::uint8_t* bytes = nullptr;
+    };
+    Held m_held;  // never in m_back
+    Held m_heldBefore;
     // Sectors that are read one by one.
     std::uint64_t m_singleFrom = 0;
     std::uint64_t m_singleUntil = 0;

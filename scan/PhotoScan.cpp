@@ -78,8 +78,7 @@ bool ScanSession::Photo_Recovey_Mode(const QString& passName) {
         pass.searchFor(REC_PROC_Array);
         pass.reading = beginReading(ControlSet::Photo, passName, pass.matcher);
         const PhotoBytes needed = photoBytesNeeded();
-        pass.keepsBytes =
-            needed == PhotoBytes::All || (needed == PhotoBytes::Picture && !pass.reading.recalls);
+        pass.keepsBytes = needed == PhotoBytes::All || (needed != PhotoBytes::First && !pass.reading.recalls);
         pass.readsPictures = needed == PhotoBytes::Picture && !pass.keepsBytes;
         runPhotoLoop(pass);
     });

@@ -226,9 +226,10 @@ class ScanSession : public HexText {
     void addThumbnail(const QByteArray& thumbnail, const QString& imageName, const QString& image_UID,
                       const HandOver& from);
     const RefusedSectors& refusals() const { return *m_refusals; }
-    // How much of a photo addImageWithData() has to be given where it would have to be read again: the first
-    // sector, as far as its picture reaches, or everything.
-    enum class PhotoBytes { First, Picture, All };
+    // How much of a photo addImageWithData() has to be given: the first sector, as far as its picture
+    // reaches, all that the pass reads anyway, which is the first sector where an earlier pass read it, or
+    // everything.
+    enum class PhotoBytes { First, Picture, AtHand, All };
     virtual PhotoBytes photoBytesNeeded() const { return PhotoBytes::All; }
     // Whether the picture of the photo handed over at this moment is known: its bytes are then not read
     // again.

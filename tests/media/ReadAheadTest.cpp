@@ -208,7 +208,7 @@ TEST(ReadAhead, PauseAndDestructionWaitForNobody) {
         ReadAhead ahead(source, kAheadWindow * kSectorBytes);
         ahead.start(0, nullptr);
         EXPECT_TRUE(ahead.isAt(0));
-        ahead.take();
+        ahead.takeFrom(0);
         EXPECT_TRUE(ahead.isAt(kAheadWindow));
         ahead.pause();
         EXPECT_FALSE(ahead.isAt(kAheadWindow));
