@@ -137,6 +137,20 @@ TEST_F(FoundPaneTest, AnOpenedHeadingHasEveryItemLookedAt_AndRowsOfDifferentHead
     EXPECT_EQ(textOf(row({tr("By day"), tr("Date not known")}), 1), QStringLiteral("4"));
 }
 
+TEST_F(FoundPaneTest, SoundsAndMoviesArePickedByTheirLength) {
+    scan();
+    ASSERT_TRUE(waitFor([this] { return row({tr("By length")}) != nullptr; }));
+    row({tr("By length")})->setExpanded(true);
+    ASSERT_TRUE(waitFor([this] {
+        return textOf(row({tr("By length"), tr("Under 10 seconds")}), 1) == QLatin1String("2") &&
+               controller->factsOfItem(1).soundness && controller->factsOfItem(2).soundness;
+    }));
+    clickRow(row({tr("By length"), tr("Under 10 seconds")}));
+    EXPECT_EQ(shown(), (QStringList{wav, torn}));
+    clickRow(row({tr("By length"), tr("Length not known")}));
+    EXPECT_EQ(shown(), (QStringList{png, aiff}));
+}
+
 TEST_F(FoundPaneTest, AClickOnTheWordsOfAHeading_OpensAndClosesIt) {
     scan();
     QTreeWidgetItem* const sizes = row({tr("By size")});
