@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QShortcut>
 #include <QSignalBlocker>
+#include <QTimer>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -334,6 +335,8 @@ void FoundPane::takeChoice() {
     m_filling = false;
     if (choice != m_choice) {
         m_choice = std::move(choice);
+        // What stayed only since it was picked; not from within the click.
+        QTimer::singleShot(0, this, &FoundPane::dropUnseen);
         emit chosen();
     }
 }
