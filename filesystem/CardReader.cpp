@@ -11,7 +11,7 @@
 #include "filesystem/LostDirectories.h"
 #include "filesystem/LostRecords.h"
 #include "filesystem/NtfsVolume.h"
-#include "filesystem/PartitionTable.h"
+#include "filesystem/PresentVolumes.h"
 
 namespace vantor {
 
@@ -25,7 +25,7 @@ class VolumesReader {
         : m_card(card), m_traces(traces), m_found(found) {}
 
     CardTable read() {
-        for (const VolumeShape& shape : presentShapes()) {
+        for (const VolumeShape& shape : presentVolumes(m_card)) {
             if (shape.kind == FileSystemKind::Ntfs) {
                 tellNtfs(shape, true);
                 continue;
@@ -66,47 +66,6 @@ class VolumesReader {
         }
         m_ntfsShapes.push_back(shape);
         m_ntfsRecords.insert(m_ntfsRecords.end(), volume.recordPlaces().begin(), volume.recordPlaces().end());
-    }
-
-    std::optional<VolumeShape> shapeAt(std::uint64_t sector, std::uint64_t first) {
-        SectorBytes bytes;
-        if (sector >= m_card.sectors() || !m_card.readAt(sector, bytes)) {
-            return std::nullopt;
-        }
-        return shapeFromBootSector(bytes, first, m_card.sectors());
-    }
-
-    // Two partitions may begin in the same sector.
-    static void addNew(const VolumeShape& shape, std::vector<VolumeShape>& to) {
-        if (std::none_of(to.begin(), to.end(),
-                         [&](const VolumeShape& one) { return one.sameClusters(shape); })) {
-            to.push_back(shape);
-        }
-    }
-
-    // The whole card is one file system, or its tables name several. Where a first sector is gone, the places
-    // of its copies are asked: six and twelve sectors behind it, and the last one.
-    std::vector<VolumeShape> presentShapes() {
-        std::vector<VolumeShape> shapes;
-        if (const auto whole = shapeAt(0, 0)) {
-            return {*whole};
-        }
-        for (const SectorRun& partition : partitionsOf(m_card)) {
-            for (const std::uint64_t at :
-                 {partition.first, partition.first + 6, partition.first + 12, partition.end - 1}) {
-                if (const auto shape = shapeAt(at, partition.first)) {
-                    addNew(*shape, shapes);
-                    break;
-                }
-            }
-        }
-        for (const std::uint64_t copy : {6, 12}) {
-            const auto shape = shapes.empty() ? shapeAt(copy, 0) : std::nullopt;
-            if (shape) {
-                shapes.push_back(*shape);
-            }
-        }
-        return shapes;
     }
 
     // Those whose first sector or its copy was passed by.

@@ -16,7 +16,8 @@
 
 namespace vantor {
 
-ImageShelf::ImageShelf(std::unique_ptr<MediaSource> machine) : m_machine(std::move(machine)) {
+ImageShelf::ImageShelf(std::unique_ptr<MediaSource> machine, FileSystemTeller teller)
+    : m_machine(std::move(machine)), m_teller(std::move(teller)) {
     m_machine->changed = [this] {
         if (changed) {
             changed();
@@ -29,6 +30,7 @@ QStringList ImageShelf::mountedRemovableMedia() {
     for (Image& image : m_images) {
         if (!image.held->isAsNamed()) {
             image.held = std::make_shared<HeldImage>();
+            image.fileSystem.reset();
         }
         paths << image.path;
     }
@@ -37,7 +39,7 @@ QStringList ImageShelf::mountedRemovableMedia() {
 }
 
 MediaFacts ImageShelf::diskInfo(const QString& path) {
-    for (const Image& image : m_images) {
+    for (Image& image : m_images) {
         if (path == image.path || path == image.identifier) {
             return factsOf(image);
         }
@@ -89,7 +91,7 @@ void ImageShelf::updateTargets() {
     m_targets->replace(targets);
 }
 
-MediaFacts ImageShelf::factsOf(const Image& image) {
+MediaFacts ImageShelf::factsOf(Image& image) const {
     std::optional<std::uint64_t> sectors = image.sectors;
     if (!sectors) {
         const auto facts = probeMedium(image.path);
@@ -98,9 +100,14 @@ MediaFacts ImageShelf::factsOf(const Image& image) {
     if (!sectors || !QFileInfo(image.path).isFile()) {
         return {};
     }
+    if (!image.fileSystem && m_teller) {
+        const std::unique_ptr<SectorReader> medium = openMedium(image.path);
+        image.fileSystem = medium ? m_teller(*medium, *sectors) : QString();
+    }
     const QString name = QFileInfo(image.path).fileName();
     return {{QStringLiteral("DeviceIdentifier"), image.identifier},
             {QStringLiteral("VolumeName"), name},
+            {QStringLiteral("FilesystemUserVisibleName"), image.fileSystem.value_or(QString())},
             {QStringLiteral("ParentWholeDisk"), image.identifier},
             {QStringLiteral("IOKitSize"), quint64{*sectors * kSectorBytes}},
             {QStringLiteral("BusProtocol"), QStringLiteral("Image File")},

@@ -4,18 +4,24 @@
 #include <QList>
 #include <QString>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 
 #include "media/MediaSource.h"
+#include "media/SectorReader.h"
 
 namespace vantor {
+
+// Names the file systems of a medium of so many sectors, for people; empty where none is known.
+using FileSystemTeller = std::function<QString(SectorReader& medium, std::uint64_t sectors)>;
 
 // The media of another source, and behind them the opened images in the order of opening. An image whose file
 // is gone has no facts and so no row; it is back when the file is.
 class ImageShelf : public MediaSource {
   public:
-    explicit ImageShelf(std::unique_ptr<MediaSource> machine);
+    // Without a teller no image has a file system.
+    explicit ImageShelf(std::unique_ptr<MediaSource> machine, FileSystemTeller teller = {});
 
     QStringList mountedRemovableMedia() override;
     QStringList localVolumes() override { return m_machine->localVolumes(); }
@@ -31,12 +37,14 @@ class ImageShelf : public MediaSource {
         std::shared_ptr<HeldImage> held;  // since it was listed
         // Of one that takes long to be opened; of others what the file says now.
         std::optional<std::uint64_t> sectors = {};
+        std::optional<QString> fileSystem = {};  // nothing: not looked at yet
     };
 
     void updateTargets();
-    static MediaFacts factsOf(const Image& image);
+    MediaFacts factsOf(Image& image) const;
 
     std::unique_ptr<MediaSource> m_machine;
+    const FileSystemTeller m_teller;
     QList<Image> m_images;
     std::shared_ptr<MediumTargets> m_targets = std::make_shared<MediumTargets>();
 };

@@ -4,8 +4,6 @@
 #include <utility>
 #include <vector>
 
-#include "media/ImageShelf.h"
-
 #ifdef Q_OS_MACOS
 #include "media/DiskUtilitySource.h"
 #else
@@ -16,7 +14,7 @@
 
 namespace vantor {
 
-std::unique_ptr<MediaSource> makePlatformMediaSource() {
+std::unique_ptr<MediaSource> makePlatformMediaSource(FileSystemTeller teller) {
 #ifdef Q_OS_MACOS
     auto machine = std::make_unique<DiskUtilitySource>();
 #else
@@ -25,7 +23,7 @@ std::unique_ptr<MediaSource> makePlatformMediaSource() {
     backends.push_back(std::make_unique<SysfsBackend>());
     auto machine = std::make_unique<BackendMediaSource>(std::move(backends));
 #endif
-    return std::make_unique<ImageShelf>(std::move(machine));
+    return std::make_unique<ImageShelf>(std::move(machine), std::move(teller));
 }
 
 QList<MediumTarget> mediaPresent() {

@@ -5,14 +5,16 @@
 #include <functional>
 #include <memory>
 
+#include "media/ImageShelf.h"
 #include "media/MediaSource.h"
 #include "media/RawDevice.h"
 
 namespace vantor {
 
 // The disk service where it answers, else the kernel's own texts (Linux); the disk utility (macOS). With
-// both, a shelf of opened images. Needs an application object; main thread.
-std::unique_ptr<MediaSource> makePlatformMediaSource();
+// both, a shelf of opened images, whose file systems `teller` names. Needs an application object; main
+// thread.
+std::unique_ptr<MediaSource> makePlatformMediaSource(FileSystemTeller teller = {});
 
 // The media in the machine's slots at the moment, as they are compared with those listed before. Any thread.
 QList<MediumTarget> mediaPresent();

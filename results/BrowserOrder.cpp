@@ -54,6 +54,23 @@ bool isShown(const ItemFacts& facts, const BrowserWish& wish) {
 using SortKey = std::tuple<int, std::int64_t, QString>;
 constexpr int kNotKnown = 100;
 
+// By the folded text, of which the first eight letters stand in the number in their order, so that the texts
+// of very many items are mostly not looked at; what is no Latin letter leaves the rest to the text.
+SortKey textKey(int rank, const QString& text) {
+    constexpr int kLetters = 8;
+    constexpr std::uint64_t kLastLatin = 0xFF;
+    const QString folded = text.toCaseFolded();
+    std::uint64_t letters = 0;
+    bool isLatin = true;
+    for (int i = 0; i < kLetters; ++i) {
+        const std::uint64_t letter = isLatin && i < folded.size() ? folded.at(i).unicode() : 0;
+        isLatin = isLatin && letter < kLastLatin;
+        letters = letters << 8 | std::min(letter, kLastLatin);
+    }
+    constexpr std::uint64_t kSign = std::uint64_t{1} << 63;  // the number is signed
+    return {rank, static_cast<std::int64_t>(letters ^ kSign), folded};
+}
+
 SortKey largestFirst(int rank, std::uint64_t number) {
     return {number == 0 ? kNotKnown - 1 : rank,
             -static_cast<std::int64_t>(std::min<std::uint64_t>(number, INT64_MAX)),
@@ -65,16 +82,16 @@ SortKey keyOf(const ItemFacts& facts, SortItems sort) {
         case SortItems::AsFound:
             return {0, 0, {}};
         case SortItems::Name:
-            return {0, 0, facts.name.toCaseFolded()};
+            return textKey(0, facts.name);
         case SortItems::Type:
-            return {0, 0, facts.type.toCaseFolded()};
+            return textKey(0, facts.type);
         case SortItems::Place:
             return {0, static_cast<std::int64_t>(std::min<std::uint64_t>(facts.place, INT64_MAX)), {}};
         default:
             break;
     }
     if (sort == SortItems::OriginalName && facts.original) {
-        return {0, 0, originalPath(*facts.original).toCaseFolded()};
+        return textKey(0, originalPath(*facts.original));
     }
     if (!facts.soundness) {
         return {kNotKnown, 0, {}};
@@ -93,7 +110,7 @@ SortKey keyOf(const ItemFacts& facts, SortItems sort) {
         case SortItems::OriginalName:
             return {kNotKnown - 1, 0, {}};
         case SortItems::Camera:
-            return {soundness.camera.isEmpty() ? kNotKnown - 1 : 0, 0, soundness.camera.toCaseFolded()};
+            return textKey(soundness.camera.isEmpty() ? kNotKnown - 1 : 0, soundness.camera);
         case SortItems::Pixels:
             return largestFirst(0, std::uint64_t{soundness.width} * soundness.height);
         case SortItems::Length:

@@ -18,6 +18,8 @@ constexpr unsigned kCameraBits = 0x7FFF;
 constexpr unsigned kTypeBits = 0x1FFF;
 constexpr unsigned kPixelBits = 7;
 constexpr std::uint64_t kPixelBounds[] = {1'000'000, 4'000'000, 12'000'000, 30'000'000};
+constexpr std::uint64_t kLengthBounds[] = {10'000, 60'000, 300'000, 1'800'000};  // milliseconds
+constexpr unsigned kLengthBits = 0xF;
 
 std::int32_t dayNumber(const QDate& date) {
     return date.isValid() && date.year() > 0 && date.year() < 10'000
@@ -74,6 +76,32 @@ QString wordsForPixels(PixelClass pixels) {
             break;
     }
     return QObject::tr("Over 30 megapixels");
+}
+
+LengthClass lengthClassOf(std::uint64_t milliseconds) {
+    return milliseconds == 0
+               ? LengthClass::NotKnown
+               : static_cast<LengthClass>(
+                     1 + std::upper_bound(std::begin(kLengthBounds), std::end(kLengthBounds), milliseconds) -
+                     std::begin(kLengthBounds));
+}
+
+QString wordsForLength(LengthClass length) {
+    switch (length) {
+        case LengthClass::NotKnown:
+            return QObject::tr("Length not known");
+        case LengthClass::Under10s:
+            return QObject::tr("Under 10 seconds");
+        case LengthClass::Under1min:
+            return QObject::tr("10 seconds to 1 minute");
+        case LengthClass::Under5min:
+            return QObject::tr("1 to 5 minutes");
+        case LengthClass::Under30min:
+            return QObject::tr("5 to 30 minutes");
+        case LengthClass::Longer:
+            break;
+    }
+    return QObject::tr("Over 30 minutes");
 }
 
 std::int32_t dayNumber(const CivilTime& time) {
@@ -138,6 +166,7 @@ void FoundFacets::count(const Packed& item, int by) {
     add(m_types[item.type].count);
     add(m_cameras[item.camera].second);
     add(m_pixels[item.pixels]);
+    add(m_lengths[item.length]);
     add(m_sizes[static_cast<std::size_t>(sizeClassOf(item.bytes))]);
     m_bytes = by > 0 ? m_bytes + item.bytes : m_bytes - item.bytes;
     if (item.complete) {
@@ -153,6 +182,7 @@ void FoundFacets::count(const Packed& item, int by) {
 void FoundFacets::set(std::size_t index, const ItemTraits& traits) {
     const Packed item{traits.bytes,
                       traits.day,
+                      static_cast<std::uint32_t>(traits.length) & kLengthBits,
                       static_cast<std::uint16_t>(numberOfType(traits.type) & kTypeBits),
                       static_cast<std::uint16_t>(static_cast<unsigned>(traits.pixels) & kPixelBits),
                       static_cast<std::uint16_t>(numberOfCamera(traits.camera) & kCameraBits),
@@ -189,6 +219,10 @@ FoundFacets::Filter::Filter(const FoundFacets& facets, const FacetChoice& choice
     for (int pixels = 0; pixels < kPixelClasses; ++pixels) {
         m_pixels[pixels] = choice.pixels.empty() || choice.pixels.contains(static_cast<PixelClass>(pixels));
     }
+    for (int length = 0; length < kLengthClasses; ++length) {
+        m_lengths[length] =
+            choice.lengths.empty() || choice.lengths.contains(static_cast<LengthClass>(length));
+    }
     for (int size = 0; size < kSizeClasses; ++size) {
         m_sizes[size] = choice.sizes.empty() || choice.sizes.contains(static_cast<SizeClass>(size));
     }
@@ -202,7 +236,7 @@ bool FoundFacets::Filter::admits(std::size_t index) const {
         return false;
     }
     const Packed& item = m_facets.m_items[index];
-    return m_types[item.type] && m_cameras[item.camera] && m_pixels[item.pixels] &&
+    return m_types[item.type] && m_cameras[item.camera] && m_pixels[item.pixels] && m_lengths[item.length] &&
            m_sizes[static_cast<std::size_t>(sizeClassOf(item.bytes))] &&
            (m_choice.days.empty() || m_choice.days.contains(item.day));
 }

@@ -29,6 +29,13 @@ PixelClass pixelClassOf(std::uint32_t width, std::uint32_t height);
 // "4 to 12 megapixels".
 QString wordsForPixels(PixelClass pixels);
 
+// By how long a movie or sound plays; each class begins where the one before ends.
+enum class LengthClass : std::uint8_t { NotKnown, Under10s, Under1min, Under5min, Under30min, Longer };
+inline constexpr int kLengthClasses = 6;
+LengthClass lengthClassOf(std::uint64_t milliseconds);
+// "1 to 5 minutes".
+QString wordsForLength(LengthClass length);
+
 // What is known of an item; packed, since there may be millions.
 struct ItemTraits {
     QString type;
@@ -36,6 +43,7 @@ struct ItemTraits {
     std::int32_t day = 0;     // as dayNumber() gives it; 0: not known
     std::uint64_t bytes = 0;  // as it would be saved, or as it was found
     PixelClass pixels = PixelClass::NotKnown;
+    LengthClass length = LengthClass::NotKnown;
     bool complete = false;  // as far as anyone has looked
 };
 
@@ -53,10 +61,11 @@ struct FacetChoice {
     std::set<QString> cameras;
     std::set<SizeClass> sizes;
     std::set<PixelClass> pixels;
+    std::set<LengthClass> lengths;
 
     bool isEmpty() const {
         return groups.empty() && types.empty() && days.empty() && cameras.empty() && sizes.empty() &&
-               pixels.empty();
+               pixels.empty() && lengths.empty();
     }
     friend bool operator==(const FacetChoice&, const FacetChoice&) = default;
 };
@@ -82,9 +91,10 @@ class FoundFacets {
     const std::vector<TypeCount>& types() const { return m_types; }
     const std::map<std::int32_t, std::size_t>& days() const { return m_days; }  // none of them is 0 items
     std::map<QString, std::size_t> cameras() const;
-    const std::vector<std::size_t>& sizes() const { return m_sizes; }    // by SizeClass
-    const std::vector<std::size_t>& pixels() const { return m_pixels; }  // by PixelClass
-    std::uint64_t bytes() const { return m_bytes; }                      // of all items
+    const std::vector<std::size_t>& sizes() const { return m_sizes; }      // by SizeClass
+    const std::vector<std::size_t>& pixels() const { return m_pixels; }    // by PixelClass
+    const std::vector<std::size_t>& lengths() const { return m_lengths; }  // by LengthClass
+    std::uint64_t bytes() const { return m_bytes; }                        // of all items
     std::size_t complete() const { return m_complete; }
 
     // Tells which items were picked; good as long as nothing is set.
@@ -100,12 +110,14 @@ class FoundFacets {
         std::vector<bool> m_types, m_cameras;  // by number
         bool m_sizes[kSizeClasses] = {};
         bool m_pixels[kPixelClasses] = {};
+        bool m_lengths[kLengthClasses] = {};
     };
 
   private:
     struct Packed {
         std::uint64_t bytes = 0;
-        std::int32_t day = 0;
+        std::int32_t day : 28 = 0;
+        std::uint32_t length : 4 = 0;  // LengthClass
         std::uint16_t type : 13 = 0;
         std::uint16_t pixels : 3 = 0;  // PixelClass
         std::uint16_t camera : 15 = 0;
@@ -122,6 +134,7 @@ class FoundFacets {
     std::map<std::int32_t, std::size_t> m_days;
     std::vector<std::size_t> m_sizes = std::vector<std::size_t>(kSizeClasses);
     std::vector<std::size_t> m_pixels = std::vector<std::size_t>(kPixelClasses);
+    std::vector<std::size_t> m_lengths = std::vector<std::size_t>(kLengthClasses);
     std::uint64_t m_bytes = 0;
     std::size_t m_complete = 0;
     std::uint64_t m_changes = 0;

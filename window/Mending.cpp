@@ -86,7 +86,8 @@ void MyTableController::mendBrokenItems() {
     m_mendingLook.start();
     offerMending();
     showMending();
-    m_mendingBar->stopButton->setFocus();
+    // A second Return of whoever began it would stop it.
+    homeOfScreen()->setFocus();
 }
 
 void MyTableController::stopMending() {

@@ -1,4 +1,5 @@
 // What a scan shows and asks: every call is carried to the interface thread, in order.
+#include <QScrollBar>
 #include <QThread>
 
 #include "catalogue/FileKind.h"
@@ -232,6 +233,10 @@ void MyTableController::showResultControls(ControlSet set) {
     zoomLabel->setVisible(photo);
     _zoom_slider->setVisible(photo);
     (photo ? _open_folder : _open_folder_Sig)->show();
+    // The few that were found are not looked for among hundreds that were not.
+    if (!photo && itemCount() > 0 && idSigTableView->verticalScrollBar()->maximum() > 0) {
+        foundTypesOnly->setChecked(true);
+    }
     browserOf(set)->setFocus();
     showSearchEnd();
     showItemCounts();

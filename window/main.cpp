@@ -11,6 +11,7 @@
 #include "catalogue/ResourcesFolder.h"
 #include "decode/DecodePool.h"
 #include "decode/EvidenceHelper.h"
+#include "filesystem/PresentVolumes.h"
 #include "media/PathArgument.h"
 #include "media/PlatformMedia.h"
 #include "media/ProcessManners.h"
@@ -41,7 +42,7 @@ constexpr int kExitBadUsage = 2;
 ProgramParts platformParts(const std::shared_ptr<const std::atomic<const MyTableController*>>& controller,
                            const std::shared_ptr<const std::atomic<bool>>& leaving) {
     ProgramParts parts;
-    parts.media = makePlatformMediaSource();
+    parts.media = makePlatformMediaSource(presentFileSystems);
     const auto refusal = std::make_shared<LastRefusal>();
     const auto stopped = [controller] {
         const MyTableController* const running = controller->load();

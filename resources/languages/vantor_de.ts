@@ -2324,6 +2324,30 @@ Läuft auf %2.</translation>
         <source>Checking the content of saved files: %1 of %2</source>
         <translation>Inhalt gespeicherter Dateien wird geprüft: %1 von %2</translation>
     </message>
+    <message>
+        <source>Length not known</source>
+        <translation>Länge nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Under 10 seconds</source>
+        <translation>Unter 10 Sekunden</translation>
+    </message>
+    <message>
+        <source>10 seconds to 1 minute</source>
+        <translation>10 Sekunden bis 1 Minute</translation>
+    </message>
+    <message>
+        <source>1 to 5 minutes</source>
+        <translation>1 bis 5 Minuten</translation>
+    </message>
+    <message>
+        <source>5 to 30 minutes</source>
+        <translation>5 bis 30 Minuten</translation>
+    </message>
+    <message>
+        <source>Over 30 minutes</source>
+        <translation>Über 30 Minuten</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -3121,6 +3145,10 @@ Läuft auf %2.</translation>
     <message>
         <source>By pixels</source>
         <translation>Nach Pixeln</translation>
+    </message>
+    <message>
+        <source>By length</source>
+        <translation>Nach Länge</translation>
     </message>
 </context>
 <context>

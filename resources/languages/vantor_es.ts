@@ -2324,6 +2324,30 @@ Se ejecuta en %2.</translation>
         <source>Checking the content of saved files: %1 of %2</source>
         <translation>Comprobando el contenido de los archivos guardados: %1 de %2</translation>
     </message>
+    <message>
+        <source>Length not known</source>
+        <translation>Duración desconocida</translation>
+    </message>
+    <message>
+        <source>Under 10 seconds</source>
+        <translation>Menos de 10 segundos</translation>
+    </message>
+    <message>
+        <source>10 seconds to 1 minute</source>
+        <translation>De 10 segundos a 1 minuto</translation>
+    </message>
+    <message>
+        <source>1 to 5 minutes</source>
+        <translation>De 1 a 5 minutos</translation>
+    </message>
+    <message>
+        <source>5 to 30 minutes</source>
+        <translation>De 5 a 30 minutos</translation>
+    </message>
+    <message>
+        <source>Over 30 minutes</source>
+        <translation>Más de 30 minutos</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -3121,6 +3145,10 @@ Se ejecuta en %2.</translation>
     <message>
         <source>By pixels</source>
         <translation>Por píxeles</translation>
+    </message>
+    <message>
+        <source>By length</source>
+        <translation>Por duración</translation>
     </message>
 </context>
 <context>

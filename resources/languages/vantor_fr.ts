@@ -2324,6 +2324,30 @@ Fonctionne avec %2.</translation>
         <source>Checking the content of saved files: %1 of %2</source>
         <translation>Vérification du contenu des fichiers enregistrés : %1 sur %2</translation>
     </message>
+    <message>
+        <source>Length not known</source>
+        <translation>Durée inconnue</translation>
+    </message>
+    <message>
+        <source>Under 10 seconds</source>
+        <translation>Moins de 10 secondes</translation>
+    </message>
+    <message>
+        <source>10 seconds to 1 minute</source>
+        <translation>De 10 secondes à 1 minute</translation>
+    </message>
+    <message>
+        <source>1 to 5 minutes</source>
+        <translation>De 1 à 5 minutes</translation>
+    </message>
+    <message>
+        <source>5 to 30 minutes</source>
+        <translation>De 5 à 30 minutes</translation>
+    </message>
+    <message>
+        <source>Over 30 minutes</source>
+        <translation>Plus de 30 minutes</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -3121,6 +3145,10 @@ Fonctionne avec %2.</translation>
     <message>
         <source>By pixels</source>
         <translation>Par pixels</translation>
+    </message>
+    <message>
+        <source>By length</source>
+        <translation>Par durée</translation>
     </message>
 </context>
 <context>

@@ -2324,6 +2324,30 @@ In esecuzione su %2.</translation>
         <source>Checking the content of saved files: %1 of %2</source>
         <translation>Verifica del contenuto dei file salvati: %1 di %2</translation>
     </message>
+    <message>
+        <source>Length not known</source>
+        <translation>Durata sconosciuta</translation>
+    </message>
+    <message>
+        <source>Under 10 seconds</source>
+        <translation>Meno di 10 secondi</translation>
+    </message>
+    <message>
+        <source>10 seconds to 1 minute</source>
+        <translation>Da 10 secondi a 1 minuto</translation>
+    </message>
+    <message>
+        <source>1 to 5 minutes</source>
+        <translation>Da 1 a 5 minuti</translation>
+    </message>
+    <message>
+        <source>5 to 30 minutes</source>
+        <translation>Da 5 a 30 minuti</translation>
+    </message>
+    <message>
+        <source>Over 30 minutes</source>
+        <translation>Oltre 30 minuti</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -3121,6 +3145,10 @@ In esecuzione su %2.</translation>
     <message>
         <source>By pixels</source>
         <translation>Per pixel</translation>
+    </message>
+    <message>
+        <source>By length</source>
+        <translation>Per durata</translation>
     </message>
 </context>
 <context>

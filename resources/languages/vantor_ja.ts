@@ -2291,6 +2291,30 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
         <source>Checking the content of saved files: %1 of %2</source>
         <translation>保存したファイルの内容を確認しています: %1 / %2</translation>
     </message>
+    <message>
+        <source>Length not known</source>
+        <translation>長さ不明</translation>
+    </message>
+    <message>
+        <source>Under 10 seconds</source>
+        <translation>10 秒未満</translation>
+    </message>
+    <message>
+        <source>10 seconds to 1 minute</source>
+        <translation>10 秒～1 分</translation>
+    </message>
+    <message>
+        <source>1 to 5 minutes</source>
+        <translation>1～5 分</translation>
+    </message>
+    <message>
+        <source>5 to 30 minutes</source>
+        <translation>5～30 分</translation>
+    </message>
+    <message>
+        <source>Over 30 minutes</source>
+        <translation>30 分超</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -3086,6 +3110,10 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     <message>
         <source>By pixels</source>
         <translation>画素数別</translation>
+    </message>
+    <message>
+        <source>By length</source>
+        <translation>長さ別</translation>
     </message>
 </context>
 <context>

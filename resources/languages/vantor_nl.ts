@@ -2324,6 +2324,30 @@ Wordt uitgevoerd op %2.</translation>
         <source>Checking the content of saved files: %1 of %2</source>
         <translation>Inhoud van opgeslagen bestanden controleren: %1 van %2</translation>
     </message>
+    <message>
+        <source>Length not known</source>
+        <translation>Lengte niet bekend</translation>
+    </message>
+    <message>
+        <source>Under 10 seconds</source>
+        <translation>Onder 10 seconden</translation>
+    </message>
+    <message>
+        <source>10 seconds to 1 minute</source>
+        <translation>10 seconden tot 1 minuut</translation>
+    </message>
+    <message>
+        <source>1 to 5 minutes</source>
+        <translation>1 tot 5 minuten</translation>
+    </message>
+    <message>
+        <source>5 to 30 minutes</source>
+        <translation>5 tot 30 minuten</translation>
+    </message>
+    <message>
+        <source>Over 30 minutes</source>
+        <translation>Boven 30 minuten</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -3121,6 +3145,10 @@ Wordt uitgevoerd op %2.</translation>
     <message>
         <source>By pixels</source>
         <translation>Op pixels</translation>
+    </message>
+    <message>
+        <source>By length</source>
+        <translation>Op lengte</translation>
     </message>
 </context>
 <context>

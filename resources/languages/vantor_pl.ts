@@ -2357,6 +2357,30 @@ Działa w systemie %2.</translation>
         <source>Checking the content of saved files: %1 of %2</source>
         <translation>Sprawdzanie zawartości zapisanych plików: %1 z %2</translation>
     </message>
+    <message>
+        <source>Length not known</source>
+        <translation>Długość nieznana</translation>
+    </message>
+    <message>
+        <source>Under 10 seconds</source>
+        <translation>Poniżej 10 sekund</translation>
+    </message>
+    <message>
+        <source>10 seconds to 1 minute</source>
+        <translation>Od 10 sekund do 1 minuty</translation>
+    </message>
+    <message>
+        <source>1 to 5 minutes</source>
+        <translation>Od 1 do 5 minut</translation>
+    </message>
+    <message>
+        <source>5 to 30 minutes</source>
+        <translation>Od 5 do 30 minut</translation>
+    </message>
+    <message>
+        <source>Over 30 minutes</source>
+        <translation>Powyżej 30 minut</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -3156,6 +3180,10 @@ Działa w systemie %2.</translation>
     <message>
         <source>By pixels</source>
         <translation>Według pikseli</translation>
+    </message>
+    <message>
+        <source>By length</source>
+        <translation>Według długości</translation>
     </message>
 </context>
 <context>

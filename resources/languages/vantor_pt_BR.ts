@@ -2324,6 +2324,30 @@ Executando em %2.</translation>
         <source>Checking the content of saved files: %1 of %2</source>
         <translation>Verificando o conteúdo dos arquivos salvos: %1 de %2</translation>
     </message>
+    <message>
+        <source>Length not known</source>
+        <translation>Duração desconhecida</translation>
+    </message>
+    <message>
+        <source>Under 10 seconds</source>
+        <translation>Menos de 10 segundos</translation>
+    </message>
+    <message>
+        <source>10 seconds to 1 minute</source>
+        <translation>10 segundos a 1 minuto</translation>
+    </message>
+    <message>
+        <source>1 to 5 minutes</source>
+        <translation>1 a 5 minutos</translation>
+    </message>
+    <message>
+        <source>5 to 30 minutes</source>
+        <translation>5 a 30 minutos</translation>
+    </message>
+    <message>
+        <source>Over 30 minutes</source>
+        <translation>Mais de 30 minutos</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -3121,6 +3145,10 @@ Executando em %2.</translation>
     <message>
         <source>By pixels</source>
         <translation>Por pixels</translation>
+    </message>
+    <message>
+        <source>By length</source>
+        <translation>Por duração</translation>
     </message>
 </context>
 <context>

@@ -2291,6 +2291,30 @@ Running on %2.</source>
         <source>Checking the content of saved files: %1 of %2</source>
         <translation>正在检查已保存文件的内容：%1/%2</translation>
     </message>
+    <message>
+        <source>Length not known</source>
+        <translation>时长未知</translation>
+    </message>
+    <message>
+        <source>Under 10 seconds</source>
+        <translation>小于 10 秒</translation>
+    </message>
+    <message>
+        <source>10 seconds to 1 minute</source>
+        <translation>10 秒到 1 分钟</translation>
+    </message>
+    <message>
+        <source>1 to 5 minutes</source>
+        <translation>1 到 5 分钟</translation>
+    </message>
+    <message>
+        <source>5 to 30 minutes</source>
+        <translation>5 到 30 分钟</translation>
+    </message>
+    <message>
+        <source>Over 30 minutes</source>
+        <translation>大于 30 分钟</translation>
+    </message>
 </context>
 <context>
     <name>RangeScreen</name>
@@ -3086,6 +3110,10 @@ Running on %2.</source>
     <message>
         <source>By pixels</source>
         <translation>按像素</translation>
+    </message>
+    <message>
+        <source>By length</source>
+        <translation>按时长</translation>
     </message>
 </context>
 <context>

@@ -2,8 +2,12 @@
 #include <gtest/gtest.h>
 
 #include <QDateTime>
+#include <QTemporaryFile>
+#include <algorithm>
 
 #include "filesystem/DirectoryRows.h"
+#include "filesystem/PresentVolumes.h"
+#include "media/RawDevice.h"
 #include "tests/filesystem/CardImage.h"
 
 namespace vantor {
@@ -38,6 +42,21 @@ class FatCard : public testing::TestWithParam<unsigned> {
     FatPlaces m_fat;
     MemoryCard m_card{22000};
 };
+
+TEST_P(FatCard, NameOfTheFileSystem_IsToldFromAnImage) {
+    QTemporaryFile image;
+    ASSERT_TRUE(image.open());
+    const auto told = [&] {
+        image.resize(0);
+        image.write(reinterpret_cast<const char*>(m_card.bytes.data()),
+                    static_cast<qint64>(m_card.bytes.size()));
+        image.flush();
+        return presentFileSystems(*openMedium(image.fileName()), m_card.sectors());
+    };
+    EXPECT_EQ(told(), QStringLiteral("MS-DOS (FAT%1)").arg(m_fat.bits));
+    std::fill(m_card.bytes.begin(), m_card.bytes.end(), std::uint8_t{0});
+    EXPECT_EQ(told(), QString());
+}
 
 TEST_P(FatCard, LiveFileInPieces_HasItsFolderTimesAndRuns) {
     putPhotos(fatRow("IMG_0412JPG", 10, 5 * 2048 - 1));

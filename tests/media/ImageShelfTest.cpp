@@ -135,6 +135,26 @@ TEST_F(ImageShelfTest, ImageThatVanishes_HasNoRowUntilItIsBack) {
     EXPECT_EQ(rows().size(), 2);
 }
 
+TEST_F(ImageShelfTest, FileSystemOfAnImage_IsNamedOnceUntilTheFileIsAnother) {
+    int asked = 0;
+    ImageShelf shelf(std::make_unique<OneCard>(card), [&](SectorReader& medium, std::uint64_t sectors) {
+        ++asked;
+        EXPECT_EQ(sectors, 3U);
+        return medium.read() ? QString::fromLatin1(reinterpret_cast<const char*>(medium.current()), 4)
+                             : QString();
+    });
+    const auto named = [&] { return listedMedia(shelf).constLast()->nsStrFileSystem; };
+    const QString path = write(QStringLiteral("card.img"), QByteArray("EXT9") + QByteArray(2000, 'i'));
+    shelf.addImage(path);
+    EXPECT_EQ(named(), QStringLiteral("EXT9"));
+    EXPECT_EQ(named(), QStringLiteral("EXT9"));
+    EXPECT_EQ(asked, 1) << "not at every listing";
+    const auto held = shelf.targets()->find(QStringLiteral("image1"))->image->open({path});
+    ASSERT_TRUE(QFile::remove(path));
+    write(QStringLiteral("card.img"), QByteArray("EXT8") + QByteArray(2000, 'i'));
+    EXPECT_EQ(named(), QStringLiteral("EXT8"));
+}
+
 TEST_F(ImageShelfTest, ChangesOfTheMachine_AreTold) {
     auto machine = std::make_unique<OneCard>(card);
     MediaSource* inner = machine.get();

@@ -1,6 +1,7 @@
 // Which items are shown, and in which order.
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <vector>
 
 #include "results/BrowserOrder.h"
@@ -150,6 +151,35 @@ TEST_F(BrowserOrder, NamesTypesAndPlaces_NeedNoLookAtTheItems) {
     EXPECT_TRUE(wish.needsSoundness());
     EXPECT_EQ(browserOrder(6, wish, factsOf).constFirst(), 0);
     EXPECT_EQ(browserOrder(6, wish, factsOf).constLast(), 2) << "nothing at all is known of it";
+}
+
+// Of what alphabet the names are, and where they differ.
+TEST_F(BrowserOrder, NamesStandAsTheirTextsDo_BeyondTheirFirstLettersAndTheLatinOnes) {
+    const QString letters = QStringLiteral("aAz0\u00E4\u00FF\u0100\u65E5");
+    std::vector<QString> names;
+    std::uint32_t state = 7;
+    for (int i = 0; i < 3000; ++i) {
+        QString name;
+        for (int length = i % 11; length > 0; --length) {
+            state = state * 1'664'525 + 1'013'904'223;
+            name += letters.at(static_cast<qsizetype>(state >> 29));
+        }
+        names.push_back(name);
+    }
+    BrowserWish wish;
+    wish.sort = SortItems::Name;
+    const QList<int> sorted = browserOrder(static_cast<int>(names.size()), wish, [&](int place) {
+        ItemFacts facts;
+        facts.name = names[static_cast<std::size_t>(place)];
+        return facts;
+    });
+    ASSERT_EQ(sorted.size(), 3000);
+    for (qsizetype i = 1; i < sorted.size(); ++i) {
+        const QString before = names[static_cast<std::size_t>(sorted[i - 1])].toCaseFolded();
+        const QString name = names[static_cast<std::size_t>(sorted[i])].toCaseFolded();
+        EXPECT_TRUE(before < name || (before == name && sorted[i - 1] < sorted[i]))
+            << before.toStdString() << " stands before " << name.toStdString();
+    }
 }
 
 }  // namespace

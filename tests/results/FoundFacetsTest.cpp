@@ -95,6 +95,25 @@ TEST_F(Facets, OfOneKindAnyOfEachKindOne) {
     EXPECT_EQ(picked(ofCamera), (std::vector<int>{0, 1}));
 }
 
+TEST_F(Facets, LengthsAreClasses_WhoseBoundsBelongToTheLongerOne) {
+    EXPECT_EQ(lengthClassOf(0), LengthClass::NotKnown);
+    EXPECT_EQ(lengthClassOf(9'999), LengthClass::Under10s);
+    EXPECT_EQ(lengthClassOf(10'000), LengthClass::Under1min);
+    EXPECT_EQ(lengthClassOf(60'000), LengthClass::Under5min);
+    EXPECT_EQ(lengthClassOf(300'000), LengthClass::Under30min);
+    EXPECT_EQ(lengthClassOf(1'800'000), LengthClass::Longer);
+    ItemTraits movie = traits("MP4", 99991231, 2'000'000'000);
+    movie.length = LengthClass::Longer;
+    facets.set(2, movie);
+    EXPECT_EQ(facets.lengths(), (std::vector<std::size_t>{4, 0, 0, 0, 0, 1}));
+    EXPECT_EQ(facets.days().rbegin()->first, 99991231) << "beside it the day is whole";
+    FacetChoice choice;
+    choice.lengths = {LengthClass::Longer};
+    EXPECT_EQ(picked(choice), std::vector<int>{2});
+    choice.lengths = {LengthClass::NotKnown};
+    EXPECT_EQ(picked(choice), (std::vector<int>{0, 1, 3, 4}));
+}
+
 TEST(FoundFacets, MoreNamesThanAnyoneReads_AreCountedAsOne) {
     FoundFacets facets;
     constexpr std::size_t kItems = 70'000;  // more than two bytes can number

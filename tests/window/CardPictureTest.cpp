@@ -33,8 +33,19 @@ TEST_F(CardPictureTest, SaysWhatWillBeSearched) {
     EXPECT_TRUE(picture().accessibleDescription().endsWith(QStringLiteral("50 % of it is searched")));
     EXPECT_NE(at(0.1), at(0.5)) << "what is left out looks otherwise";
     EXPECT_EQ(at(0.1), at(0.9));
-    controller->_End_slider_val->setText(QStringLiteral("10"));
-    EXPECT_TRUE(picture().words().endsWith(QStringLiteral("nothing of it would be searched")));
+    const auto refused = [this](const char* start, const char* end, const char* why) {
+        controller->_Start_slider_val->setText(QLatin1String(start));
+        controller->_End_slider_val->setText(QLatin1String(end));
+        EXPECT_TRUE(picture().words().endsWith(QStringLiteral("nothing of it would be searched · ") +
+                                               QLatin1String(why)))
+            << picture().words().toStdString();
+    };
+    refused("16", "10", "End Sector should be greater than Start Sector.");
+    refused("-5", "10", "Please enter valid Start Sector value.");
+    refused("", "10", "Please enter valid Start Sector value.");
+    refused("0", "1x", "Please enter valid End Sector value.");
+    refused("0", "65", "Maximum sector range exceeded");
+    refused("64", "64", "End Sector should be greater than Start Sector.");
     click(controller->_entire_disk_rd);
     EXPECT_TRUE(picture().words().endsWith(QStringLiteral("all of it is searched")));
 }

@@ -341,6 +341,29 @@ TEST_F(FileTypes, AGroupIsTickedAtOnce) {
     EXPECT_EQ(documents->checkState(), Qt::PartiallyChecked);
 }
 
+TEST_F(FileTypes, ResultsTable_LongerThanItsRoom_ShowsWhatWasFoundOnceTheSearchHasEnded) {
+    QByteArray records;
+    for (int i = 0; i < 60; ++i) {
+        const QByteArray number = QByteArray::number(i);
+        records += record(("A" + number).constData(),
+                          ("41424344" + number.rightJustified(4, '0')).constData(), "Nothing of the card");
+    }
+    source->add(QStringLiteral("sdb1"), QStringLiteral("CANON_DC"), card.bytes.size());
+    writeCatalogue("ZelRaw.dll", records + record("PDF", "25504446", "Document"));
+    card.put(24, "%PDF-");
+    open();
+    toFileTypes(kRawFileMode);
+    scanToEnd();
+    QTableView* const table = controller->idSigTableView;
+    const int last = table->model()->rowCount() - 1;
+    ASSERT_GT(last, 59);
+    EXPECT_TRUE(controller->foundTypesOnly->isChecked());
+    EXPECT_TRUE(table->isRowHidden(0));
+    EXPECT_TRUE(table->viewport()->rect().contains(table->visualRect(table->model()->index(last, 0))));
+    click(controller->foundTypesOnly);
+    EXPECT_FALSE(table->isRowHidden(0)) << "the others are there for who asks for them";
+}
+
 TEST_F(FileTypes, ResultsTable_BeyondItsEnd_HasEmptyCells) {
     openWithCard();
     toFileTypes(kRawFileMode);

@@ -137,6 +137,45 @@ TEST_F(FoundPaneTest, AnOpenedHeadingHasEveryItemLookedAt_AndRowsOfDifferentHead
     EXPECT_EQ(textOf(row({tr("By day"), tr("Date not known")}), 1), QStringLiteral("4"));
 }
 
+TEST_F(FoundPaneTest, SoundsAndMoviesArePickedByTheirLength) {
+    scan();
+    ASSERT_TRUE(waitFor([this] { return row({tr("By length")}) != nullptr; }));
+    row({tr("By length")})->setExpanded(true);
+    ASSERT_TRUE(waitFor([this] {
+        return textOf(row({tr("By length"), tr("Under 10 seconds")}), 1) == QLatin1String("2") &&
+               controller->factsOfItem(1).soundness && controller->factsOfItem(2).soundness;
+    }));
+    clickRow(row({tr("By length"), tr("Under 10 seconds")}));
+    EXPECT_EQ(shown(), (QStringList{wav, torn}));
+    clickRow(row({tr("By length"), tr("Length not known")}));
+    EXPECT_EQ(shown(), (QStringList{png, aiff}));
+}
+
+TEST_F(FoundPaneTest, ARowOfWhichNothingIsLeft_GoesOnceItIsNoLongerPicked) {
+    FoundPane pane;
+    FoundFacets facets;
+    ItemTraits photo;
+    photo.type = QStringLiteral("JPG");
+    photo.day = 20260523;
+    facets.set(0, photo);
+    pane.showFacets(facets, 1);
+    auto* const rows = pane.findChild<QTreeWidget*>();
+    const auto day = [rows](const char* words) {
+        return rows->findItems(QLatin1String(words), Qt::MatchContains | Qt::MatchRecursive).value(0);
+    };
+    ASSERT_NE(day("May 23"), nullptr);
+    day("May 23")->setSelected(true);
+    photo.day = 20260522;
+    facets.set(0, photo);
+    pane.showFacets(facets, 1);
+    ASSERT_NE(day("May 23"), nullptr) << "the list shows what it says";
+    EXPECT_EQ(day("May 23")->text(1), QStringLiteral("0"));
+    rows->clearSelection();
+    settle();
+    EXPECT_EQ(day("May 23"), nullptr);
+    EXPECT_NE(day("May 22"), nullptr);
+}
+
 TEST_F(FoundPaneTest, AClickOnTheWordsOfAHeading_OpensAndClosesIt) {
     scan();
     QTreeWidgetItem* const sizes = row({tr("By size")});

@@ -178,7 +178,8 @@ TEST_F(Mending, StopEndsItAtOnce_AndTheButtonIsThereForAnotherTime) {
     mendHeldUp();
     EXPECT_TRUE(bar()->progress->isVisible());
     EXPECT_FALSE(button()->isEnabled());
-    EXPECT_EQ(controller->window->focusWidget(), bar()->stopButton);
+    EXPECT_EQ(controller->window->focusWidget(), controller->imageBrowser)
+        << "a second Return does not stop what the first began";
     click(bar()->stopButton);
     gate.open();
     ASSERT_TRUE(waitFor([this] { return isOver(); }));

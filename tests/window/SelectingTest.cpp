@@ -7,6 +7,7 @@
 
 #include "tests/support/Gate.h"
 #include "tests/window/PreviewWindow.h"
+#include "window/preview/ViewerDesk.h"
 #include "window/preview/PreviewFile.h"
 
 namespace vantor {
@@ -123,13 +124,31 @@ TEST_F(Selecting, KeysDuringACopy_AreKept_AndTheirLastItemIsShown) {
     EXPECT_EQ(controller->Prev_Index, 2U);
 }
 
-TEST_F(Selecting, OnlyKeysThatMoveAreKept) {
+TEST_F(Selecting, ReturnBehindAnArrow_OpensTheItemThatTheArrowLedTo_AndInsertTicksIt) {
     openFour();
     Gate gate;
     card.beforeRead = gate.atEveryRead();
     when([&] { return gate.someoneWaits(); },
          [&] {
-             QTest::keyClick(handle(), Qt::Key_Return);
+             for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Insert, Qt::Key_Return, Qt::Key_Right}) {
+                 QTest::keyClick(handle(), key);
+             }
+             gate.open();
+         });
+    select(0);
+    ASSERT_TRUE(waitFor([this] { return controller->viewer().isOpen(); }));
+    settle();
+    EXPECT_EQ(selected(), Rows{1}) << "keys behind Return are not for the list";
+    EXPECT_EQ(controller->ticks().all(), Rows{1});
+    EXPECT_EQ(controller->viewer().shown(), 1);
+}
+
+TEST_F(Selecting, OnlyKeysOfTheListAreKept) {
+    openFour();
+    Gate gate;
+    card.beforeRead = gate.atEveryRead();
+    when([&] { return gate.someoneWaits(); },
+         [&] {
              QTest::keyClick(handle(), Qt::Key_A, Qt::ControlModifier);
              QTest::keyClick(handle(), Qt::Key_S, Qt::ControlModifier);
              QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier, QString(), true);

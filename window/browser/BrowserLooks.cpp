@@ -184,6 +184,7 @@ ItemTraits BrowserLooks::traitsOf(std::size_t index) const {
     traits.camera = soundness != nullptr ? soundness->camera : QString();
     traits.pixels =
         soundness != nullptr ? pixelClassOf(soundness->width, soundness->height) : PixelClass::NotKnown;
+    traits.length = soundness != nullptr ? lengthClassOf(soundness->durationMs) : LengthClass::NotKnown;
     traits.complete = soundness != nullptr && soundness->verdict == Verdict::Complete && soundness->checked &&
                       !soundness->notOfItsType;
     traits.bytes = soundness != nullptr ? soundness->bytes : item->carved().sectors() * kSectorBytes;

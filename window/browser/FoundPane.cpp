@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QShortcut>
 #include <QSignalBlocker>
+#include <QTimer>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -112,8 +113,9 @@ bool FoundPane::isSearching() const {
 
 bool FoundPane::wantsDetails() const {
     return m_days->isExpanded() || m_cameras->isExpanded() || m_sizes->isExpanded() ||
-           m_pixels->isExpanded() || !m_choice.days.empty() || !m_choice.cameras.empty() ||
-           !m_choice.sizes.empty() || !m_choice.pixels.empty();
+           m_pixels->isExpanded() || m_lengths->isExpanded() || !m_choice.days.empty() ||
+           !m_choice.cameras.empty() || !m_choice.sizes.empty() || !m_choice.pixels.empty() ||
+           !m_choice.lengths.empty();
 }
 
 QTreeWidgetItem* FoundPane::heading(Facet facet, const QString& text) {
@@ -148,7 +150,10 @@ void FoundPane::begin() {
         row->setHidden(true);
     }
     m_pixels = heading(Facet::Pixels, tr("By pixels"));
-    m_pixels->setHidden(true);
+    m_lengths = heading(Facet::Lengths, tr("By length"));
+    for (QTreeWidgetItem* row : {m_pixels, m_lengths}) {
+        row->setHidden(true);
+    }
     m_told = nullptr;
     showCount(m_all, 0);
     m_all->setSelected(true);
@@ -161,10 +166,11 @@ void FoundPane::put(QTreeWidgetItem* parent, Facet facet, const QVariant& key, c
     m_seen[name] = true;
     QTreeWidgetItem*& row = m_rows[name];
     if (row == nullptr) {
-        const QString order = facet == Facet::Day                                  ? orderOfDay(key.toInt())
-                              : facet == Facet::Size || facet == Facet::PixelRange ? key.toString()
-                              : text.isEmpty()                                     ? QString(kLast)
-                                                                                   : text.toCaseFolded();
+        const bool isRange = facet == Facet::Size || facet == Facet::PixelRange || facet == Facet::Length;
+        const QString order = facet == Facet::Day ? orderOfDay(key.toInt())
+                              : isRange           ? key.toString()
+                              : text.isEmpty()    ? QString(kLast)
+                                                  : text.toCaseFolded();
         row = new QTreeWidgetItem({text, QString()});
         row->setData(0, kFacetRole, static_cast<int>(facet));
         row->setData(0, kKeyRole, key);
@@ -231,6 +237,12 @@ void FoundPane::showFacets(const FoundFacets& facets, std::size_t all) {
             put(m_pixels, Facet::PixelRange, pixels, wordsForPixels(static_cast<PixelClass>(pixels)), count);
         }
     }
+    for (int length = 0; length < kLengthClasses; ++length) {
+        if (const std::size_t count = facets.lengths()[static_cast<std::size_t>(length)]; count > 0) {
+            put(m_lengths, Facet::Length, length, wordsForLength(static_cast<LengthClass>(length)), count);
+        }
+    }
+    m_lengths->setHidden(facets.lengths().front() == facets.size());
     m_pixels->setHidden(facets.pixels().front() == facets.size());  // of none they are known
     m_days->setHidden(facets.size() == 0);
     m_sizes->setHidden(facets.size() == 0);
@@ -313,6 +325,9 @@ void FoundPane::takeChoice() {
             case Facet::PixelRange:
                 choice.pixels.insert(static_cast<PixelClass>(key.toInt()));
                 break;
+            case Facet::Length:
+                choice.lengths.insert(static_cast<LengthClass>(key.toInt()));
+                break;
             default:
                 break;
         }
@@ -320,6 +335,8 @@ void FoundPane::takeChoice() {
     m_filling = false;
     if (choice != m_choice) {
         m_choice = std::move(choice);
+        // What stayed only since it was picked; not from within the click.
+        QTimer::singleShot(0, this, &FoundPane::dropUnseen);
         emit chosen();
     }
 }

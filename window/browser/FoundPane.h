@@ -40,7 +40,22 @@ class FoundPane : public QWidget {
     void chosen();
 
   private:
-    enum class Facet { All, Group, Type, Days, Day, Cameras, Camera, Sizes, Size, Pixels, PixelRange, Told };
+    enum class Facet {
+        All,
+        Group,
+        Type,
+        Days,
+        Day,
+        Cameras,
+        Camera,
+        Sizes,
+        Size,
+        Pixels,
+        PixelRange,
+        Lengths,
+        Length,
+        Told
+    };
     QTreeWidgetItem* heading(Facet facet, const QString& text);
     void put(QTreeWidgetItem* parent, Facet facet, const QVariant& key, const QString& text,
              std::size_t count);
@@ -49,7 +64,7 @@ class FoundPane : public QWidget {
 
     QLineEdit* m_search;
     QTreeWidget* m_tree;
-    QTreeWidgetItem *m_all, *m_days, *m_cameras, *m_sizes, *m_pixels, *m_told;
+    QTreeWidgetItem *m_all, *m_days, *m_cameras, *m_sizes, *m_pixels, *m_lengths, *m_told;
     FacetChoice m_choice;
     QHash<QString, QTreeWidgetItem*> m_rows;  // by facet and key
     QHash<QString, bool> m_seen;

@@ -89,6 +89,12 @@ std::uint64_t CardPicture::sectors() const {
     return static_cast<std::uint64_t>(std::max<std::int64_t>(0, textToInt64(m_range.sectors->text())));
 }
 
+std::optional<RangeRefusal> CardPicture::refusal() const {
+    return m_range.sectorRange->isChecked()
+               ? refuseRange(m_range.start.value->text(), m_range.end.value->text(), m_range.sectors->text())
+               : std::nullopt;
+}
+
 // Half-open, within the card; empty for a range that no search would take.
 SectorRun CardPicture::chosen() const {
     const std::uint64_t all = sectors();
@@ -97,7 +103,7 @@ SectorRun CardPicture::chosen() const {
     }
     const std::int64_t first = textToInt64(m_range.start.value->text());
     const std::int64_t end = textToInt64(m_range.end.value->text());
-    if (first < 0 || end <= first || static_cast<std::uint64_t>(first) >= all) {
+    if (refusal() || static_cast<std::uint64_t>(first) >= all) {
         return {0, 0};
     }
     return {static_cast<std::uint64_t>(first), std::min(all, static_cast<std::uint64_t>(end))};
@@ -129,6 +135,10 @@ QString CardPicture::words() const {
     const SectorRun range = chosen();
     if (range.end == range.first) {
         all << tr("nothing of it would be searched");
+        // The slider stays where it was, which alone does not tell what is wrong with the text beside it.
+        if (const auto refused = refusal()) {
+            all << refused->message.trimmed();
+        }
     } else if (range.first == 0 && range.end == sectors()) {
         all << tr("all of it is searched");
     } else {

@@ -42,6 +42,7 @@ class CardPicture : public QWidget {
 
   private:
     std::uint64_t sectors() const;
+    std::optional<RangeRefusal> refusal() const;
     SectorRun chosen() const;
     void learn();
     void describe();

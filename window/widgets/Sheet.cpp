@@ -12,7 +12,7 @@ namespace vantor {
 
 namespace {
 
-bool movesInAList(int key) {
+bool movesOrTicksInAList(int key) {
     switch (key) {
         case Qt::Key_Up:
         case Qt::Key_Down:
@@ -22,10 +22,23 @@ bool movesInAList(int key) {
         case Qt::Key_PageDown:
         case Qt::Key_Home:
         case Qt::Key_End:
+        case Qt::Key_Insert:
+        case Qt::Key_Delete:
             return true;
         default:
             return false;
     }
+}
+
+// Of the others the widget says itself, as before any shortcut, whether they are for what it shows.
+bool opensFromAList(QWidget* widget, const QKeyEvent& key) {
+    if (key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter && key.key() != Qt::Key_Space) {
+        return false;
+    }
+    QKeyEvent question(QEvent::ShortcutOverride, key.key(), key.modifiers(), key.text());
+    question.ignore();
+    QCoreApplication::sendEvent(widget, &question);
+    return question.isAccepted();
 }
 
 // Takes the moves and the release of a button away whose press nobody has seen.
@@ -149,7 +162,11 @@ bool SheetSession::eventFilter(QObject* watched, QEvent* event) {
 
 // What a key that is held down repeats comes again as long as it is held.
 void SheetSession::keep(QWidget* widget, const QKeyEvent& key) {
-    if (movesInAList(key.key()) && !key.isAutoRepeat()) {
+    if (key.isAutoRepeat() || m_opens) {
+        return;
+    }
+    m_opens = opensFromAList(widget, key);
+    if (m_opens || movesOrTicksInAList(key.key())) {
         m_keys.emplace_back(widget, key.clone());
     }
 }

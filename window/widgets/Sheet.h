@@ -16,8 +16,8 @@ namespace vantor {
 
 // While it lives the sheet is shown and the window beneath takes no input, but for the widgets that `exempt`
 // contains: leaving the program stays possible. The window can be closed, moved and repainted. Keys that move
-// in a list reach it afterwards; a mouse button that went down meanwhile counts as never pressed, also when
-// it is let go later.
+// or tick in a list reach it afterwards, up to the first that opens an item of it; a mouse button that went
+// down meanwhile counts as never pressed, also when it is let go later.
 class SheetSession : public QObject {
   public:
     // Shows it only when the work still goes on after `unnoticed` of the event loop's time.
@@ -39,6 +39,7 @@ class SheetSession : public QObject {
     QWidget* m_exempt;
     QPointer<QWidget> m_doubleClicked;
     bool m_buttonHeld = false;  // by a press that was taken away
+    bool m_opens = false;       // a kept key does: those behind it are for what is open then
     std::vector<std::pair<QPointer<QWidget>, std::unique_ptr<QKeyEvent>>> m_keys;
 };
 
