@@ -141,7 +141,9 @@ class ClusterVolume {
     // Clusters that may still be gone through: on a sound card each is a file's once.
     std::uint64_t m_liveStepsLeft = 0;
     std::uint64_t m_goneStepsLeft = 0;
-    // Sectors that may still be read for halves of numbers: on a card each is a wait of its own.
+    // Sectors that may still be read for what begins there, and for halves of numbers: on a card each is a
+    // wait of its own.
+    std::size_t m_beginningLooksLeft = 65'536;
     std::size_t m_halfLooksLeft = 4096;
 };
 

@@ -111,10 +111,14 @@ void ClusterVolume::placeGone(const DirectoryEntry& entry, const FoundStarts& fo
 bool ClusterVolume::beginsOtherwise(std::uint32_t cluster, const DirectoryEntry& entry,
                                     const FoundStarts& found) {
     const std::uint64_t place = m_shape.sectorOf(cluster);
-    if (m_goneStepsLeft == 0 || found.isAt(place, entry.name) || !knowsBeginningOf(entry.name)) {
+    if (found.isAt(place, entry.name) || !knowsBeginningOf(entry.name)) {
         return false;
     }
-    --m_goneStepsLeft;
+    if (m_beginningLooksLeft == 0) {
+        // Where files of its kind were found, one that begins there would have been.
+        return !found.ofKind(entry.name, 1).empty();
+    }
+    --m_beginningLooksLeft;
     std::array<std::uint8_t, 512> sector;
     return m_card.readAt(place, sector) && !beginsLike(entry.name, sector).value_or(true);
 }

@@ -159,10 +159,15 @@ bool ItemSaver::decideLength(const FoundItem& item, ItemBytes& found, SaveOutcom
     outcome.width = facts.width;
     outcome.height = facts.height;
     bytes.expect(length.bytes);
+    if (outcome.later && isPart(item, outcome)) {
+        outcome.later = false;
+        outcome.leftOut = LeftOut::Part;
+    }
     if (outcome.later) {
         if (outcome.verdict == Verdict::Complete) {
             m_state->waiting.note(item.type, item.name, firstByteOf(item), outcome.bytes, outcome.checked);
         }
+        noteOnCard(item, outcome, m_state->waiting);
         return false;
     }
     const std::uint32_t longerSide = std::max(facts.width, facts.height);
@@ -187,11 +192,12 @@ bool ItemSaver::isPart(const FoundItem& item, SaveOutcome& outcome) const {
         return false;
     }
     const std::uint64_t first = firstByteOf(item);
-    if (const auto holder = m_state->within.holderOf(item.type, first, outcome.bytes)) {
+    const bool isWhole = outcome.verdict == Verdict::Complete;
+    if (const auto holder = m_state->within.holderOf(item.type, first, outcome.bytes, isWhole)) {
         outcome.partOf = *holder;
         return true;
     }
-    const auto holder = m_state->waiting.holderOf(item.type, first, outcome.bytes);
+    const auto holder = m_state->waiting.holderOf(item.type, first, outcome.bytes, isWhole);
     if (item.mayWait && holder) {
         outcome.partOf = *holder;
         outcome.later = true;
@@ -200,10 +206,26 @@ bool ItemSaver::isPart(const FoundItem& item, SaveOutcome& outcome) const {
 }
 
 void ItemSaver::noteWhole(const FoundItem& item, const SaveOutcome& outcome) const {
-    if (outcome.saved && outcome.verdict == Verdict::Complete && outcome.pieces <= 1 &&
-        outcome.sectorsUnreadable == 0 && !item.source.carved.readFailed) {
+    if (!outcome.saved || outcome.sectorsUnreadable != 0 || item.source.carved.readFailed) {
+        return;
+    }
+    noteOnCard(item, outcome, m_state->within);
+    if (outcome.verdict == Verdict::Complete && outcome.pieces <= 1) {
         m_state->within.note(item.type, item.name, firstByteOf(item), outcome.bytes, outcome.checked);
     }
+}
+
+// A file that the card tells of and that is there, or whose own bytes say the same.
+void ItemSaver::noteOnCard(const FoundItem& item, const SaveOutcome& outcome, FilesWithin& files) {
+    const bool isSure = outcome.original &&
+                        (outcome.original->state == FileState::Live || outcome.verdict == Verdict::Complete);
+    if (!isSure || item.source.carved.runs.empty()) {
+        return;
+    }
+    const std::uint64_t first = firstSectorOf(item);
+    const std::vector<SectorRun> onePiece{{first, first + (outcome.bytes + kSectorBytes - 1) / kSectorBytes}};
+    files.noteOnCard(item.type, item.name, outcome.runs.empty() ? onePiece : outcome.runs,
+                     outcome.original->clusterSectors);
 }
 
 std::optional<Soundness> soundnessOf(const SaveOutcome& outcome) {

@@ -24,6 +24,7 @@ namespace vantor {
 
 struct SavedFile;
 struct TrueLength;
+class FilesWithin;
 class LengthClaims;
 class SavedContents;
 class SavingFolder;
@@ -133,6 +134,7 @@ class ItemSaver {
     bool isStillThere(const FoundItem& item) const;
     bool isPart(const FoundItem& item, SaveOutcome& outcome) const;
     void noteWhole(const FoundItem& item, const SaveOutcome& outcome) const;
+    static void noteOnCard(const FoundItem& item, const SaveOutcome& outcome, FilesWithin& files);
     bool decideLength(const FoundItem& item, ItemBytes& bytes, SaveOutcome& outcome) const;
     static std::optional<std::uint64_t> toldLengthOf(const FoundItem& item);
     TrueLength lengthOf(const FoundItem& item, MediumBytes& bytes, SaveOutcome& outcome) const;

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QDateTime>
+#include <algorithm>
 
 #include "tests/filesystem/CardImage.h"
 
@@ -110,6 +111,35 @@ TEST_F(ExfatCard, DeletedFile_IsNotWhereSomethingElseBegins) {
     // What was found there may bear a wrong ending.
     const CardTable found = tableOf(m_card, {{m_exfat.sectorOf(30), "PNG"}});
     EXPECT_EQ(fileNamed(found, "PIECE.JPG").runsKnownBy, RunsKnownBy::Flag);
+}
+
+// Each look at a place is a wait of its own: where too many would be needed, a search that finds such files
+// has looked already.
+TEST(ExfatCardOfManyRows, PlacesAreLookedAtWithinReason) {
+    constexpr std::size_t kFiles = 70'000;
+    ExfatPlaces exfat;
+    exfat.clusterSectors = 1;
+    exfat.clusters = 2 * kFiles;
+    MemoryCard card(exfat.end());
+    formatExfat(card, exfat);
+    Bytes rows;
+    for (std::uint32_t i = 0; i < kFiles; ++i) {
+        const Bytes set = exfatSet({QStringLiteral("%1.JPG").arg(i), 20'000 + i, 400, true, false, true});
+        rows.insert(rows.end(), set.begin(), set.end());
+    }
+    const std::uint32_t folderClusters = static_cast<std::uint32_t>(rows.size() / 512 + 1);
+    putBytes(card, exfat.sectorOf(5), exfatSet({"DCIM", 10, folderClusters * 512, true, true}));
+    putBytes(card, exfat.sectorOf(10), rows);
+    const auto placed = [&](const std::vector<FoundStart>& found) {
+        const CardTable table = tableOf(card, found);
+        EXPECT_EQ(table.files.size(), kFiles);
+        return std::count_if(table.files.begin(), table.files.end(),
+                             [](const CardFile& file) { return file.runsKnownBy == RunsKnownBy::Flag; });
+    };
+    const auto unseen = placed({});
+    EXPECT_GT(unseen, 0);
+    EXPECT_LT(unseen, static_cast<std::ptrdiff_t>(kFiles) / 2) << "what is looked at is no photo";
+    EXPECT_EQ(placed({{exfat.sectorOf(9), "JPG"}}), 0);
 }
 
 TEST_F(ExfatCard, SetWithAWrongChecksum_IsNoFile) {

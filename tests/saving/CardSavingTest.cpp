@@ -66,6 +66,32 @@ TEST_F(CardSaving, NamedItemLiesInItsFolderWithItsTime) {
     EXPECT_EQ(originalPath(*outcome.original), "MUSIC/2026/SONG.WAV");
 }
 
+// Clusters of eight sectors, so that none begins in the third.
+TEST_F(CardSaving, WhatBeginsInsideAFileThatTheCardTells_IsItsPart) {
+    m_medium.put(400, {"\xFF\xD8\xFF\xE0\0\x10JFIF\0\1", 12});  // and noise behind
+    for (const bool isWhole : {true, false}) {
+        const std::uint64_t first = isWhole ? 80 : 400;
+        const QString type = isWhole ? "WAV" : "JPG";
+        for (const FileState state : {FileState::Live, FileState::Deleted}) {
+            const QTemporaryDir folder;
+            const ItemSaver saver(folder.path());
+            const auto card = indexOf({cardFile("A", "A." + type, 20'000, {first, first + 40}, state)});
+            const SaveOutcome holder = saver.save(item(type, "a", {first, first + 100}, card));
+            ASSERT_TRUE(holder.saved);
+            ASSERT_EQ(holder.verdict == Verdict::Complete, isWhole);
+            const auto behind = [&](std::uint64_t sectors) {
+                return saver.save(item("MDF", "b.MDF", {first + sectors, first + sectors + 50}, card));
+            };
+            const SaveOutcome inside = behind(3);
+            const bool isPart = isWhole || state == FileState::Live;
+            EXPECT_EQ(inside.leftOut, isPart ? LeftOut::Part : LeftOut::No) << isWhole;
+            EXPECT_EQ(inside.partOf, isPart ? QStringLiteral("a") : QString());
+            EXPECT_TRUE(behind(8).saved) << "where a cluster begins";
+            EXPECT_TRUE(behind(41).saved) << "behind it";
+        }
+    }
+}
+
 TEST_F(CardSaving, UnnamedItemLiesInTheFolderOfItsType) {
     const ItemSaver saver(m_folder.path());
     const auto card = indexOf({cardFile("MUSIC", "OLD.WAV", 19'000, {80, 120})});
@@ -155,6 +181,30 @@ TEST_F(CardSaving, StreamBehindAnotherIsAsLongAsTheDirectorySays) {
     EXPECT_EQ(second.path, path("A/B.AC3"));
     EXPECT_EQ(second.bytes, 800U * 512);
     EXPECT_EQ(second.verdict, Verdict::Complete);
+}
+
+// Found under the name of another type of the same format, as transport streams are.
+TEST_F(CardSaving, PartsOfAFileThatHasToWait_ComeBehindIt) {
+    const QByteArray frames =
+        (QByteArray("\x0B\x77\0\0\0\x40\x40\0", 8) + QByteArray(120, 'x')).repeated(4000);
+    m_medium = mediumWith(frames, 10, 1200);
+    const auto card = indexOf({cardFile("A", "A.AC3", 800 * 512, {10, 810})});
+    const ItemSaver saver(m_folder.path());
+    const auto save = [&](const QString& type, SectorRun run, bool mayWait) {
+        FoundItem found = item(type, type, run, card);
+        found.mayWait = mayWait;
+        return saver.save(found);
+    };
+    const SaveOutcome whole = save("AC3", {10, 12}, true);
+    ASSERT_TRUE(whole.later) << "claims far more than was carved";
+    EXPECT_TRUE(whole.comesFirst());
+    EXPECT_EQ(whole.bytes, 800U * 512);
+    const SaveOutcome part = save("EAC3", {21, 23}, true);
+    EXPECT_TRUE(part.later);
+    EXPECT_FALSE(part.comesFirst());
+    saver.beginSecondRound();
+    ASSERT_TRUE(save("AC3", {10, 12}, false).saved);
+    EXPECT_EQ(save("EAC3", {21, 23}, false).leftOut, LeftOut::Part);
 }
 
 TEST_F(CardSaving, OnlyWhatIsLostLeavesOutWhatIsStillThere) {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <vector>
 
 #include "saving/FilesWithin.h"
 
@@ -38,6 +39,27 @@ TEST(FilesWithin, WholeStream_HoldsWhatIsOfItsTypeAndBeginsInside) {
         files.note(type, "a", 1000, 500, false);
         EXPECT_FALSE(files.holderOf(type, 1400, 10)) << type << " may run on into the next";
     }
+}
+
+// In clusters of two sectors.
+TEST(FilesWithin, FileThatTheCardTellsOf_HoldsWhatBeginsWhereNoClusterDoes) {
+    FilesWithin files;
+    const std::vector<SectorRun> runs{{10, 20}, {31, 36}};
+    files.noteOnCard("MTS", "a.MTS", runs, 2);
+    const auto holds = [&files](const char* type, std::uint64_t sector, bool isWhole) {
+        return files.holderOf(type, sector * 512, 1'000'000, isWhole) == QStringLiteral("a.MTS");
+    };
+    for (const std::uint64_t inside : {11, 19, 32, 34}) {
+        EXPECT_TRUE(holds("MDF", inside, false)) << inside;
+        EXPECT_TRUE(holds("M2TS", inside, true)) << inside << ": a stream's packets are all alike";
+        EXPECT_FALSE(holds("JPG", inside, true)) << inside << ": may be left of an older file";
+    }
+    for (const std::uint64_t other : {9, 10, 12, 18, 20, 21, 30, 31, 33, 35, 36, 37}) {
+        EXPECT_FALSE(holds("MDF", other, false)) << other;
+        EXPECT_FALSE(holds("M2TS", other, true)) << other;
+    }
+    files.clear();
+    EXPECT_FALSE(holds("MDF", 11, false));
 }
 
 TEST(FilesWithin, TheWidestFileCounts_InWhateverOrderTheyCame) {
