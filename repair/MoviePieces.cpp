@@ -15,21 +15,57 @@ constexpr unsigned kMostFarSearches = 8;
 
 }  // namespace
 
-void MoviePieces::begin() {
+void MoviePieces::begin(std::span<const std::uint64_t> others) {
+    m_others = others;
     m_layout = {};
     m_samples.clear();
     m_places.clear();
     m_indexRow.clear();
     m_used.assign(m_free.count(), false);
+    leaveOut(0);
     m_step = 1;
     m_guessed = 0;
     m_farSearches = 0;
 }
 
+// A file that is larger than that is none of a movie's samples.
+void MoviePieces::leaveOut(std::uint64_t largest) {
+    m_free = m_unexplained;
+    for (const SectorRun& run : m_otherFiles) {
+        if ((run.end - run.first) * kSectorBytes > largest) {
+            m_free.take(run);
+        }
+    }
+    m_left = m_free;
+    for (const std::uint64_t cluster : m_others) {
+        m_left.takeCluster(cluster);
+    }
+}
+
+bool MoviePieces::holdsPhotos() const {
+    return std::any_of(m_samples.begin(), m_samples.end(), [](const PromisedSample& sample) {
+        return sample.isChunk() || sample.coding == Coding::Jpeg;
+    });
+}
+
+bool MoviePieces::read(std::uint64_t firstCluster) {
+    if (!readHead(firstCluster)) {
+        return false;
+    }
+    if (holdsPhotos()) {
+        std::uint64_t largest = 0;
+        for (const PromisedSample& sample : m_samples) {
+            largest = std::max(largest, sample.bytes);
+        }
+        leaveOut(largest);
+    }
+    return true;
+}
+
 std::vector<std::uint64_t> MoviePieces::anchorsOf(std::uint64_t firstCluster) {
-    begin();
+    begin({});
     std::vector<std::uint64_t> anchors;
-    if (!readHead(firstCluster) || !placeAnchors()) {
+    if (!read(firstCluster) || !placeAnchors()) {
         return anchors;
     }
     for (const PromisedSample& sample : m_samples) {
@@ -48,11 +84,8 @@ std::vector<std::uint64_t> MoviePieces::anchorsOf(std::uint64_t firstCluster) {
 
 std::optional<PiecedMovie> MoviePieces::assemble(std::uint64_t firstCluster,
                                                  std::span<const std::uint64_t> others) {
-    begin();
-    for (const std::uint64_t cluster : others) {
-        m_left.takeCluster(cluster);
-    }
-    if (!readHead(firstCluster) || !placeSamples() || m_stop != 0) {
+    begin(others);
+    if (!read(firstCluster) || !placeSamples() || m_stop != 0) {
         return std::nullopt;
     }
     PiecedMovie movie;

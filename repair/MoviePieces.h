@@ -35,9 +35,13 @@ struct PiecedMovie {
 // Finds where the clusters of one movie lie: an object a movie. Any one thread.
 class MoviePieces {
   public:
+    // `otherFiles`: whole ones of other types. One that is no larger than a picture may be a movie's own.
     MoviePieces(MediumBlocks& medium, const FreeClusters& free, const std::vector<std::uint64_t>& indexPlaces,
-                const std::atomic<int>& stop, std::uint64_t searchBytes = kMostSearched)
+                const std::atomic<int>& stop, std::uint64_t searchBytes = kMostSearched,
+                std::span<const SectorRun> otherFiles = {})
         : m_medium(medium),
+          m_unexplained(free),
+          m_otherFiles(otherFiles),
           m_free(free),
           m_left(free),
           m_indexPlaces(indexPlaces),
@@ -76,14 +80,30 @@ class MoviePieces {
         unsigned triesLeft = 0;  // for clusters of one fragment's head
     };
 
-    void begin();
+    void begin(std::span<const std::uint64_t> others);
+    void leaveOut(std::uint64_t largest);
+    bool holdsPhotos() const;
+    bool read(std::uint64_t firstCluster);
+    struct Head;
+    using TakeIndex = std::function<bool(const std::vector<std::uint64_t>& clusters)>;
+
     bool readHead(std::uint64_t firstCluster);
+    std::vector<std::uint64_t> rowFrom(std::vector<std::uint64_t> row) const;
+    bool takeData(const IsoBox& data, std::uint64_t bytes);
+    bool findIndexInFront(std::uint64_t firstCluster, const IsoBox& index);
+    bool takeIndexInFront(const std::vector<std::uint64_t>& clusters);
     bool readChunkHead(std::uint64_t firstCluster, ByteView& view);
     bool findIndexBehind();
     std::uint64_t indexBytes(ByteView& view, std::uint64_t at) const;
     bool takeChunkIndex(ByteSource& file);
     bool placeIndex(std::uint64_t firstOfIndex, std::uint64_t number);
-    bool continueIndex(std::vector<std::uint64_t>& clusters, std::size_t wanted, unsigned& tries);
+    bool mayTryIndex(unsigned tries) const;
+    bool tryIndex(const std::vector<std::uint64_t>& clusters, unsigned& tries, const TakeIndex& take);
+    bool continueIndex(std::vector<std::uint64_t>& clusters, std::size_t wanted, unsigned& tries,
+                       const TakeIndex& take);
+    bool continueIndexElsewhere(std::vector<std::uint64_t>& clusters, std::size_t wanted,
+                                const TakeIndex& take);
+    bool findRestOfIndex(std::vector<std::uint64_t>& clusters, std::size_t wanted, const TakeIndex& take);
     void search(std::uint64_t bytes) { m_searchLeft -= std::min(m_searchLeft, bytes); }
     bool takeIndex(const std::vector<std::uint64_t>& clusters);
 
@@ -118,8 +138,11 @@ class MoviePieces {
     RowLook lookAtRow(std::uint64_t before, std::uint64_t end);
 
     MediumBlocks& m_medium;
-    const FreeClusters& m_free;
-    FreeClusters m_left;  // of these, what is not known to belong elsewhere
+    const FreeClusters& m_unexplained;
+    const std::span<const SectorRun> m_otherFiles;
+    std::span<const std::uint64_t> m_others;  // clusters of other movies
+    FreeClusters m_free;                      // of the unexplained, what no other file holds
+    FreeClusters m_left;                      // of these, what is not known to belong elsewhere
     const std::vector<std::uint64_t>& m_indexPlaces;
     const std::atomic<int>& m_stop;
 

@@ -30,13 +30,10 @@ bool isOfAPhoto(std::span<const std::uint8_t> bytes) {
 // What lies between two anchors of a movie that holds no JPEG pictures is not of it where it is of a photo.
 void MoviePieces::passOverPhotos(std::uint64_t before, std::uint64_t end) {
     constexpr std::uint64_t kFarthest = 8192;  // clusters
-    const bool hasPhotos = std::any_of(m_samples.begin(), m_samples.end(), [](const PromisedSample& sample) {
-        return sample.isChunk() || sample.coding == Coding::Jpeg;
-    });
     const std::uint64_t from = m_places[static_cast<std::size_t>(before)] + 1;
     const bool open = end >= m_places.size();
     const std::uint64_t to = open ? m_free.count() : m_places[static_cast<std::size_t>(end)];
-    if (hasPhotos || to <= from || (!open && to - from > kFarthest)) {
+    if (holdsPhotos() || to <= from || (!open && to - from > kFarthest)) {
         return;
     }
     std::uint64_t left = end - before - 1;

@@ -13,6 +13,7 @@ constexpr unsigned kMostIndexTries = 4096;
 constexpr unsigned kLikelyIndexTries = 64;
 constexpr std::uint64_t kIndexCost = 16;  // of a byte that is understood, in bytes that are read
 constexpr std::uint64_t kWidestTurn = 6;  // movies written at the same time, for the pieces of an index
+constexpr std::uint64_t kFarthestIndexPiece = 64;  // free clusters further
 constexpr int kMostBoxes = 32;
 
 bool isTrailer(std::string_view name) {
@@ -79,62 +80,158 @@ std::vector<std::uint64_t> indexPlaces(MediumBlocks& medium, const std::atomic<i
     return places;
 }
 
-// Follows the boxes in the first cluster and what lies directly behind it.
-bool MoviePieces::readHead(std::uint64_t firstCluster) {
-    std::vector<std::uint64_t> row{firstCluster};
+// What stands in front of a movie's data.
+struct MoviePieces::Head {
+    std::optional<IsoBox> index;
+    std::optional<IsoBox> data;
+    std::optional<std::uint64_t> fragment;  // where the first one begins
+};
+
+namespace {
+
+// As far as the boxes in front are there.
+template <typename Head>
+std::optional<Head> headOf(ByteView& view) {
+    Head head;
+    std::uint64_t at = 0;
+    for (int i = 0; i < kMostBoxes && !head.data && !head.fragment; ++i) {
+        const auto box = readIsoBox(view, at);
+        if (i == 0 && (!box || (box->text() != "ftyp" && box->text() != "wide" && box->text() != "mdat"))) {
+            return std::nullopt;
+        }
+        if (!box || box->toEnd) {
+            break;
+        }
+        if (box->text() == "moov") {
+            head.index = box;
+        } else if (box->text() == "mdat") {
+            head.data = box;
+        } else if (box->text() == "moof") {
+            head.fragment = at;
+        }
+        at = box->end;
+    }
+    return head;
+}
+
+}  // namespace
+
+// These clusters, and what lies directly behind the last.
+std::vector<std::uint64_t> MoviePieces::rowFrom(std::vector<std::uint64_t> row) const {
     for (std::uint64_t bytes = 0; bytes < kMostIndexBytes && row.back() + 1 < m_free.count();
          bytes += m_free.clusterBytes()) {
         row.push_back(row.back() + 1);
     }
+    return row;
+}
+
+bool MoviePieces::readHead(std::uint64_t firstCluster) {
+    const std::vector<std::uint64_t> row = rowFrom({firstCluster});
     ClusterFile file(m_medium, m_free, row, ~std::uint64_t{0});
     ByteView view(file);
     if (view.matches(0, "RIFF") && view.matches(8, "AVI ")) {
         return readChunkHead(firstCluster, view);
     }
-    std::uint64_t at = 0;
-    std::optional<IsoBox> index;
-    std::optional<IsoBox> data;
-    for (int i = 0; i < kMostBoxes && !data; ++i) {
-        const auto box = readIsoBox(view, at);
-        if (!box || box->toEnd ||
-            (i == 0 && box->text() != "ftyp" && box->text() != "wide" && box->text() != "mdat")) {
+    const auto head = headOf<Head>(view);
+    if (head && head->fragment && head->index) {
+        // What stands in front of it lies in one row.
+        for (std::uint64_t number = 0; number <= *head->fragment / m_free.clusterBytes(); ++number) {
+            m_places.push_back(kUnplaced);
+            place(number, firstCluster + number);
+        }
+        return readFragments(view, *head->index, *head->fragment);
+    }
+    if (head && head->data && !head->index) {
+        if (!takeData(*head->data, head->data->end)) {
             return false;
         }
-        if (box->text() == "moov") {
-            index = box;
-        } else if (box->text() == "mdat") {
-            data = box;
-        } else if (box->text() == "moof") {
-            // What stands in front of it lies in one row.
-            for (std::uint64_t number = 0; index && number <= at / m_free.clusterBytes(); ++number) {
-                m_places.push_back(kUnplaced);
-                place(number, firstCluster + number);
-            }
-            return index && readFragments(view, *index, at);
-        }
-        at = box->end;
-    }
-    if (!data || data->end / m_free.clusterBytes() >= m_free.count()) {
-        return false;
-    }
-    m_layout.data = {data->body, data->end};
-    m_layout.mediaBytes = data->end - data->body;
-    m_layout.bytes = std::max(data->end, index ? index->end : 0);
-    const auto clusters =
-        static_cast<std::size_t>((m_layout.bytes + m_free.clusterBytes() - 1) / m_free.clusterBytes());
-    m_places.assign(clusters, kUnplaced);
-    place(0, firstCluster);
-    if (!index) {
+        place(0, firstCluster);
         return findIndexBehind();
     }
-    m_layout.index = *index;
-    // The head lies in one row.
-    for (std::uint64_t number = 1; number * m_free.clusterBytes() < data->body; ++number) {
-        place(number, firstCluster + number);
+    return head && head->index && findIndexInFront(firstCluster, *head->index);
+}
+
+bool MoviePieces::takeData(const IsoBox& data, std::uint64_t bytes) {
+    const std::uint64_t cluster = m_free.clusterBytes();
+    if (data.end / cluster >= m_free.count()) {
+        return false;
     }
-    auto samples = promisedSamples(file, *index, m_layout.data);
-    m_samples = std::move(samples).value_or(std::vector<PromisedSample>());
-    return !m_samples.empty();
+    m_layout.data = {data.body, data.end};
+    m_layout.mediaBytes = data.end - data.body;
+    m_layout.bytes = bytes;
+    m_places.assign(static_cast<std::size_t>((bytes + cluster - 1) / cluster), kUnplaced);
+    return true;
+}
+
+// In one row with what follows it up to the data, or in pieces of its own.
+bool MoviePieces::findIndexInFront(std::uint64_t firstCluster, const IsoBox& index) {
+    if (index.end - index.at > kMostIndexBytes) {
+        return false;
+    }
+    m_layout.index = index;
+    std::vector<std::uint64_t> clusters{firstCluster};
+    const auto take = [this](const std::vector<std::uint64_t>& each) { return takeIndexInFront(each); };
+    if (take(clusters)) {
+        return true;
+    }
+    const auto wanted = static_cast<std::size_t>(index.end / m_free.clusterBytes() + 1);
+    return wanted > 1 && findRestOfIndex(clusters, wanted, take);
+}
+
+bool MoviePieces::takeIndexInFront(const std::vector<std::uint64_t>& clusters) {
+    const std::uint64_t cluster = m_free.clusterBytes();
+    const std::vector<std::uint64_t> row = rowFrom(clusters);
+    ClusterFile file(m_medium, m_free, row, ~std::uint64_t{0});
+    ByteView view(file);
+    const auto head = headOf<Head>(view);
+    if (!head || !head->index || !head->data) {
+        return false;
+    }
+    auto samples = promisedSamples(file, *head->index, {head->data->body, head->data->end});
+    if (!samples || samples->empty() || !takeData(*head->data, head->data->end)) {
+        return false;
+    }
+    for (std::uint64_t number = 0; number == 0 || number * cluster < head->data->body; ++number) {
+        place(number, row[static_cast<std::size_t>(number)]);
+    }
+    m_samples = std::move(*samples);
+    return true;
+}
+
+bool MoviePieces::findRestOfIndex(std::vector<std::uint64_t>& clusters, std::size_t wanted,
+                                  const TakeIndex& take) {
+    unsigned tries = 0;
+    return continueIndex(clusters, wanted, tries, take) || continueIndexElsewhere(clusters, wanted, take);
+}
+
+// A row, and another one further behind.
+bool MoviePieces::continueIndexElsewhere(std::vector<std::uint64_t>& clusters, std::size_t wanted,
+                                         const TakeIndex& take) {
+    const std::uint64_t first = clusters.front();
+    unsigned tries = 0;
+    for (std::uint64_t step = kWidestTurn + 1; step <= kFarthestIndexPiece; ++step) {
+        clusters.assign(1, first);
+        while (clusters.size() < wanted && mayTryIndex(tries)) {
+            const auto next = m_free.ahead(clusters.back(), step);
+            if (!next) {
+                break;
+            }
+            std::vector<std::uint64_t> each = clusters;
+            for (each.push_back(*next); each.size() < wanted && m_free.isFree(each.back() + 1);) {
+                each.push_back(each.back() + 1);
+            }
+            if (each.size() == wanted && tryIndex(each, tries, take)) {
+                clusters = each;
+                return true;
+            }
+            const auto behind = m_free.ahead(clusters.back(), 1);
+            if (!behind) {
+                break;
+            }
+            clusters.push_back(*behind);
+        }
+    }
+    return false;
 }
 
 // The index stands where the data ends: that tells its place within a cluster.
@@ -173,8 +270,8 @@ bool MoviePieces::placeIndex(std::uint64_t firstOfIndex, std::uint64_t number) {
         m_layout.data.to, m_layout.data.to + 8, m_layout.data.to + bytes, {'m', 'o', 'o', 'v'}, false};
     m_layout.bytes = m_layout.index.end;
     const auto wanted = static_cast<std::size_t>((within + bytes + cluster - 1) / cluster);
-    unsigned tries = 0;
-    if (number != 0 && !continueIndex(clusters, wanted, tries)) {
+    const auto take = [this](const std::vector<std::uint64_t>& each) { return takeIndex(each); };
+    if (number != 0 && !findRestOfIndex(clusters, wanted, take)) {
         return false;
     }
     m_places.resize(static_cast<std::size_t>(number) + wanted, kUnplaced);
@@ -192,17 +289,26 @@ std::uint64_t MoviePieces::indexBytes(ByteView& view, std::uint64_t at) const {
     return view.matches(at + 4, "moov") ? view.be32(at).value_or(0) : 0;
 }
 
+bool MoviePieces::mayTryIndex(unsigned tries) const {
+    return tries < (m_searchLeft != 0 ? kMostIndexTries : kLikelyIndexTries) && m_stop == 0;
+}
+
+bool MoviePieces::tryIndex(const std::vector<std::uint64_t>& clusters, unsigned& tries,
+                           const TakeIndex& take) {
+    ++tries;
+    search(tries <= kLikelyIndexTries ? 0 : (m_layout.index.end - m_layout.index.at) * kIndexCost);
+    return take(clusters);
+}
+
 // Tries the next piece at growing distances; the distance used last comes first.
-bool MoviePieces::continueIndex(std::vector<std::uint64_t>& clusters, std::size_t wanted, unsigned& tries) {
+bool MoviePieces::continueIndex(std::vector<std::uint64_t>& clusters, std::size_t wanted, unsigned& tries,
+                                const TakeIndex& take) {
     if (clusters.size() == wanted) {
-        ++tries;
-        search(tries <= kLikelyIndexTries ? 0 : (m_layout.index.end - m_layout.index.at) * kIndexCost);
-        return takeIndex(clusters);
+        return tryIndex(clusters, tries, take);
     }
-    const auto mayTry = [&] { return tries < (m_searchLeft != 0 ? kMostIndexTries : kLikelyIndexTries); };
     const std::uint64_t usual =
         clusters.size() < 2 ? 0 : m_free.stepsBetween(clusters[clusters.size() - 2], clusters.back());
-    for (std::uint64_t turn = 0; turn <= kWidestTurn && mayTry() && m_stop == 0; ++turn) {
+    for (std::uint64_t turn = 0; turn <= kWidestTurn && mayTryIndex(tries); ++turn) {
         const std::uint64_t step = turn == 0 ? usual : turn;
         if (step == 0 || (turn != 0 && step == usual)) {
             continue;
@@ -213,7 +319,7 @@ bool MoviePieces::continueIndex(std::vector<std::uint64_t>& clusters, std::size_
             break;
         }
         clusters.push_back(*next);
-        if (continueIndex(clusters, wanted, tries)) {
+        if (continueIndex(clusters, wanted, tries, take)) {
             return true;
         }
         clusters.pop_back();

@@ -150,7 +150,7 @@ TEST(MovieCompletion, IndexThatOtherMoviesFit_ProvesNothing) {
     MovieCompletion completion(reader, kGoOn, progress);
     const std::vector<std::uint64_t> starts{4 * kMovieClusterSectors, 5 * kMovieClusterSectors};
     std::size_t assembled = 0;
-    for (const auto& each : completion.run(starts, {})) {
+    for (const auto& each : completion.run(starts, {}, {})) {
         assembled += each ? 1 : 0;
         EXPECT_TRUE(!each || each->proof == AssemblyProof::Likely);
     }
@@ -193,6 +193,28 @@ TEST(MovieCompletion, PicturesThatTellLittle_HaveToDecode) {
         const auto found = completedMovies(medium, {8 * kMovieClusterSectors});
         ASSERT_TRUE(found[0]) << faint;
         EXPECT_EQ(found[0]->proof, faint ? AssemblyProof::Likely : AssemblyProof::Proved);
+    }
+}
+
+// What lies between two pieces of a picture is a whole photo, whose tables and notes look like anything; only
+// a file that could be one of the movie's own pictures is not left out.
+TEST(MovieCompletion, WholeFilesOfOtherTypes_AreNoPieces) {
+    std::vector<test::PictureSpec> specs = picturesOfManySizes(40, 1);
+    specs[6].bytes = 9 * static_cast<int>(kMovieClusterBytes);
+    const MadeMovie movie = makeMovie(specs, false, 1);
+    std::vector<int> clusters = every(1, 8, movieClustersOf(movie.bytes));
+    for (std::size_t i = 5; i < clusters.size(); ++i) {
+        clusters[i] += 3;
+    }
+    QByteArray medium = mediumOf(clusters.back() + 30);
+    scatter(movie.bytes, clusters, medium);
+    const std::vector<SectorRun> photo{{13 * kMovieClusterSectors, 16 * kMovieClusterSectors - 1}};
+    for (const bool known : {false, true}) {
+        const auto found =
+            completedMovies(medium, {8 * kMovieClusterSectors}, known ? photo : std::vector<SectorRun>());
+        ASSERT_TRUE(found[0]) << known;
+        EXPECT_EQ(found[0]->proof == AssemblyProof::Proved, known);
+        EXPECT_EQ(bytesOf(medium, *found[0]) == movie.bytes, known);
     }
 }
 
