@@ -200,7 +200,9 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
                 auto movie = withPieces(grids[g], [&](MoviePieces& pieces) {
                     return pieces.assemble(*first, alone ? std::vector<std::uint64_t>() : others);
                 });
-                if (movie && (!found[i] || worth(*movie) > worth(found[i]->movie))) {
+                // An index that is partly another's leads to that one's samples.
+                const bool own = movie && (!alone || movie->ownIndex);
+                if (own && (!found[i] || worth(*movie) > worth(found[i]->movie))) {
                     const SectorRun span = spanOf(*movie, grids[g]);
                     found[i] = FoundMovie{std::move(*movie), g, false, span, {}};
                 }

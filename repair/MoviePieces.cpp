@@ -65,7 +65,7 @@ bool MoviePieces::read(std::uint64_t firstCluster) {
 std::vector<std::uint64_t> MoviePieces::anchorsOf(std::uint64_t firstCluster) {
     begin({});
     std::vector<std::uint64_t> anchors;
-    if (!read(firstCluster) || !placeAnchors()) {
+    if (!read(firstCluster) || !tellsInEach(IndexPart::Row) || !placeAnchors()) {
         return anchors;
     }
     for (const PromisedSample& sample : m_samples) {
@@ -92,7 +92,9 @@ std::optional<PiecedMovie> MoviePieces::assemble(std::uint64_t firstCluster,
     movie.clusters = m_places;
     movie.bytes = m_layout.bytes;
     movie.guessed = m_guessed;
-    movie.telling = isTelling();
+    movie.ownIndex = tellsInEach(IndexPart::Row);
+    // Where a row goes on, any cluster would do that tells nothing of the samples.
+    movie.telling = movie.ownIndex && tellsInEach(IndexPart::Cluster) && isTelling();
     ClusterFile file(m_medium, m_free, m_places, m_layout.bytes);
     ByteView view(file);
     movie.decodable = true;
@@ -123,6 +125,45 @@ bool MoviePieces::isTelling() const {
     }
     const std::uint64_t data = m_layout.mediaBytes;
     return m_layout.endTold && sum >= data - data / 50 && sizes.size() >= 2 && sizes.size() >= looked / 8;
+}
+
+// Indexes of movies of one length and camera are alike up to their tables: a piece of the one fits the other.
+// Only sizes and places of samples in each piece contradict those in another's.
+bool MoviePieces::tellsInEach(IndexPart part) {
+    constexpr std::uint64_t kFewestTableBytes = 16;
+    if (m_layout.chunks || m_layout.index.end == 0) {
+        return true;  // entries of one kind, or fragments that are numbered
+    }
+    ClusterFile file(m_medium, m_free, m_places, m_layout.bytes);
+    ByteView view(file);
+    const std::uint64_t cluster = m_free.clusterBytes();
+    const auto first = static_cast<std::size_t>(m_layout.index.at / cluster);
+    const auto end = static_cast<std::size_t>((m_layout.index.end + cluster - 1) / cluster);
+    std::vector<DataPlace> tables;
+    forIsoBoxes(view, m_layout.index.body, m_layout.index.end, [&](const IsoBox& box) {
+        if (box.text() == "trak") {
+            const IsoTrack track = readIsoTrack(view, box);
+            for (const IsoTable& table : {track.sizes, track.chunks}) {
+                tables.push_back({table.at, table.at + table.count * table.bits / 8});
+            }
+        }
+    });
+    for (std::size_t from = first, to = first; from < end; from = to) {
+        do {
+            ++to;
+        } while (part == IndexPart::Row && to < end && m_places[to] == m_places[to - 1] + 1);
+        std::uint64_t told = 0;
+        for (const DataPlace& table : tables) {
+            const std::uint64_t begin = std::max<std::uint64_t>(table.from, from * cluster);
+            const std::uint64_t behind = std::min<std::uint64_t>(table.to, to * cluster);
+            told += behind > begin ? behind - begin : 0;
+        }
+        const bool oneRow = from == first && (to == end || part == IndexPart::Cluster);
+        if (!oneRow && told < kFewestTableBytes) {
+            return false;
+        }
+    }
+    return true;
 }
 
 // What the samples that begin in the cluster of the file say of a cluster of the medium.

@@ -29,6 +29,7 @@ struct PiecedMovie {
     bool decodable = false;        // a decoder would notice a foreign piece in its pictures
     bool faint = false;            // its samples show little of what they are
     bool telling = false;          // no other movie is likely to fit the index
+    bool ownIndex = true;          // none of the index's pieces may be another's
     std::size_t guessed = 0;       // clusters for which there was more than one choice
 };
 
@@ -118,6 +119,8 @@ class MoviePieces {
     bool placeSamples();
     bool placeAnchors();
     bool isTelling() const;
+    enum class IndexPart { Row, Cluster };
+    bool tellsInEach(IndexPart part);
     Likeness likeness(std::uint64_t number, std::uint64_t cluster);
     bool placeAnchor(std::uint64_t number, std::uint64_t known);
     bool accept(std::uint64_t number, std::uint64_t cluster, Likeness least);

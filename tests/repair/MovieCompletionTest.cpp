@@ -19,6 +19,7 @@ using test::movieClustersOf;
 using test::picturesOfManySizes;
 using test::plainPictures;
 using test::scatter;
+using test::withIndexInFront;
 
 // Clusters in which samples of the one begin are none of the other's, in which nothing begins.
 TEST(MovieCompletion, UnevenTurns_AreToldApartByTheOthersSamples) {
@@ -176,6 +177,59 @@ TEST(MovieCompletion, WhatFollowsALikelyMovie_HasToDecode) {
         EXPECT_EQ(found[likelyFirst ? 1 : 0]->proof,
                   likelyFirst ? AssemblyProof::Likely : AssemblyProof::Proved);
     }
+}
+
+// Behind the index's tables stand notes, and any cluster would do for theirs.
+TEST(MovieCompletion, IndexWithAClusterThatTellsNothing_ProvesNothing) {
+    const MadeMovie movie = makeMovie(picturesOfManySizes(200, 1), false, 1);
+    for (const bool notes : {false, true}) {
+        QByteArray bytes = movie.bytes;
+        if (notes) {
+            QByteArray box = QByteArray(4, '\0') + "udta" + QByteArray(9000, 'n');
+            qToBigEndian(static_cast<quint32>(box.size()), box.data());
+            const qsizetype size = bytes.size() - movie.indexAt + box.size();
+            bytes += box;
+            qToBigEndian(static_cast<quint32>(size), bytes.data() + movie.indexAt);
+        }
+        QByteArray medium = mediumOf(2 * movieClustersOf(bytes) + 40);
+        std::vector<int> clusters = every(1, 8, movieClustersOf(bytes));
+        for (std::size_t i = 4; i < clusters.size(); ++i) {
+            clusters[i] += 3;
+        }
+        scatter(bytes, clusters, medium);
+        const auto found = completedMovies(medium, {8 * kMovieClusterSectors});
+        ASSERT_TRUE(found[0]) << notes;
+        EXPECT_EQ(found[0]->proof, notes ? AssemblyProof::Likely : AssemblyProof::Proved);
+    }
+}
+
+// The first cluster of the one, and all behind it of the other, make a whole movie of the other's pictures.
+TEST(MovieCompletion, IndexesThatAreAlike_AreNotMixed) {
+    const MadeMovie movies[] = {makeMovie(picturesOfManySizes(900, 1), false, 1),
+                                makeMovie(picturesOfManySizes(900, 2), false, 2)};
+    QByteArray bytes[2];
+    for (std::size_t i = 0; i < 2; ++i) {
+        // Notes in front of the tables fill the first cluster.
+        MadeMovie movie = movies[i];
+        const QByteArray notes(kMovieClusterBytes, '\0');
+        QByteArray box = QByteArray(4, '\0') + "udta" + notes;
+        qToBigEndian(static_cast<quint32>(box.size()), box.data());
+        const auto size = static_cast<quint32>(movie.bytes.size() - movie.indexAt + box.size());
+        movie.bytes.insert(movie.indexAt + 8, box);
+        qToBigEndian(size, movie.bytes.data() + movie.indexAt);
+        bytes[i] = withIndexInFront(movie);
+    }
+    const int count = movieClustersOf(bytes[0]);
+    const int other = movieClustersOf(bytes[1]);
+    QByteArray medium = mediumOf(count + other + 40);
+    // The first cluster of the one, all of the other, the rest of the one.
+    std::vector<int> clusters = every(1, 8 + other, count);
+    clusters[0] = 8;
+    scatter(bytes[0], clusters, medium);
+    scatter(bytes[1], every(1, 9, other), medium);
+    const auto found = completedMovies(medium, {8 * kMovieClusterSectors, 9 * kMovieClusterSectors});
+    ASSERT_TRUE(found[0]);
+    EXPECT_EQ(bytesOf(medium, *found[0]), bytes[0]);
 }
 
 // Their samples tell no more than that they begin.
