@@ -24,6 +24,7 @@ void MoviePieces::begin(std::span<const std::uint64_t> others) {
     m_used.assign(m_free.count(), false);
     leaveOut(0);
     m_step = 1;
+    m_stepKept = false;
     m_guessed = 0;
     m_farSearches = 0;
 }
@@ -212,7 +213,8 @@ bool MoviePieces::placeAnchor(std::uint64_t number, std::uint64_t known) {
     const std::uint64_t last = m_places[static_cast<std::size_t>(known)];
     const std::uint64_t apart = number - known;
     const auto expected = m_free.ahead(last, m_step * apart);
-    if (expected && accept(number, *expected, Likeness::Likely)) {
+    m_stepKept = expected && accept(number, *expected, Likeness::Likely);
+    if (m_stepKept) {
         return true;
     }
     std::optional<std::uint64_t> next = last;

@@ -154,6 +154,7 @@ class MoviePieces {
     std::vector<std::uint64_t> m_places;  // cluster of the medium for each of the file
     std::vector<bool> m_used;             // clusters of the medium that are placed
     std::uint64_t m_step = 1;             // free clusters from one piece to the next, where placed last
+    bool m_stepKept = false;              // by the one placed last as well
     std::size_t m_guessed = 0;
     unsigned m_farSearches = 0;
     std::uint64_t m_searchLeft = 0;

@@ -133,7 +133,7 @@ void MoviePieces::fillRow(std::uint64_t before, std::uint64_t end) {
                                      : m_free.stepsBetween(m_places[static_cast<std::size_t>(before)],
                                                            m_places[static_cast<std::size_t>(end)]);
     std::vector<Way> ways;
-    if (open) {
+    if (open && m_stepKept) {
         ways.push_back({missing, m_step});
     } else if (apart > missing && apart % (missing + 1) == 0) {
         ways.push_back({missing, apart / (missing + 1)});

@@ -145,6 +145,24 @@ TEST(MoviePieces, PhotoInALargePicture_IsPassedOver) {
     EXPECT_EQ(assembled(medium, 4), movie.bytes);
 }
 
+// A gap in front of the last sample's cluster is no turn: what follows lies behind it.
+TEST(MoviePieces, TailBehindAGap_FollowsInTheRow) {
+    std::vector<test::PictureSpec> specs = picturesOfManySizes(40, 1);
+    specs.back().bytes = 5 * static_cast<int>(kMovieClusterBytes);
+    const MadeMovie movie = makeMovie(specs, false, 1);
+    const QByteArray bytes = withIndexInFront(movie);
+    const int count = movieClustersOf(bytes);
+    std::vector<int> clusters = every(1, 4, count);
+    const std::uint64_t last =
+        movie.pictures.back().at + static_cast<std::uint64_t>(bytes.size() - movie.indexAt);
+    for (auto i = static_cast<std::size_t>(last) / kMovieClusterBytes; i < clusters.size(); ++i) {
+        clusters[i] += 3;
+    }
+    QByteArray medium = mediumOf(count + 60);
+    scatter(bytes, clusters, medium);
+    EXPECT_EQ(assembled(medium, 4), bytes);
+}
+
 // Nothing tells where the first picture goes on; its head lies behind it all.
 TEST(MoviePieces, HeadBehindALargePicture_JoinsWhatItLeadsUpTo) {
     std::vector<test::PictureSpec> specs = picturesOfManySizes(40, 1);
