@@ -12,6 +12,7 @@
 #include "formats/IsoFragments.h"
 #include "repair/ClusterFile.h"
 #include "repair/FreeClusters.h"
+#include "repair/LaidClusters.h"
 #include "repair/MediumBlocks.h"
 #include "repair/MovieSamples.h"
 #include "repair/WrittenInTurns.h"
@@ -62,8 +63,6 @@ class MoviePieces {
     std::vector<std::uint64_t> anchorsOf(std::uint64_t firstCluster);
 
   private:
-    static constexpr std::uint64_t kUnplaced = ~std::uint64_t{0};
-
     struct Layout {
         DataPlace data;
         IsoBox index;
@@ -124,16 +123,13 @@ class MoviePieces {
     Likeness likeness(std::uint64_t number, std::uint64_t cluster);
     bool placeAnchor(std::uint64_t number, std::uint64_t known);
     bool accept(std::uint64_t number, std::uint64_t cluster, Likeness least);
-    void place(std::uint64_t number, std::uint64_t cluster);
     void placeInTurns();
     void placeInTurns(const std::vector<KnownCluster>& known);
     void fillBetween();
     void passOverPhotos(std::uint64_t before, std::uint64_t end);
     void fillRow(std::uint64_t before, std::uint64_t end);
-    using PlaceOf = std::function<std::optional<std::uint64_t>(std::uint64_t number)>;
-    bool layWith(std::uint64_t before, std::uint64_t end, const PlaceOf& placeOf);
+    std::optional<std::uint64_t> ifLeft(std::optional<std::uint64_t> cluster) const;
     bool lay(std::uint64_t before, std::uint64_t end, std::uint64_t ahead, std::uint64_t step);
-    void lift(std::uint64_t before, std::uint64_t end);
     struct RowLook {
         std::size_t broken = 0;  // samples
         bool proved = true;      // a foreign cluster would have shown
@@ -151,10 +147,9 @@ class MoviePieces {
 
     Layout m_layout;
     std::vector<PromisedSample> m_samples;
-    std::vector<std::uint64_t> m_places;  // cluster of the medium for each of the file
-    std::vector<bool> m_used;             // clusters of the medium that are placed
-    std::uint64_t m_step = 1;             // free clusters from one piece to the next, where placed last
-    bool m_stepKept = false;              // by the one placed last as well
+    LaidClusters m_laid;
+    std::uint64_t m_step = 1;  // free clusters from one piece to the next, where placed last
+    bool m_stepKept = false;   // by the one placed last as well
     std::size_t m_guessed = 0;
     unsigned m_farSearches = 0;
     std::uint64_t m_searchLeft = 0;

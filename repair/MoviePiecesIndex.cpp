@@ -136,8 +136,8 @@ bool MoviePieces::readHead(std::uint64_t firstCluster) {
     if (head && head->fragment && head->index) {
         // What stands in front of it lies in one row.
         for (std::uint64_t number = 0; number <= *head->fragment / m_free.clusterBytes(); ++number) {
-            m_places.push_back(kUnplaced);
-            place(number, firstCluster + number);
+            m_laid.places.push_back(LaidClusters::kUnplaced);
+            m_laid.place(number, firstCluster + number);
         }
         return readFragments(view, *head->index, *head->fragment);
     }
@@ -145,7 +145,7 @@ bool MoviePieces::readHead(std::uint64_t firstCluster) {
         if (!takeData(*head->data, head->data->end)) {
             return false;
         }
-        place(0, firstCluster);
+        m_laid.place(0, firstCluster);
         return findIndexBehind();
     }
     return head && head->index && findIndexInFront(firstCluster, *head->index);
@@ -159,7 +159,7 @@ bool MoviePieces::takeData(const IsoBox& data, std::uint64_t bytes) {
     m_layout.data = {data.body, data.end};
     m_layout.mediaBytes = data.end - data.body;
     m_layout.bytes = bytes;
-    m_places.assign(static_cast<std::size_t>((bytes + cluster - 1) / cluster), kUnplaced);
+    m_laid.places.assign(static_cast<std::size_t>((bytes + cluster - 1) / cluster), LaidClusters::kUnplaced);
     return true;
 }
 
@@ -192,7 +192,7 @@ bool MoviePieces::takeIndexInFront(const std::vector<std::uint64_t>& clusters) {
         return false;
     }
     for (std::uint64_t number = 0; number == 0 || number * cluster < head->data->body; ++number) {
-        place(number, row[static_cast<std::size_t>(number)]);
+        m_laid.place(number, row[static_cast<std::size_t>(number)]);
     }
     m_samples = std::move(*samples);
     return true;
@@ -248,7 +248,7 @@ bool MoviePieces::findIndexBehind() {
         }
     }
     // Nearest behind first, then those before.
-    const std::uint64_t first = m_places.front();
+    const std::uint64_t first = m_laid.places.front();
     std::sort(candidates.begin(), candidates.end(), [&](std::uint64_t a, std::uint64_t b) {
         return std::pair(a < first, a) < std::pair(b < first, b);
     });
@@ -274,9 +274,9 @@ bool MoviePieces::placeIndex(std::uint64_t firstOfIndex, std::uint64_t number) {
     if (number != 0 && !findRestOfIndex(clusters, wanted, take)) {
         return false;
     }
-    m_places.resize(static_cast<std::size_t>(number) + wanted, kUnplaced);
+    m_laid.places.resize(static_cast<std::size_t>(number) + wanted, LaidClusters::kUnplaced);
     for (std::size_t i = 0; i < clusters.size(); ++i) {
-        place(number + i, clusters[i]);
+        m_laid.place(number + i, clusters[i]);
     }
     return true;
 }
@@ -331,7 +331,7 @@ bool MoviePieces::takeIndex(const std::vector<std::uint64_t>& clusters) {
     const std::uint64_t cluster = m_free.clusterBytes();
     const std::uint64_t number = m_layout.data.to / cluster;
     // Only the index is looked at: what lies before it is not placed yet.
-    m_indexRow.resize(static_cast<std::size_t>(number), m_places.front());
+    m_indexRow.resize(static_cast<std::size_t>(number), m_laid.places.front());
     m_indexRow.insert(m_indexRow.end(), clusters.begin(), clusters.end());
     ClusterFile file(m_medium, m_free, m_indexRow, m_layout.bytes);
     if (m_layout.chunks) {
