@@ -9,18 +9,21 @@ namespace vantor {
 
 ArchivePlaces archivePlaces(MediumBlocks& medium, const std::atomic<int>& stop) {
     constexpr std::size_t kSignBytes = 4;
-    constexpr std::size_t kSeam = ArchiveEnd::kBytes - 1;
+    constexpr std::size_t kReach = ArchiveEnd::kBytes - 1;
     constexpr std::size_t kMostOfAKind = 1'000'000;
     ArchivePlaces places;
     const auto look = [&](std::span<const std::uint8_t> bytes, std::uint64_t at) {
         for (std::size_t i = 0; i + kSignBytes <= bytes.size(); ++i) {
-            const void* const found = memmem(bytes.data() + i, bytes.size() - i, "PK", 2);
+            const void* const found = std::memchr(bytes.data() + i, 'P', bytes.size() - i);
             if (found == nullptr) {
                 break;
             }
             i = static_cast<std::size_t>(static_cast<const std::uint8_t*>(found) - bytes.data());
             if (i + kSignBytes > bytes.size()) {
                 break;
+            }
+            if (bytes[i + 1] != 'K') {
+                continue;
             }
             if (bytes[i + 2] == 3 && bytes[i + 3] == 4 && places.members.size() < kMostOfAKind) {
                 places.members.push_back(at + i);
@@ -34,18 +37,7 @@ ArchivePlaces archivePlaces(MediumBlocks& medium, const std::atomic<int>& stop) 
             }
         }
     };
-    std::vector<std::uint8_t> seam(2 * kSeam, 0);
-    for (std::uint64_t sector = 0; sector < medium.sectors() && stop == 0;
-         sector += MediumBlocks::kBlockSectors) {
-        const auto block = medium.blockOf(sector);
-        std::copy_n(block.begin(), kSeam, seam.begin() + kSeam);
-        if (sector != 0) {
-            // What the block itself holds whole is found in it as well, and taken once.
-            look(seam, sector * kSectorBytes - kSeam);
-        }
-        look(block, sector * kSectorBytes);
-        std::copy_n(block.end() - kSeam, kSeam, seam.begin());
-    }
+    medium.lookThrough(kReach, stop, look);
     std::sort(places.members.begin(), places.members.end());
     places.members.erase(std::unique(places.members.begin(), places.members.end()), places.members.end());
     std::sort(places.ends.begin(), places.ends.end(),

@@ -29,52 +29,41 @@ std::vector<std::uint64_t> indexPlaces(MediumBlocks& medium, const std::atomic<i
     // What stands so many bytes before the name, and behind it, has to be looked at too.
     constexpr std::size_t kBefore = 4;
     constexpr std::size_t kBehind = 12;
-    const auto lookFor = [&](const char* name, auto&& placeOf, std::span<const std::uint8_t> bytes) {
+    struct Name {
+        const char* own;
+        const char* child;  // of a box; null: a list of chunks, whose length is less than 16 MiB
+    };
+    // An index, a fragment's head, the list of fragments at a movie's end, and an index of chunks.
+    static constexpr Name kNames[] = {
+        {"moov", "mvhd"}, {"moof", "mfhd"}, {"mfra", "tfra"}, {"idx1", nullptr}};
+    const auto placeBehind = [&](const std::uint8_t* here, std::uint64_t at) -> std::optional<std::uint64_t> {
+        for (const Name& name : kNames) {
+            if (std::memcmp(here, name.own, 4) == 0) {
+                const bool isBox = name.child != nullptr && std::memcmp(here + 8, name.child, 4) == 0;
+                const bool isList = name.child == nullptr && here[7] == 0;
+                return isBox ? std::optional(at - kBefore) : isList ? std::optional(at) : std::nullopt;
+            }
+        }
+        return std::nullopt;
+    };
+    // One letter after the other is found sooner than a name.
+    const auto lookFor = [&](std::span<const std::uint8_t> bytes, std::uint64_t at, char first) {
         for (std::size_t i = kBefore; i + kBehind <= bytes.size() && places.size() < kMostPlaces; ++i) {
-            const void* const found = memmem(bytes.data() + i, bytes.size() - i - kBehind + 4, name, 4);
+            const void* const found = std::memchr(bytes.data() + i, first, bytes.size() - i - kBehind + 1);
             if (found == nullptr) {
                 break;
             }
             const auto* const here = static_cast<const std::uint8_t*>(found);
             i = static_cast<std::size_t>(here - bytes.data());
-            if (const auto place = placeOf(here, i)) {
+            if (const auto place = placeBehind(here, at + i)) {
                 places.push_back(*place);
             }
         }
     };
-    const auto look = [&](std::span<const std::uint8_t> bytes, std::uint64_t at) {
-        // An index, a fragment's head, and the list of fragments at a movie's end.
-        const auto lookForBox = [&](const char* name, const char* child) {
-            lookFor(
-                name,
-                [&](const std::uint8_t* here, std::size_t i) {
-                    return std::memcmp(here + 8, child, 4) == 0 ? std::optional(at + i - 4) : std::nullopt;
-                },
-                bytes);
-        };
-        lookForBox("moov", "mvhd");
-        lookForBox("moof", "mfhd");
-        lookForBox("mfra", "tfra");
-        lookFor(
-            "idx1",
-            // Its length is less than 16 MiB.
-            [&](const std::uint8_t* here, std::size_t i) {
-                return here[7] == 0 ? std::optional(at + i) : std::nullopt;
-            },
-            bytes);
-    };
-    std::vector<std::uint8_t> seam(2 * kHeadBytes, 0);
-    for (std::uint64_t sector = 0; sector < medium.sectors() && stop == 0;
-         sector += MediumBlocks::kBlockSectors) {
-        const auto block = medium.blockOf(sector);
-        std::copy_n(block.begin(), kHeadBytes, seam.begin() + kHeadBytes);
-        if (sector != 0) {
-            // What the block itself holds whole is found in it as well, and taken once.
-            look(seam, sector * kSectorBytes - kHeadBytes);
-        }
-        look(block, sector * kSectorBytes);
-        std::copy_n(block.end() - kHeadBytes, kHeadBytes, seam.begin());
-    }
+    medium.lookThrough(kHeadBytes, stop, [&](std::span<const std::uint8_t> bytes, std::uint64_t at) {
+        lookFor(bytes, at, 'm');
+        lookFor(bytes, at, 'i');
+    });
     std::sort(places.begin(), places.end());
     places.erase(std::unique(places.begin(), places.end()), places.end());
     return places;
