@@ -3,7 +3,6 @@
 #include "repair/ArchivePieces.h"
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 #include "formats/Crc.h"
@@ -18,76 +17,6 @@ constexpr std::uint64_t kWidestArchiveTurn = 6;  // files written at the same ti
 constexpr std::uint64_t kMostWaysAMember = 4096;
 
 }  // namespace
-
-ArchivePlaces archivePlaces(MediumBlocks& medium, const std::atomic<int>& stop) {
-    constexpr std::size_t kSignBytes = 4;
-    constexpr std::size_t kSeam = ArchiveEnd::kBytes - 1;
-    constexpr std::size_t kMostOfAKind = 1'000'000;
-    ArchivePlaces places;
-    const auto look = [&](std::span<const std::uint8_t> bytes, std::uint64_t at) {
-        for (std::size_t i = 0; i + kSignBytes <= bytes.size(); ++i) {
-            const void* const found = memmem(bytes.data() + i, bytes.size() - i, "PK", 2);
-            if (found == nullptr) {
-                break;
-            }
-            i = static_cast<std::size_t>(static_cast<const std::uint8_t*>(found) - bytes.data());
-            if (i + kSignBytes > bytes.size()) {
-                break;
-            }
-            if (bytes[i + 2] == 3 && bytes[i + 3] == 4 && places.members.size() < kMostOfAKind) {
-                places.members.push_back(at + i);
-            } else if (bytes[i + 2] == 5 && bytes[i + 3] == 6 && places.ends.size() < kMostOfAKind &&
-                       i + ArchiveEnd::kBytes <= bytes.size()) {
-                SpanSource source(bytes.subspan(i, ArchiveEnd::kBytes));
-                ByteView view(source);
-                if (const auto end = archiveEndAt(view, 0)) {
-                    places.ends.push_back({at + i, *end});
-                }
-            }
-        }
-    };
-    std::vector<std::uint8_t> seam(2 * kSeam, 0);
-    for (std::uint64_t sector = 0; sector < medium.sectors() && stop == 0;
-         sector += MediumBlocks::kBlockSectors) {
-        const auto block = medium.blockOf(sector);
-        std::copy_n(block.begin(), kSeam, seam.begin() + kSeam);
-        if (sector != 0) {
-            // What the block itself holds whole is found in it as well, and taken once.
-            look(seam, sector * kSectorBytes - kSeam);
-        }
-        look(block, sector * kSectorBytes);
-        std::copy_n(block.end() - kSeam, kSeam, seam.begin());
-    }
-    std::sort(places.members.begin(), places.members.end());
-    places.members.erase(std::unique(places.members.begin(), places.members.end()), places.members.end());
-    std::sort(places.ends.begin(), places.ends.end(),
-              [](const auto& a, const auto& b) { return a.at < b.at; });
-    return places;
-}
-
-void ArchivePieces::place(std::uint64_t number, std::uint64_t cluster) {
-    m_clusters[static_cast<std::size_t>(number)] = cluster;
-    m_used[static_cast<std::size_t>(cluster)] = true;
-}
-
-void ArchivePieces::lift(std::uint64_t before, std::uint64_t end) {
-    for (std::uint64_t number = before + 1; number < end; ++number) {
-        std::uint64_t& cluster = m_clusters[static_cast<std::size_t>(number)];
-        if (cluster != kUnplaced) {
-            m_used[static_cast<std::size_t>(cluster)] = false;
-            cluster = kUnplaced;
-        }
-    }
-}
-
-void ArchivePieces::liftAll() {
-    for (std::uint64_t& cluster : m_clusters) {
-        if (cluster != kUnplaced) {
-            m_used[static_cast<std::size_t>(cluster)] = false;
-            cluster = kUnplaced;
-        }
-    }
-}
 
 // Pays for the blocks read since.
 bool ArchivePieces::mayGoOn() {
@@ -108,14 +37,14 @@ std::optional<PiecedArchive> ArchivePieces::assemble(std::uint64_t firstCluster,
     const auto behind = std::lower_bound(m_places.ends.begin(), m_places.ends.end(), first,
                                          [](const auto& end, std::uint64_t at) { return end.at < at; });
     const auto skipped = static_cast<std::size_t>(behind - m_places.ends.begin());
-    m_used.resize(static_cast<std::size_t>(m_free.count()), false);
+    m_laid.used.resize(static_cast<std::size_t>(m_free.count()), false);
     std::optional<PiecedArchive> found;
     for (std::size_t i = 0; i < m_places.ends.size() && !found && mayGoOn(); ++i) {
         m_effort.spend(1);
         if (tryEnd(firstCluster, head, (skipped + i) % m_places.ends.size())) {
-            found = PiecedArchive{m_clusters, m_end.bytes, m_proved && isShown()};
+            found = PiecedArchive{m_laid.places, m_end.bytes, m_proved && isShown()};
         }
-        liftAll();
+        m_laid.liftAll();
     }
     mayGoOn();
     effort.spend(before - m_effort.left);
@@ -140,8 +69,9 @@ bool ArchivePieces::tryEnd(std::uint64_t firstCluster, std::span<const std::uint
     }
     m_end = end;
     m_proved = true;
-    m_clusters.assign(static_cast<std::size_t>((end.bytes + cluster - 1) / cluster), kUnplaced);
-    m_effort.spend(m_clusters.size());
+    m_laid.places.assign(static_cast<std::size_t>((end.bytes + cluster - 1) / cluster),
+                         LaidClusters::kUnplaced);
+    m_effort.spend(m_laid.places.size());
     // One that begins with the archive is only found with it.
     if (known == m_fronts.end() && end.directory >= cluster) {
         const bool there = placeDirectory({}, *last);
@@ -161,30 +91,29 @@ bool ArchivePieces::placeDirectory(std::optional<std::uint64_t> firstCluster, st
     const std::uint64_t first = m_end.directory / cluster;
     const std::uint64_t last = m_end.at / cluster;
     for (std::uint64_t step = 1; step <= kWidestArchiveTurn && mayGoOn(); ++step) {
-        liftAll();
+        m_laid.liftAll();
         if (firstCluster) {
-            place(0, *firstCluster);
+            m_laid.place(0, *firstCluster);
         }
         std::optional<std::uint64_t> at = lastCluster;
         bool there = true;
         for (std::uint64_t number = last + 1; number-- > first && there;) {
-            there = at && m_free.isFree(*at) &&
-                    (number == 0 ? at == firstCluster : !m_used[static_cast<std::size_t>(*at)]);
+            there = at && m_free.isFree(*at) && (number == 0 ? at == firstCluster : !m_laid.isUsed(*at));
             if (there) {
-                place(number, *at);
+                m_laid.place(number, *at);
                 at = m_free.back(*at, step);
             }
         }
         // What little may follow the record goes on behind it.
-        for (std::uint64_t number = last + 1; number < m_clusters.size() && there; ++number) {
-            const auto next = m_free.ahead(m_clusters[static_cast<std::size_t>(number - 1)], step);
-            there = next && !m_used[static_cast<std::size_t>(*next)];
+        for (std::uint64_t number = last + 1; number < m_laid.places.size() && there; ++number) {
+            const auto next = m_free.ahead(m_laid.at(number - 1), step);
+            there = next && !m_laid.isUsed(*next);
             if (there) {
-                place(number, *next);
+                m_laid.place(number, *next);
             }
         }
-        m_effort.spend(m_clusters.size());
-        ClusterFile file(m_medium, m_free, m_clusters, m_end.bytes);
+        m_effort.spend(m_laid.places.size());
+        ClusterFile file(m_medium, m_free, m_laid.places, m_end.bytes);
         ByteView view(file);
         auto members = there ? archiveMembers(view, m_end) : std::nullopt;
         if (members) {
@@ -202,7 +131,7 @@ bool ArchivePieces::placeDirectory(std::optional<std::uint64_t> firstCluster, st
 // Whether more than its place speaks for every cluster: none holds nothing but what no sum is of.
 bool ArchivePieces::isShown() {
     const std::uint64_t cluster = m_free.clusterBytes();
-    ClusterFile file(m_medium, m_free, m_clusters, m_end.bytes);
+    ClusterFile file(m_medium, m_free, m_laid.places, m_end.bytes);
     ByteView view(file);
     return (m_end.bytes - 1) / cluster == (m_end.at + ArchiveEnd::kBytes - 1) / cluster &&
            std::all_of(m_members.begin(), m_members.end(), [&](const ArchiveMember& member) {
@@ -231,13 +160,13 @@ bool ArchivePieces::placeHead(const ArchiveMember& member) {
         m_medium.read(place, head);
         return beginsMember(member, head);
     };
-    if (m_clusters[number] != kUnplaced) {
-        return isAt(m_free.firstSectorOf(m_clusters[number]) * kSectorBytes + within);
+    if (m_laid.isPlaced(number)) {
+        return isAt(m_free.firstSectorOf(m_laid.at(number)) * kSectorBytes + within);
     }
     if (head.size() < kTelling) {
         return true;
     }
-    const std::uint64_t first = m_free.firstSectorOf(m_clusters.front()) * kSectorBytes;
+    const std::uint64_t first = m_free.firstSectorOf(m_laid.places.front()) * kSectorBytes;
     const auto behind = std::lower_bound(m_places.members.begin(), m_places.members.end(), first);
     const auto skipped = static_cast<std::size_t>(behind - m_places.members.begin());
     for (std::size_t i = 0; i < m_places.members.size() && mayGoOn(); ++i) {
@@ -247,8 +176,8 @@ bool ArchivePieces::placeHead(const ArchiveMember& member) {
             continue;
         }
         const auto begins = m_free.beginningAt((place - within) / kSectorBytes);
-        if (begins && m_free.isFree(*begins) && !m_used[static_cast<std::size_t>(*begins)] && isAt(place)) {
-            this->place(number, *begins);
+        if (begins && m_free.isFree(*begins) && !m_laid.isUsed(*begins) && isAt(place)) {
+            m_laid.place(number, *begins);
             return true;
         }
     }
@@ -257,7 +186,7 @@ bool ArchivePieces::placeHead(const ArchiveMember& member) {
 
 // As far as its sum or its codes tell.
 ArchivePieces::Look ArchivePieces::look(const ArchiveMember& member) {
-    ClusterFile file(m_medium, m_free, m_clusters, member.end);
+    ClusterFile file(m_medium, m_free, m_laid.places, member.end);
     ByteView view(file);
     const auto content = memberContent(view, member);
     if (!content) {
@@ -280,29 +209,13 @@ ArchivePieces::Look ArchivePieces::look(const ArchiveMember& member) {
             result.outcome == InflateOutcome::Done ? member.end : result.end};
 }
 
-// Places the clusters of the file in (before, end): `ahead` of them `step` free ones apart from the one
-// before, the others in a row up to the one behind. False where some of these are not to be had.
+// `ahead` of the clusters of the file in (before, end) `step` free ones apart from the one before, the others
+// in a row up to the one behind.
 bool ArchivePieces::lay(std::uint64_t before, std::uint64_t end, std::uint64_t ahead, std::uint64_t step) {
     m_effort.spend(end - before);
-    const auto put = [&](std::uint64_t number, std::optional<std::uint64_t> cluster) {
-        if (!cluster || m_used[static_cast<std::size_t>(*cluster)]) {
-            lift(before, end);
-            return false;
-        }
-        place(number, *cluster);
-        return true;
-    };
-    for (std::uint64_t number = before + 1; number < end && number - before <= ahead; ++number) {
-        if (!put(number, m_free.ahead(m_clusters[static_cast<std::size_t>(number - 1)], step))) {
-            return false;
-        }
-    }
-    for (std::uint64_t number = end - 1; number > before + ahead; --number) {
-        if (!put(number, m_free.back(m_clusters[static_cast<std::size_t>(number + 1)], 1))) {
-            return false;
-        }
-    }
-    return true;
+    return m_laid.lay(
+        before, end, ahead, [&](std::uint64_t, std::uint64_t last) { return m_free.ahead(last, step); },
+        [&](std::uint64_t, std::uint64_t next) { return m_free.back(next, 1); });
 }
 
 // What of the member is not placed: evenly, as while files are written in turn; on behind the cluster before,
@@ -311,17 +224,17 @@ bool ArchivePieces::fill(const ArchiveMember& member) {
     const std::uint64_t cluster = m_free.clusterBytes();
     const std::uint64_t last = (member.end - 1) / cluster;
     std::uint64_t before = member.at / cluster;
-    if (m_clusters[static_cast<std::size_t>(before)] == kUnplaced) {
+    if (!m_laid.isPlaced(before)) {
         --before;  // the end of the member before it, which is placed
     }
     std::uint64_t end = before + 1;
-    while (end <= last && m_clusters[static_cast<std::size_t>(end)] == kUnplaced) {
+    while (end <= last && !m_laid.isPlaced(end)) {
         ++end;
     }
     if (end == before + 1) {
         return look(member).whole;
     }
-    const bool open = end >= m_clusters.size() || m_clusters[static_cast<std::size_t>(end)] == kUnplaced;
+    const bool open = end >= m_laid.places.size() || !m_laid.isPlaced(end);
     const std::uint64_t missing = end - before - 1;
     const auto tryWay = [&](std::uint64_t ahead, std::uint64_t step) {
         if (!lay(before, end, ahead, step)) {
@@ -329,7 +242,7 @@ bool ArchivePieces::fill(const ArchiveMember& member) {
         }
         const Look seen = look(member);
         if (!seen.whole) {
-            lift(before, end);
+            m_laid.lift(before, end);
         }
         return seen;
     };
@@ -337,9 +250,7 @@ bool ArchivePieces::fill(const ArchiveMember& member) {
     if (onwards.whole) {
         return true;
     }
-    const std::uint64_t apart = open ? 0
-                                     : m_free.stepsBetween(m_clusters[static_cast<std::size_t>(before)],
-                                                           m_clusters[static_cast<std::size_t>(end)]);
+    const std::uint64_t apart = open ? 0 : m_free.stepsBetween(m_laid.at(before), m_laid.at(end));
     for (std::uint64_t step = 2; step <= kWidestArchiveTurn; ++step) {
         if ((open || apart == step * (missing + 1)) && tryWay(missing, step).whole) {
             return true;

@@ -11,21 +11,12 @@
 #include <vector>
 
 #include "repair/ArchiveDirectory.h"
+#include "repair/ArchivePlaces.h"
 #include "repair/FreeClusters.h"
+#include "repair/LaidClusters.h"
 #include "repair/MediumBlocks.h"
 
 namespace vantor {
-
-// Where the heads of members and the records behind directories begin on a medium, in bytes.
-struct ArchivePlaces {
-    struct End {
-        std::uint64_t at = 0;
-        ArchiveEnd told;
-    };
-    std::vector<std::uint64_t> members;
-    std::vector<End> ends;
-};
-ArchivePlaces archivePlaces(MediumBlocks& medium, const std::atomic<int>& stop);
 
 struct PiecedArchive {
     std::vector<std::uint64_t> clusters;  // in the order of the file
@@ -63,7 +54,6 @@ class ArchivePieces {
     }
 
   private:
-    static constexpr std::uint64_t kUnplaced = ~std::uint64_t{0};
     struct Look {
         bool whole = false;
         std::uint64_t brokenAt = 0;  // in the file; how far nothing speaks against it
@@ -71,16 +61,13 @@ class ArchivePieces {
 
     bool tryEnd(std::uint64_t firstCluster, std::span<const std::uint8_t> head, std::size_t which);
     bool placeDirectory(std::optional<std::uint64_t> firstCluster, std::uint64_t lastCluster);
-    void liftAll();
     bool isShown();
     bool mayGoOn();
     bool placeMembers();
     bool placeHead(const ArchiveMember& member);
     bool fill(const ArchiveMember& member);
     bool lay(std::uint64_t before, std::uint64_t end, std::uint64_t ahead, std::uint64_t step);
-    void lift(std::uint64_t before, std::uint64_t end);
     Look look(const ArchiveMember& member);
-    void place(std::uint64_t number, std::uint64_t cluster);
 
     MediumBlocks& m_medium;
     const FreeClusters& m_free;
@@ -88,8 +75,7 @@ class ArchivePieces {
     const std::atomic<int>& m_stop;
     ArchiveEnd m_end;
     std::vector<ArchiveMember> m_members;
-    std::vector<std::uint64_t> m_clusters;  // of the medium for each of the file
-    std::vector<bool> m_used;
+    LaidClusters m_laid;
     // The first member by what the directory before an end tells, or that none was found: so that it is not
     // looked for again with each archive.
     std::unordered_map<std::size_t, std::optional<ArchiveMember>> m_fronts;

@@ -40,8 +40,9 @@ void FreeClusters::take(const SectorRun& run) {
     }
     const std::uint64_t first = (std::max(run.first, m_grid.origin) - m_grid.origin) / m_grid.sectors;
     const std::uint64_t end = (run.end - m_grid.origin + m_grid.sectors - 1) / m_grid.sectors;
-    for (std::uint64_t cluster = first; cluster < std::min(end, count()); ++cluster) {
-        m_taken[cluster] = true;
+    if (first < count()) {
+        std::fill(m_taken.begin() + static_cast<std::ptrdiff_t>(first),
+                  m_taken.begin() + static_cast<std::ptrdiff_t>(std::min(end, count())), true);
     }
 }
 

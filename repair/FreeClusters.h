@@ -51,7 +51,7 @@ class FreeClusters {
     std::uint64_t stepsBetween(std::uint64_t from, std::uint64_t to) const;
 
   private:
-    const ClusterGrid m_grid;
+    ClusterGrid m_grid;
     std::vector<bool> m_taken;
 };
 

@@ -49,14 +49,21 @@ struct ItemMending::Kind {
 
 CompletionSum ItemMending::completeMovies(const std::vector<MendableItem>& items) {
     // Pictures in a movie look like files of their own, and behind lengths alone anything may stand.
-    return complete({[](const QString& type) { return isMovieOfBoxes(type) || isMovieOfChunks(type); },
-                     [](const MendableItem& item) {
-                         return isMovieOfBoxes(item.type) || (isMovieOfChunks(item.type) && item.checked);
-                     },
-                     [this](auto broken, auto whole, const AssemblyFound& tell) {
-                         MovieCompletion(m_medium, m_stop, m_progress, m_helper).run(broken, whole, tell);
-                     }},
-                    items);
+    std::vector<SectorRun> otherFiles;
+    for (const MendableItem& item : items) {
+        if (item.checked && (isPictureWithSyntax(item.type) || isArchiveOfMembers(item.type))) {
+            addFileRuns(item, otherFiles);
+        }
+    }
+    return complete(
+        {[](const QString& type) { return isMovieOfBoxes(type) || isMovieOfChunks(type); },
+         [](const MendableItem& item) {
+             return isMovieOfBoxes(item.type) || (isMovieOfChunks(item.type) && item.checked);
+         },
+         [&](auto broken, auto whole, const AssemblyFound& tell) {
+             MovieCompletion(m_medium, m_stop, m_progress, m_helper).run(broken, whole, otherFiles, tell);
+         }},
+        items);
 }
 
 CompletionSum ItemMending::completePhotos(const std::vector<MendableItem>& items) {

@@ -1,6 +1,8 @@
 // Sectors of a medium in any order, each stretch of it asked for once.
 #pragma once
 
+#include <algorithm>
+#include <atomic>
 #include <cstdint>
 #include <list>
 #include <span>
@@ -24,6 +26,22 @@ class MediumBlocks {
     void read(std::uint64_t at, std::span<std::uint8_t> into);
     // The block that the sector lies in, from its first sector on; valid until the next call.
     std::span<const std::uint8_t> blockOf(std::uint64_t sector);
+    // Calls `look(bytes, at)` with all of the medium: each block, and `reach` bytes on either side of where
+    // two meet, so that what is no longer is seen whole. Ends when a stop is not 0.
+    template <typename Look>
+    void lookThrough(std::size_t reach, const std::atomic<int>& stop, Look look) {
+        std::vector<std::uint8_t> seam(2 * reach, 0);
+        const auto middle = seam.begin() + static_cast<std::ptrdiff_t>(reach);
+        for (std::uint64_t sector = 0; sector < sectors() && stop == 0; sector += kBlockSectors) {
+            const auto block = blockOf(sector);
+            std::copy_n(block.begin(), reach, middle);
+            if (sector != 0) {
+                look(std::span<const std::uint8_t>(seam), sector * kSectorBytes - reach);
+            }
+            look(block, sector * kSectorBytes);
+            std::copy_n(block.end() - static_cast<std::ptrdiff_t>(reach), reach, seam.begin());
+        }
+    }
     // How many were read so far, those read anew counted again.
     std::uint64_t fetched() const { return m_fetched; }
 

@@ -59,6 +59,7 @@ bool leftNoChoice(const FoundMovie& found) {
 
 std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::uint64_t> broken,
                                                           std::span<const SectorRun> whole,
+                                                          std::span<const SectorRun> otherFiles,
                                                           const AssemblyFound& tell) {
     std::vector<std::optional<Assembly>> assemblies(broken.size());
     if (broken.empty()) {
@@ -93,7 +94,7 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
     std::uint64_t searchLeft = MoviePieces::kMostSearched;
     const auto withPieces = [&](const FreeClusters& grid, auto&& use) {
         const std::uint64_t share = searchLeft / std::min<std::size_t>(broken.size(), kSharing);
-        MoviePieces pieces(blocks, grid, indexes, m_stop, share);
+        MoviePieces pieces(blocks, grid, indexes, m_stop, share, otherFiles);
         auto result = use(pieces);
         searchLeft -= share - pieces.searchLeft();
         return result;
@@ -199,7 +200,9 @@ std::vector<std::optional<Assembly>> MovieCompletion::run(std::span<const std::u
                 auto movie = withPieces(grids[g], [&](MoviePieces& pieces) {
                     return pieces.assemble(*first, alone ? std::vector<std::uint64_t>() : others);
                 });
-                if (movie && (!found[i] || worth(*movie) > worth(found[i]->movie))) {
+                // An index that is partly another's leads to that one's samples.
+                const bool own = movie && (!alone || movie->ownIndex);
+                if (own && (!found[i] || worth(*movie) > worth(found[i]->movie))) {
                     const SectorRun span = spanOf(*movie, grids[g]);
                     found[i] = FoundMovie{std::move(*movie), g, false, span, {}};
                 }

@@ -21,11 +21,12 @@ class MovieCompletion {
         : m_medium(medium), m_stop(stop), m_progress(progress), m_options(std::move(options)) {}
 
     // For each of the first sectors of broken movies: its pieces, where they were found. `whole`: what whole
-    // files explain. Proved are those of which every sample is where the index says, to its last byte, and
-    // whose pictures decode without an error wherever a place was chosen among several. `tell` is told of
-    // each at once.
+    // movies explain; `otherFiles`: whole files of other types. Proved are those of which every sample is
+    // where the index says, to its last byte, and whose pictures decode without an error wherever a place was
+    // chosen among several. `tell` is told of each at once.
     std::vector<std::optional<Assembly>> run(std::span<const std::uint64_t> broken,
                                              std::span<const SectorRun> whole,
+                                             std::span<const SectorRun> otherFiles,
                                              const AssemblyFound& tell = {});
 
   private:

@@ -15,30 +15,68 @@ constexpr unsigned kMostFarSearches = 8;
 
 }  // namespace
 
-void MoviePieces::begin() {
+void MoviePieces::begin(std::span<const std::uint64_t> others) {
+    m_others = others;
     m_layout = {};
     m_samples.clear();
-    m_places.clear();
+    m_laid.places.clear();
     m_indexRow.clear();
-    m_used.assign(m_free.count(), false);
+    m_laid.used.assign(m_free.count(), false);
+    leaveOut(0);
     m_step = 1;
+    m_stepKept = false;
     m_guessed = 0;
     m_farSearches = 0;
 }
 
+// A file that is larger than that is none of a movie's samples.
+void MoviePieces::leaveOut(std::uint64_t largest) {
+    m_free = m_unexplained;
+    for (const SectorRun& run : m_otherFiles) {
+        if ((run.end - run.first) * kSectorBytes > largest) {
+            m_free.take(run);
+        }
+    }
+    m_left = m_free;
+    for (const std::uint64_t cluster : m_others) {
+        m_left.takeCluster(cluster);
+    }
+}
+
+bool MoviePieces::holdsPhotos() const {
+    return std::any_of(m_samples.begin(), m_samples.end(), [](const PromisedSample& sample) {
+        return sample.isChunk() || sample.coding == Coding::Jpeg;
+    });
+}
+
+bool MoviePieces::read(std::uint64_t firstCluster) {
+    if (!readHead(firstCluster)) {
+        return false;
+    }
+    if (holdsPhotos()) {
+        std::uint64_t largest = 0;
+        for (const PromisedSample& sample : m_samples) {
+            largest = std::max(largest, sample.bytes);
+        }
+        leaveOut(largest);
+    }
+    return true;
+}
+
 std::vector<std::uint64_t> MoviePieces::anchorsOf(std::uint64_t firstCluster) {
-    begin();
+    begin({});
     std::vector<std::uint64_t> anchors;
-    if (!readHead(firstCluster) || !placeAnchors()) {
+    if (!read(firstCluster) || !tellsInEach(IndexPart::Row) || !placeAnchors()) {
         return anchors;
     }
     for (const PromisedSample& sample : m_samples) {
         const std::uint64_t number = sample.at / m_free.clusterBytes();
-        if (number >= m_places.size()) {
+        if (number >= m_laid.places.size()) {
             break;  // an empty one behind the last byte
         }
-        const std::uint64_t cluster = m_places[static_cast<std::size_t>(number)];
-        if (sample.tellsLength() && cluster != kUnplaced && (anchors.empty() || anchors.back() != cluster) &&
+        const std::uint64_t cluster = m_laid.at(number);
+        if (sample.tellsLength() && cluster != LaidClusters::kUnplaced &&
+            (anchors.empty() || anchors.back() != cluster) &&
             likeness(number, cluster) == Likeness::Certain) {
             anchors.push_back(cluster);
         }
@@ -48,19 +86,18 @@ std::vector<std::uint64_t> MoviePieces::anchorsOf(std::uint64_t firstCluster) {
 
 std::optional<PiecedMovie> MoviePieces::assemble(std::uint64_t firstCluster,
                                                  std::span<const std::uint64_t> others) {
-    begin();
-    for (const std::uint64_t cluster : others) {
-        m_left.takeCluster(cluster);
-    }
-    if (!readHead(firstCluster) || !placeSamples() || m_stop != 0) {
+    begin(others);
+    if (!read(firstCluster) || !placeSamples() || m_stop != 0) {
         return std::nullopt;
     }
     PiecedMovie movie;
-    movie.clusters = m_places;
+    movie.clusters = m_laid.places;
     movie.bytes = m_layout.bytes;
     movie.guessed = m_guessed;
-    movie.telling = isTelling();
-    ClusterFile file(m_medium, m_free, m_places, m_layout.bytes);
+    movie.ownIndex = tellsInEach(IndexPart::Row);
+    // Where a row goes on, any cluster would do that tells nothing of the samples.
+    movie.telling = movie.ownIndex && tellsInEach(IndexPart::Cluster) && isTelling();
+    ClusterFile file(m_medium, m_free, m_laid.places, m_layout.bytes);
     ByteView view(file);
     movie.decodable = true;
     for (const PromisedSample& sample : m_samples) {
@@ -92,6 +129,45 @@ bool MoviePieces::isTelling() const {
     return m_layout.endTold && sum >= data - data / 50 && sizes.size() >= 2 && sizes.size() >= looked / 8;
 }
 
+// Indexes of movies of one length and camera are alike up to their tables: a piece of the one fits the other.
+// Only sizes and places of samples in each piece contradict those in another's.
+bool MoviePieces::tellsInEach(IndexPart part) {
+    constexpr std::uint64_t kFewestTableBytes = 16;
+    if (m_layout.chunks || m_layout.index.end == 0) {
+        return true;  // entries of one kind, or fragments that are numbered
+    }
+    ClusterFile file(m_medium, m_free, m_laid.places, m_layout.bytes);
+    ByteView view(file);
+    const std::uint64_t cluster = m_free.clusterBytes();
+    const auto first = static_cast<std::size_t>(m_layout.index.at / cluster);
+    const auto end = static_cast<std::size_t>((m_layout.index.end + cluster - 1) / cluster);
+    std::vector<DataPlace> tables;
+    forIsoBoxes(view, m_layout.index.body, m_layout.index.end, [&](const IsoBox& box) {
+        if (box.text() == "trak") {
+            const IsoTrack track = readIsoTrack(view, box);
+            for (const IsoTable& table : {track.sizes, track.chunks}) {
+                tables.push_back({table.at, table.at + table.count * table.bits / 8});
+            }
+        }
+    });
+    for (std::size_t from = first, to = first; from < end; from = to) {
+        do {
+            ++to;
+        } while (part == IndexPart::Row && to < end && m_laid.places[to] == m_laid.places[to - 1] + 1);
+        std::uint64_t told = 0;
+        for (const DataPlace& table : tables) {
+            const std::uint64_t begin = std::max<std::uint64_t>(table.from, from * cluster);
+            const std::uint64_t behind = std::min<std::uint64_t>(table.to, to * cluster);
+            told += behind > begin ? behind - begin : 0;
+        }
+        const bool oneRow = from == first && (to == end || part == IndexPart::Cluster);
+        if (!oneRow && told < kFewestTableBytes) {
+            return false;
+        }
+    }
+    return true;
+}
+
 // What the samples that begin in the cluster of the file say of a cluster of the medium.
 Likeness MoviePieces::likeness(std::uint64_t number, std::uint64_t cluster) {
     const std::uint64_t bytes = m_free.clusterBytes();
@@ -118,27 +194,22 @@ Likeness MoviePieces::likeness(std::uint64_t number, std::uint64_t cluster) {
     return all;
 }
 
-void MoviePieces::place(std::uint64_t number, std::uint64_t cluster) {
-    m_places[static_cast<std::size_t>(number)] = cluster;
-    m_used[static_cast<std::size_t>(cluster)] = true;
-}
-
 // `least`: of the likeness.
 bool MoviePieces::accept(std::uint64_t number, std::uint64_t cluster, Likeness least) {
-    if (!m_left.isFree(cluster) || m_used[static_cast<std::size_t>(cluster)] ||
-        likeness(number, cluster) < least) {
+    if (!m_left.isFree(cluster) || m_laid.isUsed(cluster) || likeness(number, cluster) < least) {
         return false;
     }
-    place(number, cluster);
+    m_laid.place(number, cluster);
     return true;
 }
 
 // `known`: the number of the last one placed before. False where it is nowhere.
 bool MoviePieces::placeAnchor(std::uint64_t number, std::uint64_t known) {
-    const std::uint64_t last = m_places[static_cast<std::size_t>(known)];
+    const std::uint64_t last = m_laid.at(known);
     const std::uint64_t apart = number - known;
     const auto expected = m_free.ahead(last, m_step * apart);
-    if (expected && accept(number, *expected, Likeness::Likely)) {
+    m_stepKept = expected && accept(number, *expected, Likeness::Likely);
+    if (m_stepKept) {
         return true;
     }
     std::optional<std::uint64_t> next = last;
@@ -170,8 +241,8 @@ bool MoviePieces::placeAnchor(std::uint64_t number, std::uint64_t known) {
 bool MoviePieces::placeAnchors() {
     std::uint64_t known = 0;
     std::size_t missed = 0;
-    for (std::uint64_t number = 1; number < m_places.size() && m_stop == 0; ++number) {
-        if (m_places[static_cast<std::size_t>(number)] != kUnplaced) {
+    for (std::uint64_t number = 1; number < m_laid.places.size() && m_stop == 0; ++number) {
+        if (m_laid.isPlaced(number)) {
             known = number;
             continue;
         }
@@ -179,12 +250,12 @@ bool MoviePieces::placeAnchors() {
             return likeness(number, cluster) != Likeness::Possible;
         };
         // Whether anything can be said at all shows on any cluster that is not it.
-        if (!hasAnchor(m_places.front())) {
+        if (!hasAnchor(m_laid.places.front())) {
             continue;
         }
         if (placeAnchor(number, known)) {
             known = number;
-        } else if (++missed > m_places.size() / 50 + 2) {
+        } else if (++missed > m_laid.places.size() / 50 + 2) {
             return false;
         }
     }
@@ -197,7 +268,8 @@ bool MoviePieces::placeSamples() {
     }
     placeInTurns();
     fillBetween();
-    return std::find(m_places.begin(), m_places.end(), kUnplaced) == m_places.end();
+    return std::find(m_laid.places.begin(), m_laid.places.end(), LaidClusters::kUnplaced) ==
+           m_laid.places.end();
 }
 
 }  // namespace vantor

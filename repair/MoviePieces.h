@@ -12,6 +12,7 @@
 #include "formats/IsoFragments.h"
 #include "repair/ClusterFile.h"
 #include "repair/FreeClusters.h"
+#include "repair/LaidClusters.h"
 #include "repair/MediumBlocks.h"
 #include "repair/MovieSamples.h"
 #include "repair/WrittenInTurns.h"
@@ -29,15 +30,20 @@ struct PiecedMovie {
     bool decodable = false;        // a decoder would notice a foreign piece in its pictures
     bool faint = false;            // its samples show little of what they are
     bool telling = false;          // no other movie is likely to fit the index
+    bool ownIndex = true;          // none of the index's pieces may be another's
     std::size_t guessed = 0;       // clusters for which there was more than one choice
 };
 
 // Finds where the clusters of one movie lie: an object a movie. Any one thread.
 class MoviePieces {
   public:
+    // `otherFiles`: whole ones of other types. One that is no larger than a picture may be a movie's own.
     MoviePieces(MediumBlocks& medium, const FreeClusters& free, const std::vector<std::uint64_t>& indexPlaces,
-                const std::atomic<int>& stop, std::uint64_t searchBytes = kMostSearched)
+                const std::atomic<int>& stop, std::uint64_t searchBytes = kMostSearched,
+                std::span<const SectorRun> otherFiles = {})
         : m_medium(medium),
+          m_unexplained(free),
+          m_otherFiles(otherFiles),
           m_free(free),
           m_left(free),
           m_indexPlaces(indexPlaces),
@@ -57,8 +63,6 @@ class MoviePieces {
     std::vector<std::uint64_t> anchorsOf(std::uint64_t firstCluster);
 
   private:
-    static constexpr std::uint64_t kUnplaced = ~std::uint64_t{0};
-
     struct Layout {
         DataPlace data;
         IsoBox index;
@@ -76,14 +80,30 @@ class MoviePieces {
         unsigned triesLeft = 0;  // for clusters of one fragment's head
     };
 
-    void begin();
+    void begin(std::span<const std::uint64_t> others);
+    void leaveOut(std::uint64_t largest);
+    bool holdsPhotos() const;
+    bool read(std::uint64_t firstCluster);
+    struct Head;
+    using TakeIndex = std::function<bool(const std::vector<std::uint64_t>& clusters)>;
+
     bool readHead(std::uint64_t firstCluster);
+    std::vector<std::uint64_t> rowFrom(std::vector<std::uint64_t> row) const;
+    bool takeData(const IsoBox& data, std::uint64_t bytes);
+    bool findIndexInFront(std::uint64_t firstCluster, const IsoBox& index);
+    bool takeIndexInFront(const std::vector<std::uint64_t>& clusters);
     bool readChunkHead(std::uint64_t firstCluster, ByteView& view);
     bool findIndexBehind();
     std::uint64_t indexBytes(ByteView& view, std::uint64_t at) const;
     bool takeChunkIndex(ByteSource& file);
     bool placeIndex(std::uint64_t firstOfIndex, std::uint64_t number);
-    bool continueIndex(std::vector<std::uint64_t>& clusters, std::size_t wanted, unsigned& tries);
+    bool mayTryIndex(unsigned tries) const;
+    bool tryIndex(const std::vector<std::uint64_t>& clusters, unsigned& tries, const TakeIndex& take);
+    bool continueIndex(std::vector<std::uint64_t>& clusters, std::size_t wanted, unsigned& tries,
+                       const TakeIndex& take);
+    bool continueIndexElsewhere(std::vector<std::uint64_t>& clusters, std::size_t wanted,
+                                const TakeIndex& take);
+    bool findRestOfIndex(std::vector<std::uint64_t>& clusters, std::size_t wanted, const TakeIndex& take);
     void search(std::uint64_t bytes) { m_searchLeft -= std::min(m_searchLeft, bytes); }
     bool takeIndex(const std::vector<std::uint64_t>& clusters);
 
@@ -98,19 +118,18 @@ class MoviePieces {
     bool placeSamples();
     bool placeAnchors();
     bool isTelling() const;
+    enum class IndexPart { Row, Cluster };
+    bool tellsInEach(IndexPart part);
     Likeness likeness(std::uint64_t number, std::uint64_t cluster);
     bool placeAnchor(std::uint64_t number, std::uint64_t known);
     bool accept(std::uint64_t number, std::uint64_t cluster, Likeness least);
-    void place(std::uint64_t number, std::uint64_t cluster);
     void placeInTurns();
     void placeInTurns(const std::vector<KnownCluster>& known);
     void fillBetween();
     void passOverPhotos(std::uint64_t before, std::uint64_t end);
     void fillRow(std::uint64_t before, std::uint64_t end);
-    using PlaceOf = std::function<std::optional<std::uint64_t>(std::uint64_t number)>;
-    bool layWith(std::uint64_t before, std::uint64_t end, const PlaceOf& placeOf);
+    std::optional<std::uint64_t> ifLeft(std::optional<std::uint64_t> cluster) const;
     bool lay(std::uint64_t before, std::uint64_t end, std::uint64_t ahead, std::uint64_t step);
-    void lift(std::uint64_t before, std::uint64_t end);
     struct RowLook {
         std::size_t broken = 0;  // samples
         bool proved = true;      // a foreign cluster would have shown
@@ -118,16 +137,19 @@ class MoviePieces {
     RowLook lookAtRow(std::uint64_t before, std::uint64_t end);
 
     MediumBlocks& m_medium;
-    const FreeClusters& m_free;
-    FreeClusters m_left;  // of these, what is not known to belong elsewhere
+    const FreeClusters& m_unexplained;
+    const std::span<const SectorRun> m_otherFiles;
+    std::span<const std::uint64_t> m_others;  // clusters of other movies
+    FreeClusters m_free;                      // of the unexplained, what no other file holds
+    FreeClusters m_left;                      // of these, what is not known to belong elsewhere
     const std::vector<std::uint64_t>& m_indexPlaces;
     const std::atomic<int>& m_stop;
 
     Layout m_layout;
     std::vector<PromisedSample> m_samples;
-    std::vector<std::uint64_t> m_places;  // cluster of the medium for each of the file
-    std::vector<bool> m_used;             // clusters of the medium that are placed
-    std::uint64_t m_step = 1;             // free clusters from one piece to the next, where placed last
+    LaidClusters m_laid;
+    std::uint64_t m_step = 1;  // free clusters from one piece to the next, where placed last
+    bool m_stepKept = false;   // by the one placed last as well
     std::size_t m_guessed = 0;
     unsigned m_farSearches = 0;
     std::uint64_t m_searchLeft = 0;

@@ -30,20 +30,17 @@ bool isOfAPhoto(std::span<const std::uint8_t> bytes) {
 // What lies between two anchors of a movie that holds no JPEG pictures is not of it where it is of a photo.
 void MoviePieces::passOverPhotos(std::uint64_t before, std::uint64_t end) {
     constexpr std::uint64_t kFarthest = 8192;  // clusters
-    const bool hasPhotos = std::any_of(m_samples.begin(), m_samples.end(), [](const PromisedSample& sample) {
-        return sample.isChunk() || sample.coding == Coding::Jpeg;
-    });
-    const std::uint64_t from = m_places[static_cast<std::size_t>(before)] + 1;
-    const bool open = end >= m_places.size();
-    const std::uint64_t to = open ? m_free.count() : m_places[static_cast<std::size_t>(end)];
-    if (hasPhotos || to <= from || (!open && to - from > kFarthest)) {
+    const std::uint64_t from = m_laid.at(before) + 1;
+    const bool open = end >= m_laid.places.size();
+    const std::uint64_t to = open ? m_free.count() : m_laid.at(end);
+    if (holdsPhotos() || to <= from || (!open && to - from > kFarthest)) {
         return;
     }
     std::uint64_t left = end - before - 1;
     std::vector<std::uint8_t> content(static_cast<std::size_t>(m_free.clusterBytes()));
     for (std::uint64_t cluster = from; cluster < std::min(to, from + kFarthest) && (!open || left != 0);
          ++cluster) {
-        if (!m_left.isFree(cluster) || m_used[static_cast<std::size_t>(cluster)]) {
+        if (!m_left.isFree(cluster) || m_laid.isUsed(cluster)) {
             continue;
         }
         m_medium.read(m_free.firstSectorOf(cluster) * kSectorBytes, content);
@@ -56,13 +53,13 @@ void MoviePieces::passOverPhotos(std::uint64_t before, std::uint64_t end) {
 }
 
 void MoviePieces::fillBetween() {
-    for (std::size_t number = 1; number < m_places.size();) {
-        if (m_places[number] != kUnplaced) {
+    for (std::size_t number = 1; number < m_laid.places.size();) {
+        if (m_laid.isPlaced(number)) {
             ++number;
             continue;
         }
         std::size_t end = number;
-        while (end < m_places.size() && m_places[end] == kUnplaced) {
+        while (end < m_laid.places.size() && !m_laid.isPlaced(end)) {
             ++end;
         }
         fillRow(number - 1, end);
@@ -70,42 +67,25 @@ void MoviePieces::fillBetween() {
     }
 }
 
-// Places the clusters of the file in (before, end), each where it is said to lie once those before are
-// placed. False where some are not to be had; nothing is placed then.
-bool MoviePieces::layWith(std::uint64_t before, std::uint64_t end, const PlaceOf& placeOf) {
-    for (std::uint64_t number = before + 1; number < end; ++number) {
-        const auto cluster = placeOf(number);
-        if (!cluster || !m_left.isFree(*cluster) || m_used[static_cast<std::size_t>(*cluster)]) {
-            lift(before, number);
-            return false;
-        }
-        place(number, *cluster);
-    }
-    return true;
+std::optional<std::uint64_t> MoviePieces::ifLeft(std::optional<std::uint64_t> cluster) const {
+    return cluster && m_left.isFree(*cluster) ? cluster : std::nullopt;
 }
 
-// `ahead` of them `step` free ones apart from the one before, the others in a row up to the one behind.
+// `ahead` of the clusters of the file in (before, end) `step` free ones apart from the one before, the others
+// in a row up to the one behind.
 bool MoviePieces::lay(std::uint64_t before, std::uint64_t end, std::uint64_t ahead, std::uint64_t step) {
-    return layWith(before, end, [&](std::uint64_t number) {
-        return number - before <= ahead
-                   ? (step == 1 ? m_left : m_free).ahead(m_places[static_cast<std::size_t>(number - 1)], step)
-                   : m_left.back(m_places[static_cast<std::size_t>(end)], end - number);
-    });
-}
-
-void MoviePieces::lift(std::uint64_t before, std::uint64_t end) {
-    for (std::uint64_t number = before + 1; number < end; ++number) {
-        std::uint64_t& cluster = m_places[static_cast<std::size_t>(number)];
-        m_used[static_cast<std::size_t>(cluster)] = false;
-        cluster = kUnplaced;
-    }
+    const FreeClusters& among = step == 1 ? m_left : m_free;
+    return m_laid.lay(
+        before, end, ahead,
+        [&](std::uint64_t, std::uint64_t last) { return ifLeft(among.ahead(last, step)); },
+        [&](std::uint64_t, std::uint64_t next) { return m_left.back(next, 1); });
 }
 
 // Of the samples that reach into the clusters of the file in (before, end).
 MoviePieces::RowLook MoviePieces::lookAtRow(std::uint64_t before, std::uint64_t end) {
     const std::uint64_t from = (before + 1) * m_free.clusterBytes();
     const std::uint64_t to = end * m_free.clusterBytes();
-    ClusterFile file(m_medium, m_free, m_places, m_layout.bytes);
+    ClusterFile file(m_medium, m_free, m_laid.places, m_layout.bytes);
     ByteView view(file);
     auto sample = std::lower_bound(
         m_samples.begin(), m_samples.end(), from,
@@ -131,26 +111,23 @@ void MoviePieces::fillRow(std::uint64_t before, std::uint64_t end) {
     constexpr std::uint64_t kMostWays = 64;
     passOverPhotos(before, end);
     const std::uint64_t missing = end - before - 1;
-    const bool open = end >= m_places.size();
-    const std::uint64_t apart = open ? 0
-                                     : m_free.stepsBetween(m_places[static_cast<std::size_t>(before)],
-                                                           m_places[static_cast<std::size_t>(end)]);
+    const bool open = end >= m_laid.places.size();
+    const std::uint64_t apart = open ? 0 : m_free.stepsBetween(m_laid.at(before), m_laid.at(end));
     std::vector<Way> ways;
-    if (open) {
+    if (open && m_stepKept) {
         ways.push_back({missing, m_step});
     } else if (apart > missing && apart % (missing + 1) == 0) {
         ways.push_back({missing, apart / (missing + 1)});
     }
     // The head of a movie that was written last lies behind it: what follows joins what it leads up to.
-    if (!open && m_places[static_cast<std::size_t>(end)] < m_places[static_cast<std::size_t>(before)]) {
+    if (!open && m_laid.at(end) < m_laid.at(before)) {
         ways.push_back({0, 1});
     }
     ways.push_back({missing, 1});
     for (std::uint64_t back = 1; !open && back <= std::min(missing, kMostWays); ++back) {
         ways.push_back({missing - back, 1});
     }
-    const bool onlyWay = !open && m_left.stepsBetween(m_places[static_cast<std::size_t>(before)],
-                                                      m_places[static_cast<std::size_t>(end)]) == missing + 1;
+    const bool onlyWay = !open && m_left.stepsBetween(m_laid.at(before), m_laid.at(end)) == missing + 1;
     std::optional<Way> best;
     std::size_t fewest = 0;
     for (const Way& way : ways) {
@@ -166,7 +143,7 @@ void MoviePieces::fillRow(std::uint64_t before, std::uint64_t end) {
             best = way;
             fewest = look.broken;
         }
-        lift(before, end);
+        m_laid.lift(before, end);
     }
     if (best && lay(before, end, best->ahead, best->step)) {
         m_guessed += static_cast<std::size_t>(missing);

@@ -56,9 +56,10 @@ bool MoviePieces::readChunkHead(std::uint64_t firstCluster, ByteView& view) {
     if (!m_layout.chunks || m_layout.data.to >= outerEnd || outerEnd / cluster >= m_free.count()) {
         return false;
     }
-    m_places.assign(static_cast<std::size_t>((outerEnd + cluster - 1) / cluster), kUnplaced);
+    m_laid.places.assign(static_cast<std::size_t>((outerEnd + cluster - 1) / cluster),
+                         LaidClusters::kUnplaced);
     for (std::uint64_t number = 0; number == 0 || number * cluster < m_layout.data.from; ++number) {
-        place(number, firstCluster + number);
+        m_laid.place(number, firstCluster + number);
     }
     return findIndexBehind();
 }

@@ -31,17 +31,17 @@ bool MoviePieces::placeBox(std::uint64_t at, std::string_view name, Fragments& k
     const std::uint64_t cluster = m_free.clusterBytes();
     const auto number = static_cast<std::size_t>(at / cluster);
     known.triesLeft = m_searchLeft != 0 ? kMostHeadTries : kLikelyHeadTries;
-    const auto last = std::find_if(m_places.rbegin(), m_places.rend(),
-                                   [](std::uint64_t place) { return place != kUnplaced; });
+    const auto last = std::find_if(m_laid.places.rbegin(), m_laid.places.rend(),
+                                   [](std::uint64_t place) { return place != LaidClusters::kUnplaced; });
     const std::uint64_t behind = m_free.firstSectorOf(*last) * kSectorBytes;
-    if (number < m_places.size() && m_places[number] != kUnplaced) {
+    if (number < m_laid.places.size() && m_laid.isPlaced(number)) {
         return continueBox(at, name, known, take);
     }
     if (number >= m_free.count()) {
         return false;
     }
-    const std::size_t before = m_places.size();
-    m_places.resize(std::max(before, number + 1), kUnplaced);
+    const std::size_t before = m_laid.places.size();
+    m_laid.places.resize(std::max(before, number + 1), LaidClusters::kUnplaced);
     const auto middle = std::lower_bound(m_indexPlaces.begin(), m_indexPlaces.end(), behind);
     const std::size_t first = static_cast<std::size_t>(middle - m_indexPlaces.begin());
     std::size_t looked = 0;
@@ -56,18 +56,18 @@ bool MoviePieces::placeBox(std::uint64_t at, std::string_view name, Fragments& k
             continue;
         }
         const auto begins = m_free.beginningAt((place - within) / kSectorBytes);
-        if (!begins || !m_left.isFree(*begins) || m_used[static_cast<std::size_t>(*begins)]) {
+        if (!begins || !m_left.isFree(*begins) || m_laid.isUsed(*begins)) {
             continue;
         }
         ++looked;
-        this->place(number, *begins);
+        m_laid.place(number, *begins);
         if (continueBox(at, name, known, take)) {
             return true;
         }
-        m_used[static_cast<std::size_t>(*begins)] = false;
-        m_places[number] = kUnplaced;
+        m_laid.used[static_cast<std::size_t>(*begins)] = false;
+        m_laid.places[number] = LaidClusters::kUnplaced;
     }
-    m_places.resize(before);
+    m_laid.places.resize(before);
     return false;
 }
 
@@ -75,7 +75,7 @@ bool MoviePieces::placeBox(std::uint64_t at, std::string_view name, Fragments& k
 bool MoviePieces::continueBox(std::uint64_t at, std::string_view name, Fragments& known,
                               const std::function<bool(ByteView& view)>& take) {
     const std::uint64_t cluster = m_free.clusterBytes();
-    ClusterFile file(m_medium, m_free, m_places, m_places.size() * cluster);
+    ClusterFile file(m_medium, m_free, m_laid.places, m_laid.places.size() * cluster);
     ByteView view(file);
     const auto box = readIsoBox(view, at);
     if (!box || box->text() != name || box->toEnd || box->end - at > kMostHeadBytes) {
@@ -84,24 +84,24 @@ bool MoviePieces::continueBox(std::uint64_t at, std::string_view name, Fragments
     // Behind the head of a fragment stands that of its data.
     const std::uint64_t end = box->end + (name == "moof" ? kWideHeadBytes : 0);
     for (std::uint64_t number = at / cluster + 1; number * cluster < end; ++number) {
-        if (number >= m_places.size()) {
-            m_places.resize(static_cast<std::size_t>(number) + 1, kUnplaced);
+        if (number >= m_laid.places.size()) {
+            m_laid.places.resize(static_cast<std::size_t>(number) + 1, LaidClusters::kUnplaced);
         }
-        if (m_places[static_cast<std::size_t>(number)] != kUnplaced) {
+        if (m_laid.isPlaced(number)) {
             continue;
         }
         for (std::uint64_t step = 1; step <= kWidestStep && known.triesLeft != 0 && m_stop == 0; ++step) {
-            const auto next = m_free.ahead(m_places[static_cast<std::size_t>(number) - 1], step);
-            if (!next || !m_left.isFree(*next) || m_used[static_cast<std::size_t>(*next)]) {
+            const auto next = m_free.ahead(m_laid.places[static_cast<std::size_t>(number) - 1], step);
+            if (!next || !m_left.isFree(*next) || m_laid.isUsed(*next)) {
                 continue;
             }
             --known.triesLeft;
             search((end - at) * kHeadCost);
-            place(number, *next);
+            m_laid.place(number, *next);
             if (continueBox(at, name, known, take)) {
                 return true;
             }
-            lift(number - 1, number + 1);
+            m_laid.lift(number - 1, number + 1);
         }
         return false;
     }
@@ -179,7 +179,8 @@ bool MoviePieces::readFragments(ByteView& head, const IsoBox& movie, std::uint64
     m_layout.endTold =
         placeBox(at, "mfra", known, [&](ByteView& view) { return takeFragmentIndex(view, at); });
     const std::uint64_t cluster = m_free.clusterBytes();
-    m_places.resize(static_cast<std::size_t>((m_layout.bytes + cluster - 1) / cluster), kUnplaced);
+    m_laid.places.resize(static_cast<std::size_t>((m_layout.bytes + cluster - 1) / cluster),
+                         LaidClusters::kUnplaced);
     std::sort(m_samples.begin(), m_samples.end(), [](const auto& a, const auto& b) { return a.at < b.at; });
     const auto overlap = [](const PromisedSample& a, const PromisedSample& b) {
         return a.at + a.bytes > b.at;

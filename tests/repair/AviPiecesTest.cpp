@@ -14,14 +14,15 @@ using test::makeAvi;
 using test::noiseChunks;
 
 std::vector<std::optional<Assembly>> completedMovies(const test::ScatteredCard& card,
-                                                     const std::vector<std::uint64_t>& starts) {
+                                                     const std::vector<std::uint64_t>& starts,
+                                                     const std::vector<SectorRun>& otherFiles = {}) {
     const QByteArray bytes = card.bytes();
     test::MemoryReader reader(bytes);
     const std::atomic<int> goOn{0};
     CompletionProgress progress;
     MovieReaderOptions noHelper;
     noHelper.helper = QStringLiteral("/nowhere");
-    return MovieCompletion(reader, goOn, progress, noHelper).run(starts, {});
+    return MovieCompletion(reader, goOn, progress, noHelper).run(starts, {}, otherFiles);
 }
 
 }  // namespace
@@ -64,6 +65,24 @@ TEST(AviPieces, CutWithinAPicture_IsTheOneWithWhichItComesOutEven) {
     ASSERT_TRUE(found);
     EXPECT_EQ(card.contentOf(*found), movie);
     EXPECT_EQ(found->proof, AssemblyProof::Proved);
+}
+
+// A picture of a movie is found as a photo of its own where it begins with a sector.
+TEST(AviPieces, PicturesOfItsOwn_ArePieces) {
+    test::Chunks chunks;
+    for (const unsigned seed : {1U, 2U, 3U, 4U}) {
+        chunks.emplace_back("00dc", test::makePhoto(seed));
+    }
+    const QByteArray movie = makeAvi(chunks);
+    test::ScatteredCard card;
+    const std::uint64_t first = card.put(movie, 0, 4);
+    card.putNoise(5);
+    card.put(movie, 4);
+    const std::uint64_t inside = first + 12 * test::kClusterSectors;
+    const std::uint64_t pictureSectors = static_cast<std::uint64_t>(chunks[0].second.size()) / kSectorBytes;
+    const auto found = completedMovies(card, {first}, {{inside, inside + pictureSectors - 2}})[0];
+    ASSERT_TRUE(found);
+    EXPECT_EQ(card.contentOf(*found), movie);
 }
 
 TEST(AviPieces, PieceThatIsGone_IsNotProved) {

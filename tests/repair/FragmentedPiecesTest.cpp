@@ -52,7 +52,7 @@ std::vector<std::optional<Completed>> completedOf(const InTurn& card) {
     noHelper.helper = QStringLiteral("/nowhere");
     CompletionProgress progress;
     std::vector<std::optional<Completed>> all;
-    for (const auto& found : MovieCompletion(reader, goOn, progress, noHelper).run(card.starts, {})) {
+    for (const auto& found : MovieCompletion(reader, goOn, progress, noHelper).run(card.starts, {}, {})) {
         if (!found) {
             all.emplace_back();
             continue;

@@ -46,12 +46,13 @@ inline std::vector<int> every(int step, int from, int count) {
 
 // What becomes of the movies that begin in these sectors; without a movie helper.
 inline std::vector<std::optional<Assembly>> completedMovies(const QByteArray& medium,
-                                                            const std::vector<std::uint64_t>& starts) {
+                                                            const std::vector<std::uint64_t>& starts,
+                                                            const std::vector<SectorRun>& otherFiles = {}) {
     MemoryReader reader(medium);
     MovieReaderOptions noHelper;
     noHelper.helper = QStringLiteral("/nowhere");
     CompletionProgress progress;
-    return MovieCompletion(reader, kGoOn, progress, noHelper).run(starts, {});
+    return MovieCompletion(reader, kGoOn, progress, noHelper).run(starts, {}, otherFiles);
 }
 
 inline QByteArray bytesOf(const QByteArray& medium, const Assembly& pieces) {

@@ -19,6 +19,7 @@ using test::movieClustersOf;
 using test::picturesOfManySizes;
 using test::plainPictures;
 using test::scatter;
+using test::withIndexInFront;
 
 // Clusters in which samples of the one begin are none of the other's, in which nothing begins.
 TEST(MovieCompletion, UnevenTurns_AreToldApartByTheOthersSamples) {
@@ -150,7 +151,7 @@ TEST(MovieCompletion, IndexThatOtherMoviesFit_ProvesNothing) {
     MovieCompletion completion(reader, kGoOn, progress);
     const std::vector<std::uint64_t> starts{4 * kMovieClusterSectors, 5 * kMovieClusterSectors};
     std::size_t assembled = 0;
-    for (const auto& each : completion.run(starts, {})) {
+    for (const auto& each : completion.run(starts, {}, {})) {
         assembled += each ? 1 : 0;
         EXPECT_TRUE(!each || each->proof == AssemblyProof::Likely);
     }
@@ -178,6 +179,59 @@ TEST(MovieCompletion, WhatFollowsALikelyMovie_HasToDecode) {
     }
 }
 
+// Behind the index's tables stand notes, and any cluster would do for theirs.
+TEST(MovieCompletion, IndexWithAClusterThatTellsNothing_ProvesNothing) {
+    const MadeMovie movie = makeMovie(picturesOfManySizes(200, 1), false, 1);
+    for (const bool notes : {false, true}) {
+        QByteArray bytes = movie.bytes;
+        if (notes) {
+            QByteArray box = QByteArray(4, '\0') + "udta" + QByteArray(9000, 'n');
+            qToBigEndian(static_cast<quint32>(box.size()), box.data());
+            const qsizetype size = bytes.size() - movie.indexAt + box.size();
+            bytes += box;
+            qToBigEndian(static_cast<quint32>(size), bytes.data() + movie.indexAt);
+        }
+        QByteArray medium = mediumOf(2 * movieClustersOf(bytes) + 40);
+        std::vector<int> clusters = every(1, 8, movieClustersOf(bytes));
+        for (std::size_t i = 4; i < clusters.size(); ++i) {
+            clusters[i] += 3;
+        }
+        scatter(bytes, clusters, medium);
+        const auto found = completedMovies(medium, {8 * kMovieClusterSectors});
+        ASSERT_TRUE(found[0]) << notes;
+        EXPECT_EQ(found[0]->proof, notes ? AssemblyProof::Likely : AssemblyProof::Proved);
+    }
+}
+
+// The first cluster of the one, and all behind it of the other, make a whole movie of the other's pictures.
+TEST(MovieCompletion, IndexesThatAreAlike_AreNotMixed) {
+    const MadeMovie movies[] = {makeMovie(picturesOfManySizes(900, 1), false, 1),
+                                makeMovie(picturesOfManySizes(900, 2), false, 2)};
+    QByteArray bytes[2];
+    for (std::size_t i = 0; i < 2; ++i) {
+        // Notes in front of the tables fill the first cluster.
+        MadeMovie movie = movies[i];
+        const QByteArray notes(kMovieClusterBytes, '\0');
+        QByteArray box = QByteArray(4, '\0') + "udta" + notes;
+        qToBigEndian(static_cast<quint32>(box.size()), box.data());
+        const auto size = static_cast<quint32>(movie.bytes.size() - movie.indexAt + box.size());
+        movie.bytes.insert(movie.indexAt + 8, box);
+        qToBigEndian(size, movie.bytes.data() + movie.indexAt);
+        bytes[i] = withIndexInFront(movie);
+    }
+    const int count = movieClustersOf(bytes[0]);
+    const int other = movieClustersOf(bytes[1]);
+    QByteArray medium = mediumOf(count + other + 40);
+    // The first cluster of the one, all of the other, the rest of the one.
+    std::vector<int> clusters = every(1, 8 + other, count);
+    clusters[0] = 8;
+    scatter(bytes[0], clusters, medium);
+    scatter(bytes[1], every(1, 9, other), medium);
+    const auto found = completedMovies(medium, {8 * kMovieClusterSectors, 9 * kMovieClusterSectors});
+    ASSERT_TRUE(found[0]);
+    EXPECT_EQ(bytesOf(medium, *found[0]), bytes[0]);
+}
+
 // Their samples tell no more than that they begin.
 TEST(MovieCompletion, PicturesThatTellLittle_HaveToDecode) {
     MadeMovie movie = makeMovie(picturesOfManySizes(200, 1), false, 1);
@@ -193,6 +247,28 @@ TEST(MovieCompletion, PicturesThatTellLittle_HaveToDecode) {
         const auto found = completedMovies(medium, {8 * kMovieClusterSectors});
         ASSERT_TRUE(found[0]) << faint;
         EXPECT_EQ(found[0]->proof, faint ? AssemblyProof::Likely : AssemblyProof::Proved);
+    }
+}
+
+// What lies between two pieces of a picture is a whole photo, whose tables and notes look like anything; only
+// a file that could be one of the movie's own pictures is not left out.
+TEST(MovieCompletion, WholeFilesOfOtherTypes_AreNoPieces) {
+    std::vector<test::PictureSpec> specs = picturesOfManySizes(40, 1);
+    specs[6].bytes = 9 * static_cast<int>(kMovieClusterBytes);
+    const MadeMovie movie = makeMovie(specs, false, 1);
+    std::vector<int> clusters = every(1, 8, movieClustersOf(movie.bytes));
+    for (std::size_t i = 5; i < clusters.size(); ++i) {
+        clusters[i] += 3;
+    }
+    QByteArray medium = mediumOf(clusters.back() + 30);
+    scatter(movie.bytes, clusters, medium);
+    const std::vector<SectorRun> photo{{13 * kMovieClusterSectors, 16 * kMovieClusterSectors - 1}};
+    for (const bool known : {false, true}) {
+        const auto found =
+            completedMovies(medium, {8 * kMovieClusterSectors}, known ? photo : std::vector<SectorRun>());
+        ASSERT_TRUE(found[0]) << known;
+        EXPECT_EQ(found[0]->proof == AssemblyProof::Proved, known);
+        EXPECT_EQ(bytesOf(medium, *found[0]) == movie.bytes, known);
     }
 }
 

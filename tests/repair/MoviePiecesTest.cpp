@@ -21,6 +21,7 @@ using test::movieClustersOf;
 using test::picturesOfManySizes;
 using test::plainPictures;
 using test::scatter;
+using test::withIndexInFront;
 
 std::optional<QByteArray> assembled(const QByteArray& medium, std::uint64_t firstCluster) {
     MemoryReader reader(medium);
@@ -75,6 +76,34 @@ TEST(MoviePieces, IndexBeforeTheMovie_IsFound) {
     EXPECT_EQ(assembled(medium, static_cast<std::uint64_t>(indexClusters) + 6), movie.bytes);
 }
 
+// The index is in pieces itself: as often as the movie's turns come, or round one other piece.
+TEST(MoviePieces, IndexInFrontInPieces_IsJoined) {
+    const MadeMovie movie = makeMovie(picturesOfManySizes(900, 1), false, 1);
+    const QByteArray bytes = withIndexInFront(movie);
+    const int count = movieClustersOf(bytes);
+    ASSERT_GT(bytes.size() - movie.indexAt, 3 * kMovieClusterBytes / 2);
+    std::vector<int> cut = every(1, 4, count);
+    for (int i = 1; i < count; ++i) {
+        cut[static_cast<std::size_t>(i)] += 20;
+    }
+    for (const std::vector<int>& clusters : {every(2, 4, count), every(3, 4, count), cut}) {
+        QByteArray medium = mediumOf(3 * count + 40);
+        scatter(bytes, clusters, medium);
+        EXPECT_EQ(assembled(medium, 4), bytes) << clusters[1];
+    }
+}
+
+TEST(MoviePieces, IndexInTwoPieces_IsJoined) {
+    const MadeMovie movie = makeMovie(picturesOfManySizes(900, 1), false, 1);
+    const int count = movieClustersOf(movie.bytes);
+    QByteArray medium = mediumOf(count + 60);
+    std::vector<int> clusters = every(1, 4, count);
+    clusters.back() += 20;
+    ASSERT_LT(movie.indexAt / kMovieClusterBytes, count - 1);
+    scatter(movie.bytes, clusters, medium);
+    EXPECT_EQ(assembled(medium, 4), movie.bytes);
+}
+
 TEST(MoviePieces, PieceThatIsGone_GivesNoWholeMovie) {
     const MadeMovie movie = makeMovie(picturesOfManySizes(200, 1), false, 1);
     const int count = movieClustersOf(movie.bytes);
@@ -114,6 +143,24 @@ TEST(MoviePieces, PhotoInALargePicture_IsPassedOver) {
     medium.replace(9 * kMovieClusterBytes, 3 * kMovieClusterBytes,
                    photo.mid(4 * kMovieClusterBytes, 3 * kMovieClusterBytes));
     EXPECT_EQ(assembled(medium, 4), movie.bytes);
+}
+
+// A gap in front of the last sample's cluster is no turn: what follows lies behind it.
+TEST(MoviePieces, TailBehindAGap_FollowsInTheRow) {
+    std::vector<test::PictureSpec> specs = picturesOfManySizes(40, 1);
+    specs.back().bytes = 5 * static_cast<int>(kMovieClusterBytes);
+    const MadeMovie movie = makeMovie(specs, false, 1);
+    const QByteArray bytes = withIndexInFront(movie);
+    const int count = movieClustersOf(bytes);
+    std::vector<int> clusters = every(1, 4, count);
+    const std::uint64_t last =
+        movie.pictures.back().at + static_cast<std::uint64_t>(bytes.size() - movie.indexAt);
+    for (auto i = static_cast<std::size_t>(last) / kMovieClusterBytes; i < clusters.size(); ++i) {
+        clusters[i] += 3;
+    }
+    QByteArray medium = mediumOf(count + 60);
+    scatter(bytes, clusters, medium);
+    EXPECT_EQ(assembled(medium, 4), bytes);
 }
 
 // Nothing tells where the first picture goes on; its head lies behind it all.
