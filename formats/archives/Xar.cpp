@@ -1,5 +1,5 @@
-// XAR archives, as of Apple's installers: a packed table in XML tells where each file lies in the heap behind.
-// Source: the archive's format page ("xar format", header and table of contents).
+// XAR archives, as of Apple's installers: a packed table in XML tells where each file lies in the heap
+// behind. Source: the archive's format page ("xar format", header and table of contents).
 #include <zlib.h>
 
 #include <algorithm>
@@ -36,7 +36,8 @@ class TocReader {
   private:
     static constexpr std::size_t kLongestTag = 16;
 
-    // Data and attributes have a length in the heap beside the one they unpack to, sums and signatures only one.
+    // Data and attributes have a length in the heap beside the one they unpack to, sums and signatures only
+    // one.
     void tag() {
         if (m_tag == "/offset")
             m_offset = m_number;
@@ -64,7 +65,7 @@ enum class TocState { Whole, Cut, Broken };
 
 // Unpacks `bytes` of the table at `at` into `reader`.
 TocState readToc(ByteView& view, std::uint64_t at, std::uint64_t bytes, TocReader& reader) {
-    constexpr std::uint64_t kMostLetters = 256 * 1024 * 1024;
+    constexpr std::uint64_t kMostLetters = 64 * 1024 * 1024;
     std::array<std::uint8_t, 16 * 1024> letters;
     z_stream stream{};
     if (inflateInit(&stream) != Z_OK)

@@ -9,6 +9,7 @@ namespace {
 Extent walkDesignFile(ByteView& view) {
     constexpr std::uint64_t kFirstWords = 766, kBlock = 512;
     constexpr std::uint16_t kEnd = 0xFFFF;
+    constexpr std::uint8_t kKind = 0x7F;
     const auto dimensions = view.u8(0);
     if ((dimensions != 0x08 && dimensions != 0xC8) || view.u8(1) != 9 || view.le16(2) != kFirstWords)
         return unknownExtent();
@@ -21,6 +22,8 @@ Extent walkDesignFile(ByteView& view) {
         }
         if (!head || !words)
             return cutOffAt(view, view.size());
+        if ((*head >> 8 & kKind) == 0)
+            return damagedAt(view, at);  // no kind of element
         at += 4 + std::uint64_t{*words} * 2;
     }
 }

@@ -1,5 +1,6 @@
 // What a genome browser keeps: packed sequences (2BIT), and values or features along them (BW, BB).
-// Sources: the UCSC Genome Browser's pages on the .2bit format; W. Kent and others, "BigWig and BigBed" (2010).
+// Sources: the UCSC Genome Browser's pages on the .2bit format; W. Kent and others, "BigWig and BigBed"
+// (2010).
 #include <algorithm>
 
 #include "formats/Format.h"
@@ -27,7 +28,7 @@ std::optional<std::uint64_t> behindSequence(ByteView& view, std::uint64_t at, En
 
 Extent walkPackedSequences(ByteView& view) {
     constexpr std::uint64_t kHead = 16;
-    constexpr std::uint64_t kMostSequences = 1U << 22;
+    constexpr std::uint64_t kMostSequences = 1U << 20;
     const auto endian = view.le32(0) == kPackedMark ? Endian::Little : Endian::Big;
     const auto version = view.number(4, 4, endian), sequences = view.number(8, 4, endian);
     if (view.number(0, 4, endian) != kPackedMark || version != 0 || !sequences || *sequences > kMostSequences)
@@ -86,7 +87,7 @@ extern constexpr Format kGenome = {
     .name = "Genome",
     .group = Group::Documents,
     .walk = walkGenome,
-    .extensions = " 2BIT BW BB ",
+    .extensions = " 2BIT BB ",
     .large = true,
 };
 

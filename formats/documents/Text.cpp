@@ -114,8 +114,8 @@ std::optional<std::uint64_t> behindLastKey(ByteView& view, std::uint64_t end) {
     return last;
 }
 
-// Texts that open with a bracket, or a word before one, and end with the bracket that closes it, where foreign
-// bytes follow that begin with letters. Sources: RFC 8259, OGC 01-009, manual of dot.
+// Texts that open with a bracket, or a word before one, and end with the bracket that closes it, where
+// foreign bytes follow that begin with letters. Sources: RFC 8259, OGC 01-009, manual of dot.
 std::optional<std::uint64_t> behindLastBracket(ByteView& view, std::uint64_t end) {
     constexpr std::string_view kBeginnings[] = {"{",        "GEOGCS[",  "PROJCS[", "COMPD_CS[", "LOCAL_CS[",
                                                 "PROJCRS[", "GEOGCRS[", "digraph", "graph",     "strict "};
@@ -140,7 +140,9 @@ std::optional<std::uint64_t> behindLastBracket(ByteView& view, std::uint64_t end
     }
     if (closed == 0 || end - closed > kLastLine)
         return std::nullopt;
-    return behindEmptyLine(view, closed);
+    // Whole lines behind it are the text's own.
+    const auto behind = behindEmptyLine(view, closed);
+    return view.find('\n', behind, end).found() ? std::nullopt : std::optional(behind);
 }
 
 }  // namespace

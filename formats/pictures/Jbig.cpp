@@ -20,7 +20,8 @@ std::uint64_t stripesTold(ByteView& view, Facts& facts) {
     const auto width = in.u32(), height = in.u32(), lines = in.u32();
     const auto reachAside = in.u8(), reachUp = in.u8(), order = in.u8(), options = in.u8();
     if (!in.ok() || last > kMostLayers || first > last || planes == 0 || filling != 0 || reachAside > 127 ||
-        reachUp != 0 || (order & 0xF0) != 0 || (options & 0x80) != 0 || (options & (kOwnTable | kFixedTable)) == kOwnTable)
+        reachUp != 0 || (order & 0xF0) != 0 || (options & 0x80) != 0 ||
+        (options & (kOwnTable | kFixedTable)) == kOwnTable)
         return 0;
     if (width == 0 || width > kMostSide || height == 0 || height > kMostSide || lines == 0 || last > 31)
         return 0;

@@ -7,8 +7,8 @@ namespace vantor {
 
 namespace {
 
-// Behind the last partition of the table that makes an image start from a stick too, which its writers fill up
-// to; 0 where there is none. One that covers a whole medium of unknown size (EE) tells nothing.
+// Behind the last partition of the table that makes an image start from a stick too, which its writers fill
+// up to; 0 where there is none. One that covers a whole medium of unknown size (EE) tells nothing.
 std::uint64_t behindPartitions(ByteView& view) {
     constexpr std::uint64_t kTable = 446, kEntry = 16, kSector = 512;
     constexpr std::uint8_t kProtective = 0xEE;

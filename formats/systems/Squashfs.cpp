@@ -1,5 +1,5 @@
-// SquashFS images of version 4, as of firmware, live systems and packed applications. Source: "Squashfs Binary
-// Format" of the kernel's documentation.
+// SquashFS images of version 4, as of firmware, live systems and packed applications. Source: "Squashfs
+// Binary Format" of the kernel's documentation.
 #include <algorithm>
 
 #include "formats/Format.h"
@@ -8,7 +8,8 @@ namespace vantor {
 
 namespace {
 
-// The header tells the bytes that are used; the usual writer fills the last 4 KiB with zeros, for block devices.
+// The header tells the bytes that are used; the usual writer fills the last 4 KiB with zeros, for block
+// devices.
 Extent walkSquashfs(ByteView& view) {
     constexpr std::uint64_t kHeader = 96, kDevicePage = 4096;
     constexpr std::uint16_t kVersion = 4;
@@ -18,11 +19,13 @@ Extent walkSquashfs(ByteView& view) {
     if (!used || *used < kHeader)
         return unknownExtent();
     const auto padded = addClamped(*used, (kDevicePage - *used % kDevicePage) % kDevicePage);
-    for (auto at = *used; at < padded; ++at) {
-        if (view.u8(at) != 0)
-            return completeAt(view, *used);
-    }
-    return completeAt(view, padded);
+    auto zeros = *used;
+    while (zeros < padded && view.u8(zeros) == 0)
+        ++zeros;
+    // Only what is no filling shows that there is none.
+    if (zeros == *used && view.u8(zeros))
+        return completeAt(view, *used);
+    return inexact(completeAt(view, zeros == padded ? padded : *used));
 }
 
 }  // namespace
