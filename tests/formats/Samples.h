@@ -52,6 +52,8 @@ Bytes squashfs();
 Bytes cramContainer(std::uint64_t records, const Bytes& landmarks, std::size_t bytes);
 // The signature, a container and the one that ends the file.
 Bytes cram();
+// Keys of Redis with values of most kinds, up to the end mark before the sum.
+Bytes redisValues();
 // A design of a head and a line, up to its last word.
 Bytes designFile();
 // A TIFF of 4 x 4 grey pixels with a date.

@@ -54,7 +54,40 @@ Bytes xar() {
     return Build().text("xar!").be16(28).be16(1).be64(table.size()).be64(220).be32(1).add(table).fill(50, 7);
 }
 
+// Two chunks of two streams each, then a sum; the first stream of the first has no block.
+Bytes longRange() {
+    const auto block = [](std::uint64_t packed, std::uint64_t next) {
+        return Build().u8(3).le16(packed).le16(packed).le16(next).fill(packed, 8).bytes();
+    };
+    Build out;
+    out.text("LRZI").u8(0).u8(6).le64(70).fill(7).u8(1).to(24);
+    out.u8(2).u8(0).le16(70).add(block(0, 0)).add(block(0, 14)).add(block(20, 41)).add(block(0, 0));
+    out.u8(2).u8(1).le16(9).add(block(0, 14)).add(block(0, 30)).add(block(9, 0)).add(block(5, 0));
+    return out.fill(16, 0x77);
+}
+
 }  // namespace
+
+Bytes redisValues() {
+    Build out;
+    out.text("REDIS0011").u8(0xFA).u8(1).text("v").u8(0xC0).u8(7).u8(0xFE).u8(0).u8(0xFB).u8(9).u8(1);
+    const auto key = [&](std::uint64_t kind) -> Build& { return out.u8(kind).u8(1).text("k"); };
+    out.u8(0xFC).le64(1'700'000'000'000);
+    key(0).u8(0x40).u8(3).text("abc");
+    out.u8(0xFD).le32(1'700'000'000);
+    key(0).u8(0xC1).le16(300);
+    key(1).u8(2).u8(1).text("x").be32(0xC2000000).u8(0);
+    key(3).u8(2).u8(1).text("x").u8(254).u8(1).text("y").u8(3).text("1.5");
+    key(5).u8(1).u8(1).text("x").le64(0x3FF8000000000000);
+    key(4).u8(1).u8(1).text("f").u8(0xC3).u8(2).u8(9).le16(0x1111);
+    key(11).u8(0x80).be32(4).le32(0);
+    key(18).u8(2).u8(1).u8(1).text("p").u8(2).u8(2).text("qq");
+    key(7).u8(0x81).be64(77).u8(2).u8(5).u8(4).le64(0).u8(5).u8(1).text("m").u8(3).le32(0).u8(0);
+    key(21).u8(1).u8(2).text("id").u8(3).text("abc").fill(8, 1).u8(1);
+    out.u8(1).text("g").u8(1).u8(1).u8(1).u8(1).fill(24, 2).u8(1);
+    out.u8(1).u8(1).text("c").fill(16, 3).u8(1).fill(16, 2);
+    return out.u8(0xFF);
+}
 
 Bytes squashfs() {
     Build out;
@@ -89,7 +122,9 @@ std::vector<Sample> scienceSamples() {
             {"BB", features()},
             {"DGN", Build().add(designFile()).to(2048), false},
             {"JBG", jbig()},
-            {"XAR", xar()}};
+            {"XAR", xar()},
+            {"LRZ", longRange()},
+            {"RDB", Build().add(redisValues()).le64(0)}};
 }
 
 }  // namespace vantor::test

@@ -70,6 +70,57 @@ TEST(DesignFileWalker, EndsWithItsLastWord_OrItsBlock) {
     EXPECT_EQ(extent.end, open.size());
 }
 
+TEST(RedisWalker, Sum_IsProvedWhereThereIsOne) {
+    const Bytes file = Build().text("REDIS0009").u8(0xFA).u8(1).text("a").u8(1).text("b").u8(0xFF);
+    const std::uint64_t sum = 0xA53E052E43220AB;
+    const Extent proved = walkBytes("RDB", Build().add(file).le64(sum).fill(3000, 7));
+    EXPECT_EQ(proved.verdict, Verdict::Complete);
+    EXPECT_EQ(proved.end, file.size() + 8);
+    EXPECT_TRUE(proved.checked);
+    Bytes spoilt = file;
+    spoilt[13] = 'x';
+    EXPECT_EQ(walkBytes("RDB", Build().add(spoilt).le64(sum)).verdict, Verdict::Damaged);
+    // Switched off it proves nothing.
+    EXPECT_FALSE(walkBytes("RDB", Build().add(file).le64(0)).checked);
+    // Versions before the fifth have none.
+    Bytes old = file;
+    old[8] = '4';
+    expectEnd("RDB", Build().add(old).add(noise(3000, 3)), old.size());
+}
+
+TEST(RedisWalker, EmptyMediumInPlaceOfKeys_IsDamage) {
+    const Bytes values = redisValues();
+    const Bytes open(values.begin(), values.end() - 1);
+    const Extent extent = walkBytes("RDB", Build().add(open).fill(300000));
+    EXPECT_EQ(extent.verdict, Verdict::Damaged);
+    EXPECT_LT(extent.end, open.size() + 20000);
+    // Kinds that no version knows are another's.
+    Bytes strange = Build().add(open).fill(900, 0x60);
+    EXPECT_EQ(walkBytes("RDB", strange).end, open.size());
+    EXPECT_EQ(walkBytes("RDB", strange).verdict, Verdict::Damaged);
+    // A later version may.
+    strange[8] = '2';
+    EXPECT_EQ(walkBytes("RDB", strange).verdict, Verdict::Unknown);
+}
+
+TEST(LongRangeWalker, BlockThatPointsBack_IsDamage) {
+    Bytes file;
+    for (const auto& sample : scienceSamples()) {
+        if (sample.extension == "LRZ")
+            file = sample.bytes;
+    }
+    constexpr std::size_t kNext = 24 + 4 + 7 + 7 + 5;
+    ASSERT_EQ(file[kNext], 41);
+    for (const std::uint8_t next : {14, 40}) {
+        Bytes other = file;
+        other[kNext] = next;
+        EXPECT_EQ(walkBytes("LRZ", other).verdict, Verdict::Damaged);
+    }
+    // Of ciphered files the lengths are ciphered too.
+    file[22] = 1;
+    EXPECT_EQ(walkBytes("LRZ", file).verdict, Verdict::Unknown);
+}
+
 TEST(JbigWalker, UnknownMark_IsDamage) {
     Bytes file;
     for (const auto& sample : scienceSamples()) {
