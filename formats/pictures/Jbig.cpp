@@ -9,9 +9,11 @@ namespace vantor {
 namespace {
 
 constexpr std::uint64_t kJbigHead = 20;
+constexpr std::uint64_t kLeastReach = 4096, kMostReach = 64 * 1024 * 1024;
 
 // Stripes that the header announces: one of each layer and plane for each row of stripes; 0 where it is none.
-std::uint64_t stripesTold(ByteView& view, Facts& facts) {
+// Between two marks stand no more bytes than twice those of a stripe's pixels.
+std::uint64_t stripesTold(ByteView& view, Facts& facts, std::uint64_t& mostBetween) {
     constexpr std::uint8_t kMostLayers = 36, kOwnTable = 0x02, kFixedTable = 0x04;
     constexpr std::uint32_t kMostSide = 1U << 20;
     constexpr std::uint64_t kMostStripes = 1U << 22;
@@ -27,6 +29,7 @@ std::uint64_t stripesTold(ByteView& view, Facts& facts) {
         return 0;
     facts.width = width;
     facts.height = height;
+    mostBetween = kLeastReach + std::uint64_t{width} / 4 * std::min(lines, height);
     // The lowest layer has this many rows of stripes, and so has every other.
     const std::uint64_t lowest = (height + (std::uint64_t{1} << last) - 1) >> last;
     const std::uint64_t rows = (lowest + lines - 1) / lines;
@@ -38,12 +41,16 @@ Extent walkJbig(ByteView& view) {
     constexpr std::uint8_t kEscape = 0xFF;
     enum : std::uint8_t { Stuffed = 0, Normal = 2, Reset = 3, NewLength = 5, Moved = 6, Comment = 7 };
     Facts facts;
-    const auto stripes = stripesTold(view, facts);
+    std::uint64_t mostBetween = 0;
+    const auto stripes = stripesTold(view, facts, mostBetween);
     if (stripes == 0)
         return unknownExtent();
     std::uint64_t at = kJbigHead;
     for (std::uint64_t done = 0; done < stripes;) {
-        const auto mark = view.find(kEscape, at, view.size());
+        const auto reach = addClamped(at, std::min(mostBetween, kMostReach));
+        const auto mark = view.find(kEscape, at, std::min(reach, view.size()));
+        if (!mark.found() && !mark.stopped() && reach < view.size())
+            return damagedAt(view, at, facts);
         const auto kind = mark.found() ? view.u8(mark.at + 1) : std::nullopt;
         if (!kind)
             return cutOffAt(view, view.size(), facts);

@@ -121,12 +121,15 @@ TEST(LongRangeWalker, BlockThatPointsBack_IsDamage) {
     EXPECT_EQ(walkBytes("LRZ", file).verdict, Verdict::Unknown);
 }
 
-TEST(JbigWalker, UnknownMark_IsDamage) {
+TEST(JbigWalker, UnknownMarkOrNone_IsDamage) {
     Bytes file;
     for (const auto& sample : scienceSamples()) {
         if (sample.extension == "JBG")
             file = sample.bytes;
     }
+    const Extent open = walkBytes("JBG", Build().add(Bytes(file.begin(), file.end() - 2)).fill(90000));
+    EXPECT_EQ(open.verdict, Verdict::Damaged);
+    EXPECT_LT(open.end, file.size());
     ASSERT_EQ(file[23], 0x00);
     file[23] = 0x42;
     EXPECT_EQ(walkBytes("JBG", file).verdict, Verdict::Damaged);
