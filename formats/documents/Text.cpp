@@ -115,10 +115,11 @@ std::optional<std::uint64_t> behindLastKey(ByteView& view, std::uint64_t end) {
 }
 
 // Texts that open with a bracket, or a word before one, and end with the bracket that closes it, where
-// foreign bytes follow that begin with letters. Sources: RFC 8259, OGC 01-009, manual of dot.
+// foreign bytes follow that begin with letters. Sources: RFC 8259, OGC 01-009, manuals of dot and ncgen.
 std::optional<std::uint64_t> behindLastBracket(ByteView& view, std::uint64_t end) {
-    constexpr std::string_view kBeginnings[] = {"{",        "GEOGCS[",  "PROJCS[", "COMPD_CS[", "LOCAL_CS[",
-                                                "PROJCRS[", "GEOGCRS[", "digraph", "graph",     "strict "};
+    constexpr std::string_view kBeginnings[] = {"{",         "GEOGCS[",  "PROJCS[",  "COMPD_CS[",
+                                                "LOCAL_CS[", "PROJCRS[", "GEOGCRS[", "netcdf ",
+                                                "digraph",   "graph",    "strict "};
     if (std::none_of(std::begin(kBeginnings), std::end(kBeginnings),
                      [&](std::string_view each) { return view.matches(0, each); }) ||
         view.u8(end).value_or(0) == 0)
@@ -182,7 +183,7 @@ extern constexpr Format kText = {
     .extensions =
         " TXT EML MBOX CSV LOG INI JSON MD C H CPP HPP PY SH BAT JS CSS SQL TEX SRT SUB ASS M3U "
         "PLS NFO PHP PL JAVA TSV YAML YML AFM CCD CUBE CUE DIFF GCODE GPL IMY IPYNB LDIF OBJ OFX "
-        "ORG PEM PGN PO QIF RIS SGF URL USDA VTT ASC ASPX BAS BIB CIF DESKTOP ENW FASTA FRM "
+        "ORG PEM PGN PO QIF RIS SGF URL USDA VTT ASC ASPX BAS BIB CDL CIF DESKTOP ENW FASTA FRM "
         "GFF HQX IGS INF JDX JSP LRC LWS LY MIF MOL MOL2 MSF NB NMEA PBXPROJ PCB PFA PPD PPK RB REG "
         "RPP SCH SFD SHAR SLK SLN SMI STEP STP IFC UU VBP VNT WRL X_T FIG GEOJSON GV HL7 PLT PRJ VHDR WPT ",
     .strongMagic = false,

@@ -66,6 +66,22 @@ Bytes longRange() {
     return out.fill(16, 0x77);
 }
 
+// Two signals of three and two numbers a record, four records.
+Bytes bioSignals() {
+    Build out;
+    out.text("0       ").fill(176, ' ').text("768     ").fill(44, ' ').text("4       1       2   ");
+    return out.fill(2 * 216, ' ').text("3       2       ").fill(64, ' ').fill(4 * 5 * 2, 7);
+}
+
+// Two frames, then their table.
+Bytes monitorCapture() {
+    Build out;
+    out.text("GMBU").u8(0).u8(2).le16(1).fill(16).le32(180).le32(8).to(128);
+    for (const std::uint64_t kept : {4, 16})
+        out.le64(0).le32(60).le32(kept).fill(kept, 3);
+    return out.le32(128).le32(148);
+}
+
 }  // namespace
 
 Bytes redisValues() {
@@ -124,6 +140,9 @@ std::vector<Sample> scienceSamples() {
             {"JBG", jbig()},
             {"XAR", xar()},
             {"LRZ", longRange()},
+            {"EDF", bioSignals()},
+            {"PSPPALETTE", Build().text("JASC-PAL\r\n0100\r\n3\r\n0 0 0\r\n255 0 255\r\n1 2 3\r\n")},
+            {"CAP", monitorCapture()},
             {"RDB", Build().add(redisValues()).le64(0)}};
 }
 

@@ -121,6 +121,49 @@ TEST(LongRangeWalker, BlockThatPointsBack_IsDamage) {
     EXPECT_EQ(walkBytes("LRZ", file).verdict, Verdict::Unknown);
 }
 
+TEST(BioSignalsWalker, NumbersOfThreeBytes_AreMeasuredSo) {
+    Build file;
+    file.text(
+            "\xFF"
+            "BIOSEMI")
+        .fill(176, ' ')
+        .text("512     ")
+        .fill(44, ' ')
+        .text("2       1       1   ");
+    file.fill(216, ' ').text("3       ").fill(32, ' ').fill(2 * 3 * 3, 7);
+    expectEnd("BDF", Build().add(file).add(noise(3000, 3)), file.size());
+    // A recorder that never came back left -1 for the records.
+    Bytes open = file;
+    open[236] = '-';
+    open[237] = '1';
+    EXPECT_EQ(walkBytes("BDF", open).verdict, Verdict::Unknown);
+}
+
+TEST(PaletteWalker, LastLineWithoutEnd_BelongsToIt_OtherLettersDoNot) {
+    const Bytes file = Build().text("JASC-PAL\n0100\n2\n0 0 0\n255 0 255");
+    expectEnd("PAL", Build().add(file).text("x").fill(900, 3), file.size());
+    EXPECT_FALSE(walkBytes("PAL", file).exactEnd);
+    const Bytes broken = Build().text("JASC-PAL\n0100\n2\n0 x 0\n255 0 255\n");
+    EXPECT_EQ(walkBytes("PAL", broken).verdict, Verdict::Damaged);
+    const Bytes blanks = Build().text("JASC-PAL\n0100\n2\n0 0 0\n").fill(90000, ' ');
+    EXPECT_EQ(walkBytes("PAL", blanks).verdict, Verdict::Damaged);
+}
+
+TEST(MonitorCaptureWalker, CommentBehindTheTable_BelongsToIt) {
+    Bytes file;
+    for (const auto& sample : scienceSamples()) {
+        if (sample.extension == "CAP")
+            file = sample.bytes;
+    }
+    const Bytes place = Build().le32(file.size()).le32(11);
+    const Bytes whole = Build().add(file).put(40, place).text("hello there");
+    expectEnd("CAP", Build().add(whole).add(noise(3000, 3)), whole.size());
+    // Without a table it was never closed.
+    Bytes open = file;
+    open[28] = 0;
+    EXPECT_EQ(walkBytes("CAP", open).verdict, Verdict::Unknown);
+}
+
 TEST(JbigWalker, UnknownMarkOrNone_IsDamage) {
     Bytes file;
     for (const auto& sample : scienceSamples()) {
@@ -210,8 +253,8 @@ TEST(PostScriptHabits, BytesThatWereAnnouncedAndEnded_AreNoFurtherOnes) {
 }
 
 TEST(TextHabits, TextThatABracketCloses_EndsBeforeForeignLetters) {
-    for (const std::string text :
-         {"{\"a\": [1, \"}\\\"\"]}\n", "PROJCS[\"x\",GEOGCS[\"y\"]]", "digraph a {\n b -> c;\n}\n"}) {
+    for (const std::string text : {"{\"a\": [1, \"}\\\"\"]}\n", "PROJCS[\"x\",GEOGCS[\"y\"]]",
+                                   "digraph a {\n b -> c;\n}\n", "netcdf a {\ndimensions:\n}\n"}) {
         const Bytes file = Build().text(text);
         ASSERT_GE(file.size(), 12U);
         expectEnd("JSON", Build().add(file).text("xyzw").fill(600, 1), file.size());
