@@ -36,6 +36,9 @@ Extent walkHdf4(ByteView& view) {
         end = std::max(end, behind);
         block = *next;
     }
+    // The library makes its file longer by writing a zero behind the last object.
+    if (!isSectorStart(end) && view.u8(end) == 0)
+        return inexact(completeAt(view, end + 1));
     return completeAt(view, end);
 }
 

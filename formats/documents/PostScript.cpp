@@ -42,7 +42,7 @@ Extent walkPostScriptText(ByteView& view) {
     constexpr std::uint64_t kFewBytes = 4096;
     const auto text = textEnd(view, 0);
     const bool foreign = view.u8(text) && !announcesBytes(view, text);
-    bool announced = false;  // by a comment, however much like text the bytes begin
+    bool announced = false;  // by a comment that is still open, however much like text the bytes begin
     for (std::uint64_t at = 0;;) {
         const bool others = foreign && !announced;
         const auto reach = others ? std::min(view.size(), text + kFewBytes) : view.size();
@@ -67,7 +67,10 @@ Extent walkPostScriptText(ByteView& view) {
         sign = at;
         if (!lines && embedded == 0 && view.matches(at, "%%Trailer"))
             lines = endOfLines(view, at);
-        announced = announced || view.matches(at, "%%BeginData") || view.matches(at, "%%BeginBinary");
+        if (view.matches(at, "%%BeginData") || view.matches(at, "%%BeginBinary"))
+            announced = true;
+        else if (at < text && (view.matches(at, "%%EndData") || view.matches(at, "%%EndBinary")))
+            announced = false;
         if (view.matches(at, "%%BeginDocument"))
             ++embedded;
         else if (view.matches(at, "%%EndDocument") && embedded != 0)

@@ -114,6 +114,38 @@ std::optional<std::uint64_t> behindLastKey(ByteView& view, std::uint64_t end) {
     return last;
 }
 
+// Texts that open with a bracket, or a word before one, and end with the bracket that closes it, where
+// foreign bytes follow that begin with letters. Sources: RFC 8259, OGC 01-009, manuals of dot and ncgen.
+std::optional<std::uint64_t> behindLastBracket(ByteView& view, std::uint64_t end) {
+    constexpr std::string_view kBeginnings[] = {"{",         "GEOGCS[",  "PROJCS[",  "COMPD_CS[",
+                                                "LOCAL_CS[", "PROJCRS[", "GEOGCRS[", "netcdf ",
+                                                "digraph",   "graph",    "strict "};
+    if (std::none_of(std::begin(kBeginnings), std::end(kBeginnings),
+                     [&](std::string_view each) { return view.matches(0, each); }) ||
+        view.u8(end).value_or(0) == 0)
+        return std::nullopt;
+    TextReader in(view, 0);
+    std::uint64_t closed = 0;
+    int open = 0;
+    bool quoted = false;
+    while (in.at() < end) {
+        const int letter = in.next();
+        if (quoted && letter == '\\')
+            in.next();
+        else if (letter == '"')
+            quoted = !quoted;
+        else if (!quoted && (letter == '{' || letter == '['))
+            ++open;
+        else if (!quoted && (letter == '}' || letter == ']') && --open == 0)
+            closed = in.at();
+    }
+    if (closed == 0 || end - closed > kLastLine)
+        return std::nullopt;
+    // Whole lines behind it are the text's own.
+    const auto behind = behindEmptyLine(view, closed);
+    return view.find('\n', behind, end).found() ? std::nullopt : std::optional(behind);
+}
+
 }  // namespace
 
 std::uint64_t readableEnd(ByteView& view, std::uint64_t from) {
@@ -138,6 +170,8 @@ Extent walkText(ByteView& view) {
         return inexact(completeAt(view, *marked));
     if (const auto key = behindLastKey(view, textEnd(view, 0)))
         return inexact(completeAt(view, *key));
+    if (const auto bracket = behindLastBracket(view, textEnd(view, 0)))
+        return inexact(completeAt(view, *bracket));
     const auto end = readableEnd(view, 0);
     return end >= kLeast ? inexact(completeAt(view, end)) : unknownExtent();
 }
@@ -149,8 +183,8 @@ extern constexpr Format kText = {
     .extensions =
         " TXT EML MBOX CSV LOG INI JSON MD C H CPP HPP PY SH BAT JS CSS SQL TEX SRT SUB ASS M3U "
         "PLS NFO PHP PL JAVA TSV YAML YML AFM CCD CUBE CUE DIFF GCODE GPL IMY IPYNB LDIF OBJ OFX "
-        "ORG PEM PGN PO QIF RIS SGF URL USDA VTT ASC ASPX BAS BIB CIF DESKTOP ENW FASTA FRM "
-        "GFF HQX IGS INF JDX JSP LRC LWS LY MIF MOL2 MSF NB NMEA PBXPROJ PCB PFA PPD PPK RB REG "
+        "ORG PEM PGN PO QIF RIS SGF URL USDA VTT ASC ASPX BAS BIB CDL CIF DESKTOP ENW FASTA FRM "
+        "GFF HQX IGS INF JDX JSP LRC LWS LY MIF MOL MOL2 MSF NB NMEA PBXPROJ PCB PFA PPD PPK RB REG "
         "RPP SCH SFD SHAR SLK SLN SMI STEP STP IFC UU VBP VNT WRL X_T FIG GEOJSON GV HL7 PLT PRJ VHDR WPT ",
     .strongMagic = false,
     .frameStream = true,

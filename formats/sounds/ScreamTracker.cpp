@@ -26,6 +26,23 @@ std::uint64_t behindSamples(ByteView& view, std::uint64_t at) {
     return std::max(at + kHead, place + bytes);
 }
 
+// Behind the silence that fills the last unit of a module that ends at `end`: sounds begin at whole units,
+// and some trackers write the last one whole.
+std::uint64_t behindSilence(ByteView& view, std::uint64_t end) {
+    constexpr std::uint8_t kUnsignedSilence = 0x80;
+    const auto unit = (end + kUnit - 1) / kUnit * kUnit;
+    if (unit == end)
+        return end;
+    const auto filling = view.u8(end);
+    if (filling != 0 && filling != kUnsignedSilence)
+        return end;
+    for (auto at = end; at < unit; ++at) {
+        if (isSectorStart(at) || view.u8(at) != filling)
+            return end;
+    }
+    return unit;
+}
+
 Extent walkVersion3(ByteView& view) {
     constexpr std::uint16_t kMostParts = 1024;
     constexpr std::uint64_t kHead = 96, kPannings = 32;
@@ -51,7 +68,8 @@ Extent walkVersion3(ByteView& view) {
         if (at != 0)
             end = std::max(end, at + std::max<std::uint64_t>(2, view.le16(at).value_or(0)));
     }
-    return completeAt(view, end);
+    const auto filled = behindSilence(view, end);
+    return filled == end ? completeAt(view, end) : inexact(completeAt(view, filled));
 }
 
 // Headers of 31 instruments, the order, patterns of one size, sounds.

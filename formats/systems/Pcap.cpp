@@ -1,4 +1,6 @@
-// Network captures (pcap): a row of records with nothing behind the last. Source: draft-ietf-opsawg-pcap.
+// Network captures: pcap, a row of records with nothing behind the last, and those of Microsoft's Network
+// Monitor
+// 2. Sources: draft-ietf-opsawg-pcap; the Network Monitor SDK's page on CAPTUREFILE_HEADER_VALUES and FRAME.
 #include <algorithm>
 
 #include "formats/Format.h"
@@ -9,7 +11,34 @@ namespace {
 
 constexpr std::uint64_t kPcapMostRecords = std::uint64_t{1} << 32;
 
+// The head tells where the table of frames stands, and what else is kept, by place and length.
+Extent walkMonitorCapture(ByteView& view) {
+    constexpr std::uint64_t kHead = 72, kTable = 24, kFrameHead = 16;
+    constexpr std::uint64_t kFields[] = {kTable, 32, 40, 56};  // user's data, comment, network
+    const auto table = view.le32(kTable), tableBytes = view.le32(kTable + 4);
+    if (!view.holds(0, kHead))
+        return cutOffAt(view, view.size());
+    // Without a table the capture was never closed.
+    if (view.u8(5) != 2 || *table < kHead || *tableBytes == 0 || *tableBytes % 4 != 0)
+        return unknownExtent();
+    std::uint64_t end = 0;
+    for (const auto field : kFields) {
+        const auto place = view.le32(field).value_or(0), bytes = view.le32(field + 4).value_or(0);
+        end = bytes != 0 ? std::max(end, std::uint64_t{place} + bytes) : end;
+    }
+    const auto last = view.le32(std::uint64_t{*table} + *tableBytes - 4);
+    if (!last)
+        return cutOffAt(view, view.size());
+    if (*last < kHead)
+        return damagedAt(view, kHead);
+    // A frame's head ends with the bytes that were kept of it.
+    const auto kept = view.le32(std::uint64_t{*last} + kFrameHead - 4);
+    return kept ? completeAt(view, std::max(end, *last + kFrameHead + *kept)) : cutOffAt(view, view.size());
+}
+
 Extent walkPcap(ByteView& view) {
+    if (view.matches(0, "GMBU"))
+        return walkMonitorCapture(view);
     constexpr std::uint64_t kHead = 24, kRecord = 16, kMostPacket = 262144;
     constexpr std::uint32_t kMostApart = 400 * 86400;  // seconds between the first packet and any other
     const auto magic = view.le32(0);

@@ -34,6 +34,7 @@ std::vector<Sample> drawingSamples();
 std::vector<Sample> modelSamples();
 std::vector<Sample> moduleSamples();
 std::vector<Sample> tableSamples();
+std::vector<Sample> scienceSamples();
 std::vector<Sample> allSamples();
 
 // Building blocks that single tests use as well.
@@ -45,6 +46,16 @@ Bytes jpeg(const Bytes& segments = {}, const Bytes& entropy = {0x12, 0x34, 0xFF,
 Bytes xBitmap(int width, int height, std::string_view numbers);
 // A table of dBASE with two records of five letters.
 Bytes dbaseTable();
+// An image of a SquashFS that uses 300 bytes, without filling.
+Bytes squashfs();
+// A container of CRAM with its places of slices and bytes.
+Bytes cramContainer(std::uint64_t records, const Bytes& landmarks, std::size_t bytes);
+// The signature, a container and the one that ends the file.
+Bytes cram();
+// Keys of Redis with values of most kinds, up to the end mark before the sum.
+Bytes redisValues();
+// A design of a head and a line, up to its last word.
+Bytes designFile();
 // A TIFF of 4 x 4 grey pixels with a date.
 Bytes tiff(bool little = true);
 // Drawings of R2000, R2013 and R2007.

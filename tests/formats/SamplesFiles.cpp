@@ -371,9 +371,10 @@ std::vector<Sample> documentSamples() {
 
 std::vector<Sample> allSamples() {
     std::vector<Sample> all;
-    for (const auto& part : {pictureSamples(), movieSamples(), soundSamples(), archiveSamples(),
-                             documentSamples(), rasterSamples(), recordSamples(), toldLengthSamples(),
-                             drawingSamples(), modelSamples(), moduleSamples(), tableSamples()})
+    for (const auto& part :
+         {pictureSamples(), movieSamples(), soundSamples(), archiveSamples(), documentSamples(),
+          rasterSamples(), recordSamples(), toldLengthSamples(), drawingSamples(), modelSamples(),
+          moduleSamples(), tableSamples(), scienceSamples()})
         all.insert(all.end(), part.begin(), part.end());
     return all;
 }

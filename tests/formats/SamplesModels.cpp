@@ -74,12 +74,12 @@ Bytes compiledFont() {
     return Build().text("\1fcp").le32(1).le32(1).le32(0).le32(12).le32(24).fill(12, 4);
 }
 
-// Three descriptors, one of them unused, and the data of two.
+// Three descriptors, one of them unused, the data of two, and the zero that the library writes last.
 Bytes hdf4() {
     Build out;
     out.be32(0x0E031301).be16(3).be32(0);
     out.be16(30).be16(1).be32(46).be32(20).be16(1).be16(0).be32(0xFFFFFFFF).be32(0xFFFFFFFF);
-    return out.be16(31).be16(1).be32(66).be32(10).fill(30, 6);
+    return out.be16(31).be16(1).be32(66).be32(10).fill(30, 6).u8(0);
 }
 
 // A variable of four numbers, and one that grows by three bytes a record.
@@ -211,7 +211,7 @@ std::vector<Sample> modelSamples() {
         {"ASE", swatches()},
         {"EOT", embeddedFont()},
         {"PCF", compiledFont()},
-        {"HDF", hdf4()},
+        {"HDF", hdf4(), false},
         {"NC", netCdf()},
         {"MAT", matlab(), false, true},
         {"PARQUET", parquet()},

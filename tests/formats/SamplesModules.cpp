@@ -26,8 +26,8 @@ Bytes screamTracker3() {
     out.text("name").to(28).u8(0x1A).u8(16).to(32).le16(2).le16(1).le16(1).to(44).text("SCRM").to(96).fill(2,
                                                                                                            0);
     out.le16(7).le16(12).to(112);
-    out.u8(1).to(112 + 13).u8(0).le16(13).le32(40).to(112 + 80).le16(10).fill(8, 1);
-    return out.to(208).fill(40, 3);
+    out.u8(1).to(112 + 13).u8(0).le16(13).le32(48).to(112 + 80).le16(10).fill(8, 1);
+    return out.to(208).fill(48, 3);
 }
 
 Bytes screamTracker2() {

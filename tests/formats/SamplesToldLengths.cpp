@@ -51,6 +51,8 @@ std::vector<Sample> toldLengthSamples() {
         {"BRSTM", grown(90, {{0, text("RSTM\xFE\xFF")}, {8, be32(90)}})},
         {"MMF", grown(50, {{0, text("MMMD")}, {4, be32(42)}, {8, text("CNTI")}})},
         {"VGM", grown(80, {{0, text("Vgm ")}, {4, le32(76)}})},
+        {"SBN", grown(120, {{0, Build().be32(9994).be32(0xFFFFFE70)}, {24, be32(60)}})},
+        {"ADF", grown(120, {{0, Build().be32(9994).be32(0xFFFFFC14)}, {24, be32(60)}})},
         {"SHP", grown(120, {{0, be32(9994)}, {24, be32(60)}, {28, le32(1000)}})},
         {"EMF", grown(130, {{0, le32(1)}, {40, text(" EMF")}, {44, le32(0x10000)}, {48, le32(130)}})},
         {"WMF", Build()
