@@ -257,6 +257,7 @@ TEST_P(FatCard, FormatWithOtherClusters_OldOnesAreVotedFor) {
     ASSERT_EQ(pathsOf(table), "DCIM/100CANON/IMG_0412.JPG");
     EXPECT_EQ(table.files.front().runs, (std::vector<SectorRun>{{m_fat.sectorOf(10), m_fat.sectorOf(13)}}));
     ASSERT_EQ(table.fileSystems.size(), 2u);
+    EXPECT_EQ(table.fileSystems.front().tables, (SectorRun{other.table(), other.root()})) << "both copies";
     EXPECT_FALSE(table.fileSystems.back().isCurrent);
     EXPECT_EQ(table.fileSystems.back().clusterSectors, 4u);
 }
