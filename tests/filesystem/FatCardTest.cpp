@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QDateTime>
+#include <tuple>
 
 #include "filesystem/DirectoryRows.h"
 #include "tests/filesystem/CardImage.h"
@@ -220,6 +221,19 @@ TEST_P(FatCard, QuickFormat_FoldersAreFoundByTheirDotRows) {
     ASSERT_EQ(pathsOf(table), "DCIM/100CANON/IMG_0412.JPG");
     EXPECT_EQ(table.files.front().state, FileState::Lost);
     EXPECT_EQ(table.files.front().runs, (std::vector<SectorRun>{{m_fat.sectorOf(10), m_fat.sectorOf(13)}}));
+}
+
+// The root is gone, and with it the name of the folder that the standard puts a camcorder's into.
+TEST_P(FatCard, QuickFormat_FolderOfACamcorderIsNamedByItsStandard) {
+    putBytes(m_card, m_fat.sectorOf(4), dotRows(4, 3) + fatRow("00000   MTS", 10, 3 * 2048));
+    for (const auto& [inner, parent, folder] :
+         {std::tuple("AVCHD      ", 0u, "PRIVATE/AVCHD"), std::tuple("M4ROOT     ", 0u, "PRIVATE/M4ROOT"),
+          std::tuple("BACKUP     ", 0u, "folder-3/BACKUP"),
+          std::tuple("AVCHD      ", 9u, "folder-3/AVCHD")}) {
+        putBytes(m_card, m_fat.sectorOf(3), dotRows(3, parent) + fatRow(inner, 4, 0, 0x10));
+        formatFat(m_card, m_fat);
+        EXPECT_EQ(fileNamed(tableOf(m_card), "00000.MTS").folder, folder);
+    }
 }
 
 // Two file systems stood side by side; of the table that named them nothing is left.
