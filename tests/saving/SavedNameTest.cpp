@@ -37,7 +37,9 @@ TEST(SavedName, DateComesBeforeTheGivenName) {
     EXPECT_EQ(plain.folder, "J_PG");
     EXPECT_EQ(plain.file, "GND00012.JPG");
     const CivilTime noDay{2026, 2, 31, 0, 0, 0, false};
-    EXPECT_EQ(savedNameOf("JPG", "GND00012.JPG", byDate, noDay, nullptr).folder, "JPG");
+    CardFile file;
+    file.modified = *secondsOf(taken);
+    EXPECT_EQ(savedNameOf("JPG", "GND00012.JPG", byDate, noDay, &file).folder, "JPG/2026-05-17");
     EXPECT_LE(savedNameOf("JPG", QString(500, u'x') + ".JPG", byDate, taken, nullptr).file.size(), 80);
 }
 
