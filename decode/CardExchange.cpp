@@ -95,6 +95,7 @@ void give(const CardFileSystem& system, ByteGiver& to) {
     to.number(system.firstCluster, 8);
     to.number(system.clusterSectors, 4);
     to.text(system.label);
+    to.run(system.tables);
 }
 
 // As many rows from `at` on as one block holds.
@@ -327,7 +328,10 @@ bool TableReader::take(std::span<const std::uint8_t> bytes) {
                 system.firstCluster = from.number(8);
                 system.clusterSectors = static_cast<std::uint32_t>(from.number(4));
                 system.label = from.text(kMostNameLength);
-                good = from.ok() && m_table.fileSystems.size() < kMostFileSystems &&
+                system.tables.first = from.number(8);
+                system.tables.end = from.number(8);
+                good = from.ok() && system.tables.first <= system.tables.end &&
+                       system.tables.end <= m_sectors && m_table.fileSystems.size() < kMostFileSystems &&
                        system.firstSector < m_sectors && system.firstCluster < m_sectors &&
                        system.clusterSectors != 0 && system.clusterSectors <= kMostClusterSectors;
                 system.label = system.label.isEmpty() ? QString() : cleanName(system.label);

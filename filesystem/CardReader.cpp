@@ -47,8 +47,16 @@ class VolumesReader {
 
   private:
     void note(const VolumeShape& shape, bool isCurrent, const QString& label) {
-        m_table.fileSystems.push_back({shape.kind, isCurrent, shape.first, shape.sectors, shape.firstCluster,
-                                       shape.clusterSectors, label});
+        const std::uint64_t end =
+            std::min(shape.table + shape.tableCopies * shape.tableSectors, m_card.sectors());
+        m_table.fileSystems.push_back({shape.kind,
+                                       isCurrent,
+                                       shape.first,
+                                       shape.sectors,
+                                       shape.firstCluster,
+                                       shape.clusterSectors,
+                                       label,
+                                       {std::min(shape.table, end), end}});
     }
 
     // Once, however many copies of its first sector there are.

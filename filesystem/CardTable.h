@@ -21,6 +21,8 @@ struct CardFileSystem {
     std::uint64_t firstCluster = 0;  // the sector where its first cluster begins
     std::uint32_t clusterSectors = 0;
     QString label;  // "" where it has none
+    // Its allocation tables, all copies of them; empty where it has none or nothing tells.
+    SectorRun tables = {};
 };
 
 struct CardTable {

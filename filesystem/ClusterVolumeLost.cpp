@@ -1,6 +1,8 @@
 // Finding the folders that lost directories lie in.
 #include <QRegularExpression>
 #include <algorithm>
+#include <array>
+#include <utility>
 
 #include "filesystem/CleanName.h"
 #include "filesystem/ClusterVolume.h"
@@ -142,19 +144,25 @@ void ClusterVolume::linkLost() {
     restoreFirstLetters();
 }
 
-// The standard of cameras (DCF) names the folder that holds theirs: three digits and five characters.
+// Standards name what lies in the root: that of cameras (DCF) the folder that holds theirs, of three digits
+// and five characters, and that of camcorders (AVCHD on cards) the one that holds their movies'.
 void ClusterVolume::nameFromStandard() {
-    static const QRegularExpression camera(QStringLiteral("^[1-9][0-9]{2}[A-Z0-9_]{5}$"));
+    static const std::array<std::pair<QRegularExpression, QString>, 2> standards{{
+        {QRegularExpression(QStringLiteral("^[1-9][0-9]{2}[A-Z0-9_]{5}$")), QStringLiteral("DCIM")},
+        {QRegularExpression(QStringLiteral("^(AVCHD|M4ROOT)$")), QStringLiteral("PRIVATE")},
+    }};
     for (CardDirectory& directory : m_directories) {
         if (directory.isRoot || directory.isNamed || directory.rows.parent.value_or(1) != 0) {
             continue;
         }
         const auto& entries = directory.rows.entries;
-        if (std::any_of(entries.begin(), entries.end(), [](const DirectoryEntry& entry) {
-                return entry.isFolder && camera.match(entry.name).hasMatch();
-            })) {
-            directory.name = QStringLiteral("DCIM");
-            directory.isNamed = true;
+        for (const auto& [inner, name] : standards) {
+            if (!directory.isNamed && std::any_of(entries.begin(), entries.end(), [&](const auto& entry) {
+                    return entry.isFolder && inner.match(entry.name).hasMatch();
+                })) {
+                directory.name = name;
+                directory.isNamed = true;
+            }
         }
     }
 }

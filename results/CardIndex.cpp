@@ -121,6 +121,13 @@ bool CardIndex::isLiveAt(std::uint64_t sector) const {
     return after != m_live.end() && after->first <= sector;
 }
 
+bool CardIndex::isInTables(std::uint64_t sector) const {
+    return std::any_of(
+        m_table.fileSystems.begin(), m_table.fileSystems.end(), [sector](const CardFileSystem& system) {
+            return system.isCurrent && system.tables.first <= sector && sector < system.tables.end;
+        });
+}
+
 std::span<const CardIndex::Claim> CardIndex::startingAt(std::uint64_t sector) const {
     const auto begin = std::lower_bound(m_starts.begin(), m_starts.end(), sector,
                                         [](const Claim& start, std::uint64_t s) { return start.first < s; });

@@ -32,6 +32,8 @@ class CardIndex {
     bool tellsOf(std::uint64_t sector) const { return !startingAt(sector).empty(); }
     // Whether a file that is still there holds the sector.
     bool isLiveAt(std::uint64_t sector) const;
+    // Whether it lies in an allocation table of a file system that is there.
+    bool isInTables(std::uint64_t sector) const;
 
     // The file that begins where the item of that type (`Ext_Name`) does and fits it best: only No where none
     // does. `length` is what the item's own structure told; without it hardly anything is ruled out, and

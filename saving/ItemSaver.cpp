@@ -179,10 +179,19 @@ bool ItemSaver::decideLength(const FoundItem& item, ItemBytes& found, SaveOutcom
         outcome.leftOut = LeftOut::Unsound;
     } else if (m_policy.skipUnsound && isCertainlyUnsound(item.type, length.extent)) {
         outcome.leftOut = LeftOut::Unsound;
+    } else if (isOfTables(item, outcome)) {
+        outcome.leftOut = LeftOut::Unsound;
     } else if (isPart(item, outcome)) {
         outcome.leftOut = LeftOut::Part;
     }
     return outcome.leftOut == LeftOut::No && !outcome.later;
+}
+
+// Whether it is made of the numbers of a table that is there; what is whole is left of what was there before.
+bool ItemSaver::isOfTables(const FoundItem& item, const SaveOutcome& outcome) const {
+    const auto& card = item.source.hints.card;
+    return !m_policy.asPublished && outcome.verdict != Verdict::Complete && outcome.pieces <= 1 && card &&
+           card->isInTables(firstSectorOf(item));
 }
 
 // What the card's directory knows, and what lies in pieces, is a file of its own. What may be a part of a

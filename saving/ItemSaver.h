@@ -132,6 +132,7 @@ class ItemSaver {
     std::optional<SavingFolder> folderOf(const QString& path) const;
     void remove(const QString& path) const;
     bool isStillThere(const FoundItem& item) const;
+    bool isOfTables(const FoundItem& item, const SaveOutcome& outcome) const;
     bool isPart(const FoundItem& item, SaveOutcome& outcome) const;
     void noteWhole(const FoundItem& item, const SaveOutcome& outcome) const;
     static void noteOnCard(const FoundItem& item, const SaveOutcome& outcome, FilesWithin& files);

@@ -19,7 +19,7 @@ using decode::TableWriter;
 
 CardTable someTable() {
     CardTable table;
-    table.fileSystems = {{FileSystemKind::Exfat, true, 8, 2000, 100, 8, QStringLiteral("CARD")}};
+    table.fileSystems = {{FileSystemKind::Exfat, true, 8, 2000, 100, 8, QStringLiteral("CARD"), {10, 40}}};
     table.inUse = {{8, 100}, {300, 400}};
     for (int i = 0; i < 20'000; ++i) {
         CardFile file;
@@ -56,6 +56,7 @@ TEST(CardExchange, TableOfManyBlocks_ArrivesWhole) {
     EXPECT_EQ(pathsOf(got), pathsOf(table));
     EXPECT_EQ(got.inUse, table.inUse);
     EXPECT_EQ(got.fileSystems.front().label, QStringLiteral("CARD"));
+    EXPECT_EQ(got.fileSystems.front().tables, (SectorRun{10, 40}));
     const CardFile& one = got.files[7];
     EXPECT_EQ(one.runs, table.files[7].runs);
     EXPECT_EQ(one.modified, table.files[7].modified);

@@ -4,6 +4,7 @@
 #include <QDateTime>
 #include <QTemporaryFile>
 #include <algorithm>
+#include <tuple>
 
 #include "filesystem/DirectoryRows.h"
 #include "filesystem/PresentVolumes.h"
@@ -241,6 +242,19 @@ TEST_P(FatCard, QuickFormat_FoldersAreFoundByTheirDotRows) {
     EXPECT_EQ(table.files.front().runs, (std::vector<SectorRun>{{m_fat.sectorOf(10), m_fat.sectorOf(13)}}));
 }
 
+// The root is gone, and with it the name of the folder that the standard puts a camcorder's into.
+TEST_P(FatCard, QuickFormat_FolderOfACamcorderIsNamedByItsStandard) {
+    putBytes(m_card, m_fat.sectorOf(4), dotRows(4, 3) + fatRow("00000   MTS", 10, 3 * 2048));
+    for (const auto& [inner, parent, folder] :
+         {std::tuple("AVCHD      ", 0u, "PRIVATE/AVCHD"), std::tuple("M4ROOT     ", 0u, "PRIVATE/M4ROOT"),
+          std::tuple("BACKUP     ", 0u, "folder-3/BACKUP"),
+          std::tuple("AVCHD      ", 9u, "folder-3/AVCHD")}) {
+        putBytes(m_card, m_fat.sectorOf(3), dotRows(3, parent) + fatRow(inner, 4, 0, 0x10));
+        formatFat(m_card, m_fat);
+        EXPECT_EQ(fileNamed(tableOf(m_card), "00000.MTS").folder, folder);
+    }
+}
+
 // Two file systems stood side by side; of the table that named them nothing is left.
 TEST_P(FatCard, TablesOfPartitionsGone_EachRootNamesItsOwnFolders) {
     MemoryCard card(2 * 22000);
@@ -276,6 +290,7 @@ TEST_P(FatCard, FormatWithOtherClusters_OldOnesAreVotedFor) {
     ASSERT_EQ(pathsOf(table), "DCIM/100CANON/IMG_0412.JPG");
     EXPECT_EQ(table.files.front().runs, (std::vector<SectorRun>{{m_fat.sectorOf(10), m_fat.sectorOf(13)}}));
     ASSERT_EQ(table.fileSystems.size(), 2u);
+    EXPECT_EQ(table.fileSystems.front().tables, (SectorRun{other.table(), other.root()})) << "both copies";
     EXPECT_FALSE(table.fileSystems.back().isCurrent);
     EXPECT_EQ(table.fileSystems.back().clusterSectors, 4u);
 }

@@ -92,6 +92,27 @@ TEST_F(CardSaving, WhatBeginsInsideAFileThatTheCardTells_IsItsPart) {
     }
 }
 
+TEST_F(CardSaving, NumbersOfATableThatIsThere_AreNoFile) {
+    CardTable table;
+    table.fileSystems = {{FileSystemKind::Fat32, true, 10, 500, 120, 8, {}, {42, 100}},
+                         {FileSystemKind::Fat32, false, 10, 500, 300, 8, {}, {200, 250}}};
+    const auto card = std::make_shared<const CardIndex>(table);
+    SavePolicy published;
+    published.asPublished = true;
+    const auto leftOut = [&](const QString& type, std::uint64_t sector, const SavePolicy& policy = {}) {
+        const QTemporaryDir folder;
+        return ItemSaver(folder.path(), policy).save(item(type, "a", {sector, sector + 5}, card)).leftOut;
+    };
+    for (const std::uint64_t inside : {42, 99}) {
+        EXPECT_EQ(leftOut("MDF", inside), LeftOut::Unsound) << inside;
+        EXPECT_EQ(leftOut("MDF", inside, published), LeftOut::No) << inside;
+    }
+    for (const std::uint64_t other : {41, 100, 220}) {
+        EXPECT_EQ(leftOut("MDF", other), LeftOut::No) << other;
+    }
+    EXPECT_EQ(leftOut("WAV", 80), LeftOut::No) << "whole: the table was never written there";
+}
+
 TEST_F(CardSaving, UnnamedItemLiesInTheFolderOfItsType) {
     const ItemSaver saver(m_folder.path());
     const auto card = indexOf({cardFile("MUSIC", "OLD.WAV", 19'000, {80, 120})});

@@ -15,6 +15,7 @@ TEST(SafePathComponent, LeadsNowhereElse) {
     EXPECT_EQ(safePathComponent(""), "_");
     EXPECT_EQ(safePathComponent(QString::fromLatin1("x\0y\n", 4)), "x_y_");
     EXPECT_EQ(safePathComponent("name. "), "name");
+    EXPECT_EQ(safePathComponent("a:b*c?d\"e<f>g|h\x7F"), "a_b_c_d_e_f_g_h_");
     EXPECT_EQ(safePathComponent(QString(500, u'x')).size(), 80);
 }
 
@@ -35,6 +36,10 @@ TEST(SavedName, DateComesBeforeTheGivenName) {
     const SavedName plain = savedNameOf("J/PG", "GND00012.JPG", byDate, std::nullopt, nullptr);
     EXPECT_EQ(plain.folder, "J_PG");
     EXPECT_EQ(plain.file, "GND00012.JPG");
+    const CivilTime noDay{2026, 2, 31, 0, 0, 0, false};
+    CardFile file;
+    file.modified = *secondsOf(taken);
+    EXPECT_EQ(savedNameOf("JPG", "GND00012.JPG", byDate, noDay, &file).folder, "JPG/2026-05-17");
     EXPECT_LE(savedNameOf("JPG", QString(500, u'x') + ".JPG", byDate, taken, nullptr).file.size(), 80);
 }
 
@@ -48,7 +53,15 @@ TEST(SavedName, NamesFromACardLeadNowhereElse) {
     EXPECT_EQ(safeCardName("a\n\x1b.JPG"), "a__.JPG");
     EXPECT_EQ(safeCardName(".bashrc"), "_.bashrc") << "no hidden file in the user's own folder";
     EXPECT_EQ(safeCardName("con.txt"), "_con.txt");
-    EXPECT_EQ(safeCardName("COM1"), "_COM1");
+    for (const char* const device :
+         {"CON",  "PRN",  "AUX",  "NUL",  "COM1", "COM2", "COM3", "COM4", "COM5", "COM6", "COM7",    "COM8",
+          "COM9", "LPT1", "LPT2", "LPT3", "LPT4", "LPT5", "LPT6", "LPT7", "LPT8", "LPT9", "nul .txt"}) {
+        EXPECT_EQ(safeCardName(device), QStringLiteral("_") + device);
+    }
+    EXPECT_EQ(safeCardName("a:b*c?d\"e<f>g|h"), "a_b_c_d_e_f_g_h");
+    EXPECT_EQ(safeCardName(QStringLiteral("a") + QChar(0x2028) + u'b' + QChar(0x2029) + u'c'), "a_b_c");
+    const QString persian = QStringLiteral("a") + QChar(0x200C) + u'b';
+    EXPECT_EQ(safeCardName(persian), persian) << "several languages are written with it";
     EXPECT_EQ(safeCardName("CONTACTS.TXT"), "CONTACTS.TXT");
     EXPECT_EQ(safeCardName(QStringLiteral("gpj") + QChar(0x202E) + QStringLiteral(".exe")), "gpj_.exe");
     const QString family = QString::fromUtf8("\xF0\x9F\x91\xA9\xE2\x80\x8D\xF0\x9F\x91\xA7.jpg");
@@ -76,6 +89,9 @@ TEST(SavedName, FoldersOfACardStayBelowTheDestination) {
     EXPECT_EQ(safeCardFolder(""), "");
     EXPECT_EQ(safeCardFolder("/../.config//autostart"), "_/_.config/autostart");
     EXPECT_EQ(safeCardFolder(QString("x/").repeated(2000)), std::nullopt);
+    EXPECT_EQ(safeCardFolder(QString("/").repeated(2000)), std::nullopt) << "not even taken apart";
+    EXPECT_EQ(safeCardFolder((QString(80, QChar(0x00E4)) + u'/').repeated(7)), std::nullopt)
+        << "short in letters, long in bytes";
 }
 
 TEST(SavedName, NameAndFolderAreTheCardsWhereTheUserWantsThem) {
@@ -96,9 +112,16 @@ TEST(SavedName, NameAndFolderAreTheCardsWhereTheUserWantsThem) {
               "JPG/2026-05-17/2026-05-17 14.03.22 IMG_0412.JPG");
     file.folder.clear();
     EXPECT_EQ(placeOf(SaveNames::Original, SaveFolders::Card), "/IMG_0412.JPG");
+    const auto isAsOnCard = [&file](SaveFolders folders) {
+        return savedNameOf("JPG", "a.JPG", {.folders = folders}, std::nullopt, &file).asOnCard;
+    };
+    EXPECT_TRUE(isAsOnCard(SaveFolders::Card));
+    EXPECT_FALSE(isAsOnCard(SaveFolders::Type));
     file.name = "JPG";
     EXPECT_EQ(placeOf(SaveNames::Original, SaveFolders::Card), "JPG/JPG")
         << "a file in the root does not take the place of a type's folder";
+    file.folder = "DCIM";
+    EXPECT_EQ(placeOf(SaveNames::Original, SaveFolders::Card), "DCIM/JPG");
 }
 
 }  // namespace vantor
