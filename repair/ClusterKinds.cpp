@@ -53,7 +53,11 @@ ClusterKinds::Kind ClusterKinds::kindOf(std::uint64_t cluster) {
     }
     Kind& kind = m_kinds[static_cast<std::size_t>(cluster)];
     if (kind == Kind::NotLookedAt) {
-        m_medium.read(m_grid.firstSectorOf(cluster) * kSectorBytes, m_bytes);
+        const std::uint64_t at = m_grid.firstSectorOf(cluster) * kSectorBytes;
+        if (m_medium.isKnownEmpty(at, m_bytes.size())) {
+            return kind = Kind::Foreign;
+        }
+        m_medium.read(at, m_bytes);
         kind = kindOfBytes(m_bytes);
     }
     return kind;

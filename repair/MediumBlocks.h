@@ -13,7 +13,8 @@
 
 namespace vantor {
 
-// Keeps the blocks that were read last. What cannot be read is zeros. Any one thread.
+// Keeps the blocks that were read last, and which held nothing but zeros: those are read once. What cannot be
+// read is zeros. Any one thread.
 class MediumBlocks {
   public:
     static constexpr std::uint64_t kBlockSectors = 512;
@@ -42,6 +43,8 @@ class MediumBlocks {
             std::copy_n(block.end() - static_cast<std::ptrdiff_t>(reach), reach, seam.begin());
         }
     }
+    // Whether nothing but zeros was read there; false where not all of it was read yet.
+    bool isKnownEmpty(std::uint64_t at, std::uint64_t bytes) const;
     // How many were read so far, those read anew counted again.
     std::uint64_t fetched() const { return m_fetched; }
 
@@ -51,7 +54,14 @@ class MediumBlocks {
         std::vector<std::uint8_t> bytes;
     };
 
+    bool isEmptyBlock(std::uint64_t number) const {
+        return number < m_empty.size() && m_empty[static_cast<std::size_t>(number)];
+    }
+    void fill(Block& block);
+
     SectorReader& m_medium;
+    std::vector<bool> m_empty;  // by number
+    const std::vector<std::uint8_t> m_zeros = std::vector<std::uint8_t>(kBlockSectors * kSectorBytes, 0);
     std::uint64_t m_fetched = 0;
     std::list<Block> m_blocks;  // the one asked for last in front
     std::unordered_map<std::uint64_t, std::list<Block>::iterator> m_places;

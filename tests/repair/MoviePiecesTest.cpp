@@ -238,6 +238,28 @@ TEST(MoviePieces, WithNothingLeftToSearch_OnlyWhatIsFarIsMissed) {
     }
 }
 
+// Most of a card may be empty, and is looked at for every grid of clusters.
+TEST(MediumBlocks, EmptyOnes_AreReadOnce) {
+    constexpr auto kBlockBytes = static_cast<qsizetype>(MediumBlocks::kBlockSectors * kSectorBytes);
+    constexpr auto kBlocks = static_cast<qsizetype>(MediumBlocks::kMostBlocks) + 8;
+    QByteArray medium(kBlocks * kBlockBytes, '\0');
+    medium[3 * kBlockBytes + 500] = 'x';
+    MemoryReader reader(medium);
+    MediumBlocks blocks(reader);
+    EXPECT_FALSE(blocks.isKnownEmpty(0, 1));
+    for (int turn = 0; turn < 2; ++turn) {
+        std::uint64_t seen = 0;
+        blocks.lookThrough(16, kGoOn, [&](std::span<const std::uint8_t> bytes, std::uint64_t) {
+            seen += static_cast<std::uint64_t>(std::count(bytes.begin(), bytes.end(), 'x'));
+        });
+        EXPECT_EQ(seen, 1U);
+    }
+    EXPECT_EQ(blocks.fetched(), static_cast<std::uint64_t>(kBlocks));
+    EXPECT_TRUE(blocks.isKnownEmpty(0, 3 * kBlockBytes));
+    EXPECT_FALSE(blocks.isKnownEmpty(0, 3 * kBlockBytes + 1));
+    EXPECT_FALSE(blocks.isKnownEmpty(static_cast<std::uint64_t>(medium.size()), 1));
+}
+
 TEST(FreeClusters, GridIsWhatFilesBeginOn) {
     const std::vector<std::uint64_t> starts{131, 195, 323, 1091};
     const auto grids = gridsOf(starts);
