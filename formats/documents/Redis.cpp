@@ -1,9 +1,11 @@
-// What the Redis database keeps on disk (RDB): keys with values of many kinds, an end mark, a sum.
+// What the Redis database keeps on disk (RDB): keys with values of many kinds, an end mark, a sum. R's stores
+// share the ending.
 // Source: "Redis RDB Dump File Format" and the history of its versions up to 11.
 #include <algorithm>
 #include <array>
 
 #include "formats/Format.h"
+#include "formats/documents/RStore.h"
 
 namespace vantor {
 
@@ -272,6 +274,8 @@ Extent walkRedis(ByteView& view) {
     constexpr unsigned kLastVersion = 11;  // whose kinds are all known here
     constexpr std::uint8_t kLastKind = 21;
     enum : std::uint8_t { Idle = 0xF8, Frequency, Named, Sizes, ExpiresMs, Expires, Database, End };
+    if (!view.matches(0, "REDIS"))
+        return walkRStore(view);
     unsigned version = 0;
     for (std::uint64_t i = 5; i < kHead; ++i) {
         const auto digit = view.u8(i).value_or(0);
@@ -279,8 +283,6 @@ Extent walkRedis(ByteView& view) {
             return unknownExtent();
         version = version * 10 + digit - '0';
     }
-    if (!view.matches(0, "REDIS"))
-        return unknownExtent();
     RedisReader in(view, kHead);
     for (;;) {
         const auto start = in.at();

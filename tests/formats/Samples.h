@@ -54,6 +54,8 @@ Bytes cramContainer(std::uint64_t records, const Bytes& landmarks, std::size_t b
 Bytes cram();
 // Keys of Redis with values of most kinds, up to the end mark before the sum.
 Bytes redisValues();
+// A store of R of two objects.
+Bytes rStore();
 // A design of a head and a line, up to its last word.
 Bytes designFile();
 // A TIFF of 4 x 4 grey pixels with a date.

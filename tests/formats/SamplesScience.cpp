@@ -105,6 +105,16 @@ Bytes redisValues() {
     return out.u8(0xFF);
 }
 
+Bytes rStore() {
+    Build out;
+    for (const std::string_view object : {"X\n first object", "X\n the second"}) {
+        Bytes packed = zlibStored(object);
+        packed[1] = 0x9C;
+        out.be32(object.size()).add(packed);
+    }
+    return out;
+}
+
 Bytes squashfs() {
     Build out;
     out.text("hsqs").le32(1).le32(0).le32(131072).le32(0).le16(1).le16(17).le16(0).le16(1).le16(4).le16(0);

@@ -164,6 +164,24 @@ TEST(MonitorCaptureWalker, CommentBehindTheTable_BelongsToIt) {
     EXPECT_EQ(walkBytes("CAP", open).verdict, Verdict::Unknown);
 }
 
+TEST(RStoreWalker, EndsBehindTheLastObject) {
+    const Bytes store = rStore();
+    for (const Bytes& tail : {Bytes(), Bytes(3000, 0), noise(3000, 3)})
+        expectEnd("RDB", Build().add(store).add(tail), store.size());
+    EXPECT_FALSE(walkBytes("RDB", store).exactEnd);
+    const Bytes cut(store.begin(), store.end() - 3);
+    EXPECT_EQ(walkBytes("RDB", cut).verdict, Verdict::CutOff);
+    Bytes spoilt = store;
+    spoilt[store.size() - 6] ^= 1;
+    EXPECT_EQ(walkBytes("RDB", spoilt).verdict, Verdict::Damaged);
+    // A first object that is none is no store's.
+    spoilt[3] ^= 1;
+    EXPECT_EQ(walkBytes("RDB", spoilt).verdict, Verdict::Unknown);
+    // Objects of other packers tell no end.
+    const Bytes other = Build().add(store).be32(900).text("Z").fill(900, 3);
+    EXPECT_EQ(walkBytes("RDB", other).verdict, Verdict::Unknown);
+}
+
 TEST(JbigWalker, UnknownMarkOrNone_IsDamage) {
     Bytes file;
     for (const auto& sample : scienceSamples()) {
