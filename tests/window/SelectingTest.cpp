@@ -7,8 +7,8 @@
 
 #include "tests/support/Gate.h"
 #include "tests/window/PreviewWindow.h"
-#include "window/preview/ViewerDesk.h"
 #include "window/preview/PreviewFile.h"
+#include "window/preview/ViewerDesk.h"
 
 namespace vantor {
 namespace {
