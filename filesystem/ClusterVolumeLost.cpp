@@ -156,11 +156,11 @@ void ClusterVolume::nameFromStandard() {
             continue;
         }
         const auto& entries = directory.rows.entries;
-        for (const auto& [inner, name] : standards) {
+        for (const auto& standard : standards) {
             if (!directory.isNamed && std::any_of(entries.begin(), entries.end(), [&](const auto& entry) {
-                    return entry.isFolder && inner.match(entry.name).hasMatch();
+                    return entry.isFolder && standard.first.match(entry.name).hasMatch();
                 })) {
-                directory.name = name;
+                directory.name = standard.second;
                 directory.isNamed = true;
             }
         }
