@@ -300,9 +300,7 @@ PublishedItem CliSession::published(std::size_t index) const {
 QByteArray CliSession::checksumOf(const PublishedItem& item, std::unique_ptr<SectorReader>& medium) const {
     const std::atomic<int> neverStop{0};
     Sha256 hash;
-    if (medium) {
-        medium->seek(item.firstSector);
-    } else {
+    if (!medium || !medium->seek(item.firstSector)) {
         medium = openMedium();
     }
     const bool opened = medium != nullptr;

@@ -139,9 +139,9 @@ class CliSession : private CliView, public ScanSession {
                           const QString& image_UID) override;
     void addImageWithData_2(const QByteArray& data, const QString& imageName, const QString& image_UID,
                             std::uint64_t File_Start_Sec, std::uint64_t File_End_Sec) override;
-    // Checksums and saving need all of a photo, a list nothing but its name.
+    // Listed checksums are of all of a photo, and a list without them needs nothing but its name. A saver
+    // takes what is at hand and reads the rest for itself.
     PhotoBytes photoBytesNeeded() const override {
-        // Their checksums are listed; a saver reads for itself what the search does not have to.
         if (m_options.listJson) {
             return PhotoBytes::All;
         }

@@ -84,7 +84,6 @@ class MoviePieces {
     void leaveOut(std::uint64_t largest);
     bool holdsPhotos() const;
     bool read(std::uint64_t firstCluster);
-    struct Head;
     using TakeIndex = std::function<bool(const std::vector<std::uint64_t>& clusters)>;
 
     bool readHead(std::uint64_t firstCluster);

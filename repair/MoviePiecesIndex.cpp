@@ -69,19 +69,18 @@ std::vector<std::uint64_t> indexPlaces(MediumBlocks& medium, const std::atomic<i
     return places;
 }
 
+namespace {
+
 // What stands in front of a movie's data.
-struct MoviePieces::Head {
+struct BoxesInFront {
     std::optional<IsoBox> index;
     std::optional<IsoBox> data;
     std::optional<std::uint64_t> fragment;  // where the first one begins
 };
 
-namespace {
-
 // As far as the boxes in front are there.
-template <typename Head>
-std::optional<Head> headOf(ByteView& view) {
-    Head head;
+std::optional<BoxesInFront> boxesInFront(ByteView& view) {
+    BoxesInFront head;
     std::uint64_t at = 0;
     for (int i = 0; i < kMostBoxes && !head.data && !head.fragment; ++i) {
         const auto box = readIsoBox(view, at);
@@ -121,7 +120,7 @@ bool MoviePieces::readHead(std::uint64_t firstCluster) {
     if (view.matches(0, "RIFF") && view.matches(8, "AVI ")) {
         return readChunkHead(firstCluster, view);
     }
-    const auto head = headOf<Head>(view);
+    const auto head = boxesInFront(view);
     if (head && head->fragment && head->index) {
         // What stands in front of it lies in one row.
         for (std::uint64_t number = 0; number <= *head->fragment / m_free.clusterBytes(); ++number) {
@@ -172,7 +171,7 @@ bool MoviePieces::takeIndexInFront(const std::vector<std::uint64_t>& clusters) {
     const std::vector<std::uint64_t> row = rowFrom(clusters);
     ClusterFile file(m_medium, m_free, row, ~std::uint64_t{0});
     ByteView view(file);
-    const auto head = headOf<Head>(view);
+    const auto head = boxesInFront(view);
     if (!head || !head->index || !head->data) {
         return false;
     }

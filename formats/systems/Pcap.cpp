@@ -1,6 +1,6 @@
 // Network captures: pcap, a row of records with nothing behind the last, and those of Microsoft's Network
-// Monitor
-// 2. Sources: draft-ietf-opsawg-pcap; the Network Monitor SDK's page on CAPTUREFILE_HEADER_VALUES and FRAME.
+// Monitor 2. Sources: draft-ietf-opsawg-pcap; the Network Monitor SDK's page on CAPTUREFILE_HEADER_VALUES
+// and FRAME.
 #include <algorithm>
 
 #include "formats/Format.h"
