@@ -11,6 +11,7 @@
 #include "media/ImageFile.h"
 #include "media/ImageParts.h"
 #include "media/RawDevice.h"
+#include "media/WindowedReader.h"
 #include "tests/media/ScriptedDrive.h"
 
 namespace vantor::test {
@@ -230,13 +231,13 @@ TEST_F(RawDeviceTest, EmptyPart_IsPassedOver) {
 
 TEST_F(RawDeviceTest, ImageThatShrinks_IsAMediumThatWentAway) {
     const QString path = writeImage(QStringLiteral("card.img"), 0, 2000);
-    const auto reader = openMedium(path);
-    ASSERT_NE(reader, nullptr);
-    ASSERT_TRUE(reader->read());
-    // Ends the reading ahead, which would else see more or less of what goes away.
-    ASSERT_TRUE(reader->seek(1));
+    auto source = openMediumSource(path);
+    ASSERT_NE(source, nullptr);
+    // Nothing is read ahead, which would see the end sooner or later.
+    WindowedReader reader(std::move(source), WindowedReader::Fetching::WhenAsked);
+    ASSERT_TRUE(reader.read());
     ASSERT_TRUE(QFile::resize(path, 700 * 512 + 5));
-    const auto steps = scanSteps(*reader, 1, 1999);
+    const auto steps = scanSteps(reader, 1, 1999);
     EXPECT_TRUE(steps[698].readSucceeded);  // sector 699
     EXPECT_EQ(steps[698].bytesOf, 699U);
     for (std::size_t i = 699; i < steps.size(); ++i) {
@@ -244,8 +245,32 @@ TEST_F(RawDeviceTest, ImageThatShrinks_IsAMediumThatWentAway) {
         ASSERT_FALSE(steps[i].seekSucceeded) << i;
         ASSERT_EQ(steps[i].bytesOf, 699U) << i;
     }
-    EXPECT_FALSE(reader->seek(0));
-    EXPECT_FALSE(reader->read());
+    EXPECT_FALSE(reader.seek(0));
+    EXPECT_FALSE(reader.read());
+}
+
+TEST_F(RawDeviceTest, ImageThatShrinksWhileItIsReadAhead_EndsNoLaterAndComesNotBack) {
+    const QString path = writeImage(QStringLiteral("card.img"), 0, 8000);
+    const auto reader = openMedium(path);
+    ASSERT_NE(reader, nullptr);
+    std::uint64_t good = 0;
+    while (good < 4000 && reader->read()) {
+        ASSERT_EQ(numberAt(*reader), good);
+        ++good;
+    }
+    ASSERT_EQ(good, 4000U);
+    ASSERT_TRUE(QFile::resize(path, 4100 * 512 + 5));
+    while (good < 8000 && reader->read()) {
+        ASSERT_EQ(numberAt(*reader), good);
+        ++good;
+    }
+    // What had been fetched before may be handed over still.
+    ASSERT_LT(good, 8000U);
+    for (std::uint64_t s = 0; s < 8000; ++s) {
+        ASSERT_FALSE(reader->seek(s)) << s;
+        ASSERT_FALSE(reader->read()) << s;
+    }
+    EXPECT_EQ(numberAt(*reader), good - 1);
 }
 
 TEST_F(RawDeviceTest, ImageThatVanishes_IsReadToItsEndButNotOpenedAgain) {
