@@ -34,6 +34,23 @@ void tell(QWidget* over, const QString& words) {
     QToolTip::showText(QCursor::pos(), words, over);
 }
 
+bool isHeld() {
+    return (QGuiApplication::mouseButtons() & Qt::LeftButton) != 0;
+}
+
+// The toolkit takes the words away when the button is let go, which is when there is time to read them.
+void tellAlsoAfterwards(QWidget* over, const QString& words) {
+    tell(over, words);
+    auto* const look = new QTimer(over);
+    QObject::connect(look, &QTimer::timeout, over, [look, over, words] {
+        if (!isHeld()) {
+            look->deleteLater();
+            tell(over, words);
+        }
+    });
+    look->start(kLookMilliseconds);
+}
+
 }  // namespace
 
 void MyTableController::dragOut(ImageBrowserView* browser, const QList<qsizetype>& indexes) {
@@ -41,7 +58,7 @@ void MyTableController::dragOut(ImageBrowserView* browser, const QList<qsizetype
         return;
     }
     if (m_dragged->isRunning() || m_desk->isRunning()) {
-        tell(browser, tr("Other files are being written. Drag again in a moment."));
+        tellAlsoAfterwards(browser, tr("Other files are being written. Drag again in a moment."));
         return;
     }
     SaveRequest request;
@@ -55,8 +72,9 @@ void MyTableController::dragOut(ImageBrowserView* browser, const QList<qsizetype
     }
     const auto free = m_parts.freeBytes ? m_parts.freeBytes(m_wholeFolder) : std::nullopt;
     if (free && *free < bytes + kLeastFreeBytes) {
-        tell(browser, tr("There is not enough room to get %1 ready for dragging. Save the files instead.")
-                          .arg(sizeForPeople(bytes)));
+        tellAlsoAfterwards(
+            browser, tr("There is not enough room to get %1 ready for dragging. Save the files instead.")
+                         .arg(sizeForPeople(bytes)));
         return;
     }
     request.card = card();
@@ -68,7 +86,9 @@ void MyTableController::dragOut(ImageBrowserView* browser, const QList<qsizetype
     }
     const QStringList paths = m_dragged->pathsOf(indexes);
     if (paths.isEmpty()) {
-        tell(browser, tr("These files cannot be read from the storage medium."));
+        const QString why = m_dragged->whyNot();
+        tellAlsoAfterwards(browser,
+                           why.isEmpty() ? tr("These files cannot be read from the storage medium.") : why);
         return;
     }
     auto mime = std::make_unique<QMimeData>();
@@ -80,11 +100,21 @@ void MyTableController::dragOut(ImageBrowserView* browser, const QList<qsizetype
     QToolTip::hideText();
     if (m_parts.drag) {
         m_parts.drag(std::move(mime));
-        return;
+    } else {
+        auto* const drag = new QDrag(browser);
+        drag->setMimeData(mime.release());
+        drag->exec(Qt::CopyAction);
     }
-    auto* const drag = new QDrag(browser);
-    drag->setMimeData(mime.release());
-    drag->exec(Qt::CopyAction);
+    // Who dropped them need not count them.
+    if (const qsizetype missing = indexes.size() - paths.size(); missing > 0 && !m_ending) {
+        const auto number = [](qsizetype count) {
+            return numberForPeople(static_cast<std::uint64_t>(count));
+        };
+        tellAlsoAfterwards(browser, tr("%1 of the %2 files could not be dragged.", nullptr,
+                                       pluralOf(static_cast<std::uint64_t>(missing)))
+                                            .arg(number(missing), number(indexes.size())) +
+                                        u'\n' + m_dragged->whyNot());
+    }
 }
 
 // Until they are there, as long as the button is held; who lets go early finds them ready the next time.
@@ -92,7 +122,6 @@ bool MyTableController::waitForDraggedFiles(QWidget* browser) {
     if (!m_dragged->isRunning()) {
         return true;
     }
-    const auto isHeld = [] { return (QGuiApplication::mouseButtons() & Qt::LeftButton) != 0; };
     tell(browser, tr("Getting the files ready…"));
     QEventLoop loop;
     QTimer look;
@@ -105,7 +134,8 @@ bool MyTableController::waitForDraggedFiles(QWidget* browser) {
     loop.exec();
     if (m_ending || !isHeld()) {
         if (m_dragged->isRunning() && !m_ending) {
-            tell(browser, tr("The files are still being written. Drag them again in a moment."));
+            tellAlsoAfterwards(browser,
+                               tr("The files are still being written. Drag them again in a moment."));
         }
         return false;
     }

@@ -4212,6 +4212,13 @@ Bitte wählen Sie die Dateitypen für die Wiederherstellung aus. Mit ‚Weiter�
         <source>Completing broken documents: %1 of %2</source>
         <translation>Dokumente werden vervollständigt: %1 von %2</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 of the %2 files could not be dragged.</source>
+        <translation>
+            <numerusform>%1 der %2 Dateien konnte nicht gezogen werden.</numerusform>
+            <numerusform>%1 der %2 Dateien konnten nicht gezogen werden.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>vantor::PieceStrip</name>

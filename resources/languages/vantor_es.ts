@@ -4212,6 +4212,13 @@ Seleccione los tipos de archivo que desea recuperar. Pulse el botón «Siguiente
         <source>Completing broken documents: %1 of %2</source>
         <translation>Completando documentos rotos: %1 de %2</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 of the %2 files could not be dragged.</source>
+        <translation>
+            <numerusform>No se pudo arrastrar %1 de los %2 archivos.</numerusform>
+            <numerusform>No se pudieron arrastrar %1 de los %2 archivos.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>vantor::PieceStrip</name>

@@ -4212,6 +4212,13 @@ Veuillez sélectionner les types de fichiers à récupérer. Appuyez sur ‘Suiv
         <source>Completing broken documents: %1 of %2</source>
         <translation>Complétion des documents incomplets : %1 sur %2</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 of the %2 files could not be dragged.</source>
+        <translation>
+            <numerusform>%1 des %2 fichiers n’a pas pu être glissé.</numerusform>
+            <numerusform>%1 des %2 fichiers n’ont pas pu être glissés.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>vantor::PieceStrip</name>

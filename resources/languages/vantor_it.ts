@@ -4212,6 +4212,13 @@ Selezionare i tipi di file da recuperare. Premere il pulsante «Avanti» per con
         <source>Completing broken documents: %1 of %2</source>
         <translation>Completamento dei documenti rotti: %1 di %2</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 of the %2 files could not be dragged.</source>
+        <translation>
+            <numerusform>Non è stato possibile trascinare %1 dei %2 file.</numerusform>
+            <numerusform>Non è stato possibile trascinare %1 dei %2 file.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>vantor::PieceStrip</name>

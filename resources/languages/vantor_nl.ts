@@ -4212,6 +4212,13 @@ Selecteer de bestandstypen die u wilt herstellen. Druk op de knop “Volgende”
         <source>Completing broken documents: %1 of %2</source>
         <translation>Kapotte documenten worden aangevuld: %1 van %2</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 of the %2 files could not be dragged.</source>
+        <translation>
+            <numerusform>%1 van de %2 bestanden kon niet worden gesleept.</numerusform>
+            <numerusform>%1 van de %2 bestanden konden niet worden gesleept.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>vantor::PieceStrip</name>

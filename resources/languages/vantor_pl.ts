@@ -4255,6 +4255,14 @@ Proszę wybrać typy plików do odzyskania. Przycisk „Dalej” prowadzi dalej.
         <source>Completing broken documents: %1 of %2</source>
         <translation>Uzupełnianie uszkodzonych dokumentów: %1 z %2</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 of the %2 files could not be dragged.</source>
+        <translation>
+            <numerusform>Nie udało się przeciągnąć %1 z %2 plików.</numerusform>
+            <numerusform>Nie udało się przeciągnąć %1 z %2 plików.</numerusform>
+            <numerusform>Nie udało się przeciągnąć %1 z %2 plików.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>vantor::PieceStrip</name>

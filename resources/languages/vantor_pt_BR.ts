@@ -4212,6 +4212,13 @@ Selecione os tipos de arquivo a recuperar. Pressione o botão “Próximo” par
         <source>Completing broken documents: %1 of %2</source>
         <translation>Completando documentos quebrados: %1 de %2</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 of the %2 files could not be dragged.</source>
+        <translation>
+            <numerusform>Não foi possível arrastar %1 dos %2 arquivos.</numerusform>
+            <numerusform>Não foi possível arrastar %1 dos %2 arquivos.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>vantor::PieceStrip</name>

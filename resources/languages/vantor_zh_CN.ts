@@ -4169,6 +4169,12 @@ Please select the required extension type for recovery process. Press ‘Next’
         <source>Completing broken documents: %1 of %2</source>
         <translation>正在补全损坏的文档：%1 / %2</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 of the %2 files could not be dragged.</source>
+        <translation>
+            <numerusform>%2 个文件中有 %1 个无法拖动。</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>vantor::PieceStrip</name>

@@ -3,6 +3,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMenu>
+#include <QToolTip>
 #include <QWindow>
 
 #include "results/RecoveryMode.h"
@@ -142,6 +143,32 @@ TEST_F(DragOut, WhatTheMediumDoesNotGive_IsNotDragged) {
     pull(pictureOf(0));
     release(pictureOf(0));
     EXPECT_TRUE(dragged.empty());
+}
+
+TEST_F(DragOut, OfSeveralTheUnreadableOneIsMissing_AndThatIsTold) {
+    openResults();
+    browser->selectIndexes({0, 1});
+    for (std::uint64_t sector = 30; sector < 64; ++sector) {
+        cardBeside.badForEver.insert(sector);
+    }
+    pull(pictureOf(0));
+    release(pictureOf(0));
+    ASSERT_EQ(dragged.size(), 1U);
+    EXPECT_EQ(dragged[0]->urls().size(), 1);
+    const QString words =
+        QStringLiteral("1 of the 2 files could not be dragged.\nNone of its sectors could be read");
+    EXPECT_TRUE(waitFor([&] { return QToolTip::text() == words; })) << "also when the button is let go";
+}
+
+TEST_F(DragOut, WhereTheFilesCannotBeMadeReady_ThePlaceIsBlamedAndNotTheMedium) {
+    QFile inTheWay(privateFolder.filePath(QStringLiteral("cache")));
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    openResults();
+    browser->selectIndexes({0});
+    pull(pictureOf(0));
+    release(pictureOf(0));
+    EXPECT_TRUE(dragged.empty());
+    EXPECT_TRUE(waitFor([&] { return QToolTip::text().contains(inTheWay.fileName()); }));
 }
 
 TEST_F(DragOut, SaveAs_GivesOneItemTheNameThatIsWanted_AndNeverReplacesAFile) {

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <utility>
 
+#include "saving/DestinationCheck.h"
 #include "window/preview/PrivateFolder.h"
 
 namespace vantor {
@@ -35,6 +36,7 @@ DraggedFiles::~DraggedFiles() {
 void DraggedFiles::begin() {
     requestEnd();
     m_paths.clear();
+    m_whyNot.clear();
     if (m_job) {
         m_forgotten = true;
     } else {
@@ -51,6 +53,7 @@ void DraggedFiles::prepare(SaveRequest request) {
     if (m_running || request.items.empty()) {
         return;
     }
+    m_whyNot.clear();
     if (!m_folder) {
         QDir().mkpath(m_parent);
         m_folder = std::make_unique<PrivateFolder>(m_parent);
@@ -58,6 +61,7 @@ void DraggedFiles::prepare(SaveRequest request) {
     }
     if (!m_folder->held) {
         m_folder.reset();
+        m_whyNot = refuseDestination(m_parent).value_or(QString());
         return;
     }
     request.saver = m_saver;
@@ -78,8 +82,11 @@ void DraggedFiles::take() {
     m_thread.join();
     const SaveReport& report = m_job->report();
     for (std::size_t i = 0; i < report.indexes.size(); ++i) {
-        if (const SaveOutcome& outcome = report.items[i].outcome; outcome.saved && !m_forgotten) {
+        const SaveOutcome& outcome = report.items[i].outcome;
+        if (outcome.saved && !m_forgotten) {
             m_paths.insert(static_cast<qsizetype>(report.indexes[i]), outcome.path);
+        } else if (m_whyNot.isEmpty()) {
+            m_whyNot = outcome.error;
         }
     }
     m_job.reset();

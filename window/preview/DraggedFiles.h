@@ -34,6 +34,9 @@ class DraggedFiles : public QObject {
     bool isRunning() const { return m_running; }
     // Of those that are there, in this order.
     QStringList pathsOf(const QList<qsizetype>& indexes);
+    // Why the first that the last prepare() was to write is not there, in a sentence; empty where all are or
+    // nobody tells.
+    const QString& whyNot() const { return m_whyNot; }
 
     void requestEnd();
     bool hasEnded() const { return !m_running; }
@@ -46,7 +49,8 @@ class DraggedFiles : public QObject {
     std::shared_ptr<const ItemSaver> m_saver;
     std::shared_ptr<SaveJob> m_job;     // until what it wrote was taken
     QHash<qsizetype, QString> m_paths;  // by place in the list
-    bool m_forgotten = false;           // the list began anew while the job ran
+    QString m_whyNot;
+    bool m_forgotten = false;  // the list began anew while the job ran
     std::atomic<bool> m_running{false};
     std::thread m_thread;
 };
