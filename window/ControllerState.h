@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QPointer>
 #include <QSizeF>
 #include <QTimer>
 #include <array>
@@ -186,6 +187,7 @@ class ControllerState {
     std::unique_ptr<ViewerDesk> m_viewer;
     std::unique_ptr<CellPictures> m_pictures;
     std::unique_ptr<DraggedFiles> m_dragged;
+    QPointer<QTimer> m_dragWords;  // runs while words on dragging are to be seen
     MendingRun m_mending;
 };
 

@@ -26,6 +26,7 @@ namespace vantor {
 namespace {
 
 constexpr int kLookMilliseconds = 20;
+constexpr int kLooksBehindWords = 25;  // a preview begins sooner
 // Left free where the files lie.
 constexpr std::uint64_t kLeastFreeBytes = std::uint64_t{256} << 20;
 
@@ -38,19 +39,6 @@ bool isHeld() {
     return (QGuiApplication::mouseButtons() & Qt::LeftButton) != 0;
 }
 
-// The toolkit takes the words away when the button is let go, which is when there is time to read them.
-void tellAlsoAfterwards(QWidget* over, const QString& words) {
-    tell(over, words);
-    auto* const look = new QTimer(over);
-    QObject::connect(look, &QTimer::timeout, over, [look, over, words] {
-        if (!isHeld()) {
-            look->deleteLater();
-            tell(over, words);
-        }
-    });
-    look->start(kLookMilliseconds);
-}
-
 }  // namespace
 
 void MyTableController::dragOut(ImageBrowserView* browser, const QList<qsizetype>& indexes) {
@@ -58,7 +46,7 @@ void MyTableController::dragOut(ImageBrowserView* browser, const QList<qsizetype
         return;
     }
     if (m_dragged->isRunning() || m_desk->isRunning()) {
-        tellAlsoAfterwards(browser, tr("Other files are being written. Drag again in a moment."));
+        tellOfDragging(browser, tr("Other files are being written. Drag again in a moment."));
         return;
     }
     SaveRequest request;
@@ -72,9 +60,9 @@ void MyTableController::dragOut(ImageBrowserView* browser, const QList<qsizetype
     }
     const auto free = m_parts.freeBytes ? m_parts.freeBytes(m_wholeFolder) : std::nullopt;
     if (free && *free < bytes + kLeastFreeBytes) {
-        tellAlsoAfterwards(
-            browser, tr("There is not enough room to get %1 ready for dragging. Save the files instead.")
-                         .arg(sizeForPeople(bytes)));
+        tellOfDragging(browser,
+                       tr("There is not enough room to get %1 ready for dragging. Save the files instead.")
+                           .arg(sizeForPeople(bytes)));
         return;
     }
     request.card = card();
@@ -87,8 +75,8 @@ void MyTableController::dragOut(ImageBrowserView* browser, const QList<qsizetype
     const QStringList paths = m_dragged->pathsOf(indexes);
     if (paths.isEmpty()) {
         const QString why = m_dragged->whyNot();
-        tellAlsoAfterwards(browser,
-                           why.isEmpty() ? tr("These files cannot be read from the storage medium.") : why);
+        tellOfDragging(browser,
+                       why.isEmpty() ? tr("These files cannot be read from the storage medium.") : why);
         return;
     }
     auto mime = std::make_unique<QMimeData>();
@@ -110,11 +98,30 @@ void MyTableController::dragOut(ImageBrowserView* browser, const QList<qsizetype
         const auto number = [](qsizetype count) {
             return numberForPeople(static_cast<std::uint64_t>(count));
         };
-        tellAlsoAfterwards(browser, tr("%1 of the %2 files could not be dragged.", nullptr,
-                                       pluralOf(static_cast<std::uint64_t>(missing)))
-                                            .arg(number(missing), number(indexes.size())) +
-                                        u'\n' + m_dragged->whyNot());
+        tellOfDragging(browser, tr("%1 of the %2 files could not be dragged.", nullptr,
+                                   pluralOf(static_cast<std::uint64_t>(missing)))
+                                        .arg(number(missing), number(indexes.size())) +
+                                    u'\n' + m_dragged->whyNot());
     }
+}
+
+// The toolkit takes the words away when the button is let go, which is when there is time to read them, and
+// when a sheet opens, as it does for the preview of what was just selected.
+void MyTableController::tellOfDragging(QWidget* over, const QString& words) {
+    tell(over, words);
+    delete m_dragWords;
+    m_dragWords = new QTimer(over);
+    m_dragWords->setObjectName(QStringLiteral("dragWords"));
+    connect(m_dragWords, &QTimer::timeout, over, [this, over, words, looks = 0]() mutable {
+        if (isHeld() || session) {
+            looks = 0;
+        } else if (looks++ == 0) {
+            tell(over, words);
+        } else if (looks == kLooksBehindWords) {
+            m_dragWords->deleteLater();
+        }
+    });
+    m_dragWords->start(kLookMilliseconds);
 }
 
 // Until they are there, as long as the button is held; who lets go early finds them ready the next time.
@@ -134,8 +141,7 @@ bool MyTableController::waitForDraggedFiles(QWidget* browser) {
     loop.exec();
     if (m_ending || !isHeld()) {
         if (m_dragged->isRunning() && !m_ending) {
-            tellAlsoAfterwards(browser,
-                               tr("The files are still being written. Drag them again in a moment."));
+            tellOfDragging(browser, tr("The files are still being written. Drag them again in a moment."));
         }
         return false;
     }

@@ -434,6 +434,7 @@ class MyTableController : public QObject,
     // window/DragOut.cpp
     void dragOut(ImageBrowserView* browser, const QList<qsizetype>& indexes);
     bool waitForDraggedFiles(QWidget* browser);
+    void tellOfDragging(QWidget* over, const QString& words);
     void saveItemAs(qsizetype index);
     // window/Ejecting.cpp
     bool canEjectCard() const;
