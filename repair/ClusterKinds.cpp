@@ -8,6 +8,9 @@ namespace {
 
 using Kind = ClusterKinds::Kind;
 
+// On a large card nearly all clusters hold something else, or nothing, and are asked for at each cut.
+constexpr std::uint64_t kStretch = 512;
+
 Kind kindOfBytes(const std::vector<std::uint8_t>& bytes) {
     std::size_t stuffed = 0;
     bool hasScans = false;
@@ -45,6 +48,7 @@ ClusterKinds::ClusterKinds(MediumBlocks& medium, const FreeClusters& grid)
     : m_medium(medium),
       m_grid(grid),
       m_kinds(static_cast<std::size_t>(grid.count()), Kind::NotLookedAt),
+      m_passedOver(static_cast<std::size_t>(grid.count() / kStretch + 1), false),
       m_bytes(static_cast<std::size_t>(grid.clusterBytes())) {}
 
 ClusterKinds::Kind ClusterKinds::kindOf(std::uint64_t cluster) {
@@ -61,6 +65,46 @@ ClusterKinds::Kind ClusterKinds::kindOf(std::uint64_t cluster) {
         kind = kindOfBytes(m_bytes);
     }
     return kind;
+}
+
+bool ClusterKinds::isCoded(std::uint64_t cluster) {
+    if (!m_grid.isFree(cluster)) {
+        return false;
+    }
+    const Kind kind = kindOf(cluster);
+    return kind == Kind::Scans || kind == Kind::Units || kind == Kind::End;
+}
+
+// What is free may be taken later, and what was taken or foreign stays so.
+bool ClusterKinds::takeCoded(std::uint64_t cluster, std::uint64_t end,
+                             const std::function<bool(std::uint64_t cluster)>& take) {
+    while (cluster < end) {
+        const std::uint64_t stretch = cluster / kStretch;
+        const std::uint64_t stretchEnd = std::min((stretch + 1) * kStretch, m_grid.count());
+        const bool isWhole = cluster % kStretch == 0 && stretchEnd <= end;
+        if (m_passedOver[static_cast<std::size_t>(stretch)]) {
+            cluster = stretchEnd;
+            continue;
+        }
+        bool some = false;
+        for (; cluster < std::min(stretchEnd, end); ++cluster) {
+            if (!isCoded(cluster)) {
+                continue;
+            }
+            some = true;
+            if (!take(cluster)) {
+                return false;
+            }
+        }
+        m_passedOver[static_cast<std::size_t>(stretch)] = isWhole && !some;
+    }
+    return true;
+}
+
+void ClusterKinds::eachCoded(std::uint64_t from, const std::function<bool(std::uint64_t cluster)>& take) {
+    if (takeCoded(from + 1, m_grid.count(), take)) {
+        takeCoded(0, std::min(from, m_grid.count()), take);
+    }
 }
 
 }  // namespace vantor

@@ -110,21 +110,18 @@ std::vector<PhotoPieces::Trial> PhotoPieces::trialsAt(const Cut& cut,
     std::size_t tried = 0;
     const std::uint64_t from = clusters[cut.number - 1];
     const std::uint64_t usual = from + 1;
-    for (std::uint64_t step = 1; step < m_free.count() && tried < kMostTried && m_stop == 0; ++step) {
-        const std::uint64_t cluster = (from + step) % m_free.count();
-        if (!m_free.isFree(cluster) || m_kinds.kindOf(cluster) < ClusterKinds::Kind::Units ||
-            (cluster == usual && cut.number < clusters.size())) {
-            continue;
-        }
+    m_kinds.eachCoded(from, [&](std::uint64_t cluster) {
         const auto kept = clusters.begin() + static_cast<std::ptrdiff_t>(cut.number);
-        if (std::find(clusters.begin(), kept, cluster) != kept) {
-            continue;
+        const bool isItself = cluster == usual && cut.number < clusters.size();
+        if (!m_kinds.mayHoldUnits(cluster) || isItself ||
+            std::find(clusters.begin(), kept, cluster) != kept) {
+            return m_stop == 0;
         }
-        ++tried;
         if (const auto trial = tryAt(units, supply, cut, cluster, limit)) {
             trials.push_back(*trial);
         }
-    }
+        return ++tried < kMostTried && m_stop == 0;
+    });
     std::stable_sort(trials.begin(), trials.end(),
                      [](const Trial& a, const Trial& b) { return a.misfit < b.misfit; });
     return trials;

@@ -97,16 +97,12 @@ bool ProgressivePieces::joinAt(const Cut& cut, const std::vector<std::uint64_t>&
     const std::uint64_t cutAt = cut.number * m_free.clusterBytes();
     std::vector<Trial> trials;
     std::size_t tried = 0;
-    for (std::uint64_t step = 1; step < m_free.count() && tried < kProgressiveMostTried && m_stop == 0;
-         ++step) {
-        const std::uint64_t cluster = (way[cut.number - 1] + step) % m_free.count();
-        const auto kind = m_free.isFree(cluster) ? m_kinds.kindOf(cluster) : ClusterKinds::Kind::Foreign;
+    bool found = false;
+    m_kinds.eachCoded(way[cut.number - 1], [&](std::uint64_t cluster) {
         const bool isItself = kept != way.end() && cluster == *kept;
-        if (kind == ClusterKinds::Kind::Foreign || kind == ClusterKinds::Kind::Quiet || isItself ||
-            std::find(way.begin(), kept, cluster) != kept) {
-            continue;
+        if (isItself || std::find(way.begin(), kept, cluster) != kept) {
+            return m_stop == 0;
         }
-        ++tried;
         m_row->restart(cut.number, cluster);
         m_units->resume(cut.before);
         auto outcome = ProgressiveUnits::Outcome::Unit;
@@ -117,11 +113,15 @@ bool ProgressivePieces::joinAt(const Cut& cut, const std::vector<std::uint64_t>&
         }
         if (outcome == ProgressiveUnits::Outcome::Complete) {
             takeFound();
-            return true;
-        }
-        if (const std::uint64_t reach = m_units->place().seen - cutAt; reach > 2 * m_free.clusterBytes()) {
+            found = true;
+        } else if (const std::uint64_t reach = m_units->place().seen - cutAt;
+                   reach > 2 * m_free.clusterBytes()) {
             trials.push_back({cluster, reach});
         }
+        return !found && ++tried < kProgressiveMostTried && m_stop == 0;
+    });
+    if (found) {
+        return true;
     }
     std::stable_sort(trials.begin(), trials.end(),
                      [](const Trial& a, const Trial& b) { return a.reach > b.reach; });
