@@ -1,4 +1,5 @@
-// BDF, DXF, IDX, OFF and X files where they are text.
+// BDF, DXF, IDX, OFF, SAM and X files where they are text. Source for genes: the format
+// description of SAM, version 1.
 #include "formats/Format.h"
 #include "formats/documents/Text.h"
 
@@ -11,7 +12,7 @@ Extent walkMarkedText(ByteView& view) {
     static constexpr std::string_view kBeginnings[] = {
         "STARTFONT ",   "# VobSub index", "  0\r\nSECTION", "  0\nSECTION",  "999\r\n",
         "999\n",        "OFF\n",          " 0\nSECTION",    " 0\r\nSECTION", "0\nSECTION",
-        "0\r\nSECTION", "xof 0302txt",    "xof 0303txt"};
+        "0\r\nSECTION", "xof 0302txt",    "xof 0303txt",    "@HD\tVN:",      "##fileformat=VCF"};
     for (const auto beginning : kBeginnings) {
         if (view.matches(0, beginning))
             return walkText(view);
@@ -25,7 +26,7 @@ extern constexpr Format kMarkedText = {
     .name = "Marked text",
     .group = Group::Documents,
     .walk = walkMarkedText,
-    .extensions = " BDF DXF IDX OFF X ",
+    .extensions = " BDF DXF IDX OFF SAM X ",
     .strongMagic = false,
 };
 

@@ -251,6 +251,8 @@ std::optional<Extent> JpegWalk::motionPhoto() {
         trailer = endOfRecipeTrailer(m_view, at);
     if (trailer == 0)
         trailer = endOfPhoneNotes(m_view, at);
+    if (trailer == 0)
+        trailer = endOfConcatenatedNotes(m_view, at);
     if (trailer != 0)
         return withContent(completeAt(m_view, trailer, m_facts));
     const auto sphere = m_seesAround ? endOfSphereTrailer(m_view, at) : 0;

@@ -92,4 +92,20 @@ std::uint64_t endOfPhoneNotes(ByteView& view, std::uint64_t at) {
     return 0;
 }
 
+std::uint64_t endOfConcatenatedNotes(ByteView& view, std::uint64_t at) {
+    constexpr std::uint64_t kFoot = 12, kMost = 16 * 1024 * 1024;
+    const bool big = view.matches(at, "AXS!");
+    if (!big && !view.matches(at, "AXS*"))
+        return 0;
+    const std::string_view sign = big ? "AXS!" : "AXS*";
+    const auto limit = std::min(view.size(), addClamped(at, kMost));
+    for (auto foot = view.find('A', at + kFoot, limit); foot.found();
+         foot = view.find('A', foot.at + 1, limit)) {
+        const auto begin = view.number(foot.at + 4, 4, big ? Endian::Big : Endian::Little);
+        if (begin == at && view.matches(foot.at, sign) && view.holds(foot.at, kFoot))
+            return foot.at + kFoot;
+    }
+    return 0;
+}
+
 }  // namespace vantor

@@ -28,4 +28,9 @@ std::uint64_t endOfRecipeTrailer(ByteView& view, std::uint64_t at);
 // trailers.
 std::uint64_t endOfPhoneNotes(ByteView& view, std::uint64_t at);
 
+// Behind the block of notes that a cataloguing program begins at `at` with "AXS!" (or "AXS*", little-endian)
+// and ends with the same sign, where the block begins and four bytes more; 0 where none does. Source: public
+// notes on AFCP (AXS file concatenation protocol).
+std::uint64_t endOfConcatenatedNotes(ByteView& view, std::uint64_t at);
+
 }  // namespace vantor

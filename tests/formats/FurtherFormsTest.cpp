@@ -75,6 +75,57 @@ TEST(FurtherForms, TableOfStatisticsInPlainOrDeflatedForm_TellsItsLength) {
     expectEndsItself("SAV", deflated.le64(start).le64(start + 60).le64(30).fill(66, 5));
 }
 
+TEST(FurtherForms, TextOfGenes_EndsWithItsLastLine) {
+    for (const std::string_view first : {"@HD\tVN:1.6\n", "##fileformat=VCFv4.2\n"}) {
+        const Bytes whole = Build().text(first).text("chr1\t1\t.\tA\tC\n");
+        const std::string_view type = first.starts_with('@') ? "SAM" : "VCF";
+        expectEnd(type, Build().add(whole).fill(600), whole.size());
+    }
+}
+
+TEST(FurtherForms, SpeechThatIsPacked_TellsNoLength) {
+    const auto speech = [](std::string_view coding) {
+        return Build()
+            .text("NIST_1A\n   1024\nsample_count -i 20\nsample_n_bytes -i 2\nsample_coding -s3 ")
+            .text(coding)
+            .text("\nend_head\n")
+            .to(1024)
+            .fill(100, 3)
+            .bytes();
+    };
+    EXPECT_EQ(walkBytes("SPH", speech("pcm")).end, 1064U);
+    EXPECT_EQ(walkBytes("SPH", speech("pcm,embedded-shorten-v2.00")).verdict, Verdict::Unknown);
+}
+
+TEST(FurtherForms, PieceOfSoundOutOfItsTime_IsAnothers) {
+    Build out;
+    for (const std::uint64_t time : {10, 50, 90, 130, 171})
+        out.be16(0x300A).be16(time).be32(time == 10 ? 0xF8726FBB : 0x11223344).fill(12, 0x55);
+    expectEnd("MLP", out, 80);
+}
+
+TEST(FurtherForms, PackedObjectOfAnotherLength_IsDamage) {
+    Bytes pack = readFile(foreignFolder() / "git.pack");
+    ASSERT_EQ(walkBytes("PACK", pack).verdict, Verdict::Complete);
+    pack[12] ^= 1;  // the length of the first
+    EXPECT_EQ(walkBytes("PACK", pack).verdict, Verdict::Damaged);
+}
+
+TEST(FurtherForms, LzmaOfAToldLength_EndsThere_AndALargeDictionaryIsNotTried) {
+    Bytes file = readFile(foreignFolder() / "xz.lzma");
+    const auto told = [&](std::uint64_t bytes) {
+        return Build().add(file).put(5, Build().le64(bytes)).bytes();
+    };
+    constexpr std::uint64_t kUnpacked = 1092;  // the numbers up to 300, each on a line
+    EXPECT_EQ(walkBytes("LZMA", told(kUnpacked)).verdict, Verdict::Complete);
+    EXPECT_EQ(walkBytes("LZMA", told(kUnpacked + 1)).verdict, Verdict::Damaged);
+    Bytes spoilt = file;
+    spoilt[file.size() / 2] ^= 0x10;
+    EXPECT_NE(walkBytes("LZMA", spoilt).verdict, Verdict::Complete);
+    file[4] = 0x7F;
+    EXPECT_EQ(walkBytes("LZMA", file).verdict, Verdict::Unknown);
+}
+
 TEST(FurtherForms, KeysInLetters_EndWithTheirLastClosingLine) {
     const std::string_view one = "-----BEGIN X-----\nAAAA\n-----END X-----\n";
     for (const std::string_view noise : {"ab", "ab cd e", "q"}) {

@@ -214,6 +214,23 @@ TEST(Jpeg, TrailerOfACameraThatSeesAllAround_IsAsLongAsItSays) {
     EXPECT_EQ(end(other, bytes), other.size());
 }
 
+TEST(Jpeg, NotesOfACataloguingProgram_BelongToTheFile) {
+    for (const bool big : {true, false}) {
+        const auto notes = [&](std::uint64_t begin) {
+            const std::string_view sign = big ? "AXS!" : "AXS*";
+            Build out;
+            out.text(sign).be16(1).be16(1).be32(0).text("IPTC").fill(30, 'A').text(sign);
+            return (big ? out.be32(begin) : out.le32(begin)).fill(4).bytes();
+        };
+        const auto end = [&](std::size_t begin) {
+            const Bytes whole = Build().add(jpeg()).add(notes(begin)).add(noise(3000, 4));
+            return walkBytes("JPG", whole).end;
+        };
+        EXPECT_EQ(end(jpeg().size()), jpeg().size() + notes(0).size());
+        EXPECT_EQ(end(jpeg().size() + 1), jpeg().size());
+    }
+}
+
 TEST(Jpeg, MovieAtTheNextSector_IsTheNextFile) {
     Bytes picture = jpeg({}, Bytes(512 - jpeg({}, {}).size() % 512, 0x31));
     ASSERT_EQ(picture.size() % 512, 0U);

@@ -96,6 +96,14 @@ Bytes redCode() {
         .add(block("REOB", 30));
 }
 
+// Four pieces of sound, 40 samples apart, the time of which runs over.
+Bytes trueHd() {
+    Build out;
+    for (const std::uint64_t time : {0xFFD8, 0x0000, 0x0028, 0x0050})
+        out.be16(0x300A).be16(time).be32(time == 0xFFD8 ? 0xF8726FBA : 0x11223344).fill(12, 0x55);
+    return out;
+}
+
 }  // namespace
 
 std::vector<Sample> moduleSamples() {
@@ -103,7 +111,7 @@ std::vector<Sample> moduleSamples() {
         {"IT", impulseTracker()}, {"S3M", screamTracker3()},  {"STM", screamTracker2(), false, true},
         {"MTM", multiTracker()},  {"OKT", oktalyzer()},       {"NES", cartridge()},
         {"ACE", ace(), false},    {"SZDD", compressedFile()}, {"SZ", snappy(), false},
-        {"R3D", redCode()},
+        {"R3D", redCode()},       {"THD", trueHd(), false},
     };
 }
 

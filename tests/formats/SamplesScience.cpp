@@ -141,6 +141,26 @@ Bytes designFile() {
     return out.u8(1).u8(3).le16(24).fill(48, 2).le16(0xFFFF);
 }
 
+// "abcabcabcabc hello hello\n", with an end mark.
+Bytes lzma() {
+    return Build()
+        .be64(0x5D00008000FFFFFF)
+        .be64(0xFFFFFFFFFF003098)
+        .be64(0x88A7EA4BB19A5FCD)
+        .be64(0xB6C124343E28E7FF)
+        .be32(0xFFCB7F00)
+        .u8(0);
+}
+
+// A pack of a text, a change of it told by how far back it stands, and one told by its name.
+Bytes gitPack() {
+    const Bytes text = zlibStored("twenty letters of it"), change = zlibStored("abc");
+    Build out;
+    out.text("PACK").be32(2).be32(3).u8(0xB4).u8(1).add(text);
+    out.u8(0x63).u8(0x80).u8(0x20).add(change).u8(0x73).fill(20, 9).add(change);
+    return out.fill(20, 7);
+}
+
 std::vector<Sample> scienceSamples() {
     return {{"SQSH", Build().add(squashfs()).to(4096), false},
             {"CRAM", cram()},
@@ -149,11 +169,13 @@ std::vector<Sample> scienceSamples() {
             {"DGN", Build().add(designFile()).to(2048), false},
             {"JBG", jbig()},
             {"XAR", xar()},
+            {"LZMA", lzma()},
             {"LRZ", longRange()},
             {"EDF", bioSignals()},
             {"PSPPALETTE", Build().text("JASC-PAL\r\n0100\r\n3\r\n0 0 0\r\n255 0 255\r\n1 2 3\r\n")},
             {"CAP", monitorCapture()},
-            {"RDB", Build().add(redisValues()).le64(0)}};
+            {"RDB", Build().add(redisValues()).le64(0)},
+            {"PACK", gitPack()}};
 }
 
 }  // namespace vantor::test

@@ -111,6 +111,11 @@ std::vector<Sample> toldLengthSamples() {
         {"ROOT", grown(150, {{0, text("root")}, {4, be32(60000)}, {8, be32(100)}, {12, be32(150)}})},
         {"DSF", grown(130, {{0, text("DSD ")}, {4, le64(28)}, {12, le64(130)}, {28, text("fmt ")}})},
         {"DFF", grown(100, {{0, text("FRM8")}, {4, Build().be64(88)}, {12, text("DSD ")}})},
+        {"SPH", Build()
+                    .text("NIST_1A\n   1024\nsample_count -i 20\nsample_n_bytes -i 2\nchannel_count -i 2\n")
+                    .text("sample_coding -s3 pcm\nend_head\n")
+                    .to(1024)
+                    .fill(80, 3)},
         {"W64", grown(140, {{0, Build().text("riff").be32(0x2E91CF11).be64(0xA5D628DB04C10000)},
                             {16, le64(140)},
                             {24, text("wave")}})}};

@@ -13,7 +13,7 @@ namespace {
 
 // As this build links or loads them; the pictures' and movies' libraries run in the helpers.
 const char* const kLibraries =
-    "Qt %1, FFmpeg, LibRaw, libewf, libheif, libjxl, OpenJPEG, jxrlib, OpenSSL, zlib";
+    "Qt %1, FFmpeg, LibRaw, libewf, libheif, libjxl, OpenJPEG, jxrlib, OpenSSL, liblzma, zlib";
 
 }  // namespace
 
