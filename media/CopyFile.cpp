@@ -11,19 +11,15 @@
 #include <QObject>
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 
 #include "media/CopyMapFile.h"
 #include "media/PositionedRead.h"
 #include "media/SectorReader.h"
+#include "media/SystemWords.h"
 
 namespace vantor {
 
 namespace {
-
-QString systemWords(int error) {
-    return QString::fromLocal8Bit(std::strerror(error));
-}
 
 bool isZero(std::span<const std::uint8_t> bytes) {
     return std::all_of(bytes.begin(), bytes.end(), [](std::uint8_t b) { return b == 0; });

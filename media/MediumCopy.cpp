@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
-#include <cstring>
 #include <utility>
 
 #include "media/MediumMemory.h"
+#include "media/SystemWords.h"
 
 namespace vantor {
 
@@ -227,7 +227,7 @@ bool MediumCopy::takeStep(std::unique_lock<std::mutex>& lock) {
     lock.lock();
     m_onItsWay = {};
     if (!written) {
-        cannotWrite(QString::fromLocal8Bit(std::strerror(error)));
+        cannotWrite(systemWords(error));
     } else if (good == wanted || usable) {
         m_plan.done(*step, good);
         m_mapChanged = true;

@@ -7,7 +7,6 @@
 #include <QFile>
 #include <QObject>
 #include <cerrno>
-#include <cstring>
 #include <utility>
 
 #include "media/BlockDevice.h"
@@ -16,6 +15,7 @@
 #include "media/ImageFile.h"
 #include "media/ImageParts.h"
 #include "media/MappedImage.h"
+#include "media/SystemWords.h"
 #include "media/WindowedReader.h"
 
 namespace vantor {
@@ -216,7 +216,7 @@ std::optional<MediumFacts> probeMedium(const QString& path, QString* why, const 
     if (!sentence.isEmpty()) {
         return refuse(sentence);
     }
-    return facts ? facts : refuse(QString::fromLocal8Bit(std::strerror(errno)));
+    return facts ? facts : refuse(systemWords(errno));
 }
 
 std::unique_ptr<BlockSource> openMediumSource(const QString& path, OpenTerms terms) {

@@ -6,10 +6,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QObject>
-#include <QTemporaryFile>
 
 #include "saving/FreeSpace.h"
 #include "saving/StorageBelow.h"
+#include "saving/WholeFile.h"
 
 namespace vantor {
 
@@ -30,9 +30,9 @@ std::optional<QString> refuseDestination(const QString& folder) {
         return QObject::tr("%1 is not a folder.").arg(folder);
     }
     // Rights say little of a disk that is read-only or full.
-    QTemporaryFile trial(folder + QStringLiteral("/.vantor-XXXXXX"));
-    if (!trial.open() || trial.write("x", 1) != 1 || !trial.flush()) {
-        return QObject::tr("Nothing can be written into the folder %1: %2.").arg(folder, trial.errorString());
+    WholeFile trial(folder);
+    if (!trial.write("x")) {
+        return QObject::tr("Nothing can be written into the folder %1: %2.").arg(folder, trial.error());
     }
     return std::nullopt;
 }

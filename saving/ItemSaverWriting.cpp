@@ -49,13 +49,7 @@ std::optional<SavingFolder> ItemSaver::folderFor(const FoundItem& item, const Sa
         folder = destination.below(name.folder, &made);
     }
     if (!folder) {
-        const bool leadsAway = errno == ELOOP || errno == EXDEV;
-        outcome.error =
-            errno == ENOTDIR
-                ? QObject::tr("%1 is not a folder.").arg(m_destination->path() + u'/' + name.folder)
-                : (leadsAway ? QObject::tr("The folder %1/%2 leads elsewhere")
-                             : QObject::tr("The folder %1/%2 cannot be created"))
-                      .arg(m_destination->path(), name.folder);
+        outcome.error = whyNoFolder(m_destination->path() + u'/' + name.folder, errno);
         return std::nullopt;
     }
     if (m_state->folders.insert(name.folder).second) {

@@ -8,9 +8,12 @@
 #include <unistd.h>
 
 #include <QFile>
+#include <QObject>
 #include <QStringList>
 #include <cerrno>
 #include <utility>
+
+#include "media/SystemWords.h"
 
 namespace vantor {
 
@@ -107,6 +110,16 @@ std::optional<std::int64_t> SavingFolder::birth() const {
         return std::nullopt;
     }
     return info.stx_btime.tv_sec * kNanoseconds + info.stx_btime.tv_nsec;
+}
+
+QString whyNoFolder(const QString& path, int error) {
+    if (error == ENOTDIR) {
+        return QObject::tr("%1 is not a folder.").arg(path);
+    }
+    if (error == ELOOP || error == EXDEV) {
+        return QObject::tr("The folder %1 leads elsewhere").arg(path);
+    }
+    return QObject::tr("The folder %1 cannot be created: %2").arg(path, systemWords(error));
 }
 
 void SavingFolder::flush() const {

@@ -45,4 +45,8 @@ class SavingFolder {
     QString m_path;
 };
 
+// Why below() failed to make or open the folder at a path, for the user: without a full stop, but for
+// something else that bears the name. `error` is the errno that it left.
+QString whyNoFolder(const QString& path, int error);
+
 }  // namespace vantor

@@ -32,44 +32,6 @@ FileIdentity identityOf(const struct stat& info) {
     return {info.st_dev, info.st_ino};
 }
 
-// One line of the table of mounts.
-struct Mount {
-    QByteArray type;
-    QByteArray source;
-    QList<QByteArray> options;  // of the file system
-};
-
-// Blanks and the like stand there as three octal digits behind a backslash.
-QByteArray unescaped(const QByteArray& field) {
-    QByteArray text;
-    for (qsizetype i = 0; i < field.size(); ++i) {
-        bool isOctal = false;
-        const int code =
-            field.at(i) == '\\' && i + 3 < field.size() ? field.mid(i + 1, 3).toInt(&isOctal, 8) : 0;
-        text.append(isOctal ? static_cast<char>(code) : field.at(i));
-        i += isOctal ? 3 : 0;
-    }
-    return text;
-}
-
-QList<Mount> mountsOf(dev_t device, const QString& mountInfo) {
-    QFile table(mountInfo);
-    if (!table.open(QIODevice::ReadOnly)) {
-        return {};
-    }
-    const QByteArray number = QByteArray::number(major(device)) + ':' + QByteArray::number(minor(device));
-    QList<Mount> mounts;
-    for (const QByteArray& line : table.readAll().split('\n')) {
-        const QList<QByteArray> fields = line.split(' ');
-        const qsizetype dash = fields.indexOf("-");
-        if (fields.value(2) == number && dash > 0 && dash + 3 < fields.size()) {
-            mounts.append(
-                {fields.at(dash + 1), unescaped(fields.at(dash + 2)), fields.at(dash + 3).split(',')});
-        }
-    }
-    return mounts;
-}
-
 class Descent {
   public:
     explicit Descent(const KernelTables& tables) : m_tables(tables) {}
@@ -86,7 +48,7 @@ class Descent {
             if (major(next) != 0) {
                 addDisks(next);
             }
-            for (const Mount& mount : mountsOf(next, m_tables.mountInfo)) {
+            for (const Mount& mount : m_tables.mounts->of(next)) {
                 addMount(mount);
             }
         }
@@ -115,7 +77,7 @@ class Descent {
         if (mount.type == "overlay") {
             for (const QByteArray& option : mount.options) {
                 if (option.startsWith("upperdir=") || option.startsWith("workdir=")) {
-                    const auto info = statOf(unescaped(option.mid(option.indexOf('=') + 1)));
+                    const auto info = statOf(unescapedMountField(option.mid(option.indexOf('=') + 1)));
                     if (info) {
                         m_waiting.append(info->st_dev);
                     }

@@ -5,7 +5,10 @@
 
 #include <QSet>
 #include <QString>
+#include <memory>
 #include <utility>
+
+#include "saving/MountTable.h"
 
 namespace vantor {
 
@@ -21,11 +24,10 @@ struct Storage {
     }
 };
 
-// Where the kernel tells of its devices and mounts (Linux, Documentation/ABI/testing/sysfs-block and
-// Documentation/filesystems/proc.rst, "mountinfo").
+// Where the kernel tells of its devices (Linux, Documentation/ABI/testing/sysfs-block) and mounts.
 struct KernelTables {
     QString sysRoot = QStringLiteral("/sys");
-    QString mountInfo = QStringLiteral("/proc/self/mountinfo");
+    std::shared_ptr<MountTable> mounts = MountTable::ofThisProcess();
 };
 
 // Everything below the file systems of a device number (st_dev): disks under partitions, unlocked and joined

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <algorithm>
+#include <cerrno>
 #include <vector>
 
 #include "results/Mend.h"
@@ -84,8 +85,7 @@ SaveOutcome writeTwin(const TwinPlace& place, std::shared_ptr<const Mend> mend, 
     }
     const auto folder = top->below(place.folder);
     if (!folder) {
-        outcome.error =
-            QObject::tr("The folder %1/%2 cannot be created").arg(place.destination->path(), place.folder);
+        outcome.error = whyNoFolder(place.destination->path() + u'/' + place.folder, errno);
         return outcome;
     }
     const Twin& twin = mend->twin;

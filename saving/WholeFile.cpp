@@ -11,8 +11,9 @@
 #include <QRandomGenerator>
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <vector>
+
+#include "media/SystemWords.h"
 
 namespace vantor {
 
@@ -253,7 +254,7 @@ void removeLeftovers(const SavingFolder& folder) {
 }
 
 QString WholeFile::error() const {
-    return QString::fromLocal8Bit(std::strerror(m_error));
+    return systemWords(m_error);
 }
 
 }  // namespace vantor

@@ -968,14 +968,6 @@ Der Endsektor muss größer als der Startsektor sein.</translation>
         <translation>Der Ordner %1 liegt auf dem Medium, das durchsucht wird</translation>
     </message>
     <message>
-        <source>The folder %1/%2 leads elsewhere</source>
-        <translation>Der Ordner %1/%2 führt anderswohin</translation>
-    </message>
-    <message>
-        <source>The folder %1/%2 cannot be created</source>
-        <translation>Der Ordner %1/%2 kann nicht angelegt werden</translation>
-    </message>
-    <message>
         <source>The medium cannot be read any more</source>
         <translation>Das Medium ist nicht mehr lesbar</translation>
     </message>
@@ -2347,6 +2339,54 @@ Läuft auf %2.</translation>
     <message>
         <source>Over 30 minutes</source>
         <translation>Über 30 Minuten</translation>
+    </message>
+    <message>
+        <source>The disk is full</source>
+        <translation>Der Datenträger ist voll</translation>
+    </message>
+    <message>
+        <source>Your share of the disk is used up</source>
+        <translation>Ihr Anteil am Datenträger ist aufgebraucht</translation>
+    </message>
+    <message>
+        <source>The disk can only be read</source>
+        <translation>Der Datenträger lässt sich nur lesen</translation>
+    </message>
+    <message>
+        <source>The disk holds no file that is this long</source>
+        <translation>Der Datenträger nimmt keine so lange Datei auf</translation>
+    </message>
+    <message>
+        <source>The disk reports an error</source>
+        <translation>Der Datenträger meldet einen Fehler</translation>
+    </message>
+    <message>
+        <source>You do not have the right to do this</source>
+        <translation>Dazu fehlt Ihnen das Recht</translation>
+    </message>
+    <message>
+        <source>The name is too long</source>
+        <translation>Der Name ist zu lang</translation>
+    </message>
+    <message>
+        <source>There is nothing of this name</source>
+        <translation>Es gibt nichts mit diesem Namen</translation>
+    </message>
+    <message>
+        <source>The device is not there</source>
+        <translation>Das Gerät ist nicht da</translation>
+    </message>
+    <message>
+        <source>There is no medium in the device</source>
+        <translation>Im Gerät steckt kein Medium</translation>
+    </message>
+    <message>
+        <source>The folder %1 leads elsewhere</source>
+        <translation>Der Ordner %1 führt anderswohin</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be created: %2</source>
+        <translation>Der Ordner %1 kann nicht angelegt werden: %2</translation>
     </message>
 </context>
 <context>

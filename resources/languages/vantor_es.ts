@@ -968,14 +968,6 @@ El sector final debe ser mayor que el sector inicial.</translation>
         <translation>La carpeta %1 está en el medio que se examina</translation>
     </message>
     <message>
-        <source>The folder %1/%2 leads elsewhere</source>
-        <translation>La carpeta %1/%2 lleva a otro lugar</translation>
-    </message>
-    <message>
-        <source>The folder %1/%2 cannot be created</source>
-        <translation>No se puede crear la carpeta %1/%2</translation>
-    </message>
-    <message>
         <source>The medium cannot be read any more</source>
         <translation>El medio ya no se puede leer</translation>
     </message>
@@ -2347,6 +2339,54 @@ Se ejecuta en %2.</translation>
     <message>
         <source>Over 30 minutes</source>
         <translation>Más de 30 minutos</translation>
+    </message>
+    <message>
+        <source>The disk is full</source>
+        <translation>El disco está lleno</translation>
+    </message>
+    <message>
+        <source>Your share of the disk is used up</source>
+        <translation>Su parte del disco está agotada</translation>
+    </message>
+    <message>
+        <source>The disk can only be read</source>
+        <translation>El disco solo se puede leer</translation>
+    </message>
+    <message>
+        <source>The disk holds no file that is this long</source>
+        <translation>El disco no admite ningún archivo tan largo</translation>
+    </message>
+    <message>
+        <source>The disk reports an error</source>
+        <translation>El disco comunica un error</translation>
+    </message>
+    <message>
+        <source>You do not have the right to do this</source>
+        <translation>No tiene derecho a hacer esto</translation>
+    </message>
+    <message>
+        <source>The name is too long</source>
+        <translation>El nombre es demasiado largo</translation>
+    </message>
+    <message>
+        <source>There is nothing of this name</source>
+        <translation>No hay nada con este nombre</translation>
+    </message>
+    <message>
+        <source>The device is not there</source>
+        <translation>El dispositivo no está</translation>
+    </message>
+    <message>
+        <source>There is no medium in the device</source>
+        <translation>No hay ningún soporte en el dispositivo</translation>
+    </message>
+    <message>
+        <source>The folder %1 leads elsewhere</source>
+        <translation>La carpeta %1 lleva a otro lugar</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be created: %2</source>
+        <translation>No se puede crear la carpeta %1: %2</translation>
     </message>
 </context>
 <context>

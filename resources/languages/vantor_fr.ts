@@ -968,14 +968,6 @@ Le secteur de fin doit être supérieur au secteur de début.</translation>
         <translation>Le dossier %1 se trouve sur le support parcouru</translation>
     </message>
     <message>
-        <source>The folder %1/%2 leads elsewhere</source>
-        <translation>Le dossier %1/%2 mène ailleurs</translation>
-    </message>
-    <message>
-        <source>The folder %1/%2 cannot be created</source>
-        <translation>Impossible de créer le dossier %1/%2</translation>
-    </message>
-    <message>
         <source>The medium cannot be read any more</source>
         <translation>Le support ne peut plus être lu</translation>
     </message>
@@ -2347,6 +2339,54 @@ Fonctionne avec %2.</translation>
     <message>
         <source>Over 30 minutes</source>
         <translation>Plus de 30 minutes</translation>
+    </message>
+    <message>
+        <source>The disk is full</source>
+        <translation>Le disque est plein</translation>
+    </message>
+    <message>
+        <source>Your share of the disk is used up</source>
+        <translation>Votre part du disque est épuisée</translation>
+    </message>
+    <message>
+        <source>The disk can only be read</source>
+        <translation>Le disque ne peut être que lu</translation>
+    </message>
+    <message>
+        <source>The disk holds no file that is this long</source>
+        <translation>Le disque n’accepte aucun fichier de cette longueur</translation>
+    </message>
+    <message>
+        <source>The disk reports an error</source>
+        <translation>Le disque signale une erreur</translation>
+    </message>
+    <message>
+        <source>You do not have the right to do this</source>
+        <translation>Vous n’avez pas le droit de faire cela</translation>
+    </message>
+    <message>
+        <source>The name is too long</source>
+        <translation>Le nom est trop long</translation>
+    </message>
+    <message>
+        <source>There is nothing of this name</source>
+        <translation>Rien ne porte ce nom</translation>
+    </message>
+    <message>
+        <source>The device is not there</source>
+        <translation>L’appareil n’est pas là</translation>
+    </message>
+    <message>
+        <source>There is no medium in the device</source>
+        <translation>Il n’y a pas de support dans l’appareil</translation>
+    </message>
+    <message>
+        <source>The folder %1 leads elsewhere</source>
+        <translation>Le dossier %1 mène ailleurs</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be created: %2</source>
+        <translation>Impossible de créer le dossier %1 : %2</translation>
     </message>
 </context>
 <context>

@@ -968,14 +968,6 @@ Il settore finale deve essere maggiore del settore iniziale.</translation>
         <translation>La cartella %1 si trova sul supporto in esame</translation>
     </message>
     <message>
-        <source>The folder %1/%2 leads elsewhere</source>
-        <translation>La cartella %1/%2 porta altrove</translation>
-    </message>
-    <message>
-        <source>The folder %1/%2 cannot be created</source>
-        <translation>Impossibile creare la cartella %1/%2</translation>
-    </message>
-    <message>
         <source>The medium cannot be read any more</source>
         <translation>Il supporto non è più leggibile</translation>
     </message>
@@ -2347,6 +2339,54 @@ In esecuzione su %2.</translation>
     <message>
         <source>Over 30 minutes</source>
         <translation>Oltre 30 minuti</translation>
+    </message>
+    <message>
+        <source>The disk is full</source>
+        <translation>Il disco è pieno</translation>
+    </message>
+    <message>
+        <source>Your share of the disk is used up</source>
+        <translation>La Sua parte del disco è esaurita</translation>
+    </message>
+    <message>
+        <source>The disk can only be read</source>
+        <translation>Il disco può essere solo letto</translation>
+    </message>
+    <message>
+        <source>The disk holds no file that is this long</source>
+        <translation>Il disco non accetta file così lunghi</translation>
+    </message>
+    <message>
+        <source>The disk reports an error</source>
+        <translation>Il disco segnala un errore</translation>
+    </message>
+    <message>
+        <source>You do not have the right to do this</source>
+        <translation>Non ha il diritto di fare questo</translation>
+    </message>
+    <message>
+        <source>The name is too long</source>
+        <translation>Il nome è troppo lungo</translation>
+    </message>
+    <message>
+        <source>There is nothing of this name</source>
+        <translation>Non c’è nulla con questo nome</translation>
+    </message>
+    <message>
+        <source>The device is not there</source>
+        <translation>Il dispositivo non c’è</translation>
+    </message>
+    <message>
+        <source>There is no medium in the device</source>
+        <translation>Non c’è alcun supporto nel dispositivo</translation>
+    </message>
+    <message>
+        <source>The folder %1 leads elsewhere</source>
+        <translation>La cartella %1 porta altrove</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be created: %2</source>
+        <translation>Impossibile creare la cartella %1: %2</translation>
     </message>
 </context>
 <context>

@@ -965,14 +965,6 @@ End Sector should be greater than Start Sector.</source>
         <translation>フォルダー %1 は検索中のメディア上にあります</translation>
     </message>
     <message>
-        <source>The folder %1/%2 leads elsewhere</source>
-        <translation>フォルダー %1/%2 は別の場所を指しています</translation>
-    </message>
-    <message>
-        <source>The folder %1/%2 cannot be created</source>
-        <translation>フォルダー %1/%2 を作成できません</translation>
-    </message>
-    <message>
         <source>The medium cannot be read any more</source>
         <translation>メディアを読み取れなくなりました</translation>
     </message>
@@ -2314,6 +2306,54 @@ GNU General Public License バージョン 3 以降によるフリーソフト�
     <message>
         <source>Over 30 minutes</source>
         <translation>30 分超</translation>
+    </message>
+    <message>
+        <source>The disk is full</source>
+        <translation>ディスクがいっぱいです</translation>
+    </message>
+    <message>
+        <source>Your share of the disk is used up</source>
+        <translation>ディスクの割り当て分を使い切りました</translation>
+    </message>
+    <message>
+        <source>The disk can only be read</source>
+        <translation>ディスクは読み取り専用です</translation>
+    </message>
+    <message>
+        <source>The disk holds no file that is this long</source>
+        <translation>ディスクにはこの長さのファイルを保存できません</translation>
+    </message>
+    <message>
+        <source>The disk reports an error</source>
+        <translation>ディスクがエラーを報告しています</translation>
+    </message>
+    <message>
+        <source>You do not have the right to do this</source>
+        <translation>これを行う権限がありません</translation>
+    </message>
+    <message>
+        <source>The name is too long</source>
+        <translation>名前が長すぎます</translation>
+    </message>
+    <message>
+        <source>There is nothing of this name</source>
+        <translation>この名前のものはありません</translation>
+    </message>
+    <message>
+        <source>The device is not there</source>
+        <translation>デバイスがありません</translation>
+    </message>
+    <message>
+        <source>There is no medium in the device</source>
+        <translation>デバイスにメディアが入っていません</translation>
+    </message>
+    <message>
+        <source>The folder %1 leads elsewhere</source>
+        <translation>フォルダー %1 は別の場所を指しています</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be created: %2</source>
+        <translation>フォルダー %1 を作成できません: %2</translation>
     </message>
 </context>
 <context>

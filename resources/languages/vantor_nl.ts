@@ -968,14 +968,6 @@ De eindsector moet groter zijn dan de beginsector.</translation>
         <translation>De map %1 staat op het medium dat wordt doorzocht</translation>
     </message>
     <message>
-        <source>The folder %1/%2 leads elsewhere</source>
-        <translation>De map %1/%2 leidt ergens anders heen</translation>
-    </message>
-    <message>
-        <source>The folder %1/%2 cannot be created</source>
-        <translation>De map %1/%2 kan niet worden gemaakt</translation>
-    </message>
-    <message>
         <source>The medium cannot be read any more</source>
         <translation>Het medium kan niet meer worden gelezen</translation>
     </message>
@@ -2347,6 +2339,54 @@ Wordt uitgevoerd op %2.</translation>
     <message>
         <source>Over 30 minutes</source>
         <translation>Boven 30 minuten</translation>
+    </message>
+    <message>
+        <source>The disk is full</source>
+        <translation>De schijf is vol</translation>
+    </message>
+    <message>
+        <source>Your share of the disk is used up</source>
+        <translation>Uw deel van de schijf is opgebruikt</translation>
+    </message>
+    <message>
+        <source>The disk can only be read</source>
+        <translation>De schijf kan alleen worden gelezen</translation>
+    </message>
+    <message>
+        <source>The disk holds no file that is this long</source>
+        <translation>De schijf kan geen bestand van deze lengte bevatten</translation>
+    </message>
+    <message>
+        <source>The disk reports an error</source>
+        <translation>De schijf meldt een fout</translation>
+    </message>
+    <message>
+        <source>You do not have the right to do this</source>
+        <translation>U hebt niet het recht om dit te doen</translation>
+    </message>
+    <message>
+        <source>The name is too long</source>
+        <translation>De naam is te lang</translation>
+    </message>
+    <message>
+        <source>There is nothing of this name</source>
+        <translation>Er is niets met deze naam</translation>
+    </message>
+    <message>
+        <source>The device is not there</source>
+        <translation>Het apparaat is er niet</translation>
+    </message>
+    <message>
+        <source>There is no medium in the device</source>
+        <translation>Er zit geen medium in het apparaat</translation>
+    </message>
+    <message>
+        <source>The folder %1 leads elsewhere</source>
+        <translation>De map %1 leidt ergens anders heen</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be created: %2</source>
+        <translation>De map %1 kan niet worden gemaakt: %2</translation>
     </message>
 </context>
 <context>

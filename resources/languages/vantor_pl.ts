@@ -971,14 +971,6 @@ Sektor końcowy musi być większy od sektora początkowego.</translation>
         <translation>Folder %1 leży na przeszukiwanym nośniku</translation>
     </message>
     <message>
-        <source>The folder %1/%2 leads elsewhere</source>
-        <translation>Folder %1/%2 prowadzi gdzie indziej</translation>
-    </message>
-    <message>
-        <source>The folder %1/%2 cannot be created</source>
-        <translation>Nie można utworzyć folderu %1/%2</translation>
-    </message>
-    <message>
         <source>The medium cannot be read any more</source>
         <translation>Nośnika nie można już odczytać</translation>
     </message>
@@ -2380,6 +2372,54 @@ Działa w systemie %2.</translation>
     <message>
         <source>Over 30 minutes</source>
         <translation>Powyżej 30 minut</translation>
+    </message>
+    <message>
+        <source>The disk is full</source>
+        <translation>Dysk jest pełny</translation>
+    </message>
+    <message>
+        <source>Your share of the disk is used up</source>
+        <translation>Twój przydział na dysku jest wyczerpany</translation>
+    </message>
+    <message>
+        <source>The disk can only be read</source>
+        <translation>Dysk można tylko odczytywać</translation>
+    </message>
+    <message>
+        <source>The disk holds no file that is this long</source>
+        <translation>Dysk nie mieści tak długiego pliku</translation>
+    </message>
+    <message>
+        <source>The disk reports an error</source>
+        <translation>Dysk zgłasza błąd</translation>
+    </message>
+    <message>
+        <source>You do not have the right to do this</source>
+        <translation>Nie masz do tego uprawnień</translation>
+    </message>
+    <message>
+        <source>The name is too long</source>
+        <translation>Nazwa jest za długa</translation>
+    </message>
+    <message>
+        <source>There is nothing of this name</source>
+        <translation>Nie ma niczego o tej nazwie</translation>
+    </message>
+    <message>
+        <source>The device is not there</source>
+        <translation>Nie ma tego urządzenia</translation>
+    </message>
+    <message>
+        <source>There is no medium in the device</source>
+        <translation>W urządzeniu nie ma nośnika</translation>
+    </message>
+    <message>
+        <source>The folder %1 leads elsewhere</source>
+        <translation>Folder %1 prowadzi gdzie indziej</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be created: %2</source>
+        <translation>Nie można utworzyć folderu %1: %2</translation>
     </message>
 </context>
 <context>

@@ -968,14 +968,6 @@ O setor final deve ser maior que o setor inicial.</translation>
         <translation>A pasta %1 está na mídia que é examinada</translation>
     </message>
     <message>
-        <source>The folder %1/%2 leads elsewhere</source>
-        <translation>A pasta %1/%2 leva a outro lugar</translation>
-    </message>
-    <message>
-        <source>The folder %1/%2 cannot be created</source>
-        <translation>Não é possível criar a pasta %1/%2</translation>
-    </message>
-    <message>
         <source>The medium cannot be read any more</source>
         <translation>A mídia não pode mais ser lida</translation>
     </message>
@@ -2347,6 +2339,54 @@ Executando em %2.</translation>
     <message>
         <source>Over 30 minutes</source>
         <translation>Mais de 30 minutos</translation>
+    </message>
+    <message>
+        <source>The disk is full</source>
+        <translation>O disco está cheio</translation>
+    </message>
+    <message>
+        <source>Your share of the disk is used up</source>
+        <translation>A sua parte do disco se esgotou</translation>
+    </message>
+    <message>
+        <source>The disk can only be read</source>
+        <translation>O disco só pode ser lido</translation>
+    </message>
+    <message>
+        <source>The disk holds no file that is this long</source>
+        <translation>O disco não aceita nenhum arquivo tão longo</translation>
+    </message>
+    <message>
+        <source>The disk reports an error</source>
+        <translation>O disco informa um erro</translation>
+    </message>
+    <message>
+        <source>You do not have the right to do this</source>
+        <translation>Você não tem o direito de fazer isso</translation>
+    </message>
+    <message>
+        <source>The name is too long</source>
+        <translation>O nome é longo demais</translation>
+    </message>
+    <message>
+        <source>There is nothing of this name</source>
+        <translation>Não há nada com esse nome</translation>
+    </message>
+    <message>
+        <source>The device is not there</source>
+        <translation>O dispositivo não está presente</translation>
+    </message>
+    <message>
+        <source>There is no medium in the device</source>
+        <translation>Não há mídia no dispositivo</translation>
+    </message>
+    <message>
+        <source>The folder %1 leads elsewhere</source>
+        <translation>A pasta %1 leva a outro lugar</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be created: %2</source>
+        <translation>Não é possível criar a pasta %1: %2</translation>
     </message>
 </context>
 <context>

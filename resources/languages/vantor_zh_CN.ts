@@ -965,14 +965,6 @@ End Sector should be greater than Start Sector.</source>
         <translation>文件夹 %1 位于正在搜索的介质上</translation>
     </message>
     <message>
-        <source>The folder %1/%2 leads elsewhere</source>
-        <translation>文件夹 %1/%2 指向别处</translation>
-    </message>
-    <message>
-        <source>The folder %1/%2 cannot be created</source>
-        <translation>无法创建文件夹 %1/%2</translation>
-    </message>
-    <message>
         <source>The medium cannot be read any more</source>
         <translation>介质已无法读取</translation>
     </message>
@@ -2314,6 +2306,54 @@ Running on %2.</source>
     <message>
         <source>Over 30 minutes</source>
         <translation>大于 30 分钟</translation>
+    </message>
+    <message>
+        <source>The disk is full</source>
+        <translation>磁盘已满</translation>
+    </message>
+    <message>
+        <source>Your share of the disk is used up</source>
+        <translation>您的磁盘配额已用完</translation>
+    </message>
+    <message>
+        <source>The disk can only be read</source>
+        <translation>磁盘为只读</translation>
+    </message>
+    <message>
+        <source>The disk holds no file that is this long</source>
+        <translation>磁盘无法容纳这么长的文件</translation>
+    </message>
+    <message>
+        <source>The disk reports an error</source>
+        <translation>磁盘报告了错误</translation>
+    </message>
+    <message>
+        <source>You do not have the right to do this</source>
+        <translation>您没有执行此操作的权限</translation>
+    </message>
+    <message>
+        <source>The name is too long</source>
+        <translation>名称太长</translation>
+    </message>
+    <message>
+        <source>There is nothing of this name</source>
+        <translation>没有此名称的内容</translation>
+    </message>
+    <message>
+        <source>The device is not there</source>
+        <translation>设备不存在</translation>
+    </message>
+    <message>
+        <source>There is no medium in the device</source>
+        <translation>设备中没有介质</translation>
+    </message>
+    <message>
+        <source>The folder %1 leads elsewhere</source>
+        <translation>文件夹 %1 指向别处</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be created: %2</source>
+        <translation>无法创建文件夹 %1：%2</translation>
     </message>
 </context>
 <context>

@@ -76,7 +76,7 @@ TEST(Command, UnreadableMediumIsToldToOrdinaryUsers) {
     ASSERT_EQ(::chmod(QFile::encodeName(folder.path()).constData(), 0755), 0);
     const CommandRun run = runCommand(nobody.mid(1) + QStringList{image}, nobody.first());
     EXPECT_EQ(run.exitCode, 5);
-    EXPECT_TRUE(run.err.contains("Permission denied")) << run.err.constData();
+    EXPECT_TRUE(run.err.contains("You do not have the right to do this")) << run.err.constData();
     EXPECT_TRUE(run.err.contains("You may not read this image file.")) << run.err.constData();
 }
 

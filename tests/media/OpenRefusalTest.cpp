@@ -89,7 +89,7 @@ TEST_F(OpenRefusalTest, AnImageOfSomebodyElse) {
     const QString told = shelf.addImage(file).refusal;
     EXPECT_TRUE(told.endsWith(wordsForRefusal(OpenRefusal::MayNotReadImage))) << told.toStdString();
     const QString absent = shelf.addImage(folder.filePath(QStringLiteral("absent"))).refusal;
-    EXPECT_TRUE(absent.endsWith(QStringLiteral("No such file or directory."))) << absent.toStdString();
+    EXPECT_TRUE(absent.endsWith(QStringLiteral("There is nothing of this name."))) << absent.toStdString();
 }
 
 TEST_F(OpenRefusalTest, WhatIsNotThere) {

@@ -87,6 +87,8 @@ TEST(RefuseDestination, OnlyAFolderThatTakesFilesWillDo) {
     const auto readOnly = refuseDestination(QStringLiteral("/proc/self"));
     ASSERT_TRUE(readOnly) << "nobody writes there, whatever their rights";
     EXPECT_TRUE(readOnly->contains(QStringLiteral("Nothing can be written")));
+    EXPECT_TRUE(readOnly->endsWith(QStringLiteral(": You do not have the right to do this.")))
+        << readOnly->toStdString();
     EXPECT_EQ(fileSystemOf(folder.path()), fileSystemOf(file.fileName()));
     EXPECT_NE(fileSystemOf(folder.path()), fileSystemOf(QStringLiteral("/proc")));
     EXPECT_FALSE(fileSystemOf(folder.filePath(QStringLiteral("gone"))));

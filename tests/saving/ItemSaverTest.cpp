@@ -47,6 +47,30 @@ TEST(ItemSaver, FolderThatCannotBeMadeIsTold) {
     EXPECT_EQ(outcome.error, folder.path() + "/JPG is not a folder.");
 }
 
+TEST(ItemSaver, DiskThatTurnsReadOnly_IsToldAndKeepsWhatIsSaved) {
+    const QTemporaryDir home;
+    const QByteArray disk = QFile::encodeName(home.path());
+    if (::mount("none", disk.constData(), "tmpfs", 0, "size=1m") != 0) {
+        GTEST_SKIP() << "nothing can be mounted here";
+    }
+    ScriptedMedium medium = letters(8);
+    ScriptedReader reader(medium);
+    const ItemSaver saver(home.path());
+    EXPECT_TRUE(saver.saveRuns("JPG", "x", run(0, 2), reader).saved);
+    ASSERT_EQ(::mount("none", disk.constData(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr), 0);
+    const SaveOutcome file = saver.saveRuns("JPG", "y", run(2, 4), reader);
+    const SaveOutcome folder = saver.saveRuns("PNG", "z", run(4, 6), reader);
+    EXPECT_EQ(contentsOf(home.filePath("JPG/x")).size(), 1024);
+    EXPECT_EQ(QDir(home.filePath("JPG")).entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::Hidden),
+              QStringList("x"));
+    ::umount2(disk.constData(), MNT_DETACH);
+    EXPECT_FALSE(file.saved);
+    EXPECT_EQ(file.error, "The disk can only be read");
+    EXPECT_FALSE(folder.saved);
+    EXPECT_EQ(folder.error,
+              "The folder " + home.path() + "/PNG cannot be created: The disk can only be read");
+}
+
 TEST(ItemSaver, FolderThatIsALinkIsNotFollowed) {
     const QTemporaryDir folder, card;
     ASSERT_TRUE(QFile::link(card.path(), folder.filePath("JPG")));

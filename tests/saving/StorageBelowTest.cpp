@@ -49,7 +49,9 @@ class StorageBelow : public testing::Test {
         file.write("40 1 " + number + " / /mnt rw - " + type + ' ' + source + ' ' + options + '\n');
     }
     Storage below(dev_t device) const { return storageBelow(device, tables()); }
-    KernelTables tables() const { return {m_home.filePath("sys"), m_home.filePath("mountinfo")}; }
+    KernelTables tables() const {
+        return {m_home.filePath("sys"), std::make_shared<MountTable>(m_home.filePath("mountinfo"))};
+    }
     FileIdentity identityOf(const QString& name) const {
         const struct stat info = statOf(m_home.filePath(name));
         return {info.st_dev, info.st_ino};
