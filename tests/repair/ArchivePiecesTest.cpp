@@ -166,17 +166,24 @@ TEST(ArchivePieces, EffortThatIsUsedUp_EndsTheSearch) {
 }
 
 // A picture within an archive begins anywhere; a file of its own keeps its place.
+// Between the pieces of one member, which could not be cut twice otherwise.
 TEST(ArchivePieces, WholeFilesBetween_KeepTheirPlaces) {
     const QByteArray archive = makeArchive(1, kDocument);
-    const QByteArray other = makeArchive(2, {{9000, false}});
     ScatteredCard card;
     const std::uint64_t first = card.put(archive, 0, 4);
-    const std::uint64_t between = card.put(other);
-    card.put(archive, 4);
-    const SectorRun whole{between, between + static_cast<std::uint64_t>(clustersOf(other)) * 8};
-    const auto found = completedArchive(card, {first}, {whole, {first + 3, first + 6}});
+    std::vector<SectorRun> whole{{first + 3, first + 6}};
+    qsizetype from = 4;
+    for (const qsizetype to : {qsizetype{8}, clustersOf(archive)}) {
+        const QByteArray other = makeArchive(static_cast<unsigned>(to), {{9000, false}});
+        const std::uint64_t between = card.put(other);
+        whole.push_back({between, between + static_cast<std::uint64_t>(clustersOf(other)) * 8});
+        card.put(archive, from, to);
+        from = to;
+    }
+    const auto found = completedArchive(card, {first}, whole);
     ASSERT_TRUE(found);
     EXPECT_EQ(card.contentOf(*found), archive);
+    EXPECT_FALSE(completedArchive(card, {first})) << "where these may be its own too";
 }
 
 // A member that happens to begin with a sector is taken for an archive.

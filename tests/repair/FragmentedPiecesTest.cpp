@@ -120,4 +120,23 @@ TEST(FragmentedPieces, FragmentThatIsGone_EndsWhatIsProved) {
     EXPECT_TRUE(!found[0] || found[0]->proof == AssemblyProof::Likely);
 }
 
+// As where one of another recording has come to lie at its place.
+TEST(FragmentedPieces, FragmentOfAnotherNumber_IsNotOfTheMovie) {
+    QByteArray one = makeFragmented(1, 203, true);
+    const QByteArray other = makeFragmented(2, 187, true);
+    const auto before = completedOf(inTurn(one, other));
+    ASSERT_TRUE(before[0]);
+    ASSERT_EQ(before[0]->proof, AssemblyProof::Proved);
+    qsizetype at = -1;
+    for (int i = 0; i < 6; ++i) {
+        at = one.indexOf("mfhd", at + 1);
+    }
+    ASSERT_EQ(one.at(at + 11), 6);
+    one[at + 11] = 16;
+    const auto found = completedOf(inTurn(one, other));
+    EXPECT_TRUE(!found[0] || found[0]->proof == AssemblyProof::Likely);
+    ASSERT_TRUE(found[1]);
+    EXPECT_EQ(found[1]->bytes, other);
+}
+
 }  // namespace vantor

@@ -86,6 +86,11 @@ TEST(WrittenInTurns, OthersInTheWay_DivideTheTurns) {
     }
 }
 
+TEST(WrittenInTurns, AFewAreChance_AndOneMoreIsNot) {
+    EXPECT_TRUE(turnsOf(everySo(inTurns(16, 4, 4), 1)).empty()) << "others lie between three times";
+    EXPECT_EQ(turnsOf(everySo(inTurns(17, 4, 4), 1)).size(), 1U);
+}
+
 TEST(WrittenInTurns, WhatIsUneven_IsNotExplained) {
     std::mt19937 random(3);
     std::vector<std::uint64_t> ordinals;
