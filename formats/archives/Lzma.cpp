@@ -55,7 +55,6 @@ Extent walkLzma(ByteView& view) {
             return decoder.used() > kLzmaHead ? cutOffAt(view, view.size()) : unknownExtent();
         switch (decoder.step(input)) {
             case LZMA_OK:
-            case LZMA_BUF_ERROR:
                 break;
             case LZMA_STREAM_END:
                 return completeAt(view, decoder.used());

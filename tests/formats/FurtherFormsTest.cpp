@@ -1,5 +1,6 @@
 // Forms of formats that have another one beside: each ends where it says.
 #include <gtest/gtest.h>
+#include <zlib.h>
 
 #include "Corpus.h"
 #include "Samples.h"
@@ -102,6 +103,27 @@ TEST(FurtherForms, PieceOfSoundOutOfItsTime_IsAnothers) {
     for (const std::uint64_t time : {10, 50, 90, 130, 171})
         out.be16(0x300A).be16(time).be32(time == 10 ? 0xF8726FBB : 0x11223344).fill(12, 0x55);
     expectEnd("MLP", out, 80);
+}
+
+TEST(FurtherForms, PackThatUnpacksToFarMoreThanItself_IsGivenUp) {
+    constexpr std::size_t kBytes = 1 << 20;
+    const Bytes zeros(kBytes, 0);
+    Bytes object(::compressBound(kBytes));
+    uLongf packed = object.size();
+    ASSERT_EQ(::compress(object.data(), &packed, zeros.data(), zeros.size()), Z_OK);
+    object.resize(packed);
+    const Bytes head = {0xB0, 0x80, 0x80, 0x04};  // a blob of kBytes
+    object.insert(object.begin(), head.begin(), head.end());
+    const auto packOf = [&](std::uint8_t times) {
+        Bytes pack = {'P', 'A', 'C', 'K', 0, 0, 0, 2, 0, 0, 1, times};
+        for (int i = 0; i < 0x100 + times; ++i) {
+            pack.insert(pack.end(), object.begin(), object.end());
+        }
+        pack.resize(pack.size() + 20);
+        return pack;
+    };
+    EXPECT_EQ(walkBytes("PACK", packOf(0)).verdict, Verdict::Complete);
+    EXPECT_EQ(walkBytes("PACK", packOf(100)).verdict, Verdict::Unknown);
 }
 
 TEST(FurtherForms, PackedObjectOfAnotherLength_IsDamage) {
