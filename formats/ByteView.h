@@ -78,12 +78,17 @@ class ByteView {
     // True once the cap on reading was hit; from then on the view reads as ended.
     bool exhausted() const { return m_budget == 0; }
 
+    // Bytes that were unpacked from all its streams together, for those who bound that.
+    std::uint64_t unpacked() const { return m_unpacked; }
+    void noteUnpacked(std::uint64_t bytes) { m_unpacked += bytes; }
+
   private:
     void refill(std::uint64_t at, std::size_t atLeast);
 
     ByteSource& m_source;
     const std::uint64_t m_size;
-    std::uint64_t m_budget;                 // bytes that may still be read
+    std::uint64_t m_budget;  // bytes that may still be read
+    std::uint64_t m_unpacked = 0;
     std::vector<std::uint8_t> m_buffer;     // of kWindowBytes once something had to be copied
     const std::uint8_t* m_bytes = nullptr;  // the window: m_buffer's, or where the source holds it
     std::uint64_t m_start = 0;              // offset of m_bytes[0]

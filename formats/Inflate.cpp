@@ -15,8 +15,8 @@ constexpr int kRawDeflate = -MAX_WBITS;
 constexpr std::size_t kOutputBytes = 64 * 1024;
 constexpr std::size_t kMostInput = ByteView::kWindowBytes;
 
-// Output that any stream may have, and beyond it for each byte of input: real files stay under both,
-// compressed bombs do not burn minutes.
+// Output that all streams of a file together may have, and beyond it for each byte of the file up to there:
+// real files stay under both, compressed bombs do not burn minutes.
 constexpr std::uint64_t kFreeOutput = 256 * 1024 * 1024;
 constexpr std::uint64_t kFairRatio = 64;
 
@@ -67,8 +67,8 @@ InflateResult Inflater::run(ByteView& view, std::uint64_t at, std::uint64_t most
             m_result.outcome = InflateOutcome::Done;
             break;
         }
-        const auto fair = addClamped(kFreeOutput, mulClamped(kFairRatio, m_result.end - at));
-        if (m_result.produced > mostOutput || m_result.produced > fair) {
+        const auto fair = addClamped(kFreeOutput, mulClamped(kFairRatio, m_result.end));
+        if (m_result.produced > mostOutput || view.unpacked() + m_result.produced > fair) {
             m_result.outcome = InflateOutcome::TooMuch;
             break;
         }
@@ -81,6 +81,7 @@ InflateResult Inflater::run(ByteView& view, std::uint64_t at, std::uint64_t most
             break;
         }
     }
+    view.noteUnpacked(m_result.produced);
     return m_result;
 }
 

@@ -11,9 +11,6 @@ namespace {
 
 constexpr std::uint64_t kPackHead = 12;
 constexpr std::uint64_t kPackSum = 20;  // SHA-1
-// Of all objects together: output that any pack may have, and beyond it for each byte of input.
-constexpr std::uint64_t kPackFreeOutput = 256 * 1024 * 1024;
-constexpr std::uint64_t kPackFairRatio = 64;
 constexpr int kOffsetDelta = 6, kNameDelta = 7, kReserved = 5;
 
 struct PackedObject {
@@ -58,7 +55,7 @@ Extent walkGitPack(ByteView& view) {
     const auto version = view.be32(4), objects = view.be32(8);
     if (!view.matches(0, "PACK") || (version != 2 && version != 3) || !objects)
         return unknownExtent();
-    std::uint64_t at = kPackHead, output = 0;
+    std::uint64_t at = kPackHead;
     for (std::uint32_t i = 0; i < *objects; ++i) {
         const auto object = packedObject(view, at);
         if (!object)
@@ -66,12 +63,11 @@ Extent walkGitPack(ByteView& view) {
         const auto result = inflateZlib(view, object->data, object->bytes);
         if (result.outcome == InflateOutcome::Cut)
             return cutOffAt(view, result.end);
+        if (result.outcome == InflateOutcome::TooMuch && result.produced <= object->bytes)
+            return unknownExtent();
         if (result.outcome != InflateOutcome::Done || result.produced != object->bytes)
             return damagedAt(view, result.end);
         at = result.end;
-        output += result.produced;
-        if (output > kPackFreeOutput + kPackFairRatio * at)
-            return unknownExtent();
     }
     return completeAt(view, at + kPackSum);
 }

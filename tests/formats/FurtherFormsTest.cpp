@@ -105,25 +105,33 @@ TEST(FurtherForms, PieceOfSoundOutOfItsTime_IsAnothers) {
     expectEnd("MLP", out, 80);
 }
 
-TEST(FurtherForms, PackThatUnpacksToFarMoreThanItself_IsGivenUp) {
+// Files of many streams, none of which unpacks to too much by itself.
+TEST(FurtherForms, ManyStreamsThatUnpackToFarMoreThanTheFile_AreGivenUp) {
     constexpr std::size_t kBytes = 1 << 20;
     const Bytes zeros(kBytes, 0);
-    Bytes object(::compressBound(kBytes));
-    uLongf packed = object.size();
-    ASSERT_EQ(::compress(object.data(), &packed, zeros.data(), zeros.size()), Z_OK);
-    object.resize(packed);
-    const Bytes head = {0xB0, 0x80, 0x80, 0x04};  // a blob of kBytes
-    object.insert(object.begin(), head.begin(), head.end());
-    const auto packOf = [&](std::uint8_t times) {
-        Bytes pack = {'P', 'A', 'C', 'K', 0, 0, 0, 2, 0, 0, 1, times};
-        for (int i = 0; i < 0x100 + times; ++i) {
-            pack.insert(pack.end(), object.begin(), object.end());
+    Bytes stream(::compressBound(kBytes));
+    uLongf packed = stream.size();
+    ASSERT_EQ(::compress(stream.data(), &packed, zeros.data(), zeros.size()), Z_OK);
+    stream.resize(packed);
+    const Bytes bare(stream.begin() + 2, stream.end() - 4);
+    const auto sum = static_cast<std::uint32_t>(::crc32(0, zeros.data(), zeros.size()));
+    const Bytes object = Build().be32(0xB0808004).add(stream);  // a blob of kBytes
+    const Bytes member = Build().be32(0x1F8B0800).be32(0).be16(3).add(bare).le32(sum).le32(kBytes);
+    const auto times = [](int count, const Bytes& part) {
+        Build out;
+        for (int i = 0; i < count; ++i) {
+            out.add(part);
         }
-        pack.resize(pack.size() + 20);
-        return pack;
+        return out;
     };
-    EXPECT_EQ(walkBytes("PACK", packOf(0)).verdict, Verdict::Complete);
-    EXPECT_EQ(walkBytes("PACK", packOf(100)).verdict, Verdict::Unknown);
+    const auto packOf = [&](int count) {
+        Build out;
+        return out.text("PACK"_b).be32(2).be32(static_cast<std::uint32_t>(count)).add(times(count, object));
+    };
+    EXPECT_EQ(walkBytes("PACK", packOf(200).fill(20, 0)).verdict, Verdict::Complete);
+    EXPECT_EQ(walkBytes("PACK", packOf(400).fill(20, 0)).verdict, Verdict::Unknown);
+    EXPECT_EQ(walkBytes("GZ", times(200, member)).verdict, Verdict::Complete);
+    EXPECT_EQ(walkBytes("GZ", times(400, member)).verdict, Verdict::Unknown);
 }
 
 TEST(FurtherForms, PackedObjectOfAnotherLength_IsDamage) {
